@@ -1,0 +1,32 @@
+#ifndef FITTINGS_BASE_STD_STR_H_
+#define FITTINGS_BASE_STD_STR_H_
+
+#include <string>
+#include <utility>
+
+/// A standard string that takes a null pointer for the empty text.
+///
+/// Assigning from a pointer into its own buffer is safe, as with the standard string it derives from.
+/// Like that one it has no virtual destructor: use it by value.
+template <typename CharT>
+class CStdStr : public std::basic_string<CharT>
+{
+public:
+    using Base = std::basic_string<CharT>;
+
+    CStdStr() = default;
+    CStdStr(const CharT* text) : Base(text ? Base(text) : Base()) {}
+    CStdStr(const Base& text) : Base(text) {}
+    CStdStr(Base&& text) noexcept : Base(std::move(text)) {}
+
+    CStdStr& operator=(const CharT* text)
+    {
+        if (text)
+            this->assign(text);
+        else
+            this->clear();
+        return *this;
+    }
+};
+
+#endif

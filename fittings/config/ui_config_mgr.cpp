@@ -1,0 +1,1 @@
+#include <fittings/config/ui_config_mgr.h>

@@ -1,0 +1,45 @@
+#ifndef FITTINGS_CONFIG_UI_CONFIG_MGR_H_
+#define FITTINGS_CONFIG_UI_CONFIG_MGR_H_
+
+#include <string>
+
+#include <fittings/base/export.h>
+
+/// Text and integers in named INI files below the folder "ui_config" of the user data directory.
+///
+/// Every call opens the one file, reads or changes one value, saves what changed and closes it: nothing is cached and
+/// no lock is taken, so of two processes that write one file at the same moment the later one wins. The folder is
+/// made by the first call of any kind. File names are used exactly as given; null texts count as empty.
+///
+/// @code
+/// ui_config_mgr::WriteConfigInt(L"search.ini", L"Results", L"PageSize", 50);
+/// int size = ui_config_mgr::GetConfigInt(L"search.ini", L"Results", L"PageSize");
+/// @endcode
+namespace ui_config_mgr {
+
+/// Stores a text, creating file, section and key as needed. A failure to save is not reported; the file then stays
+/// as it was.
+FITTINGS_API void WriteConfigString(const wchar_t* file, const wchar_t* section, const wchar_t* key,
+                                    const wchar_t* value);
+
+/// Returns the stored text; empty when the file, the section or the key is missing, or the text itself is empty.
+FITTINGS_API std::wstring GetConfigString(const wchar_t* file, const wchar_t* section, const wchar_t* key);
+
+/// Removes the key from the *default store*, CLocalRegStore::DeleteProfile().
+///
+/// The named file keeps its key: it is only loaded and saved unchanged, and created empty when there was none.
+FITTINGS_API void DeleteConfig(const wchar_t* file, const wchar_t* section, const wchar_t* key);
+
+/// Returns the stored text as an integer, as std::stoi reads it in base 10: blanks before and anything after the
+/// digits are ignored. A missing or empty text gives 0.
+///
+/// @throws std::invalid_argument when the text does not begin with a number.
+/// @throws std::out_of_range when the number is no `int`.
+FITTINGS_API int GetConfigInt(const wchar_t* file, const wchar_t* section, const wchar_t* key);
+
+/// Stores @a value as decimal text.
+FITTINGS_API void WriteConfigInt(const wchar_t* file, const wchar_t* section, const wchar_t* key, int value);
+
+}  // namespace ui_config_mgr
+
+#endif

@@ -1,0 +1,1 @@
+#include <fittings/config/wx_window_state.h>

@@ -1,0 +1,58 @@
+#ifndef FITTINGS_CONFIG_WX_WINDOW_STATE_H_
+#define FITTINGS_CONFIG_WX_WINDOW_STATE_H_
+
+#include <fittings/base/export.h>
+
+class wxAuiManager;
+class wxFrame;
+class wxWindow;
+
+/// Window geometry, a frame's maximised state and AUI layouts, each kept under a name of the caller's choosing.
+///
+/// Call the load functions once the window or all panes exist and before the window is shown; call the save functions
+/// when it closes. Geometry and the maximised state live in the default store, sections "wxWindowState" and
+/// "wxWindowMaximize"; layouts in the file "wxAuiManagerState.ini" of ui_config_mgr. GUI thread only.
+///
+/// @code
+/// MainFrame::MainFrame() { ...; wx_window_state::LoadState(this, L"Main"); }
+/// void MainFrame::OnClose(wxCloseEvent& event) { wx_window_state::SaveState(this, L"Main"); event.Skip(); }
+/// @endcode
+namespace wx_window_state {
+
+/// Stores position and outer size in pixels: relative to the parent for a child window, on the screen for a top-level
+/// one. A hidden or iconized window is stored as the toolkit reports it.
+FITTINGS_API void SaveState(wxWindow* window, const wchar_t* name);
+
+/// Stores the geometry as for any window, then whether the frame is maximised. The geometry of a maximised frame is
+/// the maximised one.
+FITTINGS_API void SaveState(wxFrame* frame, const wchar_t* name);
+
+/// Gives a window its stored geometry and brings it onto a display.
+///
+/// A stored width or height of 10 or less leaves the window's own geometry. A window off every display moves to
+/// (0, 0); one that reaches out of its display's work area is clipped to it. Returns false, and changes nothing, when
+/// there is no stored geometry or it is not four integers.
+FITTINGS_API bool LoadState(wxWindow* window, const wchar_t* name);
+
+/// As for any window; a frame that was stored maximised is then maximised by MaximizeFrame().
+FITTINGS_API bool LoadState(wxFrame* frame, const wchar_t* name);
+
+/// Maximises the frame on a later turn of the event loop, so that it may still be hidden when this is called.
+FITTINGS_API void MaximizeFrame(wxFrame* frame);
+
+/// Puts the window's top right corner one pixel inside the reference's on the screen, keeping its size. Beside a
+/// reference narrower than 800 pixels half of the window sticks out to the right.
+FITTINGS_API void MoveWindowToRightCorner(wxWindow* window, wxWindow* reference);
+
+/// Stores the positions, sizes and captions of the manager's panes, as wxAuiManager::SavePerspective() gives them.
+FITTINGS_API void SaveAuiManagerState(wxAuiManager* manager, const wchar_t* name);
+
+/// Restores a stored layout and updates the window; returns false, and changes nothing, when there is none.
+///
+/// As wxAuiManager::LoadPerspective() has it, panes that the stored layout does not name are hidden, and captions come
+/// back as they were stored.
+FITTINGS_API bool LoadAuiManagerState(wxAuiManager* manager, const wchar_t* name);
+
+}  // namespace wx_window_state
+
+#endif

@@ -1,0 +1,1 @@
+#include <fittings/dialogs/folder_dialog.h>

@@ -1,0 +1,1 @@
+#include <fittings/platform/file_util_ex.h>

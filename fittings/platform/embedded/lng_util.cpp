@@ -1,0 +1,1 @@
+#include <fittings/platform/lng_util.h>

@@ -1,0 +1,1 @@
+#include <fittings/platform/local_reg_store.h>

@@ -1,0 +1,1 @@
+#include <fittings/platform/std_file_paths.h>

@@ -1,0 +1,1 @@
+#include <fittings/tree/handy_tree_ctrl.h>

@@ -1,0 +1,1 @@
+#include <fittings/tree/tree_ctrl_ex.h>

@@ -1,0 +1,29 @@
+#ifndef FITTINGS_TREE_TREE_CTRL_EX_H_
+#define FITTINGS_TREE_TREE_CTRL_EX_H_
+
+#include <wx/treectrl.h>
+
+#include <fittings/base/export.h>
+#include <fittings/tree/tree_cursor.h>
+
+/// The toolkit's tree control, with a few entry points that speak in cursors.
+///
+/// They hide the base's operations of the same name; wxTreeCtrl::GetSelection() and the others stay reachable by their
+/// full name. GUI thread only.
+class FITTINGS_API wxTreeCtrlEx : public wxTreeCtrl
+{
+public:
+    wxTreeCtrlEx();
+    ~wxTreeCtrlEx() override;
+
+    /// Returns the selected item; invalid, with this control as its tree, when nothing is selected.
+    wxTreeCursor GetSelection();
+
+    /// Deletes the item from the tree that the cursor names, which may be another than this one.
+    void DeleteItem(const wxTreeCursor& item);
+
+    /// Adds the root item, without images and data.
+    wxTreeCursor AddRoot(const wxString& text);
+};
+
+#endif

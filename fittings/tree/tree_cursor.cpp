@@ -1,0 +1,1 @@
+#include <fittings/tree/tree_cursor.h>

@@ -1,0 +1,92 @@
+#ifndef FITTINGS_TREE_TREE_CURSOR_H_
+#define FITTINGS_TREE_TREE_CURSOR_H_
+
+#include <string>
+
+#include <wx/treectrl.h>
+
+#include <fittings/base/export.h>
+
+/// The integer that wxTreeCursor::SetData() attaches to an item.
+class FITTINGS_API wxGenericTreeItemData : public wxTreeItemData
+{
+public:
+    explicit wxGenericTreeItemData(int value) : m_value(value) {}
+
+    int GetValue() const { return m_value; }
+
+private:
+    int m_value;
+};
+
+/// One item of one tree control, with the item's operations as its own. A small value: copy it freely.
+///
+/// It owns nothing and does not notice when its item is deleted. The children of a cursor are visited by GetChild() and
+/// then GetNextSibling() until the cursor is invalid:
+///
+/// @code
+/// for (wxTreeCursor child = parent.GetChild(); child.IsOk(); child = child.GetNextSibling())
+///     child.SetTextColour(0x0000FF);  // red
+/// @endcode
+///
+/// Each step of that loop searches from the first sibling, as the toolkit's own does: over many thousands of siblings
+/// walk with wxTreeCtrl::GetNextChild(). An operation on an invalid cursor asserts, as the toolkit's do, and returns a
+/// default. GUI thread only.
+class FITTINGS_API wxTreeCursor
+{
+public:
+    wxTreeCursor() : tree(nullptr) {}
+    wxTreeCursor(wxTreeCtrl* tree_, const wxTreeItemId& item_) : tree(tree_), item(item_) {}
+
+    wxTreeCtrl* tree;
+    wxTreeItemId item;
+
+    /// True when there is an item.
+    bool IsOk() const { return item.IsOk(); }
+
+    std::wstring GetText() const;
+
+    int GetImage(wxTreeItemIcon which) const;
+    void SetImage(int image, wxTreeItemIcon which);
+
+    /// Adds @a bitmap to the tree's normal image list, which must exist, and shows it as the item's image.
+    ///
+    /// Returns @a which, not the index of the image: GetImage() tells that.
+    int SetImage(const wxBitmap& bitmap, const wxColour& mask, wxTreeItemIcon which);
+
+    /// Attaches an integer to the item in place of its earlier data object, which is deleted.
+    void SetData(int value);
+
+    /// Returns the integer of SetData(); -1 when the item has none, or data of another class.
+    int GetData() const;
+
+    /// Shows or hides the expand button, also while the item has no children yet.
+    void SetChildren(bool has);
+
+    /// Appends a child without image and data, and returns it.
+    wxTreeCursor AppendItem(const wxString& text);
+
+    void Expand();
+    bool IsExpanded() const;
+
+    /// Removes the item with all its children.
+    void Delete() const;
+
+    /// Returns the parent; invalid for the root.
+    wxTreeCursor GetParent() const;
+
+    /// Returns the first child. Of an item without children both members of the result are null; of one that only
+    /// says that it has children (SetChildren()) the tree is kept.
+    wxTreeCursor GetChild() const;
+
+    /// Returns the next sibling; invalid, with the tree kept, after the last one.
+    wxTreeCursor GetNextSibling() const;
+
+    /// Sets the colour of the text: 0x00BBGGRR, higher bits ignored.
+    void SetTextColour(unsigned long colour);
+
+    /// Returns the colour of the text as 0x00BBGGRR; 0 when the item has none of its own.
+    unsigned long GetTextColour() const;
+};
+
+#endif

@@ -1,0 +1,41 @@
+#ifndef FITTINGS_TESTS_SUPPORT_GUI_H_
+#define FITTINGS_TESTS_SUPPORT_GUI_H_
+
+#include <functional>
+
+#include <wx/string.h>
+
+class wxFrame;
+class wxTopLevelWindow;
+
+/// Runs the event loop until @a done says so; false when it did not within @a milliseconds.
+bool PumpUntil(const std::function<bool()>& done, int milliseconds = 3000);
+
+/// Handles every event that has arrived, idle processing included.
+void PumpPending();
+
+/// Shows a window and waits until the window manager has mapped and placed it.
+bool ShowAndSettle(wxTopLevelWindow* window);
+
+/// Makes the toolkit's assertions expected, and counts them, for as long as the object lives. Without one, an
+/// assertion fails the test.
+class ExpectAssertions
+{
+public:
+    ExpectAssertions();
+    ~ExpectAssertions();
+    ExpectAssertions(const ExpectAssertions&) = delete;
+    ExpectAssertions& operator=(const ExpectAssertions&) = delete;
+
+    int Count() const { return m_count; }
+
+private:
+    friend bool NoteAssertion();
+    ExpectAssertions* m_outer;
+    int m_count = 0;
+};
+
+/// Counts an assertion where one is expected; false where none is.
+bool NoteAssertion();
+
+#endif

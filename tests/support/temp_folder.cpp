@@ -1,0 +1,51 @@
+#include <tests/support/temp_folder.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <system_error>
+
+#include <gtest/gtest.h>
+
+#include <fittings/platform/file_util_ex.h>
+#include <fittings/platform/std_file_paths.h>
+
+TempFolder::TempFolder()
+{
+    std::string path = (std::filesystem::temp_directory_path() / "fittings-XXXXXX").string();
+    if (!mkdtemp(path.data()))
+        ADD_FAILURE() << "no folder " << path;
+    m_path = path;
+}
+
+TempFolder::~TempFolder()
+{
+    std::error_code ignored;
+    std::filesystem::remove_all(m_path, ignored);
+}
+
+TempUserData::TempUserData()
+{
+    std_file_paths::SetUserDataDir(file_util_ex::ConvertFromUTF8W(Path()));
+}
+
+TempUserData::~TempUserData()
+{
+    std_file_paths::SetUserDataDir(L"");
+}
+
+std::string ReadFile(const std::string& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+void WriteFile(const std::string& path, const std::string& bytes)
+{
+    std::ofstream file(path, std::ios::binary | std::ios::trunc);
+    file << bytes;
+    file.close();
+    if (!file)
+        ADD_FAILURE() << "cannot write " << path;
+}

@@ -1,0 +1,38 @@
+#ifndef FITTINGS_TESTS_SUPPORT_TEMP_FOLDER_H_
+#define FITTINGS_TESTS_SUPPORT_TEMP_FOLDER_H_
+
+#include <string>
+
+/// A new folder that goes, with all it holds, when the object does.
+class TempFolder
+{
+public:
+    TempFolder();
+    ~TempFolder();
+    TempFolder(const TempFolder&) = delete;
+    TempFolder& operator=(const TempFolder&) = delete;
+
+    const std::string& Path() const { return m_path; }
+
+    /// The path of @a name in the folder.
+    std::string operator/(const std::string& name) const { return m_path + "/" + name; }
+
+private:
+    std::string m_path;
+};
+
+/// A new, empty user data directory for as long as the object lives.
+class TempUserData : public TempFolder
+{
+public:
+    TempUserData();
+    ~TempUserData();
+};
+
+/// The bytes of a file; empty when it cannot be read.
+std::string ReadFile(const std::string& path);
+
+/// Writes a file anew; fails the test when it cannot.
+void WriteFile(const std::string& path, const std::string& bytes);
+
+#endif
