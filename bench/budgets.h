@@ -1,0 +1,35 @@
+#ifndef FITTINGS_BENCH_BUDGETS_H_
+#define FITTINGS_BENCH_BUDGETS_H_
+
+/// A row of the table: the benchmark @a row is held against the benchmark "<row>/peer".
+struct Budget
+{
+    const char* row;
+    const char* peer;
+    double most;  ///< the largest ratio of ours to the peer's that is within the budget
+};
+
+constexpr Budget kBudgets[] = {
+    {"store/get-warm", "wxFileConfig kept in memory, plus one stat", 2.0},
+    {"store/file-get", "bare GKeyFile load + get", 1.3},
+    {"store/file-set", "bare GKeyFile load + set + save", 1.3},
+    {"store/100k-load-get-save", "wxFileConfig", 0.25},
+    {"tree/save-100k", "walk by child cookie copying every label", 4.0},
+    {"tree/load-10k", "wxTreeCtrl::Expand of the same items, frozen", 1.5},
+};
+
+/// Cost must grow in proportion to size: the time of @a large, per item, is held against the time of @a small, per item.
+struct Growth
+{
+    const char* large;
+    const char* small;
+    double items;  ///< how many times as many items the large one has
+    double most;
+};
+
+constexpr Growth kGrowths[] = {
+    {"tree/save-100k", "tree/save-10k", 10, 1.5},
+    {"tree/load-10k", "tree/load-1k", 10, 1.5},
+};
+
+#endif

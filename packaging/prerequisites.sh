@@ -1,0 +1,62 @@
+# What run, check and bench/run share: the packages that each job needs, and how a preset is built.
+# Sourced with the project's folder as the current one.
+
+build_packages=(g++ cmake ninja-build pkg-config gettext libwxgtk3.2-dev libglib2.0-dev libgtk-3-dev)
+display_packages=(xvfb xauth openbox x11-utils librsvg2-common)
+test_packages=(libgtest-dev libgmock-dev xdotool x11-xserver-utils imagemagick)
+bench_packages=(libbenchmark-dev)
+
+# install_missing PACKAGE...: installs those that are not installed yet, with sudo when not root.
+install_missing() {
+  local missing=() package
+  for package in "$@"; do
+    dpkg-query -W -f '${Status}\n' "$package" 2>/dev/null | grep -q '^install ok installed' || missing+=("$package")
+  done
+  [ "${#missing[@]}" -gt 0 ] || return 0
+
+  if ! command -v apt-get >/dev/null; then
+    echo "There is no apt-get here: install by hand what provides ${missing[*]}, then try again." >&2
+    return 1
+  fi
+  local as_root=()
+  if [ "$(id -u)" -ne 0 ]; then
+    if ! command -v sudo >/dev/null; then
+      echo "As root, run: apt-get install ${missing[*]}; then try again." >&2
+      return 1
+    fi
+    as_root=(sudo)
+  fi
+
+  echo "Installing: ${missing[*]}"
+  local log
+  log=$(mktemp)
+  # The index may be missing or old: refresh it only when the first attempt fails.
+  if ! apt_install >"$log" 2>&1 && ! { "${as_root[@]}" apt-get update && apt_install; } >"$log" 2>&1; then
+    tail -n 5 "$log" >&2
+    rm -f "$log"
+    echo "The packages could not be installed. With a network, run: ${as_root[*]} apt-get install ${missing[*]}" >&2
+    return 1
+  fi
+  rm -f "$log"
+}
+
+# Reads install_missing's variables.
+apt_install() {
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${missing[@]}"
+}
+
+# configure_and_build PRESET TARGET...: into build/PRESET; no target means all of them.
+configure_and_build() {
+  local preset=$1 target targets=()
+  shift
+  for target in "$@"; do
+    targets+=(--target "$target")
+  done
+  echo "Building ${*:-everything} in build/$preset"
+  mkdir -p "build/$preset"
+  if ! cmake --preset "$preset" >"build/$preset/configure.log" 2>&1; then
+    cat "build/$preset/configure.log" >&2
+    return 1
+  fi
+  cmake --build "build/$preset" "${targets[@]}"
+}
