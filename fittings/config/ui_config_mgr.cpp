@@ -1,1 +1,93 @@
 #include <fittings/config/ui_config_mgr.h>
+
+#include <cstdarg>
+#include <cwchar>
+#include <memory>
+
+#include <fittings/platform/file_util_ex.h>
+#include <fittings/platform/local_reg_store.h>
+#include <fittings/platform/std_file_paths.h>
+
+namespace {
+
+struct DestroyIni
+{
+    void operator()(CIniFile* ini) const { CLocalRegStore::DestroyIniFile(ini); }
+};
+
+/// Destroys the file object however the call that made it is left.
+using IniFile = std::unique_ptr<CIniFile, DestroyIni>;
+
+IniFile NewIniFile()
+{
+    return IniFile(CLocalRegStore::CreateInitFile(false));
+}
+
+const wchar_t* OrEmpty(const wchar_t* text)
+{
+    return text ? text : L"";
+}
+
+/// Returns the path of a settings file, in a folder that exists from now on where it can be made.
+std::wstring SettingsPath(const wchar_t* file)
+{
+    const std::wstring folder = file_util_ex::MakePath(std_file_paths::GetUserDataDir(), L"ui_config");
+    if (!file_util_ex::DoesDirExist(folder))
+        file_util_ex::Mkdir(folder);
+    return file_util_ex::MakePath(folder, OrEmpty(file));
+}
+
+/// Formats into a buffer with room for the format itself and 1023 characters more; longer output is cut.
+std::wstring FormatText(const wchar_t* format, ...)
+{
+    std::wstring text(std::wcslen(format) + 1024, L'\0');
+    std::va_list arguments;
+    va_start(arguments, format);
+    std::vswprintf(text.data(), text.size() - 1, format, arguments);
+    va_end(arguments);
+    text.resize(std::wcslen(text.c_str()));
+    return text;
+}
+
+} // namespace
+
+void ui_config_mgr::WriteConfigString(const wchar_t* file, const wchar_t* section, const wchar_t* key,
+                                      const wchar_t* value)
+{
+    const std::wstring path = SettingsPath(file);
+    const IniFile ini = NewIniFile();
+    // A file that is not there yet starts empty; saving creates it.
+    CLocalRegStore::Load(*ini, path.c_str());
+    CLocalRegStore::WriteString(*ini, OrEmpty(section), OrEmpty(key), OrEmpty(value));
+    CLocalRegStore::Save(*ini, path.c_str());
+}
+
+std::wstring ui_config_mgr::GetConfigString(const wchar_t* file, const wchar_t* section, const wchar_t* key)
+{
+    const std::wstring path = SettingsPath(file);
+    const IniFile ini = NewIniFile();
+    if (!CLocalRegStore::Load(*ini, path.c_str()))
+        return {};
+    return CLocalRegStore::GetString(*ini, OrEmpty(section), OrEmpty(key), L"");
+}
+
+void ui_config_mgr::DeleteConfig(const wchar_t* file, const wchar_t* section, const wchar_t* key)
+{
+    const std::wstring path = SettingsPath(file);
+    const IniFile ini = NewIniFile();
+    CLocalRegStore::Load(*ini, path.c_str());
+    // Callers rely on this: the key goes from the default store, and the file keeps its own.
+    CLocalRegStore::DeleteProfile(OrEmpty(section), OrEmpty(key));
+    CLocalRegStore::Save(*ini, path.c_str());
+}
+
+int ui_config_mgr::GetConfigInt(const wchar_t* file, const wchar_t* section, const wchar_t* key)
+{
+    const std::wstring text = GetConfigString(file, section, key);
+    return text.empty() ? 0 : std::stoi(text);
+}
+
+void ui_config_mgr::WriteConfigInt(const wchar_t* file, const wchar_t* section, const wchar_t* key, int value)
+{
+    WriteConfigString(file, section, key, FormatText(L"%d", value).c_str());
+}
