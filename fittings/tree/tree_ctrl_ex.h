@@ -8,8 +8,8 @@
 
 /// The toolkit's tree control, with a few entry points that speak in cursors.
 ///
-/// They hide the base's operations of the same name; wxTreeCtrl::GetSelection() and the others stay reachable by their
-/// full name. GUI thread only.
+/// The base's operations of the same name stay: wxTreeCtrl::GetSelection() for a constant control or by its full name,
+/// AddRoot() with an image. GUI thread only.
 class FITTINGS_API wxTreeCtrlEx : public wxTreeCtrl
 {
 public:
@@ -18,12 +18,18 @@ public:
 
     /// Returns the selected item; invalid, with this control as its tree, when nothing is selected.
     wxTreeCursor GetSelection();
+    using wxTreeCtrl::GetSelection;
 
     /// Deletes the item from the tree that the cursor names, which may be another than this one.
     void DeleteItem(const wxTreeCursor& item);
 
     /// Adds the root item, without images and data.
     wxTreeCursor AddRoot(const wxString& text);
+    wxTreeItemId AddRoot(const wxString& text, int image, int selectedImage = -1,
+                         wxTreeItemData* data = nullptr) override
+    {
+        return wxTreeCtrl::AddRoot(text, image, selectedImage, data);
+    }
 };
 
 #endif
