@@ -1,1 +1,111 @@
 #include <fittings/platform/std_file_paths.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstddef>
+#include <mutex>
+
+#include <glib.h>
+#include <wx/app.h>
+#include <wx/string.h>
+
+#include <fittings/platform/file_util_ex.h>
+
+namespace {
+
+// What the kernel takes for one file name, in bytes.
+constexpr std::size_t MAX_NAME_BYTES = 255;
+
+struct DataDir
+{
+    std::mutex mutex;
+    std::wstring chosen;
+    bool known = false;
+    wxString applicationName;
+    std::wstring path;
+};
+
+DataDir& TheDataDir()
+{
+    static DataDir dataDir;
+    return dataDir;
+}
+
+bool IsControl(wchar_t character)
+{
+    return character < 0x20 || (character >= 0x7F && character < 0xA0);
+}
+
+// The name as one component of a path: what a file name cannot hold, or should not, becomes an underscore.
+std::wstring SafeFileName(std::wstring name)
+{
+    for (wchar_t& character : name) {
+        if (character == L'/' || IsControl(character))
+            character = L'_';
+    }
+    if (name == L"." || name == L"..")
+        name.assign(name.size(), L'_');
+    name.resize(std::min(name.size(), MAX_NAME_BYTES));
+    while (file_util_ex::ConvertToUTF8(name).size() > MAX_NAME_BYTES)
+        name.pop_back();
+    return name;
+}
+
+wxString ApplicationName()
+{
+    const wxAppConsole* app = wxAppConsole::GetInstance();
+    return app ? app->GetAppName() : wxString();
+}
+
+std::wstring ApplicationFolderName(const wxString& applicationName)
+{
+    std::wstring name = SafeFileName(applicationName.ToStdWstring());
+    if (name.empty())
+        name = SafeFileName(file_util_ex::ConvertFromUTF8W(program_invocation_short_name));
+    return name.empty() ? L"application" : name;
+}
+
+std::wstring BaseDataDir()
+{
+    const char* base = g_get_user_data_dir();
+    // The XDG Base Directory Specification has a relative path ignored; GLib hands it on.
+    if (g_path_is_absolute(base))
+        return file_util_ex::ConvertFromUTF8W(base);
+    return file_util_ex::MakePath(file_util_ex::ConvertFromUTF8W(g_get_home_dir()), L".local/share");
+}
+
+}  // namespace
+
+namespace std_file_paths {
+
+std::wstring GetUserDataDir()
+{
+    DataDir& dataDir = TheDataDir();
+    const std::lock_guard<std::mutex> lock(dataDir.mutex);
+    if (!dataDir.chosen.empty())
+        return dataDir.chosen;
+    // Asked for at every access to the settings, so it is worked out anew only when the application's name changes.
+    const wxString name = ApplicationName();
+    if (!dataDir.known || name != dataDir.applicationName) {
+        dataDir.path = file_util_ex::MakePath(BaseDataDir(), ApplicationFolderName(name));
+        dataDir.applicationName = name;
+        dataDir.known = true;
+    }
+    return dataDir.path;
+}
+
+void SetUserDataDir(const CStdStr<wchar_t>& path)
+{
+    DataDir& dataDir = TheDataDir();
+    const std::lock_guard<std::mutex> lock(dataDir.mutex);
+    dataDir.chosen = file_util_ex::RemoveBackSlash(path.c_str());
+}
+
+std::wstring GetAppFolderPath(const wchar_t* name)
+{
+    const char* documents = g_get_user_special_dir(G_USER_DIRECTORY_DOCUMENTS);
+    const std::wstring base = file_util_ex::ConvertFromUTF8W(documents ? documents : g_get_home_dir());
+    return file_util_ex::MakePath(file_util_ex::MakePath(base, ApplicationFolderName(ApplicationName())), name);
+}
+
+}  // namespace std_file_paths
