@@ -1,1 +1,20 @@
 #include <fittings/tree/tree_ctrl_ex.h>
+
+wxTreeCtrlEx::wxTreeCtrlEx() = default;
+
+wxTreeCtrlEx::~wxTreeCtrlEx() = default;
+
+wxTreeCursor wxTreeCtrlEx::GetSelection()
+{
+    return wxTreeCursor(this, wxTreeCtrl::GetSelection());
+}
+
+void wxTreeCtrlEx::DeleteItem(const wxTreeCursor& item)
+{
+    item.Delete();
+}
+
+wxTreeCursor wxTreeCtrlEx::AddRoot(const wxString& text)
+{
+    return wxTreeCursor(this, wxTreeCtrl::AddRoot(text));
+}
