@@ -1,1 +1,95 @@
 #include <fittings/tree/handy_tree_ctrl.h>
+
+#include <wx/cursor.h>
+#include <wx/imaglist.h>
+
+#include <fittings/platform/local_reg_store.h>
+#include <fittings/tree/tree_state.h>
+
+namespace {
+
+constexpr wchar_t STATE_SECTION[] = L"TreeControlState";
+
+// For the whole application, not only for this control: filling may take a while, and nothing else answers meanwhile.
+class BusyCursor
+{
+public:
+    BusyCursor() { wxSetCursor(*wxHOURGLASS_CURSOR); }
+    ~BusyCursor() { wxSetCursor(wxNullCursor); }
+    BusyCursor(const BusyCursor&) = delete;
+    BusyCursor& operator=(const BusyCursor&) = delete;
+};
+
+}  // namespace
+
+wxHandyTreeCtrl::wxHandyTreeCtrl() : m_imageList(nullptr)
+{
+    Bind(wxEVT_TREE_ITEM_EXPANDING, &wxHandyTreeCtrl::OnEvtItemExpanding, this, wxID_ANY, wxID_ANY);
+}
+
+wxHandyTreeCtrl::~wxHandyTreeCtrl()
+{
+    DetroyImageList();
+}
+
+void wxHandyTreeCtrl::Create(wxWindow* parent)
+{
+    wxTreeCtrl::Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTR_HAS_BUTTONS | wxTR_NO_LINES,
+                       wxDefaultValidator, wxTreeCtrlNameStr);
+    CreateImageList();
+}
+
+void wxHandyTreeCtrl::CreateImageList()
+{
+    m_imageList = new wxImageList(16, 16, true, 1);
+    SetImageList(m_imageList);
+}
+
+void wxHandyTreeCtrl::DetroyImageList()
+{
+    delete m_imageList;
+    m_imageList = nullptr;
+}
+
+void wxHandyTreeCtrl::SetProfile(const wxString& profile)
+{
+    m_profile = profile;
+}
+
+bool wxHandyTreeCtrl::SelectRootItem()
+{
+    const wxTreeItemId root = GetRootItem();
+    if (!root.IsOk())
+        return false;
+    SelectItem(root, true);
+    SetFocus();
+    return true;
+}
+
+void wxHandyTreeCtrl::SaveState(const wxString& name, wxTreeCursor& start)
+{
+    CLocalRegStore::WriteString(STATE_SECTION, name.wc_str(), fittings::ExpandedLabels(start).c_str());
+}
+
+void wxHandyTreeCtrl::SaveState(wxTreeCursor& start)
+{
+    SaveState(m_profile, start);
+}
+
+void wxHandyTreeCtrl::LoadState(const wxString& name, wxTreeCursor& start)
+{
+    fittings::ExpandLabels(CLocalRegStore::GetString(STATE_SECTION, name.wc_str(), L""), start);
+}
+
+void wxHandyTreeCtrl::LoadState(wxTreeCursor& start)
+{
+    LoadState(m_profile, start);
+}
+
+void wxHandyTreeCtrl::OnEvtItemExpanding(wxTreeEvent& event)
+{
+    const BusyCursor busy;
+    OnItemExpanding(wxTreeCursor(this, event.GetItem()));
+}
+
+void wxHandyTreeCtrl::OnItemExpanding(const wxTreeCursor&) {}
