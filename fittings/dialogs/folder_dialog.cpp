@@ -1,1 +1,40 @@
 #include <fittings/dialogs/folder_dialog.h>
+
+#include <string>
+
+#include <wx/dirdlg.h>
+
+#include <fittings/platform/lng_util.h>
+#include <fittings/platform/local_reg_store.h>
+
+namespace {
+
+const wchar_t* const PATH_KEY = L"Path";
+
+wxString DirSelector(wxWindow* parent, const wchar_t* message, const wchar_t* defaultFolder, int x, int y)
+{
+    wxDirDialog dialog(parent, message ? message : L"", defaultFolder ? defaultFolder : L"", wxDD_DEFAULT_STYLE,
+                       wxPoint(x, y), wxDefaultSize, wxDirDialogNameStr);
+    dialog.Centre(wxBOTH);
+    return dialog.ShowModal() == wxID_OK ? dialog.GetPath() : wxString();
+}
+
+}  // namespace
+
+wxString wxFolderDlg::DoModal(wxWindow* parent, const wchar_t* initialFolder, const wchar_t* message)
+{
+    if (!message) {
+        // Translators: the title of the dialog in which a folder is chosen.
+        message = lng_util_internal::DoGetResourceString(L"Current folder is:", nullptr);
+    }
+    return DirSelector(parent, message, initialFolder, wxDefaultCoord, wxDefaultCoord);
+}
+
+wxString wxFolderDlg::DoModalReg(wxWindow* parent, const wchar_t* section, const wchar_t* message)
+{
+    const std::wstring remembered = CLocalRegStore::GetString(section, PATH_KEY, L"");
+    const wxString folder = DoModal(parent, remembered.c_str(), message);
+    if (!folder.empty())
+        CLocalRegStore::WriteString(section, PATH_KEY, folder.wc_str());
+    return folder;
+}
