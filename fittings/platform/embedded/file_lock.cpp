@@ -1,0 +1,67 @@
+#include <fittings/platform/embedded/file_lock.h>
+
+#include <cerrno>
+#include <chrono>
+#include <thread>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace fittings {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr std::chrono::seconds PATIENCE(2);
+constexpr std::chrono::milliseconds PAUSE(1);
+
+// The lock itself, and the turn to be the next who gets it: without the turn, a process that stores in a loop would
+// take the lock again before those who wait look at it.
+constexpr off_t LOCK_BYTE = 0;
+constexpr off_t TURN_BYTE = 1;
+
+bool SetLock(int fd, short type, off_t byte)
+{
+    struct flock lock = {};
+    lock.l_type = type;
+    lock.l_whence = SEEK_SET;
+    lock.l_start = byte;
+    lock.l_len = 1;
+    return fcntl(fd, F_OFD_SETLK, &lock) == 0;
+}
+
+bool WaitForLock(int fd, off_t byte, Clock::time_point deadline)
+{
+    while (!SetLock(fd, F_WRLCK, byte)) {
+        if ((errno != EAGAIN && errno != EACCES && errno != EINTR) || Clock::now() >= deadline)
+            return false;
+        std::this_thread::sleep_for(PAUSE);
+    }
+    return true;
+}
+
+}  // namespace
+
+FileLock::FileLock(const std::string& path)
+    : m_fd(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, 0600))
+{
+    if (m_fd < 0)
+        return;
+    const Clock::time_point deadline = Clock::now() + PATIENCE;
+    if (WaitForLock(m_fd, TURN_BYTE, deadline)) {
+        WaitForLock(m_fd, LOCK_BYTE, deadline);
+        SetLock(m_fd, F_UNLCK, TURN_BYTE);
+    }
+}
+
+FileLock::~FileLock()
+{
+    if (m_fd < 0)
+        return;
+    // Closing would leave the lock with a child that was forked meanwhile.
+    SetLock(m_fd, F_UNLCK, LOCK_BYTE);
+    close(m_fd);
+}
+
+}  // namespace fittings

@@ -1,0 +1,327 @@
+#include <fittings/platform/embedded/ini_codec.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+
+#include <glib.h>
+
+namespace fittings {
+
+namespace {
+
+// Bytes that are not UTF-8 are the characters from here on, one for each of 0x80 to 0xFF.
+constexpr char32_t BYTE_BASE = 0xDC00;
+constexpr char32_t MAX_UNICODE = 0x10FFFF;
+
+bool IsByte(char32_t code)
+{
+    return code >= BYTE_BASE + 0x80 && code <= BYTE_BASE + 0xFF;
+}
+
+bool IsUnicode(char32_t code)
+{
+    return code < 0xD800 || (code > 0xDFFF && code <= MAX_UNICODE);
+}
+
+bool IsControl(char32_t code)
+{
+    return code < 0x20 || (code >= 0x7F && code < 0xA0);
+}
+
+bool IsBlank(char32_t code)
+{
+    return code < 0x80 && g_ascii_isspace(static_cast<char>(code));
+}
+
+std::string_view Trimmed(std::string_view text)
+{
+    while (!text.empty() && g_ascii_isspace(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && g_ascii_isspace(text.back()))
+        text.remove_suffix(1);
+    return text;
+}
+
+// UTF-8, carried on up to 32 bits for what is no Unicode character.
+void AppendUtf8(std::string& out, char32_t code)
+{
+    if (code < 0x80) {
+        out += static_cast<char>(code);
+        return;
+    }
+    const auto value = static_cast<std::uint64_t>(code);
+    int tail = 1;
+    while (tail < 6 && value >> (5 * tail + 6) != 0)
+        ++tail;
+    out += static_cast<char>((0xFF00U >> (tail + 1)) | (value >> (6 * tail)));
+    while (tail-- > 0)
+        out += static_cast<char>(0x80 | ((value >> (6 * tail)) & 0x3F));
+}
+
+struct Decoded
+{
+    char32_t code;
+    std::size_t bytes;
+};
+
+Decoded DecodeUtf8(std::string_view text)
+{
+    if (const auto byte = static_cast<unsigned char>(text.front()); byte < 0x80)
+        return {byte, 1};
+    const gunichar code = g_utf8_get_char_validated(text.data(), static_cast<gssize>(text.size()));
+    if (code > MAX_UNICODE)
+        return {BYTE_BASE + static_cast<unsigned char>(text.front()), 1};
+    return {code, code < 0x800 ? 2U : code < 0x10000 ? 3U : 4U};
+}
+
+void AppendHex(std::string& out, char32_t code, int minDigits)
+{
+    int digits = minDigits;
+    while (digits < 8 && code >> (4 * digits) != 0)
+        ++digits;
+    while (digits-- > 0)
+        out += "0123456789ABCDEF"[(code >> (4 * digits)) & 0xF];
+}
+
+// Appends what stands for one character after the mark of an escape: two hexadecimal digits, of a byte or an ASCII
+// character, or a number in braces after a 'u'.
+void AppendNumber(std::string& out, char32_t code, std::string_view byteMark, std::string_view codeMark)
+{
+    if (code < 0x80 || IsByte(code)) {
+        out += byteMark;
+        AppendHex(out, IsByte(code) ? code - BYTE_BASE : code, 2);
+    } else {
+        out += codeMark;
+        AppendHex(out, code, 1);
+        out += '}';
+    }
+}
+
+// Reads 1 to 8 hexadecimal digits that fill @a digits. No text of the store holds a NUL.
+std::optional<char32_t> ReadHex(std::string_view digits)
+{
+    if (digits.empty() || digits.size() > 8)
+        return std::nullopt;
+    char32_t code = 0;
+    for (const char digit : digits) {
+        const int value = g_ascii_xdigit_value(digit);
+        if (value < 0)
+            return std::nullopt;
+        code = code << 4 | static_cast<char32_t>(value);
+    }
+    if (code == 0)
+        return std::nullopt;
+    return code;
+}
+
+// The reverse of AppendNumber() for the two forms' digits: HH, which @a text begins with, or {digits}.
+std::optional<Decoded> ReadByteDigits(std::string_view text)
+{
+    if (text.size() < 2)
+        return std::nullopt;
+    const auto code = ReadHex(text.substr(0, 2));
+    if (!code)
+        return std::nullopt;
+    return Decoded{*code < 0x80 ? *code : BYTE_BASE + *code, 2};
+}
+
+std::optional<Decoded> ReadBraces(std::string_view text)
+{
+    const std::size_t close = text.substr(0, 10).find('}');
+    if (close == std::string_view::npos || text.front() != '{')
+        return std::nullopt;
+    const auto code = ReadHex(text.substr(1, close - 1));
+    if (!code)
+        return std::nullopt;
+    return Decoded{*code, close + 1};
+}
+
+bool MustEncodeInName(char32_t code, bool first, bool last)
+{
+    switch (code) {
+    case '%':
+    case '=':
+    case '[':
+    case ']':
+        return true;
+    case '#':
+    case ';':
+        return first;
+    case ' ':
+        return first || last;
+    default:
+        return IsControl(code) || !IsUnicode(code);
+    }
+}
+
+bool MustQuote(std::wstring_view text)
+{
+    if (text.empty())
+        return false;
+    if (text.front() == L'"' || IsBlank(static_cast<char32_t>(text.front())) ||
+        IsBlank(static_cast<char32_t>(text.back())))
+        return true;
+    return std::any_of(text.begin(), text.end(), [](wchar_t unit) {
+        const auto code = static_cast<char32_t>(unit);
+        return IsControl(code) || !IsUnicode(code);
+    });
+}
+
+struct ShortEscape
+{
+    char32_t code;
+    char letter;
+};
+
+constexpr ShortEscape SHORT_ESCAPES[] = {{'\n', 'n'}, {'\t', 't'}, {'\r', 'r'}, {'\\', '\\'}, {'"', '"'}};
+
+void AppendQuoted(std::string& out, char32_t code)
+{
+    for (const ShortEscape& escape : SHORT_ESCAPES) {
+        if (escape.code == code) {
+            out += '\\';
+            out += escape.letter;
+            return;
+        }
+    }
+    if (IsControl(code) || !IsUnicode(code))
+        AppendNumber(out, code, "\\x", "\\u{");
+    else
+        AppendUtf8(out, code);
+}
+
+// Reads what follows a backslash.
+std::optional<Decoded> ReadEscape(std::string_view text)
+{
+    if (text.empty())
+        return std::nullopt;
+    for (const ShortEscape& escape : SHORT_ESCAPES) {
+        if (escape.letter == text.front())
+            return Decoded{escape.code, 1};
+    }
+    std::optional<Decoded> number;
+    if (text.front() == 'x')
+        number = ReadByteDigits(text.substr(1));
+    else if (text.front() == 'u' && text.size() > 1)
+        number = ReadBraces(text.substr(1));
+    if (number)
+        ++number->bytes;
+    return number;
+}
+
+// The text between the quotes of a value, where it is well formed.
+std::optional<std::wstring> Unquoted(std::string_view inner)
+{
+    std::wstring text;
+    text.reserve(inner.size());
+    while (!inner.empty()) {
+        if (inner.front() == '"')
+            return std::nullopt;
+        Decoded next = {0, 0};
+        if (inner.front() == '\\') {
+            const auto escape = ReadEscape(inner.substr(1));
+            if (!escape)
+                return std::nullopt;
+            next = {escape->code, escape->bytes + 1};
+        } else {
+            next = DecodeUtf8(inner);
+        }
+        text += static_cast<wchar_t>(next.code);
+        inner.remove_prefix(next.bytes);
+    }
+    return text;
+}
+
+}  // namespace
+
+std::string EncodeName(std::wstring_view text)
+{
+    if (text.empty())
+        return "%";
+    std::string name;
+    name.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto code = static_cast<char32_t>(text[i]);
+        if (MustEncodeInName(code, i == 0, i + 1 == text.size()))
+            AppendNumber(name, code, "%", "%u{");
+        else
+            AppendUtf8(name, code);
+    }
+    return name;
+}
+
+std::wstring DecodeName(std::string_view name)
+{
+    std::wstring text;
+    if (name == "%")
+        return text;
+    text.reserve(name.size());
+    while (!name.empty()) {
+        Decoded next = DecodeUtf8(name);
+        if (name.front() == '%') {
+            const std::string_view rest = name.substr(1);
+            const bool braces = rest.substr(0, 2) == "u{";
+            if (const auto number = braces ? ReadBraces(rest.substr(1)) : ReadByteDigits(rest))
+                next = {number->code, number->bytes + (braces ? 2 : 1)};
+        }
+        text += static_cast<wchar_t>(next.code);
+        name.remove_prefix(next.bytes);
+    }
+    return text;
+}
+
+bool IsPlainInName(char byte)
+{
+    return g_ascii_isalnum(byte) || byte == '_' || byte == '-' || byte == '.' || byte == '/' || byte == ':';
+}
+
+std::string EncodeValue(std::wstring_view text)
+{
+    if (!MustQuote(text))
+        return WideToNarrow(text);
+    std::string value = "\"";
+    for (const wchar_t unit : text)
+        AppendQuoted(value, static_cast<char32_t>(unit));
+    value += '"';
+    return value;
+}
+
+std::wstring DecodeValue(std::string_view value)
+{
+    value = Trimmed(value);
+    if (value.size() >= 2 && value.front() == '"' && value.back() == '"') {
+        if (auto text = Unquoted(value.substr(1, value.size() - 2)))
+            return *std::move(text);
+    }
+    return NarrowToWide(value);
+}
+
+std::wstring NarrowToWide(std::string_view text)
+{
+    std::wstring wide;
+    wide.reserve(text.size());
+    while (!text.empty()) {
+        const Decoded next = DecodeUtf8(text);
+        wide += static_cast<wchar_t>(next.code);
+        text.remove_prefix(next.bytes);
+    }
+    return wide;
+}
+
+std::string WideToNarrow(std::wstring_view text)
+{
+    std::string narrow;
+    narrow.reserve(text.size());
+    for (const wchar_t unit : text) {
+        const auto code = static_cast<char32_t>(unit);
+        if (IsByte(code))
+            narrow += static_cast<char>(code - BYTE_BASE);
+        else
+            AppendUtf8(narrow, code);
+    }
+    return narrow;
+}
+
+}  // namespace fittings

@@ -1,0 +1,225 @@
+#include <fittings/platform/embedded/ini_file.h>
+
+#include <unistd.h>
+
+#include <fittings/platform/embedded/ini_codec.h>
+#include <fittings/platform/embedded/ini_text.h>
+
+namespace {
+
+// GKeyFile refuses a file whose first section says Encoding=something. It is given a first section of our own, whose
+// name EncodeName() never writes.
+constexpr std::string_view FIRST_SECTION = "[%%]\n";
+
+constexpr auto FLAGS = G_KEY_FILE_KEEP_TRANSLATIONS;
+
+bool IsUtf16(std::string_view text)
+{
+    return text.substr(0, 2) == "\xFF\xFE" || text.substr(0, 2) == "\xFE\xFF";
+}
+
+// Hides from GKeyFile, for as long as the object lives, the lines that it would not load.
+class Mask
+{
+public:
+    explicit Mask(std::string& buffer) : m_buffer(buffer) {}
+    ~Mask()
+    {
+        for (const auto& [at, byte] : m_bytes)
+            m_buffer[at] = byte;
+    }
+    Mask(const Mask&) = delete;
+    Mask& operator=(const Mask&) = delete;
+
+    void Put(std::size_t at, char byte)
+    {
+        m_bytes.emplace_back(at, m_buffer[at]);
+        m_buffer[at] = byte;
+    }
+
+private:
+    std::string& m_buffer;
+    std::vector<std::pair<std::size_t, char>> m_bytes;
+};
+
+}  // namespace
+
+CIniFile::CIniFile()
+{
+    Clear();
+}
+
+void CIniFile::Clear()
+{
+    m_keys.reset(g_key_file_new());
+    m_buffer = FIRST_SECTION;
+    m_otherSections.clear();
+    m_otherSlots.clear();
+    m_changes.clear();
+    m_changed.clear();
+    m_isNoText = false;
+}
+
+bool CIniFile::Load(const std::string& path)
+{
+    Clear();
+    m_path = path;
+    m_content = fittings::ReadFileBytes(path, m_buffer);
+    if (m_content.result == fittings::ReadResult::Read && Parse())
+        return true;
+    Clear();
+    m_isNoText = m_content.result == fittings::ReadResult::Read;
+    return false;
+}
+
+bool CIniFile::Save(const std::string& path) const
+{
+    if (path.empty() || (HasFailed() && path == m_path))
+        return false;
+    // What could not be read goes to another name, unless somebody has put a new file in its place.
+    const bool replacesNoText = m_isNoText && path == m_path && fittings::IdentityOf(path) == m_content.identity;
+    if (!replacesNoText)
+        return fittings::ReplaceFileBytes(path, ChangedText());
+    if (!IsChanged())
+        return true;
+    const std::string other = fittings::KeepUnderOtherName(path);
+    if (other.empty())
+        return false;
+    if (fittings::ReplaceFileBytes(path, ChangedText()))
+        return true;
+    unlink(other.c_str());
+    return false;
+}
+
+std::optional<std::wstring> CIniFile::Get(std::wstring_view section, std::wstring_view key) const
+{
+    const Slot names(fittings::EncodeName(section), fittings::EncodeName(key));
+    GText value = Value(names);
+    if (!value) {
+        const auto slot = FindSlot(names);
+        if (!slot)
+            return std::nullopt;
+        value = Value(*slot);
+    }
+    return fittings::DecodeValue(value.get());
+}
+
+void CIniFile::Set(std::wstring_view section, std::wstring_view key, std::wstring_view value)
+{
+    const Slot names(fittings::EncodeName(section), fittings::EncodeName(key));
+    const auto found = FindSlot(names);
+    if (found && fittings::DecodeValue(Value(*found).get()) == value)
+        return;
+    const Slot slot = found ? *found : NewSlot(names);
+    g_key_file_set_value(m_keys.get(), slot.first.c_str(), slot.second.c_str(), fittings::EncodeValue(value).c_str());
+    NoteChange(slot);
+}
+
+void CIniFile::Delete(std::wstring_view section, std::wstring_view key)
+{
+    const Slot names(fittings::EncodeName(section), fittings::EncodeName(key));
+    // A hand-written file may have the key under several names.
+    while (const auto slot = FindSlot(names)) {
+        g_key_file_remove_key(m_keys.get(), slot->first.c_str(), slot->second.c_str(), nullptr);
+        NoteChange(*slot);
+    }
+}
+
+// False when there is nothing in the text that anybody could have meant as settings.
+bool CIniFile::Parse()
+{
+    Mask mask(m_buffer);
+    const std::size_t start = FIRST_SECTION.size();
+    if (fittings::ByteOrderMarkSize(Text()) > 0) {
+        mask.Put(start, '#');
+        mask.Put(start + 2, '\n');
+    }
+    fittings::IniLines lines(Text());
+    const bool isText = !lines.HasNul() && !IsUtf16(Text());
+    bool hasSection = false;
+    std::string_view rawSection;
+    std::string section;
+    bool isOther = false;
+    for (fittings::IniLine line; lines.Next(line);) {
+        switch (line.kind) {
+        case fittings::IniLineKind::Comment:
+            break;
+        case fittings::IniLineKind::Section:
+            hasSection = true;
+            rawSection = line.name;
+            section = line.isPlainName ? std::string(line.name) : fittings::EncodeName(fittings::DecodeName(line.name));
+            isOther = section != rawSection;
+            if (isOther)
+                m_otherSections[section].emplace_back(rawSection);
+            break;
+        case fittings::IniLineKind::Key:
+            if (isOther || !line.isPlainName)
+                NoteName(section, rawSection, line.name);
+            break;
+        case fittings::IniLineKind::BrokenSection:
+        case fittings::IniLineKind::Unknown:
+            mask.Put(start + line.begin, '#');
+            break;
+        }
+    }
+    return (hasSection || isText) &&
+           g_key_file_load_from_data(m_keys.get(), m_buffer.data(), m_buffer.size(), FLAGS, nullptr);
+}
+
+void CIniFile::NoteName(const std::string& section, std::string_view rawSection, std::string_view rawKey)
+{
+    std::string key = fittings::EncodeName(fittings::DecodeName(rawKey));
+    if (section != rawSection || key != rawKey)
+        m_otherSlots[{section, std::move(key)}].emplace_back(rawSection, rawKey);
+}
+
+CIniFile::GText CIniFile::Value(const Slot& slot) const
+{
+    return {g_key_file_get_value(m_keys.get(), slot.first.c_str(), slot.second.c_str(), nullptr), g_free};
+}
+
+// Where the key stands: under the name that we write, or the last of those that mean the same.
+std::optional<CIniFile::Slot> CIniFile::FindSlot(const Slot& names) const
+{
+    if (Value(names))
+        return names;
+    const auto others = m_otherSlots.find(names);
+    if (others != m_otherSlots.end()) {
+        for (auto slot = others->second.rbegin(); slot != others->second.rend(); ++slot) {
+            if (Value(*slot))
+                return *slot;
+        }
+    }
+    return std::nullopt;
+}
+
+// A new key joins its section also where that has another name than we would write.
+CIniFile::Slot CIniFile::NewSlot(Slot names) const
+{
+    const auto others = m_otherSections.find(names.first);
+    if (others != m_otherSections.end() && !g_key_file_has_group(m_keys.get(), names.first.c_str()))
+        names.first = others->second.back();
+    return names;
+}
+
+void CIniFile::NoteChange(const Slot& slot)
+{
+    if (m_changed.insert(slot).second)
+        m_changes.push_back(slot);
+}
+
+std::string_view CIniFile::Text() const
+{
+    return std::string_view(m_buffer).substr(FIRST_SECTION.size());
+}
+
+std::string CIniFile::ChangedText() const
+{
+    std::vector<fittings::IniEdit> edits;
+    edits.reserve(m_changes.size());
+    for (const Slot& slot : m_changes) {
+        const GText value = Value(slot);
+        edits.push_back({slot.first, slot.second, value ? std::optional<std::string>(value.get()) : std::nullopt});
+    }
+    return edits.empty() ? std::string(Text()) : fittings::ApplyEdits(Text(), edits);
+}

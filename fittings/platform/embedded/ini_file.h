@@ -1,0 +1,83 @@
+#ifndef FITTINGS_PLATFORM_EMBEDDED_INI_FILE_H_
+#define FITTINGS_PLATFORM_EMBEDDED_INI_FILE_H_
+
+#include <cstddef>
+#include <map>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+#include <glib.h>
+
+#include <fittings/platform/embedded/file_bytes.h>
+
+/// An INI file: the text as it was read, and a GKeyFile made of it that answers questions and takes changes.
+///
+/// What is saved is the text that was read, with the changed keys changed in it, so that all else stays as it was to
+/// the byte.
+class CIniFile
+{
+public:
+    CIniFile();
+    CIniFile(const CIniFile&) = delete;
+    CIniFile& operator=(const CIniFile&) = delete;
+
+    /// Reads the file in place of what the object held. False when it could not be read or holds no settings but
+    /// bytes that are no text.
+    bool Load(const std::string& path);
+
+    /// Writes the file anew where its bytes change.
+    bool Save(const std::string& path) const;
+
+    std::optional<std::wstring> Get(std::wstring_view section, std::wstring_view key) const;
+    void Set(std::wstring_view section, std::wstring_view key, std::wstring_view value);
+    void Delete(std::wstring_view section, std::wstring_view key);
+
+    bool IsChanged() const { return !m_changes.empty(); }
+
+    /// The last Load() met a file that is there but could not be read.
+    bool HasFailed() const { return m_content.result == fittings::ReadResult::Failed; }
+
+    /// What the last Load() found.
+    const fittings::FileContent& Content() const { return m_content; }
+
+private:
+    /// A section and a key as they stand in the text and in the GKeyFile.
+    using Slot = std::pair<std::string, std::string>;
+    using GText = std::unique_ptr<char, decltype(&g_free)>;
+
+    struct Unref
+    {
+        void operator()(GKeyFile* keys) const { g_key_file_unref(keys); }
+    };
+
+    void Clear();
+    bool Parse();
+    void NoteName(const std::string& section, std::string_view rawSection, std::string_view rawKey);
+    GText Value(const Slot& slot) const;
+    std::optional<Slot> FindSlot(const Slot& names) const;
+    Slot NewSlot(Slot names) const;
+    void NoteChange(const Slot& slot);
+    std::string_view Text() const;
+    std::string ChangedText() const;
+
+    std::unique_ptr<GKeyFile, Unref> m_keys;
+    std::string m_buffer;
+    /// What stands in the text under a name that EncodeName() writes otherwise, by the name that it writes.
+    std::unordered_map<std::string, std::vector<std::string>> m_otherSections;
+    std::map<Slot, std::vector<Slot>> m_otherSlots;
+    /// The changed slots, each once, in the order of their first change.
+    std::vector<Slot> m_changes;
+    std::set<Slot> m_changed;
+
+    std::string m_path;
+    fittings::FileContent m_content = {fittings::ReadResult::Missing, std::nullopt};
+    bool m_isNoText = false;
+};
+
+#endif

@@ -1,0 +1,256 @@
+#include <fittings/platform/embedded/ini_text.h>
+
+#include <algorithm>
+#include <map>
+
+#include <glib.h>
+
+#include <fittings/platform/embedded/ini_codec.h>
+
+namespace fittings {
+
+namespace {
+
+constexpr std::string_view BYTE_ORDER_MARK = "\xEF\xBB\xBF";
+
+bool IsPlainName(std::string_view name)
+{
+    return std::all_of(name.begin(), name.end(), IsPlainInName);
+}
+
+// The brackets of a key such as Name[de]: letters, digits and a few marks, and nothing behind them.
+bool IsLocaleSuffix(std::string_view suffix)
+{
+    if (suffix.size() < 2 || suffix.back() != ']')
+        return false;
+    const std::string_view inner = suffix.substr(1, suffix.size() - 2);
+    const char* const end = inner.data() + inner.size();
+    for (const char* at = inner.data(); at < end; at = g_utf8_next_char(at)) {
+        const gunichar character = g_utf8_get_char_validated(at, end - at);
+        const bool isMark = character == '-' || character == '_' || character == '.' || character == '@';
+        if (character > 0x10FFFF || (!isMark && !g_unichar_isalnum(character)))
+            return false;
+    }
+    return true;
+}
+
+bool IsKeyName(std::string_view name)
+{
+    const std::size_t bracket = name.find_first_of("[]");
+    if (bracket == std::string_view::npos)
+        return true;
+    return bracket > 0 && name[bracket] == '[' && name[bracket - 1] != ' ' && IsLocaleSuffix(name.substr(bracket));
+}
+
+struct Splice
+{
+    std::size_t begin;
+    std::size_t end;
+    std::string bytes;
+};
+
+// What is to be done in one section, and where the text has it.
+struct SectionPlan
+{
+    std::map<std::string_view, std::vector<IniLine>> lines;
+    std::optional<std::size_t> insertAt;
+    std::string additions;
+};
+
+class Editor
+{
+public:
+    Editor(std::string_view text, const std::vector<IniEdit>& edits) : m_text(text), m_edits(edits) {}
+
+    std::string Result()
+    {
+        for (const IniEdit& edit : m_edits)
+            m_plans[edit.section].lines[edit.key];
+        Locate();
+        for (const IniEdit& edit : m_edits)
+            Change(edit);
+        for (auto& [section, plan] : m_plans) {
+            if (plan.insertAt && !plan.additions.empty())
+                m_splices.push_back({*plan.insertAt, *plan.insertAt, LineEndBefore(*plan.insertAt) + plan.additions});
+        }
+        std::string result = Spliced();
+        AppendNewSections(result);
+        return result;
+    }
+
+private:
+    void Locate()
+    {
+        IniLines lines(m_text);
+        SectionPlan* plan = nullptr;
+        for (IniLine line; lines.Next(line);) {
+            if (line.kind == IniLineKind::Section || line.kind == IniLineKind::BrokenSection) {
+                const auto found = line.kind == IniLineKind::Section ? m_plans.find(line.name) : m_plans.end();
+                plan = found == m_plans.end() ? nullptr : &found->second;
+            }
+            if (!plan || (line.kind != IniLineKind::Section && line.kind != IniLineKind::Key))
+                continue;
+            plan->insertAt = line.next;
+            if (line.kind == IniLineKind::Key) {
+                if (const auto found = plan->lines.find(line.name); found != plan->lines.end())
+                    found->second.push_back(line);
+            }
+        }
+    }
+
+    void Change(const IniEdit& edit)
+    {
+        SectionPlan& plan = m_plans.find(edit.section)->second;
+        const std::vector<IniLine>& lines = plan.lines.find(edit.key)->second;
+        if (!edit.value) {
+            for (const IniLine& line : lines)
+                m_splices.push_back({line.begin, line.next, ""});
+        } else if (!lines.empty()) {
+            m_splices.push_back({lines.back().value, lines.back().end, *edit.value});
+        } else {
+            plan.additions += edit.key + "=" + *edit.value + m_lineEnd;
+        }
+    }
+
+    std::string Spliced()
+    {
+        std::stable_sort(m_splices.begin(), m_splices.end(),
+                         [](const Splice& a, const Splice& b) { return a.begin < b.begin; });
+        std::string result;
+        result.reserve(m_text.size() + 256);
+        std::size_t at = 0;
+        for (const Splice& splice : m_splices) {
+            result.append(m_text, at, splice.begin - at);
+            result += splice.bytes;
+            at = splice.end;
+        }
+        result.append(m_text, at);
+        return result;
+    }
+
+    void AppendNewSections(std::string& result)
+    {
+        for (const IniEdit& edit : m_edits) {
+            SectionPlan& plan = m_plans.find(edit.section)->second;
+            if (plan.insertAt || plan.additions.empty())
+                continue;
+            if (result.size() > ByteOrderMarkSize(result)) {
+                if (result.back() != '\n')
+                    result += m_lineEnd;
+                if (!EndsWithBlankLine(result))
+                    result += m_lineEnd;
+            }
+            result += "[" + edit.section + "]" + m_lineEnd + plan.additions;
+            plan.additions.clear();
+        }
+    }
+
+    // The line end that the last line of a file may lack.
+    std::string LineEndBefore(std::size_t at) const { return m_text[at - 1] == '\n' ? "" : m_lineEnd; }
+
+    static std::string LineEndOf(std::string_view text)
+    {
+        const std::size_t first = text.find('\n');
+        return first != std::string_view::npos && first > 0 && text[first - 1] == '\r' ? "\r\n" : "\n";
+    }
+
+    static bool EndsWithBlankLine(std::string_view text)
+    {
+        text.remove_suffix(1);
+        if (!text.empty() && text.back() == '\r')
+            text.remove_suffix(1);
+        return text.size() == ByteOrderMarkSize(text) || text.back() == '\n';
+    }
+
+    std::string_view m_text;
+    const std::vector<IniEdit>& m_edits;
+    std::string m_lineEnd = LineEndOf(m_text);
+    std::map<std::string_view, SectionPlan> m_plans;
+    std::vector<Splice> m_splices;
+};
+
+}  // namespace
+
+IniLines::IniLines(std::string_view text)
+    : m_text(text), m_at(ByteOrderMarkSize(text)), m_hasNul(text.find('\0') != std::string_view::npos)
+{
+}
+
+bool IniLines::Next(IniLine& line)
+{
+    if (m_at == m_text.size())
+        return false;
+    line.begin = m_at;
+    const std::size_t lineFeed = m_text.find('\n', m_at);
+    if (lineFeed == std::string_view::npos) {
+        line.end = line.next = m_text.size();
+    } else {
+        line.next = lineFeed + 1;
+        line.end = lineFeed > m_at && m_text[lineFeed - 1] == '\r' ? lineFeed - 1 : lineFeed;
+    }
+    m_at = line.next;
+    line.kind = Classify(line);
+    if (line.kind == IniLineKind::Section)
+        m_inSection = true;
+    else if (line.kind == IniLineKind::BrokenSection)
+        m_inSection = false;
+    return true;
+}
+
+IniLineKind IniLines::Classify(IniLine& line)
+{
+    std::string_view text = m_text.substr(line.begin, line.end - line.begin);
+    while (!text.empty() && g_ascii_isspace(text.front()))
+        text.remove_prefix(1);
+    if (text.empty() || text.front() == '#')
+        return IniLineKind::Comment;
+    if (text.front() == '[')
+        return ClassifySection(line, text);
+    if (text.front() == ';' || !m_inSection)
+        return IniLineKind::Unknown;
+    return ClassifyKey(line, text);
+}
+
+IniLineKind IniLines::ClassifySection(IniLine& line, std::string_view text) const
+{
+    const std::size_t close = text.find(']');
+    if (close == std::string_view::npos || text.find_first_not_of(" \t", close + 1) != std::string_view::npos)
+        return IniLineKind::BrokenSection;
+    line.name = text.substr(1, close - 1);
+    line.isPlainName = IsPlainName(line.name);
+    const bool hasWrongCharacter = std::any_of(line.name.begin(), line.name.end(),
+                                               [](char byte) { return byte == '[' || g_ascii_iscntrl(byte) || !byte; });
+    return line.name.empty() || hasWrongCharacter ? IniLineKind::BrokenSection : IniLineKind::Section;
+}
+
+IniLineKind IniLines::ClassifyKey(IniLine& line, std::string_view text) const
+{
+    const std::size_t equals = text.find('=');
+    if (equals == std::string_view::npos || equals == 0)
+        return IniLineKind::Unknown;
+    // What stands in a line with a NUL was cut or overwritten: it is no setting that anybody made.
+    if (m_hasNul && text.find('\0') != std::string_view::npos)
+        return IniLineKind::Unknown;
+    line.name = text.substr(0, equals);
+    while (g_ascii_isspace(line.name.back()))
+        line.name.remove_suffix(1);
+    line.isPlainName = IsPlainName(line.name);
+    if (!line.isPlainName && !IsKeyName(line.name))
+        return IniLineKind::Unknown;
+    line.value = line.end - (text.size() - equals - 1);
+    while (line.value < line.end && g_ascii_isspace(m_text[line.value]))
+        ++line.value;
+    return IniLineKind::Key;
+}
+
+std::size_t ByteOrderMarkSize(std::string_view text)
+{
+    return text.substr(0, BYTE_ORDER_MARK.size()) == BYTE_ORDER_MARK ? BYTE_ORDER_MARK.size() : 0;
+}
+
+std::string ApplyEdits(std::string_view text, const std::vector<IniEdit>& edits)
+{
+    return Editor(text, edits).Result();
+}
+
+}  // namespace fittings
