@@ -37,8 +37,10 @@ bool IsControl(wchar_t character)
 }
 
 // The name as one component of a path: what a file name cannot hold, or should not, becomes an underscore.
-std::wstring SafeFileName(std::wstring name)
+std::wstring SafeFileName(const std::wstring& text)
 {
+    // What is no Unicode character cannot come back from the disk.
+    std::wstring name = file_util_ex::ConvertFromUTF8W(file_util_ex::ConvertToUTF8(text));
     for (wchar_t& character : name) {
         if (character == L'/' || IsControl(character))
             character = L'_';
