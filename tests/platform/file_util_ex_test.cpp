@@ -1,0 +1,304 @@
+#include <fittings/platform/file_util_ex.h>
+
+#include <chrono>
+#include <clocale>
+#include <filesystem>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <tests/support/temp_folder.h>
+
+namespace {
+
+using file_util_ex::ConvertFromUTF8W;
+using file_util_ex::ConvertToUTF8;
+
+struct Join
+{
+    const wchar_t* dir;
+    const wchar_t* name;
+    const wchar_t* expected;
+};
+
+class MakePath : public testing::TestWithParam<Join>
+{
+};
+
+TEST_P(MakePath, JoinsWithOneSeparator)
+{
+    EXPECT_EQ(file_util_ex::MakePath(GetParam().dir, GetParam().name), GetParam().expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , MakePath,
+    testing::Values(Join{L"/a", L"b", L"/a/b"}, Join{L"/a/", L"b", L"/a/b"}, Join{L"/a", L"/b", L"/a/b"},
+                    Join{L"/a/", L"/b", L"/a/b"}, Join{L"/a//", L"//b", L"/a/b"}, Join{L"/", L"b", L"/b"},
+                    Join{L"/", L"/b", L"/b"}, Join{L"//", L"b", L"/b"}, Join{L"/", L"/", L"/"}, Join{L"a", L"/", L"a/"},
+                    Join{L"a", L"b/", L"a/b/"}, Join{L"a", L"b/c", L"a/b/c"}, Join{L"a", L"..", L"a/.."},
+                    Join{L"a\\", L"b", L"a\\/b"}, Join{L"a ", L" b", L"a / b"}, Join{L"", L"b", L"b"},
+                    Join{L"", L"/b", L"/b"}, Join{L"/a", L"", L"/a"}, Join{L"/a/", L"", L"/a/"}, Join{L"", L"", L""},
+                    Join{nullptr, L"b", L"b"}, Join{L"/a", nullptr, L"/a"}, Join{nullptr, nullptr, L""},
+                    Join{L"/\x5E33", L"\x1F4D2", L"/\x5E33/\x1F4D2"}));
+
+struct Change
+{
+    const wchar_t* path;
+    const wchar_t* expected;
+};
+
+class GetPathWithSep : public testing::TestWithParam<Change>
+{
+};
+
+TEST_P(GetPathWithSep, EndsInOne)
+{
+    EXPECT_EQ(file_util_ex::GetPathWithSep(GetParam().path), GetParam().expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(, GetPathWithSep,
+                         testing::Values(Change{L"/a/b", L"/a/b/"}, Change{L"/a/b/", L"/a/b/"},
+                                         Change{L"/a/b//", L"/a/b/"}, Change{L"a", L"a/"}, Change{L"/", L"/"},
+                                         Change{L"//", L"/"}, Change{L"a\\", L"a\\/"}, Change{L"", L""},
+                                         Change{nullptr, L""}));
+
+class RemoveBackSlash : public testing::TestWithParam<Change>
+{
+};
+
+TEST_P(RemoveBackSlash, Gives)
+{
+    EXPECT_EQ(file_util_ex::RemoveBackSlash(GetParam().path), GetParam().expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(, RemoveBackSlash,
+                         testing::Values(Change{L"/a/b/", L"/a/b"}, Change{L"/a/b", L"/a/b"},
+                                         Change{L"/a/b//", L"/a/b"}, Change{L"a/", L"a"}, Change{L"/", L"/"},
+                                         Change{L"//", L"/"}, Change{L"/a/b\\", L"/a/b\\"}, Change{L"", L""},
+                                         Change{nullptr, L""}));
+
+std::wstring Wide(const std::string& path)
+{
+    return ConvertFromUTF8W(path);
+}
+
+TEST(DoesDirExist, IsTrueOfFolders)
+{
+    const TempFolder folder;
+    EXPECT_TRUE(file_util_ex::DoesDirExist(Wide(folder.Path())));
+    EXPECT_TRUE(file_util_ex::DoesDirExist(Wide(folder.Path() + "/")));
+    EXPECT_TRUE(file_util_ex::DoesDirExist(L"/"));
+    EXPECT_TRUE(file_util_ex::DoesDirExist(L"."));
+}
+
+TEST(DoesDirExist, IsFalseOfAnythingElse)
+{
+    const TempFolder folder;
+    WriteFile(folder / "file", "");
+    EXPECT_FALSE(file_util_ex::DoesDirExist(Wide(folder / "file")));
+    EXPECT_FALSE(file_util_ex::DoesDirExist(Wide(folder / "missing")));
+    EXPECT_FALSE(file_util_ex::DoesDirExist(L""));
+    EXPECT_FALSE(file_util_ex::DoesDirExist(nullptr));
+}
+
+TEST(DoesDirExist, FollowsLinks)
+{
+    const TempFolder folder;
+    std::filesystem::create_directory(folder / "real");
+    std::filesystem::create_symlink(folder / "real", folder / "link");
+    std::filesystem::create_symlink(folder / "missing", folder / "dangling");
+    EXPECT_TRUE(file_util_ex::DoesDirExist(Wide(folder / "link")));
+    EXPECT_FALSE(file_util_ex::DoesDirExist(Wide(folder / "dangling")));
+}
+
+// A path goes to the system as text that ends at a NUL: it must not stand for its beginning.
+TEST(PathWithNul, NamesNoFolder)
+{
+    const TempFolder folder;
+    const std::wstring path = Wide(folder.Path()) + L'\0' + L"x";
+    EXPECT_FALSE(file_util_ex::DoesDirExist(path));
+    EXPECT_FALSE(file_util_ex::Mkdir(path));
+}
+
+// The permissions a folder gets are what the process's mask leaves of 0700.
+class Mkdir : public testing::Test
+{
+protected:
+    Mkdir() : m_mask(umask(0)) {}
+    ~Mkdir() override { umask(m_mask); }
+
+    static int ModeOf(const std::string& path)
+    {
+        struct stat status = {};
+        EXPECT_EQ(stat(path.c_str(), &status), 0) << path;
+        return status.st_mode & 07777;
+    }
+
+    const TempFolder m_folder;
+
+private:
+    mode_t m_mask;
+};
+
+TEST_F(Mkdir, MakesTheFolderForTheUserAlone)
+{
+    EXPECT_TRUE(file_util_ex::Mkdir(Wide(m_folder / "a")));
+    EXPECT_TRUE(std::filesystem::is_directory(m_folder / "a"));
+    EXPECT_EQ(ModeOf(m_folder / "a"), 0700);
+}
+
+TEST_F(Mkdir, MakesTheFoldersAbove)
+{
+    EXPECT_TRUE(file_util_ex::Mkdir(Wide(m_folder / "a/b/c/")));
+    EXPECT_EQ(ModeOf(m_folder / "a"), 0700);
+    EXPECT_EQ(ModeOf(m_folder / "a/b"), 0700);
+    EXPECT_EQ(ModeOf(m_folder / "a/b/c"), 0700);
+}
+
+TEST_F(Mkdir, LeavesAFolderThatExistsAsItIs)
+{
+    std::filesystem::create_directory(m_folder / "a");
+    chmod((m_folder / "a").c_str(), 0755);
+    EXPECT_TRUE(file_util_ex::Mkdir(Wide(m_folder / "a")));
+    EXPECT_EQ(ModeOf(m_folder / "a"), 0755);
+    EXPECT_TRUE(file_util_ex::Mkdir(L"/"));
+}
+
+TEST_F(Mkdir, TakesNamesThatAreNotAsciiInAnyLocale)
+{
+    // A graphical program is in the C locale until it asks for its own.
+    const std::string locale = setlocale(LC_ALL, nullptr);
+    setlocale(LC_ALL, "C");
+    EXPECT_TRUE(file_util_ex::Mkdir(Wide(m_folder.Path()) + L"/\x5E33 \x00E4\x1F4D2"));
+    EXPECT_TRUE(std::filesystem::is_directory(m_folder / "\xE5\xB8\xB3 \xC3\xA4\xF0\x9F\x93\x92"));
+    EXPECT_TRUE(file_util_ex::DoesDirExist(Wide(m_folder.Path()) + L"/\x5E33 \x00E4\x1F4D2"));
+    setlocale(LC_ALL, locale.c_str());
+}
+
+TEST_F(Mkdir, SaysWhenItCannot)
+{
+    WriteFile(m_folder / "file", "kept");
+    std::filesystem::create_symlink(m_folder / "missing", m_folder / "dangling");
+    EXPECT_FALSE(file_util_ex::Mkdir(Wide(m_folder / "file")));
+    EXPECT_FALSE(file_util_ex::Mkdir(Wide(m_folder / "file/below")));
+    EXPECT_FALSE(file_util_ex::Mkdir(Wide(m_folder / "dangling")));
+    EXPECT_FALSE(file_util_ex::Mkdir(Wide(m_folder / std::string(300, 'x'))));
+    EXPECT_FALSE(file_util_ex::Mkdir(L""));
+    EXPECT_FALSE(file_util_ex::Mkdir(nullptr));
+    EXPECT_EQ(ReadFile(m_folder / "file"), "kept");
+}
+
+TEST_F(Mkdir, SucceedsInAllThreadsAtOnce)
+{
+    std::vector<int> results(8);
+    std::vector<std::thread> threads;
+    for (int& result : results)
+        threads.emplace_back([&] { result = file_util_ex::Mkdir(Wide(m_folder / "a/b/c/d/e/f/g/h")); });
+    for (std::thread& thread : threads)
+        thread.join();
+    EXPECT_EQ(results, std::vector<int>(8, 1));
+}
+
+struct Encoding
+{
+    std::wstring wide;
+    std::string utf8;
+};
+
+class Utf8 : public testing::TestWithParam<Encoding>
+{
+};
+
+TEST_P(Utf8, EncodesAndDecodes)
+{
+    EXPECT_EQ(ConvertToUTF8(GetParam().wide), GetParam().utf8);
+    EXPECT_EQ(ConvertFromUTF8W(GetParam().utf8), GetParam().wide);
+}
+
+INSTANTIATE_TEST_SUITE_P(, Utf8,
+                         testing::Values(Encoding{L"", ""}, Encoding{L"/home/u/a\n\x7F", "/home/u/a\n\x7F"},
+                                         Encoding{L"\x80\x7FF", "\xC2\x80\xDF\xBF"},
+                                         Encoding{L"\x800\xFFFD", "\xE0\xA0\x80\xEF\xBF\xBD"},
+                                         Encoding{L"\xD7FF\xE000", "\xED\x9F\xBF\xEE\x80\x80"},
+                                         Encoding{L"\xFFFE\xFFFF", "\xEF\xBF\xBE\xEF\xBF\xBF"},
+                                         Encoding{L"\x10000\x10FFFF", "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF"},
+                                         Encoding{L"\xFEFFx", "\xEF\xBB\xBFx"},
+                                         Encoding{std::wstring(L"a\0\0b\0", 5), std::string("a\0\0b\0", 5)}));
+
+class NoCharacter : public testing::TestWithParam<long>
+{
+};
+
+TEST_P(NoCharacter, BecomesTheReplacementCharacter)
+{
+    EXPECT_EQ(ConvertToUTF8(std::wstring{L'a', static_cast<wchar_t>(GetParam()), L'b'}), "a\xEF\xBF\xBD"
+                                                                                         "b");
+}
+
+INSTANTIATE_TEST_SUITE_P(, NoCharacter,
+                         testing::Values(0xD800L, 0xDBFFL, 0xDC00L, 0xDFFFL, 0x110000L, 0x7FFFFFFFL, -1L,
+                                         -2147483647L - 1));
+
+// A pair of surrogates is two units that are no characters, each by itself: wide text has no pairs here.
+TEST(SurrogatePair, BecomesTwoReplacementCharacters)
+{
+    EXPECT_EQ(ConvertToUTF8(std::wstring{static_cast<wchar_t>(0xD83D), static_cast<wchar_t>(0xDCD2)}),
+              "\xEF\xBF\xBD\xEF\xBF\xBD");
+}
+
+struct Broken
+{
+    std::string bytes;
+    std::wstring expected;
+};
+
+class NotUtf8 : public testing::TestWithParam<Broken>
+{
+};
+
+TEST_P(NotUtf8, BecomesReplacementCharacters)
+{
+    EXPECT_EQ(ConvertFromUTF8W(GetParam().bytes), GetParam().expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , NotUtf8,
+    testing::Values(
+        // Bytes that start nothing.
+        Broken{"a\x80z", L"a\xFFFDz"}, Broken{"a\xBFz", L"a\xFFFDz"}, Broken{"\xFEz", L"\xFFFDz"},
+        Broken{"\xFF\xFF", L"\xFFFD\xFFFD"}, Broken{"\xF8\x88\x80\x80\x80", L"\xFFFD\xFFFD\xFFFD\xFFFD\xFFFD"},
+        // Longer than need be.
+        Broken{"\xC0\xAF", L"\xFFFD\xFFFD"}, Broken{"\xC1\xBF", L"\xFFFD\xFFFD"},
+        Broken{"\xE0\x80\xAF", L"\xFFFD\xFFFD\xFFFD"}, Broken{"\xE0\x9F\xBF", L"\xFFFD\xFFFD\xFFFD"},
+        Broken{"\xF0\x8F\xBF\xBF", L"\xFFFD\xFFFD\xFFFD\xFFFD"},
+        // Surrogates, and above the last character.
+        Broken{"\xED\xA0\x80", L"\xFFFD\xFFFD\xFFFD"}, Broken{"\xED\xBF\xBF", L"\xFFFD\xFFFD\xFFFD"},
+        Broken{"\xF4\x90\x80\x80", L"\xFFFD\xFFFD\xFFFD\xFFFD"},
+        Broken{"\xF5\x80\x80\x80", L"\xFFFD\xFFFD\xFFFD\xFFFD"},
+        // Cut short, by the end or by what follows.
+        Broken{"\xC3", L"\xFFFD"}, Broken{"\xE5\xB8", L"\xFFFD"}, Broken{"\xF0\x9F\x93", L"\xFFFD"},
+        Broken{"\xC3z", L"\xFFFDz"}, Broken{"\xE5\xB8z", L"\xFFFDz"}, Broken{"\xF0\x9F\x93z", L"\xFFFDz"},
+        Broken{"\xE5\xC3\xA4", L"\xFFFD\xE4"}, Broken{"\xF0\x9F\xE5\xB8\xB3", L"\xFFFD\x5E33"},
+        Broken{"\xE5\xB8\xB3\xB3", L"\x5E33\xFFFD"}, Broken{std::string("\xC3\0z", 3), std::wstring(L"\xFFFD\0z", 3)}));
+
+double MillisecondsFor(std::size_t characters)
+{
+    const std::wstring text(characters, L'\x5E33');
+    const auto start = std::chrono::steady_clock::now();
+    const std::wstring back = ConvertFromUTF8W(ConvertToUTF8(text));
+    const auto end = std::chrono::steady_clock::now();
+    EXPECT_TRUE(back == text);
+    return std::chrono::duration<double, std::milli>(end - start).count();
+}
+
+// A second for four million characters is some fifty times what they take; growing with the square they would take hours.
+TEST(Utf8OfMegabytes, IsLinear)
+{
+    EXPECT_LT(MillisecondsFor(4000000), 1000);
+}
+
+}  // namespace

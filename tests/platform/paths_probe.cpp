@@ -1,0 +1,28 @@
+// paths_probe [--app [NAME]]: prints the user data directory and the folder "Samples" of the application's documents,
+// a line each. With --app it is a program of the toolkit, which takes the name NAME where one is given.
+
+#include <cstdio>
+#include <string>
+
+#include <wx/app.h>
+#include <wx/init.h>
+
+#include <fittings/platform/file_util_ex.h>
+#include <fittings/platform/std_file_paths.h>
+
+int main(int argc, char** argv)
+{
+    const bool hasApp = argc > 1 && std::string(argv[1]) == "--app";
+    if (hasApp) {
+        wxApp::SetInstance(new wxAppConsole);
+        if (!wxEntryStart(argc, argv))
+            return 1;
+        if (argc > 2)
+            wxTheApp->SetAppName(file_util_ex::ConvertFromUTF8W(argv[2]));
+    }
+    for (const std::wstring& path : {std_file_paths::GetUserDataDir(), std_file_paths::GetAppFolderPath(L"Samples")})
+        std::printf("%s\n", file_util_ex::ConvertToUTF8(path).c_str());
+    if (hasApp)
+        wxEntryCleanup();
+    return 0;
+}
