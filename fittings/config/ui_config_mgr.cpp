@@ -49,7 +49,7 @@ std::wstring FormatText(const wchar_t* format, ...)
     return text;
 }
 
-} // namespace
+}  // namespace
 
 void ui_config_mgr::WriteConfigString(const wchar_t* file, const wchar_t* section, const wchar_t* key,
                                       const wchar_t* value)

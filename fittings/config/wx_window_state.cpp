@@ -52,13 +52,27 @@ std::optional<wxRect> ParseGeometry(const std::wstring& text)
     return wxRect(fields[0], fields[1], fields[2], fields[3]);
 }
 
+/// Returns the window's rectangle on the screen.
+///
+/// Inside a top-level window that is not shown yet the toolkit cannot tell, and logs so. The sum of the positions
+/// leaves out no more than the decorations.
+wxRect ScreenRect(const wxWindow& window)
+{
+    if (wxGetTopLevelParent(const_cast<wxWindow*>(&window))->IsShown())
+        return window.GetScreenRect();
+    wxRect rect = window.GetRect();
+    for (const wxWindow* inner = &window; !inner->IsTopLevel(); inner = inner->GetParent())
+        rect.Offset(inner->GetParent()->GetPosition() + inner->GetParent()->GetClientAreaOrigin());
+    return rect;
+}
+
 /// Returns the display that shows most of the window, as wxDisplay::GetFromWindow() is meant to.
 ///
 /// The toolkit's own function names some display even for a window that is far off all of them, and goes by where a
 /// hidden window was before it was moved.
 int DisplayOf(const wxWindow& window)
 {
-    const wxRect rect = window.GetScreenRect();
+    const wxRect rect = ScreenRect(window);
     int best = wxNOT_FOUND;
     int largest = 0;
     for (unsigned n = 0; n < wxDisplay::GetCount(); ++n) {
@@ -79,9 +93,9 @@ wxRect FitInto(const wxRect& area, const wxRect& rect)
     const wxRect common = area.Intersect(rect);
     if (!common.IsEmpty())
         return common;
-    const wxSize size(std::clamp(rect.width, 1, area.width), std::clamp(rect.height, 1, area.height));
-    return wxRect(wxPoint(std::clamp(rect.x, area.x, area.x + area.width - size.x),
-                          std::clamp(rect.y, area.y, area.y + area.height - size.y)),
+    const wxSize size(std::min(rect.width, area.width), std::min(rect.height, area.height));
+    return wxRect(wxPoint(std::max(area.x, std::min(rect.x, area.x + area.width - size.x)),
+                          std::max(area.y, std::min(rect.y, area.y + area.height - size.y))),
                   size);
 }
 
@@ -131,7 +145,7 @@ private:
     }
 };
 
-} // namespace
+}  // namespace
 
 void wx_window_state::SaveState(wxWindow* window, const wchar_t* name)
 {
