@@ -1,0 +1,217 @@
+#include <fittings/config/ui_config_mgr.h>
+
+#include <filesystem>
+#include <string>
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <fittings/platform/local_reg_store.h>
+#include <tests/support/temp_folder.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A file or folder of the settings folder, by its path.
+std::string InConfig(const TempUserData& data, const std::string& name)
+{
+    return data / ("ui_config/" + name);
+}
+
+unsigned Mode(const std::string& path)
+{
+    struct stat info = {};
+    EXPECT_EQ(stat(path.c_str(), &info), 0) << path;
+    return info.st_mode & 07777;
+}
+
+struct Operation
+{
+    const char* name;
+    void (*call)();
+};
+
+class EachOperation : public testing::TestWithParam<Operation>
+{
+};
+
+TEST_P(EachOperation, MakesTheSettingsFolder)
+{
+    const TempUserData data;
+    ASSERT_FALSE(fs::exists(data / "ui_config"));
+    GetParam().call();
+    EXPECT_TRUE(fs::is_directory(data / "ui_config"));
+}
+
+TEST_P(EachOperation, MakesTheUserDataFolderToo)
+{
+    const TempUserData data;
+    fs::remove(data.Path());
+    GetParam().call();
+    EXPECT_TRUE(fs::is_directory(data / "ui_config"));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , EachOperation,
+    testing::Values(Operation{"WriteConfigString",
+                              [] { ui_config_mgr::WriteConfigString(L"a.ini", L"s", L"k", L"v"); }},
+                    Operation{"GetConfigString", [] { ui_config_mgr::GetConfigString(L"a.ini", L"s", L"k"); }},
+                    Operation{"DeleteConfig", [] { ui_config_mgr::DeleteConfig(L"a.ini", L"s", L"k"); }},
+                    Operation{"GetConfigInt", [] { ui_config_mgr::GetConfigInt(L"a.ini", L"s", L"k"); }},
+                    Operation{"WriteConfigInt", [] { ui_config_mgr::WriteConfigInt(L"a.ini", L"s", L"k", 1); }}),
+    [](const auto& info) { return info.param.name; });
+
+TEST(WriteConfigString, MakesAFileForTheUserAlone)
+{
+    const TempUserData data;
+    ui_config_mgr::WriteConfigString(L"search.ini", L"Results", L"Order", L"by name");
+    EXPECT_EQ(Mode(InConfig(data, "search.ini")), 0600u);
+    EXPECT_EQ(ui_config_mgr::GetConfigString(L"search.ini", L"Results", L"Order"), L"by name");
+}
+
+TEST(WriteConfigString, KeepsTheModeOfAFileThatIsThere)
+{
+    const TempUserData data;
+    fs::create_directory(data / "ui_config");
+    WriteFile(InConfig(data, "search.ini"), "[Results]\nOrder=by size\n");
+    fs::permissions(InConfig(data, "search.ini"), fs::perms(0644));
+    ui_config_mgr::WriteConfigString(L"search.ini", L"Results", L"Order", L"by name");
+    EXPECT_EQ(Mode(InConfig(data, "search.ini")), 0644u);
+}
+
+TEST(WriteConfigString, WritesLinesThatAPersonCanRead)
+{
+    const TempUserData data;
+    ui_config_mgr::WriteConfigString(L"search.ini", L"Results", L"Order", L"by name");
+    EXPECT_EQ(ReadFile(InConfig(data, "search.ini")), "[Results]\nOrder=by name\n");
+}
+
+TEST(WriteConfigString, ReplacesOneValueAndKeepsTheOthers)
+{
+    const TempUserData data;
+    ui_config_mgr::WriteConfigString(L"a.ini", L"one", L"k", L"1");
+    ui_config_mgr::WriteConfigString(L"a.ini", L"one", L"other", L"2");
+    ui_config_mgr::WriteConfigString(L"a.ini", L"two", L"k", L"3");
+    ui_config_mgr::WriteConfigString(L"a.ini", L"one", L"k", L"4");
+    EXPECT_EQ(ui_config_mgr::GetConfigString(L"a.ini", L"one", L"k"), L"4");
+    EXPECT_EQ(ui_config_mgr::GetConfigString(L"a.ini", L"one", L"other"), L"2");
+    EXPECT_EQ(ui_config_mgr::GetConfigString(L"a.ini", L"two", L"k"), L"3");
+}
+
+TEST(WriteConfigString, LeavesTheDefaultStoreAlone)
+{
+    const TempUserData data;
+    ui_config_mgr::WriteConfigString(L"a.ini", L"s", L"k", L"v");
+    EXPECT_EQ(CLocalRegStore::GetString(L"s", L"k", L"none"), L"none");
+    EXPECT_FALSE(fs::exists(data / "settings.ini"));
+}
+
+TEST(GetConfigString, OfAMissingFileIsEmptyAndMakesNone)
+{
+    const TempUserData data;
+    EXPECT_EQ(ui_config_mgr::GetConfigString(L"absent.ini", L"s", L"k"), L"");
+    EXPECT_TRUE(fs::is_empty(data / "ui_config"));
+}
+
+TEST(GetConfigString, OfAMissingSectionOrKeyIsEmpty)
+{
+    const TempUserData data;
+    ui_config_mgr::WriteConfigString(L"a.ini", L"s", L"k", L"v");
+    EXPECT_EQ(ui_config_mgr::GetConfigString(L"a.ini", L"s", L"absent"), L"");
+    EXPECT_EQ(ui_config_mgr::GetConfigString(L"a.ini", L"absent", L"k"), L"");
+    EXPECT_EQ(ui_config_mgr::GetConfigString(L"a.ini", L"S", L"k"), L"");
+}
+
+TEST(GetConfigString, OfAnEmptyValueIsEmpty)
+{
+    const TempUserData data;
+    ui_config_mgr::WriteConfigString(L"a.ini", L"s", L"k", L"v");
+    ui_config_mgr::WriteConfigString(L"a.ini", L"s", L"k", L"");
+    EXPECT_EQ(ui_config_mgr::GetConfigString(L"a.ini", L"s", L"k"), L"");
+}
+
+TEST(GetConfigString, SeesWhatOthersWroteSinceTheLastCall)
+{
+    const TempUserData data;
+    ui_config_mgr::WriteConfigString(L"a.ini", L"s", L"k", L"ours");
+    EXPECT_EQ(ui_config_mgr::GetConfigString(L"a.ini", L"s", L"k"), L"ours");
+    WriteFile(InConfig(data, "a.ini"), "[s]\nk=hers\n");
+    EXPECT_EQ(ui_config_mgr::GetConfigString(L"a.ini", L"s", L"k"), L"hers");
+    fs::remove(InConfig(data, "a.ini"));
+    EXPECT_EQ(ui_config_mgr::GetConfigString(L"a.ini", L"s", L"k"), L"");
+}
+
+TEST(GetConfigString, DoesNotTouchTheFile)
+{
+    const TempUserData data;
+    fs::create_directory(data / "ui_config");
+    WriteFile(InConfig(data, "a.ini"), "; by hand\n\n[s]\r\nk = v\nno equals sign");
+    EXPECT_EQ(ui_config_mgr::GetConfigString(L"a.ini", L"s", L"k"), L"v");
+    EXPECT_EQ(ReadFile(InConfig(data, "a.ini")), "; by hand\n\n[s]\r\nk = v\nno equals sign");
+}
+
+TEST(DeleteConfig, KeepsTheKeyInTheFileAndRemovesItFromTheDefaultStore)
+{
+    const TempUserData data;
+    ui_config_mgr::WriteConfigString(L"a.ini", L"s", L"k", L"in the file");
+    CLocalRegStore::WriteString(L"s", L"k", L"in the store");
+    CLocalRegStore::WriteString(L"s", L"other", L"kept");
+    CLocalRegStore::WriteString(L"t", L"k", L"kept too");
+
+    ui_config_mgr::DeleteConfig(L"a.ini", L"s", L"k");
+
+    EXPECT_EQ(ui_config_mgr::GetConfigString(L"a.ini", L"s", L"k"), L"in the file");
+    EXPECT_EQ(CLocalRegStore::GetString(L"s", L"k", L"none"), L"none");
+    EXPECT_EQ(CLocalRegStore::GetString(L"s", L"other", L"none"), L"kept");
+    EXPECT_EQ(CLocalRegStore::GetString(L"t", L"k", L"none"), L"kept too");
+}
+
+TEST(DeleteConfig, SavesTheFileAsItWas)
+{
+    const TempUserData data;
+    fs::create_directory(data / "ui_config");
+    WriteFile(InConfig(data, "a.ini"), "; by hand\n\n[s]\nk=v\nlast=1");
+    ui_config_mgr::DeleteConfig(L"a.ini", L"s", L"k");
+    EXPECT_EQ(ReadFile(InConfig(data, "a.ini")), "; by hand\n\n[s]\nk=v\nlast=1");
+}
+
+TEST(DeleteConfig, MakesAnEmptyFileWhereThereIsNone)
+{
+    const TempUserData data;
+    ui_config_mgr::DeleteConfig(L"a.ini", L"s", L"k");
+    EXPECT_TRUE(fs::is_regular_file(InConfig(data, "a.ini")));
+    EXPECT_EQ(ReadFile(InConfig(data, "a.ini")), "");
+}
+
+TEST(FileName, IsUsedExactlyAsGiven)
+{
+    const TempUserData data;
+    ui_config_mgr::WriteConfigString(L"a.ini", L"s", L"k", L"with");
+    ui_config_mgr::WriteConfigString(L"a", L"s", L"k", L"without");
+    ui_config_mgr::WriteConfigString(L"A.ini", L"s", L"k", L"upper case");
+    EXPECT_EQ(ui_config_mgr::GetConfigString(L"a.ini", L"s", L"k"), L"with");
+    EXPECT_EQ(ui_config_mgr::GetConfigString(L"a", L"s", L"k"), L"without");
+    EXPECT_EQ(ui_config_mgr::GetConfigString(L"A.ini", L"s", L"k"), L"upper case");
+    EXPECT_TRUE(fs::is_regular_file(InConfig(data, "a.ini")));
+    EXPECT_TRUE(fs::is_regular_file(InConfig(data, "a")));
+    EXPECT_TRUE(fs::is_regular_file(InConfig(data, "A.ini")));
+}
+
+TEST(NullTexts, CountAsEmpty)
+{
+    const TempUserData data;
+    ui_config_mgr::WriteConfigString(L"a.ini", nullptr, nullptr, L"v");
+    EXPECT_EQ(ui_config_mgr::GetConfigString(L"a.ini", L"", L""), L"v");
+    ui_config_mgr::WriteConfigString(L"a.ini", L"", L"", L"w");
+    EXPECT_EQ(ui_config_mgr::GetConfigString(L"a.ini", nullptr, nullptr), L"w");
+    ui_config_mgr::WriteConfigString(L"a.ini", nullptr, nullptr, nullptr);
+    EXPECT_EQ(ui_config_mgr::GetConfigString(L"a.ini", nullptr, nullptr), L"");
+    CLocalRegStore::WriteString(L"", L"", L"in the store");
+    ui_config_mgr::DeleteConfig(L"a.ini", nullptr, nullptr);
+    EXPECT_EQ(CLocalRegStore::GetString(L"", L"", L"none"), L"none");
+    ui_config_mgr::WriteConfigInt(L"a.ini", nullptr, nullptr, 7);
+    EXPECT_EQ(ui_config_mgr::GetConfigInt(L"a.ini", nullptr, nullptr), 7);
+}
+
+}  // namespace
