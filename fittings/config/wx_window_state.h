@@ -30,8 +30,13 @@ FITTINGS_API void SaveState(wxFrame* frame, const wchar_t* name);
 /// Gives a window its stored geometry and brings it onto a display.
 ///
 /// A stored width or height of 10 or less leaves the window's own geometry. A window off every display moves to
-/// (0, 0); one that reaches out of its display's work area is clipped to it. Returns false, and changes nothing, when
-/// there is no stored geometry or it is not four integers.
+/// (0, 0); one that reaches out of its display's work area is clipped to it, and one that is wholly outside of that
+/// area, under a panel, moves into it. Numbers beyond the 16 bits of an X display count as the largest of these.
+///
+/// Meant for top-level windows: a child's position in its parent is measured against the work area as it is.
+///
+/// Returns false, and changes nothing, when there is no stored geometry or it is not four integers. Returns false too
+/// for a window that is on no display even at (0, 0), where it stays.
 FITTINGS_API bool LoadState(wxWindow* window, const wchar_t* name);
 
 /// As for any window; a frame that was stored maximised is then maximised by MaximizeFrame().
@@ -49,8 +54,8 @@ FITTINGS_API void SaveAuiManagerState(wxAuiManager* manager, const wchar_t* name
 
 /// Restores a stored layout and updates the window; returns false, and changes nothing, when there is none.
 ///
-/// As wxAuiManager::LoadPerspective() has it, panes that the stored layout does not name are hidden, and captions come
-/// back as they were stored.
+/// As wxAuiManager::LoadPerspective() has it, panes that the stored layout does not name are hidden, captions come back
+/// as they were stored, and one with a ";" or "|" does not: the manager's own reading stops there with an assertion.
 FITTINGS_API bool LoadAuiManagerState(wxAuiManager* manager, const wchar_t* name);
 
 }  // namespace wx_window_state

@@ -1,0 +1,237 @@
+#include <fittings/config/wx_window_state.h>
+
+#include <filesystem>
+#include <string>
+
+#include <gtest/gtest.h>
+#include <wx/aui/framemanager.h>
+#include <wx/frame.h>
+#include <wx/panel.h>
+
+#include <fittings/config/ui_config_mgr.h>
+#include <fittings/platform/local_reg_store.h>
+#include <tests/support/gui.h>
+#include <tests/support/temp_folder.h>
+
+namespace {
+
+/// A frame with four panes, laid out by an AUI manager.
+class AuiFrame : public wxFrame
+{
+public:
+    AuiFrame() : wxFrame(nullptr, wxID_ANY, "aui", wxPoint(200, 100), wxSize(700, 500))
+    {
+        manager.SetManagedWindow(this);
+        Add("tree", wxAuiPaneInfo().Left().Caption("Folders").BestSize(150, -1));
+        Add("log", wxAuiPaneInfo().Bottom().Caption("Log").BestSize(-1, 90));
+        Add("props", wxAuiPaneInfo().Right().Caption("Properties").BestSize(120, -1));
+        Add("list", wxAuiPaneInfo().CenterPane());
+        manager.Update();
+    }
+    ~AuiFrame() override { manager.UnInit(); }
+
+    wxAuiPaneInfo& Pane(const char* name) { return manager.GetPane(name); }
+
+    wxAuiManager manager;
+
+private:
+    void Add(const char* name, const wxAuiPaneInfo& info)
+    {
+        manager.AddPane(new wxPanel(this), wxAuiPaneInfo(info).Name(name));
+    }
+};
+
+std::wstring Stored(const wchar_t* name)
+{
+    return ui_config_mgr::GetConfigString(L"wxAuiManagerState.ini", L"wxAuiManagerState", name);
+}
+
+void Plant(const wxString& layout)
+{
+    ui_config_mgr::WriteConfigString(L"wxAuiManagerState.ini", L"wxAuiManagerState", L"Main", layout.wc_str());
+}
+
+TEST(SaveAuiManagerState, StoresThePerspectiveInAFileOfItsOwn)
+{
+    const TempUserData data;
+    AuiFrame frame;
+    wx_window_state::SaveAuiManagerState(&frame.manager, L"Main");
+    EXPECT_EQ(wxString(Stored(L"Main")), frame.manager.SavePerspective());
+    EXPECT_EQ(Stored(L"Main").rfind(L"layout2|name=tree;caption=Folders;", 0), 0u);
+    EXPECT_TRUE(std::filesystem::is_regular_file(data / "ui_config/wxAuiManagerState.ini"));
+    const std::string file = ReadFile(data / "ui_config/wxAuiManagerState.ini");
+    EXPECT_EQ(file.rfind("[wxAuiManagerState]\nMain=layout2|name=tree;caption=Folders;", 0), 0u) << file;
+    EXPECT_EQ(CLocalRegStore::GetString(L"wxAuiManagerState", L"Main", L"none"), L"none");
+}
+
+TEST(SaveAuiManagerState, KeepsNamesApart)
+{
+    const TempUserData data;
+    AuiFrame frame;
+    wx_window_state::SaveAuiManagerState(&frame.manager, L"one");
+    frame.Pane("log").Hide();
+    frame.manager.Update();
+    wx_window_state::SaveAuiManagerState(&frame.manager, L"two");
+    wx_window_state::SaveAuiManagerState(&frame.manager, nullptr);
+    EXPECT_NE(Stored(L"one"), Stored(L"two"));
+    EXPECT_EQ(Stored(L""), Stored(L"two"));
+    EXPECT_TRUE(wx_window_state::LoadAuiManagerState(&frame.manager, L"one"));
+    EXPECT_TRUE(frame.Pane("log").IsShown());
+    EXPECT_TRUE(wx_window_state::LoadAuiManagerState(&frame.manager, nullptr));
+    EXPECT_FALSE(frame.Pane("log").IsShown());
+}
+
+TEST(LoadAuiManagerState, LeavesAManagerAloneWhenNothingIsStored)
+{
+    const TempUserData data;
+    AuiFrame frame;
+    frame.Pane("log").Hide();  // Not updated yet, and to stay so.
+    const wxString before = frame.manager.SavePerspective();
+    EXPECT_FALSE(wx_window_state::LoadAuiManagerState(&frame.manager, L"Main"));
+    Plant("");
+    EXPECT_FALSE(wx_window_state::LoadAuiManagerState(&frame.manager, L"Main"));
+    EXPECT_EQ(frame.manager.SavePerspective(), before);
+    EXPECT_TRUE(frame.Pane("log").window->IsShown());
+}
+
+/// Rearranges a shown frame as a user would.
+void Rearrange(AuiFrame& frame)
+{
+    frame.Pane("log").Hide();
+    frame.Pane("props").Float().FloatingPosition(820, 300).FloatingSize(230, 180);
+    frame.Pane("tree").Right().Caption("Folders, renamed").BestSize(220, -1);
+    frame.manager.Update();
+}
+
+TEST(LoadAuiManagerState, BringsALayoutBackIntoAnotherWindow)
+{
+    const TempUserData data;
+    wxString stored;
+    {
+        AuiFrame frame;
+        ASSERT_TRUE(ShowAndSettle(&frame));
+        Rearrange(frame);
+        ASSERT_TRUE(PumpUntil([&] { return frame.Pane("props").window->IsShownOnScreen(); }));
+        wx_window_state::SaveAuiManagerState(&frame.manager, L"Main");
+        stored = frame.manager.SavePerspective();
+    }
+    AuiFrame frame;
+    ASSERT_NE(frame.manager.SavePerspective(), stored);
+    EXPECT_TRUE(wx_window_state::LoadAuiManagerState(&frame.manager, L"Main"));
+
+    EXPECT_FALSE(frame.Pane("log").IsShown());
+    EXPECT_TRUE(frame.Pane("props").IsFloating());
+    EXPECT_EQ(frame.Pane("props").floating_size, wxSize(230, 180));
+    EXPECT_EQ(frame.Pane("tree").dock_direction, wxAUI_DOCK_RIGHT);
+    EXPECT_EQ(frame.Pane("tree").caption, "Folders, renamed");
+    EXPECT_EQ(frame.Pane("tree").best_size.x, 220);
+    EXPECT_TRUE(frame.Pane("list").IsShown());
+    EXPECT_EQ(frame.manager.SavePerspective().utf8_string(), stored.utf8_string());
+}
+
+TEST(LoadAuiManagerState, UpdatesTheWindowAtOnce)
+{
+    const TempUserData data;
+    {
+        AuiFrame frame;
+        Rearrange(frame);
+        wx_window_state::SaveAuiManagerState(&frame.manager, L"Main");
+    }
+    AuiFrame frame;
+    ASSERT_TRUE(ShowAndSettle(&frame));
+    ASSERT_TRUE(frame.Pane("log").window->IsShown());
+    ASSERT_LT(frame.Pane("tree").window->GetPosition().x, 100);
+    EXPECT_TRUE(wx_window_state::LoadAuiManagerState(&frame.manager, L"Main"));
+    EXPECT_FALSE(frame.Pane("log").window->IsShown());
+    EXPECT_GT(frame.Pane("tree").window->GetPosition().x, 350);
+    ASSERT_NE(frame.Pane("props").frame, nullptr);
+    EXPECT_TRUE(PumpUntil([&] { return frame.Pane("props").window->IsShownOnScreen(); }));
+}
+
+TEST(LoadAuiManagerState, BringsTheWidthOfADraggedPaneBack)
+{
+    const TempUserData data;
+    {
+        AuiFrame frame;
+        ASSERT_TRUE(ShowAndSettle(&frame));
+        wxString layout = frame.manager.SavePerspective();
+        ASSERT_EQ(layout.Replace("dock_size(4,0,0)=152", "dock_size(4,0,0)=277"), 1u) << layout;
+        frame.manager.LoadPerspective(layout);
+        ASSERT_EQ(frame.Pane("tree").rect.width, 275);  // Without its borders.
+        wx_window_state::SaveAuiManagerState(&frame.manager, L"Main");
+    }
+    AuiFrame frame;
+    ASSERT_TRUE(ShowAndSettle(&frame));
+    EXPECT_TRUE(wx_window_state::LoadAuiManagerState(&frame.manager, L"Main"));
+    EXPECT_EQ(frame.Pane("tree").rect.width, 275);
+}
+
+TEST(LoadAuiManagerState, HidesAPaneThatTheLayoutDoesNotName)
+{
+    const TempUserData data;
+    {
+        AuiFrame frame;
+        wx_window_state::SaveAuiManagerState(&frame.manager, L"Main");
+    }
+    AuiFrame frame;
+    frame.manager.AddPane(new wxPanel(&frame), wxAuiPaneInfo().Name("added").Top().Caption("Added later"));
+    frame.manager.Update();
+    EXPECT_TRUE(wx_window_state::LoadAuiManagerState(&frame.manager, L"Main"));
+    EXPECT_FALSE(frame.Pane("added").IsShown());
+}
+
+TEST(LoadAuiManagerState, TakesALayoutWithPanesThatAreGone)
+{
+    const TempUserData data;
+    {
+        AuiFrame frame;
+        frame.manager.AddPane(new wxPanel(&frame), wxAuiPaneInfo().Name("gone").Top());
+        frame.Pane("log").Hide();
+        frame.manager.Update();
+        wx_window_state::SaveAuiManagerState(&frame.manager, L"Main");
+    }
+    AuiFrame frame;
+    EXPECT_TRUE(wx_window_state::LoadAuiManagerState(&frame.manager, L"Main"));
+    EXPECT_FALSE(frame.Pane("log").IsShown());
+    EXPECT_TRUE(frame.Pane("list").IsShown());
+}
+
+// What the manager makes of the text is not looked at.
+TEST(LoadAuiManagerState, IsTrueForATextThatIsNoLayout)
+{
+    const TempUserData data;
+    AuiFrame frame;
+    const wxString before = frame.manager.SavePerspective();
+    Plant("nonsense");
+    EXPECT_TRUE(wx_window_state::LoadAuiManagerState(&frame.manager, L"Main"));
+    EXPECT_EQ(frame.manager.SavePerspective(), before);
+}
+
+TEST(CorruptLayout, NeverCrashes)
+{
+    const TempUserData data;
+    AuiFrame frame;
+    ASSERT_TRUE(ShowAndSettle(&frame));
+    const wxString whole = frame.manager.SavePerspective();
+    const ExpectAssertions expected;
+    for (std::size_t length = 1; length < whole.length(); length += 7) {
+        Plant(whole.Left(length));
+        EXPECT_TRUE(wx_window_state::LoadAuiManagerState(&frame.manager, L"Main"));
+    }
+    for (const char* layout :
+         {"layout2", "layout2|", "layout2||", "layout2|;;;=", "layout2|name=", "layout2|name=tree",
+          "layout2|dock_size(", "layout2|dock_size(4,0,0)=", "layout2|dock_size(9,9,9)=-5|",
+          "layout2|name=tree;state=4294967295;dir=99;layer=-7;row=-7;pos=-7;prop=-7|", "layout2|\x01\x02|%s%n|"}) {
+        Plant(layout);
+        EXPECT_TRUE(wx_window_state::LoadAuiManagerState(&frame.manager, L"Main"));
+    }
+    Plant(whole);
+    EXPECT_TRUE(wx_window_state::LoadAuiManagerState(&frame.manager, L"Main"));
+    PumpPending();
+    for (const char* name : {"tree", "log", "props", "list"}) {
+        EXPECT_TRUE(frame.Pane(name).IsDocked()) << name;
+        EXPECT_TRUE(frame.Pane(name).window->IsShownOnScreen()) << name;
+    }
+}
+
+}  // namespace

@@ -1,0 +1,275 @@
+#include <fittings/config/wx_window_state.h>
+
+#include <string>
+
+#include <gtest/gtest.h>
+#include <wx/dialog.h>
+#include <wx/log.h>
+
+#include <fittings/platform/local_reg_store.h>
+#include <tests/config/spy_window.h>
+#include <tests/support/gui.h>
+#include <tests/support/temp_folder.h>
+
+namespace {
+
+std::wstring Stored(const wchar_t* name)
+{
+    return CLocalRegStore::GetString(L"wxWindowState", name, L"none");
+}
+
+void Plant(const std::wstring& text, const wchar_t* name = L"w")
+{
+    CLocalRegStore::WriteString(L"wxWindowState", name, text.c_str());
+}
+
+TEST(SaveState, StoresPositionAndSizeOfAWindow)
+{
+    const TempUserData data;
+    SpyFrame frame(wxRect(100, 50, 800, 600));
+    wx_window_state::SaveState(static_cast<wxWindow*>(&frame), L"Main");
+    EXPECT_EQ(Stored(L"Main"), L"100;50;800;600");
+}
+
+TEST(SaveState, StoresNegativeCoordinates)
+{
+    const TempUserData data;
+    SpyFrame frame;
+    frame.SetSize(-1920, -7, 300, 200, wxSIZE_ALLOW_MINUS_ONE);
+    wx_window_state::SaveState(&frame, L"Main");
+    EXPECT_EQ(Stored(L"Main"), L"-1920;-7;300;200");
+}
+
+TEST(SaveState, StoresAChildRelativeToItsParent)
+{
+    const TempUserData data;
+    SpyFrame frame(wxRect(300, 200, 400, 300));
+    wxPanel panel(&frame, wxID_ANY, wxPoint(30, 40), wxSize(200, 100));
+    wx_window_state::SaveState(&panel, L"Panel");
+    EXPECT_EQ(Stored(L"Panel"), L"30;40;200;100");
+}
+
+TEST(SaveState, KeepsNamesApart)
+{
+    const TempUserData data;
+    SpyFrame one(wxRect(100, 50, 800, 600));
+    SpyFrame two(wxRect(200, 80, 500, 400));
+    wx_window_state::SaveState(&one, L"one");
+    wx_window_state::SaveState(&two, L"two");
+    wx_window_state::SaveState(&two, L"");
+    EXPECT_EQ(Stored(L"one"), L"100;50;800;600");
+    EXPECT_EQ(Stored(L"two"), L"200;80;500;400");
+    EXPECT_EQ(Stored(L""), L"200;80;500;400");
+}
+
+TEST(SaveState, TakesANullNameForTheEmptyOne)
+{
+    const TempUserData data;
+    SpyFrame frame(wxRect(100, 50, 800, 600));
+    wx_window_state::SaveState(&frame, nullptr);
+    EXPECT_EQ(Stored(L""), L"100;50;800;600");
+    SpyFrame other;
+    EXPECT_TRUE(wx_window_state::LoadState(&other, nullptr));
+    EXPECT_EQ(other.GetRect(), wxRect(100, 50, 800, 600));
+}
+
+/// Notes the order in which a frame is asked.
+class AskedFrame : public wxFrame
+{
+public:
+    AskedFrame() : wxFrame(nullptr, wxID_ANY, "asked", wxPoint(300, 200), wxSize(400, 300)) { asked.clear(); }
+
+    bool IsMaximized() const override
+    {
+        asked += "maximized ";
+        return wxFrame::IsMaximized();
+    }
+
+    mutable std::string asked;
+
+protected:
+    void DoGetSize(int* width, int* height) const override
+    {
+        asked += "size ";
+        wxFrame::DoGetSize(width, height);
+    }
+    void DoGetPosition(int* x, int* y) const override
+    {
+        asked += "position ";
+        wxFrame::DoGetPosition(x, y);
+    }
+};
+
+TEST(SaveState, AsksAFrameWhetherItIsMaximizedFirst)
+{
+    const TempUserData data;
+    AskedFrame frame;
+    wx_window_state::SaveState(&frame, L"Main");
+    EXPECT_EQ(frame.asked, "maximized size position ");
+}
+
+TEST(SaveState, AsksAnyWindowForItsGeometryAlone)
+{
+    const TempUserData data;
+    AskedFrame frame;
+    wx_window_state::SaveState(static_cast<wxWindow*>(&frame), L"Main");
+    EXPECT_EQ(frame.asked, "size position ");
+    EXPECT_TRUE(CLocalRegStore::GetProfileBool(L"wxWindowMaximize", L"Main", true));
+    EXPECT_FALSE(CLocalRegStore::GetProfileBool(L"wxWindowMaximize", L"Main", false));
+}
+
+TEST(LoadState, BringsAShownFrameBack)
+{
+    const TempUserData data;
+    {
+        SpyFrame frame;
+        ASSERT_TRUE(ShowAndSettle(&frame));
+        frame.SetSize(420, 130, 510, 340);
+        ASSERT_TRUE(PumpUntil([&] { return frame.GetScreenRect() == wxRect(420, 130, 510, 340); }));
+        wx_window_state::SaveState(&frame, L"Main");
+    }
+    EXPECT_EQ(Stored(L"Main"), L"420;130;510;340");
+    SpyFrame frame;
+    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"Main"));
+    ASSERT_TRUE(ShowAndSettle(&frame));
+    EXPECT_EQ(frame.GetScreenRect(), wxRect(420, 130, 510, 340));
+}
+
+TEST(LoadState, BringsADialogBack)
+{
+    const TempUserData data;
+    const long style = wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER;
+    {
+        wxDialog dialog(nullptr, wxID_ANY, "one", wxPoint(250, 150), wxSize(320, 240), style);
+        ASSERT_TRUE(ShowAndSettle(&dialog));
+        dialog.SetSize(250, 150, 320, 240);
+        ASSERT_TRUE(PumpUntil([&] { return dialog.GetScreenRect() == wxRect(250, 150, 320, 240); }));
+        wx_window_state::SaveState(&dialog, L"Dialog");
+    }
+    EXPECT_EQ(Stored(L"Dialog"), L"250;150;320;240");
+    wxDialog dialog(nullptr, wxID_ANY, "two", wxDefaultPosition, wxDefaultSize, style);
+    EXPECT_TRUE(wx_window_state::LoadState(&dialog, L"Dialog"));
+    ASSERT_TRUE(ShowAndSettle(&dialog));
+    EXPECT_EQ(dialog.GetScreenRect(), wxRect(250, 150, 320, 240));
+}
+
+TEST(LoadState, BringsAChildBackInsideItsParent)
+{
+    const TempUserData data;
+    Plant(L"30;40;200;100");
+    SpyFrame frame(wxRect(300, 200, 400, 300));
+    SpyWindow<wxPanel> first(&frame, wxID_ANY);
+    SpyWindow<wxPanel> panel(&frame, wxID_ANY, wxPoint(0, 0), wxSize(50, 50));
+    ASSERT_TRUE(ShowAndSettle(&frame));
+    panel.TakeCalls();
+    EXPECT_TRUE(wx_window_state::LoadState(&panel, L"w"));
+    EXPECT_EQ(panel.TakeCalls(), (SizeCalls{"30;40;200;100 4", "30;40;-1;-1 0"}));
+    EXPECT_EQ(panel.GetRect(), wxRect(30, 40, 200, 100));
+}
+
+/// Counts what is logged.
+class CountingLog : public wxLog
+{
+public:
+    CountingLog() : m_old(SetActiveTarget(this)) {}
+    ~CountingLog() override { SetActiveTarget(m_old); }
+
+    int count = 0;
+
+protected:
+    void DoLogRecord(wxLogLevel, const wxString&, const wxLogRecordInfo&) override { ++count; }
+
+private:
+    wxLog* m_old;
+};
+
+TEST(LoadState, LogsNothingAboutAChildOfAHiddenFrame)
+{
+    const TempUserData data;
+    Plant(L"30;40;200;100");
+    SpyFrame frame;
+    wxPanel panel(&frame, wxID_ANY);
+    CountingLog log;
+    EXPECT_TRUE(wx_window_state::LoadState(&panel, L"w"));
+    EXPECT_EQ(panel.GetRect(), wxRect(30, 40, 200, 100));
+    EXPECT_EQ(log.count, 0);
+}
+
+TEST(LoadState, SetsTheSizeThenThePositionAgain)
+{
+    const TempUserData data;
+    Plant(L"100;50;800;600");
+    SpyFrame frame;
+    EXPECT_TRUE(wx_window_state::LoadState(static_cast<wxWindow*>(&frame), L"w"));
+    EXPECT_EQ(frame.TakeCalls(), (SizeCalls{"100;50;800;600 4", "100;50;-1;-1 0"}));
+    EXPECT_EQ(frame.GetRect(), wxRect(100, 50, 800, 600));
+}
+
+struct Text
+{
+    const char* name;
+    std::wstring text;
+};
+
+class TextThatIsNoGeometry : public testing::TestWithParam<Text>
+{
+};
+
+TEST_P(TextThatIsNoGeometry, ChangesNothing)
+{
+    const TempUserData data;
+    Plant(GetParam().text);
+    CLocalRegStore::WriteProfileBool(L"wxWindowMaximize", L"w", true);
+    SpyFrame frame(wxRect(5000, 5000, 300, 200));
+    EXPECT_FALSE(wx_window_state::LoadState(static_cast<wxWindow*>(&frame), L"w"));
+    EXPECT_FALSE(wx_window_state::LoadState(&frame, L"w"));
+    EXPECT_EQ(frame.TakeCalls(), SizeCalls{});
+    EXPECT_EQ(frame.GetRect(), wxRect(5000, 5000, 300, 200));
+}
+
+INSTANTIATE_TEST_SUITE_P(, TextThatIsNoGeometry,
+                         testing::Values(Text{"Empty", L""}, Text{"Blank", L" "}, Text{"OneField", L"100"},
+                                         Text{"ThreeFields", L"1;2;3"}, Text{"EmptyFourthField", L"100;100;300;"},
+                                         Text{"EmptyThirdField", L"100;100;;200"}, Text{"SemicolonsAlone", L";;;"},
+                                         Text{"Commas", L"100,100,300,200"},
+                                         Text{"BlankBeforeASemicolon", L"100 ;100;300;200"},
+                                         Text{"NotANumber", L"nan;100;300;200"}, Text{"Infinity", L"100;100;inf;200"},
+                                         Text{"Hexadecimal", L"0x64;100;300;200"},
+                                         Text{"Fraction", L"100.5;100;300;200"}, Text{"TwoSigns", L"--1;100;300;200"},
+                                         Text{"LoneSign", L"-;100;300;200"}, Text{"Percent", L"%d;%d;%d;%d"},
+                                         Text{"MegabyteOfDigits", std::wstring(1 << 20, L'7')},
+                                         Text{"MegabyteOfLetters", std::wstring(1 << 20, L'x')},
+                                         Text{"OtherDigits", L"\u0661;\u0662;\u0663\u0663;\u0664\u0664"}),
+                         [](const auto& info) { return info.param.name; });
+
+TEST(LoadState, OfANameThatWasNeverStoredChangesNothing)
+{
+    const TempUserData data;
+    SpyFrame frame(wxRect(5000, 5000, 300, 200));
+    EXPECT_FALSE(wx_window_state::LoadState(&frame, L"w"));
+    EXPECT_EQ(frame.TakeCalls(), SizeCalls{});
+}
+
+class TextReadLeniently : public testing::TestWithParam<Text>
+{
+};
+
+TEST_P(TextReadLeniently, GivesTheGeometry)
+{
+    const TempUserData data;
+    Plant(GetParam().text);
+    SpyFrame frame;
+    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    EXPECT_EQ(frame.GetRect(), wxRect(100, 200, 300, 400));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , TextReadLeniently,
+    testing::Values(Text{"AsWritten", L"100;200;300;400"}, Text{"BlanksBeforeNumbers", L" 100; 200;\t300;\n400"},
+                    Text{"TextBehind", L"100;200;300;400trailing"}, Text{"FieldsBehind", L"100;200;300;400;500;600"},
+                    Text{"PlusSigns", L"+100;+200;+300;+400"}, Text{"ZerosBefore", L"0100;00200;000300;0000400"},
+                    Text{"MegabyteBehind", L"100;200;300;400" + std::wstring(1 << 20, L'x')},
+                    Text{"MegabyteOfZeros", std::wstring(1 << 20, L'0') + L"100;200;300;400"}),
+    [](const auto& info) { return info.param.name; });
+
+}  // namespace

@@ -1,0 +1,284 @@
+#include <fittings/config/wx_window_state.h>
+
+#include <memory>
+#include <string>
+
+#include <gtest/gtest.h>
+#include <wx/app.h>
+#include <wx/frame.h>
+
+#include <fittings/platform/local_reg_store.h>
+#include <tests/support/gui.h>
+#include <tests/support/temp_folder.h>
+
+namespace {
+
+/// Counts the calls to maximise it.
+class CountingFrame : public wxFrame
+{
+public:
+    CountingFrame() : wxFrame(nullptr, wxID_ANY, "counting", wxPoint(300, 200), wxSize(400, 300)) {}
+
+    void Maximize(bool maximize = true) override
+    {
+        ++(maximize ? maximized : restored);
+        wxFrame::Maximize(maximize);
+    }
+
+    int maximized = 0;
+    int restored = 0;
+};
+
+void Plant(const wchar_t* geometry, bool maximized)
+{
+    CLocalRegStore::WriteString(L"wxWindowState", L"w", geometry);
+    CLocalRegStore::WriteProfileBool(L"wxWindowMaximize", L"w", maximized);
+}
+
+bool StoredFlag(bool otherwise)
+{
+    return CLocalRegStore::GetProfileBool(L"wxWindowMaximize", L"w", otherwise);
+}
+
+bool MaximizeAndSettle(wxFrame* frame)
+{
+    frame->Maximize();
+    return PumpUntil([&] { return frame->IsMaximized() && frame->GetSize() == wxSize(1264, 960); });
+}
+
+/// Posts what the toolkit posts when a frame was maximised.
+void PostMaximizeEvent(wxFrame* frame, wxObject* object)
+{
+    wxMaximizeEvent event(frame->GetId());
+    event.SetEventObject(object);
+    wxPostEvent(frame, event);
+}
+
+TEST(SaveStateOfAFrame, StoresThatItIsNotMaximized)
+{
+    const TempUserData data;
+    CountingFrame frame;
+    ASSERT_TRUE(ShowAndSettle(&frame));
+    wx_window_state::SaveState(&frame, L"w");
+    EXPECT_FALSE(StoredFlag(true));
+    EXPECT_EQ(CLocalRegStore::GetString(L"wxWindowState", L"w", L""), L"300;200;400;300");
+}
+
+TEST(SaveStateOfAFrame, StoresTheMaximizedGeometryAndTheFlag)
+{
+    const TempUserData data;
+    CountingFrame frame;
+    ASSERT_TRUE(ShowAndSettle(&frame));
+    ASSERT_TRUE(MaximizeAndSettle(&frame));
+    wx_window_state::SaveState(&frame, L"w");
+    EXPECT_TRUE(StoredFlag(false));
+    const wxRect rect = frame.GetRect();
+    EXPECT_EQ(wxString(CLocalRegStore::GetString(L"wxWindowState", L"w", L"")),
+              wxString::Format("%d;%d;1264;960", rect.x, rect.y));
+}
+
+TEST(SaveStateOfAFrame, StoresAgainThatItIsNotMaximizedAnyMore)
+{
+    const TempUserData data;
+    Plant(L"100;100;300;200", true);
+    CountingFrame frame;
+    wx_window_state::SaveState(&frame, L"w");
+    EXPECT_FALSE(StoredFlag(true));
+}
+
+TEST(LoadStateOfAFrame, MaximizesOnALaterTurnOfTheEventLoop)
+{
+    const TempUserData data;
+    Plant(L"100;100;300;200", true);
+    CountingFrame frame;
+    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    EXPECT_EQ(frame.GetRect(), wxRect(100, 100, 300, 200));
+    EXPECT_EQ(frame.maximized, 0);
+    EXPECT_FALSE(frame.IsMaximized());
+
+    wxTheApp->ProcessPendingEvents();
+    EXPECT_EQ(frame.maximized, 1);
+
+    ASSERT_TRUE(ShowAndSettle(&frame));
+    EXPECT_TRUE(PumpUntil([&] { return frame.IsMaximized(); }));
+    EXPECT_TRUE(PumpUntil([&] { return frame.GetSize() == wxSize(1264, 960); }));
+    EXPECT_EQ(frame.maximized, 1);
+    EXPECT_EQ(frame.restored, 0);
+}
+
+TEST(LoadStateOfAFrame, MaximizesAShownFrameLaterToo)
+{
+    const TempUserData data;
+    Plant(L"100;100;300;200", true);
+    CountingFrame frame;
+    ASSERT_TRUE(ShowAndSettle(&frame));
+    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    EXPECT_EQ(frame.maximized, 0);
+    EXPECT_FALSE(frame.IsMaximized());
+    EXPECT_TRUE(PumpUntil([&] { return frame.IsMaximized(); }));
+    EXPECT_EQ(frame.maximized, 1);
+}
+
+TEST(LoadStateOfAFrame, LeavesItAsItIsWhenTheFlagIsNotSet)
+{
+    const TempUserData data;
+    Plant(L"100;100;300;200", false);
+    CountingFrame frame;
+    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    ASSERT_TRUE(ShowAndSettle(&frame));
+    EXPECT_EQ(frame.maximized, 0);
+    EXPECT_EQ(frame.restored, 0);
+    EXPECT_FALSE(frame.IsMaximized());
+}
+
+TEST(LoadStateOfAFrame, LeavesItAsItIsWhenThereIsNoFlag)
+{
+    const TempUserData data;
+    CLocalRegStore::WriteString(L"wxWindowState", L"w", L"100;100;300;200");
+    CountingFrame frame;
+    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    PumpPending();
+    EXPECT_EQ(frame.maximized, 0);
+}
+
+TEST(LoadStateOfAFrame, DoesNotAskForTheFlagWithoutAGeometry)
+{
+    const TempUserData data;
+    Plant(L"1;2;3", true);
+    CountingFrame frame;
+    EXPECT_FALSE(wx_window_state::LoadState(&frame, L"w"));
+    PumpPending();
+    EXPECT_EQ(frame.maximized, 0);
+}
+
+TEST(LoadStateOfAFrame, MaximizesWhenTheStoredSizeIsTooSmallToBeApplied)
+{
+    const TempUserData data;
+    Plant(L"100;100;5;600", true);
+    CountingFrame frame;
+    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    EXPECT_EQ(frame.GetRect(), wxRect(300, 200, 400, 300));
+    PumpPending();
+    EXPECT_EQ(frame.maximized, 1);
+}
+
+TEST(LoadStateOfAWindow, LeavesTheFlagAlone)
+{
+    const TempUserData data;
+    Plant(L"100;100;300;200", true);
+    CountingFrame frame;
+    EXPECT_TRUE(wx_window_state::LoadState(static_cast<wxWindow*>(&frame), L"w"));
+    PumpPending();
+    EXPECT_EQ(frame.maximized, 0);
+}
+
+TEST(MaximizedFrame, ComesBackMaximized)
+{
+    const TempUserData data;
+    {
+        CountingFrame frame;
+        ASSERT_TRUE(ShowAndSettle(&frame));
+        ASSERT_TRUE(MaximizeAndSettle(&frame));
+        wx_window_state::SaveState(&frame, L"w");
+    }
+    CountingFrame frame;
+    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    ASSERT_TRUE(ShowAndSettle(&frame));
+    EXPECT_TRUE(PumpUntil([&] { return frame.IsMaximized() && frame.GetSize() == wxSize(1264, 960); }));
+    EXPECT_EQ(frame.maximized, 1);
+}
+
+TEST(MaximizeFrame, ActsOnce)
+{
+    CountingFrame frame;
+    ASSERT_TRUE(ShowAndSettle(&frame));
+    wx_window_state::MaximizeFrame(&frame);
+    ASSERT_TRUE(PumpUntil([&] { return frame.IsMaximized(); }));
+    frame.Maximize(false);
+    ASSERT_TRUE(PumpUntil([&] { return !frame.IsMaximized() && frame.GetRect() == wxRect(300, 200, 400, 300); }));
+
+    PostMaximizeEvent(&frame, &frame);
+    wxTheApp->ProcessPendingEvents();
+    PumpPending();
+    EXPECT_EQ(frame.maximized, 1);
+    EXPECT_FALSE(frame.IsMaximized());
+}
+
+TEST(MaximizeFrame, IsUnboundBeforeItMaximizes)
+{
+    class EventInMaximize : public wxFrame
+    {
+    public:
+        EventInMaximize() : wxFrame(nullptr, wxID_ANY, "event") {}
+        void Maximize(bool) override
+        {
+            ++calls;
+            wxMaximizeEvent event(GetId());
+            event.SetEventObject(this);
+            if (calls < 5)
+                HandleWindowEvent(event);
+        }
+        int calls = 0;
+    };
+    EventInMaximize frame;
+    wx_window_state::MaximizeFrame(&frame);
+    wxTheApp->ProcessPendingEvents();
+    EXPECT_EQ(frame.calls, 1);
+}
+
+TEST(MaximizeFrame, LetsTheHostsHandlersSeeTheToolkitsEvents)
+{
+    CountingFrame frame;
+    int seen = 0;
+    frame.Bind(wxEVT_MAXIMIZE, [&](wxMaximizeEvent& event) {
+        ++seen;
+        event.Skip();
+    });
+    wx_window_state::MaximizeFrame(&frame);
+    wxTheApp->ProcessPendingEvents();
+    EXPECT_EQ(frame.maximized, 1);
+    const int before = seen;
+    PostMaximizeEvent(&frame, &frame);
+    wxTheApp->ProcessPendingEvents();
+    EXPECT_EQ(seen, before + 1);
+    EXPECT_EQ(frame.maximized, 1);
+}
+
+TEST(MaximizeFrame, CalledTwiceMaximizesTwice)
+{
+    CountingFrame frame;
+    wx_window_state::MaximizeFrame(&frame);
+    wx_window_state::MaximizeFrame(&frame);
+    wxTheApp->ProcessPendingEvents();
+    EXPECT_EQ(frame.maximized, 2);
+    PostMaximizeEvent(&frame, &frame);
+    wxTheApp->ProcessPendingEvents();
+    EXPECT_EQ(frame.maximized, 2);
+}
+
+TEST(MaximizeFrame, IgnoresAnEventThatNamesNoFrame)
+{
+    CountingFrame frame;
+    PostMaximizeEvent(&frame, nullptr);
+    wx_window_state::MaximizeFrame(&frame);
+    wxTheApp->ProcessPendingEvents();
+    EXPECT_EQ(frame.maximized, 1);
+}
+
+TEST(MaximizeFrame, ForgetsAFrameThatIsGoneBeforeItsTurn)
+{
+    auto frame = std::make_unique<CountingFrame>();
+    wx_window_state::MaximizeFrame(frame.get());
+    frame.reset();
+    wxTheApp->ProcessPendingEvents();
+    PumpPending();
+
+    auto* destroyed = new CountingFrame;
+    ASSERT_TRUE(ShowAndSettle(destroyed));
+    wx_window_state::MaximizeFrame(destroyed);
+    destroyed->Destroy();
+    PumpPending();
+    PumpPending();
+}
+
+}  // namespace

@@ -1,0 +1,257 @@
+// The display of these tests is 1280 x 1024 with the work area 16;24;1264;960.
+
+#include <fittings/config/wx_window_state.h>
+
+#include <climits>
+#include <string>
+
+#include <gtest/gtest.h>
+#include <wx/display.h>
+
+#include <fittings/platform/local_reg_store.h>
+#include <tests/config/spy_window.h>
+#include <tests/support/gui.h>
+#include <tests/support/temp_folder.h>
+
+namespace {
+
+void Plant(const std::wstring& text)
+{
+    CLocalRegStore::WriteString(L"wxWindowState", L"w", text.c_str());
+}
+
+TEST(Display, HasTheWorkAreaThatTheseTestsExpect)
+{
+    ASSERT_EQ(wxDisplay::GetCount(), 1u);
+    EXPECT_EQ(wxDisplay(0u).GetGeometry(), wxRect(0, 0, 1280, 1024));
+    EXPECT_EQ(wxDisplay(0u).GetClientArea(), wxRect(16, 24, 1264, 960));
+}
+
+/// A stored geometry, the calls that follow setting it, and what the window comes to.
+struct Restored
+{
+    const char* name;
+    const wchar_t* stored;
+    SizeCalls calls;
+    wxRect rect;
+};
+
+void PrintTo(const Restored& restored, std::ostream* out)
+{
+    *out << restored.name;
+}
+
+class StoredGeometry : public testing::TestWithParam<Restored>
+{
+};
+
+TEST_P(StoredGeometry, ComesOntoTheDisplay)
+{
+    const TempUserData data;
+    Plant(GetParam().stored);
+    SpyFrame frame;
+    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    SizeCalls calls = frame.TakeCalls();
+    ASSERT_GE(calls.size(), 2u);
+    calls.erase(calls.begin(), calls.begin() + 2);
+    EXPECT_EQ(calls, GetParam().calls);
+    EXPECT_EQ(frame.GetRect(), GetParam().rect);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , StoredGeometry,
+    testing::Values(
+        Restored{"Inside", L"100;100;300;200", {}, wxRect(100, 100, 300, 200)},
+        Restored{"ElevenByEleven", L"100;100;11;11", {}, wxRect(100, 100, 11, 11)},
+        Restored{"ExactlyTheWorkArea", L"16;24;1264;960", {}, wxRect(16, 24, 1264, 960)},
+        Restored{"OnePixelTooFarRight", L"17;24;1264;960", {"17;24;1263;960 3"}, wxRect(17, 24, 1263, 960)},
+        Restored{"OnePixelTooFarDown", L"16;25;1264;960", {"16;25;1264;959 3"}, wxRect(16, 25, 1264, 959)},
+        Restored{"OnePixelTooFarLeft", L"15;24;300;200", {"16;24;299;200 3"}, wxRect(16, 24, 299, 200)},
+        Restored{"OnePixelTooFarUp", L"16;23;300;200", {"16;24;300;199 3"}, wxRect(16, 24, 300, 199)},
+        Restored{"OutOnTheLeft", L"-100;100;300;200", {"16;100;184;200 3"}, wxRect(16, 100, 184, 200)},
+        Restored{"OutAtTheTop", L"100;-50;300;200", {"100;24;300;126 3"}, wxRect(100, 24, 300, 126)},
+        Restored{"OutOnTheRight", L"1100;100;300;200", {"1100;100;180;200 3"}, wxRect(1100, 100, 180, 200)},
+        Restored{"OutAtTheBottom", L"100;900;300;200", {"100;900;300;84 3"}, wxRect(100, 900, 300, 84)},
+        Restored{"OutAtACorner", L"1200;950;300;200", {"1200;950;80;34 3"}, wxRect(1200, 950, 80, 34)},
+        Restored{"Oversize", L"0;0;3000;3000", {"16;24;1264;960 3"}, wxRect(16, 24, 1264, 960)},
+        Restored{"OversizeAllRound", L"-500;-500;9000;9000", {"16;24;1264;960 3"}, wxRect(16, 24, 1264, 960)},
+        Restored{"OffTheRight", L"5000;5000;300;200", {"0;0;-1;-1 0", "16;24;284;176 3"}, wxRect(16, 24, 284, 176)},
+        Restored{"OffTheLeft", L"-5000;100;300;200", {"0;0;-1;-1 0", "16;24;284;176 3"}, wxRect(16, 24, 284, 176)},
+        Restored{"JustOff", L"1280;100;300;200", {"0;0;-1;-1 0", "16;24;284;176 3"}, wxRect(16, 24, 284, 176)},
+        Restored{"JustOn", L"1279;100;300;200", {"1279;100;1;200 3"}, wxRect(1279, 100, 1, 200)},
+        Restored{"JustAbove", L"100;-200;300;200", {"0;0;-1;-1 0", "16;24;284;176 3"}, wxRect(16, 24, 284, 176)},
+        Restored{
+            "OffAndOversize", L"5000;5000;3000;3000", {"0;0;-1;-1 0", "16;24;1264;960 3"}, wxRect(16, 24, 1264, 960)},
+        // On the display, but wholly under a panel: nothing of these would be left.
+        Restored{"UnderTheBottomPanel", L"100;990;300;30", {"100;954;300;30 3"}, wxRect(100, 954, 300, 30)},
+        Restored{"UnderTheTopPanel", L"100;-180;300;200", {"100;24;300;200 3"}, wxRect(100, 24, 300, 200)},
+        Restored{"UnderTheLeftPanel", L"-290;100;300;200", {"16;100;300;200 3"}, wxRect(16, 100, 300, 200)},
+        Restored{"UnderTheBottomPanelOversize", L"-9;984;3000;2000", {"16;24;1264;960 3"}, wxRect(16, 24, 1264, 960)},
+        Restored{"OffAndLow", L"5000;5000;300;20", {"0;0;-1;-1 0", "16;24;300;20 3"}, wxRect(16, 24, 300, 20)},
+        // The window manager is to choose the place.
+        Restored{"NoPosition", L"-1;-1;300;200", {}, wxRect(-1, -1, 300, 200)},
+        Restored{"NoPositionOversize", L"-1;-1;1280;1024", {"16;24;1264;960 3"}, wxRect(16, 24, 1264, 960)},
+        Restored{"HalfAPosition", L"-1;100;300;200", {"16;100;283;200 3"}, wxRect(16, 100, 283, 200)}),
+    [](const auto& info) { return info.param.name; });
+
+/// The first two calls, for sizes that are applied and sizes that are not.
+TEST(StoredPositionMinusOne, IsApplied)
+{
+    const TempUserData data;
+    Plant(L"-1;-1;300;200");
+    SpyFrame frame;
+    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    EXPECT_EQ(frame.TakeCalls(), (SizeCalls{"-1;-1;300;200 4", "-1;-1;-1;-1 0"}));
+}
+
+class StoredSizeTooSmall : public testing::TestWithParam<const wchar_t*>
+{
+};
+
+TEST_P(StoredSizeTooSmall, LeavesTheWindowWhereItIs)
+{
+    const TempUserData data;
+    Plant(GetParam());
+    SpyFrame frame(wxRect(300, 200, 400, 300));
+    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    EXPECT_EQ(frame.TakeCalls(), SizeCalls{});
+    EXPECT_EQ(frame.GetRect(), wxRect(300, 200, 400, 300));
+}
+
+TEST_P(StoredSizeTooSmall, PullsAWindowOntoTheDisplayAllTheSame)
+{
+    const TempUserData data;
+    Plant(GetParam());
+    SpyFrame frame(wxRect(5000, 5000, 400, 300));
+    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    EXPECT_EQ(frame.TakeCalls(), (SizeCalls{"0;0;-1;-1 0", "16;24;384;276 3"}));
+    EXPECT_EQ(frame.GetRect(), wxRect(16, 24, 384, 276));
+}
+
+INSTANTIATE_TEST_SUITE_P(, StoredSizeTooSmall,
+                         testing::Values(L"100;100;5;600", L"100;100;600;5", L"100;100;10;600", L"100;100;600;10",
+                                         L"100;100;10;10", L"100;100;0;0", L"100;100;-300;200", L"100;100;300;-200",
+                                         L"5000;5000;10;10", L"100;100;-2147483648;2147483647"));
+
+/// Numbers far beyond what a display takes.
+class HugeGeometry : public testing::TestWithParam<const wchar_t*>
+{
+};
+
+TEST_P(HugeGeometry, EndsInsideTheWorkArea)
+{
+    const TempUserData data;
+    Plant(GetParam());
+    SpyFrame frame;
+    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    ASSERT_TRUE(ShowAndSettle(&frame));
+    EXPECT_TRUE(wxRect(16, 24, 1264, 960).Contains(frame.GetScreenRect()));
+    EXPECT_GT(frame.GetClientSize().x, 10);
+    EXPECT_GT(frame.GetClientSize().y, 10);
+}
+
+TEST_P(HugeGeometry, EndsInsideTheWorkAreaOfAShownWindow)
+{
+    const TempUserData data;
+    Plant(GetParam());
+    SpyFrame frame;
+    ASSERT_TRUE(ShowAndSettle(&frame));
+    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    const wxRect expected = frame.GetRect();
+    EXPECT_TRUE(PumpUntil([&] { return frame.GetScreenRect() == expected; }));
+    EXPECT_TRUE(wxRect(16, 24, 1264, 960).Contains(frame.GetScreenRect()));
+    EXPECT_GT(frame.GetClientSize().x, 10);
+    EXPECT_GT(frame.GetClientSize().y, 10);
+}
+
+INSTANTIATE_TEST_SUITE_P(, HugeGeometry,
+                         testing::Values(L"2147483647;2147483647;2147483647;2147483647",
+                                         L"-2147483648;-2147483648;2147483647;2147483647",
+                                         L"2147483647;2147483647;300;200", L"-2147483648;-2147483648;300;200",
+                                         L"100;100;2147483647;2147483647", L"0;0;40000;40000", L"-100;-100;32768;32768",
+                                         L"99999999999;99999999999;99999999999;99999999999",
+                                         L"-99999999999999999999;0;99999999999999999999;300",
+                                         L"4294967396;4294967396;4294967596;4294967496"));
+
+TEST(NumberOfAMegabyte, IsTheLargest)
+{
+    const TempUserData data;
+    const std::wstring huge(1 << 20, L'7');
+    Plant(huge + L";-" + huge + L";" + huge + L";" + huge);
+    SpyFrame frame;
+    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    EXPECT_EQ(frame.GetRect(), wxRect(16, 24, 1264, 960));
+}
+
+TEST(FrameFromAMissingMonitor, IsShownClipped)
+{
+    const TempUserData data;
+    Plant(L"5000;5000;300;200");
+    SpyFrame frame;
+    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    ASSERT_TRUE(ShowAndSettle(&frame));
+    EXPECT_EQ(frame.GetScreenRect(), wxRect(16, 24, 284, 176));
+}
+
+TEST(FrameUnderAPanel, IsShownBesideIt)
+{
+    const TempUserData data;
+    Plant(L"100;-180;300;200");
+    SpyFrame frame;
+    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    ASSERT_TRUE(ShowAndSettle(&frame));
+    EXPECT_EQ(frame.GetScreenRect(), wxRect(100, 24, 300, 200));
+}
+
+TEST(ShownFrame, IsClippedToo)
+{
+    const TempUserData data;
+    Plant(L"1100;900;300;200");
+    SpyFrame frame;
+    ASSERT_TRUE(ShowAndSettle(&frame));
+    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    EXPECT_TRUE(PumpUntil([&] { return frame.GetScreenRect() == wxRect(1100, 900, 180, 84); }));
+}
+
+// Moving the child to its parent's corner does not bring it onto a display.
+TEST(ChildOfAFrameThatIsOffEveryDisplay, StaysAtTheParentsCorner)
+{
+    const TempUserData data;
+    Plant(L"30;40;200;100");
+    SpyFrame frame(wxRect(5000, 5000, 400, 300));
+    SpyWindow<wxPanel> panel(&frame, wxID_ANY);
+    panel.TakeCalls();
+    EXPECT_FALSE(wx_window_state::LoadState(&panel, L"w"));
+    EXPECT_EQ(panel.TakeCalls(), (SizeCalls{"30;40;200;100 4", "30;40;-1;-1 0", "0;0;-1;-1 0"}));
+    EXPECT_EQ(panel.GetRect(), wxRect(0, 0, 200, 100));
+}
+
+// A child's own position is measured against the work area, as a top-level window's is.
+TEST(ChildAtItsParentsCorner, IsClippedByItsOwnPosition)
+{
+    const TempUserData data;
+    Plant(L"0;0;200;100");
+    SpyFrame frame;
+    SpyWindow<wxPanel> panel(&frame, wxID_ANY);
+    panel.TakeCalls();
+    EXPECT_TRUE(wx_window_state::LoadState(&panel, L"w"));
+    EXPECT_EQ(panel.TakeCalls(), (SizeCalls{"0;0;200;100 4", "0;0;-1;-1 0", "16;24;184;76 3"}));
+}
+
+TEST(GrandchildOfAHiddenFrame, IsOffTheDisplayWithTheParentsAbove)
+{
+    const TempUserData data;
+    Plant(L"30;40;200;100");
+    SpyFrame frame(wxRect(-390, 100, 400, 300));
+    wxPanel outer(&frame, wxID_ANY, wxPoint(0, 0), wxSize(380, 280));
+    SpyWindow<wxPanel> inner(&outer, wxID_ANY);
+    outer.SetSize(0, 0, 380, 280);
+    inner.TakeCalls();
+    EXPECT_FALSE(wx_window_state::LoadState(&inner, L"w"));
+    outer.SetSize(200, 0, 380, 280);
+    inner.TakeCalls();
+    EXPECT_TRUE(wx_window_state::LoadState(&inner, L"w"));
+    EXPECT_EQ(inner.TakeCalls(), (SizeCalls{"30;40;200;100 4", "30;40;-1;-1 0"}));
+}
+
+}  // namespace

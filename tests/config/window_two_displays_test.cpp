@@ -1,0 +1,81 @@
+// Two displays, side by side: 0;0;640;1024 and 640;0;640;1024. A virtual X server has one alone, so this program defines
+// the functions that the toolkit asks about displays, which takes the place of GDK's.
+
+#include <fittings/config/wx_window_state.h>
+
+#include <gdk/gdk.h>
+#include <gtest/gtest.h>
+#include <wx/display.h>
+
+#include <fittings/platform/local_reg_store.h>
+#include <tests/config/spy_window.h>
+#include <tests/support/gui.h>
+#include <tests/support/temp_folder.h>
+
+extern "C" {
+
+int gdk_screen_get_n_monitors(GdkScreen*)
+{
+    return 2;
+}
+
+void gdk_screen_get_monitor_geometry(GdkScreen*, int number, GdkRectangle* geometry)
+{
+    *geometry = number == 1 ? GdkRectangle{640, 0, 640, 1024} : GdkRectangle{0, 0, 640, 1024};
+}
+
+void gdk_screen_get_monitor_workarea(GdkScreen*, int number, GdkRectangle* area)
+{
+    *area = number == 1 ? GdkRectangle{640, 24, 640, 960} : GdkRectangle{16, 24, 624, 960};
+}
+}
+
+namespace {
+
+void Plant(const wchar_t* text)
+{
+    CLocalRegStore::WriteString(L"wxWindowState", L"w", text);
+}
+
+TEST(Displays, AreThoseThatTheseTestsExpect)
+{
+    ASSERT_EQ(wxDisplay::GetCount(), 2u);
+    EXPECT_EQ(wxDisplay(0u).GetGeometry(), wxRect(0, 0, 640, 1024));
+    EXPECT_EQ(wxDisplay(1u).GetGeometry(), wxRect(640, 0, 640, 1024));
+    EXPECT_EQ(wxDisplay(0u).GetClientArea(), wxRect(16, 24, 624, 960));
+    EXPECT_EQ(wxDisplay(1u).GetClientArea(), wxRect(640, 24, 640, 960));
+}
+
+struct Restored
+{
+    const char* name;
+    const wchar_t* stored;
+    wxRect rect;
+};
+
+class StoredOnTwoDisplays : public testing::TestWithParam<Restored>
+{
+};
+
+TEST_P(StoredOnTwoDisplays, ComesOntoTheOneThatShowsMostOfIt)
+{
+    const TempUserData data;
+    Plant(GetParam().stored);
+    SpyFrame frame;
+    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    EXPECT_EQ(frame.GetRect(), GetParam().rect);
+    ASSERT_TRUE(ShowAndSettle(&frame));
+    EXPECT_EQ(frame.GetScreenRect(), GetParam().rect);
+}
+
+INSTANTIATE_TEST_SUITE_P(, StoredOnTwoDisplays,
+                         testing::Values(Restored{"OnTheFirst", L"100;100;300;200", wxRect(100, 100, 300, 200)},
+                                         Restored{"OnTheSecond", L"700;100;300;200", wxRect(700, 100, 300, 200)},
+                                         Restored{"MostlyOnTheFirst", L"450;100;300;200", wxRect(450, 100, 190, 200)},
+                                         Restored{"MostlyOnTheSecond", L"550;100;300;200", wxRect(640, 100, 210, 200)},
+                                         Restored{"EquallyOnBoth", L"490;100;300;200", wxRect(490, 100, 150, 200)},
+                                         Restored{"OutOfTheSecond", L"1100;900;300;200", wxRect(1100, 900, 180, 84)},
+                                         Restored{"OffBoth", L"1300;100;300;200", wxRect(16, 24, 284, 176)}),
+                         [](const auto& info) { return info.param.name; });
+
+}  // namespace
