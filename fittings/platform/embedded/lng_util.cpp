@@ -1,5 +1,9 @@
 #include <fittings/platform/lng_util.h>
 
+#include <dlfcn.h>
+
+#include <filesystem>
+#include <system_error>
 #include <unordered_set>
 
 #include <wx/string.h>
@@ -16,13 +20,28 @@ const wchar_t* Intern(const std::wstring& text)
     return texts.insert(text).first->c_str();
 }
 
+// The installed catalogues, from where this library stands: the prefix may have been moved. Empty when that is unknown.
+wxString CatalogueFolder()
+{
+    Dl_info library;
+    std::error_code error;
+    if (!dladdr(&LIBRARY_DOMAIN, &library))
+        return {};
+    const std::filesystem::path file = std::filesystem::canonical(library.dli_fname, error);
+    if (error)
+        return {};
+    return wxString((file.parent_path() / FITTINGS_LOCALE_DIR).lexically_normal().c_str(), *wxConvFileName);
+}
+
 // The host may replace its translations at any time, so whether ours are among them is asked for at every look-up.
 void LoadOwnCatalogue(wxTranslations& translations)
 {
     if (translations.IsLoaded(LIBRARY_DOMAIN))
         return;
     static const bool searched = [] {
-        wxFileTranslationsLoader::AddCatalogLookupPathPrefix(wxString::FromUTF8(FITTINGS_LOCALE_DIR));
+        const wxString folder = CatalogueFolder();
+        if (!folder.empty())
+            wxFileTranslationsLoader::AddCatalogLookupPathPrefix(folder);
         return true;
     }();
     static_cast<void>(searched);
