@@ -1,0 +1,184 @@
+// The platform interfaces over a map. Nothing outlives the process.
+
+#include "memory_platform.h"
+
+#include <set>
+
+#include <fittings/platform/file_util_ex.h>
+#include <fittings/platform/lng_util.h>
+#include <fittings/platform/local_reg_store.h>
+#include <fittings/platform/std_file_paths.h>
+
+class CIniFile
+{
+public:
+    std::map<std::pair<std::wstring, std::wstring>, std::wstring> values;
+};
+
+namespace {
+
+MemoryStore g_store;
+std::set<std::wstring> g_files;
+std::set<std::wstring> g_folders;
+std::wstring g_userDataDir;
+
+std::wstring Text(const wchar_t* text)
+{
+    return text ? text : L"";
+}
+
+// The texts of this host are ASCII.
+std::wstring Widened(const char* text)
+{
+    return text ? std::wstring(text, text + std::char_traits<char>::length(text)) : std::wstring();
+}
+
+}  // namespace
+
+const MemoryStore& GetMemoryStore()
+{
+    return g_store;
+}
+
+CIniFile* CLocalRegStore::CreateInitFile(bool)
+{
+    return new CIniFile;
+}
+
+bool CLocalRegStore::Load(CIniFile& ini, const wchar_t* path)
+{
+    ini.values.clear();
+    for (const auto& [address, value] : g_store) {
+        const auto& [file, section, key] = address;
+        if (file == Text(path))
+            ini.values[{section, key}] = value;
+    }
+    return g_files.count(Text(path)) != 0;
+}
+
+std::wstring CLocalRegStore::GetString(const CIniFile& ini, const wchar_t* section, const wchar_t* key,
+                                       const wchar_t* defaultValue)
+{
+    const auto found = ini.values.find({Text(section), Text(key)});
+    return found == ini.values.end() ? Text(defaultValue) : found->second;
+}
+
+void CLocalRegStore::WriteString(CIniFile& ini, const wchar_t* section, const wchar_t* key, const wchar_t* value)
+{
+    ini.values[{Text(section), Text(key)}] = Text(value);
+}
+
+bool CLocalRegStore::Save(const CIniFile& ini, const wchar_t* path)
+{
+    g_files.insert(Text(path));
+    for (const auto& [address, value] : ini.values)
+        g_store[{Text(path), address.first, address.second}] = value;
+    return true;
+}
+
+void CLocalRegStore::DestroyIniFile(CIniFile* ini)
+{
+    delete ini;
+}
+
+std::wstring CLocalRegStore::GetString(const wchar_t* section, const wchar_t* key, const wchar_t* defaultValue)
+{
+    const auto found = g_store.find({L"", Text(section), Text(key)});
+    return found == g_store.end() ? Text(defaultValue) : found->second;
+}
+
+bool CLocalRegStore::WriteString(const wchar_t* section, const wchar_t* key, const wchar_t* value)
+{
+    g_store[{L"", Text(section), Text(key)}] = Text(value);
+    return true;
+}
+
+bool CLocalRegStore::GetProfileBool(const wchar_t* section, const wchar_t* key, bool defaultValue)
+{
+    return GetString(section, key, defaultValue ? L"yes" : L"no") == L"yes";
+}
+
+bool CLocalRegStore::WriteProfileBool(const wchar_t* section, const wchar_t* key, bool value)
+{
+    return WriteString(section, key, value ? L"yes" : L"no");
+}
+
+bool CLocalRegStore::DeleteProfile(const wchar_t* section, const wchar_t* key)
+{
+    g_store.erase({L"", Text(section), Text(key)});
+    return true;
+}
+
+std::string CLocalRegStore::GetString(const char* section, const char* key, const char* defaultValue)
+{
+    return file_util_ex::ConvertToUTF8(
+        GetString(Widened(section).c_str(), Widened(key).c_str(), Widened(defaultValue).c_str()));
+}
+
+bool CLocalRegStore::WriteString(const char* section, const char* key, const char* value)
+{
+    return WriteString(Widened(section).c_str(), Widened(key).c_str(), Widened(value).c_str());
+}
+
+std::wstring file_util_ex::MakePath(const CStdStr<wchar_t>& dir, const CStdStr<wchar_t>& name)
+{
+    return GetPathWithSep(dir.c_str()) + name;
+}
+
+bool file_util_ex::DoesDirExist(const CStdStr<wchar_t>& path)
+{
+    return g_folders.count(path) != 0;
+}
+
+bool file_util_ex::Mkdir(const CStdStr<wchar_t>& path)
+{
+    g_folders.insert(path);
+    return true;
+}
+
+std::wstring file_util_ex::GetPathWithSep(const wchar_t* path)
+{
+    const std::wstring text = RemoveBackSlash(path);
+    return text.empty() || text == L"/" ? text : text + L"/";
+}
+
+std::wstring file_util_ex::RemoveBackSlash(const wchar_t* path)
+{
+    std::wstring text = Text(path);
+    if (text.size() > 1 && text.back() == L'/')
+        text.pop_back();
+    return text;
+}
+
+std::string file_util_ex::ConvertToUTF8(const std::wstring& text)
+{
+    std::string bytes;
+    for (const wchar_t character : text)
+        bytes += static_cast<char>(character);
+    return bytes;
+}
+
+std::wstring file_util_ex::ConvertFromUTF8W(const std::string& text)
+{
+    return Widened(text.c_str());
+}
+
+std::wstring std_file_paths::GetUserDataDir()
+{
+    return g_userDataDir.empty() ? L"/memory" : g_userDataDir;
+}
+
+void std_file_paths::SetUserDataDir(const CStdStr<wchar_t>& path)
+{
+    g_userDataDir = path;
+}
+
+std::wstring std_file_paths::GetAppFolderPath(const wchar_t* name)
+{
+    return file_util_ex::MakePath(L"/memory/documents", name);
+}
+
+const wchar_t* lng_util_internal::DoGetResourceString(const wchar_t* key, CLanguageDomain*)
+{
+    return key;
+}
