@@ -1,0 +1,296 @@
+// What wxFolderDlg asks of the toolkit's dialog, and what it makes of the answer. The dialog is answered by a hook; the
+// toolkit keeps some of what it is made with to itself, so its constructor and its centring are watched.
+
+#include <fittings/dialogs/folder_dialog.h>
+
+#include <string>
+#include <vector>
+
+#include <dlfcn.h>
+#include <gtest/gtest.h>
+#include <wx/dirdlg.h>
+#include <wx/frame.h>
+#include <wx/modalhook.h>
+#include <wx/translation.h>
+
+#include <fittings/platform/local_reg_store.h>
+#include <tests/support/temp_folder.h>
+
+namespace {
+
+struct Made
+{
+    wxWindow* parent;
+    wxString message;
+    wxString folder;
+    long style;
+    wxPoint position;
+    wxSize size;
+    wxString name;
+};
+
+std::vector<Made> g_made;
+std::vector<int> g_centred;
+
+// Gives every folder dialog an answer in place of the user.
+class Answer : public wxModalDialogHook
+{
+public:
+    Answer(int result, const wxString& folder) : m_result(result), m_folder(folder)
+    {
+        g_made.clear();
+        g_centred.clear();
+        Register();
+    }
+
+    // How often a dialog was to be shown, and how often it had been centred before.
+    int Shown() const { return m_shown; }
+    std::size_t CentredBefore() const { return m_centredBefore; }
+
+protected:
+    int Enter(wxDialog* dialog) override
+    {
+        ++m_shown;
+        m_centredBefore = g_centred.size();
+        struct Folder : wxDirDialog
+        {
+            static wxString wxDirDialog::*Path() { return &Folder::m_path; }
+        };
+        auto* const asked = dynamic_cast<wxDirDialog*>(dialog);
+        if (!asked) {
+            ADD_FAILURE() << "no folder dialog";
+            return wxID_CANCEL;
+        }
+        asked->*Folder::Path() = m_folder;
+        return m_result;
+    }
+
+private:
+    const int m_result;
+    const wxString m_folder;
+    int m_shown = 0;
+    std::size_t m_centredBefore = 0;
+};
+
+Made TheOneMade()
+{
+    if (g_made.size() != 1) {
+        ADD_FAILURE() << g_made.size() << " dialogs";
+        return {};
+    }
+    return g_made[0];
+}
+
+wxString Chosen(const wchar_t* folder, const wxString& answer)
+{
+    const Answer ok(wxID_OK, answer);
+    return wxFolderDlg::DoModal(nullptr, folder, L"Choose");
+}
+
+wxString ChosenFor(const wchar_t* section, const wxString& answer)
+{
+    const Answer ok(wxID_OK, answer);
+    return wxFolderDlg::DoModalReg(nullptr, section, L"Choose");
+}
+
+std::wstring Stored(const wchar_t* section)
+{
+    return CLocalRegStore::GetString(section, L"Path", L"(none)");
+}
+
+wxString MessageFor(const wchar_t* message)
+{
+    const Answer cancel(wxID_CANCEL, "");
+    wxFolderDlg::DoModal(nullptr, nullptr, message);
+    return TheOneMade().message;
+}
+
+wxString FolderFor(const wchar_t* folder)
+{
+    const Answer cancel(wxID_CANCEL, "");
+    wxFolderDlg::DoModal(nullptr, folder, nullptr);
+    return TheOneMade().folder;
+}
+
+wxString RememberedFor(const wchar_t* section)
+{
+    const Answer cancel(wxID_CANCEL, "");
+    wxFolderDlg::DoModalReg(nullptr, section, nullptr);
+    return TheOneMade().folder;
+}
+
+TEST(FolderDialog, IsMadeAsADefaultFolderDialog)
+{
+    auto* const frame = new wxFrame(nullptr, wxID_ANY, "parent");
+    const Answer cancel(wxID_CANCEL, "");
+    wxFolderDlg::DoModal(frame, L"/srv", L"Choose");
+    const Made made = TheOneMade();
+    EXPECT_EQ(made.parent, frame);
+    EXPECT_EQ(made.style, 0x20001840);
+    EXPECT_EQ(made.position, wxPoint(-1, -1));
+    EXPECT_EQ(made.size, wxSize(-1, -1));
+    EXPECT_EQ(made.name, "wxDirCtrl");
+    EXPECT_EQ(cancel.Shown(), 1);
+    frame->Destroy();
+}
+
+TEST(FolderDialog, IsCentredBothWaysBeforeItIsShown)
+{
+    const Answer cancel(wxID_CANCEL, "");
+    wxFolderDlg::DoModal(nullptr, nullptr, nullptr);
+    EXPECT_EQ(g_centred, std::vector<int>{wxBOTH});
+    EXPECT_EQ(cancel.CentredBefore(), 1u);
+}
+
+TEST(FolderDialogMessage, IsTheDefaultForNull)
+{
+    EXPECT_EQ(MessageFor(nullptr), L"Current folder is:");
+}
+
+TEST(FolderDialogMessage, IsTheCallersOtherwise)
+{
+    EXPECT_EQ(MessageFor(L"Import from \x5E33"), L"Import from \x5E33");
+    EXPECT_EQ(MessageFor(L""), L"");
+}
+
+TEST(FolderDialogMessage, IsTranslatedWhenItIsTheDefault)
+{
+    wxFileTranslationsLoader::AddCatalogLookupPathPrefix(wxString::FromUTF8(LIBRARY_LOCALE_DIR));
+    auto* const german = new wxTranslations;
+    wxTranslations::Set(german);
+    german->SetLanguage("de");
+    EXPECT_EQ(MessageFor(nullptr), L"Aktueller Ordner:");
+    EXPECT_EQ(MessageFor(L"Current folder is:"), L"Current folder is:");
+    EXPECT_EQ(MessageFor(L""), L"");
+    wxTranslations::Set(nullptr);
+}
+
+TEST(FolderDialogStart, IsTheFolderGiven)
+{
+    EXPECT_EQ(FolderFor(L"/usr"), L"/usr");
+    EXPECT_EQ(FolderFor(L"/usr/"), L"/usr/");
+    EXPECT_EQ(FolderFor(L"not/there \x5E33"), L"not/there \x5E33");
+}
+
+TEST(FolderDialogStart, IsTheToolkitsWithoutAFolder)
+{
+    EXPECT_EQ(FolderFor(nullptr), L"");
+    EXPECT_EQ(FolderFor(L""), L"");
+}
+
+TEST(FolderDialogResult, IsTheFolderChosenAsItIs)
+{
+    EXPECT_EQ(Chosen(L"/usr", "/srv/data"), "/srv/data");
+    EXPECT_EQ(Chosen(nullptr, L"/srv/\x5E33 /"), L"/srv/\x5E33 /");
+    EXPECT_EQ(Chosen(L"/usr", "/not/there"), "/not/there");
+}
+
+TEST(FolderDialogResult, IsEmptyUnlessAccepted)
+{
+    for (const int result : {wxID_CANCEL, wxID_YES, wxID_OPEN, wxID_APPLY}) {
+        const Answer answer(result, "/srv/data");
+        EXPECT_EQ(wxFolderDlg::DoModal(nullptr, L"/usr", L"Choose"), "") << result;
+    }
+}
+
+class RememberedFolder : public testing::Test
+{
+private:
+    const TempUserData m_settings;
+};
+
+TEST_F(RememberedFolder, IsEmptyAtFirst)
+{
+    EXPECT_EQ(RememberedFor(L"Import"), "");
+}
+
+TEST_F(RememberedFolder, IsTheOneChosenLast)
+{
+    EXPECT_EQ(ChosenFor(L"Import", "/usr"), "/usr");
+    EXPECT_EQ(Stored(L"Import"), L"/usr");
+    EXPECT_EQ(RememberedFor(L"Import"), "/usr");
+    EXPECT_EQ(ChosenFor(L"Import", "/usr/share"), "/usr/share");
+    EXPECT_EQ(RememberedFor(L"Import"), "/usr/share");
+}
+
+TEST_F(RememberedFolder, IsKeptExactly)
+{
+    for (const wxString folder : {L"/gone/away", L"/usr/", L" /a b ", L"/\x5E33/\x1F4D2", L"a=b;c#d\n[e]"}) {
+        EXPECT_EQ(ChosenFor(L"Import", folder), folder);
+        EXPECT_EQ(Stored(L"Import"), folder.ToStdWstring());
+        EXPECT_EQ(RememberedFor(L"Import"), folder);
+    }
+}
+
+TEST_F(RememberedFolder, BelongsToItsSection)
+{
+    ChosenFor(L"Import", "/usr");
+    ChosenFor(L"Export]", "/srv");
+    EXPECT_EQ(RememberedFor(L"Import"), "/usr");
+    EXPECT_EQ(RememberedFor(L"Export]"), "/srv");
+    EXPECT_EQ(RememberedFor(L"import"), "");
+}
+
+TEST_F(RememberedFolder, StaysWhenTheDialogIsCancelled)
+{
+    ChosenFor(L"Import", "/usr");
+    const Answer cancel(wxID_CANCEL, "/srv");
+    EXPECT_EQ(wxFolderDlg::DoModalReg(nullptr, L"Import", nullptr), "");
+    EXPECT_EQ(Stored(L"Import"), L"/usr");
+}
+
+TEST_F(RememberedFolder, IsNotMadeByCancelling)
+{
+    RememberedFor(L"Import");
+    EXPECT_EQ(Stored(L"Import"), L"(none)");
+}
+
+TEST_F(RememberedFolder, StaysWhenNothingWasChosen)
+{
+    ChosenFor(L"Import", "/usr");
+    EXPECT_EQ(ChosenFor(L"Import", ""), "");
+    EXPECT_EQ(Stored(L"Import"), L"/usr");
+}
+
+TEST_F(RememberedFolder, IsReadAnewEachTime)
+{
+    ChosenFor(L"Import", "/usr");
+    CLocalRegStore::WriteString(L"Import", L"Path", L"/srv");
+    EXPECT_EQ(RememberedFor(L"Import"), "/srv");
+}
+
+TEST_F(RememberedFolder, ComesWithTheSameDialog)
+{
+    auto* const frame = new wxFrame(nullptr, wxID_ANY, "parent");
+    const Answer cancel(wxID_CANCEL, "");
+    wxFolderDlg::DoModalReg(frame, L"Import", nullptr);
+    wxFolderDlg::DoModalReg(frame, L"Import", L"");
+    wxFolderDlg::DoModalReg(frame, L"Import", L"Import from");
+    ASSERT_EQ(g_made.size(), 3u);
+    EXPECT_EQ(g_made[0].message, "Current folder is:");
+    EXPECT_EQ(g_made[1].message, "");
+    EXPECT_EQ(g_made[2].message, "Import from");
+    EXPECT_EQ(g_made[2].parent, frame);
+    EXPECT_EQ(g_made[2].style, 0x20001840);
+    EXPECT_EQ(g_centred, (std::vector<int>{wxBOTH, wxBOTH, wxBOTH}));
+    frame->Destroy();
+}
+
+}  // namespace
+
+// In place of the toolkit's, which does the same but for the recording.
+wxDirDialog::wxDirDialog(wxWindow* parent, const wxString& message, const wxString& folder, long style,
+                         const wxPoint& position, const wxSize& size, const wxString& name)
+{
+    g_made.push_back({parent, message, folder, style, position, size, name});
+    Create(parent, message, folder, style, position, size, name);
+}
+
+void wxTopLevelWindowBase::DoCentre(int direction)
+{
+    if (dynamic_cast<wxDirDialog*>(this))
+        g_centred.push_back(direction);
+    using Function = void (*)(wxTopLevelWindowBase*, int);
+    static const auto original = reinterpret_cast<Function>(dlsym(RTLD_NEXT, "_ZN20wxTopLevelWindowBase8DoCentreEi"));
+    original(this, direction);
+}
