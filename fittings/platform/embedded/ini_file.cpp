@@ -111,6 +111,8 @@ void CIniFile::Set(std::wstring_view section, std::wstring_view key, std::wstrin
     if (found && fittings::DecodeValue(Value(*found).get()) == value)
         return;
     const Slot slot = found ? *found : NewSlot(names);
+    if (!found && slot != names)
+        m_otherSlots[names].push_back(slot);
     g_key_file_set_value(m_keys.get(), slot.first.c_str(), slot.second.c_str(), fittings::EncodeValue(value).c_str());
     NoteChange(slot);
 }
