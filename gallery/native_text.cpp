@@ -1,0 +1,132 @@
+#include "native_text.h"
+
+#include <string_view>
+
+#include <glib.h>
+#include <wx/datetime.h>
+#include <wx/filefn.h>
+
+#include <fittings/platform/file_util_ex.h>
+
+namespace fittings {
+
+namespace {
+
+/// Returns how many bytes at the start of @a text are UTF-8.
+std::size_t Utf8Length(std::string_view text)
+{
+    const char* end = nullptr;
+    g_utf8_validate(text.data(), static_cast<gssize>(text.size()), &end);
+    return static_cast<std::size_t>(end - text.data());
+}
+
+void AppendPercent(std::string& text, unsigned char byte)
+{
+    static const char digits[] = "0123456789ABCDEF";
+    text += '%';
+    text += digits[byte >> 4];
+    text += digits[byte & 15];
+}
+
+bool IsControl(unsigned char byte)
+{
+    return byte < 0x20 || byte == 0x7F;
+}
+
+wxString FormattedSize(std::uint64_t bytes, GFormatSizeFlags flags)
+{
+    gchar* text = g_format_size_full(bytes, flags);
+    const wxString size = wxString::FromUTF8(text);
+    g_free(text);
+    return size;
+}
+
+}  // namespace
+
+wxString DisplayText(const std::string& bytes)
+{
+    std::string text;
+    for (std::string_view rest = bytes; !rest.empty();) {
+        const std::size_t good = Utf8Length(rest);
+        for (const char c : rest.substr(0, good)) {
+            const auto byte = static_cast<unsigned char>(c);
+            if (byte == 0x7F)
+                text += "\u2421";
+            else if (byte < 0x20)
+                text += {'\xE2', '\x90', static_cast<char>(0x80 + byte)};
+            else
+                text += c;
+        }
+        rest.remove_prefix(good);
+        if (!rest.empty()) {
+            text += "\uFFFD";
+            rest.remove_prefix(1);
+        }
+    }
+    return wxString::FromUTF8(text);
+}
+
+std::wstring TextFromPath(const std::string& path)
+{
+    std::string text;
+    for (std::string_view rest = path; !rest.empty();) {
+        const std::size_t good = Utf8Length(rest);
+        for (const char c : rest.substr(0, good)) {
+            if (c == '%' || c == '|' || IsControl(static_cast<unsigned char>(c)))
+                AppendPercent(text, static_cast<unsigned char>(c));
+            else
+                text += c;
+        }
+        rest.remove_prefix(good);
+        if (!rest.empty()) {
+            AppendPercent(text, static_cast<unsigned char>(rest.front()));
+            rest.remove_prefix(1);
+        }
+    }
+    return file_util_ex::ConvertFromUTF8W(text);
+}
+
+std::string PathFromText(const std::wstring& text)
+{
+    const std::string coded = file_util_ex::ConvertToUTF8(text);
+    std::string path;
+    for (std::size_t i = 0; i < coded.size(); ++i) {
+        const int high = i + 2 < coded.size() ? g_ascii_xdigit_value(coded[i + 1]) : -1;
+        const int low = high >= 0 ? g_ascii_xdigit_value(coded[i + 2]) : -1;
+        if (coded[i] == '%' && low >= 0) {
+            path += static_cast<char>(high * 16 + low);
+            i += 2;
+        } else {
+            path += coded[i];
+        }
+    }
+    return path;
+}
+
+std::string PathFromDialog(const wxString& path)
+{
+    const wxCharBuffer bytes = path.fn_str();
+    return {bytes.data(), bytes.length()};
+}
+
+wxString HumanSize(std::uint64_t bytes)
+{
+    return FormattedSize(bytes, G_FORMAT_SIZE_DEFAULT);
+}
+
+wxString ExactSize(std::uint64_t bytes)
+{
+    return FormattedSize(bytes, G_FORMAT_SIZE_LONG_FORMAT);
+}
+
+wxString HumanTime(std::int64_t secondsSinceEpoch)
+{
+    return wxDateTime(static_cast<time_t>(secondsSinceEpoch)).Format("%Y-%m-%d %H:%M");
+}
+
+wxString Counted(std::size_t count, const wxString& one, const wxString& many)
+{
+    return wxString::Format("%zu %s", count, count == 1 ? one : many);
+}
+
+}  // namespace fittings
