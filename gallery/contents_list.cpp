@@ -1,0 +1,212 @@
+#include "contents_list.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <gtk/gtk.h>
+#include <wx/artprov.h>
+
+#include "native_text.h"
+
+namespace fittings {
+
+namespace {
+
+constexpr SortColumn columns[] = {SortColumn::Name, SortColumn::Size, SortColumn::Type, SortColumn::Modified};
+
+unsigned IndexOf(SortColumn column)
+{
+    return static_cast<unsigned>(std::find(std::begin(columns), std::end(columns), column) - std::begin(columns));
+}
+
+wxBitmapBundle Icon(const wxArtID& id)
+{
+    return wxArtProvider::GetBitmapBundle(id, wxART_OTHER, wxSize(16, 16));
+}
+
+}  // namespace
+
+class ContentsModel : public wxDataViewVirtualListModel
+{
+public:
+    ContentsModel()
+        : m_folder(Icon(wxART_FOLDER)), m_file(Icon(wxART_NORMAL_FILE)), m_program(Icon(wxART_EXECUTABLE_FILE)),
+          m_link(Icon("emblem-symbolic-link"))
+    {
+    }
+
+    void SetEntries(std::vector<Entry> entries, SortOrder order)
+    {
+        m_entries = std::move(entries);
+        m_positions = SortedPositions(m_entries, order);
+        Reset(static_cast<unsigned>(m_entries.size()));
+    }
+
+    /// Only the order of the rows changes: who draws them must be told to draw them again.
+    void Sort(SortOrder order) { m_positions = SortedPositions(m_entries, order); }
+
+    const Entry& At(unsigned row) const { return m_entries[m_positions[row]]; }
+
+    /// The row of an entry of this model.
+    unsigned RowOf(const Entry& entry) const
+    {
+        const auto position = static_cast<std::uint32_t>(&entry - m_entries.data());
+        return static_cast<unsigned>(std::find(m_positions.begin(), m_positions.end(), position) - m_positions.begin());
+    }
+
+    const std::vector<Entry>& Entries() const { return m_entries; }
+
+    void GetValueByRow(wxVariant& value, unsigned row, unsigned column) const override
+    {
+        const Entry& entry = At(row);
+        switch (columns[column]) {
+        case SortColumn::Name:
+            value << wxDataViewIconText(LabelOf(entry), IconOf(entry));
+            break;
+        case SortColumn::Size:
+            value = entry.known && entry.kind == EntryKind::File ? HumanSize(entry.size) : wxString();
+            break;
+        case SortColumn::Type:
+            value = DisplayText(entry.type);
+            break;
+        case SortColumn::Modified:
+            value = entry.known ? HumanTime(entry.modified) : wxString();
+            break;
+        }
+    }
+
+    bool SetValueByRow(const wxVariant&, unsigned, unsigned) override { return false; }
+
+private:
+    static wxString LabelOf(const Entry& entry)
+    {
+        wxString label = DisplayText(entry.name);
+        if (!entry.target.empty())
+            label << L" \u2192 " << DisplayText(entry.target);
+        return label;
+    }
+
+    const wxBitmapBundle& IconOf(const Entry& entry) const
+    {
+        if (entry.kind == EntryKind::Folder)
+            return m_folder;
+        if (entry.kind == EntryKind::Link)
+            return m_link;
+        return entry.type == "Program" ? m_program : m_file;
+    }
+
+    std::vector<Entry> m_entries;
+    std::vector<std::uint32_t> m_positions;
+    wxBitmapBundle m_folder, m_file, m_program, m_link;
+};
+
+ContentsList::ContentsList(wxWindow* parent)
+    : wxDataViewCtrl(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxDV_SINGLE | wxDV_ROW_LINES | wxBORDER_NONE),
+      m_model(new ContentsModel)
+{
+    SetName("Contents");
+    SetMinSize(FromDIP(wxSize(200, 80)));
+    AssociateModel(m_model.get());
+
+    const int flags = wxDATAVIEW_COL_RESIZABLE | wxDATAVIEW_COL_SORTABLE;
+    const int character = GetCharWidth();
+    AppendIconTextColumn("Name", IndexOf(SortColumn::Name), wxDATAVIEW_CELL_INERT, 24 * character, wxALIGN_LEFT, flags);
+    AppendTextColumn("Size", IndexOf(SortColumn::Size), wxDATAVIEW_CELL_INERT, 12 * character, wxALIGN_RIGHT, flags);
+    AppendTextColumn("Kind", IndexOf(SortColumn::Type), wxDATAVIEW_CELL_INERT, 14 * character, wxALIGN_LEFT, flags);
+    AppendTextColumn("Modified", IndexOf(SortColumn::Modified), wxDATAVIEW_CELL_INERT, 20 * character, wxALIGN_LEFT,
+                     flags);
+
+    // The name column takes what the others leave.
+    GtkTreeViewColumn* name = GTK_TREE_VIEW_COLUMN(GetColumn(IndexOf(SortColumn::Name))->GetGtkHandle());
+    gtk_tree_view_column_set_expand(name, TRUE);
+    gtk_tree_view_column_set_spacing(name, FromDIP(4));
+
+    Bind(wxEVT_DATAVIEW_COLUMN_SORTED, &ContentsList::OnColumnSorted, this);
+    ShowOrder();
+}
+
+void ContentsList::SetEntries(std::vector<Entry> entries)
+{
+    m_model->SetEntries(std::move(entries), m_order);
+    ShowOrder();
+}
+
+unsigned ContentsList::CountRows() const
+{
+    return m_model->GetCount();
+}
+
+const Entry& ContentsList::GetEntry(unsigned row) const
+{
+    return m_model->At(row);
+}
+
+const Entry* ContentsList::GetSelectedEntry() const
+{
+    return EntryOf(GetSelection());
+}
+
+const Entry* ContentsList::EntryOf(const wxDataViewItem& item) const
+{
+    return item.IsOk() ? &m_model->At(m_model->GetRow(item)) : nullptr;
+}
+
+wxDataViewItem ContentsList::ItemOf(unsigned row) const
+{
+    return m_model->GetItem(row);
+}
+
+void ContentsList::SelectEntry(const std::string& name)
+{
+    for (const Entry& entry : m_model->Entries()) {
+        if (entry.name == name) {
+            const wxDataViewItem item = ItemOf(m_model->RowOf(entry));
+            Select(item);
+            EnsureVisible(item);
+            return;
+        }
+    }
+}
+
+void ContentsList::SortBy(SortOrder order)
+{
+    const Entry* selected = GetSelectedEntry();
+    m_order = order;
+    m_model->Sort(order);
+    if (selected) {
+        const wxDataViewItem item = ItemOf(m_model->RowOf(*selected));
+        Select(item);
+        EnsureVisible(item);
+    }
+    ShowOrder();
+    Refresh();
+}
+
+void ContentsList::OnColumnSorted(wxDataViewEvent& event)
+{
+    const wxDataViewColumn* column = event.GetDataViewColumn();
+    if (column)
+        SortBy({columns[column->GetModelColumn()], column->IsSortOrderAscending()});
+}
+
+/// Puts the arrow into the header of the column that the rows are sorted by.
+void ContentsList::ShowOrder()
+{
+    GetColumn(IndexOf(m_order.column))->SetSortOrder(m_order.ascending);
+}
+
+std::vector<int> ContentsList::GetColumnWidths() const
+{
+    std::vector<int> widths;
+    for (unsigned i = 1; i < GetColumnCount(); ++i)
+        widths.push_back(GetColumn(i)->GetWidth());
+    return widths;
+}
+
+void ContentsList::SetColumnWidths(const std::vector<int>& widths)
+{
+    for (unsigned i = 1; i < GetColumnCount() && i <= widths.size(); ++i)
+        GetColumn(i)->SetWidth(widths[i - 1]);
+}
+
+}  // namespace fittings

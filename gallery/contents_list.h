@@ -1,0 +1,57 @@
+#ifndef FITTINGS_GALLERY_CONTENTS_LIST_H_
+#define FITTINGS_GALLERY_CONTENTS_LIST_H_
+
+#include <string>
+#include <vector>
+
+#include <wx/dataview.h>
+
+#include "folder_listing.h"
+
+namespace fittings {
+
+class ContentsModel;
+
+/// The entries of one folder with their sizes, sorted by the column whose header was clicked.
+///
+/// Rows are made as they are drawn, so that a folder of 100,000 entries costs no more than its reading and sorting.
+class ContentsList : public wxDataViewCtrl
+{
+public:
+    explicit ContentsList(wxWindow* parent);
+
+    void SetEntries(std::vector<Entry> entries);
+
+    unsigned CountRows() const;
+    const Entry& GetEntry(unsigned row) const;
+
+    /// Null when nothing is selected.
+    const Entry* GetSelectedEntry() const;
+
+    /// Null when the item is none.
+    const Entry* EntryOf(const wxDataViewItem& item) const;
+    wxDataViewItem ItemOf(unsigned row) const;
+
+    /// Selects the entry @a name and scrolls to it, if there is one.
+    void SelectEntry(const std::string& name);
+
+    SortOrder GetSortOrder() const { return m_order; }
+    void SortBy(SortOrder order);
+
+    /// @name Column widths, the name column's apart: it takes what the others leave
+    /// @{
+    std::vector<int> GetColumnWidths() const;
+    void SetColumnWidths(const std::vector<int>& widths);
+    /// @}
+
+private:
+    void OnColumnSorted(wxDataViewEvent& event);
+    void ShowOrder();
+
+    wxObjectDataPtr<ContentsModel> m_model;
+    SortOrder m_order;
+};
+
+}  // namespace fittings
+
+#endif

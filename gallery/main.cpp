@@ -1,0 +1,91 @@
+// fittings-gallery: a disk-usage browser built from the library's components.
+
+#include <csignal>
+#include <cstdio>
+#include <string>
+
+#include <glib-unix.h>
+#include <wx/app.h>
+#include <wx/init.h>
+#include <wx/uilocale.h>
+
+#include "browser_frame.h"
+
+namespace {
+
+using fittings::BrowserFrame;
+
+constexpr const char* usage = "Usage: fittings-gallery [FOLDER]\n"
+                              "Browse FOLDER, by default the folder of the last session.\n";
+
+struct CommandLine
+{
+    std::string folder;
+    bool help = false;
+    bool good = true;
+};
+
+/// Arguments stay bytes, because a folder's name may be no text.
+CommandLine Parse(int count, char** arguments)
+{
+    CommandLine line;
+    for (int i = 1; i < count; ++i) {
+        const std::string argument = arguments[i];
+        if (argument == "--help" || argument == "-h")
+            line.help = true;
+        else if (argument[0] != '-' && line.folder.empty())
+            line.folder = argument;
+        else
+            line.good = false;
+    }
+    return line;
+}
+
+CommandLine g_line;
+
+/// Closes the window as a person would, so that it is remembered.
+gboolean OnStopSignal(gpointer)
+{
+    // Later, because a window closed by GLib's own event loop is not destroyed before the next wx event.
+    wxTheApp->CallAfter([] {
+        if (wxTheApp->GetTopWindow())
+            wxTheApp->GetTopWindow()->Close();
+    });
+    return G_SOURCE_CONTINUE;
+}
+
+class GalleryApp : public wxApp
+{
+public:
+    bool OnInit() override
+    {
+        SetAppName("fittings-gallery");
+        SetAppDisplayName("Fittings Gallery");
+        wxUILocale::UseDefault();
+        for (const int signal : {SIGTERM, SIGINT, SIGHUP})
+            g_unix_signal_add(signal, OnStopSignal, nullptr);
+
+        auto* frame = new BrowserFrame;
+        const wxString note = frame->Start(g_line.folder);
+        if (!note.empty())
+            std::fprintf(stderr, "fittings-gallery: %s\n", static_cast<const char*>(note.utf8_str()));
+        frame->Show();
+        frame->Raise();
+        return true;
+    }
+};
+
+}  // namespace
+
+wxIMPLEMENT_APP_NO_MAIN(GalleryApp);
+
+int main(int argc, char** argv)
+{
+    g_line = Parse(argc, argv);
+    if (g_line.help || !g_line.good) {
+        std::fputs(usage, g_line.good ? stdout : stderr);
+        return g_line.good ? 0 : 2;
+    }
+    int noArguments = 1;
+    return wxEntry(noArguments, argv);
+}
