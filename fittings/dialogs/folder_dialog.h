@@ -15,7 +15,8 @@ class wxWindow;
 ///     Import(folder);
 /// @endcode
 ///
-/// Folders are neither checked nor changed: a remembered folder that is gone is handed to the dialog as it is.
+/// Folders are neither checked nor changed: a remembered folder that is gone is handed to the dialog as it is. Without a
+/// folder that exists, GTK's dialog shows what was used last, and lets nothing be chosen until the user goes somewhere.
 class FITTINGS_API wxFolderDlg
 {
 public:

@@ -25,8 +25,11 @@ namespace lng_util_internal {
 /// Returns the translation of the English text @a key, or @a key's own text when there is none.
 ///
 /// Translations come from the host's wxTranslations; the library's own catalogue, "fittings", is loaded into it at the
-/// first look-up. The result stays valid until the process ends. A null key gives null; a null @a domain counts as one
-/// with an empty name. GUI thread.
+/// first look-up, unless the host has loaded it. The toolkit prefers the catalogue loaded last: a host that translates
+/// the same texts in its own way loads "fittings" before its own catalogue.
+///
+/// The result stays valid until the process ends. A null key gives null; a null @a domain counts as one with an empty
+/// name. GUI thread.
 FITTINGS_API const wchar_t* DoGetResourceString(const wchar_t* key, CLanguageDomain* domain);
 
 }  // namespace lng_util_internal

@@ -18,7 +18,7 @@ int main(int argc, char** argv)
         if (!wxEntryStart(argc, argv))
             return 1;
         if (argc > 2)
-            wxTheApp->SetAppName(file_util_ex::ConvertFromUTF8W(argv[2]));
+            wxAppConsole::GetInstance()->SetAppName(file_util_ex::ConvertFromUTF8W(argv[2]));
     }
     for (const std::wstring& path : {std_file_paths::GetUserDataDir(), std_file_paths::GetAppFolderPath(L"Samples")})
         std::printf("%s\n", file_util_ex::ConvertToUTF8(path).c_str());

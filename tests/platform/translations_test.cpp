@@ -156,6 +156,17 @@ TEST_F(Translations, LeaveACatalogueThatTheHostLoadedAsItIs)
     EXPECT_STREQ(Look(FOLDER), L"Aktueller Ordner:");
 }
 
+// The toolkit asks the catalogue loaded last first.
+TEST_F(Translations, ComeFromTheHostsCatalogueWhereItWasLoadedLast)
+{
+    wxTranslations* const translations = SetLanguage("ja");
+    ASSERT_TRUE(translations->AddCatalog("fittings"));
+    translations->SetLanguage("de");
+    ASSERT_TRUE(translations->AddCatalog("archive"));
+    EXPECT_STREQ(Look(FOLDER), L"Ablage:");
+    EXPECT_STREQ(Look(FOLDER, L"fittings"), L"現在のフォルダー:");
+}
+
 TEST_F(Translations, LoadTheCatalogueIntoTheHosts)
 {
     wxTranslations* const translations = SetLanguage("de");

@@ -57,8 +57,7 @@ const wchar_t* DoGetResourceString(const wchar_t* key, CLanguageDomain* domain)
     if (!key)
         return nullptr;
     wxTranslations* const translations = wxTranslations::Get();
-    // The empty key is where a catalogue keeps its header.
-    if (!translations || !*key)
+    if (!translations)
         return Intern(key);
     LoadOwnCatalogue(*translations);
     const wxString name = domain ? wxString(domain->GetName()) : wxString();
