@@ -24,6 +24,7 @@ class CIniFile
 {
 public:
     CIniFile();
+    ~CIniFile();
     CIniFile(const CIniFile&) = delete;
     CIniFile& operator=(const CIniFile&) = delete;
 

@@ -1,6 +1,7 @@
 #include <fittings/platform/embedded/ini_text.h>
 
 #include <algorithm>
+#include <array>
 #include <map>
 
 #include <glib.h>
@@ -13,9 +14,20 @@ namespace {
 
 constexpr std::string_view BYTE_ORDER_MARK = "\xEF\xBB\xBF";
 
-bool IsPlainName(std::string_view name)
+// Every load asks about every character of every name.
+const std::array<bool, 256> PLAIN_CHARACTERS = [] {
+    std::array<bool, 256> plain = {};
+    for (std::size_t byte = 0; byte < plain.size(); ++byte)
+        plain[byte] = IsPlainInName(static_cast<char>(byte));
+    return plain;
+}();
+
+std::size_t PlainLength(std::string_view text)
 {
-    return std::all_of(name.begin(), name.end(), IsPlainInName);
+    std::size_t length = 0;
+    while (length < text.size() && PLAIN_CHARACTERS[static_cast<unsigned char>(text[length])])
+        ++length;
+    return length;
 }
 
 // The brackets of a key such as Name[de]: letters, digits and a few marks, and nothing behind them.
@@ -217,7 +229,7 @@ IniLineKind IniLines::ClassifySection(IniLine& line, std::string_view text) cons
     if (close == std::string_view::npos || text.find_first_not_of(" \t", close + 1) != std::string_view::npos)
         return IniLineKind::BrokenSection;
     line.name = text.substr(1, close - 1);
-    line.isPlainName = IsPlainName(line.name);
+    line.isPlainName = PlainLength(line.name) == line.name.size();
     const bool hasWrongCharacter = std::any_of(line.name.begin(), line.name.end(),
                                                [](char byte) { return byte == '[' || g_ascii_iscntrl(byte) || !byte; });
     return line.name.empty() || hasWrongCharacter ? IniLineKind::BrokenSection : IniLineKind::Section;
@@ -225,7 +237,8 @@ IniLineKind IniLines::ClassifySection(IniLine& line, std::string_view text) cons
 
 IniLineKind IniLines::ClassifyKey(IniLine& line, std::string_view text) const
 {
-    const std::size_t equals = text.find('=');
+    const std::size_t plainLength = PlainLength(text);
+    const std::size_t equals = text.find('=', plainLength);
     if (equals == std::string_view::npos || equals == 0)
         return IniLineKind::Unknown;
     // What stands in a line with a NUL was cut or overwritten: it is no setting that anybody made.
@@ -234,7 +247,7 @@ IniLineKind IniLines::ClassifyKey(IniLine& line, std::string_view text) const
     line.name = text.substr(0, equals);
     while (g_ascii_isspace(line.name.back()))
         line.name.remove_suffix(1);
-    line.isPlainName = IsPlainName(line.name);
+    line.isPlainName = line.name.size() <= plainLength;
     if (!line.isPlainName && !IsKeyName(line.name))
         return IniLineKind::Unknown;
     line.value = line.end - (text.size() - equals - 1);

@@ -1,0 +1,200 @@
+// The settings store beside what its parts cost bare.
+
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+
+#include <benchmark/benchmark.h>
+
+#include <glib.h>
+#include <sys/stat.h>
+#include <wx/fileconf.h>
+#include <wx/wfstream.h>
+
+#include <fittings/config/ui_config_mgr.h>
+#include <fittings/platform/file_util_ex.h>
+#include <fittings/platform/local_reg_store.h>
+#include <fittings/platform/std_file_paths.h>
+
+namespace {
+
+constexpr int SECTIONS = 20;
+
+/// A user data directory with settings of a given number of keys, for as long as the object lives.
+class Settings
+{
+public:
+    explicit Settings(int keys) : m_keys(keys)
+    {
+        std::string folder = (std::filesystem::temp_directory_path() / "fittings-bench-XXXXXX").string();
+        m_folder = mkdtemp(folder.data());
+        std::filesystem::create_directory(m_folder + "/ui_config");
+        std_file_paths::SetUserDataDir(file_util_ex::ConvertFromUTF8W(m_folder));
+        std::string text;
+        for (int key = 0; key < keys; ++key) {
+            if (key % (keys / SECTIONS) == 0)
+                text += "[" + Section(key) + "]\n";
+            text += Key(key) + "=" + std::to_string(key) + ";" + std::to_string(key * 7) + ";640;480\n";
+        }
+        for (const std::string& path : {DefaultPath(), NamedPath()})
+            g_file_set_contents(path.c_str(), text.data(), static_cast<gssize>(text.size()), nullptr);
+    }
+
+    ~Settings()
+    {
+        std_file_paths::SetUserDataDir(L"");
+        std::filesystem::remove_all(m_folder);
+    }
+    Settings(const Settings&) = delete;
+    Settings& operator=(const Settings&) = delete;
+
+    std::string DefaultPath() const { return m_folder + "/settings.ini"; }
+    std::string NamedPath() const { return m_folder + "/ui_config/named.ini"; }
+
+    std::string Section(int key) const { return "Section" + std::to_string(key / (m_keys / SECTIONS)); }
+    std::string Key(int key) const { return "WindowGeometry" + std::to_string(key); }
+
+private:
+    int m_keys;
+    std::string m_folder;
+};
+
+std::wstring Wide(const std::string& text)
+{
+    return file_util_ex::ConvertFromUTF8W(text);
+}
+
+GKeyFile* LoadKeyFile(benchmark::State& state, const std::string& path)
+{
+    GKeyFile* const keys = g_key_file_new();
+    const auto flags = static_cast<GKeyFileFlags>(G_KEY_FILE_KEEP_COMMENTS | G_KEY_FILE_KEEP_TRANSLATIONS);
+    if (!g_key_file_load_from_file(keys, path.c_str(), flags, nullptr))
+        state.SkipWithError("no key file");
+    return keys;
+}
+
+void Expect(benchmark::State& state, bool holds)
+{
+    if (!holds)
+        state.SkipWithError("a wrong result");
+}
+
+void GetWarm(benchmark::State& state)
+{
+    const Settings settings(1000);
+    const std::wstring section = Wide(settings.Section(567));
+    const std::wstring key = Wide(settings.Key(567));
+    for (auto _ : state)
+        Expect(state, CLocalRegStore::GetString(section.c_str(), key.c_str(), L"").size() == 16);
+}
+
+void GetWarmPeer(benchmark::State& state)
+{
+    const Settings settings(1000);
+    wxFileInputStream stream(settings.DefaultPath());
+    const wxFileConfig config(stream);
+    const wxString path = "/" + settings.Section(567) + "/" + settings.Key(567);
+    const std::string file = settings.DefaultPath();
+    for (auto _ : state) {
+        struct stat info;
+        Expect(state, stat(file.c_str(), &info) == 0);
+        Expect(state, config.Read(path, wxString()).length() == 16);
+    }
+}
+
+void FileGet(benchmark::State& state)
+{
+    const Settings settings(1000);
+    const std::wstring section = Wide(settings.Section(567));
+    const std::wstring key = Wide(settings.Key(567));
+    for (auto _ : state)
+        Expect(state, ui_config_mgr::GetConfigString(L"named.ini", section.c_str(), key.c_str()).size() == 16);
+}
+
+void FileGetPeer(benchmark::State& state)
+{
+    const Settings settings(1000);
+    const std::string path = settings.NamedPath();
+    const std::string section = settings.Section(567);
+    const std::string key = settings.Key(567);
+    for (auto _ : state) {
+        GKeyFile* const keys = LoadKeyFile(state, path);
+        gchar* const value = g_key_file_get_value(keys, section.c_str(), key.c_str(), nullptr);
+        Expect(state, value != nullptr);
+        g_free(value);
+        g_key_file_unref(keys);
+    }
+}
+
+void FileSet(benchmark::State& state)
+{
+    const Settings settings(1000);
+    const std::wstring section = Wide(settings.Section(567));
+    const std::wstring key = Wide(settings.Key(567));
+    int number = 0;
+    for (auto _ : state)
+        ui_config_mgr::WriteConfigInt(L"named.ini", section.c_str(), key.c_str(), ++number);
+    Expect(state, ui_config_mgr::GetConfigInt(L"named.ini", section.c_str(), key.c_str()) == number);
+}
+
+void FileSetPeer(benchmark::State& state)
+{
+    const Settings settings(1000);
+    const std::string path = settings.NamedPath();
+    const std::string section = settings.Section(567);
+    const std::string key = settings.Key(567);
+    const auto flags = static_cast<GFileSetContentsFlags>(G_FILE_SET_CONTENTS_CONSISTENT | G_FILE_SET_CONTENTS_DURABLE);
+    int number = 0;
+    for (auto _ : state) {
+        GKeyFile* const keys = LoadKeyFile(state, path);
+        g_key_file_set_value(keys, section.c_str(), key.c_str(), std::to_string(++number).c_str());
+        gsize length = 0;
+        gchar* const text = g_key_file_to_data(keys, &length, nullptr);
+        Expect(state, g_file_set_contents_full(path.c_str(), text, static_cast<gssize>(length), flags, 0600, nullptr));
+        g_free(text);
+        g_key_file_unref(keys);
+    }
+}
+
+void LoadGetSave(benchmark::State& state)
+{
+    const Settings settings(100'000);
+    const std::wstring path = Wide(settings.NamedPath());
+    const std::wstring section = Wide(settings.Section(56'789));
+    const std::wstring key = Wide(settings.Key(56'789));
+    int number = 0;
+    for (auto _ : state) {
+        CIniFile* const ini = CLocalRegStore::CreateInitFile(false);
+        Expect(state, CLocalRegStore::Load(*ini, path.c_str()));
+        Expect(state, !CLocalRegStore::GetString(*ini, section.c_str(), key.c_str(), L"").empty());
+        CLocalRegStore::WriteString(*ini, section.c_str(), key.c_str(), std::to_wstring(++number).c_str());
+        Expect(state, CLocalRegStore::Save(*ini, path.c_str()));
+        CLocalRegStore::DestroyIniFile(ini);
+    }
+}
+
+void LoadGetSavePeer(benchmark::State& state)
+{
+    const Settings settings(100'000);
+    const wxString file = settings.NamedPath();
+    const wxString path = "/" + settings.Section(56'789) + "/" + settings.Key(56'789);
+    int number = 0;
+    for (auto _ : state) {
+        wxFileConfig config("", "", file, "", wxCONFIG_USE_LOCAL_FILE);
+        Expect(state, !config.Read(path, wxString()).empty());
+        Expect(state, config.Write(path, ++number));
+        Expect(state, config.Flush());
+    }
+}
+
+BENCHMARK(GetWarm)->Name("store/get-warm");
+BENCHMARK(GetWarmPeer)->Name("store/get-warm/peer");
+BENCHMARK(FileGet)->Name("store/file-get");
+BENCHMARK(FileGetPeer)->Name("store/file-get/peer");
+// What these two do is mostly waiting for the disk.
+BENCHMARK(FileSet)->Name("store/file-set")->UseRealTime();
+BENCHMARK(FileSetPeer)->Name("store/file-set/peer")->UseRealTime();
+BENCHMARK(LoadGetSave)->Name("store/100k-load-get-save")->UseRealTime();
+BENCHMARK(LoadGetSavePeer)->Name("store/100k-load-get-save/peer")->UseRealTime();
+
+}  // namespace
