@@ -33,6 +33,8 @@ FITTINGS_API void SaveState(wxFrame* frame, const wchar_t* name);
 /// (0, 0); one that reaches out of its display's work area is clipped to it, and one that is wholly outside of that
 /// area, under a panel, moves into it. Numbers beyond the 16 bits of an X display count as the largest of these.
 ///
+/// On X11 the toolkit loses the position of the first window that a process shows, unless Raise() follows Show().
+///
 /// Meant for top-level windows: a child's position in its parent is measured against the work area as it is.
 ///
 /// Returns false, and changes nothing, when there is no stored geometry or it is not four integers. Returns false too
@@ -54,8 +56,8 @@ FITTINGS_API void SaveAuiManagerState(wxAuiManager* manager, const wchar_t* name
 
 /// Restores a stored layout and updates the window; returns false, and changes nothing, when there is none.
 ///
-/// As wxAuiManager::LoadPerspective() has it, panes that the stored layout does not name are hidden, captions come back
-/// as they were stored, and one with a ";" or "|" does not: the manager's own reading stops there with an assertion.
+/// As wxAuiManager::LoadPerspective() has it, panes that the stored layout does not name are hidden, and captions come
+/// back as they were stored. It cannot read back a caption with a ";" or "|": keep these out of captions.
 FITTINGS_API bool LoadAuiManagerState(wxAuiManager* manager, const wchar_t* name);
 
 }  // namespace wx_window_state

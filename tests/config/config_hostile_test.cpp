@@ -236,7 +236,7 @@ TEST(SettingsFileOfGarbage, GivesWhatCanBeReadAndKeepsIt)
 {
     const TempUserData data;
     fs::create_directory(data / "ui_config");
-    WriteFile(data / "ui_config/a.ini", std::string("\xff\xfe\x80 junk\n[s]\nk=v\n=\n[[\nbroken", 30));
+    WriteFile(data / "ui_config/a.ini", "\xff\xfe\x80 junk\n[s]\nk=v\n=\n[[\nbroken");
     EXPECT_EQ(ValueIn(L"a.ini"), L"v");
     ui_config_mgr::WriteConfigString(L"a.ini", L"s", L"n", L"1");
     EXPECT_EQ(ValueIn(L"a.ini"), L"v");
