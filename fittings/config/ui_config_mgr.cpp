@@ -1,6 +1,5 @@
 #include <fittings/config/ui_config_mgr.h>
 
-#include <cstdarg>
 #include <cwchar>
 #include <memory>
 
@@ -37,14 +36,11 @@ std::wstring SettingsPath(const wchar_t* file)
     return file_util_ex::MakePath(folder, OrEmpty(file));
 }
 
-/// Formats into a buffer with room for the format itself and 1023 characters more; longer output is cut.
-std::wstring FormatText(const wchar_t* format, ...)
+/// Formats into a buffer with room for the format itself and 1023 characters more; longer output would be cut.
+std::wstring FormatText(const wchar_t* format, int value)
 {
     std::wstring text(std::wcslen(format) + 1024, L'\0');
-    std::va_list arguments;
-    va_start(arguments, format);
-    std::vswprintf(text.data(), text.size() - 1, format, arguments);
-    va_end(arguments);
+    std::swprintf(text.data(), text.size() - 1, format, value);
     text.resize(std::wcslen(text.c_str()));
     return text;
 }
