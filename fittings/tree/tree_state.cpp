@@ -1,8 +1,10 @@
 #include <fittings/tree/tree_state.h>
 
 #include <algorithm>
+#include <cstdint>
+#include <functional>
+#include <memory_resource>
 #include <string_view>
-#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 #include <vector>
@@ -15,6 +17,11 @@ constexpr wchar_t SEPARATOR = L'|';
 
 using LabelSet = std::unordered_set<std::wstring_view>;
 
+std::wstring_view View(const wxString& text)
+{
+    return std::wstring_view(text.wc_str(), text.length());
+}
+
 // The labels of a state text. They point into it. What follows the last separator is no label.
 LabelSet SplitLabels(std::wstring_view text)
 {
@@ -25,6 +32,96 @@ LabelSet SplitLabels(std::wstring_view text)
     }
     return labels;
 }
+
+// The labels whose last visited item is expanded. A label that was only seen collapsed is no different from one that was
+// never seen, so it takes no room. There may be a hundred thousand of them and more: they share an open hash table and
+// blocks of memory, instead of an allocation each.
+class ExpandedLabelSet
+{
+public:
+    ExpandedLabelSet() : m_slots(1024) {}
+
+    void Note(std::wstring_view label, bool expanded)
+    {
+        const auto hash = static_cast<std::uint32_t>(std::hash<std::wstring_view>()(label));
+        size_t slot = FirstSlot(hash);
+        for (; m_slots[slot].number; slot = NextSlot(slot)) {
+            if (m_slots[slot].hash != hash)
+                continue;
+            Entry& entry = m_entries[m_slots[slot].number - 1];
+            if (entry.label == label) {
+                entry.expanded = expanded;
+                return;
+            }
+        }
+        if (!expanded)
+            return;
+        m_entries.push_back({Keep(label), true});
+        m_slots[slot] = {hash, static_cast<std::uint32_t>(m_entries.size())};
+        if (m_entries.size() > m_slots.size() / 2)
+            Grow();
+    }
+
+    std::wstring StateText() const
+    {
+        std::vector<std::wstring_view> labels;
+        labels.reserve(m_entries.size());
+        size_t length = 0;
+        for (const Entry& entry : m_entries) {
+            if (entry.expanded) {
+                labels.push_back(entry.label);
+                length += entry.label.size() + 1;
+            }
+        }
+        std::sort(labels.begin(), labels.end());
+        std::wstring text;
+        text.reserve(length);
+        for (const std::wstring_view label : labels)
+            text.append(label).push_back(SEPARATOR);
+        return text;
+    }
+
+private:
+    struct Entry
+    {
+        std::wstring_view label;
+        bool expanded;
+    };
+
+    struct Slot
+    {
+        std::uint32_t hash;
+        std::uint32_t number;  // Of an entry, from 1; 0 when the slot is free.
+    };
+
+    std::wstring_view Keep(std::wstring_view label)
+    {
+        auto* copy = static_cast<wchar_t*>(m_memory.allocate(label.size() * sizeof(wchar_t), alignof(wchar_t)));
+        std::copy(label.begin(), label.end(), copy);
+        return {copy, label.size()};
+    }
+
+    size_t FirstSlot(std::uint32_t hash) const { return hash & (m_slots.size() - 1); }
+    size_t NextSlot(size_t slot) const { return (slot + 1) & (m_slots.size() - 1); }
+
+    void Grow()
+    {
+        std::vector<Slot> earlier(m_slots.size() * 4);
+        earlier.swap(m_slots);
+        for (const Slot& moved : earlier) {
+            if (!moved.number)
+                continue;
+            size_t slot = FirstSlot(moved.hash);
+            while (m_slots[slot].number)
+                slot = NextSlot(slot);
+            m_slots[slot] = moved;
+        }
+    }
+
+    std::pmr::monotonic_buffer_resource m_memory;
+    std::vector<Entry> m_entries;
+    std::vector<Slot> m_slots;
+};
 
 // A place among the children of an item. Unlike GetNextSibling(), which searches for the item that it is given, a step
 // takes the same time wherever it is made.
@@ -77,8 +174,7 @@ private:
     void Visit()
     {
         const wxTreeItemId item = m_path.back().item;
-        const wxString label = m_tree.GetItemText(item);
-        if (m_labels.count(std::wstring_view(label.wc_str(), label.length())))
+        if (m_labels.count(View(m_tree.GetItemText(item))))
             m_tree.Expand(item);
     }
 
@@ -151,16 +247,16 @@ namespace fittings {
 std::wstring ExpandedLabels(const wxTreeCursor& start)
 {
     wxCHECK_MSG(start.tree && start.IsOk(), std::wstring(), "invalid tree item");
-    std::unordered_map<std::wstring, bool> expanded;
-    const wxTreeCtrl& tree = *start.tree;
     struct Level
     {
         wxTreeItemId parent;
         Place place;
     };
+    const wxTreeCtrl& tree = *start.tree;
+    ExpandedLabelSet labels;
     std::vector<Level> levels;
     const auto visit = [&](const wxTreeItemId& item) {
-        expanded.insert_or_assign(tree.GetItemText(item).ToStdWstring(), tree.IsExpanded(item));
+        labels.Note(View(tree.GetItemText(item)), tree.IsExpanded(item));
         if (tree.ItemHasChildren(item))
             levels.push_back({item, Place()});
     };
@@ -173,24 +269,17 @@ std::wstring ExpandedLabels(const wxTreeCursor& start)
         else
             levels.pop_back();
     }
-    std::vector<std::wstring_view> labels;
-    for (const auto& [label, isExpanded] : expanded) {
-        if (isExpanded)
-            labels.push_back(label);
-    }
-    std::sort(labels.begin(), labels.end());
-    std::wstring text;
-    for (const std::wstring_view label : labels)
-        text.append(label).push_back(SEPARATOR);
-    return text;
+    return labels.StateText();
 }
 
 void ExpandLabels(const std::wstring& text, const wxTreeCursor& start)
 {
     wxCHECK_RET(start.tree && start.IsOk(), "invalid tree item");
     const LabelSet labels = SplitLabels(text);
-    // Each expansion alone would lay out the whole tree again.
-    const wxWindowUpdateLocker frozen(start.tree);
+    // Each expansion alone would lay out the whole tree again. A control that is not created cannot be frozen.
+    wxWindowUpdateLocker frozen;
+    if (start.tree->GetHandle())
+        frozen.Lock(start.tree);
     ExpandingWalk(*start.tree, labels).Run(start.item);
 }
 
