@@ -1,0 +1,149 @@
+#include <fittings/tree/handy_tree_ctrl.h>
+
+#include <memory>
+#include <type_traits>
+
+#include <gtest/gtest.h>
+
+#include <wx/button.h>
+#include <wx/imaglist.h>
+#include <wx/sizer.h>
+
+#include <tests/tree/tree_on_screen.h>
+
+namespace {
+
+static_assert(std::is_base_of_v<wxTreeCtrlEx, wxHandyTreeCtrl>);
+static_assert(std::is_same_v<decltype(&wxHandyTreeCtrl::Create), void (wxHandyTreeCtrl::*)(wxWindow*)>);
+
+TEST(HandyTree, IsCreatedInTwoSteps)
+{
+    auto* frame = new wxFrame(nullptr, wxID_ANY, "tree");
+    auto* tree = new wxHandyTreeCtrl;
+    EXPECT_EQ(tree->GetHandle(), nullptr);
+    EXPECT_EQ(tree->GetImageList(), nullptr);
+    tree->Create(frame);
+    EXPECT_NE(tree->GetHandle(), nullptr);
+    EXPECT_EQ(tree->GetParent(), frame);
+    EXPECT_NE(tree->GetImageList(), nullptr);
+    frame->Destroy();
+    PumpPending();
+}
+
+TEST(HandyTree, HasTheToolkitsDefaults)
+{
+    TreeOnScreen<> screen;
+    EXPECT_EQ(screen.tree->GetWindowStyleFlag() & 0xFFFF, 5);
+    EXPECT_EQ(screen.tree->GetWindowStyleFlag() & 0xFFFF, wxTR_HAS_BUTTONS | wxTR_NO_LINES);
+    EXPECT_EQ(screen.tree->GetName(), "treeCtrl");
+    EXPECT_LT(screen.tree->GetId(), 0);
+    EXPECT_EQ(screen.tree->GetValidator(), nullptr);
+}
+
+TEST(HandyTree, HasAnEmptyListOfSmallImages)
+{
+    TreeOnScreen<> screen;
+    wxImageList* images = screen.tree->GetImageList();
+    ASSERT_NE(images, nullptr);
+    EXPECT_EQ(images->GetImageCount(), 0);
+    EXPECT_EQ(images->GetSize(), wxSize(16, 16));
+    const int index = images->Add(wxBitmap(16, 16));
+    ASSERT_EQ(index, 0);
+    int width = 0, height = 0;
+    EXPECT_TRUE(images->GetSize(index, width, height));
+    EXPECT_EQ(wxSize(width, height), wxSize(16, 16));
+}
+
+// Says when it is deleted.
+struct TrackedImages : wxImageList
+{
+    explicit TrackedImages(bool& deleted) : wxImageList(16, 16), m_deleted(deleted) {}
+    ~TrackedImages() override { m_deleted = true; }
+    bool& m_deleted;
+};
+
+TEST(HandyTree, DoesNotDeleteAListThatIsNotItsOwn)
+{
+    bool deleted = false;
+    auto foreign = std::make_unique<TrackedImages>(deleted);
+    {
+        TreeOnScreen<> screen;
+        screen.tree->SetImageList(foreign.get());
+        screen.tree->DetroyImageList();
+        EXPECT_FALSE(deleted);
+        EXPECT_EQ(screen.tree->GetImageList(), foreign.get());
+    }
+    EXPECT_FALSE(deleted);
+}
+
+TEST(HandyTree, DestroysItsImageListOnceAndForgetsIt)
+{
+    TreeOnScreen<> screen;
+    screen.tree->DetroyImageList();
+    screen.tree->DetroyImageList();
+    screen.tree->CreateImageList();
+    ASSERT_NE(screen.tree->GetImageList(), nullptr);
+    EXPECT_EQ(screen.tree->GetImageList()->GetImageCount(), 0);
+}
+
+TEST(HandyTree, ReplacesTheImageListWithoutReleasingIt)
+{
+    TreeOnScreen<> screen;
+    wxImageList* first = screen.tree->GetImageList();
+    first->Add(wxBitmap(16, 16));
+    screen.tree->CreateImageList();
+    EXPECT_NE(screen.tree->GetImageList(), first);
+    EXPECT_EQ(first->GetImageCount(), 1);
+    delete first;
+}
+
+TEST(HandyTree, SelectsAndFocusesTheRoot)
+{
+    TreeOnScreen<> screen;
+    auto* button = new wxButton(screen.frame, wxID_ANY, "other");
+    auto* sizer = new wxBoxSizer(wxVERTICAL);
+    sizer->Add(button);
+    sizer->Add(screen.tree, 1, wxEXPAND);
+    screen.frame->SetSizer(sizer);
+    wxTreeCursor root = screen.tree->AddRoot("root");
+    wxTreeCursor child = root.AppendItem("child");
+    ASSERT_TRUE(ShowAndSettle(screen.frame));
+    button->SetFocus();
+    ASSERT_TRUE(PumpUntil([&] { return button->HasFocus(); }));
+    screen.tree->SelectItem(child.item);
+
+    EXPECT_TRUE(screen.tree->SelectRootItem());
+    EXPECT_TRUE(screen.tree->GetSelection().item == root.item);
+    EXPECT_FALSE(screen.tree->IsSelected(child.item));
+    EXPECT_TRUE(PumpUntil([&] { return screen.tree->HasFocus(); }));
+}
+
+TEST(HandyTree, WithoutARootSelectsNothingAndLeavesTheFocus)
+{
+    TreeOnScreen<> screen;
+    auto* button = new wxButton(screen.frame, wxID_ANY, "other");
+    ASSERT_TRUE(ShowAndSettle(screen.frame));
+    button->SetFocus();
+    ASSERT_TRUE(PumpUntil([&] { return button->HasFocus(); }));
+    EXPECT_FALSE(screen.tree->SelectRootItem());
+    PumpPending();
+    EXPECT_TRUE(button->HasFocus());
+}
+
+TEST(HandyTree, GetsItsImageListAlsoWhenTheControlCannotBeCreated)
+{
+    ExpectAssertions assertions;
+    wxHandyTreeCtrl tree;
+    tree.Create(nullptr);
+    EXPECT_GE(assertions.Count(), 1);
+    EXPECT_NE(tree.GetImageList(), nullptr);
+}
+
+TEST(HandyTree, CanBeDestroyedWithoutHavingBeenCreated)
+{
+    wxHandyTreeCtrl tree;
+    EXPECT_FALSE(tree.SelectRootItem());
+    tree.DetroyImageList();
+}
+
+}  // namespace

@@ -1,0 +1,192 @@
+// What saving and restoring ask of the toolkit, counted on trees that are wide and deep.
+
+#include <fittings/tree/handy_tree_ctrl.h>
+
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include <wx/wupdlock.h>
+
+#include <fittings/platform/local_reg_store.h>
+#include <tests/support/temp_folder.h>
+#include <tests/tree/tree_on_screen.h>
+
+namespace {
+
+constexpr int WIDTH = 100'000;
+
+/// Counts the calls of a walk. Those by sibling take time in proportion to the number of siblings, each.
+class CountingTree : public wxHandyTreeCtrl
+{
+public:
+    mutable int bySibling = 0;
+    mutable int byCookie = 0;
+    mutable int labels = 0;
+    int expansions = 0;
+
+    wxTreeItemId GetNextSibling(const wxTreeItemId& item) const override
+    {
+        ++bySibling;
+        return wxHandyTreeCtrl::GetNextSibling(item);
+    }
+
+    wxTreeItemId GetPrevSibling(const wxTreeItemId& item) const override
+    {
+        ++bySibling;
+        return wxHandyTreeCtrl::GetPrevSibling(item);
+    }
+
+    // GetFirstChild() comes by here too.
+    wxTreeItemId GetNextChild(const wxTreeItemId& item, wxTreeItemIdValue& cookie) const override
+    {
+        ++byCookie;
+        return wxHandyTreeCtrl::GetNextChild(item, cookie);
+    }
+
+    wxString GetItemText(const wxTreeItemId& item) const override
+    {
+        ++labels;
+        return wxHandyTreeCtrl::GetItemText(item);
+    }
+
+    void Expand(const wxTreeItemId& item) override
+    {
+        ++expansions;
+        wxHandyTreeCtrl::Expand(item);
+    }
+
+    void ForgetCounts() { bySibling = byCookie = labels = expansions = 0; }
+};
+
+class LargeTree : public testing::Test
+{
+protected:
+    TempUserData settings;
+    TreeOnScreen<CountingTree> screen;
+    CountingTree& tree = *screen.tree;
+    wxTreeCursor root = tree.AddRoot("root");
+
+    static std::wstring Stored() { return CLocalRegStore::GetString(L"TreeControlState", L"state", L"(nothing)"); }
+
+    /// A root with many children, each @a step-th expanded where a step is given.
+    void MakeWide(int step)
+    {
+        const wxWindowUpdateLocker frozen(&tree);
+        for (int i = 0; i < WIDTH; ++i) {
+            wxTreeCursor item = root.AppendItem(wxString::Format("%06d", i));
+            item.SetChildren(true);
+            if (step && i % step == 0)
+                item.Expand();
+        }
+    }
+
+    /// A chain of items below the root; the last one.
+    wxTreeCursor MakeDeep(int depth)
+    {
+        const wxWindowUpdateLocker frozen(&tree);
+        wxTreeCursor item = root;
+        for (int i = 0; i < depth; ++i)
+            item = item.AppendItem(wxString::Format("%06d", i));
+        return item;
+    }
+};
+
+TEST_F(LargeTree, IsSavedByAFixedNumberOfStepsASibling)
+{
+    MakeWide(2);
+    tree.ForgetCounts();
+    tree.SaveState("state", root);
+    EXPECT_EQ(tree.bySibling, 0);
+    EXPECT_LE(tree.byCookie, 2 * WIDTH + 2);
+    EXPECT_EQ(tree.labels, WIDTH + 1);
+
+    const std::wstring stored = Stored();
+    EXPECT_EQ(stored.size(), 50'000u * 7);
+    EXPECT_EQ(stored.substr(0, 21), L"000000|000002|000004|");
+    EXPECT_EQ(stored.substr(stored.size() - 14), L"099996|099998|");
+}
+
+TEST_F(LargeTree, IsRestoredByAFixedNumberOfStepsASibling)
+{
+    MakeWide(0);
+    std::wstring stored;
+    for (int i = 0; i < WIDTH; i += 10)
+        stored += wxString::Format("%06d|", i).ToStdWstring();
+    CLocalRegStore::WriteString(L"TreeControlState", L"state", stored.c_str());
+    tree.ForgetCounts();
+    tree.LoadState("state", root);
+    EXPECT_EQ(tree.bySibling, 0);
+    EXPECT_LE(tree.byCookie, 4 * WIDTH);
+    EXPECT_LE(tree.labels, WIDTH + 1);
+    EXPECT_EQ(tree.expansions, WIDTH / 10);
+
+    wxTreeItemIdValue cookie;
+    int expanded = 0, position = 0;
+    for (auto child = tree.GetFirstChild(root.item, cookie); child.IsOk();
+         child = tree.GetNextChild(root.item, cookie)) {
+        if (tree.IsExpanded(child)) {
+            EXPECT_EQ(position % 10, 0);
+            ++expanded;
+        }
+        ++position;
+    }
+    EXPECT_EQ(expanded, WIDTH / 10);
+}
+
+// Many of one label, changing from one to the next: no more than the last counts.
+TEST_F(LargeTree, OfOneLabelIsSavedAsOne)
+{
+    {
+        const wxWindowUpdateLocker frozen(&tree);
+        for (int i = 0; i < WIDTH; ++i) {
+            wxTreeCursor item = root.AppendItem("same");
+            item.SetChildren(true);
+            if (i % 2)
+                item.Expand();
+        }
+    }
+    tree.SaveState("state", root);
+    EXPECT_EQ(Stored(), L"same|");
+    root.AppendItem("same");
+    tree.SaveState("state", root);
+    EXPECT_EQ(Stored(), L"");
+}
+
+TEST_F(LargeTree, IsSavedAndVisitedWhateverItsDepth)
+{
+    constexpr int DEPTH = 100'000;
+    wxTreeCursor last = MakeDeep(DEPTH);
+    last.SetChildren(true);
+    last.Expand();
+    tree.SaveState("state", root);
+    EXPECT_EQ(Stored(), L"099999|");
+
+    tree.Collapse(last.item);
+    tree.ForgetCounts();
+    tree.LoadState("state", root);
+    EXPECT_TRUE(last.IsExpanded());
+    EXPECT_EQ(tree.expansions, 1);
+    EXPECT_LE(tree.byCookie, 4 * DEPTH);
+}
+
+// As deep as the toolkit can lay out an expanded chain in a stack of 8 MB.
+TEST_F(LargeTree, IsRestoredAsDeepAsTheToolkitBears)
+{
+    constexpr int DEPTH = 20'000;
+    MakeDeep(DEPTH);
+    std::wstring stored = L"root|";
+    for (int i = 0; i < DEPTH; ++i)
+        stored += wxString::Format("%06d|", i).ToStdWstring();
+    CLocalRegStore::WriteString(L"TreeControlState", L"state", stored.c_str());
+    tree.LoadState("state", root);
+    EXPECT_EQ(tree.expansions, DEPTH + 1);
+
+    // The last is a leaf, and cannot be expanded.
+    tree.SaveState("state", root);
+    EXPECT_EQ(Stored().size(), (DEPTH - 1) * 7u + 5);
+    EXPECT_EQ(Stored().substr(0, 14), L"000000|000001|");
+    EXPECT_EQ(Stored().substr(Stored().size() - 12), L"019998|root|");
+}
+
+}  // namespace

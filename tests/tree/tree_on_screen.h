@@ -1,0 +1,102 @@
+#ifndef FITTINGS_TESTS_TREE_TREE_ON_SCREEN_H_
+#define FITTINGS_TESTS_TREE_TREE_ON_SCREEN_H_
+
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include <wx/frame.h>
+
+#include <fittings/tree/handy_tree_ctrl.h>
+#include <tests/support/gui.h>
+
+using Labels = std::vector<std::wstring>;
+
+/// A frame that holds a tree of the given class, both gone when the object is.
+template <typename Tree = wxHandyTreeCtrl>
+class TreeOnScreen
+{
+public:
+    TreeOnScreen() : frame(new wxFrame(nullptr, wxID_ANY, "tree", wxPoint(100, 100), wxSize(400, 400))), tree(new Tree)
+    {
+        tree->Create(frame);
+    }
+
+    ~TreeOnScreen()
+    {
+        frame->Destroy();
+        PumpPending();
+    }
+
+    TreeOnScreen(const TreeOnScreen&) = delete;
+    TreeOnScreen& operator=(const TreeOnScreen&) = delete;
+
+    /// Shows the frame and gives the tree the focus.
+    void Show()
+    {
+        ASSERT_TRUE(ShowAndSettle(frame));
+        tree->SetFocus();
+        ASSERT_TRUE(PumpUntil([&] { return tree->HasFocus(); }));
+    }
+
+    wxFrame* frame;
+    Tree* tree;
+};
+
+/// A browsing tree over a fixed list of folders, filled as it is expanded. It notes what is asked of it.
+class LazyTree : public wxHandyTreeCtrl
+{
+public:
+    std::map<std::wstring, Labels> folders;
+    Labels hooked;    ///< The item of each call of the hook.
+    Labels expanded;  ///< The item of each call of Expand().
+    std::function<void(const wxTreeCursor&)> inHook;
+
+    void OnItemExpanding(const wxTreeCursor& item) override
+    {
+        hooked.push_back(item.GetText());
+        if (inHook)
+            inHook(item);
+        if (item.GetChild().IsOk())
+            return;
+        for (const std::wstring& name : folders[item.GetText()])
+            wxTreeCursor(item).AppendItem(name).SetChildren(folders.count(name) > 0);
+    }
+
+    void Expand(const wxTreeItemId& item) override
+    {
+        expanded.push_back(GetItemText(item).ToStdWstring());
+        wxHandyTreeCtrl::Expand(item);
+    }
+};
+
+/// Adds a root with the has-children flag.
+inline wxTreeCursor AddLazyRoot(wxTreeCtrlEx& tree, const wxString& label)
+{
+    wxTreeCursor root = tree.AddRoot(label);
+    root.SetChildren(true);
+    return root;
+}
+
+/// Appends one child a label, and returns them.
+inline std::vector<wxTreeCursor> Append(wxTreeCursor parent, const Labels& labels)
+{
+    std::vector<wxTreeCursor> items;
+    for (const std::wstring& label : labels)
+        items.push_back(parent.AppendItem(label));
+    return items;
+}
+
+/// The labels of the children, as the cursors find them.
+inline Labels ChildrenOf(const wxTreeCursor& parent)
+{
+    Labels labels;
+    for (wxTreeCursor child = parent.GetChild(); child.IsOk(); child = child.GetNextSibling())
+        labels.push_back(child.GetText());
+    return labels;
+}
+
+#endif
