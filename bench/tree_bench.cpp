@@ -1,0 +1,118 @@
+// Saving and restoring the expanded items of a large tree, against the least that the toolkit asks for the same work.
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <benchmark/benchmark.h>
+
+#include <wx/frame.h>
+#include <wx/stopwatch.h>
+#include <wx/wupdlock.h>
+
+#include <fittings/platform/local_reg_store.h>
+#include <fittings/tree/handy_tree_ctrl.h>
+
+namespace {
+
+struct DestroyWindow
+{
+    void operator()(wxWindow* window) const { window->Destroy(); }
+};
+
+// A root with @a count children in a shown frame, each @a step-th of them expanded or to be expanded.
+class Siblings
+{
+public:
+    Siblings(int count, int step) : m_frame(new wxFrame(nullptr, wxID_ANY, "bench")), m_tree(new wxHandyTreeCtrl)
+    {
+        m_tree->Create(m_frame.get());
+        const wxWindowUpdateLocker frozen(m_tree);
+        m_root = m_tree->AddRoot("root");
+        for (int i = 0; i < count; ++i) {
+            wxTreeCursor item = m_root.AppendItem(wxString::Format("folder %06d", i));
+            item.SetChildren(true);
+            if (i % step == 0)
+                m_chosen.push_back(item.item);
+        }
+        m_root.Expand();
+        m_frame->Show();
+    }
+
+    void Expand()
+    {
+        const wxWindowUpdateLocker frozen(m_tree);
+        for (const wxTreeItemId& item : m_chosen)
+            m_tree->Expand(item);
+    }
+
+    void Collapse()
+    {
+        const wxWindowUpdateLocker frozen(m_tree);
+        for (const wxTreeItemId& item : m_chosen)
+            m_tree->Collapse(item);
+    }
+
+    wxHandyTreeCtrl& Tree() { return *m_tree; }
+    wxTreeCursor& Root() { return m_root; }
+
+private:
+    std::unique_ptr<wxFrame, DestroyWindow> m_frame;
+    wxHandyTreeCtrl* m_tree;
+    wxTreeCursor m_root;
+    std::vector<wxTreeItemId> m_chosen;
+};
+
+void Save(benchmark::State& state, int count)
+{
+    Siblings siblings(count, 2);
+    siblings.Expand();
+    for (auto _ : state)
+        siblings.Tree().SaveState("bench", siblings.Root());
+}
+
+void CopyEveryLabel(benchmark::State& state, int count)
+{
+    Siblings siblings(count, 2);
+    siblings.Expand();
+    const wxTreeCtrl& tree = siblings.Tree();
+    for (auto _ : state) {
+        wxTreeItemIdValue cookie;
+        wxTreeItemId child = tree.GetFirstChild(siblings.Root().item, cookie);
+        for (; child.IsOk(); child = tree.GetNextChild(siblings.Root().item, cookie))
+            benchmark::DoNotOptimize(tree.GetItemText(child));
+    }
+}
+
+template <typename Expand>
+void MeasureExpansion(benchmark::State& state, int count, Expand expand)
+{
+    Siblings siblings(count, 10);
+    siblings.Expand();
+    siblings.Tree().SaveState("bench", siblings.Root());
+    for (auto _ : state) {
+        siblings.Collapse();
+        wxStopWatch watch;
+        expand(siblings);
+        state.SetIterationTime(static_cast<double>(watch.TimeInMicro().GetValue()) / 1e6);
+    }
+}
+
+void Load(benchmark::State& state, int count)
+{
+    MeasureExpansion(state, count, [](Siblings& siblings) { siblings.Tree().LoadState("bench", siblings.Root()); });
+}
+
+void ExpandEach(benchmark::State& state, int count)
+{
+    MeasureExpansion(state, count, [](Siblings& siblings) { siblings.Expand(); });
+}
+
+BENCHMARK_CAPTURE(Save, 10k, 10'000)->Name("tree/save-10k");
+BENCHMARK_CAPTURE(Save, 100k, 100'000)->Name("tree/save-100k");
+BENCHMARK_CAPTURE(CopyEveryLabel, 100k, 100'000)->Name("tree/save-100k/peer");
+BENCHMARK_CAPTURE(Load, 1k, 10'000)->Name("tree/load-1k")->UseManualTime();
+BENCHMARK_CAPTURE(Load, 10k, 100'000)->Name("tree/load-10k")->UseManualTime();
+BENCHMARK_CAPTURE(ExpandEach, 10k, 100'000)->Name("tree/load-10k/peer")->UseManualTime();
+
+}  // namespace
