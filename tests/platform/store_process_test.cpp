@@ -147,7 +147,8 @@ protected:
         EXPECT_TRUE(ini.Save(m_data / "settings.ini"));
         const auto start = Clock::now();
         EXPECT_TRUE(ini.Save(m_data / "named.ini"));
-        m_saving = std::chrono::duration_cast<std::chrono::microseconds>(Clock::now() - start);
+        m_saving = std::min(std::chrono::duration_cast<std::chrono::microseconds>(Clock::now() - start),
+                            std::chrono::microseconds(10'000));
     }
 
     // Starts a writer, kills it after a random time, and looks at what is left.
@@ -162,7 +163,7 @@ protected:
             }
         });
         // From before the first write to well into some later one.
-        std::this_thread::sleep_for(std::chrono::microseconds(m_random() % (3000 + 3 * m_saving.count())));
+        std::this_thread::sleep_for(std::chrono::microseconds(m_random() % (3000 + 2 * m_saving.count())));
         ASSERT_EQ(kill(child, SIGKILL), 0);
         int status = 0;
         ASSERT_EQ(waitpid(child, &status, 0), child);
