@@ -35,6 +35,8 @@ public:
     ///
     /// Returns false when the file could not be read; @a ini is then empty and usable. When the reason is another than
     /// that there is no such file, a later Save() to the same path fails rather than replace what could not be read.
+    /// A file that was read but holds no settings and no text, such as one of zeros only or one in UTF-16, also gives
+    /// false; saving changes then first gives it another name, with ".unreadable" at its end.
     static bool Load(CIniFile& ini, const wchar_t* path);
 
     /// Returns the value of @a key in @a section, or @a defaultValue when there is none.
@@ -45,6 +47,9 @@ public:
     static void WriteString(CIniFile& ini, const wchar_t* section, const wchar_t* key, const wchar_t* value);
 
     /// Writes the whole object to @a path, creating or replacing the file in one step.
+    ///
+    /// What was read from a file and not changed since is written as it was read: comments, blank lines, lines that
+    /// mean nothing, their order and their line ends.
     ///
     /// A link is followed and kept, as is the mode of the file; a new file has mode 0600. A file that already holds
     /// the same bytes is left untouched. Returns false on any error; the old file then stands whole.

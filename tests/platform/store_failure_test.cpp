@@ -156,6 +156,24 @@ TEST(AFileThatMayNotBeRead, IsNotReplaced)
     EXPECT_EQ(ReadFile(data / "settings.ini"), NEW);
 }
 
+// A sticky folder lets everybody add files, but replace only their own: the very last step of saving fails.
+TEST(AFileOfAnotherUser, StandsWhereItMayNotBeReplaced)
+{
+    if (geteuid() != 0)
+        GTEST_SKIP() << "only root can make a file of another user";
+    TempUserData data;
+    WriteFile(data / "settings.ini", OLD);
+    chmod((data / "settings.ini").c_str(), 0644);
+    chmod(data.Path().c_str(), 01777);
+    InChild([&] {
+        BecomeNobody();
+        EXPECT_FALSE(SaveKey(data / "settings.ini", L"new"));
+        EXPECT_FALSE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
+    });
+    EXPECT_EQ(ReadFile(data / "settings.ini"), OLD);
+    EXPECT_EQ(NamesIn(data.Path()), (std::vector<std::string>{"settings.ini", "settings.ini.lock"}));
+}
+
 TEST(AFolderInTheFilesPlace, MakesWritingFail)
 {
     TempUserData data;

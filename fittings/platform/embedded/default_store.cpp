@@ -47,7 +47,7 @@ bool DefaultStore::Change(std::wstring_view section, std::wstring_view key, cons
         file.Set(section, key, *value);
     else
         file.Delete(section, key);
-    return file.IsChanged() ? file.Save(path) : !file.HasFailed();
+    return file.Save(path);
 }
 
 // Reads the file unless it is known to be as it was.

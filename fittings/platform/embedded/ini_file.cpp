@@ -116,7 +116,7 @@ bool CIniFile::Save(const std::string& path) const
     const bool replacesNoText = m_isNoText && path == m_path && fittings::IdentityOf(path) == m_content.identity;
     if (!replacesNoText)
         return fittings::ReplaceFileBytes(path, ChangedText());
-    if (!IsChanged())
+    if (m_changes.empty())
         return true;
     const std::string other = fittings::KeepUnderOtherName(path);
     if (other.empty())

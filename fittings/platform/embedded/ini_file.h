@@ -39,8 +39,6 @@ public:
     void Set(std::wstring_view section, std::wstring_view key, std::wstring_view value);
     void Delete(std::wstring_view section, std::wstring_view key);
 
-    bool IsChanged() const { return !m_changes.empty(); }
-
     /// The last Load() met a file that is there but could not be read.
     bool HasFailed() const { return m_content.result == fittings::ReadResult::Failed; }
 
