@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <csignal>
 #include <filesystem>
+#include <fstream>
 #include <string>
 #include <vector>
 
@@ -89,11 +90,25 @@ TEST(AWriteThatTheSystemCutsShort, LeavesTheOldFile)
     });
 }
 
-// A user who is not root gets to mount in a user namespace, where that is allowed. Ends with the process.
+// A user who is not root gets to mount in a user namespace of their own, where that is allowed, as its root.
+bool EnterMountNamespace()
+{
+    if (unshare(CLONE_NEWNS) == 0)
+        return true;
+    const std::string user = "0 " + std::to_string(geteuid()) + " 1";
+    const std::string group = "0 " + std::to_string(getegid()) + " 1";
+    if (unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0)
+        return false;
+    std::ofstream("/proc/self/uid_map") << user;
+    std::ofstream("/proc/self/setgroups") << "deny";
+    std::ofstream("/proc/self/gid_map") << group;
+    return geteuid() == 0;
+}
+
+// The disk goes with the process.
 bool MountSmallDisk(const std::string& folder)
 {
-    return (unshare(CLONE_NEWNS) == 0 || unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0) &&
-           mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+    return EnterMountNamespace() && mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
            mount("fittings-test", folder.c_str(), "tmpfs", 0, "size=64k,mode=700") == 0;
 }
 
