@@ -6,6 +6,7 @@
 #include <glib.h>
 #include <wx/aboutdlg.h>
 #include <wx/artprov.h>
+#include <wx/aui/dockart.h>
 #include <wx/infobar.h>
 #include <wx/menu.h>
 #include <wx/panel.h>
@@ -72,6 +73,10 @@ BrowserFrame::BrowserFrame() : wxFrame(nullptr, wxID_ANY, "Fittings Gallery")
     panel->SetSize(GetClientSize());
     m_layout.SetManagedWindow(panel);
     m_layout.SetFlags(wxAUI_MGR_DEFAULT | wxAUI_MGR_LIVE_RESIZE);
+    wxAuiDockArt* art = m_layout.GetArtProvider();
+    art->SetMetric(wxAUI_DOCKART_GRADIENT_TYPE, wxAUI_GRADIENT_NONE);
+    art->SetMetric(wxAUI_DOCKART_CAPTION_SIZE, GetCharHeight() + FromDIP(6));
+    art->SetFont(wxAUI_DOCKART_CAPTION_FONT, GetFont());
     m_tree = new FolderTree(panel);
     m_layout.AddPane(m_tree, wxAuiPaneInfo()
                                  .Name(foldersPane)

@@ -5,22 +5,29 @@
 #include <string>
 
 #include <glib-unix.h>
+#include <gtk/gtk.h>
 #include <wx/app.h>
+#include <wx/evtloop.h>
 #include <wx/init.h>
 #include <wx/uilocale.h>
 
 #include "browser_frame.h"
+#include "tour.h"
 
 namespace {
 
 using fittings::BrowserFrame;
 
-constexpr const char* usage = "Usage: fittings-gallery [FOLDER]\n"
-                              "Browse FOLDER, by default the folder of the last session.\n";
+constexpr const char* usage = "Usage: fittings-gallery [--tour DIR] [FOLDER]\n"
+                              "Browse FOLDER, by default the folder of the last session.\n"
+                              "\n"
+                              "  --tour DIR  let the program show itself and write pictures into DIR\n"
+                              "  --help      say this\n";
 
 struct CommandLine
 {
     std::string folder;
+    std::string pictures;
     bool help = false;
     bool good = true;
 };
@@ -33,6 +40,8 @@ CommandLine Parse(int count, char** arguments)
         const std::string argument = arguments[i];
         if (argument == "--help" || argument == "-h")
             line.help = true;
+        else if (argument == "--tour" && i + 1 < count)
+            line.pictures = arguments[++i];
         else if (argument[0] != '-' && line.folder.empty())
             line.folder = argument;
         else
@@ -65,6 +74,10 @@ public:
         for (const int signal : {SIGTERM, SIGINT, SIGHUP})
             g_unix_signal_add(signal, OnStopSignal, nullptr);
 
+        gtk_window_set_default_icon_name("fittings-gallery");
+        if (!g_line.pictures.empty())
+            return true;
+
         auto* frame = new BrowserFrame;
         const wxString note = frame->Start(g_line.folder);
         if (!note.empty())
@@ -72,6 +85,15 @@ public:
         frame->Show();
         frame->Raise();
         return true;
+    }
+
+    int OnRun() override
+    {
+        if (g_line.pictures.empty())
+            return wxApp::OnRun();
+        wxGUIEventLoop loop;
+        const wxEventLoopActivator active(&loop);
+        return fittings::Tour(g_line.pictures, g_line.folder).Run() ? 0 : 1;
     }
 };
 

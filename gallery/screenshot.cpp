@@ -1,0 +1,64 @@
+#include "screenshot.h"
+
+#include <cstring>
+#include <memory>
+
+#include <gdk/gdkx.h>
+#include <gtk/gtk.h>
+
+#include "simulated_user.h"
+
+namespace fittings {
+
+namespace {
+
+struct Unref
+{
+    void operator()(void* object) const { g_object_unref(object); }
+};
+using Pixels = std::unique_ptr<GdkPixbuf, Unref>;
+
+Pixels ReadScreen(const wxRect& rect)
+{
+    GdkWindow* screen = gdk_get_default_root_window();
+    const wxRect visible = rect.Intersect(wxRect(0, 0, gdk_window_get_width(screen), gdk_window_get_height(screen)));
+    if (visible.IsEmpty())
+        return nullptr;
+    return Pixels(gdk_pixbuf_get_from_window(screen, visible.x, visible.y, visible.width, visible.height));
+}
+
+bool AreEqual(const Pixels& a, const Pixels& b)
+{
+    return a && b && gdk_pixbuf_get_byte_length(a.get()) == gdk_pixbuf_get_byte_length(b.get()) &&
+           std::memcmp(gdk_pixbuf_read_pixels(a.get()), gdk_pixbuf_read_pixels(b.get()),
+                       gdk_pixbuf_get_byte_length(a.get())) == 0;
+}
+
+}  // namespace
+
+bool CanReadScreen()
+{
+    return GDK_IS_X11_DISPLAY(gdk_display_get_default());
+}
+
+wxRect FrameRect(GtkWidget* window)
+{
+    GdkRectangle rect;
+    gdk_window_get_frame_extents(gtk_widget_get_window(window), &rect);
+    return {rect.x, rect.y, rect.width, rect.height};
+}
+
+bool SaveScreenshot(const wxRect& rect, const std::string& path)
+{
+    Pixels seen;
+    int same = 0;
+    const bool stands = simulated_user::WaitUntil([&] {
+        Pixels now = ReadScreen(rect);
+        same = AreEqual(seen, now) ? same + 1 : 0;
+        seen = std::move(now);
+        return same >= 20;
+    });
+    return stands && gdk_pixbuf_save(seen.get(), path.c_str(), "png", nullptr, nullptr);
+}
+
+}  // namespace fittings

@@ -1,0 +1,24 @@
+#ifndef FITTINGS_GALLERY_SCREENSHOT_H_
+#define FITTINGS_GALLERY_SCREENSHOT_H_
+
+#include <string>
+
+#include <wx/gdicmn.h>
+
+struct _GtkWidget;
+
+namespace fittings {
+
+/// True where the pixels of the screen can be read: on an X display.
+bool CanReadScreen();
+
+/// A top-level window with its decorations, on the screen.
+wxRect FrameRect(_GtkWidget* window);
+
+/// Writes what the screen shows in @a rect as a PNG file, once it no longer changes. False when it never stands still,
+/// cannot be read or the file cannot be written.
+bool SaveScreenshot(const wxRect& rect, const std::string& path);
+
+}  // namespace fittings
+
+#endif

@@ -1,0 +1,332 @@
+#include "tour.h"
+
+#include <cstdio>
+
+#include <gtk/gtk.h>
+#include <unistd.h>
+#include <wx/timer.h>
+
+#include <fittings/platform/file_util_ex.h>
+#include <fittings/platform/local_reg_store.h>
+#include <fittings/platform/std_file_paths.h>
+
+#include "browser_frame.h"
+#include "contents_list.h"
+#include "folder_tree.h"
+#include "native_text.h"
+#include "screenshot.h"
+#include "simulated_user.h"
+
+namespace fittings {
+
+namespace {
+
+using namespace simulated_user;
+
+/// The folder dialog on the screen, if there is one. The toolkit does not list it among its windows.
+GtkWidget* FindFolderDialog()
+{
+    GList* windows = gtk_window_list_toplevels();
+    GtkWidget* dialog = nullptr;
+    for (const GList* window = windows; window; window = window->next) {
+        if (GTK_IS_FILE_CHOOSER_DIALOG(window->data) && gtk_widget_get_mapped(GTK_WIDGET(window->data)))
+            dialog = GTK_WIDGET(window->data);
+    }
+    g_list_free(windows);
+    return dialog;
+}
+
+/// Waits for a folder dialog inside the dialog's own event loop, and ends it when the visit does not.
+class DialogVisitor : public wxTimer
+{
+public:
+    explicit DialogVisitor(std::function<bool(GtkWidget*)> visit) : m_visit(std::move(visit)) { Start(20); }
+
+    bool IsOver() const { return m_over; }
+    bool WentWell() const { return m_wentWell; }
+
+    void Notify() override
+    {
+        GtkWidget* dialog = FindFolderDialog();
+        if (!dialog)
+            return;
+        Stop();
+        m_wentWell = m_visit(dialog);
+        if (FindFolderDialog())
+            gtk_dialog_response(GTK_DIALOG(dialog), GTK_RESPONSE_CANCEL);
+        m_over = true;
+    }
+
+private:
+    std::function<bool(GtkWidget*)> m_visit;
+    bool m_over = false;
+    bool m_wentWell = false;
+};
+
+std::string FolderIn(GtkWidget* dialog)
+{
+    gchar* folder = gtk_file_chooser_get_filename(GTK_FILE_CHOOSER(dialog));
+    const std::string path = folder ? folder : "";
+    g_free(folder);
+    return path;
+}
+
+/// The place on the screen of the button that chooses the folder; empty while it does nothing.
+wxRect AcceptButton(GtkWidget* dialog)
+{
+    GtkWidget* button = gtk_dialog_get_widget_for_response(GTK_DIALOG(dialog), GTK_RESPONSE_ACCEPT);
+    if (!button || !gtk_widget_is_sensitive(button))
+        return {};
+    GtkAllocation place;
+    gtk_widget_get_allocation(button, &place);
+    int x = 0;
+    int y = 0;
+    gdk_window_get_origin(gtk_widget_get_window(button), &x, &y);
+    return {x + place.x, y + place.y, place.width, place.height};
+}
+
+/// What must be the same in the next session.
+struct State
+{
+    explicit State(BrowserFrame& frame)
+        : window(frame.GetRect()), treeWidth(frame.GetTree()->GetSize().x), root(frame.GetTree()->GetRootFolder()),
+          selected(frame.GetTree()->GetSelectedPath()), rows(frame.GetTree()->GetCount()),
+          order(frame.GetList()->GetSortOrder()), widths(frame.GetList()->GetColumnWidths())
+    {
+    }
+
+    bool operator==(const State& other) const
+    {
+        return window == other.window && treeWidth == other.treeWidth && root == other.root &&
+               selected == other.selected && rows == other.rows && order.column == other.order.column &&
+               order.ascending == other.order.ascending && widths == other.widths;
+    }
+
+    wxRect window;
+    int treeWidth;
+    std::string root;
+    std::string selected;
+    unsigned rows;
+    SortOrder order;
+    std::vector<int> widths;
+};
+
+}  // namespace
+
+Tour::Tour(const std::string& pictures, const std::string& folder)
+    : m_pictures(pictures), m_folder(folder.empty() ? m_demo.Path() : folder)
+{
+    std_file_paths::SetUserDataDir(file_util_ex::ConvertFromUTF8W(m_demo.SettingsPath()));
+}
+
+bool Tour::Run()
+{
+    if (!CanReadScreen()) {
+        std::puts("The tour needs an X display.");
+        return false;
+    }
+    if (m_demo.Path().empty() || !file_util_ex::Mkdir(file_util_ex::ConvertFromUTF8W(m_pictures))) {
+        std::puts("The tour cannot make its folders.");
+        return false;
+    }
+    // Whatever hangs, the program ends.
+    alarm(120);
+
+    const struct
+    {
+        const char* name;
+        bool (Tour::*run)();
+    } steps[] = {
+        {"open the window", &Tour::OpenWindow},
+        {"expand folders by keyboard", &Tour::ExpandByKeyboard},
+        {"sort by a header", &Tour::SortByHeader},
+        {"choose a folder in the dialog", &Tour::ChooseFolder},
+        {"cancel the dialog", &Tour::CancelFolder},
+        {"find the window again", &Tour::RememberWindow},
+        {"find it maximised again", &Tour::RememberMaximised},
+    };
+    bool allWell = true;
+    for (const auto& step : steps) {
+        const bool well = (this->*step.run)();
+        std::printf("%s: %s\n", step.name, well ? "done" : "FAILED");
+        std::fflush(stdout);
+        allWell = allWell && well;
+        if (!m_frame)
+            break;
+    }
+    if (m_frame)
+        m_frame->Destroy();
+    return allWell;
+}
+
+bool Tour::OpenWindow()
+{
+    m_frame = new BrowserFrame;
+    const wxString note = m_frame->Start(m_folder);
+    m_frame->Show();
+    m_frame->Raise();
+    return Waits([&] { return m_frame->IsActive() && m_frame->IsShownOnScreen(); }, "the window is shown") &&
+           IsTrue(note.empty(), "the folder opens") &&
+           IsTrue(m_frame->GetTree()->IsExpanded(m_frame->GetTree()->GetRootItem()), "its folders are listed");
+}
+
+bool Tour::ExpandByKeyboard()
+{
+    FolderTree& tree = *m_frame->GetTree();
+    Click(CentreOf(LabelRect(tree, tree.GetRootItem())));
+    if (!Waits([&] { return tree.HasFocus() && tree.GetSelection().item == tree.GetRootItem(); }, "a click selects"))
+        return false;
+
+    // Down to the last folder that can be expanded, and into it, as long as there is one and it can be seen.
+    for (int level = 0; level < 2; ++level) {
+        const wxTreeItemId start = tree.GetSelection().item;
+        wxTreeItemIdValue cookie;
+        int steps = 0;
+        int wanted = 0;
+        wxTreeItemId folder;
+        for (wxTreeItemId child = tree.GetFirstChild(start, cookie); child.IsOk() && steps < 12;
+             child = tree.GetNextChild(start, cookie)) {
+            ++steps;
+            if (tree.ItemHasChildren(child)) {
+                wanted = steps;
+                folder = child;
+            }
+        }
+        for (int i = 0; i < wanted; ++i)
+            Press(WXK_DOWN);
+        if (!folder.IsOk())
+            break;
+        if (!Waits([&] { return tree.GetSelection().item == folder; }, "Down moves the selection"))
+            return false;
+        Press(WXK_RIGHT);
+        if (!Waits([&] { return tree.IsExpanded(folder) && tree.GetChildrenCount(folder, false) > 0; },
+                   "Right expands a folder"))
+            return false;
+    }
+    return SavePicture("tree");
+}
+
+bool Tour::SortByHeader()
+{
+    ContentsList& list = *m_frame->GetList();
+    for (const bool ascending : {true, false}) {
+        Click(CentreOf(HeaderRect(list, SortColumn::Size)));
+        if (!Waits(
+                [&] {
+                    const SortOrder order = list.GetSortOrder();
+                    return order.column == SortColumn::Size && order.ascending == ascending;
+                },
+                "a click on the header sorts"))
+            return false;
+    }
+    unsigned files = 0;
+    for (unsigned row = list.CountRows(); row > 0 && list.GetEntry(row - 1).kind != EntryKind::Folder; --row) {
+        ++files;
+        if (row < list.CountRows() &&
+            !IsTrue(list.GetEntry(row - 1).size >= list.GetEntry(row).size, "large goes first"))
+            return false;
+    }
+    if (files > 0) {
+        const unsigned first = list.CountRows() - files;
+        Click(CentreOf(NameRect(list, first)));
+        if (!Waits([&] { return list.GetSelectedEntry() == &list.GetEntry(first); }, "a click selects a file"))
+            return false;
+    }
+    return SavePicture("browser");
+}
+
+bool Tour::ChooseFolder()
+{
+    const State before(*m_frame);
+    const bool well = VisitFolderDialog([&](GtkWidget* dialog) {
+        gtk_file_chooser_set_current_folder(GTK_FILE_CHOOSER(dialog), before.root.c_str());
+        if (!Waits([&] { return FolderIn(dialog) == before.root && !AcceptButton(dialog).IsEmpty(); },
+                   "the folder is shown") ||
+            !IsTrue(SaveScreenshot(FrameRect(dialog), m_pictures + "/folder-dialog.png"), "the picture is taken"))
+            return false;
+        Click(CentreOf(AcceptButton(dialog)));
+        return Waits([] { return !FindFolderDialog(); }, "a click chooses");
+    });
+    return well && Waits([&] { return State(*m_frame) == before; }, "a folder opened anew looks as it was left") &&
+           IsTrue(CLocalRegStore::GetString("OpenFolder", "Path", "") == before.root,
+                  "the dialog remembers the folder");
+}
+
+bool Tour::CancelFolder()
+{
+    const State before(*m_frame);
+    return VisitFolderDialog([this](GtkWidget*) {
+               Press(WXK_ESCAPE);
+               return Waits([] { return !FindFolderDialog(); }, "Escape cancels");
+           }) &&
+           IsTrue(State(*m_frame) == before, "a cancelled dialog changes nothing");
+}
+
+bool Tour::RememberWindow()
+{
+    FolderTree& tree = *m_frame->GetTree();
+    const int width = tree.GetSize().x;
+    const wxRect place = tree.GetScreenRect();
+    const wxPoint sash(place.GetRight() + 4, place.y + place.height / 2);
+    Drag(sash, sash + wxSize(60, 0));
+    if (!Waits([&] { return tree.GetSize().x > width + 30; }, "the panes' border can be dragged"))
+        return false;
+    const wxRect wanted(90, 70, 1020, 560);
+    m_frame->SetSize(wanted);
+    if (!Waits([&] { return m_frame->GetRect() == wanted; }, "the window moves"))
+        return false;
+
+    const State before(*m_frame);
+    return Reopen() && Waits([&] { return State(*m_frame) == before; }, "all is as it was left") &&
+           SavePicture("window-state");
+}
+
+bool Tour::RememberMaximised()
+{
+    m_frame->Maximize();
+    return Waits([&] { return m_frame->IsMaximized(); }, "the window is maximised") && Reopen() &&
+           Waits([&] { return m_frame->IsMaximized(); }, "the next one is maximised too");
+}
+
+bool Tour::IsTrue(bool condition, const char* claim)
+{
+    if (!condition)
+        std::printf("Not so: %s\n", claim);
+    return condition;
+}
+
+bool Tour::Waits(const std::function<bool()>& condition, const char* claim)
+{
+    return IsTrue(WaitUntil(condition), claim);
+}
+
+bool Tour::VisitFolderDialog(const std::function<bool(GtkWidget*)>& visit)
+{
+    DialogVisitor visitor(visit);
+    Press('O', wxMOD_CONTROL);
+    return Waits([&] { return visitor.IsOver(); }, "Ctrl+O opens the folder dialog") && visitor.WentWell() &&
+           Waits([&] { return m_frame->IsActive(); }, "the window is active again");
+}
+
+bool Tour::SavePicture(const char* component)
+{
+    // Nothing in the picture lies under the pointer.
+    const wxRect frame = FrameRect(m_frame->GetHandle());
+    PointAt(frame.GetBottomRight() + wxSize(4, 4));
+    return IsTrue(SaveScreenshot(frame, m_pictures + "/" + component + ".png"), "the picture is taken");
+}
+
+/// Closes the window as a person does and opens the next session's.
+bool Tour::Reopen()
+{
+    m_frame->Close();
+    if (!Waits([&] { return wxTopLevelWindows.empty(); }, "the window closes"))
+        return false;
+    m_frame = new BrowserFrame;
+    m_frame->Start(std::string());
+    m_frame->Show();
+    m_frame->Raise();
+    return Waits([&] { return m_frame->IsActive() && m_frame->IsShownOnScreen(); }, "the next window is shown");
+}
+
+}  // namespace fittings

@@ -1,0 +1,50 @@
+#ifndef FITTINGS_GALLERY_TOUR_H_
+#define FITTINGS_GALLERY_TOUR_H_
+
+#include <functional>
+#include <string>
+
+#include "demo_folder.h"
+
+struct _GtkWidget;
+
+namespace fittings {
+
+class BrowserFrame;
+
+/// The program shown by itself: drives its window with simulated input and takes a picture of each component.
+///
+/// It browses a folder that it makes, unless it is given one, and keeps its settings apart from the user's.
+class Tour
+{
+public:
+    /// Pictures go into the folder @a pictures, which is made when it is missing.
+    Tour(const std::string& pictures, const std::string& folder);
+
+    /// Says on the standard output how each step went; true when all did what they should. Needs an active event loop.
+    bool Run();
+
+private:
+    bool OpenWindow();
+    bool ExpandByKeyboard();
+    bool SortByHeader();
+    bool ChooseFolder();
+    bool CancelFolder();
+    bool RememberWindow();
+    bool RememberMaximised();
+
+    bool IsTrue(bool condition, const char* claim);
+    bool Waits(const std::function<bool()>& condition, const char* claim);
+    bool VisitFolderDialog(const std::function<bool(_GtkWidget*)>& visit);
+    bool SavePicture(const char* component);
+    bool Reopen();
+
+    std::string m_pictures;
+    DemoFolder m_demo;
+    std::string m_folder;
+    BrowserFrame* m_frame = nullptr;
+};
+
+}  // namespace fittings
+
+#endif
