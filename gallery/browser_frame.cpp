@@ -92,6 +92,7 @@ BrowserFrame::BrowserFrame() : wxFrame(nullptr, wxID_ANY, "Fittings Gallery")
     m_list->SortBy(browser_settings::LoadSortOrder());
     m_list->SetColumnWidths(browser_settings::LoadColumnWidths(m_list->GetColumnWidths().size()));
     wx_window_state::LoadAuiManagerState(&m_layout, stateName);
+    ShowLayoutInMenu();
     wx_window_state::LoadState(this, stateName);
     m_list->SetFocus();
 }
@@ -123,6 +124,7 @@ wxString BrowserFrame::Start(const std::string& folder)
 void BrowserFrame::ResetLayout()
 {
     m_layout.LoadPerspective(m_firstLayout);
+    ShowLayoutInMenu();
 }
 
 void BrowserFrame::MakeMenus()
@@ -180,30 +182,21 @@ wxWindow* BrowserFrame::MakeContents(wxWindow* parent)
 
 void BrowserFrame::BindEvents()
 {
-    Bind(
-        wxEVT_MENU, [this](wxCommandEvent&) { OnOpen(); }, wxID_OPEN);
-    Bind(
-        wxEVT_MENU, [this](wxCommandEvent&) { OnUp(); }, wxID_UP);
-    Bind(
-        wxEVT_MENU, [this](wxCommandEvent&) { OnRefresh(); }, wxID_REFRESH);
-    Bind(
-        wxEVT_MENU, [this](wxCommandEvent&) { Close(); }, wxID_EXIT);
-    Bind(
-        wxEVT_MENU, [this](wxCommandEvent&) { ResetLayout(); }, wxID_RESET);
-    Bind(
-        wxEVT_MENU, [this](wxCommandEvent&) { OnAbout(); }, wxID_ABOUT);
-    Bind(
-        wxEVT_MENU,
-        [this](wxCommandEvent& event) {
-            m_layout.GetPane(foldersPane).Show(event.IsChecked());
-            m_layout.Update();
-        },
-        wxID_VIEW_LIST);
-    Bind(
-        wxEVT_UPDATE_UI, [this](wxUpdateUIEvent& event) { event.Check(m_layout.GetPane(foldersPane).IsShown()); },
-        wxID_VIEW_LIST);
-    Bind(
-        wxEVT_UPDATE_UI, [this](wxUpdateUIEvent& event) { event.Enable(m_shown != m_tree->GetRootFolder()); }, wxID_UP);
+    const auto bindCommand = [this](int id, void (BrowserFrame::*run)()) {
+        Bind(
+            wxEVT_MENU, [this, run](wxCommandEvent&) { (this->*run)(); }, id);
+    };
+    bindCommand(wxID_OPEN, &BrowserFrame::OnOpen);
+    bindCommand(wxID_UP, &BrowserFrame::OnUp);
+    bindCommand(wxID_REFRESH, &BrowserFrame::OnRefresh);
+    bindCommand(wxID_EXIT, &BrowserFrame::OnQuit);
+    bindCommand(wxID_VIEW_LIST, &BrowserFrame::OnToggleFolders);
+    bindCommand(wxID_RESET, &BrowserFrame::ResetLayout);
+    bindCommand(wxID_ABOUT, &BrowserFrame::OnAbout);
+    m_layout.Bind(wxEVT_AUI_PANE_CLOSE, [this](wxAuiManagerEvent& event) {
+        CallAfter(&BrowserFrame::ShowLayoutInMenu);
+        event.Skip();
+    });
     Bind(wxEVT_CLOSE_WINDOW, &BrowserFrame::OnClose, this);
 
     m_tree->Bind(wxEVT_TREE_SEL_CHANGED, [this](wxTreeEvent& event) {
@@ -265,6 +258,10 @@ void BrowserFrame::ShowFolder(const std::string& path)
         m_note->Dismiss();
     m_list->SetEntries(std::move(listing.entries));
     ShowSelectedEntry();
+
+    const bool hasParent = path != m_tree->GetRootFolder();
+    GetMenuBar()->Enable(wxID_UP, hasParent);
+    GetToolBar()->EnableTool(wxID_UP, hasParent);
 }
 
 void BrowserFrame::ShowSelectedEntry()
@@ -277,6 +274,11 @@ void BrowserFrame::ShowSelectedEntry()
             text << ": " << ExactSize(entry->size);
     }
     SetStatusText(text, 1);
+}
+
+void BrowserFrame::ShowLayoutInMenu()
+{
+    GetMenuBar()->Check(wxID_VIEW_LIST, m_layout.GetPane(foldersPane).IsShown());
 }
 
 void BrowserFrame::OnOpen()
@@ -306,6 +308,19 @@ void BrowserFrame::OnRefresh()
     m_tree->Reread();
     ShowFolder(m_tree->GetSelectedPath());
     m_list->SelectEntry(name);
+}
+
+void BrowserFrame::OnQuit()
+{
+    Close();
+}
+
+void BrowserFrame::OnToggleFolders()
+{
+    wxAuiPaneInfo& pane = m_layout.GetPane(foldersPane);
+    pane.Show(!pane.IsShown());
+    m_layout.Update();
+    ShowLayoutInMenu();
 }
 
 void BrowserFrame::OnAbout()

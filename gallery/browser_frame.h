@@ -46,10 +46,13 @@ private:
     void RememberRoot();
     void ShowFolder(const std::string& path);
     void ShowSelectedEntry();
+    void ShowLayoutInMenu();
 
     void OnOpen();
     void OnUp();
     void OnRefresh();
+    void OnQuit();
+    void OnToggleFolders();
     void OnAbout();
     void OnActivated(wxDataViewEvent& event);
     void OnClose(wxCloseEvent& event);
