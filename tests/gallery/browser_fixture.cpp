@@ -1,0 +1,79 @@
+#include <tests/gallery/browser_fixture.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <sstream>
+
+#include <gallery/folder_listing.h>
+#include <gallery/native_text.h>
+
+using namespace fittings;
+using namespace fittings::simulated_user;
+
+BrowserTest::BrowserTest() : root(std::filesystem::canonical(temp.Path()).native()) {}
+
+BrowserTest::~BrowserTest()
+{
+    if (frame)
+        Close();
+}
+
+void BrowserTest::Open(const std::string& path)
+{
+    frame = new BrowserFrame;
+    frame->Start(path);
+    ASSERT_TRUE(ShowAndSettle(frame));
+}
+
+void BrowserTest::Close()
+{
+    frame->Close();
+    frame = nullptr;
+    ASSERT_TRUE(PumpUntil([] { return wxTopLevelWindows.empty(); }));
+}
+
+std::vector<std::string> BrowserTest::Rows()
+{
+    std::vector<std::string> names;
+    for (unsigned row = 0; row < List().CountRows(); ++row)
+        names.push_back(List().GetEntry(row).name);
+    return names;
+}
+
+unsigned BrowserTest::RowOf(const std::string& name)
+{
+    const std::vector<std::string> names = Rows();
+    const auto found = std::find(names.begin(), names.end(), name);
+    EXPECT_NE(found, names.end()) << name;
+    return static_cast<unsigned>(found - names.begin());
+}
+
+wxTreeItemId BrowserTest::Item(const std::string& path)
+{
+    wxTreeItemId item = Tree().GetRootItem();
+    std::istringstream names(path);
+    for (std::string name; std::getline(names, name, '/');) {
+        wxTreeItemIdValue cookie;
+        wxTreeItemId child = Tree().GetFirstChild(item, cookie);
+        while (child.IsOk() && Tree().GetItemText(child) != DisplayText(name))
+            child = Tree().GetNextChild(item, cookie);
+        if (!child.IsOk())
+            return child;
+        item = child;
+    }
+    return item;
+}
+
+void BrowserTest::ClickFolder(const std::string& path)
+{
+    const wxTreeItemId item = Item(path);
+    ASSERT_TRUE(item.IsOk()) << path;
+    Tree().EnsureVisible(item);
+    PumpPending();
+    Click(CentreOf(LabelRect(Tree(), item)));
+}
+
+bool BrowserTest::SelectionComesTo(const std::string& path)
+{
+    return PumpUntil([&] { return Tree().GetSelectedPath() == (path.empty() ? root : JoinPath(root, path)); });
+}

@@ -1,0 +1,199 @@
+// The program as it is started from a shell.
+
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <memory>
+#include <set>
+#include <thread>
+
+#include <fcntl.h>
+#include <gdk-pixbuf/gdk-pixbuf.h>
+#include <gtest/gtest.h>
+#include <spawn.h>
+#include <sys/wait.h>
+
+#include <tests/support/temp_folder.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// One run of the gallery, its output in files.
+class Program
+{
+public:
+    explicit Program(std::vector<std::string> arguments)
+    {
+        arguments.insert(arguments.begin(), GALLERY);
+        std::vector<char*> pointers;
+        for (std::string& argument : arguments)
+            pointers.push_back(argument.data());
+        pointers.push_back(nullptr);
+
+        posix_spawn_file_actions_t files;
+        posix_spawn_file_actions_init(&files);
+        const int flags = O_WRONLY | O_CREAT | O_TRUNC;
+        posix_spawn_file_actions_addopen(&files, 1, (m_folder / "out").c_str(), flags, 0600);
+        posix_spawn_file_actions_addopen(&files, 2, (m_folder / "err").c_str(), flags, 0600);
+        EXPECT_EQ(posix_spawn(&m_process, GALLERY, &files, nullptr, pointers.data(), environ), 0);
+        posix_spawn_file_actions_destroy(&files);
+    }
+
+    ~Program()
+    {
+        if (m_process > 0) {
+            kill(m_process, SIGKILL);
+            waitpid(m_process, nullptr, 0);
+        }
+    }
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+
+    void Send(int signal) { kill(m_process, signal); }
+
+    /// The exit code; -1 when a signal ended it, or the deadline.
+    int Wait(int seconds)
+    {
+        for (int i = 0; i < seconds * 100; ++i) {
+            int status = 0;
+            if (waitpid(m_process, &status, WNOHANG) == m_process) {
+                m_process = 0;
+                return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+            }
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        }
+        ADD_FAILURE() << "still running after " << seconds << " s";
+        return -1;
+    }
+
+    std::string Output() const { return ReadFile(m_folder / "out"); }
+    std::string Errors() const { return ReadFile(m_folder / "err"); }
+
+private:
+    TempFolder m_folder;
+    pid_t m_process = 0;
+};
+
+bool WaitFor(const std::string& command)
+{
+    for (int i = 0; i < 500; ++i) {
+        if (std::system((command + " >/dev/null 2>&1").c_str()) == 0)
+            return true;
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    }
+    return false;
+}
+
+bool ShowsWindow(const std::string& title)
+{
+    return WaitFor("xdotool search --onlyvisible --name '" + title + "'");
+}
+
+/// Each test finds no settings of an earlier one.
+class TheProgram : public testing::Test
+{
+protected:
+    TheProgram() { setenv("XDG_DATA_HOME", data.Path().c_str(), 1); }
+
+    TempFolder data;
+};
+class TheTour : public TheProgram
+{
+};
+
+TEST_F(TheProgram, SaysHowItIsUsed)
+{
+    Program program({"--help"});
+    EXPECT_EQ(program.Wait(10), 0);
+    EXPECT_EQ(program.Output().substr(0, 24), "Usage: fittings-gallery ");
+}
+
+TEST_F(TheProgram, RefusesWhatItDoesNotKnow)
+{
+    for (const std::vector<std::string>& arguments :
+         {std::vector<std::string>{"--nonsense"}, {"one", "two"}, {"--tour"}}) {
+        Program program(arguments);
+        EXPECT_EQ(program.Wait(10), 2);
+        EXPECT_EQ(program.Errors().substr(0, 24), "Usage: fittings-gallery ");
+    }
+}
+
+TEST_F(TheProgram, SavesItsStateWhenItIsTerminated)
+{
+    TempFolder folder;
+    const std::string root = fs::canonical(folder.Path()).native();
+    Program program({folder.Path()});
+    ASSERT_TRUE(ShowsWindow(root + ".*Fittings Gallery"));
+    program.Send(SIGTERM);
+    EXPECT_EQ(program.Wait(20), 0);
+    EXPECT_NE(ReadFile(data / "fittings-gallery/ui_config/browser.ini").find("Root=" + root + "\n"), std::string::npos);
+    EXPECT_NE(ReadFile(data / "fittings-gallery/settings.ini").find("[wxWindowState]"), std::string::npos);
+
+    Program next({});
+    EXPECT_TRUE(ShowsWindow(root + ".*Fittings Gallery"));
+    next.Send(SIGINT);
+    EXPECT_EQ(next.Wait(20), 0);
+}
+
+TEST_F(TheProgram, SaysInOneLineWhatIsNoFolderAndStarts)
+{
+    Program program({"/no such folder"});
+    ASSERT_TRUE(ShowsWindow("Fittings Gallery"));
+    program.Send(SIGTERM);
+    EXPECT_EQ(program.Wait(20), 0);
+    EXPECT_EQ(program.Errors(), "fittings-gallery: /no such folder: No such file or directory\n");
+}
+
+std::size_t CountColours(const std::string& path)
+{
+    const std::unique_ptr<GdkPixbuf, void (*)(void*)> picture(gdk_pixbuf_new_from_file(path.c_str(), nullptr),
+                                                              g_object_unref);
+    if (!picture)
+        return 0;
+    std::set<unsigned> colours;
+    const guchar* pixels = gdk_pixbuf_read_pixels(picture.get());
+    for (int y = 0; y < gdk_pixbuf_get_height(picture.get()); ++y) {
+        const guchar* pixel = pixels + y * gdk_pixbuf_get_rowstride(picture.get());
+        for (int x = 0; x < gdk_pixbuf_get_width(picture.get()); ++x, pixel += gdk_pixbuf_get_n_channels(picture.get()))
+            colours.insert(pixel[0] * 65536u + pixel[1] * 256u + pixel[2]);
+    }
+    return colours.size();
+}
+
+void TakesItsPictures(const std::vector<std::string>& arguments, const std::string& pictures)
+{
+    Program program(arguments);
+    EXPECT_EQ(program.Wait(130), 0) << program.Output() << program.Errors();
+    EXPECT_EQ(program.Output().find("FAILED"), std::string::npos);
+    for (const char* name : {"browser", "folder-dialog", "tree", "window-state"})
+        EXPECT_GT(CountColours(pictures + "/" + name + ".png"), 100u) << name;
+}
+
+TEST_F(TheTour, ShowsEachComponentOnAFolderOfItsOwn)
+{
+    TempFolder folder;
+    TakesItsPictures({"--tour", folder / "pictures"}, folder / "pictures");
+    EXPECT_FALSE(fs::exists(data / "fittings-gallery")) << "the tour touched the user's settings";
+}
+
+TEST_F(TheTour, ShowsAFolderThatItIsGiven)
+{
+    TempFolder folder;
+    TakesItsPictures({"--tour", folder / "pictures", "/usr"}, folder / "pictures");
+}
+
+TEST_F(TheTour, ShowsAnEmptyFolderToo)
+{
+    TempFolder folder;
+    TempFolder empty;
+    TakesItsPictures({"--tour", folder / "pictures", empty.Path()}, folder / "pictures");
+}
+
+TEST_F(TheTour, FailsWhereItCannotWrite)
+{
+    Program program({"--tour", "/proc/pictures"});
+    EXPECT_EQ(program.Wait(20), 1);
+}
+
+}  // namespace

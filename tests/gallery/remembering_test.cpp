@@ -1,0 +1,220 @@
+#include <filesystem>
+
+#include <wx/display.h>
+#include <wx/menu.h>
+
+#include <gallery/folder_listing.h>
+#include <tests/gallery/browser_fixture.h>
+
+namespace {
+
+using namespace fittings;
+using namespace fittings::simulated_user;
+namespace fs = std::filesystem;
+
+class Remembering : public BrowserTest
+{
+protected:
+    void SetUp() override
+    {
+        fs::create_directories(temp / "a/share/inner");
+        fs::create_directories(temp / "b/share/inner");
+        fs::create_directories(temp / "c/d/e/f");
+        WriteFile(temp / "a/file", "x");
+    }
+};
+
+TEST_F(Remembering, TheFirstSessionStartsCentred)
+{
+    Open(root);
+    const wxRect screen = wxDisplay(frame).GetGeometry();
+    const wxRect window = frame->GetRect();
+    EXPECT_EQ(frame->GetSize(), wxSize(960, 640));
+    EXPECT_NEAR(window.x + window.width / 2, screen.width / 2, 40);
+    EXPECT_NEAR(window.y + window.height / 2, screen.height / 2, 40);
+    EXPECT_EQ(Tree().GetSelectedPath(), root);
+}
+
+TEST_F(Remembering, TheWindowComesBackWhereItWas)
+{
+    Open(root);
+    frame->SetSize(130, 90, 800, 500);
+    ASSERT_TRUE(PumpUntil([&] { return frame->GetRect() == wxRect(130, 90, 800, 500); }));
+    Close();
+    Open("");
+    EXPECT_EQ(frame->GetRect(), wxRect(130, 90, 800, 500));
+    EXPECT_FALSE(frame->IsMaximized());
+}
+
+TEST_F(Remembering, TheWindowComesBackMaximised)
+{
+    Open(root);
+    frame->Maximize();
+    ASSERT_TRUE(PumpUntil([&] { return frame->IsMaximized(); }));
+    Close();
+    Open("");
+    EXPECT_TRUE(PumpUntil([&] { return frame->IsMaximized(); }));
+}
+
+TEST_F(Remembering, ThePanesComeBackAsTheyWereDragged)
+{
+    Open(root);
+    const int first = Tree().GetSize().x;
+    const wxRect place = Tree().GetScreenRect();
+    const wxPoint sash(place.GetRight() + 4, place.y + 100);
+    Drag(sash, sash + wxSize(75, 0));
+    ASSERT_TRUE(PumpUntil([&] { return Tree().GetSize().x > first + 50; }));
+    const int width = Tree().GetSize().x;
+    Close();
+    Open("");
+    EXPECT_EQ(Tree().GetSize().x, width);
+    frame->ResetLayout();
+    EXPECT_TRUE(PumpUntil([&] { return Tree().GetSize().x == first; }));
+}
+
+TEST_F(Remembering, HiddenFoldersStayHidden)
+{
+    Open(root);
+    Press(WXK_F9);
+    ASSERT_TRUE(PumpUntil([&] { return !Tree().IsShownOnScreen(); }));
+    Close();
+    Open("");
+    EXPECT_FALSE(Tree().IsShownOnScreen());
+    EXPECT_FALSE(frame->GetMenuBar()->IsChecked(wxID_VIEW_LIST));
+}
+
+TEST_F(Remembering, ExpandedFoldersComeBackAndNoOthers)
+{
+    Open(root);
+    Tree().Expand(Item("a"));
+    Tree().Expand(Item("a/share"));
+    Tree().Expand(Item("b"));
+    Tree().Expand(Item("c"));
+    Tree().Expand(Item("c/d"));
+    Tree().Collapse(Item("c"));
+    Close();
+    Open("");
+    EXPECT_TRUE(Tree().IsExpanded(Tree().GetRootItem()));
+    EXPECT_TRUE(Tree().IsExpanded(Item("a")));
+    EXPECT_TRUE(Tree().IsExpanded(Item("a/share")));
+    EXPECT_TRUE(Tree().IsExpanded(Item("b")));
+    EXPECT_FALSE(Tree().IsExpanded(Item("b/share"))) << "another folder of the same name was expanded";
+    EXPECT_FALSE(Tree().IsExpanded(Item("c")));
+}
+
+TEST_F(Remembering, ACollapsedRootStaysCollapsed)
+{
+    Open(root);
+    Tree().Collapse(Tree().GetRootItem());
+    Close();
+    Open("");
+    EXPECT_FALSE(Tree().IsExpanded(Tree().GetRootItem()));
+}
+
+TEST_F(Remembering, TheSelectedFolderComesBack)
+{
+    Open(root);
+    Tree().SelectPath(root + "/a/share");
+    ASSERT_TRUE(SelectionComesTo("a/share"));
+    Close();
+    Open("");
+    EXPECT_EQ(Tree().GetSelectedPath(), root + "/a/share");
+    EXPECT_EQ(Rows(), std::vector<std::string>{"inner"});
+    Close();
+    Open(root);
+    EXPECT_EQ(Tree().GetSelectedPath(), root + "/a/share");
+}
+
+TEST_F(Remembering, TheNearestFolderIsSelectedWhenThatOneIsGone)
+{
+    Open(root);
+    Tree().SelectPath(root + "/c/d/e");
+    ASSERT_TRUE(SelectionComesTo("c/d/e"));
+    Close();
+    fs::remove_all(temp / "c/d/e");
+    Open("");
+    EXPECT_EQ(Tree().GetSelectedPath(), root + "/c/d");
+}
+
+TEST_F(Remembering, EachRootKeepsItsOwn)
+{
+    Open(root + "/a");
+    Tree().SelectPath(root + "/a/share");
+    Tree().Expand(Item("share"));
+    Close();
+    Open(root + "/b");
+    EXPECT_EQ(Tree().GetSelectedPath(), root + "/b");
+    EXPECT_FALSE(Tree().IsExpanded(Item("share")));
+    Close();
+    Open(root + "/a");
+    EXPECT_EQ(Tree().GetSelectedPath(), root + "/a/share");
+    EXPECT_TRUE(Tree().IsExpanded(Item("share")));
+}
+
+TEST_F(Remembering, NamesThatAreNoTextComeBack)
+{
+    fs::create_directories(temp / "odd|\xFF%7C/in\nner/x");
+    Open(root);
+    Tree().Expand(Item("odd|\xFF%7C"));
+    Tree().SelectPath(root + "/odd|\xFF%7C/in\nner");
+    ASSERT_TRUE(SelectionComesTo("odd|\xFF%7C/in\nner"));
+    Close();
+    Open("");
+    EXPECT_TRUE(Tree().IsExpanded(Item("odd|\xFF%7C")));
+    EXPECT_EQ(Tree().GetSelectedPath(), root + "/odd|\xFF%7C/in\nner");
+    Close();
+    Open(root + "/odd|\xFF%7C");
+    Close();
+    Open("");
+    EXPECT_EQ(Tree().GetRootFolder(), root + "/odd|\xFF%7C");
+}
+
+TEST_F(Remembering, OrderAndColumnWidthsComeBack)
+{
+    Open(root);
+    Click(CentreOf(HeaderRect(List(), SortColumn::Modified)));
+    ASSERT_TRUE(PumpUntil([&] { return List().GetSortOrder().column == SortColumn::Modified; }));
+    Click(CentreOf(HeaderRect(List(), SortColumn::Modified)));
+    ASSERT_TRUE(PumpUntil([&] { return !List().GetSortOrder().ascending; }));
+    const int width = List().GetColumnWidths()[1];
+    const wxRect header = HeaderRect(List(), SortColumn::Type);
+    const wxPoint border(header.GetRight(), header.y + header.height / 2);
+    Drag(border, border + wxSize(40, 0));
+    ASSERT_TRUE(PumpUntil([&] { return List().GetColumnWidths()[1] > width + 20; }));
+    const std::vector<int> widths = List().GetColumnWidths();
+    Close();
+    Open("");
+    EXPECT_EQ(List().GetSortOrder().column, SortColumn::Modified);
+    EXPECT_FALSE(List().GetSortOrder().ascending);
+    EXPECT_TRUE(List().GetColumn(3)->IsSortKey());
+    EXPECT_FALSE(List().GetColumn(3)->IsSortOrderAscending());
+    EXPECT_TRUE(PumpUntil([&] { return List().GetColumnWidths() == widths; }));
+    // The first click on that header goes on from there.
+    Click(CentreOf(HeaderRect(List(), SortColumn::Modified)));
+    EXPECT_TRUE(PumpUntil([&] { return List().GetSortOrder().ascending; }));
+    EXPECT_EQ(List().GetSortOrder().column, SortColumn::Modified);
+}
+
+TEST_F(Remembering, NonsenseInTheSettingsDoesNoHarm)
+{
+    fs::create_directories(settings / "ui_config");
+    WriteFile(settings / "ui_config/browser.ini", "[Contents]\nSortColumn=abc\nSortDescending=99999999999\nWidth1=-5\n"
+                                                  "Width2=wide\nWidth3=100000\n[Folders]\nRoot=/gone%zz\n");
+    WriteFile(settings / "settings.ini", "[wxWindowState]\nBrowser=1;2;x\n[TreeControlState]\n" + root + "=||%|\n");
+    Open(root);
+    EXPECT_EQ(frame->GetSize(), wxSize(960, 640));
+    EXPECT_EQ(List().GetSortOrder().column, SortColumn::Name);
+    for (const int width : List().GetColumnWidths())
+        EXPECT_GT(width, 40);
+}
+
+TEST_F(Remembering, TheHomeFolderIsOpenedWhenTheLastOneIsGone)
+{
+    Open(root + "/c");
+    Close();
+    fs::remove_all(temp / "c");
+    Open("");
+    EXPECT_EQ(Tree().GetRootFolder(), fs::canonical(getenv("HOME")).native());
+}
+
+}  // namespace
