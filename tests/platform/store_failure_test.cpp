@@ -19,7 +19,7 @@
 #include <gtest/gtest.h>
 
 #include <fittings/platform/std_file_paths.h>
-#include <tests/platform/child_process.h>
+#include <tests/platform/forked_work.h>
 #include <tests/platform/store_support.h>
 #include <tests/support/temp_folder.h>
 

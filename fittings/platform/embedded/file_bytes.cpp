@@ -122,6 +122,21 @@ std::string NewStagingPath(const std::string& folder)
     return folder + "/" + STAGING_PREFIX + std::to_string(getpid()) + "-" + std::to_string(++number);
 }
 
+// The bytes are on the disk when this returns. Renaming, and what makes that last, is left to the caller.
+bool WriteNewFile(const std::string& path, std::string_view bytes)
+{
+    return g_file_set_contents_full(path.c_str(), bytes.data(), static_cast<gssize>(bytes.size()),
+                                    G_FILE_SET_CONTENTS_DURABLE, 0600, nullptr);
+}
+
+// Makes a renaming last. What cannot be synced is stored all the same, and comes back unless the power fails now.
+void SyncFolder(const std::string& folder)
+{
+    const FileDescriptor descriptor(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (descriptor.Get() >= 0)
+        fsync(descriptor.Get());
+}
+
 }  // namespace
 
 FileIdentity::FileIdentity(const struct stat& info)
@@ -174,20 +189,22 @@ bool ReplaceFileBytes(const std::string& path, std::string_view bytes)
 
     RemoveOldStagingFiles(folder);
     const std::string staging = NewStagingPath(folder);
-    const auto flags = static_cast<GFileSetContentsFlags>(G_FILE_SET_CONTENTS_CONSISTENT | G_FILE_SET_CONTENTS_DURABLE);
-    if (!g_file_set_contents_full(staging.c_str(), bytes.data(), static_cast<gssize>(bytes.size()), flags, 0600,
-                                  nullptr))
+    if (!WriteNewFile(staging, bytes)) {
+        unlink(staging.c_str());
         return false;
+    }
     if (exists) {
         // Where they cannot be kept, as on a file system without owners, saving matters more.
         if (old.st_uid != geteuid() || old.st_gid != getegid())
             static_cast<void>(!chown(staging.c_str(), old.st_uid, old.st_gid));
         static_cast<void>(!chmod(staging.c_str(), old.st_mode & 07777));
     }
-    if (rename(staging.c_str(), target.c_str()) == 0)
-        return true;
-    unlink(staging.c_str());
-    return false;
+    if (rename(staging.c_str(), target.c_str()) != 0) {
+        unlink(staging.c_str());
+        return false;
+    }
+    SyncFolder(folder);
+    return true;
 }
 
 std::string KeepUnderOtherName(const std::string& path)

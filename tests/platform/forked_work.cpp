@@ -1,4 +1,4 @@
-#include <tests/platform/child_process.h>
+#include <tests/platform/forked_work.h>
 
 #include <cstdio>
 
