@@ -77,7 +77,9 @@ BrowserFrame::BrowserFrame() : wxFrame(nullptr, wxID_ANY, "Fittings Gallery")
     art->SetMetric(wxAUI_DOCKART_GRADIENT_TYPE, wxAUI_GRADIENT_NONE);
     art->SetMetric(wxAUI_DOCKART_CAPTION_SIZE, GetCharHeight() + FromDIP(6));
     art->SetFont(wxAUI_DOCKART_CAPTION_FONT, GetFont());
-    art->SetColour(wxAUI_DOCKART_INACTIVE_CAPTION_COLOUR, panel->GetBackgroundColour());
+    for (const int part :
+         {wxAUI_DOCKART_INACTIVE_CAPTION_COLOUR, wxAUI_DOCKART_BACKGROUND_COLOUR, wxAUI_DOCKART_SASH_COLOUR})
+        art->SetColour(part, panel->GetBackgroundColour());
     art->SetColour(wxAUI_DOCKART_INACTIVE_CAPTION_TEXT_COLOUR, panel->GetForegroundColour());
     m_tree = new FolderTree(panel);
     m_layout.AddPane(m_tree, wxAuiPaneInfo()

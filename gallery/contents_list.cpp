@@ -19,6 +19,18 @@ unsigned IndexOf(SortColumn column)
     return static_cast<unsigned>(std::find(std::begin(columns), std::end(columns), column) - std::begin(columns));
 }
 
+/// Lines the texts up with their header, and shortens those that are too long in the middle.
+void Space(GtkTreeViewColumn* column, int pixels)
+{
+    GList* cells = gtk_cell_layout_get_cells(GTK_CELL_LAYOUT(column));
+    for (const GList* cell = cells; cell; cell = cell->next) {
+        g_object_set(cell->data, "xpad", pixels, nullptr);
+        if (GTK_IS_CELL_RENDERER_TEXT(cell->data))
+            g_object_set(cell->data, "ellipsize", PANGO_ELLIPSIZE_MIDDLE, nullptr);
+    }
+    g_list_free(cells);
+}
+
 wxBitmapBundle Icon(const wxArtID& id)
 {
     return wxArtProvider::GetBitmapBundle(id, wxART_OTHER, wxSize(16, 16));
@@ -116,10 +128,11 @@ ContentsList::ContentsList(wxWindow* parent)
     AppendTextColumn("Modified", IndexOf(SortColumn::Modified), wxDATAVIEW_CELL_INERT, 20 * character, wxALIGN_LEFT,
                      flags);
 
+    for (unsigned i = 0; i < GetColumnCount(); ++i)
+        Space(GTK_TREE_VIEW_COLUMN(GetColumn(i)->GetGtkHandle()), FromDIP(6));
     // The name column takes what the others leave.
     GtkTreeViewColumn* name = GTK_TREE_VIEW_COLUMN(GetColumn(IndexOf(SortColumn::Name))->GetGtkHandle());
     gtk_tree_view_column_set_expand(name, TRUE);
-    gtk_tree_view_column_set_spacing(name, FromDIP(4));
 
     Bind(wxEVT_DATAVIEW_COLUMN_SORTED, &ContentsList::OnColumnSorted, this);
     ShowOrder();
