@@ -141,7 +141,6 @@ ContentsList::ContentsList(wxWindow* parent)
 void ContentsList::SetEntries(std::vector<Entry> entries)
 {
     m_model->SetEntries(std::move(entries), m_order);
-    ShowOrder();
 }
 
 unsigned ContentsList::CountRows() const

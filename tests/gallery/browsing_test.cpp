@@ -176,11 +176,11 @@ TEST_F(Browsing, RefreshLeavesAFolderThatIsGone)
 
 TEST_F(Browsing, AFolderThatIsNewIsEnteredWithoutRefresh)
 {
-    Tree().SelectPath(root + "/docs");
+    Tree().Expand(Item("docs"));
     fs::create_directory(temp / "docs/brand new");
-    Tree().SelectPath(root);
     Tree().SelectPath(root + "/docs");
     ASSERT_TRUE(SelectionComesTo("docs"));
+    ASSERT_FALSE(Item("docs/brand new").IsOk());
     DoubleClick(CentreOf(NameRect(List(), RowOf("brand new"))));
     EXPECT_TRUE(SelectionComesTo("docs/brand new"));
 }
