@@ -3,9 +3,12 @@
 #include <cwchar>
 #include <memory>
 
+#include <fittings/base/or_empty.h>
 #include <fittings/platform/file_util_ex.h>
 #include <fittings/platform/local_reg_store.h>
 #include <fittings/platform/std_file_paths.h>
+
+using fittings::OrEmpty;
 
 namespace {
 
@@ -22,18 +25,13 @@ IniFile NewIniFile()
     return IniFile(CLocalRegStore::CreateInitFile(false));
 }
 
-const wchar_t* OrEmpty(const wchar_t* text)
-{
-    return text ? text : L"";
-}
-
 /// Returns the path of a settings file, in a folder that exists from now on where it can be made.
 std::wstring SettingsPath(const wchar_t* file)
 {
     const std::wstring folder = file_util_ex::MakePath(std_file_paths::GetUserDataDir(), L"ui_config");
     if (!file_util_ex::DoesDirExist(folder))
         file_util_ex::Mkdir(folder);
-    return file_util_ex::MakePath(folder, OrEmpty(file));
+    return file_util_ex::MakePath(folder, file);
 }
 
 /// Formats into a buffer with room for the format itself and 1023 characters more; longer output would be cut.

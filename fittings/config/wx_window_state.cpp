@@ -9,8 +9,11 @@
 #include <wx/display.h>
 #include <wx/frame.h>
 
+#include <fittings/base/or_empty.h>
 #include <fittings/config/ui_config_mgr.h>
 #include <fittings/platform/local_reg_store.h>
+
+using fittings::OrEmpty;
 
 namespace {
 
@@ -28,11 +31,6 @@ constexpr int kWideReference = 800;
 /// Coordinates and sizes on an X display are 16 bits wide. Larger numbers mean nothing to it, and would overflow when
 /// they are added up.
 constexpr long kFarthest = 32767;
-
-const wchar_t* OrEmpty(const wchar_t* text)
-{
-    return text ? text : L"";
-}
 
 /// Reads "x;y;width;height" as scanf's "%d;%d;%d;%d" does, blanks before a number and anything after the last one
 /// included; but a number that is out of range becomes the nearest one in range, where scanf's result is undefined.

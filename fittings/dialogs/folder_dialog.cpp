@@ -4,6 +4,7 @@
 
 #include <wx/dirdlg.h>
 
+#include <fittings/base/or_empty.h>
 #include <fittings/platform/lng_util.h>
 #include <fittings/platform/local_reg_store.h>
 
@@ -13,7 +14,7 @@ const wchar_t* const PATH_KEY = L"Path";
 
 wxString DirSelector(wxWindow* parent, const wchar_t* message, const wchar_t* defaultFolder, int x, int y)
 {
-    wxDirDialog dialog(parent, message ? message : L"", defaultFolder ? defaultFolder : L"", wxDD_DEFAULT_STYLE,
+    wxDirDialog dialog(parent, fittings::OrEmpty(message), fittings::OrEmpty(defaultFolder), wxDD_DEFAULT_STYLE,
                        wxPoint(x, y), wxDefaultSize, wxDirDialogNameStr);
     dialog.Centre(wxBOTH);
     return dialog.ShowModal() == wxID_OK ? dialog.GetPath() : wxString();
