@@ -10,7 +10,7 @@
 
 namespace {
 
-const wchar_t* const PATH_KEY = L"Path";
+constexpr wchar_t kPathKey[] = L"Path";
 
 wxString DirSelector(wxWindow* parent, const wchar_t* message, const wchar_t* defaultFolder, int x, int y)
 {
@@ -33,9 +33,9 @@ wxString wxFolderDlg::DoModal(wxWindow* parent, const wchar_t* initialFolder, co
 
 wxString wxFolderDlg::DoModalReg(wxWindow* parent, const wchar_t* section, const wchar_t* message)
 {
-    const std::wstring remembered = CLocalRegStore::GetString(section, PATH_KEY, L"");
+    const std::wstring remembered = CLocalRegStore::GetString(section, kPathKey, L"");
     const wxString folder = DoModal(parent, remembered.c_str(), message);
     if (!folder.empty())
-        CLocalRegStore::WriteString(section, PATH_KEY, folder.wc_str());
+        CLocalRegStore::WriteString(section, kPathKey, folder.wc_str());
     return folder;
 }

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr wchar_t STATE_SECTION[] = L"TreeControlState";
+constexpr wchar_t kStateSection[] = L"TreeControlState";
 
 // For the whole application, not only for this control: filling may take a while, and nothing else answers meanwhile.
 class BusyCursor
@@ -68,7 +68,7 @@ bool wxHandyTreeCtrl::SelectRootItem()
 
 void wxHandyTreeCtrl::SaveState(const wxString& name, wxTreeCursor& start)
 {
-    CLocalRegStore::WriteString(STATE_SECTION, name.wc_str(), fittings::ExpandedLabels(start).c_str());
+    CLocalRegStore::WriteString(kStateSection, name.wc_str(), fittings::ExpandedLabels(start).c_str());
 }
 
 void wxHandyTreeCtrl::SaveState(wxTreeCursor& start)
@@ -78,7 +78,7 @@ void wxHandyTreeCtrl::SaveState(wxTreeCursor& start)
 
 void wxHandyTreeCtrl::LoadState(const wxString& name, wxTreeCursor& start)
 {
-    fittings::ExpandLabels(CLocalRegStore::GetString(STATE_SECTION, name.wc_str(), L""), start);
+    fittings::ExpandLabels(CLocalRegStore::GetString(kStateSection, name.wc_str(), L""), start);
 }
 
 void wxHandyTreeCtrl::LoadState(wxTreeCursor& start)

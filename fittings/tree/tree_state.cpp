@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr wchar_t SEPARATOR = L'|';
+constexpr wchar_t kSeparator = L'|';
 
 using LabelSet = std::unordered_set<std::wstring_view>;
 
@@ -26,7 +26,7 @@ std::wstring_view View(const wxString& text)
 LabelSet SplitLabels(std::wstring_view text)
 {
     LabelSet labels;
-    for (size_t end = text.find(SEPARATOR); end != text.npos; end = text.find(SEPARATOR)) {
+    for (size_t end = text.find(kSeparator); end != text.npos; end = text.find(kSeparator)) {
         labels.insert(text.substr(0, end));
         text.remove_prefix(end + 1);
     }
@@ -77,7 +77,7 @@ public:
         std::wstring text;
         text.reserve(length);
         for (const std::wstring_view label : labels)
-            text.append(label).push_back(SEPARATOR);
+            text.append(label).push_back(kSeparator);
         return text;
     }
 
