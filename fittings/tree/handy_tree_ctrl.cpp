@@ -22,7 +22,7 @@ public:
 
 }  // namespace
 
-wxHandyTreeCtrl::wxHandyTreeCtrl() : m_imageList(nullptr)
+wxHandyTreeCtrl::wxHandyTreeCtrl()
 {
     Bind(wxEVT_TREE_ITEM_EXPANDING, &wxHandyTreeCtrl::OnEvtItemExpanding, this, wxID_ANY, wxID_ANY);
 }

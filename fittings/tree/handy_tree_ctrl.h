@@ -80,7 +80,7 @@ public:
     virtual void OnItemExpanding(const wxTreeCursor& item);
 
 private:
-    wxImageList* m_imageList;
+    wxImageList* m_imageList = nullptr;
     wxString m_profile;
 };
 
