@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <wx/app.h>
 #include <wx/frame.h>
@@ -10,6 +11,23 @@
 #include <fittings/platform/local_reg_store.h>
 #include <tests/support/gui.h>
 #include <tests/support/temp_folder.h>
+
+namespace {
+
+int g_handlersDestroyed = 0;
+
+}  // namespace
+
+// In place of the toolkit's destructor of event handlers, which does the same but for the counting.
+extern "C" void DestroyHandler(wxEvtHandler* handler) __asm__("_ZN12wxEvtHandlerD2Ev");
+
+extern "C" void DestroyHandler(wxEvtHandler* handler)
+{
+    using Function = void (*)(wxEvtHandler*);
+    static const auto original = reinterpret_cast<Function>(dlsym(RTLD_NEXT, "_ZN12wxEvtHandlerD2Ev"));
+    ++g_handlersDestroyed;
+    original(handler);
+}
 
 namespace {
 
@@ -254,6 +272,73 @@ TEST(MaximizeFrame, CalledTwiceMaximizesTwice)
     PostMaximizeEvent(&frame, &frame);
     wxTheApp->ProcessPendingEvents();
     EXPECT_EQ(frame.maximized, 2);
+}
+
+TEST(MaximizeFrame, MaximizesAFrameThatIsMaximizedToo)
+{
+    CountingFrame frame;
+    ASSERT_TRUE(ShowAndSettle(&frame));
+    ASSERT_TRUE(MaximizeAndSettle(&frame));
+    wx_window_state::MaximizeFrame(&frame);
+    wxTheApp->ProcessPendingEvents();
+    EXPECT_EQ(frame.maximized, 2);
+    EXPECT_EQ(frame.restored, 0);
+}
+
+TEST(MaximizeFrame, PostsAnEventOfTheFrames)
+{
+    CountingFrame frame;
+    wx_window_state::MaximizeFrame(&frame);
+    int seen = 0;
+    frame.Bind(wxEVT_MAXIMIZE, [&](wxMaximizeEvent& event) {
+        ++seen;
+        EXPECT_EQ(event.GetId(), frame.GetId());
+        EXPECT_EQ(event.GetEventObject(), &frame);
+        event.Skip();
+    });
+    EXPECT_EQ(seen, 0);
+    wxTheApp->ProcessPendingEvents();
+    EXPECT_EQ(seen, 1);
+    EXPECT_EQ(frame.maximized, 1);
+}
+
+TEST(MaximizeFrame, ActsOnAnEventWithTheFramesIdAlone)
+{
+    CountingFrame frame;
+    wx_window_state::MaximizeFrame(&frame);
+    wxMaximizeEvent other(frame.GetId() + 1);
+    other.SetEventObject(&frame);
+    frame.HandleWindowEvent(other);
+    EXPECT_EQ(frame.maximized, 0);
+    wxTheApp->ProcessPendingEvents();
+    EXPECT_EQ(frame.maximized, 1);
+}
+
+TEST(MaximizeFrame, DestroysItsHandlerOnceItHasActed)
+{
+    CountingFrame frame;
+    PumpPending();
+    const int before = g_handlersDestroyed;
+    wx_window_state::MaximizeFrame(&frame);
+    EXPECT_EQ(g_handlersDestroyed, before);
+    wxTheApp->ProcessPendingEvents();
+    ASSERT_EQ(frame.maximized, 1);
+    EXPECT_EQ(g_handlersDestroyed, before + 1);
+}
+
+// The frame does not own the handler: destroyed first, it takes down no more than it does without one.
+TEST(MaximizeFrame, LeavesItsHandlerToNobodyWhenTheFrameGoesFirst)
+{
+    auto plain = std::make_unique<CountingFrame>();
+    int before = g_handlersDestroyed;
+    plain.reset();
+    const int ofAFrame = g_handlersDestroyed - before;
+    auto frame = std::make_unique<CountingFrame>();
+    wx_window_state::MaximizeFrame(frame.get());
+    before = g_handlersDestroyed;
+    frame.reset();
+    wxTheApp->ProcessPendingEvents();
+    EXPECT_EQ(g_handlersDestroyed - before, ofAFrame);
 }
 
 TEST(MaximizeFrame, IgnoresAnEventThatNamesNoFrame)
