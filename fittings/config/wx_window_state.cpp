@@ -54,9 +54,9 @@ std::optional<wxRect> ParseGeometry(const std::wstring& text)
 ///
 /// Inside a top-level window that is not shown yet the toolkit cannot tell, and logs so. The sum of the positions
 /// leaves out no more than the decorations.
-wxRect ScreenRect(const wxWindow& window)
+wxRect ScreenRect(wxWindow& window)
 {
-    if (wxGetTopLevelParent(const_cast<wxWindow*>(&window))->IsShown())
+    if (wxGetTopLevelParent(&window)->IsShown())
         return window.GetScreenRect();
     wxRect rect = window.GetRect();
     for (const wxWindow* inner = &window; !inner->IsTopLevel(); inner = inner->GetParent())
@@ -68,7 +68,7 @@ wxRect ScreenRect(const wxWindow& window)
 ///
 /// The toolkit's own function names some display even for a window that is far off all of them, and goes by where a
 /// hidden window was before it was moved.
-int DisplayOf(const wxWindow& window)
+int DisplayOf(wxWindow& window)
 {
     const wxRect rect = ScreenRect(window);
     int best = wxNOT_FOUND;

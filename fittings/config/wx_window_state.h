@@ -13,6 +13,8 @@ class wxWindow;
 /// when it closes. Geometry and the maximised state live in the default store, sections "wxWindowState" and
 /// "wxWindowMaximize"; layouts in the file "wxAuiManagerState.ini" of ui_config_mgr. GUI thread only.
 ///
+/// Windows and managers must not be null; a null name counts as an empty one. Failures to save are not reported.
+///
 /// @code
 /// MainFrame::MainFrame() { ...; wx_window_state::LoadState(this, L"Main"); }
 /// void MainFrame::OnClose(wxCloseEvent& event) { wx_window_state::SaveState(this, L"Main"); event.Skip(); }

@@ -21,7 +21,8 @@ class FITTINGS_API wxFolderDlg
 {
 public:
     /// Starts in @a initialFolder (null or empty: the dialog's own default) and returns the chosen folder, empty when
-    /// the user cancelled. A null @a message shows "Current folder is:"; an empty one shows none.
+    /// the user cancelled. A null @a message shows "Current folder is:" in the language of the host; an empty one
+    /// shows none.
     static wxString DoModal(wxWindow* parent, const wchar_t* initialFolder, const wchar_t* message);
 
     /// As DoModal(), starting in the folder chosen last under @a section and remembering the new choice: in the
