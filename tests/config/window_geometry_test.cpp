@@ -44,7 +44,10 @@ TEST(SaveState, StoresAChildRelativeToItsParent)
 {
     const TempUserData data;
     SpyFrame frame(wxRect(300, 200, 400, 300));
+    wxPanel first(&frame, wxID_ANY);
     wxPanel panel(&frame, wxID_ANY, wxPoint(30, 40), wxSize(200, 100));
+    ASSERT_TRUE(ShowAndSettle(&frame));
+    ASSERT_GE(panel.GetScreenPosition().x, 330);
     wx_window_state::SaveState(&panel, L"Panel");
     EXPECT_EQ(Stored(L"Panel"), L"30;40;200;100");
 }

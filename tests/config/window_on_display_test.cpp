@@ -203,6 +203,17 @@ TEST(FrameUnderAPanel, IsShownBesideIt)
     EXPECT_EQ(frame.GetScreenRect(), wxRect(100, 24, 300, 200));
 }
 
+TEST(FrameWithoutAPosition, IsPutIntoTheWorkAreaByTheWindowManager)
+{
+    const TempUserData data;
+    Plant(L"-1;-1;300;200");
+    SpyFrame frame;
+    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    ASSERT_TRUE(ShowAndSettle(&frame));
+    EXPECT_EQ(frame.GetSize(), wxSize(300, 200));
+    EXPECT_TRUE(wxRect(16, 24, 1264, 960).Contains(frame.GetScreenRect()));
+}
+
 TEST(ShownFrame, IsClippedToo)
 {
     const TempUserData data;
