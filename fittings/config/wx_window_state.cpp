@@ -60,7 +60,7 @@ wxRect ScreenRect(wxWindow& window)
         return window.GetScreenRect();
     wxRect rect = window.GetRect();
     for (const wxWindow* inner = &window; !inner->IsTopLevel(); inner = inner->GetParent())
-        rect.Offset(inner->GetParent()->GetPosition() + inner->GetParent()->GetClientAreaOrigin());
+        rect.Offset(inner->GetParent()->GetPosition());
     return rect;
 }
 
