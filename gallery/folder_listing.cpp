@@ -294,7 +294,8 @@ std::vector<std::uint32_t> SortedPositions(const std::vector<Entry>& entries, So
             return aIsFolder;
         if (const int difference = compare(a, b))
             return (difference < 0) == order.ascending;
-        return std::tie(a.sortKey, a.name) < std::tie(b.sortKey, b.name);
+        const int difference = a.sortKey.compare(b.sortKey);
+        return difference != 0 ? difference < 0 : a.name < b.name;
     });
     return positions;
 }
