@@ -237,6 +237,20 @@ TEST(ChildOfAFrameThatIsOffEveryDisplay, StaysAtTheParentsCorner)
     EXPECT_EQ(panel.GetRect(), wxRect(0, 0, 200, 100));
 }
 
+// Where it is on the screen says whether it is on a display, not where it is in its parent.
+TEST(ChildLeftOfAShownParent, IsOnTheDisplay)
+{
+    const TempUserData data;
+    Plant(L"-210;40;200;100");
+    SpyFrame frame(wxRect(300, 200, 400, 300));
+    wxPanel first(&frame, wxID_ANY);
+    SpyWindow<wxPanel> panel(&frame, wxID_ANY);
+    ASSERT_TRUE(ShowAndSettle(&frame));
+    panel.TakeCalls();
+    EXPECT_TRUE(wx_window_state::LoadState(&panel, L"w"));
+    EXPECT_EQ(panel.TakeCalls(), (SizeCalls{"-210;40;200;100 4", "-210;40;-1;-1 0", "16;40;200;100 3"}));
+}
+
 // A child's own position is measured against the work area, as a top-level window's is.
 TEST(ChildAtItsParentsCorner, IsClippedByItsOwnPosition)
 {

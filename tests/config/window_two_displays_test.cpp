@@ -26,7 +26,7 @@ void gdk_screen_get_monitor_geometry(GdkScreen*, int number, GdkRectangle* geome
 
 void gdk_screen_get_monitor_workarea(GdkScreen*, int number, GdkRectangle* area)
 {
-    *area = number == 1 ? GdkRectangle{640, 24, 640, 960} : GdkRectangle{16, 24, 624, 960};
+    *area = number == 1 ? GdkRectangle{640, 24, 600, 960} : GdkRectangle{16, 24, 624, 960};
 }
 }
 
@@ -43,7 +43,7 @@ TEST(Displays, AreThoseThatTheseTestsExpect)
     EXPECT_EQ(wxDisplay(0u).GetGeometry(), wxRect(0, 0, 640, 1024));
     EXPECT_EQ(wxDisplay(1u).GetGeometry(), wxRect(640, 0, 640, 1024));
     EXPECT_EQ(wxDisplay(0u).GetClientArea(), wxRect(16, 24, 624, 960));
-    EXPECT_EQ(wxDisplay(1u).GetClientArea(), wxRect(640, 24, 640, 960));
+    EXPECT_EQ(wxDisplay(1u).GetClientArea(), wxRect(640, 24, 600, 960));
 }
 
 struct Restored
@@ -74,7 +74,9 @@ INSTANTIATE_TEST_SUITE_P(, StoredOnTwoDisplays,
                                          Restored{"MostlyOnTheFirst", L"450;100;300;200", wxRect(450, 100, 190, 200)},
                                          Restored{"MostlyOnTheSecond", L"550;100;300;200", wxRect(640, 100, 210, 200)},
                                          Restored{"EquallyOnBoth", L"490;100;300;200", wxRect(490, 100, 150, 200)},
-                                         Restored{"OutOfTheSecond", L"1100;900;300;200", wxRect(1100, 900, 180, 84)},
+                                         Restored{"OutOfTheSecond", L"1100;900;300;200", wxRect(1100, 900, 140, 84)},
+                                         Restored{"UnderTheRightPanel", L"1250;100;300;200",
+                                                  wxRect(940, 100, 300, 200)},
                                          Restored{"OffBoth", L"1300;100;300;200", wxRect(16, 24, 284, 176)}),
                          [](const auto& info) { return info.param.name; });
 
