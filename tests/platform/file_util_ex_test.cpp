@@ -124,6 +124,8 @@ TEST(PathWithNul, NamesNoFolder)
     const std::wstring path = Wide(folder.Path()) + L'\0' + L"x";
     EXPECT_FALSE(file_util_ex::DoesDirExist(path));
     EXPECT_FALSE(file_util_ex::Mkdir(path));
+    EXPECT_FALSE(file_util_ex::Mkdir(Wide(folder / "new") + L'\0' + L"x"));
+    EXPECT_FALSE(std::filesystem::exists(folder / "new"));
 }
 
 // The permissions a folder gets are what the process's mask leaves of 0700.

@@ -132,6 +132,12 @@ TEST(UserDataDirWithoutApp, IsTheProgramsName)
     EXPECT_EQ(UserDataOf({}), "/d/paths_probe");
 }
 
+TEST(UserDataDirOfANamelessProgram, IsThatOfAnApplication)
+{
+    const std::vector<std::string> nameless{"-c", "exec -a '' \"$0\"", PATHS_PROBE};
+    EXPECT_EQ(PathsIn({{"XDG_DATA_HOME", "/d"}}, nameless, "/bin/bash").userData, "/d/application");
+}
+
 TEST(UserDataDirOfALink, IsTheLinksName)
 {
     const TempFolder folder;
