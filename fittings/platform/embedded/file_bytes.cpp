@@ -17,12 +17,12 @@ namespace fittings {
 namespace {
 
 // A bigger one is no settings file, and reading it might take all memory.
-constexpr off_t MAX_FILE_SIZE = off_t{1} << 30;
+constexpr off_t kMaxFileSize = off_t{1} << 30;
 
-constexpr const char* STAGING_PREFIX = ".fittings-save-";
+constexpr const char* kStagingPrefix = ".fittings-save-";
 
 // What is older was left behind by a process that was killed while it saved.
-constexpr time_t STAGING_LIFETIME_SECONDS = 60;
+constexpr time_t kStagingLifetimeSeconds = 60;
 
 using GText = std::unique_ptr<char, decltype(&g_free)>;
 
@@ -67,7 +67,7 @@ bool ReadAll(int fd, std::size_t expected, std::string& bytes)
             return count == 0;
         }
         used += static_cast<std::size_t>(count);
-        if (used > static_cast<std::size_t>(MAX_FILE_SIZE))
+        if (used > static_cast<std::size_t>(kMaxFileSize))
             return false;
         if (used == bytes.size())
             bytes.resize(used * 2);
@@ -108,8 +108,8 @@ void RemoveOldStagingFiles(const std::string& folder)
     while (const char* const name = g_dir_read_name(dir)) {
         struct stat info;
         const std::string path = folder + "/" + name;
-        if (g_str_has_prefix(name, STAGING_PREFIX) && lstat(path.c_str(), &info) == 0 && S_ISREG(info.st_mode) &&
-            info.st_mtime + STAGING_LIFETIME_SECONDS < now)
+        if (g_str_has_prefix(name, kStagingPrefix) && lstat(path.c_str(), &info) == 0 && S_ISREG(info.st_mode) &&
+            info.st_mtime + kStagingLifetimeSeconds < now)
             unlink(path.c_str());
     }
     g_dir_close(dir);
@@ -119,7 +119,7 @@ void RemoveOldStagingFiles(const std::string& folder)
 std::string NewStagingPath(const std::string& folder)
 {
     static std::atomic<unsigned> number = 0;
-    return folder + "/" + STAGING_PREFIX + std::to_string(getpid()) + "-" + std::to_string(++number);
+    return folder + "/" + kStagingPrefix + std::to_string(getpid()) + "-" + std::to_string(++number);
 }
 
 // The bytes are on the disk when this returns. Renaming, and what makes that last, is left to the caller.
@@ -167,7 +167,7 @@ FileContent ReadFileBytes(const std::string& path, std::string& bytes)
     if (file.Get() < 0)
         return {errno == ENOENT ? ReadResult::Missing : ReadResult::Failed, std::nullopt};
     struct stat info;
-    if (fstat(file.Get(), &info) != 0 || !S_ISREG(info.st_mode) || info.st_size > MAX_FILE_SIZE ||
+    if (fstat(file.Get(), &info) != 0 || !S_ISREG(info.st_mode) || info.st_size > kMaxFileSize ||
         !ReadAll(file.Get(), static_cast<std::size_t>(info.st_size), bytes))
         return {ReadResult::Failed, std::nullopt};
     return {ReadResult::Read, FileIdentity(info), IsBefore(info.st_ctim, now)};
@@ -211,7 +211,7 @@ std::string KeepUnderOtherName(const std::string& path)
 {
     const std::string target = FollowLinks(path);
     for (int number = 1; number < 1000; ++number) {
-        const std::string other = target + ".unreadable" + (number > 1 ? "." + std::to_string(number) : "");
+        std::string other = target + ".unreadable" + (number > 1 ? "." + std::to_string(number) : "");
         if (link(target.c_str(), other.c_str()) == 0)
             return other;
         if (errno != EEXIST)

@@ -13,13 +13,13 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr std::chrono::seconds PATIENCE(2);
-constexpr std::chrono::milliseconds PAUSE(1);
+constexpr std::chrono::seconds kPatience(2);
+constexpr std::chrono::milliseconds kPause(1);
 
 // The lock itself, and the turn to be the next who gets it: without the turn, a process that stores in a loop would
 // take the lock again before those who wait look at it.
-constexpr off_t LOCK_BYTE = 0;
-constexpr off_t TURN_BYTE = 1;
+constexpr off_t kLockByte = 0;
+constexpr off_t kTurnByte = 1;
 
 bool SetLock(int fd, short type, off_t byte)
 {
@@ -36,7 +36,7 @@ bool WaitForLock(int fd, off_t byte, Clock::time_point deadline)
     while (!SetLock(fd, F_WRLCK, byte)) {
         if ((errno != EAGAIN && errno != EACCES && errno != EINTR) || Clock::now() >= deadline)
             return false;
-        std::this_thread::sleep_for(PAUSE);
+        std::this_thread::sleep_for(kPause);
     }
     return true;
 }
@@ -48,10 +48,10 @@ FileLock::FileLock(const std::string& path)
 {
     if (m_fd < 0)
         return;
-    const Clock::time_point deadline = Clock::now() + PATIENCE;
-    if (WaitForLock(m_fd, TURN_BYTE, deadline)) {
-        WaitForLock(m_fd, LOCK_BYTE, deadline);
-        SetLock(m_fd, F_UNLCK, TURN_BYTE);
+    const Clock::time_point deadline = Clock::now() + kPatience;
+    if (WaitForLock(m_fd, kTurnByte, deadline)) {
+        WaitForLock(m_fd, kLockByte, deadline);
+        SetLock(m_fd, F_UNLCK, kTurnByte);
     }
 }
 
@@ -60,7 +60,7 @@ FileLock::~FileLock()
     if (m_fd < 0)
         return;
     // Closing would leave the lock with a child that was forked meanwhile.
-    SetLock(m_fd, F_UNLCK, LOCK_BYTE);
+    SetLock(m_fd, F_UNLCK, kLockByte);
     close(m_fd);
 }
 

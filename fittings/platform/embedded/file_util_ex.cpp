@@ -8,8 +8,8 @@
 
 namespace {
 
-constexpr wchar_t SEPARATOR = L'/';
-constexpr char32_t REPLACEMENT = 0xFFFD;
+constexpr wchar_t kSeparator = L'/';
+constexpr char32_t kReplacement = 0xFFFD;
 
 bool IsUnicode(char32_t code)
 {
@@ -18,7 +18,7 @@ bool IsUnicode(char32_t code)
 
 std::wstring WithoutTrailingSeparators(std::wstring path)
 {
-    const std::size_t last = path.find_last_not_of(SEPARATOR);
+    const std::size_t last = path.find_last_not_of(kSeparator);
     path.resize(last == std::wstring::npos ? 0 : last + 1);
     return path;
 }
@@ -60,11 +60,11 @@ Decoded DecodeSequence(const unsigned char* at, const unsigned char* end)
         low = lead == 0xF0 ? 0x90 : 0x80;
         high = lead == 0xF4 ? 0x8F : 0xBF;
     } else {
-        return {REPLACEMENT, 1};
+        return {kReplacement, 1};
     }
     for (std::size_t i = 1; i < length; ++i) {
         if (at + i == end || at[i] < low || at[i] > high)
-            return {REPLACEMENT, i};
+            return {kReplacement, i};
         code = (code << 6) | (at[i] & 0x3F);
         low = 0x80;
         high = 0xBF;
@@ -82,9 +82,9 @@ std::wstring MakePath(const CStdStr<wchar_t>& dir, const CStdStr<wchar_t>& name)
         return name;
     if (name.empty())
         return dir;
-    const std::size_t start = name.find_first_not_of(SEPARATOR);
+    const std::size_t start = name.find_first_not_of(kSeparator);
     std::wstring path = WithoutTrailingSeparators(dir);
-    path += SEPARATOR;
+    path += kSeparator;
     if (start != std::wstring::npos)
         path.append(name, start);
     return path;
@@ -107,7 +107,7 @@ std::wstring GetPathWithSep(const wchar_t* path)
 {
     if (!path || !*path)
         return {};
-    return WithoutTrailingSeparators(path) + SEPARATOR;
+    return WithoutTrailingSeparators(path) + kSeparator;
 }
 
 std::wstring RemoveBackSlash(const wchar_t* path)
@@ -116,7 +116,7 @@ std::wstring RemoveBackSlash(const wchar_t* path)
         return {};
     std::wstring result = WithoutTrailingSeparators(path);
     if (result.empty())
-        result = SEPARATOR;
+        result = kSeparator;
     return result;
 }
 
@@ -127,7 +127,7 @@ std::string ConvertToUTF8(const std::wstring& text)
     for (const wchar_t unit : text) {
         char32_t code = static_cast<char32_t>(unit);
         if (!IsUnicode(code))
-            code = REPLACEMENT;
+            code = kReplacement;
         if (code < 0x80) {
             bytes += static_cast<char>(code);
         } else if (code < 0x800) {

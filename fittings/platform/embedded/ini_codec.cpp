@@ -12,17 +12,17 @@ namespace fittings {
 namespace {
 
 // Bytes that are not UTF-8 are the characters from here on, one for each of 0x80 to 0xFF.
-constexpr char32_t BYTE_BASE = 0xDC00;
-constexpr char32_t MAX_UNICODE = 0x10FFFF;
+constexpr char32_t kByteBase = 0xDC00;
+constexpr char32_t kMaxUnicode = 0x10FFFF;
 
 bool IsByte(char32_t code)
 {
-    return code >= BYTE_BASE + 0x80 && code <= BYTE_BASE + 0xFF;
+    return code >= kByteBase + 0x80 && code <= kByteBase + 0xFF;
 }
 
 bool IsUnicode(char32_t code)
 {
-    return code < 0xD800 || (code > 0xDFFF && code <= MAX_UNICODE);
+    return code < 0xD800 || (code > 0xDFFF && code <= kMaxUnicode);
 }
 
 bool IsControl(char32_t code)
@@ -71,8 +71,8 @@ Decoded DecodeUtf8(std::string_view text)
     if (const auto byte = static_cast<unsigned char>(text.front()); byte < 0x80)
         return {byte, 1};
     const gunichar code = g_utf8_get_char_validated(text.data(), static_cast<gssize>(text.size()));
-    if (code > MAX_UNICODE)
-        return {BYTE_BASE + static_cast<unsigned char>(text.front()), 1};
+    if (code > kMaxUnicode)
+        return {kByteBase + static_cast<unsigned char>(text.front()), 1};
     return {code, code < 0x800 ? 2U : code < 0x10000 ? 3U : 4U};
 }
 
@@ -91,7 +91,7 @@ void AppendNumber(std::string& out, char32_t code, std::string_view byteMark, st
 {
     if (code < 0x80 || IsByte(code)) {
         out += byteMark;
-        AppendHex(out, IsByte(code) ? code - BYTE_BASE : code, 2);
+        AppendHex(out, IsByte(code) ? code - kByteBase : code, 2);
     } else {
         out += codeMark;
         AppendHex(out, code, 1);
@@ -124,7 +124,7 @@ std::optional<Decoded> ReadByteDigits(std::string_view text)
     const auto code = ReadHex(text.substr(0, 2));
     if (!code)
         return std::nullopt;
-    return Decoded{*code < 0x80 ? *code : BYTE_BASE + *code, 2};
+    return Decoded{*code < 0x80 ? *code : kByteBase + *code, 2};
 }
 
 std::optional<Decoded> ReadBraces(std::string_view text)
@@ -175,11 +175,11 @@ struct ShortEscape
     char letter;
 };
 
-constexpr ShortEscape SHORT_ESCAPES[] = {{'\n', 'n'}, {'\t', 't'}, {'\r', 'r'}, {'\\', '\\'}, {'"', '"'}};
+constexpr ShortEscape kShortEscapes[] = {{'\n', 'n'}, {'\t', 't'}, {'\r', 'r'}, {'\\', '\\'}, {'"', '"'}};
 
 void AppendQuoted(std::string& out, char32_t code)
 {
-    for (const ShortEscape& escape : SHORT_ESCAPES) {
+    for (const ShortEscape& escape : kShortEscapes) {
         if (escape.code == code) {
             out += '\\';
             out += escape.letter;
@@ -197,7 +197,7 @@ std::optional<Decoded> ReadEscape(std::string_view text)
 {
     if (text.empty())
         return std::nullopt;
-    for (const ShortEscape& escape : SHORT_ESCAPES) {
+    for (const ShortEscape& escape : kShortEscapes) {
         if (escape.letter == text.front())
             return Decoded{escape.code, 1};
     }
@@ -317,7 +317,7 @@ std::string WideToNarrow(std::wstring_view text)
     for (const wchar_t unit : text) {
         const auto code = static_cast<char32_t>(unit);
         if (IsByte(code))
-            narrow += static_cast<char>(code - BYTE_BASE);
+            narrow += static_cast<char>(code - kByteBase);
         else
             AppendUtf8(narrow, code);
     }

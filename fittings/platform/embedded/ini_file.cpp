@@ -9,9 +9,9 @@ namespace {
 
 // GKeyFile refuses a file whose first section says Encoding=something. It is given a first section of our own, whose
 // name EncodeName() never writes.
-constexpr std::string_view FIRST_SECTION = "[%%]\n";
+constexpr std::string_view kFirstSection = "[%%]\n";
 
-constexpr auto FLAGS = G_KEY_FILE_KEEP_TRANSLATIONS;
+constexpr auto kFlags = G_KEY_FILE_KEEP_TRANSLATIONS;
 
 // The last buffer that went out of use. A large block that comes and goes with every file makes the allocator merge
 // and split all the small ones of the GKeyFile each time, at a fifth of the cost of loading it.
@@ -25,12 +25,12 @@ public:
     static void Give(std::string&& buffer)
     {
         // Objects that live to the end of the process outlive what is kept for a thread.
-        if (!s_isGone && buffer.capacity() <= MAX_SIZE)
+        if (!s_isGone && buffer.capacity() <= kMaxSize)
             TheOne().m_buffer = std::move(buffer);
     }
 
 private:
-    static constexpr std::size_t MAX_SIZE = std::size_t{1} << 18;
+    static constexpr std::size_t kMaxSize = std::size_t{1} << 18;
 
     static SpareBuffer& TheOne()
     {
@@ -88,7 +88,7 @@ CIniFile::~CIniFile()
 void CIniFile::Clear()
 {
     m_keys.reset(g_key_file_new());
-    m_buffer = FIRST_SECTION;
+    m_buffer = kFirstSection;
     m_otherSections.clear();
     m_otherSlots.clear();
     m_changes.clear();
@@ -167,7 +167,7 @@ void CIniFile::Delete(std::wstring_view section, std::wstring_view key)
 bool CIniFile::Parse()
 {
     Mask mask(m_buffer);
-    const std::size_t start = FIRST_SECTION.size();
+    const std::size_t start = kFirstSection.size();
     if (fittings::ByteOrderMarkSize(Text()) > 0) {
         mask.Put(start, '#');
         mask.Put(start + 2, '\n');
@@ -201,7 +201,7 @@ bool CIniFile::Parse()
         }
     }
     return (hasSection || isText) &&
-           g_key_file_load_from_data(m_keys.get(), m_buffer.data(), m_buffer.size(), FLAGS, nullptr);
+           g_key_file_load_from_data(m_keys.get(), m_buffer.data(), m_buffer.size(), kFlags, nullptr);
 }
 
 void CIniFile::NoteName(const std::string& section, std::string_view rawSection, std::string_view rawKey)
@@ -248,7 +248,7 @@ void CIniFile::NoteChange(const Slot& slot)
 
 std::string_view CIniFile::Text() const
 {
-    return std::string_view(m_buffer).substr(FIRST_SECTION.size());
+    return std::string_view(m_buffer).substr(kFirstSection.size());
 }
 
 std::string CIniFile::ChangedText() const

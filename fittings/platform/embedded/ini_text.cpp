@@ -12,10 +12,10 @@ namespace fittings {
 
 namespace {
 
-constexpr std::string_view BYTE_ORDER_MARK = "\xEF\xBB\xBF";
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 // Every load asks about every character of every name.
-const std::array<bool, 256> PLAIN_CHARACTERS = [] {
+const std::array<bool, 256> kPlainCharacters = [] {
     std::array<bool, 256> plain = {};
     for (std::size_t byte = 0; byte < plain.size(); ++byte)
         plain[byte] = IsPlainInName(static_cast<char>(byte));
@@ -25,7 +25,7 @@ const std::array<bool, 256> PLAIN_CHARACTERS = [] {
 std::size_t PlainLength(std::string_view text)
 {
     std::size_t length = 0;
-    while (length < text.size() && PLAIN_CHARACTERS[static_cast<unsigned char>(text[length])])
+    while (length < text.size() && kPlainCharacters[static_cast<unsigned char>(text[length])])
         ++length;
     return length;
 }
@@ -258,7 +258,7 @@ IniLineKind IniLines::ClassifyKey(IniLine& line, std::string_view text) const
 
 std::size_t ByteOrderMarkSize(std::string_view text)
 {
-    return text.substr(0, BYTE_ORDER_MARK.size()) == BYTE_ORDER_MARK ? BYTE_ORDER_MARK.size() : 0;
+    return text.substr(0, kByteOrderMark.size()) == kByteOrderMark ? kByteOrderMark.size() : 0;
 }
 
 std::string ApplyEdits(std::string_view text, const std::vector<IniEdit>& edits)

@@ -11,7 +11,7 @@
 
 namespace {
 
-const char* const LIBRARY_DOMAIN = "fittings";
+const char* const kLibraryDomain = "fittings";
 
 // Never destroyed: the texts handed out stay valid until the process ends.
 const wchar_t* Intern(const std::wstring& text)
@@ -25,7 +25,7 @@ wxString CatalogueFolder()
 {
     Dl_info library;
     std::error_code error;
-    if (!dladdr(&LIBRARY_DOMAIN, &library))
+    if (!dladdr(&kLibraryDomain, &library))
         return {};
     const std::filesystem::path file = std::filesystem::canonical(library.dli_fname, error);
     if (error)
@@ -36,7 +36,7 @@ wxString CatalogueFolder()
 // The host may replace its translations at any time, so whether ours are among them is asked for at every look-up.
 void LoadOwnCatalogue(wxTranslations& translations)
 {
-    if (translations.IsLoaded(LIBRARY_DOMAIN))
+    if (translations.IsLoaded(kLibraryDomain))
         return;
     static const bool searched = [] {
         const wxString folder = CatalogueFolder();
@@ -45,7 +45,7 @@ void LoadOwnCatalogue(wxTranslations& translations)
         return true;
     }();
     static_cast<void>(searched);
-    translations.AddCatalog(LIBRARY_DOMAIN);
+    translations.AddCatalog(kLibraryDomain);
 }
 
 }  // namespace

@@ -14,7 +14,7 @@
 namespace {
 
 // What the kernel takes for one file name, in bytes.
-constexpr std::size_t MAX_NAME_BYTES = 255;
+constexpr std::size_t kMaxNameBytes = 255;
 
 struct DataDir
 {
@@ -47,8 +47,8 @@ std::wstring SafeFileName(const std::wstring& text)
     }
     if (name == L"." || name == L"..")
         name.assign(name.size(), L'_');
-    name.resize(std::min(name.size(), MAX_NAME_BYTES));
-    while (file_util_ex::ConvertToUTF8(name).size() > MAX_NAME_BYTES)
+    name.resize(std::min(name.size(), kMaxNameBytes));
+    while (file_util_ex::ConvertToUTF8(name).size() > kMaxNameBytes)
         name.pop_back();
     return name;
 }
