@@ -10,6 +10,7 @@
 #include <cstddef>
 #include <cstdlib>
 #include <filesystem>
+#include <functional>
 #include <new>
 #include <random>
 #include <string>
@@ -17,6 +18,7 @@
 #include <vector>
 
 #include <fcntl.h>
+#include <sched.h>
 #include <sys/mman.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -72,6 +74,42 @@ TEST(SixProcesses, KeepAllOfTheirTwoHundredAndFortyUpdates)
     }
     EXPECT_EQ(kept, 240);
     EXPECT_EQ(NamesIn(data.Path()), (std::vector<std::string>{"settings.ini", "settings.ini.lock"}));
+}
+
+// In a container of its own a process has a number that another has in another container: here both are number 1.
+void InOwnContainer(const std::function<void()>& work)
+{
+    ASSERT_TRUE(unshare(CLONE_NEWPID) == 0 || unshare(CLONE_NEWUSER | CLONE_NEWPID) == 0);
+    InChild([&] {
+        EXPECT_EQ(getpid(), 1);
+        work();
+    });
+}
+
+TEST(TwoContainersThatSaveOneFile, LeaveOneOfTheTwoStatesEachTime)
+{
+    if (!WaitForSuccess(StartChild([] { InOwnContainer([] {}); })))
+        GTEST_SKIP() << "no right to make a container";
+    const TempFolder folder;
+    const std::string path = folder / "a.ini";
+    const std::wstring texts[] = {std::wstring(3000, L'x'), std::wstring(2000, L'y')};
+    std::vector<pid_t> writers;
+    for (const std::wstring& text : texts) {
+        writers.push_back(StartChild([&] {
+            InOwnContainer([&] {
+                for (int i = 0; i < 300; ++i) {
+                    Ini ini;
+                    ini.Set(L"s", L"k", (text + std::to_wstring(i)).c_str());
+                    EXPECT_TRUE(ini.Save(path));
+                    const std::wstring found = Ini(path).Get(L"s", L"k");
+                    EXPECT_TRUE(found.substr(0, 3000) == texts[0] || found.substr(0, 2000) == texts[1]);
+                }
+            });
+        }));
+    }
+    for (const pid_t writer : writers)
+        EXPECT_TRUE(WaitForSuccess(writer));
+    EXPECT_EQ(NamesIn(folder.Path()), (std::vector<std::string>{"a.ini"}));
 }
 
 TEST(FourThreads, KeepAllOfTheirUpdates)

@@ -1,7 +1,6 @@
 #include <fittings/platform/embedded/file_bytes.h>
 
 #include <algorithm>
-#include <atomic>
 #include <cerrno>
 #include <memory>
 
@@ -115,15 +114,17 @@ void RemoveOldStagingFiles(const std::string& folder)
     g_dir_close(dir);
 }
 
-// Unlike the temporary file beside a file of GLib's own making, these names are told from any that a person gives.
-std::string NewStagingPath(const std::string& folder)
+// Makes an empty file that nobody else writes, processes in other containers included. Unlike the temporary file
+// beside a file of GLib's own making, its name is told from any that a person gives. An empty path on any error.
+std::string NewStagingFile(const std::string& folder)
 {
-    static std::atomic<unsigned> number = 0;
-    return folder + "/" + kStagingPrefix + std::to_string(getpid()) + "-" + std::to_string(++number);
+    std::string path = folder + "/" + kStagingPrefix + "XXXXXX";
+    const FileDescriptor file(g_mkstemp_full(path.data(), O_WRONLY | O_CLOEXEC, 0600));
+    return file.Get() >= 0 ? path : std::string();
 }
 
 // The bytes are on the disk when this returns. Renaming, and what makes that last, is left to the caller.
-bool WriteNewFile(const std::string& path, std::string_view bytes)
+bool WriteStagingFile(const std::string& path, std::string_view bytes)
 {
     return g_file_set_contents_full(path.c_str(), bytes.data(), static_cast<gssize>(bytes.size()),
                                     G_FILE_SET_CONTENTS_DURABLE, 0600, nullptr);
@@ -188,8 +189,10 @@ bool ReplaceFileBytes(const std::string& path, std::string_view bytes)
         return false;
 
     RemoveOldStagingFiles(folder);
-    const std::string staging = NewStagingPath(folder);
-    if (!WriteNewFile(staging, bytes)) {
+    const std::string staging = NewStagingFile(folder);
+    if (staging.empty())
+        return false;
+    if (!WriteStagingFile(staging, bytes)) {
         unlink(staging.c_str());
         return false;
     }
