@@ -48,6 +48,13 @@ bool IsBefore(const timespec& a, const timespec& b)
     return a.tv_sec != b.tv_sec ? a.tv_sec < b.tv_sec : a.tv_nsec < b.tv_nsec;
 }
 
+// Past the tick of the clock that stamped a file: one that changes from now on gets another stamp. Stamps without a
+// fraction come from file systems that keep whole seconds, some every second one only.
+bool IsPastTick(const timespec& stamp, const timespec& now)
+{
+    return stamp.tv_nsec == 0 ? stamp.tv_sec + 2 <= now.tv_sec : IsBefore(stamp, now);
+}
+
 bool IsSame(const timespec& a, const timespec& b)
 {
     return a.tv_sec == b.tv_sec && a.tv_nsec == b.tv_nsec;
@@ -171,7 +178,7 @@ FileContent ReadFileBytes(const std::string& path, std::string& bytes)
     if (fstat(file.Get(), &info) != 0 || !S_ISREG(info.st_mode) || info.st_size > kMaxFileSize ||
         !ReadAll(file.Get(), static_cast<std::size_t>(info.st_size), bytes))
         return {ReadResult::Failed, std::nullopt};
-    return {ReadResult::Read, FileIdentity(info), IsBefore(info.st_ctim, now)};
+    return {ReadResult::Read, FileIdentity(info), IsPastTick(info.st_ctim, now)};
 }
 
 bool ReplaceFileBytes(const std::string& path, std::string_view bytes)
