@@ -10,7 +10,8 @@ namespace fittings {
 
 DefaultStore& DefaultStore::Instance()
 {
-    static DefaultStore store;
+    // Never destroyed: an application's own objects may store something when the process ends.
+    static auto& store = *new DefaultStore;
     return store;
 }
 

@@ -27,7 +27,8 @@ struct DataDir
 
 DataDir& TheDataDir()
 {
-    static DataDir dataDir;
+    // Never destroyed, as the default store, which lies there, is not.
+    static auto& dataDir = *new DataDir;
     return dataDir;
 }
 
