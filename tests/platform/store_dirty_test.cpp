@@ -2,6 +2,7 @@
 
 #include <fittings/platform/local_reg_store.h>
 
+#include <chrono>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -348,6 +349,28 @@ INSTANTIATE_TEST_SUITE_P(
                     Deletion{"Absent", "[s]\nl = w\n", "[s]\nl = w\n"},
                     Deletion{"AnotherCase", "[s]\nK%25=1\n[S]\nk%25=2\n", "[s]\nK%25=1\n[S]\nk%25=2\n"}),
     [](const auto& info) { return info.param.name; });
+
+// The nth way to write the letter k, 24 times over.
+std::string NthName(unsigned n)
+{
+    std::string name;
+    for (int bit = 0; bit < 24; ++bit)
+        name += n >> bit & 1U ? "k" : "%6b";
+    return name;
+}
+
+TEST(DeletingAKeyOfManyNames, TakesLinearTimeInTheNamesThatItHas)
+{
+    TempUserData data;
+    std::string bytes = "[s]\n";
+    for (unsigned n = 0; n < 20'000; ++n)
+        bytes += NthName(n) + "=v\n";
+    WriteFile(data / "settings.ini", bytes + "l=w\n");
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_TRUE(CLocalRegStore::DeleteProfile(L"s", std::wstring(24, L'k').c_str()));
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
+    EXPECT_EQ(ReadFile(data / "settings.ini"), "[s]\nl=w\n");
+}
 
 // Between the values that were read and those that come, nothing else may move.
 TEST(ManyChanges, GoWhereTheyBelong)

@@ -156,11 +156,13 @@ void CIniFile::Set(std::wstring_view section, std::wstring_view key, std::wstrin
 void CIniFile::Delete(std::wstring_view section, std::wstring_view key)
 {
     const Slot names(fittings::EncodeName(section), fittings::EncodeName(key));
+    Remove(names);
     // A hand-written file may have the key under several names.
-    while (const auto slot = FindSlot(names)) {
-        g_key_file_remove_key(m_keys.get(), slot->first.c_str(), slot->second.c_str(), nullptr);
-        NoteChange(*slot);
-    }
+    const auto others = m_otherSlots.find(names);
+    if (others == m_otherSlots.end())
+        return;
+    for (const Slot& slot : others->second)
+        Remove(slot);
 }
 
 // False when there is nothing in the text that anybody could have meant as settings.
@@ -229,6 +231,12 @@ std::optional<CIniFile::Slot> CIniFile::FindSlot(const Slot& names) const
         }
     }
     return std::nullopt;
+}
+
+void CIniFile::Remove(const Slot& slot)
+{
+    if (g_key_file_remove_key(m_keys.get(), slot.first.c_str(), slot.second.c_str(), nullptr))
+        NoteChange(slot);
 }
 
 // A new key joins its section also where that has another name than we would write.

@@ -61,6 +61,7 @@ private:
     GText Value(const Slot& slot) const;
     std::optional<Slot> FindSlot(const Slot& names) const;
     Slot NewSlot(Slot names) const;
+    void Remove(const Slot& slot);
     void NoteChange(const Slot& slot);
     std::string_view Text() const;
     std::string ChangedText() const;
