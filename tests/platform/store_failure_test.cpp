@@ -219,6 +219,58 @@ TEST(AFileInTheFoldersPlace, MakesWritingFail)
     EXPECT_EQ(ReadFile(folder / "data"), "precious");
 }
 
+// That there was no file is no longer known once its folder cannot be looked into.
+TEST(AFolderThatBecomesAFile, MakesWritingFail)
+{
+    TempFolder folder;
+    TempUserData data;
+    std_file_paths::SetUserDataDir(file_util_ex::ConvertFromUTF8W(folder / "data"));
+    EXPECT_EQ(Stored(L"s", L"k"), L"(none)");
+    EXPECT_TRUE(CLocalRegStore::DeleteProfile(L"s", L"k"));
+    WriteFile(folder / "data", "precious");
+    EXPECT_FALSE(CLocalRegStore::DeleteProfile(L"s", L"k"));
+    EXPECT_FALSE(CLocalRegStore::WriteString(L"s", L"k", L"v"));
+    EXPECT_EQ(ReadFile(folder / "data"), "precious");
+}
+
+TEST(AFolderThatMayNotBeEntered, MakesWritingFailUntilItMay)
+{
+    TempFolder folder;
+    chmod(folder.Path().c_str(), 0755);
+    TempUserData data;
+    std_file_paths::SetUserDataDir(file_util_ex::ConvertFromUTF8W(folder / "data"));
+    InChild([&] {
+        fs::create_directory(folder / "data");
+        chmod((folder / "data").c_str(), 0777);
+        BecomeNobody();
+        EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"old"));
+        EXPECT_EQ(Stored(L"s", L"k"), L"old");
+    });
+    const auto expectFailure = [&] {
+        EXPECT_EQ(Stored(L"s", L"k"), L"(none)");
+        EXPECT_FALSE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
+        EXPECT_FALSE(CLocalRegStore::WriteString(L"s", L"k", L"old"));
+        EXPECT_FALSE(CLocalRegStore::DeleteProfile(L"s", L"absent"));
+        Ini ini;
+        EXPECT_FALSE(ini.Load(folder / "data/settings.ini"));
+        ini.Set(L"s", L"k", L"new");
+        EXPECT_FALSE(ini.Save(folder / "data/settings.ini"));
+    };
+    EXPECT_EQ(Stored(L"s", L"k"), L"old");
+    chmod((folder / "data").c_str(), 0);
+    InChild([&] {
+        BecomeNobody();
+        expectFailure();
+    });
+    chmod((folder / "data").c_str(), 0777);
+    EXPECT_EQ(ReadFile(folder / "data/settings.ini"), "[s]\nk=old\n");
+    InChild([&] {
+        BecomeNobody();
+        EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
+        EXPECT_EQ(Stored(L"s", L"k"), L"new");
+    });
+}
+
 TEST(APipeInTheFilesPlace, IsNeitherWaitedForNorReplaced)
 {
     TempUserData data;

@@ -58,18 +58,13 @@ void DefaultStore::Refresh()
     if (folder != m_folder) {
         m_path = file_util_ex::ConvertToUTF8(file_util_ex::MakePath(folder, L"settings.ini"));
         m_folder = std::move(folder);
-        m_isLoaded = false;
     }
-    if (IsFresh())
-        return;
-    m_file.Load(m_path);
-    m_isLoaded = true;
+    if (!IsFresh())
+        m_file.Load(m_path);
 }
 
 bool DefaultStore::IsFresh() const
 {
-    if (!m_isLoaded || m_file.HasFailed())
-        return false;
     const auto identity = IdentityOf(m_path);
     if (!identity)
         return errno == ENOENT && m_file.Content().result == ReadResult::Missing;

@@ -30,7 +30,6 @@ private:
     std::wstring m_folder;
     std::string m_path;
     CIniFile m_file;
-    bool m_isLoaded = false;
 };
 
 }  // namespace fittings
