@@ -39,15 +39,6 @@ unsigned Mode(const std::string& path)
     return Info(path).st_mode & 07777;
 }
 
-std::vector<std::string> NamesIn(const std::string& folder)
-{
-    std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(folder))
-        names.push_back(entry.path().filename().string());
-    std::sort(names.begin(), names.end());
-    return names;
-}
-
 bool SaveKey(const std::string& path, const wchar_t* value)
 {
     Ini ini(path);
@@ -375,6 +366,16 @@ TEST(ALinkedFile, KeepsItsLink)
     EXPECT_EQ(Mode(data / "real/deep/file.ini"), 0640U);
     EXPECT_EQ(NamesIn(data / "real/deep"), (std::vector<std::string>{"file.ini"}));
     EXPECT_EQ(NamesIn(data / "real"), (std::vector<std::string>{"deep", "middle.ini"}));
+}
+
+TEST(AnotherHardLink, KeepsWhatTheFileHeld)
+{
+    TempFolder folder;
+    WriteFile(folder / "a.ini", OLD);
+    fs::create_hard_link(folder / "a.ini", folder / "b.ini");
+    EXPECT_TRUE(SaveKey(folder / "a.ini", L"new"));
+    EXPECT_EQ(ReadFile(folder / "a.ini"), NEW);
+    EXPECT_EQ(ReadFile(folder / "b.ini"), OLD);
 }
 
 TEST(ALinkToNothing, IsWrittenThrough)

@@ -40,15 +40,6 @@ std::wstring Name(const wchar_t* prefix, int number)
     return prefix + std::to_wstring(number);
 }
 
-std::vector<std::string> NamesIn(const std::string& folder)
-{
-    std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(folder))
-        names.push_back(entry.path().filename().string());
-    std::sort(names.begin(), names.end());
-    return names;
-}
-
 TEST(SixProcesses, KeepAllOfTheirTwoHundredAndFortyUpdates)
 {
     TempUserData data;
@@ -342,76 +333,6 @@ TEST(AnotherUserDataDirectory, IsAnotherStoreAtOnce)
     std_file_paths::SetUserDataDir(file_util_ex::ConvertFromUTF8W(one.Path()));
     EXPECT_EQ(Stored(L"s", L"k"), L"one");
     EXPECT_EQ(ReadFile(two / "settings.ini"), "[s]\nk=two\n");
-}
-
-// Holds the default store's lock as another process would.
-class HeldLock
-{
-public:
-    explicit HeldLock(const std::string& path) : m_fd(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600))
-    {
-        struct flock lock = {};
-        lock.l_type = F_WRLCK;
-        lock.l_whence = SEEK_SET;
-        EXPECT_EQ(fcntl(m_fd, F_OFD_SETLK, &lock), 0);
-    }
-    ~HeldLock() { Release(); }
-    HeldLock(const HeldLock&) = delete;
-    HeldLock& operator=(const HeldLock&) = delete;
-
-    void Release()
-    {
-        if (m_fd >= 0)
-            close(m_fd);
-        m_fd = -1;
-    }
-
-private:
-    int m_fd;
-};
-
-TEST(AHeldLock, DelaysAWriteByTwoSeconds)
-{
-    TempUserData data;
-    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"1"));
-    const HeldLock lock(data / "settings.ini.lock");
-    const auto start = Clock::now();
-    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"2"));
-    const auto waited = Clock::now() - start;
-    EXPECT_GE(waited, std::chrono::milliseconds(1800));
-    EXPECT_LT(waited, std::chrono::seconds(6));
-    EXPECT_EQ(ReadFile(data / "settings.ini"), "[s]\nk=2\n");
-}
-
-TEST(AHeldLock, DelaysAWriteNoLongerThanItIsHeld)
-{
-    TempUserData data;
-    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"1"));
-    HeldLock lock(data / "settings.ini.lock");
-    std::thread holder([&] {
-        std::this_thread::sleep_for(std::chrono::milliseconds(300));
-        WriteFile(data / "settings.ini", "[s]\nk=1\ntheirs=1\n");
-        lock.Release();
-    });
-    const auto start = Clock::now();
-    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"2"));
-    const auto waited = Clock::now() - start;
-    holder.join();
-    EXPECT_GE(waited, std::chrono::milliseconds(250));
-    EXPECT_LT(waited, std::chrono::milliseconds(1700));
-    EXPECT_EQ(ReadFile(data / "settings.ini"), "[s]\nk=2\ntheirs=1\n");
-}
-
-TEST(AHeldLock, DelaysNoReadAndNoWriteThatChangesNothing)
-{
-    TempUserData data;
-    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"1"));
-    const HeldLock lock(data / "settings.ini.lock");
-    const auto start = Clock::now();
-    EXPECT_EQ(Stored(L"s", L"k"), L"1");
-    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"1"));
-    EXPECT_TRUE(CLocalRegStore::DeleteProfile(L"s", L"other"));
-    EXPECT_LT(Clock::now() - start, std::chrono::milliseconds(1000));
 }
 
 }  // namespace

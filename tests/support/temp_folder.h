@@ -2,6 +2,7 @@
 #define FITTINGS_TESTS_SUPPORT_TEMP_FOLDER_H_
 
 #include <string>
+#include <vector>
 
 /// A new folder that goes, with all it holds, when the object does.
 class TempFolder
@@ -28,6 +29,9 @@ public:
     TempUserData();
     ~TempUserData();
 };
+
+/// The names of what is in a folder, sorted.
+std::vector<std::string> NamesIn(const std::string& folder);
 
 /// The bytes of a file; empty when it cannot be read.
 std::string ReadFile(const std::string& path);

@@ -1,0 +1,174 @@
+// The lock that lets one process at a time change the default store.
+
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <csignal>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <fcntl.h>
+#include <sys/types.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <gtest/gtest.h>
+
+#include <tests/platform/forked_work.h>
+#include <tests/platform/store_support.h>
+#include <tests/support/temp_folder.h>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+// The first byte of the lock file is the lock, the second the turn to be the next who gets it.
+struct flock BytesOfLock(off_t begin, off_t count)
+{
+    struct flock lock = {};
+    lock.l_type = F_WRLCK;
+    lock.l_whence = SEEK_SET;
+    lock.l_start = begin;
+    lock.l_len = count;
+    return lock;
+}
+
+// Holds the default store's lock, or some bytes of it, as another process would.
+class HeldLock
+{
+public:
+    explicit HeldLock(const std::string& path, off_t begin = 0, off_t count = 2)
+        : m_fd(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600))
+    {
+        struct flock lock = BytesOfLock(begin, count);
+        EXPECT_EQ(fcntl(m_fd, F_OFD_SETLK, &lock), 0);
+    }
+    ~HeldLock() { Release(); }
+    HeldLock(const HeldLock&) = delete;
+    HeldLock& operator=(const HeldLock&) = delete;
+
+    void Release()
+    {
+        if (m_fd < 0)
+            return;
+        // Processes that were forked meanwhile would keep the lock of a file that is only closed.
+        struct flock lock = BytesOfLock(0, 0);
+        lock.l_type = F_UNLCK;
+        EXPECT_EQ(fcntl(m_fd, F_OFD_SETLK, &lock), 0);
+        close(m_fd);
+        m_fd = -1;
+    }
+
+private:
+    int m_fd;
+};
+
+TEST(AHeldLock, DelaysAWriteByTwoSeconds)
+{
+    TempUserData data;
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"1"));
+    const HeldLock lock(data / "settings.ini.lock");
+    const auto start = Clock::now();
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"2"));
+    const auto waited = Clock::now() - start;
+    EXPECT_GE(waited, std::chrono::milliseconds(1800));
+    EXPECT_LT(waited, std::chrono::seconds(6));
+    EXPECT_EQ(ReadFile(data / "settings.ini"), "[s]\nk=2\n");
+}
+
+TEST(AHeldLock, DelaysAWriteNoLongerThanItIsHeld)
+{
+    TempUserData data;
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"1"));
+    HeldLock lock(data / "settings.ini.lock");
+    std::thread holder([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        WriteFile(data / "settings.ini", "[s]\nk=1\ntheirs=1\n");
+        lock.Release();
+    });
+    const auto start = Clock::now();
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"2"));
+    const auto waited = Clock::now() - start;
+    holder.join();
+    EXPECT_GE(waited, std::chrono::milliseconds(250));
+    EXPECT_LT(waited, std::chrono::milliseconds(1700));
+    EXPECT_EQ(ReadFile(data / "settings.ini"), "[s]\nk=2\ntheirs=1\n");
+}
+
+TEST(AHeldLock, DelaysNoReadAndNoWriteThatChangesNothing)
+{
+    TempUserData data;
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"1"));
+    const HeldLock lock(data / "settings.ini.lock");
+    const auto start = Clock::now();
+    EXPECT_EQ(Stored(L"s", L"k"), L"1");
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"1"));
+    EXPECT_TRUE(CLocalRegStore::DeleteProfile(L"s", L"other"));
+    EXPECT_LT(Clock::now() - start, std::chrono::milliseconds(1000));
+}
+
+bool IsTurnTaken(const std::string& path)
+{
+    const int file = open(path.c_str(), O_RDWR | O_CLOEXEC);
+    struct flock lock = BytesOfLock(1, 1);
+    EXPECT_EQ(fcntl(file, F_OFD_GETLK, &lock), 0);
+    close(file);
+    return lock.l_type != F_UNLCK;
+}
+
+TEST(AHeldLock, GoesToWhoHasWaitedLongest)
+{
+    TempUserData data;
+    const std::string lockFile = data / "settings.ini.lock";
+    HeldLock lock(lockFile, 0, 1);
+    const pid_t first = StartChild([] { EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"first", L"1")); });
+    const auto deadline = Clock::now() + std::chrono::milliseconds(1500);
+    while (!IsTurnTaken(lockFile) && Clock::now() < deadline)
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    EXPECT_TRUE(IsTurnTaken(lockFile));
+    const pid_t second = StartChild([] { EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"second", L"2")); });
+    lock.Release();
+    EXPECT_TRUE(WaitForSuccess(first));
+    EXPECT_TRUE(WaitForSuccess(second));
+    EXPECT_EQ(ReadFile(data / "settings.ini"), "[s]\nfirst=1\nsecond=2\n");
+    EXPECT_FALSE(IsTurnTaken(lockFile));
+}
+
+// A child that is forked while a thread stores something has the open lock file too.
+TEST(AChildForkedWhileTheLockIsHeld, DoesNotKeepIt)
+{
+    TempUserData data;
+    std::atomic<bool> isDone = false;
+    std::atomic<int> writes = 0;
+    Clock::duration longest{0};
+    std::thread writer([&] {
+        for (int i = 0; !isDone; ++i) {
+            const auto start = Clock::now();
+            EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", std::to_wstring(i).c_str()));
+            longest = std::max(longest, Clock::now() - start);
+            ++writes;
+        }
+    });
+    std::vector<pid_t> children;
+    for (int i = 0; i < 10; ++i) {
+        const pid_t child = fork();
+        if (child == 0) {
+            for (;;)
+                pause();
+        }
+        ASSERT_GT(child, 0);
+        children.push_back(child);
+        for (const int before = writes; writes < before + 2;)
+            std::this_thread::sleep_for(std::chrono::microseconds(100 + 97 * i));
+    }
+    isDone = true;
+    writer.join();
+    for (const pid_t child : children) {
+        kill(child, SIGKILL);
+        waitpid(child, nullptr, 0);
+    }
+    EXPECT_LT(longest, std::chrono::milliseconds(1500));
+}
+
+}  // namespace
