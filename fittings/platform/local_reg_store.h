@@ -14,9 +14,10 @@ class CIniFile;
 /// empty. Sections, keys and values are told apart by their exact characters, upper and lower case included.
 ///
 /// The default store is the file settings.ini in std_file_paths::GetUserDataDir(). Each write re-reads it under a lock
-/// and saves it before returning, so that several processes of one application keep each other's updates.
+/// and saves it before returning, so that several processes of one application keep each other's updates. A write waits
+/// up to two seconds for another process to finish its own, a read for none.
 ///
-/// The default store may be used from any thread; a CIniFile from one thread at a time.
+/// The default store may be used from any thread, and until the process ends; a CIniFile from one thread at a time.
 ///
 /// @code
 /// CLocalRegStore::WriteString(L"Search", L"LastText", text.wc_str());
@@ -51,8 +52,9 @@ public:
     /// What was read from a file and not changed since is written as it was read: comments, blank lines, lines that
     /// mean nothing, their order and their line ends.
     ///
-    /// A link is followed and kept, as is the mode of the file; a new file has mode 0600. A file that already holds
-    /// the same bytes is left untouched. Returns false on any error; the old file then stands whole.
+    /// A symbolic link is followed and kept, as is the mode of the file; a new file has mode 0600. Other hard links to
+    /// the file keep what it held. A file that already holds the same bytes is left untouched. Returns false on any
+    /// error; the old file then stands whole.
     static bool Save(const CIniFile& ini, const wchar_t* path);
 
     /// Releases @a ini, which may be null.

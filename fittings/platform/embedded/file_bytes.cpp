@@ -114,7 +114,7 @@ void RemoveOldStagingFiles(const std::string& folder)
     while (const char* const name = g_dir_read_name(dir)) {
         struct stat info;
         const std::string path = folder + "/" + name;
-        if (g_str_has_prefix(name, kStagingPrefix) && lstat(path.c_str(), &info) == 0 && S_ISREG(info.st_mode) &&
+        if (g_str_has_prefix(name, kStagingPrefix) && lstat(path.c_str(), &info) == 0 &&
             info.st_mtime + kStagingLifetimeSeconds < now)
             unlink(path.c_str());
     }

@@ -113,7 +113,7 @@ bool CIniFile::Save(const std::string& path) const
     if (path.empty() || (HasFailed() && path == m_path))
         return false;
     // What could not be read goes to another name, unless somebody has put a new file in its place.
-    const bool replacesNoText = m_isNoText && path == m_path && fittings::IdentityOf(path) == m_content.identity;
+    const bool replacesNoText = m_isNoText && fittings::IdentityOf(path) == m_content.identity;
     if (!replacesNoText)
         return fittings::ReplaceFileBytes(path, ChangedText());
     if (m_changes.empty())
