@@ -33,6 +33,29 @@ LabelSet SplitLabels(std::wstring_view text)
     return labels;
 }
 
+// Sorts by merging what is in order already: siblings mostly are, and then one comparison each is enough.
+template <typename T, typename Less>
+void MergeRuns(std::vector<T>& items, Less less)
+{
+    std::vector<size_t> ends{0};
+    for (size_t i = 1; i < items.size(); ++i) {
+        if (less(items[i], items[i - 1]))
+            ends.push_back(i);
+    }
+    ends.push_back(items.size());
+    while (ends.size() > 2) {
+        size_t kept = 1;
+        for (size_t i = 2; i < ends.size(); i += 2) {
+            const auto begin = items.begin();
+            std::inplace_merge(begin + ends[i - 2], begin + ends[i - 1], begin + ends[i], less);
+            ends[kept++] = ends[i];
+        }
+        if (ends.size() % 2 == 0)
+            ends[kept++] = ends.back();
+        ends.resize(kept);
+    }
+}
+
 // The labels whose last visited item is expanded. A label that was only seen collapsed is no different from one that was
 // never seen, so it takes no room. There may be a hundred thousand of them and more: they share an open hash table and
 // blocks of memory, instead of an allocation each.
@@ -45,39 +68,33 @@ public:
     {
         const auto hash = static_cast<std::uint32_t>(std::hash<std::wstring_view>()(label));
         size_t slot = FirstSlot(hash);
-        for (; m_slots[slot].number; slot = NextSlot(slot)) {
-            if (m_slots[slot].hash != hash)
-                continue;
-            Entry& entry = m_entries[m_slots[slot].number - 1];
-            if (entry.label == label) {
+        for (; m_slots[slot]; slot = NextSlot(slot)) {
+            Entry& entry = m_entries[m_slots[slot] - 1];
+            if (entry.hash == hash && entry.label == label) {
                 entry.expanded = expanded;
                 return;
             }
         }
         if (!expanded)
             return;
-        m_entries.push_back({Keep(label), true});
-        m_slots[slot] = {hash, static_cast<std::uint32_t>(m_entries.size())};
-        if (m_entries.size() > m_slots.size() / 2)
+        m_entries.push_back({Keep(label), hash, true});
+        m_length += label.size() + 1;
+        m_slots[slot] = static_cast<std::uint32_t>(m_entries.size());
+        // Most labels are looked up in vain, which a sparse table answers by its first slot.
+        if (m_entries.size() > m_slots.size() / 4)
             Grow();
     }
 
-    std::wstring StateText() const
+    // The labels as a state text. Ends the use of the set.
+    std::wstring TakeText()
     {
-        std::vector<std::wstring_view> labels;
-        labels.reserve(m_entries.size());
-        size_t length = 0;
-        for (const Entry& entry : m_entries) {
-            if (entry.expanded) {
-                labels.push_back(entry.label);
-                length += entry.label.size() + 1;
-            }
-        }
-        std::sort(labels.begin(), labels.end());
+        m_entries.erase(std::remove_if(m_entries.begin(), m_entries.end(), [](const Entry& e) { return !e.expanded; }),
+                        m_entries.end());
+        MergeRuns(m_entries, [](const Entry& a, const Entry& b) { return a.label < b.label; });
         std::wstring text;
-        text.reserve(length);
-        for (const std::wstring_view label : labels)
-            text.append(label).push_back(kSeparator);
+        text.reserve(m_length);
+        for (const Entry& entry : m_entries)
+            text.append(entry.label).push_back(kSeparator);
         return text;
     }
 
@@ -85,13 +102,8 @@ private:
     struct Entry
     {
         std::wstring_view label;
-        bool expanded;
-    };
-
-    struct Slot
-    {
         std::uint32_t hash;
-        std::uint32_t number;  // Of an entry, from 1; 0 when the slot is free.
+        bool expanded;
     };
 
     std::wstring_view Keep(std::wstring_view label)
@@ -106,21 +118,20 @@ private:
 
     void Grow()
     {
-        std::vector<Slot> earlier(m_slots.size() * 4);
-        earlier.swap(m_slots);
-        for (const Slot& moved : earlier) {
-            if (!moved.number)
-                continue;
-            size_t slot = FirstSlot(moved.hash);
-            while (m_slots[slot].number)
+        m_slots.assign(m_slots.size() * 2, 0);
+        std::uint32_t number = 0;
+        for (const Entry& entry : m_entries) {
+            size_t slot = FirstSlot(entry.hash);
+            while (m_slots[slot])
                 slot = NextSlot(slot);
-            m_slots[slot] = moved;
+            m_slots[slot] = ++number;
         }
     }
 
     std::pmr::monotonic_buffer_resource m_memory;
     std::vector<Entry> m_entries;
-    std::vector<Slot> m_slots;
+    std::vector<std::uint32_t> m_slots;  // The number of an entry, from 1, or 0.
+    size_t m_length = 0;                 // Of the text, unless labels are collapsed again.
 };
 
 // A place among the children of an item. Unlike GetNextSibling(), which searches for the item that it is given, a step
@@ -269,7 +280,7 @@ std::wstring ExpandedLabels(const wxTreeCursor& start)
         else
             levels.pop_back();
     }
-    return labels.StateText();
+    return labels.TakeText();
 }
 
 void ExpandLabels(const std::wstring& text, const wxTreeCursor& start)
