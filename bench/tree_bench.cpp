@@ -46,11 +46,14 @@ public:
             m_tree->Expand(item);
     }
 
+    // Out of sight: the toolkit lays out all that is visible again after each item, frozen or not.
     void Collapse()
     {
         const wxWindowUpdateLocker frozen(m_tree);
+        m_tree->Collapse(m_root.item);
         for (const wxTreeItemId& item : m_chosen)
             m_tree->Collapse(item);
+        m_root.Expand();
     }
 
     wxHandyTreeCtrl& Tree() { return *m_tree; }
