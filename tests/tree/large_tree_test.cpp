@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr int WIDTH = 100'000;
+constexpr int kWidth = 100'000;
 
 /// Counts the calls of a walk. Those by sibling take time in proportion to the number of siblings, each.
 class CountingTree : public wxHandyTreeCtrl
@@ -73,7 +73,7 @@ protected:
     void MakeWide(int step)
     {
         const wxWindowUpdateLocker frozen(&tree);
-        for (int i = 0; i < WIDTH; ++i) {
+        for (int i = 0; i < kWidth; ++i) {
             wxTreeCursor item = root.AppendItem(wxString::Format("%06d", i));
             item.SetChildren(true);
             if (step && i % step == 0)
@@ -98,8 +98,8 @@ TEST_F(LargeTree, IsSavedByAFixedNumberOfStepsASibling)
     tree.ForgetCounts();
     tree.SaveState("state", root);
     EXPECT_EQ(tree.bySibling, 0);
-    EXPECT_LE(tree.byCookie, 2 * WIDTH + 2);
-    EXPECT_EQ(tree.labels, WIDTH + 1);
+    EXPECT_LE(tree.byCookie, 2 * kWidth + 2);
+    EXPECT_EQ(tree.labels, kWidth + 1);
 
     const std::wstring stored = Stored();
     EXPECT_EQ(stored.size(), 50'000u * 7);
@@ -111,15 +111,15 @@ TEST_F(LargeTree, IsRestoredByAFixedNumberOfStepsASibling)
 {
     MakeWide(0);
     std::wstring stored;
-    for (int i = 0; i < WIDTH; i += 10)
+    for (int i = 0; i < kWidth; i += 10)
         stored += wxString::Format("%06d|", i).ToStdWstring();
     CLocalRegStore::WriteString(L"TreeControlState", L"state", stored.c_str());
     tree.ForgetCounts();
     tree.LoadState("state", root);
     EXPECT_EQ(tree.bySibling, 0);
-    EXPECT_LE(tree.byCookie, 4 * WIDTH);
-    EXPECT_LE(tree.labels, WIDTH + 1);
-    EXPECT_EQ(tree.expansions, WIDTH / 10);
+    EXPECT_LE(tree.byCookie, 4 * kWidth);
+    EXPECT_LE(tree.labels, kWidth + 1);
+    EXPECT_EQ(tree.expansions, kWidth / 10);
 
     wxTreeItemIdValue cookie;
     int expanded = 0, position = 0;
@@ -131,7 +131,7 @@ TEST_F(LargeTree, IsRestoredByAFixedNumberOfStepsASibling)
         }
         ++position;
     }
-    EXPECT_EQ(expanded, WIDTH / 10);
+    EXPECT_EQ(expanded, kWidth / 10);
 }
 
 // Many of one label, changing from one to the next: no more than the last counts.
@@ -139,7 +139,7 @@ TEST_F(LargeTree, OfOneLabelIsSavedAsOne)
 {
     {
         const wxWindowUpdateLocker frozen(&tree);
-        for (int i = 0; i < WIDTH; ++i) {
+        for (int i = 0; i < kWidth; ++i) {
             wxTreeCursor item = root.AppendItem("same");
             item.SetChildren(true);
             if (i % 2)
@@ -153,10 +153,51 @@ TEST_F(LargeTree, OfOneLabelIsSavedAsOne)
     EXPECT_EQ(Stored(), L"");
 }
 
+// So many that some of them agree in 32 bits of any hash.
+TEST_F(LargeTree, TellsAllItsLabelsApart)
+{
+    constexpr int kCount = 300'000;
+    {
+        const wxWindowUpdateLocker frozen(&tree);
+        for (int i = 0; i < kCount; ++i) {
+            wxTreeCursor item = root.AppendItem(wxString::Format("%06d", i));
+            item.SetChildren(true);
+            item.Expand();
+        }
+    }
+    tree.SaveState("state", root);
+    EXPECT_EQ(Stored().size(), kCount * 7u);
+}
+
+TEST_F(LargeTree, FindsEachLabelAgain)
+{
+    MakeWide(1);
+    MakeWide(0);
+    tree.SaveState("state", root);
+    EXPECT_EQ(Stored(), L"");
+}
+
+TEST_F(LargeTree, IsSavedInOrderWhateverItsOwn)
+{
+    {
+        const wxWindowUpdateLocker frozen(&tree);
+        for (int i = 0; i < 1'000; ++i) {
+            wxTreeCursor item = root.AppendItem(wxString::Format("%03d", i * 337 % 1'000));
+            item.SetChildren(true);
+            item.Expand();
+        }
+    }
+    std::wstring expected;
+    for (int i = 0; i < 1'000; ++i)
+        expected += wxString::Format("%03d|", i).ToStdWstring();
+    tree.SaveState("state", root);
+    EXPECT_EQ(Stored(), expected);
+}
+
 TEST_F(LargeTree, IsSavedAndVisitedWhateverItsDepth)
 {
-    constexpr int DEPTH = 100'000;
-    wxTreeCursor last = MakeDeep(DEPTH);
+    constexpr int kDepth = 100'000;
+    wxTreeCursor last = MakeDeep(kDepth);
     last.SetChildren(true);
     last.Expand();
     tree.SaveState("state", root);
@@ -167,24 +208,24 @@ TEST_F(LargeTree, IsSavedAndVisitedWhateverItsDepth)
     tree.LoadState("state", root);
     EXPECT_TRUE(last.IsExpanded());
     EXPECT_EQ(tree.expansions, 1);
-    EXPECT_LE(tree.byCookie, 4 * DEPTH);
+    EXPECT_LE(tree.byCookie, 4 * kDepth);
 }
 
 // As deep as the toolkit can lay out an expanded chain in a stack of 8 MB.
 TEST_F(LargeTree, IsRestoredAsDeepAsTheToolkitBears)
 {
-    constexpr int DEPTH = 20'000;
-    MakeDeep(DEPTH);
+    constexpr int kDepth = 20'000;
+    MakeDeep(kDepth);
     std::wstring stored = L"root|";
-    for (int i = 0; i < DEPTH; ++i)
+    for (int i = 0; i < kDepth; ++i)
         stored += wxString::Format("%06d|", i).ToStdWstring();
     CLocalRegStore::WriteString(L"TreeControlState", L"state", stored.c_str());
     tree.LoadState("state", root);
-    EXPECT_EQ(tree.expansions, DEPTH + 1);
+    EXPECT_EQ(tree.expansions, kDepth + 1);
 
     // The last is a leaf, and cannot be expanded.
     tree.SaveState("state", root);
-    EXPECT_EQ(Stored().size(), (DEPTH - 1) * 7u + 5);
+    EXPECT_EQ(Stored().size(), (kDepth - 1) * 7u + 5);
     EXPECT_EQ(Stored().substr(0, 14), L"000000|000001|");
     EXPECT_EQ(Stored().substr(Stored().size() - 12), L"019998|root|");
 }
