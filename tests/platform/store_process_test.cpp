@@ -42,6 +42,7 @@ std::wstring Name(const wchar_t* prefix, int number)
 
 TEST(SixProcesses, KeepAllOfTheirTwoHundredAndFortyUpdates)
 {
+    const InMemory inMemory;
     TempUserData data;
     std::vector<pid_t> children;
     for (int process = 0; process < 6; ++process) {
@@ -224,6 +225,7 @@ protected:
         EXPECT_EQ(NamesIn(m_data.Path()), expected);
     }
 
+    const InMemory m_inMemory;
     TempUserData m_data;
     SharedProgress m_progress;
     std::minstd_rand m_random{4711};

@@ -2,13 +2,10 @@
 
 #include <fittings/platform/local_reg_store.h>
 
-#include <cstdlib>
 #include <map>
 #include <random>
 #include <string>
 #include <utility>
-
-#include <unistd.h>
 
 #include <gtest/gtest.h>
 
@@ -54,38 +51,13 @@ std::wstring AnyText(Random& random, unsigned maxLength)
     return text;
 }
 
-// Their folders are in memory where there is such a place: a thousand files would wait for the disk for long.
-class InMemory : public testing::Test
-{
-protected:
-    InMemory()
-    {
-        if (access(MEMORY, W_OK) == 0)
-            setenv("TMPDIR", MEMORY, 1);
-    }
-    ~InMemory()
-    {
-        if (m_hadFolder)
-            setenv("TMPDIR", m_folder.c_str(), 1);
-        else
-            unsetenv("TMPDIR");
-    }
-
-private:
-    static constexpr const char* MEMORY = "/dev/shm";
-    const bool m_hadFolder = getenv("TMPDIR") != nullptr;
-    const std::string m_folder = m_hadFolder ? getenv("TMPDIR") : "";
-};
-
-using TenThousandTriples = InMemory;
-using ThousandsOfDirtyFiles = InMemory;
-
-TEST_F(TenThousandTriples, ComeBack)
+TEST(TenThousandTriples, ComeBack)
 {
     constexpr unsigned SEED = 20240607;
     SCOPED_TRACE(testing::Message() << "seed " << SEED);
     RecordProperty("seed", SEED);
     Random random(SEED);
+    const InMemory inMemory;
     TempFolder folder;
     int triples = 0;
     // The texts are short so that many sections and keys meet again.
@@ -127,12 +99,13 @@ std::string AnyLine(Random& random)
 }
 
 // Every text with the line [s] in it can be loaded, keeps all its bytes, and keeps its other values when one changes.
-TEST_F(ThousandsOfDirtyFiles, KeepWhatTheyHold)
+TEST(ThousandsOfDirtyFiles, KeepWhatTheyHold)
 {
     constexpr unsigned SEED = 77001;
     SCOPED_TRACE(testing::Message() << "seed " << SEED);
     RecordProperty("seed", SEED);
     Random random(SEED);
+    const InMemory inMemory;
     TempFolder folder;
     const wchar_t* const names[] = {L"a", L"b", L"é", L"\xDCE9", L"%", L"", L"s", L"Encoding", L"Name[de]"};
     for (int file = 0; file < 4000; ++file) {

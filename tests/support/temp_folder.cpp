@@ -7,10 +7,38 @@
 #include <iterator>
 #include <system_error>
 
+#include <unistd.h>
+
 #include <gtest/gtest.h>
 
 #include <fittings/platform/file_util_ex.h>
 #include <fittings/platform/std_file_paths.h>
+
+namespace {
+
+constexpr const char* kMemory = "/dev/shm";
+
+std::string TempFolderOfTheEnvironment()
+{
+    const char* const folder = getenv("TMPDIR");
+    return folder ? folder : "";
+}
+
+}  // namespace
+
+InMemory::InMemory() : m_hadFolder(getenv("TMPDIR") != nullptr), m_folder(TempFolderOfTheEnvironment())
+{
+    if (access(kMemory, W_OK) == 0)
+        setenv("TMPDIR", kMemory, 1);
+}
+
+InMemory::~InMemory()
+{
+    if (m_hadFolder)
+        setenv("TMPDIR", m_folder.c_str(), 1);
+    else
+        unsetenv("TMPDIR");
+}
 
 TempFolder::TempFolder()
 {

@@ -4,6 +4,21 @@
 #include <string>
 #include <vector>
 
+/// Puts the folders made during its life into memory, where there is such a place: who saves a thousand files would wait
+/// for the disk for long, and a disk that is busy with something else makes others wait for a lock for too long.
+class InMemory
+{
+public:
+    InMemory();
+    ~InMemory();
+    InMemory(const InMemory&) = delete;
+    InMemory& operator=(const InMemory&) = delete;
+
+private:
+    const bool m_hadFolder;
+    const std::string m_folder;
+};
+
 /// A new folder that goes, with all it holds, when the object does.
 class TempFolder
 {
