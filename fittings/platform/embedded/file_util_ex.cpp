@@ -1,20 +1,16 @@
 #include <fittings/platform/file_util_ex.h>
 
 #include <cstddef>
-#include <cstdint>
 
 #include <glib.h>
 #include <glib/gstdio.h>
+
+#include <fittings/platform/embedded/unicode.h>
 
 namespace {
 
 constexpr wchar_t kSeparator = L'/';
 constexpr char32_t kReplacement = 0xFFFD;
-
-bool IsUnicode(char32_t code)
-{
-    return code < 0xD800 || (code > 0xDFFF && code <= 0x10FFFF);
-}
 
 std::wstring WithoutTrailingSeparators(std::wstring path)
 {
@@ -125,24 +121,8 @@ std::string ConvertToUTF8(const std::wstring& text)
     std::string bytes;
     bytes.reserve(text.size());
     for (const wchar_t unit : text) {
-        char32_t code = static_cast<char32_t>(unit);
-        if (!IsUnicode(code))
-            code = kReplacement;
-        if (code < 0x80) {
-            bytes += static_cast<char>(code);
-        } else if (code < 0x800) {
-            bytes += static_cast<char>(0xC0 | code >> 6);
-            bytes += static_cast<char>(0x80 | (code & 0x3F));
-        } else if (code < 0x10000) {
-            bytes += static_cast<char>(0xE0 | code >> 12);
-            bytes += static_cast<char>(0x80 | (code >> 6 & 0x3F));
-            bytes += static_cast<char>(0x80 | (code & 0x3F));
-        } else {
-            bytes += static_cast<char>(0xF0 | code >> 18);
-            bytes += static_cast<char>(0x80 | (code >> 12 & 0x3F));
-            bytes += static_cast<char>(0x80 | (code >> 6 & 0x3F));
-            bytes += static_cast<char>(0x80 | (code & 0x3F));
-        }
+        const auto code = static_cast<char32_t>(unit);
+        fittings::AppendUtf8(bytes, fittings::IsUnicode(code) ? code : kReplacement);
     }
     return bytes;
 }

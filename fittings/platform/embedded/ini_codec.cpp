@@ -2,10 +2,11 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdint>
 #include <optional>
 
 #include <glib.h>
+
+#include <fittings/platform/embedded/unicode.h>
 
 namespace fittings {
 
@@ -20,16 +21,6 @@ bool IsByte(char32_t code)
     return code >= kByteBase + 0x80 && code <= kByteBase + 0xFF;
 }
 
-bool IsUnicode(char32_t code)
-{
-    return code < 0xD800 || (code > 0xDFFF && code <= kMaxUnicode);
-}
-
-bool IsControl(char32_t code)
-{
-    return code < 0x20 || (code >= 0x7F && code < 0xA0);
-}
-
 bool IsBlank(char32_t code)
 {
     return code < 0x80 && g_ascii_isspace(static_cast<char>(code));
@@ -42,22 +33,6 @@ std::string_view Trimmed(std::string_view text)
     while (!text.empty() && g_ascii_isspace(text.back()))
         text.remove_suffix(1);
     return text;
-}
-
-// UTF-8, carried on up to 32 bits for what is no Unicode character.
-void AppendUtf8(std::string& out, char32_t code)
-{
-    if (code < 0x80) {
-        out += static_cast<char>(code);
-        return;
-    }
-    const auto value = static_cast<std::uint64_t>(code);
-    int tail = 1;
-    while (tail < 6 && value >> (5 * tail + 6) != 0)
-        ++tail;
-    out += static_cast<char>((0xFF00U >> (tail + 1)) | (value >> (6 * tail)));
-    while (tail-- > 0)
-        out += static_cast<char>(0x80 | ((value >> (6 * tail)) & 0x3F));
 }
 
 struct Decoded

@@ -9,6 +9,7 @@
 #include <wx/app.h>
 #include <wx/string.h>
 
+#include <fittings/platform/embedded/unicode.h>
 #include <fittings/platform/file_util_ex.h>
 
 namespace {
@@ -32,18 +33,13 @@ DataDir& TheDataDir()
     return dataDir;
 }
 
-bool IsControl(wchar_t character)
-{
-    return character < 0x20 || (character >= 0x7F && character < 0xA0);
-}
-
 // The name as one component of a path: what a file name cannot hold, or should not, becomes an underscore.
 std::wstring SafeFileName(const std::wstring& text)
 {
     // What is no Unicode character cannot come back from the disk.
     std::wstring name = file_util_ex::ConvertFromUTF8W(file_util_ex::ConvertToUTF8(text));
     for (wchar_t& character : name) {
-        if (character == L'/' || IsControl(character))
+        if (character == L'/' || fittings::IsControl(static_cast<char32_t>(character)))
             character = L'_';
     }
     if (name == L"." || name == L"..")
