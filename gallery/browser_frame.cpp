@@ -3,7 +3,7 @@
 #include <cerrno>
 #include <cstring>
 
-#include <glib.h>
+#include <gtk/gtk.h>
 #include <wx/aboutdlg.h>
 #include <wx/artprov.h>
 #include <wx/aui/dockart.h>
@@ -95,8 +95,6 @@ BrowserFrame::BrowserFrame() : wxFrame(nullptr, wxID_ANY, "Fittings Gallery")
 
     m_list->SortBy(browser_settings::LoadSortOrder());
     m_list->SetColumnWidths(browser_settings::LoadColumnWidths(m_list->GetColumnWidths().size()));
-    wx_window_state::LoadAuiManagerState(&m_layout, stateName);
-    ShowLayoutInMenu();
     wx_window_state::LoadState(this, stateName);
     m_list->SetFocus();
 }
@@ -202,6 +200,12 @@ void BrowserFrame::BindEvents()
         event.Skip();
     });
     Bind(wxEVT_CLOSE_WINDOW, &BrowserFrame::OnClose, this);
+    // Window managers keep a floating pane above the window only when it appears after the window.
+    const auto onMapped = +[](GtkWidget*, GdkEvent*, gpointer frame) -> gboolean {
+        static_cast<BrowserFrame*>(frame)->LoadLayout();
+        return FALSE;
+    };
+    g_signal_connect(GetHandle(), "map-event", G_CALLBACK(onMapped), this);
 
     m_tree->Bind(wxEVT_TREE_SEL_CHANGED, [this](wxTreeEvent& event) {
         const std::string path = m_tree->GetSelectedPath();
@@ -217,6 +221,16 @@ void BrowserFrame::BindEvents()
         else
             event.Skip();
     });
+}
+
+void BrowserFrame::LoadLayout()
+{
+    if (m_layoutLoaded)
+        return;
+    m_layoutLoaded = true;
+    wx_window_state::LoadAuiManagerState(&m_layout, stateName);
+    ShowLayoutInMenu();
+    CallAfter([this] { m_tree->EnsureVisible(m_tree->GetSelection().item); });
 }
 
 void BrowserFrame::OpenRoot(const std::string& path)
@@ -348,7 +362,8 @@ void BrowserFrame::OnClose(wxCloseEvent& event)
     RememberRoot();
     browser_settings::SaveSortOrder(m_list->GetSortOrder());
     browser_settings::SaveColumnWidths(m_list->GetColumnWidths());
-    wx_window_state::SaveAuiManagerState(&m_layout, stateName);
+    if (m_layoutLoaded)
+        wx_window_state::SaveAuiManagerState(&m_layout, stateName);
     wx_window_state::SaveState(this, stateName);
     event.Skip();
 }

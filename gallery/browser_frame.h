@@ -41,6 +41,7 @@ private:
     void MakeTools();
     wxWindow* MakeContents(wxWindow* parent);
     void BindEvents();
+    void LoadLayout();
 
     void OpenRoot(const std::string& path);
     void RememberRoot();
@@ -59,6 +60,7 @@ private:
 
     wxAuiManager m_layout;
     wxString m_firstLayout;
+    bool m_layoutLoaded = false;
     FolderTree* m_tree = nullptr;
     ContentsList* m_list = nullptr;
     wxStaticText* m_location = nullptr;

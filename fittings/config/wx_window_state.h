@@ -9,9 +9,10 @@ class wxWindow;
 
 /// Window geometry, a frame's maximised state and AUI layouts, each kept under a name of the caller's choosing.
 ///
-/// Call the load functions once the window or all panes exist and before the window is shown; call the save functions
-/// when it closes. Geometry and the maximised state live in the default store, sections "wxWindowState" and
-/// "wxWindowMaximize"; layouts in the file "wxAuiManagerState.ini" of ui_config_mgr. GUI thread only.
+/// Call the load functions once the window or all panes exist and before the window is shown, layouts with floating
+/// panes once it is shown; call the save functions when it closes. Geometry and the maximised state live in the
+/// default store, sections "wxWindowState" and "wxWindowMaximize"; layouts in the file "wxAuiManagerState.ini" of
+/// ui_config_mgr. GUI thread only.
 ///
 /// Windows and managers must not be null; a null name counts as an empty one. Failures to save are not reported.
 ///
@@ -60,6 +61,9 @@ FITTINGS_API void SaveAuiManagerState(wxAuiManager* manager, const wchar_t* name
 ///
 /// As wxAuiManager::LoadPerspective() has it, panes that the stored layout does not name are hidden, and captions come
 /// back as they were stored. It cannot read back a caption with a ";" or "|": keep these out of captions.
+///
+/// A floating pane is shown at once, and before the frame is on the screen a window manager does not keep it above the
+/// frame. Where panes can float, load the layout when GTK reports the frame mapped ("map-event"), before it is drawn.
 FITTINGS_API bool LoadAuiManagerState(wxAuiManager* manager, const wchar_t* name);
 
 }  // namespace wx_window_state

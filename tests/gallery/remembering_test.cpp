@@ -72,6 +72,28 @@ TEST_F(Remembering, ThePanesComeBackAsTheyWereDragged)
     EXPECT_TRUE(PumpUntil([&] { return Tree().GetSize().x == first; }));
 }
 
+// Behind the window the folders could not be clicked.
+TEST_F(Remembering, FloatingFoldersComeBackAboveTheWindow)
+{
+    Open(root);
+    const wxRect window = frame->GetRect();
+    const wxPoint place = window.GetPosition() + wxSize(window.width / 2, window.height / 3);
+    frame->GetLayout().GetPane(&Tree()).Float().FloatingSize(300, 260);
+    frame->GetLayout().Update();
+    ASSERT_TRUE(PumpUntil([&] { return Tree().IsShownOnScreen() && Tree().GetSize().y < 300; }));
+    wxGetTopLevelParent(&Tree())->Move(place);
+    ASSERT_TRUE(PumpUntil([&] { return frame->GetLayout().GetPane(&Tree()).floating_pos == place; }));
+    Close();
+    Open("");
+    ASSERT_TRUE(PumpUntil([&] { return Tree().IsShownOnScreen(); }));
+    EXPECT_TRUE(frame->GetLayout().GetPane(&Tree()).IsFloating());
+    Click(frame->GetScreenRect().GetBottomLeft() + wxSize(100, -60));
+    ClickFolder("b");
+    EXPECT_TRUE(SelectionComesTo("b"));
+    EXPECT_TRUE(PumpUntil([&] { return wxGetTopLevelParent(&Tree())->GetPosition() == place; }));
+    EXPECT_TRUE(frame->GetMenuBar()->IsChecked(wxID_VIEW_LIST));
+}
+
 TEST_F(Remembering, HiddenFoldersStayHidden)
 {
     Open(root);
