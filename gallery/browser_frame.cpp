@@ -132,7 +132,7 @@ void BrowserFrame::ResetLayout()
 void BrowserFrame::MakeMenus()
 {
     auto* file = new wxMenu;
-    file->Append(wxID_OPEN, "&Open folder\u2026\tCtrl+O", "Browse another folder");
+    file->Append(wxID_OPEN, L"&Open folder\u2026\tCtrl+O", "Browse another folder");
     file->Append(wxID_REFRESH, "&Refresh\tF5", "Read the folders again");
     file->AppendSeparator();
     file->Append(wxID_EXIT, "&Quit\tCtrl+Q", "Close the window");
@@ -158,7 +158,7 @@ void BrowserFrame::MakeTools()
     const auto icon = [](const wxArtID& id) { return wxArtProvider::GetBitmapBundle(id, wxART_TOOLBAR); };
     wxToolBar* tools = CreateToolBar(wxTB_HORIZONTAL | wxTB_HORZ_TEXT | wxTB_FLAT);
     tools->SetName("Tools");
-    tools->AddTool(wxID_OPEN, "Open folder\u2026", icon(wxART_FOLDER_OPEN), "Browse another folder (Ctrl+O)");
+    tools->AddTool(wxID_OPEN, L"Open folder\u2026", icon(wxART_FOLDER_OPEN), "Browse another folder (Ctrl+O)");
     tools->AddTool(wxID_UP, "Up", icon(wxART_GO_DIR_UP), "Select the folder that this one is in (Alt+Up)");
     tools->AddTool(wxID_REFRESH, "Refresh", icon(wxART_REFRESH), "Read the folders again (F5)");
     tools->Realize();
@@ -267,7 +267,7 @@ void BrowserFrame::ShowFolder(const std::string& path)
     const wxBusyCursor busy;
     m_shown = path;
     Listing listing = ReadFolder(path);
-    SetTitle(DisplayText(path) + wxString::FromUTF8(" \u2013 Fittings Gallery"));
+    SetTitle(DisplayText(path) + L" \u2013 Fittings Gallery");
     m_location->SetLabelText(DisplayText(path));
     SetStatusText(Summary(listing.entries), 0);
     if (listing.error != 0)

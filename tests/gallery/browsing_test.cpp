@@ -37,6 +37,14 @@ TEST_F(Browsing, StartsWithTheFoldersOfTheRoot)
               wxString::FromUTF8("4 items, 3.0\u00A0kB (3003 bytes) in 2 files"));
 }
 
+// This process stays in the C locale.
+TEST_F(Browsing, AllLabelsAreWholeInAnyLocale)
+{
+    EXPECT_EQ(frame->GetMenuBar()->FindItem(wxID_OPEN)->GetItemLabelText(), L"Open folder\u2026");
+    EXPECT_EQ(frame->GetToolBar()->FindById(wxID_OPEN)->GetLabel(), L"Open folder\u2026");
+    EXPECT_TRUE(frame->GetTitle().EndsWith(L" \u2013 Fittings Gallery")) << frame->GetTitle();
+}
+
 TEST_F(Browsing, RightAndLeftKeysExpandAndCollapse)
 {
     ClickFolder("docs");
