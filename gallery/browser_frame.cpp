@@ -2,9 +2,12 @@
 
 #include <cerrno>
 #include <cstring>
+#include <memory>
+#include <vector>
 
 #include <gtk/gtk.h>
 #include <wx/aboutdlg.h>
+#include <wx/accel.h>
 #include <wx/artprov.h>
 #include <wx/aui/dockart.h>
 #include <wx/infobar.h>
@@ -82,6 +85,7 @@ BrowserFrame::BrowserFrame() : wxFrame(nullptr, wxID_ANY, "Fittings Gallery")
         art->SetColour(part, panel->GetBackgroundColour());
     art->SetColour(wxAUI_DOCKART_INACTIVE_CAPTION_TEXT_COLOUR, panel->GetForegroundColour());
     m_tree = new FolderTree(panel);
+    ShareMenuKeys(m_tree);
     m_layout.AddPane(m_tree, wxAuiPaneInfo()
                                  .Name(foldersPane)
                                  .Caption("Folders")
@@ -151,6 +155,20 @@ void BrowserFrame::MakeMenus()
     menus->Append(view, "&View");
     menus->Append(help, "&Help");
     SetMenuBar(menus);
+}
+
+/// Lets the menus' keys work in a pane that floats, which is in a window of its own.
+void BrowserFrame::ShareMenuKeys(wxWindow* pane)
+{
+    std::vector<wxAcceleratorEntry> keys;
+    for (std::size_t menu = 0; menu < GetMenuBar()->GetMenuCount(); ++menu) {
+        for (const wxMenuItem* item : GetMenuBar()->GetMenu(menu)->GetMenuItems()) {
+            const std::unique_ptr<wxAcceleratorEntry> key(item->GetAccel());
+            if (key)
+                keys.emplace_back(key->GetFlags(), key->GetKeyCode(), item->GetId());
+        }
+    }
+    pane->SetAcceleratorTable(wxAcceleratorTable(static_cast<int>(keys.size()), keys.data()));
 }
 
 void BrowserFrame::MakeTools()

@@ -38,6 +38,7 @@ public:
 
 private:
     void MakeMenus();
+    void ShareMenuKeys(wxWindow* pane);
     void MakeTools();
     wxWindow* MakeContents(wxWindow* parent);
     void BindEvents();

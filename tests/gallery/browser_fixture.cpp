@@ -4,6 +4,8 @@
 #include <filesystem>
 #include <sstream>
 
+#include <wx/aui/floatpane.h>
+
 #include <gallery/folder_listing.h>
 #include <gallery/native_text.h>
 
@@ -76,4 +78,24 @@ void BrowserTest::ClickFolder(const std::string& path)
 bool BrowserTest::SelectionComesTo(const std::string& path)
 {
     return PumpUntil([&] { return Tree().GetSelectedPath() == (path.empty() ? root : JoinPath(root, path)); });
+}
+
+void BrowserTest::FloatFolders(const wxPoint& place)
+{
+    wxAuiPaneInfo& pane = frame->GetLayout().GetPane(&Tree());
+    pane.Float().FloatingSize(300, 260);
+    frame->GetLayout().Update();
+    ASSERT_TRUE(PumpUntil([&] { return Tree().IsShownOnScreen() && Tree().GetSize().y < 300; }));
+    // Where a window first appears is the window manager's choice.
+    pane.frame->Move(place);
+    ASSERT_TRUE(FoldersComeTo(place));
+}
+
+bool BrowserTest::FoldersComeTo(const wxPoint& place)
+{
+    return PumpUntil([&] {
+        const wxAuiPaneInfo& pane = frame->GetLayout().GetPane(&Tree());
+        return pane.frame && pane.floating_pos == place && pane.frame->GetPosition() == place &&
+               wxRect(place, pane.frame->GetSize()).Contains(Tree().GetScreenRect());
+    });
 }

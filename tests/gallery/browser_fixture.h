@@ -39,6 +39,12 @@ protected:
     void ClickFolder(const std::string& path);
     bool SelectionComesTo(const std::string& path);
 
+    /// Takes the folders out of the window, to a place on the screen.
+    void FloatFolders(const wxPoint& place);
+
+    /// Whether the folders come to float there.
+    bool FoldersComeTo(const wxPoint& place);
+
     TempUserData settings;
     TempFolder temp;
     std::string root;  ///< As the browser names it.

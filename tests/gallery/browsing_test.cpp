@@ -212,6 +212,21 @@ TEST_F(Browsing, F9ShowsFoldersThatWereClosedByTheirButton)
     EXPECT_TRUE(frame->GetMenuBar()->IsChecked(wxID_VIEW_LIST));
 }
 
+TEST_F(Browsing, TheMenusKeysWorkInFloatingFolders)
+{
+    FloatFolders(frame->GetPosition() + wxSize(300, 200));
+    Tree().Expand(Item("docs"));
+    ClickFolder("docs/letters");
+    ASSERT_TRUE(SelectionComesTo("docs/letters"));
+    ASSERT_TRUE(PumpUntil([&] { return Tree().HasFocus(); }));
+    Press(WXK_UP, wxMOD_ALT);
+    EXPECT_TRUE(SelectionComesTo("docs"));
+    PumpPending();
+    EXPECT_EQ(Tree().GetSelectedPath(), root + "/docs");
+    Press(WXK_F9);
+    EXPECT_TRUE(PumpUntil([&] { return !Tree().IsShownOnScreen(); }));
+}
+
 TEST_F(Browsing, TabLeavesTheTree)
 {
     Click(CentreOf(LabelRect(Tree(), Item("docs"))));

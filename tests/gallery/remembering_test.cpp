@@ -78,19 +78,15 @@ TEST_F(Remembering, FloatingFoldersComeBackAboveTheWindow)
     Open(root);
     const wxRect window = frame->GetRect();
     const wxPoint place = window.GetPosition() + wxSize(window.width / 2, window.height / 3);
-    frame->GetLayout().GetPane(&Tree()).Float().FloatingSize(300, 260);
-    frame->GetLayout().Update();
-    ASSERT_TRUE(PumpUntil([&] { return Tree().IsShownOnScreen() && Tree().GetSize().y < 300; }));
-    wxGetTopLevelParent(&Tree())->Move(place);
-    ASSERT_TRUE(PumpUntil([&] { return frame->GetLayout().GetPane(&Tree()).floating_pos == place; }));
+    FloatFolders(place);
     Close();
     Open("");
     ASSERT_TRUE(PumpUntil([&] { return Tree().IsShownOnScreen(); }));
     EXPECT_TRUE(frame->GetLayout().GetPane(&Tree()).IsFloating());
+    EXPECT_TRUE(FoldersComeTo(place));
     Click(frame->GetScreenRect().GetBottomLeft() + wxSize(100, -60));
     ClickFolder("b");
     EXPECT_TRUE(SelectionComesTo("b"));
-    EXPECT_TRUE(PumpUntil([&] { return wxGetTopLevelParent(&Tree())->GetPosition() == place; }));
     EXPECT_TRUE(frame->GetMenuBar()->IsChecked(wxID_VIEW_LIST));
 }
 
