@@ -276,7 +276,9 @@ void BrowserFrame::RememberRoot()
     if (root.empty())
         return;
     m_tree->SaveExpanded();
-    browser_settings::SaveRootFolder(root);
+    const std::string forgotten = browser_settings::SaveRootFolder(root);
+    if (!forgotten.empty())
+        FolderTree::ForgetExpanded(forgotten);
     browser_settings::SaveSelectedFolder(root, m_shown);
 }
 

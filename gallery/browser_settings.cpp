@@ -1,8 +1,11 @@
 #include "browser_settings.h"
 
+#include <algorithm>
+#include <sstream>
 #include <stdexcept>
 
 #include <fittings/config/ui_config_mgr.h>
+#include <fittings/platform/local_reg_store.h>
 
 #include "native_text.h"
 
@@ -11,6 +14,9 @@ namespace fittings::browser_settings {
 namespace {
 
 constexpr const wchar_t* file = L"browser.ini";
+// In the default store, because ui_config_mgr cannot remove a key from its files.
+constexpr const wchar_t* selectedSection = L"SelectedFolder";
+constexpr std::size_t rememberedRoots = 50;
 
 /// A number that someone may have edited; 0 when it is none.
 int LoadInt(const wchar_t* section, const wchar_t* key)
@@ -22,6 +28,18 @@ int LoadInt(const wchar_t* section, const wchar_t* key)
     }
 }
 
+/// The roots of earlier sessions as texts, the last one first.
+std::vector<std::wstring> LoadRoots()
+{
+    std::vector<std::wstring> roots;
+    std::wistringstream text(ui_config_mgr::GetConfigString(file, L"Folders", L"Roots"));
+    for (std::wstring root; std::getline(text, root, L'|');) {
+        if (!root.empty())
+            roots.push_back(root);
+    }
+    return roots;
+}
+
 std::wstring WidthKey(std::size_t column)
 {
     return L"Width" + std::to_wstring(column + 1);
@@ -31,22 +49,37 @@ std::wstring WidthKey(std::size_t column)
 
 std::string LoadRootFolder()
 {
-    return PathFromText(ui_config_mgr::GetConfigString(file, L"Folders", L"Root"));
+    const std::vector<std::wstring> roots = LoadRoots();
+    return roots.empty() ? std::string() : PathFromText(roots.front());
 }
 
-void SaveRootFolder(const std::string& path)
+std::string SaveRootFolder(const std::string& path)
 {
-    ui_config_mgr::WriteConfigString(file, L"Folders", L"Root", TextFromPath(path).c_str());
+    const std::wstring root = TextFromPath(path);
+    std::vector<std::wstring> roots = LoadRoots();
+    roots.erase(std::remove(roots.begin(), roots.end(), root), roots.end());
+    roots.insert(roots.begin(), root);
+    std::wstring forgotten;
+    if (roots.size() > rememberedRoots) {
+        forgotten = roots.back();
+        roots.pop_back();
+        CLocalRegStore::DeleteProfile(selectedSection, forgotten.c_str());
+    }
+    std::wstring text;
+    for (const std::wstring& each : roots)
+        text += each + L'|';
+    ui_config_mgr::WriteConfigString(file, L"Folders", L"Roots", text.c_str());
+    return PathFromText(forgotten);
 }
 
 std::string LoadSelectedFolder(const std::string& root)
 {
-    return PathFromText(ui_config_mgr::GetConfigString(file, L"Selected", TextFromPath(root).c_str()));
+    return PathFromText(CLocalRegStore::GetString(selectedSection, TextFromPath(root).c_str(), L""));
 }
 
 void SaveSelectedFolder(const std::string& root, const std::string& path)
 {
-    ui_config_mgr::WriteConfigString(file, L"Selected", TextFromPath(root).c_str(), TextFromPath(path).c_str());
+    CLocalRegStore::WriteString(selectedSection, TextFromPath(root).c_str(), TextFromPath(path).c_str());
 }
 
 SortOrder LoadSortOrder()

@@ -8,12 +8,15 @@
 
 namespace fittings {
 
-/// What the browser keeps in its own settings file. The library's window state and tree state stand elsewhere.
+/// What the browser keeps besides the library's window state and tree state.
 namespace browser_settings {
 
-/// Empty in the first session.
+/// The last session's; empty in the first one.
 std::string LoadRootFolder();
-void SaveRootFolder(const std::string& path);
+
+/// Returns the root that is forgotten for this one, with what is kept here for it; empty when there is room for all. The
+/// last 50 are remembered.
+std::string SaveRootFolder(const std::string& path);
 
 /// The folder that was selected below a root; empty when there is none.
 std::string LoadSelectedFolder(const std::string& root);

@@ -6,6 +6,8 @@
 #include <wx/imaglist.h>
 #include <wx/wupdlock.h>
 
+#include <fittings/platform/local_reg_store.h>
+
 #include "folder_listing.h"
 #include "native_text.h"
 
@@ -171,6 +173,11 @@ void FolderTree::LoadExpanded()
     const NamePaths paths(m_namesPaths);
     wxTreeCursor root(this, GetRootItem());
     LoadState(root);
+}
+
+void FolderTree::ForgetExpanded(const std::string& root)
+{
+    CLocalRegStore::DeleteProfile(L"TreeControlState", TextFromPath(root).c_str());
 }
 
 void FolderTree::OnItemExpanding(const wxTreeCursor& item)

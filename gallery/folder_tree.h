@@ -49,6 +49,7 @@ public:
     /// @{
     void SaveExpanded();
     void LoadExpanded();
+    static void ForgetExpanded(const std::string& root);
     /// @}
 
     void OnItemExpanding(const wxTreeCursor& item) override;

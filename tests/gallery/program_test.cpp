@@ -127,7 +127,8 @@ TEST_F(TheProgram, SavesItsStateWhenItIsTerminated)
     ASSERT_TRUE(ShowsWindow(root + ".*Fittings Gallery"));
     program.Send(SIGTERM);
     EXPECT_EQ(program.Wait(20), 0);
-    EXPECT_NE(ReadFile(data / "fittings-gallery/ui_config/browser.ini").find("Root=" + root + "\n"), std::string::npos);
+    EXPECT_NE(ReadFile(data / "fittings-gallery/ui_config/browser.ini").find("Roots=" + root + "|\n"),
+              std::string::npos);
     EXPECT_NE(ReadFile(data / "fittings-gallery/settings.ini").find("[wxWindowState]"), std::string::npos);
 
     Program next({});

@@ -169,6 +169,32 @@ TEST_F(Remembering, EachRootKeepsItsOwn)
     EXPECT_TRUE(Tree().IsExpanded(Item("share")));
 }
 
+TEST_F(Remembering, OnlyTheLastFiftyRootsKeepTheirs)
+{
+    const auto open = [this](const std::string& name) {
+        frame->Start(root + "/" + name);
+        Tree().SelectSubfolder("inner");
+    };
+    const auto files = [this] {
+        return ReadFile(settings / "settings.ini") + ReadFile(settings / "ui_config/browser.ini");
+    };
+    for (int i = 1; i <= 51; ++i)
+        fs::create_directories(temp / ("root" + std::to_string(i) + "/inner"));
+    Open(root + "/root1");
+    for (int i = 2; i <= 50; ++i)
+        open("root" + std::to_string(i));
+    open("root1");
+    EXPECT_NE(files().find("root2="), std::string::npos);
+    open("root51");
+    Close();
+    EXPECT_EQ(files().find("root2="), std::string::npos);
+    EXPECT_EQ(files().find("root2|"), std::string::npos);
+    Open(root + "/root1");
+    EXPECT_EQ(Tree().GetSelectedPath(), root + "/root1/inner");
+    frame->Start(root + "/root2");
+    EXPECT_EQ(Tree().GetSelectedPath(), root + "/root2");
+}
+
 TEST_F(Remembering, NamesThatAreNoTextComeBack)
 {
     fs::create_directories(temp / "odd|\xFF%7C/in\nner/x");
@@ -217,7 +243,7 @@ TEST_F(Remembering, NonsenseInTheSettingsDoesNoHarm)
 {
     fs::create_directories(settings / "ui_config");
     WriteFile(settings / "ui_config/browser.ini", "[Contents]\nSortColumn=abc\nSortDescending=99999999999\nWidth1=-5\n"
-                                                  "Width2=wide\nWidth3=100000\n[Folders]\nRoot=/gone%zz\n");
+                                                  "Width2=wide\nWidth3=100000\n[Folders]\nRoots=|/gone%zz\n");
     WriteFile(settings / "settings.ini", "[wxWindowState]\nBrowser=1;2;x\n[TreeControlState]\n" + root + "=||%|\n");
     Open(root);
     EXPECT_EQ(frame->GetSize(), wxSize(960, 640));
