@@ -10,6 +10,7 @@
 #include <wx/accel.h>
 #include <wx/artprov.h>
 #include <wx/aui/dockart.h>
+#include <wx/display.h>
 #include <wx/infobar.h>
 #include <wx/menu.h>
 #include <wx/panel.h>
@@ -65,7 +66,9 @@ BrowserFrame::BrowserFrame() : wxFrame(nullptr, wxID_ANY, "Fittings Gallery")
 {
     SetName("Browser");
     SetMinSize(FromDIP(wxSize(480, 320)));
-    SetSize(FromDIP(wxSize(960, 640)));
+    wxSize size = FromDIP(wxSize(960, 640));
+    size.DecTo(wxDisplay(this).GetClientArea().GetSize());
+    SetSize(size);
     Centre();
     MakeMenus();
     MakeTools();

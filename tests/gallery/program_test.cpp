@@ -1,6 +1,7 @@
 // The program as it is started from a shell.
 
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
@@ -135,6 +136,25 @@ TEST_F(TheProgram, SavesItsStateWhenItIsTerminated)
     EXPECT_TRUE(ShowsWindow(root + ".*Fittings Gallery"));
     next.Send(SIGINT);
     EXPECT_EQ(next.Wait(20), 0);
+}
+
+// Twice as large as usual, it would not: the screen is 1280 by 1024, less the margins at its edges.
+TEST_F(TheProgram, FitsOnTheScreenAtFirst)
+{
+    setenv("GDK_SCALE", "2", 1);
+    Program program({"/"});
+    unsetenv("GDK_SCALE");
+    ASSERT_TRUE(ShowsWindow("Fittings Gallery"));
+    program.Send(SIGTERM);
+    EXPECT_EQ(program.Wait(20), 0);
+    const std::string settings = ReadFile(data / "fittings-gallery/settings.ini");
+    int width = 0;
+    int height = 0;
+    const std::size_t geometry = settings.find("[wxWindowState]\nBrowser=");
+    ASSERT_NE(geometry, std::string::npos);
+    ASSERT_EQ(std::sscanf(&settings[geometry], "[wxWindowState] Browser=%*d;%*d;%d;%d", &width, &height), 2);
+    EXPECT_NEAR(width, 632, 1);
+    EXPECT_NEAR(height, 480, 1);
 }
 
 TEST_F(TheProgram, SaysInOneLineWhatIsNoFolderAndStarts)
