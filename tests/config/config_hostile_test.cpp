@@ -4,10 +4,10 @@
 #include <string>
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <fittings/platform/local_reg_store.h>
 #include <fittings/platform/std_file_paths.h>
+#include <tests/support/as_nobody.h>
 #include <tests/support/temp_folder.h>
 
 namespace {
@@ -164,27 +164,6 @@ TEST(SettingsFolderThatIsAFile, StaysAndReadsAsEmpty)
     EXPECT_EQ(ValueIn(L"a.ini"), L"");
     EXPECT_EQ(ReadFile(data / "ui_config"), "precious");
 }
-
-/// Takes root's right to write and read everything away for as long as it lives.
-class AsNobody
-{
-public:
-    AsNobody()
-    {
-        if (m_user == 0 && seteuid(65534) != 0)
-            ADD_FAILURE() << "cannot become another user";
-    }
-    ~AsNobody()
-    {
-        if (m_user == 0 && seteuid(m_user) != 0)
-            ADD_FAILURE() << "cannot become root again";
-    }
-    AsNobody(const AsNobody&) = delete;
-    AsNobody& operator=(const AsNobody&) = delete;
-
-private:
-    const uid_t m_user = geteuid();
-};
 
 TEST(ReadOnlySettingsFolder, KeepsItsFilesAndIgnoresWrites)
 {

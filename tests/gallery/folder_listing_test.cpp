@@ -10,7 +10,7 @@
 #include <sys/un.h>
 #include <unistd.h>
 
-#include <tests/gallery/as_nobody.h>
+#include <tests/support/as_nobody.h>
 #include <tests/support/temp_folder.h>
 
 namespace {

@@ -7,8 +7,8 @@
 
 #include <gallery/folder_listing.h>
 #include <gallery/native_text.h>
-#include <tests/gallery/as_nobody.h>
 #include <tests/gallery/browser_fixture.h>
+#include <tests/support/as_nobody.h>
 
 namespace {
 

@@ -7,12 +7,6 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
-constexpr uid_t NOBODY = 65534;
-
-}  // namespace
-
 pid_t StartChild(const std::function<void()>& work)
 {
     std::fflush(nullptr);
@@ -35,12 +29,4 @@ bool WaitForSuccess(pid_t child)
 void InChild(const std::function<void()>& work)
 {
     EXPECT_TRUE(WaitForSuccess(StartChild(work))) << "in the child process";
-}
-
-void BecomeNobody()
-{
-    if (geteuid() != 0)
-        return;
-    if (setgid(NOBODY) != 0 || setuid(NOBODY) != 0)
-        ADD_FAILURE() << "cannot give up the rights of root";
 }

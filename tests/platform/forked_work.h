@@ -12,11 +12,8 @@ pid_t StartChild(const std::function<void()>& work);
 /// True when the child ended by itself and none of its expectations failed.
 bool WaitForSuccess(pid_t child);
 
-/// Runs @a work in a child process, with its expectations, and waits for it. What the work does to the process, such
-/// as giving up rights, ends with the child.
+/// Runs @a work in a child process, with its expectations, and waits for it. What the work does to the process
+/// ends with the child.
 void InChild(const std::function<void()>& work);
-
-/// Makes this process one that has no right to what it does not own.
-void BecomeNobody();
 
 #endif

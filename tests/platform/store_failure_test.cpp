@@ -21,6 +21,7 @@
 #include <fittings/platform/std_file_paths.h>
 #include <tests/platform/forked_work.h>
 #include <tests/platform/store_support.h>
+#include <tests/support/as_nobody.h>
 #include <tests/support/temp_folder.h>
 
 namespace {
@@ -124,7 +125,7 @@ TEST(AReadOnlyFolder, LeavesTheOldFile)
     chmod((data / "settings.ini").c_str(), 0644);
     chmod(data.Path().c_str(), 0555);
     InChild([&] {
-        BecomeNobody();
+        const AsNobody nobody;
         ExpectWritesToFail(data.Path());
         EXPECT_FALSE(CLocalRegStore::DeleteProfile(L"s", L"k"));
         EXPECT_TRUE(CLocalRegStore::DeleteProfile(L"s", L"absent"));
@@ -140,7 +141,7 @@ TEST(AFileThatMayNotBeRead, IsNotReplaced)
     chmod((data / "settings.ini").c_str(), 0);
     chmod(data.Path().c_str(), 0777);
     InChild([&] {
-        BecomeNobody();
+        const AsNobody nobody;
         Ini ini;
         EXPECT_FALSE(ini.Load(data / "settings.ini"));
         EXPECT_EQ(ini.Get(L"s", L"k"), L"(none)");
@@ -172,7 +173,7 @@ TEST(AFileOfAnotherUser, StandsWhereItMayNotBeReplaced)
     chmod((data / "settings.ini").c_str(), 0644);
     chmod(data.Path().c_str(), 01777);
     InChild([&] {
-        BecomeNobody();
+        const AsNobody nobody;
         EXPECT_FALSE(SaveKey(data / "settings.ini", L"new"));
         EXPECT_FALSE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
     });
@@ -233,7 +234,7 @@ TEST(AFolderThatMayNotBeEntered, MakesWritingFailUntilItMay)
     InChild([&] {
         fs::create_directory(folder / "data");
         chmod((folder / "data").c_str(), 0777);
-        BecomeNobody();
+        const AsNobody nobody;
         EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"old"));
         EXPECT_EQ(Stored(L"s", L"k"), L"old");
     });
@@ -250,13 +251,13 @@ TEST(AFolderThatMayNotBeEntered, MakesWritingFailUntilItMay)
     EXPECT_EQ(Stored(L"s", L"k"), L"old");
     chmod((folder / "data").c_str(), 0);
     InChild([&] {
-        BecomeNobody();
+        const AsNobody nobody;
         expectFailure();
     });
     chmod((folder / "data").c_str(), 0777);
     EXPECT_EQ(ReadFile(folder / "data/settings.ini"), "[s]\nk=old\n");
     InChild([&] {
-        BecomeNobody();
+        const AsNobody nobody;
         EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
         EXPECT_EQ(Stored(L"s", L"k"), L"new");
     });
