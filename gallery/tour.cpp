@@ -163,6 +163,8 @@ bool Tour::OpenWindow()
 {
     m_frame = new BrowserFrame;
     const wxString note = m_frame->Start(m_folder);
+    if (!note.empty())
+        std::printf("%s\n", static_cast<const char*>(note.utf8_str()));
     m_frame->Show();
     m_frame->Raise();
     return Waits([&] { return m_frame->IsActive() && m_frame->IsShownOnScreen(); }, "the window is shown") &&

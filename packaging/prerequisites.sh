@@ -15,8 +15,8 @@ install_missing() {
   [ "${#missing[@]}" -gt 0 ] || return 0
 
   if ! command -v apt-get >/dev/null; then
-    echo "There is no apt-get here: install by hand what provides ${missing[*]}, then try again." >&2
-    return 1
+    echo "There is no apt-get here: should the build fail, install by hand what provides ${missing[*]}" >&2
+    return 0
   fi
   local as_root=()
   if [ "$(id -u)" -ne 0 ]; then
@@ -34,7 +34,7 @@ install_missing() {
   if ! apt_install >"$log" 2>&1 && ! { "${as_root[@]}" apt-get update && apt_install; } >"$log" 2>&1; then
     tail -n 5 "$log" >&2
     rm -f "$log"
-    echo "The packages could not be installed. With a network, run: ${as_root[*]} apt-get install ${missing[*]}" >&2
+    echo "The packages could not be installed. With a network, run: ${as_root[*]:+sudo }apt-get install ${missing[*]}" >&2
     return 1
   fi
   rm -f "$log"
