@@ -1,0 +1,170 @@
+#include <fittings/dialogs/file_dialog.h>
+
+#include <cerrno>
+#include <cstddef>
+#include <utility>
+
+#include <wx/arrstr.h>
+#include <wx/debug.h>
+#include <wx/filedlg.h>
+#include <wx/filename.h>
+
+#include <fittings/base/or_empty.h>
+#include <fittings/dialogs/file_dialog_p.h>
+#include <fittings/platform/file_util_ex.h>
+#include <fittings/platform/local_reg_store.h>
+#include <fittings/platform/std_file_paths.h>
+
+namespace {
+
+CStdStr<wchar_t> g_fileExtension;
+CStdStr<wchar_t> g_fileFilter;
+std::string g_regEntry;
+
+wxString EffectiveWildcard(const wxString& wildcard, const wxString& extension)
+{
+    if (!wildcard.empty() || extension.empty())
+        return wildcard;
+    return fittings::kWildcardPrefix + extension;
+}
+
+// The first filter of the wildcard whose pattern contains the extension; 0 when there is none.
+int FilterIndexOf(const wxString& wildcard, const wxString& extension)
+{
+    if (extension.empty() || !wildcard.Contains("|"))
+        return 0;
+    wxArrayString descriptions;
+    wxArrayString patterns;
+    wxParseCommonDialogsFilter(wildcard, descriptions, patterns);
+    for (std::size_t index = 0; index < patterns.size(); ++index) {
+        if (patterns[index].Contains(extension))
+            return static_cast<int>(index);
+    }
+    return 0;
+}
+
+bool IsGone(const wxString& path)
+{
+    wxStructStat info;
+    return wxStat(path, &info) != 0 && errno == ENOENT;
+}
+
+bool CanBeShown(const wxFileName& folder)
+{
+    return folder.DirExists() && folder.IsDirReadable();
+}
+
+// From a folder that is gone, GTK's dialog goes up by itself. Given a file, or what it may not read, it shows an error
+// or nothing at all, and nothing can be chosen.
+void LeaveWhatCannotBeShown(wxFileDialog& dialog, const wxString& start)
+{
+    wxFileName folder = wxFileName::DirName(start);
+    if (start.empty() || CanBeShown(folder) || IsGone(start))
+        return;
+    folder.MakeAbsolute();
+    while (!CanBeShown(folder) && folder.GetDirCount() > 0)
+        folder.RemoveLastDir();
+    dialog.SetDirectory(folder.GetPath());
+}
+
+}  // namespace
+
+void CQVFileDialogI::SetFileExtension(const CStdStr<wchar_t>& ext)
+{
+    g_fileExtension = ext;
+}
+
+void CQVFileDialogI::SetFileFilter(const CStdStr<wchar_t>& filter)
+{
+    g_fileFilter = filter;
+}
+
+CStdStr<wchar_t> CQVFileDialogI::GetFileExtension()
+{
+    return g_fileExtension;
+}
+
+CStdStr<wchar_t> CQVFileDialogI::GetFileFilter()
+{
+    return g_fileFilter;
+}
+
+std::string CQVFileDialogI::SetRegEntry(const std::string& entry)
+{
+    return std::exchange(g_regEntry, entry);
+}
+
+CStdStr<wchar_t> CQVFileDialogI::LaunchSaveDialog(wxWindow* parent, const wchar_t* defaultExtension,
+                                                  const wchar_t* wildcard, const wchar_t* title,
+                                                  const wchar_t* initialFolder, const wchar_t* initialFileName)
+{
+    wxCHECK_MSG(initialFolder, CStdStr<wchar_t>(), "the initial folder is null");
+    wxString folder = *initialFolder ? initialFolder : fittings::LoadLastPath(g_regEntry.c_str());
+    wxString fileName = fittings::OrEmpty(initialFileName);
+    if (!folder.empty()) {
+        // A folder without a separator at its end loses its last part to the file name, a caller's folder as well.
+        wxFileName path;
+        path.Assign(folder, wxPATH_NATIVE);
+        if (fileName.empty())
+            fileName = path.GetName();
+        folder = path.GetPath(wxPATH_GET_VOLUME, wxPATH_NATIVE);
+    }
+    const wxString chosen =
+        fittings::FileSelector(title, folder.wc_str(), fileName.wc_str(), defaultExtension, wildcard,
+                               wxFD_SAVE | wxFD_OVERWRITE_PROMPT, parent, wxDefaultCoord, wxDefaultCoord);
+    fittings::SaveLastPath(chosen.wc_str(), g_regEntry.c_str());
+    return chosen.wc_str();
+}
+
+namespace fittings {
+
+std::string GetRegEntry()
+{
+    return g_regEntry;
+}
+
+CStdStr<wchar_t> LaunchOpenDialog(wxWindow* parent, const wchar_t* defaultExtension, const wchar_t* wildcard,
+                                  const wchar_t* title, const wchar_t* folderSwitch)
+{
+    wxCHECK_MSG(folderSwitch, CStdStr<wchar_t>(), "the folder switch is null");
+    const std::wstring folder = *folderSwitch ? LoadLastPath(g_regEntry.c_str()) : std::wstring();
+    // The remembered path is a file's, and stays whole: the dialog starts in the folder that holds it.
+    const wxString chosen = FileSelector(title, folder.c_str(), L"", defaultExtension, wildcard,
+                                         wxFD_OPEN | wxFD_FILE_MUST_EXIST, parent, wxDefaultCoord, wxDefaultCoord);
+    SaveLastPath(chosen.wc_str(), g_regEntry.c_str());
+    return chosen.wc_str();
+}
+
+wxString FileSelector(const wchar_t* title, const wchar_t* defaultDir, const wchar_t* defaultFile,
+                      const wchar_t* defaultExt, const wchar_t* wildcard, long style, wxWindow* parent, int x, int y)
+{
+    const wxString extension = OrEmpty(defaultExt);
+    const wxString effectiveWildcard = EffectiveWildcard(OrEmpty(wildcard), extension);
+    wxFileDialog dialog(parent, OrEmpty(title), OrEmpty(defaultDir), OrEmpty(defaultFile), effectiveWildcard, style,
+                        wxPoint(x, y), wxDefaultSize, wxFileDialogNameStr);
+    LeaveWhatCannotBeShown(dialog, OrEmpty(defaultDir));
+    const int filterIndex = FilterIndexOf(effectiveWildcard, extension);
+    if (filterIndex > 0)
+        dialog.SetFilterIndex(filterIndex);
+    dialog.Centre(wxBOTH);
+    return dialog.ShowModal() == wxID_OK ? dialog.GetPath() : wxString();
+}
+
+std::wstring LoadLastPath(const char* entry)
+{
+    if (!*entry)
+        return {};
+    const std::string path = CLocalRegStore::GetString(kLastFilesSection, entry, "");
+    if (!path.empty())
+        return file_util_ex::ConvertFromUTF8W(path);
+    return file_util_ex::GetPathWithSep(std_file_paths::GetAppFolderPath(kSamplesFolder).c_str());
+}
+
+void SaveLastPath(const wchar_t* path, const char* entry)
+{
+    if (!*entry || !*path)
+        return;
+    CLocalRegStore::WriteString(kLastFilesSection, entry, file_util_ex::ConvertToUTF8(path).c_str());
+}
+
+}  // namespace fittings

@@ -1,0 +1,66 @@
+#ifndef FITTINGS_DIALOGS_FILE_DIALOG_H_
+#define FITTINGS_DIALOGS_FILE_DIALOG_H_
+
+#include <string>
+
+#include <fittings/base/export.h>
+#include <fittings/base/std_str.h>
+
+class wxWindow;
+
+/// Asks the user where to save a file, in a modal dialog centred on its parent, and proposes the file chosen last in
+/// the same context. GUI thread only.
+///
+/// The context is the registry entry, a name of the host's own, which is set around the call:
+///
+/// @code
+/// const std::string earlier = CQVFileDialogI::SetRegEntry("LastReport");
+/// const CStdStr<wchar_t> path =
+///     CQVFileDialogI::LaunchSaveDialog(this, L"csv", L"Tables (*.csv)|*.csv", L"Save the report", L"", L"");
+/// CQVFileDialogI::SetRegEntry(earlier);
+/// if (!path.empty())
+///     WriteReport(path);
+/// @endcode
+///
+/// The full path of the file chosen is kept in UTF-8 in the default store: section "LastFiles", the registry entry as
+/// the key. It is read anew by each dialog, and written by none that was cancelled.
+class FITTINGS_API CQVFileDialogI
+{
+public:
+    /// @name A file extension and a file filter
+    ///
+    /// Kept for the host, one of each in the process, empty at first. The dialog uses neither.
+    /// @{
+    static void SetFileExtension(const CStdStr<wchar_t>& ext);
+    static void SetFileFilter(const CStdStr<wchar_t>& filter);
+    static CStdStr<wchar_t> GetFileExtension();
+    static CStdStr<wchar_t> GetFileFilter();
+    /// @}
+
+    /// Sets the entry, in UTF-8, under which the dialog remembers its file, and returns the one before, to be set again
+    /// afterwards. There is one in the process. While it is empty, as at first, nothing is proposed or remembered.
+    static std::string SetRegEntry(const std::string& entry);
+
+    /// Shows the dialog and returns the full path chosen, or an empty text when the user cancelled. The dialog asks
+    /// before it returns a file that exists; it neither makes a file nor changes one.
+    ///
+    /// @param parent  may be null.
+    /// @param defaultExtension  without the dot. Of the patterns in @a wildcard, the first that contains this text,
+    ///     upper and lower case being different, is the one selected. What the user types stays as typed.
+    /// @param wildcard  which files are shown, as wxFileDialog takes it: "Tables (*.csv)|*.csv|All files|*". Null or
+    ///     empty: those with the default extension, or all files when that is empty too.
+    /// @param title  null or empty: none.
+    /// @param initialFolder  where to start, with a separator at the end: without it, the part behind the last
+    ///     separator is taken for the name of a file. Empty: where the remembered file is, and before there is one, the
+    ///     application's folder "Samples". The dialog leaves a folder that is gone, or cannot be read, for the nearest
+    ///     one above. Must not be null: that asserts and gives an empty text.
+    /// @param initialFileName  the name proposed. Null or empty: the name that came with the folder, without its
+    ///     extension. To a name without one, the toolkit adds the extension of the first pattern.
+    ///
+    /// A file whose path is not UTF-8 on disk cannot be chosen: the toolkit then gives an empty path, as if cancelled.
+    static CStdStr<wchar_t> LaunchSaveDialog(wxWindow* parent, const wchar_t* defaultExtension, const wchar_t* wildcard,
+                                             const wchar_t* title, const wchar_t* initialFolder,
+                                             const wchar_t* initialFileName);
+};
+
+#endif
