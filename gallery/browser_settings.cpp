@@ -47,6 +47,16 @@ std::wstring WidthKey(std::size_t column)
 
 }  // namespace
 
+wxString LoadPage()
+{
+    return ui_config_mgr::GetConfigString(file, L"Window", L"Page");
+}
+
+void SavePage(const wxString& name)
+{
+    ui_config_mgr::WriteConfigString(file, L"Window", L"Page", name.wc_str());
+}
+
 std::string LoadRootFolder()
 {
     const std::vector<std::wstring> roots = LoadRoots();

@@ -4,12 +4,18 @@
 #include <string>
 #include <vector>
 
+#include <wx/string.h>
+
 #include "folder_listing.h"
 
 namespace fittings {
 
-/// What the browser keeps besides the library's window state and tree state.
+/// What the gallery keeps besides the library's window state and tree state.
 namespace browser_settings {
+
+/// The name of the page that was shown last; empty in the first session.
+wxString LoadPage();
+void SavePage(const wxString& name);
 
 /// The last session's; empty in the first one.
 std::string LoadRootFolder();

@@ -11,12 +11,12 @@
 #include <wx/init.h>
 #include <wx/uilocale.h>
 
-#include "browser_frame.h"
+#include "gallery_frame.h"
 #include "tour.h"
 
 namespace {
 
-using fittings::BrowserFrame;
+using fittings::GalleryFrame;
 
 constexpr const char* usage = "Usage: fittings-gallery [--tour DIR] [FOLDER]\n"
                               "Browse FOLDER, by default the folder of the last session.\n"
@@ -78,7 +78,7 @@ public:
         if (!g_line.pictures.empty())
             return true;
 
-        auto* frame = new BrowserFrame;
+        auto* frame = new GalleryFrame;
         const wxString note = frame->Start(g_line.folder);
         if (!note.empty())
             std::fprintf(stderr, "fittings-gallery: %s\n", static_cast<const char*>(note.utf8_str()));

@@ -10,9 +10,10 @@
 #include <fittings/platform/local_reg_store.h>
 #include <fittings/platform/std_file_paths.h>
 
-#include "browser_frame.h"
+#include "browser_page.h"
 #include "contents_list.h"
 #include "folder_tree.h"
+#include "gallery_frame.h"
 #include "native_text.h"
 #include "screenshot.h"
 #include "simulated_user.h"
@@ -88,11 +89,16 @@ wxRect AcceptButton(GtkWidget* dialog)
 /// What must be the same in the next session.
 struct State
 {
-    explicit State(BrowserFrame& frame)
-        : window(frame.GetRect()), treeWidth(frame.GetTree()->GetSize().x), root(frame.GetTree()->GetRootFolder()),
-          selected(frame.GetTree()->GetSelectedPath()), rows(frame.GetTree()->GetCount()),
-          order(frame.GetList()->GetSortOrder()), widths(frame.GetList()->GetColumnWidths())
+    explicit State(GalleryFrame& frame) : window(frame.GetRect())
     {
+        FolderTree& tree = *frame.GetBrowser()->GetTree();
+        const ContentsList& list = *frame.GetBrowser()->GetList();
+        treeWidth = tree.GetSize().x;
+        root = tree.GetRootFolder();
+        selected = tree.GetSelectedPath();
+        rows = tree.GetCount();
+        order = list.GetSortOrder();
+        widths = list.GetColumnWidths();
     }
 
     bool operator==(const State& other) const
@@ -103,10 +109,10 @@ struct State
     }
 
     wxRect window;
-    int treeWidth;
+    int treeWidth = 0;
     std::string root;
     std::string selected;
-    unsigned rows;
+    unsigned rows = 0;
     SortOrder order;
     std::vector<int> widths;
 };
@@ -161,20 +167,21 @@ bool Tour::Run()
 
 bool Tour::OpenWindow()
 {
-    m_frame = new BrowserFrame;
+    m_frame = new GalleryFrame;
     const wxString note = m_frame->Start(m_folder);
     if (!note.empty())
         std::printf("%s\n", static_cast<const char*>(note.utf8_str()));
     m_frame->Show();
     m_frame->Raise();
+    const FolderTree& tree = *m_frame->GetBrowser()->GetTree();
     return Waits([&] { return m_frame->IsActive() && m_frame->IsShownOnScreen(); }, "the window is shown") &&
            IsTrue(note.empty(), "the folder opens") &&
-           IsTrue(m_frame->GetTree()->IsExpanded(m_frame->GetTree()->GetRootItem()), "its folders are listed");
+           IsTrue(tree.IsExpanded(tree.GetRootItem()), "its folders are listed");
 }
 
 bool Tour::ExpandByKeyboard()
 {
-    FolderTree& tree = *m_frame->GetTree();
+    FolderTree& tree = *m_frame->GetBrowser()->GetTree();
     Click(CentreOf(LabelRect(tree, tree.GetRootItem())));
     if (!Waits([&] { return tree.HasFocus() && tree.GetSelection().item == tree.GetRootItem(); }, "a click selects"))
         return false;
@@ -210,7 +217,7 @@ bool Tour::ExpandByKeyboard()
 
 bool Tour::SortByHeader()
 {
-    ContentsList& list = *m_frame->GetList();
+    ContentsList& list = *m_frame->GetBrowser()->GetList();
     for (const bool ascending : {true, false}) {
         Click(CentreOf(HeaderRect(list, SortColumn::Size)));
         if (!Waits(
@@ -266,7 +273,7 @@ bool Tour::CancelFolder()
 
 bool Tour::RememberWindow()
 {
-    FolderTree& tree = *m_frame->GetTree();
+    FolderTree& tree = *m_frame->GetBrowser()->GetTree();
     const int width = tree.GetSize().x;
     const wxRect place = tree.GetScreenRect();
     const wxPoint sash(place.GetRight() + 4, place.y + place.height / 2);
@@ -324,7 +331,7 @@ bool Tour::Reopen()
     m_frame->Close();
     if (!Waits([&] { return wxTopLevelWindows.empty(); }, "the window closes"))
         return false;
-    m_frame = new BrowserFrame;
+    m_frame = new GalleryFrame;
     m_frame->Start(std::string());
     m_frame->Show();
     m_frame->Raise();

@@ -10,7 +10,7 @@ struct _GtkWidget;
 
 namespace fittings {
 
-class BrowserFrame;
+class GalleryFrame;
 
 /// The program shown by itself: drives its window with simulated input and takes a picture of each component.
 ///
@@ -42,7 +42,7 @@ private:
     std::string m_pictures;
     DemoFolder m_demo;
     std::string m_folder;
-    BrowserFrame* m_frame = nullptr;
+    GalleryFrame* m_frame = nullptr;
 };
 
 }  // namespace fittings

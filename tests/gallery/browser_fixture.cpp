@@ -22,7 +22,7 @@ BrowserTest::~BrowserTest()
 
 void BrowserTest::Open(const std::string& path)
 {
-    frame = new BrowserFrame;
+    frame = new GalleryFrame;
     frame->Start(path);
     ASSERT_TRUE(ShowAndSettle(frame));
 }
@@ -82,9 +82,9 @@ bool BrowserTest::SelectionComesTo(const std::string& path)
 
 void BrowserTest::FloatFolders(const wxPoint& place)
 {
-    wxAuiPaneInfo& pane = frame->GetLayout().GetPane(&Tree());
+    wxAuiPaneInfo& pane = frame->GetBrowser()->GetLayout().GetPane(&Tree());
     pane.Float().FloatingSize(300, 260);
-    frame->GetLayout().Update();
+    frame->GetBrowser()->GetLayout().Update();
     ASSERT_TRUE(PumpUntil([&] { return Tree().IsShownOnScreen() && Tree().GetSize().y < 300; }));
     // Where a window first appears is the window manager's choice.
     pane.frame->Move(place);
@@ -94,7 +94,7 @@ void BrowserTest::FloatFolders(const wxPoint& place)
 bool BrowserTest::FoldersComeTo(const wxPoint& place)
 {
     return PumpUntil([&] {
-        const wxAuiPaneInfo& pane = frame->GetLayout().GetPane(&Tree());
+        const wxAuiPaneInfo& pane = frame->GetBrowser()->GetLayout().GetPane(&Tree());
         return pane.frame && pane.floating_pos == place && pane.frame->GetPosition() == place &&
                wxRect(place, pane.frame->GetSize()).Contains(Tree().GetScreenRect());
     });

@@ -4,9 +4,10 @@
 #include <string>
 #include <vector>
 
-#include <gallery/browser_frame.h>
+#include <gallery/browser_page.h>
 #include <gallery/contents_list.h>
 #include <gallery/folder_tree.h>
+#include <gallery/gallery_frame.h>
 #include <gallery/simulated_user.h>
 #include <gtest/gtest.h>
 
@@ -26,8 +27,8 @@ protected:
     /// Closes the window as a person does, and waits until it is gone.
     void Close();
 
-    fittings::FolderTree& Tree() { return *frame->GetTree(); }
-    fittings::ContentsList& List() { return *frame->GetList(); }
+    fittings::FolderTree& Tree() { return *frame->GetBrowser()->GetTree(); }
+    fittings::ContentsList& List() { return *frame->GetBrowser()->GetList(); }
 
     /// The names in the list, from the top.
     std::vector<std::string> Rows();
@@ -48,7 +49,7 @@ protected:
     TempUserData settings;
     TempFolder temp;
     std::string root;  ///< As the browser names it.
-    fittings::BrowserFrame* frame = nullptr;
+    fittings::GalleryFrame* frame = nullptr;
 };
 
 #endif

@@ -41,7 +41,7 @@ TEST_F(Browsing, StartsWithTheFoldersOfTheRoot)
 TEST_F(Browsing, AllLabelsAreWholeInAnyLocale)
 {
     EXPECT_EQ(frame->GetMenuBar()->FindItem(wxID_OPEN)->GetItemLabelText(), L"Open folder\u2026");
-    EXPECT_EQ(frame->GetToolBar()->FindById(wxID_OPEN)->GetLabel(), L"Open folder\u2026");
+    EXPECT_EQ(frame->GetBrowser()->GetTools()->FindById(wxID_OPEN)->GetLabel(), L"Open folder\u2026");
     EXPECT_TRUE(frame->GetTitle().EndsWith(L" \u2013 Fittings Gallery")) << frame->GetTitle();
 }
 
@@ -132,14 +132,14 @@ TEST_F(Browsing, AltUpGoesToTheFolderAbove)
     Tree().SelectPath(root + "/docs/letters");
     ASSERT_TRUE(SelectionComesTo("docs/letters"));
     EXPECT_TRUE(frame->GetMenuBar()->IsEnabled(wxID_UP));
-    EXPECT_TRUE(frame->GetToolBar()->GetToolEnabled(wxID_UP));
+    EXPECT_TRUE(frame->GetBrowser()->GetTools()->GetToolEnabled(wxID_UP));
     Press(WXK_UP, wxMOD_ALT);
     ASSERT_TRUE(SelectionComesTo("docs"));
     EXPECT_EQ(List().GetSelectedEntry()->name, "letters");
     Press(WXK_UP, wxMOD_ALT);
     ASSERT_TRUE(SelectionComesTo(""));
     EXPECT_FALSE(frame->GetMenuBar()->IsEnabled(wxID_UP));
-    EXPECT_FALSE(frame->GetToolBar()->GetToolEnabled(wxID_UP));
+    EXPECT_FALSE(frame->GetBrowser()->GetTools()->GetToolEnabled(wxID_UP));
 }
 
 TEST_F(Browsing, ADoubleClickOnAFileDoesNothing)

@@ -33,6 +33,7 @@ TEST_F(Remembering, TheFirstSessionStartsCentred)
     EXPECT_NEAR(window.x + window.width / 2, screen.width / 2, 40);
     EXPECT_NEAR(window.y + window.height / 2, screen.height / 2, 40);
     EXPECT_EQ(Tree().GetSelectedPath(), root);
+    EXPECT_EQ(Tree().GetSize().x, 260);
 }
 
 TEST_F(Remembering, TheWindowComesBackWhereItWas)
@@ -68,7 +69,7 @@ TEST_F(Remembering, ThePanesComeBackAsTheyWereDragged)
     Close();
     Open("");
     EXPECT_EQ(Tree().GetSize().x, width);
-    frame->ResetLayout();
+    frame->GetBrowser()->ResetLayout();
     EXPECT_TRUE(PumpUntil([&] { return Tree().GetSize().x == first; }));
 }
 
@@ -82,7 +83,7 @@ TEST_F(Remembering, FloatingFoldersComeBackAboveTheWindow)
     Close();
     Open("");
     ASSERT_TRUE(PumpUntil([&] { return Tree().IsShownOnScreen(); }));
-    EXPECT_TRUE(frame->GetLayout().GetPane(&Tree()).IsFloating());
+    EXPECT_TRUE(frame->GetBrowser()->GetLayout().GetPane(&Tree()).IsFloating());
     EXPECT_TRUE(FoldersComeTo(place));
     Click(frame->GetScreenRect().GetBottomLeft() + wxSize(100, -60));
     ClickFolder("b");

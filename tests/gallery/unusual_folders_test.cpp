@@ -85,13 +85,13 @@ TEST_F(UnusualFolders, AnUnreadableOneIsSaidToBe)
 TEST_F(UnusualFolders, OneThatIsNoneIsSaidToBe)
 {
     WriteFile(temp / "file", "");
-    frame = new BrowserFrame;
+    frame = new GalleryFrame;
     EXPECT_EQ(frame->Start(root + "/gone"), wxString::FromUTF8(root + "/gone: No such file or directory"));
     ASSERT_TRUE(ShowAndSettle(frame));
     EXPECT_TRUE(HasNote());
     EXPECT_EQ(Tree().GetRootFolder(), fs::canonical(getenv("HOME")).native());
     Close();
-    frame = new BrowserFrame;
+    frame = new GalleryFrame;
     EXPECT_EQ(frame->Start(root + "/file"), wxString::FromUTF8(root + "/file: Not a directory"));
     ASSERT_TRUE(ShowAndSettle(frame));
 }

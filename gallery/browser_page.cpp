@@ -1,0 +1,330 @@
+#include "browser_page.h"
+
+#include <cerrno>
+#include <utility>
+#include <vector>
+
+#include <glib.h>
+#include <wx/artprov.h>
+#include <wx/aui/dockart.h>
+#include <wx/aui/floatpane.h>
+#include <wx/infobar.h>
+#include <wx/sizer.h>
+#include <wx/stattext.h>
+#include <wx/toolbar.h>
+#include <wx/utils.h>
+
+#include <fittings/config/wx_window_state.h>
+#include <fittings/dialogs/folder_dialog.h>
+
+#include "browser_settings.h"
+#include "contents_list.h"
+#include "folder_listing.h"
+#include "folder_tree.h"
+#include "native_text.h"
+
+namespace fittings {
+
+wxDEFINE_EVENT(EVT_BROWSER_CHANGED, wxCommandEvent);
+
+namespace {
+
+constexpr const wchar_t* stateName = L"Browser";
+constexpr const char* foldersPane = "folders";
+
+wxString ReasonText(int error)
+{
+    return wxString::FromUTF8(g_strerror(error));
+}
+
+/// "12 items, 1.2 MB (1234567 bytes) in 9 files"
+wxString Summary(const std::vector<Entry>& entries)
+{
+    std::size_t files = 0;
+    std::size_t unreadable = 0;
+    std::uint64_t total = 0;
+    for (const Entry& entry : entries) {
+        files += entry.kind == EntryKind::File;
+        unreadable += !entry.known;
+        total += entry.size;
+    }
+    wxString text = Counted(entries.size(), "item", "items");
+    if (files > 0)
+        text << ", " << ExactSize(total) << " in " << Counted(files, "file", "files");
+    if (unreadable > 0)
+        text << ", " << unreadable << " unreadable";
+    return text;
+}
+
+}  // namespace
+
+BrowserPage::BrowserPage(wxWindow* parent) : wxPanel(parent)
+{
+    SetName("Browser");
+    MakeTools();
+    auto* rows = new wxBoxSizer(wxVERTICAL);
+    rows->Add(m_tools, wxSizerFlags().Expand());
+    rows->Add(MakePanes(), wxSizerFlags(1).Expand());
+    SetSizer(rows);
+    m_firstLayout = m_layout.SavePerspective();
+    BindEvents();
+
+    m_list->SortBy(browser_settings::LoadSortOrder());
+    m_list->SetColumnWidths(browser_settings::LoadColumnWidths(m_list->GetColumnWidths().size()));
+}
+
+BrowserPage::~BrowserPage()
+{
+    m_layout.UnInit();
+}
+
+wxString BrowserPage::Start(const std::string& folder)
+{
+    wxString note;
+    std::string root;
+    if (!folder.empty()) {
+        root = ResolveFolder(folder);
+        if (root.empty())
+            note = DisplayText(folder) + ": " + ReasonText(errno);
+    }
+    for (const std::string& other : {browser_settings::LoadRootFolder(), PathFromDialog(wxGetHomeDir())}) {
+        if (root.empty() && !other.empty())
+            root = ResolveFolder(other);
+    }
+    OpenRoot(root.empty() ? "/" : root);
+    if (!note.empty())
+        m_note->ShowMessage(note, wxICON_WARNING);
+    return note;
+}
+
+void BrowserPage::LoadLayout()
+{
+    if (m_layoutLoaded)
+        return;
+    m_layoutLoaded = true;
+    wx_window_state::LoadAuiManagerState(&m_layout, stateName);
+    TellChange();
+    CallAfter([this] { m_tree->EnsureVisible(m_tree->GetSelection().item); });
+}
+
+void BrowserPage::ShowFloatingPanes(bool show)
+{
+    wxAuiPaneInfo& folders = m_layout.GetPane(foldersPane);
+    if (folders.frame && folders.IsShown())
+        folders.frame->Show(show);
+}
+
+void BrowserPage::SaveSettings()
+{
+    RememberRoot();
+    browser_settings::SaveSortOrder(m_list->GetSortOrder());
+    browser_settings::SaveColumnWidths(m_list->GetColumnWidths());
+    if (m_layoutLoaded)
+        wx_window_state::SaveAuiManagerState(&m_layout, stateName);
+}
+
+bool BrowserPage::HasFolderAbove() const
+{
+    return m_folder != m_tree->GetRootFolder();
+}
+
+bool BrowserPage::ShowsFolders()
+{
+    return m_layout.GetPane(foldersPane).IsShown();
+}
+
+wxString BrowserPage::GetSelectionText() const
+{
+    const Entry* entry = m_list->GetSelectedEntry();
+    if (!entry)
+        return {};
+    wxString text = DisplayText(entry->name);
+    if (entry->kind == EntryKind::File && entry->known)
+        text << ": " << ExactSize(entry->size);
+    return text;
+}
+
+void BrowserPage::OpenFolder()
+{
+    const wxString folder = wxFolderDlg::DoModalReg(this, L"OpenFolder", L"Open folder");
+    if (folder.empty())
+        return;
+    const std::string path = ResolveFolder(PathFromDialog(folder));
+    if (path.empty())
+        m_note->ShowMessage(folder + ": " + ReasonText(errno), wxICON_WARNING);
+    else
+        OpenRoot(path);
+}
+
+void BrowserPage::GoUp()
+{
+    const std::string from = m_folder;
+    if (m_tree->SelectParent())
+        m_list->SelectEntry(from.substr(from.rfind('/') + 1));
+}
+
+void BrowserPage::RefreshFolders()
+{
+    const wxBusyCursor busy;
+    const Entry* selected = m_list->GetSelectedEntry();
+    const std::string name = selected ? selected->name : std::string();
+    m_tree->Reread();
+    ShowFolder(m_tree->GetSelectedPath());
+    m_list->SelectEntry(name);
+}
+
+void BrowserPage::ToggleFolders()
+{
+    wxAuiPaneInfo& pane = m_layout.GetPane(foldersPane);
+    pane.Show(!pane.IsShown());
+    m_layout.Update();
+    TellChange();
+}
+
+void BrowserPage::ResetLayout()
+{
+    m_layout.LoadPerspective(m_firstLayout);
+    TellChange();
+}
+
+void BrowserPage::MakeTools()
+{
+    const auto icon = [](const wxArtID& id) { return wxArtProvider::GetBitmapBundle(id, wxART_TOOLBAR); };
+    m_tools =
+        new wxToolBar(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTB_HORIZONTAL | wxTB_HORZ_TEXT | wxTB_FLAT);
+    m_tools->SetName("Tools");
+    m_tools->AddTool(wxID_OPEN, L"Open folder\u2026", icon(wxART_FOLDER_OPEN), "Browse another folder (Ctrl+O)");
+    m_tools->AddTool(wxID_UP, "Up", icon(wxART_GO_DIR_UP), "Select the folder that this one is in (Alt+Up)");
+    m_tools->AddTool(wxID_REFRESH, "Refresh", icon(wxART_REFRESH), "Read the folders again (F5)");
+    m_tools->Realize();
+}
+
+wxWindow* BrowserPage::MakePanes()
+{
+    auto* panel = new wxPanel(this);
+    // The layout gives a pane no more than a share of the panel, which has no size of its own yet.
+    panel->SetSize(wxGetTopLevelParent(this)->GetClientSize());
+    m_layout.SetManagedWindow(panel);
+    m_layout.SetFlags(wxAUI_MGR_DEFAULT | wxAUI_MGR_LIVE_RESIZE);
+    wxAuiDockArt* art = m_layout.GetArtProvider();
+    art->SetMetric(wxAUI_DOCKART_GRADIENT_TYPE, wxAUI_GRADIENT_NONE);
+    art->SetMetric(wxAUI_DOCKART_CAPTION_SIZE, GetCharHeight() + FromDIP(6));
+    art->SetFont(wxAUI_DOCKART_CAPTION_FONT, GetFont());
+    for (const int part :
+         {wxAUI_DOCKART_INACTIVE_CAPTION_COLOUR, wxAUI_DOCKART_BACKGROUND_COLOUR, wxAUI_DOCKART_SASH_COLOUR})
+        art->SetColour(part, panel->GetBackgroundColour());
+    art->SetColour(wxAUI_DOCKART_INACTIVE_CAPTION_TEXT_COLOUR, panel->GetForegroundColour());
+    m_tree = new FolderTree(panel);
+    m_layout.AddPane(m_tree, wxAuiPaneInfo()
+                                 .Name(foldersPane)
+                                 .Caption("Folders")
+                                 .Left()
+                                 .BestSize(FromDIP(wxSize(260, 400)))
+                                 .MinSize(m_tree->GetMinSize()));
+    m_layout.AddPane(MakeContents(panel), wxAuiPaneInfo().Name("contents").CentrePane());
+    m_layout.Update();
+    return panel;
+}
+
+wxWindow* BrowserPage::MakeContents(wxWindow* parent)
+{
+    auto* panel = new wxPanel(parent);
+    m_location = new wxStaticText(panel, wxID_ANY, "", wxDefaultPosition, wxDefaultSize,
+                                  wxST_ELLIPSIZE_MIDDLE | wxST_NO_AUTORESIZE);
+    m_location->SetFont(m_location->GetFont().Bold());
+    m_location->SetName("Location");
+    m_note = new wxInfoBar(panel);
+    m_list = new ContentsList(panel);
+
+    auto* rows = new wxBoxSizer(wxVERTICAL);
+    rows->Add(m_location, wxSizerFlags().Expand().Border(wxALL, FromDIP(6)));
+    rows->Add(m_note, wxSizerFlags().Expand());
+    rows->Add(m_list, wxSizerFlags(1).Expand());
+    panel->SetSizer(rows);
+    return panel;
+}
+
+void BrowserPage::BindEvents()
+{
+    m_layout.Bind(wxEVT_AUI_PANE_CLOSE, [this](wxAuiManagerEvent& event) {
+        CallAfter(&BrowserPage::TellChange);
+        event.Skip();
+    });
+    m_tree->Bind(wxEVT_TREE_SEL_CHANGED, [this](wxTreeEvent& event) {
+        const std::string path = m_tree->GetSelectedPath();
+        if (!path.empty() && path != m_folder)
+            ShowFolder(path);
+        event.Skip();
+    });
+    m_list->Bind(wxEVT_DATAVIEW_ITEM_ACTIVATED, &BrowserPage::OnActivated, this);
+    m_list->Bind(wxEVT_DATAVIEW_SELECTION_CHANGED, [this](wxDataViewEvent&) { TellChange(); });
+    m_list->Bind(wxEVT_CHAR, [this](wxKeyEvent& event) {
+        if (event.GetKeyCode() == WXK_BACK)
+            GoUp();
+        else
+            event.Skip();
+    });
+}
+
+void BrowserPage::OpenRoot(const std::string& path)
+{
+    const wxBusyCursor busy;
+    RememberRoot();
+    const std::string selected = browser_settings::LoadSelectedFolder(path);
+    {
+        // What counts is the folder that is selected in the end.
+        const wxEventBlocker noSelection(m_tree, wxEVT_TREE_SEL_CHANGED);
+        m_tree->SetRootFolder(path);
+        if (selected.empty())
+            m_tree->Expand(m_tree->GetRootItem());
+        else
+            m_tree->LoadExpanded();
+        m_tree->SelectPath(selected.empty() ? path : selected);
+    }
+    ShowFolder(m_tree->GetSelectedPath());
+}
+
+/// Stores what is kept for each root.
+void BrowserPage::RememberRoot()
+{
+    const std::string& root = m_tree->GetRootFolder();
+    if (root.empty())
+        return;
+    m_tree->SaveExpanded();
+    const std::string forgotten = browser_settings::SaveRootFolder(root);
+    if (!forgotten.empty())
+        FolderTree::ForgetExpanded(forgotten);
+    browser_settings::SaveSelectedFolder(root, m_folder);
+}
+
+void BrowserPage::ShowFolder(const std::string& path)
+{
+    const wxBusyCursor busy;
+    m_folder = path;
+    Listing listing = ReadFolder(path);
+    m_summary = Summary(listing.entries);
+    m_location->SetLabelText(DisplayText(path));
+    if (listing.error != 0)
+        m_note->ShowMessage(DisplayText(path) + ": " + ReasonText(listing.error), wxICON_WARNING);
+    else if (m_note->IsShown())
+        m_note->Dismiss();
+    m_list->SetEntries(std::move(listing.entries));
+    m_tools->EnableTool(wxID_UP, HasFolderAbove());
+    TellChange();
+}
+
+void BrowserPage::OnActivated(wxDataViewEvent& event)
+{
+    const Entry* entry = m_list->EntryOf(event.GetItem());
+    if (entry && entry->kind == EntryKind::Folder)
+        m_tree->SelectSubfolder(std::string(entry->name));
+}
+
+void BrowserPage::TellChange()
+{
+    wxCommandEvent event(EVT_BROWSER_CHANGED, GetId());
+    event.SetEventObject(this);
+    ProcessWindowEvent(event);
+}
+
+}  // namespace fittings

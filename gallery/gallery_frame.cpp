@@ -1,0 +1,214 @@
+#include "gallery_frame.h"
+
+#include <memory>
+#include <vector>
+
+#include <gtk/gtk.h>
+#include <wx/aboutdlg.h>
+#include <wx/accel.h>
+#include <wx/display.h>
+#include <wx/menu.h>
+#include <wx/notebook.h>
+
+#include <fittings/base/version.h>
+#include <fittings/config/wx_window_state.h>
+
+#include "browser_page.h"
+#include "browser_settings.h"
+#include "contents_list.h"
+#include "folder_tree.h"
+#include "native_text.h"
+
+namespace fittings {
+
+namespace {
+
+constexpr const wchar_t* stateName = L"Browser";
+constexpr int firstPageId = wxID_HIGHEST + 1;
+
+}  // namespace
+
+GalleryFrame::GalleryFrame() : wxFrame(nullptr, wxID_ANY, "Fittings Gallery")
+{
+    SetName("Gallery");
+    SetMinSize(FromDIP(wxSize(480, 320)));
+    wxSize size = FromDIP(wxSize(960, 640));
+    size.DecTo(wxDisplay(this).GetClientArea().GetSize());
+    SetSize(size);
+    Centre();
+    const int widths[] = {-3, -2};
+    CreateStatusBar(2)->SetStatusWidths(2, widths);
+
+    m_pages = new wxNotebook(this, wxID_ANY);
+    m_browser = new BrowserPage(m_pages);
+    AddPage(m_browser, "Disk usage");
+    MakeMenus();
+    ShareMenuKeys(m_browser->GetTree());
+    BindEvents();
+
+    wx_window_state::LoadState(this, stateName);
+    m_browser->GetList()->SetFocus();
+    ShowPage(m_pages->FindPage(FindWindowByName(browser_settings::LoadPage(), m_pages)));
+}
+
+wxString GalleryFrame::Start(const std::string& folder)
+{
+    if (!folder.empty())
+        ShowPage(m_pages->FindPage(m_browser));
+    return m_browser->Start(folder);
+}
+
+void GalleryFrame::MakeMenus()
+{
+    auto* file = new wxMenu;
+    file->Append(wxID_OPEN, L"&Open folder\u2026\tCtrl+O", "Browse another folder");
+    file->Append(wxID_REFRESH, "&Refresh\tF5", "Read the folders again");
+    file->AppendSeparator();
+    file->Append(wxID_EXIT, "&Quit\tCtrl+Q", "Close the window");
+
+    auto* help = new wxMenu;
+    help->Append(wxID_ABOUT, "&About", "Version and purpose");
+
+    auto* menus = new wxMenuBar;
+    menus->Append(file, "&File");
+    menus->Append(MakeViewMenu(), "&View");
+    menus->Append(help, "&Help");
+    SetMenuBar(menus);
+}
+
+wxMenu* GalleryFrame::MakeViewMenu() const
+{
+    auto* view = new wxMenu;
+    for (std::size_t page = 0; page < m_pages->GetPageCount(); ++page) {
+        const wxString title = m_pages->GetPageText(page);
+        view->AppendRadioItem(firstPageId + static_cast<int>(page), wxString::Format("&%s\tAlt+%zu", title, page + 1),
+                              "Show the page " + title);
+    }
+    view->AppendSeparator();
+    view->Append(wxID_UP, "Folder &above\tAlt+Up", "Select the folder that this one is in");
+    view->AppendSeparator();
+    view->AppendCheckItem(wxID_VIEW_LIST, "&Folders\tF9", "Show the folders beside the contents");
+    view->Append(wxID_RESET, "Reset &layout", "Put the panes back where they were at first");
+    return view;
+}
+
+/// Lets the menus' keys work in a pane that floats, which is in a window of its own.
+void GalleryFrame::ShareMenuKeys(wxWindow* pane)
+{
+    std::vector<wxAcceleratorEntry> keys;
+    for (std::size_t menu = 0; menu < GetMenuBar()->GetMenuCount(); ++menu) {
+        for (const wxMenuItem* item : GetMenuBar()->GetMenu(menu)->GetMenuItems()) {
+            const std::unique_ptr<wxAcceleratorEntry> key(item->GetAccel());
+            if (key)
+                keys.emplace_back(key->GetFlags(), key->GetKeyCode(), item->GetId());
+        }
+    }
+    pane->SetAcceleratorTable(wxAcceleratorTable(static_cast<int>(keys.size()), keys.data()));
+}
+
+void GalleryFrame::AddPage(wxWindow* page, const wxString& title)
+{
+    m_pages->AddPage(page, title);
+}
+
+void GalleryFrame::BindEvents()
+{
+    const auto bindCommand = [this](int id, void (BrowserPage::*run)()) {
+        Bind(
+            wxEVT_MENU, [this, run](wxCommandEvent&) { (m_browser->*run)(); }, id);
+    };
+    bindCommand(wxID_UP, &BrowserPage::GoUp);
+    bindCommand(wxID_REFRESH, &BrowserPage::RefreshFolders);
+    bindCommand(wxID_VIEW_LIST, &BrowserPage::ToggleFolders);
+    bindCommand(wxID_RESET, &BrowserPage::ResetLayout);
+    Bind(
+        wxEVT_MENU,
+        [this](wxCommandEvent&) {
+            ShowPage(m_pages->FindPage(m_browser));
+            m_browser->OpenFolder();
+        },
+        wxID_OPEN);
+    Bind(
+        wxEVT_MENU, [this](wxCommandEvent&) { Close(); }, wxID_EXIT);
+    Bind(
+        wxEVT_MENU, [this](wxCommandEvent&) { OnAbout(); }, wxID_ABOUT);
+    Bind(
+        wxEVT_MENU, [this](wxCommandEvent& event) { ShowPage(event.GetId() - firstPageId); }, firstPageId,
+        firstPageId + static_cast<int>(m_pages->GetPageCount()) - 1);
+    Bind(EVT_BROWSER_CHANGED, [this](wxCommandEvent&) { ShowState(); });
+    Bind(wxEVT_CLOSE_WINDOW, &GalleryFrame::OnClose, this);
+    m_pages->Bind(wxEVT_NOTEBOOK_PAGE_CHANGED, &GalleryFrame::OnPageChanged, this);
+
+    const auto onMapped = +[](GtkWidget*, GdkEvent*, gpointer frame) -> gboolean {
+        static_cast<GalleryFrame*>(frame)->OnMapped();
+        return FALSE;
+    };
+    g_signal_connect(GetHandle(), "map-event", G_CALLBACK(onMapped), this);
+}
+
+bool GalleryFrame::ShowsBrowser() const
+{
+    return m_pages->GetCurrentPage() == m_browser;
+}
+
+/// Selects a page and puts the focus where it was in it; an index that is none changes nothing.
+void GalleryFrame::ShowPage(int index)
+{
+    if (index < 0 || index == m_pages->GetSelection())
+        return;
+    m_pages->SetSelection(static_cast<std::size_t>(index));
+    m_pages->GetCurrentPage()->SetFocus();
+}
+
+/// Brings title, status texts and commands in line with the selected page.
+void GalleryFrame::ShowState()
+{
+    const bool browser = ShowsBrowser();
+    const wxString page = m_pages->GetPageText(static_cast<std::size_t>(m_pages->GetSelection()));
+    SetTitle((browser ? DisplayText(m_browser->GetFolder()) : page) + L" \u2013 Fittings Gallery");
+    SetStatusText(browser ? m_browser->GetSummary() : wxString(), 0);
+    SetStatusText(browser ? m_browser->GetSelectionText() : wxString(), 1);
+
+    wxMenuBar* menus = GetMenuBar();
+    menus->Check(firstPageId + m_pages->GetSelection(), true);
+    menus->Enable(wxID_REFRESH, browser);
+    menus->Enable(wxID_UP, browser && m_browser->HasFolderAbove());
+    menus->Enable(wxID_VIEW_LIST, browser);
+    menus->Check(wxID_VIEW_LIST, m_browser->ShowsFolders());
+    menus->Enable(wxID_RESET, browser);
+}
+
+void GalleryFrame::OnMapped()
+{
+    m_mapped = true;
+    if (ShowsBrowser())
+        m_browser->LoadLayout();
+}
+
+void GalleryFrame::OnPageChanged(wxBookCtrlEvent& event)
+{
+    if (m_mapped && ShowsBrowser())
+        m_browser->LoadLayout();
+    m_browser->ShowFloatingPanes(ShowsBrowser());
+    ShowState();
+    event.Skip();
+}
+
+void GalleryFrame::OnAbout()
+{
+    wxAboutDialogInfo info;
+    info.SetName("Fittings Gallery");
+    info.SetVersion(FITTINGS_VERSION);
+    info.SetDescription("A disk-usage browser that shows the components of the fittings library at work.");
+    wxAboutBox(info, this);
+}
+
+void GalleryFrame::OnClose(wxCloseEvent& event)
+{
+    m_browser->SaveSettings();
+    browser_settings::SavePage(m_pages->GetCurrentPage()->GetName());
+    wx_window_state::SaveState(this, stateName);
+    event.Skip();
+}
+
+}  // namespace fittings

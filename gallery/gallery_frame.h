@@ -1,0 +1,51 @@
+#ifndef FITTINGS_GALLERY_GALLERY_FRAME_H_
+#define FITTINGS_GALLERY_GALLERY_FRAME_H_
+
+#include <string>
+
+#include <wx/frame.h>
+
+class wxBookCtrlEvent;
+class wxMenu;
+class wxNotebook;
+
+namespace fittings {
+
+class BrowserPage;
+
+/// The gallery's window: the disk-usage browser, and a page for each component that is shown by itself.
+///
+/// The window and its pages come back as they were when the last one was closed.
+class GalleryFrame : public wxFrame
+{
+public:
+    GalleryFrame();
+
+    /// Opens a folder in the browser, see BrowserPage::Start(). A folder that was asked for is also shown.
+    wxString Start(const std::string& folder);
+
+    wxNotebook* GetPages() const { return m_pages; }
+    BrowserPage* GetBrowser() const { return m_browser; }
+
+private:
+    void MakeMenus();
+    wxMenu* MakeViewMenu() const;
+    void ShareMenuKeys(wxWindow* pane);
+    void AddPage(wxWindow* page, const wxString& title);
+    void BindEvents();
+    bool ShowsBrowser() const;
+    void ShowPage(int index);
+    void ShowState();
+    void OnMapped();
+    void OnPageChanged(wxBookCtrlEvent& event);
+    void OnAbout();
+    void OnClose(wxCloseEvent& event);
+
+    wxNotebook* m_pages = nullptr;
+    BrowserPage* m_browser = nullptr;
+    bool m_mapped = false;
+};
+
+}  // namespace fittings
+
+#endif
