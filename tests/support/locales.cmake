@@ -1,0 +1,26 @@
+# Locales for tests, whatever the machine has installed: made from glibc's sources (Debian's package "locales") into
+# FITTINGS_TEST_LOCALES by the target fittings-test-locales.
+#
+#   de_DE.UTF-8   point ","       thousands "."
+#   fr_FR.UTF-8   point ","       thousands U+202F
+#   ps_AF.UTF-8   point U+066B    thousands U+066C
+#
+# Every fittings_test has them: ScopedLocale of tests/support/scoped_locale.h sets one for a scope. Any other program
+# finds them with LOCPATH=${FITTINGS_TEST_LOCALES} in its environment. glibc then no longer reads the system's archive of
+# locales, but still its folder of them, where C.UTF-8 is.
+set(FITTINGS_TEST_LOCALES ${PROJECT_BINARY_DIR}/locales)
+find_program(LOCALEDEF localedef REQUIRED)
+
+# One after the other: each links what it shares with those that are there.
+set(make_locales)
+foreach(language IN ITEMS de_DE fr_FR ps_AF)
+  list(APPEND make_locales COMMAND ${LOCALEDEF} -i ${language} -f UTF-8 ${FITTINGS_TEST_LOCALES}/${language}.UTF-8)
+endforeach()
+add_custom_command(OUTPUT ${FITTINGS_TEST_LOCALES}/stamp
+  COMMAND ${CMAKE_COMMAND} -E rm -rf ${FITTINGS_TEST_LOCALES}
+  COMMAND ${CMAKE_COMMAND} -E make_directory ${FITTINGS_TEST_LOCALES}
+  ${make_locales}
+  COMMAND ${CMAKE_COMMAND} -E touch ${FITTINGS_TEST_LOCALES}/stamp
+  DEPENDS ${CMAKE_CURRENT_LIST_FILE}
+  COMMENT "Making the locales of the tests" VERBATIM)
+add_custom_target(fittings-test-locales DEPENDS ${FITTINGS_TEST_LOCALES}/stamp)

@@ -1,0 +1,31 @@
+#ifndef FITTINGS_TESTS_SUPPORT_SCOPED_LOCALE_H_
+#define FITTINGS_TESTS_SUPPORT_SCOPED_LOCALE_H_
+
+#include <clocale>
+#include <string>
+
+/// The process's locale for as long as the object lives; fails the test when there is no such locale.
+///
+/// Beside the system's own, de_DE.UTF-8 (point ","), fr_FR.UTF-8 (thousands U+202F) and ps_AF.UTF-8 (point U+066B) are
+/// there on every machine.
+///
+/// @code
+/// const ScopedLocale german("de_DE.UTF-8");
+/// const ScopedLocale pointAlone("ps_AF.UTF-8", LC_NUMERIC);  // cannot be converted in the C locale
+/// @endcode
+///
+/// From the first object on LOCPATH is set, for child processes too.
+class ScopedLocale
+{
+public:
+    explicit ScopedLocale(const char* name, int category = LC_ALL);
+    ~ScopedLocale();
+    ScopedLocale(const ScopedLocale&) = delete;
+    ScopedLocale& operator=(const ScopedLocale&) = delete;
+
+private:
+    const int m_category;
+    const std::string m_before;
+};
+
+#endif
