@@ -1,0 +1,227 @@
+#ifndef FITTINGS_COLOUR_COLOUR_POPUP_H_
+#define FITTINGS_COLOUR_COLOUR_POPUP_H_
+
+#include <wx/colour.h>
+#include <wx/combo.h>
+#include <wx/font.h>
+#include <wx/gdicmn.h>
+#include <wx/palette.h>
+#include <wx/string.h>
+#include <wx/window.h>
+
+#include <fittings/base/export.h>
+#include <fittings/colour/colour_table.h>
+
+/// Hears what the user does in a wxColourPopup. A host overrides what it needs.
+class FITTINGS_API wxColorPopupListener
+{
+public:
+    /// The popup has been shown.
+    virtual void OnColourPopup();
+
+    /// Another cell became hot; @a colour is that cell's.
+    virtual void OnColourSelChange(const wxColour& colour);
+
+    /// @a colour was chosen.
+    virtual void OnColourSelEnd(const wxColour& colour);
+
+    /// Nothing was chosen; @a colour is the one that stays in effect.
+    virtual void OnColourSelCancel(const wxColour& colour);
+
+    virtual ~wxColorPopupListener();
+};
+
+/// The drop-down of a colour combo: a palette of 40 named colours, with a box "Automatic" above and a box
+/// "More Colours..." below it.
+///
+/// @code
+/// auto* combo = new wxColourCombo;
+/// combo->Create(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxCB_READONLY);
+/// auto* popup = new wxColourPopup;
+/// popup->SetInitialColour(m_lineColour);
+/// popup->SetColorListener(this);
+/// combo->SetPopupControl(popup);
+/// @endcode
+///
+/// Settings are made before the popup is shown. The colour that the user chose reaches the listener, and is from then on
+/// the initial colour. A cell is named by its index: 0 to 39 for a colour of the palette, else one of the constants
+/// CELL_NONE, CELL_MORE_COLOURS and CELL_AUTOMATIC. The *hot* cell is the one under the pointer or reached by the
+/// keyboard; the *chosen* cell is the one of the colour in effect.
+///
+/// The texts are in the language that is set when the popup is made, the colours' names in the one that is set when the
+/// first popup of the process is made.
+///
+/// The combo owns the popup from SetPopupControl() on. GUI thread only.
+class FITTINGS_API wxColourPopup : public wxWindow, public wxComboPopup
+{
+public:
+    wxColourPopup();
+    ~wxColourPopup() override;
+
+    /// @name Settings
+    /// @{
+
+    /// The colour in effect: what the combo's face and the "More Colours..." cell show. Black at first. An invalid
+    /// colour asserts and is not taken.
+    void SetInitialColour(const wxColour& colour);
+    const wxColour& GetInitialColour() const { return m_crInitialColour; }
+
+    /// The colour that "Automatic" stands for. Black at first. An invalid colour asserts and is not taken.
+    void SetDefaultColour(const wxColour& colour);
+    const wxColour& GetDefaultColour() const { return m_crDefaultColour; }
+
+    /// Whether the combo is redrawn each time another cell becomes hot. False at first.
+    void SetRefreshCombo(bool refresh) { m_bRefreshCombo = refresh; }
+    bool GetRefreshCombo() const { return m_bRefreshCombo; }
+
+    /// The text of the upper box; the box is absent when it is empty.
+    void SetAutomaticText(const wxString& text);
+
+    /// The text of the lower box; the box is absent when it is empty.
+    void SetMoreColoursText(const wxString& text);
+
+    /// The listener, not owned, is to outlive the popup or be replaced by null.
+    void SetColorListener(wxColorPopupListener* listener) { m_pListener = listener; }
+
+    /// The window that the dialog of "More Colours..." belongs to and is centred on; not owned. With null it belongs to
+    /// the combo. The popup itself is not moved.
+    void SetCenterOn(wxWindow* window) { m_pCenterOn = window; }
+
+    /// Brings every setting, the listener included, to its initial value; a popup that is already created keeps its
+    /// layout. The constructor does it.
+    void Initialise();
+    /// @}
+
+    /// @name Cells and colours
+    /// @{
+
+    /// The colour of a cell of the palette, of CELL_MORE_COLOURS (the initial colour) or of CELL_AUTOMATIC (the default
+    /// colour). Any other index is not checked, and must not be passed.
+    wxColour GetColour(int index) const;
+
+    /// The row or column of a cell in the grid. A box is its own row and column: the result is @a index itself. -1 for
+    /// a box that is absent and for any other index.
+    int GetRow(int index) const;
+    int GetColumn(int index) const;
+
+    /// The cell at a place of the grid. A row or a column that stands for a box names that box where it is present, the
+    /// other coordinate whatever it is. CELL_NONE where there is no cell.
+    int GetIndex(int row, int col) const;
+
+    /// Marks the cell of @a colour as chosen: the first of the palette that has exactly this colour and opacity, else
+    /// "More Colours...", else none.
+    ///
+    /// "Automatic" is chosen when nothing was and the colour is the default colour, and stays chosen whatever
+    /// @a colour is: who chose it finds it marked again.
+    void FindCellFromColour(const wxColour& colour);
+
+    /// The text of the hot cell; empty when none is hot.
+    wxString GetStringValue() const override;
+
+    /// Makes the colour of that name hot, in the language and the letter case that the table has it in. Any other text,
+    /// those of the boxes included, changes nothing, and neither does any while the popup hides itself: what the combo
+    /// then hands back is no choice of the user's.
+    void SetStringValue(const wxString& value) override;
+    /// @}
+
+    /// @name Size and layout, in pixels
+    /// @{
+
+    /// Creates the window; called by the combo.
+    bool Create(wxWindow* parent) override;
+
+    /// Lays out the popup and moves the window to the position of @a rect, or where it fits on the screen. Of the size
+    /// nothing is used. Does nothing before Create().
+    void SetWindowSize(const wxRect& rect);
+
+    /// Gives the rectangle of a cell and true. False, and @a rect as it was, when there is no such cell.
+    ///
+    /// Of a box the rectangle of the last layout is given, also where it is absent.
+    bool GetCellRect(int index, wxRect& rect) const;
+
+    /// The popup's own size, whatever the combo would like.
+    wxSize GetAdjustedSize(int minWidth, int prefHeight, int maxHeight) override;
+
+    wxWindow* GetControl() override { return this; }
+    /// @}
+
+    /// @name Drawing
+    /// @{
+    void OnPaint(wxPaintEvent& event);
+
+    /// Draws the cells, the boxes and the frame. What is between them is left as it is.
+    void DoDrawControl(wxDC* dc);
+
+    /// Draws one cell as it is now: plain, chosen or hot.
+    void DrawCell(wxDC* dc, int index);
+
+    /// Draws a cell of the palette into @a rect, which shrinks to the rectangle of the colour itself.
+    void DrawCellRect(wxDC* dc, wxRect& rect, int index);
+
+    /// Draws the frame of the popup.
+    void DoDrawClientEdge(wxDC* dc);
+
+    /// Fills the combo's face with the colour in effect.
+    void PaintComboControl(wxDC& dc, const wxRect& rect) override;
+    /// @}
+
+    /// @name Mouse and keyboard
+    /// @{
+    void OnPopup() override;
+    void OnDismiss() override;
+
+    /// Makes a cell hot.
+    void ChangeSelection(int index);
+    void DoSelChange();
+
+    /// Ends the selection: with the hot cell's colour, or, unless @a ok, with the one that was in effect.
+    void EndSelection(bool ok);
+    void DoEndSel(bool ok);
+
+    /// Asks for a colour in the toolkit's dialog.
+    void DoShowColorDlg();
+
+    void OnMouseMove(wxMouseEvent& event);
+    void OnLButtonUp(wxMouseEvent& event);
+    void OnKeyDown(wxKeyEvent& event);
+    /// @}
+
+protected:
+    wxString m_strMoreColours;
+    wxString m_strAutomatic;
+    wxPalette m_palette;
+    wxRect m_rectMoreColours;
+    wxRect m_rectAutomatic;
+    wxRect m_rectWindow;
+    int m_nNumColours;
+    int m_nNumColumns;
+    int m_nNumRows;
+    int m_nBoxSize;  ///< The side of a cell of the palette.
+    int m_nMargin;
+    int m_nChosenColourSel;
+    int m_nCurrentSel;  ///< The hot cell.
+    wxFont m_font;
+    wxColour m_crColour;         ///< Of the hot cell.
+    wxColour m_crInitialColour;  ///< In effect.
+    wxColour m_crDefaultColour;
+    wxColorPopupListener* m_pListener;
+    bool m_bRefreshCombo;
+    bool m_bInternalHide;  ///< While the popup hides itself.
+    wxWindow* m_pCenterOn;
+    wxString m_strToolTip;
+
+private:
+    void LayOutBox(int index, const wxString& text);
+    wxSize MeasureTexts();
+    void DrawMoreColours(wxDC& dc);
+    void DrawAutomatic(wxDC& dc);
+    void DrawEdge(wxDC& dc, const wxRect& rect, int index);
+    int CellBelow() const;
+    int CellAbove() const;
+    int CellRight() const;
+    int CellLeft() const;
+
+    wxDECLARE_EVENT_TABLE();
+};
+
+#endif

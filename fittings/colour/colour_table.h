@@ -1,0 +1,45 @@
+#ifndef FITTINGS_COLOUR_COLOUR_TABLE_H_
+#define FITTINGS_COLOUR_COLOUR_TABLE_H_
+
+#include <cstdint>
+
+#include <fittings/base/export.h>
+
+/// @name Cells of the colour popup
+/// 0 to 39 are the colours of the palette, row by row. These are the others.
+/// @{
+inline constexpr int CELL_NONE = -1;          ///< No cell.
+inline constexpr int CELL_MORE_COLOURS = -2;  ///< The box "More Colours..." below the palette.
+inline constexpr int CELL_AUTOMATIC = -3;     ///< The box "Automatic" above the palette.
+/// @}
+
+namespace fittings {
+
+/// How many colours the palette has.
+inline constexpr int kColourCount = 40;
+
+}  // namespace fittings
+
+/// A colour of the palette.
+struct ColourTableEntry
+{
+    std::uint32_t crColour;  ///< 0x00BBGGRR: red in the lowest byte.
+    const wchar_t* szName;   ///< In the user's language; null when the platform has none.
+};
+
+/// Returns the first of the palette's 40 colours.
+///
+/// @code
+/// for (int i = 0; i < fittings::kColourCount; ++i)
+///     list->Append(GetColourTable()[i].szName);
+/// @endcode
+///
+/// The names are looked up in the language that is set at the first call, and stay: set the language first. Whichever
+/// thread calls first, they are looked up once; the look-up itself belongs on the GUI thread. What it throws reaches
+/// the caller, and the next call tries again. The table and its names last until the process ends.
+FITTINGS_API const ColourTableEntry* GetColourTable();
+
+/// Returns the name of the palette's colour @a index, from 0 to 39. The index is not checked.
+FITTINGS_API const wchar_t* GetColourName(int index);
+
+#endif
