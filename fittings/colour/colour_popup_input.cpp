@@ -30,10 +30,14 @@ void wxColorPopupListener::OnColourSelCancel(const wxColour& /*colour*/) {}
 
 wxColorPopupListener::~wxColorPopupListener() = default;
 
-wxBEGIN_EVENT_TABLE(wxColourPopup, wxWindow) EVT_PAINT(wxColourPopup::OnPaint) EVT_MOTION(wxColourPopup::OnMouseMove)
-    EVT_LEFT_UP(wxColourPopup::OnLButtonUp) EVT_KEY_DOWN(wxColourPopup::OnKeyDown) wxEND_EVENT_TABLE()
+wxBEGIN_EVENT_TABLE(wxColourPopup, wxWindow)
+    EVT_PAINT(wxColourPopup::OnPaint)
+    EVT_MOTION(wxColourPopup::OnMouseMove)
+    EVT_LEFT_UP(wxColourPopup::OnLButtonUp)
+    EVT_KEY_DOWN(wxColourPopup::OnKeyDown)
+wxEND_EVENT_TABLE()
 
-        void wxColourPopup::OnPopup()
+void wxColourPopup::OnPopup()
 {
     FindCellFromColour(m_crInitialColour);
     m_nCurrentSel = CELL_NONE;
