@@ -1,0 +1,78 @@
+#ifndef FITTINGS_NUMEDIT_NUMBER_FORMAT_H_
+#define FITTINGS_NUMEDIT_NUMBER_FORMAT_H_
+
+#include <cstdint>
+
+#include <fittings/base/export.h>
+#include <fittings/base/std_str.h>
+
+/// The presets of a CNumberFormat.
+enum EGeneralFormat : int {
+    eLocaleFormat = 0,  ///< plain numbers with the separators of the process's locale
+    eFixedFormat = 1    ///< amounts like 1,234.50 and 1,234.50-, the same in every locale
+};
+
+/// How a number looks in a text control, and which input the control accepts.
+///
+/// A plain record: choose a preset, change the fields that differ, and hand it to CNumberEditUtils or a copy of it to
+/// a wxNumValidator. Copies are deep.
+///
+/// @code
+/// CNumberFormat weight(eFixedFormat);
+/// weight.m_nDecimals = 3;
+/// weight.m_bHasMin = true;
+/// weight.m_dMin = 0;
+/// weight.m_strTemplate = L"%s kg";
+/// wxString shown = CNumberEditUtils::FormatControlText(L"1234.5", weight);  // "1,234.500 kg"
+/// @endcode
+///
+/// The locale is read once, by the constructor: a format made before the host calls setlocale() keeps the separators
+/// it was made with. Every field takes every value; what unusual ones give stands beside the operation that reads
+/// them. Make and change a format on the GUI thread.
+class FITTINGS_API CNumberFormat
+{
+public:
+    /// Fills every field from @a format. Any value but zero means eFixedFormat.
+    ///
+    /// | Field | eLocaleFormat | eFixedFormat |
+    /// | --- | --- | --- |
+    /// | m_bPadDecimals, m_bGroupDigits, m_bTrailingMinus | false | true |
+    /// | m_chDecimalPoint, m_chThousandsSep | the locale's | `.` and `,` |
+    /// | m_nDecimals, m_nMaxIntDigits | not in force | 2 and 5 |
+    ///
+    /// The others are as they stand below.
+    CNumberFormat(EGeneralFormat format);
+    CNumberFormat(const CNumberFormat& other) = default;
+    CNumberFormat& operator=(const CNumberFormat& other);
+
+    bool m_bPadDecimals = false;      ///< Show m_nDecimals decimals: fill the fraction with zeros.
+    bool m_bRoundDecimals = false;    ///< Show no more than m_nDecimals decimals: round half up, away from zero.
+    bool m_bAllowSign = true;         ///< Accept one leading `+` or `-`.
+    bool m_bGroupDigits = false;      ///< Show m_chThousandsSep between groups of three integer digits.
+    bool m_bTrailingMinus = false;    ///< Show the minus sign behind the number.
+    bool m_bAllowExponent = false;    ///< Accept an exponent, such as the `e-3` of 1.5e-3.
+    wchar_t m_chDecimalPoint = L'.';  ///< 0 where the locale's cannot be converted.
+    wchar_t m_chThousandsSep = L',';  ///< 0 where the locale groups nothing: then leave m_bGroupDigits off.
+
+    /// A printf format with exactly one `%s`, which the shown number takes the place of; a percent sign is `%%`.
+    ///
+    /// Use texts of the program alone, never one that a user can change: like every printf format it could read
+    /// memory that it should not.
+    CStdStr<wchar_t> m_strTemplate = L"%s";
+
+    /// @name Limits, each in force only while its flag is set
+    /// A limit that is not in force is never read.
+    /// @{
+    /// Where false, no decimals are accepted, and those of a shown number are left as they are.
+    bool m_bHasDecimals = false;
+    std::uint64_t m_nDecimals = 0;  ///< most decimals
+    bool m_bHasMaxIntDigits = false;
+    std::uint64_t m_nMaxIntDigits = 0;  ///< most digits before the decimal point; the sign does not count
+    bool m_bHasMin = false;
+    double m_dMin = 0;  ///< lowest accepted value; NaN accepts every value
+    bool m_bHasMax = false;
+    double m_dMax = 0;  ///< highest accepted value; NaN accepts every value
+    /// @}
+};
+
+#endif

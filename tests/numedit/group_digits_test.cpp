@@ -1,0 +1,109 @@
+#include <fittings/numedit/number_edit_utils.h>
+
+#include <string>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+std::wstring Group(const std::wstring& text, wchar_t separator = L',', wchar_t point = L'.')
+{
+    CNumberFormat format(eFixedFormat);
+    format.m_chThousandsSep = separator;
+    format.m_chDecimalPoint = point;
+    wxString result(text);
+    CNumberEditUtils::GroupDigits(result, format);
+    return result.ToStdWstring();
+}
+
+struct Case
+{
+    const char* name;
+    const wchar_t* text;
+    const wchar_t* expected;
+};
+
+class GroupDigits : public testing::TestWithParam<Case>
+{
+};
+
+TEST_P(GroupDigits, Gives)
+{
+    EXPECT_EQ(Group(GetParam().text), GetParam().expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , GroupDigits,
+    testing::Values(Case{"Nothing", L"", L""}, Case{"OneDigit", L"1", L"1"}, Case{"TwoDigits", L"12", L"12"},
+                    Case{"ThreeDigits", L"123", L"123"}, Case{"FourDigits", L"1234", L"1,234"},
+                    Case{"FiveDigits", L"12345", L"12,345"}, Case{"SixDigits", L"123456", L"123,456"},
+                    Case{"SevenDigits", L"1234567", L"1,234,567"}, Case{"TenDigits", L"1234567890", L"1,234,567,890"},
+                    Case{"Fraction", L"1234567.891", L"1,234,567.891"},
+                    Case{"LongFraction", L"1234.5678901", L"1,234.5678901"}, Case{"LonePoint", L".", L"."},
+                    Case{"NoInteger", L".5", L".5"}, Case{"NoIntegerLongFraction", L".123456", L".123456"},
+                    Case{"PointBehind", L"1234.", L"1,234."}, Case{"PointBehindThree", L"123.", L"123."},
+                    Case{"TwoPoints", L"1234.5678.9012", L"1,234.5678.9012"}, Case{"Sign", L"-123", L"-,123"},
+                    Case{"ShortSign", L"-12", L"-12"}, Case{"Exponent", L"1234e5", L"123,4e5"},
+                    Case{"ExponentBehindFraction", L"1234.5e678", L"1,234.5e678"},
+                    Case{"Separators", L"1,234", L"1,,234"}, Case{"Letters", L"abcdef", L"abc,def"},
+                    Case{"Blanks", L"    ", L" ,   "}),
+    [](const auto& info) { return info.param.name; });
+
+TEST(GroupDigitsSeparator, IsTheFormats)
+{
+    EXPECT_EQ(Group(L"1234567,8901", L'.', L','), L"1.234.567,8901");
+    EXPECT_EQ(Group(L"1234.56", L' ', L','), L"1 234 .56");
+    EXPECT_EQ(Group(L"1234567", L'\x202f'), L"1\x202f"
+                                            L"234\x202f"
+                                            L"567");
+    EXPECT_EQ(Group(L"1234\x66b"
+                    L"5",
+                    L'\x66c', L'\x66b'),
+              L"1\x66c"
+              L"234\x66b"
+              L"5");
+    EXPECT_EQ(Group(L"1234567", L'0'), L"102340567");
+    EXPECT_EQ(Group(L"1234.5", L'.'), L"1.234.5");
+}
+
+// The default locale has no separator. Its texts end where one would stand.
+TEST(GroupDigitsSeparator, EndsTheTextWhereItIsZero)
+{
+    EXPECT_EQ(Group(L"1234", L'\0'), L"1");
+    EXPECT_EQ(Group(L"123456.78", L'\0'), L"123");
+    EXPECT_EQ(Group(L"12345", L'\0').size(), 2u);
+    EXPECT_EQ(Group(L"123.4567", L'\0'), L"123.4567");
+    EXPECT_EQ(Group(L"", L'\0'), L"");
+}
+
+TEST(GroupDigitsText, EndsAtItsFirstZeroCharacter)
+{
+    EXPECT_EQ(Group(std::wstring(L"1\0"
+                                 L"2345",
+                                 6)),
+              L"1");
+    EXPECT_EQ(Group(std::wstring(L"1234\0"
+                                 L"5",
+                                 6)),
+              L"123,4");
+    EXPECT_EQ(Group(std::wstring(L"1234.5\0"
+                                 L"6",
+                                 8)),
+              L"1,234.5");
+    EXPECT_EQ(Group(std::wstring(L"1234\0"
+                                 L"5",
+                                 6),
+                    L',', L'\0'),
+              L"1,234");
+    EXPECT_EQ(Group(L"1234.5", L',', L'\0'), L"123,4.5");
+}
+
+TEST(GroupDigitsPoint, MayBeAnyCharacter)
+{
+    EXPECT_EQ(Group(L"1234567", L',', L'5'), L"1,234567");
+    EXPECT_EQ(Group(L"12340000", L',', L'0'), L"1,2340000");
+    EXPECT_EQ(Group(L"1234e5678", L',', L'e'), L"1,234e5678");
+    EXPECT_EQ(Group(L"1234.5", L',', L','), L"123,4.5");
+}
+
+}  // namespace

@@ -1,0 +1,198 @@
+#include <fittings/numedit/number_format.h>
+
+#include <type_traits>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+void ExpectFixed(const CNumberFormat& format)
+{
+    EXPECT_TRUE(format.m_bPadDecimals);
+    EXPECT_FALSE(format.m_bRoundDecimals);
+    EXPECT_TRUE(format.m_bAllowSign);
+    EXPECT_TRUE(format.m_bGroupDigits);
+    EXPECT_TRUE(format.m_bTrailingMinus);
+    EXPECT_FALSE(format.m_bAllowExponent);
+    EXPECT_EQ(format.m_chDecimalPoint, L'.');
+    EXPECT_EQ(format.m_chThousandsSep, L',');
+    EXPECT_EQ(format.m_strTemplate, L"%s");
+    EXPECT_TRUE(format.m_bHasDecimals);
+    EXPECT_EQ(format.m_nDecimals, 2u);
+    EXPECT_TRUE(format.m_bHasMaxIntDigits);
+    EXPECT_EQ(format.m_nMaxIntDigits, 5u);
+    EXPECT_FALSE(format.m_bHasMin);
+    EXPECT_EQ(format.m_dMin, 0);
+    EXPECT_FALSE(format.m_bHasMax);
+    EXPECT_EQ(format.m_dMax, 0);
+}
+
+void ExpectPosixLocale(const CNumberFormat& format)
+{
+    EXPECT_FALSE(format.m_bPadDecimals);
+    EXPECT_FALSE(format.m_bRoundDecimals);
+    EXPECT_TRUE(format.m_bAllowSign);
+    EXPECT_FALSE(format.m_bGroupDigits);
+    EXPECT_FALSE(format.m_bTrailingMinus);
+    EXPECT_FALSE(format.m_bAllowExponent);
+    EXPECT_EQ(format.m_chDecimalPoint, L'.');
+    EXPECT_EQ(format.m_chThousandsSep, L'\0');
+    EXPECT_EQ(format.m_strTemplate, L"%s");
+    EXPECT_FALSE(format.m_bHasDecimals);
+    EXPECT_EQ(format.m_nDecimals, 0u);
+    EXPECT_FALSE(format.m_bHasMaxIntDigits);
+    EXPECT_EQ(format.m_nMaxIntDigits, 0u);
+    EXPECT_FALSE(format.m_bHasMin);
+    EXPECT_EQ(format.m_dMin, 0);
+    EXPECT_FALSE(format.m_bHasMax);
+    EXPECT_EQ(format.m_dMax, 0);
+}
+
+/// The locale's preset with every field unlike either preset's.
+CNumberFormat Unusual()
+{
+    CNumberFormat format(eLocaleFormat);
+    format.m_bPadDecimals = true;
+    format.m_bRoundDecimals = true;
+    format.m_bAllowSign = false;
+    format.m_bGroupDigits = true;
+    format.m_bTrailingMinus = true;
+    format.m_bAllowExponent = true;
+    format.m_chDecimalPoint = L'\x66b';
+    format.m_chThousandsSep = L'\'';
+    format.m_strTemplate = L"%s \x20ac";
+    format.m_bHasDecimals = true;
+    format.m_nDecimals = UINT64_MAX;
+    format.m_bHasMaxIntDigits = true;
+    format.m_nMaxIntDigits = 9;
+    format.m_bHasMin = true;
+    format.m_dMin = -1.5;
+    format.m_bHasMax = true;
+    format.m_dMax = 2.5;
+    return format;
+}
+
+void ExpectUnusual(const CNumberFormat& format)
+{
+    EXPECT_TRUE(format.m_bPadDecimals);
+    EXPECT_TRUE(format.m_bRoundDecimals);
+    EXPECT_FALSE(format.m_bAllowSign);
+    EXPECT_TRUE(format.m_bGroupDigits);
+    EXPECT_TRUE(format.m_bTrailingMinus);
+    EXPECT_TRUE(format.m_bAllowExponent);
+    EXPECT_EQ(format.m_chDecimalPoint, L'\x66b');
+    EXPECT_EQ(format.m_chThousandsSep, L'\'');
+    EXPECT_EQ(format.m_strTemplate, L"%s \x20ac");
+    EXPECT_TRUE(format.m_bHasDecimals);
+    EXPECT_EQ(format.m_nDecimals, UINT64_MAX);
+    EXPECT_TRUE(format.m_bHasMaxIntDigits);
+    EXPECT_EQ(format.m_nMaxIntDigits, 9u);
+    EXPECT_TRUE(format.m_bHasMin);
+    EXPECT_EQ(format.m_dMin, -1.5);
+    EXPECT_TRUE(format.m_bHasMax);
+    EXPECT_EQ(format.m_dMax, 2.5);
+}
+
+TEST(NumberFormat, NamesItsPresets)
+{
+    EXPECT_EQ(static_cast<int>(eLocaleFormat), 0);
+    EXPECT_EQ(static_cast<int>(eFixedFormat), 1);
+}
+
+TEST(NumberFormat, HasFieldsOfTheTypesThatHostsAssign)
+{
+    static_assert(std::is_same_v<decltype(CNumberFormat::m_chDecimalPoint), wchar_t>);
+    static_assert(std::is_same_v<decltype(CNumberFormat::m_chThousandsSep), wchar_t>);
+    static_assert(std::is_same_v<decltype(CNumberFormat::m_strTemplate), CStdStr<wchar_t>>);
+    static_assert(std::is_same_v<decltype(CNumberFormat::m_nDecimals), std::uint64_t>);
+    static_assert(std::is_same_v<decltype(CNumberFormat::m_nMaxIntDigits), std::uint64_t>);
+    static_assert(std::is_same_v<decltype(CNumberFormat::m_dMin), double>);
+    static_assert(std::is_same_v<decltype(CNumberFormat::m_dMax), double>);
+    static_assert(std::is_same_v<decltype(std::declval<CNumberFormat&>() = std::declval<const CNumberFormat&>()),
+                                 CNumberFormat&>);
+}
+
+TEST(NumberFormat, FillsEveryFieldOfTheFixedPreset)
+{
+    ExpectFixed(CNumberFormat(eFixedFormat));
+}
+
+TEST(NumberFormat, TakesEveryOtherNumberForTheFixedPreset)
+{
+    ExpectFixed(CNumberFormat(static_cast<EGeneralFormat>(7)));
+    ExpectFixed(CNumberFormat(static_cast<EGeneralFormat>(2)));
+    ExpectFixed(CNumberFormat(static_cast<EGeneralFormat>(-1)));
+}
+
+TEST(NumberFormat, FillsEveryFieldOfTheLocalePreset)
+{
+    ExpectPosixLocale(CNumberFormat(eLocaleFormat));
+}
+
+TEST(NumberFormat, CopiesEveryField)
+{
+    CNumberFormat original = Unusual();
+    const CNumberFormat copy(original);
+    original = CNumberFormat(eFixedFormat);
+    ExpectUnusual(copy);
+}
+
+TEST(NumberFormat, AssignsEveryField)
+{
+    CNumberFormat fixed(eFixedFormat);
+    CNumberFormat locale(eLocaleFormat);
+    const CNumberFormat unusual = Unusual();
+    EXPECT_EQ(&(fixed = unusual), &fixed);
+    ExpectUnusual(fixed);
+    fixed = locale;
+    ExpectPosixLocale(fixed);
+    locale = CNumberFormat(eFixedFormat);
+    ExpectFixed(locale);
+}
+
+TEST(NumberFormat, StaysAsItIsWhenAssignedToItself)
+{
+    CNumberFormat format = Unusual();
+    const CNumberFormat& same = format;
+    format = same;
+    ExpectUnusual(format);
+
+    format.m_strTemplate = std::wstring(1000, L'x') + L"%s";
+    format = same;
+    EXPECT_EQ(format.m_strTemplate, std::wstring(1000, L'x') + L"%s");
+}
+
+TEST(NumberFormat, OwnsItsTemplate)
+{
+    CNumberFormat original = Unusual();
+    const CNumberFormat copy(original);
+    CNumberFormat assigned(eFixedFormat);
+    assigned = original;
+    original.m_strTemplate[0] = L'$';
+    original.m_strTemplate = L"%s litres or more, as long as no small buffer";
+    EXPECT_EQ(copy.m_strTemplate, L"%s \x20ac");
+    EXPECT_EQ(assigned.m_strTemplate, L"%s \x20ac");
+}
+
+TEST(NumberFormat, AssignsTheTemplateUpToItsFirstZeroCharacter)
+{
+    CNumberFormat original(eFixedFormat);
+    original.m_strTemplate = std::wstring(L"%s\0kg", 5);
+    CNumberFormat assigned(eFixedFormat);
+    assigned.m_strTemplate = L"%s pounds";
+    assigned = original;
+    EXPECT_EQ(assigned.m_strTemplate, L"%s");
+    EXPECT_EQ(CNumberFormat(original).m_strTemplate, std::wstring(L"%s\0kg", 5));
+}
+
+TEST(NumberFormat, TakesANullTemplateForTheEmptyOne)
+{
+    CNumberFormat format(eFixedFormat);
+    format.m_strTemplate = static_cast<const wchar_t*>(nullptr);
+    EXPECT_EQ(format.m_strTemplate, L"");
+    CNumberFormat assigned(eFixedFormat);
+    assigned = format;
+    EXPECT_EQ(assigned.m_strTemplate, L"");
+}
+
+}  // namespace

@@ -1,0 +1,336 @@
+#include <fittings/numedit/number_edit_utils.h>
+
+#include <cmath>
+#include <limits>
+#include <string>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+const double kNaN = std::nan("");
+
+bool Valid(const wchar_t* text, const CNumberFormat& format)
+{
+    return CNumberEditUtils::ValidateString(text, format);
+}
+
+CNumberFormat Locale()
+{
+    return CNumberFormat(eLocaleFormat);
+}
+
+CNumberFormat WithDecimals(std::uint64_t decimals)
+{
+    CNumberFormat format(eLocaleFormat);
+    format.m_bHasDecimals = true;
+    format.m_nDecimals = decimals;
+    return format;
+}
+
+CNumberFormat WithExponent(std::uint64_t decimals)
+{
+    CNumberFormat format = WithDecimals(decimals);
+    format.m_bAllowExponent = true;
+    return format;
+}
+
+CNumberFormat WithMin(double min)
+{
+    CNumberFormat format = WithDecimals(2);
+    format.m_bHasMin = true;
+    format.m_dMin = min;
+    return format;
+}
+
+CNumberFormat WithMax(double max)
+{
+    CNumberFormat format = WithDecimals(2);
+    format.m_bHasMax = true;
+    format.m_dMax = max;
+    return format;
+}
+
+TEST(ValidateString, FollowsTheFixedPreset)
+{
+    const CNumberFormat format(eFixedFormat);
+    for (const wchar_t* text : {L"12345.67", L"12345", L"0", L"00000", L"1.2", L"1.23", L"-1.5", L"+.5", L"-12345.67"})
+        EXPECT_TRUE(Valid(text, format)) << text;
+    for (const wchar_t* text :
+         {L"123456", L"000001", L"-123456", L"1.234", L"1.000", L"1,234.00", L"1,5",  L"1.00-", L"1-",
+          L"1e5",    L"1E5",    L"x",       L"1x",    L"1.5x",  L"1.2.3",    L"1..",  L"--1",   L"+-1",
+          L"1+",     L" 1",     L"1 ",      L" ",     L"- 1",   L"%",        L"0x1F", L"inf",   L"nan"})
+        EXPECT_FALSE(Valid(text, format)) << text;
+}
+
+TEST(ValidateString, AcceptsWhateverBeginsANumber)
+{
+    const CNumberFormat format(eFixedFormat);
+    for (const wchar_t* text : {L"", L"-", L"+", L".", L"-.", L"+.", L"1.", L"-1."})
+        EXPECT_TRUE(Valid(text, format)) << text;
+}
+
+TEST(ValidateString, TakesANullTextForTheEmptyOne)
+{
+    EXPECT_TRUE(Valid(nullptr, CNumberFormat(eFixedFormat)));
+    EXPECT_FALSE(Valid(nullptr, WithMin(1)));
+}
+
+TEST(ValidateString, RefusesASignThatIsNotAllowed)
+{
+    CNumberFormat format(eFixedFormat);
+    format.m_bAllowSign = false;
+    for (const wchar_t* text : {L"-1", L"+1", L"-", L"+", L"-.5"})
+        EXPECT_FALSE(Valid(text, format)) << text;
+    EXPECT_TRUE(Valid(L"1", format));
+    EXPECT_TRUE(Valid(L"", format));
+}
+
+TEST(ValidateString, CountsIntegerDigitsWithoutTheSign)
+{
+    CNumberFormat format = Locale();
+    format.m_bHasMaxIntDigits = true;
+    format.m_nMaxIntDigits = 3;
+    EXPECT_TRUE(Valid(L"123", format));
+    EXPECT_TRUE(Valid(L"-123", format));
+    EXPECT_FALSE(Valid(L"1234", format));
+    EXPECT_FALSE(Valid(L"+1234", format));
+
+    format.m_nMaxIntDigits = 0;
+    EXPECT_TRUE(Valid(L"", format));
+    EXPECT_TRUE(Valid(L"-", format));
+    EXPECT_FALSE(Valid(L"1", format));
+
+    format.m_nMaxIntDigits = UINT64_MAX;
+    EXPECT_TRUE(Valid(L"123456789012345678901234567890", format));
+}
+
+TEST(ValidateString, RefusesTooManyIntegerDigitsBeforeAFractionToo)
+{
+    CNumberFormat format(eFixedFormat);
+    EXPECT_FALSE(Valid(L"123456.7", format));
+    format.m_nMaxIntDigits = 0;
+    EXPECT_TRUE(Valid(L".7", format));
+    EXPECT_FALSE(Valid(L"0.7", format));
+}
+
+TEST(ValidateString, IgnoresLimitsThatAreNotInForce)
+{
+    CNumberFormat format = WithDecimals(2);
+    format.m_nMaxIntDigits = 1;
+    format.m_dMin = 100;
+    format.m_dMax = -100;
+    EXPECT_TRUE(Valid(L"123456789", format));
+    format.m_bHasDecimals = false;
+    EXPECT_FALSE(Valid(L"1.5", format));
+}
+
+TEST(ValidateString, AcceptsAPointOnlyWhereDecimalsAreInForce)
+{
+    for (const wchar_t* text : {L"1.5", L".", L"1.", L".5", L"-."}) {
+        EXPECT_FALSE(Valid(text, Locale())) << text;
+        EXPECT_FALSE(Valid(text, WithDecimals(0))) << text;
+        EXPECT_TRUE(Valid(text, WithDecimals(1))) << text;
+    }
+    EXPECT_TRUE(Valid(L"123456789", Locale()));
+    EXPECT_TRUE(Valid(L"123456789", WithDecimals(0)));
+}
+
+TEST(ValidateString, CountsDecimals)
+{
+    EXPECT_TRUE(Valid(L"1.2", WithDecimals(1)));
+    EXPECT_FALSE(Valid(L"1.23", WithDecimals(1)));
+    EXPECT_TRUE(Valid(L".123", WithDecimals(3)));
+    EXPECT_FALSE(Valid(L".1234", WithDecimals(3)));
+    EXPECT_TRUE(Valid(L".12345678901234567890123456789012345678901234567890", WithDecimals(UINT64_MAX)));
+}
+
+TEST(ValidateString, AcceptsExponentsWhereAllowed)
+{
+    const CNumberFormat format = WithExponent(2);
+    for (const wchar_t* text : {L"1e5",        L"1E5",   L"1e",    L"1E",    L"1e-",
+                                L"1e+",        L"1E+10", L"1e-10", L"1.5e3", L"1.e3",
+                                L"-1.25E-300", L".5e1",  L".e5",   L"-.e5",  L"1e0001234567890123456789",
+                                L"1-5",        L"12+5",  L"12-5",  L"1-",    L"1+",
+                                L"1.5-",       L"1.25+7"})
+        EXPECT_TRUE(Valid(text, format)) << text;
+    for (const wchar_t* text : {L"e5", L"E", L"-e5", L"+e5", L"--5", L"1x", L"1e5x", L"1ee5", L"1eE", L"1e--5", L"1e5-",
+                                L"1e5.", L"1e.5", L"1-e5", L"1--", L"1.255e5", L"1 e5", L"1e 5", L"1.2.3e4"})
+        EXPECT_FALSE(Valid(text, format)) << text;
+}
+
+TEST(ValidateString, AcceptsExponentsWithoutDecimals)
+{
+    EXPECT_TRUE(Valid(L"15e3", WithExponent(0)));
+    EXPECT_TRUE(Valid(L"15-3", WithExponent(0)));
+    EXPECT_FALSE(Valid(L"1.5e3", WithExponent(0)));
+    EXPECT_FALSE(Valid(L"1.e3", WithExponent(0)));
+}
+
+TEST(ValidateString, RefusesExponentsElsewhere)
+{
+    for (const wchar_t* text : {L"1e5", L"1e", L"1-5", L"1-", L"1.5e", L"e"})
+        EXPECT_FALSE(Valid(text, WithDecimals(2))) << text;
+}
+
+TEST(ValidateString, CountsNoExponentDigitAmongTheOthers)
+{
+    CNumberFormat format = WithExponent(1);
+    format.m_bHasMaxIntDigits = true;
+    format.m_nMaxIntDigits = 1;
+    EXPECT_TRUE(Valid(L"1e12345", format));
+    EXPECT_TRUE(Valid(L"1.5e12345", format));
+    EXPECT_FALSE(Valid(L"12e1", format));
+}
+
+TEST(ValidateString, ChecksTheLowestValue)
+{
+    EXPECT_TRUE(Valid(L"1", WithMin(1)));
+    EXPECT_TRUE(Valid(L"1.01", WithMin(1)));
+    EXPECT_FALSE(Valid(L"0.99", WithMin(1)));
+    EXPECT_FALSE(Valid(L"0.5", WithMin(1)));
+    EXPECT_FALSE(Valid(L"-5", WithMin(1)));
+    EXPECT_TRUE(Valid(L"-5", WithMin(-5)));
+    EXPECT_FALSE(Valid(L"-5.01", WithMin(-5)));
+}
+
+TEST(ValidateString, ChecksTheHighestValue)
+{
+    EXPECT_TRUE(Valid(L"10", WithMax(10)));
+    EXPECT_TRUE(Valid(L"-99", WithMax(10)));
+    EXPECT_FALSE(Valid(L"10.01", WithMax(10)));
+    EXPECT_FALSE(Valid(L"11", WithMax(10)));
+    EXPECT_FALSE(Valid(L"-1", WithMax(-1.5)));
+}
+
+TEST(ValidateString, ReadsATextThatIsNoNumberYetAsZero)
+{
+    for (const wchar_t* text : {L"", L"-", L"+", L"."}) {
+        EXPECT_FALSE(Valid(text, WithMin(1))) << text;
+        EXPECT_TRUE(Valid(text, WithMin(0))) << text;
+        EXPECT_FALSE(Valid(text, WithMax(-1))) << text;
+        EXPECT_TRUE(Valid(text, WithMax(0))) << text;
+    }
+}
+
+TEST(ValidateString, ChecksBoundsOfTheExponentToo)
+{
+    CNumberFormat format = WithMax(1000);
+    format.m_bAllowExponent = true;
+    EXPECT_TRUE(Valid(L"1e3", format));
+    EXPECT_FALSE(Valid(L"1e4", format));
+    EXPECT_TRUE(Valid(L"1e-4", format));
+    // Without its letter an exponent is accepted, and not read as one.
+    EXPECT_TRUE(Valid(L"1+4", format));
+    EXPECT_FALSE(Valid(L"1e999999999999", format));
+}
+
+TEST(ValidateString, ChecksTheGrammarWithinTheBoundsToo)
+{
+    EXPECT_FALSE(Valid(L"5x", WithMin(1)));
+    EXPECT_FALSE(Valid(L" 5", WithMin(1)));
+    EXPECT_FALSE(Valid(L"5.123", WithMax(10)));
+    EXPECT_FALSE(Valid(L"0x7", WithMin(1)));
+    EXPECT_FALSE(Valid(L"nan", WithMin(1)));
+    EXPECT_FALSE(Valid(L"inf", WithMin(1)));
+}
+
+TEST(ValidateString, RefusesEverythingWhereTheLowestValueIsAboveTheHighest)
+{
+    CNumberFormat format = WithMin(10);
+    format.m_bHasMax = true;
+    format.m_dMax = 5;
+    for (const wchar_t* text : {L"", L"0", L"5", L"7", L"10", L"-"})
+        EXPECT_FALSE(Valid(text, format)) << text;
+}
+
+TEST(ValidateString, TakesUnusualBounds)
+{
+    EXPECT_TRUE(Valid(L"5", WithMin(kNaN)));
+    EXPECT_TRUE(Valid(L"-5", WithMax(kNaN)));
+    EXPECT_TRUE(Valid(L"-5", WithMin(-kInfinity)));
+    EXPECT_TRUE(Valid(L"5", WithMax(kInfinity)));
+    EXPECT_FALSE(Valid(L"5", WithMin(kInfinity)));
+    EXPECT_FALSE(Valid(L"5", WithMax(-kInfinity)));
+    EXPECT_TRUE(Valid((L"1" + std::wstring(400, L'0')).c_str(), WithMin(kInfinity)));
+    EXPECT_FALSE(Valid((L"1" + std::wstring(400, L'0')).c_str(), WithMax(std::numeric_limits<double>::max())));
+    EXPECT_TRUE(Valid(L"-0", WithMin(0)));
+    EXPECT_TRUE(Valid(L"0", WithMax(-0.0)));
+}
+
+TEST(ValidateString, ReadsTheFormatsPointAsTheLocales)
+{
+    CNumberFormat format = WithDecimals(2);
+    format.m_chDecimalPoint = L',';
+    EXPECT_TRUE(Valid(L"1,5", format));
+    EXPECT_TRUE(Valid(L"1.5", format));
+    EXPECT_FALSE(Valid(L"1,5.5", format));
+    EXPECT_FALSE(Valid(L"1.5,5", format));
+    EXPECT_FALSE(Valid(L"1,555", format));
+    EXPECT_FALSE(Valid(L"1,5,5", format));
+
+    format.m_bHasMin = true;
+    format.m_dMin = 1.5;
+    format.m_bHasMax = true;
+    format.m_dMax = 1.75;
+    EXPECT_TRUE(Valid(L"1,5", format));
+    EXPECT_TRUE(Valid(L"1,75", format));
+    EXPECT_FALSE(Valid(L"1,49", format));
+    EXPECT_FALSE(Valid(L"1,76", format));
+
+    format.m_chDecimalPoint = L'\x66b';
+    EXPECT_TRUE(Valid(L"1\x66b"
+                      L"5",
+                      format));
+    EXPECT_FALSE(Valid(L"1\x66b"
+                       L"49",
+                       format));
+    EXPECT_FALSE(Valid(L"1,5", format));
+}
+
+TEST(ValidateString, TakesAnyCharacterForThePoint)
+{
+    CNumberFormat format = WithExponent(2);
+    format.m_chDecimalPoint = L'5';
+    EXPECT_TRUE(Valid(L"152", format));
+    EXPECT_FALSE(Valid(L"1552", format));
+    EXPECT_FALSE(Valid(L"15234", format));
+    format.m_chDecimalPoint = L'e';
+    EXPECT_TRUE(Valid(L"1e23", format));
+    EXPECT_FALSE(Valid(L"1e234", format));
+    EXPECT_TRUE(Valid(L"1e23E4", format));
+    format.m_chDecimalPoint = L'-';
+    EXPECT_TRUE(Valid(L"-5", format));
+    EXPECT_FALSE(Valid(L"--5", format));
+    EXPECT_FALSE(Valid(L"-555", format));
+    format.m_chDecimalPoint = L'\0';
+    EXPECT_TRUE(Valid(L"1.5", format));
+    EXPECT_FALSE(Valid(L"1,5", format));
+}
+
+TEST(ValidateString, LooksAtNoFieldOfFormatting)
+{
+    CNumberFormat format = WithDecimals(2);
+    format.m_bPadDecimals = true;
+    format.m_bRoundDecimals = true;
+    format.m_bGroupDigits = true;
+    format.m_bTrailingMinus = true;
+    format.m_chThousandsSep = L'1';
+    format.m_strTemplate = L"";
+    EXPECT_TRUE(Valid(L"1", format));
+    EXPECT_FALSE(Valid(L"1.555", format));
+    EXPECT_FALSE(Valid(L"1-", format));
+}
+
+TEST(ValidateString, TakesAsciiDigitsAlone)
+{
+    EXPECT_FALSE(Valid(L"\x665", Locale()));
+    EXPECT_FALSE(Valid(L"\xff15", Locale()));
+    EXPECT_FALSE(Valid(L"1\x665", WithExponent(2)));
+    EXPECT_FALSE(Valid(L"\xb2", Locale()));
+    EXPECT_FALSE(Valid(L"/", Locale()));
+    EXPECT_FALSE(Valid(L":", Locale()));
+}
+
+}  // namespace
