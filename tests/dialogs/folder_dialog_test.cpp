@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-#include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <wx/dirdlg.h>
 #include <wx/frame.h>
@@ -14,6 +13,7 @@
 #include <wx/translation.h>
 
 #include <fittings/platform/local_reg_store.h>
+#include <tests/dialogs/centring.h>
 #include <tests/support/temp_folder.h>
 
 namespace {
@@ -30,7 +30,6 @@ struct Made
 };
 
 std::vector<Made> g_made;
-std::vector<int> g_centred;
 
 // Gives every folder dialog an answer in place of the user.
 class Answer : public wxModalDialogHook
@@ -39,7 +38,7 @@ public:
     Answer(int result, const wxString& folder) : m_result(result), m_folder(folder)
     {
         g_made.clear();
-        g_centred.clear();
+        CentredDialogs().clear();
         Register();
     }
 
@@ -51,7 +50,7 @@ protected:
     int Enter(wxDialog* dialog) override
     {
         ++m_shown;
-        m_centredBefore = g_centred.size();
+        m_centredBefore = CentredDialogs().size();
         struct Folder : wxDirDialog
         {
             static wxString wxDirDialog::*Path() { return &Folder::m_path; }
@@ -138,7 +137,7 @@ TEST(FolderDialog, IsCentredBothWaysBeforeItIsShown)
 {
     const Answer cancel(wxID_CANCEL, "");
     wxFolderDlg::DoModal(nullptr, nullptr, nullptr);
-    EXPECT_EQ(g_centred, std::vector<int>{wxBOTH});
+    EXPECT_EQ(CentredDialogs(), std::vector<int>{wxBOTH});
     EXPECT_EQ(cancel.CentredBefore(), 1u);
 }
 
@@ -272,7 +271,7 @@ TEST_F(RememberedFolder, ComesWithTheSameDialog)
     EXPECT_EQ(g_made[2].message, "Import from");
     EXPECT_EQ(g_made[2].parent, frame);
     EXPECT_EQ(g_made[2].style, 0x20001840);
-    EXPECT_EQ(g_centred, (std::vector<int>{wxBOTH, wxBOTH, wxBOTH}));
+    EXPECT_EQ(CentredDialogs(), (std::vector<int>{wxBOTH, wxBOTH, wxBOTH}));
     frame->Destroy();
 }
 
@@ -284,13 +283,4 @@ wxDirDialog::wxDirDialog(wxWindow* parent, const wxString& message, const wxStri
 {
     g_made.push_back({parent, message, folder, style, position, size, name});
     Create(parent, message, folder, style, position, size, name);
-}
-
-void wxTopLevelWindowBase::DoCentre(int direction)
-{
-    if (dynamic_cast<wxDirDialog*>(this))
-        g_centred.push_back(direction);
-    using Function = void (*)(wxTopLevelWindowBase*, int);
-    static const auto original = reinterpret_cast<Function>(dlsym(RTLD_NEXT, "_ZN20wxTopLevelWindowBase8DoCentreEi"));
-    original(this, direction);
 }

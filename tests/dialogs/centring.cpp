@@ -1,0 +1,21 @@
+#include <tests/dialogs/centring.h>
+
+#include <dlfcn.h>
+#include <wx/dirdlg.h>
+#include <wx/filedlg.h>
+
+std::vector<int>& CentredDialogs()
+{
+    static std::vector<int> directions;
+    return directions;
+}
+
+// In place of the toolkit's, which it calls.
+void wxTopLevelWindowBase::DoCentre(int direction)
+{
+    if (dynamic_cast<wxDirDialog*>(this) || dynamic_cast<wxFileDialog*>(this))
+        CentredDialogs().push_back(direction);
+    using Function = void (*)(wxTopLevelWindowBase*, int);
+    static const auto original = reinterpret_cast<Function>(dlsym(RTLD_NEXT, "_ZN20wxTopLevelWindowBase8DoCentreEi"));
+    original(this, direction);
+}

@@ -1,0 +1,176 @@
+#include <tests/dialogs/driven_dialog.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdlib>
+#include <sstream>
+#include <thread>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+std::string Xdotool(std::vector<std::string> arguments)
+{
+    arguments.insert(arguments.begin(), "xdotool");
+    return RunChild(arguments);
+}
+
+struct Rect
+{
+    int x = 0;
+    int y = 0;
+    int width = 0;
+    int height = 0;
+};
+
+Rect RectOf(const std::string& window)
+{
+    Rect rect;
+    std::istringstream lines(Xdotool({"getwindowgeometry", "--shell", window}));
+    for (std::string line; std::getline(lines, line);) {
+        const std::size_t sign = line.find('=');
+        const std::string name = line.substr(0, sign);
+        const int value = std::stoi(line.substr(sign + 1));
+        if (name == "X")
+            rect.x = value;
+        else if (name == "Y")
+            rect.y = value;
+        else if (name == "WIDTH")
+            rect.width = value;
+        else if (name == "HEIGHT")
+            rect.height = value;
+    }
+    return rect;
+}
+
+DialogState StateFrom(const std::string& text)
+{
+    std::vector<std::string> fields;
+    std::istringstream line(text);
+    for (std::string field; std::getline(line, field, '\t');)
+        fields.push_back(field);
+    fields.resize(9);
+    DialogState state;
+    state.isActive = fields[1] == "active";
+    state.focus = fields[2];
+    state.hasPopup = fields[3] == "popup";
+    state.canAccept = fields[4] == "accept";
+    state.folder = fields[5];
+    state.file = fields[6];
+    state.text = fields[7];
+    state.message = fields[8];
+    return state;
+}
+
+}  // namespace
+
+std::string HomeFolder()
+{
+    const char* const home = std::getenv("HOME");
+    return home ? home : "";
+}
+
+DrivenDialog::DrivenDialog(const std::vector<std::string>& command, const std::string& title,
+                           const std::map<std::string, std::optional<std::string>>& environment)
+    : m_child(command, environment)
+{
+    WaitFor("a dialog", [](const DialogState& state) { return !state.focus.empty(); });
+    if (!m_child.IsRunning())
+        return;
+    m_window = Xdotool({"search", "--sync", "--onlyvisible", "--name", "^" + title + "$"});
+    m_window = m_window.substr(0, m_window.find('\n'));
+    if (!State().message.empty())
+        return;
+    Xdotool({"windowactivate", "--sync", m_window});
+    WaitFor("the input focus", [](const DialogState& state) { return state.isActive || !state.message.empty(); });
+}
+
+void DrivenDialog::Press(const std::string& key)
+{
+    Xdotool({"key", key});
+}
+
+void DrivenDialog::Type(const std::string& text)
+{
+    Press("ctrl+a");
+    Xdotool({"type", "--delay", "10", text});
+}
+
+void DrivenDialog::WaitFor(const std::string& what, const std::function<bool(const DialogState&)>& isThere)
+{
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(15);
+    while (!isThere(State())) {
+        if (!m_child.IsRunning() || std::chrono::steady_clock::now() > deadline) {
+            ADD_FAILURE() << "does not come: " << what << "\n" << m_child.Output();
+            return;
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+}
+
+std::string DrivenDialog::Message()
+{
+    const std::string active = "active ";
+    WaitFor("a message", [&](const DialogState& state) { return state.message.compare(0, 7, active) == 0; });
+    const std::string message = State().message;
+    return message.substr(std::min(message.size(), active.size()));
+}
+
+void DrivenDialog::WaitForNoMessage()
+{
+    WaitFor("the dialog again", [](const DialogState& state) { return state.message.empty() && state.isActive; });
+}
+
+bool DrivenDialog::HadMessage() const
+{
+    const std::vector<std::string> states = Lines("state\t");
+    return std::any_of(states.begin(), states.end(),
+                       [](const std::string& line) { return !StateFrom(line).message.empty(); });
+}
+
+DialogState DrivenDialog::State() const
+{
+    return StateFrom(LastLine("state\t"));
+}
+
+std::string DrivenDialog::Chosen()
+{
+    EXPECT_TRUE(m_child.WaitForEnd(15000)) << "still open\n" << m_child.Output();
+    EXPECT_EQ(m_child.ExitCode(), 0) << m_child.Output();
+    const std::string line = LastLine("chosen ");
+    return line.empty() ? "(no answer)" : line.substr(7);
+}
+
+void DrivenDialog::ExpectCentred() const
+{
+    std::istringstream line(LastLine("frame "));
+    std::string word;
+    Rect parent;
+    line >> word >> parent.x >> parent.y >> parent.width >> parent.height;
+    const Rect window = RectOf(m_window);
+    // Twice the distance of the centres, in whole pixels.
+    const int right = 2 * window.x + window.width - 2 * parent.x - parent.width;
+    const int down = 2 * window.y + window.height - 2 * parent.y - parent.height;
+    EXPECT_NEAR(right, 0, 8);
+    // The title bars take their part of the height, above the one window and within the other's rectangle.
+    EXPECT_NEAR(down, 0, 100);
+}
+
+std::vector<std::string> DrivenDialog::Lines(const std::string& start) const
+{
+    std::vector<std::string> result;
+    std::istringstream lines(m_child.Output());
+    // A line that is still being written has no end yet.
+    for (std::string line; std::getline(lines, line) && !lines.eof();) {
+        if (line.compare(0, start.size(), start) == 0)
+            result.push_back(line);
+    }
+    return result;
+}
+
+std::string DrivenDialog::LastLine(const std::string& start) const
+{
+    const std::vector<std::string> lines = Lines(start);
+    return lines.empty() ? std::string() : lines.back();
+}

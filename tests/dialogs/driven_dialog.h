@@ -1,0 +1,71 @@
+#ifndef FITTINGS_TESTS_DIALOGS_DRIVEN_DIALOG_H_
+#define FITTINGS_TESTS_DIALOGS_DRIVEN_DIALOG_H_
+
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <tests/support/child_process.h>
+
+/// The home folder, which the program shares.
+std::string HomeFolder();
+
+/// What the program with the dialog said last, see StatePrinter.
+struct DialogState
+{
+    bool isActive = false;
+    std::string focus;
+    bool hasPopup = false;
+    bool canAccept = false;
+    std::string folder;
+    std::string file;
+    std::string text;
+    std::string message;
+};
+
+/// A program that shows a file or folder dialog, and the user in front of it. Keys are sent only once the program has
+/// said that it is ready for them: the dialog reads folders in the background, and a Return that comes too early is
+/// lost.
+class DrivenDialog
+{
+public:
+    /// Starts the program and returns when its dialog, found by its title, has the input focus or shows a message.
+    DrivenDialog(const std::vector<std::string>& command, const std::string& title,
+                 const std::map<std::string, std::optional<std::string>>& environment = {});
+
+    static void Press(const std::string& key);
+
+    /// Types into the entry that has the focus, in place of what is in it.
+    static void Type(const std::string& text);
+
+    /// Waits for a state; fails the test when it does not come.
+    void WaitFor(const std::string& what, const std::function<bool(const DialogState&)>& isThere);
+
+    /// Waits for a message and returns its text.
+    std::string Message();
+
+    /// Whether there has been a message at any time.
+    bool HadMessage() const;
+
+    /// Waits until there is no message and the dialog has the input focus again.
+    void WaitForNoMessage();
+
+    DialogState State() const;
+
+    /// What the dialog gave once it has closed.
+    std::string Chosen();
+
+    /// Fails the test unless the dialog stands in the middle of its parent.
+    void ExpectCentred() const;
+
+private:
+    std::vector<std::string> Lines(const std::string& start) const;
+    std::string LastLine(const std::string& start) const;
+
+    ChildProcess m_child;
+    std::string m_window;
+};
+
+#endif

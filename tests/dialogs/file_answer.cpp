@@ -1,0 +1,71 @@
+#include <tests/dialogs/file_answer.h>
+
+#include <gtest/gtest.h>
+#include <wx/filedlg.h>
+
+#include <tests/dialogs/centring.h>
+
+namespace {
+
+// The toolkit keeps some of what a dialog is made with to itself, and GTK's dialog has a mind of its own about paths.
+std::vector<AskedFile> g_made;
+wxString g_path;
+
+}  // namespace
+
+FileAnswer::FileAnswer(int result, const wxString& path) : m_result(result)
+{
+    g_made.clear();
+    g_path = path;
+    CentredDialogs().clear();
+    Register();
+}
+
+FileAnswer::~FileAnswer()
+{
+    g_path.clear();
+}
+
+int FileAnswer::Enter(wxDialog* dialog)
+{
+    ++m_shown;
+    auto* const asked = dynamic_cast<wxFileDialog*>(dialog);
+    if (!asked || g_made.size() != 1) {
+        ADD_FAILURE() << "not one file dialog";
+        return wxID_CANCEL;
+    }
+    m_asked = g_made[0];
+    g_made.clear();
+    if (!m_asked.wildcard.empty())
+        m_asked.filterIndex = asked->GetFilterIndex();
+    m_asked.shownFolder = asked->GetDirectory();
+    m_asked.centred.swap(CentredDialogs());
+    if (whileShown)
+        whileShown();
+    return m_result;
+}
+
+// In place of the toolkit's.
+
+wxFileDialog::wxFileDialog(wxWindow* parent, const wxString& title, const wxString& folder, const wxString& file,
+                           const wxString& wildcard, long style, const wxPoint& position, const wxSize& size,
+                           const wxString& name)
+{
+    AskedFile made;
+    made.parent = parent;
+    made.title = title;
+    made.folder = folder;
+    made.file = file;
+    made.wildcard = wildcard;
+    made.style = style;
+    made.position = position;
+    made.size = size;
+    made.name = name;
+    g_made.push_back(made);
+    Create(parent, title, folder, file, wildcard, style, position, size, name);
+}
+
+wxString wxFileDialog::GetPath() const
+{
+    return g_path;
+}
