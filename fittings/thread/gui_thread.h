@@ -1,0 +1,162 @@
+#ifndef FITTINGS_THREAD_GUI_THREAD_H_
+#define FITTINGS_THREAD_GUI_THREAD_H_
+
+#include <wx/event.h>
+#include <wx/thread.h>
+
+#include <fittings/base/export.h>
+#include <fittings/thread/thread_ex.h>
+
+/// A worker that reports to the GUI by posting command events to one handler, until it is asked to stop.
+///
+/// Entry() works and calls PostEvent(); a false from it means that it was asked to stop and should return.
+///
+/// @code
+/// wxDEFINE_EVENT(EVT_PRIME, wxCommandEvent);
+///
+/// class Primes : public wxGUIThread
+/// {
+/// public:
+///     using wxGUIThread::wxGUIThread;
+///     wxThread::ExitCode Entry() override
+///     {
+///         for (int n = 2; DoContinue(); ++n) {
+///             if (IsPrime(n) && !PostEvent(EVT_PRIME, n))
+///                 break;
+///         }
+///         return nullptr;
+///     }
+/// };
+///
+/// class PrimesFrame : public wxFrame
+/// {
+/// public:
+///     PrimesFrame() : wxFrame(nullptr, wxID_ANY, "Primes"), m_primes(std::make_unique<Primes>(this))
+///     {
+///         Bind(EVT_PRIME, [this](wxCommandEvent& event) { SetTitle(wxString::Format("%d", event.GetInt())); });
+///         m_primes->RunThread();
+///     }
+///     ~PrimesFrame() override
+///     {
+///         m_primes->StartKill();  // 1. ask it to stop
+///         m_primes->Wait();       // 2. wait until it has
+///         m_primes.reset();       // 3. destroy it; only then the handler may go
+///     }
+///
+/// private:
+///     std::unique_ptr<Primes> m_primes;
+/// };
+/// @endcode
+///
+/// That order of shutting down is the owner's to keep: StartKill(), Wait(), destroy. Destroying a worker that still runs
+/// is not allowed. Its destructor neither stops it nor waits in time: the mutexes that PostEvent() uses are gone when the
+/// base class waits.
+///
+/// The handler is not owned and must live until Wait() has returned. Destroying it then is safe with events still
+/// queued: the toolkit drops them. The owner's thread makes, runs, stops, waits for and destroys the object; DoContinue()
+/// and PostEvent() may be called by any thread.
+class FITTINGS_API wxGUIThread : public wxThreadEx
+{
+public:
+    /// Makes a worker that can be waited for.
+    ///
+    /// @param handler receives the events, on the GUI thread. Null: events are dropped, and the worker works on.
+    explicit wxGUIThread(wxEvtHandler* handler);
+
+    /// The worker must have ended, see above.
+    ~wxGUIThread() override;
+
+    /// Creates the thread and runs it; returns the result of Run(). In place of Create() and Run(), not after them.
+    wxThreadError RunThread();
+
+    /// Returns false from StartKill() on.
+    bool DoContinue();
+
+    /// Asks the worker to stop. Returns at once, does not wait, and cannot be taken back.
+    ///
+    /// Events that are queued already still arrive.
+    void StartKill();
+
+    /// @name Posting
+    ///
+    /// The handler gets a copy of the event, on the GUI thread, by the toolkit's pending events. Each overload returns
+    /// true when the worker may go on: the event was queued, or dropped for want of a handler. It returns false when the
+    /// worker was asked to stop; then nothing is queued.
+    ///
+    /// Client data is passed through as it is and never owned. An event that is dropped, or still queued when its handler
+    /// is destroyed, frees nothing.
+    ///
+    /// The compiler cannot choose for PostEvent(type, value, 0): write 0L or nullptr.
+    /// @{
+
+    /// Sets the event's int to @a value and posts a copy. The event stays the caller's; after StartKill() it is left as
+    /// it was.
+    bool PostEvent(wxCommandEvent& event, int value);
+
+    /// Posts a wxCommandEvent of that type and int, with id 0 and, where the overload has them, the extra long or the
+    /// client data; everything else is empty.
+    bool PostEvent(int eventType, int value);
+    bool PostEvent(int eventType, int value, long extra);
+    bool PostEvent(int eventType, int value, void* data);
+
+    /// @}
+
+protected:
+    wxEvtHandler* const m_handler;
+    bool m_continue = true;
+
+    /// Guards m_continue. Recursive: a derived class may hold it over calls of this class that must not be parted by
+    /// StartKill().
+    wxMutex m_continueMutex{wxMUTEX_RECURSIVE};
+
+    /// One event at a time is made and posted. Taken before m_continueMutex, never after it.
+    wxMutex m_postMutex{wxMUTEX_DEFAULT};
+};
+
+/// A wxGUIThread whose events are all of one type, named once.
+///
+/// Its PostEvent() takes the place of the base's, which would otherwise be chosen for PostEvent(value, number):
+/// write wxGUIThread::PostEvent(...) for an event of another type or of one's own making.
+///
+/// @code
+/// class Lines : public wxGUIThreadEx
+/// {
+/// public:
+///     Lines(wxEvtHandler* handler, std::vector<std::string> lines)
+///         : wxGUIThreadEx(handler, EVT_LINE), m_lines(std::move(lines)) {}
+///     wxThread::ExitCode Entry() override
+///     {
+///         int number = 0;
+///         for (std::string& line : m_lines) {
+///             if (!PostEvent(++number, &line))  // GetInt() is the number, GetClientData() the line
+///                 break;
+///         }
+///         return nullptr;
+///     }
+/// };
+/// @endcode
+class FITTINGS_API wxGUIThreadEx : public wxGUIThread
+{
+public:
+    /// @param handler see wxGUIThread.
+    /// @param eventType the type of every event, for example from wxNewEventType().
+    wxGUIThreadEx(wxEvtHandler* handler, int eventType);
+
+    /// The worker must have ended, see wxGUIThread.
+    ~wxGUIThreadEx() override;
+
+    /// @name Posting
+    ///
+    /// As wxGUIThread::PostEvent() of the type named at construction, which says what is returned and who owns the data.
+    /// The compiler cannot choose for PostEvent(value, 0): write 0L or nullptr.
+    /// @{
+    bool PostEvent(int value);
+    bool PostEvent(int value, long extra);
+    bool PostEvent(int value, void* data);
+    /// @}
+
+protected:
+    const int m_eventType;
+};
+
+#endif

@@ -1,0 +1,83 @@
+#include <fittings/thread/thread_ex.h>
+
+#include <cstdint>
+
+namespace {
+
+// The toolkit's exit codes are pointers that need not point. NOLINTNEXTLINE(performance-no-int-to-ptr)
+const auto kNoExitCode = reinterpret_cast<wxThread::ExitCode>(std::intptr_t{-1});
+
+}  // namespace
+
+// The toolkit's thread behind a wxThreadEx. Detached whatever the owner is, so that the toolkit deletes it.
+class wxThreadExImpl : public wxThread
+{
+public:
+    explicit wxThreadExImpl(wxThreadEx* owner) : wxThread(wxTHREAD_DETACHED), m_owner(owner) {}
+
+private:
+    // Tells the owner that Entry() is over, by an exception too: the owner's Wait() must not hang for ever.
+    struct Result
+    {
+        explicit Result(wxThreadEx* threadOwner) : owner(threadOwner) {}
+        ~Result()
+        {
+            // Signalled under the lock: once it is free, the owner may destroy the condition and the mutex.
+            const wxMutexLocker lock(owner->m_mutex);
+            owner->m_exitCode = exitCode;
+            owner->m_finished = true;
+            owner->m_condition.Signal();
+        }
+        Result(const Result&) = delete;
+        Result& operator=(const Result&) = delete;
+
+        wxThreadEx* const owner;
+        ExitCode exitCode = kNoExitCode;
+    };
+
+    ExitCode Entry() override
+    {
+        Result result(m_owner);
+        result.exitCode = m_owner->Entry();
+        return nullptr;
+    }
+
+    wxThreadEx* const m_owner;
+};
+
+wxThreadEx::wxThreadEx(wxThreadKind kind) : m_detached(kind == wxTHREAD_DETACHED), m_impl(new wxThreadExImpl(this)) {}
+
+// The implementation is the toolkit's to delete, at the end of its thread.
+wxThreadEx::~wxThreadEx()
+{
+    if (!m_detached)
+        Wait();
+}
+
+wxThreadError wxThreadEx::Create(unsigned int WXUNUSED(stackSize))
+{
+    // Once it runs, the implementation may be gone. Before, the toolkit would make a second thread for it, which
+    // outlives it.
+    if (m_running || m_impl->GetId() != 0)
+        return wxTHREAD_RUNNING;
+    return m_impl->Create(0);
+}
+
+wxThreadError wxThreadEx::Run()
+{
+    if (m_running)
+        return wxTHREAD_RUNNING;
+    const wxThreadError error = m_impl->Run();
+    m_running = error == wxTHREAD_NO_ERROR;
+    return error;
+}
+
+wxThread::ExitCode wxThreadEx::Wait()
+{
+    if (m_detached || !m_running)
+        return kNoExitCode;
+    const wxMutexLocker lock(m_mutex);
+    if (!m_finished)
+        m_condition.Wait();
+    return m_exitCode;
+}

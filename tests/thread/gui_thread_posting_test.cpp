@@ -1,0 +1,367 @@
+// What the handler receives, and what PostEvent() answers.
+
+#include <fittings/thread/gui_thread.h>
+
+#include <memory>
+#include <type_traits>
+
+#include <gtest/gtest.h>
+
+#include <wx/evtloop.h>
+#include <wx/timer.h>
+
+#include <tests/support/gui.h>
+#include <tests/thread/thread_support.h>
+
+namespace {
+
+using Worker = Working<wxGUIThread>;
+using WorkerEx = Working<wxGUIThreadEx>;
+
+static_assert(std::is_base_of_v<wxThreadEx, wxGUIThread> && std::is_base_of_v<wxGUIThread, wxGUIThreadEx>);
+static_assert(std::is_abstract_v<wxGUIThread> && std::is_abstract_v<wxGUIThreadEx>);
+
+// A literal 0 is as good a long as a null pointer: the caller has to say which.
+template <typename Thread, typename = void>
+struct TakesZero : std::false_type
+{
+};
+template <typename Thread>
+struct TakesZero<Thread, std::void_t<decltype(std::declval<Thread&>().PostEvent(7, 3, 0))>> : std::true_type
+{
+};
+template <typename Thread, typename = void>
+struct TakesZeroEx : std::false_type
+{
+};
+template <typename Thread>
+struct TakesZeroEx<Thread, std::void_t<decltype(std::declval<Thread&>().PostEvent(3, 0))>> : std::true_type
+{
+};
+static_assert(!TakesZero<wxGUIThread>::value);
+static_assert(!TakesZeroEx<wxGUIThreadEx>::value);
+
+// Runs @a post on a worker, and returns its answers and what the handler received.
+template <typename Thread, typename... Arguments>
+void RunAndDeliver(typename Thread::Work work, Arguments... arguments)
+{
+    Thread thread(std::move(work), arguments...);
+    ASSERT_EQ(thread.RunThread(), wxTHREAD_NO_ERROR);
+    thread.Wait();
+    PumpPending();
+}
+
+TEST(PostEvent, DeliversTypeAndInt)
+{
+    Recorder handler;
+    bool answer = false;
+    RunAndDeliver<Worker>(
+        [&](Worker& self) {
+            answer = self.PostEvent(7, 3);
+            return Code(0);
+        },
+        &handler);
+    EXPECT_TRUE(answer);
+    EXPECT_EQ(handler.events, (Events{Plain(7, 3)}));
+    EXPECT_TRUE(handler.allOnGuiThread);
+}
+
+TEST(PostEvent, DeliversTheExtraLong)
+{
+    Recorder handler;
+    bool answer = false;
+    RunAndDeliver<Worker>(
+        [&](Worker& self) {
+            answer = self.PostEvent(7, 3, 99L) && self.PostEvent(7, 3, 0L) && self.PostEvent(7, 3, -1L) &&
+                     self.PostEvent(7, 3, 0x123456789ABCDEF0L) && self.PostEvent(7, 3, 5);
+            return Code(0);
+        },
+        &handler);
+    EXPECT_TRUE(answer);
+    EXPECT_EQ(handler.events, (Events{Plain(7, 3, 99), Plain(7, 3, 0), Plain(7, 3, -1),
+                                      Plain(7, 3, 0x123456789ABCDEF0L), Plain(7, 3, 5)}));
+}
+
+TEST(PostEvent, DeliversTheClientDataAsItIs)
+{
+    Recorder handler;
+    int data = 17;
+    bool answer = false;
+    RunAndDeliver<Worker>(
+        [&](Worker& self) {
+            answer = self.PostEvent(7, 3, &data) && self.PostEvent(7, 4, nullptr);
+            return Code(0);
+        },
+        &handler);
+    EXPECT_TRUE(answer);
+    EXPECT_EQ(handler.events, (Events{Plain(7, 3, 0, &data), Plain(7, 4, 0, nullptr)}));
+    EXPECT_EQ(data, 17);
+}
+
+TEST(PostEvent, DeliversIntsOfAllSizesInOrder)
+{
+    Recorder handler;
+    RunAndDeliver<Worker>(
+        [&](Worker& self) {
+            self.PostEvent(7, 0);
+            self.PostEvent(8, -1);
+            self.PostEvent(9, INT_MAX);
+            self.PostEvent(10, INT_MIN);
+            return Code(0);
+        },
+        &handler);
+    EXPECT_EQ(handler.events, (Events{Plain(7, 0), Plain(8, -1), Plain(9, INT_MAX), Plain(10, INT_MIN)}));
+}
+
+TEST(PostEvent, DeliversACopyOfTheCallersEvent)
+{
+    Recorder handler;
+    wxObject object;
+    int data = 0;
+    wxCommandEvent event(7, 12);
+    event.SetEventObject(&object);
+    event.SetString(L"caf\u00e9");
+    event.SetInt(1);
+    event.SetExtraLong(5);
+    event.SetClientData(&data);
+    bool answer = false;
+    RunAndDeliver<Worker>(
+        [&](Worker& self) {
+            answer = self.PostEvent(event, 3);
+            event.SetString("reused");
+            event.SetExtraLong(6);
+            return Code(0);
+        },
+        &handler);
+    EXPECT_TRUE(answer);
+    EXPECT_EQ(event.GetInt(), 3);
+    EXPECT_EQ(event.GetString(), "reused");
+    EXPECT_EQ(handler.events, (Events{{7, 12, &object, L"caf\u00e9", 3, 5, &data, nullptr}}));
+}
+
+TEST(PostEvent, KeepsTheClassOfTheCallersEvent)
+{
+    struct Handler : wxEvtHandler
+    {
+        bool ProcessEvent(wxEvent& event) override
+        {
+            isThreadEvent = dynamic_cast<wxNotifyEvent*>(&event) != nullptr;
+            return true;
+        }
+        bool isThreadEvent = false;
+    } handler;
+    wxNotifyEvent event(7);
+    RunAndDeliver<Worker>(
+        [&](Worker& self) {
+            self.PostEvent(event, 3);
+            return Code(0);
+        },
+        &handler);
+    EXPECT_TRUE(handler.isThreadEvent);
+}
+
+TEST(PostEvent, ReachesABoundHandler)
+{
+    const wxEventTypeTag<wxCommandEvent> type(wxNewEventType());
+    wxEvtHandler handler;
+    int value = 0;
+    handler.Bind(type, [&](wxCommandEvent& event) { value = event.GetInt(); });
+    RunAndDeliver<Worker>(
+        [&](Worker& self) {
+            self.PostEvent(type, 3);
+            return Code(0);
+        },
+        &handler);
+    EXPECT_EQ(value, 3);
+}
+
+TEST(PostEvent, DoesNotCallTheHandlerOnTheWorker)
+{
+    Recorder handler;
+    Worker thread(
+        [&](Worker& self) {
+            self.PostEvent(7, 3);
+            return Code(0);
+        },
+        &handler);
+    thread.RunThread();
+    thread.Wait();
+    EXPECT_TRUE(handler.events.empty());
+    PumpPending();
+    EXPECT_EQ(handler.events.size(), 1U);
+}
+
+TEST(PostEvent, WakesASleepingEventLoop)
+{
+    struct Handler : wxEvtHandler
+    {
+        bool ProcessEvent(wxEvent& event) override
+        {
+            value = dynamic_cast<wxCommandEvent&>(event).GetInt();
+            loop.Exit();
+            return true;
+        }
+        wxGUIEventLoop loop;
+        int value = 0;
+    } handler;
+    Signal go;
+    const pid_t gui = gettid();
+    Worker thread(
+        [&](Worker& self) {
+            go.Wait();
+            // In the loop's poll, with nothing to do.
+            const bool asleep = Becomes([&] {
+                std::string call;
+                std::getline(std::ifstream(TaskFile(gui, "syscall")), call);
+                const long number = std::strtol(call.c_str(), nullptr, 10);
+                return call[0] != 'r' && (number == SYS_poll || number == SYS_ppoll);
+            });
+            self.PostEvent(7, asleep ? 3 : 4);
+            return Code(0);
+        },
+        &handler);
+    thread.RunThread();
+    wxTimer deadline;
+    deadline.Bind(wxEVT_TIMER, [&](wxTimerEvent&) { handler.loop.Exit(); });
+    deadline.StartOnce(30000);
+    go.Set();
+    handler.loop.Run();
+    thread.Wait();
+    EXPECT_EQ(handler.value, 3);
+}
+
+TEST(PostEventWithoutAHandler, DropsEventsAndGoesOn)
+{
+    wxCommandEvent event(7);
+    int data = 0;
+    int answers = 0;
+    RunAndDeliver<Worker>(
+        [&](Worker& self) {
+            answers = self.PostEvent(7, 3) + self.PostEvent(7, 3, 99L) + self.PostEvent(7, 3, &data) +
+                      self.PostEvent(event, 3);
+            return Code(0);
+        },
+        nullptr);
+    EXPECT_EQ(answers, 4);
+    EXPECT_EQ(event.GetInt(), 3);
+
+    answers = 0;
+    RunAndDeliver<WorkerEx>(
+        [&](WorkerEx& self) {
+            answers = self.PostEvent(3) + self.PostEvent(3, 99L) + self.PostEvent(3, &data);
+            return Code(0);
+        },
+        nullptr, 9);
+    EXPECT_EQ(answers, 3);
+}
+
+TEST(PostEventWithoutAHandler, IsRefusedAfterStartKillToo)
+{
+    Worker thread([](Worker&) { return Code(0); }, nullptr);
+    EXPECT_TRUE(thread.PostEvent(7, 3));
+    thread.StartKill();
+    EXPECT_FALSE(thread.PostEvent(7, 3));
+}
+
+TEST(PostEventOfOneType, DeliversEachPayload)
+{
+    Recorder handler;
+    int data = 0;
+    int answers = 0;
+    RunAndDeliver<WorkerEx>(
+        [&](WorkerEx& self) {
+            answers = self.PostEvent(5) + self.PostEvent(6, 99L) + self.PostEvent(7, &data) +
+                      self.PostEvent(8, nullptr) + self.PostEvent(9, 3);
+            return Code(0);
+        },
+        &handler, 9);
+    EXPECT_EQ(answers, 5);
+    EXPECT_EQ(handler.events,
+              (Events{Plain(9, 5), Plain(9, 6, 99), Plain(9, 7, 0, &data), Plain(9, 8), Plain(9, 9, 3)}));
+    EXPECT_TRUE(handler.allOnGuiThread);
+}
+
+TEST(PostEventOfOneType, LeavesTheOtherTypesReachable)
+{
+    Recorder handler;
+    wxCommandEvent event(11);
+    RunAndDeliver<WorkerEx>(
+        [&](WorkerEx& self) {
+            self.wxGUIThread::PostEvent(10, 1);
+            self.wxGUIThread::PostEvent(event, 2);
+            return Code(0);
+        },
+        &handler, 9);
+    EXPECT_EQ(handler.events, (Events{Plain(10, 1), Plain(11, 2)}));
+}
+
+class AfterStartKill : public testing::Test
+{
+protected:
+    Recorder handler;
+    int data = 0;
+};
+
+TEST_F(AfterStartKill, EveryOverloadIsRefused)
+{
+    int answers = 0;
+    wxCommandEvent event(7);
+    event.SetInt(1);
+    Signal posted;
+    Signal go;
+    Worker thread(
+        [&](Worker& self) {
+            self.PostEvent(7, 1);
+            posted.Set();
+            go.Wait();
+            answers = self.PostEvent(7, 2) + self.PostEvent(7, 3, 99L) + self.PostEvent(7, 4, &data) +
+                      self.PostEvent(event, 5);
+            return Code(0);
+        },
+        &handler);
+    thread.RunThread();
+    ASSERT_TRUE(posted.Wait());
+    thread.StartKill();
+    go.Set();
+    thread.Wait();
+    PumpPending();
+    EXPECT_EQ(answers, 0);
+    EXPECT_EQ(event.GetInt(), 1);
+    EXPECT_EQ(handler.events, (Events{Plain(7, 1)}));
+}
+
+TEST_F(AfterStartKill, EveryOverloadOfOneTypeIsRefused)
+{
+    int answers = 0;
+    WorkerEx thread(
+        [&](WorkerEx& self) {
+            answers = self.PostEvent(2) + self.PostEvent(3, 99L) + self.PostEvent(4, &data);
+            return Code(0);
+        },
+        &handler, 9);
+    thread.StartKill();
+    thread.RunThread();
+    thread.Wait();
+    PumpPending();
+    EXPECT_EQ(answers, 0);
+    EXPECT_TRUE(handler.events.empty());
+}
+
+TEST_F(AfterStartKill, EventsQueuedBeforeStillArrive)
+{
+    Worker thread(
+        [&](Worker& self) {
+            self.PostEvent(7, 1);
+            self.PostEvent(7, 2);
+            return Code(0);
+        },
+        &handler);
+    thread.RunThread();
+    thread.Wait();
+    thread.StartKill();
+    EXPECT_TRUE(handler.events.empty());
+    PumpPending();
+    EXPECT_EQ(handler.events, (Events{Plain(7, 1), Plain(7, 2)}));
+}
+
+}  // namespace

@@ -1,0 +1,58 @@
+// What thread objects do to, and in, a process of their own.
+
+#include <gtest/gtest.h>
+
+#include <tests/support/child_process.h>
+
+namespace {
+
+std::string Probe(const char* question)
+{
+    return RunChild({THREAD_PROBE, question});
+}
+
+// wxTHREAD_NO_RESOURCE is 1. A toolkit thread that could not be created answers wxTHREAD_RUNNING, which is 2, to Run().
+TEST(WithoutRoomForAThread, RunFailsAndThereIsNothingToWaitFor)
+{
+    EXPECT_EQ(Probe("no-room"), "limited 1\n"
+                                "create 1\n"
+                                "run 2\n"
+                                "wait -1\n"
+                                "started 0\n"
+                                "run-thread 2\n"
+                                "wait -1\n"
+                                "run 1\n"
+                                "wait -1\n");
+}
+
+TEST(ObjectsThatNeverRan, LeaveTheToolkitsThreadBehind)
+{
+    const std::string output = Probe("never-run");
+    EXPECT_NE(output.find("ended 1\n"), std::string::npos) << output;
+    EXPECT_NE(output.find("3 threads were not terminated"), std::string::npos) << output;
+}
+
+TEST(ObjectsThatNeverRan, AreDestroyedWithTheirThreadCreatedToo)
+{
+    EXPECT_EQ(Probe("created"), "create 0\nwait -1\nstarted 0\ndestroyed 1\n");
+}
+
+TEST(DetachedObject, IsDestroyedWithoutWaiting)
+{
+    EXPECT_EQ(Probe("destroy-detached"), "started 1\ndestroyed 1\n");
+}
+
+TEST(TwoThreadsThatWait, AreWokenByOneSignalOnly)
+{
+    EXPECT_EQ(Probe("two-waiters"), "both 1\none 1\nended 1\nother 1\nlater 42\n");
+}
+
+TEST(ExceptionThatLeavesEntry, GoesToTheToolkitAndEndsTheWait)
+{
+    const std::string output = Probe("throw");
+    EXPECT_NE(output.find("unhandled of Entry\n"), std::string::npos) << output;
+    EXPECT_NE(output.find("wait -1\n"), std::string::npos) << output;
+    EXPECT_NE(output.find("ended 1\n"), std::string::npos) << output;
+}
+
+}  // namespace

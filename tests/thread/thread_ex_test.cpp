@@ -1,0 +1,266 @@
+#include <fittings/thread/thread_ex.h>
+
+#include <memory>
+#include <type_traits>
+
+#include <pthread.h>
+
+#include <gtest/gtest.h>
+
+#include <tests/thread/thread_support.h>
+
+namespace {
+
+using Thread = Working<wxThreadEx>;
+
+static_assert(std::is_abstract_v<wxThreadEx>);
+static_assert(std::has_virtual_destructor_v<wxThreadEx>);
+static_assert(!std::is_base_of_v<wxThread, wxThreadEx>);
+static_assert(!std::is_copy_constructible_v<Thread> && !std::is_copy_assignable_v<Thread>);
+
+Thread::Work Returning(std::intptr_t number)
+{
+    return [number](Thread&) { return Code(number); };
+}
+
+class ExitCode : public testing::TestWithParam<std::intptr_t>
+{
+};
+
+TEST_P(ExitCode, IsWhatEntryReturned)
+{
+    Thread thread(Returning(GetParam()), wxTHREAD_JOINABLE);
+    EXPECT_EQ(thread.Create(0), wxTHREAD_NO_ERROR);
+    EXPECT_EQ(thread.Run(), wxTHREAD_NO_ERROR);
+    EXPECT_EQ(thread.Wait(), Code(GetParam()));
+}
+
+INSTANTIATE_TEST_SUITE_P(, ExitCode, testing::Values(42, 0, -1, 0x123456789ABCDEF0, INTPTR_MIN));
+
+TEST(Wait, GivesTheSameCodeEachTime)
+{
+    Thread thread(Returning(42), wxTHREAD_JOINABLE);
+    thread.Create(0);
+    thread.Run();
+    EXPECT_EQ(thread.Wait(), Code(42));
+    EXPECT_EQ(thread.Wait(), Code(42));
+    EXPECT_EQ(thread.Wait(), Code(42));
+}
+
+TEST(Wait, GivesTheCodeOfAnEntryThatReturnedLongBefore)
+{
+    Thread thread(Returning(42), wxTHREAD_JOINABLE);
+    thread.Create(0);
+    thread.Run();
+    ASSERT_TRUE(thread.started.Wait());
+    ASSERT_TRUE(HasEnded(thread.thread));
+    EXPECT_EQ(thread.Wait(), Code(42));
+}
+
+TEST(Wait, BlocksUntilEntryHasReturned)
+{
+    Signal go;
+    Thread thread(
+        [&](Thread&) {
+            go.Wait();
+            return Code(42);
+        },
+        wxTHREAD_JOINABLE);
+    thread.Create(0);
+    thread.Run();
+    ASSERT_TRUE(thread.started.Wait());
+    wxThread::ExitCode code = nullptr;
+    Helper waiter([&] { code = thread.Wait(); });
+    EXPECT_TRUE(waiter.IsBlocked());
+    EXPECT_FALSE(waiter.IsDone());
+    go.Set();
+    EXPECT_TRUE(waiter.Ends());
+    EXPECT_EQ(code, Code(42));
+}
+
+// One after the other, from different threads: the condition is signalled only once, the flag stays.
+TEST(Wait, EndsForLaterCallersToo)
+{
+    Thread thread(Returning(7), wxTHREAD_JOINABLE);
+    thread.Create(0);
+    thread.Run();
+    for (int i = 0; i < 3; ++i) {
+        wxThread::ExitCode code = nullptr;
+        Helper waiter([&] { code = thread.Wait(); });
+        ASSERT_TRUE(waiter.Ends());
+        EXPECT_EQ(code, Code(7));
+    }
+}
+
+TEST(Wait, IsRefusedBeforeRun)
+{
+    Thread constructed(Returning(42), wxTHREAD_JOINABLE);
+    EXPECT_EQ(constructed.Wait(), Code(-1));
+    EXPECT_EQ(constructed.Create(0), wxTHREAD_NO_ERROR);
+    EXPECT_EQ(constructed.Wait(), Code(-1));
+    EXPECT_EQ(constructed.Run(), wxTHREAD_NO_ERROR);
+    EXPECT_EQ(constructed.Wait(), Code(42));
+}
+
+TEST(Detached, IsNotWaitedFor)
+{
+    Signal go;
+    Thread thread(
+        [&](Thread&) {
+            go.Wait();
+            return Code(42);
+        },
+        wxTHREAD_DETACHED);
+    EXPECT_EQ(thread.Wait(), Code(-1));
+    thread.Create(0);
+    EXPECT_EQ(thread.Run(), wxTHREAD_NO_ERROR);
+    ASSERT_TRUE(thread.started.Wait());
+    EXPECT_EQ(thread.Wait(), Code(-1));
+    go.Set();
+    ASSERT_TRUE(HasEnded(thread.thread));
+    EXPECT_EQ(thread.Wait(), Code(-1));
+}
+
+TEST(Destructor, WaitsUntilEntryHasReturned)
+{
+    Signal go;
+    std::atomic<bool> returned{false};
+    auto thread = std::make_unique<Thread>(
+        [&](Thread&) {
+            go.Wait();
+            returned = true;
+            return Code(42);
+        },
+        wxTHREAD_JOINABLE);
+    thread->Create(0);
+    thread->Run();
+    ASSERT_TRUE(thread->started.Wait());
+    bool returnedBefore = false;
+    Helper owner([&] {
+        thread.reset();
+        returnedBefore = returned;
+    });
+    EXPECT_TRUE(owner.IsBlocked());
+    EXPECT_FALSE(owner.IsDone());
+    go.Set();
+    EXPECT_TRUE(owner.Ends());
+    EXPECT_TRUE(returnedBefore);
+}
+
+TEST(Destructor, DoesNotWaitForWhatNeverRan)
+{
+    const Thread constructed(Returning(42), wxTHREAD_JOINABLE);
+}
+
+size_t StackSizeOfThisThread()
+{
+    pthread_attr_t attributes;
+    size_t size = 0;
+    EXPECT_EQ(pthread_getattr_np(pthread_self(), &attributes), 0);
+    EXPECT_EQ(pthread_attr_getstacksize(&attributes, &size), 0);
+    pthread_attr_destroy(&attributes);
+    return size;
+}
+
+size_t StackSizeOfThreadCreatedWith(unsigned int stackSize)
+{
+    Thread thread([](Thread&) { return Code(static_cast<std::intptr_t>(StackSizeOfThisThread())); }, wxTHREAD_JOINABLE);
+    EXPECT_EQ(thread.Create(stackSize), wxTHREAD_NO_ERROR);
+    EXPECT_EQ(thread.Run(), wxTHREAD_NO_ERROR);
+    return reinterpret_cast<size_t>(thread.Wait());
+}
+
+TEST(Create, GivesTheDefaultStackWhateverIsAskedFor)
+{
+    pthread_attr_t attributes;
+    size_t usual = 0;
+    ASSERT_EQ(pthread_getattr_default_np(&attributes), 0);
+    ASSERT_EQ(pthread_attr_getstacksize(&attributes, &usual), 0);
+    pthread_attr_destroy(&attributes);
+
+    EXPECT_EQ(StackSizeOfThreadCreatedWith(0), usual);
+    EXPECT_EQ(StackSizeOfThreadCreatedWith(1024 * 1024), usual);
+    EXPECT_EQ(StackSizeOfThreadCreatedWith(64 * 1024 * 1024), usual);
+    EXPECT_EQ(StackSizeOfThreadCreatedWith(1), usual);
+}
+
+TEST(Create, IsRefusedOnceTheThreadExists)
+{
+    Thread thread(Returning(42), wxTHREAD_JOINABLE);
+    EXPECT_EQ(thread.Create(0), wxTHREAD_NO_ERROR);
+    EXPECT_EQ(thread.Create(0), wxTHREAD_RUNNING);
+    EXPECT_EQ(thread.Run(), wxTHREAD_NO_ERROR);
+    ASSERT_TRUE(thread.started.Wait());
+    ASSERT_TRUE(HasEnded(thread.thread));
+    EXPECT_EQ(thread.Create(0), wxTHREAD_RUNNING);
+    EXPECT_EQ(thread.Wait(), Code(42));
+}
+
+TEST(Run, CreatesTheThreadWhenNobodyDid)
+{
+    Thread thread(Returning(42), wxTHREAD_JOINABLE);
+    EXPECT_EQ(thread.Run(), wxTHREAD_NO_ERROR);
+    EXPECT_EQ(thread.Wait(), Code(42));
+}
+
+TEST(Run, IsRefusedWhileTheThreadRunsAndAfter)
+{
+    Signal go;
+    std::atomic<int> calls{0};
+    Thread thread(
+        [&](Thread&) {
+            ++calls;
+            go.Wait();
+            return Code(42);
+        },
+        wxTHREAD_JOINABLE);
+    thread.Create(0);
+    EXPECT_EQ(thread.Run(), wxTHREAD_NO_ERROR);
+    EXPECT_EQ(thread.Run(), wxTHREAD_RUNNING);
+    ASSERT_TRUE(thread.started.Wait());
+    EXPECT_EQ(thread.Run(), wxTHREAD_RUNNING);
+    go.Set();
+    EXPECT_EQ(thread.Wait(), Code(42));
+    ASSERT_TRUE(HasEnded(thread.thread));
+    EXPECT_EQ(thread.Run(), wxTHREAD_RUNNING);
+    EXPECT_EQ(thread.Wait(), Code(42));
+    EXPECT_EQ(calls, 1);
+}
+
+TEST(Entry, RunsOnADetachedThreadOfTheToolkit)
+{
+    bool main = true;
+    bool detached = false;
+    Thread thread(
+        [&](Thread&) {
+            main = wxThread::IsMain();
+            detached = wxThread::This() && wxThread::This()->IsDetached();
+            return Code(0);
+        },
+        wxTHREAD_JOINABLE);
+    thread.Create(0);
+    thread.Run();
+    thread.Wait();
+    EXPECT_FALSE(main);
+    EXPECT_TRUE(detached);
+}
+
+// Binary compatibility with hosts: the destructor's two entries, then Entry().
+TEST(VirtualTable, HoldsTheDestructorAndThenEntry)
+{
+    Signal destroyed;
+    struct Watched : Thread
+    {
+        Watched(Work work, Signal& end) : Thread(std::move(work), wxTHREAD_JOINABLE), m_end(end) {}
+        ~Watched() override { m_end.Set(); }
+        Signal& m_end;
+    };
+    wxThreadEx* thread = new Watched(Returning(42), destroyed);
+    const auto* table = *reinterpret_cast<void* const* const*>(thread);
+    EXPECT_EQ(reinterpret_cast<wxThread::ExitCode (*)(wxThreadEx*)>(table[2])(thread), Code(42));
+    EXPECT_FALSE(destroyed.IsSet());
+    reinterpret_cast<void (*)(wxThreadEx*)>(table[1])(thread);
+    EXPECT_TRUE(destroyed.IsSet());
+}
+
+}  // namespace

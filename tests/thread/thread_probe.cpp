@@ -1,0 +1,169 @@
+// What a thread object does in a process of its own: where the system has no room for threads, where threads are left
+// behind, where the process ends. Each line it prints is an answer to one question.
+
+#include <cstdio>
+#include <memory>
+#include <stdexcept>
+#include <string>
+
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <wx/app.h>
+#include <wx/init.h>
+
+#include <tests/thread/thread_support.h>
+
+namespace {
+
+using Thread = Working<wxThreadEx>;
+
+void Say(const char* name, long number)
+{
+    std::printf("%s %ld\n", name, number);
+    std::fflush(stdout);
+}
+
+long Number(wxThread::ExitCode code)
+{
+    return static_cast<long>(reinterpret_cast<std::intptr_t>(code));
+}
+
+// The limit on processes does not bind root.
+bool LeaveNoRoomForThreads()
+{
+    const rlimit none{0, 0};
+    return setrlimit(RLIMIT_NPROC, &none) == 0 && (getuid() != 0 || setuid(65534) == 0);
+}
+
+void NoRoom()
+{
+    Say("limited", LeaveNoRoomForThreads());
+    Thread thread([](Thread&) { return Code(42); }, wxTHREAD_JOINABLE);
+    Say("create", thread.Create(0));
+    Say("run", thread.Run());
+    Say("wait", Number(thread.Wait()));
+    Say("started", thread.started.IsSet());
+
+    Working<wxGUIThread> worker([](auto&) { return Code(42); }, nullptr);
+    Say("run-thread", worker.RunThread());
+    Say("wait", Number(worker.Wait()));
+
+    Thread uncreated([](Thread&) { return Code(42); }, wxTHREAD_JOINABLE);
+    Say("run", uncreated.Run());
+    Say("wait", Number(uncreated.Wait()));
+}
+
+// The toolkit's own end is no place for the thread that still waits to be run.
+void Created()
+{
+    {
+        Thread thread([](Thread&) { return Code(42); }, wxTHREAD_JOINABLE);
+        Say("create", thread.Create(0));
+        Say("wait", Number(thread.Wait()));
+        Say("started", thread.started.IsSet());
+    }
+    Say("destroyed", 1);
+    _exit(0);
+}
+
+// What the toolkit finds of them at its end is in its log, on stderr.
+void NeverRun()
+{
+    dup2(STDOUT_FILENO, STDERR_FILENO);
+    for (int i = 0; i < 2; ++i)
+        const Thread constructed([](Thread&) { return Code(42); }, wxTHREAD_JOINABLE);
+    const Thread detached([](Thread&) { return Code(42); }, wxTHREAD_DETACHED);
+    Thread run([](Thread&) { return Code(42); }, wxTHREAD_JOINABLE);
+    run.Create(0);
+    run.Run();
+    run.Wait();
+    Say("ended", HasEnded(run.thread));
+}
+
+void DestroyDetached()
+{
+    Signal never;
+    auto thread = std::make_unique<Thread>(
+        [&](Thread&) {
+            for (;;)
+                never.Wait();
+            return Code(0);
+        },
+        wxTHREAD_DETACHED);
+    thread->Create(0);
+    thread->Run();
+    Say("started", thread->started.Wait());
+    thread.reset();
+    Say("destroyed", 1);
+    _exit(0);
+}
+
+void TwoWaiters()
+{
+    Signal go;
+    Thread thread(
+        [&](Thread&) {
+            go.Wait();
+            return Code(42);
+        },
+        wxTHREAD_JOINABLE);
+    thread.Create(0);
+    thread.Run();
+    Helper first([&] { thread.Wait(); });
+    Helper second([&] { thread.Wait(); });
+    Say("both", first.IsBlocked() && second.IsBlocked());
+    go.Set();
+    Say("one", Becomes([&] { return first.IsDone() || second.IsDone(); }));
+    Helper& other = first.IsDone() ? second : first;
+    Say("ended", HasEnded(thread.thread));
+    Say("other", other.IsBlocked() && !other.IsDone());
+    Say("later", Number(thread.Wait()));
+    _exit(0);
+}
+
+class App : public wxAppConsole
+{
+public:
+    void OnUnhandledException() override
+    {
+        try {
+            throw;
+        } catch (const std::runtime_error& error) {
+            std::printf("unhandled %s\n", error.what());
+        }
+    }
+};
+
+void Throw()
+{
+    Thread thread([](Thread&) -> wxThread::ExitCode { throw std::runtime_error("of Entry"); }, wxTHREAD_JOINABLE);
+    thread.Create(0);
+    thread.Run();
+    Say("wait", Number(thread.Wait()));
+    Say("ended", HasEnded(thread.thread));
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    wxApp::SetInstance(new App);
+    const wxInitializer toolkit;
+    const std::string question = argc > 1 ? argv[1] : "";
+    if (question == "no-room")
+        NoRoom();
+    else if (question == "created")
+        Created();
+    else if (question == "never-run")
+        NeverRun();
+    else if (question == "destroy-detached")
+        DestroyDetached();
+    else if (question == "two-waiters")
+        TwoWaiters();
+    else if (question == "throw")
+        Throw();
+    else
+        return 2;
+    return 0;
+}

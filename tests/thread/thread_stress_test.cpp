@@ -1,0 +1,117 @@
+// Many workers and many events. The thread sanitizer watches these runs too.
+
+#include <fittings/thread/gui_thread.h>
+
+#include <memory>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include <tests/support/gui.h>
+#include <tests/thread/thread_support.h>
+
+namespace {
+
+// Counts the events of each worker, whose number is in the extra long, and sees whether they came in order.
+class Counter : public wxEvtHandler
+{
+public:
+    explicit Counter(size_t workers) : counts(workers) {}
+
+    bool ProcessEvent(wxEvent& event) override
+    {
+        const auto& command = dynamic_cast<const wxCommandEvent&>(event);
+        int& count = counts.at(static_cast<size_t>(command.GetExtraLong()));
+        if (command.GetEventType() != kType || command.GetInt() != count)
+            ++outOfOrder;
+        ++count;
+        ++total;
+        return true;
+    }
+
+    static constexpr int kType = 7;
+    std::vector<int> counts;
+    int outOfOrder = 0;
+    int total = 0;
+};
+
+class Poster : public wxGUIThreadEx
+{
+public:
+    Poster(wxEvtHandler* handler, long number, int count)
+        : wxGUIThreadEx(handler, Counter::kType), m_number(number), m_count(count)
+    {
+    }
+
+    wxThread::ExitCode Entry() override
+    {
+        int posted = 0;
+        while (posted != m_count && PostEvent(posted, m_number))
+            ++posted;
+        return Code(posted);
+    }
+
+private:
+    const long m_number;
+    const int m_count;
+};
+
+TEST(AThousandCycles, OfStartPostStopAndWaitLoseNothing)
+{
+    Counter handler(1);
+    int posted = 0;
+    for (int cycle = 0; cycle < 1000; ++cycle) {
+        handler.counts[0] = 0;
+        handler.total = 0;
+        auto worker = std::make_unique<Poster>(&handler, 0, -1);
+        ASSERT_EQ(worker->RunThread(), wxTHREAD_NO_ERROR);
+        // Every other one is stopped at any moment from its start on.
+        const int awaited = cycle % 2;
+        ASSERT_TRUE(PumpUntil([&] { return handler.total >= awaited; }, 30000));
+        worker->StartKill();
+        posted = static_cast<int>(reinterpret_cast<std::intptr_t>(worker->Wait()));
+        worker.reset();
+        ASSERT_TRUE(PumpUntil([&] { return handler.total >= posted; }, 30000));
+        ASSERT_EQ(handler.total, posted);
+    }
+    EXPECT_EQ(handler.outOfOrder, 0);
+}
+
+TEST(SixtyFourWorkers, PostTenThousandEventsEachInOrder)
+{
+    Counter handler(64);
+    std::vector<std::unique_ptr<Poster>> workers;
+    for (long number = 0; number < 64; ++number)
+        workers.push_back(std::make_unique<Poster>(&handler, number, 10'000));
+    for (const auto& worker : workers)
+        ASSERT_EQ(worker->RunThread(), wxTHREAD_NO_ERROR);
+    ASSERT_TRUE(PumpUntil([&] { return handler.total >= 640'000; }, 120000));
+    for (const auto& worker : workers)
+        EXPECT_EQ(worker->Wait(), Code(10'000));
+    PumpPending();
+    EXPECT_EQ(handler.total, 640'000);
+    EXPECT_EQ(handler.counts, std::vector<int>(64, 10'000));
+    EXPECT_EQ(handler.outOfOrder, 0);
+}
+
+// Other threads may post for the worker: the events of each stay in order too.
+TEST(OneWorker, LetsSeveralThreadsPost)
+{
+    Counter handler(4);
+    Poster worker(&handler, 0, 0);
+    {
+        const auto post = [&](long number) {
+            for (int i = 0; i < 1000; ++i)
+                worker.PostEvent(i, number);
+        };
+        Helper first([&] { post(0); });
+        Helper second([&] { post(1); });
+        Helper third([&] { post(2); });
+        Helper fourth([&] { post(3); });
+    }
+    PumpPending();
+    EXPECT_EQ(handler.counts, (std::vector<int>{1000, 1000, 1000, 1000}));
+    EXPECT_EQ(handler.outOfOrder, 0);
+}
+
+}  // namespace

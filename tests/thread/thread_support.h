@@ -1,0 +1,205 @@
+#ifndef FITTINGS_TESTS_THREAD_THREAD_SUPPORT_H_
+#define FITTINGS_TESTS_THREAD_THREAD_SUPPORT_H_
+
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <cstdint>
+#include <fstream>
+#include <functional>
+#include <mutex>
+#include <string>
+#include <thread>
+#include <utility>
+#include <vector>
+
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <wx/event.h>
+#include <wx/thread.h>
+
+#include <fittings/thread/gui_thread.h>
+#include <fittings/thread/thread_ex.h>
+
+/// An exit code of this number.
+inline wxThread::ExitCode Code(std::intptr_t number)
+{
+    return reinterpret_cast<wxThread::ExitCode>(number);  // NOLINT(performance-no-int-to-ptr)
+}
+
+/// Polls @a done until it says so; false when it did not within the deadline.
+inline bool Becomes(const std::function<bool()>& done)
+{
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+    while (!done()) {
+        if (std::chrono::steady_clock::now() > deadline)
+            return false;
+        std::this_thread::sleep_for(std::chrono::microseconds(200));
+    }
+    return true;
+}
+
+/// Something that happens once, and that another thread waits for.
+class Signal
+{
+public:
+    void Set()
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_set = true;
+        m_condition.notify_all();
+    }
+
+    bool IsSet()
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        return m_set;
+    }
+
+    /// False when it was not set within the deadline.
+    bool Wait()
+    {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        return m_condition.wait_for(lock, std::chrono::seconds(30), [this] { return m_set; });
+    }
+
+private:
+    std::mutex m_mutex;
+    std::condition_variable m_condition;
+    bool m_set = false;
+};
+
+inline std::string TaskFile(pid_t thread, const char* name)
+{
+    return "/proc/self/task/" + std::to_string(thread) + "/" + name;
+}
+
+/// True once the thread has gone to sleep on a lock or condition and stays there.
+inline bool IsBlocked(pid_t thread)
+{
+    std::string last;
+    int same = 0;
+    return Becomes([&] {
+        std::string now;
+        std::getline(std::ifstream(TaskFile(thread, "syscall")), now);
+        const bool asleep = now.compare(0, 4, std::to_string(SYS_futex) + " ") == 0;
+        same = asleep && now == last ? same + 1 : 0;
+        last = now;
+        return same >= 5;
+    });
+}
+
+/// True once the system no longer knows the thread.
+inline bool HasEnded(pid_t thread)
+{
+    return Becomes([&] { return access(TaskFile(thread, "").c_str(), F_OK) != 0; });
+}
+
+/// A thread of the test's own, joined at its end.
+class Helper
+{
+public:
+    explicit Helper(std::function<void()> work)
+        : m_thread([this, work = std::move(work)] {
+              m_id = gettid();
+              m_started.Set();
+              work();
+              m_done.Set();
+          })
+    {
+        m_started.Wait();
+    }
+    ~Helper() { m_thread.join(); }
+
+    bool IsBlocked() const { return ::IsBlocked(m_id); }
+    bool IsDone() { return m_done.IsSet(); }
+    bool Ends() { return m_done.Wait(); }
+
+private:
+    std::atomic<pid_t> m_id{0};
+    Signal m_started;
+    Signal m_done;
+    std::thread m_thread;
+};
+
+/// A thread object of class @a Base whose work is a function.
+template <typename Base>
+class Working : public Base
+{
+public:
+    using Work = std::function<wxThread::ExitCode(Working& self)>;
+
+    template <typename... Arguments>
+    explicit Working(Work work, Arguments&&... arguments)
+        : Base(std::forward<Arguments>(arguments)...), m_work(std::move(work))
+    {
+    }
+
+    wxThread::ExitCode Entry() override
+    {
+        const Work work = m_work;  // out of the object, whose members go before the base's destructor waits
+        thread = gettid();
+        started.Set();
+        return work(*this);
+    }
+
+    Signal started;
+    std::atomic<pid_t> thread{0};
+
+private:
+    Work m_work;
+};
+
+/// What a handler was given.
+struct Event
+{
+    int type;
+    int id;
+    wxObject* object;
+    wxString string;
+    int value;
+    long extra;
+    void* data;
+    wxClientData* clientObject;
+
+    bool operator==(const Event& other) const
+    {
+        return type == other.type && id == other.id && object == other.object && string == other.string &&
+               value == other.value && extra == other.extra && data == other.data && clientObject == other.clientObject;
+    }
+};
+
+inline std::ostream& operator<<(std::ostream& stream, const Event& event)
+{
+    return stream << "type " << event.type << " id " << event.id << " object " << event.object << " string '"
+                  << event.string << "' value " << event.value << " extra " << event.extra << " data " << event.data
+                  << " client object " << event.clientObject;
+}
+
+inline Event Plain(int type, int value, long extra = 0, void* data = nullptr)
+{
+    return {type, 0, nullptr, wxString(), value, extra, data, nullptr};
+}
+
+/// Keeps what it is given.
+class Recorder : public wxEvtHandler
+{
+public:
+    bool ProcessEvent(wxEvent& event) override
+    {
+        allOnGuiThread = allOnGuiThread && wxThread::IsMain();
+        if (const auto* command = dynamic_cast<wxCommandEvent*>(&event))
+            events.push_back({command->GetEventType(), command->GetId(), command->GetEventObject(),
+                              command->GetString(), command->GetInt(), command->GetExtraLong(),
+                              command->GetClientData(), command->GetClientObject()});
+        return true;
+    }
+
+    std::vector<Event> events;
+    bool allOnGuiThread = true;
+};
+
+using Events = std::vector<Event>;
+
+#endif
