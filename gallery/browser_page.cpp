@@ -15,6 +15,7 @@
 #include <wx/utils.h>
 
 #include <fittings/config/wx_window_state.h>
+#include <fittings/dialogs/file_dialog.h>
 #include <fittings/dialogs/folder_dialog.h>
 
 #include "browser_settings.h"
@@ -22,6 +23,8 @@
 #include "folder_listing.h"
 #include "folder_tree.h"
 #include "native_text.h"
+#include "report.h"
+#include "sizes_row.h"
 
 namespace fittings {
 
@@ -139,7 +142,7 @@ wxString BrowserPage::GetSelectionText() const
     if (!entry)
         return {};
     wxString text = DisplayText(entry->name);
-    if (entry->kind == EntryKind::File && entry->known)
+    if (entry->HasSize())
         text << ": " << ExactSize(entry->size);
     return text;
 }
@@ -187,6 +190,24 @@ void BrowserPage::ResetLayout()
     TellChange();
 }
 
+void BrowserPage::SaveReport()
+{
+    const std::string earlier = CQVFileDialogI::SetRegEntry("Report");
+    const wxString name = DisplayText(m_folder.substr(m_folder.rfind('/') + 1));
+    const CStdStr<wchar_t> chosen =
+        CQVFileDialogI::LaunchSaveDialog(this, L"csv", L"Tables (*.csv)|*.csv|All files|*", L"Save report", L"",
+                                         (name.empty() ? wxString("report.csv") : name + ".csv").wc_str());
+    CQVFileDialogI::SetRegEntry(earlier);
+    if (chosen.empty())
+        return;
+    const wxString file(chosen);
+    const int error = fittings::SaveReport(PathFromDialog(file), ReportText(m_folder, m_list->GetEntriesInOrder()));
+    if (error != 0)
+        m_note->ShowMessage(file + ": " + ReasonText(error), wxICON_WARNING);
+    else
+        m_note->ShowMessage("The report is in " + file, wxICON_INFORMATION);
+}
+
 void BrowserPage::MakeTools()
 {
     const auto icon = [](const wxArtID& id) { return wxArtProvider::GetBitmapBundle(id, wxART_TOOLBAR); };
@@ -196,6 +217,8 @@ void BrowserPage::MakeTools()
     m_tools->AddTool(wxID_OPEN, L"Open folder\u2026", icon(wxART_FOLDER_OPEN), "Browse another folder (Ctrl+O)");
     m_tools->AddTool(wxID_UP, "Up", icon(wxART_GO_DIR_UP), "Select the folder that this one is in (Alt+Up)");
     m_tools->AddTool(wxID_REFRESH, "Refresh", icon(wxART_REFRESH), "Read the folders again (F5)");
+    m_tools->AddTool(wxID_SAVEAS, L"Save report\u2026", icon(wxART_FILE_SAVE_AS),
+                     "Write what the list shows into a file (Ctrl+S)");
     m_tools->Realize();
 }
 
@@ -235,11 +258,13 @@ wxWindow* BrowserPage::MakeContents(wxWindow* parent)
     m_location->SetName("Location");
     m_note = new wxInfoBar(panel);
     m_list = new ContentsList(panel);
+    m_sizes = new SizesRow(panel, [this](const SizeNews& news) { OnSizes(news); });
 
     auto* rows = new wxBoxSizer(wxVERTICAL);
     rows->Add(m_location, wxSizerFlags().Expand().Border(wxALL, FromDIP(6)));
     rows->Add(m_note, wxSizerFlags().Expand());
     rows->Add(m_list, wxSizerFlags(1).Expand());
+    rows->Add(m_sizes, wxSizerFlags().Expand());
     panel->SetSizer(rows);
     return panel;
 }
@@ -310,6 +335,15 @@ void BrowserPage::ShowFolder(const std::string& path)
         m_note->Dismiss();
     m_list->SetEntries(std::move(listing.entries));
     m_tools->EnableTool(wxID_UP, HasFolderAbove());
+    m_sizes->Start(path);
+    TellChange();
+}
+
+void BrowserPage::OnSizes(const SizeNews& news)
+{
+    m_list->SetFolderSizes(news.folders);
+    if (news.done && m_list->GetSortOrder().column == SortColumn::Size)
+        m_list->SortBy(m_list->GetSortOrder());
     TellChange();
 }
 

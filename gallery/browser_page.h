@@ -16,7 +16,8 @@ namespace fittings {
 
 class ContentsList;
 class FolderTree;
-struct Listing;
+class SizesRow;
+struct SizeNews;
 
 /// Sent by a BrowserPage when something of what the window shows about it is another: the folder, the selected entry or
 /// which panes there are. It propagates to the window.
@@ -38,6 +39,7 @@ public:
 
     FolderTree* GetTree() const { return m_tree; }
     ContentsList* GetList() const { return m_list; }
+    SizesRow* GetSizes() const { return m_sizes; }
     wxToolBar* GetTools() const { return m_tools; }
     wxAuiManager& GetLayout() { return m_layout; }
 
@@ -66,6 +68,9 @@ public:
     void RefreshFolders();
     void ToggleFolders();
 
+    /// Asks for a file and writes what the list shows into it.
+    void SaveReport();
+
     /// Forgets how the panes were moved.
     void ResetLayout();
     /// @}
@@ -78,6 +83,7 @@ private:
     void OpenRoot(const std::string& path);
     void RememberRoot();
     void ShowFolder(const std::string& path);
+    void OnSizes(const SizeNews& news);
     void OnActivated(wxDataViewEvent& event);
     void TellChange();
 
@@ -86,6 +92,7 @@ private:
     bool m_layoutLoaded = false;
     FolderTree* m_tree = nullptr;
     ContentsList* m_list = nullptr;
+    SizesRow* m_sizes = nullptr;
     wxToolBar* m_tools = nullptr;
     wxStaticText* m_location = nullptr;
     wxInfoBar* m_note = nullptr;

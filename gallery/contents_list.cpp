@@ -1,6 +1,8 @@
 #include "contents_list.h"
 
 #include <algorithm>
+#include <string_view>
+#include <unordered_map>
 #include <utility>
 
 #include <gtk/gtk.h>
@@ -49,9 +51,26 @@ public:
 
     void SetEntries(std::vector<Entry> entries, SortOrder order)
     {
+        m_folders.clear();
         m_entries = std::move(entries);
         m_positions = SortedPositions(m_entries, order);
         Reset(static_cast<unsigned>(m_entries.size()));
+    }
+
+    /// The size is not drawn before its row is.
+    void SetFolderSize(const std::string& name, std::uint64_t size)
+    {
+        if (m_folders.empty()) {
+            for (std::size_t i = 0; i < m_entries.size(); ++i) {
+                if (m_entries[i].kind == EntryKind::Folder)
+                    m_folders.emplace(m_entries[i].name, i);
+            }
+        }
+        const auto found = m_folders.find(name);
+        if (found != m_folders.end()) {
+            m_entries[found->second].size = size;
+            m_entries[found->second].summed = true;
+        }
     }
 
     /// Only the order of the rows changes: who draws them must be told to draw them again.
@@ -76,7 +95,7 @@ public:
             value << wxDataViewIconText(LabelOf(entry), IconOf(entry));
             break;
         case SortColumn::Size:
-            value = entry.known && entry.kind == EntryKind::File ? HumanSize(entry.size) : wxString();
+            value = entry.HasSize() ? HumanSize(entry.size) : wxString();
             break;
         case SortColumn::Type:
             value = DisplayText(entry.type);
@@ -109,6 +128,7 @@ private:
 
     std::vector<Entry> m_entries;
     std::vector<std::uint32_t> m_positions;
+    std::unordered_map<std::string_view, std::size_t> m_folders;  ///< By name, into m_entries; made when needed.
     wxBitmapBundle m_folder, m_file, m_program, m_link;
 };
 
@@ -141,6 +161,23 @@ ContentsList::ContentsList(wxWindow* parent)
 void ContentsList::SetEntries(std::vector<Entry> entries)
 {
     m_model->SetEntries(std::move(entries), m_order);
+}
+
+void ContentsList::SetFolderSizes(const std::vector<std::pair<std::string, FolderSum>>& sums)
+{
+    if (sums.empty())
+        return;
+    for (const auto& [name, sum] : sums)
+        m_model->SetFolderSize(name, sum.bytes);
+    Refresh();
+}
+
+std::vector<Entry> ContentsList::GetEntriesInOrder() const
+{
+    std::vector<Entry> entries;
+    for (unsigned row = 0; row < CountRows(); ++row)
+        entries.push_back(GetEntry(row));
+    return entries;
 }
 
 unsigned ContentsList::CountRows() const

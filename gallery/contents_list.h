@@ -2,11 +2,13 @@
 #define FITTINGS_GALLERY_CONTENTS_LIST_H_
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <wx/dataview.h>
 
 #include "folder_listing.h"
+#include "folder_size.h"
 
 namespace fittings {
 
@@ -21,6 +23,12 @@ public:
     explicit ContentsList(wxWindow* parent);
 
     void SetEntries(std::vector<Entry> entries);
+
+    /// Fills in what folders hold, as far as they are listed. The order of the rows stays until SortBy().
+    void SetFolderSizes(const std::vector<std::pair<std::string, FolderSum>>& sums);
+
+    /// All of them, in the order shown.
+    std::vector<Entry> GetEntriesInOrder() const;
 
     unsigned CountRows() const;
     const Entry& GetEntry(unsigned row) const;

@@ -5,50 +5,20 @@
 #include <chrono>
 #include <climits>
 #include <cstdlib>
-#include <cstring>
 #include <memory>
 #include <tuple>
 
-#include <dirent.h>
-#include <fcntl.h>
 #include <glib.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include "open_folder.h"
 
 namespace fittings {
 
 namespace {
 
 using Clock = std::chrono::steady_clock;
-
-struct CloseFolder
-{
-    void operator()(DIR* folder) const { closedir(folder); }
-};
-using Folder = std::unique_ptr<DIR, CloseFolder>;
-
-/// Null, with errno set, when the folder cannot be read.
-Folder OpenFolder(int base, const char* path, int flags = 0)
-{
-    const int file = openat(base, path, O_RDONLY | O_DIRECTORY | O_NONBLOCK | O_CLOEXEC | flags);
-    if (file < 0)
-        return nullptr;
-    Folder folder(fdopendir(file));
-    if (!folder)
-        close(file);
-    return folder;
-}
-
-/// The next entry but "." and ".."; null at the end, with errno telling whether it is a real one.
-const dirent* NextEntry(DIR* folder)
-{
-    for (;;) {
-        errno = 0;
-        const dirent* entry = readdir(folder);
-        if (!entry || (std::strcmp(entry->d_name, ".") != 0 && std::strcmp(entry->d_name, "..") != 0))
-            return entry;
-    }
-}
 
 EntryKind KindOfMode(mode_t mode)
 {
@@ -76,7 +46,7 @@ bool IsFolder(int folder, const dirent& entry)
     if (entry.d_type != DT_UNKNOWN)
         return entry.d_type == DT_DIR;
     struct stat status;
-    return fstatat(folder, entry.d_name, &status, AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT) == 0 &&
+    return fstatat(folder, entry.d_name, &status, kLookAtLinks) == 0 &&
            S_ISDIR(status.st_mode);
 }
 
@@ -130,7 +100,7 @@ int Describe(Entry& entry, int folder, const dirent& found)
     struct stat status;
     bool executable = false;
     int error = 0;
-    if (fstatat(folder, found.d_name, &status, AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT) == 0) {
+    if (fstatat(folder, found.d_name, &status, kLookAtLinks) == 0) {
         entry.known = true;
         entry.kind = KindOfMode(status.st_mode);
         entry.size = entry.kind == EntryKind::File ? static_cast<std::uint64_t>(status.st_size) : 0;

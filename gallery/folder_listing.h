@@ -18,8 +18,11 @@ struct Entry
     std::string target;   ///< Where a link points.
     EntryKind kind = EntryKind::Unknown;
     bool known = false;         ///< Whether size and time could be read.
-    std::uint64_t size = 0;     ///< Of a file, in bytes; 0 for everything else.
+    bool summed = false;        ///< Whether the size is that of everything in the folder.
+    std::uint64_t size = 0;     ///< Of a file or a summed folder, in bytes; 0 for everything else.
     std::int64_t modified = 0;  ///< Seconds since the epoch.
+
+    bool HasSize() const { return summed || (known && kind == EntryKind::File); }
 };
 
 struct Listing

@@ -63,6 +63,7 @@ void GalleryFrame::MakeMenus()
     auto* file = new wxMenu;
     file->Append(wxID_OPEN, L"&Open folder\u2026\tCtrl+O", "Browse another folder");
     file->Append(wxID_REFRESH, "&Refresh\tF5", "Read the folders again");
+    file->Append(wxID_SAVEAS, L"&Save report\u2026\tCtrl+S", "Write what the list shows into a file");
     file->AppendSeparator();
     file->Append(wxID_EXIT, "&Quit\tCtrl+Q", "Close the window");
 
@@ -120,6 +121,7 @@ void GalleryFrame::BindEvents()
     bindCommand(wxID_UP, &BrowserPage::GoUp);
     bindCommand(wxID_REFRESH, &BrowserPage::RefreshFolders);
     bindCommand(wxID_VIEW_LIST, &BrowserPage::ToggleFolders);
+    bindCommand(wxID_SAVEAS, &BrowserPage::SaveReport);
     bindCommand(wxID_RESET, &BrowserPage::ResetLayout);
     Bind(
         wxEVT_MENU,
@@ -172,6 +174,7 @@ void GalleryFrame::ShowState()
     wxMenuBar* menus = GetMenuBar();
     menus->Check(firstPageId + m_pages->GetSelection(), true);
     menus->Enable(wxID_REFRESH, browser);
+    menus->Enable(wxID_SAVEAS, browser);
     menus->Enable(wxID_UP, browser && m_browser->HasFolderAbove());
     menus->Enable(wxID_VIEW_LIST, browser);
     menus->Check(wxID_VIEW_LIST, m_browser->ShowsFolders());

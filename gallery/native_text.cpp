@@ -6,6 +6,8 @@
 #include <wx/datetime.h>
 #include <wx/filefn.h>
 
+#include <fittings/numedit/number_edit_utils.h>
+#include <fittings/numedit/number_format.h>
 #include <fittings/platform/file_util_ex.h>
 
 namespace fittings {
@@ -117,6 +119,15 @@ wxString HumanSize(std::uint64_t bytes)
 wxString ExactSize(std::uint64_t bytes)
 {
     return FormattedSize(bytes, G_FORMAT_SIZE_LONG_FORMAT);
+}
+
+wxString GroupedNumber(std::uint64_t number)
+{
+    CNumberFormat format(eLocaleFormat);
+    format.m_bGroupDigits = true;
+    if (format.m_chThousandsSep == 0)
+        format.m_chThousandsSep = L'\u00A0';
+    return CNumberEditUtils::FormatControlText(std::to_wstring(number).c_str(), format);
 }
 
 wxString HumanTime(std::int64_t secondsSinceEpoch)

@@ -35,6 +35,9 @@ wxString HumanSize(std::uint64_t bytes);
 /// "1.2 kB (1234 bytes)", or "1 byte" where the short form says it all.
 wxString ExactSize(std::uint64_t bytes);
 
+/// "171,661", with the locale's separators; a blank that never breaks where the locale has none.
+wxString GroupedNumber(std::uint64_t number);
+
 /// "2026-03-14 09:26" in local time.
 wxString HumanTime(std::int64_t secondsSinceEpoch);
 
