@@ -169,7 +169,8 @@ void ContentsList::SetFolderSizes(const std::vector<std::pair<std::string, Folde
         return;
     for (const auto& [name, sum] : sums)
         m_model->SetFolderSize(name, sum.bytes);
-    Refresh();
+    // Refresh() draws the frame around the rows, and leaves those that GTK has drawn already.
+    gtk_widget_queue_draw(GtkGetTreeView());
 }
 
 std::vector<Entry> ContentsList::GetEntriesInOrder() const

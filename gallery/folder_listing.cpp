@@ -46,8 +46,7 @@ bool IsFolder(int folder, const dirent& entry)
     if (entry.d_type != DT_UNKNOWN)
         return entry.d_type == DT_DIR;
     struct stat status;
-    return fstatat(folder, entry.d_name, &status, kLookAtLinks) == 0 &&
-           S_ISDIR(status.st_mode);
+    return fstatat(folder, entry.d_name, &status, kLookAtLinks) == 0 && S_ISDIR(status.st_mode);
 }
 
 /// "PNG file" for picture.png; the extension counts when it is short, plain and not the whole name.

@@ -50,10 +50,7 @@ struct Level
     double span = 1;
 
     double Share() const { return span / static_cast<double>(subfolders.size()); }
-    double Done() const
-    {
-        return subfolders.empty() ? start + span : start + Share() * static_cast<double>(next);
-    }
+    double Done() const { return subfolders.empty() ? start + span : start + Share() * static_cast<double>(next); }
 };
 
 class Walk
@@ -143,9 +140,9 @@ private:
         Level& level = m_levels.back();
         const Pending& subfolder = level.subfolders[level.next++];
         if (m_levels.size() == 1) {
-            m_observer.OnSubfolder(subfolder.name, {m_sum.bytes - m_before.bytes + subfolder.bytes,
-                                                    m_sum.items - m_before.items + 1,
-                                                    m_sum.unreadable - m_before.unreadable});
+            m_observer.OnSubfolder(subfolder.name,
+                                   {m_sum.bytes - m_before.bytes + subfolder.bytes, m_sum.items - m_before.items + 1,
+                                    m_sum.unreadable - m_before.unreadable});
         }
         TellProgress(level.Done());
     }
@@ -170,7 +167,9 @@ private:
 
     static void Close(Level& level)
     {
-        struct stat status {};
+        struct stat status
+        {
+        };
         if (level.folder && fstat(dirfd(level.folder.get()), &status) == 0) {
             level.id = {status.st_dev, status.st_ino};
             level.folder.reset();

@@ -25,8 +25,8 @@ SizesRow::SizesRow(wxWindow* parent, std::function<void(const SizeNews&)> onNews
     SetName("Sizes");
     m_bar = new wxGauge(this, wxID_ANY, kBarRange, wxDefaultPosition, wxSize(FromDIP(140), -1), wxGA_SMOOTH);
     m_bar->SetName("Progress");
-    m_text = new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize,
-                              wxST_ELLIPSIZE_END | wxST_NO_AUTORESIZE);
+    m_text =
+        new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxST_ELLIPSIZE_END | wxST_NO_AUTORESIZE);
     m_text->SetName("Sum");
     m_button = new wxButton(this, wxID_ANY, "S&top");
     m_button->SetToolTip("Stop or start adding up what is below this folder");
@@ -118,7 +118,7 @@ void SizesRow::ShowNumbers(const SizeNews& news, const wxString& state)
 
 void SizesRow::ShowRunning(bool running)
 {
-    m_bar->Enable(running);
+    m_bar->Show(running);
     m_button->SetLabel(running ? "S&top" : "Add &up");
     Layout();
 }

@@ -1,9 +1,11 @@
 #include "tour.h"
 
 #include <cstdio>
+#include <fstream>
 
 #include <gtk/gtk.h>
 #include <unistd.h>
+#include <wx/button.h>
 #include <wx/timer.h>
 
 #include <fittings/platform/file_util_ex.h>
@@ -17,6 +19,7 @@
 #include "native_text.h"
 #include "screenshot.h"
 #include "simulated_user.h"
+#include "sizes_row.h"
 
 namespace fittings {
 
@@ -24,8 +27,8 @@ namespace {
 
 using namespace simulated_user;
 
-/// The folder dialog on the screen, if there is one. The toolkit does not list it among its windows.
-GtkWidget* FindFolderDialog()
+/// The file or folder dialog on the screen, if there is one. The toolkit does not list it among its windows.
+GtkWidget* FindFileDialog()
 {
     GList* windows = gtk_window_list_toplevels();
     GtkWidget* dialog = nullptr;
@@ -37,7 +40,7 @@ GtkWidget* FindFolderDialog()
     return dialog;
 }
 
-/// Waits for a folder dialog inside the dialog's own event loop, and ends it when the visit does not.
+/// Waits for such a dialog inside the dialog's own event loop, and ends it when the visit does not.
 class DialogVisitor : public wxTimer
 {
 public:
@@ -48,12 +51,12 @@ public:
 
     void Notify() override
     {
-        GtkWidget* dialog = FindFolderDialog();
+        GtkWidget* dialog = FindFileDialog();
         if (!dialog)
             return;
         Stop();
         m_wentWell = m_visit(dialog);
-        if (FindFolderDialog())
+        if (FindFileDialog())
             gtk_dialog_response(GTK_DIALOG(dialog), GTK_RESPONSE_CANCEL);
         m_over = true;
     }
@@ -64,15 +67,15 @@ private:
     bool m_wentWell = false;
 };
 
-std::string FolderIn(GtkWidget* dialog)
+std::string FileIn(GtkWidget* dialog)
 {
-    gchar* folder = gtk_file_chooser_get_filename(GTK_FILE_CHOOSER(dialog));
-    const std::string path = folder ? folder : "";
-    g_free(folder);
+    gchar* file = gtk_file_chooser_get_filename(GTK_FILE_CHOOSER(dialog));
+    const std::string path = file ? file : "";
+    g_free(file);
     return path;
 }
 
-/// The place on the screen of the button that chooses the folder; empty while it does nothing.
+/// The place on the screen of the button that chooses; empty while it does nothing.
 wxRect AcceptButton(GtkWidget* dialog)
 {
     GtkWidget* button = gtk_dialog_get_widget_for_response(GTK_DIALOG(dialog), GTK_RESPONSE_ACCEPT);
@@ -146,6 +149,8 @@ bool Tour::Run()
         {"open the window", &Tour::OpenWindow},
         {"expand folders by keyboard", &Tour::ExpandByKeyboard},
         {"sort by a header", &Tour::SortByHeader},
+        {"add up folders in the background", &Tour::AddUpFolders},
+        {"save a report", &Tour::SaveReport},
         {"choose a folder in the dialog", &Tour::ChooseFolder},
         {"cancel the dialog", &Tour::CancelFolder},
         {"find the window again", &Tour::RememberWindow},
@@ -244,17 +249,58 @@ bool Tour::SortByHeader()
     return SavePicture("browser");
 }
 
+bool Tour::AddUpFolders()
+{
+    const SizesRow& row = *m_frame->GetBrowser()->GetSizes();
+    const ContentsList& list = *m_frame->GetBrowser()->GetList();
+    const auto isStopped = [&] { return !row.IsRunning(); };
+    if (!IsTrue(WaitUntil(isStopped, 60000), "the folders are added up"))
+        return false;
+    const wxRect button = row.GetButton()->GetScreenRect();
+    Click(CentreOf(button));
+    if (!Waits([&] { return row.IsRunning() || row.GetText().EndsWith("done"); }, "a click starts anew") ||
+        !IsTrue(WaitUntil(isStopped, 60000), "the folders are added up again"))
+        return false;
+    for (const Entry& entry : list.GetEntriesInOrder()) {
+        if (!IsTrue(entry.kind != EntryKind::Folder || entry.summed, "each folder has its size"))
+            return false;
+    }
+    return true;
+}
+
+bool Tour::SaveReport()
+{
+    const std::string file = m_demo.SettingsPath() + "/report.csv";
+    const bool well = VisitDialog('S', "Ctrl+S opens the save dialog", [&](GtkWidget* dialog) {
+        auto* chooser = GTK_FILE_CHOOSER(dialog);
+        gtk_file_chooser_set_current_folder(chooser, m_demo.SettingsPath().c_str());
+        gtk_file_chooser_set_current_name(chooser, "report.csv");
+        if (!Waits([&] { return FileIn(dialog) == file && !AcceptButton(dialog).IsEmpty(); }, "the name is taken") ||
+            !IsTrue(SaveScreenshot(FrameRect(dialog), m_pictures + "/save-dialog.png"), "the picture is taken"))
+            return false;
+        Click(CentreOf(AcceptButton(dialog)));
+        return Waits([] { return !FindFileDialog(); }, "a click saves");
+    });
+    const auto isWritten = [&] {
+        std::ifstream report(file);
+        std::string header;
+        return std::getline(report, header) && header == "Name,Kind,Bytes,Modified,Path\r";
+    };
+    return well && Waits(isWritten, "the report is written") &&
+           IsTrue(CLocalRegStore::GetString("LastFiles", "Report", "") == file, "the dialog remembers the file");
+}
+
 bool Tour::ChooseFolder()
 {
     const State before(*m_frame);
-    const bool well = VisitFolderDialog([&](GtkWidget* dialog) {
+    const bool well = VisitDialog('O', "Ctrl+O opens the folder dialog", [&](GtkWidget* dialog) {
         gtk_file_chooser_set_current_folder(GTK_FILE_CHOOSER(dialog), before.root.c_str());
-        if (!Waits([&] { return FolderIn(dialog) == before.root && !AcceptButton(dialog).IsEmpty(); },
+        if (!Waits([&] { return FileIn(dialog) == before.root && !AcceptButton(dialog).IsEmpty(); },
                    "the folder is shown") ||
             !IsTrue(SaveScreenshot(FrameRect(dialog), m_pictures + "/folder-dialog.png"), "the picture is taken"))
             return false;
         Click(CentreOf(AcceptButton(dialog)));
-        return Waits([] { return !FindFolderDialog(); }, "a click chooses");
+        return Waits([] { return !FindFileDialog(); }, "a click chooses");
     });
     return well && Waits([&] { return State(*m_frame) == before; }, "a folder opened anew looks as it was left") &&
            IsTrue(CLocalRegStore::GetString("OpenFolder", "Path", "") == before.root,
@@ -264,10 +310,11 @@ bool Tour::ChooseFolder()
 bool Tour::CancelFolder()
 {
     const State before(*m_frame);
-    return VisitFolderDialog([this](GtkWidget*) {
-               Press(WXK_ESCAPE);
-               return Waits([] { return !FindFolderDialog(); }, "Escape cancels");
-           }) &&
+    return VisitDialog('O', "Ctrl+O opens the folder dialog",
+                       [this](GtkWidget*) {
+                           Press(WXK_ESCAPE);
+                           return Waits([] { return !FindFileDialog(); }, "Escape cancels");
+                       }) &&
            IsTrue(State(*m_frame) == before, "a cancelled dialog changes nothing");
 }
 
@@ -309,11 +356,12 @@ bool Tour::Waits(const std::function<bool()>& condition, const char* claim)
     return IsTrue(WaitUntil(condition), claim);
 }
 
-bool Tour::VisitFolderDialog(const std::function<bool(GtkWidget*)>& visit)
+/// Presses Ctrl and @a key, and visits the dialog that this opens.
+bool Tour::VisitDialog(char key, const char* claim, const std::function<bool(GtkWidget*)>& visit)
 {
     DialogVisitor visitor(visit);
-    Press('O', wxMOD_CONTROL);
-    return Waits([&] { return visitor.IsOver(); }, "Ctrl+O opens the folder dialog") && visitor.WentWell() &&
+    Press(key, wxMOD_CONTROL);
+    return Waits([&] { return visitor.IsOver(); }, claim) && visitor.WentWell() &&
            Waits([&] { return m_frame->IsActive(); }, "the window is active again");
 }
 

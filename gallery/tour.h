@@ -28,6 +28,8 @@ private:
     bool OpenWindow();
     bool ExpandByKeyboard();
     bool SortByHeader();
+    bool AddUpFolders();
+    bool SaveReport();
     bool ChooseFolder();
     bool CancelFolder();
     bool RememberWindow();
@@ -35,7 +37,7 @@ private:
 
     bool IsTrue(bool condition, const char* claim);
     bool Waits(const std::function<bool()>& condition, const char* claim);
-    bool VisitFolderDialog(const std::function<bool(_GtkWidget*)>& visit);
+    bool VisitDialog(char key, const char* claim, const std::function<bool(_GtkWidget*)>& visit);
     bool SavePicture(const char* component);
     bool Reopen();
 

@@ -126,8 +126,7 @@ TEST(SumFolder, TellsTheSumOfEachFolderRightInIt)
     SumFolder(folder.Path(), notes);
     ASSERT_EQ(notes.subfolders.size(), 2u);
     const FolderSum a = notes.subfolders["a"];
-    EXPECT_EQ(a.bytes,
-              780 + OwnSize(folder / "a") + OwnSize(folder / "a/deep") + OwnSize(folder / "a/deep/deeper"));
+    EXPECT_EQ(a.bytes, 780 + OwnSize(folder / "a") + OwnSize(folder / "a/deep") + OwnSize(folder / "a/deep/deeper"));
     EXPECT_EQ(a.items, 5u);
     EXPECT_EQ(a.bytes, DiskUsageOf(folder / "a"));
     EXPECT_EQ(notes.subfolders["empty"].bytes, OwnSize(folder / "empty"));
@@ -144,8 +143,7 @@ TEST(SumFolder, CountsAFileWithSeveralNamesOnce)
     fs::create_hard_link(folder / "a/file", folder / "b/elsewhere");
     Notes notes;
     const FolderSum sum = SumFolder(folder.Path(), notes);
-    EXPECT_EQ(sum.bytes,
-              100000 + OwnSize(folder.Path()) + OwnSize(folder / "a") + OwnSize(folder / "b"));
+    EXPECT_EQ(sum.bytes, 100000 + OwnSize(folder.Path()) + OwnSize(folder / "a") + OwnSize(folder / "b"));
     EXPECT_EQ(sum.items, 6u);
     EXPECT_EQ(sum.bytes, DiskUsageOf(folder.Path()));
     EXPECT_EQ(notes.subfolders["a"].bytes + notes.subfolders["b"].bytes + OwnSize(folder.Path()), sum.bytes);
@@ -184,8 +182,7 @@ TEST(SumFolder, CountsWhatCannotBeRead)
     const FolderSum sum = SumFolder(folder.Path(), notes);
     EXPECT_EQ(sum.unreadable, 2u);
     EXPECT_EQ(sum.items, 5u);  // "in" behind its name only
-    EXPECT_EQ(sum.bytes,
-              5 + OwnSize(folder.Path()) + OwnSize(folder / "closed") + OwnSize(folder / "names-only"));
+    EXPECT_EQ(sum.bytes, 5 + OwnSize(folder.Path()) + OwnSize(folder / "closed") + OwnSize(folder / "names-only"));
     EXPECT_EQ(notes.subfolders["closed"].unreadable, 1u);
     EXPECT_EQ(notes.subfolders["names-only"].unreadable, 1u);
     EXPECT_EQ(notes.last, 1.0);

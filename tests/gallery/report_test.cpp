@@ -43,11 +43,15 @@ TEST(Report, HasALineForEachEntryInOrder)
     summed.name = "summed";
     summed.summed = true;
     summed.size = 123456789012;
-    EXPECT_EQ(ReportText("/data", {folder, summed, File("z", 3)}),
-              "Name,Kind,Bytes,Modified,Path\r\n"
-              "sub,Folder,," + Time(0) + ",/data/sub\r\n"
-              "summed,Folder,123456789012," + Time(0) + ",/data/summed\r\n"
-              "z,File,3," + Time(0) + ",/data/z\r\n");
+    EXPECT_EQ(ReportText("/data", {folder, summed, File("z", 3)}), "Name,Kind,Bytes,Modified,Path\r\n"
+                                                                   "sub,Folder,," +
+                                                                       Time(0) +
+                                                                       ",/data/sub\r\n"
+                                                                       "summed,Folder,123456789012," +
+                                                                       Time(0) +
+                                                                       ",/data/summed\r\n"
+                                                                       "z,File,3," +
+                                                                       Time(0) + ",/data/z\r\n");
 }
 
 TEST(Report, OfAnEmptyFolderIsTheHeader)
