@@ -1,0 +1,135 @@
+#include <fittings/colour/colour_combo.h>
+
+#include <cstdint>
+
+#include <wx/app.h>
+#include <wx/dcmemory.h>
+#include <wx/dcscreen.h>
+
+#include <fittings/colour/outline_window.h>
+
+namespace {
+
+constexpr int kTick = 10;
+constexpr int kSteps = 256;
+
+wxBitmap CopyOfScreen(wxScreenDC& screen, const wxRect& rect)
+{
+    wxBitmap bitmap(rect.GetSize());
+    wxMemoryDC copy(bitmap);
+    copy.Blit(wxPoint(0, 0), rect.GetSize(), &screen, rect.GetPosition(), wxCOPY);
+    copy.SelectObject(wxNullBitmap);
+    return bitmap;
+}
+
+}  // namespace
+
+wxBEGIN_EVENT_TABLE(wxColourCombo, wxComboCtrl)
+    EVT_TIMER(wxID_ANY, wxColourCombo::OnTimerEvent)
+wxEND_EVENT_TABLE()
+
+wxColourCombo::wxColourCombo() = default;
+
+wxColourCombo::~wxColourCombo() = default;
+
+bool wxColourCombo::Destroy()
+{
+    if (!IsBeingDeleted()) {
+        Hide();
+        wxTheApp->ScheduleForDestruction(this);
+    }
+    return true;
+}
+
+void wxColourCombo::ShowPopup()
+{
+    if (GetPopupControl())
+        wxComboCtrl::ShowPopup();
+}
+
+bool wxColourCombo::IsClientAreaChild(const wxWindow* child) const
+{
+    return !child->IsTopLevel() && wxComboCtrl::IsClientAreaChild(child);
+}
+
+bool wxColourCombo::AnimateShow(const wxRect& rect, int flags)
+{
+    m_animStart = wxGetLocalTimeMillis();
+    m_animFlags = flags;
+    m_animRect = rect;
+    wxScreenDC screen;
+    const wxSize screenSize = screen.GetSize();
+    if (rect.IsEmpty() || screenSize.x <= 0 || screenSize.y <= 0)
+        return true;
+    m_animBitmap = CopyOfScreen(screen, rect);
+    if (!m_outline)
+        m_outline = new fittings::OutlineWindow(this);
+    m_animTimer.SetOwner(this, wxID_ANY);
+    m_animTimer.Start(kTick, wxTIMER_CONTINUOUS);
+    wxTimerEvent firstStep(m_animTimer);
+    OnTimerEvent(firstStep);
+    return false;
+}
+
+void wxColourCombo::OnTimerEvent(wxTimerEvent& /*event*/)
+{
+    wxComboPopup* const popup = GetPopupControl();
+    if (!popup) {
+        m_animTimer.Stop();
+        return;
+    }
+    const wxLongLong now = wxGetLocalTimeMillis();
+    auto elapsed = static_cast<std::int32_t>((now - m_animStart).GetValue());
+    // The clock was set back: without a new start the outline would wait until the time comes again.
+    if (elapsed < 0) {
+        m_animStart = now;
+        elapsed = 0;
+    }
+    if (!IsPopupWindowState(Hidden) && elapsed < m_animDuration)
+        DrawStep(elapsed);
+    else
+        EndAnimation(*popup->GetControl());
+}
+
+wxRect wxColourCombo::OutlineAt(int elapsed) const
+{
+    const int step = elapsed * kSteps / m_animDuration;
+    const int width = step * m_animRect.width / kSteps;
+    const double part = m_animRect.width > 0 ? static_cast<double>(width) / m_animRect.width : 0;
+    const int height = static_cast<int>(m_animRect.height * part);
+    const wxPoint centre(m_animRect.x + m_animRect.width / 2, m_animRect.y + m_animRect.height / 2);
+    return {centre.x - width / 2, centre.y - height / 2, width, height};
+}
+
+void wxColourCombo::DrawStep(int elapsed)
+{
+    const wxRect outline = OutlineAt(elapsed);
+    wxScreenDC screen;
+    screen.SetPen(*wxBLACK_PEN);
+    screen.SetBrush(*wxTRANSPARENT_BRUSH);
+    if (m_animBitmap.IsOk())
+        screen.DrawBitmap(m_animBitmap, m_animRect.GetPosition());
+    screen.DrawRectangle(outline);
+    // What is drawn on the screen itself lies below all windows.
+    if (m_outline)
+        m_outline->ShowOutline(m_animRect, outline);
+}
+
+void wxColourCombo::EndAnimation(wxWindow& popup)
+{
+    if (m_animBitmap.IsOk())
+        wxScreenDC().DrawBitmap(m_animBitmap, m_animRect.GetPosition());
+    if (m_outline)
+        m_outline->Hide();
+    popup.Move(0, 0);
+    const bool animated = m_animTimer.IsRunning();
+    m_animTimer.Stop();
+    if (IsBeingDeleted())
+        return;
+    // Who closed the popup too early to see it gets it nevertheless; the base shows only what is being opened.
+    if (animated && IsPopupWindowState(Hidden)) {
+        m_popupWinState = Animating;
+        m_winPopup->Enable();
+    }
+    DoShowPopup(m_animRect, m_animFlags);
+}

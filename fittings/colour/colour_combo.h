@@ -1,0 +1,90 @@
+#ifndef FITTINGS_COLOUR_COLOUR_COMBO_H_
+#define FITTINGS_COLOUR_COLOUR_COMBO_H_
+
+#include <wx/bitmap.h>
+#include <wx/combo.h>
+#include <wx/gdicmn.h>
+#include <wx/longlong.h>
+#include <wx/timer.h>
+
+#include <fittings/base/export.h>
+
+namespace fittings {
+class OutlineWindow;
+}
+
+/// A combo control whose popup opens with an animation: a black outline grows from the middle of the popup's place to
+/// its full size. Made for a wxColourPopup, and works with any other popup as well.
+///
+/// @code
+/// class LinePage : public wxPanel, private wxColorPopupListener
+/// {
+///     explicit LinePage(wxWindow* parent) : wxPanel(parent)
+///     {
+///         auto* const combo = new wxColourCombo;
+///         combo->Create(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxCB_READONLY);
+///         auto* const popup = new wxColourPopup;
+///         popup->SetInitialColour(m_line);
+///         popup->SetColorListener(this);
+///         combo->SetPopupControl(popup);
+///     }
+///
+///     void OnColourSelEnd(const wxColour& colour) override { m_line = colour; }
+///
+///     wxColour m_line = *wxBLUE;
+/// };
+/// @endcode
+///
+/// The face shows the colour in effect. The control is reached by Tab and opened by F4 and Alt+Down, with wxCB_READONLY
+/// too; the toolkit's own combo control refuses the focus then.
+///
+/// Where no program may place its windows or copy the screen, as on Wayland, the popup opens at once. Closing the popup
+/// while the animation runs ends the animation, and the popup is shown all the same. wxComboCtrl::EnablePopupAnimation()
+/// turns the animation off.
+///
+/// GUI thread only.
+class FITTINGS_API wxColourCombo : public wxComboCtrl
+{
+public:
+    /// Makes the object; the control itself comes with Create(), the popup with SetPopupControl(), which takes it over.
+    wxColourCombo();
+    ~wxColourCombo() override;
+
+    /// Takes the control off the screen and deletes it when no event is under way, so that a listener of its popup may
+    /// call this. A control that is deleted in another way must not be so from within one of its own events.
+    bool Destroy() override;
+
+    /// Opens the popup; asserts and does nothing before SetPopupControl().
+    void ShowPopup() override;
+
+    /// Leaves the popup out of what the focus is passed on to, which would make the control refuse it.
+    bool IsClientAreaChild(const wxWindow* child) const override;
+
+    /// One step of the animation; the last one shows the popup. The event is not used.
+    void OnTimerEvent(wxTimerEvent& event);
+
+protected:
+    /// Starts the animation, and returns false: the popup is shown at its end. True, and no animation, where the screen
+    /// cannot be drawn to or @a rect, in screen coordinates, is empty.
+    bool AnimateShow(const wxRect& rect, int flags) override;
+
+    /// The outline after @a elapsed milliseconds, from 0 to m_animDuration, in screen coordinates. It grows in 256 steps.
+    wxRect OutlineAt(int elapsed) const;
+
+    wxLongLong m_animStart;  ///< Local time in milliseconds.
+    wxTimer m_animTimer;
+    wxRect m_animRect;         ///< Where the popup will be on the screen.
+    wxBitmap m_animBitmap;     ///< What the screen showed there.
+    int m_animFlags = 0;       ///< For DoShowPopup().
+    int m_animDuration = 200;  ///< Milliseconds.
+
+private:
+    void DrawStep(int elapsed);
+    void EndAnimation(wxWindow& popup);
+
+    fittings::OutlineWindow* m_outline = nullptr;
+
+    wxDECLARE_EVENT_TABLE();
+};
+
+#endif
