@@ -1,0 +1,131 @@
+#include <fittings/numedit/num_validator.h>
+
+#include <string>
+
+#include <wx/textctrl.h>
+#include <wx/utils.h>
+
+#include <fittings/numedit/number_edit_utils.h>
+
+namespace {
+
+// A character that has no key code of its own comes with code 0 and its Unicode value.
+bool IsCharacter(int keyCode)
+{
+    if (keyCode == WXK_DELETE || keyCode < WXK_SPACE)
+        return keyCode == WXK_NONE;
+    return keyCode <= WXK_START;
+}
+
+// What the control will hold if it takes the character. erase() also rejects an insertion point beyond the text.
+std::wstring TextWith(wchar_t character, const wxTextCtrl& control)
+{
+    std::wstring text = control.GetValue().ToStdWstring();
+    const auto position = static_cast<std::size_t>(control.GetInsertionPoint());
+    text.erase(position, control.GetStringSelection().length());
+    text.insert(position, 1, character);
+    return text;
+}
+
+}  // namespace
+
+wxBEGIN_EVENT_TABLE(wxNumValidator, wxValidator)
+    EVT_CHAR(wxNumValidator::OnChar)
+    EVT_KEY_DOWN(wxNumValidator::OnKeyDown)
+wxEND_EVENT_TABLE()
+
+wxNumValidator::wxNumValidator(const CNumberFormat& format, wxString* value) : m_format(eLocaleFormat), m_pString(value)
+{
+    m_format = format;
+}
+
+// A copy is set on a window of its own, and follows the keys of that window.
+// NOLINTNEXTLINE(bugprone-copy-constructor-init)
+wxNumValidator::wxNumValidator(const wxNumValidator& other)
+    : wxValidator(), m_format(eLocaleFormat), m_pString(other.m_pString)
+{
+    m_format = other.m_format;
+}
+
+wxNumValidator::~wxNumValidator() = default;
+
+wxObject* wxNumValidator::Clone() const
+{
+    return new wxNumValidator(*this);
+}
+
+const CNumberFormat& wxNumValidator::GetFormat() const
+{
+    return m_format;
+}
+
+bool wxNumValidator::CheckValidator() const
+{
+    return wxDynamicCast(GetWindow(), wxTextCtrl) != nullptr;
+}
+
+bool wxNumValidator::Validate(wxWindow*)
+{
+    if (!CheckValidator())
+        return false;
+    auto* control = static_cast<wxTextCtrl*>(GetWindow());
+    if (!control->IsEnabled())
+        return true;
+    if (CNumberEditUtils::ValidateString(control->GetValue().wc_str(), m_format))
+        return true;
+    control->SetFocus();
+    return false;
+}
+
+bool wxNumValidator::TransferToWindow()
+{
+    if (!m_pString)
+        return true;
+    if (!CheckValidator())
+        return false;
+    static_cast<wxTextCtrl*>(GetWindow())->SetValue(*m_pString);
+    return true;
+}
+
+bool wxNumValidator::TransferFromWindow()
+{
+    if (!m_pString)
+        return true;
+    if (!CheckValidator())
+        return false;
+    const wxString value = static_cast<wxTextCtrl*>(GetWindow())->GetValue();
+    if (!CNumberEditUtils::ValidateString(value.wc_str(), m_format))
+        return false;
+    *m_pString = value;
+    return true;
+}
+
+void wxNumValidator::OnChar(wxKeyEvent& event)
+{
+    if (!CheckValidator() || !IsCharacter(event.GetKeyCode())) {
+        event.Skip();
+        return;
+    }
+    auto* control = static_cast<wxTextCtrl*>(GetWindow());
+
+    wchar_t character = m_bNumpadDecimal ? m_format.m_chDecimalPoint : static_cast<wchar_t>(event.GetKeyCode());
+    if (character == 0)
+        character = event.GetUnicodeKey();
+
+    if (!CNumberEditUtils::ValidateInput(TextWith(character, *control).c_str(), m_format)) {
+        if (!IsSilent())
+            wxBell();
+        return;
+    }
+    // What the layout made of the keypad's key is dropped in favour of the format's own point.
+    if (m_bNumpadDecimal)
+        control->WriteText(wxString(character));
+    else
+        event.Skip();
+}
+
+void wxNumValidator::OnKeyDown(wxKeyEvent& event)
+{
+    m_bNumpadDecimal = event.GetKeyCode() == WXK_NUMPAD_DECIMAL;
+    event.Skip();
+}
