@@ -5,11 +5,17 @@
 
 #include <wx/dcclient.h>
 #include <wx/settings.h>
+#include <wx/translation.h>
 
 #include <fittings/base/or_empty.h>
 #include <fittings/colour/colour_text.h>
 
 namespace {
+
+// Translators: chooses the colour that a document or program has by itself.
+constexpr const wchar_t* kAutomatic = wxTRANSLATE(L"Automatic");
+// Translators: opens the dialog in which any colour can be mixed.
+constexpr const wchar_t* kMoreColours = wxTRANSLATE(L"More Colours...");
 
 constexpr int kColumns = 8;
 constexpr int kBoxSize = 18;
@@ -61,8 +67,8 @@ void wxColourPopup::Initialise()
     m_pCenterOn = nullptr;
 
     m_nNumColours = fittings::kColourCount;
-    m_strAutomatic = fittings::OrEmpty(fittings::ColourText(L"Automatic"));
-    m_strMoreColours = fittings::OrEmpty(fittings::ColourText(L"More Colours..."));
+    m_strAutomatic = fittings::OrEmpty(fittings::ColourText(kAutomatic));
+    m_strMoreColours = fittings::OrEmpty(fittings::ColourText(kMoreColours));
     m_nNumColumns = kColumns;
     m_nNumRows = 0;
     m_nBoxSize = kBoxSize;

@@ -1,0 +1,174 @@
+// The popup in another language. The table is built once a process, so each language has a process of its own.
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <sstream>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include <tests/support/child_process.h>
+
+namespace {
+
+using Lines = std::map<std::string, std::string>;
+
+// What the probe prints in the language, by the line's first word, or its first two for a numbered line.
+Lines PopupIn(const std::string& language)
+{
+    std::istringstream output(RunChild({COLOUR_LANGUAGE_PROBE, LIBRARY_LOCALE_DIR, language}));
+    Lines lines;
+    for (std::string line; std::getline(output, line);) {
+        std::size_t end = line.find(' ');
+        const std::string first = line.substr(0, end);
+        if (first == "name" || first == "hot")
+            end = line.find(' ', end + 1);
+        lines[line.substr(0, end)] = line.substr(end + 1);
+    }
+    return lines;
+}
+
+struct Size
+{
+    int width = 0;
+    int height = 0;
+};
+
+Size SizeIn(const Lines& lines, const std::string& name)
+{
+    Size size;
+    std::istringstream(lines.at(name)) >> size.width >> size.height;
+    return size;
+}
+
+void ExpectNames(const Lines& lines, const std::array<const char*, 40>& names)
+{
+    for (int i = 0; i < 40; ++i)
+        EXPECT_EQ(lines.at("name " + std::to_string(i)), names.at(i)) << i;
+}
+
+// As wide as the wider text, and two boxes as high as the higher one.
+void ExpectSizeOfTexts(const Lines& lines)
+{
+    const Size automatic = SizeIn(lines, "automatic-size");
+    const Size more = SizeIn(lines, "more-size");
+    ASSERT_GT(more.width, 148);
+    EXPECT_GT(more.width, automatic.width);
+    EXPECT_EQ(SizeIn(lines, "window").width, more.width + 4);
+    EXPECT_EQ(SizeIn(lines, "window").height, 2 * std::max(automatic.height, more.height) + 128);
+}
+
+TEST(ColourLanguage, German)
+{
+    const Lines lines = PopupIn("de");
+    ExpectNames(lines, {"Schwarz",    "Braun",       "Dunkles Olivgrün", "Dunkelgrün",   "Dunkles Blaugrün",
+                        "Dunkelblau", "Indigo",      "Dunkelgrau",       "Dunkelrot",    "Orange",
+                        "Dunkelgelb", "Grün",        "Blaugrün",         "Blau",         "Blaugrau",
+                        "Grau 40",    "Rot",         "Hellorange",       "Limettengrün", "Meergrün",
+                        "Aquamarin",  "Hellblau",    "Violett",          "Grau 50",      "Rosa",
+                        "Gold",       "Gelb",        "Leuchtendes Grün", "Türkis",       "Himmelblau",
+                        "Pflaume",    "Hellgrau",    "Zartrosa",         "Hellbraun",    "Hellgelb",
+                        "Blassgrün",  "Blasstürkis", "Blassblau",        "Lavendel",     "Weiß"});
+    EXPECT_EQ(lines.at("automatic"), "Automatisch");
+    EXPECT_EQ(lines.at("more"), "Weitere Farben...");
+    EXPECT_EQ(lines.at("hot 16"), "Rot");
+    EXPECT_EQ(lines.at("hint"), "Rot");
+    ExpectSizeOfTexts(lines);
+}
+
+TEST(ColourLanguage, Japanese)
+{
+    const Lines lines = PopupIn("ja");
+    ExpectNames(lines, {"黒",
+                        "茶",
+                        "濃いオリーブグリーン",
+                        "濃い緑",
+                        "濃い青緑",
+                        "濃い青",
+                        "インディゴ",
+                        "濃い灰色",
+                        "濃い赤",
+                        "オレンジ",
+                        "濃い黄",
+                        "緑",
+                        "青緑",
+                        "青",
+                        "ブルーグレー",
+                        "灰色 40",
+                        "赤",
+                        "薄いオレンジ",
+                        "ライム",
+                        "シーグリーン",
+                        "アクアマリン",
+                        "薄い青",
+                        "紫",
+                        "灰色 50",
+                        "ピンク",
+                        "ゴールド",
+                        "黄",
+                        "明るい緑",
+                        "ターコイズ",
+                        "スカイブルー",
+                        "プラム",
+                        "薄い灰色",
+                        "ローズ",
+                        "ベージュ",
+                        "薄い黄",
+                        "淡い緑",
+                        "淡いターコイズ",
+                        "淡い青",
+                        "ラベンダー",
+                        "白"});
+    EXPECT_EQ(lines.at("automatic"), "自動");
+    EXPECT_EQ(lines.at("more"), "その他の色...");
+    EXPECT_EQ(lines.at("hot 16"), "赤");
+    EXPECT_EQ(lines.at("hint"), "赤");
+    ExpectSizeOfTexts(lines);
+}
+
+// English is what a language without a catalogue falls back to.
+TEST(ColourLanguage, Finnish)
+{
+    const Lines lines = PopupIn("fi");
+    EXPECT_EQ(lines.at("name 0"), "Black");
+    EXPECT_EQ(lines.at("name 35"), "Pale green ");
+    EXPECT_EQ(lines.at("automatic"), "Automatic");
+    EXPECT_EQ(lines.at("more"), "More Colours...");
+    EXPECT_EQ(lines.at("hot 16"), "Red");
+    ExpectSizeOfTexts(lines);
+}
+
+TEST(ColourLanguage, MakesTheWidth)
+{
+    const int german = SizeIn(PopupIn("de"), "window").width;
+    const int japanese = SizeIn(PopupIn("ja"), "window").width;
+    EXPECT_NE(german, japanese);
+}
+
+class ColourCatalogue : public testing::TestWithParam<const char*>
+{
+};
+
+TEST_P(ColourCatalogue, NamesEveryColourAndBox)
+{
+    const Lines lines = PopupIn(GetParam());
+    std::map<std::string, int> uses;
+    for (int i = 0; i < 40; ++i) {
+        const std::string& name = lines.at("name " + std::to_string(i));
+        EXPECT_NE(name, "") << i;
+        ++uses[name];
+    }
+    EXPECT_EQ(uses.size(), 40U);
+    EXPECT_NE(lines.at("automatic"), "Automatic");
+    EXPECT_NE(lines.at("more"), "More Colours...");
+    EXPECT_NE(lines.at("name 35"), "Pale green ");
+    ExpectSizeOfTexts(lines);
+}
+
+INSTANTIATE_TEST_SUITE_P(, ColourCatalogue,
+                         testing::Values("ar", "cs", "de", "es", "fr", "it", "ja", "ko", "nl", "pl", "pt_BR", "ru",
+                                         "tr", "uk", "zh_CN"),
+                         [](const auto& info) { return info.param; });
+
+}  // namespace
