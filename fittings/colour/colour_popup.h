@@ -87,8 +87,8 @@ public:
     /// the combo. The popup itself is not moved.
     void SetCenterOn(wxWindow* window) { m_pCenterOn = window; }
 
-    /// Brings every setting, the listener included, to its initial value; a popup that is already created keeps its
-    /// layout. The constructor does it.
+    /// Brings every setting, the listener included, to its initial value. The constructor does it. A window that
+    /// exists has to be laid out again by SetWindowSize().
     void Initialise();
     /// @}
 
@@ -136,7 +136,7 @@ public:
 
     /// Gives the rectangle of a cell and true. False, and @a rect as it was, when there is no such cell.
     ///
-    /// Of a box the rectangle of the last layout is given, also where it is absent.
+    /// A box always has one: that of the last layout, empty where the box was absent then.
     bool GetCellRect(int index, wxRect& rect) const;
 
     /// The popup's own size, whatever the combo would like.

@@ -1,0 +1,200 @@
+// How the names are looked up: by a platform of the test's own, which counts, throws and answers null.
+
+#include <array>
+#include <atomic>
+#include <chrono>
+#include <mutex>
+#include <stdexcept>
+#include <string>
+#include <thread>
+#include <utility>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include <fittings/platform/lng_util.h>
+#include <tests/colour/open_popup.h>
+
+namespace {
+
+struct LookUp
+{
+    std::wstring key;
+    CLanguageDomain* domain;
+    const wchar_t* answer;
+};
+
+std::mutex g_mutex;
+std::vector<LookUp> g_lookUps;
+std::wstring g_throwAt;
+std::atomic<bool> g_slow{false};
+
+}  // namespace
+
+// Takes the place of the platform library's.
+const wchar_t* lng_util_internal::DoGetResourceString(const wchar_t* key, CLanguageDomain* domain)
+{
+    // Time for another thread to come in.
+    if (g_slow)
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    const std::lock_guard lock(g_mutex);
+    const bool isMissing = key == std::wstring(L"Dark blue") || key == std::wstring(L"Automatic");
+    g_lookUps.push_back({key, domain, isMissing ? nullptr : key});
+    if (key == g_throwAt)
+        throw std::runtime_error("no translation today");
+    return g_lookUps.back().answer;
+}
+
+namespace {
+
+// The table is built once a process, so all is seen on the one way there.
+class ColourNames : public testing::Test
+{
+protected:
+    struct Threads
+    {
+        std::array<const ColourTableEntry*, 8> tables{};
+        std::vector<LookUp> lookUps;
+    };
+
+    static void SetUpTestSuite()
+    {
+        g_throwAt = L"Orange";
+        for (int i = 0; i < 2; ++i) {
+            EXPECT_THROW(GetColourTable(), std::runtime_error);
+            s_failed.push_back(std::exchange(g_lookUps, {}));
+        }
+        EXPECT_THROW(GetColourName(0), std::runtime_error);
+        s_failed.push_back(std::exchange(g_lookUps, {}));
+        g_throwAt.clear();
+        AskByEightThreads();
+    }
+
+    static void AskByEightThreads()
+    {
+        g_slow = true;
+        std::atomic<int> ready{0};
+        std::vector<std::thread> threads;
+        for (auto& table : s_threads.tables) {
+            threads.emplace_back([&] {
+                ++ready;
+                while (ready < 8)
+                    std::this_thread::yield();
+                table = GetColourTable();
+            });
+        }
+        for (std::thread& thread : threads)
+            thread.join();
+        g_slow = false;
+        s_threads.lookUps = std::exchange(g_lookUps, {});
+    }
+
+    static std::vector<std::vector<LookUp>> s_failed;
+    static Threads s_threads;
+};
+
+std::vector<std::vector<LookUp>> ColourNames::s_failed;
+ColourNames::Threads ColourNames::s_threads;
+
+TEST_F(ColourNames, AreLookedUpAgainAfterAFailure)
+{
+    ASSERT_EQ(s_failed.size(), 3U);
+    for (const auto& lookUps : s_failed) {
+        // Each starts from the beginning and ends at the one that throws.
+        ASSERT_EQ(lookUps.size(), 10U);
+        EXPECT_EQ(lookUps.front().key, L"Black");
+        EXPECT_EQ(lookUps.back().key, L"Orange");
+    }
+}
+
+TEST_F(ColourNames, AreLookedUpOnceByEightThreads)
+{
+    EXPECT_EQ(s_threads.lookUps.size(), 40U);
+    for (const ColourTableEntry* const table : s_threads.tables) {
+        EXPECT_NE(table, nullptr);
+        EXPECT_EQ(table, s_threads.tables[0]);
+    }
+    g_lookUps.clear();
+    EXPECT_EQ(GetColourTable(), s_threads.tables[0]);
+    EXPECT_STREQ(GetColourName(39), L"White");
+    EXPECT_TRUE(g_lookUps.empty());
+}
+
+TEST_F(ColourNames, AreLookedUpInOrderByTheirKeys)
+{
+    ASSERT_EQ(s_threads.lookUps.size(), 40U);
+    EXPECT_EQ(s_threads.lookUps[0].key, L"Black");
+    EXPECT_EQ(s_threads.lookUps[1].key, L"Brown");
+    EXPECT_EQ(s_threads.lookUps[2].key, L"Dark Olive Green");
+    EXPECT_EQ(s_threads.lookUps[35].key, L"Pale green ");
+    EXPECT_EQ(s_threads.lookUps[39].key, L"White");
+    for (int i = 0; i < 40; ++i) {
+        if (i != 5) {
+            EXPECT_STREQ(GetColourName(i), s_threads.lookUps[i].key.c_str());
+        }
+    }
+}
+
+TEST_F(ColourNames, AreThePlatformsOwnTexts)
+{
+    EXPECT_EQ(GetColourName(3), s_threads.lookUps.at(3).answer);
+    EXPECT_EQ(GetColourName(39), s_threads.lookUps.at(39).answer);
+}
+
+TEST_F(ColourNames, AreLookedUpInOneDomainThatNamesNone)
+{
+    CLanguageDomain* const domain = s_threads.lookUps.at(0).domain;
+    ASSERT_NE(domain, nullptr);
+    EXPECT_EQ(domain->GetName(), L"");
+    for (const LookUp& lookUp : s_threads.lookUps)
+        EXPECT_EQ(lookUp.domain, domain);
+    for (const auto& lookUps : s_failed)
+        EXPECT_EQ(lookUps[0].domain, domain);
+
+    g_lookUps.clear();
+    const OpenPopup popup;
+    ASSERT_EQ(g_lookUps.size(), 2U);
+    EXPECT_EQ(g_lookUps[0].key, L"Automatic");
+    EXPECT_EQ(g_lookUps[0].domain, domain);
+    EXPECT_EQ(g_lookUps[1].key, L"More Colours...");
+    EXPECT_EQ(g_lookUps[1].domain, domain);
+}
+
+TEST_F(ColourNames, ThatAreMissingAreEmpty)
+{
+    EXPECT_EQ(GetColourName(5), nullptr);
+    EXPECT_EQ(GetColourTable()[5].szName, nullptr);
+    const PopupInFrame popup;
+    popup->m_nCurrentSel = 5;
+    EXPECT_EQ(popup->GetStringValue(), "");
+    popup->m_nCurrentSel = 6;
+    EXPECT_EQ(popup->GetStringValue(), "Indigo");
+}
+
+TEST_F(ColourNames, ThatAreMissingEqualNoText)
+{
+    const PopupInFrame popup;
+    popup->m_nCurrentSel = 1;
+    popup->SetStringValue("");
+    EXPECT_EQ(popup->m_nCurrentSel, 1);
+    popup->SetStringValue("Indigo");
+    EXPECT_EQ(popup->m_nCurrentSel, 6);
+}
+
+TEST_F(ColourNames, AreNotNeededForTheColours)
+{
+    const PopupInFrame popup;
+    EXPECT_EQ(popup->GetColour(5), wxColour(0, 0, 139));
+    popup->FindCellFromColour(wxColour(0, 0, 139));
+    EXPECT_EQ(popup->m_nChosenColourSel, 5);
+}
+
+TEST_F(ColourNames, OfABoxThatAreMissingLeaveItOut)
+{
+    const PopupInFrame popup;
+    EXPECT_EQ(popup->m_strAutomatic, "");
+    EXPECT_EQ(popup->m_strMoreColours, "More Colours...");
+    EXPECT_EQ(popup->GetRow(CELL_AUTOMATIC), -1);
+}
+
+}  // namespace
