@@ -1,0 +1,56 @@
+// CutZeros(): nothing but blanks, zeros and points goes; a number keeps its value and is not cut a second time.
+
+#include <cwctype>
+
+#include <fittings/numedit/number_edit_utils.h>
+#include <fuzz/check.h>
+#include <fuzz/number_input.h>
+#include <fuzz/number_shape.h>
+
+namespace {
+
+std::wstring Cut(const std::wstring& text, const CNumberFormat& format)
+{
+    wxString cut(text);
+    CNumberEditUtils::CutZeros(cut, format);
+    return cut.ToStdWstring();
+}
+
+// What the operation has no right to touch.
+std::wstring Rest(const std::wstring& text, wchar_t point)
+{
+    std::wstring rest;
+    for (const wchar_t character : text) {
+        if (character != L'0' && character != point && !std::iswspace(static_cast<wint_t>(character)))
+            rest += character;
+    }
+    return rest;
+}
+
+bool HasNeedlessZero(const std::wstring& number)
+{
+    return number.size() > 1 && number[0] == L'0' && number[1] >= L'0' && number[1] <= L'9';
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    const NumberInput input(data, size);
+    const wchar_t point = input.format.m_chDecimalPoint;
+    const std::wstring cut = Cut(input.text, input.format);
+    Check(!cut.empty(), "something is left");
+    Check(cut.size() <= input.text.size() + 1, "at most a zero is added");
+    Check(Rest(cut, point) == Rest(input.text, point), "only blanks, zeros and points go");
+
+    const std::wstring number = WithoutBlanks(input.text);
+    NumberShape shape{point};
+    shape.exponentWithoutLetter = false;
+    if (!IsPlainPoint(point) || !HasShape(number, shape))
+        return 0;
+    Check(Cut(cut, input.format) == cut, "what was cut is not cut again");
+    Check(!HasNeedlessZero(cut), "no needless zero is left in front");
+    if (point == input.localePoint)
+        Check(ValueOf(cut) == ValueOf(number), "the value stays");
+    return 0;
+}

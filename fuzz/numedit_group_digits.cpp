@@ -1,0 +1,29 @@
+// GroupDigits(): what is left when the separators are taken out again is the text, and they stand where they should.
+
+#include <fittings/numedit/number_edit_utils.h>
+#include <fuzz/check.h>
+#include <fuzz/number_input.h>
+#include <fuzz/number_shape.h>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    const NumberInput input(data, size);
+    const wchar_t point = input.format.m_chDecimalPoint;
+    const wchar_t separator = input.format.m_chThousandsSep;
+    wxString text(input.text);
+    CNumberEditUtils::GroupDigits(text, input.format);
+    const std::wstring grouped = text.ToStdWstring();
+    Check(grouped.find(L'\0') == std::wstring::npos, "the text ends at its first zero character");
+
+    const std::size_t integer = std::min(input.text.find(point), input.text.size());
+    if (separator == 0 || input.text.find(L'\0') != std::wstring::npos)
+        return 0;
+    const std::size_t separators = integer == 0 ? 0 : (integer - 1) / 3;
+    Check(grouped.size() == input.text.size() + separators, "a separator for each three characters");
+    Check(grouped.compare(integer + separators, std::wstring::npos, input.text, integer) == 0, "the fraction stays");
+    for (std::size_t back = 1; back <= separators; ++back)
+        Check(grouped[integer + separators - 4 * back] == separator, "separators count from the point");
+    if (input.text.find(separator) == std::wstring::npos)
+        Check(Without(grouped, separator) == input.text, "without the separators it is the text again");
+    return 0;
+}

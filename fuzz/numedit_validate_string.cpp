@@ -1,0 +1,46 @@
+// ValidateString(): accepts exactly what the automaton of its grammar accepts and the bounds allow.
+
+#include <algorithm>
+
+#include <fittings/numedit/number_edit_utils.h>
+#include <fuzz/check.h>
+#include <fuzz/number_input.h>
+#include <fuzz/number_shape.h>
+
+namespace {
+
+NumberShape ShapeOf(const CNumberFormat& format, wchar_t localePoint)
+{
+    NumberShape shape{localePoint};
+    shape.sign = format.m_bAllowSign;
+    shape.exponent = format.m_bAllowExponent;
+    shape.fraction = format.m_bHasDecimals && format.m_nDecimals > 0;
+    if (format.m_bHasDecimals)
+        shape.maxDecimals = format.m_nDecimals;
+    if (format.m_bHasMaxIntDigits)
+        shape.maxIntDigits = format.m_nMaxIntDigits;
+    return shape;
+}
+
+// A bound that is NaN stops no number, and no bound stops NaN.
+bool IsWithinBounds(double value, const CNumberFormat& format)
+{
+    const bool isTooSmall = format.m_bHasMin && value < format.m_dMin;
+    const bool isTooLarge = format.m_bHasMax && value > format.m_dMax;
+    return !isTooSmall && !isTooLarge;
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    const NumberInput input(data, size);
+    std::wstring typed = input.Typed();
+    const bool isValid = CNumberEditUtils::ValidateString(typed.c_str(), input.format);
+
+    std::replace(typed.begin(), typed.end(), input.format.m_chDecimalPoint, input.localePoint);
+    const bool hasShape = HasShape(typed, ShapeOf(input.format, input.localePoint));
+    const bool expected = hasShape && IsWithinBounds(ValueOf(typed), input.format);
+    Check(isValid == expected, "what the grammar and the bounds accept is accepted, and nothing else");
+    return 0;
+}
