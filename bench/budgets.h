@@ -16,6 +16,7 @@ constexpr Budget kBudgets[] = {
     {"store/100k-load-get-save", "wxFileConfig", 0.25},
     {"tree/save-100k", "walk by child cookie copying every label", 4.0},
     {"tree/load-10k", "wxTreeCtrl::Expand of the same items, frozen", 1.5},
+    {"colour/paint", "the same primitives with pens and brushes made once", 3.0},
     {"gallery/sum-usr", "du -s", 1.5},
 };
 
