@@ -6,6 +6,7 @@
 #include <wx/dcmemory.h>
 #include <wx/dcscreen.h>
 
+#include <fittings/colour/direct_drawing.h>
 #include <fittings/colour/outline_window.h>
 
 namespace {
@@ -13,8 +14,9 @@ namespace {
 constexpr int kTick = 10;
 constexpr int kSteps = 256;
 
-wxBitmap CopyOfScreen(wxScreenDC& screen, const wxRect& rect)
+wxBitmap CopyOfScreen(const wxRect& rect)
 {
+    wxScreenDC screen;
     wxBitmap bitmap(rect.GetSize());
     wxMemoryDC copy(bitmap);
     copy.Blit(wxPoint(0, 0), rect.GetSize(), &screen, rect.GetPosition(), wxCOPY);
@@ -30,7 +32,14 @@ wxEND_EVENT_TABLE()
 
 wxColourCombo::wxColourCombo() = default;
 
-wxColourCombo::~wxColourCombo() = default;
+wxColourCombo::~wxColourCombo()
+{
+    m_animTimer.Stop();
+    // The popup is closed here and not by the base, so that a listener that now wants the control destroyed finds that
+    // it is being so.
+    SendDestroyEvent();
+    HidePopup(true);
+}
 
 bool wxColourCombo::Destroy()
 {
@@ -57,11 +66,9 @@ bool wxColourCombo::AnimateShow(const wxRect& rect, int flags)
     m_animStart = wxGetLocalTimeMillis();
     m_animFlags = flags;
     m_animRect = rect;
-    wxScreenDC screen;
-    const wxSize screenSize = screen.GetSize();
-    if (rect.IsEmpty() || screenSize.x <= 0 || screenSize.y <= 0)
+    if (rect.IsEmpty() || !fittings::CanDrawDirectly())
         return true;
-    m_animBitmap = CopyOfScreen(screen, rect);
+    m_animBitmap = CopyOfScreen(rect);
     if (!m_outline)
         m_outline = new fittings::OutlineWindow(this);
     m_animTimer.SetOwner(this, wxID_ANY);

@@ -1,6 +1,8 @@
 #ifndef FITTINGS_COLOUR_COLOUR_POPUP_H_
 #define FITTINGS_COLOUR_COLOUR_POPUP_H_
 
+#include <optional>
+
 #include <wx/colour.h>
 #include <wx/combo.h>
 #include <wx/font.h>
@@ -216,10 +218,12 @@ private:
     void DrawMoreColours(wxDC& dc);
     void DrawAutomatic(wxDC& dc);
     void DrawEdge(wxDC& dc, const wxRect& rect, int index);
-    int CellBelow() const;
-    int CellAbove() const;
-    int CellRight() const;
-    int CellLeft() const;
+    int CellTowards(int key) const;
+    void RedrawHotCells(int old);
+    bool HideCombo();
+    void RestoreValue();
+
+    std::optional<wxString> m_valueWhenShown;  ///< Of the combo; none once a colour has been chosen.
 
     wxDECLARE_EVENT_TABLE();
 };

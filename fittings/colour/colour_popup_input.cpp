@@ -4,10 +4,18 @@
 
 #include <wx/colordlg.h>
 #include <wx/dcclient.h>
+#include <wx/weakref.h>
 
 #include <fittings/base/or_empty.h>
+#include <fittings/colour/direct_drawing.h>
 
 namespace {
+
+// A listener may destroy the control, and the popup with it.
+using Alive = wxWeakRef<wxColourPopup>;
+
+// The frame is drawn in the second and third of the window's outermost pixels.
+constexpr int kFrameWidth = 3;
 
 int FirstPresent(std::initializer_list<int> cells)
 {
@@ -41,6 +49,10 @@ void wxColourPopup::OnPopup()
 {
     FindCellFromColour(m_crInitialColour);
     m_nCurrentSel = CELL_NONE;
+    // What is chosen while no cell is hot is the colour in effect.
+    m_crColour = m_crInitialColour;
+    if (m_combo)
+        m_valueWhenShown = m_combo->GetValue();
     Refresh();
     if (m_pListener)
         m_pListener->OnColourPopup();
@@ -48,91 +60,153 @@ void wxColourPopup::OnPopup()
 
 void wxColourPopup::OnDismiss()
 {
-    if (m_bInternalHide || !m_pListener)
+    if (m_bInternalHide)
+        return;
+    const Alive alive(this);
+    RestoreValue();
+    if (!alive || !m_pListener)
         return;
     m_crColour = m_crInitialColour;
-    m_pListener->OnColourSelCancel(m_crColour);
+    // A copy: the popup may go during the call, and its members with it. So elsewhere.
+    m_pListener->OnColourSelCancel(wxColour(m_crColour));
 }
 
 void wxColourPopup::ChangeSelection(int index)
 {
-    wxClientDC dc(this);
     if (index > m_nNumColours)
         index = CELL_MORE_COLOURS;
     const int old = m_nCurrentSel;
-    if ((old >= 0 && old < m_nNumColours) || old == CELL_MORE_COLOURS || old == CELL_AUTOMATIC) {
-        m_nCurrentSel = CELL_NONE;
-        DrawCell(&dc, old);
-    }
     m_nCurrentSel = index;
-    DrawCell(&dc, index);
-    DoDrawClientEdge(&dc);
-    m_crColour = GetColour(m_nCurrentSel);
+    if (GetHandle())
+        RedrawHotCells(old);
 
-    wxString name;
-    if (m_nCurrentSel >= 0 && m_nCurrentSel < fittings::kColourCount)
-        name = fittings::OrEmpty(GetColourName(m_nCurrentSel));
+    const bool isOfPalette = index >= 0 && index < fittings::kColourCount;
+    const bool isCell = isOfPalette || index == CELL_MORE_COLOURS || index == CELL_AUTOMATIC;
+    m_crColour = isCell ? GetColour(index) : m_crInitialColour;
+
+    const wxString name = isOfPalette ? fittings::OrEmpty(GetColourName(index)) : L"";
     if (name != m_strToolTip) {
         m_strToolTip = name;
-        SetToolTip(m_strToolTip);
+        if (GetHandle())
+            SetToolTip(m_strToolTip);
     }
     DoSelChange();
 }
 
+// The cell that was hot, the one that is, and the frame over both: not the whole popup, for each move of the pointer.
+void wxColourPopup::RedrawHotCells(int old)
+{
+    wxClientDC dc(this);
+    DrawCell(&dc, old);
+    DrawCell(&dc, m_nCurrentSel);
+    DoDrawClientEdge(&dc);
+    if (fittings::CanDrawDirectly())
+        return;
+
+    for (const int cell : {old, m_nCurrentSel}) {
+        wxRect rect;
+        if (!GetCellRect(cell, rect))
+            continue;
+        // This box is drawn with a separator above it, and lower by as much.
+        if (cell == CELL_MORE_COLOURS)
+            rect.height += 2 * m_nMargin;
+        RefreshRect(rect);
+    }
+    const wxSize size = GetClientSize();
+    RefreshRect(wxRect(0, 0, size.x, kFrameWidth));
+    RefreshRect(wxRect(0, size.y - kFrameWidth, size.x, kFrameWidth));
+    RefreshRect(wxRect(0, 0, kFrameWidth, size.y));
+    RefreshRect(wxRect(size.x - kFrameWidth, 0, kFrameWidth, size.y));
+}
+
 void wxColourPopup::DoSelChange()
 {
+    const Alive alive(this);
     if (m_pListener)
-        m_pListener->OnColourSelChange(m_crColour);
-    if (m_bRefreshCombo)
+        m_pListener->OnColourSelChange(wxColour(m_crColour));
+    if (alive && m_bRefreshCombo && m_combo)
         m_combo->Refresh();
 }
 
 void wxColourPopup::EndSelection(bool ok)
 {
     if (ok && m_nCurrentSel == CELL_MORE_COLOURS) {
-        m_bInternalHide = true;
-        m_combo->HidePopup(false);
-        m_bInternalHide = false;
+        if (!HideCombo())
+            return;
+        const Alive alive(this);
         DoShowColorDlg();
+        if (!alive)
+            return;
     }
     DoEndSel(ok);
 }
 
 void wxColourPopup::DoShowColorDlg()
 {
+    const Alive alive(this);
     wxColourData data;
     data.SetChooseFull(true);
     data.SetColour(m_crInitialColour);
-    wxColourDialog dialog(m_pCenterOn ? m_pCenterOn : m_combo, &data);
+    wxWindow* const parent = m_pCenterOn ? m_pCenterOn : m_combo;
+    wxColourDialog dialog(parent, &data);
     if (m_pCenterOn)
         dialog.Centre(wxBOTH);
-    if (dialog.ShowModal() == wxID_OK) {
-        m_crColour = dialog.GetColourData().GetColour();
-        m_crInitialColour = m_crColour;
-    } else {
-        m_crColour = m_crInitialColour;
-    }
+    const bool ok = dialog.ShowModal() == wxID_OK;
+    if (!alive)
+        return;
+    if (ok)
+        m_crInitialColour = dialog.GetColourData().GetColour();
+    m_crColour = m_crInitialColour;
 }
 
 void wxColourPopup::DoEndSel(bool ok)
 {
+    const Alive alive(this);
     if (ok) {
         m_crInitialColour = m_crColour;
         m_nChosenColourSel = m_nCurrentSel;
+        m_valueWhenShown.reset();
         if (m_pListener)
-            m_pListener->OnColourSelEnd(m_crColour);
+            m_pListener->OnColourSelEnd(wxColour(m_crColour));
     } else {
         m_crColour = m_crInitialColour;
         m_nChosenColourSel = CELL_NONE;
         if (m_pListener)
-            m_pListener->OnColourSelCancel(m_crColour);
+            m_pListener->OnColourSelCancel(wxColour(m_crColour));
     }
-    if (m_combo->IsPopupShown()) {
-        m_bInternalHide = true;
+    if (!alive || !m_combo)
+        return;
+    if (m_combo->IsPopupShown() && !HideCombo())
+        return;
+    if (!ok)
+        RestoreValue();
+    if (alive)
+        m_combo->Refresh();
+}
+
+// Closes the popup without a report to the listener; false when the popup is gone afterwards.
+bool wxColourPopup::HideCombo()
+{
+    const Alive alive(this);
+    m_bInternalHide = true;
+    if (m_combo)
         m_combo->HidePopup(false);
+    if (alive)
         m_bInternalHide = false;
-    }
-    m_combo->Refresh();
+    return alive;
+}
+
+// Closing makes the hot cell's name the combo's value, which is handed back when the popup is opened again: a plain
+// Enter would then choose the colour that was not chosen now.
+void wxColourPopup::RestoreValue()
+{
+    if (!m_combo || !m_valueWhenShown || m_combo->GetValue() == *m_valueWhenShown)
+        return;
+    const Alive alive(this);
+    m_bInternalHide = true;
+    m_combo->SetValueByUser(wxString(*m_valueWhenShown));
+    if (alive)
+        m_bInternalHide = false;
 }
 
 void wxColourPopup::OnMouseMove(wxMouseEvent& event)
@@ -164,16 +238,10 @@ void wxColourPopup::OnKeyDown(wxKeyEvent& event)
 {
     switch (event.GetKeyCode()) {
     case WXK_DOWN:
-        ChangeSelection(CellBelow());
-        break;
     case WXK_UP:
-        ChangeSelection(CellAbove());
-        break;
     case WXK_RIGHT:
-        ChangeSelection(CellRight());
-        break;
     case WXK_LEFT:
-        ChangeSelection(CellLeft());
+        ChangeSelection(CellTowards(event.GetKeyCode()));
         break;
     case WXK_RETURN:
     case WXK_NUMPAD_ENTER:
@@ -188,60 +256,31 @@ void wxColourPopup::OnKeyDown(wxKeyEvent& event)
     }
 }
 
-// The cells follow one another in a circle: "Automatic", the grid row by row, "More Colours...". A box that is absent
-// is passed over; GetIndex() gives it as no cell.
-
-int wxColourPopup::CellBelow() const
+// The cells follow one another in a circle: "Automatic", the grid row by row, "More Colours...".
+int wxColourPopup::CellTowards(int key) const
 {
-    const int more = GetIndex(CELL_MORE_COLOURS, CELL_MORE_COLOURS);
+    // A box that is absent is no cell here.
     const int automatic = GetIndex(CELL_AUTOMATIC, CELL_AUTOMATIC);
-    const int row = GetRow(m_nCurrentSel);
-    if (row == CELL_AUTOMATIC)
-        return GetIndex(0, 0);
-    if (row == CELL_MORE_COLOURS)
-        return FirstPresent({automatic, GetIndex(0, 0)});
-    return FirstPresent({GetIndex(row + 1, GetColumn(m_nCurrentSel)), more, automatic, GetIndex(0, 0)});
-}
+    const int more = GetIndex(CELL_MORE_COLOURS, CELL_MORE_COLOURS);
+    const int first = GetIndex(0, 0);
+    const int last = GetIndex(GetRow(m_nNumColours - 1), GetColumn(m_nNumColours - 1));
+    const bool forward = key == WXK_DOWN || key == WXK_RIGHT;
 
-int wxColourPopup::CellAbove() const
-{
-    const int more = GetIndex(CELL_MORE_COLOURS, CELL_MORE_COLOURS);
-    const int automatic = GetIndex(CELL_AUTOMATIC, CELL_AUTOMATIC);
-    const int last = m_nNumColours - 1;
     const int row = GetRow(m_nCurrentSel);
-    if (row == CELL_AUTOMATIC)
-        return FirstPresent({more, last});
-    if (row == CELL_MORE_COLOURS)
-        return last;
-    return row > 0 ? GetIndex(row - 1, GetColumn(m_nCurrentSel)) : FirstPresent({automatic, more, last});
-}
-
-int wxColourPopup::CellRight() const
-{
-    const int more = GetIndex(CELL_MORE_COLOURS, CELL_MORE_COLOURS);
-    const int automatic = GetIndex(CELL_AUTOMATIC, CELL_AUTOMATIC);
-    const int row = GetRow(m_nCurrentSel);
-    if (row == CELL_AUTOMATIC)
-        return GetIndex(0, 0);
-    if (row == CELL_MORE_COLOURS)
-        return FirstPresent({automatic, GetIndex(0, 0)});
     const int col = GetColumn(m_nCurrentSel);
-    const int next = col < m_nNumColumns - 1 ? GetIndex(row, col + 1) : GetIndex(row + 1, 0);
-    return FirstPresent({next, more, automatic, GetIndex(0, 0)});
-}
-
-int wxColourPopup::CellLeft() const
-{
-    const int more = GetIndex(CELL_MORE_COLOURS, CELL_MORE_COLOURS);
-    const int automatic = GetIndex(CELL_AUTOMATIC, CELL_AUTOMATIC);
-    const int last = m_nNumColours - 1;
-    const int row = GetRow(m_nCurrentSel);
     if (row == CELL_AUTOMATIC)
-        return FirstPresent({more, last});
+        return forward ? first : FirstPresent({more, last});
     if (row == CELL_MORE_COLOURS)
-        return last;
-    const int col = GetColumn(m_nCurrentSel);
-    if (col > 0)
-        return GetIndex(row, col - 1);
-    return row > 0 ? GetIndex(row - 1, m_nNumColumns - 1) : FirstPresent({automatic, more, last});
+        return forward ? FirstPresent({automatic, first}) : last;
+
+    int next = CELL_NONE;
+    if (key == WXK_DOWN)
+        next = GetIndex(row + 1, col);
+    else if (key == WXK_RIGHT)
+        next = col < m_nNumColumns - 1 ? GetIndex(row, col + 1) : GetIndex(row + 1, 0);
+    else if (key == WXK_LEFT && col > 0)
+        next = GetIndex(row, col - 1);
+    else if (row > 0)
+        next = GetIndex(row - 1, key == WXK_UP ? col : m_nNumColumns - 1);
+    return forward ? FirstPresent({next, more, automatic, first}) : FirstPresent({next, automatic, more, last});
 }

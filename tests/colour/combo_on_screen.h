@@ -1,6 +1,7 @@
 #ifndef FITTINGS_TESTS_COLOUR_COMBO_ON_SCREEN_H_
 #define FITTINGS_TESTS_COLOUR_COMBO_ON_SCREEN_H_
 
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -33,7 +34,21 @@ public:
         wxColourCombo::DoShowPopup(rect, flags);
     }
 
+    void Refresh(bool erase = true, const wxRect* rect = nullptr) override
+    {
+        ++refreshes;
+        wxColourCombo::Refresh(erase, rect);
+    }
+
+    void HidePopup(bool generateEvent = false) override
+    {
+        hidden.push_back(generateEvent);
+        wxColourCombo::HidePopup(generateEvent);
+    }
+
     std::vector<std::string> shown;
+    std::vector<bool> hidden;  ///< The argument of each call to hide the popup.
+    int refreshes = 0;
 };
 
 /// A frame with a combo of the given class and its popup, all gone when the object is.
@@ -41,11 +56,14 @@ template <typename Combo = OpenCombo, typename Popup = OpenPopup>
 class ComboOnScreen
 {
 public:
-    explicit ComboOnScreen(long style = wxCB_READONLY)
+    /// @a prepare sees the popup before the combo takes it over.
+    explicit ComboOnScreen(long style = wxCB_READONLY, const std::function<void(Popup&)>& prepare = {})
         : frame(new wxFrame(nullptr, wxID_ANY, "combo", wxPoint(200, 150), wxSize(500, 400))),
           panel(new wxPanel(frame)), combo(new Combo), popup(new Popup)
     {
         combo->Create(panel, wxID_ANY, "", wxPoint(20, 60), wxSize(150, -1), style);
+        if (prepare)
+            prepare(*popup);
         combo->SetPopupControl(popup);
     }
 

@@ -1,0 +1,42 @@
+#ifndef FITTINGS_TESTS_COLOUR_COLOUR_LISTENER_H_
+#define FITTINGS_TESTS_COLOUR_COLOUR_LISTENER_H_
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <fittings/colour/colour_popup.h>
+
+/// The calls that ColourListener notes.
+using ColourCalls = std::vector<std::string>;
+
+/// Notes each call with its colour, as "change #RRGGBB".
+class ColourListener : public wxColorPopupListener
+{
+public:
+    void OnColourPopup() override { Note("popup"); }
+    void OnColourSelChange(const wxColour& colour) override { Note("change", &colour); }
+    void OnColourSelEnd(const wxColour& colour) override { Note("end", &colour); }
+    void OnColourSelCancel(const wxColour& colour) override { Note("cancel", &colour); }
+
+    /// Returns the calls since the last time.
+    ColourCalls Take() { return std::exchange(m_calls, {}); }
+
+    std::function<void(const std::string& call)> during;  ///< Called within each call, with its note.
+
+private:
+    void Note(std::string call, const wxColour* colour = nullptr)
+    {
+        m_calls.push_back(call);
+        if (during)
+            during(call);
+        // The colour is read after what a host may do in the call, and must then still be there.
+        if (colour)
+            m_calls.back() += " " + colour->GetAsString(wxC2S_HTML_SYNTAX).ToStdString();
+    }
+
+    ColourCalls m_calls;
+};
+
+#endif
