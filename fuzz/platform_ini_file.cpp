@@ -1,0 +1,132 @@
+// INI files: whatever a file holds, loading and saving it changes nothing, and a value that is set is the one value that
+// changes, in memory and in the file.
+
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <memory>
+#include <string>
+
+#include <fittings/platform/local_reg_store.h>
+#include <fuzz/check.h>
+#include <fuzzer/FuzzedDataProvider.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr const wchar_t* kAbsent = L"<absent>";
+
+// Saving waits for the disk: in memory there is none to wait for.
+struct Folder
+{
+    Folder() { Check(mkdtemp(path.data()) != nullptr, "there is a folder to write to"); }
+    ~Folder() { rmdir(path.c_str()); }
+    Folder(const Folder&) = delete;
+    Folder& operator=(const Folder&) = delete;
+
+    std::string path = std::string(access("/dev/shm", W_OK) == 0 ? "/dev/shm" : "/tmp") + "/fittings-fuzz-XXXXXX";
+};
+
+const std::string& FolderPath()
+{
+    static const Folder folder;
+    return folder.path;
+}
+
+struct File
+{
+    explicit File(const char* name) : path(FolderPath() + "/" + name), widePath(path.begin(), path.end()) {}
+    ~File() { std::remove(path.c_str()); }
+    File(const File&) = delete;
+    File& operator=(const File&) = delete;
+
+    std::string Bytes() const
+    {
+        std::ifstream stream(path, std::ios::binary);
+        return {std::istreambuf_iterator<char>(stream), {}};
+    }
+    void SetBytes(const std::string& bytes) const { std::ofstream(path, std::ios::binary) << bytes; }
+
+    const std::string path;
+    const std::wstring widePath;
+};
+
+struct Destroy
+{
+    void operator()(CIniFile* ini) const { CLocalRegStore::DestroyIniFile(ini); }
+};
+using Ini = std::unique_ptr<CIniFile, Destroy>;
+
+Ini NewIni()
+{
+    return Ini(CLocalRegStore::CreateInitFile(false));
+}
+
+struct Address
+{
+    std::wstring section;
+    std::wstring key;
+
+    bool operator==(const Address& other) const { return section == other.section && key == other.key; }
+};
+
+std::wstring Get(const Ini& ini, const Address& address)
+{
+    return CLocalRegStore::GetString(*ini, address.section.c_str(), address.key.c_str(), kAbsent);
+}
+
+// A piece of the file, so that its own names are met; high bytes stand for unusual characters.
+std::wstring ConsumeText(FuzzedDataProvider& bytes, const std::string& file)
+{
+    constexpr wchar_t kUnusual[] = {0x1, 0x85, 0xA0, 0x2028, 0xD800, 0xDFFF, 0xFEFF, 0x10FFFF, 0x110000};
+    const std::size_t start = bytes.ConsumeIntegral<std::uint8_t>();
+    const std::size_t length = bytes.ConsumeIntegralInRange(0, 20);
+    std::wstring text;
+    for (const unsigned char byte : file.substr(std::min(start, file.size()), length))
+        text += byte < 0x80 ? static_cast<wchar_t>(byte) : kUnusual[byte % std::size(kUnusual)];
+    return text.substr(0, text.find(L'\0'));
+}
+
+Address ConsumeAddress(FuzzedDataProvider& bytes, const std::string& file)
+{
+    const std::wstring section = ConsumeText(bytes, file);
+    return {section, ConsumeText(bytes, file)};
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    // The last ten bytes say what is set and looked at, the rest is the file.
+    constexpr std::size_t kChoices = 10;
+    if (size < kChoices)
+        return 0;
+    const std::string content(reinterpret_cast<const char*>(data), size - kChoices);
+    FuzzedDataProvider bytes(data + size - kChoices, kChoices);
+    const Address set = ConsumeAddress(bytes, content);
+    const Address other = ConsumeAddress(bytes, content);
+    const std::wstring value = ConsumeText(bytes, content);
+
+    const File file("read.ini");
+    const File saved("saved.ini");
+    file.SetBytes(content);
+    const Ini ini = NewIni();
+    const bool isLoaded = CLocalRegStore::Load(*ini, file.widePath.c_str());
+    if (isLoaded) {
+        Check(CLocalRegStore::Save(*ini, saved.widePath.c_str()), "it can be saved");
+        Check(saved.Bytes() == content, "a file that was not changed is saved as it was");
+    }
+
+    const std::wstring otherValue = Get(ini, other);
+    CLocalRegStore::WriteString(*ini, set.section.c_str(), set.key.c_str(), value.c_str());
+    Check(Get(ini, set) == value, "a value that was set is there");
+    Check(set == other || Get(ini, other) == otherValue, "another value stays");
+
+    Check(CLocalRegStore::Save(*ini, saved.widePath.c_str()), "what was changed can be saved");
+    const Ini again = NewIni();
+    Check(CLocalRegStore::Load(*again, saved.widePath.c_str()), "what was saved can be loaded");
+    Check(Get(again, set) == value, "a value that was set comes back");
+    Check(set == other || Get(again, other) == otherValue, "another value comes back");
+    return 0;
+}
