@@ -382,8 +382,10 @@ TEST(DialogWithPanels, TransfersAndValidatesEachNumber)
     dialog.SetExtraStyle(dialog.GetExtraStyle() | wxWS_EX_VALIDATE_RECURSIVELY);
     auto* outer = new wxPanel(&dialog);
     auto* inner = new wxPanel(outer);
-    auto* across = new wxTextCtrl(outer, wxID_ANY, "", {}, {}, 0, wxNumValidator(FixedFormat(), &width));
-    auto* down = new wxTextCtrl(inner, wxID_ANY, "", {}, {}, 0, wxNumValidator(FixedFormat(), &height));
+    auto* across =
+        new wxTextCtrl(outer, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, 0, wxNumValidator(FixedFormat(), &width));
+    auto* down = new wxTextCtrl(inner, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, 0,
+                                wxNumValidator(FixedFormat(), &height));
 
     EXPECT_TRUE(dialog.TransferDataToWindow());
     EXPECT_EQ(across->GetValue(), "1.5");

@@ -361,8 +361,9 @@ TEST_F(Handlers, OnAnotherWindowPassEverything)
 {
     wxArrayString items;
     items.Add("nonsense");
-    wxWindow* const others[] = {new wxPanel(frame), new wxChoice(frame, wxID_ANY, {}, {}, items),
-                                new wxComboBox(frame, wxID_ANY, "nonsense", {}, {}, items),
+    wxWindow* const others[] = {new wxPanel(frame),
+                                new wxChoice(frame, wxID_ANY, wxDefaultPosition, wxDefaultSize, items),
+                                new wxComboBox(frame, wxID_ANY, "nonsense", wxDefaultPosition, wxDefaultSize, items),
                                 new wxSpinCtrl(frame, wxID_ANY)};
     for (wxWindow* other : others) {
         validator.SetWindow(other);

@@ -7,6 +7,7 @@
 #include <tests/numedit/keyboard.h>
 #include <tests/numedit/number_dialog.h>
 #include <tests/support/gui.h>
+#include <tests/support/scoped_locale.h>
 
 namespace {
 
@@ -200,6 +201,25 @@ TEST_F(GermanKeypad, IsRefusedWhereTheFormatHasAPoint)
     screen.Show("1");
     screen.PressRaw(kDecimalKey);
     EXPECT_EQ(screen.Text(), L"1");
+    EXPECT_EQ(screen.BellsRung(), 1);
+}
+
+TEST_F(Keypad, TypesTheLocalesPoint)
+{
+    const ScopedLocale german("de_DE.UTF-8", LC_NUMERIC);
+    CNumberFormat format(eLocaleFormat);
+    format.m_bHasDecimals = true;
+    format.m_nDecimals = 2;
+    NumberDialog screen(format);
+    screen.Show("1");
+    screen.PressRaw(kDecimalKey);
+    EXPECT_EQ(screen.keys.chars, Codes{46});
+    EXPECT_EQ(screen.Text(), L"1,");
+    screen.Type("5");
+    EXPECT_EQ(screen.Text(), L"1,5");
+    EXPECT_EQ(screen.BellsRung(), 0);
+    screen.Type(".");
+    EXPECT_EQ(screen.Text(), L"1,5");
     EXPECT_EQ(screen.BellsRung(), 1);
 }
 

@@ -5,8 +5,11 @@
 #include <gtest/gtest.h>
 
 #include <wx/clipbrd.h>
+#include <wx/combobox.h>
+#include <wx/sizer.h>
 #include <wx/uiaction.h>
 
+#include <tests/numedit/keyboard.h>
 #include <tests/numedit/number_dialog.h>
 #include <tests/support/gui.h>
 
@@ -117,6 +120,24 @@ TEST_F(DialogKeys, EscapeReachesCancel)
     wxUIActionSimulator keyboard;
     EXPECT_TRUE(keyboard.Char(WXK_ESCAPE));
     EXPECT_TRUE(PumpUntil([&] { return clicks == 1; }));
+    EXPECT_EQ(screen.BellsRung(), 0);
+}
+
+// What is typed there is not the validator's.
+TEST(KeysInAComboBox, TypeAnything)
+{
+    NumberDialog screen{FixedFormat()};
+    auto* combo = new wxComboBox(screen.dialog, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize, 0, nullptr, 0,
+                                 wxNumValidator(FixedFormat(L','), nullptr));
+    screen.dialog->GetSizer()->Add(combo);
+    screen.dialog->GetSizer()->SetSizeHints(screen.dialog);
+    screen.Show();
+    combo->SetFocus();
+    ASSERT_TRUE(PumpUntil([&] { return combo->HasFocus(); }));
+    screen.Type("1x.");
+    const NumLock numLock;
+    screen.PressRaw(std::to_string(kKeypadDecimal));
+    EXPECT_EQ(combo->GetValue(), "1x..");
     EXPECT_EQ(screen.BellsRung(), 0);
 }
 

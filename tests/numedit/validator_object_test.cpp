@@ -206,6 +206,35 @@ TEST(ValidatorClass, HasTwoEntriesInItsEventTable)
     EXPECT_EQ(wxEventType{table.entries[2].m_eventType}, wxEventType{wxEVT_NULL});
 }
 
+class HidingValidator : public wxNumValidator
+{
+public:
+    using wxNumValidator::wxNumValidator;
+
+    const CNumberFormat& GetFormat() const { return other; }
+    bool CheckValidator() const { return true; }
+    void OnChar(wxKeyEvent&) { ++calls; }
+    void OnKeyDown(wxKeyEvent&) { ++calls; }
+
+    CNumberFormat other{eLocaleFormat};
+    int calls = 0;
+};
+
+TEST(ValidatorClass, AddsNoVirtualOperations)
+{
+    HidingValidator hiding(FixedFormat(), nullptr);
+    wxNumValidator& validator = hiding;
+    EXPECT_TRUE(validator.GetFormat().m_bHasDecimals);
+    EXPECT_FALSE(validator.CheckValidator());
+    wxKeyEvent down(wxEVT_KEY_DOWN);
+    validator.OnKeyDown(down);
+    EXPECT_FALSE(validator.ProcessEvent(down));
+    wxKeyEvent character(wxEVT_CHAR);
+    validator.OnChar(character);
+    EXPECT_FALSE(validator.ProcessEvent(character));
+    EXPECT_EQ(hiding.calls, 0);
+}
+
 TEST(ValidatorClass, LaysItsMembersOutInOrder)
 {
     const OpenValidator validator(FixedFormat(), nullptr);
