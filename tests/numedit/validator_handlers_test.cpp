@@ -195,6 +195,20 @@ TEST_F(Handlers, TakeTheSelectionAwayFromTheCaretOnwards)
     EXPECT_TRUE(CharPasses('9')) << "195";
 }
 
+TEST_F(Handlers, TakeAsManyCharactersAwayAsAreSelected)
+{
+    Start("12,45", 0);
+    control->caret = 0;
+    control->selection = "xy";
+    EXPECT_FALSE(CharPasses(',')) << ",,45";
+    control->selection = "xyz";
+    EXPECT_TRUE(CharPasses(',')) << ",45";
+    Start("12,456", 0);
+    EXPECT_FALSE(CharPasses(',')) << ",456";
+    control->selection = "wxyz";
+    EXPECT_TRUE(CharPasses(',')) << ",56";
+}
+
 TEST_F(Handlers, TakeNoMoreAwayThanThereIs)
 {
     Start("123,45", 0);
