@@ -61,7 +61,7 @@ const CNumberFormat& wxNumValidator::GetFormat() const
 
 bool wxNumValidator::CheckValidator() const
 {
-    return wxDynamicCast(GetWindow(), wxTextCtrl) != nullptr;
+    return GetWindow() && GetWindow()->IsKindOf(wxCLASSINFO(wxTextCtrl));
 }
 
 bool wxNumValidator::Validate(wxWindow*)
