@@ -122,8 +122,13 @@ void BrowserPage::SaveSettings()
     RememberRoot();
     browser_settings::SaveSortOrder(m_list->GetSortOrder());
     browser_settings::SaveColumnWidths(m_list->GetColumnWidths());
-    if (m_layoutLoaded)
-        wx_window_state::SaveAuiManagerState(&m_layout, stateName);
+    if (!m_layoutLoaded)
+        return;
+    // Where the window manager is slow, the layout's own record is that of a window not yet placed.
+    wxAuiPaneInfo& folders = m_layout.GetPane(foldersPane);
+    if (folders.frame)
+        folders.floating_pos = folders.frame->GetPosition();
+    wx_window_state::SaveAuiManagerState(&m_layout, stateName);
 }
 
 bool BrowserPage::HasFolderAbove() const

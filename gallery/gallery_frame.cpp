@@ -18,6 +18,7 @@
 #include "contents_list.h"
 #include "folder_tree.h"
 #include "native_text.h"
+#include "numbers_page.h"
 
 namespace fittings {
 
@@ -41,7 +42,9 @@ GalleryFrame::GalleryFrame() : wxFrame(nullptr, wxID_ANY, "Fittings Gallery")
 
     m_pages = new wxNotebook(this, wxID_ANY);
     m_browser = new BrowserPage(m_pages);
-    AddPage(m_browser, "Disk usage");
+    m_pages->AddPage(m_browser, "Disk usage");
+    m_numbers = new NumbersPage(m_pages);
+    m_pages->AddPage(m_numbers, "Numbers");
     MakeMenus();
     ShareMenuKeys(m_browser->GetTree());
     BindEvents();
@@ -107,11 +110,6 @@ void GalleryFrame::ShareMenuKeys(wxWindow* pane)
     pane->SetAcceleratorTable(wxAcceleratorTable(static_cast<int>(keys.size()), keys.data()));
 }
 
-void GalleryFrame::AddPage(wxWindow* page, const wxString& title)
-{
-    m_pages->AddPage(page, title);
-}
-
 void GalleryFrame::BindEvents()
 {
     const auto bindCommand = [this](int id, void (BrowserPage::*run)()) {
@@ -138,6 +136,7 @@ void GalleryFrame::BindEvents()
         wxEVT_MENU, [this](wxCommandEvent& event) { ShowPage(event.GetId() - firstPageId); }, firstPageId,
         firstPageId + static_cast<int>(m_pages->GetPageCount()) - 1);
     Bind(EVT_BROWSER_CHANGED, [this](wxCommandEvent&) { ShowState(); });
+    Bind(wxEVT_CHAR_HOOK, &GalleryFrame::OnCharHook, this);
     Bind(wxEVT_CLOSE_WINDOW, &GalleryFrame::OnClose, this);
     m_pages->Bind(wxEVT_NOTEBOOK_PAGE_CHANGED, &GalleryFrame::OnPageChanged, this);
 
@@ -197,6 +196,15 @@ void GalleryFrame::OnPageChanged(wxBookCtrlEvent& event)
     event.Skip();
 }
 
+/// Lets Alt with a letter reach its control or menu first: a field that takes only numbers would refuse the letter.
+void GalleryFrame::OnCharHook(wxKeyEvent& event)
+{
+    const std::unique_ptr<GdkEvent, void (*)(GdkEvent*)> key(gtk_get_current_event(), gdk_event_free);
+    if (event.GetModifiers() != wxMOD_ALT || !key || key->type != GDK_KEY_PRESS ||
+        !gtk_window_activate_key(GTK_WINDOW(GetHandle()), &key->key))
+        event.Skip();
+}
+
 void GalleryFrame::OnAbout()
 {
     wxAboutDialogInfo info;
@@ -209,6 +217,7 @@ void GalleryFrame::OnAbout()
 void GalleryFrame::OnClose(wxCloseEvent& event)
 {
     m_browser->SaveSettings();
+    m_numbers->SaveSettings();
     browser_settings::SavePage(m_pages->GetCurrentPage()->GetName());
     wx_window_state::SaveState(this, stateName);
     event.Skip();

@@ -12,6 +12,7 @@ class wxNotebook;
 namespace fittings {
 
 class BrowserPage;
+class NumbersPage;
 
 /// The gallery's window: the disk-usage browser, and a page for each component that is shown by itself.
 ///
@@ -26,23 +27,25 @@ public:
 
     wxNotebook* GetPages() const { return m_pages; }
     BrowserPage* GetBrowser() const { return m_browser; }
+    NumbersPage* GetNumbers() const { return m_numbers; }
 
 private:
     void MakeMenus();
     wxMenu* MakeViewMenu() const;
     void ShareMenuKeys(wxWindow* pane);
-    void AddPage(wxWindow* page, const wxString& title);
     void BindEvents();
     bool ShowsBrowser() const;
     void ShowPage(int index);
     void ShowState();
     void OnMapped();
     void OnPageChanged(wxBookCtrlEvent& event);
+    void OnCharHook(wxKeyEvent& event);
     void OnAbout();
     void OnClose(wxCloseEvent& event);
 
     wxNotebook* m_pages = nullptr;
     BrowserPage* m_browser = nullptr;
+    NumbersPage* m_numbers = nullptr;
     bool m_mapped = false;
 };
 

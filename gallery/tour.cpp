@@ -153,6 +153,7 @@ bool Tour::Run()
         {"save a report", &Tour::SaveReport},
         {"choose a folder in the dialog", &Tour::ChooseFolder},
         {"cancel the dialog", &Tour::CancelFolder},
+        {"format a number as it is typed", &Tour::TypeNumber},
         {"find the window again", &Tour::RememberWindow},
         {"find it maximised again", &Tour::RememberMaximised},
     };

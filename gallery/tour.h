@@ -7,6 +7,7 @@
 #include "demo_folder.h"
 
 struct _GtkWidget;
+class wxWindow;
 
 namespace fittings {
 
@@ -32,12 +33,14 @@ private:
     bool SaveReport();
     bool ChooseFolder();
     bool CancelFolder();
+    bool TypeNumber();
     bool RememberWindow();
     bool RememberMaximised();
 
     bool IsTrue(bool condition, const char* claim);
     bool Waits(const std::function<bool()>& condition, const char* claim);
     bool VisitDialog(char key, const char* claim, const std::function<bool(_GtkWidget*)>& visit);
+    bool ShowPage(char key, const wxWindow* page);
     bool SavePicture(const char* component);
     bool Reopen();
 

@@ -95,7 +95,7 @@ bool BrowserTest::FoldersComeTo(const wxPoint& place)
 {
     return PumpUntil([&] {
         const wxAuiPaneInfo& pane = frame->GetBrowser()->GetLayout().GetPane(&Tree());
-        return pane.frame && pane.floating_pos == place && pane.frame->GetPosition() == place &&
+        return pane.frame && pane.frame->GetPosition() == place &&
                wxRect(place, pane.frame->GetSize()).Contains(Tree().GetScreenRect());
     });
 }

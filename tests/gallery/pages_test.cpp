@@ -1,0 +1,161 @@
+#include <filesystem>
+
+#include <wx/menu.h>
+#include <wx/notebook.h>
+
+#include <gallery/numbers_page.h>
+#include <tests/gallery/browser_fixture.h>
+
+namespace {
+
+using namespace fittings;
+using namespace fittings::simulated_user;
+namespace fs = std::filesystem;
+
+class Pages : public BrowserTest
+{
+protected:
+    void SetUp() override
+    {
+        fs::create_directories(temp / "a/b");
+        WriteFile(temp / "file", "x");
+    }
+
+    bool ShowsPage(const wxString& name)
+    {
+        return PumpUntil([&] {
+            const wxWindow* page = frame->GetPages()->GetCurrentPage();
+            return page->GetName() == name && page->IsShownOnScreen();
+        });
+    }
+
+    bool IsEnabled(int item) { return frame->GetMenuBar()->IsEnabled(item); }
+};
+
+TEST_F(Pages, AltWithADigitShowsOne)
+{
+    Open(root);
+    Press('2', wxMOD_ALT);
+    EXPECT_TRUE(ShowsPage("Numbers"));
+    Press('1', wxMOD_ALT);
+    EXPECT_TRUE(ShowsPage("Browser"));
+}
+
+TEST_F(Pages, AClickOnATabShowsOne)
+{
+    Open(root);
+    const wxPoint origin = frame->GetPages()->GetScreenPosition();
+    Click(origin + wxSize(150, 15));
+    EXPECT_TRUE(ShowsPage("Numbers"));
+    Click(origin + wxSize(30, 15));
+    EXPECT_TRUE(ShowsPage("Browser"));
+}
+
+TEST_F(Pages, TitleAndMenusFollowThePage)
+{
+    Open(root);
+    Tree().SelectPath(root + "/a");
+    ASSERT_TRUE(SelectionComesTo("a"));
+    EXPECT_TRUE(frame->GetTitle().EndsWith(L"/a \u2013 Fittings Gallery")) << frame->GetTitle();
+    for (const int item : {wxID_UP, wxID_REFRESH, wxID_VIEW_LIST, wxID_RESET})
+        EXPECT_TRUE(IsEnabled(item)) << item;
+    Press('2', wxMOD_ALT);
+    ASSERT_TRUE(ShowsPage("Numbers"));
+    EXPECT_EQ(frame->GetTitle(), L"Numbers \u2013 Fittings Gallery");
+    EXPECT_EQ(frame->GetStatusBar()->GetStatusText(0), "");
+    for (const int item : {wxID_UP, wxID_REFRESH, wxID_VIEW_LIST, wxID_RESET})
+        EXPECT_FALSE(IsEnabled(item)) << item;
+    EXPECT_TRUE(IsEnabled(wxID_OPEN));
+    EXPECT_TRUE(frame->GetMenuBar()->IsChecked(frame->GetMenuBar()->FindMenuItem("View", "Numbers")));
+    Press('1', wxMOD_ALT);
+    ASSERT_TRUE(ShowsPage("Browser"));
+    EXPECT_TRUE(frame->GetTitle().EndsWith(L"/a \u2013 Fittings Gallery")) << frame->GetTitle();
+    EXPECT_EQ(frame->GetStatusBar()->GetStatusText(0), "1 item");
+    EXPECT_TRUE(IsEnabled(wxID_UP));
+    EXPECT_TRUE(frame->GetMenuBar()->IsChecked(frame->GetMenuBar()->FindMenuItem("View", "Disk usage")));
+}
+
+TEST_F(Pages, TheFocusComesBackToWhereItWas)
+{
+    Open(root);
+    ASSERT_TRUE(PumpUntil([&] { return List().HasFocus(); }));
+    Press('2', wxMOD_ALT);
+    EXPECT_TRUE(PumpUntil([&] { return wxWindow::FindFocus() && wxWindow::FindFocus()->GetName() == "Number"; }));
+    Press('1', wxMOD_ALT);
+    EXPECT_TRUE(PumpUntil([&] { return List().HasFocus(); }));
+}
+
+TEST_F(Pages, TheShownPageComesBack)
+{
+    Open(root);
+    Press('2', wxMOD_ALT);
+    ASSERT_TRUE(ShowsPage("Numbers"));
+    Close();
+    Open("");
+    EXPECT_TRUE(ShowsPage("Numbers"));
+    EXPECT_EQ(frame->GetTitle(), L"Numbers \u2013 Fittings Gallery");
+    EXPECT_EQ(Tree().GetRootFolder(), root);
+}
+
+TEST_F(Pages, AFolderThatIsAskedForIsShown)
+{
+    Open(root);
+    Press('2', wxMOD_ALT);
+    ASSERT_TRUE(ShowsPage("Numbers"));
+    Close();
+    Open(root + "/a");
+    EXPECT_TRUE(ShowsPage("Browser"));
+    EXPECT_EQ(Tree().GetSelectedPath(), root + "/a");
+}
+
+TEST_F(Pages, NonsenseInTheSettingsShowsTheFirst)
+{
+    fs::create_directories(settings / "ui_config");
+    WriteFile(settings / "ui_config/browser.ini", "[Window]\nPage=Contents\n[Folders]\nRoots=" + root + "|\n");
+    Open("");
+    EXPECT_TRUE(ShowsPage("Browser"));
+}
+
+TEST_F(Pages, FloatingFoldersGoAndComeWithTheirPage)
+{
+    Open(root);
+    const wxPoint place = frame->GetPosition() + wxSize(300, 200);
+    FloatFolders(place);
+    frame->Raise();
+    List().SetFocus();
+    Press('2', wxMOD_ALT);
+    ASSERT_TRUE(ShowsPage("Numbers"));
+    EXPECT_TRUE(PumpUntil([&] { return !Tree().IsShownOnScreen(); }));
+    Close();
+
+    Open("");
+    ASSERT_TRUE(ShowsPage("Numbers"));
+    PumpPending();
+    EXPECT_FALSE(Tree().IsShownOnScreen());
+    Press('1', wxMOD_ALT);
+    EXPECT_TRUE(PumpUntil([&] { return Tree().IsShownOnScreen(); }));
+    EXPECT_TRUE(FoldersComeTo(place));
+}
+
+// Their layout is loaded with their page, so that what was never on the screen is not stored as it is.
+TEST_F(Pages, FoldersThatWereNotShownKeepTheirLayout)
+{
+    Open(root);
+    const int width = Tree().GetSize().x;
+    const wxRect tree = Tree().GetScreenRect();
+    const wxPoint sash(tree.GetRight() + 4, tree.y + 100);
+    Drag(sash, sash + wxSize(75, 0));
+    ASSERT_TRUE(PumpUntil([&] { return Tree().GetSize().x > width + 50; }));
+    const int dragged = Tree().GetSize().x;
+    Press('2', wxMOD_ALT);
+    ASSERT_TRUE(ShowsPage("Numbers"));
+    Close();
+    Open("");
+    Close();
+    Open("");
+    Press('1', wxMOD_ALT);
+    ASSERT_TRUE(ShowsPage("Browser"));
+    EXPECT_TRUE(PumpUntil([&] { return Tree().GetSize().x == dragged; }));
+}
+
+}  // namespace
