@@ -16,20 +16,20 @@ public:
     explicit wxThreadExImpl(wxThreadEx* owner) : wxThread(wxTHREAD_DETACHED), m_owner(owner) {}
 
 private:
-    // Tells the owner that Entry() is over, by an exception too: the owner's Wait() must not hang for ever.
-    struct Result
+    // Tells the owner that its thread is over, also when an exception ended it: Wait() must not hang.
+    struct End
     {
-        explicit Result(wxThreadEx* threadOwner) : owner(threadOwner) {}
-        ~Result()
+        explicit End(wxThreadEx* threadOwner) : owner(threadOwner) {}
+        ~End()
         {
-            // Signalled under the lock: once it is free, the owner may destroy the condition and the mutex.
+            // Signalled under the lock: once that is free, the owner may destroy the condition and the mutex.
             const wxMutexLocker lock(owner->m_mutex);
             owner->m_exitCode = exitCode;
             owner->m_finished = true;
             owner->m_condition.Signal();
         }
-        Result(const Result&) = delete;
-        Result& operator=(const Result&) = delete;
+        End(const End&) = delete;
+        End& operator=(const End&) = delete;
 
         wxThreadEx* const owner;
         ExitCode exitCode = kNoExitCode;
@@ -37,8 +37,10 @@ private:
 
     ExitCode Entry() override
     {
-        Result result(m_owner);
-        result.exitCode = m_owner->Entry();
+        // Thread-local, and so destroyed after the toolkit has done its last for the thread: a program that ends right
+        // after Wait() would otherwise pull the toolkit away from under a thread that still leaves it, and crash.
+        static thread_local End end(m_owner);
+        end.exitCode = m_owner->Entry();
         return nullptr;
     }
 

@@ -33,12 +33,12 @@ class wxThreadExImpl;
 /// Construct, Create(), Run(), Wait(), destroy: all of them on one thread, the owner's, once the toolkit is initialised.
 /// An object runs once.
 ///
-/// - The destructor waits, but only after the derived class's members are gone and Entry() can no longer be overridden.
-///   Whoever derives from this class therefore sees to it that Wait() is called before: by the owner, or by the
+/// - The destructor waits, but only after the derived class's members are gone, and a thread that begins as late as that
+///   finds no Entry() to call and aborts the process. So Wait() is to be called before, by the owner or by the
 ///   destructor of the most derived class.
 /// - A detached object must outlive its Entry(): the thread writes into the object when Entry() has returned, and
-///   neither Wait() nor the destructor waits for that. One that may still run when the process ends has to be left
-///   alone: never destroyed, and using nothing that is destroyed at exit.
+///   neither Wait() nor the destructor waits for that. No call tells when it is safe, so keep such an object for as long
+///   as the process lives. While its thread runs, the toolkit must not be shut down.
 /// - The toolkit's thread object behind this one is freed by its own thread when that ends. An object that never ran,
 ///   or whose Run() failed, leaves it behind for as long as the process lives. After Create() that is a waiting thread,
 ///   too, which the toolkit may trip over when it shuts down: only create what you run.
@@ -67,7 +67,7 @@ public:
     ///         wxTHREAD_RUNNING, and nothing happens, when the object has run before.
     wxThreadError Run();
 
-    /// Waits until Entry() has returned.
+    /// Waits until Entry() has returned and the thread is over, its thread-local objects included.
     ///
     /// May be called again and gives the same exit code. Only one thread at a time may be waiting: one is woken. No
     /// events are handled meanwhile, so an Entry() that waits for the GUI thread never returns, and neither does one

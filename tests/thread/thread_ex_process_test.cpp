@@ -47,6 +47,12 @@ TEST(TwoThreadsThatWait, AreWokenByOneSignalOnly)
     EXPECT_EQ(Probe("two-waiters"), "both 1\none 1\nended 1\nother 1\nlater 42\n");
 }
 
+TEST(Process, MayEndAsSoonAsItHasWaited)
+{
+    for (int i = 0; i < 20; ++i)
+        ASSERT_EQ(Probe("end-at-once"), "wait 42\n");
+}
+
 TEST(ExceptionThatLeavesEntry, GoesToTheToolkitAndEndsTheWait)
 {
     const std::string output = Probe("throw");

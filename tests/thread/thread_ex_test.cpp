@@ -102,11 +102,38 @@ TEST(Wait, IsRefusedBeforeRun)
     EXPECT_EQ(constructed.Wait(), Code(42));
 }
 
+// So that a program may end right after Wait().
+TEST(Wait, BlocksUntilTheThreadIsOver)
+{
+    static Signal over;
+    struct Last
+    {
+        ~Last() { go.Wait(); }
+        Signal& go;
+    };
+    Thread thread(
+        [](Thread&) {
+            static thread_local const Last last{over};
+            return Code(42);
+        },
+        wxTHREAD_JOINABLE);
+    thread.Create(0);
+    thread.Run();
+    wxThread::ExitCode code = nullptr;
+    Helper waiter([&] { code = thread.Wait(); });
+    EXPECT_TRUE(waiter.IsBlocked());
+    EXPECT_FALSE(waiter.IsDone());
+    over.Set();
+    EXPECT_TRUE(waiter.Ends());
+    EXPECT_EQ(code, Code(42));
+}
+
+// No one can tell when a detached object may go: these stay.
 TEST(Detached, IsNotWaitedFor)
 {
-    Signal go;
-    Thread thread(
-        [&](Thread&) {
+    static Signal go;
+    static auto& thread = *new Thread(
+        [](Thread&) {
             go.Wait();
             return Code(42);
         },

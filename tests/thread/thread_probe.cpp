@@ -110,14 +110,16 @@ void TwoWaiters()
         wxTHREAD_JOINABLE);
     thread.Create(0);
     thread.Run();
-    Helper first([&] { thread.Wait(); });
-    Helper second([&] { thread.Wait(); });
-    Say("both", first.IsBlocked() && second.IsBlocked());
+    auto woken = std::make_unique<Helper>([&] { thread.Wait(); });
+    auto other = std::make_unique<Helper>([&] { thread.Wait(); });
+    Say("both", woken->IsBlocked() && other->IsBlocked());
     go.Set();
-    Say("one", Becomes([&] { return first.IsDone() || second.IsDone(); }));
-    Helper& other = first.IsDone() ? second : first;
+    Say("one", Becomes([&] { return woken->IsDone() || other->IsDone(); }));
+    if (other->IsDone())
+        std::swap(woken, other);
+    woken.reset();
     Say("ended", HasEnded(thread.thread));
-    Say("other", other.IsBlocked() && !other.IsDone());
+    Say("other", other->IsBlocked() && !other->IsDone());
     Say("later", Number(thread.Wait()));
     _exit(0);
 }
@@ -134,6 +136,15 @@ public:
         }
     }
 };
+
+// The thread must have left the toolkit by the time that the toolkit is shut down.
+void EndAtOnce()
+{
+    Thread thread([](Thread&) { return Code(42); }, wxTHREAD_JOINABLE);
+    thread.Create(0);
+    thread.Run();
+    Say("wait", Number(thread.Wait()));
+}
 
 void Throw()
 {
@@ -161,6 +172,8 @@ int main(int argc, char** argv)
         DestroyDetached();
     else if (question == "two-waiters")
         TwoWaiters();
+    else if (question == "end-at-once")
+        EndAtOnce();
     else if (question == "throw")
         Throw();
     else
