@@ -83,16 +83,8 @@ TEST(CutZerosPoint, IsTheFormats)
     EXPECT_EQ(Cut(L"1.50", L','), L"1.50");
     EXPECT_EQ(Cut(L",5", L','), L"0,5");
     EXPECT_EQ(Cut(L".5", L','), L".5");
-    EXPECT_EQ(Cut(L"1\x66b"
-                  L"50",
-                  L'\x66b'),
-              L"1\x66b"
-              L"5");
-    EXPECT_EQ(Cut(L"\x10ffff"
-                  L"50",
-                  L'\x10ffff'),
-              L"0\x10ffff"
-              L"5");
+    EXPECT_EQ(Cut(L"1\u066b50", L'\u066b'), L"1\u066b5");
+    EXPECT_EQ(Cut(L"\U0010ffff50", L'\U0010ffff'), L"0\U0010ffff5");
 }
 
 TEST(CutZerosPoint, MayBeAnyCharacter)
@@ -111,19 +103,8 @@ TEST(CutZerosPoint, MayBeAnyCharacter)
 // A wxString can hold what no text control can.
 TEST(CutZerosPoint, MayBeAZeroCharacter)
 {
-    EXPECT_EQ(Cut(std::wstring(L"1\0"
-                               L"500",
-                               5),
-                  L'\0'),
-              std::wstring(L"1\0"
-                           L"5",
-                           3));
-    EXPECT_EQ(Cut(std::wstring(L"1\0"
-                               L".500",
-                               6)),
-              std::wstring(L"1\0"
-                           L".5",
-                           4));
+    EXPECT_EQ(Cut(std::wstring(L"1\000500", 5), L'\0'), std::wstring(L"1\0005", 3));
+    EXPECT_EQ(Cut(std::wstring(L"1\000.500", 6)), std::wstring(L"1\000.5", 4));
 }
 
 }  // namespace

@@ -261,17 +261,15 @@ TEST(FormatControlText, ReadsTheLocalesPointAsTheFormats)
     EXPECT_EQ(Shown(L".5", format), L"0,50");
     EXPECT_EQ(Shown(L"1.5,5", format), L"1,5");
     EXPECT_EQ(Shown(L"2", format), L"2,00");
-    format.m_chDecimalPoint = L'\x66b';
-    EXPECT_EQ(Shown(L"1.5", format), L"1\x66b"
-                                     L"50");
+    format.m_chDecimalPoint = L'\u066b';
+    EXPECT_EQ(Shown(L"1.5", format), L"1\u066b50");
 }
 
 TEST(FormatControlText, GroupsWithTheFormatsSeparator)
 {
     CNumberFormat format(eFixedFormat);
-    format.m_chThousandsSep = L'\x202f';
-    EXPECT_EQ(Shown(L"1234", format), L"1\x202f"
-                                      L"234.00");
+    format.m_chThousandsSep = L'\u202f';
+    EXPECT_EQ(Shown(L"1234", format), L"1\u202f234.00");
     format.m_bGroupDigits = false;
     EXPECT_EQ(Shown(L"1234", format), L"1234.00");
 }
@@ -323,18 +321,17 @@ TEST(FormatControlText, PutsTheNumberIntoTheTemplate)
     format.m_strTemplate = L"%s kg";
     EXPECT_EQ(Shown(L"3", format), L"3 kg");
     EXPECT_EQ(Shown(L"-1.5e3", format), L"-1.5e3 kg");
-    format.m_strTemplate = L"\x20ac %s";
-    EXPECT_EQ(Shown(L"3", format), L"\x20ac 3");
+    format.m_strTemplate = L"\u20ac %s";
+    EXPECT_EQ(Shown(L"3", format), L"\u20ac 3");
     format.m_strTemplate = L"%s %%";
     EXPECT_EQ(Shown(L"3", format), L"3 %");
     format.m_strTemplate = L"[%6s]";
     EXPECT_EQ(Shown(L"3.50", format), L"[   3.5]");
     format.m_strTemplate = L"[%-6s]";
     EXPECT_EQ(Shown(L"3.50", format), L"[3.5   ]");
-    format.m_chDecimalPoint = L'\x66b';
-    format.m_strTemplate = L"%s\x66a";
-    EXPECT_EQ(Shown(L"3.5", format), L"3\x66b"
-                                     L"5\x66a");
+    format.m_chDecimalPoint = L'\u066b';
+    format.m_strTemplate = L"%s\u066a";
+    EXPECT_EQ(Shown(L"3.5", format), L"3\u066b5\u066a");
 }
 
 TEST(FormatControlText, LosesTheNumberInATemplateWithoutPlaceForIt)

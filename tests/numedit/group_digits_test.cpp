@@ -53,15 +53,8 @@ TEST(GroupDigitsSeparator, IsTheFormats)
 {
     EXPECT_EQ(Group(L"1234567,8901", L'.', L','), L"1.234.567,8901");
     EXPECT_EQ(Group(L"1234.56", L' ', L','), L"1 234 .56");
-    EXPECT_EQ(Group(L"1234567", L'\x202f'), L"1\x202f"
-                                            L"234\x202f"
-                                            L"567");
-    EXPECT_EQ(Group(L"1234\x66b"
-                    L"5",
-                    L'\x66c', L'\x66b'),
-              L"1\x66c"
-              L"234\x66b"
-              L"5");
+    EXPECT_EQ(Group(L"1234567", L'\u202f'), L"1\u202f234\u202f567");
+    EXPECT_EQ(Group(L"1234\u066b5", L'\u066c', L'\u066b'), L"1\u066c234\u066b5");
     EXPECT_EQ(Group(L"1234567", L'0'), L"102340567");
     EXPECT_EQ(Group(L"1234.5", L'.'), L"1.234.5");
 }
@@ -78,23 +71,10 @@ TEST(GroupDigitsSeparator, EndsTheTextWhereItIsZero)
 
 TEST(GroupDigitsText, EndsAtItsFirstZeroCharacter)
 {
-    EXPECT_EQ(Group(std::wstring(L"1\0"
-                                 L"2345",
-                                 6)),
-              L"1");
-    EXPECT_EQ(Group(std::wstring(L"1234\0"
-                                 L"5",
-                                 6)),
-              L"123,4");
-    EXPECT_EQ(Group(std::wstring(L"1234.5\0"
-                                 L"6",
-                                 8)),
-              L"1,234.5");
-    EXPECT_EQ(Group(std::wstring(L"1234\0"
-                                 L"5",
-                                 6),
-                    L',', L'\0'),
-              L"1,234");
+    EXPECT_EQ(Group(std::wstring(L"1\0002345", 6)), L"1");
+    EXPECT_EQ(Group(std::wstring(L"1234\0005", 6)), L"123,4");
+    EXPECT_EQ(Group(std::wstring(L"1234.5\0006", 8)), L"1,234.5");
+    EXPECT_EQ(Group(std::wstring(L"1234\0005", 6), L',', L'\0'), L"1,234");
     EXPECT_EQ(Group(L"1234.5", L',', L'\0'), L"123,4.5");
 }
 

@@ -58,9 +58,9 @@ CNumberFormat Unusual()
     format.m_bGroupDigits = true;
     format.m_bTrailingMinus = true;
     format.m_bAllowExponent = true;
-    format.m_chDecimalPoint = L'\x66b';
+    format.m_chDecimalPoint = L'\u066b';
     format.m_chThousandsSep = L'\'';
-    format.m_strTemplate = L"%s \x20ac";
+    format.m_strTemplate = L"%s \u20ac";
     format.m_bHasDecimals = true;
     format.m_nDecimals = UINT64_MAX;
     format.m_bHasMaxIntDigits = true;
@@ -80,9 +80,9 @@ void ExpectUnusual(const CNumberFormat& format)
     EXPECT_TRUE(format.m_bGroupDigits);
     EXPECT_TRUE(format.m_bTrailingMinus);
     EXPECT_TRUE(format.m_bAllowExponent);
-    EXPECT_EQ(format.m_chDecimalPoint, L'\x66b');
+    EXPECT_EQ(format.m_chDecimalPoint, L'\u066b');
     EXPECT_EQ(format.m_chThousandsSep, L'\'');
-    EXPECT_EQ(format.m_strTemplate, L"%s \x20ac");
+    EXPECT_EQ(format.m_strTemplate, L"%s \u20ac");
     EXPECT_TRUE(format.m_bHasDecimals);
     EXPECT_EQ(format.m_nDecimals, UINT64_MAX);
     EXPECT_TRUE(format.m_bHasMaxIntDigits);
@@ -170,8 +170,8 @@ TEST(NumberFormat, OwnsItsTemplate)
     assigned = original;
     original.m_strTemplate[0] = L'$';
     original.m_strTemplate = L"%s litres or more, as long as no small buffer";
-    EXPECT_EQ(copy.m_strTemplate, L"%s \x20ac");
-    EXPECT_EQ(assigned.m_strTemplate, L"%s \x20ac");
+    EXPECT_EQ(copy.m_strTemplate, L"%s \u20ac");
+    EXPECT_EQ(assigned.m_strTemplate, L"%s \u20ac");
 }
 
 TEST(NumberFormat, AssignsTheTemplateUpToItsFirstZeroCharacter)

@@ -279,13 +279,9 @@ TEST(ValidateString, ReadsTheFormatsPointAsTheLocales)
     EXPECT_FALSE(Valid(L"1,49", format));
     EXPECT_FALSE(Valid(L"1,76", format));
 
-    format.m_chDecimalPoint = L'\x66b';
-    EXPECT_TRUE(Valid(L"1\x66b"
-                      L"5",
-                      format));
-    EXPECT_FALSE(Valid(L"1\x66b"
-                       L"49",
-                       format));
+    format.m_chDecimalPoint = L'\u066b';
+    EXPECT_TRUE(Valid(L"1\u066b5", format));
+    EXPECT_FALSE(Valid(L"1\u066b49", format));
     EXPECT_FALSE(Valid(L"1,5", format));
 }
 
@@ -325,10 +321,10 @@ TEST(ValidateString, LooksAtNoFieldOfFormatting)
 
 TEST(ValidateString, TakesAsciiDigitsAlone)
 {
-    EXPECT_FALSE(Valid(L"\x665", Locale()));
-    EXPECT_FALSE(Valid(L"\xff15", Locale()));
-    EXPECT_FALSE(Valid(L"1\x665", WithExponent(2)));
-    EXPECT_FALSE(Valid(L"\xb2", Locale()));
+    EXPECT_FALSE(Valid(L"\u0665", Locale()));
+    EXPECT_FALSE(Valid(L"\uff15", Locale()));
+    EXPECT_FALSE(Valid(L"1\u0665", WithExponent(2)));
+    EXPECT_FALSE(Valid(L"\u00b2", Locale()));
     EXPECT_FALSE(Valid(L"/", Locale()));
     EXPECT_FALSE(Valid(L":", Locale()));
 }

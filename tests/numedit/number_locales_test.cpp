@@ -1,0 +1,278 @@
+#include <fittings/numedit/number_edit_utils.h>
+
+#include <clocale>
+#include <string>
+
+#include <gtest/gtest.h>
+#include <wx/strconv.h>
+
+#include <tests/support/scoped_locale.h>
+
+namespace {
+
+std::wstring Cut(const wchar_t* text)
+{
+    wxString result(text);
+    CNumberEditUtils::CutZeros(result, CNumberFormat(eFixedFormat));
+    return result.ToStdWstring();
+}
+
+std::wstring Shown(const wchar_t* text, const CNumberFormat& format)
+{
+    return CNumberEditUtils::FormatControlText(text, format).ToStdWstring();
+}
+
+bool Valid(const wchar_t* text, const CNumberFormat& format)
+{
+    return CNumberEditUtils::ValidateString(text, format);
+}
+
+/// The locale's separators in a format of two decimals and groups.
+CNumberFormat Amount()
+{
+    CNumberFormat format(eLocaleFormat);
+    format.m_bHasDecimals = true;
+    format.m_nDecimals = 2;
+    format.m_bPadDecimals = true;
+    format.m_bRoundDecimals = true;
+    format.m_bGroupDigits = true;
+    return format;
+}
+
+CNumberFormat Between(double min, double max)
+{
+    CNumberFormat format = Amount();
+    format.m_bHasMin = true;
+    format.m_dMin = min;
+    format.m_bHasMax = true;
+    format.m_dMax = max;
+    return format;
+}
+
+/// Makes the toolkit's current conversion another one for as long as the object lives.
+class ScopedConversion
+{
+public:
+    explicit ScopedConversion(wxMBConv& conversion) { wxConvCurrent = &conversion; }
+    ~ScopedConversion() { wxConvCurrent = m_before; }
+    ScopedConversion(const ScopedConversion&) = delete;
+    ScopedConversion& operator=(const ScopedConversion&) = delete;
+
+private:
+    wxMBConv* const m_before = wxConvCurrent;
+};
+
+TEST(GermanLocale, HasItsSeparatorsInTheLocalePreset)
+{
+    const ScopedLocale german("de_DE.UTF-8");
+    const CNumberFormat format(eLocaleFormat);
+    EXPECT_EQ(format.m_chDecimalPoint, L',');
+    EXPECT_EQ(format.m_chThousandsSep, L'.');
+    EXPECT_FALSE(format.m_bGroupDigits);
+}
+
+TEST(GermanLocale, IsNotConsultedForTheFixedPreset)
+{
+    const ScopedLocale german("de_DE.UTF-8");
+    const CNumberFormat format(eFixedFormat);
+    EXPECT_EQ(format.m_chDecimalPoint, L'.');
+    EXPECT_EQ(format.m_chThousandsSep, L',');
+}
+
+TEST(GermanLocale, IsReadOnceByAFormat)
+{
+    const CNumberFormat plain(eLocaleFormat);
+    CNumberFormat german(eFixedFormat);
+    {
+        const ScopedLocale locale("de_DE.UTF-8");
+        EXPECT_EQ(plain.m_chDecimalPoint, L'.');
+        EXPECT_EQ(plain.m_chThousandsSep, L'\0');
+        german = CNumberFormat(eLocaleFormat);
+    }
+    EXPECT_EQ(german.m_chDecimalPoint, L',');
+    EXPECT_EQ(german.m_chThousandsSep, L'.');
+}
+
+// "1.5" and "1,5" mean the same to it, whichever point the format has.
+TEST(GermanLocale, ReadsTheFormatsPointAndItsOwn)
+{
+    const ScopedLocale german("de_DE.UTF-8");
+    const CNumberFormat fixed(eFixedFormat);
+    EXPECT_TRUE(Valid(L"1.5", fixed));
+    EXPECT_TRUE(Valid(L"1,5", fixed));
+    EXPECT_FALSE(Valid(L"1,5.5", fixed));
+    EXPECT_FALSE(Valid(L"1.555", fixed));
+    EXPECT_TRUE(Valid(L"1,5", Amount()));
+    EXPECT_FALSE(Valid(L"1.5", Amount()));
+    EXPECT_EQ(Shown(L"1234,5", fixed), L"1,234.50");
+    EXPECT_EQ(Shown(L"1234.5", fixed), L"1,234.50");
+    EXPECT_EQ(Shown(L"1234567,885", Amount()), L"1.234.567,89");
+    EXPECT_EQ(Shown(L"1234.5", Amount()), L"1.234");
+    EXPECT_EQ(Shown(L",5", Amount()), L"0,50");
+}
+
+TEST(GermanLocale, ChecksBoundsOfTheFraction)
+{
+    const ScopedLocale german("de_DE.UTF-8");
+    CNumberFormat format = Between(1.5, 1.75);
+    EXPECT_TRUE(Valid(L"1,5", format));
+    EXPECT_TRUE(Valid(L"1,75", format));
+    EXPECT_FALSE(Valid(L"1,49", format));
+    EXPECT_FALSE(Valid(L"1,76", format));
+    format.m_chDecimalPoint = L'.';
+    EXPECT_TRUE(Valid(L"1.5", format));
+    EXPECT_FALSE(Valid(L"1.49", format));
+    EXPECT_FALSE(Valid(L"1.76", format));
+}
+
+TEST(GermanLocale, DoesNotChangeTheZerosOnTheWay)
+{
+    const ScopedLocale german("de_DE.UTF-8");
+    CNumberFormat format = Between(1, 2);
+    EXPECT_TRUE(CNumberEditUtils::ValidateInput(L"0,0", format));
+    EXPECT_FALSE(CNumberEditUtils::ValidateInput(L"0.0", format));
+    format.m_chDecimalPoint = L'.';
+    EXPECT_TRUE(CNumberEditUtils::ValidateInput(L"0.0", format));
+    EXPECT_FALSE(CNumberEditUtils::ValidateInput(L"0,0", format));
+}
+
+// A format stays as it was made, and the locale's point is read anew.
+TEST(GermanLocale, IsFollowedWhenItComesAndGoes)
+{
+    CNumberFormat format(eFixedFormat);
+    format.m_chDecimalPoint = L'x';
+    EXPECT_EQ(Shown(L"1.5", format), L"1x50");
+    EXPECT_EQ(Shown(L"1,5", format), L"1");
+    EXPECT_TRUE(Valid(L"1.5", format));
+    EXPECT_FALSE(Valid(L"1,5", format));
+    {
+        const ScopedLocale german("de_DE.UTF-8");
+        EXPECT_EQ(Shown(L"1.5", format), L"1");
+        EXPECT_EQ(Shown(L"1,5", format), L"1x50");
+        EXPECT_FALSE(Valid(L"1.5", format));
+        EXPECT_TRUE(Valid(L"1,5", format));
+    }
+    EXPECT_EQ(Shown(L"1.5", format), L"1x50");
+    EXPECT_TRUE(Valid(L"1.5", format));
+}
+
+TEST(FrenchLocale, SeparatesGroupsByANarrowSpace)
+{
+    const ScopedLocale french("fr_FR.UTF-8");
+    EXPECT_EQ(CNumberFormat(eLocaleFormat).m_chThousandsSep, L'\u202f');
+    EXPECT_EQ(Shown(L"1234567,5", Amount()), L"1\u202f234\u202f567,50");
+}
+
+TEST(PashtoLocale, HasSeparatorsBeyondAscii)
+{
+    const ScopedLocale pashto("ps_AF.UTF-8");
+    const CNumberFormat format(eLocaleFormat);
+    EXPECT_EQ(format.m_chDecimalPoint, L'\u066b');
+    EXPECT_EQ(format.m_chThousandsSep, L'\u066c');
+    EXPECT_EQ(Shown(L"1234567٫885", Amount()), L"1٬234٬567٫89");
+    EXPECT_EQ(Shown(L"1234٫5", CNumberFormat(eFixedFormat)), L"1,234.50");
+    EXPECT_EQ(Shown(L"1234.5", CNumberFormat(eFixedFormat)), L"1,234.50");
+}
+
+TEST(PashtoLocale, ChecksBoundsOfTheFraction)
+{
+    const ScopedLocale pashto("ps_AF.UTF-8");
+    CNumberFormat format = Between(1.5, 1.75);
+    EXPECT_TRUE(Valid(L"1٫5", format));
+    EXPECT_FALSE(Valid(L"1٫49", format));
+    EXPECT_FALSE(Valid(L"1٫76", format));
+    EXPECT_FALSE(Valid(L"1.5", format));
+    format.m_chDecimalPoint = L'.';
+    EXPECT_TRUE(Valid(L"1.5", format));
+    EXPECT_TRUE(Valid(L"1٫5", format));
+    EXPECT_FALSE(Valid(L"1.49", format));
+    EXPECT_FALSE(Valid(L"1.76", format));
+}
+
+// Its digits are not ASCII either, and no digits here.
+TEST(PashtoLocale, TakesAsciiDigitsAlone)
+{
+    const ScopedLocale pashto("ps_AF.UTF-8");
+    EXPECT_FALSE(Valid(L"١٢", Amount()));
+    EXPECT_EQ(Shown(L"1٢", Amount()), L"1");
+}
+
+TEST(UnconvertibleLocale, HasSeparatorsOfZero)
+{
+    const ScopedLocale plain("C");
+    const ScopedLocale pashto("ps_AF.UTF-8", LC_NUMERIC);
+    const CNumberFormat format(eLocaleFormat);
+    EXPECT_EQ(format.m_chDecimalPoint, L'\0');
+    EXPECT_EQ(format.m_chThousandsSep, L'\0');
+}
+
+TEST(UnconvertibleLocale, ReplacesNoPoint)
+{
+    const ScopedLocale plain("C");
+    const ScopedLocale pashto("ps_AF.UTF-8", LC_NUMERIC);
+    const CNumberFormat fixed(eFixedFormat);
+    EXPECT_EQ(Shown(L"1234.5", fixed), L"1,234.50");
+    EXPECT_EQ(Shown(L"-12.5e3", fixed), L"12.5-e3");
+    EXPECT_TRUE(Valid(L"12", fixed));
+    EXPECT_TRUE(Valid(L"-", fixed));
+    EXPECT_FALSE(Valid(L"1.5", fixed));
+    EXPECT_FALSE(Valid(L"1٫5", fixed));
+    EXPECT_FALSE(Valid(L"1,5", fixed));
+    CNumberFormat bounded = fixed;
+    bounded.m_bHasMin = true;
+    bounded.m_dMin = 12;
+    EXPECT_TRUE(Valid(L"12", bounded));
+    EXPECT_FALSE(Valid(L"11", bounded));
+}
+
+TEST(CurrentConversion, ReadsSeparatorsBeyondAscii)
+{
+    const ScopedLocale plain("C");
+    const ScopedLocale pashto("ps_AF.UTF-8", LC_NUMERIC);
+    const ScopedConversion utf8(wxConvUTF8);
+    EXPECT_EQ(CNumberFormat(eLocaleFormat).m_chDecimalPoint, L'\u066b');
+    EXPECT_EQ(CNumberFormat(eLocaleFormat).m_chThousandsSep, L'\u066c');
+    EXPECT_TRUE(Valid(L"1.5", CNumberFormat(eFixedFormat)));
+    EXPECT_EQ(Shown(L"1٫5", CNumberFormat(eFixedFormat)), L"1.50");
+}
+
+// Only the first character of a point counts in the grammar and in the format, the whole of it where one replaces the other.
+TEST(CurrentConversion, MayMakeSeveralCharactersOfThePoint)
+{
+    const ScopedLocale pashto("ps_AF.UTF-8");
+    const ScopedConversion bytes(wxConvISO8859_1);
+    EXPECT_EQ(CNumberFormat(eLocaleFormat).m_chDecimalPoint, L'\u00d9');
+    EXPECT_EQ(CNumberFormat(eLocaleFormat).m_chThousandsSep, L'\u00d9');
+    const CNumberFormat fixed(eFixedFormat);
+    EXPECT_EQ(Shown(L"1234\u00d9\u00ab5", fixed), L"1,234.50");
+    EXPECT_EQ(Shown(L"1234\u00d95", fixed), L"1,234");
+    EXPECT_FALSE(Valid(L"1.5", fixed));
+    EXPECT_TRUE(Valid(L"1\u00d95", fixed));
+}
+
+TEST(CurrentConversion, IsNotAskedForAsciiSeparators)
+{
+    const ScopedLocale german("de_DE.UTF-8");
+    wxMBConvUTF32LE conversion;
+    const ScopedConversion utf32(conversion);
+    EXPECT_EQ(CNumberFormat(eLocaleFormat).m_chDecimalPoint, L',');
+    EXPECT_EQ(CNumberFormat(eLocaleFormat).m_chThousandsSep, L'.');
+    EXPECT_TRUE(Valid(L"1,5", CNumberFormat(eFixedFormat)));
+}
+
+TEST(BlanksOfTheLocale, AreCut)
+{
+    const wchar_t* emSpaces = L"\u2003 1.50 \u2003";
+    {
+        const ScopedLocale plain("C");
+        EXPECT_EQ(Cut(emSpaces), L"\u2003 1.50 \u2003");
+    }
+    const ScopedLocale utf8("C.UTF-8");
+    EXPECT_EQ(Cut(emSpaces), L"1.5");
+    EXPECT_EQ(Cut(L"\u3000\u2028"), L"0");
+    EXPECT_EQ(Shown(emSpaces, CNumberFormat(eFixedFormat)), L"1.50");
+    // A space that does not break a line is none.
+    EXPECT_EQ(Cut(L"\u00a01.50"), L"\u00a01.5");
+}
+
+}  // namespace
