@@ -36,25 +36,36 @@ bool IsExponentLetter(wchar_t c)
     return c == L'e' || c == L'E';
 }
 
-/// Where the digits from @a at on end.
-std::size_t DigitsEnd(std::wstring_view text, std::size_t at)
+/// Behind the digits that @a text begins with.
+const wchar_t* AfterDigits(const wchar_t* text)
 {
-    while (at < text.size() && IsDigit(text[at]))
-        ++at;
-    return at;
+    while (IsDigit(*text))
+        ++text;
+    return text;
 }
 
-std::wstring Replaced(std::wstring_view text, std::wstring_view from, std::wstring_view to)
+/// Makes @a result of @a text by putting one point in place of the other. False where nothing is to be replaced.
+///
+/// An empty point is one of the locale's that cannot be converted.
+bool ReplacePoint(std::wstring& result, const wchar_t* text, std::wstring_view from, std::wstring_view to)
 {
-    std::wstring result;
-    result.reserve(text.size());
+    if (from.empty() || to.empty() || (from.size() == 1 && to.size() == 1 && from[0] == to[0]))
+        return false;
+    const std::wstring_view original = text;
+    std::size_t found = original.find(from);
+    if (found == original.npos)
+        return false;
+    result.reserve(original.size());
     std::size_t at = 0;
-    for (std::size_t found; (found = text.find(from, at)) != text.npos; at = found + from.size())
-        result.append(text, at, found - at).append(to);
-    return result.append(text, at, text.npos);
+    for (; found != original.npos; found = original.find(from, at)) {
+        result.append(original, at, found - at).append(to);
+        at = found + from.size();
+    }
+    result.append(original, at, original.npos);
+    return true;
 }
 
-void CutBlanksAndLeadingZeros(std::wstring& text)
+std::wstring_view WithoutBlanksAndLeadingZeros(std::wstring_view text)
 {
     std::size_t begin = 0;
     while (begin < text.size() && std::iswspace(text[begin]))
@@ -64,44 +75,54 @@ void CutBlanksAndLeadingZeros(std::wstring& text)
     std::size_t end = text.size();
     while (end > begin && std::iswspace(text[end - 1]))
         --end;
-    text.erase(end);
-    text.erase(0, begin);
+    return text.substr(begin, end - begin);
 }
 
-void CutZerosOf(std::wstring& text, wchar_t point)
+void AppendWithoutZeros(std::wstring& result, std::wstring_view text, wchar_t point)
 {
-    CutBlanksAndLeadingZeros(text);
-
+    text = WithoutBlanksAndLeadingZeros(text);
     const std::size_t exponent = std::find_if(text.begin(), text.end(), IsExponentLetter) - text.begin();
-    std::size_t end = exponent;
-    if (std::wstring_view(text).substr(0, exponent).find(point) != text.npos) {
-        while (end > 1 && text[end - 1] == L'0')
-            --end;
-        if (text[end - 1] == point)
-            --end;
+    std::wstring_view mantissa = text.substr(0, exponent);
+    if (mantissa.find(point) != mantissa.npos) {
+        while (mantissa.size() > 1 && mantissa.back() == L'0')
+            mantissa.remove_suffix(1);
+        if (mantissa.back() == point)
+            mantissa.remove_suffix(1);
     }
-    text.erase(end, exponent - end);
-    if (end == 0 || text[0] == point)
-        text.insert(0, 1, L'0');
+    if (mantissa.empty() || mantissa.front() == point)
+        result += L'0';
+    result.append(mantissa).append(text, exponent, text.npos);
 }
 
-void CutAtZeroCharacter(std::wstring& text)
+/// Groups the number that @a text has from @a begin to @a end, and returns its new end.
+std::size_t Group(std::wstring& text, std::size_t begin, std::size_t end, const CNumberFormat& format)
 {
-    text.resize(std::min(text.find(L'\0'), text.size()));
+    const std::wstring_view number = std::wstring_view(text).substr(begin, end - begin);
+    const std::size_t integers = std::min(number.find(format.m_chDecimalPoint), number.size());
+    if (integers > 3) {
+        const std::size_t separators = (integers - 1) / 3;
+        text.insert(begin + integers, separators, format.m_chThousandsSep);
+        end += separators;
+        // The last group moves all the way, each one before it by one character less.
+        wchar_t* from = &text[begin + integers];
+        for (wchar_t* to = from + separators; to != from; --to) {
+            from -= 3;
+            to = std::copy_backward(from, from + 3, to);
+            to[-1] = format.m_chThousandsSep;
+        }
+    }
+    return end;
 }
 
-std::wstring Grouped(std::wstring_view text, const CNumberFormat& format)
+/// Cuts what the number that @a text has from @a begin to @a end has from its first zero character on, and returns its
+/// new end.
+std::size_t CutAtZeroCharacter(std::wstring& text, std::size_t begin, std::size_t end)
 {
-    const std::size_t integers = std::min(text.find(format.m_chDecimalPoint), text.size());
-    std::wstring result;
-    result.reserve(text.size() + integers / 3);
-    std::size_t at = std::min((integers + 2) % 3 + 1, integers);
-    result.append(text, 0, at);
-    for (; at < integers; at += 3)
-        result.append(1, format.m_chThousandsSep).append(text, at, 3);
-    result.append(text, integers, text.npos);
-    CutAtZeroCharacter(result);
-    return result;
+    const std::size_t zero = text.find(L'\0', begin);
+    if (zero >= end)
+        return end;
+    text.erase(zero, end - zero);
+    return zero;
 }
 
 bool IsWithinBounds(const wchar_t* text, const CNumberFormat& format)
@@ -118,133 +139,182 @@ bool AcceptsDecimals(const CNumberFormat& format)
     return format.m_bHasDecimals && format.m_nDecimals != 0;
 }
 
-bool IsExponent(std::wstring_view text, std::size_t at)
+bool IsExponent(const wchar_t* text)
 {
-    if (IsExponentLetter(text[at]))
-        ++at;
+    if (IsExponentLetter(*text))
+        ++text;
     // The letter is not needed: 12-5 is accepted like 12e-5.
-    if (at < text.size() && IsSign(text[at]))
-        ++at;
-    return DigitsEnd(text, at) == text.size();
+    if (IsSign(*text))
+        ++text;
+    return *AfterDigits(text) == L'\0';
 }
 
 /// Whether @a text, whose decimal point is @a point, is a number as far as it goes, whatever its value.
-bool IsNumber(std::wstring_view text, wchar_t point, const CNumberFormat& format)
+bool IsNumber(const wchar_t* text, wchar_t point, const CNumberFormat& format)
 {
-    const std::size_t begin = format.m_bAllowSign && !text.empty() && IsSign(text[0]) ? 1 : 0;
+    const wchar_t* const begin = format.m_bAllowSign && IsSign(*text) ? text + 1 : text;
 
-    std::size_t at = DigitsEnd(text, begin);
-    if (format.m_bHasMaxIntDigits && at - begin > format.m_nMaxIntDigits)
+    const wchar_t* at = AfterDigits(begin);
+    if (format.m_bHasMaxIntDigits && static_cast<std::size_t>(at - begin) > format.m_nMaxIntDigits)
         return false;
-    if (at == text.size())
+    if (*at == L'\0')
         return true;
 
     if (AcceptsDecimals(format)) {
-        if (text[at] == point)
+        if (*at == point)
             ++at;
-        const std::size_t fraction = at;
-        at = DigitsEnd(text, fraction);
-        if (at - fraction > format.m_nDecimals)
+        const wchar_t* const fraction = at;
+        at = AfterDigits(fraction);
+        if (static_cast<std::size_t>(at - fraction) > format.m_nDecimals)
             return false;
-        if (at == text.size())
+        if (*at == L'\0')
             return true;
     }
-    return at != begin && format.m_bAllowExponent && IsExponent(text, at);
+    return at != begin && format.m_bAllowExponent && IsExponent(at);
 }
 
-// Rounding to no decimals can leave nothing but the point, or nothing at all: then the carry is the whole number.
-void AddOneToLastDigit(std::wstring& number)
+/// Adds one to the last digit of a number and says whether that leaves a one to be put before it.
+bool CarriesOver(wchar_t* begin, wchar_t* end)
 {
-    for (std::size_t at = number.size(); at-- > 0;) {
-        if (!IsDigit(number[at]))
+    while (end != begin) {
+        --end;
+        if (!IsDigit(*end))
             continue;
-        if (number[at] != L'9') {
-            ++number[at];
-            return;
+        if (*end != L'9') {
+            ++*end;
+            return false;
         }
-        number[at] = L'0';
+        *end = L'0';
     }
-    number.insert(0, 1, L'1');
+    return true;
 }
 
-/// Appends the fraction's @a digits, with the decimal point that stands before them in @a number, as rounding says.
-void AppendFraction(std::wstring& number, std::wstring_view digits, const CNumberFormat& format)
+/// A number on its way from the typed to the shown text, all in one piece of memory.
+class ShownNumber
 {
-    if (!format.m_bRoundDecimals || !format.m_bHasDecimals) {
-        number.append(digits);
-        return;
-    }
-    number.append(digits.substr(0, std::min<std::uint64_t>(digits.size(), format.m_nDecimals)));
-    if (digits.size() > format.m_nDecimals && digits[format.m_nDecimals] >= L'5')
-        AddOneToLastDigit(number);
-    if (format.m_nDecimals == 0)
-        number.pop_back();
+public:
+    ShownNumber(std::wstring_view typed, const CNumberFormat& format);
+
+    wxString Text() const { return wxString(m_text.data() + m_begin, m_text.size() - m_begin); }
+
+private:
+    void ReadMantissa();
+    void Round(std::size_t fraction);
+    void Pad(bool hasPoint, std::size_t decimals);
+    void KeepExponentAlone();
+    void PutMinus();
+    /// The index behind the digits from @a at on.
+    std::size_t DigitsEnd(std::size_t at) const { return AfterDigits(m_text.c_str() + at) - m_text.c_str(); }
+
+    const CNumberFormat& m_format;
+    std::wstring m_text;
+    std::size_t m_begin;     ///< of the mantissa without its sign
+    std::size_t m_end = 0;   ///< of the mantissa as far as it is shown
+    std::size_t m_read = 0;  ///< the end of the mantissa
+};
+
+ShownNumber::ShownNumber(std::wstring_view typed, const CNumberFormat& format) : m_format(format)
+{
+    m_text.reserve(typed.size() + typed.size() / 3 + 10);
+    // A place for a carry, and for the minus sign when the carry has taken the sign's own.
+    m_text = L'0';
+    AppendWithoutZeros(m_text, typed, format.m_chDecimalPoint);
+    const wchar_t first = m_text[1];
+    m_begin = IsSign(first) ? 2 : 1;
+
+    ReadMantissa();
+    KeepExponentAlone();
+    if (format.m_bGroupDigits)
+        m_end = Group(m_text, m_begin, m_end, format);
+    m_end = CutAtZeroCharacter(m_text, m_begin, m_end);
+    if (first == L'-')
+        PutMinus();
 }
 
-/// The number in @a text from @a at on, up to its exponent. Moves @a at behind what was read.
-std::wstring Mantissa(std::wstring_view text, std::size_t& at, const CNumberFormat& format)
+void ShownNumber::ReadMantissa()
 {
-    const std::size_t integers = DigitsEnd(text, at);
-    std::wstring number;
-    number.reserve(text.size() + 1);
-    number.append(text, at, integers - at);
-    at = integers;
-
+    m_read = m_end = DigitsEnd(m_begin);
     std::size_t decimals = 0;
-    const bool hasPoint = at < text.size() && text[at] == format.m_chDecimalPoint;
+    const bool hasPoint = m_read < m_text.size() && m_text[m_read] == m_format.m_chDecimalPoint;
     if (hasPoint) {
-        number += format.m_chDecimalPoint;
-        const std::size_t fraction = at + 1;
-        at = DigitsEnd(text, fraction);
-        decimals = at - fraction;
-        AppendFraction(number, text.substr(fraction, decimals), format);
+        const std::size_t fraction = m_read + 1;
+        m_read = m_end = DigitsEnd(fraction);
+        decimals = m_read - fraction;
+        if (m_format.m_bRoundDecimals && m_format.m_bHasDecimals)
+            Round(fraction);
     }
-
-    if (format.m_bPadDecimals && AcceptsDecimals(format) && at == text.size()) {
-        if (!hasPoint)
-            number += format.m_chDecimalPoint;
-        if (decimals < format.m_nDecimals)
-            number.append(std::min(format.m_nDecimals - decimals, kMostPadding), L'0');
-    }
-    return number;
+    if (m_format.m_bPadDecimals && AcceptsDecimals(m_format) && m_read == m_text.size() &&
+        decimals < m_format.m_nDecimals)
+        Pad(hasPoint, decimals);
 }
 
-/// The exponent that @a text has at @a at; empty when there is none.
-std::wstring_view Exponent(std::wstring_view text, std::size_t at)
+/// Shows of the fraction, which begins at @a fraction, no more than the decimals asked for.
+void ShownNumber::Round(std::size_t fraction)
 {
-    if (at == text.size() || !IsExponentLetter(text[at]))
-        return {};
-    std::size_t end = at + 1;
-    if (end < text.size() && IsSign(text[end]))
+    m_end = fraction + std::min<std::uint64_t>(m_read - fraction, m_format.m_nDecimals);
+    if (m_end < m_read && m_text[m_end] >= L'5' && CarriesOver(&m_text[m_begin], &m_text[m_end]))
+        m_text[--m_begin] = L'1';
+    if (m_format.m_nDecimals == 0)
+        --m_end;
+}
+
+/// Appends to a number that the text ends with.
+void ShownNumber::Pad(bool hasPoint, std::size_t decimals)
+{
+    if (!hasPoint)
+        m_text += m_format.m_chDecimalPoint;
+    m_text.append(std::min(m_format.m_nDecimals - decimals, kMostPadding), L'0');
+    m_end = m_read = m_text.size();
+}
+
+/// Removes all that stands behind the mantissa as it is shown, but for an exponent.
+void ShownNumber::KeepExponentAlone()
+{
+    std::size_t end = m_read;
+    if (end < m_text.size() && IsExponentLetter(m_text[end])) {
         ++end;
-    return text.substr(at, DigitsEnd(text, end) - at);
+        if (end < m_text.size() && IsSign(m_text[end]))
+            ++end;
+        end = DigitsEnd(end);
+    }
+    m_text.erase(end);
+    m_text.erase(m_end, m_read - m_end);
+}
+
+// The sign belongs to the mantissa: a trailing one stands before the exponent.
+void ShownNumber::PutMinus()
+{
+    if (m_format.m_bTrailingMinus)
+        m_text.insert(m_end, 1, L'-');
+    else
+        m_text[--m_begin] = L'-';
 }
 
 }  // namespace
 
 void CNumberEditUtils::CutZeros(wxString& text, const CNumberFormat& format)
 {
-    std::wstring number = text.ToStdWstring();
-    CutZerosOf(number, format.m_chDecimalPoint);
+    std::wstring number;
+    AppendWithoutZeros(number, text.ToStdWstring(), format.m_chDecimalPoint);
     text.assign(number);
 }
 
 void CNumberEditUtils::GroupDigits(wxString& text, const CNumberFormat& format)
 {
-    text.assign(Grouped(text.ToStdWstring(), format));
+    std::wstring number = text.ToStdWstring();
+    const std::size_t end = Group(number, 0, number.size(), format);
+    CutAtZeroCharacter(number, 0, end);
+    text.assign(number);
 }
 
 bool CNumberEditUtils::ValidateString(const wchar_t* text, const CNumberFormat& format)
 {
-    std::wstring_view number = fittings::OrEmpty(text);
+    text = fittings::OrEmpty(text);
     const std::wstring point = LocalePoint();
-    const std::wstring_view typedPoint(&format.m_chDecimalPoint, 1);
     std::wstring replaced;
-    if (!point.empty() && point != typedPoint && number.find(typedPoint) != number.npos) {
-        replaced = Replaced(number, typedPoint, point);
-        number = replaced;
-    }
-    return IsWithinBounds(number.data(), format) && IsNumber(number, point.empty() ? L'\0' : point[0], format);
+    if (ReplacePoint(replaced, text, std::wstring_view(&format.m_chDecimalPoint, 1), point))
+        text = replaced.c_str();
+    return IsWithinBounds(text, format) && IsNumber(text, point.empty() ? L'\0' : point[0], format);
 }
 
 bool CNumberEditUtils::ValidateInput(const wchar_t* text, const CNumberFormat& format)
@@ -263,28 +333,13 @@ bool CNumberEditUtils::ValidateInput(const wchar_t* text, const CNumberFormat& f
 
 wxString CNumberEditUtils::FormatControlText(const wchar_t* text, const CNumberFormat& format)
 {
-    std::wstring raw = fittings::OrEmpty(text);
-    if (raw.empty())
+    text = fittings::OrEmpty(text);
+    if (*text == L'\0')
         return {};
-    const std::wstring point = LocalePoint();
-    const std::wstring_view shownPoint(&format.m_chDecimalPoint, 1);
-    if (!point.empty() && point != shownPoint)
-        raw = Replaced(raw, point, shownPoint);
-    CutZerosOf(raw, format.m_chDecimalPoint);
-
-    const bool minus = raw[0] == L'-';
-    std::size_t at = IsSign(raw[0]) ? 1 : 0;
-    std::wstring shown = Mantissa(raw, at, format);
-    if (format.m_bGroupDigits)
-        shown = Grouped(shown, format);
-    else
-        CutAtZeroCharacter(shown);
-    // The sign belongs to the mantissa: a trailing one stands before the exponent.
-    if (minus)
-        shown.insert(format.m_bTrailingMinus ? shown.size() : 0, 1, L'-');
-    shown.append(Exponent(raw, at));
-
+    std::wstring replaced;
+    const bool replaces = ReplacePoint(replaced, text, LocalePoint(), std::wstring_view(&format.m_chDecimalPoint, 1));
+    const wxString shown = ShownNumber(replaces ? std::wstring_view(replaced) : text, format).Text();
     if (format.m_strTemplate == L"%s")
-        return wxString(shown);
+        return shown;
     return wxString::Format(wxString(format.m_strTemplate), shown);
 }
