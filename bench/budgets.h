@@ -14,6 +14,12 @@ constexpr Budget kBudgets[] = {
     {"store/file-get", "bare GKeyFile load + get", 1.3},
     {"store/file-set", "bare GKeyFile load + set + save", 1.3},
     {"store/100k-load-get-save", "wxFileConfig", 0.25},
+    {"validate/12", "wxRegEx, compiled once", 0.35},
+    {"validate/12-bounds", "wcstod alone", 1.6},
+    {"validate/100k", "wxRegEx, compiled once", 1.0},
+    {"format/1234567.891", "ICU formatter on decimal text, kept", 0.5},
+    {"format/1234567.891-wx", "wxNumberFormatter::ToString", 0.12},
+    {"format/100k", "ICU formatter on decimal text, kept", 0.6},
     {"tree/save-100k", "walk by child cookie copying every label", 4.0},
     {"tree/load-10k", "wxTreeCtrl::Expand of the same items, frozen", 1.5},
     {"colour/paint", "the same primitives with pens and brushes made once", 3.0},
@@ -30,6 +36,8 @@ struct Growth
 };
 
 constexpr Growth kGrowths[] = {
+    {"validate/100k", "validate/1k", 100, 1.5},
+    {"format/100k", "format/1k", 100, 1.5},
     {"tree/save-100k", "tree/save-10k", 10, 1.5},
     {"tree/load-10k", "tree/load-1k", 10, 1.5},
 };
