@@ -24,6 +24,7 @@
 #include "folder_tree.h"
 #include "native_text.h"
 #include "report.h"
+#include "size_filter.h"
 #include "sizes_row.h"
 
 namespace fittings {
@@ -73,6 +74,7 @@ BrowserPage::BrowserPage(wxWindow* parent) : wxPanel(parent)
     BindEvents();
 
     m_list->SortBy(browser_settings::LoadSortOrder());
+    m_filter->SetMegabytes(browser_settings::LoadMinimumSize());
     m_list->SetColumnWidths(browser_settings::LoadColumnWidths(m_list->GetColumnWidths().size()));
 }
 
@@ -122,6 +124,7 @@ void BrowserPage::SaveSettings()
     RememberRoot();
     browser_settings::SaveSortOrder(m_list->GetSortOrder());
     browser_settings::SaveColumnWidths(m_list->GetColumnWidths());
+    browser_settings::SaveMinimumSize(m_filter->GetMegabytes());
     if (!m_layoutLoaded)
         return;
     // Where the window manager is slow, the layout's own record is that of a window not yet placed.
@@ -139,6 +142,13 @@ bool BrowserPage::HasFolderAbove() const
 bool BrowserPage::ShowsFolders()
 {
     return m_layout.GetPane(foldersPane).IsShown();
+}
+
+wxString BrowserPage::GetSummary() const
+{
+    if (m_filter->GetMinimum() == 0)
+        return m_summary;
+    return m_summary + wxString::Format("; showing %u of at least ", m_list->CountRows()) + m_filter->GetText();
 }
 
 wxString BrowserPage::GetSelectionText() const
@@ -261,12 +271,16 @@ wxWindow* BrowserPage::MakeContents(wxWindow* parent)
                                   wxST_ELLIPSIZE_MIDDLE | wxST_NO_AUTORESIZE);
     m_location->SetFont(m_location->GetFont().Bold());
     m_location->SetName("Location");
+    m_filter = new SizeFilter(panel);
     m_note = new wxInfoBar(panel);
     m_list = new ContentsList(panel);
     m_sizes = new SizesRow(panel, [this](const SizeNews& news) { OnSizes(news); });
 
     auto* rows = new wxBoxSizer(wxVERTICAL);
-    rows->Add(m_location, wxSizerFlags().Expand().Border(wxALL, FromDIP(6)));
+    auto* header = new wxBoxSizer(wxHORIZONTAL);
+    header->Add(m_location, wxSizerFlags(1).CentreVertical().Border(wxRIGHT, FromDIP(18)));
+    header->Add(m_filter, wxSizerFlags().CentreVertical());
+    rows->Add(header, wxSizerFlags().Expand().Border(wxALL, FromDIP(6)));
     rows->Add(m_note, wxSizerFlags().Expand());
     rows->Add(m_list, wxSizerFlags(1).Expand());
     rows->Add(m_sizes, wxSizerFlags().Expand());
@@ -285,6 +299,10 @@ void BrowserPage::BindEvents()
         if (!path.empty() && path != m_folder)
             ShowFolder(path);
         event.Skip();
+    });
+    m_filter->Bind(EVT_SIZE_FILTER_CHANGED, [this](wxCommandEvent&) {
+        m_list->SetMinimum(m_filter->GetMinimum());
+        TellChange();
     });
     m_list->Bind(wxEVT_DATAVIEW_ITEM_ACTIVATED, &BrowserPage::OnActivated, this);
     m_list->Bind(wxEVT_DATAVIEW_SELECTION_CHANGED, [this](wxDataViewEvent&) { TellChange(); });

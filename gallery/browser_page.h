@@ -16,6 +16,7 @@ namespace fittings {
 
 class ContentsList;
 class FolderTree;
+class SizeFilter;
 class SizesRow;
 struct SizeNews;
 
@@ -39,6 +40,7 @@ public:
 
     FolderTree* GetTree() const { return m_tree; }
     ContentsList* GetList() const { return m_list; }
+    SizeFilter* GetFilter() const { return m_filter; }
     SizesRow* GetSizes() const { return m_sizes; }
     wxToolBar* GetTools() const { return m_tools; }
     wxAuiManager& GetLayout() { return m_layout; }
@@ -57,7 +59,7 @@ public:
     const std::string& GetFolder() const { return m_folder; }
     bool HasFolderAbove() const;
     bool ShowsFolders();
-    const wxString& GetSummary() const { return m_summary; }
+    wxString GetSummary() const;
     wxString GetSelectionText() const;
     /// @}
 
@@ -92,6 +94,7 @@ private:
     bool m_layoutLoaded = false;
     FolderTree* m_tree = nullptr;
     ContentsList* m_list = nullptr;
+    SizeFilter* m_filter = nullptr;
     SizesRow* m_sizes = nullptr;
     wxToolBar* m_tools = nullptr;
     wxStaticText* m_location = nullptr;

@@ -118,6 +118,16 @@ void SaveSortOrder(SortOrder order)
     ui_config_mgr::WriteConfigInt(file, L"Contents", L"SortDescending", order.ascending ? 0 : 1);
 }
 
+wxString LoadMinimumSize()
+{
+    return ui_config_mgr::GetConfigString(file, L"Contents", L"AtLeastMB");
+}
+
+void SaveMinimumSize(const wxString& megabytes)
+{
+    ui_config_mgr::WriteConfigString(file, L"Contents", L"AtLeastMB", megabytes.wc_str());
+}
+
 std::vector<int> LoadColumnWidths(std::size_t count)
 {
     std::vector<int> widths;

@@ -31,6 +31,10 @@ void SaveSelectedFolder(const std::string& root, const std::string& path);
 SortOrder LoadSortOrder();
 void SaveSortOrder(SortOrder order);
 
+/// The smallest size listed, as SizeFilter takes it; empty when there is none.
+wxString LoadMinimumSize();
+void SaveMinimumSize(const wxString& megabytes);
+
 /// Empty in the first session, and when not all @a count widths can be used.
 std::vector<int> LoadColumnWidths(std::size_t count);
 void SaveColumnWidths(const std::vector<int>& widths);

@@ -53,8 +53,29 @@ public:
     {
         m_folders.clear();
         m_entries = std::move(entries);
-        m_positions = SortedPositions(m_entries, order);
-        Reset(static_cast<unsigned>(m_entries.size()));
+        Sort(order);
+        Reset(static_cast<unsigned>(m_positions.size()));
+    }
+
+    void SetMinimum(std::uint64_t bytes)
+    {
+        m_minimum = bytes;
+        m_positions = LargeOnes();
+        Reset(static_cast<unsigned>(m_positions.size()));
+    }
+
+    /// Takes out the rows that have proved too small. What is on the screen stays there, which after a Reset() is drawn
+    /// anew some time later.
+    void RemoveSmallOnes()
+    {
+        wxArrayInt rows;
+        for (std::size_t row = 0; row < m_positions.size(); ++row) {
+            if (!IsLarge(m_entries[m_positions[row]]))
+                rows.push_back(static_cast<int>(row));
+        }
+        m_positions = LargeOnes();
+        if (!rows.empty())
+            RowsDeleted(rows);
     }
 
     /// The size is not drawn before its row is.
@@ -74,11 +95,15 @@ public:
     }
 
     /// Only the order of the rows changes: who draws them must be told to draw them again.
-    void Sort(SortOrder order) { m_positions = SortedPositions(m_entries, order); }
+    void Sort(SortOrder order)
+    {
+        m_sorted = SortedPositions(m_entries, order);
+        m_positions = LargeOnes();
+    }
 
     const Entry& At(unsigned row) const { return m_entries[m_positions[row]]; }
 
-    /// The row of an entry of this model.
+    /// The row of an entry of this model; the number of rows when it is not shown.
     unsigned RowOf(const Entry& entry) const
     {
         const auto position = static_cast<std::uint32_t>(&entry - m_entries.data());
@@ -109,6 +134,21 @@ public:
     bool SetValueByRow(const wxVariant&, unsigned, unsigned) override { return false; }
 
 private:
+    /// What is to be shown, as the sizes are now.
+    std::vector<std::uint32_t> LargeOnes() const
+    {
+        std::vector<std::uint32_t> positions;
+        std::copy_if(m_sorted.begin(), m_sorted.end(), std::back_inserter(positions),
+                     [this](std::uint32_t position) { return IsLarge(m_entries[position]); });
+        return positions;
+    }
+
+    bool IsLarge(const Entry& entry) const
+    {
+        const bool unknown = entry.kind == EntryKind::Folder && !entry.summed;
+        return m_minimum == 0 || unknown || (entry.HasSize() && entry.size >= m_minimum);
+    }
+
     static wxString LabelOf(const Entry& entry)
     {
         wxString label = DisplayText(entry.name);
@@ -127,7 +167,9 @@ private:
     }
 
     std::vector<Entry> m_entries;
-    std::vector<std::uint32_t> m_positions;
+    std::vector<std::uint32_t> m_sorted;
+    std::vector<std::uint32_t> m_positions;  ///< Those of m_sorted that are shown.
+    std::uint64_t m_minimum = 0;
     std::unordered_map<std::string_view, std::size_t> m_folders;  ///< By name, into m_entries; made when needed.
     wxBitmapBundle m_folder, m_file, m_program, m_link;
 };
@@ -169,8 +211,17 @@ void ContentsList::SetFolderSizes(const std::vector<std::pair<std::string, Folde
         return;
     for (const auto& [name, sum] : sums)
         m_model->SetFolderSize(name, sum.bytes);
+    m_model->RemoveSmallOnes();
     // Refresh() draws the frame around the rows, and leaves those that GTK has drawn already.
     gtk_widget_queue_draw(GtkGetTreeView());
+}
+
+void ContentsList::SetMinimum(std::uint64_t bytes)
+{
+    const Entry* selected = GetSelectedEntry();
+    m_model->SetMinimum(bytes);
+    if (selected)
+        SelectEntry(selected->name);
 }
 
 std::vector<Entry> ContentsList::GetEntriesInOrder() const
@@ -209,7 +260,7 @@ wxDataViewItem ContentsList::ItemOf(unsigned row) const
 void ContentsList::SelectEntry(const std::string& name)
 {
     for (const Entry& entry : m_model->Entries()) {
-        if (entry.name == name) {
+        if (entry.name == name && m_model->RowOf(entry) < CountRows()) {
             const wxDataViewItem item = ItemOf(m_model->RowOf(entry));
             Select(item);
             EnsureVisible(item);

@@ -24,10 +24,15 @@ public:
 
     void SetEntries(std::vector<Entry> entries);
 
-    /// Fills in what folders hold, as far as they are listed. The order of the rows stays until SortBy().
+    /// Fills in what folders hold, as far as they are listed, and leaves out those that prove too small. The order of the
+    /// rows stays until SortBy().
     void SetFolderSizes(const std::vector<std::pair<std::string, FolderSum>>& sums);
 
-    /// All of them, in the order shown.
+    /// Leaves out what is smaller than @a bytes, and what has no size; 0 leaves out nothing. Folders stay until they are
+    /// added up.
+    void SetMinimum(std::uint64_t bytes);
+
+    /// Those that are shown, in their order.
     std::vector<Entry> GetEntriesInOrder() const;
 
     unsigned CountRows() const;
@@ -40,7 +45,7 @@ public:
     const Entry* EntryOf(const wxDataViewItem& item) const;
     wxDataViewItem ItemOf(unsigned row) const;
 
-    /// Selects the entry @a name and scrolls to it, if there is one.
+    /// Selects the entry @a name and scrolls to it, if it is shown.
     void SelectEntry(const std::string& name);
 
     SortOrder GetSortOrder() const { return m_order; }

@@ -7,7 +7,6 @@
 #include <wx/filefn.h>
 
 #include <fittings/numedit/number_edit_utils.h>
-#include <fittings/numedit/number_format.h>
 #include <fittings/platform/file_util_ex.h>
 
 namespace fittings {
@@ -33,14 +32,6 @@ void AppendPercent(std::string& text, unsigned char byte)
 bool IsControl(unsigned char byte)
 {
     return byte < 0x20 || byte == 0x7F;
-}
-
-wxString FormattedSize(std::uint64_t bytes, GFormatSizeFlags flags)
-{
-    gchar* text = g_format_size_full(bytes, flags);
-    const wxString size = wxString::FromUTF8(text);
-    g_free(text);
-    return size;
 }
 
 }  // namespace
@@ -113,21 +104,29 @@ std::string PathFromDialog(const wxString& path)
 
 wxString HumanSize(std::uint64_t bytes)
 {
-    return FormattedSize(bytes, G_FORMAT_SIZE_DEFAULT);
+    gchar* text = g_format_size(bytes);
+    const wxString size = wxString::FromUTF8(text);
+    g_free(text);
+    return size;
 }
 
 wxString ExactSize(std::uint64_t bytes)
 {
-    return FormattedSize(bytes, G_FORMAT_SIZE_LONG_FORMAT);
+    return bytes < 1000 ? HumanSize(bytes) : HumanSize(bytes) + " (" + GroupedNumber(bytes) + " bytes)";
 }
 
-wxString GroupedNumber(std::uint64_t number)
+CNumberFormat GroupingFormat()
 {
     CNumberFormat format(eLocaleFormat);
     format.m_bGroupDigits = true;
     if (format.m_chThousandsSep == 0)
         format.m_chThousandsSep = L'\u00A0';
-    return CNumberEditUtils::FormatControlText(std::to_wstring(number).c_str(), format);
+    return format;
+}
+
+wxString GroupedNumber(std::uint64_t number)
+{
+    return CNumberEditUtils::FormatControlText(std::to_wstring(number).c_str(), GroupingFormat());
 }
 
 wxString HumanTime(std::int64_t secondsSinceEpoch)

@@ -6,6 +6,8 @@
 
 #include <wx/string.h>
 
+#include <fittings/numedit/number_format.h>
+
 namespace fittings {
 
 /// @name File names
@@ -32,10 +34,13 @@ std::string PathFromDialog(const wxString& path);
 /// "1.2 kB"
 wxString HumanSize(std::uint64_t bytes);
 
-/// "1.2 kB (1234 bytes)", or "1 byte" where the short form says it all.
+/// "1.2 kB (1,234 bytes)", or "1 byte" where the short form says it all.
 wxString ExactSize(std::uint64_t bytes);
 
-/// "171,661", with the locale's separators; a blank that never breaks where the locale has none.
+/// The locale's format with its digits grouped: by a blank that never breaks where the locale has no separator.
+CNumberFormat GroupingFormat();
+
+/// "171,661", with the locale's separators, see GroupingFormat().
 wxString GroupedNumber(std::uint64_t number);
 
 /// "2026-03-14 09:26" in local time.

@@ -6,6 +6,7 @@
 #include <gtk/gtk.h>
 #include <unistd.h>
 #include <wx/button.h>
+#include <wx/textctrl.h>
 #include <wx/timer.h>
 
 #include <fittings/platform/file_util_ex.h>
@@ -19,6 +20,7 @@
 #include "native_text.h"
 #include "screenshot.h"
 #include "simulated_user.h"
+#include "size_filter.h"
 #include "sizes_row.h"
 
 namespace fittings {
@@ -150,6 +152,7 @@ bool Tour::Run()
         {"expand folders by keyboard", &Tour::ExpandByKeyboard},
         {"sort by a header", &Tour::SortByHeader},
         {"add up folders in the background", &Tour::AddUpFolders},
+        {"leave out what is small", &Tour::LeaveOutSmallOnes},
         {"save a report", &Tour::SaveReport},
         {"choose a folder in the dialog", &Tour::ChooseFolder},
         {"cancel the dialog", &Tour::CancelFolder},
@@ -267,6 +270,28 @@ bool Tour::AddUpFolders()
             return false;
     }
     return true;
+}
+
+bool Tour::LeaveOutSmallOnes()
+{
+    const ContentsList& list = *m_frame->GetBrowser()->GetList();
+    const wxTextCtrl& field = *m_frame->GetBrowser()->GetFilter()->GetField();
+    const unsigned before = list.CountRows();
+    Press('L', wxMOD_ALT);
+    if (!Waits([&] { return field.HasFocus(); }, "Alt+L leads to the filter"))
+        return false;
+    for (const char key : {'6', 'x', '.', '5'})
+        Press(key);
+    if (!Waits([&] { return field.GetValue() == "6.5"; }, "only a size can be typed"))
+        return false;
+    for (const Entry& entry : list.GetEntriesInOrder()) {
+        if (!IsTrue(entry.size >= 6500000, "what is smaller is left out"))
+            return false;
+    }
+    if (!SavePicture("filter"))
+        return false;
+    Press(WXK_ESCAPE);
+    return Waits([&] { return list.CountRows() == before; }, "Escape brings all back");
 }
 
 bool Tour::SaveReport()

@@ -30,6 +30,7 @@ private:
     bool ExpandByKeyboard();
     bool SortByHeader();
     bool AddUpFolders();
+    bool LeaveOutSmallOnes();
     bool SaveReport();
     bool ChooseFolder();
     bool CancelFolder();

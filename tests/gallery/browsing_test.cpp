@@ -34,7 +34,7 @@ TEST_F(Browsing, StartsWithTheFoldersOfTheRoot)
     EXPECT_EQ(Tree().GetSelectedPath(), root);
     EXPECT_EQ(Rows(), (Strings{"docs", "music", "big.bin", "small.txt"}));
     EXPECT_EQ(frame->GetStatusBar()->GetStatusText(0),
-              wxString::FromUTF8("4 items, 3.0\u00A0kB (3003 bytes) in 2 files"));
+              wxString::FromUTF8("4 items, 3.0\u00A0kB (3\u00A0003 bytes) in 2 files"));
 }
 
 // This process stays in the C locale.

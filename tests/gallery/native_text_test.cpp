@@ -73,7 +73,7 @@ TEST(HumanSize, CountsInThousands)
 TEST(ExactSize, TellsTheBytes)
 {
     EXPECT_EQ(ExactSize(12), "12 bytes");
-    EXPECT_EQ(ExactSize(1234), wxString::FromUTF8("1.2\u00A0kB (1234 bytes)"));
+    EXPECT_EQ(ExactSize(1234), wxString::FromUTF8("1.2\u00A0kB (1\u00A0234 bytes)"));
 }
 
 TEST(Counted, HasOneAndMany)
