@@ -55,7 +55,7 @@ class Primitives
 {
 public:
     explicit Primitives(const wxColourPopup& popup)
-        : m_frame(popup.GetClientSize()), m_margin(2), m_default(popup.GetDefaultColour())
+        : m_frame(popup.GetClientSize()), m_default(popup.GetDefaultColour())
     {
         popup.GetCellRect(CELL_AUTOMATIC, m_automatic);
         popup.GetCellRect(CELL_MORE_COLOURS, m_more);
@@ -69,12 +69,15 @@ public:
     {
         DrawAutomatic(dc);
         for (const Cell& cell : m_cells)
-            DrawCell(dc, cell.rect, m_margin + 1, cell.brush);
+            DrawCell(dc, cell.rect, kMargin + 1, cell.brush);
         DrawMore(dc);
         DrawFrame(dc);
     }
 
 private:
+    // The system of the benchmarks knows no width of an edge.
+    static constexpr int kMargin = 2;
+
     struct Cell
     {
         wxRect rect;
@@ -116,7 +119,7 @@ private:
         const wxRect base = m_automatic.Deflate(1, 1);
         Fill(dc, m_automatic, m_face);
         Fill(dc, base, m_face);
-        Rectangle(dc, base.Deflate(2 * m_margin, 2 * m_margin), m_shadow.pen, m_face.brush);
+        Rectangle(dc, base.Deflate(2 * kMargin, 2 * kMargin), m_shadow.pen, m_face.brush);
         Text(dc, base, "Automatic");
         const int side = m_automatic.height / 3;
         const int inset = (m_automatic.height - side) / 2;
@@ -126,9 +129,9 @@ private:
     void DrawMore(wxDC& dc) const
     {
         wxRect below = m_more;
-        below.y += 2 * m_margin;
+        below.y += 2 * kMargin;
         Fill(dc, below, m_face);
-        const int inset = 2 * m_margin;
+        const int inset = 2 * kMargin;
         Fill(dc, wxRect(m_more.x + inset, m_more.y, m_more.width - 2 * inset, 1), m_shadow);
         Fill(dc, wxRect(m_more.x + inset, m_more.y + 1, m_more.width - 2 * inset, 1), m_highlight);
         wxRect base = below.Deflate(1, 1);
@@ -156,7 +159,6 @@ private:
     }
 
     wxSize m_frame;
-    int m_margin;
     wxRect m_automatic;
     wxRect m_more;
     std::array<Cell, fittings::kColourCount> m_cells;
