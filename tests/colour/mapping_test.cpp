@@ -126,6 +126,12 @@ TEST(ColourIndex, IsNoneOutsideTheGrid)
     EXPECT_EQ(popup->GetIndex(2147483647, 7), -1);
 }
 
+TEST(ColourIndex, IsNoneBeforeThereAreRows)
+{
+    const OpenPopup popup;
+    EXPECT_EQ(popup.GetIndex(0, 0), -1);
+}
+
 // One coordinate is enough, the lower box goes first.
 TEST(ColourIndex, IsTheBoxThatEitherCoordinateNames)
 {
