@@ -59,7 +59,7 @@ bool CanBeShown(const wxFileName& folder)
 void LeaveWhatCannotBeShown(wxFileDialog& dialog, const wxString& start)
 {
     wxFileName folder = wxFileName::DirName(start);
-    if (start.empty() || CanBeShown(folder) || IsGone(start))
+    if (CanBeShown(folder) || IsGone(start))
         return;
     folder.MakeAbsolute();
     while (!CanBeShown(folder) && folder.GetDirCount() > 0)

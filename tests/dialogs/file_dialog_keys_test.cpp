@@ -287,6 +287,8 @@ TEST_F(SaveDialogByKeys, StartsInTheFolderOfSamples)
 TEST_F(SaveDialogByKeys, StartsAboveSamplesThatAreNotThereWithoutAnError)
 {
     const std::string home = HomeFolder();
+    // Into an empty entry GTK writes what the names of all files have in common, as the dot of hidden ones.
+    WriteFile(home + "/visible", "");
     Dialog dialog(m_settings.Path(), CallAgain());
     dialog.WaitForProposal(home, "");
     dialog.TypeName("first.csv");
@@ -332,6 +334,17 @@ TEST_F(SaveDialogByKeys, StartsAboveAFolderThatCannotBeReadWithoutAnError)
         EXPECT_FALSE(dialog.HadMessage());
     }
     fs::permissions(m_plain + "/closed", fs::perms::owner_all);
+}
+
+TEST_F(SaveDialogByKeys, StartsInTheRootFolderWhenNothingElseCanBeRead)
+{
+    Call call = CallIn("/root", "report");
+    call.asNobody = true;
+    Dialog dialog(m_settings.Path(), call);
+    dialog.WaitForProposal("/", "report");
+    dialog.Press("Escape");
+    EXPECT_EQ(dialog.Chosen(), "");
+    EXPECT_FALSE(dialog.HadMessage());
 }
 
 TEST_F(SaveDialogByKeys, GivesAFileInAFolderThatCannotBeWritten)

@@ -2,6 +2,7 @@
 
 #include <fittings/dialogs/file_dialog.h>
 
+#include <filesystem>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -182,6 +183,18 @@ TEST(SaveDialogFolder, IsTheNearestFolderAboveAFile)
     EXPECT_EQ(below.folder, folder / "file/a/b");
     EXPECT_EQ(below.shownFolder, folder.Path());
     EXPECT_EQ(below.file, "report");
+}
+
+TEST(SaveDialogFolder, IsTheNearestFolderAboveARelativeFile)
+{
+    const TempFolder folder;
+    WriteFile(folder / "file", "");
+    const auto earlier = std::filesystem::current_path();
+    std::filesystem::current_path(folder.Path());
+    const AskedFile in = AskedAt(L"file/report", L"");
+    std::filesystem::current_path(earlier);
+    EXPECT_EQ(in.folder, "file");
+    EXPECT_EQ(in.shownFolder, folder.Path());
 }
 
 // From there it goes up by itself.
