@@ -1,5 +1,8 @@
 #include <fittings/tree/tree_cursor.h>
 
+#include <cstddef>
+#include <type_traits>
+
 #include <gtest/gtest.h>
 
 #include <wx/bitmap.h>
@@ -10,6 +13,22 @@
 #include <tests/tree/tree_on_screen.h>
 
 namespace {
+
+// What may be asked of a constant cursor, and what the answers are.
+template <typename Result, typename... Arguments>
+using Asks = Result (wxTreeCursor::*)(Arguments...) const;
+
+static_assert(std::is_same_v<decltype(&wxTreeCursor::GetText), Asks<std::wstring>>);
+static_assert(std::is_same_v<decltype(&wxTreeCursor::GetImage), Asks<int, wxTreeItemIcon>>);
+static_assert(std::is_same_v<decltype(&wxTreeCursor::GetData), Asks<int>>);
+static_assert(std::is_same_v<decltype(&wxTreeCursor::IsExpanded), Asks<bool>>);
+static_assert(std::is_same_v<decltype(&wxTreeCursor::Delete), Asks<void>>);
+static_assert(std::is_same_v<decltype(&wxTreeCursor::GetParent), Asks<wxTreeCursor>>);
+static_assert(std::is_same_v<decltype(&wxTreeCursor::GetChild), Asks<wxTreeCursor>>);
+static_assert(std::is_same_v<decltype(&wxTreeCursor::GetNextSibling), Asks<wxTreeCursor>>);
+static_assert(std::is_same_v<decltype(&wxTreeCursor::GetTextColour), Asks<unsigned long>>);
+static_assert(std::is_base_of_v<wxTreeItemData, wxGenericTreeItemData>);
+static_assert(offsetof(wxTreeCursor, tree) == 0 && sizeof(wxTreeCursor) == 2 * sizeof(void*));
 
 class Cursor : public testing::Test
 {

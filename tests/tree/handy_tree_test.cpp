@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <type_traits>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -52,6 +53,49 @@ TEST(HandyTree, HasAnEmptyListOfSmallImages)
     int width = 0, height = 0;
     EXPECT_TRUE(images->GetSize(index, width, height));
     EXPECT_EQ(wxSize(width, height), wxSize(16, 16));
+}
+
+TEST(HandyTree, KeepsMasksInItsImageList)
+{
+    TreeOnScreen<> screen;
+    screen.tree->GetImageList()->Add(wxBitmap(16, 16, 24));
+    EXPECT_NE(screen.tree->GetImageList()->GetBitmap(0).GetMask(), nullptr);
+}
+
+// A bitmap that an image list holds as it is: the number of its holders tells whether the list is still there.
+wxBitmap Held(wxImageList& list)
+{
+    wxBitmap bitmap(16, 16, 24);
+    bitmap.SetMask(new wxMask(wxBitmap(16, 16, 1)));
+    list.Add(bitmap);
+    EXPECT_EQ(bitmap.GetRefData()->GetRefCount(), 2);
+    return bitmap;
+}
+
+TEST(HandyTree, DeletesItsImageListWithoutTellingTheControl)
+{
+    TreeOnScreen<> screen;
+    const wxImageList* const images = screen.tree->GetImageList();
+    const wxBitmap bitmap = Held(*screen.tree->GetImageList());
+    screen.tree->DetroyImageList();
+    EXPECT_EQ(bitmap.GetRefData()->GetRefCount(), 1);
+    EXPECT_EQ(screen.tree->GetImageList(), images);
+    screen.tree->CreateImageList();
+}
+
+TEST(HandyTree, DeletesItsImageListBeforeTheControlGoes)
+{
+    wxBitmap bitmap;
+    std::vector<int> holders;
+    {
+        TreeOnScreen<> screen;
+        bitmap = Held(*screen.tree->GetImageList());
+        screen.tree->AddRoot("root");
+        screen.tree->Bind(wxEVT_TREE_DELETE_ITEM,
+                          [&](wxTreeEvent&) { holders.push_back(bitmap.GetRefData()->GetRefCount()); });
+    }
+    EXPECT_EQ(holders, std::vector<int>{1});
+    EXPECT_EQ(bitmap.GetRefData()->GetRefCount(), 1);
 }
 
 // Says when it is deleted.

@@ -134,6 +134,16 @@ TEST_F(LargeTree, IsRestoredByAFixedNumberOfStepsASibling)
     EXPECT_EQ(expanded, kWidth / 10);
 }
 
+TEST_F(LargeTree, IsVisitedAlsoWhenNothingIsStored)
+{
+    Append(root, {L"A", L"B"});
+    root.GetChild().AppendItem("A1");
+    tree.ForgetCounts();
+    tree.LoadState("never saved", root);
+    EXPECT_EQ(tree.labels, 4);
+    EXPECT_EQ(tree.expansions, 0);
+}
+
 // Many of one label, changing from one to the next: no more than the last counts.
 TEST_F(LargeTree, OfOneLabelIsSavedAsOne)
 {
