@@ -24,8 +24,8 @@ inline constexpr char kLastProjectSave[] = "LastProjectSave";
 
 std::string GetRegEntry();
 
-/// As CQVFileDialogI::LaunchSaveDialog(), for a file that exists. A @a folderSwitch that is not empty has the dialog
-/// start at the file remembered, whatever it says; an empty one has the toolkit choose. It is never null.
+/// As CQVFileDialogI::LaunchSaveDialog(), for a file that exists. Unlike there, an empty @a folderSwitch has the dialog
+/// start where the toolkit likes, and any other text has it start at the file remembered, whatever it says. Never null.
 CStdStr<wchar_t> LaunchOpenDialog(wxWindow* parent, const wchar_t* defaultExtension, const wchar_t* wildcard,
                                   const wchar_t* title, const wchar_t* folderSwitch);
 
