@@ -195,6 +195,8 @@ TEST_F(Cursor, ExpandsItsItem)
     root.Expand();
     EXPECT_TRUE(root.IsExpanded());
     EXPECT_TRUE(tree.IsExpanded(root.item));
+    root.Expand();
+    EXPECT_TRUE(root.IsExpanded());
 }
 
 TEST_F(Cursor, CannotExpandALeaf)

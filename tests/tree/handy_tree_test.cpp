@@ -8,6 +8,7 @@
 
 #include <wx/button.h>
 #include <wx/imaglist.h>
+#include <wx/panel.h>
 #include <wx/sizer.h>
 
 #include <tests/tree/tree_on_screen.h>
@@ -39,6 +40,19 @@ TEST(HandyTree, HasTheToolkitsDefaults)
     EXPECT_EQ(screen.tree->GetName(), "treeCtrl");
     EXPECT_LT(screen.tree->GetId(), 0);
     EXPECT_EQ(screen.tree->GetValidator(), nullptr);
+}
+
+TEST(HandyTree, HasTheToolkitsPlaceAndSize)
+{
+    auto* const frame = new wxFrame(nullptr, wxID_ANY, "trees");
+    auto* const panel = new wxPanel(frame);
+    const auto* const plain = new wxTreeCtrl(panel);
+    auto* const tree = new wxHandyTreeCtrl;
+    tree->Create(panel);
+    EXPECT_EQ(tree->GetPosition(), plain->GetPosition());
+    EXPECT_EQ(tree->GetSize(), plain->GetSize());
+    frame->Destroy();
+    PumpPending();
 }
 
 TEST(HandyTree, HasAnEmptyListOfSmallImages)
