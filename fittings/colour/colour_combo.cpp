@@ -100,7 +100,7 @@ void wxColourCombo::OnTimerEvent(wxTimerEvent& /*event*/)
 
 wxRect wxColourCombo::OutlineAt(int elapsed) const
 {
-    const int step = elapsed * kSteps / m_animDuration;
+    const int step = static_cast<int>(std::int64_t{elapsed} * kSteps / m_animDuration);
     const int width = step * m_animRect.width / kSteps;
     const double part = m_animRect.width > 0 ? static_cast<double>(width) / m_animRect.width : 0;
     const int height = static_cast<int>(m_animRect.height * part);

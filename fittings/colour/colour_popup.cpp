@@ -204,12 +204,14 @@ wxString wxColourPopup::GetStringValue() const
 
 void wxColourPopup::SetStringValue(const wxString& value)
 {
-    if (m_bInternalHide)
+    if (m_bInternalHide || m_ending)
         return;
     for (int i = 0; i < fittings::kColourCount; ++i) {
         const wchar_t* const name = GetColourName(i);
         if (name && value == name) {
-            ChangeSelection(i);
+            // When the combo closes its popup, it hands back the name of the cell that is hot already.
+            if (i != m_nCurrentSel)
+                ChangeSelection(i);
             return;
         }
     }

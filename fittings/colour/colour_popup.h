@@ -121,8 +121,8 @@ public:
     wxString GetStringValue() const override;
 
     /// Makes the colour of that name hot, in the language and the letter case that the table has it in. Any other text,
-    /// those of the boxes included, changes nothing, and neither does any while the popup hides itself: what the combo
-    /// then hands back is no choice of the user's.
+    /// those of the boxes included, changes nothing, and neither does the name of the cell that is hot already, nor any
+    /// while the popup hides itself: what the combo then hands back is no choice of the user's.
     void SetStringValue(const wxString& value) override;
     /// @}
 
@@ -223,6 +223,7 @@ private:
     bool HideCombo();
     void RestoreValue();
 
+    bool m_ending = false;                     ///< While the listener hears of an end.
     std::optional<wxString> m_valueWhenShown;  ///< Of the combo; none once a colour has been chosen.
 
     wxDECLARE_EVENT_TABLE();

@@ -60,7 +60,8 @@ void wxColourPopup::OnPopup()
 
 void wxColourPopup::OnDismiss()
 {
-    if (m_bInternalHide)
+    // A listener that closes the popup when it hears of an end needs not hear of another.
+    if (m_bInternalHide || m_ending)
         return;
     const Alive alive(this);
     RestoreValue();
@@ -162,6 +163,7 @@ void wxColourPopup::DoShowColorDlg()
 void wxColourPopup::DoEndSel(bool ok)
 {
     const Alive alive(this);
+    m_ending = true;
     if (ok) {
         m_crInitialColour = m_crColour;
         m_nChosenColourSel = m_nCurrentSel;
@@ -174,7 +176,10 @@ void wxColourPopup::DoEndSel(bool ok)
         if (m_pListener)
             m_pListener->OnColourSelCancel(wxColour(m_crColour));
     }
-    if (!alive || !m_combo)
+    if (!alive)
+        return;
+    m_ending = false;
+    if (!m_combo)
         return;
     if (m_combo->IsPopupShown() && !HideCombo())
         return;

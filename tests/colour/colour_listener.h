@@ -28,12 +28,13 @@ public:
 private:
     void Note(std::string call, const wxColour* colour = nullptr)
     {
+        const std::size_t index = m_calls.size();
         m_calls.push_back(call);
         if (during)
             during(call);
         // The colour is read after what a host may do in the call, and must then still be there.
         if (colour)
-            m_calls.back() += " " + colour->GetAsString(wxC2S_HTML_SYNTAX).ToStdString();
+            m_calls.at(index) += " " + colour->GetAsString(wxC2S_HTML_SYNTAX).ToStdString();
     }
 
     ColourCalls m_calls;

@@ -194,7 +194,7 @@ TEST_F(ColourEnding, IsACancelWhenTheComboIsDismissed)
     listener.Take();
     on.combo->Dismiss();
     EXPECT_FALSE(on.combo->IsPopupShown());
-    EXPECT_EQ(listener.Take().back(), "cancel #0000FF");
+    EXPECT_EQ(listener.Take(), ColourCalls{"cancel #0000FF"});
     EXPECT_EQ(on.popup->m_crColour, *wxBLUE);
     EXPECT_EQ(on.combo->GetValue(), "Blue");
     EXPECT_FALSE(on.popup->m_bInternalHide);
@@ -290,7 +290,7 @@ TEST_F(ColourEndingWithText, HasTheEarlierTextAfterADismissal)
     on.combo->Dismiss();
     EXPECT_EQ(on.combo->GetTextCtrl()->GetValue(), "my own");
     EXPECT_EQ(texts.back(), "my own");
-    EXPECT_EQ(listener.Take().back(), "cancel #0000FF") << "no change follows the end";
+    EXPECT_EQ(listener.Take(), (ColourCalls{"popup", "change #32CD32", "cancel #0000FF"}));
     EXPECT_EQ(on.popup->m_crColour, *wxBLUE);
 }
 
@@ -320,6 +320,8 @@ TEST_F(ColourEndingWithText, ChangesNothingByAValueHandedBackWhileItHidesItself)
     on.popup->m_bInternalHide = false;
     on.popup->SetStringValue("Red");
     EXPECT_EQ(listener.Take(), ColourCalls{"change #FF0000"});
+    on.popup->SetStringValue("Red");
+    EXPECT_EQ(listener.Take(), ColourCalls()) << "the cell is hot already";
 }
 
 // --- Without a colour combo ------------------------------------------------------------------------------------------

@@ -1,0 +1,52 @@
+// "More Colours..." as a user meets it: the real dialog, in a program of its own, that is sent keys.
+
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include <tests/colour/watched_probe.h>
+
+namespace {
+
+class MoreColoursByKeys : public testing::Test
+{
+protected:
+    // Opens the popup and goes up from "Automatic" to "More Colours...".
+    void OpenDialog()
+    {
+        Xdotool({"key", "F4"});
+        ASSERT_TRUE(probe.Waits("popup "));
+        Xdotool({"key", "Down"});
+        ASSERT_TRUE(probe.Waits("change "));
+        Xdotool({"key", "Return"});
+        ASSERT_TRUE(probe.Waits("dialog active "));
+    }
+
+    WatchedProbe probe{1};
+};
+
+TEST_F(MoreColoursByKeys, GivesTheColourThatWasTyped)
+{
+    OpenDialog();
+    Xdotool({"key", "alt+n"});
+    ASSERT_TRUE(probe.Waits("dialog active GtkEntry "));
+    Xdotool({"key", "ctrl+a"});
+    Xdotool({"type", "--delay", "20", "#12AB34"});
+    Xdotool({"key", "Tab"});
+    ASSERT_TRUE(WaitUntil([&] { return probe.Lines("dialog active ").back().find("#12AB34") != std::string::npos; }));
+    Xdotool({"key", "alt+s"});
+    ASSERT_TRUE(probe.Waits("end #12AB34"));
+    probe.ExpectEnd();
+    EXPECT_EQ(probe.Lines("value "), std::vector<std::string>{"More Colours..."});
+}
+
+TEST_F(MoreColoursByKeys, KeepsTheColourAfterEscape)
+{
+    OpenDialog();
+    Xdotool({"key", "Escape"});
+    ASSERT_TRUE(probe.Waits("end #000000"));
+    probe.ExpectEnd();
+    EXPECT_TRUE(probe.Lines("cancel").empty());
+}
+
+}  // namespace

@@ -1,0 +1,183 @@
+// The combo on Wayland, where no program can copy the screen, place its windows or draw between paint events: in a
+// compositor that runs in a window of the X display, and gets its input from there.
+
+#include <chrono>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include <tests/colour/screen.h>
+#include <tests/colour/watched_probe.h>
+#include <tests/support/temp_folder.h>
+
+#include <X11/Xlib.h>
+#include <X11/Xutil.h>
+
+namespace {
+
+constexpr const char* SOCKET = "wayland-of-the-test";
+
+// Where the compositor's window is on the X screen.
+wxPoint CompositorsPlace()
+{
+    const std::unique_ptr<Display, int (*)(Display*)> display(XOpenDisplay(nullptr), XCloseDisplay);
+    const Window root = DefaultRootWindow(display.get());
+    std::vector<Window> windows{root};
+    for (std::size_t i = 0; i < windows.size(); ++i) {
+        XClassHint hint{};
+        if (XGetClassHint(display.get(), windows[i], &hint)) {
+            const std::string name = hint.res_class;
+            XFree(hint.res_name);
+            XFree(hint.res_class);
+            wxPoint place;
+            Window child = 0;
+            if (name == "Weston Compositor" &&
+                XTranslateCoordinates(display.get(), windows[i], root, 0, 0, &place.x, &place.y, &child))
+                return place;
+        }
+        Window parent = 0;
+        Window top = 0;
+        Window* children = nullptr;
+        unsigned count = 0;
+        if (XQueryTree(display.get(), windows[i], &top, &parent, &children, &count)) {
+            windows.insert(windows.end(), children, children + count);
+            XFree(children);
+        }
+    }
+    ADD_FAILURE() << "the compositor has no window";
+    return {};
+}
+
+class ColourOnWayland : public testing::Test
+{
+protected:
+    // The compositor's window is given to the one program that it has.
+    ColourOnWayland()
+        : compositor({"weston", "--backend=x11-backend.so", "--use-pixman", "--width=900", "--height=600",
+                      "--shell=kiosk-shell.so", "--no-config", "--idle-time=0", std::string("--socket=") + SOCKET},
+                     {{"XDG_RUNTIME_DIR", runtime.Path()}})
+    {
+        EXPECT_TRUE(WaitUntil([&] { return std::filesystem::exists(runtime / SOCKET) || !compositor.IsRunning(); }));
+        EXPECT_TRUE(compositor.IsRunning()) << compositor.Output();
+    }
+
+    std::map<std::string, std::optional<std::string>> Environment() const
+    {
+        return {{"XDG_RUNTIME_DIR", runtime.Path()},
+                {"WAYLAND_DISPLAY", SOCKET},
+                {"GDK_BACKEND", "wayland"},
+                {"DISPLAY", std::nullopt}};
+    }
+
+    static int Pixel(const wxPoint& at)
+    {
+        const wxImage seen = GrabScreen(wxRect(at, wxSize(1, 1)));
+        return seen.GetRed(0, 0) << 16 | seen.GetGreen(0, 0) << 8 | seen.GetBlue(0, 0);
+    }
+
+    // Where the combo is on the X screen.
+    static wxRect Combo(const WatchedProbe& probe)
+    {
+        const std::vector<int> numbers = probe.Numbers("combo ");
+        EXPECT_EQ(numbers.size(), 4u);
+        const wxPoint screen = CompositorsPlace();
+        return numbers.size() == 4 ? wxRect(screen.x + numbers[0], screen.y + numbers[1], numbers[2], numbers[3])
+                                   : wxRect();
+    }
+
+    // The middle of a cell, in the popup.
+    static wxPoint Cell(const WatchedProbe& probe, int index)
+    {
+        const std::vector<int> numbers = probe.Numbers("cell " + std::to_string(index) + " ");
+        EXPECT_EQ(numbers.size(), 2u);
+        return numbers.size() == 2 ? wxPoint(numbers[0], numbers[1]) : wxPoint();
+    }
+
+    // A hot cell has a dark line at its right, two pixels from its edge.
+    static bool IsHot(const wxPoint& middle) { return Pixel(middle + wxPoint(7, 0)) == 0; }
+
+    // Moves the pointer to a place until a program has heard of it. The compositor believes the pointer's place only when
+    // it comes into its window, and does not always tell of a single move.
+    static void Move(const wxPoint& at, const std::function<bool()>& done)
+    {
+        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(15);
+        for (int i = 0; !done() && std::chrono::steady_clock::now() < deadline; ++i) {
+            if (i % 20 == 0)
+                Xdotool({"mousemove", "0", "0", "mousemove", std::to_string(at.x - 1), std::to_string(at.y),
+                         "mousemove", std::to_string(at.x), std::to_string(at.y)});
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        }
+        EXPECT_TRUE(done());
+    }
+
+    const TempFolder runtime;
+    ChildProcess compositor;
+};
+
+TEST_F(ColourOnWayland, IsUsedByKeyboard)
+{
+    WatchedProbe probe(2, Environment());
+    EXPECT_EQ(probe.Lines("display "), std::vector<std::string>{"wayland"});
+    const wxRect combo = Combo(probe);
+    Xdotool({"key", "F4"});
+    ASSERT_TRUE(probe.Waits("popup "));
+    EXPECT_EQ(probe.Lines("opens "), std::vector<std::string>{"at once"});
+    // Down leads to "More Colours...", "Automatic" and the first cell.
+    Xdotool({"key", "Down", "Down", "Down"});
+    ASSERT_TRUE(probe.Waits("change ", 3));
+    const wxPoint first = combo.GetBottomLeft() + wxPoint(0, 1) + Cell(probe, 0);
+    EXPECT_TRUE(WaitUntil([&] { return IsHot(first); })) << "the hot cell is not seen";
+    Xdotool({"key", "Right"});
+    EXPECT_TRUE(WaitUntil([&] { return IsHot(first + wxPoint(18, 0)) && !IsHot(first); })) << "it is not seen to move";
+    Xdotool({"key", "Return"});
+    ASSERT_TRUE(probe.Waits("end #A52A00"));
+    const wxPoint face = combo.GetPosition() + wxPoint(20, combo.height / 2);
+    EXPECT_TRUE(WaitUntil([&] { return Pixel(face) == 0xA52A00; }));
+
+    Xdotool({"key", "alt+Down"});
+    ASSERT_TRUE(probe.Waits("popup ", 2));
+    Xdotool({"key", "Up"});
+    ASSERT_TRUE(probe.Waits("change ", 5));
+    Xdotool({"key", "Escape"});
+    ASSERT_TRUE(probe.Waits("cancel #A52A00"));
+    probe.ExpectEnd();
+    EXPECT_EQ(probe.Lines("value "), std::vector<std::string>{"Brown"});
+}
+
+TEST_F(ColourOnWayland, IsUsedByMouse)
+{
+    WatchedProbe probe(1, Environment());
+    const wxRect combo = Combo(probe);
+    const auto heard = [&](const std::string& line) { return [&probe, line] { return !probe.Lines(line).empty(); }; };
+    Move(combo.GetTopRight() + wxPoint(-10, combo.height / 2), heard("over combo"));
+    Xdotool({"click", "1"});
+    ASSERT_TRUE(probe.Waits("popup "));
+    const wxPoint aqua = combo.GetBottomLeft() + wxPoint(0, 1) + Cell(probe, 20);
+    const wxPoint besideIt = aqua - wxPoint(18, 0);
+    Move(besideIt, heard("change #3CB371"));
+    EXPECT_TRUE(WaitUntil([&] { return IsHot(besideIt); }));
+    Move(aqua, heard("change #7FFFD4"));
+    EXPECT_TRUE(WaitUntil([&] { return IsHot(aqua) && !IsHot(besideIt); }));
+    Xdotool({"click", "1"});
+    ASSERT_TRUE(probe.Waits("end #7FFFD4"));
+    probe.ExpectEnd();
+    EXPECT_EQ(probe.Lines("value "), std::vector<std::string>{"Aqua"});
+}
+
+TEST_F(ColourOnWayland, IsClosedByAClickOutside)
+{
+    WatchedProbe probe(1, Environment());
+    Xdotool({"key", "F4"});
+    ASSERT_TRUE(probe.Waits("popup "));
+    const wxPoint outside = Combo(probe).GetPosition() + wxPoint(300, 250);
+    Xdotool({"mousemove", "0", "0", "mousemove", std::to_string(outside.x), std::to_string(outside.y), "click", "1"});
+    ASSERT_TRUE(probe.Waits("cancel #000000"));
+    probe.ExpectEnd();
+}
+
+}  // namespace
