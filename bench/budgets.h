@@ -20,6 +20,8 @@ constexpr Budget kBudgets[] = {
     {"format/1234567.891", "ICU formatter on decimal text, kept", 0.5},
     {"format/1234567.891-wx", "wxNumberFormatter::ToString", 0.12},
     {"format/100k", "ICU formatter on decimal text, kept", 0.6},
+    {"thread/post", "wxEvtHandler::AddPendingEvent of a ready event", 1.2},
+    {"thread/run-wait", "detached wxThread, mutex and condition by hand", 1.15},
     {"tree/save-100k", "walk by child cookie copying every label", 4.0},
     {"tree/load-10k", "wxTreeCtrl::Expand of the same items, frozen", 1.5},
     {"colour/paint", "the same primitives with pens and brushes made once", 3.0},

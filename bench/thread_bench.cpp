@@ -1,0 +1,183 @@
+// What a worker's thread and its posted events cost over the toolkit's own, made up by hand.
+
+#include <atomic>
+
+#include <benchmark/benchmark.h>
+
+#include <wx/event.h>
+#include <wx/evtloop.h>
+#include <wx/thread.h>
+
+#include <fittings/thread/gui_thread.h>
+#include <fittings/thread/thread_ex.h>
+
+namespace {
+
+constexpr int kEvents = 10'000;
+const wxEventTypeTag<wxCommandEvent> kType(wxNewEventType());
+
+// An exit code to be known again.
+wxThread::ExitCode Result()
+{
+    static int result;
+    return &result;
+}
+
+// Makes a text of each event, as the least that an application does with one, and leaves the event loop with the last.
+class Receiver : public wxEvtHandler
+{
+public:
+    Receiver() { Bind(kType, &Receiver::OnEvent, this); }
+
+    void ReceiveAll() { m_loop.Run(); }
+
+private:
+    void OnEvent(wxCommandEvent& event)
+    {
+        m_progress = wxString::Format("%d files", event.GetInt());
+        if (++m_received == kEvents)
+            m_loop.Exit();
+    }
+
+    wxGUIEventLoop m_loop;
+    wxString m_progress;
+    int m_received = 0;
+};
+
+class Poster : public wxGUIThread
+{
+public:
+    explicit Poster(Receiver* receiver) : wxGUIThread(receiver) { RunThread(); }
+
+    wxThread::ExitCode Entry() override
+    {
+        for (int i = 0; i < kEvents; ++i)
+            PostEvent(kType, i);
+        return nullptr;
+    }
+};
+
+class PosterByHand : public wxThread
+{
+public:
+    explicit PosterByHand(Receiver* receiver) : wxThread(wxTHREAD_JOINABLE), m_receiver(receiver)
+    {
+        Create();
+        Run();
+    }
+
+protected:
+    ExitCode Entry() override
+    {
+        wxCommandEvent event(kType);
+        for (int i = 0; i < kEvents; ++i) {
+            event.SetInt(i);
+            m_receiver->AddPendingEvent(event);
+        }
+        return nullptr;
+    }
+
+private:
+    Receiver* const m_receiver;
+};
+
+// What an event costs from the worker to the end of its handler. First all are posted and then all delivered: when both go
+// on at once, the toolkit's locks decide by chance how often one thread sleeps for the other.
+template <typename Worker>
+void Post(benchmark::State& state)
+{
+    for (auto _ : state) {
+        Receiver receiver;
+        Worker worker(&receiver);
+        worker.Wait();
+        receiver.ReceiveAll();
+    }
+}
+
+class Runner : public wxThreadEx
+{
+public:
+    Runner() : wxThreadEx(wxTHREAD_JOINABLE) {}
+    wxThread::ExitCode Entry() override { return Result(); }
+};
+
+struct End
+{
+    wxMutex mutex;
+    wxCondition condition{mutex};
+    bool finished = false;
+    wxThread::ExitCode exitCode = nullptr;
+};
+
+// Counts the threads that are not yet over: the program must not end before they are, or the toolkit crashes.
+class Alive
+{
+public:
+    Alive() { ++s_count; }
+    ~Alive() { --s_count; }
+    Alive(const Alive&) = delete;
+    Alive& operator=(const Alive&) = delete;
+
+    static void WaitForNone()
+    {
+        while (s_count > 0)
+            wxThread::Yield();
+    }
+
+private:
+    static inline std::atomic<int> s_count{0};
+};
+
+class RunnerByHand : public wxThread
+{
+public:
+    explicit RunnerByHand(End* end) : wxThread(wxTHREAD_DETACHED), m_end(end) {}
+
+protected:
+    ExitCode Entry() override
+    {
+        static thread_local const Alive alive;
+        const wxMutexLocker lock(m_end->mutex);
+        m_end->exitCode = Result();
+        m_end->finished = true;
+        m_end->condition.Signal();
+        return nullptr;
+    }
+
+private:
+    End* const m_end;
+};
+
+void RunAndWait(benchmark::State& state)
+{
+    for (auto _ : state) {
+        Runner runner;
+        runner.Create(0);
+        runner.Run();
+        if (runner.Wait() != Result())
+            state.SkipWithError("a wrong exit code");
+    }
+}
+
+void RunAndWaitByHand(benchmark::State& state)
+{
+    for (auto _ : state) {
+        End end;
+        auto* runner = new RunnerByHand(&end);  // deletes itself
+        runner->Create();
+        runner->Run();
+        const wxMutexLocker lock(end.mutex);
+        while (!end.finished)
+            end.condition.Wait();
+        if (end.exitCode != Result())
+            state.SkipWithError("a wrong exit code");
+    }
+    Alive::WaitForNone();
+}
+
+BENCHMARK(Post<Poster>)->Name("thread/post")->UseRealTime();
+BENCHMARK(Post<PosterByHand>)->Name("thread/post/peer")->UseRealTime();
+BENCHMARK(RunAndWait)->Name("thread/run-wait")->UseRealTime();
+BENCHMARK(RunAndWaitByHand)->Name("thread/run-wait/peer")->UseRealTime();
+
+}  // namespace
