@@ -83,6 +83,9 @@ public:
     /// true when the worker may go on: the event was queued, or dropped for want of a handler. It returns false when the
     /// worker was asked to stop; then nothing is queued.
     ///
+    /// Nothing slows a worker down that posts faster than the GUI thread handles: its events fill the memory and keep the
+    /// GUI from everything else. Report results at intervals, not each by itself.
+    ///
     /// Client data is passed through as it is and never owned. An event that is dropped, or still queued when its handler
     /// is destroyed, frees nothing.
     ///

@@ -2,6 +2,7 @@
 
 #include <fittings/thread/gui_thread.h>
 
+#include <atomic>
 #include <memory>
 #include <vector>
 
@@ -26,6 +27,7 @@ public:
             ++outOfOrder;
         ++count;
         ++total;
+        ++handled;
         return true;
     }
 
@@ -33,6 +35,7 @@ public:
     std::vector<int> counts;
     int outOfOrder = 0;
     int total = 0;
+    std::atomic<int> handled{0};  ///< The total, for other threads.
 };
 
 class Poster : public wxGUIThreadEx
@@ -46,7 +49,7 @@ public:
     wxThread::ExitCode Entry() override
     {
         int posted = 0;
-        while (posted != m_count && PostEvent(posted, m_number))
+        while (posted < m_count && PostEvent(posted, m_number))
             ++posted;
         return Code(posted);
     }
@@ -56,6 +59,29 @@ private:
     const int m_count;
 };
 
+/// Posts until it is stopped, but never gets far ahead of the handler: a GUI thread that is slower would not get to
+/// anything but the events, and they would fill the memory.
+class EndlessPoster : public wxGUIThreadEx
+{
+public:
+    explicit EndlessPoster(Counter& handler) : wxGUIThreadEx(&handler, Counter::kType), m_handler(handler) {}
+
+    wxThread::ExitCode Entry() override
+    {
+        int posted = 0;
+        while (DoContinue()) {
+            if (posted - m_handler.handled > 100)
+                wxThread::Yield();
+            else if (PostEvent(posted, 0L))
+                ++posted;
+        }
+        return Code(posted);
+    }
+
+private:
+    const Counter& m_handler;
+};
+
 TEST(AThousandCycles, OfStartPostStopAndWaitLoseNothing)
 {
     Counter handler(1);
@@ -63,7 +89,8 @@ TEST(AThousandCycles, OfStartPostStopAndWaitLoseNothing)
     for (int cycle = 0; cycle < 1000; ++cycle) {
         handler.counts[0] = 0;
         handler.total = 0;
-        auto worker = std::make_unique<Poster>(&handler, 0, -1);
+        handler.handled = 0;
+        auto worker = std::make_unique<EndlessPoster>(handler);
         ASSERT_EQ(worker->RunThread(), wxTHREAD_NO_ERROR);
         // Every other one is stopped at any moment from its start on.
         const int awaited = cycle % 2;
