@@ -65,6 +65,9 @@ public:
 
     /// The colour in effect: what the combo's face and the "More Colours..." cell show. Black at first. An invalid
     /// colour asserts and is not taken.
+    ///
+    /// Set it before the combo takes the popup: the popup marks "Automatic" then if this is the default colour, and that
+    /// mark stays.
     void SetInitialColour(const wxColour& colour);
     const wxColour& GetInitialColour() const { return m_crInitialColour; }
 
