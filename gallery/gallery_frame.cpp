@@ -1,5 +1,6 @@
 #include "gallery_frame.h"
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -114,7 +115,7 @@ void GalleryFrame::BindEvents()
 {
     const auto bindCommand = [this](int id, void (BrowserPage::*run)()) {
         Bind(
-            wxEVT_MENU, [this, run](wxCommandEvent&) { (m_browser->*run)(); }, id);
+            wxEVT_MENU, [this, run](wxCommandEvent&) { std::invoke(run, *m_browser); }, id);
     };
     bindCommand(wxID_UP, &BrowserPage::GoUp);
     bindCommand(wxID_REFRESH, &BrowserPage::RefreshFolders);
