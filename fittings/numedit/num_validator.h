@@ -18,8 +18,9 @@
 /// @endcode
 ///
 /// While the user types, a character that would leave something else than the beginning of an acceptable number is
-/// refused with a bell. Keys that are no characters (Backspace, Delete, Tab, Enter, arrows, shortcuts) are never
-/// refused, whatever text they leave behind. The text is never formatted: CNumberEditUtils::FormatControlText() does.
+/// refused with a bell. Keys that are no characters (Backspace, Delete, Tab, Enter, arrows, Control with a letter) are
+/// never refused, whatever text they leave behind. The text is never formatted: CNumberEditUtils::FormatControlText()
+/// does.
 ///
 /// What typing cannot promise, Validate() and TransferFromWindow() do, so that no dialog ends with a bad number:
 /// - A pasted or dropped text, and one set by the program, goes in unchecked.
@@ -71,8 +72,9 @@ public:
     /// Refuses a character that would not leave a number or the beginning of one, with a bell unless
     /// wxValidator::IsSilent(). Bound to wxEVT_CHAR.
     ///
-    /// Checked are key codes 32 to 300 except WXK_DELETE, and characters known by their Unicode value alone. A selection
-    /// counts as beginning at the insertion point.
+    /// Checked are key codes 32 to 300 except WXK_DELETE, and characters known by their Unicode value alone, whatever the
+    /// modifiers: Alt with a letter that neither menu nor label takes is refused too. A selection counts as beginning at
+    /// the insertion point.
     ///
     /// @throws std::out_of_range  The control, or a class derived from it, says that its insertion point lies beyond the
     ///                            text.

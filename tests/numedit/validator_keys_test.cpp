@@ -209,4 +209,36 @@ TEST_F(ShortcutKeys, Undo)
     EXPECT_EQ(screen.BellsRung(), 0);
 }
 
+struct Chord
+{
+    const char* name;
+    int key;
+    int modifiers;
+    int code;
+    int bells;
+};
+
+class Chords : public testing::TestWithParam<Chord>
+{
+};
+
+// With Control a letter is a control character, everything else is what it is without.
+TEST_P(Chords, AreCheckedByTheirCodeAlone)
+{
+    NumberDialog screen{FixedFormat()};
+    screen.Show("12345");
+    screen.Press(GetParam().key, GetParam().modifiers);
+    EXPECT_EQ(screen.keys.chars, std::vector<int>{GetParam().code});
+    EXPECT_EQ(screen.Text(), L"12345");
+    EXPECT_EQ(screen.textEvents, 0);
+    EXPECT_EQ(screen.BellsRung(), GetParam().bells);
+}
+
+INSTANTIATE_TEST_SUITE_P(, Chords,
+                         testing::Values(Chord{"ControlLetter", 'Q', wxMOD_CONTROL, 17, 0},
+                                         Chord{"ControlDigit", '1', wxMOD_CONTROL, '1', 1},
+                                         Chord{"AltLetter", 'Q', wxMOD_ALT, 'q', 1},
+                                         Chord{"AltDigit", '1', wxMOD_ALT, '1', 1}),
+                         [](const auto& info) { return info.param.name; });
+
 }  // namespace
