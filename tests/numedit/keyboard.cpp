@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include <gdk/gdkx.h>
+#include <gdk/gdk.h>
 
 #include <tests/support/child_process.h>
 #include <tests/support/gui.h>
@@ -80,9 +80,4 @@ NumLock::NumLock()
 NumLock::~NumLock()
 {
     SetNumLock(false);
-}
-
-void StopKeyRepeat()
-{
-    XAutoRepeatOff(gdk_x11_get_default_xdisplay());
 }

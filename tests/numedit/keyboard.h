@@ -41,7 +41,4 @@ public:
     NumLock& operator=(const NumLock&) = delete;
 };
 
-/// Keeps a slow machine from repeating a key that is held too long.
-void StopKeyRepeat();
-
 #endif

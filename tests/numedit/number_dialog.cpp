@@ -8,7 +8,6 @@
 #include <wx/uiaction.h>
 #include <wx/utils.h>
 
-#include <tests/numedit/keyboard.h>
 #include <tests/support/child_process.h>
 #include <tests/support/gui.h>
 
@@ -81,7 +80,6 @@ NumberDialog::NumberDialog(const CNumberFormat& format, wxString* value, long st
     all->Add(fields, wxSizerFlags().Border());
     all->Add(dialog->CreateButtonSizer(wxOK | wxCANCEL), wxSizerFlags().Border());
     dialog->SetSizerAndFit(all);
-    StopKeyRepeat();
 }
 
 NumberDialog::~NumberDialog()
