@@ -150,6 +150,25 @@ TEST(NumberFormat, AssignsEveryField)
     ExpectFixed(locale);
 }
 
+// A field that took another one's value would be seen here.
+TEST(NumberFormat, AssignsEachFlagByItself)
+{
+    bool CNumberFormat::*const flags[] = {&CNumberFormat::m_bPadDecimals,   &CNumberFormat::m_bRoundDecimals,
+                                          &CNumberFormat::m_bAllowSign,     &CNumberFormat::m_bGroupDigits,
+                                          &CNumberFormat::m_bTrailingMinus, &CNumberFormat::m_bAllowExponent,
+                                          &CNumberFormat::m_bHasDecimals,   &CNumberFormat::m_bHasMaxIntDigits,
+                                          &CNumberFormat::m_bHasMin,        &CNumberFormat::m_bHasMax};
+    for (const auto only : flags) {
+        CNumberFormat original(eFixedFormat);
+        for (const auto flag : flags)
+            original.*flag = flag == only;
+        CNumberFormat assigned(eLocaleFormat);
+        assigned = original;
+        for (const auto flag : flags)
+            EXPECT_EQ(assigned.*flag, flag == only);
+    }
+}
+
 TEST(NumberFormat, StaysAsItIsWhenAssignedToItself)
 {
     CNumberFormat format = Unusual();
