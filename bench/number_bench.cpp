@@ -142,6 +142,7 @@ void FormatLongIcu(benchmark::State& state)
     FormatIcu(state, Digits<char>(state.range(0)));
 }
 
+/// In the C locale it finds no separator to group with, which only makes it faster.
 void FormatToolkit(benchmark::State& state)
 {
     for (auto _ : state)

@@ -46,7 +46,8 @@ const wchar_t* AfterDigits(const wchar_t* text)
 
 /// Makes @a result of @a text by putting one point in place of the other. False where nothing is to be replaced.
 ///
-/// An empty point is one of the locale's that cannot be converted.
+/// An empty point is one of the locale's that cannot be converted. That both are the same character is the usual case,
+/// and found without a call.
 bool ReplacePoint(std::wstring& result, const wchar_t* text, std::wstring_view from, std::wstring_view to)
 {
     if (from.empty() || to.empty() || (from.size() == 1 && to.size() == 1 && from[0] == to[0]))

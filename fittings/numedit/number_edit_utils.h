@@ -44,9 +44,11 @@ public:
     /// letter may be left out, as in "12-5". Group separators, blanks and a trailing minus are not accepted, and so
     /// not everything that FormatControlText() shows.
     ///
-    /// The point is the format's or the locale's. Bounds are checked against what wcstod() reads, which is 0 of a text
-    /// that is no number yet: with a lowest value above 0, the empty text is refused. Where the lowest value is above
-    /// the highest, every text is. A digit as the decimal point stands for the point wherever it is typed.
+    /// The point is the format's or the locale's; none is accepted where the toolkit's current conversion cannot read
+    /// the locale's. A digit as the format's point stands for the point wherever it is typed.
+    ///
+    /// Bounds are checked against what wcstod() reads, which is 0 of a text that is no number yet: with a lowest value
+    /// above 0, the empty text is refused. Where the lowest value is above the highest, every text is.
     static bool ValidateString(const wchar_t* text, const CNumberFormat& format);
 
     /// Whether a user may type @a text on the way to a number that the format accepts.
