@@ -9,6 +9,7 @@
 
 #include <fuzz/check.h>
 #include <fuzzer/FuzzedDataProvider.h>
+#include <locale.h>
 
 namespace {
 
@@ -22,23 +23,26 @@ constexpr double kBounds[] = {0,      -0.0,     1,        -1,     0.5,   0.05,
                               12,     1000,     1e5,      -1e300, 1e300, std::numeric_limits<double>::quiet_NaN(),
                               5e-324, HUGE_VAL, -HUGE_VAL};
 constexpr std::size_t kLargeText = 1 << 17;
+constexpr std::size_t kLocales = 4;
 
 struct NumberLocale
 {
-    const char* name;
+    locale_t locale;
     wchar_t point;
 };
-constexpr NumberLocale kLocales[] = {{"C", L'.'}, {"C", L'.'}, {"de_DE.UTF-8", L','}, {"ps_AF.UTF-8", 0x66B}};
 
-wchar_t SetLocale(const NumberLocale& locale)
+// Sets one of the locales, all of which stay loaded: setlocale() alone would read the files anew at each change.
+wchar_t UseLocale(std::size_t index)
 {
-    static const NumberLocale* current = nullptr;
-    if (current != &locale) {
+    static const auto load = [](const char* name, wchar_t point) {
         setenv("LOCPATH", TEST_LOCALES, 1);
-        Check(std::setlocale(LC_ALL, locale.name) != nullptr, "the locale is there");
-        current = &locale;
-    }
-    return locale.point;
+        Check(std::setlocale(LC_ALL, name) != nullptr, "the locale is there");
+        return NumberLocale{duplocale(LC_GLOBAL_LOCALE), point};
+    };
+    static const NumberLocale locales[kLocales] = {load("C", L'.'), load("C.UTF-8", L'.'), load("de_DE.UTF-8", L','),
+                                                   load("ps_AF.UTF-8", 0x66B)};
+    uselocale(locales[index].locale);
+    return locales[index].point;
 }
 
 wchar_t CharacterOf(unsigned char byte)
@@ -48,8 +52,11 @@ wchar_t CharacterOf(unsigned char byte)
 
 std::uint64_t ConsumeCount(FuzzedDataProvider& bytes)
 {
+    constexpr std::uint64_t kHuge[] = {0xFFFF'FFFF'FFFF'FFFF, 0xFFFF'FFFF, 0x8000'0000'0000'0000};
     const auto count = bytes.ConsumeIntegral<std::uint8_t>();
-    return count < 254 ? count % 10 : std::numeric_limits<std::uint64_t>::max() - (count - 254) * (1ULL << 32);
+    // Not the highest byte, which comes often: a million zeros take long.
+    const unsigned huge = count - 0xA5U;
+    return huge < std::size(kHuge) ? kHuge[huge] : count % 10;
 }
 
 double ConsumeBound(FuzzedDataProvider& bytes)
@@ -107,7 +114,7 @@ std::wstring ConsumeText(FuzzedDataProvider& bytes)
 NumberInput::NumberInput(const std::uint8_t* data, std::size_t size) : format(eFixedFormat)
 {
     FuzzedDataProvider bytes(data, size);
-    localePoint = SetLocale(kLocales[bytes.ConsumeIntegralInRange<std::size_t>(0, std::size(kLocales) - 1)]);
+    localePoint = UseLocale(bytes.ConsumeIntegralInRange<std::size_t>(0, kLocales - 1));
     format = ConsumeFormat(bytes);
     text = ConsumeText(bytes);
 }

@@ -14,7 +14,7 @@
 /// input.
 struct NumberInput
 {
-    /// Sets the process's locale.
+    /// Sets the locale.
     NumberInput(const std::uint8_t* data, std::size_t size);
 
     /// The text as a pointer to it gives it.
