@@ -281,6 +281,7 @@ TEST_P(RemovedWhileItOpens, LeavesNothingBehind)
 {
     for (const int steps : {0, 3}) {
         Control control(true);
+        control.combo->m_animDuration = 2000000;
         control.combo->Popup();
         int seen = 0;
         if (steps > 0) {
@@ -352,11 +353,13 @@ TEST(ColourComboPopup, IsReplacedByASecondOne)
 TEST(ColourComboPopup, IsReplacedByASecondOneWhileItOpens)
 {
     Control control(true);
+    control.combo->m_animDuration = 2000000;
     control.combo->Popup();
     control.combo->SetPopupControl(new OpenPopup);
     EXPECT_TRUE(PumpUntil([&] { return !control.combo->m_animTimer.IsRunning(); }));
     EXPECT_TRUE(control.combo->IsPopupShown());
     control.combo->Dismiss();
+    control.combo->m_animDuration = 200;
     control.Open();
 }
 
