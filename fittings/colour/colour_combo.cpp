@@ -5,6 +5,7 @@
 #include <wx/app.h>
 #include <wx/dcmemory.h>
 #include <wx/dcscreen.h>
+#include <wx/renderer.h>
 
 #include <fittings/colour/direct_drawing.h>
 #include <fittings/colour/outline_window.h>
@@ -13,6 +14,7 @@ namespace {
 
 constexpr int kTick = 10;
 constexpr int kSteps = 256;
+constexpr int kFocusInset = 3;
 
 wxBitmap CopyOfScreen(const wxRect& rect)
 {
@@ -59,6 +61,13 @@ void wxColourCombo::ShowPopup()
 bool wxColourCombo::IsClientAreaChild(const wxWindow* child) const
 {
     return !child->IsTopLevel() && wxComboCtrl::IsClientAreaChild(child);
+}
+
+void wxColourCombo::DrawButton(wxDC& dc, const wxRect& rect, int flags)
+{
+    wxComboCtrl::DrawButton(dc, rect, flags);
+    if (ShouldDrawFocus())
+        wxRendererNative::Get().DrawFocusRect(this, dc, wxRect(rect).Deflate(kFocusInset));
 }
 
 bool wxColourCombo::AnimateShow(const wxRect& rect, int flags)

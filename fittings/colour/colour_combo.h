@@ -68,6 +68,9 @@ protected:
     /// cannot be drawn to or @a rect, in screen coordinates, is empty.
     bool AnimateShow(const wxRect& rect, int flags) override;
 
+    /// Draws the button, and the sign of the focus on it where there is no text field: the face is all colour.
+    void DrawButton(wxDC& dc, const wxRect& rect, int flags) override;
+
     /// The outline after @a elapsed milliseconds, from 0 to m_animDuration, in screen coordinates. It grows in 256 steps.
     wxRect OutlineAt(int elapsed) const;
 

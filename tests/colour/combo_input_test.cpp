@@ -12,6 +12,7 @@
 
 #include <tests/colour/colour_listener.h>
 #include <tests/colour/combo_on_screen.h>
+#include <tests/colour/screen.h>
 
 namespace {
 
@@ -280,6 +281,32 @@ TEST_P(ColourComboByKeys, IgnoresOtherKeysWhileItIsOpen)
 INSTANTIATE_TEST_SUITE_P(, ColourComboByKeys, testing::Values(wxCB_READONLY, 0), [](const auto& info) {
     return std::string(info.param == wxCB_READONLY ? "ReadOnly" : "WithText");
 });
+
+// The face is all colour, and so the button is where the focus is seen.
+TEST_F(ColourComboInUse, ShowsOnItsButtonThatItHasTheFocus)
+{
+    const wxSize size = combo->GetClientSize();
+    const int face = size.x - combo->GetButtonSize().x;
+    const auto see = [&](int x, int width) {
+        const wxImage seen = GrabScreen(wxRect(combo->ClientToScreen(wxPoint(x, 0)), wxSize(width, size.y)));
+        return std::string(reinterpret_cast<const char*>(seen.GetData()), std::size_t(3) * width * size.y);
+    };
+    const auto button = [&] { return see(face, size.x - face); };
+    std::string without;
+    std::string colour;
+    EXPECT_TRUE(PumpUntil([&] {
+        without = button();
+        colour = see(0, face);
+        const std::size_t middle = 3 * (std::size_t(face) * (size.y / 2) + face / 2);
+        return colour.substr(middle, 3) == std::string("\0\0\xFF", 3);
+    }));
+
+    combo->SetFocus();
+    EXPECT_TRUE(PumpUntil([&] { return button() != without; }));
+    EXPECT_TRUE(see(0, face) == colour) << "the face changes";
+    after->SetFocus();
+    EXPECT_TRUE(PumpUntil([&] { return button() == without; }));
+}
 
 // --- The host removes the control by the call it hears ---------------------------------------------------------------
 
