@@ -80,6 +80,6 @@ wxThread::ExitCode wxThreadEx::Wait()
         return kNoExitCode;
     const wxMutexLocker lock(m_mutex);
     if (!m_finished)
-        m_condition.Wait();
+        m_condition.Wait();  // once: nothing but the end of the thread signals it
     return m_exitCode;
 }
