@@ -37,6 +37,11 @@ TEST(ObjectsThatNeverRan, AreDestroyedWithTheirThreadCreatedToo)
     EXPECT_EQ(Probe("created"), "create 0\nwait -1\nstarted 0\ndestroyed 1\n");
 }
 
+TEST(Memory, OfObjectsThatNeverRanIsAllThatStays)
+{
+    EXPECT_EQ(Probe("memory"), "run 0\nposted 0\nrefused 0\nnever run 1\n");
+}
+
 TEST(DetachedObject, IsDestroyedWithoutWaiting)
 {
     EXPECT_EQ(Probe("destroy-detached"), "started 1\ndestroyed 1\n");

@@ -2,7 +2,10 @@
 // behind, where the process ends. Each line it prints is an answer to one question.
 
 #include <cstdio>
+#include <cstdlib>
+#include <functional>
 #include <memory>
+#include <new>
 #include <stdexcept>
 #include <string>
 
@@ -13,6 +16,34 @@
 #include <wx/init.h>
 
 #include <tests/thread/thread_support.h>
+
+namespace {
+
+std::atomic<long> g_allocations{0};
+
+}  // namespace
+
+// The toolkit's allocations are made by these too.
+void* operator new(size_t size)
+{
+    void* memory = std::malloc(size > 0 ? size : 1);
+    if (!memory)
+        std::abort();
+    ++g_allocations;
+    return memory;
+}
+
+void operator delete(void* memory) noexcept
+{
+    if (memory)
+        --g_allocations;
+    std::free(memory);
+}
+
+void operator delete(void* memory, size_t) noexcept
+{
+    operator delete(memory);
+}
 
 namespace {
 
@@ -124,6 +155,45 @@ void TwoWaiters()
     _exit(0);
 }
 
+// What allocations a run of an object, or its life without one, leaves behind.
+long AllocationsLeftBy(const std::function<void()>& work)
+{
+    work();  // what the toolkit and the system make once, they make here
+    const long before = g_allocations;
+    work();
+    return g_allocations - before;
+}
+
+void Memory()
+{
+    Say("run", AllocationsLeftBy([] {
+            Thread thread([](Thread&) { return Code(42); }, wxTHREAD_JOINABLE);
+            thread.Create(0);
+            thread.Run();
+            thread.Wait();
+        }));
+    Say("posted", AllocationsLeftBy([] {
+            wxEvtHandler handler;
+            Working<wxGUIThreadEx> worker(
+                [](auto& self) {
+                    for (int i = 0; i < 100; ++i)
+                        self.PostEvent(i, 99L);
+                    return Code(0);
+                },
+                &handler, 9);
+            worker.RunThread();
+            worker.Wait();
+        }));
+    Say("refused", AllocationsLeftBy([] {
+            Working<wxGUIThread> worker([](auto& self) { return Code(self.PostEvent(7, 3)); }, nullptr);
+            worker.StartKill();
+            worker.RunThread();
+            worker.Wait();
+        }));
+    Say("never run",
+        AllocationsLeftBy([] { const Thread thread([](Thread&) { return Code(42); }, wxTHREAD_JOINABLE); }) > 0);
+}
+
 class App : public wxAppConsole
 {
 public:
@@ -172,6 +242,8 @@ int main(int argc, char** argv)
         DestroyDetached();
     else if (question == "two-waiters")
         TwoWaiters();
+    else if (question == "memory")
+        Memory();
     else if (question == "end-at-once")
         EndAtOnce();
     else if (question == "throw")
