@@ -202,6 +202,7 @@ ContentsList::ContentsList(wxWindow* parent)
 
 void ContentsList::SetEntries(std::vector<Entry> entries)
 {
+    const wxEventBlocker quiet(this, wxEVT_DATAVIEW_SELECTION_CHANGED);
     m_model->SetEntries(std::move(entries), m_order);
 }
 
@@ -211,13 +212,18 @@ void ContentsList::SetFolderSizes(const std::vector<std::pair<std::string, Folde
         return;
     for (const auto& [name, sum] : sums)
         m_model->SetFolderSize(name, sum.bytes);
-    m_model->RemoveSmallOnes();
+    {
+        // While the rows go, one by one, nobody must ask for the selected one or draw.
+        const wxEventBlocker quiet(this, wxEVT_DATAVIEW_SELECTION_CHANGED);
+        m_model->RemoveSmallOnes();
+    }
     // Refresh() draws the frame around the rows, and leaves those that GTK has drawn already.
     gtk_widget_queue_draw(GtkGetTreeView());
 }
 
 void ContentsList::SetMinimum(std::uint64_t bytes)
 {
+    const wxEventBlocker quiet(this, wxEVT_DATAVIEW_SELECTION_CHANGED);
     const Entry* selected = GetSelectedEntry();
     m_model->SetMinimum(bytes);
     if (selected)

@@ -22,15 +22,19 @@ class ContentsList : public wxDataViewCtrl
 public:
     explicit ContentsList(wxWindow* parent);
 
+    /// @name What changes the rows
+    /// None of these sends a selection event, though the selected row may go.
+    /// @{
     void SetEntries(std::vector<Entry> entries);
-
-    /// Fills in what folders hold, as far as they are listed, and leaves out those that prove too small. The order of the
-    /// rows stays until SortBy().
-    void SetFolderSizes(const std::vector<std::pair<std::string, FolderSum>>& sums);
 
     /// Leaves out what is smaller than @a bytes, and what has no size; 0 leaves out nothing. Folders stay until they are
     /// added up.
     void SetMinimum(std::uint64_t bytes);
+
+    /// Fills in what folders hold, as far as they are listed, and leaves out those that prove too small. The order of the
+    /// rows stays until SortBy().
+    void SetFolderSizes(const std::vector<std::pair<std::string, FolderSum>>& sums);
+    /// @}
 
     /// Those that are shown, in their order.
     std::vector<Entry> GetEntriesInOrder() const;

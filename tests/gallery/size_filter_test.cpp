@@ -1,9 +1,11 @@
 #include <filesystem>
 
+#include <glib.h>
 #include <wx/statusbr.h>
 #include <wx/textctrl.h>
 
 #include <gallery/size_filter.h>
+#include <gallery/sizes_row.h>
 #include <tests/gallery/browser_fixture.h>
 
 namespace {
@@ -12,6 +14,29 @@ using namespace fittings;
 using namespace fittings::simulated_user;
 namespace fs = std::filesystem;
 using Strings = std::vector<std::string>;
+
+/// Counts GTK's own complaints for as long as it lives.
+class CriticalMessages
+{
+public:
+    CriticalMessages() : m_before(g_log_set_default_handler(&OnMessage, this)) {}
+    ~CriticalMessages() { g_log_set_default_handler(m_before, nullptr); }
+    CriticalMessages(const CriticalMessages&) = delete;
+    CriticalMessages& operator=(const CriticalMessages&) = delete;
+
+    int Count() const { return m_count; }
+
+private:
+    static void OnMessage(const gchar* domain, GLogLevelFlags level, const gchar* text, gpointer self)
+    {
+        if ((level & G_LOG_LEVEL_CRITICAL) != 0)
+            ++static_cast<CriticalMessages*>(self)->m_count;
+        g_log_default_handler(domain, level, text, nullptr);
+    }
+
+    GLogFunc m_before;
+    int m_count = 0;
+};
 
 class SizeFilterTest : public BrowserTest
 {
@@ -158,6 +183,30 @@ TEST_F(SizeFilterTest, TheSelectedEntryStaysSelectedWhileItIsListed)
     ASSERT_TRUE(RowsBecome({}));
     EXPECT_FALSE(List().GetSelectedEntry());
     EXPECT_EQ(Status(1), "");
+}
+
+// Asked in between for the selected row, the list would name one that is not there any more.
+TEST_F(SizeFilterTest, TheSelectedFolderMayProveTooSmall)
+{
+    ASSERT_TRUE(PumpUntil([&] { return !frame->GetBrowser()->GetSizes()->IsRunning(); }));
+    const auto folder = [](const char* name) {
+        Entry entry;
+        entry.name = entry.sortKey = name;
+        entry.kind = EntryKind::Folder;
+        return entry;
+    };
+    Filter("2");
+    List().SetEntries({folder("a"), folder("b"), folder("c")});
+    List().SelectEntry("c");
+    ASSERT_TRUE(List().GetSelectedEntry());
+    CriticalMessages messages;
+    int selections = 0;
+    List().Bind(wxEVT_DATAVIEW_SELECTION_CHANGED, [&selections](wxDataViewEvent&) { ++selections; });
+    List().SetFolderSizes({{"a", {10, 1, 0}}, {"b", {3000000, 1, 0}}, {"c", {10, 1, 0}}});
+    EXPECT_EQ(Rows(), Strings{"b"});
+    EXPECT_EQ(selections, 0);
+    PumpPending();
+    EXPECT_EQ(messages.Count(), 0);
 }
 
 TEST_F(SizeFilterTest, SortingKeepsItAndItKeepsTheOrder)
