@@ -20,9 +20,11 @@
 
 #include "browser_settings.h"
 #include "contents_list.h"
+#include "folder_colour_combo.h"
 #include "folder_listing.h"
 #include "folder_tree.h"
 #include "native_text.h"
+#include "readable_colour.h"
 #include "report.h"
 #include "size_filter.h"
 #include "sizes_row.h"
@@ -199,6 +201,12 @@ void BrowserPage::ToggleFolders()
     TellChange();
 }
 
+void BrowserPage::ChooseColour()
+{
+    m_colour->SetFocus();
+    m_colour->Popup();
+}
+
 void BrowserPage::ResetLayout()
 {
     m_layout.LoadPerspective(m_firstLayout);
@@ -271,6 +279,10 @@ wxWindow* BrowserPage::MakeContents(wxWindow* parent)
                                   wxST_ELLIPSIZE_MIDDLE | wxST_NO_AUTORESIZE);
     m_location->SetFont(m_location->GetFont().Bold());
     m_location->SetName("Location");
+    m_colour = new FolderColourCombo(
+        panel, [this](const wxColour& colour) { ShowColour(colour); },
+        [this](const wxColour& colour) { browser_settings::SaveFolderColour(m_folder, colour); });
+    m_colour->SetToolTip("Colour of the folder (Ctrl+T)");
     m_filter = new SizeFilter(panel);
     m_note = new wxInfoBar(panel);
     m_list = new ContentsList(panel);
@@ -278,6 +290,7 @@ wxWindow* BrowserPage::MakeContents(wxWindow* parent)
 
     auto* rows = new wxBoxSizer(wxVERTICAL);
     auto* header = new wxBoxSizer(wxHORIZONTAL);
+    header->Add(m_colour, wxSizerFlags().CentreVertical().Border(wxRIGHT, FromDIP(6)));
     header->Add(m_location, wxSizerFlags(1).CentreVertical().Border(wxRIGHT, FromDIP(18)));
     header->Add(m_filter, wxSizerFlags().CentreVertical());
     rows->Add(header, wxSizerFlags().Expand().Border(wxALL, FromDIP(6)));
@@ -356,10 +369,22 @@ void BrowserPage::ShowFolder(const std::string& path)
         m_note->ShowMessage(DisplayText(path) + ": " + ReasonText(listing.error), wxICON_WARNING);
     else if (m_note->IsShown())
         m_note->Dismiss();
+    const wxColour colour = browser_settings::LoadFolderColour(path);
+    m_colour->ShowColour(colour, m_tree->GetForegroundColour());
+    ShowColour(colour);
     m_list->SetEntries(std::move(listing.entries));
     m_tools->EnableTool(wxID_UP, HasFolderAbove());
     m_sizes->Start(path);
     TellChange();
+}
+
+/// Shows the folder in a colour, or without one when it is invalid.
+void BrowserPage::ShowColour(const wxColour& colour)
+{
+    m_tree->ShowColour(colour);
+    m_location->SetForegroundColour(colour.IsOk() ? ReadableOn(m_location->GetBackgroundColour(), colour)
+                                                  : wxNullColour);
+    m_location->Refresh();
 }
 
 void BrowserPage::OnSizes(const SizeNews& news)

@@ -15,6 +15,7 @@ class wxToolBar;
 namespace fittings {
 
 class ContentsList;
+class FolderColourCombo;
 class FolderTree;
 class SizeFilter;
 class SizesRow;
@@ -40,6 +41,7 @@ public:
 
     FolderTree* GetTree() const { return m_tree; }
     ContentsList* GetList() const { return m_list; }
+    FolderColourCombo* GetColour() const { return m_colour; }
     SizeFilter* GetFilter() const { return m_filter; }
     SizesRow* GetSizes() const { return m_sizes; }
     wxToolBar* GetTools() const { return m_tools; }
@@ -70,6 +72,9 @@ public:
     void RefreshFolders();
     void ToggleFolders();
 
+    /// Opens the colours that the folder can have.
+    void ChooseColour();
+
     /// Asks for a file and writes what the list shows into it.
     void SaveReport();
 
@@ -85,6 +90,7 @@ private:
     void OpenRoot(const std::string& path);
     void RememberRoot();
     void ShowFolder(const std::string& path);
+    void ShowColour(const wxColour& colour);
     void OnSizes(const SizeNews& news);
     void OnActivated(wxDataViewEvent& event);
     void TellChange();
@@ -94,6 +100,7 @@ private:
     bool m_layoutLoaded = false;
     FolderTree* m_tree = nullptr;
     ContentsList* m_list = nullptr;
+    FolderColourCombo* m_colour = nullptr;
     SizeFilter* m_filter = nullptr;
     SizesRow* m_sizes = nullptr;
     wxToolBar* m_tools = nullptr;

@@ -16,6 +16,7 @@ namespace {
 constexpr const wchar_t* file = L"browser.ini";
 // In the default store, because ui_config_mgr cannot remove a key from its files.
 constexpr const wchar_t* selectedSection = L"SelectedFolder";
+constexpr const wchar_t* colourSection = L"FolderColours";
 constexpr std::size_t rememberedRoots = 50;
 
 /// A number that someone may have edited; 0 when it is none.
@@ -90,6 +91,24 @@ std::string LoadSelectedFolder(const std::string& root)
 void SaveSelectedFolder(const std::string& root, const std::string& path)
 {
     CLocalRegStore::WriteString(selectedSection, TextFromPath(root).c_str(), TextFromPath(path).c_str());
+}
+
+wxColour LoadFolderColour(const std::string& path)
+{
+    wxColour colour;
+    const wxString text = CLocalRegStore::GetString(colourSection, TextFromPath(path).c_str(), L"");
+    if (text.StartsWith("#"))
+        colour.Set(text);
+    return colour;
+}
+
+void SaveFolderColour(const std::string& path, const wxColour& colour)
+{
+    const std::wstring key = TextFromPath(path);
+    if (colour.IsOk())
+        CLocalRegStore::WriteString(colourSection, key.c_str(), colour.GetAsString(wxC2S_HTML_SYNTAX).wc_str());
+    else
+        CLocalRegStore::DeleteProfile(colourSection, key.c_str());
 }
 
 SortOrder LoadSortOrder()

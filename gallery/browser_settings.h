@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include <wx/colour.h>
 #include <wx/string.h>
 
 #include "folder_listing.h"
@@ -27,6 +28,10 @@ std::string SaveRootFolder(const std::string& path);
 /// The folder that was selected below a root; empty when there is none.
 std::string LoadSelectedFolder(const std::string& root);
 void SaveSelectedFolder(const std::string& root, const std::string& path);
+
+/// The colour that a folder was given; invalid when it has none.
+wxColour LoadFolderColour(const std::string& path);
+void SaveFolderColour(const std::string& path, const wxColour& colour);
 
 SortOrder LoadSortOrder();
 void SaveSortOrder(SortOrder order);

@@ -8,8 +8,10 @@
 
 #include <fittings/platform/local_reg_store.h>
 
+#include "browser_settings.h"
 #include "folder_listing.h"
 #include "native_text.h"
+#include "readable_colour.h"
 
 namespace fittings {
 
@@ -146,9 +148,15 @@ bool FolderTree::SelectParent()
     return true;
 }
 
+void FolderTree::ShowColour(const wxColour& colour)
+{
+    Colour(GetSelection().item, colour);
+}
+
 void FolderTree::Reread()
 {
     const wxWindowUpdateLocker frozen(this);
+    const std::string selected = GetSelectedPath();
     std::vector<wxTreeItemId> rest{GetRootItem()};
     while (!rest.empty()) {
         const wxTreeItemId item = rest.back();
@@ -158,6 +166,8 @@ void FolderTree::Reread()
         const std::vector<wxTreeItemId> children = ChildrenOf(item);
         rest.insert(rest.end(), children.begin(), children.end());
     }
+    if (!GetSelection().IsOk())
+        SelectPath(selected);
 }
 
 void FolderTree::SaveExpanded()
@@ -232,9 +242,18 @@ void FolderTree::Dress(const wxTreeItemId& item, const Subfolder& folder)
     }
     cursor.SetImage(folder.readable ? m_images.folder : m_images.unreadable, wxTreeItemIcon_Normal);
     cursor.SetImage(folder.readable ? m_images.open : m_images.unreadable, wxTreeItemIcon_Expanded);
+    Colour(item, browser_settings::LoadFolderColour(PathOf(item)));
     // What has been filled in shows its button already, whatever a look into the folder said.
     if (GetChildrenCount(item, false) == 0)
         cursor.SetChildren(folder.mayHaveSubfolders);
+}
+
+void FolderTree::Colour(const wxTreeItemId& item, const wxColour& colour)
+{
+    if (colour.IsOk())
+        wxTreeCursor(this, item).SetTextColour(ReadableOn(GetBackgroundColour(), colour).GetRGB());
+    else if (GetItemTextColour(item).IsOk())
+        SetItemTextColour(item, wxNullColour);
 }
 
 std::vector<wxTreeItemId> FolderTree::ChildrenOf(const wxTreeItemId& item) const

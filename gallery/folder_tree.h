@@ -10,7 +10,7 @@ namespace fittings {
 
 struct Subfolder;
 
-/// The folders below a root folder, read as they are expanded.
+/// The folders below a root folder, read as they are expanded, each in the colour that it was given.
 ///
 /// Each item carries an index into a table of names, because a label cannot hold every file name. Links are left out,
 /// so that no circle of links makes the tree endless.
@@ -42,8 +42,12 @@ public:
     bool SelectParent();
 
     /// Reads again what has been read: adds the folders that are new and removes those that are gone. The others keep
-    /// their state.
+    /// their state; of a selected one that is gone, the nearest above that is left gets selected.
     void Reread();
+
+    /// Shows the selected folder in @a colour, or in the other folders' when it is invalid. Until the folder is read again,
+    /// which gives it the colour that the settings know.
+    void ShowColour(const wxColour& colour);
 
     /// @name The expanded folders, kept apart for each root
     /// @{
@@ -70,6 +74,7 @@ private:
     void Fill(const wxTreeItemId& item);
     void Update(const wxTreeItemId& item);
     void Dress(const wxTreeItemId& item, const Subfolder& folder);
+    void Colour(const wxTreeItemId& item, const wxColour& colour);
     std::vector<wxTreeItemId> ChildrenOf(const wxTreeItemId& item) const;
     wxTreeItemId FindSubfolder(const wxTreeItemId& item, const std::string& name);
     const std::string& NameOf(const wxTreeItemId& item) const;

@@ -91,6 +91,7 @@ wxMenu* GalleryFrame::MakeViewMenu() const
     }
     view->AppendSeparator();
     view->Append(wxID_UP, "Folder &above\tAlt+Up", "Select the folder that this one is in");
+    view->Append(wxID_SELECT_COLOR, L"Folder's &colour\u2026\tCtrl+T", "Give the folder a colour");
     view->AppendSeparator();
     view->AppendCheckItem(wxID_VIEW_LIST, "&Folders\tF9", "Show the folders beside the contents");
     view->Append(wxID_RESET, "Reset &layout", "Put the panes back where they were at first");
@@ -121,6 +122,7 @@ void GalleryFrame::BindEvents()
     bindCommand(wxID_REFRESH, &BrowserPage::RefreshFolders);
     bindCommand(wxID_VIEW_LIST, &BrowserPage::ToggleFolders);
     bindCommand(wxID_SAVEAS, &BrowserPage::SaveReport);
+    bindCommand(wxID_SELECT_COLOR, &BrowserPage::ChooseColour);
     bindCommand(wxID_RESET, &BrowserPage::ResetLayout);
     Bind(
         wxEVT_MENU,
@@ -178,6 +180,7 @@ void GalleryFrame::ShowState()
     menus->Enable(wxID_UP, browser && m_browser->HasFolderAbove());
     menus->Enable(wxID_VIEW_LIST, browser);
     menus->Check(wxID_VIEW_LIST, m_browser->ShowsFolders());
+    menus->Enable(wxID_SELECT_COLOR, browser);
     menus->Enable(wxID_RESET, browser);
 }
 

@@ -12,6 +12,7 @@
 
 #include "number_format_fields.h"
 #include "page_layout.h"
+#include "readable_colour.h"
 
 namespace fittings {
 
@@ -38,10 +39,9 @@ void Save(const wchar_t* key, const wxString& text)
 
 void ShowVerdict(wxStaticText* label, bool accepted)
 {
-    const bool dark = label->GetBackgroundColour().GetLuminance() < 0.5;
-    const wxColour green = dark ? wxColour(0x8F, 0xF0, 0xA4) : wxColour(0x1B, 0x7F, 0x4E);
-    const wxColour red = dark ? wxColour(0xFF, 0x93, 0x8C) : wxColour(0xC0, 0x1C, 0x28);
-    label->SetForegroundColour(accepted ? green : red);
+    const wxColour green(0x26, 0xA2, 0x69);
+    const wxColour red(0xE0, 0x1B, 0x24);
+    label->SetForegroundColour(ReadableOn(label->GetBackgroundColour(), accepted ? green : red));
     label->SetLabelText(accepted ? L"\u2713 accepted" : L"\u2717 refused");
 }
 

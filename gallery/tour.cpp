@@ -101,6 +101,7 @@ struct State
         treeWidth = tree.GetSize().x;
         root = tree.GetRootFolder();
         selected = tree.GetSelectedPath();
+        colour = tree.GetItemTextColour(tree.GetSelection().item);
         rows = tree.GetCount();
         order = list.GetSortOrder();
         widths = list.GetColumnWidths();
@@ -109,14 +110,15 @@ struct State
     bool operator==(const State& other) const
     {
         return window == other.window && treeWidth == other.treeWidth && root == other.root &&
-               selected == other.selected && rows == other.rows && order.column == other.order.column &&
-               order.ascending == other.order.ascending && widths == other.widths;
+               selected == other.selected && colour == other.colour && rows == other.rows &&
+               order.column == other.order.column && order.ascending == other.order.ascending && widths == other.widths;
     }
 
     wxRect window;
     int treeWidth = 0;
     std::string root;
     std::string selected;
+    wxColour colour;
     unsigned rows = 0;
     SortOrder order;
     std::vector<int> widths;
@@ -153,6 +155,7 @@ bool Tour::Run()
         {"sort by a header", &Tour::SortByHeader},
         {"add up folders in the background", &Tour::AddUpFolders},
         {"leave out what is small", &Tour::LeaveOutSmallOnes},
+        {"give a folder a colour", &Tour::ColourFolder},
         {"save a report", &Tour::SaveReport},
         {"choose a folder in the dialog", &Tour::ChooseFolder},
         {"cancel the dialog", &Tour::CancelFolder},

@@ -34,6 +34,7 @@ private:
     bool SaveReport();
     bool ChooseFolder();
     bool CancelFolder();
+    bool ColourFolder();
     bool TypeNumber();
     bool RememberWindow();
     bool RememberMaximised();
@@ -42,6 +43,8 @@ private:
     bool Waits(const std::function<bool()>& condition, const char* claim);
     bool VisitDialog(char key, const char* claim, const std::function<bool(_GtkWidget*)>& visit);
     bool ShowPage(char key, const wxWindow* page);
+    bool OpenFolderColours();
+    bool FolderGets(int cell);
     bool SavePicture(const char* component);
     bool Reopen();
 

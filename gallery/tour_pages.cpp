@@ -4,8 +4,15 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
+#include <fittings/colour/colour_table.h>
+
+#include "browser_page.h"
+#include "browser_settings.h"
+#include "folder_colour_combo.h"
+#include "folder_tree.h"
 #include "gallery_frame.h"
 #include "numbers_page.h"
+#include "readable_colour.h"
 #include "simulated_user.h"
 #include "tour.h"
 
@@ -13,11 +20,73 @@ namespace fittings {
 
 using namespace simulated_user;
 
+namespace {
+
+// Of the palette.
+constexpr int kGreen = 11;
+constexpr int kViolet = 22;
+
+}  // namespace
+
 bool Tour::ShowPage(char key, const wxWindow* page)
 {
     Press(key, wxMOD_ALT);
     return Waits([&] { return m_frame->GetPages()->GetCurrentPage() == page && page->IsShownOnScreen(); },
                  "Alt with a digit shows a page");
+}
+
+bool Tour::OpenFolderColours()
+{
+    const FolderColourCombo& combo = *m_frame->GetBrowser()->GetColour();
+    Press('T', wxMOD_CONTROL);
+    return Waits([&] { return combo.GetColourPopup()->IsShownOnScreen(); }, "Ctrl+T opens the colours");
+}
+
+/// Whether the colours close and the selected folder has been given one of the palette.
+bool Tour::FolderGets(int cell)
+{
+    const FolderColourCombo& combo = *m_frame->GetBrowser()->GetColour();
+    FolderTree& tree = *m_frame->GetBrowser()->GetTree();
+    const wxColour colour = combo.GetColourPopup()->GetColour(cell);
+    return Waits([&] { return !combo.IsPopupShown(); }, "a choice closes the colours") &&
+           IsTrue(tree.GetItemTextColour(tree.GetSelection().item) == ReadableOn(tree.GetBackgroundColour(), colour),
+                  "the folder is shown in its colour") &&
+           IsTrue(browser_settings::LoadFolderColour(tree.GetSelectedPath()) == colour, "its colour is remembered");
+}
+
+bool Tour::ColourFolder()
+{
+    FolderTree& tree = *m_frame->GetBrowser()->GetTree();
+    const wxColourPopup& colours = *m_frame->GetBrowser()->GetColour()->GetColourPopup();
+    if (!OpenFolderColours())
+        return false;
+    // From "More Colours..." over "Automatic" and black to the second row, where the fourth is a green.
+    for (const int key : {WXK_DOWN, WXK_DOWN, WXK_DOWN, WXK_DOWN, WXK_RIGHT, WXK_RIGHT, WXK_RIGHT})
+        Press(key);
+    if (!Waits([&] { return colours.GetStringValue() == GetColourName(kGreen); },
+               "the keyboard moves through the colours") ||
+        !SavePicture("colour-popup"))
+        return false;
+    Press(WXK_RETURN);
+    if (!FolderGets(kGreen))
+        return false;
+    if (!m_frame->GetBrowser()->HasFolderAbove())
+        return SavePicture("folder-colours");
+
+    const wxTreeItemId first = tree.GetSelection().item;
+    Press(WXK_UP, wxMOD_ALT);
+    if (!Waits([&] { return tree.GetSelection().item == tree.GetItemParent(first); },
+               "Alt+Up leads to the folder above") ||
+        !OpenFolderColours())
+        return false;
+    wxRect cell;
+    colours.GetCellRect(kViolet, cell);
+    Click(colours.ClientToScreen(CentreOf(cell)));
+    if (!FolderGets(kViolet))
+        return false;
+    Click(CentreOf(LabelRect(tree, first)));
+    return Waits([&] { return tree.GetSelection().item == first; }, "a click selects the first again") &&
+           SavePicture("folder-colours");
 }
 
 bool Tour::TypeNumber()
@@ -43,7 +112,7 @@ bool Tour::TypeNumber()
         return false;
     Press('C', wxMOD_ALT);
     return Waits([&] { return m_frame->GetNumbers()->GetKept() == "-12345.89"; }, "an accepted number is kept") &&
-           SavePicture("numbers") && ShowPage('1', m_frame->GetPages()->GetPage(0));
+           SavePicture("numbers") && ShowPage('1', m_frame->GetBrowser());
 }
 
 }  // namespace fittings

@@ -1,0 +1,56 @@
+#include <gallery/readable_colour.h>
+
+#include <gtest/gtest.h>
+
+#include <fittings/colour/colour_table.h>
+
+namespace {
+
+using namespace fittings;
+
+const wxColour white(255, 255, 255);
+const wxColour black(0, 0, 0);
+const wxColour dark(45, 45, 45);
+
+TEST(ContrastRatio, IsThatOfTheGuidelines)
+{
+    EXPECT_NEAR(ContrastRatio(white, black), 21, 1e-9);
+    EXPECT_NEAR(ContrastRatio(black, white), 21, 1e-9);
+    EXPECT_NEAR(ContrastRatio(dark, dark), 1, 1e-9);
+    EXPECT_NEAR(ContrastRatio(white, wxColour(255, 0, 0)), 3.998, 0.001);
+    EXPECT_NEAR(ContrastRatio(white, wxColour(0, 0, 255)), 8.592, 0.001);
+    EXPECT_NEAR(ContrastRatio(white, wxColour(0, 255, 0)), 1.372, 0.001);
+    EXPECT_NEAR(ContrastRatio(wxColour(119, 119, 119), white), 4.478, 0.001);
+}
+
+TEST(ReadableColour, StaysWhereItCanBeRead)
+{
+    EXPECT_EQ(ReadableOn(white, black), black);
+    EXPECT_EQ(ReadableOn(black, white), white);
+    EXPECT_EQ(ReadableOn(white, wxColour(128, 0, 0)), wxColour(128, 0, 0));
+    EXPECT_EQ(ReadableOn(white, wxColour(118, 118, 118)), wxColour(118, 118, 118));
+    EXPECT_EQ(ReadableOn(dark, wxColour(255, 255, 0)), wxColour(255, 255, 0));
+}
+
+TEST(ReadableColour, GoesNoFartherThanItTakes)
+{
+    EXPECT_EQ(ReadableOn(white, wxColour(255, 0, 0)), wxColour(232, 0, 0));
+    EXPECT_EQ(ReadableOn(white, wxColour(119, 119, 119)), wxColour(116, 116, 116));
+    EXPECT_EQ(ReadableOn(dark, wxColour(255, 0, 0)), wxColour(255, 95, 95));
+    EXPECT_EQ(ReadableOn(dark, wxColour(0, 0, 255)), wxColour(135, 135, 255));
+}
+
+TEST(ReadableColour, ComesOfEachColourOnAnyBackground)
+{
+    for (int level = 0; level <= 255; level += 5) {
+        const auto channel = static_cast<unsigned char>(level);
+        const wxColour background(channel, channel, channel);
+        for (int i = 0; i < kColourCount; ++i) {
+            wxColour colour;
+            colour.SetRGB(GetColourTable()[i].crColour);
+            EXPECT_GE(ContrastRatio(background, ReadableOn(background, colour)), 4.5) << level << " " << i;
+        }
+    }
+}
+
+}  // namespace
