@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include <cairo.h>
 #include <wx/app.h>
 #include <wx/dcmemory.h>
 #include <wx/dcscreen.h>
@@ -19,6 +20,9 @@ constexpr int kFocusInset = 3;
 wxBitmap CopyOfScreen(const wxRect& rect)
 {
     wxScreenDC screen;
+    // Cairo knows only its own changes of the screen, and copies what it saw the last time where there are others.
+    if (void* const context = screen.GetImpl()->GetCairoContext())
+        cairo_surface_mark_dirty(cairo_get_target(static_cast<cairo_t*>(context)));
     wxBitmap bitmap(rect.GetSize());
     wxMemoryDC copy(bitmap);
     copy.Blit(wxPoint(0, 0), rect.GetSize(), &screen, rect.GetPosition(), wxCOPY);

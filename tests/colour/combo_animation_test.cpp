@@ -1,6 +1,9 @@
 // The outline that grows while the popup opens.
 
+#include <cstddef>
+#include <cstring>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -19,6 +22,7 @@
 namespace {
 
 constexpr int kBlack = 0x000000;
+constexpr int kRed = 0xFF0000;
 constexpr int kGreen = 0x00FF00;
 constexpr int kLong = 2000000;
 
@@ -150,6 +154,28 @@ TEST_F(ColourAnimation, IsPreparedByTheCallToShow)
     EXPECT_EQ(on.combo->m_animFlags, 7);
     ASSERT_TRUE(on.combo->m_animBitmap.IsOk());
     EXPECT_EQ(on.combo->m_animBitmap.GetSize(), wxSize(148, 162));
+}
+
+// Each time anew, whatever others have drawn there since the last time.
+TEST_F(ColourAnimation, CopiesTheScreenWhereThePopupWillBe)
+{
+    auto* const below = new wxWindow(on.panel, wxID_ANY, wxPoint(20, 100), wxSize(400, 250));
+    for (const auto& [colour, pixel] : {std::pair(*wxRED, kRed), std::pair(*wxGREEN, kGreen)}) {
+        on.combo->m_animDuration = kLong;
+        below->SetBackgroundColour(colour);
+        below->Refresh();
+        const wxPoint corner = below->GetScreenRect().GetBottomRight();
+        EXPECT_TRUE(PumpUntil([&, shown = pixel] { return Pixel(corner.x, corner.y) == shown; }));
+        on.combo->Popup();
+        const wxRect rect = on.combo->m_animRect;
+        const wxImage copy = on.combo->m_animBitmap.ConvertToImage();
+        const wxImage seen = GrabScreen(rect);
+        EXPECT_EQ(std::memcmp(copy.GetData(), seen.GetData(), std::size_t(3) * rect.width * rect.height), 0);
+        ExpectShown();
+        on.combo->Dismiss();
+        // To a place where nothing has been drawn in the course of it.
+        on.combo->Move(wxPoint(250, 60));
+    }
 }
 
 TEST_F(ColourAnimation, TicksEveryTenMilliseconds)
