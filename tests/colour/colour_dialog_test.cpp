@@ -1,6 +1,8 @@
 // "More Colours...": the toolkit's colour dialog, answered by a hook.
 
+#include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -16,6 +18,19 @@ namespace {
 
 constexpr int M = CELL_MORE_COLOURS;
 
+std::vector<int> g_centred;
+
+}  // namespace
+
+// Takes the place of the toolkit's, which leaves the place of a dialog of GTK's own to the window manager.
+void wxTopLevelWindowBase::DoCentre(int directions)
+{
+    if (dynamic_cast<wxColourDialog*>(this))
+        g_centred.push_back(directions);
+}
+
+namespace {
+
 // Answers the colour dialog, and notes what it was opened with.
 class Answer : public wxModalDialogHook
 {
@@ -27,6 +42,7 @@ public:
     wxColour proposed;
     bool full = false;
     wxWindow* parent = nullptr;
+    std::vector<int> centred;  ///< How the dialog has been centred until it opens.
 
 protected:
     int Enter(wxDialog* shown) override
@@ -37,6 +53,7 @@ protected:
         proposed = dialog->GetColourData().GetColour();
         full = dialog->GetColourData().GetChooseFull();
         parent = dialog->GetParent();
+        centred = std::exchange(g_centred, {});
         if (during)
             during();
         // The dialog reads the widget after this.
@@ -117,6 +134,16 @@ TEST_F(MoreColours, KeepsTheColourInEffectWhenTheDialogIsCancelled)
     EXPECT_EQ(on.popup->m_nChosenColourSel, M);
 }
 
+TEST_F(MoreColours, GoesBackToTheColourInEffectWhenTheDialogIsCancelled)
+{
+    Answer answer(wxID_CANCEL, wxColour(10, 200, 30));
+    on.popup->ChangeSelection(16);
+    on.popup->DoShowColorDlg();
+    EXPECT_EQ(on.popup->m_crColour, wxColour(1, 2, 3));
+    EXPECT_EQ(on.popup->m_crInitialColour, wxColour(1, 2, 3));
+    EXPECT_EQ(listener.Take(), ColourCalls{"change #FF0000"});
+}
+
 TEST_F(MoreColours, AsksNothingWhenCancelledOrWhenAnotherCellIsHot)
 {
     Answer answer(wxID_OK, *wxRED);
@@ -138,12 +165,14 @@ TEST_F(MoreColours, GivesTheDialogTheWindowToCentreOnForItsParent)
     Open();
     on.popup->EndSelection(true);
     EXPECT_EQ(answer.parent, other);
+    EXPECT_EQ(answer.centred, std::vector<int>{wxBOTH});
     EXPECT_EQ(on.popup->m_crInitialColour, *wxRED);
 
     on.popup->SetCenterOn(nullptr);
     Open();
     on.popup->EndSelection(true);
     EXPECT_EQ(answer.parent, on.frame);
+    EXPECT_TRUE(answer.centred.empty());
     other->Destroy();
 }
 

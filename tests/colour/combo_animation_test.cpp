@@ -156,6 +156,15 @@ TEST_F(ColourAnimation, IsPreparedByTheCallToShow)
     EXPECT_EQ(on.combo->m_animBitmap.GetSize(), wxSize(148, 162));
 }
 
+TEST_F(ColourAnimation, TakesItsFirstStepAtOnce)
+{
+    on.combo->m_animDuration = 0;
+    on.combo->Popup();
+    EXPECT_TRUE(on.combo->IsPopupShown());
+    EXPECT_FALSE(on.combo->m_animTimer.IsRunning());
+    on.combo->Dismiss();
+}
+
 // Each time anew, whatever others have drawn there since the last time.
 TEST_F(ColourAnimation, CopiesTheScreenWhereThePopupWillBe)
 {

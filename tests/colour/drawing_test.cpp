@@ -1,5 +1,8 @@
 // What is drawn, call by call, with the colours of a theme of the tests' own.
 
+#include <optional>
+#include <utility>
+
 #include <gtest/gtest.h>
 
 #include <tests/colour/open_popup.h>
@@ -37,7 +40,7 @@ protected:
     }
 
     PopupInFrame popup;
-    PinnedTheme theme;
+    std::optional<PinnedTheme> theme{std::in_place};
     Picture picture{wxSize(160, 180)};
     RecordingDC dc{picture.dc};
 };
@@ -394,6 +397,27 @@ TEST_F(ColourDrawing, OfTheFrameIsRaised)
                                      "line 47,1-47,37 SHADOW",
                                      "line 1,37-48,37 SHADOW",
                                  }));
+}
+
+// Nothing is kept from one drawing to the next.
+TEST_F(ColourDrawing, FollowsTheThemeAtOnce)
+{
+    AddBoxes();
+    popup->m_nCurrentSel = 0;
+    popup->m_nChosenColourSel = 1;
+    const auto uses = [&](const std::string& colour) {
+        dc.Record().calls.clear();
+        popup->DoDrawControl(&dc);
+        bool used = false;
+        for (const std::string& call : dc.Record().calls)
+            used = used || call.find(colour) != std::string::npos;
+        return used;
+    };
+    for (const char* const colour : {"FACE", "SHADOW", "HIGHLIGHT", "DARK"})
+        EXPECT_TRUE(uses(colour)) << colour;
+    theme.reset();
+    for (const char* const colour : {"FACE", "SHADOW", "HIGHLIGHT", "DARK"})
+        EXPECT_FALSE(uses(colour)) << colour;
 }
 
 TEST_F(ColourDrawing, OfTheCombosFaceIsTheColourInEffect)

@@ -1,5 +1,7 @@
 // How a selection ends, what the listener hears of it, and what the combo is left with.
 
+#include <cstddef>
+#include <cstring>
 #include <memory>
 #include <string>
 #include <vector>
@@ -50,18 +52,38 @@ TEST_F(ColourEnding, StartsWithNoHotCellAndTheChosenOneMarked)
     on.popup->EndSelection(false);
 }
 
-TEST_F(ColourEnding, TellsTheListenerLastThatItStarts)
+TEST(ColourStart, TellsTheListenerLast)
 {
+    class CountedPopup : public OpenPopup
+    {
+    public:
+        void Refresh(bool erase = true, const wxRect* rect = nullptr) override
+        {
+            ++refreshes;
+            OpenPopup::Refresh(erase, rect);
+        }
+
+        int refreshes = 0;
+    };
+    const ComboOnScreen<OpenCombo, CountedPopup> on(wxCB_READONLY,
+                                                    [](CountedPopup& popup) { popup.SetInitialColour(*wxBLUE); });
+    ColourListener listener;
+    on.popup->SetColorListener(&listener);
     int hot = 0;
     int chosen = 0;
+    int refreshes = 0;
     listener.during = [&](const std::string&) {
         hot = on.popup->m_nCurrentSel;
         chosen = on.popup->m_nChosenColourSel;
+        refreshes = on.popup->refreshes;
     };
     on.popup->m_nCurrentSel = 7;
+    on.popup->refreshes = 0;
     on.popup->OnPopup();
+    EXPECT_EQ(listener.Take(), ColourCalls{"popup"});
     EXPECT_EQ(hot, -1);
     EXPECT_EQ(chosen, 13);
+    EXPECT_EQ(refreshes, 1);
 }
 
 TEST_F(ColourEnding, ChoosesTheHotCell)
@@ -373,6 +395,23 @@ TEST(ColourPopupAlone, WorksWithoutAWindow)
     popup.OnDismiss();
     EXPECT_EQ(listener.Take(),
               (ColourCalls{"change #FF0000", "end #FF0000", "change #32CD32", "cancel #FF0000", "cancel #FF0000"}));
+}
+
+// The place of a function in the table of its class's virtual functions.
+template <typename Function>
+int SlotOf(Function function)
+{
+    std::ptrdiff_t offset = 0;
+    std::memcpy(&offset, &function, sizeof offset);
+    return static_cast<int>(offset / std::ptrdiff_t(sizeof(void*)));
+}
+
+TEST(ColourListenerTable, HasTheCallsInTheOrderThatHostsAreBuiltWith)
+{
+    EXPECT_EQ(SlotOf(&wxColorPopupListener::OnColourPopup), 0);
+    EXPECT_EQ(SlotOf(&wxColorPopupListener::OnColourSelChange), 1);
+    EXPECT_EQ(SlotOf(&wxColorPopupListener::OnColourSelEnd), 2);
+    EXPECT_EQ(SlotOf(&wxColorPopupListener::OnColourSelCancel), 3);
 }
 
 TEST(ColourListenerDefault, DoesNothing)

@@ -44,6 +44,25 @@ TEST(ColourHotCell, IsNotTheChosenOneYet)
     EXPECT_EQ(popup->m_nCurrentSel, 7);
 }
 
+TEST(ColourHotCell, IsHotInEveryRespectWhenTheListenerHearsOfIt)
+{
+    const PopupInFrame popup;
+    ColourListener listener;
+    popup->SetColorListener(&listener);
+    int hot = 0;
+    wxColour colour;
+    wxString tip;
+    listener.during = [&](const std::string&) {
+        hot = popup->m_nCurrentSel;
+        colour = popup->m_crColour;
+        tip = popup->GetToolTipText();
+    };
+    popup->ChangeSelection(16);
+    EXPECT_EQ(hot, 16);
+    EXPECT_EQ(colour, wxColour(255, 0, 0));
+    EXPECT_EQ(tip, "Red");
+}
+
 TEST(ColourHotCell, IsMoreColoursForAnIndexAboveTheNumberOfColours)
 {
     const PopupInFrame popup;

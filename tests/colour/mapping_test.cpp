@@ -71,6 +71,18 @@ INSTANTIATE_TEST_SUITE_P(, ColourPlace,
                              return index < 0 ? "minus" + std::to_string(-index) : std::to_string(index);
                          });
 
+TEST(ColourPlaceOfFewerColours, IsNoneBehindTheLast)
+{
+    const PopupInFrame popup;
+    popup->m_nNumColours = 37;
+    EXPECT_EQ(popup->GetRow(36), 4);
+    EXPECT_EQ(popup->GetColumn(36), 4);
+    EXPECT_EQ(popup->GetRow(37), -1);
+    EXPECT_EQ(popup->GetColumn(37), -1);
+    EXPECT_EQ(popup->GetIndex(4, 4), 36);
+    EXPECT_EQ(popup->GetIndex(4, 5), -1);
+}
+
 TEST(ColourPlaceOfBox, IsNoneWhereTheBoxIsAbsent)
 {
     const PopupInFrame popup(WithoutBoxes);
@@ -223,6 +235,13 @@ TEST_F(ChosenCell, StaysAutomatic)
     EXPECT_EQ(For(wxColour(1, 2, 3), -3), -3);
     popup->m_strAutomatic.clear();
     EXPECT_EQ(For(wxColour(255, 0, 0), -3), -3);
+}
+
+TEST_F(ChosenCell, IsAmongTheColoursThatThePopupShows)
+{
+    popup->m_nNumColours = 8;
+    EXPECT_EQ(For(wxColour(40, 40, 40)), 7);
+    EXPECT_EQ(For(wxColour(139, 0, 0)), -2);
 }
 
 TEST_F(ChosenCell, LeavesTheHotOneAlone)

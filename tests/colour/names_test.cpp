@@ -28,6 +28,20 @@ std::mutex g_mutex;
 std::vector<LookUp> g_lookUps;
 std::wstring g_throwAt;
 std::atomic<bool> g_slow{false};
+bool g_knowsMoreColours = true;
+
+const wchar_t* Translated(const wchar_t* key)
+{
+    const std::wstring text = key;
+    if (text == L"Dark blue" || text == L"Automatic" || (text == L"More Colours..." && !g_knowsMoreColours))
+        return nullptr;
+    if (text == L"Plum")
+        return L"Zwetschge";
+    // Two colours by one name.
+    if (text == L"Rose" || text == L"Pink")
+        return L"Rosa";
+    return key;
+}
 
 }  // namespace
 
@@ -38,8 +52,7 @@ const wchar_t* lng_util_internal::DoGetResourceString(const wchar_t* key, CLangu
     if (g_slow)
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
     const std::lock_guard lock(g_mutex);
-    const bool isMissing = key == std::wstring(L"Dark blue") || key == std::wstring(L"Automatic");
-    g_lookUps.push_back({key, domain, isMissing ? nullptr : key});
+    g_lookUps.push_back({key, domain, Translated(key)});
     if (key == g_throwAt)
         throw std::runtime_error("no translation today");
     return g_lookUps.back().answer;
@@ -129,7 +142,7 @@ TEST_F(ColourNames, AreLookedUpInOrderByTheirKeys)
     EXPECT_EQ(s_threads.lookUps[35].key, L"Pale green ");
     EXPECT_EQ(s_threads.lookUps[39].key, L"White");
     for (int i = 0; i < 40; ++i) {
-        if (i != 5) {
+        if (i != 5 && i != 24 && i != 30 && i != 32) {
             EXPECT_STREQ(GetColourName(i), s_threads.lookUps[i].key.c_str());
         }
     }
@@ -181,6 +194,25 @@ TEST_F(ColourNames, ThatAreMissingEqualNoText)
     EXPECT_EQ(popup->m_nCurrentSel, 6);
 }
 
+TEST_F(ColourNames, AreFoundByTheirTextAndNotByTheirKey)
+{
+    const PopupInFrame popup;
+    popup->m_nCurrentSel = 1;
+    popup->SetStringValue("Plum");
+    EXPECT_EQ(popup->m_nCurrentSel, 1);
+    popup->SetStringValue("Zwetschge");
+    EXPECT_EQ(popup->m_nCurrentSel, 30);
+}
+
+TEST_F(ColourNames, ThatAreAlikeAreThatOfTheFirst)
+{
+    const PopupInFrame popup;
+    popup->SetStringValue("Rosa");
+    EXPECT_EQ(popup->m_nCurrentSel, 24);
+    popup->m_nCurrentSel = 32;
+    EXPECT_EQ(popup->GetStringValue(), "Rosa");
+}
+
 TEST_F(ColourNames, AreNotNeededForTheColours)
 {
     const PopupInFrame popup;
@@ -195,6 +227,13 @@ TEST_F(ColourNames, OfABoxThatAreMissingLeaveItOut)
     EXPECT_EQ(popup->m_strAutomatic, "");
     EXPECT_EQ(popup->m_strMoreColours, "More Colours...");
     EXPECT_EQ(popup->GetRow(CELL_AUTOMATIC), -1);
+
+    g_knowsMoreColours = false;
+    const PopupInFrame bare;
+    g_knowsMoreColours = true;
+    EXPECT_EQ(bare->m_strMoreColours, "");
+    EXPECT_EQ(bare->GetRow(CELL_MORE_COLOURS), -1);
+    EXPECT_EQ(bare->GetSize(), wxSize(148, 94));
 }
 
 }  // namespace
