@@ -1,5 +1,7 @@
 #include <fittings/platform/embedded/ini_file.h>
 
+#include <cerrno>
+
 #include <unistd.h>
 
 #include <fittings/platform/embedded/ini_codec.h>
@@ -112,9 +114,13 @@ bool CIniFile::Save(const std::string& path) const
 {
     if (path.empty() || (HasFailed() && path == m_path))
         return false;
+    if (!m_isNoText)
+        return fittings::ReplaceFileBytes(path, ChangedText());
     // What could not be read goes to another name, unless somebody has put a new file in its place.
-    const bool replacesNoText = m_isNoText && fittings::IdentityOf(path) == m_content.identity;
-    if (!replacesNoText)
+    const auto identity = fittings::IdentityOf(path);
+    if (!identity && errno != ENOENT)
+        return false;
+    if (!(identity == m_content.identity))
         return fittings::ReplaceFileBytes(path, ChangedText());
     if (m_changes.empty())
         return true;
