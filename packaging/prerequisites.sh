@@ -4,6 +4,7 @@
 build_packages=(g++ cmake ninja-build pkg-config gettext libwxgtk3.2-dev libglib2.0-dev libgtk-3-dev)
 display_packages=(xvfb xauth openbox x11-utils librsvg2-common)
 test_packages=(libgtest-dev libgmock-dev xdotool x11-xkb-utils x11-xserver-utils imagemagick dpkg-dev file locales python3 weston)
+coverage_packages=(gcovr)
 bench_packages=(libbenchmark-dev libicu-dev)
 fuzz_packages=(clang libclang-rt-dev llvm locales)
 
