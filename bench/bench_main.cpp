@@ -62,6 +62,13 @@ void PrintTable(const Medians& medians)
             std::printf("%-26s %14.0f %14.0f %8.3f %8.2f  %s  (%s)\n", budget.row, ours, peer, ours / peer, budget.most,
                         Verdict(ours / peer, budget.most), budget.peer);
     }
+    for (const Extra& extra : kExtras) {
+        const double ours = medians.Of(extra.row);
+        const double peer = medians.Of(std::string(extra.row) + "/peer");
+        if (ours > 0 && peer > 0)
+            std::printf("%-26s %14.0f %14.0f %+7.0fus %6.0fus  %s  (%s)\n", extra.row, ours, peer, (ours - peer) / 1e3,
+                        extra.mostNs / 1e3, Verdict(ours - peer, extra.mostNs), extra.peer);
+    }
     for (const Growth& growth : kGrowths) {
         const double large = medians.Of(growth.large);
         const double small = medians.Of(growth.small);
@@ -78,15 +85,19 @@ void WriteJson(const Medians& medians, const std::string& path)
     std::ofstream file(path);
     file << "[";
     const char* separator = "\n";
-    for (const Budget& budget : kBudgets) {
-        const double ours = medians.Of(budget.row);
-        const double peer = medians.Of(std::string(budget.row) + "/peer");
+    const auto write = [&](const char* row, const char* name) {
+        const double ours = medians.Of(row);
+        const double peer = medians.Of(std::string(row) + "/peer");
         if (ours <= 0 || peer <= 0)
-            continue;
-        file << separator << "  {\"row\": \"" << budget.row << "\", \"ours_ns\": " << ours << ", \"peer\": \""
-             << budget.peer << "\", \"peer_ns\": " << peer << ", \"ratio\": " << ours / peer << "}";
+            return;
+        file << separator << "  {\"row\": \"" << row << "\", \"ours_ns\": " << ours << ", \"peer\": \"" << name
+             << "\", \"peer_ns\": " << peer << ", \"ratio\": " << ours / peer << "}";
         separator = ",\n";
-    }
+    };
+    for (const Budget& budget : kBudgets)
+        write(budget.row, budget.peer);
+    for (const Extra& extra : kExtras)
+        write(extra.row, extra.peer);
     file << "\n]\n";
 }
 

@@ -1,0 +1,37 @@
+// library-load LIBRARY: says how many nanoseconds dlopen() of it takes in a program that already runs on the toolkit.
+//
+// A program of its own for each: a library that was loaded once is loaded no more.
+
+#include <chrono>
+#include <cstdio>
+
+#include <dlfcn.h>
+
+#include <wx/app.h>
+#include <wx/aui/aui.h>
+
+namespace {
+
+class LoadApp : public wxApp
+{
+public:
+    bool OnInit() override { return argc == 2; }
+
+    int OnRun() override
+    {
+        const wxAuiManager loadsTheLibraryOfPanes;
+        const auto begin = std::chrono::steady_clock::now();
+        const bool loaded = dlopen(argv[1].utf8_str(), RTLD_NOW | RTLD_LOCAL) != nullptr;
+        const auto end = std::chrono::steady_clock::now();
+        if (!loaded) {
+            std::fprintf(stderr, "%s\n", dlerror());
+            return 1;
+        }
+        std::printf("%lld\n", static_cast<long long>(std::chrono::nanoseconds(end - begin).count()));
+        return 0;
+    }
+};
+
+}  // namespace
+
+wxIMPLEMENT_APP(LoadApp);

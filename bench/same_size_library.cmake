@@ -1,0 +1,8 @@
+# cmake -D LIBRARY=FILE -D SOURCE=FILE -P same_size_library.cmake: writes the source of a library that is as large and
+# does nothing.
+file(SIZE ${LIBRARY} size)
+file(CONFIGURE OUTPUT ${SOURCE} CONTENT [[
+// As large as the library it is held against, without anything in it.
+extern const char nothing[@size@];
+const char nothing[@size@] = {1};
+]] @ONLY)
