@@ -1,0 +1,74 @@
+#include <fuzz/toolkit.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <iterator>
+
+#include <fuzzer/FuzzedDataProvider.h>
+#include <unistd.h>
+
+#include <wx/app.h>
+#include <wx/init.h>
+
+#include <fittings/platform/std_file_paths.h>
+#include <fuzz/check.h>
+
+namespace {
+
+class FuzzApp : public wxApp
+{
+public:
+    bool OnInit() override
+    {
+        SetAppName("fittings-fuzz");
+        return true;
+    }
+
+    void OnAssertFailure(const wxChar* /*file*/, int /*line*/, const wxChar* function, const wxChar* condition,
+                         const wxChar* message) override
+    {
+        const wxString where(function);
+        if (where != "wxParseCommonDialogsFilter" && where != "GetFilterIndex")
+            Check(false, wxString::Format("%s in %s, %s", condition, function, message).utf8_str());
+    }
+};
+
+std::string g_folder = "/tmp/fittings-fuzz-XXXXXX";
+
+void RemoveFolder()
+{
+    std::error_code error;
+    std::filesystem::remove_all(g_folder, error);
+}
+
+bool Start()
+{
+    static char name[] = "fittings-fuzz";
+    static char* arguments[] = {name, nullptr};
+    static int count = 1;
+    if (access("/dev/shm", W_OK) == 0)
+        g_folder = "/dev/shm/fittings-fuzz-XXXXXX";
+    Check(mkdtemp(g_folder.data()) != nullptr, "there is a folder to write to");
+    std::atexit(RemoveFolder);
+    wxApp::SetInstance(new FuzzApp);
+    Check(wxEntryStart(count, arguments) && wxTheApp->CallOnInit(), "the toolkit starts");
+    std_file_paths::SetUserDataDir(std::wstring(g_folder.begin(), g_folder.end()).c_str());
+    return true;
+}
+
+}  // namespace
+
+void StartToolkit()
+{
+    static const bool started = Start();
+    static_cast<void>(started);
+}
+
+std::wstring ConsumeWideText(FuzzedDataProvider& bytes)
+{
+    constexpr wchar_t kUnusual[] = {0x85, 0xA0, 0xDF, 0x2028, 0x3042, 0xD800, 0xFEFF, 0x1F600, 0x10FFFF};
+    std::wstring text;
+    for (const unsigned char byte : bytes.ConsumeRemainingBytesAsString())
+        text += byte < 0x80 ? static_cast<wchar_t>(byte) : kUnusual[byte % std::size(kUnusual)];
+    return text.substr(0, text.find(L'\0'));
+}
