@@ -5,7 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <dlfcn.h>
 #include <wx/dcclient.h>
+#include <wx/dcgraph.h>
 
 #include <tests/colour/colour_listener.h>
 #include <tests/colour/combo_on_screen.h>
@@ -171,6 +173,39 @@ TEST(ColourPreview, IsOffAtFirst)
 
 // --- What is redrawn -------------------------------------------------------------------------------------------------
 
+// The drawing on windows that is counted.
+struct Drawn
+{
+    int rectangles = 0;
+    int lines = 0;
+};
+
+Drawn g_drawn;
+
+template <typename... Arguments>
+void DrawByToolkit(const char* name, wxGCDCImpl* dc, Arguments... arguments)
+{
+    reinterpret_cast<void (*)(wxGCDCImpl*, Arguments...)>(dlsym(RTLD_NEXT, name))(dc, arguments...);
+}
+
+}  // namespace
+
+// These take the place of the toolkit's.
+
+void wxGCDCImpl::DoDrawRectangle(int x, int y, int width, int height)
+{
+    ++g_drawn.rectangles;
+    DrawByToolkit("_ZN10wxGCDCImpl15DoDrawRectangleEiiii", this, x, y, width, height);
+}
+
+void wxGCDCImpl::DoDrawLine(int x1, int y1, int x2, int y2)
+{
+    ++g_drawn.lines;
+    DrawByToolkit("_ZN10wxGCDCImpl10DoDrawLineEiiii", this, x1, y1, x2, y2);
+}
+
+namespace {
+
 constexpr int kUntouched = 0xFF00FF;
 
 // As 0xRRGGBB.
@@ -259,6 +294,26 @@ TEST_F(HotCellOnScreen, RedrawsTheOldAndTheNewCellAndTheFrame)
     popup->ChangeSelection(29);
     PumpPending();
     ExpectDrawn({Cell(10), Cell(29)});
+    EXPECT_EQ(paints, 0);
+}
+
+// A cell is two rectangles, the hot one and the frame have eight lines each. The whole popup is 89 rectangles.
+TEST_F(HotCellOnScreen, DrawsNoMoreThanTwoCellsAndTheFrame)
+{
+    popup->m_nChosenColourSel = CELL_NONE;
+    popup->ChangeSelection(10);
+    PumpPending();
+    g_drawn = {};
+    popup->ChangeSelection(29);
+    PumpPending();
+    EXPECT_EQ(g_drawn.rectangles, 4);
+    EXPECT_EQ(g_drawn.lines, 16);
+    // The box has four rectangles.
+    g_drawn = {};
+    popup->ChangeSelection(M);
+    PumpPending();
+    EXPECT_EQ(g_drawn.rectangles, 6);
+    EXPECT_EQ(g_drawn.lines, 16);
     EXPECT_EQ(paints, 0);
 }
 
