@@ -7,6 +7,8 @@
 //   opens at once|later        the popup is being shown: in the call to open it, or at the end of an animation
 //   cell N X Y                 the middle of that cell, in the popup that is shown now
 //   popup X Y                  the popup is shown; its place on the screen, as the toolkit believes
+//   repaints X Y WIDTH HEIGHT  a part of the popup is to be painted anew
+//   repaints all               all of it is
 //   change|end|cancel #RRGGBB  what the listener hears
 //   over combo                 the pointer moves over the combo
 //   dialog ACTIVE FOCUS #RRGGBB    at every change: whether the colour dialog has the input focus, the kind of widget that
@@ -62,6 +64,16 @@ private:
     {
         Print(call + " " + Text(colour));
         ++ends;
+    }
+};
+
+class TellingPopup : public wxColourPopup
+{
+public:
+    void Refresh(bool erase = true, const wxRect* rect = nullptr) override
+    {
+        Print("repaints " + (rect ? Text(*rect) : "all"));
+        wxColourPopup::Refresh(erase, rect);
     }
 };
 
@@ -131,7 +143,7 @@ public:
         auto* const panel = new wxPanel(frame);
         auto* const combo = new TellingCombo;
         combo->Create(panel, wxID_ANY, "", wxPoint(20, 60), wxSize(150, -1), wxCB_READONLY);
-        auto* const popup = new wxColourPopup;
+        auto* const popup = new TellingPopup;
         Teller teller;
         popup->SetColorListener(&teller);
         combo->SetPopupControl(popup);

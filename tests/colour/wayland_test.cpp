@@ -1,10 +1,12 @@
 // The combo on Wayland, where no program can copy the screen, place its windows or draw between paint events: in a
 // compositor that runs in a window of the X display, and gets its input from there.
 
+#include <algorithm>
 #include <chrono>
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <thread>
 #include <vector>
@@ -101,6 +103,33 @@ protected:
     // A hot cell has a dark line at its right, two pixels from its edge.
     static bool IsHot(const wxPoint& middle) { return Pixel(middle + wxPoint(7, 0)) == 0; }
 
+    // What cell 1 has repainted when it follows cell 0: the two cells and the sides of the frame, and never all of the popup
+    // but when it opens.
+    static void ExpectLastRepaint(const WatchedProbe& probe)
+    {
+        const std::vector<std::string> parts = probe.Lines("repaints ");
+        EXPECT_EQ(std::count(parts.begin(), parts.end(), "all"), 1);
+        ASSERT_GE(parts.size(), 6u);
+        const auto part = [&](std::size_t i) {
+            std::istringstream line(parts.at(i));
+            wxRect rect;
+            line >> rect.x >> rect.y >> rect.width >> rect.height;
+            return rect;
+        };
+        const wxRect cell(Cell(probe, 0) - wxPoint(9, 9), wxSize(18, 18));
+        const std::size_t last = parts.size() - 6;
+        EXPECT_EQ(part(last), cell);
+        EXPECT_EQ(part(last + 1), wxRect(cell.GetPosition() + wxPoint(18, 0), cell.GetSize()));
+        const int height = part(last + 4).height;
+        EXPECT_GT(height, 120);
+        EXPECT_EQ(part(last + 2), wxRect(0, 0, 148, 3));
+        EXPECT_EQ(part(last + 3), wxRect(0, height - 3, 148, 3));
+        EXPECT_EQ(part(last + 4), wxRect(0, 0, 3, height));
+        EXPECT_EQ(part(last + 5), wxRect(145, 0, 3, height));
+        // The first one was of "More Colours...", down to the end.
+        EXPECT_EQ(part(1).GetBottom(), height - 1);
+    }
+
     // Moves the pointer to a place until a program has heard of it. The compositor believes the pointer's place only when
     // it comes into its window, and does not always tell of a single move.
     static void Move(const wxPoint& at, const std::function<bool()>& done)
@@ -134,6 +163,7 @@ TEST_F(ColourOnWayland, IsUsedByKeyboard)
     EXPECT_TRUE(WaitUntil([&] { return IsHot(first); })) << "the hot cell is not seen";
     Xdotool({"key", "Right"});
     EXPECT_TRUE(WaitUntil([&] { return IsHot(first + wxPoint(18, 0)) && !IsHot(first); })) << "it is not seen to move";
+    ExpectLastRepaint(probe);
     Xdotool({"key", "Return"});
     ASSERT_TRUE(probe.Waits("end #A52A00"));
     const wxPoint face = combo.GetPosition() + wxPoint(20, combo.height / 2);
