@@ -213,6 +213,23 @@ TEST(ColourListenerInItsCalls, MayChooseAnotherColour)
     EXPECT_EQ(control.popup->m_crInitialColour, *wxGREEN);
 }
 
+// No other cell becomes hot by it, and the name of the colour has the last word.
+TEST(ColourListenerInItsCalls, MaySetTheValueOfTheCombo)
+{
+    Control control;
+    control.listener.during = [&](const std::string& call) {
+        if (call == "end")
+            control.combo->SetValue("Teal");
+    };
+    control.Open();
+    control.popup->ChangeSelection(16);
+    control.popup->EndSelection(true);
+    EXPECT_EQ(control.listener.Take(), (ColourCalls{"popup", "change #FF0000", "end #FF0000"}));
+    EXPECT_EQ(control.popup->m_crColour, *wxRED);
+    EXPECT_EQ(control.popup->m_nCurrentSel, 16);
+    EXPECT_EQ(control.combo->GetValue(), "Red");
+}
+
 TEST(ColourListenerInItsCalls, MayReplaceThePopup)
 {
     for (const bool ok : {true, false}) {
