@@ -30,6 +30,13 @@ wxBitmap CopyOfScreen(const wxRect& rect)
     return bitmap;
 }
 
+// Whether the window, or one that it goes with, is deleted as soon as no event is under way.
+bool IsGoing(wxWindow* window)
+{
+    return window &&
+           (window->IsBeingDeleted() || wxTheApp->IsScheduledForDestruction(window) || IsGoing(window->GetParent()));
+}
+
 }  // namespace
 
 wxBEGIN_EVENT_TABLE(wxColourCombo, wxComboCtrl)
@@ -144,7 +151,7 @@ void wxColourCombo::EndAnimation(wxWindow& popup)
     popup.Move(0, 0);
     const bool animated = m_animTimer.IsRunning();
     m_animTimer.Stop();
-    if (IsBeingDeleted())
+    if (IsGoing(this))
         return;
     // Who closed the popup too early to see it gets it nevertheless; the base shows only what is being opened.
     if (animated && IsPopupWindowState(Hidden)) {

@@ -337,6 +337,51 @@ TEST(ColourComboDestroy, HidesItAtOnce)
     EXPECT_FALSE(control.combo);
 }
 
+// The last step of the animation may come between the call and the time when the windows really go.
+TEST(ColourComboDestroy, KeepsThePopupFromBeingShown)
+{
+    for (const bool withFrame : {false, true}) {
+        Control control(true);
+        control.combo->m_animDuration = 2000000;
+        control.combo->Popup();
+        if (withFrame)
+            control.frame->Destroy();
+        else
+            control.combo->Destroy();
+        ASSERT_TRUE(control.combo);
+        control.combo->m_animDuration = 0;
+        wxTimerEvent step(control.combo->m_animTimer);
+        control.combo->OnTimerEvent(step);
+        EXPECT_TRUE(control.combo->shown.empty()) << withFrame;
+        EXPECT_FALSE(control.combo->IsPopupShown()) << withFrame;
+        EXPECT_FALSE(control.combo->m_animTimer.IsRunning()) << withFrame;
+    }
+}
+
+TEST(ColourComboDestroy, KeepsThePopupFromBeingShownByWhoHearsOfIt)
+{
+    Control control(true);
+    wxColourCombo& combo = *control.combo;
+    control.combo->m_animDuration = 2000000;
+    combo.Popup();
+    control.combo->m_animDuration = 0;
+    int heard = 0;
+    bool shown = false;
+    combo.Bind(wxEVT_DESTROY, [&](wxWindowDestroyEvent& event) {
+        if (event.GetWindow() != &combo)
+            return;
+        ++heard;
+        wxTimer timer;
+        wxTimerEvent step(timer);
+        combo.OnTimerEvent(step);
+        shown = combo.IsPopupShown();
+    });
+    combo.Destroy();
+    PumpPending();
+    EXPECT_EQ(heard, 1);
+    EXPECT_FALSE(shown);
+}
+
 TEST(ColourComboDestroy, GoesWithItsParentBeforeItsTime)
 {
     Control control;
