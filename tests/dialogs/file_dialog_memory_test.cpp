@@ -9,6 +9,7 @@
 #include <wx/filefn.h>
 
 #include <fittings/platform/local_reg_store.h>
+#include <fittings/platform/std_file_paths.h>
 #include <tests/dialogs/file_answer.h>
 #include <tests/support/temp_folder.h>
 
@@ -161,6 +162,15 @@ TEST_F(LastFile, StaysWhenTheDialogGivesNoPath)
     SaveAs("/usr/one");
     EXPECT_EQ(SaveAs(""), L"");
     EXPECT_EQ(Stored(L"Report"), L"/usr/one");
+}
+
+TEST_F(LastFile, IsGivenAlsoWhereItCannotBeStored)
+{
+    WriteFile(m_settings / "file", "");
+    std_file_paths::SetUserDataDir(wxString::FromUTF8(m_settings / "file/folder").ToStdWstring());
+    EXPECT_EQ(SaveAs("/usr/one"), L"/usr/one");
+    EXPECT_EQ(Stored(L"Report"), NOTHING);
+    EXPECT_EQ(Proposed().folder, SamplesFolder());
 }
 
 TEST_F(LastFile, BelongsToItsEntry)

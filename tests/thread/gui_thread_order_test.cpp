@@ -81,6 +81,18 @@ TEST(Posting, ReleasesThePostMutexWhenRefused)
     EXPECT_TRUE(IsFree(worker.ContinueMutex()));
 }
 
+// The event is on its way: the answer is about it, and the next post is refused.
+TEST(Posting, IsAnsweredByTheFlagAsItWasBefore)
+{
+    Interrupted handler;
+    Open worker(&handler);
+    handler.whileQueueing = [&] { worker.StartKill(); };
+    EXPECT_TRUE(worker.PostEvent(7, 1));
+    EXPECT_FALSE(worker.PostEvent(7, 2));
+    PumpPending();
+    EXPECT_EQ(handler.events, (Events{Plain(7, 1)}));
+}
+
 TEST(PostingTheCallersEvent, TakesNoPostMutex)
 {
     Interrupted handler;

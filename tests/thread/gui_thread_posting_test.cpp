@@ -139,6 +139,38 @@ TEST(PostEvent, DeliversACopyOfTheCallersEvent)
     EXPECT_EQ(handler.events, (Events{{7, 12, &object, L"caf\u00e9", 3, 5, &data, nullptr}}));
 }
 
+// Hosts override it, to see what is posted to them.
+TEST(PostEvent, GoesByTheHandlersPendingEvents)
+{
+    struct Handler : Recorder
+    {
+        void AddPendingEvent(const wxEvent& event) override
+        {
+            const auto& command = dynamic_cast<const wxCommandEvent&>(event);
+            pending.push_back(&command);
+            values.push_back(command.GetInt());
+            wxEvtHandler::AddPendingEvent(event);
+        }
+        std::vector<const wxCommandEvent*> pending;
+        std::vector<int> values;
+    } handler;
+    int data = 0;
+    wxCommandEvent event(7);
+    RunAndDeliver<Worker>(
+        [&](Worker& self) {
+            self.PostEvent(event, 1);
+            self.PostEvent(7, 2);
+            self.PostEvent(7, 3, 99L);
+            self.PostEvent(7, 4, &data);
+            return Code(0);
+        },
+        &handler);
+    EXPECT_EQ(handler.values, (std::vector<int>{1, 2, 3, 4}));
+    ASSERT_FALSE(handler.pending.empty());
+    EXPECT_EQ(handler.pending[0], &event);
+    EXPECT_EQ(handler.events, (Events{Plain(7, 1), Plain(7, 2), Plain(7, 3, 99), Plain(7, 4, 0, &data)}));
+}
+
 TEST(PostEvent, KeepsTheClassOfTheCallersEvent)
 {
     struct Handler : wxEvtHandler
