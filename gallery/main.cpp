@@ -3,12 +3,15 @@
 #include <csignal>
 #include <cstdio>
 #include <string>
+#include <vector>
 
 #include <glib-unix.h>
 #include <gtk/gtk.h>
 #include <wx/app.h>
+#include <wx/dialog.h>
 #include <wx/evtloop.h>
 #include <wx/init.h>
+#include <wx/modalhook.h>
 #include <wx/uilocale.h>
 
 #include "gallery_frame.h"
@@ -52,14 +55,44 @@ CommandLine Parse(int count, char** arguments)
 
 CommandLine g_line;
 
-/// Closes the window as a person would, so that it is remembered.
-gboolean OnStopSignal(gpointer)
+/// Ends the program as a person would, who cancels the open dialogs and closes the window, so that it is remembered. What
+/// has opened a dialog is still at work in the window: that is closed when the last dialog is gone.
+class Stop : public wxModalDialogHook
+{
+public:
+    void Begin()
+    {
+        m_begun = true;
+        wxWindow* const window = wxTheApp->GetTopWindow();
+        if (!m_dialogs.empty())
+            m_dialogs.back()->EndModal(wxID_CANCEL);
+        else if (window)
+            window->Close();
+    }
+
+protected:
+    int Enter(wxDialog* dialog) override
+    {
+        m_dialogs.push_back(dialog);
+        return wxID_NONE;
+    }
+
+    void Exit(wxDialog*) override
+    {
+        m_dialogs.pop_back();
+        if (m_begun)
+            wxTheApp->CallAfter([this] { Begin(); });
+    }
+
+private:
+    std::vector<wxDialog*> m_dialogs;
+    bool m_begun = false;
+};
+
+gboolean OnStopSignal(gpointer stop)
 {
     // Later, because a window closed by GLib's own event loop is not destroyed before the next wx event.
-    wxTheApp->CallAfter([] {
-        if (wxTheApp->GetTopWindow())
-            wxTheApp->GetTopWindow()->Close();
-    });
+    wxTheApp->CallAfter([stop] { static_cast<Stop*>(stop)->Begin(); });
     return G_SOURCE_CONTINUE;
 }
 
@@ -72,7 +105,8 @@ public:
         SetAppDisplayName("Fittings Gallery");
         wxUILocale::UseDefault();
         for (const int signal : {SIGTERM, SIGINT, SIGHUP})
-            g_unix_signal_add(signal, OnStopSignal, nullptr);
+            g_unix_signal_add(signal, OnStopSignal, &m_stop);
+        m_stop.Register();
 
         gtk_window_set_default_icon_name("fittings-gallery");
         if (!g_line.pictures.empty())
@@ -95,6 +129,9 @@ public:
         const wxEventLoopActivator active(&loop);
         return fittings::Tour(g_line.pictures, g_line.folder).Run() ? 0 : 1;
     }
+
+private:
+    Stop m_stop;
 };
 
 }  // namespace

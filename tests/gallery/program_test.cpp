@@ -138,6 +138,24 @@ TEST_F(TheProgram, SavesItsStateWhenItIsTerminated)
     EXPECT_EQ(next.Wait(20), 0);
 }
 
+TEST_F(TheProgram, SavesItsStateWhenItIsTerminatedInADialog)
+{
+    const std::vector<std::pair<std::string, std::string>> dialogs{{"ctrl+o", "Open folder"},
+                                                                   {"ctrl+s", "Save report"}};
+    for (const auto& [key, title] : dialogs) {
+        TempFolder folder;
+        const std::string root = fs::canonical(folder.Path()).native();
+        Program program({folder.Path()});
+        ASSERT_TRUE(ShowsWindow(root + ".*Fittings Gallery"));
+        ASSERT_TRUE(WaitFor("xdotool search --onlyvisible --name 'Fittings Gallery' windowactivate --sync"));
+        ASSERT_TRUE(WaitFor("xdotool key " + key));
+        ASSERT_TRUE(ShowsWindow("^" + title + "$"));
+        program.Send(SIGTERM);
+        EXPECT_EQ(program.Wait(20), 0);
+        EXPECT_NE(ReadFile(data / "fittings-gallery/ui_config/browser.ini").find(root + "|"), std::string::npos);
+    }
+}
+
 // Twice as large as usual, it would not: the screen is 1280 by 1024, less the margins at its edges.
 TEST_F(TheProgram, FitsOnTheScreenAtFirst)
 {
