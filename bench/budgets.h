@@ -50,10 +50,13 @@ struct Growth
 };
 
 constexpr Growth kGrowths[] = {
+    {"store/100k-load-get-save", "store/10k-load-get-save", 10, 1.5},
     {"validate/100k", "validate/1k", 100, 1.5},
     {"format/100k", "format/1k", 100, 1.5},
     {"tree/save-100k", "tree/save-10k", 10, 1.5},
+    {"tree/save-deep-10k", "tree/save-deep-1k", 10, 1.5},
     {"tree/load-10k", "tree/load-1k", 10, 1.5},
+    {"thread/post-100k", "thread/post", 10, 1.5},
 };
 
 #endif

@@ -156,12 +156,12 @@ void FileSetPeer(benchmark::State& state)
     }
 }
 
-void LoadGetSave(benchmark::State& state)
+void LoadGetSave(benchmark::State& state, int keys)
 {
-    const Settings settings(100'000);
+    const Settings settings(keys);
     const std::wstring path = Wide(settings.NamedPath());
-    const std::wstring section = Wide(settings.Section(56'789));
-    const std::wstring key = Wide(settings.Key(56'789));
+    const std::wstring section = Wide(settings.Section(keys / 2));
+    const std::wstring key = Wide(settings.Key(keys / 2));
     int number = 0;
     for (auto _ : state) {
         CIniFile* const ini = CLocalRegStore::CreateInitFile(false);
@@ -173,11 +173,11 @@ void LoadGetSave(benchmark::State& state)
     }
 }
 
-void LoadGetSavePeer(benchmark::State& state)
+void LoadGetSavePeer(benchmark::State& state, int keys)
 {
-    const Settings settings(100'000);
+    const Settings settings(keys);
     const wxString file = settings.NamedPath();
-    const wxString path = "/" + settings.Section(56'789) + "/" + settings.Key(56'789);
+    const wxString path = "/" + settings.Section(keys / 2) + "/" + settings.Key(keys / 2);
     int number = 0;
     for (auto _ : state) {
         wxFileConfig config("", "", file, "", wxCONFIG_USE_LOCAL_FILE);
@@ -194,7 +194,8 @@ BENCHMARK(FileGetPeer)->Name("store/file-get/peer");
 // What these two do is mostly waiting for the disk.
 BENCHMARK(FileSet)->Name("store/file-set")->UseRealTime();
 BENCHMARK(FileSetPeer)->Name("store/file-set/peer")->UseRealTime();
-BENCHMARK(LoadGetSave)->Name("store/100k-load-get-save")->UseRealTime();
-BENCHMARK(LoadGetSavePeer)->Name("store/100k-load-get-save/peer")->UseRealTime();
+BENCHMARK_CAPTURE(LoadGetSave, 10k, 10'000)->Name("store/10k-load-get-save")->UseRealTime();
+BENCHMARK_CAPTURE(LoadGetSave, 100k, 100'000)->Name("store/100k-load-get-save")->UseRealTime();
+BENCHMARK_CAPTURE(LoadGetSavePeer, 100k, 100'000)->Name("store/100k-load-get-save/peer")->UseRealTime();
 
 }  // namespace

@@ -13,7 +13,6 @@
 
 namespace {
 
-constexpr int kEvents = 10'000;
 const wxEventTypeTag<wxCommandEvent> kType(wxNewEventType());
 
 // An exit code to be known again.
@@ -27,7 +26,7 @@ wxThread::ExitCode Result()
 class Receiver : public wxEvtHandler
 {
 public:
-    Receiver() { Bind(kType, &Receiver::OnEvent, this); }
+    explicit Receiver(int count) : m_missing(count) { Bind(kType, &Receiver::OnEvent, this); }
 
     void ReceiveAll() { m_loop.Run(); }
 
@@ -35,32 +34,35 @@ private:
     void OnEvent(wxCommandEvent& event)
     {
         m_progress = wxString::Format("%d files", event.GetInt());
-        if (++m_received == kEvents)
+        if (--m_missing == 0)
             m_loop.Exit();
     }
 
     wxGUIEventLoop m_loop;
     wxString m_progress;
-    int m_received = 0;
+    int m_missing;
 };
 
 class Poster : public wxGUIThread
 {
 public:
-    explicit Poster(Receiver* receiver) : wxGUIThread(receiver) { RunThread(); }
+    Poster(Receiver* receiver, int count) : wxGUIThread(receiver), m_count(count) { RunThread(); }
 
     wxThread::ExitCode Entry() override
     {
-        for (int i = 0; i < kEvents; ++i)
+        for (int i = 0; i < m_count; ++i)
             PostEvent(kType, i);
         return nullptr;
     }
+
+private:
+    const int m_count;
 };
 
 class PosterByHand : public wxThread
 {
 public:
-    explicit PosterByHand(Receiver* receiver) : wxThread(wxTHREAD_JOINABLE), m_receiver(receiver)
+    PosterByHand(Receiver* receiver, int count) : wxThread(wxTHREAD_JOINABLE), m_receiver(receiver), m_count(count)
     {
         Create();
         Run();
@@ -70,7 +72,7 @@ protected:
     ExitCode Entry() override
     {
         wxCommandEvent event(kType);
-        for (int i = 0; i < kEvents; ++i) {
+        for (int i = 0; i < m_count; ++i) {
             event.SetInt(i);
             m_receiver->AddPendingEvent(event);
         }
@@ -79,19 +81,30 @@ protected:
 
 private:
     Receiver* const m_receiver;
+    const int m_count;
 };
 
 // What an event costs from the worker to the end of its handler. First all are posted and then all delivered: when both go
 // on at once, the toolkit's locks decide by chance how often one thread sleeps for the other.
 template <typename Worker>
-void Post(benchmark::State& state)
+void Post(benchmark::State& state, int count)
 {
     for (auto _ : state) {
-        Receiver receiver;
-        Worker worker(&receiver);
+        Receiver receiver(count);
+        Worker worker(&receiver, count);
         worker.Wait();
         receiver.ReceiveAll();
     }
+}
+
+void PostByWorker(benchmark::State& state, int count)
+{
+    Post<Poster>(state, count);
+}
+
+void PostByHand(benchmark::State& state, int count)
+{
+    Post<PosterByHand>(state, count);
 }
 
 class Runner : public wxThreadEx
@@ -175,8 +188,9 @@ void RunAndWaitByHand(benchmark::State& state)
     Alive::WaitForNone();
 }
 
-BENCHMARK(Post<Poster>)->Name("thread/post")->UseRealTime();
-BENCHMARK(Post<PosterByHand>)->Name("thread/post/peer")->UseRealTime();
+BENCHMARK_CAPTURE(PostByWorker, 10k, 10'000)->Name("thread/post")->UseRealTime();
+BENCHMARK_CAPTURE(PostByHand, 10k, 10'000)->Name("thread/post/peer")->UseRealTime();
+BENCHMARK_CAPTURE(PostByWorker, 100k, 100'000)->Name("thread/post-100k")->UseRealTime();
 BENCHMARK(RunAndWait)->Name("thread/run-wait")->UseRealTime();
 BENCHMARK(RunAndWaitByHand)->Name("thread/run-wait/peer")->UseRealTime();
 

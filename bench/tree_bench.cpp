@@ -74,6 +74,22 @@ void Save(benchmark::State& state, int count)
         siblings.Tree().SaveState("bench", siblings.Root());
 }
 
+// One below the other, each expanded.
+void SaveDeep(benchmark::State& state, int depth)
+{
+    const std::unique_ptr<wxFrame, DestroyWindow> frame(new wxFrame(nullptr, wxID_ANY, "bench"));
+    auto* const tree = new wxHandyTreeCtrl;
+    tree->Create(frame.get());
+    wxTreeCursor root = tree->AddRoot("root");
+    std::vector<wxTreeItemId> levels{root.item};
+    for (int i = 0; i < depth; ++i)
+        levels.push_back(tree->AppendItem(levels.back(), wxString::Format("folder %06d", i)));
+    for (auto level = levels.rbegin(); level != levels.rend(); ++level)
+        tree->Expand(*level);
+    for (auto _ : state)
+        tree->SaveState("bench", root);
+}
+
 void CopyEveryLabel(benchmark::State& state, int count)
 {
     Siblings siblings(count, 2);
@@ -113,6 +129,8 @@ void ExpandEach(benchmark::State& state, int count)
 
 BENCHMARK_CAPTURE(Save, 10k, 10'000)->Name("tree/save-10k");
 BENCHMARK_CAPTURE(Save, 100k, 100'000)->Name("tree/save-100k");
+BENCHMARK_CAPTURE(SaveDeep, 1k, 1'000)->Name("tree/save-deep-1k");
+BENCHMARK_CAPTURE(SaveDeep, 10k, 10'000)->Name("tree/save-deep-10k");
 BENCHMARK_CAPTURE(CopyEveryLabel, 100k, 100'000)->Name("tree/save-100k/peer");
 // Their time varies with what the display server does meanwhile: a single expansion of all says little.
 BENCHMARK_CAPTURE(Load, 1k, 10'000)->Name("tree/load-1k")->UseManualTime()->MinTime(0.5);
