@@ -1,0 +1,175 @@
+// fittings-memory: what a hundred thousand of something take at the most while the library works with them, beside the
+// least that the same takes elsewhere.
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <malloc.h>
+
+#include <wx/app.h>
+#include <wx/fileconf.h>
+#include <wx/frame.h>
+#include <wx/wfstream.h>
+
+#include <fittings/numedit/number_edit_utils.h>
+#include <fittings/platform/local_reg_store.h>
+#include <fittings/platform/std_file_paths.h>
+#include <fittings/thread/gui_thread.h>
+#include <fittings/tree/handy_tree_ctrl.h>
+
+namespace {
+
+constexpr int kItems = 100'000;
+
+/// A line of /proc/self/status, in bytes.
+double Status(const std::string& name)
+{
+    std::ifstream status("/proc/self/status");
+    std::string word;
+    while (status >> word)
+        if (word == name + ":") {
+            double kilobytes = 0;
+            status >> kilobytes;
+            return kilobytes * 1024;
+        }
+    return 0;
+}
+
+/// The most memory that @a work takes at any time beyond what was taken before it, an item.
+double PeakOf(const std::function<void()>& work)
+{
+    malloc_trim(0);
+    const double before = Status("VmRSS");
+    std::ofstream("/proc/self/clear_refs") << "5\n";  // the peak begins anew
+    work();
+    return (Status("VmHWM") - before) / kItems;
+}
+
+void Print(const char* row, double ours, const char* peer, double theirs)
+{
+    std::printf("%-34s %8.0f %8.0f  (%s)\n", row, ours, theirs, peer);
+}
+
+void MeasureStore(const std::string& folder)
+{
+    const std::string path = folder + "/keys.ini";
+    {
+        std::ofstream file(path);
+        for (int i = 0; i < kItems; ++i) {
+            if (i % 5000 == 0)
+                file << "[Section" << i / 5000 << "]\n";
+            file << "WindowGeometry" << i << "=" << i << ";" << i * 7 << ";640;480\n";
+        }
+    }
+    const std::wstring widePath(path.begin(), path.end());
+    CIniFile* ini = nullptr;
+    const double ours = PeakOf([&] {
+        ini = CLocalRegStore::CreateInitFile(false);
+        CLocalRegStore::Load(*ini, widePath.c_str());
+        CLocalRegStore::WriteString(*ini, L"Section7", L"WindowGeometry35000", L"1;2;3;4");
+        CLocalRegStore::Save(*ini, widePath.c_str());
+    });
+    CLocalRegStore::DestroyIniFile(ini);
+    std::unique_ptr<wxFileConfig> config;
+    const double theirs = PeakOf([&] {
+        config = std::make_unique<wxFileConfig>("", "", path, "", wxCONFIG_USE_LOCAL_FILE);
+        config->Write("/Section7/WindowGeometry35000", "1;2;3;4");
+        config->Flush();
+    });
+    Print("keys loaded, one set, saved", ours, "wxFileConfig", theirs);
+}
+
+void MeasureTree()
+{
+    auto* const frame = new wxFrame(nullptr, wxID_ANY, "memory");
+    auto* const tree = new wxHandyTreeCtrl;
+    tree->Create(frame);
+    wxTreeCursor root;
+    const double items = PeakOf([&] {
+        root = tree->AddRoot("root");
+        for (int i = 0; i < kItems; ++i) {
+            const wxTreeItemId item = tree->AppendItem(root.item, wxString::Format("folder %06d", i));
+            tree->SetItemHasChildren(item);
+            if (i % 2 == 0)
+                tree->Expand(item);
+        }
+        tree->Expand(root.item);
+    });
+    const double saving = PeakOf([&] { tree->SaveState("memory", root); });
+    Print("siblings saved, half expanded", saving, "the items themselves", items);
+    frame->Destroy();
+}
+
+class Poster : public wxGUIThread
+{
+public:
+    explicit Poster(wxEvtHandler* receiver) : wxGUIThread(receiver) { RunThread(); }
+
+    wxThread::ExitCode Entry() override
+    {
+        for (int i = 0; i < kItems; ++i)
+            PostEvent(wxEVT_BUTTON, i);
+        return nullptr;
+    }
+};
+
+void MeasureEvents()
+{
+    wxEvtHandler receiver;
+    const double ours = PeakOf([&] { Poster(&receiver).Wait(); });
+    receiver.DeletePendingEvents();
+    const double theirs = PeakOf([&] {
+        wxCommandEvent event(wxEVT_BUTTON);
+        for (int i = 0; i < kItems; ++i)
+            receiver.AddPendingEvent(event);
+    });
+    receiver.DeletePendingEvents();
+    Print("events posted and not delivered", ours, "wxEvtHandler::AddPendingEvent", theirs);
+}
+
+void MeasureDigits()
+{
+    CNumberFormat format(eFixedFormat);
+    format.m_bGroupDigits = true;
+    const std::wstring digits(kItems, L'7');
+    std::wstring text = digits;
+    const double ours = PeakOf([&] { text = CNumberEditUtils::FormatControlText(digits.c_str(), format); });
+    std::unique_ptr<std::vector<wchar_t>> copy;
+    const double theirs = PeakOf([&] { copy = std::make_unique<std::vector<wchar_t>>(text.begin(), text.end()); });
+    Print("digits formatted with groups", ours, "the text itself", theirs);
+}
+
+class MemoryApp : public wxApp
+{
+public:
+    bool OnInit() override
+    {
+        SetAppName("fittings-memory");
+        return true;
+    }
+
+    int OnRun() override
+    {
+        std::string folder = (std::filesystem::temp_directory_path() / "fittings-memory-XXXXXX").string();
+        if (!mkdtemp(folder.data()))
+            return 1;
+        std_file_paths::SetUserDataDir(std::wstring(folder.begin(), folder.end()).c_str());
+        std::printf("%-34s %8s %8s\n", "bytes for each of 100,000", "ours", "peer");
+        MeasureStore(folder);
+        MeasureTree();
+        MeasureEvents();
+        MeasureDigits();
+        std::filesystem::remove_all(folder);
+        return 0;
+    }
+};
+
+}  // namespace
+
+wxIMPLEMENT_APP(MemoryApp);
