@@ -16,6 +16,7 @@
 
 #include "browser_page.h"
 #include "browser_settings.h"
+#include "colours_page.h"
 #include "contents_list.h"
 #include "folder_tree.h"
 #include "native_text.h"
@@ -46,6 +47,8 @@ GalleryFrame::GalleryFrame() : wxFrame(nullptr, wxID_ANY, "Fittings Gallery")
     m_pages->AddPage(m_browser, "Disk usage");
     m_numbers = new NumbersPage(m_pages);
     m_pages->AddPage(m_numbers, "Numbers");
+    m_colours = new ColoursPage(m_pages);
+    m_pages->AddPage(m_colours, "Colours");
     MakeMenus();
     ShareMenuKeys(m_browser->GetTree());
     BindEvents();
@@ -222,6 +225,7 @@ void GalleryFrame::OnClose(wxCloseEvent& event)
 {
     m_browser->SaveSettings();
     m_numbers->SaveSettings();
+    m_colours->SaveSettings();
     browser_settings::SavePage(m_pages->GetCurrentPage()->GetName());
     wx_window_state::SaveState(this, stateName);
     event.Skip();

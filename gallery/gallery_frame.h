@@ -12,6 +12,7 @@ class wxNotebook;
 namespace fittings {
 
 class BrowserPage;
+class ColoursPage;
 class NumbersPage;
 
 /// The gallery's window: the disk-usage browser, and a page for each component that is shown by itself.
@@ -28,6 +29,7 @@ public:
     wxNotebook* GetPages() const { return m_pages; }
     BrowserPage* GetBrowser() const { return m_browser; }
     NumbersPage* GetNumbers() const { return m_numbers; }
+    ColoursPage* GetColours() const { return m_colours; }
 
 private:
     void MakeMenus();
@@ -46,6 +48,7 @@ private:
     wxNotebook* m_pages = nullptr;
     BrowserPage* m_browser = nullptr;
     NumbersPage* m_numbers = nullptr;
+    ColoursPage* m_colours = nullptr;
     bool m_mapped = false;
 };
 

@@ -160,6 +160,7 @@ bool Tour::Run()
         {"choose a folder in the dialog", &Tour::ChooseFolder},
         {"cancel the dialog", &Tour::CancelFolder},
         {"format a number as it is typed", &Tour::TypeNumber},
+        {"choose a colour", &Tour::ChooseColour},
         {"find the window again", &Tour::RememberWindow},
         {"find it maximised again", &Tour::RememberMaximised},
     };
@@ -398,7 +399,13 @@ bool Tour::SavePicture(const char* component)
 {
     // Nothing in the picture lies under the pointer.
     const wxRect frame = FrameRect(m_frame->GetHandle());
-    PointAt(frame.GetBottomRight() + wxSize(4, 4));
+    return SavePicture(component, frame.GetBottomRight() + wxSize(4, 4));
+}
+
+bool Tour::SavePicture(const char* component, const wxPoint& pointer)
+{
+    const wxRect frame = FrameRect(m_frame->GetHandle());
+    PointAt(pointer);
     return IsTrue(SaveScreenshot(frame, m_pictures + "/" + component + ".png"), "the picture is taken");
 }
 

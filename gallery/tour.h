@@ -7,6 +7,7 @@
 #include "demo_folder.h"
 
 struct _GtkWidget;
+class wxPoint;
 class wxWindow;
 
 namespace fittings {
@@ -36,6 +37,7 @@ private:
     bool CancelFolder();
     bool ColourFolder();
     bool TypeNumber();
+    bool ChooseColour();
     bool RememberWindow();
     bool RememberMaximised();
 
@@ -46,6 +48,9 @@ private:
     bool OpenFolderColours();
     bool FolderGets(int cell);
     bool SavePicture(const char* component);
+
+    /// Leaves the pointer where it is wanted in the picture.
+    bool SavePicture(const char* component, const wxPoint& pointer);
     bool Reopen();
 
     std::string m_pictures;

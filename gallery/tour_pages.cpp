@@ -1,5 +1,6 @@
 // The tour's steps on the pages beside the browser.
 
+#include <wx/dataview.h>
 #include <wx/notebook.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
@@ -8,6 +9,7 @@
 
 #include "browser_page.h"
 #include "browser_settings.h"
+#include "colours_page.h"
 #include "folder_colour_combo.h"
 #include "folder_tree.h"
 #include "gallery_frame.h"
@@ -23,6 +25,7 @@ using namespace simulated_user;
 namespace {
 
 // Of the palette.
+constexpr int kOrange = 9;
 constexpr int kGreen = 11;
 constexpr int kViolet = 22;
 
@@ -113,6 +116,38 @@ bool Tour::TypeNumber()
     Press('C', wxMOD_ALT);
     return Waits([&] { return m_frame->GetNumbers()->GetKept() == "-12345.89"; }, "an accepted number is kept") &&
            SavePicture("numbers") && ShowPage('1', m_frame->GetBrowser());
+}
+
+bool Tour::ChooseColour()
+{
+    ColoursPage& page = *m_frame->GetColours();
+    const wxColourPopup& colours = *page.GetColourPopup();
+    const wxDataViewListCtrl& events = *page.GetEvents();
+    const auto lastEvent = [&events] { return events.GetTextValue(events.GetItemCount() - 1, 0); };
+    if (!ShowPage('3', &page))
+        return false;
+    Press(WXK_F4);
+    if (!Waits([&] { return colours.IsShownOnScreen(); }, "F4 opens the colours"))
+        return false;
+    wxRect cell;
+    colours.GetCellRect(kOrange, cell);
+    const wxPoint orange = colours.ClientToScreen(CentreOf(cell));
+    PointAt(orange);
+    if (!Waits([&] { return lastEvent() == "OnColourSelChange"; }, "the listener hears of a cell") ||
+        !SavePicture("colours", orange))
+        return false;
+    Click(orange);
+    if (!Waits([&] { return page.GetColour() == colours.GetColour(kOrange); }, "a click chooses") ||
+        !IsTrue(lastEvent() == "OnColourSelEnd", "the listener hears of it"))
+        return false;
+
+    Press('A', wxMOD_ALT);
+    if (!Waits([&] { return page.GetColourPopup()->GetRow(CELL_AUTOMATIC) == -1; }, "\"Automatic\" can be left out"))
+        return false;
+    Press('A', wxMOD_ALT);
+    return Waits([&] { return page.GetColourPopup()->GetRow(CELL_AUTOMATIC) == CELL_AUTOMATIC; },
+                 "\"Automatic\" can be brought back") &&
+           ShowPage('1', m_frame->GetBrowser());
 }
 
 }  // namespace fittings

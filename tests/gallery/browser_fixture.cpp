@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <sstream>
 
+#include <gtk/gtk.h>
 #include <wx/aui/floatpane.h>
 
 #include <gallery/folder_listing.h>
@@ -32,6 +33,19 @@ void BrowserTest::Close()
     frame->Close();
     frame = nullptr;
     ASSERT_TRUE(PumpUntil([] { return wxTopLevelWindows.empty(); }));
+}
+
+void BrowserTest::Resize(const wxSize& size)
+{
+    const auto sizeOnScreen = [this] {
+        return wxSize(gtk_widget_get_allocated_width(frame->GetHandle()),
+                      gtk_widget_get_allocated_height(frame->GetHandle()));
+    };
+    const wxSize decorations = frame->GetSize() - sizeOnScreen();
+    frame->SetSize(size);
+    // What the frame says of its size runs ahead of what is on the screen.
+    ASSERT_TRUE(PumpUntil([&] { return frame->GetSize() == size && sizeOnScreen() + decorations == size; }));
+    PumpPending();
 }
 
 std::vector<std::string> BrowserTest::Rows()

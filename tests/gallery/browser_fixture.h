@@ -27,6 +27,9 @@ protected:
     /// Closes the window as a person does, and waits until it is gone.
     void Close();
 
+    /// Gives the window another size and waits until all of it is on the screen so.
+    void Resize(const wxSize& size);
+
     fittings::FolderTree& Tree() { return *frame->GetBrowser()->GetTree(); }
     fittings::ContentsList& List() { return *frame->GetBrowser()->GetList(); }
 

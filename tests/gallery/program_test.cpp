@@ -205,8 +205,8 @@ void TakesItsPictures(const std::vector<std::string>& arguments, const std::stri
     Program program(arguments);
     EXPECT_EQ(program.Wait(130), 0) << program.Output() << program.Errors();
     EXPECT_EQ(program.Output().find("FAILED"), std::string::npos);
-    for (const char* name : {"browser", "colour-popup", "filter", "folder-colours", "folder-dialog", "numbers",
-                             "save-dialog", "tree", "window-state"})
+    for (const char* name : {"browser", "colour-popup", "colours", "filter", "folder-colours", "folder-dialog",
+                             "numbers", "save-dialog", "tree", "window-state"})
         EXPECT_GT(CountColours(pictures + "/" + name + ".png"), 100u) << name;
 }
 

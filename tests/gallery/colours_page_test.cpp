@@ -1,0 +1,434 @@
+#include <string>
+#include <vector>
+
+#include <gtk/gtk.h>
+#include <wx/checkbox.h>
+#include <wx/dataview.h>
+#include <wx/notebook.h>
+#include <wx/spinctrl.h>
+#include <wx/stattext.h>
+#include <wx/stopwatch.h>
+#include <wx/textctrl.h>
+
+#include <fittings/colour/colour_combo.h>
+#include <gallery/colour_field.h>
+#include <gallery/colour_option_fields.h>
+#include <gallery/colours_page.h>
+#include <tests/gallery/browser_fixture.h>
+
+namespace {
+
+using namespace fittings;
+using namespace fittings::simulated_user;
+using Strings = std::vector<std::string>;
+
+constexpr int kDarkRedCell = 8;
+constexpr int kIndigoCell = 6;
+constexpr int kYellowCell = 26;
+const wxColour darkRed(139, 0, 0);
+const wxColour indigo(75, 0, 130);
+
+class ColoursPageTest : public BrowserTest
+{
+protected:
+    void SetUp() override
+    {
+        Open(temp.Path());
+        ShowPage();
+    }
+
+    void ShowPage()
+    {
+        Press('3', wxMOD_ALT);
+        ASSERT_TRUE(PumpUntil([this] { return Combo().IsShownOnScreen() && HasFocus(Combo()); }));
+    }
+
+    void OpenNextSession()
+    {
+        Close();
+        Open("");
+        ASSERT_TRUE(PumpUntil([this] { return Combo().IsShownOnScreen(); }));
+    }
+
+    ColoursPage& Page() { return *frame->GetColours(); }
+    wxColourCombo& Combo() { return *Page().GetCombo(); }
+    wxColourPopup& Popup() { return *Page().GetColourPopup(); }
+
+    template <typename Control>
+    Control& Get(const wxString& name)
+    {
+        auto* control = dynamic_cast<Control*>(wxWindow::FindWindowByName(name, frame->GetColours()));
+        EXPECT_TRUE(control) << name;
+        return *control;
+    }
+
+    bool IsSet(const wxString& name) { return Get<wxCheckBox>(name).GetValue(); }
+
+    bool HasFocus(const wxWindow& window)
+    {
+        GtkWidget* focus = gtk_window_get_focus(GTK_WINDOW(frame->GetHandle()));
+        return focus && (focus == window.GetHandle() || gtk_widget_is_ancestor(focus, window.GetHandle()));
+    }
+
+    /// The name of the page's control that has the focus; empty when none has.
+    std::string FocusName()
+    {
+        for (const wxWindow* parent : std::initializer_list<wxWindow*>{Page().GetFields(), &Page()}) {
+            for (const wxWindow* child : parent->GetChildren()) {
+                if (HasFocus(*child))
+                    return std::string(child->GetName());
+            }
+        }
+        return {};
+    }
+
+    /// Shows an option's control with the focus in it.
+    void GoTo(char mnemonic, const wxString& name)
+    {
+        Press(mnemonic, wxMOD_ALT);
+        ASSERT_TRUE(PumpUntil([&] { return HasFocus(Get<wxWindow>(name)); })) << name;
+    }
+
+    /// Types into a field in place of what it holds.
+    void Type(const std::string& text)
+    {
+        Press('A', wxMOD_CONTROL);
+        for (const char key : text)
+            Press(key);
+    }
+
+    /// Leads to a field by its label and gives it another number.
+    void SetNumber(char mnemonic, const wxString& name, int number)
+    {
+        GoTo(mnemonic, name);
+        Type(std::to_string(number));
+        Press(WXK_TAB);
+        ASSERT_TRUE(
+            PumpUntil([&] { return Get<wxSpinCtrl>(name).GetValue() == number && !HasFocus(Get<wxSpinCtrl>(name)); }));
+    }
+
+    void OpenColours()
+    {
+        // Away from the cells, of which one would become hot at once.
+        PointAt(frame->GetScreenPosition());
+        GoTo('C', "Combo");
+        Press(WXK_F4);
+        ASSERT_TRUE(PumpUntil([this] { return Combo().IsPopupShown() && Popup().IsShownOnScreen(); }));
+    }
+
+    void PointAtCell(int cell)
+    {
+        wxRect rect;
+        ASSERT_TRUE(Popup().GetCellRect(cell, rect));
+        PointAt(Popup().ClientToScreen(CentreOf(rect)));
+    }
+
+    void ClickCell(int cell)
+    {
+        PointAtCell(cell);
+        Click(wxGetMousePosition());
+        ASSERT_TRUE(PumpUntil([this] { return !Combo().IsPopupShown(); }));
+    }
+
+    Strings Events()
+    {
+        Strings lines;
+        const wxDataViewListCtrl& events = *Page().GetEvents();
+        for (int row = 0; row < events.GetItemCount(); ++row) {
+            wxVariant colour;
+            events.GetStore()->GetValueByRow(colour, static_cast<unsigned>(row), 1);
+            wxDataViewIconText text;
+            text << colour;
+            const wxString name = events.GetTextValue(row, 0);
+            lines.emplace_back(text.GetText().empty() ? name : name + " " + text.GetText());
+        }
+        return lines;
+    }
+
+    wxString Preview() { return Get<wxStaticText>("PreviewText").GetLabelText(); }
+};
+
+TEST_F(ColoursPageTest, StartsWithTheLibrarysOwnOptions)
+{
+    EXPECT_EQ(Page().GetColour(), wxColour(0, 0, 255));
+    EXPECT_EQ(Popup().GetInitialColour(), wxColour(0, 0, 255));
+    EXPECT_EQ(Popup().GetDefaultColour(), wxColour(0, 0, 0));
+    EXPECT_FALSE(Popup().GetRefreshCombo());
+    EXPECT_TRUE(Combo().HasFlag(wxCB_READONLY));
+    EXPECT_EQ(Preview(), "Blue\n#0000FF");
+    EXPECT_EQ(Events(), Strings{});
+    OpenColours();
+    EXPECT_EQ(Popup().GetSize(), wxSize(148, 162));
+}
+
+TEST_F(ColoursPageTest, ListsEachCallAndEventAsItComes)
+{
+    OpenColours();
+    Strings expected{"wxEVT_COMBOBOX_DROPDOWN", "OnColourPopup"};
+    EXPECT_EQ(Events(), expected);
+    PointAtCell(kDarkRedCell);
+    expected.emplace_back("OnColourSelChange Dark red #8B0000");
+    EXPECT_TRUE(PumpUntil([&] { return Events() == expected; }));
+    EXPECT_EQ(Preview(), "Dark red\n#8B0000");
+    PointAtCell(kIndigoCell);
+    expected.emplace_back("OnColourSelChange Indigo #4B0082");
+    EXPECT_TRUE(PumpUntil([&] { return Events() == expected; }));
+    Click(wxGetMousePosition());
+    expected.emplace_back("OnColourSelEnd Indigo #4B0082");
+    EXPECT_TRUE(PumpUntil([&] { return Events() == expected; })) << testing::PrintToString(Events());
+}
+
+TEST_F(ColoursPageTest, AppliesWhatIsChosen)
+{
+    OpenColours();
+    ClickCell(kDarkRedCell);
+    EXPECT_EQ(Page().GetColour(), darkRed);
+    EXPECT_EQ(Preview(), "Dark red\n#8B0000");
+    EXPECT_EQ(Get<wxWindow>("Preview").GetBackgroundColour(), darkRed);
+    EXPECT_EQ(Get<wxWindow>("PreviewText").GetForegroundColour(), wxColour(255, 255, 255));
+    OpenColours();
+    ClickCell(kYellowCell);
+    EXPECT_EQ(Get<wxWindow>("Preview").GetBackgroundColour(), wxColour(255, 255, 0));
+    EXPECT_EQ(Get<wxWindow>("PreviewText").GetForegroundColour(), wxColour(0, 0, 0));
+}
+
+TEST_F(ColoursPageTest, EscapeKeepsTheColourInEffect)
+{
+    OpenColours();
+    PointAtCell(kDarkRedCell);
+    ASSERT_TRUE(PumpUntil([&] { return Preview() == "Dark red\n#8B0000"; }));
+    Press(WXK_ESCAPE);
+    EXPECT_TRUE(PumpUntil([&] { return Events().back() == "OnColourSelCancel Blue #0000FF"; }));
+    EXPECT_EQ(Preview(), "Blue\n#0000FF");
+    EXPECT_EQ(Page().GetColour(), wxColour(0, 0, 255));
+}
+
+TEST_F(ColoursPageTest, AClickBesideThePopupCancels)
+{
+    OpenColours();
+    PointAtCell(kDarkRedCell);
+    ASSERT_TRUE(PumpUntil([&] { return Preview() == "Dark red\n#8B0000"; }));
+    Click(CentreOf(Get<wxWindow>("Preview").GetScreenRect()));
+    const Strings expected{"wxEVT_COMBOBOX_DROPDOWN", "OnColourPopup", "OnColourSelChange Dark red #8B0000",
+                           "OnColourSelCancel Blue #0000FF", "wxEVT_COMBOBOX_CLOSEUP"};
+    EXPECT_TRUE(PumpUntil([&] { return Events() == expected; })) << testing::PrintToString(Events());
+    EXPECT_EQ(Page().GetColour(), wxColour(0, 0, 255));
+}
+
+TEST_F(ColoursPageTest, ClearEmptiesTheList)
+{
+    OpenColours();
+    ClickCell(kDarkRedCell);
+    ASSERT_FALSE(Events().empty());
+    Press('E', wxMOD_ALT);
+    EXPECT_TRUE(PumpUntil([&] { return Events().empty(); }));
+}
+
+TEST_F(ColoursPageTest, TheListForgetsWhatIsOld)
+{
+    OpenColours();
+    PointAtCell(kDarkRedCell);
+    ASSERT_TRUE(PumpUntil([&] { return Events().size() == 3; }));
+    // A listener's calls come faster than a person could make them.
+    for (int i = 0; i < 249; ++i) {
+        Popup().ChangeSelection(0);
+        Popup().ChangeSelection(kIndigoCell);
+    }
+    EXPECT_EQ(Events().size(), 500u);
+    EXPECT_EQ(Events().front(), "OnColourPopup");
+    EXPECT_EQ(Events().back(), "OnColourSelChange Indigo #4B0082");
+}
+
+TEST_F(ColoursPageTest, TheBoxesAreLeftOutOrHaveOtherTexts)
+{
+    Press('A', wxMOD_ALT);
+    ASSERT_TRUE(PumpUntil([&] { return !IsSet("HasAutomatic"); }));
+    EXPECT_EQ(Popup().GetRow(CELL_AUTOMATIC), -1);
+    EXPECT_EQ(Popup().GetRow(CELL_MORE_COLOURS), CELL_MORE_COLOURS);
+    EXPECT_FALSE(Get<wxTextCtrl>("Automatic").IsEnabled());
+    Press('M', wxMOD_ALT);
+    ASSERT_TRUE(PumpUntil([&] { return !IsSet("HasMoreColours"); }));
+    EXPECT_EQ(Popup().GetRow(CELL_MORE_COLOURS), -1);
+    OpenColours();
+    EXPECT_EQ(Popup().GetSize(), wxSize(148, 94)) << "five rows of eight cells";
+    Press(WXK_ESCAPE);
+
+    Press('M', wxMOD_ALT);
+    ASSERT_TRUE(PumpUntil([&] { return IsSet("HasMoreColours"); }));
+    Press(WXK_TAB);
+    ASSERT_TRUE(PumpUntil([&] { return HasFocus(Get<wxTextCtrl>("MoreColours")); }));
+    Type("mix");
+    ASSERT_TRUE(PumpUntil([&] { return Get<wxTextCtrl>("MoreColours").GetValue() == "mix"; }));
+    OpenColours();
+    Press(WXK_UP);  // from no cell to the last one
+    EXPECT_EQ(Popup().GetStringValue(), "mix");
+}
+
+TEST_F(ColoursPageTest, TheDefaultColourIsWhatAutomaticGives)
+{
+    auto& field = Get<ColourField>("Default");
+    GoTo('D', "Default");
+    Press(WXK_F4);
+    ASSERT_TRUE(PumpUntil([&] { return field.GetColourPopup()->IsShownOnScreen(); }));
+    for (const int key : {WXK_DOWN, WXK_DOWN, WXK_DOWN, WXK_RETURN})  // "More Colours...", black, dark red
+        Press(key);
+    EXPECT_TRUE(PumpUntil([&] { return field.GetColour() == darkRed; }));
+    EXPECT_EQ(Popup().GetDefaultColour(), darkRed);
+    OpenColours();
+    ClickCell(CELL_AUTOMATIC);
+    EXPECT_EQ(Page().GetColour(), darkRed);
+    EXPECT_EQ(Events().back(), "OnColourSelEnd Dark red #8B0000");
+}
+
+TEST_F(ColoursPageTest, TheCellsCanBeOtherwise)
+{
+    Press('A', wxMOD_ALT);
+    Press('M', wxMOD_ALT);
+    SetNumber('U', "Columns", 10);
+    SetNumber('S', "CellSize", 20);
+    OpenColours();
+    EXPECT_EQ(Popup().GetSize(), wxSize(204, 84));
+    EXPECT_EQ(Popup().GetRow(39), 3);
+    Press(WXK_ESCAPE);
+    SetNumber('G', "Margin", 8);
+    OpenColours();
+    EXPECT_EQ(Popup().GetSize(), wxSize(246, 108)) << "a margin of 8 needs cells of 23";
+}
+
+TEST_F(ColoursPageTest, ThereIsAFieldToTypeInUnlessItIsReadOnly)
+{
+    Press('Y', wxMOD_ALT);
+    ASSERT_TRUE(PumpUntil([&] { return !Combo().HasFlag(wxCB_READONLY); }));
+    EXPECT_TRUE(Combo().GetTextCtrl());
+    OpenColours();
+    ClickCell(kIndigoCell);
+    EXPECT_EQ(Page().GetColour(), indigo);
+}
+
+TEST_F(ColoursPageTest, TheOtherOptionsReachThePopup)
+{
+    struct Inside : wxColourPopup
+    {
+        static wxWindow* CentreOf(const wxColourPopup& popup) { return popup.*(&Inside::m_pCenterOn); }
+    };
+    EXPECT_EQ(Inside::CentreOf(Popup()), frame);
+    Press('R', wxMOD_ALT);
+    EXPECT_TRUE(PumpUntil([&] { return Popup().GetRefreshCombo(); }));
+    Press('W', wxMOD_ALT);
+    EXPECT_TRUE(PumpUntil([&] { return !Inside::CentreOf(Popup()); }));
+}
+
+TEST_F(ColoursPageTest, TheAnimationTakesItsTimeOrIsOff)
+{
+    GoTo('N', "Animate");
+    Press('N', wxMOD_ALT);
+    ASSERT_TRUE(PumpUntil([&] { return IsSet("Animate"); }));
+    Press(WXK_TAB);
+    ASSERT_TRUE(PumpUntil([&] { return HasFocus(Get<wxWindow>("Duration")); }));
+    Type("1500");
+    Press(WXK_TAB);
+    ASSERT_TRUE(PumpUntil([&] { return Get<wxSpinCtrl>("Duration").GetValue() == 1500; }));
+    wxStopWatch slow;
+    OpenColours();
+    EXPECT_GE(slow.Time(), 1500);
+    Press(WXK_ESCAPE);
+    Press('N', wxMOD_ALT);
+    ASSERT_TRUE(PumpUntil([&] { return !IsSet("Animate"); }));
+    EXPECT_FALSE(Get<wxSpinCtrl>("Duration").IsEnabled());
+    wxStopWatch quick;
+    OpenColours();
+    EXPECT_LT(quick.Time(), 1500);
+}
+
+TEST_F(ColoursPageTest, TabGoesFromTheTopToTheBottom)
+{
+    Strings names;
+    for (int i = 0; i < 30 && (names.empty() || names.back() != "Combo"); ++i) {
+        const std::string before = FocusName();
+        Press(WXK_TAB);
+        ASSERT_TRUE(PumpUntil([&] { return FocusName() != before; })) << before;
+        if (!FocusName().empty())
+            names.push_back(FocusName());
+    }
+    EXPECT_EQ(names, (Strings{"Events", "Clear", "HasAutomatic", "Automatic", "HasMoreColours", "MoreColours",
+                              "Default", "Columns", "CellSize", "Margin", "ReadOnly", "RefreshCombo", "CenterOn",
+                              "Animate", "Duration", "Combo"}));
+}
+
+TEST_F(ColoursPageTest, EverythingComesBack)
+{
+    OpenColours();
+    ClickCell(kDarkRedCell);
+    for (const char mnemonic : {'A', 'Y', 'R', 'N', 'W'})
+        Press(mnemonic, wxMOD_ALT);
+    SetNumber('U', "Columns", 5);
+    SetNumber('S', "CellSize", 30);
+    SetNumber('G', "Margin", 3);
+    GoTo('M', "HasMoreColours");
+    Press('M', wxMOD_ALT);
+    Press(WXK_TAB);
+    ASSERT_TRUE(PumpUntil([&] { return HasFocus(Get<wxTextCtrl>("MoreColours")); }));
+    Press('x');
+    PumpPending();
+    OpenNextSession();
+    EXPECT_EQ(Page().GetColour(), darkRed);
+    EXPECT_EQ(Popup().GetInitialColour(), darkRed);
+    EXPECT_EQ(Preview(), "Dark red\n#8B0000");
+    EXPECT_EQ(Popup().GetRow(CELL_AUTOMATIC), -1);
+    EXPECT_FALSE(Combo().HasFlag(wxCB_READONLY));
+    EXPECT_TRUE(Popup().GetRefreshCombo());
+    EXPECT_FALSE(IsSet("Animate"));
+    EXPECT_FALSE(IsSet("CenterOn"));
+    EXPECT_EQ(Get<wxSpinCtrl>("Columns").GetValue(), 5);
+    EXPECT_EQ(Get<wxSpinCtrl>("CellSize").GetValue(), 30);
+    EXPECT_EQ(Get<wxSpinCtrl>("Margin").GetValue(), 3);
+    EXPECT_EQ(Get<wxTextCtrl>("MoreColours").GetValue(), "x");
+    EXPECT_EQ(Events(), Strings{});
+}
+
+TEST_F(ColoursPageTest, NonsenseInTheSettingsDoesNoHarm)
+{
+    Close();
+    WriteFile(
+        settings / "ui_config/colours.ini",
+        "[Combo]\nHasAutomatic=maybe\nReadOnly=\nColour=blue\nDefault=#12345\nColumns=0\nCellSize=1e9\nMargin=9\n");
+    Open("");
+    EXPECT_EQ(Page().GetColour(), wxColour(0, 0, 255));
+    EXPECT_EQ(Popup().GetDefaultColour(), wxColour(0, 0, 0));
+    EXPECT_TRUE(IsSet("HasAutomatic"));
+    EXPECT_TRUE(IsSet("ReadOnly"));
+    EXPECT_EQ(Get<wxSpinCtrl>("Columns").GetValue(), 8);
+    EXPECT_EQ(Get<wxSpinCtrl>("CellSize").GetValue(), 18);
+    EXPECT_EQ(Get<wxSpinCtrl>("Margin").GetValue(), 2);
+}
+
+TEST_F(ColoursPageTest, TheWindowClosesWithTheColoursOpen)
+{
+    OpenColours();
+    PointAtCell(kIndigoCell);
+    Close();
+    Open("");
+    EXPECT_EQ(Page().GetColour(), wxColour(0, 0, 255));
+}
+
+TEST_F(ColoursPageTest, NeedsNoScrollingInAWindowOf1024By600)
+{
+    Resize(wxSize(1024, 600));
+    for (const char* name : {"Combo", "Clear", "Events", "Margin", "Default", "Duration"})
+        EXPECT_TRUE(Page().GetScreenRect().Contains(Get<wxWindow>(name).GetScreenRect())) << name;
+}
+
+TEST_F(ColoursPageTest, FitsIntoASmallWindow)
+{
+    for (const wxSize size : {wxSize(800, 600), wxSize(632, 480)}) {
+        Resize(size);
+        for (const wxWindow* part : Page().GetChildren())
+            EXPECT_LE(part->GetRect().GetRight(), Page().GetClientSize().x) << part->GetName();
+        GoTo('C', "Combo");
+        GoTo('N', "Animate");
+        const auto& last = Get<wxWindow>("Animate");
+        EXPECT_TRUE(PumpUntil([&] { return Page().GetScreenRect().Contains(last.GetScreenRect()); }));
+    }
+}
+
+}  // namespace
