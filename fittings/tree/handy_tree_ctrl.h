@@ -54,6 +54,9 @@ public:
     void SetProfile(const wxString& profile);
 
     /// Selects the root and gives the control the focus; returns false when there is no root.
+    ///
+    /// Where several may be selected (wxTR_MULTIPLE) the others stay so. A host may veto the selection by
+    /// wxEVT_TREE_SEL_CHANGING; the result is true all the same.
     bool SelectRootItem();
 
     /// @name Expanded items
@@ -74,9 +77,16 @@ public:
     /// @}
 
     /// Shows the busy cursor around OnItemExpanding(). Bound to wxEVT_TREE_ITEM_EXPANDING by the constructor.
+    ///
+    /// The event ends here: neither the event table of a derived class nor a parent window hears of it. A host that wants
+    /// to, to veto it for example, calls Bind() on the control, is asked first, and skips the event if the item is to be
+    /// filled.
     void OnEvtItemExpanding(wxTreeEvent& event);
 
     /// Called each time an item is about to expand, for the children to be filled in. Does nothing here.
+    ///
+    /// It must not delete @a item, which expands afterwards. A handler of wxEVT_TREE_ITEM_EXPANDED may, and so may one
+    /// that vetoes.
     virtual void OnItemExpanding(const wxTreeCursor& item);
 
 private:

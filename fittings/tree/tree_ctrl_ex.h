@@ -9,7 +9,13 @@
 /// The toolkit's tree control, with a few entry points that speak in cursors.
 ///
 /// The base's operations of the same name stay: wxTreeCtrl::GetSelection() for a constant control or by its full name,
-/// AddRoot() with an image. GUI thread only.
+/// AddRoot() with an image.
+///
+/// The toolkit's class queries take it, and wxHandyTreeCtrl, for a wxTreeCtrl: wxDynamicCast() to either of them would
+/// succeed for every tree control. Use dynamic_cast, or query for a class of the host's own that is derived from it and
+/// declared by wxDECLARE_DYNAMIC_CLASS().
+///
+/// GUI thread only.
 class FITTINGS_API wxTreeCtrlEx : public wxTreeCtrl
 {
 public:
@@ -17,6 +23,8 @@ public:
     ~wxTreeCtrlEx() override;
 
     /// Returns the selected item; invalid, with this control as its tree, when nothing is selected.
+    ///
+    /// Where several may be selected (wxTR_MULTIPLE) asserts, as the toolkit's does: GetSelections() tells all.
     wxTreeCursor GetSelection();
     using wxTreeCtrl::GetSelection;
 
