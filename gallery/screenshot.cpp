@@ -34,6 +34,21 @@ bool AreEqual(const Pixels& a, const Pixels& b)
                        gdk_pixbuf_get_byte_length(a.get())) == 0;
 }
 
+// Where a window is to be and nothing of it is drawn yet.
+bool IsOfOneColour(const Pixels& pixels)
+{
+    const guint8* const bytes = gdk_pixbuf_read_pixels(pixels.get());
+    const auto pixel = static_cast<std::size_t>(gdk_pixbuf_get_n_channels(pixels.get()));
+    const auto row = static_cast<std::size_t>(gdk_pixbuf_get_rowstride(pixels.get()));
+    const std::size_t width = static_cast<std::size_t>(gdk_pixbuf_get_width(pixels.get())) * pixel;
+    for (int y = 0; y < gdk_pixbuf_get_height(pixels.get()); ++y) {
+        const guint8* const line = bytes + static_cast<std::size_t>(y) * row;
+        if (std::memcmp(line, bytes, pixel) != 0 || std::memcmp(line, line + pixel, width - pixel) != 0)
+            return false;
+    }
+    return true;
+}
+
 }  // namespace
 
 bool CanReadScreen()
@@ -54,7 +69,7 @@ bool SaveScreenshot(const wxRect& rect, const std::string& path)
     int same = 0;
     const bool stands = simulated_user::WaitUntil([&] {
         Pixels now = ReadScreen(rect);
-        same = AreEqual(seen, now) ? same + 1 : 0;
+        same = AreEqual(seen, now) && !IsOfOneColour(now) ? same + 1 : 0;
         seen = std::move(now);
         return same >= 20;
     });

@@ -15,8 +15,8 @@ bool CanReadScreen();
 /// A top-level window with its decorations, on the screen.
 wxRect FrameRect(_GtkWidget* window);
 
-/// Writes what the screen shows in @a rect as a PNG file, once it no longer changes. False when it never stands still,
-/// cannot be read or the file cannot be written.
+/// Writes what the screen shows in @a rect as a PNG file, once something is drawn and no longer changes. False when it never
+/// stands still, cannot be read or the file cannot be written.
 bool SaveScreenshot(const wxRect& rect, const std::string& path);
 
 }  // namespace fittings

@@ -250,6 +250,9 @@ bool Tour::SortByHeader()
     }
     if (files > 0) {
         const unsigned first = list.CountRows() - files;
+        list.EnsureVisible(list.ItemOf(first));
+        if (!Waits([&] { return list.GetScreenRect().Contains(NameRect(list, first)); }, "a file comes into view"))
+            return false;
         Click(CentreOf(NameRect(list, first)));
         if (!Waits([&] { return list.GetSelectedEntry() == &list.GetEntry(first); }, "a click selects a file"))
             return false;

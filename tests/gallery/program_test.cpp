@@ -230,6 +230,16 @@ TEST_F(TheTour, ShowsAnEmptyFolderToo)
     TakesItsPictures({"--tour", folder / "pictures", empty.Path()}, folder / "pictures");
 }
 
+TEST_F(TheTour, ShowsAFolderWhoseFilesAreOutOfSight)
+{
+    TempFolder folder;
+    TempFolder large;
+    for (int i = 0; i < 50; ++i)
+        fs::create_directories(large / ("a/folder " + std::to_string(i)));
+    WriteFile(large / "a/file", "x");
+    TakesItsPictures({"--tour", folder / "pictures", large.Path()}, folder / "pictures");
+}
+
 TEST_F(TheTour, FailsWhereItCannotWrite)
 {
     Program program({"--tour", "/proc/pictures"});
