@@ -84,6 +84,10 @@ TEST(SaveDialog, IsNotAffectedByTheExtensionAndFilterThatAreKept)
     EXPECT_EQ(asked.wildcard, "");
     EXPECT_EQ(asked.file, "");
     EXPECT_EQ(asked.filterIndex, -1);
+    const AskedFile nothing = AskedWith(nullptr, nullptr, nullptr, L"", nullptr);
+    EXPECT_EQ(nothing.folder, "");
+    EXPECT_EQ(nothing.file, "");
+    EXPECT_EQ(nothing.wildcard, "");
     CQVFileDialogI::SetFileExtension(L"");
     CQVFileDialogI::SetFileFilter(L"");
 }

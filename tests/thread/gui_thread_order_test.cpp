@@ -145,18 +145,27 @@ const Overload kOverloads[] = {
 
 INSTANTIATE_TEST_SUITE_P(, OneAtATime, testing::ValuesIn(kOverloads), [](const auto& info) { return info.param.name; });
 
-// The other way round: whoever waits for the flag has the post mutex already.
-TEST(Posting, TakesTheContinueMutexInsideThePostMutex)
+// Otherwise two threads could each wait for what the other has.
+TEST_P(OneAtATime, AndTheContinueMutexIsTakenInsideThePostMutex)
 {
     Open worker(nullptr);
     worker.ContinueMutex().Lock();
     bool answer = false;
-    Helper other([&] { answer = worker.PostEvent(7, 1); });
+    Helper other([&] { answer = GetParam().post(worker); });
     EXPECT_TRUE(other.IsBlocked());
     EXPECT_FALSE(IsFree(worker.PostMutex()));
     worker.ContinueMutex().Unlock();
     EXPECT_TRUE(other.Ends());
     EXPECT_TRUE(answer);
+}
+
+TEST(PostMutex, IsNotRecursive)
+{
+    Open worker(nullptr);
+    const wxMutexLocker outer(worker.PostMutex());
+    const wxMutexLocker inner(worker.PostMutex());
+    EXPECT_TRUE(outer.IsOk());
+    EXPECT_FALSE(inner.IsOk());
 }
 
 TEST(ContinueMutex, IsRecursive)
