@@ -161,6 +161,26 @@ TEST_F(FolderColours, CanBeReadOnADarkBackground)
     EXPECT_EQ(browser_settings::LoadFolderColour(root + "/docs"), wxColour(0, 0, 255));
 }
 
+TEST_F(FolderColours, TheFoldersOwnIsMarked)
+{
+    struct Inside : wxColourPopup
+    {
+        static int Marked(const wxColourPopup& popup) { return popup.*(&Inside::m_nChosenColourSel); }
+    };
+    Select("docs");
+    OpenColours();
+    EXPECT_EQ(Inside::Marked(*Combo().GetColourPopup()), CELL_AUTOMATIC);
+    ClickCell(indigoCell);
+    Select("music");
+    OpenColours();
+    EXPECT_EQ(Inside::Marked(*Combo().GetColourPopup()), CELL_AUTOMATIC);
+    Press(WXK_ESCAPE);
+    ASSERT_TRUE(PumpUntil([&] { return !Combo().IsPopupShown(); }));
+    Select("docs");
+    OpenColours();
+    EXPECT_EQ(Inside::Marked(*Combo().GetColourPopup()), indigoCell);
+}
+
 TEST_F(FolderColours, EachFolderStartsWithItsOwn)
 {
     Select("docs");
