@@ -64,10 +64,13 @@ public:
     {
         m_begun = true;
         wxWindow* const window = wxTheApp->GetTopWindow();
-        if (!m_dialogs.empty())
+        if (m_dialogs.empty()) {
+            if (window)
+                window->Close();
+        } else if (m_dialogs.back()->IsModal()) {
+            // Otherwise it has been cancelled and waits for a question of GTK's own, whether to replace a file.
             m_dialogs.back()->EndModal(wxID_CANCEL);
-        else if (window)
-            window->Close();
+        }
     }
 
 protected:
