@@ -222,6 +222,7 @@ bool wxColourPopup::Create(wxWindow* parent)
     const wxRect rect(parent->GetPosition(), wxSize(kFirstSize, kFirstSize));
     if (!wxWindow::Create(parent, wxID_ANY, rect.GetPosition(), rect.GetSize(), wxWANTS_CHARS, "ColourPopup"))
         return false;
+    Bind(wxEVT_CHAR_HOOK, &wxColourPopup::OnCharHook, this);
     SetWindowSize(rect);
     FindCellFromColour(m_crInitialColour);
     return true;

@@ -53,6 +53,8 @@ public:
 /// The texts are in the language that is set when the popup is made, the colours' names in the one that is set when the
 /// first popup of the process is made.
 ///
+/// While it is open, the keys that it knows are its own: no dialog around it is closed by its Escape.
+///
 /// The combo owns the popup from SetPopupControl() on. GUI thread only.
 class FITTINGS_API wxColourPopup : public wxWindow, public wxComboPopup
 {
@@ -223,6 +225,7 @@ private:
     void DrawEdge(wxDC& dc, const wxRect& rect, int index);
     int CellTowards(int key) const;
     void RedrawHotCells(int old);
+    void OnCharHook(wxKeyEvent& event);
     bool HideCombo();
     void RestoreValue();
 

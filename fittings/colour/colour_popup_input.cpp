@@ -17,6 +17,23 @@ using Alive = wxWeakRef<wxColourPopup>;
 // The frame is drawn in the second and third of the window's outermost pixels.
 constexpr int kFrameWidth = 3;
 
+bool IsOwnKey(int key)
+{
+    switch (key) {
+    case WXK_DOWN:
+    case WXK_UP:
+    case WXK_RIGHT:
+    case WXK_LEFT:
+    case WXK_RETURN:
+    case WXK_NUMPAD_ENTER:
+    case WXK_SPACE:
+    case WXK_ESCAPE:
+        return true;
+    default:
+        return false;
+    }
+}
+
 int FirstPresent(std::initializer_list<int> cells)
 {
     for (const int cell : cells) {
@@ -237,6 +254,14 @@ void wxColourPopup::OnMouseMove(wxMouseEvent& event)
 void wxColourPopup::OnLButtonUp(wxMouseEvent& event)
 {
     EndSelection(wxRect(GetClientAreaOrigin(), GetClientSize()).Contains(event.GetPosition()));
+}
+
+// A dialog would take Escape for its own Cancel, and a host might take any key, before the popup sees it.
+void wxColourPopup::OnCharHook(wxKeyEvent& event)
+{
+    if (IsOwnKey(event.GetKeyCode()))
+        event.StopPropagation();
+    event.Skip();
 }
 
 void wxColourPopup::OnKeyDown(wxKeyEvent& event)
