@@ -193,6 +193,9 @@ void wxColourPopup::FindCellFromColour(const wxColour& colour)
 
 wxString wxColourPopup::GetStringValue() const
 {
+    // A text field would tell of the name of a colour that was not chosen, and at once of its old text again.
+    if (m_handsValueBack && m_valueWhenShown)
+        return *m_valueWhenShown;
     if (m_nCurrentSel == CELL_AUTOMATIC)
         return m_strAutomatic;
     if (m_nCurrentSel == CELL_MORE_COLOURS)

@@ -122,7 +122,7 @@ public:
     /// @a colour is: who chose it finds it marked again.
     void FindCellFromColour(const wxColour& colour);
 
-    /// The text of the hot cell; empty when none is hot.
+    /// The text of the hot cell; empty when none is hot. While a cancelled selection closes the popup, the combo's value.
     wxString GetStringValue() const override;
 
     /// Makes the colour of that name hot, in the language and the letter case that the table has it in. Any other text,
@@ -230,6 +230,7 @@ private:
     void RestoreValue();
 
     bool m_ending = false;                     ///< While the listener hears of an end.
+    bool m_handsValueBack = false;             ///< While a cancelled selection closes the popup.
     std::optional<wxString> m_valueWhenShown;  ///< Of the combo; none once a colour has been chosen.
 
     wxDECLARE_EVENT_TABLE();

@@ -198,8 +198,10 @@ void wxColourPopup::DoEndSel(bool ok)
     m_ending = false;
     if (!m_combo)
         return;
+    m_handsValueBack = !ok;
     if (m_combo->IsPopupShown() && !HideCombo())
         return;
+    m_handsValueBack = false;
     if (!ok)
         RestoreValue();
     if (alive)
