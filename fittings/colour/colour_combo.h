@@ -42,6 +42,15 @@ class OutlineWindow;
 /// while the animation runs ends the animation, and the popup is shown all the same. wxComboCtrl::EnablePopupAnimation()
 /// turns the animation off.
 ///
+/// wxEVT_COMBOBOX_DROPDOWN comes when it opens. wxEVT_COMBOBOX_CLOSEUP comes when it is dismissed from outside, and not when
+/// the popup closes itself because a colour was chosen or the selection cancelled: the popup's listener hears of every end.
+/// The control holds the names of colours, and sends wxEVT_TEXT, as the toolkit's does: with a text field only. A popup
+/// that is dismissed by the button or by Dismiss() with a cell hot makes the field tell of that cell's name and at once of
+/// its old text again.
+///
+/// The toolkit's class queries take this class for a wxComboCtrl, and wxColourPopup for a wxWindow: wxDynamicCast() to
+/// either of them would succeed for others too. Use dynamic_cast.
+///
 /// GUI thread only.
 class FITTINGS_API wxColourCombo : public wxComboCtrl
 {
