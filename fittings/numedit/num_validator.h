@@ -31,6 +31,9 @@
 /// key is reported as WXK_NUMPAD_DECIMAL. Where the layout gives the key another code (the German one, for example,
 /// WXK_NUMPAD_SEPARATOR), it types the layout's own character, which is judged like any other.
 ///
+/// A derived class overrides Clone(), or the control keeps a wxNumValidator. The toolkit's class queries take this class
+/// for a wxValidator: use dynamic_cast. The host may set another validator on the control while this one takes a key.
+///
 /// For single-line text controls. On any other window, Validate() and both transfers return false and typing is left
 /// alone. GUI thread only.
 class FITTINGS_API wxNumValidator : public wxValidator
