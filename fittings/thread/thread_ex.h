@@ -33,6 +33,8 @@ class wxThreadExImpl;
 /// Construct, Create(), Run(), Wait(), destroy: all of them on one thread, the owner's, once the toolkit is initialised.
 /// An object runs once.
 ///
+/// - Nothing here pauses the work or ends it early. Entry() may ask wxThread::This(), the toolkit's detached thread, for
+///   its id or TestDestroy(); whether anyone calls that thread's Pause() or Delete() is the host's to see to.
 /// - The destructor waits, but only after the derived class's members are gone, and a thread that begins as late as that
 ///   finds no Entry() to call and aborts the process. So Wait() is to be called before, by the owner or by the
 ///   destructor of the most derived class.
