@@ -185,8 +185,14 @@ private:
     void Visit()
     {
         const wxTreeItemId item = m_path.back().item;
-        if (m_labels.count(View(m_tree.GetItemText(item))))
+        if (m_labels.count(View(m_tree.GetItemText(item))) && !IsHiddenRoot(item))
             m_tree.Expand(item);
+    }
+
+    // The toolkit keeps a hidden root expanded, and asserts when it is to be expanded again.
+    bool IsHiddenRoot(const wxTreeItemId& item) const
+    {
+        return m_tree.HasFlag(wxTR_HIDE_ROOT) && item == m_tree.GetRootItem();
     }
 
     // Goes on to the first child of the last item of the path, if it has one.

@@ -429,6 +429,30 @@ TEST(HandyTreeWithHiddenRoot, SelectsItAllTheSame)
     EXPECT_TRUE(PumpUntil([&] { return screen.tree->GetSelection().GetText() == L"a"; }));
 }
 
+TEST(HandyTreeWithHiddenRoot, BringsItsExpandedItemsBack)
+{
+    for (const bool built : {false, true}) {
+        TreeOnScreen<LazyTree> screen;
+        LazyTree& tree = *screen.tree;
+        tree.ToggleWindowStyle(wxTR_HIDE_ROOT);
+        tree.folders = {{L"A", {L"A1", L"A2"}}, {L"A1", {L"A11"}}};
+        wxTreeCursor root = tree.AddRoot("root");
+        wxTreeCursor folder = root.AppendItem("A");
+        folder.SetChildren(true);
+        root.AppendItem("B");
+        if (built) {
+            tree.LoadState("hidden", root);
+            EXPECT_TRUE(folder.IsExpanded());
+            EXPECT_TRUE(folder.GetChild().IsExpanded());
+            EXPECT_EQ(tree.hooked, (Labels{L"A", L"A1"}));
+        } else {
+            folder.Expand();
+            folder.GetChild().Expand();
+            tree.SaveState("hidden", root);
+        }
+    }
+}
+
 TEST_F(HandyTreeInUse, TellsOfEachItemThatItsOperationsDelete)
 {
     tree.DeleteItem(a1);
