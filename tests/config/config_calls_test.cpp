@@ -4,6 +4,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -88,9 +89,10 @@ bool CLocalRegStore::DeleteProfile(const wchar_t* section, const wchar_t* key)
     return true;
 }
 
+// A separator that only this function knows.
 std::wstring file_util_ex::MakePath(const CStdStr<wchar_t>& dir, const CStdStr<wchar_t>& name)
 {
-    return dir + L"/" + name;
+    return dir + L">" + name;
 }
 
 bool file_util_ex::DoesDirExist(const CStdStr<wchar_t>& path)
@@ -112,6 +114,13 @@ std::wstring std_file_paths::GetUserDataDir()
 
 namespace {
 
+using Text = const wchar_t*;
+static_assert(std::is_same_v<decltype(ui_config_mgr::WriteConfigString), void(Text, Text, Text, Text)>);
+static_assert(std::is_same_v<decltype(ui_config_mgr::GetConfigString), std::wstring(Text, Text, Text)>);
+static_assert(std::is_same_v<decltype(ui_config_mgr::DeleteConfig), void(Text, Text, Text)>);
+static_assert(std::is_same_v<decltype(ui_config_mgr::GetConfigInt), int(Text, Text, Text)>);
+static_assert(std::is_same_v<decltype(ui_config_mgr::WriteConfigInt), void(Text, Text, Text, int)>);
+
 class ConfigCalls : public testing::Test
 {
 protected:
@@ -124,8 +133,8 @@ using Calls = std::vector<std::wstring>;
 TEST_F(ConfigCalls, OfWriteConfigString)
 {
     ui_config_mgr::WriteConfigString(L"f.ini", L"section", L"key", L"value");
-    EXPECT_EQ(g_platform.calls, (Calls{L"exists [/data/ui_config]", L"create false", L"load [/data/ui_config/f.ini]",
-                                       L"write [section] [key] [value]", L"save [/data/ui_config/f.ini]", L"destroy"}));
+    EXPECT_EQ(g_platform.calls, (Calls{L"exists [/data>ui_config]", L"create false", L"load [/data>ui_config>f.ini]",
+                                       L"write [section] [key] [value]", L"save [/data>ui_config>f.ini]", L"destroy"}));
 }
 
 TEST_F(ConfigCalls, OfWriteConfigStringToAFileThatIsMissing)
@@ -134,15 +143,15 @@ TEST_F(ConfigCalls, OfWriteConfigStringToAFileThatIsMissing)
     g_platform.loads = false;
     g_platform.saves = false;
     ui_config_mgr::WriteConfigString(L"f.ini", L"section", L"key", L"value");
-    EXPECT_EQ(g_platform.calls, (Calls{L"exists [/data/ui_config]", L"mkdir [/data/ui_config]", L"create false",
-                                       L"load [/data/ui_config/f.ini]", L"write [section] [key] [value]",
-                                       L"save [/data/ui_config/f.ini]", L"destroy"}));
+    EXPECT_EQ(g_platform.calls, (Calls{L"exists [/data>ui_config]", L"mkdir [/data>ui_config]", L"create false",
+                                       L"load [/data>ui_config>f.ini]", L"write [section] [key] [value]",
+                                       L"save [/data>ui_config>f.ini]", L"destroy"}));
 }
 
 TEST_F(ConfigCalls, OfGetConfigString)
 {
     EXPECT_EQ(ui_config_mgr::GetConfigString(L"f.ini", L"section", L"key"), L"stored");
-    EXPECT_EQ(g_platform.calls, (Calls{L"exists [/data/ui_config]", L"create false", L"load [/data/ui_config/f.ini]",
+    EXPECT_EQ(g_platform.calls, (Calls{L"exists [/data>ui_config]", L"create false", L"load [/data>ui_config>f.ini]",
                                        L"get [section] [key] []", L"destroy"}));
 }
 
@@ -152,16 +161,16 @@ TEST_F(ConfigCalls, OfGetConfigStringFromAFileThatIsMissing)
     g_platform.folderExists = false;
     g_platform.loads = false;
     EXPECT_EQ(ui_config_mgr::GetConfigString(L"f.ini", L"section", L"key"), L"");
-    EXPECT_EQ(g_platform.calls, (Calls{L"exists [/data/ui_config]", L"mkdir [/data/ui_config]", L"create false",
-                                       L"load [/data/ui_config/f.ini]", L"destroy"}));
+    EXPECT_EQ(g_platform.calls, (Calls{L"exists [/data>ui_config]", L"mkdir [/data>ui_config]", L"create false",
+                                       L"load [/data>ui_config>f.ini]", L"destroy"}));
 }
 
 TEST_F(ConfigCalls, OfDeleteConfig)
 {
     ui_config_mgr::DeleteConfig(L"f.ini", L"section", L"key");
     EXPECT_EQ(g_platform.calls,
-              (Calls{L"exists [/data/ui_config]", L"create false", L"load [/data/ui_config/f.ini]",
-                     L"delete from default store [section] [key]", L"save [/data/ui_config/f.ini]", L"destroy"}));
+              (Calls{L"exists [/data>ui_config]", L"create false", L"load [/data>ui_config>f.ini]",
+                     L"delete from default store [section] [key]", L"save [/data>ui_config>f.ini]", L"destroy"}));
 }
 
 TEST_F(ConfigCalls, OfDeleteConfigInAFileThatIsMissing)
@@ -169,9 +178,9 @@ TEST_F(ConfigCalls, OfDeleteConfigInAFileThatIsMissing)
     g_platform.folderExists = false;
     g_platform.loads = false;
     ui_config_mgr::DeleteConfig(L"f.ini", L"section", L"key");
-    EXPECT_EQ(g_platform.calls, (Calls{L"exists [/data/ui_config]", L"mkdir [/data/ui_config]", L"create false",
-                                       L"load [/data/ui_config/f.ini]", L"delete from default store [section] [key]",
-                                       L"save [/data/ui_config/f.ini]", L"destroy"}));
+    EXPECT_EQ(g_platform.calls, (Calls{L"exists [/data>ui_config]", L"mkdir [/data>ui_config]", L"create false",
+                                       L"load [/data>ui_config>f.ini]", L"delete from default store [section] [key]",
+                                       L"save [/data>ui_config>f.ini]", L"destroy"}));
 }
 
 TEST_F(ConfigCalls, OfGetConfigInt)
@@ -179,32 +188,32 @@ TEST_F(ConfigCalls, OfGetConfigInt)
     g_platform.folderExists = false;
     g_platform.stored = L"42";
     EXPECT_EQ(ui_config_mgr::GetConfigInt(L"f.ini", L"section", L"key"), 42);
-    EXPECT_EQ(g_platform.calls, (Calls{L"exists [/data/ui_config]", L"mkdir [/data/ui_config]", L"create false",
-                                       L"load [/data/ui_config/f.ini]", L"get [section] [key] []", L"destroy"}));
+    EXPECT_EQ(g_platform.calls, (Calls{L"exists [/data>ui_config]", L"mkdir [/data>ui_config]", L"create false",
+                                       L"load [/data>ui_config>f.ini]", L"get [section] [key] []", L"destroy"}));
 }
 
 TEST_F(ConfigCalls, OfWriteConfigInt)
 {
     g_platform.folderExists = false;
     ui_config_mgr::WriteConfigInt(L"f.ini", L"section", L"key", -5);
-    EXPECT_EQ(g_platform.calls, (Calls{L"exists [/data/ui_config]", L"mkdir [/data/ui_config]", L"create false",
-                                       L"load [/data/ui_config/f.ini]", L"write [section] [key] [-5]",
-                                       L"save [/data/ui_config/f.ini]", L"destroy"}));
+    EXPECT_EQ(g_platform.calls, (Calls{L"exists [/data>ui_config]", L"mkdir [/data>ui_config]", L"create false",
+                                       L"load [/data>ui_config>f.ini]", L"write [section] [key] [-5]",
+                                       L"save [/data>ui_config>f.ini]", L"destroy"}));
 }
 
 TEST_F(ConfigCalls, GetEmptyTextsForNullPointers)
 {
     ui_config_mgr::WriteConfigString(nullptr, nullptr, nullptr, nullptr);
-    EXPECT_EQ(g_platform.calls, (Calls{L"exists [/data/ui_config]", L"create false", L"load [/data/ui_config/]",
-                                       L"write [] [] []", L"save [/data/ui_config/]", L"destroy"}));
+    EXPECT_EQ(g_platform.calls, (Calls{L"exists [/data>ui_config]", L"create false", L"load [/data>ui_config>]",
+                                       L"write [] [] []", L"save [/data>ui_config>]", L"destroy"}));
     g_platform.calls.clear();
     ui_config_mgr::GetConfigString(nullptr, nullptr, nullptr);
-    EXPECT_EQ(g_platform.calls, (Calls{L"exists [/data/ui_config]", L"create false", L"load [/data/ui_config/]",
+    EXPECT_EQ(g_platform.calls, (Calls{L"exists [/data>ui_config]", L"create false", L"load [/data>ui_config>]",
                                        L"get [] [] []", L"destroy"}));
     g_platform.calls.clear();
     ui_config_mgr::DeleteConfig(nullptr, nullptr, nullptr);
-    EXPECT_EQ(g_platform.calls, (Calls{L"exists [/data/ui_config]", L"create false", L"load [/data/ui_config/]",
-                                       L"delete from default store [] []", L"save [/data/ui_config/]", L"destroy"}));
+    EXPECT_EQ(g_platform.calls, (Calls{L"exists [/data>ui_config]", L"create false", L"load [/data>ui_config>]",
+                                       L"delete from default store [] []", L"save [/data>ui_config>]", L"destroy"}));
 }
 
 TEST_F(ConfigCalls, LeaveNoFileObjectBehindABadNumber)

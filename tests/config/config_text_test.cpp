@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -97,6 +98,16 @@ TEST(WriteConfigString, ReplacesOneValueAndKeepsTheOthers)
     EXPECT_EQ(ui_config_mgr::GetConfigString(L"a.ini", L"one", L"k"), L"4");
     EXPECT_EQ(ui_config_mgr::GetConfigString(L"a.ini", L"one", L"other"), L"2");
     EXPECT_EQ(ui_config_mgr::GetConfigString(L"a.ini", L"two", L"k"), L"3");
+}
+
+// Unlike the default store, which keeps a lock beside its file.
+TEST(WriteConfigString, TakesNoLock)
+{
+    const TempUserData data;
+    ui_config_mgr::WriteConfigString(L"a.ini", L"s", L"k", L"v");
+    ui_config_mgr::WriteConfigInt(L"a.ini", L"s", L"n", 1);
+    EXPECT_EQ(NamesIn(data.Path()), std::vector<std::string>{"ui_config"});
+    EXPECT_EQ(NamesIn(data / "ui_config"), std::vector<std::string>{"a.ini"});
 }
 
 TEST(WriteConfigString, LeavesTheDefaultStoreAlone)
