@@ -1,12 +1,14 @@
 #include <fittings/config/wx_window_state.h>
 
 #include <string>
+#include <type_traits>
 
 #include <gtest/gtest.h>
 #include <wx/dialog.h>
 #include <wx/log.h>
 
 #include <fittings/platform/local_reg_store.h>
+#include <fittings/platform/std_file_paths.h>
 #include <tests/config/spy_window.h>
 #include <tests/support/gui.h>
 #include <tests/support/temp_folder.h>
@@ -22,6 +24,13 @@ void Plant(const std::wstring& text, const wchar_t* name = L"w")
 {
     CLocalRegStore::WriteString(L"wxWindowState", name, text.c_str());
 }
+
+// What the calls for any window and for a frame give.
+template <typename Window>
+constexpr bool kSavesNothingAndLoadsBool =
+    std::is_void_v<decltype(wx_window_state::SaveState(static_cast<Window*>(nullptr), L""))>&&
+        std::is_same_v<decltype(wx_window_state::LoadState(static_cast<Window*>(nullptr), L"")), bool>;
+static_assert(kSavesNothingAndLoadsBool<wxWindow> && kSavesNothingAndLoadsBool<wxFrame>);
 
 TEST(SaveState, StoresPositionAndSizeOfAWindow)
 {
@@ -50,6 +59,15 @@ TEST(SaveState, StoresAChildRelativeToItsParent)
     ASSERT_GE(panel.GetScreenPosition().x, 330);
     wx_window_state::SaveState(&panel, L"Panel");
     EXPECT_EQ(Stored(L"Panel"), L"30;40;200;100");
+}
+
+TEST(SaveState, StoresTheGeometryOfAFrameAndThenItsFlag)
+{
+    const TempUserData data;
+    SpyFrame frame(wxRect(100, 50, 800, 600));
+    wx_window_state::SaveState(&frame, L"Main");
+    EXPECT_EQ(ReadFile(data / "settings.ini"),
+              "[wxWindowState]\nMain=100;50;800;600\n\n[wxWindowMaximize]\nMain=false\n");
 }
 
 TEST(SaveState, KeepsNamesApart)
@@ -195,6 +213,20 @@ TEST(LoadState, LogsNothingAboutAChildOfAHiddenFrame)
     CountingLog log;
     EXPECT_TRUE(wx_window_state::LoadState(&panel, L"w"));
     EXPECT_EQ(panel.GetRect(), wxRect(30, 40, 200, 100));
+    EXPECT_EQ(log.count, 0);
+}
+
+// No one can make a folder there, root included.
+TEST(SettingsThatCannotBeStored, GoUnnoticed)
+{
+    const TempUserData data;
+    std_file_paths::SetUserDataDir(L"/proc/fittings");
+    SpyFrame frame;
+    CountingLog log;
+    wx_window_state::SaveState(&frame, L"Main");
+    EXPECT_EQ(Stored(L"Main"), L"none");
+    EXPECT_FALSE(wx_window_state::LoadState(&frame, L"Main"));
+    EXPECT_EQ(frame.TakeCalls(), SizeCalls{});
     EXPECT_EQ(log.count, 0);
 }
 
