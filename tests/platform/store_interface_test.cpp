@@ -1,6 +1,8 @@
 #include <fittings/platform/local_reg_store.h>
 
 #include <filesystem>
+#include <string>
+#include <type_traits>
 
 #include <gtest/gtest.h>
 
@@ -8,6 +10,23 @@
 #include <tests/support/temp_folder.h>
 
 namespace {
+
+using Wide = const wchar_t*;
+using Narrow = const char*;
+
+static_assert(std::is_same_v<decltype(CLocalRegStore::CreateInitFile), CIniFile*(bool)>);
+static_assert(std::is_same_v<decltype(CLocalRegStore::Load), bool(CIniFile&, Wide)>);
+static_assert(std::is_same_v<decltype(CLocalRegStore::Save), bool(const CIniFile&, Wide)>);
+static_assert(std::is_same_v<decltype(CLocalRegStore::DestroyIniFile), void(CIniFile*)>);
+static_assert(std::is_same_v<decltype(CLocalRegStore::GetProfileBool), bool(Wide, Wide, bool)>);
+static_assert(std::is_same_v<decltype(CLocalRegStore::WriteProfileBool), bool(Wide, Wide, bool)>);
+static_assert(std::is_same_v<decltype(CLocalRegStore::DeleteProfile), bool(Wide, Wide)>);
+
+// Of the operations of one name, those with these arguments.
+[[maybe_unused]] constexpr std::wstring (*kGetFromFile)(const CIniFile&, Wide, Wide, Wide) = CLocalRegStore::GetString;
+[[maybe_unused]] constexpr void (*kWriteToFile)(CIniFile&, Wide, Wide, Wide) = CLocalRegStore::WriteString;
+[[maybe_unused]] constexpr std::wstring (*kGet)(Wide, Wide, Wide) = CLocalRegStore::GetString;
+[[maybe_unused]] constexpr std::string (*kGetNarrow)(Narrow, Narrow, Narrow) = CLocalRegStore::GetString;
 
 TEST(NewIniFile, IsEmpty)
 {

@@ -27,6 +27,16 @@ static_assert(std::is_same_v<decltype(&wxTreeCursor::GetParent), Asks<wxTreeCurs
 static_assert(std::is_same_v<decltype(&wxTreeCursor::GetChild), Asks<wxTreeCursor>>);
 static_assert(std::is_same_v<decltype(&wxTreeCursor::GetNextSibling), Asks<wxTreeCursor>>);
 static_assert(std::is_same_v<decltype(&wxTreeCursor::GetTextColour), Asks<unsigned long>>);
+
+// And what changes the item.
+template <typename Result, typename... Arguments>
+using Does = Result (wxTreeCursor::*)(Arguments...);
+
+static_assert(std::is_same_v<decltype(&wxTreeCursor::SetData), Does<void, int>>);
+static_assert(std::is_same_v<decltype(&wxTreeCursor::SetChildren), Does<void, bool>>);
+static_assert(std::is_same_v<decltype(&wxTreeCursor::AppendItem), Does<wxTreeCursor, const wxString&>>);
+static_assert(std::is_same_v<decltype(&wxTreeCursor::Expand), Does<void>>);
+static_assert(std::is_same_v<decltype(&wxTreeCursor::SetTextColour), Does<void, unsigned long>>);
 static_assert(std::is_base_of_v<wxTreeItemData, wxGenericTreeItemData>);
 static_assert(offsetof(wxTreeCursor, tree) == 0 && sizeof(wxTreeCursor) == 2 * sizeof(void*));
 
