@@ -1,5 +1,7 @@
 #include <fittings/tree/handy_tree_ctrl.h>
 
+#include <cstddef>
+#include <cstring>
 #include <memory>
 #include <type_traits>
 #include <vector>
@@ -16,7 +18,42 @@
 namespace {
 
 static_assert(std::is_base_of_v<wxTreeCtrlEx, wxHandyTreeCtrl>);
-static_assert(std::is_same_v<decltype(&wxHandyTreeCtrl::Create), void (wxHandyTreeCtrl::*)(wxWindow*)>);
+static_assert(sizeof(wxHandyTreeCtrl) == sizeof(wxTreeCtrlEx) + sizeof(wxImageList*) + sizeof(wxString));
+
+template <typename Result, typename... Arguments>
+using Operation = Result (wxHandyTreeCtrl::*)(Arguments...);
+
+static_assert(std::is_same_v<decltype(&wxHandyTreeCtrl::Create), Operation<void, wxWindow*>>);
+static_assert(std::is_same_v<decltype(&wxHandyTreeCtrl::CreateImageList), Operation<void>>);
+static_assert(std::is_same_v<decltype(&wxHandyTreeCtrl::DetroyImageList), Operation<void>>);
+static_assert(std::is_same_v<decltype(&wxHandyTreeCtrl::SetProfile), Operation<void, const wxString&>>);
+static_assert(std::is_same_v<decltype(&wxHandyTreeCtrl::SelectRootItem), Operation<bool>>);
+static_assert(std::is_same_v<decltype(&wxHandyTreeCtrl::OnEvtItemExpanding), Operation<void, wxTreeEvent&>>);
+static_assert(std::is_same_v<decltype(&wxHandyTreeCtrl::OnItemExpanding), Operation<void, const wxTreeCursor&>>);
+
+// Where a virtual operation stands among those of its class, in bytes from some beginning: a pointer to it holds that.
+template <typename Pointer>
+std::ptrdiff_t PlaceOf(Pointer operation)
+{
+    std::ptrdiff_t place = 0;
+    std::memcpy(&place, &operation, sizeof(place));
+    return place;
+}
+
+// The class with one virtual operation more.
+template <typename Tree>
+struct Extended : Tree
+{
+    virtual void Next() {}
+};
+
+TEST(HandyTree, AddsTheHookAsItsOnlyVirtualOperation)
+{
+    const std::ptrdiff_t afterTheToolkits = PlaceOf(&Extended<wxTreeCtrl>::Next);
+    EXPECT_EQ(PlaceOf(&Extended<wxTreeCtrlEx>::Next), afterTheToolkits);
+    EXPECT_EQ(PlaceOf(&wxHandyTreeCtrl::OnItemExpanding), afterTheToolkits);
+    EXPECT_EQ(PlaceOf(&Extended<wxHandyTreeCtrl>::Next), afterTheToolkits + static_cast<std::ptrdiff_t>(sizeof(void*)));
+}
 
 TEST(HandyTree, IsCreatedInTwoSteps)
 {

@@ -170,6 +170,22 @@ TEST_F(LoadState, FromABranchLeavesTheRestAlone)
     EXPECT_FALSE(root.GetChild().GetNextSibling().IsExpanded());
 }
 
+TEST_F(LoadState, ExpandsInTheTreeOfTheCursor)
+{
+    TreeOnScreen<LazyTree> other;
+    other.tree->folders = tree.folders;
+    LoadFrom(AddLazyRoot(*other.tree, "R"), L"R|B|");
+    EXPECT_EQ(other.tree->expanded, (Labels{L"R", L"B"}));
+    EXPECT_TRUE(tree.expanded.empty());
+    EXPECT_FALSE(root.IsExpanded());
+}
+
+TEST_F(LoadState, LeavesWhatIsStoredAsItIs)
+{
+    Load(L"gone|R|unfinished");
+    EXPECT_EQ(CLocalRegStore::GetString(L"TreeControlState", L"state", L"(nothing)"), L"gone|R|unfinished");
+}
+
 TEST_F(LoadState, FindsUnicodeLabels)
 {
     tree.folders = {{L"R", {L"\U0001F333 \u00e9", L"\U0001F332"}}, {L"\U0001F333 \u00e9", {L"x"}}};

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <fittings/platform/local_reg_store.h>
+#include <fittings/platform/std_file_paths.h>
 #include <tests/support/temp_folder.h>
 #include <tests/tree/tree_on_screen.h>
 
@@ -212,6 +213,18 @@ TEST_F(SaveState, ChangesNothingInTheTree)
     EXPECT_FALSE(root.IsExpanded());
     EXPECT_FALSE(folder.IsExpanded());
     EXPECT_EQ(root.tree, &tree);
+}
+
+// No one can make a folder there, root included.
+TEST_F(SaveState, IsLostQuietlyWhereNothingCanBeStored)
+{
+    std_file_paths::SetUserDataDir(L"/proc/fittings");
+    root.AppendItem("A");
+    root.Expand();
+    EXPECT_EQ(Saved(root), L"(nothing)");
+    tree.Collapse(root.item);
+    tree.LoadState("state", root);
+    EXPECT_FALSE(root.IsExpanded());
 }
 
 TEST_F(SaveState, FromAnInvalidCursorAssertsAndStoresAnEmptyText)
