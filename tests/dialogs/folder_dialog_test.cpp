@@ -3,7 +3,9 @@
 
 #include <fittings/dialogs/folder_dialog.h>
 
+#include <functional>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -13,10 +15,15 @@
 #include <wx/translation.h>
 
 #include <fittings/platform/local_reg_store.h>
+#include <fittings/platform/std_file_paths.h>
 #include <tests/dialogs/centring.h>
 #include <tests/support/temp_folder.h>
 
 namespace {
+
+using Ask = wxString(wxWindow*, const wchar_t*, const wchar_t*);
+static_assert(std::is_same_v<decltype(wxFolderDlg::DoModal), Ask>);
+static_assert(std::is_same_v<decltype(wxFolderDlg::DoModalReg), Ask>);
 
 struct Made
 {
@@ -42,6 +49,8 @@ public:
         Register();
     }
 
+    std::function<void()> whileShown;
+
     // How often a dialog was to be shown, and how often it had been centred before.
     int Shown() const { return m_shown; }
     std::size_t CentredBefore() const { return m_centredBefore; }
@@ -61,6 +70,8 @@ protected:
             return wxID_CANCEL;
         }
         asked->*Folder::Path() = m_folder;
+        if (whileShown)
+            whileShown();
         return m_result;
     }
 
@@ -256,6 +267,43 @@ TEST_F(RememberedFolder, IsReadAnewEachTime)
     ChosenFor(L"Import", "/usr");
     CLocalRegStore::WriteString(L"Import", L"Path", L"/srv");
     EXPECT_EQ(RememberedFor(L"Import"), "/srv");
+}
+
+TEST_F(RememberedFolder, IsReadBeforeTheDialogAndStoredAfterIt)
+{
+    ChosenFor(L"Import", "/usr");
+    const auto storeAnother = [] {
+        EXPECT_EQ(Stored(L"Import"), L"/usr");
+        CLocalRegStore::WriteString(L"Import", L"Path", L"/another");
+    };
+    {
+        Answer ok(wxID_OK, "/srv");
+        ok.whileShown = storeAnother;
+        EXPECT_EQ(wxFolderDlg::DoModalReg(nullptr, L"Import", nullptr), "/srv");
+        EXPECT_EQ(TheOneMade().folder, "/usr");
+        EXPECT_EQ(Stored(L"Import"), L"/srv");
+    }
+    ChosenFor(L"Import", "/usr");
+    Answer cancel(wxID_CANCEL, "/srv");
+    cancel.whileShown = storeAnother;
+    EXPECT_EQ(wxFolderDlg::DoModalReg(nullptr, L"Import", nullptr), "");
+    EXPECT_EQ(Stored(L"Import"), L"/another");
+}
+
+// No one can make a folder there, root included.
+TEST_F(RememberedFolder, IsGivenAllTheSameWhereItCannotBeStored)
+{
+    std_file_paths::SetUserDataDir(L"/proc/fittings");
+    EXPECT_EQ(ChosenFor(L"Import", "/usr"), "/usr");
+    EXPECT_EQ(Stored(L"Import"), L"(none)");
+    EXPECT_EQ(RememberedFor(L"Import"), "");
+}
+
+TEST_F(RememberedFolder, IsKeptUnderItsKeyAlone)
+{
+    const TempUserData settings;
+    ChosenFor(L"Import", "/usr");
+    EXPECT_EQ(ReadFile(settings / "settings.ini"), "[Import]\nPath=/usr\n");
 }
 
 TEST_F(RememberedFolder, ComesWithTheSameDialog)
