@@ -43,7 +43,11 @@ wxBEGIN_EVENT_TABLE(wxColourCombo, wxComboCtrl)
     EVT_TIMER(wxID_ANY, wxColourCombo::OnTimerEvent)
 wxEND_EVENT_TABLE()
 
-wxColourCombo::wxColourCombo() = default;
+wxColourCombo::wxColourCombo()
+{
+    // Keys are the popup's as soon as the user has opened it, and a dialog must not be closed by them meanwhile.
+    Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) { event.Skip(!m_animTimer.IsRunning()); });
+}
 
 wxColourCombo::~wxColourCombo()
 {

@@ -39,8 +39,8 @@ class OutlineWindow;
 /// too; the toolkit's own combo control refuses the focus then.
 ///
 /// Where no program may place its windows or copy the screen, as on Wayland, the popup opens at once. Closing the popup
-/// while the animation runs ends the animation, and the popup is shown all the same. wxComboCtrl::EnablePopupAnimation()
-/// turns the animation off.
+/// while the animation runs ends the animation, and the popup is shown all the same. Keys have no effect until then.
+/// wxComboCtrl::EnablePopupAnimation() turns the animation off.
 ///
 /// wxEVT_COMBOBOX_DROPDOWN comes when it opens. wxEVT_COMBOBOX_CLOSEUP comes when it is dismissed from outside, and not when
 /// the popup closes itself because a colour was chosen or the selection cancelled: the popup's listener hears of every end.
