@@ -77,17 +77,18 @@ TEST_P(ColourComboInADialog, LeavesOnlyKeysThatItsPopupDoesNotKnowToTheDialog)
     std::vector<int> hooked;
     dialog->Bind(wxEVT_CHAR_HOOK, [&](wxKeyEvent& event) { hooked.push_back(event.GetKeyCode()); });
     combo->EnablePopupAnimation(false);
-    combo->Popup();
-    ASSERT_TRUE(PumpUntil([&] { return combo->IsPopupShown(); }));
-    PumpPending();
-    for (const int key : {int(WXK_UP), int(WXK_F1), int(WXK_DOWN), int(WXK_RIGHT), int(WXK_LEFT), int('x')})
-        user.Char(key);
-    EXPECT_TRUE(PumpUntil([&] { return hooked.size() >= 2; }));
-    EXPECT_EQ(popup->m_nCurrentSel, 0);
-    user.Char(WXK_SPACE);
-    EXPECT_TRUE(PumpUntil([&] { return !combo->IsPopupShown(); }));
-    EXPECT_EQ(hooked, (std::vector<int>{WXK_F1, 'X'}));
-    EXPECT_EQ(combo->GetValue(), "Black");
+    for (const int last : {int(WXK_ESCAPE), int(WXK_RETURN), int(WXK_NUMPAD_ENTER), int(WXK_SPACE)}) {
+        hooked.clear();
+        combo->Popup();
+        ASSERT_TRUE(PumpUntil([&] { return combo->IsPopupShown(); }));
+        PumpPending();
+        for (const int key : {int(WXK_UP), int(WXK_F1), int(WXK_DOWN), int(WXK_RIGHT), int(WXK_LEFT), int('x')})
+            user.Char(key);
+        EXPECT_TRUE(PumpUntil([&] { return hooked.size() >= 2; }));
+        user.Char(last);
+        EXPECT_TRUE(PumpUntil([&] { return !combo->IsPopupShown(); }));
+        EXPECT_EQ(hooked, (std::vector<int>{WXK_F1, 'X'}));
+    }
 }
 
 TEST_P(ColourComboInADialog, KeepsTheKeysFromTheDialogWhileThePopupOpens)
