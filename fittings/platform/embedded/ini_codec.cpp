@@ -26,10 +26,8 @@ bool IsBlank(char32_t code)
     return code < 0x80 && g_ascii_isspace(static_cast<char>(code));
 }
 
-std::string_view Trimmed(std::string_view text)
+std::string_view WithoutBlanksAtEnd(std::string_view text)
 {
-    while (!text.empty() && g_ascii_isspace(text.front()))
-        text.remove_prefix(1);
     while (!text.empty() && g_ascii_isspace(text.back()))
         text.remove_suffix(1);
     return text;
@@ -265,7 +263,7 @@ std::string EncodeValue(std::wstring_view text)
 
 std::wstring DecodeValue(std::string_view value)
 {
-    value = Trimmed(value);
+    value = WithoutBlanksAtEnd(value);  // those before it are GKeyFile's
     if (value.size() >= 2 && value.front() == '"' && value.back() == '"') {
         if (auto text = Unquoted(value.substr(1, value.size() - 2)))
             return *std::move(text);

@@ -22,7 +22,8 @@ bool IsPlainInName(char byte);
 /// Returns @a text as a value: as it is where that comes back exactly, else in quotes.
 std::string EncodeValue(std::wstring_view text);
 
-/// Returns the text of a value. One in quotes that are not well formed is taken literally, quotes included.
+/// Returns the text of a value, which does not begin with a blank. One in quotes that are not well formed is taken
+/// literally, quotes included.
 std::wstring DecodeValue(std::string_view value);
 
 std::wstring NarrowToWide(std::string_view text);
