@@ -18,7 +18,7 @@ enum class SortColumn;
 namespace simulated_user {
 
 /// Runs the event loop until @a done says so; false when it did not within @a milliseconds.
-bool WaitUntil(const std::function<bool()>& done, int milliseconds = 5000);
+bool WaitUntil(const std::function<bool()>& done, int milliseconds = 10000);
 
 /// @name Input, at points of the screen
 /// @{

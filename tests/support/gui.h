@@ -8,8 +8,9 @@
 class wxFrame;
 class wxTopLevelWindow;
 
-/// Runs the event loop until @a done says so; false when it did not within @a milliseconds.
-bool PumpUntil(const std::function<bool()>& done, int milliseconds = 3000);
+/// Runs the event loop until @a done says so; false when it did not within @a milliseconds, which are for a machine that
+/// is busy with other things.
+bool PumpUntil(const std::function<bool()>& done, int milliseconds = 10000);
 
 /// Handles every event that has arrived, idle processing included.
 void PumpPending();
