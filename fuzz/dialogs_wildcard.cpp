@@ -42,8 +42,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     StartToolkit();
     FuzzedDataProvider bytes(data, size);
-    const std::string ascii = bytes.ConsumeBytesAsString(bytes.ConsumeIntegralInRange<std::size_t>(0, 6));
-    const std::wstring extension = std::wstring(ascii.begin(), ascii.end()).c_str();
+    std::wstring extension;
+    for (const unsigned char byte : bytes.ConsumeBytesAsString(bytes.ConsumeIntegralInRange<std::size_t>(0, 6)))
+        if (byte != 0)
+            extension += static_cast<wchar_t>(byte);
     const std::wstring wildcard = ConsumeWideText(bytes);
 
     CQVFileDialogI::SetRegEntry("fuzz");
