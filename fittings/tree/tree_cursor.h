@@ -44,6 +44,9 @@ public:
     /// True when there is an item.
     bool IsOk() const { return item.IsOk(); }
 
+    /// The item, so that the toolkit's operations take a cursor: tree->EnsureVisible(tree->GetSelection()).
+    operator const wxTreeItemId&() const { return item; }
+
     std::wstring GetText() const;
 
     int GetImage(wxTreeItemIcon which) const;

@@ -339,4 +339,24 @@ TYPED_TEST(AsTreeCtrl, LetsTheHostFillItAnewWhenAnItemIsSelected)
     EXPECT_EQ(this->tree.GetCount(), 2u);
 }
 
+// --- What the toolkit's users write ----------------------------------------------------------------------------------
+
+TEST(TreeCtrlCode, OfTheToolkitsUsersTakesCursorsForItems)
+{
+    const TreeOnScreen<> screen;
+    wxHandyTreeCtrl* const tree = screen.tree;
+    const wxTreeItemId root = tree->AddRoot("root");
+    const wxTreeItemId child = tree->AppendItem(root, "child");
+    tree->SelectItem(child);
+    EXPECT_EQ(tree->GetItemText(tree->GetSelection()), "child");
+    wxTreeItemId selected;
+    selected = tree->GetSelection();
+    EXPECT_TRUE(selected == child);
+    tree->SetItemBold(tree->GetSelection());
+    EXPECT_TRUE(tree->IsBold(child));
+    tree->Delete(tree->GetSelection());
+    EXPECT_EQ(tree->GetCount(), 1u);
+    EXPECT_EQ(tree->GetItemText(tree->GetRootItem()), "root");
+}
+
 }  // namespace
