@@ -1,5 +1,6 @@
 #include <fittings/tree/tree_cursor.h>
 
+#include <array>
 #include <cstddef>
 #include <type_traits>
 
@@ -72,18 +73,27 @@ TEST_F(Cursor, GivesTheLabel)
     EXPECT_EQ(root.AppendItem("").GetText(), L"");
 }
 
+// The images of an item: normal, selected, expanded, and both.
+std::array<int, 4> ImagesOf(const wxTreeCursor& item)
+{
+    return {item.GetImage(wxTreeItemIcon_Normal), item.GetImage(wxTreeItemIcon_Selected),
+            item.GetImage(wxTreeItemIcon_Expanded), item.GetImage(wxTreeItemIcon_SelectedExpanded)};
+}
+
 TEST_F(Cursor, SetsAndGivesEachKindOfImage)
 {
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 4; ++i)
         tree.GetImageList()->Add(wxBitmap(16, 16));
-    EXPECT_EQ(root.GetImage(wxTreeItemIcon_Normal), -1);
+    EXPECT_EQ(ImagesOf(root), (std::array{-1, -1, -1, -1}));
     root.SetImage(0, wxTreeItemIcon_Normal);
+    EXPECT_EQ(ImagesOf(root), (std::array{0, -1, -1, -1}));
     root.SetImage(2, wxTreeItemIcon_Expanded);
-    EXPECT_EQ(root.GetImage(wxTreeItemIcon_Normal), 0);
-    EXPECT_EQ(root.GetImage(wxTreeItemIcon_Expanded), 2);
-    EXPECT_EQ(root.GetImage(wxTreeItemIcon_Selected), -1);
+    EXPECT_EQ(ImagesOf(root), (std::array{0, -1, 2, -1}));
+    root.SetImage(3, wxTreeItemIcon_SelectedExpanded);
+    root.SetImage(1, wxTreeItemIcon_Selected);
+    EXPECT_EQ(ImagesOf(root), (std::array{0, 1, 2, 3}));
     root.SetImage(-1, wxTreeItemIcon_Normal);
-    EXPECT_EQ(root.GetImage(wxTreeItemIcon_Normal), -1);
+    EXPECT_EQ(ImagesOf(root), (std::array{-1, 1, 2, 3}));
 }
 
 wxBitmap Square(const wxColour& colour)
@@ -104,8 +114,7 @@ TEST_F(Cursor, AddsABitmapToTheImageListAndAnswersWhichKindItWas)
     EXPECT_EQ(root.SetImage(Square(*wxGREEN), *wxBLACK, wxTreeItemIcon_SelectedExpanded),
               wxTreeItemIcon_SelectedExpanded);
     EXPECT_EQ(tree.GetImageList()->GetImageCount(), 2);
-    EXPECT_EQ(root.GetImage(wxTreeItemIcon_Normal), 0);
-    EXPECT_EQ(root.GetImage(wxTreeItemIcon_SelectedExpanded), 1);
+    EXPECT_EQ(ImagesOf(root), (std::array{0, -1, -1, 1}));
 
     // The mask colour is cut out.
     const wxImage image = tree.GetImageList()->GetBitmap(0).ConvertToImage();
