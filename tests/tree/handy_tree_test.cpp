@@ -206,8 +206,11 @@ TEST(HandyTree, SelectsAndFocusesTheRoot)
     button->SetFocus();
     ASSERT_TRUE(PumpUntil([&] { return button->HasFocus(); }));
     screen.tree->SelectItem(child.item);
+    std::vector<bool> focused;
+    screen.tree->Bind(wxEVT_TREE_SEL_CHANGED, [&](wxTreeEvent&) { focused.push_back(screen.tree->HasFocus()); });
 
     EXPECT_TRUE(screen.tree->SelectRootItem());
+    EXPECT_EQ(focused, std::vector<bool>{false}) << "the focus comes after the selection";
     EXPECT_TRUE(screen.tree->GetSelection().item == root.item);
     EXPECT_FALSE(screen.tree->IsSelected(child.item));
     EXPECT_TRUE(PumpUntil([&] { return screen.tree->HasFocus(); }));
