@@ -45,7 +45,7 @@ public:
     bool IsOk() const { return item.IsOk(); }
 
     /// The item, so that the toolkit's operations take a cursor: tree->EnsureVisible(tree->GetSelection()).
-    operator const wxTreeItemId&() const { return item; }
+    operator wxTreeItemId() const { return item; }
 
     std::wstring GetText() const;
 
