@@ -50,6 +50,12 @@ void ForEveryFault(const std::function<void(const Fault&)>& attempt)
 
 const std::string kOthers = "# mine\n[other]\na=1\n\nb=2\n[s]\nc=3\n";
 
+bool Under(const Fault& fault, const std::function<bool()>& work)
+{
+    const FailingCalls failing(fault);
+    return work();
+}
+
 // Nothing but what was there, the store's lock, and what could not be removed, which goes with a later save.
 void ExpectNoStrangers(const TempFolder& folder, const std::string& file)
 {
@@ -68,11 +74,7 @@ TEST(AnyFailingCall, LeavesTheOldOrTheNewValueInTheDefaultStore)
     ForEveryFault([](const Fault& fault) {
         const TempUserData data;
         WriteFile(data / "settings.ini", kOthers + "k=old\n");
-        bool stored;
-        {
-            const FailingCalls failing(fault);
-            stored = CLocalRegStore::WriteString(L"s", L"k", L"new");
-        }
+        const bool stored = Under(fault, [&] { return CLocalRegStore::WriteString(L"s", L"k", L"new"); });
         EXPECT_EQ(ReadFile(data / "settings.ini"), kOthers + (stored ? "k=new\n" : "k=old\n"));
         EXPECT_EQ(Stored(L"s", L"k"), stored ? L"new" : L"old");
         ExpectNoStrangers(data, "settings.ini");
@@ -87,11 +89,7 @@ TEST(AnyFailingCall, LeavesTheDeletedKeyOrNot)
     ForEveryFault([](const Fault& fault) {
         const TempUserData data;
         WriteFile(data / "settings.ini", kOthers + "k=old\n");
-        bool stored;
-        {
-            const FailingCalls failing(fault);
-            stored = CLocalRegStore::DeleteProfile(L"s", L"k");
-        }
+        const bool stored = Under(fault, [&] { return CLocalRegStore::DeleteProfile(L"s", L"k"); });
         EXPECT_EQ(ReadFile(data / "settings.ini"), kOthers + (stored ? "" : "k=old\n"));
         EXPECT_TRUE(CLocalRegStore::DeleteProfile(L"s", L"k"));
         EXPECT_EQ(ReadFile(data / "settings.ini"), kOthers);
@@ -104,11 +102,7 @@ TEST(AnyFailingCall, LeavesTheFirstValueOrNone)
     ForEveryFault([](const Fault& fault) {
         const TempUserData data;
         const std::string file = data / "settings.ini";
-        bool stored;
-        {
-            const FailingCalls failing(fault);
-            stored = CLocalRegStore::WriteString(L"s", L"k", L"new");
-        }
+        const bool stored = Under(fault, [&] { return CLocalRegStore::WriteString(L"s", L"k", L"new"); });
         EXPECT_EQ(ReadFile(file), stored ? "[s]\nk=new\n" : "");
         EXPECT_EQ(Stored(L"s", L"k"), stored ? L"new" : L"(none)");
         ExpectNoStrangers(data, "settings.ini");
@@ -161,11 +155,7 @@ TEST(AnyFailingCall, LetsAFileBeSavedOrSaysThatItWasNot)
         WriteFile(file, kOthers + "k=old\n");
         Ini ini(file);
         ini.Set(L"s", L"k", L"new");
-        bool saved;
-        {
-            const FailingCalls failing(fault);
-            saved = ini.Save(file);
-        }
+        const bool saved = Under(fault, [&] { return ini.Save(file); });
         EXPECT_EQ(ReadFile(file), kOthers + (saved ? "k=new\n" : "k=old\n"));
         ExpectNoStrangers(folder, "a.ini");
         EXPECT_TRUE(ini.Save(file));
@@ -181,11 +171,7 @@ TEST(AnyFailingCall, KeepsAFileThatHoldsNoText)
     ForEveryFault([&](const Fault& fault) {
         const TempUserData data;
         WriteFile(data / "settings.ini", garbage);
-        bool stored;
-        {
-            const FailingCalls failing(fault);
-            stored = CLocalRegStore::WriteString(L"s", L"k", L"new");
-        }
+        const bool stored = Under(fault, [&] { return CLocalRegStore::WriteString(L"s", L"k", L"new"); });
         EXPECT_EQ(ReadFile(data / "settings.ini"), stored ? "[s]\nk=new\n" : garbage);
         if (stored) {
             EXPECT_EQ(ReadFile(data / "settings.ini.unreadable"), garbage);
