@@ -63,12 +63,13 @@ wxRect FrameRect(GtkWidget* window)
     return {rect.x, rect.y, rect.width, rect.height};
 }
 
-bool SaveScreenshot(const wxRect& rect, const std::string& path)
+bool SaveScreenshot(GtkWidget* window, const std::string& path)
 {
     Pixels seen;
     int same = 0;
     const bool stands = simulated_user::WaitUntil([&] {
-        Pixels now = ReadScreen(rect);
+        // Where it is now: a window that was just shown may not have its place and decorations yet.
+        Pixels now = ReadScreen(FrameRect(window));
         same = AreEqual(seen, now) && !IsOfOneColour(now) ? same + 1 : 0;
         seen = std::move(now);
         return same >= 20;

@@ -15,9 +15,9 @@ bool CanReadScreen();
 /// A top-level window with its decorations, on the screen.
 wxRect FrameRect(_GtkWidget* window);
 
-/// Writes what the screen shows in @a rect as a PNG file, once something is drawn and no longer changes. False when it never
-/// stands still, cannot be read or the file cannot be written.
-bool SaveScreenshot(const wxRect& rect, const std::string& path);
+/// Writes what the screen shows of a top-level window with its decorations as a PNG file, once something is drawn and no
+/// longer changes. False when it never stands still, cannot be read or the file cannot be written.
+bool SaveScreenshot(_GtkWidget* window, const std::string& path);
 
 }  // namespace fittings
 

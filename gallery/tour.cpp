@@ -309,7 +309,7 @@ bool Tour::SaveReport()
         gtk_file_chooser_set_current_folder(chooser, m_demo.SettingsPath().c_str());
         gtk_file_chooser_set_current_name(chooser, "report.csv");
         if (!Waits([&] { return FileIn(dialog) == file && !AcceptButton(dialog).IsEmpty(); }, "the name is taken") ||
-            !IsTrue(SaveScreenshot(FrameRect(dialog), m_pictures + "/save-dialog.png"), "the picture is taken"))
+            !IsTrue(SaveScreenshot(dialog, m_pictures + "/save-dialog.png"), "the picture is taken"))
             return false;
         Click(CentreOf(AcceptButton(dialog)));
         return Waits([] { return !FindFileDialog(); }, "a click saves");
@@ -330,7 +330,7 @@ bool Tour::ChooseFolder()
         gtk_file_chooser_set_current_folder(GTK_FILE_CHOOSER(dialog), before.root.c_str());
         if (!Waits([&] { return FileIn(dialog) == before.root && !AcceptButton(dialog).IsEmpty(); },
                    "the folder is shown") ||
-            !IsTrue(SaveScreenshot(FrameRect(dialog), m_pictures + "/folder-dialog.png"), "the picture is taken"))
+            !IsTrue(SaveScreenshot(dialog, m_pictures + "/folder-dialog.png"), "the picture is taken"))
             return false;
         Click(CentreOf(AcceptButton(dialog)));
         return Waits([] { return !FindFileDialog(); }, "a click chooses");
@@ -407,9 +407,8 @@ bool Tour::SavePicture(const char* component)
 
 bool Tour::SavePicture(const char* component, const wxPoint& pointer)
 {
-    const wxRect frame = FrameRect(m_frame->GetHandle());
     PointAt(pointer);
-    return IsTrue(SaveScreenshot(frame, m_pictures + "/" + component + ".png"), "the picture is taken");
+    return IsTrue(SaveScreenshot(m_frame->GetHandle(), m_pictures + "/" + component + ".png"), "the picture is taken");
 }
 
 /// Closes the window as a person does and opens the next session's.
