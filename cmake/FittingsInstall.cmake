@@ -16,6 +16,9 @@ if(FITTINGS_PLATFORM STREQUAL external)
   # A library built on a host's own platform is part of that host: it goes where the host's programs find it, and only
   # the host's build links to it.
   install(TARGETS fittings LIBRARY COMPONENT fittings_runtime NAMELINK_SKIP)
+  if(TARGET fittings-xrc)
+    install(TARGETS fittings-xrc LIBRARY COMPONENT fittings_runtime NAMELINK_SKIP)
+  endif()
   return()
 endif()
 
@@ -27,6 +30,12 @@ install(TARGETS fittings fittings-platform fittings-platform-headers EXPORT fitt
 # For CMake hosts. Until 1.0 a minor version may change the interface.
 set(config_folder ${CMAKE_INSTALL_LIBDIR}/cmake/fittings)
 install(EXPORT fittings-targets NAMESPACE fittings:: DESTINATION ${config_folder} COMPONENT fittings_development)
+if(TARGET fittings-xrc)
+  install(TARGETS fittings-xrc EXPORT fittings-xrc-targets
+    LIBRARY COMPONENT fittings_runtime NAMELINK_COMPONENT fittings_development
+    FILE_SET HEADERS COMPONENT fittings_development)
+  install(EXPORT fittings-xrc-targets NAMESPACE fittings:: DESTINATION ${config_folder} COMPONENT fittings_development)
+endif()
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/fittings-config-version.cmake
   COMPATIBILITY SameMinorVersion)
 install(FILES
@@ -51,3 +60,9 @@ file(RELATIVE_PATH pc_prefix ${CMAKE_INSTALL_PREFIX}/${pc_folder} ${CMAKE_INSTAL
 string(REGEX REPLACE "/$" "" pc_prefix ${pc_prefix})
 configure_file(cmake/fittings.pc.in ${PROJECT_BINARY_DIR}/fittings.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/fittings.pc DESTINATION ${pc_folder} COMPONENT fittings_development)
+if(TARGET fittings-xrc)
+  get_target_property(pc_wx_xrc_libs fittings::wx-xrc INTERFACE_LINK_LIBRARIES)
+  list(JOIN pc_wx_xrc_libs " " pc_wx_xrc_libs)
+  configure_file(cmake/fittings-xrc.pc.in ${PROJECT_BINARY_DIR}/fittings-xrc.pc @ONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/fittings-xrc.pc DESTINATION ${pc_folder} COMPONENT fittings_development)
+endif()

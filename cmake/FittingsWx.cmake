@@ -1,22 +1,25 @@
-# The toolkit as one imported target, fittings::wx: CMake's own finder gives variables only. No target when the toolkit
-# is not found. Used by the build and, installed, by fittings-config.cmake.
+# The toolkit as imported targets, fittings::wx and, with its resources, fittings::wx-xrc: CMake's own finder gives
+# variables only. What is not found gets no target. Used by the build and, installed, by fittings-config.cmake.
 
+# fittings_import_wx(target component...)
 # A function, so that the wxWidgets_... variables of a host that found other components stay as they are.
-function(fittings_import_wx)
-  find_package(wxWidgets 3.1 QUIET COMPONENTS aui core base)
+function(fittings_import_wx target)
+  if(TARGET ${target})
+    return()
+  endif()
+  find_package(wxWidgets 3.1 QUIET COMPONENTS ${ARGN})
   if(NOT wxWidgets_FOUND)
     return()
   endif()
   # Global: a host that adds this library by add_subdirectory() links to it from its own folders.
-  add_library(fittings::wx INTERFACE IMPORTED GLOBAL)
+  add_library(${target} INTERFACE IMPORTED GLOBAL)
   # The finder repeats -pthread among the flags; the directories and definitions say the rest.
-  target_include_directories(fittings::wx SYSTEM INTERFACE ${wxWidgets_INCLUDE_DIRS})
-  target_compile_definitions(fittings::wx INTERFACE ${wxWidgets_DEFINITIONS})
-  target_compile_options(fittings::wx INTERFACE -pthread)
-  target_link_directories(fittings::wx INTERFACE ${wxWidgets_LIBRARY_DIRS})
-  target_link_libraries(fittings::wx INTERFACE ${wxWidgets_LIBRARIES})
+  target_include_directories(${target} SYSTEM INTERFACE ${wxWidgets_INCLUDE_DIRS})
+  target_compile_definitions(${target} INTERFACE ${wxWidgets_DEFINITIONS})
+  target_compile_options(${target} INTERFACE -pthread)
+  target_link_directories(${target} INTERFACE ${wxWidgets_LIBRARY_DIRS})
+  target_link_libraries(${target} INTERFACE ${wxWidgets_LIBRARIES})
 endfunction()
 
-if(NOT TARGET fittings::wx)
-  fittings_import_wx()
-endif()
+fittings_import_wx(fittings::wx aui core base)
+fittings_import_wx(fittings::wx-xrc xrc core base)

@@ -1,4 +1,5 @@
 # Gives the targets fittings::fittings (link this one), fittings::platform, fittings::platform-headers and fittings::wx.
+# The component xrc, there where the toolkit has its own, is fittings::xrc: the handlers for XML resources.
 include(${CMAKE_CURRENT_LIST_DIR}/FittingsWx.cmake)
 if(NOT TARGET fittings::wx)
   set(fittings_FOUND FALSE)
@@ -6,3 +7,12 @@ if(NOT TARGET fittings::wx)
   return()
 endif()
 include(${CMAKE_CURRENT_LIST_DIR}/fittings-targets.cmake)
+if(TARGET fittings::wx-xrc)
+  include(${CMAKE_CURRENT_LIST_DIR}/fittings-xrc-targets.cmake OPTIONAL RESULT_VARIABLE fittings_xrc_FOUND)
+endif()
+foreach(component IN LISTS fittings_FIND_COMPONENTS)
+  if(fittings_FIND_REQUIRED_${component} AND NOT fittings_${component}_FOUND)
+    set(fittings_FOUND FALSE)
+    set(fittings_NOT_FOUND_MESSAGE "There is no component ${component}")
+  endif()
+endforeach()

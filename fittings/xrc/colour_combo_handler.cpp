@@ -1,0 +1,62 @@
+#include <fittings/xrc/colour_combo_handler.h>
+
+#include <wx/combo.h>
+
+#include <fittings/colour/colour_combo.h>
+#include <fittings/colour/colour_popup.h>
+
+wxColourComboXmlHandler::wxColourComboXmlHandler()
+{
+    XRC_ADD_STYLE(wxCB_READONLY);
+    XRC_ADD_STYLE(wxTE_PROCESS_ENTER);
+    XRC_ADD_STYLE(wxCC_SPECIAL_DCLICK);
+    XRC_ADD_STYLE(wxCC_STD_BUTTON);
+    AddWindowStyles();
+}
+
+wxColourComboXmlHandler::~wxColourComboXmlHandler() = default;
+
+// By the name that stands in the resource: the class has no entry among those that the toolkit makes by name.
+bool wxColourComboXmlHandler::CanHandle(wxXmlNode* node)
+{
+    return IsOfClass(node, "wxColourCombo");
+}
+
+wxObject* wxColourComboXmlHandler::DoCreateResource()
+{
+    auto* combo = dynamic_cast<wxColourCombo*>(m_instance);
+    if (m_instance && !combo)
+        ReportError("the object to load is no wxColourCombo");
+    if (!combo)
+        combo = new wxColourCombo;
+    combo->Create(m_parentAsWindow, GetID(), GetText("value"), GetPosition(), GetSize(), GetStyle(), wxDefaultValidator,
+                  GetName());
+    if (HasParam("buttonsize")) {
+        const wxSize size = GetSize("buttonsize", combo);
+        combo->SetButtonPosition(size.x, size.y);
+    }
+    combo->SetPopupControl(MakePopup());
+    SetupWindow(combo);
+    return combo;
+}
+
+wxColourPopup* wxColourComboXmlHandler::MakePopup()
+{
+    auto* const popup = new wxColourPopup;
+    const wxColour initial = GetColour("initial-colour", popup->GetInitialColour());
+    if (initial.IsOk())
+        popup->SetInitialColour(initial);
+    const wxColour automatic = GetColour("default-colour", popup->GetDefaultColour());
+    if (automatic.IsOk())
+        popup->SetDefaultColour(automatic);
+    if (HasParam("automatic-text"))
+        popup->SetAutomaticText(GetNodeText(GetParamNode("automatic-text"), wxXRC_TEXT_NO_ESCAPE));
+    if (HasParam("more-colours-text"))
+        popup->SetMoreColoursText(GetNodeText(GetParamNode("more-colours-text"), wxXRC_TEXT_NO_ESCAPE));
+    // The toolkit takes any text but "1" for no.
+    const wxString refresh = GetParamValue("refresh-combo");
+    if (!refresh.empty() && refresh != "0" && refresh != "1")
+        ReportParamError("refresh-combo", wxString::Format("\"%s\" is neither 0 nor 1", refresh));
+    popup->SetRefreshCombo(refresh == "1");
+    return popup;
+}

@@ -1,0 +1,63 @@
+#ifndef FITTINGS_XRC_COLOUR_COMBO_HANDLER_H_
+#define FITTINGS_XRC_COLOUR_COMBO_HANDLER_H_
+
+#include <wx/xrc/xmlreshandler.h>
+
+#include <fittings/base/export.h>
+
+class wxColourCombo;
+class wxColourPopup;
+
+/// Makes a wxColourCombo with its wxColourPopup from an XML resource, for an object of class "wxColourCombo".
+///
+/// @code
+/// <object class="wxColourCombo" name="line">
+///   <style>wxCB_READONLY</style>
+///   <initial-colour>#0000FF</initial-colour>
+///   <automatic-text>No line</automatic-text>
+///   <tooltip>The colour of new lines</tooltip>
+/// </object>
+/// @endcode
+///
+/// @code
+/// wxXmlResource::Get()->AddHandler(new wxColourComboXmlHandler);  // with InitAllHandlers(), before the first use
+/// ...
+/// auto* const line = XRCCTRL(*this, "line", wxColourCombo);
+/// dynamic_cast<wxColourPopup*>(line->GetPopupControl())->SetColorListener(this);
+/// @endcode
+///
+/// | Property | Type | Meaning, and what is taken without it |
+/// | --- | --- | --- |
+/// | `style` | style | those of wxComboCtrl and of every window; none, which gives a text field |
+/// | `value` | text | of the text field; empty |
+/// | `buttonsize` | size | of the drop-down button; what the toolkit takes |
+/// | `initial-colour` | colour | wxColourPopup::SetInitialColour(); black |
+/// | `default-colour` | colour | wxColourPopup::SetDefaultColour(); black |
+/// | `automatic-text` | text | wxColourPopup::SetAutomaticText(), an empty one takes the box away; "Automatic" |
+/// | `more-colours-text` | text | wxColourPopup::SetMoreColoursText(), likewise; "More Colours..." |
+/// | `refresh-combo` | boolean | wxColourPopup::SetRefreshCombo(); 0 |
+///
+/// And those of every window: `pos`, `size`, `tooltip`, `enabled`, `hidden`, `font` and the rest. The texts are translated
+/// as any text of a resource is. In those of the two boxes no character stands for another, as "_" does in a label.
+///
+/// A value that cannot be understood is reported, as wxXmlResource::ReportError() does, and taken for absent. So is a
+/// `subclass` that is no wxColourCombo: the control is a plain one then. Host classes that are named by `subclass` say
+/// wxDECLARE_DYNAMIC_CLASS().
+///
+/// GUI thread only.
+class FITTINGS_API wxColourComboXmlHandler : public wxXmlResourceHandler
+{
+public:
+    wxColourComboXmlHandler();
+    ~wxColourComboXmlHandler() override;
+
+    bool CanHandle(wxXmlNode* node) override;
+
+protected:
+    wxObject* DoCreateResource() override;
+
+private:
+    wxColourPopup* MakePopup();
+};
+
+#endif

@@ -1,0 +1,55 @@
+#ifndef FITTINGS_XRC_TREE_HANDLER_H_
+#define FITTINGS_XRC_TREE_HANDLER_H_
+
+#include <wx/xrc/xmlreshandler.h>
+
+#include <fittings/base/export.h>
+
+/// Makes a wxHandyTreeCtrl, or a host's class that is derived from it, from an XML resource, for an object of class
+/// "wxHandyTreeCtrl".
+///
+/// @code
+/// <object class="wxHandyTreeCtrl" name="folders" subclass="FolderTree">
+///   <size>200,300d</size>
+///   <profile>Folders</profile>
+///   <imagelist>
+///     <bitmap stock_id="wxART_FOLDER"/>
+///   </imagelist>
+/// </object>
+/// @endcode
+///
+/// @code
+/// wxXmlResource::Get()->AddHandler(new wxHandyTreeCtrlXmlHandler);  // with InitAllHandlers(), before the first use
+/// ...
+/// auto* const folders = XRCCTRL(*this, "folders", wxHandyTreeCtrl);
+/// wxTreeCursor root = folders->AddRoot("/");
+/// folders->LoadState(root);
+/// @endcode
+///
+/// | Property | Type | Meaning, and what is taken without it |
+/// | --- | --- | --- |
+/// | `style` | style | those of wxTreeCtrl and of every window; those of wxHandyTreeCtrl::Create() |
+/// | `imagelist` | image list | of the size that its bitmaps have; the empty one of wxHandyTreeCtrl::CreateImageList() |
+/// | `profile` | text, never translated | wxHandyTreeCtrl::SetProfile(); empty |
+///
+/// And those of every window: `pos`, `size`, `tooltip`, `enabled`, `hidden`, `font` and the rest. The items are the
+/// program's to add.
+///
+/// A value that cannot be understood is reported, as wxXmlResource::ReportError() does, and taken for absent. So is a
+/// `subclass` that is no wxHandyTreeCtrl: the control is a plain one then. Host classes that are named by `subclass` say
+/// wxDECLARE_DYNAMIC_CLASS().
+///
+/// GUI thread only.
+class FITTINGS_API wxHandyTreeCtrlXmlHandler : public wxXmlResourceHandler
+{
+public:
+    wxHandyTreeCtrlXmlHandler();
+    ~wxHandyTreeCtrlXmlHandler() override;
+
+    bool CanHandle(wxXmlNode* node) override;
+
+protected:
+    wxObject* DoCreateResource() override;
+};
+
+#endif

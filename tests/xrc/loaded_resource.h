@@ -1,0 +1,45 @@
+#ifndef FITTINGS_TESTS_XRC_LOADED_RESOURCE_H_
+#define FITTINGS_TESTS_XRC_LOADED_RESOURCE_H_
+
+#include <string>
+#include <vector>
+
+#include <wx/frame.h>
+#include <wx/panel.h>
+#include <wx/xrc/xmlres.h>
+
+/// controls.xrc with the toolkit's handlers and ours, and a frame or a panel made from it, which is gone when the object is.
+class LoadedResource : public wxXmlResource
+{
+public:
+    LoadedResource();
+    ~LoadedResource() override;
+
+    /// The frame of that name.
+    wxFrame* MakeFrame(const std::string& name);
+
+    /// The panel of that name, in a frame of its own.
+    wxPanel* MakePanel(const std::string& name);
+
+    /// What was reported, one message a line.
+    std::vector<std::string> errors;
+
+protected:
+    void DoReportError(const wxString& file, const wxXmlNode* position, const wxString& message) override;
+
+private:
+    wxFrame* m_frame = nullptr;
+};
+
+/// No control, though the resource names it as a subclass of one. Nobody owns those that were `made`.
+class StrayObject : public wxObject
+{
+public:
+    StrayObject() { made.push_back(this); }
+
+    static std::vector<wxObject*> made;
+
+    wxDECLARE_DYNAMIC_CLASS(StrayObject);
+};
+
+#endif
