@@ -1,0 +1,55 @@
+// A window that comes back as it was left: its place and size, whether it was maximised, how large its panes are, and
+// the text and the number in them.
+
+#include <stdexcept>
+
+#include <wx/aui/framemanager.h>
+#include <wx/spinctrl.h>
+#include <wx/wx.h>
+
+#include <fittings/config/ui_config_mgr.h>
+#include <fittings/config/wx_window_state.h>
+
+class NotesFrame : public wxFrame
+{
+public:
+    NotesFrame() : wxFrame(nullptr, wxID_ANY, "Notes"), m_panes(this)
+    {
+        m_text->SetValue(ui_config_mgr::GetConfigString(L"notes.ini", L"Notes", L"Text"));
+        try {
+            m_copies->SetValue(ui_config_mgr::GetConfigInt(L"notes.ini", L"Notes", L"Copies"));
+        } catch (const std::logic_error&) {
+            m_copies->SetValue(1);  // somebody has edited the file: what stands there is no number
+        }
+        m_panes.AddPane(m_text, wxAuiPaneInfo().Name("text").CenterPane());
+        m_panes.AddPane(m_copies, wxAuiPaneInfo().Name("copies").Bottom().CaptionVisible(false));
+        m_panes.Update();
+        wx_window_state::LoadAuiManagerState(&m_panes, L"Notes");
+        wx_window_state::LoadState(this, L"Notes");
+        Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent& event) {
+            ui_config_mgr::WriteConfigString(L"notes.ini", L"Notes", L"Text", m_text->GetValue().wc_str());
+            ui_config_mgr::WriteConfigInt(L"notes.ini", L"Notes", L"Copies", m_copies->GetValue());
+            wx_window_state::SaveAuiManagerState(&m_panes, L"Notes");
+            wx_window_state::SaveState(this, L"Notes");
+            event.Skip();
+        });
+    }
+    ~NotesFrame() override { m_panes.UnInit(); }
+
+private:
+    wxTextCtrl* m_text = new wxTextCtrl(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxTE_MULTILINE);
+    wxSpinCtrl* m_copies = new wxSpinCtrl(this);
+    wxAuiManager m_panes;
+};
+
+class NotesApp : public wxApp
+{
+    bool OnInit() override
+    {
+        auto* frame = new NotesFrame;
+        frame->Show();
+        frame->Raise();  // without it, some window managers place a program's first window themselves
+        return true;
+    }
+};
+wxIMPLEMENT_APP(NotesApp);

@@ -1,0 +1,58 @@
+// Lists the files of a folder, and saves the list. Both dialogs start where they were last.
+
+#include <wx/dir.h>
+#include <wx/file.h>
+#include <wx/wx.h>
+
+#include <fittings/dialogs/file_dialog.h>
+#include <fittings/dialogs/folder_dialog.h>
+
+class ListFrame : public wxFrame
+{
+public:
+    ListFrame() : wxFrame(nullptr, wxID_ANY, "File list")
+    {
+        auto* menu = new wxMenu;
+        menu->Append(wxID_OPEN, "&Open a folder...\tCtrl+O");
+        menu->Append(wxID_SAVE, "&Save the list...\tCtrl+S");
+        auto* bar = new wxMenuBar;
+        bar->Append(menu, "&File");
+        SetMenuBar(bar);
+        Bind(
+            wxEVT_MENU, [this](wxCommandEvent&) { Open(); }, wxID_OPEN);
+        Bind(
+            wxEVT_MENU, [this](wxCommandEvent&) { Save(); }, wxID_SAVE);
+    }
+
+private:
+    void Open()
+    {
+        const wxString folder = wxFolderDlg::DoModalReg(this, L"ListedFolder", L"List the files of");
+        if (folder.empty())
+            return;  // cancelled
+        wxArrayString files;
+        wxDir::GetAllFiles(folder, &files, "", wxDIR_FILES);
+        files.Sort();
+        m_list->SetValue(wxJoin(files, '\n'));
+        SetTitle(wxString::Format("%zu files in %s", files.size(), folder));
+    }
+
+    void Save()
+    {
+        const std::string earlier = CQVFileDialogI::SetRegEntry("SavedList");
+        const CStdStr<wchar_t> path = CQVFileDialogI::LaunchSaveDialog(this, L"txt", L"Texts (*.txt)|*.txt|All files|*",
+                                                                       L"Save the list", L"", L"");
+        CQVFileDialogI::SetRegEntry(earlier);
+        if (!path.empty() && wxFile(path, wxFile::write).Write(m_list->GetValue()))
+            SetTitle("Saved in " + path);
+    }
+
+    wxTextCtrl* m_list =
+        new wxTextCtrl(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxTE_MULTILINE | wxTE_READONLY);
+};
+
+class ListApp : public wxApp
+{
+    bool OnInit() override { return (new ListFrame)->Show(); }
+};
+wxIMPLEMENT_APP(ListApp);

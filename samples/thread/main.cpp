@@ -1,0 +1,59 @@
+// Counts primes on a thread of its own. The window shows how far the count is, and can be closed at any time.
+
+#include <wx/wx.h>
+
+#include <fittings/thread/gui_thread.h>
+
+wxDEFINE_EVENT(EVT_COUNTED, wxCommandEvent);  // the int is how many per cent are done, the extra long how many primes
+
+static bool IsPrime(int n)
+{
+    int divisor = 2;
+    while (divisor * divisor <= n && n % divisor != 0)
+        ++divisor;
+    return n >= 2 && divisor * divisor > n;
+}
+
+class PrimeCounter : public wxGUIThreadEx
+{
+public:
+    using wxGUIThreadEx::wxGUIThreadEx;
+
+    wxThread::ExitCode Entry() override
+    {
+        long found = 0;
+        for (int n = 0; n < 1000000; ++n) {
+            found += IsPrime(n) ? 1 : 0;
+            if (n % 10000 == 9999 && !PostEvent(n / 10000 + 1, found))
+                break;  // asked to stop
+        }
+        return nullptr;
+    }
+};
+
+class PrimesFrame : public wxFrame
+{
+public:
+    PrimesFrame() : wxFrame(nullptr, wxID_ANY, "Primes"), m_counter(this, EVT_COUNTED)
+    {
+        Bind(EVT_COUNTED, [this](wxCommandEvent& event) {
+            SetTitle(wxString::Format("%ld primes, %d %% done", event.GetExtraLong(), event.GetInt()));
+        });
+        if (m_counter.RunThread() != wxTHREAD_NO_ERROR)
+            SetTitle("No thread to count on");
+    }
+    ~PrimesFrame() override
+    {
+        m_counter.StartKill();  // ask it to stop,
+        m_counter.Wait();       // wait until it has, and only then let it and the window go
+    }
+
+private:
+    PrimeCounter m_counter;
+};
+
+class PrimesApp : public wxApp
+{
+    bool OnInit() override { return (new PrimesFrame)->Show(); }
+};
+wxIMPLEMENT_APP(PrimesApp);

@@ -1,0 +1,57 @@
+// The folders of the user, read as they are opened. Those that were open when the window was closed are opened again at
+// the next start; hidden ones are grey.
+
+#include <wx/dir.h>
+#include <wx/wx.h>
+
+#include <fittings/tree/handy_tree_ctrl.h>
+
+class FolderTree : public wxHandyTreeCtrl
+{
+public:
+    static wxString PathOf(const wxTreeCursor& item)
+    {
+        const wxTreeCursor parent = item.GetParent();
+        return parent.IsOk() ? PathOf(parent) + "/" + item.GetText() : wxString(item.GetText());
+    }
+
+private:
+    void OnItemExpanding(const wxTreeCursor& item) override
+    {
+        wxLogNull noMessages;  // about a folder that the user may not read
+        wxDir folder(PathOf(item));
+        if (item.GetChild().IsOk() || !folder.IsOpened())
+            return;  // filled before, or nothing to show
+        wxString name;
+        for (bool more = folder.GetFirst(&name, "", wxDIR_DIRS | wxDIR_HIDDEN); more; more = folder.GetNext(&name)) {
+            wxTreeCursor child = wxTreeCursor(item).AppendItem(name);
+            child.SetChildren(wxDir(PathOf(child)).HasSubDirs());
+            if (name.StartsWith("."))
+                child.SetTextColour(0x808080);
+        }
+        SortChildren(item);
+    }
+};
+
+class FoldersApp : public wxApp
+{
+    bool OnInit() override
+    {
+        auto* frame = new wxFrame(nullptr, wxID_ANY, "Folders");
+        auto* tree = new FolderTree;
+        tree->Create(frame);
+        tree->SetProfile("Folders");
+        wxTreeCursor root = tree->AddRoot(wxGetHomeDir());
+        root.SetChildren(true);
+        tree->LoadState(root);
+        tree->SelectRootItem();
+        tree->Bind(wxEVT_TREE_SEL_CHANGED,
+                   [=](wxTreeEvent&) { frame->SetTitle(FolderTree::PathOf(tree->GetSelection())); });
+        frame->Bind(wxEVT_CLOSE_WINDOW, [=](wxCloseEvent& event) mutable {
+            tree->SaveState(root);
+            event.Skip();
+        });
+        return frame->Show();
+    }
+};
+wxIMPLEMENT_APP(FoldersApp);

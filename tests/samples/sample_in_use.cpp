@@ -1,0 +1,161 @@
+#include <tests/samples/sample_in_use.h>
+
+#include <chrono>
+#include <sstream>
+#include <thread>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// Of the display that the tests run on.
+constexpr int kScreenWidth = 1280;
+
+std::string FirstLine(const std::string& text)
+{
+    return text.substr(0, text.find('\n'));
+}
+
+void Xdotool(std::vector<std::string> arguments)
+{
+    arguments.insert(arguments.begin(), "xdotool");
+    RunChild(arguments);
+}
+
+}  // namespace
+
+bool Becomes(const std::function<bool()>& isTrue, int milliseconds)
+{
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
+    while (!isTrue()) {
+        if (std::chrono::steady_clock::now() > deadline)
+            return false;
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    return true;
+}
+
+SampleInUse::SampleInUse(const std::string& sample, const std::string& title, const Person& person)
+    : m_program({std::string(SAMPLES) + "/sample-" + sample}, {{"HOME", person.home.Path()},
+                                                               {"XDG_DATA_HOME", person.data.Path()},
+                                                               {"XDG_CONFIG_HOME", person.data.Path()},
+                                                               {"XDG_CACHE_HOME", person.data.Path()}})
+{
+    const std::vector<std::string> search = {"xdotool", "search", "--onlyvisible", "--name", "^" + title + "$"};
+    EXPECT_TRUE(Becomes([&] {
+        ChildProcess found(search);
+        found.WaitForEnd();
+        m_window = FirstLine(found.Output());
+        return !m_window.empty() || !m_program.IsRunning();
+    })) << "no window with the title "
+        << title;
+    Xdotool({"windowactivate", "--sync", m_window});
+}
+
+void SampleInUse::Press(const std::string& keys)
+{
+    Xdotool({"key", keys});
+}
+
+void SampleInUse::Type(const std::string& text)
+{
+    Xdotool({"type", "--delay", "10", "--", text});
+}
+
+void SampleInUse::PointAt(ScreenPoint point)
+{
+    Xdotool({"mousemove", std::to_string(point.x), std::to_string(point.y)});
+}
+
+void SampleInUse::Click()
+{
+    Xdotool({"click", "1"});
+}
+
+void SampleInUse::Drag(ScreenPoint from, ScreenPoint to)
+{
+    PointAt(from);
+    Xdotool({"mousedown", "1"});
+    PointAt({(from.x + to.x) / 2, (from.y + to.y) / 2});
+    PointAt(to);
+    Xdotool({"mouseup", "1"});
+}
+
+std::optional<ScreenPoint> SampleInUse::Find(const std::string& colour)
+{
+    const TempFolder folder;
+    const std::string file = folder / "screen";
+    RunChild({"import", "-window", "root", "-depth", "8", "rgb:" + file});
+    const std::string pixels = ReadFile(file);
+    std::string wanted;
+    for (std::size_t digits = 1; digits < colour.size(); digits += 2)
+        wanted += static_cast<char>(std::stoi(colour.substr(digits, 2), nullptr, 16));
+
+    const auto place = [](std::size_t byte) {
+        const int pixel = static_cast<int>(byte / 3);
+        return ScreenPoint{pixel % kScreenWidth, pixel / kScreenWidth};
+    };
+    std::size_t first = 0;
+    while (first < pixels.size() && pixels.compare(first, 3, wanted) != 0)
+        first += 3;
+    if (first >= pixels.size())
+        return std::nullopt;
+    std::size_t last = pixels.size() - 3;
+    while (pixels.compare(last, 3, wanted) != 0)
+        last -= 3;
+    return ScreenPoint{(place(first).x + place(last).x) / 2, (place(first).y + place(last).y) / 2};
+}
+
+void SampleInUse::Resize(int width, int height) const
+{
+    Xdotool({"windowsize", "--sync", m_window, std::to_string(width), std::to_string(height)});
+}
+
+void SampleInUse::Move(int x, int y) const
+{
+    Xdotool({"windowmove", "--sync", m_window, std::to_string(x), std::to_string(y)});
+}
+
+std::string SampleInUse::Geometry() const
+{
+    std::istringstream lines(RunChild({"xwininfo", "-id", m_window}));
+    std::string numbers;
+    for (std::string line; std::getline(lines, line);) {
+        for (const char* name : {"Absolute", "  Width", "  Height"}) {
+            if (line.find(name) != std::string::npos)
+                numbers += (numbers.empty() ? "" : " ") + line.substr(line.find_last_of(' ') + 1);
+        }
+    }
+    return numbers;
+}
+
+bool SampleInUse::IsMaximised() const
+{
+    return RunChild({"xprop", "-id", m_window, "_NET_WM_STATE"}).find("MAXIMIZED_VERT") != std::string::npos;
+}
+
+std::string SampleInUse::Title() const
+{
+    return FirstLine(RunChild({"xdotool", "getwindowname", m_window}));
+}
+
+void SampleInUse::WaitForTitle(const std::string& title) const
+{
+    EXPECT_TRUE(Becomes([&] { return Title() == title; })) << "the title is " << Title() << ", not " << title;
+}
+
+std::string SampleInUse::ColourAt(int x, int y) const
+{
+    const std::string place = "1x1+" + std::to_string(x) + "+" + std::to_string(y);
+    const std::string pixel =
+        RunChild({"import", "-window", m_window, "-crop", place, "+repage", "-depth", "8", "txt:-"});
+    const std::size_t sign = pixel.find('#', pixel.find('\n'));
+    return sign == std::string::npos ? pixel : pixel.substr(sign, 7);
+}
+
+void SampleInUse::Close()
+{
+    Press("alt+F4");
+    EXPECT_TRUE(m_program.WaitForEnd()) << "the window stays open";
+    EXPECT_EQ(m_program.ExitCode(), 0) << m_program.Output();
+}

@@ -1,0 +1,254 @@
+// Each sample as the person in front of it uses it.
+
+#include <filesystem>
+#include <optional>
+#include <sstream>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include <tests/samples/sample_in_use.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST(ConfigSample, ComesBackWhereItWasAndWithWhatWasTyped)
+{
+    const Person person;
+    std::string geometry;
+    {
+        SampleInUse notes("config", "Notes", person);
+        notes.Resize(500, 400);
+        notes.Move(210, 160);
+        notes.Type("Feed the cat");
+        notes.Press("Tab");
+        EXPECT_TRUE(Becomes([&] { return notes.Geometry().find(" 500 400") != std::string::npos; }));
+        geometry = notes.Geometry();
+        notes.Close();
+    }
+    EXPECT_NE(person.FileOf("config", "ui_config/notes.ini").find("Text=Feed the cat"), std::string::npos);
+    SampleInUse notes("config", "Notes", person);
+    EXPECT_TRUE(Becomes([&] { return notes.Geometry() == geometry; })) << notes.Geometry() << " not " << geometry;
+    notes.Type("Also, ");
+    notes.Close();
+    EXPECT_NE(person.FileOf("config", "ui_config/notes.ini").find("Text=Also, Feed the cat"), std::string::npos);
+}
+
+TEST(ConfigSample, ComesBackMaximised)
+{
+    const Person person;
+    {
+        SampleInUse notes("config", "Notes", person);
+        EXPECT_FALSE(notes.IsMaximised());
+        notes.Press("alt+F10");
+        EXPECT_TRUE(Becomes([&] { return notes.IsMaximised(); }));
+        notes.Close();
+    }
+    SampleInUse notes("config", "Notes", person);
+    EXPECT_TRUE(Becomes([&] { return notes.IsMaximised(); }));
+    notes.Close();
+}
+
+TEST(ConfigSample, KeepsTheHeightThatAPaneWasGiven)
+{
+    const Person person;
+    const auto paneHeight = [&] {
+        const std::string layout = person.FileOf("config", "ui_config/wxAuiManagerState.ini");
+        const std::string name = "dock_size(3,0,0)=";
+        const std::size_t place = layout.find(name);
+        return place == std::string::npos ? 0 : std::stoi(layout.substr(place + name.size()));
+    };
+    {
+        SampleInUse notes("config", "Notes", person);
+        notes.Close();
+    }
+    const int before = paneHeight();
+    ASSERT_GT(before, 0);
+    {
+        SampleInUse notes("config", "Notes", person);
+        std::istringstream geometry(notes.Geometry());
+        int x = 0;
+        int y = 0;
+        int width = 0;
+        int height = 0;
+        geometry >> x >> y >> width >> height;
+        const ScreenPoint sash{x + width / 2, y + height - before - 2};
+        notes.Drag(sash, {sash.x, sash.y - 60});
+        notes.Close();
+    }
+    EXPECT_EQ(paneHeight(), before + 60);
+    SampleInUse notes("config", "Notes", person);
+    notes.Close();
+    EXPECT_EQ(paneHeight(), before + 60);
+}
+
+TEST(ConfigSample, StartsWithANumberThatIsNone)
+{
+    const Person person;
+    fs::create_directories(person.PathOf("config", "ui_config"));
+    WriteFile(person.PathOf("config", "ui_config/notes.ini"), "[Notes]\nCopies=many\n");
+    SampleInUse notes("config", "Notes", person);
+    notes.Close();
+    EXPECT_EQ(person.FileOf("config", "ui_config/notes.ini").substr(0, 18), "[Notes]\nCopies=1\nT");
+}
+
+TEST(TreeSample, OpensAgainWhatWasOpen)
+{
+    const Person person;
+    const std::string home = person.home.Path();
+    fs::create_directories(person.home / "alpha/inner");
+    fs::create_directories(person.home / ".hidden");
+    {
+        SampleInUse folders("tree", "Folders", person);
+        folders.Press("Right");
+        folders.Press("Down");
+        folders.WaitForTitle(home + "/.hidden");
+        folders.Press("Down");
+        folders.WaitForTitle(home + "/alpha");
+        folders.Press("Right");
+        folders.Press("Down");
+        folders.WaitForTitle(home + "/alpha/inner");
+        folders.Close();
+    }
+    EXPECT_NE(person.FileOf("tree", "settings.ini").find("[TreeControlState]\nFolders=" + home + "|alpha|"),
+              std::string::npos)
+        << person.FileOf("tree", "settings.ini");
+    SampleInUse folders("tree", "Folders", person);
+    for (int i = 0; i < 3; ++i)
+        folders.Press("Down");
+    folders.WaitForTitle(home + "/alpha/inner");
+    folders.Close();
+}
+
+// Colours of the palette, each of which the screen shows nowhere else.
+constexpr const char* kOrange = "#FF6820";
+constexpr const char* kLime = "#32CD32";
+
+// Opens the drop-down and moves over one of its colours until the sheet shows it.
+void PointAtColour(const SampleInUse& sheet, const char* colour)
+{
+    SampleInUse::Press("F4");
+    std::optional<ScreenPoint> cell;
+    ASSERT_TRUE(Becomes([&] { return (cell = SampleInUse::Find(colour)).has_value(); })) << "no " << colour;
+    const auto isShown = [&] { return sheet.ColourAt(5, 5) == colour; };
+    bool shown = false;
+    for (int i = 0; i < 15 && !shown; ++i) {
+        SampleInUse::PointAt({cell->x + i % 2, cell->y});
+        shown = Becomes(isShown, 1000);
+    }
+    ASSERT_TRUE(shown) << sheet.ColourAt(5, 5) << " not " << colour;
+}
+
+TEST(ColourSample, ShowsTheColourPointedAtAndKeepsTheOneClicked)
+{
+    const Person person;
+    SampleInUse sheet("colour", "Sheet", person);
+    EXPECT_TRUE(Becomes([&] { return sheet.ColourAt(5, 5) == "#FFFFFF"; }));
+    PointAtColour(sheet, kOrange);
+    EXPECT_EQ(sheet.Title(), "Sheet");
+    SampleInUse::Click();
+    sheet.WaitForTitle("Sheet in #FF6820");
+    EXPECT_EQ(sheet.ColourAt(5, 5), kOrange);
+
+    PointAtColour(sheet, kLime);
+    SampleInUse::Press("Escape");
+    EXPECT_TRUE(Becomes([&] { return sheet.ColourAt(5, 5) == kOrange; })) << sheet.ColourAt(5, 5);
+    sheet.Close();
+}
+
+TEST(NumeditSample, TakesOnlyAnAmountAndShowsItInGroups)
+{
+    const Person person;
+    SampleInUse payments("numedit", "Payments", person);
+    payments.Type("12x34.56.7");
+    payments.Press("Return");
+    payments.WaitForTitle("Paid 1,234.56 EUR");
+    payments.Type("-5");
+    payments.Press("Return");
+    payments.WaitForTitle("Paid 5.00 EUR");
+    payments.Type("0");
+    payments.Press("Return");
+    payments.WaitForTitle("Not paid: at least 0.01");
+    payments.Type(".5");
+    payments.Press("Return");
+    payments.WaitForTitle("Paid 0.50 EUR");
+    payments.Close();
+}
+
+// For a dialog that reads folders in the background, and loses the key that comes too early.
+void PressUntil(const std::string& key, const std::function<bool()>& isDone)
+{
+    bool done = false;
+    for (int i = 0; i < 15 && !done; ++i) {
+        SampleInUse::Press(key);
+        done = Becomes(isDone, 1000);
+    }
+    EXPECT_TRUE(done) << key << " does nothing";
+}
+
+TEST(DialogsSample, ListsTheFolderAndSavesInTheFileChosenLast)
+{
+    const Person person;
+    const std::string music = person.home / "music";
+    fs::create_directories(music);
+    WriteFile(music + "/fugue.flac", "");
+    WriteFile(music + "/air.flac", "");
+    fs::create_directories(person.PathOf("dialogs", ""));
+    WriteFile(person.PathOf("dialogs", "settings.ini"),
+              "[ListedFolder]\nPath=" + music + "\n[LastFiles]\nSavedList=" + person.home.Path() + "/music.txt\n");
+    SampleInUse list("dialogs", "File list", person);
+    list.Press("ctrl+o");
+    PressUntil("Return", [&] { return list.Title() == "2 files in " + music; });
+    list.Press("ctrl+s");
+    PressUntil("Return", [&] { return list.Title() == "Saved in " + (person.home / "music.txt"); });
+    EXPECT_EQ(ReadFile(person.home / "music.txt"), music + "/air.flac\n" + music + "/fugue.flac");
+    list.Close();
+}
+
+TEST(ThreadSample, CountsOnWhileItsWindowAnswers)
+{
+    const Person person;
+    SampleInUse primes("thread", "[0-9]+ primes, [0-9]+ % done", person);
+    primes.WaitForTitle("78498 primes, 100 % done");
+    primes.Close();
+}
+
+TEST(ThreadSample, CanBeClosedAtAnyTime)
+{
+    const Person person;
+    SampleInUse primes("thread", "(Primes|[0-9]+ primes, [0-9]+ % done)", person);
+    primes.Close();
+}
+
+TEST(PlatformSample, RemembersWhatWasSearchedFor)
+{
+    const Person person;
+    {
+        SampleInUse search("platform", "Search", person);
+        search.Type("a needle");
+        search.Press("alt+w");
+        search.Press("shift+Tab");
+        search.Press("Return");
+        search.WaitForTitle("Searching for a needle");
+        search.Close();
+    }
+    EXPECT_EQ(person.FileOf("platform", "settings.ini"), "[Search]\nLastText=a needle\nWholeWords=true\n");
+    SampleInUse search("platform", "Search", person);
+    search.Press("Return");
+    search.WaitForTitle("Searching for a needle");
+    search.Close();
+}
+
+TEST(PlatformSample, SaysThatNothingCanBeStored)
+{
+    const Person person;
+    WriteFile(person.data / "sample-platform", "in the place of the folder");
+    SampleInUse search("platform", "Search", person);
+    search.Type("a needle");
+    search.Press("Return");
+    search.WaitForTitle("Cannot be stored in " + (person.data / "sample-platform"));
+    search.Close();
+}
+
+}  // namespace
