@@ -12,13 +12,14 @@ template <typename CharT>
 class CStdStr : public std::basic_string<CharT>
 {
 public:
-    using Base = std::basic_string<CharT>;
+    using Base = std::basic_string<CharT>;  ///< The standard string.
 
     CStdStr() = default;
-    CStdStr(const CharT* text) : Base(text ? Base(text) : Base()) {}
-    CStdStr(const Base& text) : Base(text) {}
-    CStdStr(Base&& text) noexcept : Base(std::move(text)) {}
+    CStdStr(const CharT* text) : Base(text ? Base(text) : Base()) {}  ///< Copies the text; of null, an empty one.
+    CStdStr(const Base& text) : Base(text) {}                         ///< Copies the text.
+    CStdStr(Base&& text) noexcept : Base(std::move(text)) {}          ///< Takes the text over.
 
+    /// Copies the text; of null, an empty one.
     CStdStr& operator=(const CharT* text)
     {
         if (text)

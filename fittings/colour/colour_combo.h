@@ -83,8 +83,8 @@ protected:
     /// The outline after @a elapsed milliseconds, from 0 to m_animDuration, in screen coordinates. It grows in 256 steps.
     wxRect OutlineAt(int elapsed) const;
 
-    wxLongLong m_animStart;  ///< Local time in milliseconds.
-    wxTimer m_animTimer;
+    wxLongLong m_animStart;    ///< Local time in milliseconds.
+    wxTimer m_animTimer;       ///< Of the steps of the animation.
     wxRect m_animRect;         ///< Where the popup will be on the screen.
     wxBitmap m_animBitmap;     ///< What the screen showed there.
     int m_animFlags = 0;       ///< For DoShowPopup().

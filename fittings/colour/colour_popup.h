@@ -71,14 +71,20 @@ public:
     /// Set it before the combo takes the popup: the popup marks "Automatic" then if this is the default colour, and that
     /// mark stays.
     void SetInitialColour(const wxColour& colour);
+
+    /// The colour in effect.
     const wxColour& GetInitialColour() const { return m_crInitialColour; }
 
     /// The colour that "Automatic" stands for. Black at first. An invalid colour asserts and is not taken.
     void SetDefaultColour(const wxColour& colour);
+
+    /// The colour that "Automatic" stands for.
     const wxColour& GetDefaultColour() const { return m_crDefaultColour; }
 
     /// Whether the combo is redrawn each time another cell becomes hot. False at first.
     void SetRefreshCombo(bool refresh) { m_bRefreshCombo = refresh; }
+
+    /// Whether the combo is redrawn each time another cell becomes hot.
     bool GetRefreshCombo() const { return m_bRefreshCombo; }
 
     /// The text of the upper box; the box is absent when it is empty.
@@ -106,9 +112,11 @@ public:
     /// colour). Any other index is not checked, and must not be passed.
     wxColour GetColour(int index) const;
 
-    /// The row or column of a cell in the grid. A box is its own row and column: the result is @a index itself. -1 for
-    /// a box that is absent and for any other index.
+    /// The row of a cell in the grid. A box is its own row: the result is @a index itself. -1 for a box that is absent
+    /// and for any other index.
     int GetRow(int index) const;
+
+    /// The column of a cell in the grid, with the same answers as GetRow() for what is not in it.
     int GetColumn(int index) const;
 
     /// The cell at a place of the grid. A row or a column that stands for a box names that box where it is present, the
@@ -149,11 +157,14 @@ public:
     /// The popup's own size, whatever the combo would like.
     wxSize GetAdjustedSize(int minWidth, int prefHeight, int maxHeight) override;
 
+    /// The popup itself, for the combo.
     wxWindow* GetControl() override { return this; }
     /// @}
 
     /// @name Drawing
     /// @{
+
+    /// Draws the popup when the screen has to be painted.
     void OnPaint(wxPaintEvent& event);
 
     /// Draws the cells, the boxes and the frame. What is between them is left as it is.
@@ -174,48 +185,61 @@ public:
 
     /// @name Mouse and keyboard
     /// @{
+
+    /// The combo shows the popup: nothing is hot, the cell of the colour in effect is chosen, and the listener hears of it.
     void OnPopup() override;
+
+    /// The combo hides the popup. Unless the popup does that itself, the listener hears that nothing was chosen.
     void OnDismiss() override;
 
     /// Makes a cell hot.
     void ChangeSelection(int index);
+
+    /// Tells the listener, and the combo where SetRefreshCombo() says so, of the hot cell's colour.
     void DoSelChange();
 
     /// Ends the selection: with the hot cell's colour, or, unless @a ok, with the one that was in effect.
     void EndSelection(bool ok);
+
+    /// Tells the listener of the end, and makes a colour that was chosen the initial one.
     void DoEndSel(bool ok);
 
     /// Asks for a colour in the toolkit's dialog.
     void DoShowColorDlg();
 
+    /// Makes the cell under the pointer hot.
     void OnMouseMove(wxMouseEvent& event);
+
+    /// Chooses the cell under the pointer.
     void OnLButtonUp(wxMouseEvent& event);
+
+    /// The arrows move the hot cell, Enter and the space bar choose it, Escape cancels.
     void OnKeyDown(wxKeyEvent& event);
     /// @}
 
 protected:
-    wxString m_strMoreColours;
-    wxString m_strAutomatic;
-    wxPalette m_palette;
-    wxRect m_rectMoreColours;
-    wxRect m_rectAutomatic;
-    wxRect m_rectWindow;
-    int m_nNumColours;
-    int m_nNumColumns;
-    int m_nNumRows;
-    int m_nBoxSize;  ///< The side of a cell of the palette.
-    int m_nMargin;
-    int m_nChosenColourSel;
-    int m_nCurrentSel;  ///< The hot cell.
-    wxFont m_font;
-    wxColour m_crColour;         ///< Of the hot cell.
-    wxColour m_crInitialColour;  ///< In effect.
-    wxColour m_crDefaultColour;
-    wxColorPopupListener* m_pListener;
-    bool m_bRefreshCombo;
-    bool m_bInternalHide;  ///< While the popup hides itself.
-    wxWindow* m_pCenterOn;
-    wxString m_strToolTip;
+    wxString m_strMoreColours;          ///< The text of the lower box.
+    wxString m_strAutomatic;            ///< The text of the upper box.
+    wxPalette m_palette;                ///< The table's colours, selected where cells are drawn.
+    wxRect m_rectMoreColours;           ///< The lower box.
+    wxRect m_rectAutomatic;             ///< The upper box.
+    wxRect m_rectWindow;                ///< The popup itself.
+    int m_nNumColours;                  ///< Cells of the palette.
+    int m_nNumColumns;                  ///< Columns of the grid.
+    int m_nNumRows;                     ///< Rows of the grid.
+    int m_nBoxSize;                     ///< The side of a cell of the palette.
+    int m_nMargin;                      ///< The unit of all distances.
+    int m_nChosenColourSel;             ///< The chosen cell.
+    int m_nCurrentSel;                  ///< The hot cell.
+    wxFont m_font;                      ///< Of the boxes.
+    wxColour m_crColour;                ///< Of the hot cell.
+    wxColour m_crInitialColour;         ///< In effect.
+    wxColour m_crDefaultColour;         ///< What "Automatic" stands for.
+    wxColorPopupListener* m_pListener;  ///< Not owned.
+    bool m_bRefreshCombo;               ///< Whether the combo is redrawn with each hot cell.
+    bool m_bInternalHide;               ///< While the popup hides itself.
+    wxWindow* m_pCenterOn;              ///< Not owned.
+    wxString m_strToolTip;              ///< The name that is shown at the pointer.
 
 private:
     void LayOutBox(int index, const wxString& text);

@@ -5,6 +5,9 @@
 
 #include <fittings/base/export.h>
 
+/// @file
+/// The palette of wxColourPopup: its colours, their names, and the indices of its cells.
+
 /// @name Cells of the colour popup
 /// 0 to 39 are the colours of the palette, row by row. These are the others.
 /// @{

@@ -31,10 +31,10 @@ public:
     ///
     /// Kept for the host, one of each in the process, empty at first. The dialog uses neither.
     /// @{
-    static void SetFileExtension(const CStdStr<wchar_t>& ext);
-    static void SetFileFilter(const CStdStr<wchar_t>& filter);
-    static CStdStr<wchar_t> GetFileExtension();
-    static CStdStr<wchar_t> GetFileFilter();
+    static void SetFileExtension(const CStdStr<wchar_t>& ext);  ///< Keeps a copy.
+    static void SetFileFilter(const CStdStr<wchar_t>& filter);  ///< Keeps a copy.
+    static CStdStr<wchar_t> GetFileExtension();                 ///< Returns the one set last.
+    static CStdStr<wchar_t> GetFileFilter();                    ///< Returns the one set last.
     /// @}
 
     /// Sets the entry, in UTF-8, under which the dialog remembers its file, and returns the one before, to be set again

@@ -87,8 +87,8 @@ public:
     void OnKeyDown(wxKeyEvent& event);
 
 protected:
-    CNumberFormat m_format;
-    wxString* m_pString;
+    CNumberFormat m_format;         ///< A copy of the host's.
+    wxString* m_pString;            ///< The host's text, not owned; may be null.
     bool m_bNumpadDecimal = false;  ///< The last key that went down was the keypad's decimal key.
 
     wxDECLARE_EVENT_TABLE();

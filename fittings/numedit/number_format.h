@@ -42,7 +42,11 @@ public:
     ///
     /// The others are as they stand below.
     CNumberFormat(EGeneralFormat format);
+
+    /// Copies every field.
     CNumberFormat(const CNumberFormat& other) = default;
+
+    /// Copies every field; assigning a format to itself changes nothing.
     CNumberFormat& operator=(const CNumberFormat& other);
 
     bool m_bPadDecimals = false;      ///< Show m_nDecimals decimals: fill the fraction with zeros.
@@ -63,15 +67,16 @@ public:
     /// @name Limits, each in force only while its flag is set
     /// A limit that is not in force is never read.
     /// @{
+
     /// Where false, no decimals are accepted, and those of a shown number are left as they are.
     bool m_bHasDecimals = false;
-    std::uint64_t m_nDecimals = 0;  ///< most decimals
-    bool m_bHasMaxIntDigits = false;
-    std::uint64_t m_nMaxIntDigits = 0;  ///< most digits before the decimal point; the sign does not count
-    bool m_bHasMin = false;
-    double m_dMin = 0;  ///< lowest accepted value; NaN accepts every value
-    bool m_bHasMax = false;
-    double m_dMax = 0;  ///< highest accepted value; NaN accepts every value
+    std::uint64_t m_nDecimals = 0;      ///< Most decimals.
+    bool m_bHasMaxIntDigits = false;    ///< Whether m_nMaxIntDigits is in force.
+    std::uint64_t m_nMaxIntDigits = 0;  ///< Most digits before the decimal point; the sign does not count.
+    bool m_bHasMin = false;             ///< Whether m_dMin is in force.
+    double m_dMin = 0;                  ///< Lowest accepted value; NaN accepts every value.
+    bool m_bHasMax = false;             ///< Whether m_dMax is in force.
+    double m_dMax = 0;                  ///< Highest accepted value; NaN accepts every value.
     /// @}
 };
 

@@ -11,8 +11,11 @@ class CLanguageDomain
 {
 public:
     CLanguageDomain() = default;
+
+    /// Names the catalogue as gettext does: the file is @a name with ".mo" behind it.
     explicit CLanguageDomain(const CStdStr<wchar_t>& name) : m_name(name) {}
 
+    /// The name that it was made with.
     const std::wstring& GetName() const { return m_name; }
 
 private:

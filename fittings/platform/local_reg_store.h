@@ -85,7 +85,11 @@ public:
     /// The same values as through the wide operations: narrow text is taken as UTF-8, and bytes that are not UTF-8
     /// come back as they were written.
     /// @{
+
+    /// Returns the stored value, or @a defaultValue when there is none.
     static std::string GetString(const char* section, const char* key, const char* defaultValue);
+
+    /// Stores a value for good. Returns as the wide operation does.
     static bool WriteString(const char* section, const char* key, const char* value);
     /// @}
 };

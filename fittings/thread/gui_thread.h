@@ -96,17 +96,16 @@ public:
     /// it was.
     bool PostEvent(wxCommandEvent& event, int value);
 
-    /// Posts a wxCommandEvent of that type and int, with id 0 and, where the overload has them, the extra long or the
-    /// client data; everything else is empty.
+    /// Posts a wxCommandEvent of that type and int, with id 0; everything else is empty.
     bool PostEvent(int eventType, int value);
-    bool PostEvent(int eventType, int value, long extra);
-    bool PostEvent(int eventType, int value, void* data);
+    bool PostEvent(int eventType, int value, long extra);  ///< As above, with an extra long.
+    bool PostEvent(int eventType, int value, void* data);  ///< As above, with client data.
 
     /// @}
 
 protected:
-    wxEvtHandler* const m_handler;
-    bool m_continue = true;
+    wxEvtHandler* const m_handler;  ///< Receives the events; not owned.
+    bool m_continue = true;         ///< Until StartKill().
 
     /// Guards m_continue. Recursive: a derived class may hold it over calls of this class that must not be parted by
     /// StartKill().
@@ -153,13 +152,13 @@ public:
     /// As wxGUIThread::PostEvent() of the type named at construction, which says what is returned and who owns the data.
     /// The compiler cannot choose for PostEvent(value, 0): write 0L or nullptr.
     /// @{
-    bool PostEvent(int value);
-    bool PostEvent(int value, long extra);
-    bool PostEvent(int value, void* data);
+    bool PostEvent(int value);              ///< Posts an event with that int.
+    bool PostEvent(int value, long extra);  ///< Posts an event with that int and extra long.
+    bool PostEvent(int value, void* data);  ///< Posts an event with that int and client data.
     /// @}
 
 protected:
-    const int m_eventType;
+    const int m_eventType;  ///< Of every event.
 };
 
 #endif

@@ -67,11 +67,15 @@ public:
 
     /// Stores which items are expanded, collapsed levels included.
     void SaveState(const wxString& name, wxTreeCursor& start);
+
+    /// Stores them under the name of SetProfile().
     void SaveState(wxTreeCursor& start);
 
     /// Expands the items whose labels were stored, parents first, so that children made by OnItemExpanding() are
     /// restored too. Nothing is collapsed.
     void LoadState(const wxString& name, wxTreeCursor& start);
+
+    /// Expands those stored under the name of SetProfile().
     void LoadState(wxTreeCursor& start);
 
     /// @}

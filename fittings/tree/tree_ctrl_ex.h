@@ -33,6 +33,8 @@ public:
 
     /// Adds the root item, without images and data.
     wxTreeCursor AddRoot(const wxString& text);
+
+    /// Adds the root item as wxTreeCtrl::AddRoot() does.
     wxTreeItemId AddRoot(const wxString& text, int image, int selectedImage = -1,
                          wxTreeItemData* data = nullptr) override
     {

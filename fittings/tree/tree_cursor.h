@@ -11,8 +11,9 @@
 class FITTINGS_API wxGenericTreeItemData : public wxTreeItemData
 {
 public:
-    explicit wxGenericTreeItemData(int value) : m_value(value) {}
+    explicit wxGenericTreeItemData(int value) : m_value(value) {}  ///< Keeps the integer.
 
+    /// The integer.
     int GetValue() const { return m_value; }
 
 private:
@@ -35,11 +36,14 @@ private:
 class FITTINGS_API wxTreeCursor
 {
 public:
+    /// Makes an invalid cursor.
     wxTreeCursor() : tree(nullptr) {}
+
+    /// Makes a cursor on an item of a tree.
     wxTreeCursor(wxTreeCtrl* tree_, const wxTreeItemId& item_) : tree(tree_), item(item_) {}
 
-    wxTreeCtrl* tree;
-    wxTreeItemId item;
+    wxTreeCtrl* tree;   ///< The control that the item belongs to; not owned.
+    wxTreeItemId item;  ///< The item.
 
     /// True when there is an item.
     bool IsOk() const { return item.IsOk(); }
@@ -47,9 +51,13 @@ public:
     /// The item, so that the toolkit's operations take a cursor: tree->EnsureVisible(tree->GetSelection()).
     operator wxTreeItemId() const { return item; }
 
+    /// Returns the label.
     std::wstring GetText() const;
 
+    /// Returns the index of an image in the tree's image list; -1 when the item has none of that kind.
     int GetImage(wxTreeItemIcon which) const;
+
+    /// Shows an image of the tree's image list, by its index.
     void SetImage(int image, wxTreeItemIcon which);
 
     /// Adds @a bitmap to the tree's normal image list, which must exist, and shows it as the item's image.
@@ -69,7 +77,10 @@ public:
     /// Appends a child without image and data, and returns it.
     wxTreeCursor AppendItem(const wxString& text);
 
+    /// Shows the children, as wxTreeCtrl::Expand() does.
     void Expand();
+
+    /// Whether the children are shown, or would be if the parent's were.
     bool IsExpanded() const;
 
     /// Removes the item with all its children.

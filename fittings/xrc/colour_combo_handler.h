@@ -51,9 +51,11 @@ public:
     wxColourComboXmlHandler();
     ~wxColourComboXmlHandler() override;
 
+    /// Whether @a node is an object of that class.
     bool CanHandle(wxXmlNode* node) override;
 
 protected:
+    /// Makes the control from the node that the base class holds.
     wxObject* DoCreateResource() override;
 
 private:
