@@ -2,6 +2,12 @@
 # (fittings_development), and the gallery (fittings_gallery).
 include(CMakePackageConfigHelpers)
 
+# gzip_into FILE INPUT: without a name and a time in it, so that the same input gives the same file.
+function(gzip_into file input)
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${input})
+  execute_process(COMMAND gzip -9nc ${input} OUTPUT_FILE ${file} COMMAND_ERROR_IS_FATAL ANY)
+endfunction()
+
 if(TARGET fittings-gallery)
   file(RELATIVE_PATH to_libraries ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
   set_target_properties(fittings-gallery PROPERTIES INSTALL_RPATH $ORIGIN/${to_libraries})
@@ -10,6 +16,11 @@ if(TARGET fittings-gallery)
     DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT fittings_gallery)
   install(FILES gallery/fittings-gallery.svg
     DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT fittings_gallery)
+  install(FILES gallery/fittings-gallery.metainfo.xml
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo COMPONENT fittings_gallery)
+  gzip_into(${PROJECT_BINARY_DIR}/gallery/fittings-gallery.1.gz ${PROJECT_SOURCE_DIR}/gallery/fittings-gallery.1)
+  install(FILES ${PROJECT_BINARY_DIR}/gallery/fittings-gallery.1.gz
+    DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT fittings_gallery)
 endif()
 
 if(FITTINGS_PLATFORM STREQUAL external)

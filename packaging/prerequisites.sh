@@ -6,6 +6,7 @@ display_packages=(xvfb xauth openbox x11-utils librsvg2-common)
 test_packages=(libgtest-dev libgmock-dev xdotool x11-xkb-utils x11-xserver-utils imagemagick dpkg-dev file locales python3 weston)
 coverage_packages=(gcovr)
 bench_packages=(libbenchmark-dev libicu-dev)
+package_packages=(dpkg-dev lintian appstream desktop-file-utils mmdebstrap)
 fuzz_packages=(clang libclang-rt-dev llvm locales)
 
 # install_missing PACKAGE...: installs those that are not installed yet, with sudo when not root.
