@@ -5,6 +5,7 @@
 
 #include <gdk/gdkx.h>
 #include <gtk/gtk.h>
+#include <wx/stopwatch.h>
 
 #include "simulated_user.h"
 
@@ -66,13 +67,14 @@ wxRect FrameRect(GtkWidget* window)
 bool SaveScreenshot(GtkWidget* window, const std::string& path)
 {
     Pixels seen;
-    int same = 0;
+    wxStopWatch unchanged;
     const bool stands = simulated_user::WaitUntil([&] {
         // Where it is now: a window that was just shown may not have its place and decorations yet.
         Pixels now = ReadScreen(FrameRect(window));
-        same = AreEqual(seen, now) && !IsOfOneColour(now) ? same + 1 : 0;
+        if (!AreEqual(seen, now) || IsOfOneColour(now))
+            unchanged.Start();
         seen = std::move(now);
-        return same >= 20;
+        return unchanged.Time() >= 400;
     });
     return stands && gdk_pixbuf_save(seen.get(), path.c_str(), "png", nullptr, nullptr);
 }

@@ -130,6 +130,8 @@ Tour::Tour(const std::string& pictures, const std::string& folder)
     : m_pictures(pictures), m_folder(folder.empty() ? m_demo.Path() : folder)
 {
     std_file_paths::SetUserDataDir(file_util_ex::ConvertFromUTF8W(m_demo.SettingsPath()));
+    // A picture is taken of what does not change.
+    g_object_set(gtk_settings_get_default(), "gtk-cursor-blink", FALSE, nullptr);
 }
 
 bool Tour::Run()
