@@ -94,10 +94,9 @@ bool Fill(const fs::path& root)
 
 }  // namespace
 
-DemoFolder::DemoFolder()
+// The plain name, so that pictures show the same path; another one beside a tour that runs now.
+DemoFolder::DemoFolder() : m_work((fs::temp_directory_path() / "fittings-tour").native())
 {
-    // The plain name, so that pictures show the same path; another one beside a tour that runs now.
-    m_work = (fs::temp_directory_path() / "fittings-tour").native();
     if (mkdir(m_work.c_str(), 0700) != 0) {
         m_work += "-XXXXXX";
         if (!mkdtemp(m_work.data())) {

@@ -81,6 +81,18 @@ wxPoint CentreOf(const wxRect& rect)
     return rect.GetPosition() + wxSize(rect.width / 2, rect.height / 2);
 }
 
+wxRect WidgetRect(GtkWidget* widget)
+{
+    if (!gtk_widget_get_realized(widget))
+        return {};
+    GtkAllocation place;
+    gtk_widget_get_allocation(widget, &place);
+    int x = 0;
+    int y = 0;
+    gdk_window_get_origin(gtk_widget_get_window(widget), &x, &y);
+    return {x + place.x, y + place.y, place.width, place.height};
+}
+
 wxRect LabelRect(const wxTreeCtrl& tree, const wxTreeItemId& item)
 {
     wxRect rect;
@@ -93,15 +105,7 @@ wxRect LabelRect(const wxTreeCtrl& tree, const wxTreeItemId& item)
 wxRect HeaderRect(const ContentsList& list, SortColumn column)
 {
     auto* handle = GTK_TREE_VIEW_COLUMN(list.GetColumn(static_cast<unsigned>(column))->GetGtkHandle());
-    GtkWidget* button = gtk_tree_view_column_get_button(handle);
-    if (!gtk_widget_get_realized(button))
-        return {};
-    GtkAllocation place;
-    gtk_widget_get_allocation(button, &place);
-    int x = 0;
-    int y = 0;
-    gdk_window_get_origin(gtk_widget_get_window(button), &x, &y);
-    return {x + place.x, y + place.y, place.width, place.height};
+    return WidgetRect(gtk_tree_view_column_get_button(handle));
 }
 
 wxRect NameRect(const ContentsList& list, unsigned row)

@@ -6,6 +6,7 @@
 #include <wx/defs.h>
 #include <wx/gdicmn.h>
 
+struct _GtkWidget;
 class wxTreeCtrl;
 class wxTreeItemId;
 
@@ -32,6 +33,8 @@ void Press(int key, int modifiers = wxMOD_NONE);
 /// @name What to point at, on the screen; empty when it cannot be seen
 /// @{
 wxPoint CentreOf(const wxRect& rect);
+/// Of a widget that is placed in the window it is drawn on, such as a button.
+wxRect WidgetRect(_GtkWidget* widget);
 wxRect LabelRect(const wxTreeCtrl& tree, const wxTreeItemId& item);
 wxRect HeaderRect(const ContentsList& list, SortColumn column);
 wxRect NameRect(const ContentsList& list, unsigned row);

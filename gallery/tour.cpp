@@ -81,14 +81,7 @@ std::string FileIn(GtkWidget* dialog)
 wxRect AcceptButton(GtkWidget* dialog)
 {
     GtkWidget* button = gtk_dialog_get_widget_for_response(GTK_DIALOG(dialog), GTK_RESPONSE_ACCEPT);
-    if (!button || !gtk_widget_is_sensitive(button))
-        return {};
-    GtkAllocation place;
-    gtk_widget_get_allocation(button, &place);
-    int x = 0;
-    int y = 0;
-    gdk_window_get_origin(gtk_widget_get_window(button), &x, &y);
-    return {x + place.x, y + place.y, place.width, place.height};
+    return button && gtk_widget_is_sensitive(button) ? simulated_user::WidgetRect(button) : wxRect();
 }
 
 /// What must be the same in the next session.

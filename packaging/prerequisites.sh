@@ -6,6 +6,7 @@ display_packages=(xvfb xauth openbox x11-utils librsvg2-common)
 test_packages=(libgtest-dev libgmock-dev xdotool x11-xkb-utils x11-xserver-utils imagemagick dpkg-dev file locales python3 weston)
 coverage_packages=(gcovr)
 bench_packages=(libbenchmark-dev libicu-dev)
+lint_packages=(clang-format-14 clang-tidy-14 cppcheck)
 package_packages=(dpkg-dev lintian appstream desktop-file-utils mmdebstrap)
 fuzz_packages=(clang libclang-rt-dev llvm locales)
 

@@ -78,8 +78,8 @@ DrivenDialog::DrivenDialog(const std::vector<std::string>& command, const std::s
     WaitFor("a dialog", [](const DialogState& state) { return !state.focus.empty(); });
     if (!m_child.IsRunning())
         return;
-    m_window = Xdotool({"search", "--sync", "--onlyvisible", "--name", "^" + title + "$"});
-    m_window = m_window.substr(0, m_window.find('\n'));
+    const std::string windows = Xdotool({"search", "--sync", "--onlyvisible", "--name", "^" + title + "$"});
+    m_window = windows.substr(0, windows.find('\n'));
     if (!State().message.empty())
         return;
     Xdotool({"windowactivate", "--sync", m_window});
@@ -95,6 +95,21 @@ void DrivenDialog::Type(const std::string& text)
 {
     Press("ctrl+a");
     Xdotool({"type", "--delay", "10", text});
+}
+
+void DrivenDialog::TypePath(const std::string& path)
+{
+    const auto isInEntry = [](const DialogState& state) {
+        return state.isActive && state.focus == "GtkFileChooserEntry" && !state.hasPopup;
+    };
+    Press("ctrl+l");
+    WaitFor("the entry", isInEntry);
+    Type(path);
+    WaitFor(path + " as understood", [&](const DialogState& state) {
+        // The entry may have put a separator behind a folder.
+        return isInEntry(state) && state.canAccept && state.file == path &&
+               (state.text == path || state.text == path + "/");
+    });
 }
 
 void DrivenDialog::WaitFor(const std::string& what, const std::function<bool(const DialogState&)>& isThere)

@@ -40,6 +40,9 @@ public:
     /// Types into the entry that has the focus, in place of what is in it.
     static void Type(const std::string& text);
 
+    /// Opens the location entry and types a path; returns when the dialog has understood it.
+    void TypePath(const std::string& path);
+
     /// Waits for a state; fails the test when it does not come.
     void WaitFor(const std::string& what, const std::function<bool(const DialogState&)>& isThere);
 

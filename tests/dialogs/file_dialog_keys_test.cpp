@@ -60,19 +60,6 @@ public:
         WaitForProposal(folder, name);
     }
 
-    /// Opens the location entry and types a path; returns when the dialog has understood it.
-    void TypePath(const std::string& path)
-    {
-        Press("ctrl+l");
-        WaitFor("the entry", [](const DialogState& state) {
-            return state.isActive && state.focus == "GtkFileChooserEntry" && !state.hasPopup;
-        });
-        Type(path);
-        WaitFor(path + " as understood", [&](const DialogState& state) {
-            return state.isActive && !state.hasPopup && state.canAccept && state.text == path && state.file == path;
-        });
-    }
-
 private:
     static std::map<std::string, std::optional<std::string>> Environment(const std::string& settings, const Call& call)
     {

@@ -17,7 +17,7 @@ class Dialog : public DrivenDialog
 {
 public:
     Dialog(std::vector<std::string> arguments, const std::string& title)
-        : DrivenDialog((arguments.insert(arguments.begin(), FOLDER_DIALOG_PROBE), arguments), title)
+        : DrivenDialog((arguments.insert(arguments.begin(), FOLDER_DIALOG_PROBE), std::move(arguments)), title)
     {
     }
 
@@ -27,21 +27,6 @@ public:
     {
         Press("alt+Home");
         WaitForFolder(HomeFolder());
-    }
-
-    /// Opens the location entry and types a path; returns when the dialog has understood it.
-    void TypePath(const std::string& path)
-    {
-        Press("ctrl+l");
-        WaitFor("the entry", [](const DialogState& state) {
-            return state.isActive && state.focus == "GtkFileChooserEntry" && !state.hasPopup;
-        });
-        Type(path);
-        WaitFor(path + " as understood", [&](const DialogState& state) {
-            // The entry may have put a separator behind the folder.
-            return state.isActive && state.focus == "GtkFileChooserEntry" && !state.hasPopup && state.canAccept &&
-                   state.file == path && (state.text == path || state.text == path + "/");
-        });
     }
 
     void WaitForFolder(const std::string& folder)

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tests/numedit/unusual_format.h>
+
 namespace {
 
 void ExpectFixed(const CNumberFormat& format)
@@ -48,51 +50,6 @@ void ExpectPosixLocale(const CNumberFormat& format)
     EXPECT_EQ(format.m_dMax, 0);
 }
 
-/// The locale's preset with every field unlike either preset's.
-CNumberFormat Unusual()
-{
-    CNumberFormat format(eLocaleFormat);
-    format.m_bPadDecimals = true;
-    format.m_bRoundDecimals = true;
-    format.m_bAllowSign = false;
-    format.m_bGroupDigits = true;
-    format.m_bTrailingMinus = true;
-    format.m_bAllowExponent = true;
-    format.m_chDecimalPoint = L'\u066b';
-    format.m_chThousandsSep = L'\'';
-    format.m_strTemplate = L"%s \u20ac";
-    format.m_bHasDecimals = true;
-    format.m_nDecimals = UINT64_MAX;
-    format.m_bHasMaxIntDigits = true;
-    format.m_nMaxIntDigits = 9;
-    format.m_bHasMin = true;
-    format.m_dMin = -1.5;
-    format.m_bHasMax = true;
-    format.m_dMax = 2.5;
-    return format;
-}
-
-void ExpectUnusual(const CNumberFormat& format)
-{
-    EXPECT_TRUE(format.m_bPadDecimals);
-    EXPECT_TRUE(format.m_bRoundDecimals);
-    EXPECT_FALSE(format.m_bAllowSign);
-    EXPECT_TRUE(format.m_bGroupDigits);
-    EXPECT_TRUE(format.m_bTrailingMinus);
-    EXPECT_TRUE(format.m_bAllowExponent);
-    EXPECT_EQ(format.m_chDecimalPoint, L'\u066b');
-    EXPECT_EQ(format.m_chThousandsSep, L'\'');
-    EXPECT_EQ(format.m_strTemplate, L"%s \u20ac");
-    EXPECT_TRUE(format.m_bHasDecimals);
-    EXPECT_EQ(format.m_nDecimals, UINT64_MAX);
-    EXPECT_TRUE(format.m_bHasMaxIntDigits);
-    EXPECT_EQ(format.m_nMaxIntDigits, 9u);
-    EXPECT_TRUE(format.m_bHasMin);
-    EXPECT_EQ(format.m_dMin, -1.5);
-    EXPECT_TRUE(format.m_bHasMax);
-    EXPECT_EQ(format.m_dMax, 2.5);
-}
-
 TEST(NumberFormat, NamesItsPresets)
 {
     EXPECT_EQ(static_cast<int>(eLocaleFormat), 0);
@@ -131,7 +88,7 @@ TEST(NumberFormat, FillsEveryFieldOfTheLocalePreset)
 
 TEST(NumberFormat, CopiesEveryField)
 {
-    CNumberFormat original = Unusual();
+    CNumberFormat original = UnusualFormat();
     const CNumberFormat copy(original);
     original = CNumberFormat(eFixedFormat);
     ExpectUnusual(copy);
@@ -141,7 +98,7 @@ TEST(NumberFormat, AssignsEveryField)
 {
     CNumberFormat fixed(eFixedFormat);
     CNumberFormat locale(eLocaleFormat);
-    const CNumberFormat unusual = Unusual();
+    const CNumberFormat unusual = UnusualFormat();
     EXPECT_EQ(&(fixed = unusual), &fixed);
     ExpectUnusual(fixed);
     fixed = locale;
@@ -171,7 +128,7 @@ TEST(NumberFormat, AssignsEachFlagByItself)
 
 TEST(NumberFormat, StaysAsItIsWhenAssignedToItself)
 {
-    CNumberFormat format = Unusual();
+    CNumberFormat format = UnusualFormat();
     const CNumberFormat& same = format;
     format = same;
     ExpectUnusual(format);
@@ -183,7 +140,7 @@ TEST(NumberFormat, StaysAsItIsWhenAssignedToItself)
 
 TEST(NumberFormat, OwnsItsTemplate)
 {
-    CNumberFormat original = Unusual();
+    CNumberFormat original = UnusualFormat();
     const CNumberFormat copy(original);
     CNumberFormat assigned(eFixedFormat);
     assigned = original;

@@ -13,51 +13,10 @@
 #include <wx/srchctrl.h>
 
 #include <tests/numedit/number_dialog.h>
+#include <tests/numedit/unusual_format.h>
 #include <tests/support/gui.h>
 
 namespace {
-
-CNumberFormat UnusualFormat()
-{
-    CNumberFormat format(eFixedFormat);
-    format.m_bPadDecimals = false;
-    format.m_bRoundDecimals = true;
-    format.m_bAllowSign = false;
-    format.m_bGroupDigits = false;
-    format.m_bTrailingMinus = false;
-    format.m_bAllowExponent = true;
-    format.m_chDecimalPoint = 0x66B;
-    format.m_chThousandsSep = 0x66C;
-    format.m_strTemplate = L"%s \u20AC";
-    format.m_nDecimals = 7;
-    format.m_nMaxIntDigits = 9;
-    format.m_bHasMin = true;
-    format.m_dMin = -1.5;
-    format.m_bHasMax = true;
-    format.m_dMax = 2.5;
-    return format;
-}
-
-void ExpectUnusual(const CNumberFormat& format)
-{
-    EXPECT_FALSE(format.m_bPadDecimals);
-    EXPECT_TRUE(format.m_bRoundDecimals);
-    EXPECT_FALSE(format.m_bAllowSign);
-    EXPECT_FALSE(format.m_bGroupDigits);
-    EXPECT_FALSE(format.m_bTrailingMinus);
-    EXPECT_TRUE(format.m_bAllowExponent);
-    EXPECT_EQ(format.m_chDecimalPoint, 0x66B);
-    EXPECT_EQ(format.m_chThousandsSep, 0x66C);
-    EXPECT_EQ(format.m_strTemplate, L"%s \u20AC");
-    EXPECT_TRUE(format.m_bHasDecimals);
-    EXPECT_EQ(format.m_nDecimals, 7U);
-    EXPECT_TRUE(format.m_bHasMaxIntDigits);
-    EXPECT_EQ(format.m_nMaxIntDigits, 9U);
-    EXPECT_TRUE(format.m_bHasMin);
-    EXPECT_EQ(format.m_dMin, -1.5);
-    EXPECT_TRUE(format.m_bHasMax);
-    EXPECT_EQ(format.m_dMax, 2.5);
-}
 
 TEST(Validator, KeepsWhatItWasMadeWith)
 {

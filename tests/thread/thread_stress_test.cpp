@@ -64,13 +64,13 @@ private:
 class EndlessPoster : public wxGUIThreadEx
 {
 public:
-    explicit EndlessPoster(Counter& handler) : wxGUIThreadEx(&handler, Counter::kType), m_handler(handler) {}
+    explicit EndlessPoster(Counter& handler) : wxGUIThreadEx(&handler, Counter::kType), m_counter(handler) {}
 
     wxThread::ExitCode Entry() override
     {
         int posted = 0;
         while (DoContinue()) {
-            if (posted - m_handler.handled > 100)
+            if (posted - m_counter.handled > 100)
                 wxThread::Yield();
             else if (PostEvent(posted, 0L))
                 ++posted;
@@ -79,7 +79,7 @@ public:
     }
 
 private:
-    const Counter& m_handler;
+    const Counter& m_counter;
 };
 
 TEST(AThousandCycles, OfStartPostStopAndWaitLoseNothing)

@@ -1,0 +1,12 @@
+#ifndef FITTINGS_TESTS_NUMEDIT_UNUSUAL_FORMAT_H_
+#define FITTINGS_TESTS_NUMEDIT_UNUSUAL_FORMAT_H_
+
+#include <fittings/numedit/number_format.h>
+
+/// The locale's preset with every field changed.
+CNumberFormat UnusualFormat();
+
+/// Expects every field to be as in UnusualFormat().
+void ExpectUnusual(const CNumberFormat& format);
+
+#endif
