@@ -1,9 +1,11 @@
-# What run, check and bench/run share: the packages that each job needs, and how a preset is built.
+# What run, check, bench/run and docs/build share: the packages that each job needs, and how a preset is built.
 # Sourced with the project's folder as the current one.
 
 build_packages=(g++ cmake ninja-build pkg-config gettext libwxgtk3.2-dev libglib2.0-dev libgtk-3-dev)
 display_packages=(xvfb xauth openbox x11-utils librsvg2-common)
 test_packages=(libgtest-dev libgmock-dev xdotool x11-xkb-utils x11-xserver-utils imagemagick dpkg-dev file locales python3 weston)
+docs_packages=(doxygen doxygen-awesome-css)
+picture_packages=(pngquant)
 coverage_packages=(gcovr)
 bench_packages=(libbenchmark-dev libicu-dev)
 lint_packages=(clang-format-14 clang-tidy-14 cppcheck)

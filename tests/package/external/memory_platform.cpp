@@ -9,11 +9,13 @@
 #include <fittings/platform/local_reg_store.h>
 #include <fittings/platform/std_file_paths.h>
 
+//! [file]
 class CIniFile
 {
 public:
     std::map<std::pair<std::wstring, std::wstring>, std::wstring> values;
 };
+//! [file]
 
 namespace {
 
@@ -40,6 +42,7 @@ const MemoryStore& GetMemoryStore()
     return g_store;
 }
 
+//! [load]
 CIniFile* CLocalRegStore::CreateInitFile(bool)
 {
     return new CIniFile;
@@ -55,6 +58,7 @@ bool CLocalRegStore::Load(CIniFile& ini, const wchar_t* path)
     }
     return g_files.count(Text(path)) != 0;
 }
+//! [load]
 
 std::wstring CLocalRegStore::GetString(const CIniFile& ini, const wchar_t* section, const wchar_t* key,
                                        const wchar_t* defaultValue)
@@ -81,6 +85,7 @@ void CLocalRegStore::DestroyIniFile(CIniFile* ini)
     delete ini;
 }
 
+//! [default store]
 std::wstring CLocalRegStore::GetString(const wchar_t* section, const wchar_t* key, const wchar_t* defaultValue)
 {
     const auto found = g_store.find({L"", Text(section), Text(key)});
@@ -92,6 +97,7 @@ bool CLocalRegStore::WriteString(const wchar_t* section, const wchar_t* key, con
     g_store[{L"", Text(section), Text(key)}] = Text(value);
     return true;
 }
+//! [default store]
 
 bool CLocalRegStore::GetProfileBool(const wchar_t* section, const wchar_t* key, bool defaultValue)
 {
