@@ -18,11 +18,6 @@
 
 namespace {
 
-struct DestroyWindow
-{
-    void operator()(wxWindow* window) const { window->Destroy(); }
-};
-
 // A popup with both boxes, and a picture of its size to paint on.
 class Popup
 {
@@ -42,7 +37,7 @@ public:
     }
 
 private:
-    std::unique_ptr<wxFrame, DestroyWindow> m_frame;
+    std::unique_ptr<wxFrame> m_frame;
 
 public:
     wxColourPopup& popup;
