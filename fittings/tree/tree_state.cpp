@@ -1,138 +1,20 @@
 #include <fittings/tree/tree_state.h>
 
 #include <algorithm>
-#include <cstdint>
-#include <functional>
-#include <memory_resource>
 #include <string_view>
-#include <unordered_set>
 #include <utility>
 #include <vector>
 
 #include <wx/wupdlock.h>
 
+#include <fittings/tree/label_set.h>
+
 namespace {
-
-constexpr wchar_t kSeparator = L'|';
-
-using LabelSet = std::unordered_set<std::wstring_view>;
 
 std::wstring_view View(const wxString& text)
 {
     return std::wstring_view(text.wc_str(), text.length());
 }
-
-// The labels of a state text. They point into it. What follows the last separator is no label.
-LabelSet SplitLabels(std::wstring_view text)
-{
-    LabelSet labels;
-    for (size_t end = text.find(kSeparator); end != text.npos; end = text.find(kSeparator)) {
-        labels.insert(text.substr(0, end));
-        text.remove_prefix(end + 1);
-    }
-    return labels;
-}
-
-// Sorts by merging what is in order already: siblings mostly are, and then one comparison each is enough.
-template <typename T, typename Less>
-void MergeRuns(std::vector<T>& items, Less less)
-{
-    std::vector<size_t> ends{0};
-    for (size_t i = 1; i < items.size(); ++i) {
-        if (less(items[i], items[i - 1]))
-            ends.push_back(i);
-    }
-    ends.push_back(items.size());
-    while (ends.size() > 2) {
-        size_t kept = 1;
-        for (size_t i = 2; i < ends.size(); i += 2) {
-            const auto begin = items.begin();
-            std::inplace_merge(begin + ends[i - 2], begin + ends[i - 1], begin + ends[i], less);
-            ends[kept++] = ends[i];
-        }
-        if (ends.size() % 2 == 0)
-            ends[kept++] = ends.back();
-        ends.resize(kept);
-    }
-}
-
-// The labels whose last visited item is expanded. A label that was only seen collapsed is no different from one that was
-// never seen, so it takes no room. There may be a hundred thousand of them and more: they share an open hash table and
-// blocks of memory, instead of an allocation each.
-class ExpandedLabelSet
-{
-public:
-    ExpandedLabelSet() : m_slots(1024) {}
-
-    void Note(std::wstring_view label, bool expanded)
-    {
-        const auto hash = static_cast<std::uint32_t>(std::hash<std::wstring_view>()(label));
-        size_t slot = FirstSlot(hash);
-        for (; m_slots[slot]; slot = NextSlot(slot)) {
-            Entry& entry = m_entries[m_slots[slot] - 1];
-            if (entry.hash == hash && entry.label == label) {
-                entry.expanded = expanded;
-                return;
-            }
-        }
-        if (!expanded)
-            return;
-        m_entries.push_back({Keep(label), hash, true});
-        m_length += label.size() + 1;
-        m_slots[slot] = static_cast<std::uint32_t>(m_entries.size());
-        // Most labels are looked up in vain, which a sparse table answers by its first slot.
-        if (m_entries.size() > m_slots.size() / 4)
-            Grow();
-    }
-
-    // The labels as a state text. Ends the use of the set.
-    std::wstring TakeText()
-    {
-        m_entries.erase(std::remove_if(m_entries.begin(), m_entries.end(), [](const Entry& e) { return !e.expanded; }),
-                        m_entries.end());
-        MergeRuns(m_entries, [](const Entry& a, const Entry& b) { return a.label < b.label; });
-        std::wstring text;
-        text.reserve(m_length);
-        for (const Entry& entry : m_entries)
-            text.append(entry.label).push_back(kSeparator);
-        return text;
-    }
-
-private:
-    struct Entry
-    {
-        std::wstring_view label;
-        std::uint32_t hash;
-        bool expanded;
-    };
-
-    std::wstring_view Keep(std::wstring_view label)
-    {
-        auto* copy = static_cast<wchar_t*>(m_memory.allocate(label.size() * sizeof(wchar_t), alignof(wchar_t)));
-        std::copy(label.begin(), label.end(), copy);
-        return {copy, label.size()};
-    }
-
-    size_t FirstSlot(std::uint32_t hash) const { return hash & (m_slots.size() - 1); }
-    size_t NextSlot(size_t slot) const { return (slot + 1) & (m_slots.size() - 1); }
-
-    void Grow()
-    {
-        m_slots.assign(m_slots.size() * 2, 0);
-        std::uint32_t number = 0;
-        for (const Entry& entry : m_entries) {
-            size_t slot = FirstSlot(entry.hash);
-            while (m_slots[slot])
-                slot = NextSlot(slot);
-            m_slots[slot] = ++number;
-        }
-    }
-
-    std::pmr::monotonic_buffer_resource m_memory;
-    std::vector<Entry> m_entries;
-    std::vector<std::uint32_t> m_slots;  // The number of an entry, from 1, or 0.
-    size_t m_length = 0;                 // Of the text, unless labels are collapsed again.
-};
 
 // A place among the children of an item. Unlike GetNextSibling(), which searches for the item that it is given, a step
 // takes the same time wherever it is made.
@@ -156,7 +38,7 @@ private:
 class ExpandingWalk
 {
 public:
-    ExpandingWalk(wxTreeCtrl& tree, const LabelSet& labels) : m_tree(tree), m_labels(labels)
+    ExpandingWalk(wxTreeCtrl& tree, const fittings::LabelSet& labels) : m_tree(tree), m_labels(labels)
     {
         m_tree.Bind(wxEVT_TREE_DELETE_ITEM, &ExpandingWalk::OnDeleteItem, this);
     }
@@ -185,7 +67,7 @@ private:
     void Visit()
     {
         const wxTreeItemId item = m_path.back().item;
-        if (m_labels.count(View(m_tree.GetItemText(item))) && !IsHiddenRoot(item))
+        if (m_labels.Has(View(m_tree.GetItemText(item))) && !IsHiddenRoot(item))
             m_tree.Expand(item);
     }
 
@@ -253,7 +135,7 @@ private:
     }
 
     wxTreeCtrl& m_tree;
-    const LabelSet& m_labels;
+    const fittings::LabelSet& m_labels;
     std::vector<Step> m_path;  // From the start to the item being visited: a deep tree must not use up the stack.
 };
 
@@ -270,7 +152,7 @@ std::wstring ExpandedLabels(const wxTreeCursor& start)
         Place place;
     };
     const wxTreeCtrl& tree = *start.tree;
-    ExpandedLabelSet labels;
+    LabelSet labels;
     std::vector<Level> levels;
     const auto visit = [&](const wxTreeItemId& item) {
         labels.Note(View(tree.GetItemText(item)), tree.IsExpanded(item));
@@ -292,7 +174,7 @@ std::wstring ExpandedLabels(const wxTreeCursor& start)
 void ExpandLabels(const std::wstring& text, const wxTreeCursor& start)
 {
     wxCHECK_RET(start.tree && start.IsOk(), "invalid tree item");
-    const LabelSet labels = SplitLabels(text);
+    const LabelSet labels(text);
     // Each expansion alone would lay out the whole tree again. A control that is not created cannot be frozen.
     wxWindowUpdateLocker frozen;
     if (start.tree->GetHandle())
