@@ -2,7 +2,6 @@
 
 #include <fittings/platform/local_reg_store.h>
 
-#include <chrono>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -12,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <tests/platform/store_support.h>
+#include <tests/support/processor_time.h>
 #include <tests/support/temp_folder.h>
 
 namespace {
@@ -376,9 +376,8 @@ TEST(DeletingAKeyOfManyNames, TakesLinearTimeInTheNamesThatItHas)
     for (unsigned n = 0; n < 20'000; ++n)
         bytes += NthName(n) + "=v\n";
     WriteFile(data / "settings.ini", bytes + "l=w\n");
-    const auto start = std::chrono::steady_clock::now();
-    EXPECT_TRUE(CLocalRegStore::DeleteProfile(L"s", std::wstring(24, L'k').c_str()));
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
+    const auto remove = [] { EXPECT_TRUE(CLocalRegStore::DeleteProfile(L"s", std::wstring(24, L'k').c_str())); };
+    EXPECT_LT(ProcessorSeconds(remove), 10);
     EXPECT_EQ(ReadFile(data / "settings.ini"), "[s]\nl=w\n");
 }
 
