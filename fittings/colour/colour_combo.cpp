@@ -7,7 +7,11 @@
 #include <wx/dcmemory.h>
 #include <wx/dcscreen.h>
 #include <wx/renderer.h>
+#include <wx/textctrl.h>
 
+#include <fittings/base/accessible.h>
+#include <fittings/colour/colour_popup.h>
+#include <fittings/colour/colour_text.h>
 #include <fittings/colour/direct_drawing.h>
 #include <fittings/colour/outline_window.h>
 
@@ -83,6 +87,22 @@ void wxColourCombo::DrawButton(wxDC& dc, const wxRect& rect, int flags)
     wxComboCtrl::DrawButton(dc, rect, flags);
     if (ShouldDrawFocus())
         wxRendererNative::Get().DrawFocusRect(this, dc, wxRect(rect).Deflate(kFocusInset));
+}
+
+void wxColourCombo::OnInternalIdle()
+{
+    wxComboCtrl::OnInternalIdle();
+    const wxString label = GetLabelText();
+    const auto* const colours = dynamic_cast<wxColourPopup*>(m_popupInterface);
+    // The focus stays here while the popup is open, and what is said of it is of the hot cell.
+    fittings::Describe(*this, fittings::AccessibleRole::ComboBox, label,
+                       colours ? fittings::SpokenText(*colours) : GetValue());
+    wxTextCtrl* const text = GetTextCtrl();
+    if (!text)
+        return;
+    if (!label.empty())
+        fittings::Describe(*text, fittings::AccessibleRole::Text, label, "");
+    fittings::LabelPart(*this, *text);
 }
 
 bool wxColourCombo::AnimateShow(const wxRect& rect, int flags)

@@ -38,6 +38,9 @@ class OutlineWindow;
 /// The face shows the colour in effect. The control is reached by Tab and opened by F4 and Alt+Down, with wxCB_READONLY
 /// too; the toolkit's own combo control refuses the focus then.
 ///
+/// A screen reader says the colour in effect by its name, and before it the static text that is made before the control,
+/// whose mnemonic leads to the control, or what SetLabel() gives it. In the open popup it says the name of each hot cell.
+///
 /// Where no program may place its windows or copy the screen, as on Wayland, the popup opens at once. Closing the popup
 /// while the animation runs ends the animation, and the popup is shown all the same. Keys have no effect until then.
 /// wxComboCtrl::EnablePopupAnimation() turns the animation off.
@@ -68,6 +71,9 @@ public:
 
     /// Leaves the popup out of what the focus is passed on to, which would make the control refuse it.
     bool IsClientAreaChild(const wxWindow* child) const override;
+
+    /// Tells assistive technologies of the colour in effect.
+    void OnInternalIdle() override;
 
     /// One step of the animation; the last one shows the popup. The event is not used.
     void OnTimerEvent(wxTimerEvent& event);

@@ -7,6 +7,7 @@
 #include <wx/settings.h>
 #include <wx/translation.h>
 
+#include <fittings/base/accessible.h>
 #include <fittings/base/or_empty.h>
 #include <fittings/colour/colour_text.h>
 
@@ -218,6 +219,19 @@ void wxColourPopup::SetStringValue(const wxString& value)
             return;
         }
     }
+}
+
+void wxColourPopup::OnInternalIdle()
+{
+    wxWindow::OnInternalIdle();
+    fittings::Describe(*this, fittings::AccessibleRole::Grid, m_combo ? m_combo->GetLabelText() : wxString(),
+                       fittings::SpokenText(*this));
+}
+
+wxString fittings::SpokenText(const wxColourPopup& popup)
+{
+    const wxString hot = popup.IsShownOnScreen() ? popup.GetStringValue().Trim() : wxString();
+    return hot.empty() ? ColourName(popup.GetInitialColour()) : hot;
 }
 
 bool wxColourPopup::Create(wxWindow* parent)

@@ -161,6 +161,9 @@ public:
     wxWindow* GetControl() override { return this; }
     /// @}
 
+    /// Tells assistive technologies of the hot cell, or of the colour in effect.
+    void OnInternalIdle() override;
+
     /// @name Drawing
     /// @{
 

@@ -3,6 +3,8 @@
 #include <array>
 #include <cstddef>
 
+#include <wx/colour.h>
+#include <wx/string.h>
 #include <wx/translation.h>
 
 #include <fittings/colour/colour_text.h>
@@ -96,6 +98,16 @@ const wchar_t* fittings::ColourText(const wchar_t* key)
 {
     static CLanguageDomain everyCatalogue;
     return lng_util_internal::DoGetResourceString(key, &everyCatalogue);
+}
+
+wxString fittings::ColourName(const wxColour& colour)
+{
+    for (int i = 0; i < kColourCount; ++i) {
+        const ColourTableEntry& entry = GetColourTable()[i];
+        if (entry.szName && entry.crColour == colour.GetRGB())
+            return wxString(entry.szName).Trim();
+    }
+    return colour.GetAsString(wxC2S_HTML_SYNTAX);
 }
 
 const ColourTableEntry* GetColourTable()

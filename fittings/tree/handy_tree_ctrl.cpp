@@ -3,6 +3,7 @@
 #include <wx/cursor.h>
 #include <wx/imaglist.h>
 
+#include <fittings/base/accessible.h>
 #include <fittings/platform/local_reg_store.h>
 #include <fittings/tree/tree_state.h>
 
@@ -90,6 +91,15 @@ void wxHandyTreeCtrl::OnEvtItemExpanding(wxTreeEvent& event)
 {
     const BusyCursor busy;
     OnItemExpanding(wxTreeCursor(this, event.GetItem()));
+}
+
+void wxHandyTreeCtrl::OnInternalIdle()
+{
+    wxTreeCtrlEx::OnInternalIdle();
+    const wxTreeItemId item = GetFocusedItem();
+    fittings::Describe(*this, fittings::AccessibleRole::Tree, GetLabelText(),
+                       item.IsOk() ? GetItemText(item) : wxString());
+    fittings::LabelPart(*this, *this);
 }
 
 void wxHandyTreeCtrl::OnItemExpanding(const wxTreeCursor&) {}

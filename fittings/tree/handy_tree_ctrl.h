@@ -31,7 +31,12 @@ class wxImageList;
 ///
 /// The state is the set of the labels of expanded items, not of their paths: of several items with one label, the last
 /// one in the tree decides whether it is saved, and loading expands all of them. A label with a "|" in it is taken for
-/// two. The state is kept in the default store, section "TreeControlState". GUI thread only.
+/// two. The state is kept in the default store, section "TreeControlState".
+///
+/// A screen reader says the label of the item that the keyboard moves to, and with it the static text that is made before
+/// the control, or what SetLabel() gives it.
+///
+/// GUI thread only.
 class FITTINGS_API wxHandyTreeCtrl : public wxTreeCtrlEx
 {
 public:
@@ -86,6 +91,9 @@ public:
     /// to, to veto it for example, calls Bind() on the control, is asked first, and skips the event if the item is to be
     /// filled.
     void OnEvtItemExpanding(wxTreeEvent& event);
+
+    /// Tells assistive technologies of the item that has the focus in the tree.
+    void OnInternalIdle() override;
 
     /// Called each time an item is about to expand, for the children to be filled in. Does nothing here.
     ///

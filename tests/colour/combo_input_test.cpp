@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <wx/button.h>
+#include <wx/stattext.h>
 #include <wx/textctrl.h>
 #include <wx/uiaction.h>
 #include <wx/weakref.h>
@@ -218,6 +219,22 @@ TEST_P(ColourComboByKeys, IsReachedByTabOnceThePopupHasBeenOpen)
     ExpectShown();
     Press(WXK_ESCAPE);
     ExpectHidden();
+}
+
+TEST_P(ColourComboByKeys, IsReachedByTheMnemonicOfItsLabel)
+{
+    auto* const label = new wxStaticText(panel, wxID_ANY, "&Line");
+    label->MoveBeforeInTabOrder(combo);
+    before->SetFocus();
+    EXPECT_TRUE(PumpUntil([&] { return before->HasFocus(); }));
+    Press('L', wxMOD_ALT);
+    EXPECT_TRUE(PumpUntil([&] { return HasFocus(); }));
+    // The toolkit leads the label to the control itself then.
+    after->MoveBeforeInTabOrder(before);
+    after->SetFocus();
+    EXPECT_TRUE(PumpUntil([&] { return after->HasFocus(); }));
+    Press('L', wxMOD_ALT);
+    EXPECT_TRUE(PumpUntil([&] { return HasFocus(); }));
 }
 
 TEST_P(ColourComboByKeys, OpensByF4AndGivesTheColourOfReturn)
