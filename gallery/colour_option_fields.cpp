@@ -8,6 +8,7 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
+#include "accessible_name.h"
 #include "colour_field.h"
 #include "colour_settings.h"
 #include "page_layout.h"
@@ -136,19 +137,20 @@ wxSizer* ColourOptionFields::MakeBoxes()
 {
     const ColourOptions first;
     auto* grid = MakeGrid(*this, 2);
-    const auto makeText = [&](const char* name) {
+    const auto makeText = [&](const char* name, const wxString& accessibleName) {
         auto* text = new wxTextCtrl(this, wxID_ANY, "", wxDefaultPosition, FromDIP(wxSize(kFieldWidth, -1)));
         text->SetName(name);
         text->SetHint("Its own text");
+        SetAccessibleName(text, accessibleName);
         grid->Add(text, wxSizerFlags().CentreVertical());
         return text;
     };
     m_hasAutomatic = MakeFlag("HasAutomatic", "&Automatic", first.hasAutomatic);
     grid->Add(m_hasAutomatic, wxSizerFlags().CentreVertical());
-    m_automatic = makeText("Automatic");
+    m_automatic = makeText("Automatic", "Text of Automatic");
     m_hasMore = MakeFlag("HasMoreColours", "&More Colours...", first.hasMore);
     grid->Add(m_hasMore, wxSizerFlags().CentreVertical());
-    m_more = makeText("MoreColours");
+    m_more = makeText("MoreColours", "Text of More Colours");
     grid->Add(new wxStaticText(this, wxID_ANY, "&Default colour"), wxSizerFlags().CentreVertical());
     m_default = new ColourField(this, [this] { OnChange(); });
     m_default->SetName("Default");
@@ -182,6 +184,7 @@ wxSizer* ColourOptionFields::MakeBehaviour()
     m_animate = MakeFlag("Animate", "A&nimate the opening", first.animate);
     m_duration = MakeCount("Duration", first.duration, 50, 2000);
     m_duration->SetIncrement(50);
+    SetAccessibleName(m_duration, "Milliseconds");
     auto* animation = new wxBoxSizer(wxHORIZONTAL);
     animation->Add(m_animate, wxSizerFlags().CentreVertical().Border(wxRIGHT, FromDIP(kGap)));
     animation->Add(m_duration, wxSizerFlags().CentreVertical().Border(wxRIGHT, FromDIP(kGap)));

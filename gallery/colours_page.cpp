@@ -1,6 +1,5 @@
 #include "colours_page.h"
 
-#include <gtk/gtk.h>
 #include <wx/bitmap.h>
 #include <wx/button.h>
 #include <wx/dataview.h>
@@ -12,6 +11,7 @@
 #include <fittings/colour/colour_combo.h>
 #include <fittings/colour/colour_table.h>
 
+#include "accessible_name.h"
 #include "colour_option_fields.h"
 #include "colour_settings.h"
 #include "page_layout.h"
@@ -65,13 +65,6 @@ wxSizer* MakeHeader(wxStaticText* heading)
     header->SetMinSize(heading->FromDIP(wxSize(-1, kHeaderHeight)));
     header->Add(heading, wxSizerFlags(1).CentreVertical());
     return header;
-}
-
-/// Lets the label's mnemonic lead to the combo. Where it has a text field, GTK would refuse to focus what holds the field.
-gboolean OnMnemonic(GtkWidget*, gboolean, wxColourCombo* combo)
-{
-    combo->SetFocus();
-    return TRUE;
 }
 
 }  // namespace
@@ -158,6 +151,7 @@ wxSizer* ColoursPage::MakeEvents()
     wxStaticText* heading = MakeHeading(this, "What the host &learns");
     m_events = new wxDataViewListCtrl(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxDV_SINGLE | wxBORDER_THEME);
     m_events->SetName("Events");
+    SetAccessibleName(m_events, "What the host learns");
     m_events->SetMinSize(FromDIP(wxSize(320, kBlockHeight)));
     m_events->AppendTextColumn("Call or event", wxDATAVIEW_CELL_INERT, FromDIP(kCallWidth));
     m_events->AppendIconTextColumn("Colour", wxDATAVIEW_CELL_INERT, FromDIP(kColourWidth));
@@ -193,7 +187,6 @@ void ColoursPage::MakeCombo()
     m_combo = MakeColourCombo(this, m_options->GetOptions(), m_colour, this);
     m_combo->SetName("Combo");
     m_combo->MoveAfterInTabOrder(m_label);
-    g_signal_connect(m_combo->GetHandle(), "mnemonic-activate", G_CALLBACK(OnMnemonic), m_combo);
     m_combo->Bind(wxEVT_COMBOBOX_DROPDOWN, [this](wxCommandEvent&) { Note("wxEVT_COMBOBOX_DROPDOWN"); });
     m_combo->Bind(wxEVT_COMBOBOX_CLOSEUP, [this](wxCommandEvent&) { Note("wxEVT_COMBOBOX_CLOSEUP"); });
     m_choice->Insert(1, m_combo, wxSizerFlags().Expand());

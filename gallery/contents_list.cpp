@@ -8,6 +8,7 @@
 #include <gtk/gtk.h>
 #include <wx/artprov.h>
 
+#include "accessible_name.h"
 #include "native_text.h"
 
 namespace fittings {
@@ -179,6 +180,7 @@ ContentsList::ContentsList(wxWindow* parent)
       m_model(new ContentsModel)
 {
     SetName("Contents");
+    SetAccessibleName(this, "Contents of the folder");
     SetMinSize(FromDIP(wxSize(200, 80)));
     AssociateModel(m_model.get());
 

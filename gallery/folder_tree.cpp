@@ -58,6 +58,7 @@ FolderTree::FolderTree(wxWindow* parent)
 {
     Create(parent);
     SetName("Folders");
+    SetLabel("Folders");
     SetMinSize(FromDIP(wxSize(120, 80)));
 
     wxImageList* images = GetImageList();

@@ -14,6 +14,7 @@
 #include <fittings/base/version.h>
 #include <fittings/config/wx_window_state.h>
 
+#include "accessible_name.h"
 #include "browser_page.h"
 #include "browser_settings.h"
 #include "colours_page.h"
@@ -43,6 +44,7 @@ GalleryFrame::GalleryFrame() : wxFrame(nullptr, wxID_ANY, "Fittings Gallery")
     CreateStatusBar(2)->SetStatusWidths(2, widths);
 
     m_pages = new wxNotebook(this, wxID_ANY);
+    SetAccessibleName(m_pages, "Pages");
     m_browser = new BrowserPage(m_pages);
     m_pages->AddPage(m_browser, "Disk usage");
     m_numbers = new NumbersPage(m_pages);

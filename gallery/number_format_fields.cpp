@@ -15,6 +15,7 @@
 #include <fittings/config/ui_config_mgr.h>
 #include <fittings/numedit/num_validator.h>
 
+#include "accessible_name.h"
 #include "page_layout.h"
 
 namespace fittings {
@@ -293,18 +294,22 @@ wxSizer* NumberFormatFields::MakeLimits()
     auto* grid = new wxFlexGridSizer(2, FromDIP(wxSize(kGap, kGap)));
     grid->SetFlexibleDirection(wxHORIZONTAL);
     for (const Count& count : kCounts) {
-        grid->Add(MakeFlag(count.flag), wxSizerFlags().CentreVertical());
+        wxCheckBox* const flag = MakeFlag(count.flag);
+        grid->Add(flag, wxSizerFlags().CentreVertical());
         auto* field =
             new wxSpinCtrl(this, wxID_ANY, "0", wxDefaultPosition, wxDefaultSize, wxSP_ARROW_KEYS, 0, kLargestCount);
         field->SetName(count.name);
+        SetAccessibleName(field, flag->GetLabelText());
         m_counts.push_back(field);
         grid->Add(field, wxSizerFlags().Expand());
     }
     for (const Bound& bound : kBounds) {
-        grid->Add(MakeFlag(bound.flag), wxSizerFlags().CentreVertical());
+        wxCheckBox* const flag = MakeFlag(bound.flag);
+        grid->Add(flag, wxSizerFlags().CentreVertical());
         auto* field = new wxTextCtrl(this, wxID_ANY, "", wxDefaultPosition, FromDIP(wxSize(130, -1)), 0,
                                      wxNumValidator(BoundFormat(), nullptr));
         field->SetName(bound.name);
+        SetAccessibleName(field, flag->GetLabelText());
         m_bounds.push_back(field);
         grid->Add(field, wxSizerFlags().Expand());
     }
