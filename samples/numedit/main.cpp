@@ -12,7 +12,6 @@ public:
     {
         m_format.m_bHasMin = true;
         m_format.m_dMin = 0.01;
-        m_format.m_bAllowSign = false;
         m_format.m_strTemplate = L"%s EUR";
 
         auto* panel = new wxPanel(this);

@@ -75,8 +75,10 @@ void TakeOver(wxFrame* frame)
     // The first start of the new version: the geometry is still where the earlier one has left it.
     const wxConfigBase& earlier = *wxConfigBase::Get();
     const wxString path = "/Persistent_Options/Window/Main/";
-    frame->SetSize(earlier.ReadLong(path + "x", wxDefaultCoord), earlier.ReadLong(path + "y", wxDefaultCoord),
-                   earlier.ReadLong(path + "w", wxDefaultCoord), earlier.ReadLong(path + "h", wxDefaultCoord));
+    wxRect rect;
+    if (earlier.Read(path + "x", &rect.x) && earlier.Read(path + "y", &rect.y) &&
+        earlier.Read(path + "w", &rect.width) && earlier.Read(path + "h", &rect.height))
+        frame->SetSize(rect);
     if (earlier.ReadBool(path + "Maximized", false))
         wx_window_state::MaximizeFrame(frame);
 }
