@@ -5,13 +5,10 @@
 #include <algorithm>
 #include <csignal>
 #include <filesystem>
-#include <fstream>
 #include <string>
 #include <vector>
 
 #include <fcntl.h>
-#include <sched.h>
-#include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -22,6 +19,7 @@
 #include <tests/platform/forked_work.h>
 #include <tests/platform/store_support.h>
 #include <tests/support/as_nobody.h>
+#include <tests/support/own_mounts.h>
 #include <tests/support/temp_folder.h>
 
 namespace {
@@ -82,35 +80,13 @@ TEST(AWriteThatTheSystemCutsShort, LeavesTheOldFile)
     });
 }
 
-// A user who is not root gets to mount in a user namespace of their own, where that is allowed, as its root.
-bool EnterMountNamespace()
-{
-    if (unshare(CLONE_NEWNS) == 0)
-        return true;
-    const std::string user = "0 " + std::to_string(geteuid()) + " 1";
-    const std::string group = "0 " + std::to_string(getegid()) + " 1";
-    if (unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0)
-        return false;
-    std::ofstream("/proc/self/uid_map") << user;
-    std::ofstream("/proc/self/setgroups") << "deny";
-    std::ofstream("/proc/self/gid_map") << group;
-    return geteuid() == 0;
-}
-
-// The disk goes with the process.
-bool MountSmallDisk(const std::string& folder)
-{
-    return EnterMountNamespace() && mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
-           mount("fittings-test", folder.c_str(), "tmpfs", 0, "size=64k,mode=700") == 0;
-}
-
 TEST(AFullDisk, LeavesTheOldFile)
 {
     TempUserData data;
-    if (!WaitForSuccess(StartChild([&] { ASSERT_TRUE(MountSmallDisk(data.Path())); })))
+    if (!WaitForSuccess(StartChild([&] { ASSERT_TRUE(EnterOwnMounts() && MountSmallDisk(data.Path())); })))
         GTEST_SKIP() << "no right to mount a small disk; a write that is cut short is tested all the same";
     InChild([&] {
-        ASSERT_TRUE(MountSmallDisk(data.Path()));
+        ASSERT_TRUE(EnterOwnMounts() && MountSmallDisk(data.Path()));
         WriteFile(data / "settings.ini", OLD);
         ExpectWritesToFail(data.Path());
         EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));

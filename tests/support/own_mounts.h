@@ -1,0 +1,16 @@
+#ifndef FITTINGS_TESTS_SUPPORT_OWN_MOUNTS_H_
+#define FITTINGS_TESTS_SUPPORT_OWN_MOUNTS_H_
+
+#include <string>
+
+/// Gives this process, which has one thread only, mounts that it and its children alone see and that go with them.
+/// False where the system does not allow it; other users than root need user namespaces.
+bool EnterOwnMounts();
+
+/// Mounts an empty file system of 64 KiB, in memory. Only after EnterOwnMounts().
+bool MountSmallDisk(const std::string& folder);
+
+/// Lets such a disk be read only, or be written again.
+bool SetReadOnly(const std::string& folder, bool isReadOnly);
+
+#endif
