@@ -7,6 +7,7 @@ test_packages=(libgtest-dev libgmock-dev libatspi2.0-dev at-spi2-core dbus-daemo
 docs_packages=(doxygen doxygen-awesome-css)
 picture_packages=(pngquant)
 coverage_packages=(gcovr)
+valgrind_packages=(valgrind libc6-dbg)
 bench_packages=(libbenchmark-dev libicu-dev)
 lint_packages=(clang-format-14 clang-tidy-14 cppcheck)
 package_packages=(dpkg-dev lintian appstream desktop-file-utils mmdebstrap)

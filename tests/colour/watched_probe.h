@@ -13,11 +13,12 @@
 #include <gtest/gtest.h>
 
 #include <tests/support/child_process.h>
+#include <tests/support/patience.h>
 
-/// Waits for a condition; false after 15 seconds.
+/// Waits for a condition; false when it does not come within 15 seconds.
 inline bool WaitUntil(const std::function<bool()>& done)
 {
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(15);
+    const auto deadline = std::chrono::steady_clock::now() + Patience() * std::chrono::seconds(15);
     while (!done()) {
         if (std::chrono::steady_clock::now() > deadline)
             return false;

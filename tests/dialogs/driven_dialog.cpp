@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tests/support/patience.h>
+
 namespace {
 
 std::string Xdotool(std::vector<std::string> arguments)
@@ -114,7 +116,7 @@ void DrivenDialog::TypePath(const std::string& path)
 
 void DrivenDialog::WaitFor(const std::string& what, const std::function<bool(const DialogState&)>& isThere)
 {
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(15);
+    const auto deadline = std::chrono::steady_clock::now() + Patience() * std::chrono::seconds(15);
     while (!isThere(State())) {
         if (!m_child.IsRunning() || std::chrono::steady_clock::now() > deadline) {
             ADD_FAILURE() << "does not come: " << what << "\n" << m_child.Output();

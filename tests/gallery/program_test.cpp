@@ -14,6 +14,7 @@
 #include <spawn.h>
 #include <sys/wait.h>
 
+#include <tests/support/patience.h>
 #include <tests/support/temp_folder.h>
 
 namespace {
@@ -56,7 +57,7 @@ public:
     /// The exit code; -1 when a signal ended it, or the deadline.
     int Wait(int seconds)
     {
-        for (int i = 0; i < seconds * 100; ++i) {
+        for (int i = 0; i < Patience() * seconds * 100; ++i) {
             int status = 0;
             if (waitpid(m_process, &status, WNOHANG) == m_process) {
                 m_process = 0;
@@ -78,7 +79,7 @@ private:
 
 bool WaitFor(const std::string& command)
 {
-    for (int i = 0; i < 500; ++i) {
+    for (int i = 0; i < Patience() * 500; ++i) {
         if (std::system((command + " >/dev/null 2>&1").c_str()) == 0)
             return true;
         std::this_thread::sleep_for(std::chrono::milliseconds(20));

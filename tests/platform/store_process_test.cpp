@@ -29,6 +29,7 @@
 #include <fittings/platform/std_file_paths.h>
 #include <tests/platform/forked_work.h>
 #include <tests/platform/store_support.h>
+#include <tests/support/patience.h>
 #include <tests/support/temp_folder.h>
 
 namespace {
@@ -178,7 +179,7 @@ protected:
         const auto start = Clock::now();
         EXPECT_TRUE(ini.Save(m_data / "named.ini"));
         m_saving = std::min(std::chrono::duration_cast<std::chrono::microseconds>(Clock::now() - start),
-                            std::chrono::microseconds(10'000));
+                            Patience() * std::chrono::microseconds(10'000));
     }
 
     // Starts a writer, kills it after a random time, and looks at what is left.
@@ -193,7 +194,7 @@ protected:
             }
         });
         // From before the first write to well into some later one.
-        std::this_thread::sleep_for(std::chrono::microseconds(m_random() % (3000 + 2 * m_saving.count())));
+        std::this_thread::sleep_for(std::chrono::microseconds(m_random() % (Patience() * 3000 + 2 * m_saving.count())));
         ASSERT_EQ(kill(child, SIGKILL), 0);
         int status = 0;
         ASSERT_EQ(waitpid(child, &status, 0), child);

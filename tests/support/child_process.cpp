@@ -11,6 +11,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tests/support/patience.h>
+
 ChildProcess::ChildProcess(const std::vector<std::string>& command,
                            const std::map<std::string, std::optional<std::string>>& environment)
 {
@@ -66,7 +68,7 @@ bool ChildProcess::IsRunning()
 
 bool ChildProcess::WaitForEnd(int milliseconds)
 {
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
+    const auto deadline = std::chrono::steady_clock::now() + Patience() * std::chrono::milliseconds(milliseconds);
     while (IsRunning()) {
         if (std::chrono::steady_clock::now() > deadline)
             return false;

@@ -1,9 +1,12 @@
 #include <tests/support/gui.h>
 
+#include <chrono>
+
 #include <wx/app.h>
 #include <wx/evtloop.h>
-#include <wx/stopwatch.h>
 #include <wx/toplevel.h>
+
+#include <tests/support/patience.h>
 
 namespace {
 
@@ -23,12 +26,12 @@ void PumpPending()
 
 bool PumpUntil(const std::function<bool()>& done, int milliseconds)
 {
-    wxStopWatch watch;
+    const auto deadline = std::chrono::steady_clock::now() + Patience() * std::chrono::milliseconds(milliseconds);
     for (;;) {
         PumpPending();
         if (done())
             return true;
-        if (watch.Time() > milliseconds)
+        if (std::chrono::steady_clock::now() > deadline)
             return false;
         wxEventLoopBase::GetActive()->DispatchTimeout(5);
     }

@@ -21,6 +21,7 @@
 
 #include <fittings/thread/gui_thread.h>
 #include <fittings/thread/thread_ex.h>
+#include <tests/support/patience.h>
 
 /// An exit code of this number.
 inline wxThread::ExitCode Code(std::intptr_t number)
@@ -31,7 +32,7 @@ inline wxThread::ExitCode Code(std::intptr_t number)
 /// Polls @a done until it says so; false when it did not within the deadline.
 inline bool Becomes(const std::function<bool()>& done)
 {
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+    const auto deadline = std::chrono::steady_clock::now() + Patience() * std::chrono::seconds(30);
     while (!done()) {
         if (std::chrono::steady_clock::now() > deadline)
             return false;
@@ -61,7 +62,7 @@ public:
     bool Wait()
     {
         std::unique_lock<std::mutex> lock(m_mutex);
-        return m_condition.wait_for(lock, std::chrono::seconds(30), [this] { return m_set; });
+        return m_condition.wait_for(lock, Patience() * std::chrono::seconds(30), [this] { return m_set; });
     }
 
 private:

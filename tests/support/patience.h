@@ -1,0 +1,18 @@
+#ifndef FITTINGS_TESTS_SUPPORT_PATIENCE_H_
+#define FITTINGS_TESTS_SUPPORT_PATIENCE_H_
+
+#include <cstdlib>
+
+/// How many times longer than usual things may take: what FITTINGS_TEST_PATIENCE says where a tool makes all slow,
+/// else 1. Every deadline is multiplied by it.
+inline int Patience()
+{
+    static const int patience = [] {
+        const char* const text = std::getenv("FITTINGS_TEST_PATIENCE");
+        const int number = text ? std::atoi(text) : 1;
+        return number > 1 ? number : 1;
+    }();
+    return patience;
+}
+
+#endif
