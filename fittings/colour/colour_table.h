@@ -16,6 +16,7 @@ inline constexpr int CELL_MORE_COLOURS = -2;  ///< The box "More Colours..." bel
 inline constexpr int CELL_AUTOMATIC = -3;     ///< The box "Automatic" above the palette.
 /// @}
 
+/// What the library has besides the names that carry a prefix.
 namespace fittings {
 
 /// How many colours the palette has.

@@ -6,6 +6,9 @@
 #include <fittings/base/export.h>
 #include <fittings/base/std_str.h>
 
+/// @file
+/// How a number looks, and which input is accepted: CNumberFormat and its presets.
+
 /// The presets of a CNumberFormat.
 enum EGeneralFormat : int {
     eLocaleFormat = 0,  ///< plain numbers with the separators of the process's locale
