@@ -11,20 +11,19 @@ static bool IsPrime(int n)
     int divisor = 2;
     while (divisor * divisor <= n && n % divisor != 0)
         ++divisor;
-    return n >= 2 && divisor * divisor > n;
+    return divisor * divisor > n;
 }
 
 class PrimeCounter : public wxGUIThreadEx
 {
 public:
     using wxGUIThreadEx::wxGUIThreadEx;
-
     wxThread::ExitCode Entry() override
     {
         long found = 0;
-        for (int n = 0; n < 1000000; ++n) {
+        for (int n = 2; n <= 1000000; ++n) {
             found += IsPrime(n) ? 1 : 0;
-            if (n % 10000 == 9999 && !PostEvent(n / 10000 + 1, found))
+            if (n % 10000 == 0 && !PostEvent(n / 10000, found))
                 break;  // asked to stop
         }
         return nullptr;
@@ -36,11 +35,12 @@ class PrimesFrame : public wxFrame
 public:
     PrimesFrame() : wxFrame(nullptr, wxID_ANY, "Primes"), m_counter(this, EVT_COUNTED)
     {
-        Bind(EVT_COUNTED, [this](wxCommandEvent& event) {
+        auto* gauge = new wxGauge(this, wxID_ANY, 100);
+        Bind(EVT_COUNTED, [=](wxCommandEvent& event) {
+            gauge->SetValue(event.GetInt());
             SetTitle(wxString::Format("%ld primes, %d %% done", event.GetExtraLong(), event.GetInt()));
         });
-        if (m_counter.RunThread() != wxTHREAD_NO_ERROR)
-            SetTitle("No thread to count on");
+        SetTitle(m_counter.RunThread() == wxTHREAD_NO_ERROR ? "Counting" : "No thread to count on");
     }
     ~PrimesFrame() override
     {

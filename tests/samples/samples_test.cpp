@@ -217,7 +217,7 @@ TEST(ThreadSample, CountsOnWhileItsWindowAnswers)
 TEST(ThreadSample, CanBeClosedAtAnyTime)
 {
     const Person person;
-    SampleInUse primes("thread", "(Primes|[0-9]+ primes, [0-9]+ % done)", person);
+    SampleInUse primes("thread", "(Counting|[0-9]+ primes, [0-9]+ % done)", person);
     primes.Close();
 }
 
