@@ -47,36 +47,48 @@ private:
     std::map<std::string, double> m_ns;
 };
 
-const char* Verdict(double ratio, double most)
+/// Two medians that are held against each other.
+struct Pair
 {
-    return ratio <= most ? "met" : "OVER";
+    bool IsMeasured() const { return ours > 0 && peer > 0; }
+    double Ratio() const { return ours / peer; }
+
+    double ours;
+    double peer;
+};
+
+Pair BesidePeer(const Medians& medians, const char* row)
+{
+    return {medians.Of(row), medians.Of(std::string(row) + "/peer")};
+}
+
+const char* Verdict(double value, double most)
+{
+    return value <= most ? "met" : "OVER";
 }
 
 void PrintTable(const Medians& medians)
 {
     std::printf("%-26s %14s %14s %8s %8s\n", "row", "ours ns", "peer ns", "ratio", "budget");
     for (const Budget& budget : kBudgets) {
-        const double ours = medians.Of(budget.row);
-        const double peer = medians.Of(std::string(budget.row) + "/peer");
-        if (ours > 0 && peer > 0)
-            std::printf("%-26s %14.0f %14.0f %8.3f %8.2f  %s  (%s)\n", budget.row, ours, peer, ours / peer, budget.most,
-                        Verdict(ours / peer, budget.most), budget.peer);
+        const Pair pair = BesidePeer(medians, budget.row);
+        if (pair.IsMeasured())
+            std::printf("%-26s %14.0f %14.0f %8.3f %8.2f  %s  (%s)\n", budget.row, pair.ours, pair.peer, pair.Ratio(),
+                        budget.most, Verdict(pair.Ratio(), budget.most), budget.peer);
     }
     for (const Extra& extra : kExtras) {
-        const double ours = medians.Of(extra.row);
-        const double peer = medians.Of(std::string(extra.row) + "/peer");
-        if (ours > 0 && peer > 0)
-            std::printf("%-26s %14.0f %14.0f %+7.0fus %6.0fus  %s  (%s)\n", extra.row, ours, peer, (ours - peer) / 1e3,
-                        extra.mostNs / 1e3, Verdict(ours - peer, extra.mostNs), extra.peer);
+        const Pair pair = BesidePeer(medians, extra.row);
+        const double more = pair.ours - pair.peer;
+        if (pair.IsMeasured())
+            std::printf("%-26s %14.0f %14.0f %+7.0fus %6.0fus  %s  (%s)\n", extra.row, pair.ours, pair.peer, more / 1e3,
+                        extra.mostNs / 1e3, Verdict(more, extra.mostNs), extra.peer);
     }
     for (const Growth& growth : kGrowths) {
-        const double large = medians.Of(growth.large);
-        const double small = medians.Of(growth.small);
-        if (large > 0 && small > 0) {
-            const double ratio = large / small / growth.items;
-            std::printf("%-26s %14.0f %14.0f %8.3f %8.2f  %s  (per item, %s)\n", growth.large, large, small, ratio,
-                        growth.most, Verdict(ratio, growth.most), growth.small);
-        }
+        const Pair pair{medians.Of(growth.large), medians.Of(growth.small)};
+        const double ratio = pair.Ratio() / growth.items;
+        if (pair.IsMeasured())
+            std::printf("%-26s %14.0f %14.0f %8.3f %8.2f  %s  (per item, %s)\n", growth.large, pair.ours, pair.peer,
+                        ratio, growth.most, Verdict(ratio, growth.most), growth.small);
     }
 }
 
@@ -86,12 +98,11 @@ void WriteJson(const Medians& medians, const std::string& path)
     file << "[";
     const char* separator = "\n";
     const auto write = [&](const char* row, const char* name) {
-        const double ours = medians.Of(row);
-        const double peer = medians.Of(std::string(row) + "/peer");
-        if (ours <= 0 || peer <= 0)
+        const Pair pair = BesidePeer(medians, row);
+        if (!pair.IsMeasured())
             return;
-        file << separator << "  {\"row\": \"" << row << "\", \"ours_ns\": " << ours << ", \"peer\": \"" << name
-             << "\", \"peer_ns\": " << peer << ", \"ratio\": " << ours / peer << "}";
+        file << separator << "  {\"row\": \"" << row << "\", \"ours_ns\": " << pair.ours << ", \"peer\": \"" << name
+             << "\", \"peer_ns\": " << pair.peer << ", \"ratio\": " << pair.Ratio() << "}";
         separator = ",\n";
     };
     for (const Budget& budget : kBudgets)

@@ -15,7 +15,6 @@
 #include <wx/app.h>
 #include <wx/fileconf.h>
 #include <wx/frame.h>
-#include <wx/wfstream.h>
 
 #include <fittings/numedit/number_edit_utils.h>
 #include <fittings/platform/local_reg_store.h>
@@ -87,9 +86,9 @@ void MeasureStore(const std::string& folder)
 
 void MeasureTree()
 {
-    auto* const frame = new wxFrame(nullptr, wxID_ANY, "memory");
+    const auto frame = std::make_unique<wxFrame>(nullptr, wxID_ANY, "memory");
     auto* const tree = new wxHandyTreeCtrl;
-    tree->Create(frame);
+    tree->Create(frame.get());
     wxTreeCursor root;
     const double items = PeakOf([&] {
         root = tree->AddRoot("root");
@@ -103,7 +102,6 @@ void MeasureTree()
     });
     const double saving = PeakOf([&] { tree->SaveState("memory", root); });
     Print("siblings saved, half expanded", saving, "the items themselves", items);
-    frame->Destroy();
 }
 
 class Poster : public wxGUIThread
