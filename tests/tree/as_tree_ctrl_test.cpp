@@ -108,10 +108,10 @@ TYPED_TEST(AsTreeCtrl, SelectsARangeWithShift)
 
 TYPED_TEST(AsTreeCtrl, TellsOfTheButtonBeforeAndAfter)
 {
-    this->PointTo(this->PointOn(this->a, wxTREE_HITTEST_ONITEMBUTTON));
+    this->PointTo(PointOn(this->a, wxTREE_HITTEST_ONITEMBUTTON));
     this->user.MouseClick();
     this->ExpectEvents({L"expanding a", L"expanded a"});
-    this->PointTo(this->PointOn(this->root, wxTREE_HITTEST_ONITEMBUTTON));
+    this->PointTo(PointOn(this->root, wxTREE_HITTEST_ONITEMBUTTON));
     this->user.MouseClick();
     this->ExpectEvents({L"collapsing root", L"collapsed root"});
     EXPECT_EQ(this->Selected(), (Labels{L"root"}));
@@ -160,14 +160,14 @@ TYPED_TEST(AsTreeCtrl, IsActivatedByEnter)
 
 TYPED_TEST(AsTreeCtrl, IsActivatedByADoubleClick)
 {
-    this->PointTo(this->PointOn(this->b));
+    this->PointTo(PointOn(this->b, wxTREE_HITTEST_ONITEMLABEL));
     this->user.MouseDblClick();
     this->ExpectEvents({L"selecting b after root", L"selected b after root", L"activated b"});
 }
 
 TYPED_TEST(AsTreeCtrl, ExpandsByADoubleClickThatTheHostDoesNotTake)
 {
-    this->PointTo(this->PointOn(this->a));
+    this->PointTo(PointOn(this->a, wxTREE_HITTEST_ONITEMLABEL));
     this->user.MouseDblClick();
     this->ExpectEvents(
         {L"selecting a after root", L"selected a after root", L"activated a", L"expanding a", L"expanded a"});
@@ -176,7 +176,7 @@ TYPED_TEST(AsTreeCtrl, ExpandsByADoubleClickThatTheHostDoesNotTake)
 TYPED_TEST(AsTreeCtrl, DoesNotExpandByADoubleClickThatTheHostTakes)
 {
     this->log.on[L"activated a"] = [](wxTreeEvent&) {};
-    this->PointTo(this->PointOn(this->a));
+    this->PointTo(PointOn(this->a, wxTREE_HITTEST_ONITEMLABEL));
     this->user.MouseDblClick();
     this->ExpectEvents({L"selecting a after root", L"selected a after root", L"activated a"});
 }
@@ -193,12 +193,12 @@ TYPED_TEST(AsTreeCtrl, TellsOfTheOtherMouseButtons)
 TYPED_TEST(AsTreeCtrl, DragsAnItemWhenTheHostAllowsIt)
 {
     const auto drag = [&](const wxTreeCursor& item) {
-        this->PointTo(this->PointOn(item));
+        this->PointTo(PointOn(item, wxTREE_HITTEST_ONITEMLABEL));
         this->user.MouseDown();
         PumpPending();
         // It takes a few moves to be one.
         for (int x = 0; x < 5; ++x)
-            this->PointTo(this->PointOn(this->c) + wxPoint(x, 0));
+            this->PointTo(PointOn(this->c, wxTREE_HITTEST_ONITEMLABEL) + wxPoint(x, 0));
         this->user.MouseUp();
         PumpPending();
     };
@@ -310,7 +310,7 @@ TYPED_TEST(AsTreeCtrl, LetsTheHostDeleteTheItemThatIsActivated)
 TYPED_TEST(AsTreeCtrl, LetsTheHostDeleteTheItemThatHasExpanded)
 {
     this->log.on[L"expanded a"] = [this](wxTreeEvent& event) { this->tree.Delete(event.GetItem()); };
-    this->PointTo(this->PointOn(this->a, wxTREE_HITTEST_ONITEMBUTTON));
+    this->PointTo(PointOn(this->a, wxTREE_HITTEST_ONITEMBUTTON));
     this->user.MouseClick();
     this->ExpectEvents({L"expanding a", L"expanded a", L"deleted a1", L"deleted a2", L"deleted a"});
     EXPECT_EQ(ChildrenOf(this->root), (Labels{L"b", L"c"}));
@@ -322,7 +322,7 @@ TYPED_TEST(AsTreeCtrl, LetsTheHostDeleteTheItemThatItDoesNotLetExpand)
         event.Veto();
         this->tree.Delete(event.GetItem());
     };
-    this->PointTo(this->PointOn(this->a, wxTREE_HITTEST_ONITEMBUTTON));
+    this->PointTo(PointOn(this->a, wxTREE_HITTEST_ONITEMBUTTON));
     this->user.MouseClick();
     this->ExpectEvents({L"expanding a", L"deleted a1", L"deleted a2", L"deleted a"});
     EXPECT_EQ(ChildrenOf(this->root), (Labels{L"b", L"c"}));

@@ -17,21 +17,6 @@ protected:
         root = AddLazyRoot(tree, "R");
     }
 
-    /// A point on the row of the item where a hit test answers @a part.
-    wxPoint PointOn(const wxTreeCursor& item, int part)
-    {
-        wxRect label;
-        EXPECT_TRUE(tree.GetBoundingRect(item.item, label, true));
-        wxPoint point(0, label.y + label.height / 2);
-        for (; point.x < tree.GetClientSize().x; ++point.x) {
-            int flags = 0;
-            if (tree.HitTest(point, flags) == item.item && (flags & part))
-                return tree.ClientToScreen(point + wxSize(2, 0));
-        }
-        ADD_FAILURE() << "the row has no such part";
-        return wxPoint();
-    }
-
     TreeOnScreen<LazyTree> screen;
     LazyTree& tree = *screen.tree;
     wxTreeCursor root;

@@ -100,21 +100,6 @@ protected:
         log.Take();
     }
 
-    /// A point on the screen in the row of the item, where a hit test answers @a part.
-    wxPoint PointOn(const wxTreeCursor& item, int part = wxTREE_HITTEST_ONITEMLABEL)
-    {
-        wxRect label;
-        EXPECT_TRUE(tree.GetBoundingRect(item.item, label, true));
-        wxPoint point(0, label.y + label.height / 2);
-        for (; point.x < tree.GetClientSize().x; ++point.x) {
-            int flags = 0;
-            if (tree.HitTest(point, flags) == item.item && (flags & part))
-                return tree.ClientToScreen(point + wxSize(2, 0));
-        }
-        ADD_FAILURE() << "the row has no such part";
-        return {};
-    }
-
     void PointTo(const wxPoint& place)
     {
         user.MouseMove(place);
@@ -124,7 +109,7 @@ protected:
 
     void Click(const wxTreeCursor& item, int button = wxMOUSE_BTN_LEFT)
     {
-        PointTo(PointOn(item));
+        PointTo(PointOn(item, wxTREE_HITTEST_ONITEMLABEL));
         user.MouseClick(button);
     }
 

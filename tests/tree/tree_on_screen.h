@@ -99,4 +99,20 @@ inline Labels ChildrenOf(const wxTreeCursor& parent)
     return labels;
 }
 
+/// A point on the screen in the row of the item, where a hit test answers @a part.
+inline wxPoint PointOn(const wxTreeCursor& item, int part)
+{
+    const wxTreeCtrl& tree = *item.tree;
+    wxRect label;
+    EXPECT_TRUE(tree.GetBoundingRect(item.item, label, true));
+    wxPoint point(0, label.y + label.height / 2);
+    for (; point.x < tree.GetClientSize().x; ++point.x) {
+        int flags = 0;
+        if (tree.HitTest(point, flags) == item.item && (flags & part))
+            return tree.ClientToScreen(point + wxSize(2, 0));
+    }
+    ADD_FAILURE() << "the row has no such part";
+    return {};
+}
+
 #endif
