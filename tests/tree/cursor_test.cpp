@@ -66,6 +66,11 @@ TEST_F(Cursor, NamesItsTreeAndItem)
     EXPECT_TRUE(cursor.item == tree.GetRootItem());
 }
 
+TEST_F(Cursor, IsValidByItsItemAlone)
+{
+    EXPECT_TRUE(wxTreeCursor(nullptr, tree.GetRootItem()).IsOk());
+}
+
 TEST_F(Cursor, GivesTheLabel)
 {
     EXPECT_EQ(root.GetText(), L"root");
@@ -285,6 +290,13 @@ TEST_F(Cursor, PacksColoursWithRedLowest)
     root.SetTextColour(0x00563412);
     EXPECT_EQ(tree.GetItemTextColour(root.item), wxColour(0x12, 0x34, 0x56, 255));
     EXPECT_EQ(root.GetTextColour(), 0x00563412u);
+}
+
+TEST_F(Cursor, TakesBlackForAColourLikeAnyOther)
+{
+    root.SetTextColour(0);
+    EXPECT_EQ(tree.GetItemTextColour(root.item), wxColour(0, 0, 0, 255));
+    EXPECT_EQ(root.GetTextColour(), 0u);
 }
 
 TEST_F(Cursor, IgnoresTheHigherBitsOfAColour)

@@ -1,5 +1,7 @@
 #include <fittings/tree/handy_tree_ctrl.h>
 
+#include <stdexcept>
+
 #include <gtest/gtest.h>
 
 #include <fittings/platform/local_reg_store.h>
@@ -265,6 +267,20 @@ TEST_F(LoadState, LeavesAFrozenTreeFrozen)
     EXPECT_TRUE(tree.IsFrozen());
     tree.Thaw();
     EXPECT_EQ(tree.expanded, (Labels{L"R", L"B"}));
+}
+
+TEST_F(LoadState, LeavesTheTreeUsableWhenAnExceptionLeavesTheHook)
+{
+    tree.inHook = [](const wxTreeCursor& item) {
+        if (item.GetText() == L"B")
+            throw std::runtime_error("no such folder");
+    };
+    EXPECT_THROW(Load(L"A|B|R|"), std::runtime_error);
+    EXPECT_FALSE(tree.IsFrozen());
+    EXPECT_TRUE(root.GetChild().IsExpanded());
+    tree.inHook = nullptr;
+    Load(L"A|B|R|");
+    EXPECT_TRUE(root.GetChild().GetNextSibling().IsExpanded());
 }
 
 TEST_F(LoadState, BearsAControlThatIsNotCreated)
