@@ -19,7 +19,7 @@
 
 namespace {
 
-/// Keeps the median of each benchmark, in nanoseconds.
+/// Keeps the median of each benchmark, in nanoseconds. One that measures its peer too has it in the counter "peer".
 class Medians : public benchmark::BenchmarkReporter
 {
 public:
@@ -31,8 +31,7 @@ public:
             if (run.error_occurred)
                 std::fprintf(stderr, "%s: %s\n", run.benchmark_name().c_str(), run.error_message.c_str());
             else if (run.aggregate_name == "median")
-                m_ns[run.run_name.function_name] =
-                    run.GetAdjustedRealTime() / benchmark::GetTimeUnitMultiplier(run.time_unit) * 1e9;
+                Keep(run);
         }
     }
 
@@ -44,6 +43,15 @@ public:
     }
 
 private:
+    void Keep(const Run& run)
+    {
+        const std::string& name = run.run_name.function_name;
+        m_ns[name] = run.GetAdjustedRealTime() / benchmark::GetTimeUnitMultiplier(run.time_unit) * 1e9;
+        const auto peer = run.counters.find("peer");
+        if (peer != run.counters.end())
+            m_ns[name + "/peer"] = peer->second;
+    }
+
     std::map<std::string, double> m_ns;
 };
 
