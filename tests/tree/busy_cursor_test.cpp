@@ -89,6 +89,14 @@ TEST_F(BusyCursor, GoesWhenAnExceptionLeavesTheHook)
     EXPECT_EQ(CursorOnDisplay(), "left_ptr");
 }
 
+TEST_F(BusyCursor, GivesTheControlItsOwnCursorBack)
+{
+    tree.SetCursor(wxCursor(wxCURSOR_HAND));
+    ASSERT_TRUE(PumpUntil([] { return CursorOnDisplay() == "hand2"; })) << CursorOnDisplay();
+    root.Expand();
+    EXPECT_EQ(CursorOnDisplay(), "hand2");
+}
+
 TEST_F(BusyCursor, GoesAlsoWhenTheApplicationWasBusyBefore)
 {
     wxSetCursor(*wxHOURGLASS_CURSOR);
