@@ -15,33 +15,44 @@ public:
         popup->SetInitialColour(*wxWHITE);
         popup->SetDefaultColour(*wxWHITE);  // what "Automatic" stands for
         popup->SetColorListener(this);
+        auto* bar = new wxPanel(this);
+        auto* label = new wxStaticText(bar, wxID_ANY, "&Paper:");
         auto* combo = new wxColourCombo;
-        combo->Create(m_panel, wxID_ANY, "", wxPoint(20, 20), wxSize(160, -1), wxCB_READONLY);
+        combo->Create(bar, wxID_ANY, "", wxDefaultPosition, wxSize(160, -1), wxCB_READONLY);
         combo->SetPopupControl(popup);  // the combo owns it from now on
         combo->SetFocus();
-        Show(*wxWHITE);
+
+        auto* row = new wxBoxSizer(wxHORIZONTAL);
+        row->Add(label, wxSizerFlags().CentreVertical().Border());
+        row->Add(combo, wxSizerFlags().Border());
+        bar->SetSizer(row);
+        auto* column = new wxBoxSizer(wxVERTICAL);
+        column->Add(bar, wxSizerFlags().Expand());
+        column->Add(m_sheet, wxSizerFlags(1).Expand());
+        SetSizer(column);
+        Paint(*wxWHITE);
     }
 
 private:
-    void OnColourSelChange(const wxColour& colour) override { Show(colour); }
-    void OnColourSelCancel(const wxColour& colour) override { Show(colour); }
+    void OnColourSelChange(const wxColour& colour) override { Paint(colour); }
+    void OnColourSelCancel(const wxColour& colour) override { Paint(colour); }
     void OnColourSelEnd(const wxColour& colour) override
     {
-        Show(colour);
+        Paint(colour);
         SetTitle("Sheet in " + colour.GetAsString(wxC2S_HTML_SYNTAX));
     }
 
-    void Show(const wxColour& colour)
+    void Paint(const wxColour& colour)
     {
-        m_panel->SetBackgroundColour(colour);
-        m_panel->Refresh();
+        m_sheet->SetBackgroundColour(colour);
+        m_sheet->Refresh();
     }
 
-    wxPanel* m_panel = new wxPanel(this);
+    wxPanel* m_sheet = new wxPanel(this);
 };
 
 class SheetApp : public wxApp
 {
-    bool OnInit() override { return (new SheetFrame)->wxFrame::Show(); }
+    bool OnInit() override { return (new SheetFrame)->Show(); }
 };
 wxIMPLEMENT_APP(SheetApp);

@@ -22,7 +22,8 @@ public:
             m_copies->SetValue(1);  // somebody has edited the file: what stands there is no number
         }
         m_panes.AddPane(m_text, wxAuiPaneInfo().Name("text").CenterPane());
-        m_panes.AddPane(m_copies, wxAuiPaneInfo().Name("copies").Bottom().CaptionVisible(false));
+        m_panes.AddPane(m_copies,
+                        wxAuiPaneInfo().Name("copies").Caption("Copies").Bottom().CloseButton(false).Floatable(false));
         m_panes.Update();
         wx_window_state::LoadAuiManagerState(&m_panes, L"Notes");
         wx_window_state::LoadState(this, L"Notes");

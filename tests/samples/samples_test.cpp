@@ -131,29 +131,30 @@ void PointAtColour(const SampleInUse& sheet, const char* colour)
     SampleInUse::Press("F4");
     std::optional<ScreenPoint> cell;
     ASSERT_TRUE(Becomes([&] { return (cell = SampleInUse::Find(colour)).has_value(); })) << "no " << colour;
-    const auto isShown = [&] { return sheet.ColourAt(5, 5) == colour; };
+    const auto isShown = [&] { return sheet.ColourAt(490, 390) == colour; };
     bool shown = false;
     for (int i = 0; i < 15 && !shown; ++i) {
         SampleInUse::PointAt({cell->x + i % 2, cell->y});
         shown = Becomes(isShown, 1000);
     }
-    ASSERT_TRUE(shown) << sheet.ColourAt(5, 5) << " not " << colour;
+    ASSERT_TRUE(shown) << sheet.ColourAt(490, 390) << " not " << colour;
 }
 
 TEST(ColourSample, ShowsTheColourPointedAtAndKeepsTheOneClicked)
 {
     const Person person;
     SampleInUse sheet("colour", "Sheet", person);
-    EXPECT_TRUE(Becomes([&] { return sheet.ColourAt(5, 5) == "#FFFFFF"; }));
+    sheet.Resize(500, 400);
+    EXPECT_TRUE(Becomes([&] { return sheet.ColourAt(490, 390) == "#FFFFFF"; }));
     PointAtColour(sheet, kOrange);
     EXPECT_EQ(sheet.Title(), "Sheet");
     SampleInUse::Click();
     sheet.WaitForTitle("Sheet in #FF6820");
-    EXPECT_EQ(sheet.ColourAt(5, 5), kOrange);
+    EXPECT_EQ(sheet.ColourAt(490, 390), kOrange);
 
     PointAtColour(sheet, kLime);
     SampleInUse::Press("Escape");
-    EXPECT_TRUE(Becomes([&] { return sheet.ColourAt(5, 5) == kOrange; })) << sheet.ColourAt(5, 5);
+    EXPECT_TRUE(Becomes([&] { return sheet.ColourAt(490, 390) == kOrange; })) << sheet.ColourAt(490, 390);
     sheet.Close();
 }
 
