@@ -22,7 +22,6 @@ TEST(ConfigSample, ComesBackWhereItWasAndWithWhatWasTyped)
         notes.Resize(500, 400);
         notes.Move(210, 160);
         notes.Type("Feed the cat");
-        notes.Press("Tab");
         EXPECT_TRUE(Becomes([&] { return notes.Geometry().find(" 500 400") != std::string::npos; }));
         geometry = notes.Geometry();
         notes.Close();
