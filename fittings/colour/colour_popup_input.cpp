@@ -202,6 +202,7 @@ void wxColourPopup::DoEndSel(bool ok)
     if (m_combo->IsPopupShown() && !HideCombo())
         return;
     m_handsValueBack = false;
+    // Where the listener has closed the popup, the combo has taken the hot cell's name for its value.
     if (!ok)
         RestoreValue();
     if (alive)

@@ -268,6 +268,23 @@ TEST(ColourListenerInItsCalls, MayCloseThePopup)
     EXPECT_EQ(control.listener.Take(), (ColourCalls{"popup", "cancel #FF0000"}));
 }
 
+// Then the popup is closed by the listener, not by itself, and the name of the hot cell must not stay all the same.
+TEST(ColourListenerInItsCalls, MayCloseThePopupOfACancelledSelection)
+{
+    Control control;
+    control.combo->SetText("Teal");
+    control.listener.during = [&](const std::string& call) {
+        if (call == "cancel")
+            control.combo->Dismiss();
+    };
+    control.Open();
+    control.popup->ChangeSelection(16);
+    control.popup->EndSelection(false);
+    EXPECT_FALSE(control.combo->IsPopupShown());
+    EXPECT_EQ(control.listener.Take(), (ColourCalls{"popup", "change #FF0000", "cancel #0000FF"}));
+    EXPECT_EQ(control.combo->GetValue(), "Teal");
+}
+
 // A host that closes its editor when the selection is cancelled also gets that call when it closes the editor itself.
 TEST(ColourListenerInItsCalls, MayDestroyWhatIsBeingDestroyed)
 {
