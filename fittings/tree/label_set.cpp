@@ -58,7 +58,6 @@ void LabelSet::Note(std::wstring_view label, bool expanded)
     if (!expanded)
         return;
     m_entries.push_back({Keep(label), hash, true});
-    m_length += label.size() + 1;
     m_slots[slot] = static_cast<std::uint32_t>(m_entries.size());
     // Most labels are looked up in vain, which a sparse table answers by its first slot.
     if (m_entries.size() > m_slots.size() / 4)
@@ -76,8 +75,11 @@ std::wstring LabelSet::TakeText()
     m_entries.erase(std::remove_if(m_entries.begin(), m_entries.end(), [](const Entry& e) { return !e.expanded; }),
                     m_entries.end());
     MergeRuns(m_entries, [](const Entry& a, const Entry& b) { return a.label < b.label; });
+    size_t length = 0;
+    for (const Entry& entry : m_entries)
+        length += entry.label.size() + 1;
     std::wstring text;
-    text.reserve(m_length);
+    text.reserve(length);
     for (const Entry& entry : m_entries)
         text.append(entry.label).push_back(kSeparator);
     return text;

@@ -49,7 +49,6 @@ private:
     std::pmr::monotonic_buffer_resource m_memory;
     std::vector<Entry> m_entries;
     std::vector<std::uint32_t> m_slots;  // The number of an entry, from 1, or 0.
-    std::size_t m_length = 0;            // Of the text, unless labels are collapsed again.
 };
 
 }  // namespace fittings
