@@ -17,9 +17,10 @@ namespace fittings {
 
 namespace {
 
-wxBitmap Icon(const wxArtID& id)
+/// As sharp as the screen of @a window is.
+wxBitmap Icon(const wxArtID& id, const wxWindow* window)
 {
-    return wxArtProvider::GetBitmap(id, wxART_OTHER, wxSize(16, 16));
+    return wxArtProvider::GetBitmapBundle(id, wxART_OTHER, wxSize(16, 16)).GetBitmapFor(window);
 }
 
 /// Makes item labels paths for as long as it lives.
@@ -62,10 +63,10 @@ FolderTree::FolderTree(wxWindow* parent)
     SetMinSize(FromDIP(wxSize(120, 80)));
 
     wxImageList* images = GetImageList();
-    m_images.folder = images->Add(Icon(wxART_FOLDER));
-    m_images.open = images->Add(Icon(wxART_FOLDER_OPEN));
-    m_images.unreadable = images->Add(Icon(wxART_FOLDER).ConvertToDisabled());
-    m_images.disk = images->Add(Icon(wxART_HARDDISK));
+    m_images.folder = images->Add(Icon(wxART_FOLDER, this));
+    m_images.open = images->Add(Icon(wxART_FOLDER_OPEN, this));
+    m_images.unreadable = images->Add(Icon(wxART_FOLDER, this).ConvertToDisabled());
+    m_images.disk = images->Add(Icon(wxART_HARDDISK, this));
 }
 
 void FolderTree::SetRootFolder(const std::string& path)

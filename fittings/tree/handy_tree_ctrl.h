@@ -49,7 +49,9 @@ public:
 
     /// Gives the control an empty list of 16 × 16 images, which this object owns.
     ///
-    /// Create() does so already. A list from an earlier call is not released: call DetroyImageList() first.
+    /// The size is in the toolkit's pixels: bitmaps that wxBitmapBundle::GetBitmapFor() makes for this control have more
+    /// where its screen has more, and look sharp there. Create() gives the list already. One from an earlier call is not
+    /// released: call DetroyImageList() first.
     void CreateImageList();
 
     /// Deletes the image list, if there is one. The control must not be drawn with its images afterwards.
