@@ -98,7 +98,7 @@ std::string PathFromText(const std::wstring& text)
 
 std::string PathFromDialog(const wxString& path)
 {
-    const wxCharBuffer bytes = path.fn_str();
+    const auto bytes = path.fn_str();
     return {bytes.data(), bytes.length()};
 }
 

@@ -72,7 +72,7 @@ private:
 std::string FileIn(GtkWidget* dialog)
 {
     gchar* file = gtk_file_chooser_get_filename(GTK_FILE_CHOOSER(dialog));
-    const std::string path = file ? file : "";
+    std::string path = file ? file : "";
     g_free(file);
     return path;
 }
