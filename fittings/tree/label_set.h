@@ -14,8 +14,8 @@ namespace fittings {
 
 /// The labels of expanded items, and their text: each label once, in ascending order, each followed by "|".
 ///
-/// There may be a hundred thousand of them and more, and ten times as many that are asked for in vain: they share an open
-/// hash table and blocks of memory, instead of an allocation each.
+/// There may be a hundred thousand of them and more, and ten times as many that are asked for in vain: they share an
+/// open hash table and blocks of memory, instead of an allocation each.
 class LabelSet
 {
 public:

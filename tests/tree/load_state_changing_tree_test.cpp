@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <map>
+#include <set>
 
 #include <gtest/gtest.h>
 
@@ -12,6 +13,26 @@
 #include <tests/tree/tree_on_screen.h>
 
 namespace {
+
+/// Counts what is asked of items that are deleted. The toolkit would read memory that is no longer theirs.
+class MortalTree : public LazyTree
+{
+public:
+    std::set<void*> dead;
+    mutable int askedOfTheDead = 0;
+
+    bool ItemHasChildren(const wxTreeItemId& item) const override
+    {
+        askedOfTheDead += static_cast<int>(dead.count(item.GetID()));
+        return LazyTree::ItemHasChildren(item);
+    }
+
+    wxTreeItemId GetNextChild(const wxTreeItemId& item, wxTreeItemIdValue& cookie) const override
+    {
+        askedOfTheDead += static_cast<int>(dead.count(item.GetID()));
+        return LazyTree::GetNextChild(item, cookie);
+    }
+};
 
 class LoadStateMeanwhile : public testing::Test
 {
@@ -38,16 +59,22 @@ protected:
     /// Restores a tree in which everything was expanded; the items that were visited.
     Labels Load()
     {
+        const auto note = [this](wxTreeEvent& event) {
+            tree.dead.insert(event.GetItem().GetID());
+            event.Skip();
+        };
+        tree.Bind(wxEVT_TREE_DELETE_ITEM, note);
         CLocalRegStore::WriteString(L"TreeControlState", L"state", L"R|A|A1|A2|B|B1|B2|C|C1|C2|D|D1|X|");
         tree.expanded.clear();
         tree.LoadState("state", root);
+        tree.Unbind(wxEVT_TREE_DELETE_ITEM, note);
         return tree.expanded;
     }
 
     TempUserData settings;
     Labels deleted;  // The end of the tree deletes its items too.
-    TreeOnScreen<LazyTree> screen;
-    LazyTree& tree = *screen.tree;
+    TreeOnScreen<MortalTree> screen;
+    MortalTree& tree = *screen.tree;
     wxTreeCursor root;
     std::map<std::wstring, wxTreeCursor> items;
     std::map<std::wstring, std::function<void()>> when;  ///< What happens once the item is expanded, the first time.
@@ -114,6 +141,7 @@ TEST_F(LoadStateMeanwhile, GoesOnBehindAnItemThatDeletesItself)
 {
     when[L"B"] = [&] { items[L"B"].Delete(); };
     EXPECT_EQ(Load(), (Labels{L"R", L"A", L"A1", L"A2", L"B", L"C", L"C1", L"C2"}));
+    EXPECT_EQ(tree.askedOfTheDead, 0);
 }
 
 // The new item often gets the address of the old one.
@@ -131,6 +159,7 @@ TEST_F(LoadStateMeanwhile, LeavesADeletedParentAlone)
     items[L"A"].GetChild().AppendItem("leaf");
     when[L"A1"] = [&] { items[L"A"].Delete(); };
     EXPECT_EQ(Load(), (Labels{L"R", L"A", L"A1", L"B", L"B1", L"B2", L"C", L"C1", L"C2"}));
+    EXPECT_EQ(tree.askedOfTheDead, 0);
 }
 
 TEST_F(LoadStateMeanwhile, EndsWhenTheStartIsDeleted)
@@ -145,6 +174,7 @@ TEST_F(LoadStateMeanwhile, EndsWhenTheStartDeletesItself)
 {
     when[L"R"] = [&] { tree.DeleteAllItems(); };
     EXPECT_EQ(Load(), (Labels{L"R"}));
+    EXPECT_EQ(tree.askedOfTheDead, 0);
 }
 
 TEST_F(LoadStateMeanwhile, VisitsWhatReplacesTheChildrenOfAnItem)
