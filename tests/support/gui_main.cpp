@@ -1,6 +1,10 @@
 // main() of the test programs with windows: all tests run inside one event loop of one wxApp.
 
+#include <cstdlib>
+#include <cstring>
+
 #include <gtest/gtest.h>
+#include <gtk/gtk.h>
 
 #include <wx/app.h>
 #include <wx/evtloop.h>
@@ -10,6 +14,13 @@
 #include <tests/support/gui.h>
 
 namespace {
+
+/// Whether all is shown as for a language that is read from right to left.
+bool IsRightToLeft()
+{
+    const char* const direction = std::getenv("FITTINGS_TEST_DIRECTION");
+    return direction && std::strcmp(direction, "rtl") == 0;
+}
 
 class TestApp : public wxApp
 {
@@ -23,6 +34,8 @@ public:
 
     int OnRun() override
     {
+        if (IsRightToLeft())
+            gtk_widget_set_default_direction(GTK_TEXT_DIR_RTL);
         wxGUIEventLoop loop;
         wxEventLoopActivator activate(&loop);
         // The first frame of a process is placed unlike all later ones.
@@ -31,6 +44,12 @@ public:
         frame->Destroy();
         PumpPending();
         return RUN_ALL_TESTS();
+    }
+
+    /// Every window's, unless the window says otherwise.
+    wxLayoutDirection GetLayoutDirection() const override
+    {
+        return IsRightToLeft() ? wxLayout_RightToLeft : wxApp::GetLayoutDirection();
     }
 
     void OnAssertFailure(const wxChar* file, int line, const wxChar* function, const wxChar* condition,
