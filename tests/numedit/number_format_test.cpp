@@ -1,5 +1,8 @@
 #include <fittings/numedit/number_format.h>
 
+#include <algorithm>
+#include <functional>
+#include <iterator>
 #include <type_traits>
 
 #include <gtest/gtest.h>
@@ -67,6 +70,37 @@ TEST(NumberFormat, HasFieldsOfTheTypesThatHostsAssign)
     static_assert(std::is_same_v<decltype(CNumberFormat::m_dMax), double>);
     static_assert(std::is_same_v<decltype(std::declval<CNumberFormat&>() = std::declval<const CNumberFormat&>()),
                                  CNumberFormat&>);
+}
+
+TEST(NumberFormat, DeclaresItsFieldsInOrder)
+{
+    const CNumberFormat format(eFixedFormat);
+    const void* const fields[] = {&format.m_bPadDecimals,
+                                  &format.m_bRoundDecimals,
+                                  &format.m_bAllowSign,
+                                  &format.m_bGroupDigits,
+                                  &format.m_bTrailingMinus,
+                                  &format.m_bAllowExponent,
+                                  &format.m_chDecimalPoint,
+                                  &format.m_chThousandsSep,
+                                  &format.m_strTemplate,
+                                  &format.m_bHasDecimals,
+                                  &format.m_nDecimals,
+                                  &format.m_bHasMaxIntDigits,
+                                  &format.m_nMaxIntDigits,
+                                  &format.m_bHasMin,
+                                  &format.m_dMin,
+                                  &format.m_bHasMax,
+                                  &format.m_dMax};
+    EXPECT_EQ(std::size(fields), 17u);
+    EXPECT_TRUE(std::is_sorted(std::begin(fields), std::end(fields), std::less<>()));
+}
+
+TEST(NumberFormat, IsMadeOfItsPresetWhereOneIsAskedFor)
+{
+    static_assert(std::is_convertible_v<EGeneralFormat, CNumberFormat>);
+    const CNumberFormat format = eFixedFormat;
+    ExpectFixed(format);
 }
 
 TEST(NumberFormat, FillsEveryFieldOfTheFixedPreset)
