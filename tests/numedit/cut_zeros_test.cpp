@@ -87,6 +87,27 @@ TEST(CutZerosPoint, IsTheFormats)
     EXPECT_EQ(Cut(L"\U0010ffff50", L'\U0010ffff'), L"0\U0010ffff5");
 }
 
+TEST(CutZerosFormat, IsAskedForThePointAlone)
+{
+    for (const bool flag : {false, true}) {
+        CNumberFormat format(eFixedFormat);
+        format.m_bPadDecimals = format.m_bRoundDecimals = format.m_bAllowSign = flag;
+        format.m_bGroupDigits = format.m_bTrailingMinus = format.m_bAllowExponent = flag;
+        format.m_bHasDecimals = format.m_bHasMaxIntDigits = format.m_bHasMin = format.m_bHasMax = flag;
+        format.m_nDecimals = 1;
+        format.m_nMaxIntDigits = 1;
+        format.m_dMin = format.m_dMax = 7;
+        format.m_chThousandsSep = L'0';
+        format.m_strTemplate = L"%s kg";
+        wxString text = " 0012345.67800E+010 ";
+        CNumberEditUtils::CutZeros(text, format);
+        EXPECT_EQ(text, "12345.678E+010");
+        text = "-5.0";
+        CNumberEditUtils::CutZeros(text, format);
+        EXPECT_EQ(text, "-5");
+    }
+}
+
 TEST(CutZerosPoint, MayBeAnyCharacter)
 {
     EXPECT_EQ(Cut(L"100", L'0'), L"1");

@@ -93,7 +93,18 @@ TEST(FormatControlText, RefusesNothingThatValidationRefuses)
     format.m_bHasMin = format.m_bHasMax = true;
     format.m_dMin = format.m_dMax = 1;
     EXPECT_EQ(Shown(L"-1234567890.5", format), L"1,234,567,890.50-");
+    EXPECT_EQ(Shown(L"+1234.5", format), L"1,234.50");
     EXPECT_EQ(Shown(L"5e3", format), L"5e3");
+}
+
+TEST(FormatControlText, CarriesTheSameExponentsOverWhereTheyAreAllowed)
+{
+    CNumberFormat format(eFixedFormat);
+    format.m_bAllowExponent = true;
+    EXPECT_EQ(Shown(L"-1.5E+03", format), L"1.5-E+03");
+    EXPECT_EQ(Shown(L"1e", format), L"1e");
+    EXPECT_EQ(Shown(L"12-5", format), L"12");
+    EXPECT_EQ(Shown(L"12+5", format), L"12");
 }
 
 TEST(FormatControlText, RoundsHalfUp)
@@ -310,6 +321,8 @@ TEST(FormatControlText, TakesAnyCharacterForThePoint)
     format.m_chDecimalPoint = L'e';
     EXPECT_EQ(Shown(L"1.50", format), L"1e50");
     EXPECT_EQ(Shown(L"1.5e3", format), L"1e5e3");
+    // Each of the locale's points is replaced, and here the second one begins an exponent.
+    EXPECT_EQ(Shown(L"1.5.3", format), L"1e5e3");
     format.m_chDecimalPoint = L'-';
     EXPECT_EQ(Shown(L".5", format), L"0-5");
     EXPECT_EQ(Shown(L"-5", format), L"0-5");
@@ -370,6 +383,9 @@ TEST(FormatControlText, AppendsNoMoreThanAMillionZeros)
     format.m_bPadDecimals = false;
     format.m_bRoundDecimals = true;
     EXPECT_EQ(Shown(L"1.99999", format), L"1.99999");
+    format.m_nDecimals = std::uint64_t{1} << 32;
+    EXPECT_EQ(Shown(L"1.99999", format), L"1.99999");
+    EXPECT_EQ(Shown(L"5.x", format), L"5.");
 }
 
 }  // namespace

@@ -59,6 +59,23 @@ TEST(GroupDigitsSeparator, IsTheFormats)
     EXPECT_EQ(Group(L"1234.5", L'.'), L"1.234.5");
 }
 
+TEST(GroupDigitsFormat, IsAskedForTheSeparatorsAlone)
+{
+    for (const bool flag : {false, true}) {
+        CNumberFormat format(eFixedFormat);
+        format.m_bPadDecimals = format.m_bRoundDecimals = format.m_bAllowSign = flag;
+        format.m_bGroupDigits = format.m_bTrailingMinus = format.m_bAllowExponent = flag;
+        format.m_bHasDecimals = format.m_bHasMaxIntDigits = format.m_bHasMin = format.m_bHasMax = flag;
+        format.m_nDecimals = 1;
+        format.m_nMaxIntDigits = 1;
+        format.m_dMin = format.m_dMax = 7;
+        format.m_strTemplate = L"%s kg";
+        wxString text = "-1234567.8900e5";
+        CNumberEditUtils::GroupDigits(text, format);
+        EXPECT_EQ(text, "-1,234,567.8900e5");
+    }
+}
+
 // The default locale has no separator. Its texts end where one would stand.
 TEST(GroupDigitsSeparator, EndsTheTextWhereItIsZero)
 {

@@ -75,6 +75,11 @@ TEST(ValidateInput, AcceptsAsManyZerosAsThereAreDecimals)
     format.m_nDecimals = UINT64_MAX;
     EXPECT_TRUE(Accepted((L"0." + std::wstring(1000, L'0')).c_str(), format));
     EXPECT_FALSE(Accepted((L"0." + std::wstring(1000, L'0') + L"1").c_str(), format));
+    // Of 64 bits.
+    format.m_nDecimals = std::uint64_t{1} << 32;
+    EXPECT_TRUE(Accepted(L"0.", format));
+    EXPECT_TRUE(Accepted(L"0.000", format));
+    EXPECT_FALSE(Accepted(L"0.001", format));
 }
 
 // "0" has one digit too many, and is accepted on the way all the same.
@@ -120,6 +125,24 @@ TEST(ValidateInput, TakesAnyCharacterForThePoint)
     EXPECT_TRUE(Accepted(L"0", format));
     EXPECT_FALSE(Accepted(L"0.", format));
     EXPECT_FALSE(Accepted(L"00", format));
+}
+
+TEST(ValidateInput, LooksAtNoOtherFieldForTheZeros)
+{
+    for (const bool flag : {false, true}) {
+        CNumberFormat format = FromOne();
+        format.m_bPadDecimals = format.m_bRoundDecimals = format.m_bAllowSign = flag;
+        format.m_bGroupDigits = format.m_bTrailingMinus = format.m_bAllowExponent = flag;
+        format.m_bHasMax = format.m_bHasMaxIntDigits = flag;
+        format.m_dMax = -1;
+        format.m_nMaxIntDigits = 0;
+        format.m_chThousandsSep = L'0';
+        format.m_strTemplate = L"";
+        for (const wchar_t* text : {L".", L"0", L"0.", L"0.0", L"0.00"})
+            EXPECT_TRUE(Accepted(text, format)) << text;
+        for (const wchar_t* text : {L"", L"0.000", L"00", L"-0", L"0e", L".0"})
+            EXPECT_FALSE(Accepted(text, format)) << text;
+    }
 }
 
 TEST(ValidateInput, TakesANullTextForTheEmptyOne)
