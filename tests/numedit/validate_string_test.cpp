@@ -104,6 +104,9 @@ TEST(ValidateString, CountsIntegerDigitsWithoutTheSign)
 
     format.m_nMaxIntDigits = UINT64_MAX;
     EXPECT_TRUE(Valid(L"123456789012345678901234567890", format));
+    // Of 64 bits.
+    format.m_nMaxIntDigits = std::uint64_t{1} << 32;
+    EXPECT_TRUE(Valid(L"1234", format));
 }
 
 TEST(ValidateString, RefusesTooManyIntegerDigitsBeforeAFractionToo)
@@ -144,16 +147,18 @@ TEST(ValidateString, CountsDecimals)
     EXPECT_TRUE(Valid(L".123", WithDecimals(3)));
     EXPECT_FALSE(Valid(L".1234", WithDecimals(3)));
     EXPECT_TRUE(Valid(L".12345678901234567890123456789012345678901234567890", WithDecimals(UINT64_MAX)));
+    EXPECT_TRUE(Valid(L".1234", WithDecimals(std::uint64_t{1} << 32)));
 }
 
 TEST(ValidateString, AcceptsExponentsWhereAllowed)
 {
     const CNumberFormat format = WithExponent(2);
-    for (const wchar_t* text : {L"1e5",        L"1E5",   L"1e",    L"1E",    L"1e-",
-                                L"1e+",        L"1E+10", L"1e-10", L"1.5e3", L"1.e3",
-                                L"-1.25E-300", L".5e1",  L".e5",   L"-.e5",  L"1e0001234567890123456789",
-                                L"1-5",        L"12+5",  L"12-5",  L"1-",    L"1+",
-                                L"1.5-",       L"1.25+7"})
+    for (const wchar_t* text : {L"1e5",        L"1E5",    L"1e",    L"1E",    L"1e-",
+                                L"1e+",        L"1E+10",  L"1e-10", L"1.5e3", L"1.e3",
+                                L"-1.25E-300", L".5e1",   L".e5",   L"-.e5",  L"1e0001234567890123456789",
+                                L"1-5",        L"12+5",   L"12-5",  L"1-",    L"1+",
+                                L"1.5-",       L"1.25+7", L"1.-5",  L".-5",   L"-.+5",
+                                L"1.-",        L".e",     L"-.E+"})
         EXPECT_TRUE(Valid(text, format)) << text;
     for (const wchar_t* text : {L"e5", L"E", L"-e5", L"+e5", L"--5", L"1x", L"1e5x", L"1ee5", L"1eE", L"1e--5", L"1e5-",
                                 L"1e5.", L"1e.5", L"1-e5", L"1--", L"1.255e5", L"1 e5", L"1e 5", L"1.2.3e4"})
@@ -224,6 +229,35 @@ TEST(ValidateString, ChecksBoundsOfTheExponentToo)
     // Without its letter an exponent is accepted, and not read as one.
     EXPECT_TRUE(Valid(L"1+4", format));
     EXPECT_FALSE(Valid(L"1e999999999999", format));
+}
+
+// What follows the number that a text begins with is the business of the grammar.
+TEST(ValidateString, ChecksBoundsOfTheLongestNumberThatTheTextBeginsWith)
+{
+    CNumberFormat format = WithMin(10);
+    format.m_bAllowExponent = true;
+    for (const wchar_t* text : {L"12.", L"12e", L"12E+", L"12.5e-", L"12-5", L"12+"})
+        EXPECT_TRUE(Valid(text, format)) << text;
+    for (const wchar_t* text : {L"9.", L"9e", L"9+5", L"12e-5"})
+        EXPECT_FALSE(Valid(text, format)) << text;
+    format = WithMax(10);
+    format.m_bAllowExponent = true;
+    for (const wchar_t* text : {L"12.", L"12e", L"12E+", L"12.5e-", L"12-5", L"12+"})
+        EXPECT_FALSE(Valid(text, format)) << text;
+    for (const wchar_t* text : {L"9.", L"9e", L"9+5", L"12e-5"})
+        EXPECT_TRUE(Valid(text, format)) << text;
+}
+
+TEST(ValidateString, ComparesBoundsAsDoubles)
+{
+    EXPECT_TRUE(Valid(L"0.1", WithMin(0.1)));
+    EXPECT_TRUE(Valid(L"0.1", WithMax(0.1)));
+    EXPECT_TRUE(Valid(L"16777216", WithMax(16777216)));
+    EXPECT_FALSE(Valid(L"16777217", WithMax(16777216)));
+    EXPECT_FALSE(Valid(L"16777217", WithMin(16777218)));
+    // The nearest double of this one is 2^53.
+    EXPECT_TRUE(Valid(L"9007199254740993", WithMax(9007199254740992)));
+    EXPECT_FALSE(Valid(L"9007199254740994", WithMax(9007199254740992)));
 }
 
 TEST(ValidateString, ChecksTheGrammarWithinTheBoundsToo)
