@@ -73,6 +73,20 @@ TEST_F(Transfer, ToTheWindowPutsTheTextInAsItIs)
     EXPECT_EQ(Bells(), bellsBefore);
 }
 
+TEST_F(Transfer, ToTheWindowReachesAControlThatTheUserCannotChange)
+{
+    value = "12";
+    control->Disable();
+    EXPECT_TRUE(validator.TransferToWindow());
+    EXPECT_EQ(control->GetValue(), "12");
+    value = "34";
+    control->Enable();
+    control->SetEditable(false);
+    EXPECT_TRUE(validator.TransferToWindow());
+    EXPECT_EQ(control->GetValue(), "34");
+    EXPECT_EQ(texts, (std::vector<wxString>{"12", "34"}));
+}
+
 TEST_F(Transfer, ToTheWindowSendsItsEventForTheSameTextToo)
 {
     value = "12";
@@ -156,6 +170,11 @@ TEST_F(Transfer, FailsWithoutATextControl)
         EXPECT_TRUE(unbound.TransferToWindow());
         EXPECT_TRUE(unbound.TransferFromWindow());
         EXPECT_FALSE(unbound.Validate(panel));
+        if (other) {
+            other->Disable();
+            EXPECT_FALSE(validator.Validate(panel)) << "disabled";
+            other->Enable();
+        }
     }
     EXPECT_EQ(static_cast<wxComboBox*>(others[3])->GetValue(), "12");
 }

@@ -207,6 +207,10 @@ TEST_F(Handlers, TakeAsManyCharactersAwayAsAreSelected)
     EXPECT_FALSE(CharPasses(',')) << ",456";
     control->selection = "wxyz";
     EXPECT_TRUE(CharPasses(',')) << ",56";
+    // Characters, however many bytes they have.
+    Start("12,45", 0);
+    control->selection = L"\u20ac\u20ac";
+    EXPECT_FALSE(CharPasses(',')) << ",,45";
 }
 
 TEST_F(Handlers, TakeNoMoreAwayThanThereIs)
