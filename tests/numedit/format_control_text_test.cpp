@@ -121,6 +121,9 @@ TEST(FormatControlText, RoundsHalfUp)
     EXPECT_EQ(Rounded(L"0.000000015", 8), L"0.00000002");
     EXPECT_EQ(Rounded(L"0.05", 1), L"0.1");
     EXPECT_EQ(Rounded(L"0.04", 1), L"0.0");
+    // A minus stays where nothing else does.
+    EXPECT_EQ(Rounded(L"-0.001", 2), L"-0.00");
+    EXPECT_EQ(Rounded(L"-0.4", 0), L"-0");
     // Each digit counts, where a double would have none left.
     EXPECT_EQ(Rounded(L"12345678901234567890.12345678901234567895", 19), L"12345678901234567890.1234567890123456790");
 }

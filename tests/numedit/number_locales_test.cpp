@@ -248,6 +248,9 @@ TEST(CurrentConversion, MayMakeSeveralCharactersOfThePoint)
     EXPECT_EQ(Shown(L"1234\u00d95", fixed), L"1,234");
     EXPECT_FALSE(Valid(L"1.5", fixed));
     EXPECT_TRUE(Valid(L"1\u00d95", fixed));
+    // A format whose point is the first of them is no exception.
+    EXPECT_FALSE(Valid(L"1\u00d95", Amount()));
+    EXPECT_EQ(Shown(L"1\u00d9\u00ab5", Amount()), L"1\u00d950");
 }
 
 TEST(CurrentConversion, IsNotAskedForAsciiSeparators)
