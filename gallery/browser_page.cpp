@@ -117,8 +117,11 @@ void BrowserPage::LoadLayout()
 void BrowserPage::ShowFloatingPanes(bool show)
 {
     wxAuiPaneInfo& folders = m_layout.GetPane(foldersPane);
-    if (folders.frame && folders.IsShown())
-        folders.frame->Show(show);
+    if (!folders.frame || !folders.IsShown())
+        return;
+    if (!show)
+        m_floatingPlace = folders.frame->GetPosition();
+    folders.frame->Show(show);
 }
 
 void BrowserPage::SaveSettings()
@@ -129,10 +132,11 @@ void BrowserPage::SaveSettings()
     browser_settings::SaveMinimumSize(m_filter->GetMegabytes());
     if (!m_layoutLoaded)
         return;
-    // Where the window manager is slow, the layout's own record is that of a window not yet placed.
+    // Where the window manager is slow, the layout's own record is that of a window not yet placed. A window that is hidden
+    // has a place no longer.
     wxAuiPaneInfo& folders = m_layout.GetPane(foldersPane);
     if (folders.frame)
-        folders.floating_pos = folders.frame->GetPosition();
+        folders.floating_pos = folders.frame->IsShown() ? folders.frame->GetPosition() : m_floatingPlace;
     wx_window_state::SaveAuiManagerState(&m_layout, stateName);
 }
 

@@ -137,6 +137,25 @@ TEST_F(Pages, FloatingFoldersGoAndComeWithTheirPage)
     EXPECT_TRUE(FoldersComeTo(place));
 }
 
+// The window manager may have something to say of a window that is already hidden.
+TEST_F(Pages, FloatingFoldersComeBackWhereTheyWereSeen)
+{
+    Open(root);
+    const wxPoint place = frame->GetPosition() + wxSize(300, 200);
+    FloatFolders(place);
+    frame->Raise();
+    List().SetFocus();
+    Press('2', wxMOD_ALT);
+    ASSERT_TRUE(PumpUntil([&] { return !Tree().IsShownOnScreen(); }));
+    frame->GetBrowser()->GetLayout().GetPane(&Tree()).frame->Move(place + wxSize(60, 60));
+    Close();
+
+    Open("");
+    ASSERT_TRUE(ShowsPage("Numbers"));
+    Press('1', wxMOD_ALT);
+    EXPECT_TRUE(FoldersComeTo(place));
+}
+
 // Their layout is loaded with their page, so that what was never on the screen is not stored as it is.
 TEST_F(Pages, FoldersThatWereNotShownKeepTheirLayout)
 {
