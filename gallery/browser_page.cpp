@@ -26,6 +26,7 @@
 #include "native_text.h"
 #include "readable_colour.h"
 #include "report.h"
+#include "screenshot.h"
 #include "size_filter.h"
 #include "sizes_row.h"
 
@@ -60,6 +61,13 @@ wxString Summary(const std::vector<Entry>& entries)
     if (unreadable > 0)
         text << ", " << unreadable << " unreadable";
     return text;
+}
+
+/// Where a window is. The toolkit sometimes takes a window for being in the corner of the screen when it has just been shown,
+/// and the window manager was slow to frame it.
+wxPoint PlaceOf(const wxFrame& window)
+{
+    return FrameRect(window.GetHandle()).GetPosition();
 }
 
 }  // namespace
@@ -120,7 +128,7 @@ void BrowserPage::ShowFloatingPanes(bool show)
     if (!folders.frame || !folders.IsShown())
         return;
     if (!show)
-        m_floatingPlace = folders.frame->GetPosition();
+        m_floatingPlace = PlaceOf(*folders.frame);
     folders.frame->Show(show);
 }
 
@@ -132,11 +140,10 @@ void BrowserPage::SaveSettings()
     browser_settings::SaveMinimumSize(m_filter->GetMegabytes());
     if (!m_layoutLoaded)
         return;
-    // Where the window manager is slow, the layout's own record is that of a window not yet placed. A window that is hidden
-    // has a place no longer.
+    // A window that is hidden has a place no longer.
     wxAuiPaneInfo& folders = m_layout.GetPane(foldersPane);
     if (folders.frame)
-        folders.floating_pos = folders.frame->IsShown() ? folders.frame->GetPosition() : m_floatingPlace;
+        folders.floating_pos = folders.frame->IsShown() ? PlaceOf(*folders.frame) : m_floatingPlace;
     wx_window_state::SaveAuiManagerState(&m_layout, stateName);
 }
 

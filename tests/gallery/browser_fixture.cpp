@@ -9,6 +9,7 @@
 
 #include <gallery/folder_listing.h>
 #include <gallery/native_text.h>
+#include <gallery/screenshot.h>
 
 using namespace fittings;
 using namespace fittings::simulated_user;
@@ -109,7 +110,9 @@ bool BrowserTest::FoldersComeTo(const wxPoint& place)
 {
     return PumpUntil([&] {
         const wxAuiPaneInfo& pane = frame->GetBrowser()->GetLayout().GetPane(&Tree());
-        return pane.frame && pane.frame->GetPosition() == place &&
-               wxRect(place, pane.frame->GetSize()).Contains(Tree().GetScreenRect());
+        if (!pane.frame)
+            return false;
+        const wxRect shown = FrameRect(pane.frame->GetHandle());
+        return shown.GetPosition() == place && shown.Contains(Tree().GetScreenRect());
     });
 }
