@@ -22,7 +22,7 @@ std::optional<std::wstring> DefaultStore::Get(std::wstring_view section, std::ws
     return m_file.Get(section, key);
 }
 
-bool DefaultStore::Change(std::wstring_view section, std::wstring_view key, const std::optional<std::wstring>& value)
+bool DefaultStore::Change(std::wstring_view section, std::wstring_view key, std::optional<std::wstring_view> value)
 {
     const std::lock_guard<std::mutex> writing(m_writing);
     std::wstring folder;

@@ -19,7 +19,7 @@ public:
     std::optional<std::wstring> Get(std::wstring_view section, std::wstring_view key);
 
     /// Stores a value, or removes the key. False when that could not be saved.
-    bool Change(std::wstring_view section, std::wstring_view key, const std::optional<std::wstring>& value);
+    bool Change(std::wstring_view section, std::wstring_view key, std::optional<std::wstring_view> value);
 
 private:
     void Refresh();

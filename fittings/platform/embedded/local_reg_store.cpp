@@ -72,7 +72,7 @@ std::wstring CLocalRegStore::GetString(const wchar_t* section, const wchar_t* ke
 
 bool CLocalRegStore::WriteString(const wchar_t* section, const wchar_t* key, const wchar_t* value)
 {
-    return fittings::DefaultStore::Instance().Change(View(section), View(key), std::wstring(View(value)));
+    return fittings::DefaultStore::Instance().Change(View(section), View(key), View(value));
 }
 
 bool CLocalRegStore::GetProfileBool(const wchar_t* section, const wchar_t* key, bool defaultValue)
