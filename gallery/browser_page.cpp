@@ -249,7 +249,7 @@ void BrowserPage::MakeTools()
         new wxToolBar(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTB_HORIZONTAL | wxTB_HORZ_TEXT | wxTB_FLAT);
     m_tools->SetName("Tools");
     m_tools->AddTool(wxID_OPEN, L"Open folder\u2026", icon(wxART_FOLDER_OPEN), "Browse another folder (Ctrl+O)");
-    m_tools->AddTool(wxID_UP, "Up", icon(wxART_GO_DIR_UP), "Select the folder that this one is in (Alt+Up)");
+    m_tools->AddTool(wxID_UP, "Up", icon(wxART_GO_UP), "Select the folder that this one is in (Alt+Up)");
     m_tools->AddTool(wxID_REFRESH, "Refresh", icon(wxART_REFRESH), "Read the folders again (F5)");
     m_tools->AddTool(wxID_SAVEAS, L"Save report\u2026", icon(wxART_FILE_SAVE_AS),
                      "Write what the list shows into a file (Ctrl+S)");

@@ -1,6 +1,7 @@
 #include <filesystem>
 
 #include <wx/imaglist.h>
+#include <wx/toolbar.h>
 
 #include <tests/gallery/browser_fixture.h>
 #include <tests/scaled/scaled_screen.h>
@@ -9,6 +10,22 @@ namespace {
 
 namespace fs = std::filesystem;
 using namespace fittings::simulated_user;
+
+/// Whether half of the image's columns are like the one before: it had half as many, or fewer.
+bool WasMadeLarger(const wxImage& image)
+{
+    const auto isLikeTheOneBefore = [&](int x) {
+        for (int y = 0; y < image.GetHeight(); ++y) {
+            if (image.GetRed(x, y) != image.GetRed(x - 1, y) || image.GetBlue(x, y) != image.GetBlue(x - 1, y))
+                return false;
+        }
+        return true;
+    };
+    int repeated = 0;
+    for (int x = 1; x < image.GetWidth(); ++x)
+        repeated += isLikeTheOneBefore(x) ? 1 : 0;
+    return repeated >= image.GetWidth() / 2;
+}
 
 class GalleryOnAScaledScreen : public BrowserTest
 {
@@ -31,6 +48,15 @@ TEST_F(GalleryOnAScaledScreen, HasSharpImagesInTheTree)
     EXPECT_TRUE(PumpUntil([&] { return !IsOfWholePixels(GrabScaled(ImageOf("a"))); }));
     for (int image = 0; image < Tree().GetImageList()->GetImageCount(); ++image)
         EXPECT_EQ(Tree().GetImageList()->GetBitmap(image).GetScaleFactor(), 2) << image;
+}
+
+TEST_F(GalleryOnAScaledScreen, HasSharpImagesOnItsTools)
+{
+    Open(root);
+    for (const int id : {wxID_OPEN, wxID_UP, wxID_REFRESH, wxID_SAVEAS}) {
+        const wxBitmapBundle image = frame->GetBrowser()->GetTools()->FindById(id)->GetNormalBitmapBundle();
+        EXPECT_FALSE(WasMadeLarger(image.GetBitmap(2 * image.GetDefaultSize()).ConvertToImage())) << id;
+    }
 }
 
 TEST_F(GalleryOnAScaledScreen, ComesBackWhereItWas)
