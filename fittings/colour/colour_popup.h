@@ -24,7 +24,8 @@ public:
     /// Another cell became hot; @a colour is that cell's.
     virtual void OnColourSelChange(const wxColour& colour);
 
-    /// @a colour was chosen.
+    /// @a colour was chosen. It is the one already in effect when no cell was hot, or when the dialog of "More Colours..."
+    /// was cancelled.
     virtual void OnColourSelEnd(const wxColour& colour);
 
     /// Nothing was chosen; @a colour is the one that stays in effect.
@@ -195,28 +196,37 @@ public:
     /// The combo hides the popup. Unless the popup does that itself, the listener hears that nothing was chosen.
     void OnDismiss() override;
 
-    /// Makes a cell hot.
+    /// Makes a cell hot, draws it so and tells the listener. An index above the number of the palette's cells counts as
+    /// CELL_MORE_COLOURS; with any other that names no cell none is hot, and the colour is the one in effect.
     void ChangeSelection(int index);
 
     /// Tells the listener, and the combo where SetRefreshCombo() says so, of the hot cell's colour.
     void DoSelChange();
 
-    /// Ends the selection: with the hot cell's colour, or, unless @a ok, with the one that was in effect.
+    /// Ends the selection: with the hot cell's colour, asked for in the dialog where that is CELL_MORE_COLOURS, or, unless
+    /// @a ok, with the one that was in effect.
     void EndSelection(bool ok);
 
     /// Tells the listener of the end, and makes a colour that was chosen the initial one.
     void DoEndSel(bool ok);
 
-    /// Asks for a colour in the toolkit's dialog.
+    /// Asks for a colour in the toolkit's dialog, which begins with the one in effect. Its answer takes effect; a cancelled
+    /// dialog leaves the colour as it was.
     void DoShowColorDlg();
 
-    /// Makes the cell under the pointer hot.
+    /// Makes the cell under the pointer hot; where there is none, what was hot stays so.
+    ///
+    /// The boxes are taken to lie one margin lower and further right than they are drawn, and the palette below an
+    /// "Automatic" box one margin higher: the lowest rows of pixels of each of its cells stand for the cell below.
     void OnMouseMove(wxMouseEvent& event);
 
-    /// Chooses the cell under the pointer.
+    /// Ends the selection: with the hot cell's colour within the popup, between its cells too, and outside as a cancel.
     void OnLButtonUp(wxMouseEvent& event);
 
-    /// The arrows move the hot cell, Enter and the space bar choose it, Escape cancels.
+    /// The arrows move the hot cell, Enter and the space bar choose it, Escape cancels. Other keys are skipped.
+    ///
+    /// The cells follow one another in a circle: "Automatic", the palette row by row, "More Colours...". While none is hot,
+    /// Down and Right begin with "More Colours...", Up and Left with "Automatic".
     void OnKeyDown(wxKeyEvent& event);
     /// @}
 

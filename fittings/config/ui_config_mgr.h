@@ -9,7 +9,7 @@
 ///
 /// Every call opens the one file, reads or changes one value, saves what changed and closes it: nothing is cached and
 /// no lock is taken, so of two processes that write one file at the same moment the later one wins. The folder is
-/// made by the first call of any kind. File names are used exactly as given; null texts count as empty.
+/// made by the first call of any kind. File names are used exactly as given; null texts count as empty. GUI thread only.
 ///
 /// @code
 /// ui_config_mgr::WriteConfigInt(L"search.ini", L"Results", L"PageSize", 50);

@@ -63,7 +63,8 @@ public:
     /// Under eFixedFormat, "1234.5" gives "1,234.50", "-1234.567" gives "1,234.567-", ".5" gives "0.50" and "" gives
     /// "", without the template. The text's point may be the format's or the locale's. Nothing is refused: what
     /// follows the number is dropped, so "12abc" gives "12" and the group separator in "1,234" leaves "1". A plus sign
-    /// is dropped as well. A fraction before an exponent or before something dropped is not padded.
+    /// is dropped as well. A fraction before an exponent or before something dropped is not padded. A trailing minus
+    /// stands before an exponent: "-1.5e3" gives "1.5-e3".
     ///
     /// An m_nDecimals too large for any text cannot ask for one: no more than 1,000,000 zeros are appended. Where the
     /// decimal point is 0, the shown number ends at it.

@@ -87,7 +87,8 @@ public:
 
     /// @}
 
-    /// Shows the busy cursor around OnItemExpanding(). Bound to wxEVT_TREE_ITEM_EXPANDING by the constructor.
+    /// Shows the busy cursor around OnItemExpanding(), in all of the application, and the usual one afterwards, whatever the
+    /// host had set before. Bound to wxEVT_TREE_ITEM_EXPANDING by the constructor.
     ///
     /// The event ends here: neither the event table of a derived class nor a parent window hears of it. A host that wants
     /// to, to veto it for example, calls Bind() on the control, is asked first, and skips the event if the item is to be
