@@ -80,6 +80,11 @@ DrivenDialog::DrivenDialog(const std::vector<std::string>& command, const std::s
     WaitFor("a dialog", [](const DialogState& state) { return !state.focus.empty(); });
     if (!m_child.IsRunning())
         return;
+    // There no other program can find the dialog, and it gets the input focus by itself.
+    if (std::getenv("WAYLAND_DISPLAY")) {
+        WaitFor("the input focus", [](const DialogState& state) { return state.isActive || !state.message.empty(); });
+        return;
+    }
     const std::string windows = Xdotool({"search", "--sync", "--onlyvisible", "--name", "^" + title + "$"});
     m_window = windows.substr(0, windows.find('\n'));
     if (!State().message.empty())

@@ -1,0 +1,166 @@
+// Windows on Wayland, where no program may place its windows or know where they are.
+
+#include <fittings/config/wx_window_state.h>
+
+#include <string>
+
+#include <gtest/gtest.h>
+#include <wx/dialog.h>
+#include <wx/frame.h>
+#include <wx/utils.h>
+
+#include <fittings/platform/local_reg_store.h>
+#include <tests/config/spy_window.h>
+#include <tests/support/gui.h>
+#include <tests/support/temp_folder.h>
+
+namespace {
+
+std::wstring Stored()
+{
+    return CLocalRegStore::GetString(L"wxWindowState", L"w", L"none");
+}
+
+void Plant(const std::wstring& text)
+{
+    CLocalRegStore::WriteString(L"wxWindowState", L"w", text.c_str());
+}
+
+bool Ends(const std::wstring& text, const std::wstring& end)
+{
+    return text.size() > end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
+}
+
+bool ShowsInSize(wxTopLevelWindow* window, const wxSize& size)
+{
+    return ShowAndSettle(window) && PumpUntil([&] { return window->GetSize() == size; });
+}
+
+TEST(DisplayOfTheseTests, IsWayland)
+{
+    EXPECT_EQ(wxGetDisplayInfo().type, wxDisplayWayland);
+}
+
+// The place that the frame believes to have is the compositor's affair; it must not creep either.
+TEST(FrameOnWayland, ComesBackInTheSameSizeEachTime)
+{
+    const TempUserData data;
+    Plant(L"300;200;510;340");
+    std::wstring first;
+    for (int run = 0; run < 4; ++run) {
+        SpyFrame frame;
+        EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+        ASSERT_TRUE(ShowsInSize(&frame, wxSize(510, 340)));
+        wx_window_state::SaveState(&frame, L"w");
+        EXPECT_TRUE(Ends(Stored(), L";510;340")) << wxString(Stored());
+        if (run == 0)
+            first = Stored();
+    }
+    EXPECT_EQ(wxString(Stored()), wxString(first));
+}
+
+TEST(FrameOnWayland, KeepsTheSizeThatItsUserGaveIt)
+{
+    const TempUserData data;
+    {
+        SpyFrame frame;
+        ASSERT_TRUE(ShowAndSettle(&frame));
+        frame.SetSize(620, 410);
+        ASSERT_TRUE(PumpUntil([&] { return frame.GetSize() == wxSize(620, 410); }));
+        wx_window_state::SaveState(&frame, L"w");
+    }
+    SpyFrame frame;
+    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    EXPECT_TRUE(ShowsInSize(&frame, wxSize(620, 410)));
+}
+
+TEST(FrameOnWayland, KeepsItsStoredPlaceUntilItIsShown)
+{
+    const TempUserData data;
+    Plant(L"300;200;510;340");
+    SpyFrame frame(wxRect(10, 20, 400, 300));
+    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    wx_window_state::SaveState(&frame, L"w");
+    EXPECT_EQ(wxString(Stored()), L"300;200;510;340");
+}
+
+TEST(FrameOnWayland, FromAMissingMonitorIsShown)
+{
+    const TempUserData data;
+    Plant(L"5000;5000;510;340");
+    SpyFrame frame;
+    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    EXPECT_EQ(frame.GetRect(), wxRect(0, 0, 510, 340));
+    EXPECT_TRUE(ShowsInSize(&frame, wxSize(510, 340)));
+}
+
+TEST(FrameOnWayland, LargerThanTheDisplayIsShownInIts)
+{
+    const TempUserData data;
+    Plant(L"100;100;9000;9000");
+    SpyFrame frame;
+    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    ASSERT_TRUE(ShowAndSettle(&frame));
+    EXPECT_LE(frame.GetSize().x, 1200);
+    EXPECT_LE(frame.GetSize().y, 940);
+}
+
+TEST(FrameOnWayland, TakesItsSizeWhileItIsShown)
+{
+    const TempUserData data;
+    Plant(L"300;200;510;340");
+    SpyFrame frame;
+    ASSERT_TRUE(ShowAndSettle(&frame));
+    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    EXPECT_TRUE(PumpUntil([&] { return frame.GetSize() == wxSize(510, 340); }));
+}
+
+TEST(FrameOnWayland, ComesBackMaximizedAndCanBeRestored)
+{
+    const TempUserData data;
+    wxSize maximized;
+    {
+        SpyFrame frame;
+        ASSERT_TRUE(ShowAndSettle(&frame));
+        EXPECT_FALSE(frame.IsMaximized());
+        frame.Maximize();
+        ASSERT_TRUE(PumpUntil([&] { return frame.IsMaximized() && frame.GetSize().x > 1000; }));
+        maximized = frame.GetSize();
+        wx_window_state::SaveState(&frame, L"w");
+    }
+    EXPECT_TRUE(CLocalRegStore::GetProfileBool(L"wxWindowMaximize", L"w", false));
+    SpyFrame frame;
+    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    ASSERT_TRUE(ShowAndSettle(&frame));
+    EXPECT_TRUE(PumpUntil([&] { return frame.IsMaximized() && frame.GetSize() == maximized; }));
+    frame.Maximize(false);
+    EXPECT_TRUE(PumpUntil([&] { return !frame.IsMaximized(); }));
+    wx_window_state::SaveState(&frame, L"w");
+    EXPECT_FALSE(CLocalRegStore::GetProfileBool(L"wxWindowMaximize", L"w", true));
+}
+
+TEST(DialogOnWayland, ComesBackInItsSize)
+{
+    const TempUserData data;
+    Plant(L"250;150;420;310");
+    wxDialog dialog(nullptr, wxID_ANY, "dialog", wxDefaultPosition, wxSize(300, 200),
+                    wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER);
+    EXPECT_TRUE(wx_window_state::LoadState(&dialog, L"w"));
+    ASSERT_TRUE(ShowsInSize(&dialog, wxSize(420, 310)));
+    wx_window_state::SaveState(&dialog, L"w");
+    EXPECT_TRUE(Ends(Stored(), L";420;310")) << wxString(Stored());
+}
+
+TEST(RightCornerOnWayland, LeavesTheWindowShownInItsSize)
+{
+    SpyFrame reference;
+    SpyFrame frame(wxRect(0, 0, 350, 250));
+    ASSERT_TRUE(ShowAndSettle(&reference));
+    ASSERT_TRUE(ShowsInSize(&frame, wxSize(350, 250)));
+    wx_window_state::MoveWindowToRightCorner(&frame, &reference);
+    PumpPending();
+    EXPECT_TRUE(frame.IsShownOnScreen());
+    EXPECT_EQ(frame.GetSize(), wxSize(350, 250));
+}
+
+}  // namespace
