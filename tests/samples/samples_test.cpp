@@ -251,4 +251,25 @@ TEST(PlatformSample, SaysThatNothingCanBeStored)
     search.Close();
 }
 
+TEST(XrcSample, GivesAPlanetTheColourThatIsChosenAndOpensTheTreeAgain)
+{
+    const Person person;
+    {
+        SampleInUse planets("xrc", "Planets", person);
+        planets.Press("Right");
+        planets.Press("Down");
+        planets.Press("alt+c");
+        planets.Press("F4");
+        EXPECT_TRUE(Becomes([] { return SampleInUse::Find(kOrange).has_value(); }));
+        for (const char* const key : {"Up", "Down", "Right", "Return"})
+            planets.Press(key);
+        planets.WaitForTitle("Earth in #A52A00");
+        planets.Close();
+    }
+    EXPECT_EQ(person.FileOf("xrc", "settings.ini"), "[TreeControlState]\nPlanets=Sun|\n");
+    SampleInUse planets("xrc", "Planets", person);
+    planets.Close();
+    EXPECT_EQ(person.FileOf("xrc", "settings.ini"), "[TreeControlState]\nPlanets=Sun|\n");
+}
+
 }  // namespace
