@@ -34,7 +34,7 @@ install_missing() {
     as_root=(sudo)
   fi
 
-  echo "Installing: ${missing[*]}"
+  echo "Installing, which may take some minutes: ${missing[*]}"
   local log
   log=$(mktemp)
   # The index may be missing or old: refresh it only when the first attempt fails.
