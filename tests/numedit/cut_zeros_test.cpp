@@ -4,23 +4,19 @@
 
 #include <gtest/gtest.h>
 
+#include <tests/numedit/number_texts.h>
+#include <tests/numedit/unusual_format.h>
+
 namespace {
 
-std::wstring Cut(const std::wstring& text, wchar_t point = L'.')
+using Case = TextCase;
+
+std::wstring CutAt(wchar_t point, const std::wstring& text)
 {
     CNumberFormat format(eFixedFormat);
     format.m_chDecimalPoint = point;
-    wxString result(text);
-    CNumberEditUtils::CutZeros(result, format);
-    return result.ToStdWstring();
+    return Cut(text, format);
 }
-
-struct Case
-{
-    const char* name;
-    const wchar_t* text;
-    const wchar_t* expected;
-};
 
 class CutZeros : public testing::TestWithParam<Case>
 {
@@ -79,52 +75,41 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(CutZerosPoint, IsTheFormats)
 {
-    EXPECT_EQ(Cut(L"1,50", L','), L"1,5");
-    EXPECT_EQ(Cut(L"1.50", L','), L"1.50");
-    EXPECT_EQ(Cut(L",5", L','), L"0,5");
-    EXPECT_EQ(Cut(L".5", L','), L".5");
-    EXPECT_EQ(Cut(L"1\u066b50", L'\u066b'), L"1\u066b5");
-    EXPECT_EQ(Cut(L"\U0010ffff50", L'\U0010ffff'), L"0\U0010ffff5");
+    EXPECT_EQ(CutAt(L',', L"1,50"), L"1,5");
+    EXPECT_EQ(CutAt(L',', L"1.50"), L"1.50");
+    EXPECT_EQ(CutAt(L',', L",5"), L"0,5");
+    EXPECT_EQ(CutAt(L',', L".5"), L".5");
+    EXPECT_EQ(CutAt(L'\u066b', L"1\u066b50"), L"1\u066b5");
+    EXPECT_EQ(CutAt(L'\U0010ffff', L"\U0010ffff50"), L"0\U0010ffff5");
 }
 
 TEST(CutZerosFormat, IsAskedForThePointAlone)
 {
     for (const bool flag : {false, true}) {
-        CNumberFormat format(eFixedFormat);
-        format.m_bPadDecimals = format.m_bRoundDecimals = format.m_bAllowSign = flag;
-        format.m_bGroupDigits = format.m_bTrailingMinus = format.m_bAllowExponent = flag;
-        format.m_bHasDecimals = format.m_bHasMaxIntDigits = format.m_bHasMin = format.m_bHasMax = flag;
-        format.m_nDecimals = 1;
-        format.m_nMaxIntDigits = 1;
-        format.m_dMin = format.m_dMax = 7;
+        CNumberFormat format = FormatWithFlags(flag);
         format.m_chThousandsSep = L'0';
-        format.m_strTemplate = L"%s kg";
-        wxString text = " 0012345.67800E+010 ";
-        CNumberEditUtils::CutZeros(text, format);
-        EXPECT_EQ(text, "12345.678E+010");
-        text = "-5.0";
-        CNumberEditUtils::CutZeros(text, format);
-        EXPECT_EQ(text, "-5");
+        EXPECT_EQ(Cut(L" 0012345.67800E+010 ", format), L"12345.678E+010");
+        EXPECT_EQ(Cut(L"-5.0", format), L"-5");
     }
 }
 
 TEST(CutZerosPoint, MayBeAnyCharacter)
 {
-    EXPECT_EQ(Cut(L"100", L'0'), L"1");
-    EXPECT_EQ(Cut(L"0", L'0'), L"0");
-    EXPECT_EQ(Cut(L"0000", L'0'), L"0");
-    EXPECT_EQ(Cut(L"0012", L'1'), L"012");
-    EXPECT_EQ(Cut(L"1500", L'5'), L"1");
-    EXPECT_EQ(Cut(L"1e500", L'e'), L"1e500");
-    EXPECT_EQ(Cut(L"-500", L'-'), L"0-5");
-    EXPECT_EQ(Cut(L"1 500 ", L' '), L"1 5");
-    EXPECT_EQ(Cut(L"1.500", L'\0'), L"1.500");
+    EXPECT_EQ(CutAt(L'0', L"100"), L"1");
+    EXPECT_EQ(CutAt(L'0', L"0"), L"0");
+    EXPECT_EQ(CutAt(L'0', L"0000"), L"0");
+    EXPECT_EQ(CutAt(L'1', L"0012"), L"012");
+    EXPECT_EQ(CutAt(L'5', L"1500"), L"1");
+    EXPECT_EQ(CutAt(L'e', L"1e500"), L"1e500");
+    EXPECT_EQ(CutAt(L'-', L"-500"), L"0-5");
+    EXPECT_EQ(CutAt(L' ', L"1 500 "), L"1 5");
+    EXPECT_EQ(CutAt(L'\0', L"1.500"), L"1.500");
 }
 
 // A wxString can hold what no text control can.
 TEST(CutZerosPoint, MayBeAZeroCharacter)
 {
-    EXPECT_EQ(Cut(std::wstring(L"1\000500", 5), L'\0'), std::wstring(L"1\0005", 3));
+    EXPECT_EQ(CutAt(L'\0', std::wstring(L"1\000500", 5)), std::wstring(L"1\0005", 3));
     EXPECT_EQ(Cut(std::wstring(L"1\000.500", 6)), std::wstring(L"1\000.5", 4));
 }
 

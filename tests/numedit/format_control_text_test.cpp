@@ -4,12 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include <tests/numedit/number_texts.h>
+
 namespace {
 
-std::wstring Shown(const std::wstring& text, const CNumberFormat& format)
-{
-    return CNumberEditUtils::FormatControlText(text.c_str(), format).ToStdWstring();
-}
+using Case = TextCase;
 
 std::wstring Fixed(const std::wstring& text)
 {
@@ -29,13 +28,6 @@ std::wstring Rounded(const std::wstring& text, std::uint64_t decimals)
 {
     return Shown(text, Rounding(decimals));
 }
-
-struct Case
-{
-    const char* name;
-    const wchar_t* text;
-    const wchar_t* expected;
-};
 
 class FormatFixed : public testing::TestWithParam<Case>
 {

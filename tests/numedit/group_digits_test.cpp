@@ -4,24 +4,20 @@
 
 #include <gtest/gtest.h>
 
+#include <tests/numedit/number_texts.h>
+#include <tests/numedit/unusual_format.h>
+
 namespace {
 
-std::wstring Group(const std::wstring& text, wchar_t separator = L',', wchar_t point = L'.')
+using Case = TextCase;
+
+std::wstring GroupBy(wchar_t separator, const std::wstring& text, wchar_t point = L'.')
 {
     CNumberFormat format(eFixedFormat);
     format.m_chThousandsSep = separator;
     format.m_chDecimalPoint = point;
-    wxString result(text);
-    CNumberEditUtils::GroupDigits(result, format);
-    return result.ToStdWstring();
+    return Group(text, format);
 }
-
-struct Case
-{
-    const char* name;
-    const wchar_t* text;
-    const wchar_t* expected;
-};
 
 class GroupDigits : public testing::TestWithParam<Case>
 {
@@ -51,39 +47,28 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(GroupDigitsSeparator, IsTheFormats)
 {
-    EXPECT_EQ(Group(L"1234567,8901", L'.', L','), L"1.234.567,8901");
-    EXPECT_EQ(Group(L"1234.56", L' ', L','), L"1 234 .56");
-    EXPECT_EQ(Group(L"1234567", L'\u202f'), L"1\u202f234\u202f567");
-    EXPECT_EQ(Group(L"1234\u066b5", L'\u066c', L'\u066b'), L"1\u066c234\u066b5");
-    EXPECT_EQ(Group(L"1234567", L'0'), L"102340567");
-    EXPECT_EQ(Group(L"1234.5", L'.'), L"1.234.5");
+    EXPECT_EQ(GroupBy(L'.', L"1234567,8901", L','), L"1.234.567,8901");
+    EXPECT_EQ(GroupBy(L' ', L"1234.56", L','), L"1 234 .56");
+    EXPECT_EQ(GroupBy(L'\u202f', L"1234567"), L"1\u202f234\u202f567");
+    EXPECT_EQ(GroupBy(L'\u066c', L"1234\u066b5", L'\u066b'), L"1\u066c234\u066b5");
+    EXPECT_EQ(GroupBy(L'0', L"1234567"), L"102340567");
+    EXPECT_EQ(GroupBy(L'.', L"1234.5"), L"1.234.5");
 }
 
 TEST(GroupDigitsFormat, IsAskedForTheSeparatorsAlone)
 {
-    for (const bool flag : {false, true}) {
-        CNumberFormat format(eFixedFormat);
-        format.m_bPadDecimals = format.m_bRoundDecimals = format.m_bAllowSign = flag;
-        format.m_bGroupDigits = format.m_bTrailingMinus = format.m_bAllowExponent = flag;
-        format.m_bHasDecimals = format.m_bHasMaxIntDigits = format.m_bHasMin = format.m_bHasMax = flag;
-        format.m_nDecimals = 1;
-        format.m_nMaxIntDigits = 1;
-        format.m_dMin = format.m_dMax = 7;
-        format.m_strTemplate = L"%s kg";
-        wxString text = "-1234567.8900e5";
-        CNumberEditUtils::GroupDigits(text, format);
-        EXPECT_EQ(text, "-1,234,567.8900e5");
-    }
+    for (const bool flag : {false, true})
+        EXPECT_EQ(Group(L"-1234567.8900e5", FormatWithFlags(flag)), L"-1,234,567.8900e5");
 }
 
 // The default locale has no separator. Its texts end where one would stand.
 TEST(GroupDigitsSeparator, EndsTheTextWhereItIsZero)
 {
-    EXPECT_EQ(Group(L"1234", L'\0'), L"1");
-    EXPECT_EQ(Group(L"123456.78", L'\0'), L"123");
-    EXPECT_EQ(Group(L"12345", L'\0').size(), 2u);
-    EXPECT_EQ(Group(L"123.4567", L'\0'), L"123.4567");
-    EXPECT_EQ(Group(L"", L'\0'), L"");
+    EXPECT_EQ(GroupBy(L'\0', L"1234"), L"1");
+    EXPECT_EQ(GroupBy(L'\0', L"123456.78"), L"123");
+    EXPECT_EQ(GroupBy(L'\0', L"12345").size(), 2u);
+    EXPECT_EQ(GroupBy(L'\0', L"123.4567"), L"123.4567");
+    EXPECT_EQ(GroupBy(L'\0', L""), L"");
 }
 
 TEST(GroupDigitsText, EndsAtItsFirstZeroCharacter)
@@ -91,16 +76,16 @@ TEST(GroupDigitsText, EndsAtItsFirstZeroCharacter)
     EXPECT_EQ(Group(std::wstring(L"1\0002345", 6)), L"1");
     EXPECT_EQ(Group(std::wstring(L"1234\0005", 6)), L"123,4");
     EXPECT_EQ(Group(std::wstring(L"1234.5\0006", 8)), L"1,234.5");
-    EXPECT_EQ(Group(std::wstring(L"1234\0005", 6), L',', L'\0'), L"1,234");
-    EXPECT_EQ(Group(L"1234.5", L',', L'\0'), L"123,4.5");
+    EXPECT_EQ(GroupBy(L',', std::wstring(L"1234\0005", 6), L'\0'), L"1,234");
+    EXPECT_EQ(GroupBy(L',', L"1234.5", L'\0'), L"123,4.5");
 }
 
 TEST(GroupDigitsPoint, MayBeAnyCharacter)
 {
-    EXPECT_EQ(Group(L"1234567", L',', L'5'), L"1,234567");
-    EXPECT_EQ(Group(L"12340000", L',', L'0'), L"1,2340000");
-    EXPECT_EQ(Group(L"1234e5678", L',', L'e'), L"1,234e5678");
-    EXPECT_EQ(Group(L"1234.5", L',', L','), L"123,4.5");
+    EXPECT_EQ(GroupBy(L',', L"1234567", L'5'), L"1,234567");
+    EXPECT_EQ(GroupBy(L',', L"12340000", L'0'), L"1,2340000");
+    EXPECT_EQ(GroupBy(L',', L"1234e5678", L'e'), L"1,234e5678");
+    EXPECT_EQ(GroupBy(L',', L"1234.5", L','), L"123,4.5");
 }
 
 }  // namespace

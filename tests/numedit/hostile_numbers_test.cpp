@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tests/numedit/number_texts.h>
+
 namespace {
 
 constexpr std::size_t kLong = 1 << 20;
@@ -12,30 +14,6 @@ constexpr std::size_t kLong = 1 << 20;
 std::wstring Many(wchar_t c, std::size_t count = kLong)
 {
     return std::wstring(count, c);
-}
-
-std::wstring Cut(const std::wstring& text)
-{
-    wxString result(text);
-    CNumberEditUtils::CutZeros(result, CNumberFormat(eFixedFormat));
-    return result.ToStdWstring();
-}
-
-std::wstring Group(const std::wstring& text)
-{
-    wxString result(text);
-    CNumberEditUtils::GroupDigits(result, CNumberFormat(eFixedFormat));
-    return result.ToStdWstring();
-}
-
-std::wstring Shown(const std::wstring& text, const CNumberFormat& format)
-{
-    return CNumberEditUtils::FormatControlText(text.c_str(), format).ToStdWstring();
-}
-
-bool Valid(const std::wstring& text, const CNumberFormat& format)
-{
-    return CNumberEditUtils::ValidateString(text.c_str(), format);
 }
 
 /// Accepts digits without end, a fraction and an exponent.

@@ -6,26 +6,10 @@
 #include <gtest/gtest.h>
 #include <wx/strconv.h>
 
+#include <tests/numedit/number_texts.h>
 #include <tests/support/scoped_locale.h>
 
 namespace {
-
-std::wstring Cut(const wchar_t* text)
-{
-    wxString result(text);
-    CNumberEditUtils::CutZeros(result, CNumberFormat(eFixedFormat));
-    return result.ToStdWstring();
-}
-
-std::wstring Shown(const wchar_t* text, const CNumberFormat& format)
-{
-    return CNumberEditUtils::FormatControlText(text, format).ToStdWstring();
-}
-
-bool Valid(const wchar_t* text, const CNumberFormat& format)
-{
-    return CNumberEditUtils::ValidateString(text, format);
-}
 
 /// The locale's separators in a format of two decimals and groups.
 CNumberFormat Amount()

@@ -27,6 +27,18 @@ CNumberFormat UnusualFormat()
     return format;
 }
 
+CNumberFormat FormatWithFlags(bool flag)
+{
+    CNumberFormat format(eFixedFormat);
+    format.m_bPadDecimals = format.m_bRoundDecimals = format.m_bAllowSign = flag;
+    format.m_bGroupDigits = format.m_bTrailingMinus = format.m_bAllowExponent = flag;
+    format.m_bHasDecimals = format.m_bHasMaxIntDigits = format.m_bHasMin = format.m_bHasMax = flag;
+    format.m_nDecimals = format.m_nMaxIntDigits = 1;
+    format.m_dMin = format.m_dMax = 7;
+    format.m_strTemplate = L"%s kg";
+    return format;
+}
+
 void ExpectUnusual(const CNumberFormat& format)
 {
     EXPECT_TRUE(format.m_bPadDecimals);

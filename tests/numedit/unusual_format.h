@@ -6,6 +6,9 @@
 /// The locale's preset with every field changed.
 CNumberFormat UnusualFormat();
 
+/// The fixed preset with every flag one way, tight limits and a template.
+CNumberFormat FormatWithFlags(bool flag);
+
 /// Expects every field to be as in UnusualFormat().
 void ExpectUnusual(const CNumberFormat& format);
 

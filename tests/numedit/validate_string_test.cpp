@@ -6,15 +6,12 @@
 
 #include <gtest/gtest.h>
 
+#include <tests/numedit/number_texts.h>
+
 namespace {
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 const double kNaN = std::nan("");
-
-bool Valid(const wchar_t* text, const CNumberFormat& format)
-{
-    return CNumberEditUtils::ValidateString(text, format);
-}
 
 CNumberFormat Locale()
 {
