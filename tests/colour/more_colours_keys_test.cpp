@@ -33,7 +33,7 @@ TEST_F(MoreColoursByKeys, GivesTheColourThatWasTyped)
     Xdotool({"key", "ctrl+a"});
     Xdotool({"type", "--delay", "20", "#12AB34"});
     Xdotool({"key", "Tab"});
-    ASSERT_TRUE(WaitUntil([&] { return probe.Lines("dialog active ").back().find("#12AB34") != std::string::npos; }));
+    ASSERT_TRUE(Becomes([&] { return probe.Lines("dialog active ").back().find("#12AB34") != std::string::npos; }));
     Xdotool({"key", "alt+s"});
     ASSERT_TRUE(probe.Waits("end #12AB34"));
     probe.ExpectEnd();

@@ -1,38 +1,17 @@
 #ifndef FITTINGS_TESTS_COLOUR_WATCHED_PROBE_H_
 #define FITTINGS_TESTS_COLOUR_WATCHED_PROBE_H_
 
-#include <chrono>
-#include <functional>
 #include <map>
 #include <optional>
 #include <sstream>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include <tests/support/becomes.h>
 #include <tests/support/child_process.h>
-#include <tests/support/patience.h>
-
-/// Waits for a condition; false when it does not come within 15 seconds.
-inline bool WaitUntil(const std::function<bool()>& done)
-{
-    const auto deadline = std::chrono::steady_clock::now() + Patience() * std::chrono::seconds(15);
-    while (!done()) {
-        if (std::chrono::steady_clock::now() > deadline)
-            return false;
-        std::this_thread::sleep_for(std::chrono::milliseconds(5));
-    }
-    return true;
-}
-
-/// Sends input to whatever has the focus of the X display.
-inline void Xdotool(std::vector<std::string> arguments)
-{
-    arguments.insert(arguments.begin(), "xdotool");
-    RunChild(arguments);
-}
+#include <tests/support/xdotool.h>
 
 /// colour_combo_probe at work.
 class WatchedProbe
@@ -47,9 +26,8 @@ public:
     /// Waits for a line with that beginning, @a count of them at least.
     bool Waits(const std::string& start, int count = 1)
     {
-        const bool came =
-            WaitUntil([&] { return !m_child.IsRunning() || Lines(start).size() >= std::size_t(count); }) &&
-            Lines(start).size() >= std::size_t(count);
+        const bool came = Becomes([&] { return !m_child.IsRunning() || Lines(start).size() >= std::size_t(count); }) &&
+                          Lines(start).size() >= std::size_t(count);
         if (!came)
             ADD_FAILURE() << "no line " << start << " in\n" << m_child.Output();
         return came;

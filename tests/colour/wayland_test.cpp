@@ -65,7 +65,7 @@ protected:
                       "--shell=kiosk-shell.so", "--no-config", "--idle-time=0", std::string("--socket=") + SOCKET},
                      {{"XDG_RUNTIME_DIR", runtime.Path()}})
     {
-        EXPECT_TRUE(WaitUntil([&] { return std::filesystem::exists(runtime / SOCKET) || !compositor.IsRunning(); }));
+        EXPECT_TRUE(Becomes([&] { return std::filesystem::exists(runtime / SOCKET) || !compositor.IsRunning(); }));
         EXPECT_TRUE(compositor.IsRunning()) << compositor.Output();
     }
 
@@ -161,14 +161,14 @@ TEST_F(ColourOnWayland, IsUsedByKeyboard)
     Xdotool({"key", "Down", "Down", "Down"});
     ASSERT_TRUE(probe.Waits("change ", 3));
     const wxPoint first = combo.GetBottomLeft() + wxPoint(0, 1) + Cell(probe, 0);
-    EXPECT_TRUE(WaitUntil([&] { return IsHot(first); })) << "the hot cell is not seen";
+    EXPECT_TRUE(Becomes([&] { return IsHot(first); })) << "the hot cell is not seen";
     Xdotool({"key", "Right"});
-    EXPECT_TRUE(WaitUntil([&] { return IsHot(first + wxPoint(18, 0)) && !IsHot(first); })) << "it is not seen to move";
+    EXPECT_TRUE(Becomes([&] { return IsHot(first + wxPoint(18, 0)) && !IsHot(first); })) << "it is not seen to move";
     ExpectLastRepaint(probe);
     Xdotool({"key", "Return"});
     ASSERT_TRUE(probe.Waits("end #A52A00"));
     const wxPoint face = combo.GetPosition() + wxPoint(20, combo.height / 2);
-    EXPECT_TRUE(WaitUntil([&] { return Pixel(face) == 0xA52A00; }));
+    EXPECT_TRUE(Becomes([&] { return Pixel(face) == 0xA52A00; }));
 
     Xdotool({"key", "alt+Down"});
     ASSERT_TRUE(probe.Waits("popup ", 2));
@@ -191,9 +191,9 @@ TEST_F(ColourOnWayland, IsUsedByMouse)
     const wxPoint aqua = combo.GetBottomLeft() + wxPoint(0, 1) + Cell(probe, 20);
     const wxPoint besideIt = aqua - wxPoint(18, 0);
     Move(besideIt, heard("change #3CB371"));
-    EXPECT_TRUE(WaitUntil([&] { return IsHot(besideIt); }));
+    EXPECT_TRUE(Becomes([&] { return IsHot(besideIt); }));
     Move(aqua, heard("change #7FFFD4"));
-    EXPECT_TRUE(WaitUntil([&] { return IsHot(aqua) && !IsHot(besideIt); }));
+    EXPECT_TRUE(Becomes([&] { return IsHot(aqua) && !IsHot(besideIt); }));
     Xdotool({"click", "1"});
     ASSERT_TRUE(probe.Waits("end #7FFFD4"));
     probe.ExpectEnd();

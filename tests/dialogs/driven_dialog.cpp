@@ -1,22 +1,15 @@
 #include <tests/dialogs/driven_dialog.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdlib>
 #include <sstream>
-#include <thread>
 
 #include <gtest/gtest.h>
 
-#include <tests/support/patience.h>
+#include <tests/support/becomes.h>
+#include <tests/support/xdotool.h>
 
 namespace {
-
-std::string Xdotool(std::vector<std::string> arguments)
-{
-    arguments.insert(arguments.begin(), "xdotool");
-    return RunChild(arguments);
-}
 
 struct Rect
 {
@@ -121,14 +114,13 @@ void DrivenDialog::TypePath(const std::string& path)
 
 void DrivenDialog::WaitFor(const std::string& what, const std::function<bool(const DialogState&)>& isThere)
 {
-    const auto deadline = std::chrono::steady_clock::now() + Patience() * std::chrono::seconds(15);
-    while (!isThere(State())) {
-        if (!m_child.IsRunning() || std::chrono::steady_clock::now() > deadline) {
-            ADD_FAILURE() << "does not come: " << what << "\n" << m_child.Output();
-            return;
-        }
-        std::this_thread::sleep_for(std::chrono::milliseconds(5));
-    }
+    bool isHere = false;
+    const auto isDecided = [&] {
+        isHere = isThere(State());
+        return isHere || !m_child.IsRunning();
+    };
+    if (!Becomes(isDecided, 15000) || !isHere)
+        ADD_FAILURE() << "does not come: " << what << "\n" << m_child.Output();
 }
 
 std::string DrivenDialog::Message()

@@ -15,6 +15,7 @@
 #include <tests/colour/combo_on_screen.h>
 #include <tests/faults/jumping_clock.h>
 #include <tests/platform/forked_work.h>
+#include <tests/platform/held_lock.h>
 #include <tests/platform/store_support.h>
 #include <tests/support/patience.h>
 #include <tests/support/temp_folder.h>
@@ -71,24 +72,6 @@ TEST_P(ClockJumps, DoNotKeepTheColourPopup)
     screen.combo->Dismiss();
 }
 
-// As another process would, which never lets go.
-class HeldLock
-{
-public:
-    explicit HeldLock(const std::string& path) : m_fd(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600))
-    {
-        struct flock lock = {};
-        lock.l_type = F_WRLCK;
-        EXPECT_EQ(fcntl(m_fd, F_OFD_SETLK, &lock), 0);
-    }
-    ~HeldLock() { close(m_fd); }
-    HeldLock(const HeldLock&) = delete;
-    HeldLock& operator=(const HeldLock&) = delete;
-
-private:
-    const int m_fd;
-};
-
 using ClockJumpsByAnHour = ClockJumps;
 
 TEST_P(ClockJumpsByAnHour, LeaveTheWaitForTheStoresLockAsItIs)
@@ -111,24 +94,16 @@ TEST_P(ClockJumpsByAnHour, LeaveTheWaitForTheStoresLockAsItIs)
 
 TEST_P(ClockJumps, NeitherEndNorProlongTheWaitForAThread)
 {
-    Signal go;
-    Working<wxThreadEx> thread(
-        [&](Working<wxThreadEx>&) {
-            go.Wait();
-            return Code(42);
-        },
-        wxTHREAD_JOINABLE);
-    thread.Create(0);
-    thread.Run();
-    ASSERT_TRUE(thread.started.Wait());
+    HeldThread held;
+    ASSERT_TRUE(held.thread.started.Wait());
     wxThread::ExitCode code = nullptr;
-    Helper waiter([&] { code = thread.Wait(); });
+    Helper waiter([&] { code = held.thread.Wait(); });
     EXPECT_TRUE(waiter.IsBlocked());
     clock.Jump(GetParam());
     EXPECT_TRUE(waiter.IsBlocked());
     EXPECT_FALSE(waiter.IsDone());
     const auto start = Clock::now();
-    go.Set();
+    held.go.Set();
     EXPECT_TRUE(waiter.Ends());
     EXPECT_LT(Clock::now() - start, Patience() * std::chrono::seconds(3));
     EXPECT_EQ(code, Code(42));

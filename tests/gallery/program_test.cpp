@@ -6,85 +6,56 @@
 #include <filesystem>
 #include <memory>
 #include <set>
-#include <thread>
+#include <string>
+#include <vector>
 
-#include <fcntl.h>
 #include <gdk-pixbuf/gdk-pixbuf.h>
 #include <gtest/gtest.h>
-#include <spawn.h>
-#include <sys/wait.h>
 
-#include <tests/support/patience.h>
+#include <tests/support/becomes.h>
+#include <tests/support/child_process.h>
 #include <tests/support/temp_folder.h>
 
 namespace {
 
 namespace fs = std::filesystem;
 
-/// One run of the gallery, its output in files.
+std::vector<std::string> CommandOf(std::vector<std::string> arguments)
+{
+    arguments.insert(arguments.begin(), GALLERY);
+    return arguments;
+}
+
+/// One run of the gallery.
 class Program
 {
 public:
-    explicit Program(std::vector<std::string> arguments)
+    explicit Program(const std::vector<std::string>& arguments) : m_child(CommandOf(arguments), {}, m_folder / "errors")
     {
-        arguments.insert(arguments.begin(), GALLERY);
-        std::vector<char*> pointers;
-        for (std::string& argument : arguments)
-            pointers.push_back(argument.data());
-        pointers.push_back(nullptr);
-
-        posix_spawn_file_actions_t files;
-        posix_spawn_file_actions_init(&files);
-        const int flags = O_WRONLY | O_CREAT | O_TRUNC;
-        posix_spawn_file_actions_addopen(&files, 1, (m_folder / "out").c_str(), flags, 0600);
-        posix_spawn_file_actions_addopen(&files, 2, (m_folder / "err").c_str(), flags, 0600);
-        EXPECT_EQ(posix_spawn(&m_process, GALLERY, &files, nullptr, pointers.data(), environ), 0);
-        posix_spawn_file_actions_destroy(&files);
     }
 
-    ~Program()
-    {
-        if (m_process > 0) {
-            kill(m_process, SIGKILL);
-            waitpid(m_process, nullptr, 0);
-        }
-    }
-    Program(const Program&) = delete;
-    Program& operator=(const Program&) = delete;
+    void Send(int signal) { m_child.Send(signal); }
 
-    void Send(int signal) { kill(m_process, signal); }
-
-    /// The exit code; -1 when a signal ended it, or the deadline.
+    /// The exit code; negative when a signal ended it, or the deadline has come.
     int Wait(int seconds)
     {
-        for (int i = 0; i < Patience() * seconds * 100; ++i) {
-            int status = 0;
-            if (waitpid(m_process, &status, WNOHANG) == m_process) {
-                m_process = 0;
-                return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-            }
-            std::this_thread::sleep_for(std::chrono::milliseconds(10));
-        }
+        if (m_child.WaitForEnd(seconds * 1000))
+            return m_child.ExitCode();
         ADD_FAILURE() << "still running after " << seconds << " s";
         return -1;
     }
 
-    std::string Output() const { return ReadFile(m_folder / "out"); }
-    std::string Errors() const { return ReadFile(m_folder / "err"); }
+    std::string Output() const { return m_child.Output(); }
+    std::string Errors() const { return ReadFile(m_folder / "errors"); }
 
 private:
     TempFolder m_folder;
-    pid_t m_process = 0;
+    ChildProcess m_child;
 };
 
 bool WaitFor(const std::string& command)
 {
-    for (int i = 0; i < Patience() * 500; ++i) {
-        if (std::system((command + " >/dev/null 2>&1").c_str()) == 0)
-            return true;
-        std::this_thread::sleep_for(std::chrono::milliseconds(20));
-    }
-    return false;
+    return Becomes([&] { return std::system((command + " >/dev/null 2>&1").c_str()) == 0; });
 }
 
 bool ShowsWindow(const std::string& title)

@@ -16,53 +16,14 @@
 #include <gtest/gtest.h>
 
 #include <tests/platform/forked_work.h>
+#include <tests/platform/held_lock.h>
 #include <tests/platform/store_support.h>
+#include <tests/support/becomes.h>
 #include <tests/support/temp_folder.h>
 
 namespace {
 
 using Clock = std::chrono::steady_clock;
-
-// The first byte of the lock file is the lock, the second the turn to be the next who gets it.
-struct flock BytesOfLock(off_t begin, off_t count)
-{
-    struct flock lock = {};
-    lock.l_type = F_WRLCK;
-    lock.l_whence = SEEK_SET;
-    lock.l_start = begin;
-    lock.l_len = count;
-    return lock;
-}
-
-// Holds the default store's lock, or some bytes of it, as another process would.
-class HeldLock
-{
-public:
-    explicit HeldLock(const std::string& path, off_t begin = 0, off_t count = 2)
-        : m_fd(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600))
-    {
-        struct flock lock = BytesOfLock(begin, count);
-        EXPECT_EQ(fcntl(m_fd, F_OFD_SETLK, &lock), 0);
-    }
-    ~HeldLock() { Release(); }
-    HeldLock(const HeldLock&) = delete;
-    HeldLock& operator=(const HeldLock&) = delete;
-
-    void Release()
-    {
-        if (m_fd < 0)
-            return;
-        // Processes that were forked meanwhile would keep the lock of a file that is only closed.
-        struct flock lock = BytesOfLock(0, 0);
-        lock.l_type = F_UNLCK;
-        EXPECT_EQ(fcntl(m_fd, F_OFD_SETLK, &lock), 0);
-        close(m_fd);
-        m_fd = -1;
-    }
-
-private:
-    int m_fd;
-};
 
 TEST(AHeldLock, DelaysAWriteByTwoSeconds)
 {
@@ -123,10 +84,7 @@ TEST(AHeldLock, GoesToWhoHasWaitedLongest)
     const std::string lockFile = data / "settings.ini.lock";
     HeldLock lock(lockFile, 0, 1);
     const pid_t first = StartChild([] { EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"first", L"1")); });
-    const auto deadline = Clock::now() + std::chrono::milliseconds(1500);
-    while (!IsTurnTaken(lockFile) && Clock::now() < deadline)
-        std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    EXPECT_TRUE(IsTurnTaken(lockFile));
+    EXPECT_TRUE(Becomes([&] { return IsTurnTaken(lockFile); }, 1500));
     const pid_t second = StartChild([] { EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"second", L"2")); });
     lock.Release();
     EXPECT_TRUE(WaitForSuccess(first));

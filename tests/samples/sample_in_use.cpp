@@ -1,10 +1,11 @@
 #include <tests/samples/sample_in_use.h>
 
-#include <chrono>
 #include <sstream>
-#include <thread>
 
 #include <gtest/gtest.h>
+
+#include <tests/support/becomes.h>
+#include <tests/support/xdotool.h>
 
 namespace {
 
@@ -16,24 +17,7 @@ std::string FirstLine(const std::string& text)
     return text.substr(0, text.find('\n'));
 }
 
-void Xdotool(std::vector<std::string> arguments)
-{
-    arguments.insert(arguments.begin(), "xdotool");
-    RunChild(arguments);
-}
-
 }  // namespace
-
-bool Becomes(const std::function<bool()>& isTrue, int milliseconds)
-{
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
-    while (!isTrue()) {
-        if (std::chrono::steady_clock::now() > deadline)
-            return false;
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
-    }
-    return true;
-}
 
 SampleInUse::SampleInUse(const std::string& sample, const std::string& title, const Person& person)
     : m_program({std::string(SAMPLES) + "/sample-" + sample}, {{"HOME", person.home.Path()},

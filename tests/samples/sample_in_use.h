@@ -1,7 +1,6 @@
 #ifndef FITTINGS_TESTS_SAMPLES_SAMPLE_IN_USE_H_
 #define FITTINGS_TESTS_SAMPLES_SAMPLE_IN_USE_H_
 
-#include <functional>
 #include <optional>
 #include <string>
 
@@ -67,8 +66,5 @@ private:
     ChildProcess m_program;
     std::string m_window;
 };
-
-/// Whether something comes true before long.
-bool Becomes(const std::function<bool()>& isTrue, int milliseconds = 15000);
 
 #endif

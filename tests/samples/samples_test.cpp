@@ -1,6 +1,7 @@
 // Each sample as the person in front of it uses it.
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <sstream>
 #include <string>
@@ -8,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <tests/samples/sample_in_use.h>
+#include <tests/support/becomes.h>
 
 namespace {
 
@@ -157,22 +159,22 @@ TEST(ColourSample, ShowsTheColourPointedAtAndKeepsTheOneClicked)
     sheet.Close();
 }
 
+// Types a text into the field that has the focus, and waits for what the window makes of it.
+void EnterAndWait(const SampleInUse& sample, const std::string& text, const std::string& title)
+{
+    SampleInUse::Type(text);
+    SampleInUse::Press("Return");
+    sample.WaitForTitle(title);
+}
+
 TEST(NumeditSample, TakesOnlyAnAmountAndShowsItInGroups)
 {
     const Person person;
     SampleInUse payments("numedit", "Payments", person);
-    payments.Type("12x34.56.7");
-    payments.Press("Return");
-    payments.WaitForTitle("Paid 1,234.56 EUR");
-    payments.Type("-5");
-    payments.Press("Return");
-    payments.WaitForTitle("Paid 5.00 EUR");
-    payments.Type("0");
-    payments.Press("Return");
-    payments.WaitForTitle("Not paid: at least 0.01");
-    payments.Type(".5");
-    payments.Press("Return");
-    payments.WaitForTitle("Paid 0.50 EUR");
+    EnterAndWait(payments, "12x34.56.7", "Paid 1,234.56 EUR");
+    EnterAndWait(payments, "-5", "Paid 5.00 EUR");
+    EnterAndWait(payments, "0", "Not paid: at least 0.01");
+    EnterAndWait(payments, ".5", "Paid 0.50 EUR");
     payments.Close();
 }
 
@@ -245,9 +247,7 @@ TEST(PlatformSample, SaysThatNothingCanBeStored)
     const Person person;
     WriteFile(person.data / "sample-platform", "in the place of the folder");
     SampleInUse search("platform", "Search", person);
-    search.Type("a needle");
-    search.Press("Return");
-    search.WaitForTitle("Cannot be stored in " + (person.data / "sample-platform"));
+    EnterAndWait(search, "a needle", "Cannot be stored in " + (person.data / "sample-platform"));
     search.Close();
 }
 

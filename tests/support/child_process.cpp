@@ -1,8 +1,6 @@
 #include <tests/support/child_process.h>
 
-#include <chrono>
 #include <csignal>
-#include <thread>
 
 #include <fcntl.h>
 #include <spawn.h>
@@ -11,10 +9,11 @@
 
 #include <gtest/gtest.h>
 
-#include <tests/support/patience.h>
+#include <tests/support/becomes.h>
 
 ChildProcess::ChildProcess(const std::vector<std::string>& command,
-                           const std::map<std::string, std::optional<std::string>>& environment)
+                           const std::map<std::string, std::optional<std::string>>& environment,
+                           const std::string& errors)
 {
     std::vector<std::string> variables;
     for (char** variable = environ; *variable; ++variable) {
@@ -36,8 +35,10 @@ ChildProcess::ChildProcess(const std::vector<std::string>& command,
 
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, (m_folder / "output").c_str(),
-                                     O_WRONLY | O_CREAT | O_TRUNC, 0600);
+    const int flags = O_WRONLY | O_CREAT | O_TRUNC;
+    posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, (m_folder / "output").c_str(), flags, 0600);
+    if (!errors.empty())
+        posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, errors.c_str(), flags, 0600);
     const int error = posix_spawnp(&m_pid, command[0].c_str(), &actions, nullptr, pointers(command).data(),
                                    pointers(variables).data());
     posix_spawn_file_actions_destroy(&actions);
@@ -66,15 +67,15 @@ bool ChildProcess::IsRunning()
     return !m_ended;
 }
 
+void ChildProcess::Send(int signal)
+{
+    if (IsRunning())
+        kill(m_pid, signal);
+}
+
 bool ChildProcess::WaitForEnd(int milliseconds)
 {
-    const auto deadline = std::chrono::steady_clock::now() + Patience() * std::chrono::milliseconds(milliseconds);
-    while (IsRunning()) {
-        if (std::chrono::steady_clock::now() > deadline)
-            return false;
-        std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    }
-    return true;
+    return Becomes([this] { return !IsRunning(); }, milliseconds);
 }
 
 std::string RunChild(const std::vector<std::string>& command,

@@ -14,14 +14,18 @@
 class ChildProcess
 {
 public:
-    /// Starts it in this process's environment with the changes in @a environment; no value removes a variable.
+    /// Starts it in this process's environment with the changes in @a environment; no value removes a variable. What it
+    /// says of errors goes where this process's does, or into the file @a errors.
     explicit ChildProcess(const std::vector<std::string>& command,
-                          const std::map<std::string, std::optional<std::string>>& environment = {});
+                          const std::map<std::string, std::optional<std::string>>& environment = {},
+                          const std::string& errors = {});
     ~ChildProcess();
     ChildProcess(const ChildProcess&) = delete;
     ChildProcess& operator=(const ChildProcess&) = delete;
 
     bool IsRunning();
+
+    void Send(int signal);
 
     /// Waits for its end; false when it still runs after @a milliseconds.
     bool WaitForEnd(int milliseconds = 30000);

@@ -59,21 +59,13 @@ TEST(Wait, GivesTheCodeOfAnEntryThatReturnedLongBefore)
 
 TEST(Wait, BlocksUntilEntryHasReturned)
 {
-    Signal go;
-    Thread thread(
-        [&](Thread&) {
-            go.Wait();
-            return Code(42);
-        },
-        wxTHREAD_JOINABLE);
-    thread.Create(0);
-    thread.Run();
-    ASSERT_TRUE(thread.started.Wait());
+    HeldThread held;
+    ASSERT_TRUE(held.thread.started.Wait());
     wxThread::ExitCode code = nullptr;
-    Helper waiter([&] { code = thread.Wait(); });
+    Helper waiter([&] { code = held.thread.Wait(); });
     EXPECT_TRUE(waiter.IsBlocked());
     EXPECT_FALSE(waiter.IsDone());
-    go.Set();
+    held.go.Set();
     EXPECT_TRUE(waiter.Ends());
     EXPECT_EQ(code, Code(42));
 }

@@ -132,19 +132,12 @@ void DestroyDetached()
 
 void TwoWaiters()
 {
-    Signal go;
-    Thread thread(
-        [&](Thread&) {
-            go.Wait();
-            return Code(42);
-        },
-        wxTHREAD_JOINABLE);
-    thread.Create(0);
-    thread.Run();
+    HeldThread held;
+    Thread& thread = held.thread;
     auto woken = std::make_unique<Helper>([&] { thread.Wait(); });
     auto other = std::make_unique<Helper>([&] { thread.Wait(); });
     Say("both", woken->IsBlocked() && other->IsBlocked());
-    go.Set();
+    held.go.Set();
     Say("one", Becomes([&] { return woken->IsDone() || other->IsDone(); }));
     if (other->IsDone())
         std::swap(woken, other);

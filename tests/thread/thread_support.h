@@ -21,24 +21,13 @@
 
 #include <fittings/thread/gui_thread.h>
 #include <fittings/thread/thread_ex.h>
+#include <tests/support/becomes.h>
 #include <tests/support/patience.h>
 
 /// An exit code of this number.
 inline wxThread::ExitCode Code(std::intptr_t number)
 {
     return reinterpret_cast<wxThread::ExitCode>(number);  // NOLINT(performance-no-int-to-ptr)
-}
-
-/// Polls @a done until it says so; false when it did not within the deadline.
-inline bool Becomes(const std::function<bool()>& done)
-{
-    const auto deadline = std::chrono::steady_clock::now() + Patience() * std::chrono::seconds(30);
-    while (!done()) {
-        if (std::chrono::steady_clock::now() > deadline)
-            return false;
-        std::this_thread::sleep_for(std::chrono::microseconds(200));
-    }
-    return true;
 }
 
 /// Something that happens once, and that another thread waits for.
@@ -150,6 +139,24 @@ public:
 
 private:
     Work m_work;
+};
+
+/// A running thread object whose work ends with the code 42 once it is told to go on, at the latest with this.
+struct HeldThread
+{
+    HeldThread()
+    {
+        thread.Create(0);
+        thread.Run();
+    }
+    ~HeldThread() { go.Set(); }
+
+    Signal go;
+    Working<wxThreadEx> thread{[this](auto&) {
+                                   go.Wait();
+                                   return Code(42);
+                               },
+                               wxTHREAD_JOINABLE};
 };
 
 /// What a handler was given.

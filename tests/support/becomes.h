@@ -1,0 +1,23 @@
+#ifndef FITTINGS_TESTS_SUPPORT_BECOMES_H_
+#define FITTINGS_TESTS_SUPPORT_BECOMES_H_
+
+#include <chrono>
+#include <functional>
+#include <thread>
+
+#include <tests/support/patience.h>
+
+/// Whether something comes true within @a milliseconds: it is asked again and again. No event is handled meanwhile, as
+/// PumpUntil() does.
+inline bool Becomes(const std::function<bool()>& isTrue, int milliseconds = 30000)
+{
+    const auto deadline = std::chrono::steady_clock::now() + Patience() * std::chrono::milliseconds(milliseconds);
+    while (!isTrue()) {
+        if (std::chrono::steady_clock::now() > deadline)
+            return false;
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+    return true;
+}
+
+#endif
