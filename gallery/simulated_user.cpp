@@ -1,9 +1,10 @@
 #include "simulated_user.h"
 
+#include <chrono>
+
 #include <gtk/gtk.h>
 #include <wx/app.h>
 #include <wx/evtloop.h>
-#include <wx/stopwatch.h>
 #include <wx/treectrl.h>
 #include <wx/uiaction.h>
 
@@ -27,12 +28,12 @@ void HandleEvents()
 
 bool WaitUntil(const std::function<bool()>& done, int milliseconds)
 {
-    const wxStopWatch watch;
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
     for (;;) {
         HandleEvents();
         if (done())
             return true;
-        if (watch.Time() > milliseconds)
+        if (std::chrono::steady_clock::now() > deadline)
             return false;
         wxEventLoopBase::GetActive()->DispatchTimeout(5);
     }

@@ -1,5 +1,6 @@
 #include "sizes_row.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <wx/button.h>
@@ -47,7 +48,7 @@ void SizesRow::Start(const std::string& folder)
     m_worker.reset();
     m_folder = folder;
     m_worker = std::make_unique<SizeWorker>(this, EVT_SIZE_NEWS, ++m_number, folder);
-    m_time.Start();
+    m_start = Clock::now();
     ShowNumbers({}, wxString());
     ShowRunning(true);
     if (m_worker->RunThread() != wxTHREAD_NO_ERROR) {
@@ -104,7 +105,7 @@ SizeNews SizesRow::PassOnNews()
 void SizesRow::ShowNumbers(const SizeNews& news, const wxString& state)
 {
     const auto grouped = [](double number) { return GroupedNumber(static_cast<std::uint64_t>(number)); };
-    const double seconds = std::max(m_time.TimeInMicro().ToDouble() / 1e6, 1e-3);
+    const double seconds = std::max(std::chrono::duration<double>(Clock::now() - m_start).count(), 1e-3);
     wxString text;
     text << HumanSize(news.soFar.bytes) << " in " << GroupedNumber(news.soFar.items) << " items, "
          << grouped(static_cast<double>(news.soFar.items) / seconds) << " a second";

@@ -1,12 +1,12 @@
 #ifndef FITTINGS_GALLERY_SIZES_ROW_H_
 #define FITTINGS_GALLERY_SIZES_ROW_H_
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <string>
 
 #include <wx/panel.h>
-#include <wx/stopwatch.h>
 
 #include "size_worker.h"
 
@@ -39,6 +39,8 @@ public:
     wxGauge* GetBar() const { return m_bar; }
 
 private:
+    using Clock = std::chrono::steady_clock;
+
     void OnNews(wxCommandEvent& event);
     void OnButton();
     SizeNews PassOnNews();
@@ -52,7 +54,7 @@ private:
     std::string m_folder;
     std::unique_ptr<SizeWorker> m_worker;
     int m_number = 0;  ///< Of the worker that counts: events of earlier ones may still come.
-    wxStopWatch m_time;
+    Clock::time_point m_start;
 };
 
 }  // namespace fittings
