@@ -23,12 +23,13 @@
 #include "folder_colour_combo.h"
 #include "folder_listing.h"
 #include "folder_tree.h"
+#include "frame_rect.h"
 #include "native_text.h"
 #include "readable_colour.h"
 #include "report.h"
-#include "screenshot.h"
 #include "size_filter.h"
 #include "sizes_row.h"
+#include "tell_change.h"
 
 namespace fittings {
 
@@ -36,8 +37,8 @@ wxDEFINE_EVENT(EVT_BROWSER_CHANGED, wxCommandEvent);
 
 namespace {
 
-constexpr const wchar_t* stateName = L"Browser";
-constexpr const char* foldersPane = "folders";
+constexpr const wchar_t* kStateName = L"Browser";
+constexpr const char* kFoldersPane = "folders";
 
 wxString ReasonText(int error)
 {
@@ -117,14 +118,14 @@ void BrowserPage::LoadLayout()
     if (m_layoutLoaded)
         return;
     m_layoutLoaded = true;
-    wx_window_state::LoadAuiManagerState(&m_layout, stateName);
+    wx_window_state::LoadAuiManagerState(&m_layout, kStateName);
     TellChange();
     CallAfter([this] { m_tree->EnsureVisible(m_tree->GetSelection().item); });
 }
 
 void BrowserPage::ShowFloatingPanes(bool show)
 {
-    wxAuiPaneInfo& folders = m_layout.GetPane(foldersPane);
+    wxAuiPaneInfo& folders = m_layout.GetPane(kFoldersPane);
     if (!folders.frame || !folders.IsShown())
         return;
     if (!show)
@@ -141,10 +142,10 @@ void BrowserPage::SaveSettings()
     if (!m_layoutLoaded)
         return;
     // A window that is hidden has a place no longer.
-    wxAuiPaneInfo& folders = m_layout.GetPane(foldersPane);
+    wxAuiPaneInfo& folders = m_layout.GetPane(kFoldersPane);
     if (folders.frame)
         folders.floating_pos = folders.frame->IsShown() ? PlaceOf(*folders.frame) : m_floatingPlace;
-    wx_window_state::SaveAuiManagerState(&m_layout, stateName);
+    wx_window_state::SaveAuiManagerState(&m_layout, kStateName);
 }
 
 bool BrowserPage::HasFolderAbove() const
@@ -154,7 +155,7 @@ bool BrowserPage::HasFolderAbove() const
 
 bool BrowserPage::ShowsFolders()
 {
-    return m_layout.GetPane(foldersPane).IsShown();
+    return m_layout.GetPane(kFoldersPane).IsShown();
 }
 
 wxString BrowserPage::GetSummary() const
@@ -206,7 +207,7 @@ void BrowserPage::RefreshFolders()
 
 void BrowserPage::ToggleFolders()
 {
-    wxAuiPaneInfo& pane = m_layout.GetPane(foldersPane);
+    wxAuiPaneInfo& pane = m_layout.GetPane(kFoldersPane);
     pane.Show(!pane.IsShown());
     m_layout.Update();
     TellChange();
@@ -273,7 +274,7 @@ wxWindow* BrowserPage::MakePanes()
     art->SetColour(wxAUI_DOCKART_INACTIVE_CAPTION_TEXT_COLOUR, panel->GetForegroundColour());
     m_tree = new FolderTree(panel);
     m_layout.AddPane(m_tree, wxAuiPaneInfo()
-                                 .Name(foldersPane)
+                                 .Name(kFoldersPane)
                                  .Caption("Folders")
                                  .Left()
                                  .BestSize(FromDIP(wxSize(260, 400)))
@@ -415,9 +416,7 @@ void BrowserPage::OnActivated(wxDataViewEvent& event)
 
 void BrowserPage::TellChange()
 {
-    wxCommandEvent event(EVT_BROWSER_CHANGED, GetId());
-    event.SetEventObject(this);
-    ProcessWindowEvent(event);
+    fittings::TellChange(*this, EVT_BROWSER_CHANGED);
 }
 
 }  // namespace fittings

@@ -13,17 +13,17 @@ namespace fittings::browser_settings {
 
 namespace {
 
-constexpr const wchar_t* file = L"browser.ini";
+constexpr const wchar_t* kFile = L"browser.ini";
 // In the default store, because ui_config_mgr cannot remove a key from its files.
-constexpr const wchar_t* selectedSection = L"SelectedFolder";
-constexpr const wchar_t* colourSection = L"FolderColours";
-constexpr std::size_t rememberedRoots = 50;
+constexpr const wchar_t* kSelectedSection = L"SelectedFolder";
+constexpr const wchar_t* kColourSection = L"FolderColours";
+constexpr std::size_t kRememberedRoots = 50;
 
 /// A number that someone may have edited; 0 when it is none.
 int LoadInt(const wchar_t* section, const wchar_t* key)
 {
     try {
-        return ui_config_mgr::GetConfigInt(file, section, key);
+        return ui_config_mgr::GetConfigInt(kFile, section, key);
     } catch (const std::logic_error&) {
         return 0;
     }
@@ -33,7 +33,7 @@ int LoadInt(const wchar_t* section, const wchar_t* key)
 std::vector<std::wstring> LoadRoots()
 {
     std::vector<std::wstring> roots;
-    std::wistringstream text(ui_config_mgr::GetConfigString(file, L"Folders", L"Roots"));
+    std::wistringstream text(ui_config_mgr::GetConfigString(kFile, L"Folders", L"Roots"));
     for (std::wstring root; std::getline(text, root, L'|');) {
         if (!root.empty())
             roots.push_back(root);
@@ -50,12 +50,12 @@ std::wstring WidthKey(std::size_t column)
 
 wxString LoadPage()
 {
-    return ui_config_mgr::GetConfigString(file, L"Window", L"Page");
+    return ui_config_mgr::GetConfigString(kFile, L"Window", L"Page");
 }
 
 void SavePage(const wxString& name)
 {
-    ui_config_mgr::WriteConfigString(file, L"Window", L"Page", name.wc_str());
+    ui_config_mgr::WriteConfigString(kFile, L"Window", L"Page", name.wc_str());
 }
 
 std::string LoadRootFolder()
@@ -71,32 +71,32 @@ std::string SaveRootFolder(const std::string& path)
     roots.erase(std::remove(roots.begin(), roots.end(), root), roots.end());
     roots.insert(roots.begin(), root);
     std::wstring forgotten;
-    if (roots.size() > rememberedRoots) {
+    if (roots.size() > kRememberedRoots) {
         forgotten = roots.back();
         roots.pop_back();
-        CLocalRegStore::DeleteProfile(selectedSection, forgotten.c_str());
+        CLocalRegStore::DeleteProfile(kSelectedSection, forgotten.c_str());
     }
     std::wstring text;
     for (const std::wstring& each : roots)
         text += each + L'|';
-    ui_config_mgr::WriteConfigString(file, L"Folders", L"Roots", text.c_str());
+    ui_config_mgr::WriteConfigString(kFile, L"Folders", L"Roots", text.c_str());
     return PathFromText(forgotten);
 }
 
 std::string LoadSelectedFolder(const std::string& root)
 {
-    return PathFromText(CLocalRegStore::GetString(selectedSection, TextFromPath(root).c_str(), L""));
+    return PathFromText(CLocalRegStore::GetString(kSelectedSection, TextFromPath(root).c_str(), L""));
 }
 
 void SaveSelectedFolder(const std::string& root, const std::string& path)
 {
-    CLocalRegStore::WriteString(selectedSection, TextFromPath(root).c_str(), TextFromPath(path).c_str());
+    CLocalRegStore::WriteString(kSelectedSection, TextFromPath(root).c_str(), TextFromPath(path).c_str());
 }
 
 wxColour LoadFolderColour(const std::string& path)
 {
     wxColour colour;
-    const wxString text = CLocalRegStore::GetString(colourSection, TextFromPath(path).c_str(), L"");
+    const wxString text = CLocalRegStore::GetString(kColourSection, TextFromPath(path).c_str(), L"");
     if (text.StartsWith("#"))
         colour.Set(text);
     return colour;
@@ -106,9 +106,9 @@ void SaveFolderColour(const std::string& path, const wxColour& colour)
 {
     const std::wstring key = TextFromPath(path);
     if (colour.IsOk())
-        CLocalRegStore::WriteString(colourSection, key.c_str(), colour.GetAsString(wxC2S_HTML_SYNTAX).wc_str());
+        CLocalRegStore::WriteString(kColourSection, key.c_str(), colour.GetAsString(wxC2S_HTML_SYNTAX).wc_str());
     else
-        CLocalRegStore::DeleteProfile(colourSection, key.c_str());
+        CLocalRegStore::DeleteProfile(kColourSection, key.c_str());
 }
 
 SortOrder LoadSortOrder()
@@ -133,18 +133,18 @@ SortOrder LoadSortOrder()
 
 void SaveSortOrder(SortOrder order)
 {
-    ui_config_mgr::WriteConfigInt(file, L"Contents", L"SortColumn", static_cast<int>(order.column));
-    ui_config_mgr::WriteConfigInt(file, L"Contents", L"SortDescending", order.ascending ? 0 : 1);
+    ui_config_mgr::WriteConfigInt(kFile, L"Contents", L"SortColumn", static_cast<int>(order.column));
+    ui_config_mgr::WriteConfigInt(kFile, L"Contents", L"SortDescending", order.ascending ? 0 : 1);
 }
 
 wxString LoadMinimumSize()
 {
-    return ui_config_mgr::GetConfigString(file, L"Contents", L"AtLeastMB");
+    return ui_config_mgr::GetConfigString(kFile, L"Contents", L"AtLeastMB");
 }
 
 void SaveMinimumSize(const wxString& megabytes)
 {
-    ui_config_mgr::WriteConfigString(file, L"Contents", L"AtLeastMB", megabytes.wc_str());
+    ui_config_mgr::WriteConfigString(kFile, L"Contents", L"AtLeastMB", megabytes.wc_str());
 }
 
 std::vector<int> LoadColumnWidths(std::size_t count)
@@ -162,7 +162,7 @@ std::vector<int> LoadColumnWidths(std::size_t count)
 void SaveColumnWidths(const std::vector<int>& widths)
 {
     for (std::size_t i = 0; i < widths.size(); ++i)
-        ui_config_mgr::WriteConfigInt(file, L"Contents", WidthKey(i).c_str(), widths[i]);
+        ui_config_mgr::WriteConfigInt(kFile, L"Contents", WidthKey(i).c_str(), widths[i]);
 }
 
 }  // namespace fittings::browser_settings

@@ -10,8 +10,9 @@
 
 #include "accessible_name.h"
 #include "colour_field.h"
-#include "colour_settings.h"
 #include "page_layout.h"
+#include "page_settings.h"
+#include "tell_change.h"
 
 namespace fittings {
 
@@ -20,20 +21,6 @@ wxDEFINE_EVENT(EVT_COLOUR_OPTIONS_CHANGED, wxCommandEvent);
 namespace {
 
 constexpr int kFieldWidth = 130;
-
-void Load(wxCheckBox& box)
-{
-    const wxString text = colour_settings::Load(box.GetName());
-    if (text == "0" || text == "1")
-        box.SetValue(text == "1");
-}
-
-void Load(wxSpinCtrl& field)
-{
-    long number = 0;
-    if (colour_settings::Load(field.GetName()).ToLong(&number) && number >= field.GetMin() && number <= field.GetMax())
-        field.SetValue(static_cast<int>(number));
-}
 
 wxFlexGridSizer* MakeGrid(const wxWindow& panel, int columns)
 {
@@ -106,12 +93,12 @@ ColourOptions ColourOptionFields::GetOptions() const
 void ColourOptionFields::SaveSettings() const
 {
     for (const wxCheckBox* box : {m_hasAutomatic, m_hasMore, m_readOnly, m_refresh, m_centre, m_animate})
-        colour_settings::Save(box->GetName(), box->GetValue() ? "1" : "0");
+        kColourSettings.SaveFlag(box->GetName(), box->GetValue());
     for (const wxSpinCtrl* field : {m_columnCount, m_cellSize, m_margin, m_duration})
-        colour_settings::Save(field->GetName(), wxString::Format("%d", field->GetValue()));
+        kColourSettings.SaveNumber(field->GetName(), field->GetValue());
     for (const wxTextCtrl* text : {m_automatic, m_more})
-        colour_settings::Save(text->GetName(), text->GetValue());
-    colour_settings::SaveColour(m_default->GetName(), m_default->GetColour());
+        kColourSettings.Save(text->GetName(), text->GetValue());
+    kColourSettings.SaveColour(m_default->GetName(), m_default->GetColour());
 }
 
 void ColourOptionFields::Arrange(int width)
@@ -124,12 +111,14 @@ void ColourOptionFields::Arrange(int width)
 void ColourOptionFields::LoadSettings()
 {
     for (wxCheckBox* box : {m_hasAutomatic, m_hasMore, m_readOnly, m_refresh, m_centre, m_animate})
-        Load(*box);
-    for (wxSpinCtrl* field : {m_columnCount, m_cellSize, m_margin, m_duration})
-        Load(*field);
+        box->SetValue(kColourSettings.LoadFlag(box->GetName(), box->GetValue()));
+    for (wxSpinCtrl* field : {m_columnCount, m_cellSize, m_margin, m_duration}) {
+        field->SetValue(
+            kColourSettings.LoadNumber(field->GetName(), field->GetMin(), field->GetMax(), field->GetValue()));
+    }
     for (wxTextCtrl* text : {m_automatic, m_more})
-        text->ChangeValue(colour_settings::Load(text->GetName()));
-    m_default->SetColour(colour_settings::LoadColour(m_default->GetName(), m_default->GetColour()));
+        text->ChangeValue(kColourSettings.Load(text->GetName()));
+    m_default->SetColour(kColourSettings.LoadColour(m_default->GetName(), m_default->GetColour()));
 }
 
 /// Which boxes there are, and their texts.
@@ -222,9 +211,7 @@ void ColourOptionFields::EnableFields()
 void ColourOptionFields::OnChange()
 {
     EnableFields();
-    wxCommandEvent event(EVT_COLOUR_OPTIONS_CHANGED, GetId());
-    event.SetEventObject(this);
-    ProcessWindowEvent(event);
+    TellChange(*this, EVT_COLOUR_OPTIONS_CHANGED);
 }
 
 }  // namespace fittings

@@ -13,8 +13,8 @@
 
 #include "accessible_name.h"
 #include "colour_option_fields.h"
-#include "colour_settings.h"
 #include "page_layout.h"
+#include "page_settings.h"
 #include "readable_colour.h"
 
 namespace fittings {
@@ -70,7 +70,7 @@ wxSizer* MakeHeader(wxStaticText* heading)
 }  // namespace
 
 ColoursPage::ColoursPage(wxWindow* parent)
-    : wxScrolledWindow(parent), m_colour(colour_settings::LoadColour(kColourKey, kFirstColour))
+    : wxScrolledWindow(parent), m_colour(kColourSettings.LoadColour(kColourKey, kFirstColour))
 {
     SetName("Colours");
     auto* choice = new wxBoxSizer(wxHORIZONTAL);
@@ -111,7 +111,7 @@ wxColourPopup* ColoursPage::GetColourPopup() const
 void ColoursPage::SaveSettings() const
 {
     m_options->SaveSettings();
-    colour_settings::SaveColour(kColourKey, m_colour);
+    kColourSettings.SaveColour(kColourKey, m_colour);
 }
 
 /// The label of the combo, which MakeCombo() puts below it.
@@ -197,8 +197,7 @@ void ColoursPage::ShowColour(const wxColour& colour)
 {
     m_preview->SetBackgroundColour(colour);
     m_previewText->SetBackgroundColour(colour);
-    const bool whiteIsReadable = ContrastRatio(colour, *wxWHITE) > ContrastRatio(colour, *wxBLACK);
-    m_previewText->SetForegroundColour(whiteIsReadable ? *wxWHITE : *wxBLACK);
+    m_previewText->SetForegroundColour(BlackOrWhiteOn(colour));
     m_previewText->SetLabelText(NameOf(colour, "\n"));
     m_preview->Layout();
     m_preview->Refresh();

@@ -7,7 +7,6 @@
 #include <fittings/colour/colour_popup.h>
 
 class wxBoxSizer;
-class wxButton;
 class wxColourCombo;
 class wxDataViewListCtrl;
 class wxSizer;

@@ -15,11 +15,11 @@ namespace fittings {
 
 namespace {
 
-constexpr SortColumn columns[] = {SortColumn::Name, SortColumn::Size, SortColumn::Type, SortColumn::Modified};
+constexpr SortColumn kColumns[] = {SortColumn::Name, SortColumn::Size, SortColumn::Type, SortColumn::Modified};
 
 unsigned IndexOf(SortColumn column)
 {
-    return static_cast<unsigned>(std::find(std::begin(columns), std::end(columns), column) - std::begin(columns));
+    return static_cast<unsigned>(std::find(std::begin(kColumns), std::end(kColumns), column) - std::begin(kColumns));
 }
 
 /// Lines the texts up with their header, and shortens those that are too long in the middle.
@@ -116,7 +116,7 @@ public:
     void GetValueByRow(wxVariant& value, unsigned row, unsigned column) const override
     {
         const Entry& entry = At(row);
-        switch (columns[column]) {
+        switch (kColumns[column]) {
         case SortColumn::Name:
             value << wxDataViewIconText(LabelOf(entry), IconOf(entry));
             break;
@@ -295,7 +295,7 @@ void ContentsList::OnColumnSorted(wxDataViewEvent& event)
 {
     const wxDataViewColumn* column = event.GetDataViewColumn();
     if (column)
-        SortBy({columns[column->GetModelColumn()], column->IsSortOrderAscending()});
+        SortBy({kColumns[column->GetModelColumn()], column->IsSortOrderAscending()});
 }
 
 /// Puts the arrow into the header of the column that the rows are sorted by.

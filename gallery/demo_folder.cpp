@@ -22,7 +22,7 @@ struct DemoFile
     int day;  ///< After the first of March 2026.
 };
 
-constexpr DemoFile files[] = {
+constexpr DemoFile kFiles[] = {
     {"Documents/Contracts/Flat.pdf", 482133, 0},
     {"Documents/Contracts/Insurance.pdf", 1204512, 3},
     {"Documents/Letters/Letter 1.odt", 28114, 1},
@@ -74,7 +74,7 @@ bool MakeFile(const fs::path& path, std::int64_t size)
 
 bool Fill(const fs::path& root)
 {
-    for (const DemoFile& file : files) {
+    for (const DemoFile& file : kFiles) {
         if (!MakeFile(root / file.path, file.size))
             return false;
         SetTime(root / file.path, file.day);

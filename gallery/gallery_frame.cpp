@@ -27,8 +27,8 @@ namespace fittings {
 
 namespace {
 
-constexpr const wchar_t* stateName = L"Browser";
-constexpr int firstPageId = wxID_HIGHEST + 1;
+constexpr const wchar_t* kStateName = L"Browser";
+constexpr int kFirstPageId = wxID_HIGHEST + 1;
 
 }  // namespace
 
@@ -55,7 +55,7 @@ GalleryFrame::GalleryFrame() : wxFrame(nullptr, wxID_ANY, "Fittings Gallery")
     ShareMenuKeys(m_browser->GetTree());
     BindEvents();
 
-    wx_window_state::LoadState(this, stateName);
+    wx_window_state::LoadState(this, kStateName);
     m_browser->GetList()->SetFocus();
     ShowPage(m_pages->FindPage(FindWindowByName(browser_settings::LoadPage(), m_pages)));
 }
@@ -91,7 +91,7 @@ wxMenu* GalleryFrame::MakeViewMenu() const
     auto* view = new wxMenu;
     for (std::size_t page = 0; page < m_pages->GetPageCount(); ++page) {
         const wxString title = m_pages->GetPageText(page);
-        view->AppendRadioItem(firstPageId + static_cast<int>(page), wxString::Format("&%s\tAlt+%zu", title, page + 1),
+        view->AppendRadioItem(kFirstPageId + static_cast<int>(page), wxString::Format("&%s\tAlt+%zu", title, page + 1),
                               "Show the page " + title);
     }
     view->AppendSeparator();
@@ -141,8 +141,8 @@ void GalleryFrame::BindEvents()
     Bind(
         wxEVT_MENU, [this](wxCommandEvent&) { OnAbout(); }, wxID_ABOUT);
     Bind(
-        wxEVT_MENU, [this](wxCommandEvent& event) { ShowPage(event.GetId() - firstPageId); }, firstPageId,
-        firstPageId + static_cast<int>(m_pages->GetPageCount()) - 1);
+        wxEVT_MENU, [this](wxCommandEvent& event) { ShowPage(event.GetId() - kFirstPageId); }, kFirstPageId,
+        kFirstPageId + static_cast<int>(m_pages->GetPageCount()) - 1);
     Bind(EVT_BROWSER_CHANGED, [this](wxCommandEvent&) { ShowState(); });
     Bind(wxEVT_CHAR_HOOK, &GalleryFrame::OnCharHook, this);
     Bind(wxEVT_CLOSE_WINDOW, &GalleryFrame::OnClose, this);
@@ -179,7 +179,7 @@ void GalleryFrame::ShowState()
     SetStatusText(browser ? m_browser->GetSelectionText() : wxString(), 1);
 
     wxMenuBar* menus = GetMenuBar();
-    menus->Check(firstPageId + m_pages->GetSelection(), true);
+    menus->Check(kFirstPageId + m_pages->GetSelection(), true);
     menus->Enable(wxID_REFRESH, browser);
     menus->Enable(wxID_SAVEAS, browser);
     menus->Enable(wxID_UP, browser && m_browser->HasFolderAbove());
@@ -229,7 +229,7 @@ void GalleryFrame::OnClose(wxCloseEvent& event)
     m_numbers->SaveSettings();
     m_colours->SaveSettings();
     browser_settings::SavePage(m_pages->GetCurrentPage()->GetName());
-    wx_window_state::SaveState(this, stateName);
+    wx_window_state::SaveState(this, kStateName);
     event.Skip();
 }
 

@@ -21,11 +21,11 @@ namespace {
 
 using fittings::GalleryFrame;
 
-constexpr const char* usage = "Usage: fittings-gallery [--tour DIR] [FOLDER]\n"
-                              "Browse FOLDER, by default the folder of the last session.\n"
-                              "\n"
-                              "  --tour DIR  let the program show itself and write pictures into DIR\n"
-                              "  --help      say this\n";
+constexpr const char* kUsage = "Usage: fittings-gallery [--tour DIR] [FOLDER]\n"
+                               "Browse FOLDER, by default the folder of the last session.\n"
+                               "\n"
+                               "  --tour DIR  let the program show itself and write pictures into DIR\n"
+                               "  --help      say this\n";
 
 struct CommandLine
 {
@@ -145,7 +145,7 @@ int main(int argc, char** argv)
 {
     g_line = Parse(argc, argv);
     if (g_line.help || !g_line.good) {
-        std::fputs(usage, g_line.good ? stdout : stderr);
+        std::fputs(kUsage, g_line.good ? stdout : stderr);
         return g_line.good ? 0 : 2;
     }
     int noArguments = 1;

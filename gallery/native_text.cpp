@@ -23,10 +23,10 @@ std::size_t Utf8Length(std::string_view text)
 
 void AppendPercent(std::string& text, unsigned char byte)
 {
-    static const char digits[] = "0123456789ABCDEF";
+    static constexpr char kDigits[] = "0123456789ABCDEF";
     text += '%';
-    text += digits[byte >> 4];
-    text += digits[byte & 15];
+    text += kDigits[byte >> 4];
+    text += kDigits[byte & 15];
 }
 
 bool IsControl(unsigned char byte)

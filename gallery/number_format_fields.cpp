@@ -12,11 +12,12 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
-#include <fittings/config/ui_config_mgr.h>
 #include <fittings/numedit/num_validator.h>
 
 #include "accessible_name.h"
 #include "page_layout.h"
+#include "page_settings.h"
+#include "tell_change.h"
 
 namespace fittings {
 
@@ -24,8 +25,6 @@ wxDEFINE_EVENT(EVT_FORMAT_CHANGED, wxCommandEvent);
 
 namespace {
 
-constexpr const wchar_t* kFile = L"numbers.ini";
-constexpr const wchar_t* kSection = L"Format";
 constexpr int kLargestCount = 99;
 
 struct Flag
@@ -99,21 +98,6 @@ constexpr Bound kBounds[] = {
 
 // A choice, not a text field: a template is a printf format, which must never come from a user.
 const wchar_t* const kTemplates[] = {L"%s", L"%s kg", L"%s \u20AC", L"EUR %s", L"%s %%", L"about %s", L"(%s)"};
-
-std::wstring Key(const char* name)
-{
-    return wxString(name).ToStdWstring();
-}
-
-std::wstring LoadText(const char* name)
-{
-    return ui_config_mgr::GetConfigString(kFile, kSection, Key(name).c_str());
-}
-
-void SaveText(const char* name, const wxString& text)
-{
-    ui_config_mgr::WriteConfigString(kFile, kSection, Key(name).c_str(), text.wc_str());
-}
 
 /// The field's number in the current locale; 0 while it is none.
 double NumberIn(const wxTextCtrl& field)
@@ -213,14 +197,14 @@ void NumberFormatFields::SetFormat(const CNumberFormat& format)
 void NumberFormatFields::SaveSettings() const
 {
     for (std::size_t i = 0; i < std::size(kFlags); ++i)
-        SaveText(kFlags[i].name, m_flags[i]->GetValue() ? "1" : "0");
+        kFormatSettings.SaveFlag(kFlags[i].name, m_flags[i]->GetValue());
     for (std::size_t i = 0; i < std::size(kCharacters); ++i)
-        SaveText(kCharacters[i].name, CodeOf(CharacterIn(*m_characters[i])));
+        kFormatSettings.Save(kCharacters[i].name, CodeOf(CharacterIn(*m_characters[i])));
     for (std::size_t i = 0; i < std::size(kCounts); ++i)
-        SaveText(kCounts[i].name, wxString::Format("%d", m_counts[i]->GetValue()));
+        kFormatSettings.SaveNumber(kCounts[i].name, m_counts[i]->GetValue());
     for (std::size_t i = 0; i < std::size(kBounds); ++i)
-        SaveText(kBounds[i].name, m_bounds[i]->GetValue());
-    SaveText("Template", kTemplates[m_template->GetSelection()]);
+        kFormatSettings.Save(kBounds[i].name, m_bounds[i]->GetValue());
+    kFormatSettings.Save("Template", kTemplates[m_template->GetSelection()]);
 }
 
 void NumberFormatFields::Arrange(int width)
@@ -233,29 +217,24 @@ void NumberFormatFields::Arrange(int width)
 void NumberFormatFields::LoadSettings()
 {
     CNumberFormat format(eFixedFormat);
-    for (const Flag& flag : kFlags) {
-        const std::wstring text = LoadText(flag.name);
-        if (text == L"0" || text == L"1")
-            format.*flag.field = text == L"1";
-    }
+    for (const Flag& flag : kFlags)
+        format.*flag.field = kFormatSettings.LoadFlag(flag.name, format.*flag.field);
     for (const Character& character : kCharacters) {
-        const wxString text = LoadText(character.name);
+        const wxString text = kFormatSettings.Load(character.name);
         unsigned long code = 0;
         if (text == CodeOf(0))
             format.*character.field = L'\0';
         else if (text.StartsWith("U+") && text.Mid(2).ToULong(&code, 16) && code > 0 && code <= 0x10FFFF)
             format.*character.field = static_cast<wchar_t>(code);
     }
-    format.m_strTemplate = LoadText("Template");
+    format.m_strTemplate = kFormatSettings.Load("Template").wc_str();
     SetFormat(format);
     // Limits have a value also while they are not in force.
     for (std::size_t i = 0; i < std::size(kCounts); ++i) {
-        long number = 0;
-        if (wxString(LoadText(kCounts[i].name)).ToLong(&number) && number >= 0 && number <= kLargestCount)
-            m_counts[i]->SetValue(static_cast<int>(number));
+        m_counts[i]->SetValue(kFormatSettings.LoadNumber(kCounts[i].name, 0, kLargestCount, m_counts[i]->GetValue()));
     }
     for (std::size_t i = 0; i < std::size(kBounds); ++i)
-        m_bounds[i]->ChangeValue(LoadText(kBounds[i].name));
+        m_bounds[i]->ChangeValue(kFormatSettings.Load(kBounds[i].name));
 }
 
 wxSizer* NumberFormatFields::MakePresets()
@@ -376,9 +355,7 @@ void NumberFormatFields::OnChange()
         m_bounds[i]->Enable(m_flags[kBounds[i].flag]->GetValue());
     for (std::size_t i = 0; i < std::size(kCharacters); ++i)
         m_codes[i]->SetLabelText(CodeOf(CharacterIn(*m_characters[i])));
-    wxCommandEvent event(EVT_FORMAT_CHANGED, GetId());
-    event.SetEventObject(this);
-    ProcessWindowEvent(event);
+    TellChange(*this, EVT_FORMAT_CHANGED);
 }
 
 }  // namespace fittings

@@ -6,36 +6,24 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
-#include <fittings/config/ui_config_mgr.h>
 #include <fittings/numedit/num_validator.h>
 #include <fittings/numedit/number_edit_utils.h>
 
 #include "number_format_fields.h"
 #include "page_layout.h"
+#include "page_settings.h"
 #include "readable_colour.h"
 
 namespace fittings {
 
 namespace {
 
-constexpr const wchar_t* kFile = L"numbers.ini";
-constexpr const wchar_t* kSection = L"Number";
-constexpr const wchar_t* kFirstNumber = L"1234.5";
+constexpr const char* kFirstNumber = "1234.5";
 
 enum Result { WhileTyping, Whole, Trimmed, Grouped, Shown };
 
 constexpr const char* kResultNames[] = {"ValidateInput", "ValidateString", "CutZeros", "GroupDigits",
                                         "FormatControlText"};
-
-wxString Load(const wchar_t* key)
-{
-    return ui_config_mgr::GetConfigString(kFile, kSection, key);
-}
-
-void Save(const wchar_t* key, const wxString& text)
-{
-    ui_config_mgr::WriteConfigString(kFile, kSection, key, text.wc_str());
-}
 
 void ShowVerdict(wxStaticText* label, bool accepted)
 {
@@ -78,18 +66,19 @@ NumbersPage::NumbersPage(wxWindow* parent) : wxScrolledWindow(parent)
 void NumbersPage::SaveSettings() const
 {
     m_fields->SaveSettings();
-    Save(L"Typed", m_number->GetValue());
-    Save(L"Kept", m_kept);
-    Save(L"Validates", m_validates->GetValue() ? "1" : "0");
+    kNumberSettings.Save("Typed", m_number->GetValue());
+    kNumberSettings.Save("Kept", m_kept);
+    kNumberSettings.SaveFlag("Validates", m_validates->GetValue());
 }
 
 void NumbersPage::LoadSettings()
 {
-    const wxString validates = Load(L"Validates");
-    m_number->ChangeValue(validates.empty() ? wxString(kFirstNumber) : Load(L"Typed"));
-    m_kept = Load(L"Kept");
+    // The field may have been left empty.
+    const bool isFirstSession = kNumberSettings.Load("Validates").empty();
+    m_number->ChangeValue(isFirstSession ? wxString(kFirstNumber) : kNumberSettings.Load("Typed"));
+    m_kept = kNumberSettings.Load("Kept");
     m_keptText->SetLabelText(m_kept.empty() ? wxString("Nothing kept yet.") : "Kept: " + m_kept);
-    m_validates->SetValue(validates != "0");
+    m_validates->SetValue(kNumberSettings.LoadFlag("Validates", true));
 }
 
 /// The number that is typed, and what can be done with it.

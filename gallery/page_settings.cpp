@@ -1,36 +1,52 @@
-#include "colour_settings.h"
+#include "page_settings.h"
 
 #include <fittings/config/ui_config_mgr.h>
 
-namespace fittings::colour_settings {
+namespace fittings {
 
-namespace {
-
-constexpr const wchar_t* kFile = L"colours.ini";
-constexpr const wchar_t* kSection = L"Combo";
-
-}  // namespace
-
-wxString Load(const wxString& key)
+wxString PageSettings::Load(const wxString& name) const
 {
-    return ui_config_mgr::GetConfigString(kFile, kSection, key.wc_str());
+    return ui_config_mgr::GetConfigString(m_file, m_section, name.wc_str());
 }
 
-void Save(const wxString& key, const wxString& text)
+void PageSettings::Save(const wxString& name, const wxString& text) const
 {
-    ui_config_mgr::WriteConfigString(kFile, kSection, key.wc_str(), text.wc_str());
+    ui_config_mgr::WriteConfigString(m_file, m_section, name.wc_str(), text.wc_str());
 }
 
-wxColour LoadColour(const wxString& key, const wxColour& otherwise)
+bool PageSettings::LoadFlag(const wxString& name, bool otherwise) const
 {
-    const wxString text = Load(key);
+    const wxString text = Load(name);
+    return text == "0" || text == "1" ? text == "1" : otherwise;
+}
+
+void PageSettings::SaveFlag(const wxString& name, bool flag) const
+{
+    Save(name, flag ? "1" : "0");
+}
+
+int PageSettings::LoadNumber(const wxString& name, int least, int most, int otherwise) const
+{
+    long number = 0;
+    const bool isUsable = Load(name).ToLong(&number) && number >= least && number <= most;
+    return isUsable ? static_cast<int>(number) : otherwise;
+}
+
+void PageSettings::SaveNumber(const wxString& name, int number) const
+{
+    Save(name, wxString::Format("%d", number));
+}
+
+wxColour PageSettings::LoadColour(const wxString& name, const wxColour& otherwise) const
+{
+    const wxString text = Load(name);
     wxColour colour;
     return text.StartsWith("#") && colour.Set(text) ? colour : otherwise;
 }
 
-void SaveColour(const wxString& key, const wxColour& colour)
+void PageSettings::SaveColour(const wxString& name, const wxColour& colour) const
 {
-    Save(key, colour.GetAsString(wxC2S_HTML_SYNTAX));
+    Save(name, colour.GetAsString(wxC2S_HTML_SYNTAX));
 }
 
-}  // namespace fittings::colour_settings
+}  // namespace fittings

@@ -40,12 +40,17 @@ double ContrastRatio(const wxColour& a, const wxColour& b)
     return (lighter + 0.05) / (darker + 0.05);
 }
 
+const wxColour& BlackOrWhiteOn(const wxColour& background)
+{
+    return ContrastRatio(background, *wxWHITE) > ContrastRatio(background, *wxBLACK) ? *wxWHITE : *wxBLACK;
+}
+
 wxColour ReadableOn(const wxColour& background, const wxColour& colour)
 {
-    const bool toWhite = ContrastRatio(background, *wxWHITE) > ContrastRatio(background, *wxBLACK);
+    const wxColour& farthest = BlackOrWhiteOn(background);
     wxColour readable = colour;
     for (int step = 1; step <= kSteps && ContrastRatio(background, readable) < kReadableRatio; ++step)
-        readable = Between(colour, toWhite ? *wxWHITE : *wxBLACK, step);
+        readable = Between(colour, farthest, step);
     return readable;
 }
 

@@ -1,17 +1,23 @@
 #include "screenshot.h"
 
+#include <chrono>
 #include <cstring>
 #include <memory>
 
 #include <gdk/gdkx.h>
 #include <gtk/gtk.h>
-#include <wx/stopwatch.h>
 
+#include "frame_rect.h"
 #include "simulated_user.h"
 
 namespace fittings {
 
 namespace {
+
+using Clock = std::chrono::steady_clock;
+
+// So long nothing changes before a picture is taken.
+constexpr std::chrono::milliseconds kStill(400);
 
 struct Unref
 {
@@ -57,24 +63,17 @@ bool CanReadScreen()
     return GDK_IS_X11_DISPLAY(gdk_display_get_default());
 }
 
-wxRect FrameRect(GtkWidget* window)
-{
-    GdkRectangle rect;
-    gdk_window_get_frame_extents(gtk_widget_get_window(window), &rect);
-    return {rect.x, rect.y, rect.width, rect.height};
-}
-
 bool SaveScreenshot(GtkWidget* window, const std::string& path)
 {
     Pixels seen;
-    wxStopWatch unchanged;
+    Clock::time_point changed = Clock::now();
     const bool stands = simulated_user::WaitUntil([&] {
         // Where it is now: a window that was just shown may not have its place and decorations yet.
         Pixels now = ReadScreen(FrameRect(window));
         if (!AreEqual(seen, now) || IsOfOneColour(now))
-            unchanged.Start();
+            changed = Clock::now();
         seen = std::move(now);
-        return unchanged.Time() >= 400;
+        return Clock::now() - changed >= kStill;
     });
     return stands && gdk_pixbuf_save(seen.get(), path.c_str(), "png", nullptr, nullptr);
 }

@@ -3,17 +3,12 @@
 
 #include <string>
 
-#include <wx/gdicmn.h>
-
 struct _GtkWidget;
 
 namespace fittings {
 
 /// True where the pixels of the screen can be read: on an X display.
 bool CanReadScreen();
-
-/// A top-level window with its decorations, on the screen.
-wxRect FrameRect(_GtkWidget* window);
 
 /// Writes what the screen shows of a top-level window with its decorations as a PNG file, once something is drawn and no
 /// longer changes. False when it never stands still, cannot be read or the file cannot be written.

@@ -11,6 +11,7 @@
 
 #include "native_text.h"
 #include "page_layout.h"
+#include "tell_change.h"
 
 namespace fittings {
 
@@ -44,11 +45,7 @@ SizeFilter::SizeFilter(wxWindow* parent) : wxPanel(parent)
     m_field->SetInitialSize(m_field->GetSizeFromTextSize(m_field->GetTextExtent("0000000")));
     m_field->SetValidator(wxNumValidator(MegabytesFormat(), nullptr));
     m_field->SetToolTip("Leaves out of the list what is smaller");
-    m_field->Bind(wxEVT_TEXT, [this](wxCommandEvent&) {
-        wxCommandEvent event(EVT_SIZE_FILTER_CHANGED, GetId());
-        event.SetEventObject(this);
-        ProcessWindowEvent(event);
-    });
+    m_field->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { TellChange(*this, EVT_SIZE_FILTER_CHANGED); });
     m_field->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) {
         if (event.GetKeyCode() == WXK_ESCAPE && !m_field->IsEmpty())
             m_field->Clear();

@@ -16,6 +16,7 @@
 #include "browser_page.h"
 #include "contents_list.h"
 #include "folder_tree.h"
+#include "frame_rect.h"
 #include "gallery_frame.h"
 #include "native_text.h"
 #include "screenshot.h"

@@ -8,8 +8,8 @@
 #include <wx/aui/floatpane.h>
 
 #include <gallery/folder_listing.h>
+#include <gallery/frame_rect.h>
 #include <gallery/native_text.h>
-#include <gallery/screenshot.h>
 
 using namespace fittings;
 using namespace fittings::simulated_user;

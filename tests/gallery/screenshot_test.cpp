@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <wx/frame.h>
 
+#include <gallery/frame_rect.h>
 #include <gallery/screenshot.h>
 #include <tests/support/temp_folder.h>
 
