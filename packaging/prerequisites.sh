@@ -1,4 +1,4 @@
-# What run, check, bench/run and docs/build share: the packages that each job needs, and how a preset is built.
+# What the scripts share: the packages that each job needs, and how a preset is built.
 # Sourced with the project's folder as the current one.
 
 build_packages=(g++ cmake ninja-build pkg-config gettext libwxgtk3.2-dev libglib2.0-dev libgtk-3-dev)
