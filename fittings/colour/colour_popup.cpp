@@ -157,11 +157,9 @@ int wxColourPopup::GetRow(int index) const
 
 int wxColourPopup::GetColumn(int index) const
 {
-    if (index == CELL_MORE_COLOURS && !m_strMoreColours.empty())
-        return CELL_MORE_COLOURS;
-    if (index == CELL_AUTOMATIC && !m_strAutomatic.empty())
-        return CELL_AUTOMATIC;
-    return index >= 0 && index < m_nNumColours ? index % m_nNumColumns : CELL_NONE;
+    // What is not in the grid has no column beside its row.
+    const int row = GetRow(index);
+    return row >= 0 ? index % m_nNumColumns : row;
 }
 
 int wxColourPopup::GetIndex(int row, int col) const
@@ -226,12 +224,6 @@ void wxColourPopup::OnInternalIdle()
     wxWindow::OnInternalIdle();
     fittings::Describe(*this, fittings::AccessibleRole::Grid, m_combo ? m_combo->GetLabelText() : wxString(),
                        fittings::SpokenText(*this));
-}
-
-wxString fittings::SpokenText(const wxColourPopup& popup)
-{
-    const wxString hot = popup.IsShownOnScreen() ? popup.GetStringValue().Trim() : wxString();
-    return hot.empty() ? ColourName(popup.GetInitialColour()) : hot;
 }
 
 bool wxColourPopup::Create(wxWindow* parent)

@@ -3,12 +3,9 @@
 #include <array>
 #include <cstddef>
 
-#include <wx/colour.h>
-#include <wx/string.h>
 #include <wx/translation.h>
 
 #include <fittings/colour/colour_text.h>
-#include <fittings/platform/lng_util.h>
 
 namespace {
 
@@ -93,22 +90,6 @@ Table Build()
 }
 
 }  // namespace
-
-const wchar_t* fittings::ColourText(const wchar_t* key)
-{
-    static CLanguageDomain everyCatalogue;
-    return lng_util_internal::DoGetResourceString(key, &everyCatalogue);
-}
-
-wxString fittings::ColourName(const wxColour& colour)
-{
-    for (int i = 0; i < kColourCount; ++i) {
-        const ColourTableEntry& entry = GetColourTable()[i];
-        if (entry.szName && entry.crColour == colour.GetRGB())
-            return wxString(entry.szName).Trim();
-    }
-    return colour.GetAsString(wxC2S_HTML_SYNTAX);
-}
 
 const ColourTableEntry* GetColourTable()
 {
