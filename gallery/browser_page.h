@@ -98,7 +98,7 @@ private:
     wxAuiManager m_layout;
     wxString m_firstLayout;
     bool m_layoutLoaded = false;
-    wxPoint m_floatingPlace = wxDefaultPosition;  // Of the folders, when they were last hidden with their page.
+    wxPoint m_floatingPlace = wxDefaultPosition;  ///< Of the folders, when they were last hidden with their page.
     FolderTree* m_tree = nullptr;
     ContentsList* m_list = nullptr;
     FolderColourCombo* m_colour = nullptr;

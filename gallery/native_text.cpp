@@ -21,6 +21,22 @@ std::size_t Utf8Length(std::string_view text)
     return static_cast<std::size_t>(end - text.data());
 }
 
+/// Calls @a ofText for each byte that UTF-8 is made of, and @a other for each of the rest.
+template <typename OfText, typename Other>
+void ForEachByte(std::string_view bytes, OfText ofText, Other other)
+{
+    while (!bytes.empty()) {
+        const std::size_t good = Utf8Length(bytes);
+        for (const char byte : bytes.substr(0, good))
+            ofText(byte);
+        bytes.remove_prefix(good);
+        if (!bytes.empty()) {
+            other(bytes.front());
+            bytes.remove_prefix(1);
+        }
+    }
+}
+
 void AppendPercent(std::string& text, unsigned char byte)
 {
     static constexpr char kDigits[] = "0123456789ABCDEF";
@@ -39,43 +55,30 @@ bool IsControl(unsigned char byte)
 wxString DisplayText(const std::string& bytes)
 {
     std::string text;
-    for (std::string_view rest = bytes; !rest.empty();) {
-        const std::size_t good = Utf8Length(rest);
-        for (const char c : rest.substr(0, good)) {
-            const auto byte = static_cast<unsigned char>(c);
-            if (byte == 0x7F)
-                text += "\u2421";
-            else if (byte < 0x20)
-                text += {'\xE2', '\x90', static_cast<char>(0x80 + byte)};
-            else
-                text += c;
-        }
-        rest.remove_prefix(good);
-        if (!rest.empty()) {
-            text += "\uFFFD";
-            rest.remove_prefix(1);
-        }
-    }
+    const auto appendPicture = [&text](char c) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (byte == 0x7F)
+            text += "\u2421";
+        else if (byte < 0x20)
+            text += {'\xE2', '\x90', static_cast<char>(0x80 + byte)};
+        else
+            text += c;
+    };
+    ForEachByte(bytes, appendPicture, [&text](char) { text += "\uFFFD"; });
     return wxString::FromUTF8(text);
 }
 
 std::wstring TextFromPath(const std::string& path)
 {
     std::string text;
-    for (std::string_view rest = path; !rest.empty();) {
-        const std::size_t good = Utf8Length(rest);
-        for (const char c : rest.substr(0, good)) {
-            if (c == '%' || c == '|' || IsControl(static_cast<unsigned char>(c)))
-                AppendPercent(text, static_cast<unsigned char>(c));
-            else
-                text += c;
-        }
-        rest.remove_prefix(good);
-        if (!rest.empty()) {
-            AppendPercent(text, static_cast<unsigned char>(rest.front()));
-            rest.remove_prefix(1);
-        }
-    }
+    const auto appendPercent = [&text](char byte) { AppendPercent(text, static_cast<unsigned char>(byte)); };
+    const auto append = [&](char c) {
+        if (c == '%' || c == '|' || IsControl(static_cast<unsigned char>(c)))
+            appendPercent(c);
+        else
+            text += c;
+    };
+    ForEachByte(path, append, appendPercent);
     return file_util_ex::ConvertFromUTF8W(text);
 }
 

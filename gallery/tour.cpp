@@ -82,7 +82,7 @@ std::string FileIn(GtkWidget* dialog)
 wxRect AcceptButton(GtkWidget* dialog)
 {
     GtkWidget* button = gtk_dialog_get_widget_for_response(GTK_DIALOG(dialog), GTK_RESPONSE_ACCEPT);
-    return button && gtk_widget_is_sensitive(button) ? simulated_user::WidgetRect(button) : wxRect();
+    return button && gtk_widget_is_sensitive(button) ? WidgetRect(button) : wxRect();
 }
 
 /// What must be the same in the next session.
@@ -304,11 +304,7 @@ bool Tour::SaveReport()
         auto* chooser = GTK_FILE_CHOOSER(dialog);
         gtk_file_chooser_set_current_folder(chooser, m_demo.SettingsPath().c_str());
         gtk_file_chooser_set_current_name(chooser, "report.csv");
-        if (!Waits([&] { return FileIn(dialog) == file && !AcceptButton(dialog).IsEmpty(); }, "the name is taken") ||
-            !IsTrue(SaveScreenshot(dialog, m_pictures + "/save-dialog.png"), "the picture is taken"))
-            return false;
-        Click(CentreOf(AcceptButton(dialog)));
-        return Waits([] { return !FindFileDialog(); }, "a click saves");
+        return AcceptFile(dialog, file, "save-dialog");
     });
     const auto isWritten = [&] {
         std::ifstream report(file);
@@ -324,12 +320,7 @@ bool Tour::ChooseFolder()
     const State before(*m_frame);
     const bool well = VisitDialog('O', "Ctrl+O opens the folder dialog", [&](GtkWidget* dialog) {
         gtk_file_chooser_set_current_folder(GTK_FILE_CHOOSER(dialog), before.root.c_str());
-        if (!Waits([&] { return FileIn(dialog) == before.root && !AcceptButton(dialog).IsEmpty(); },
-                   "the folder is shown") ||
-            !IsTrue(SaveScreenshot(dialog, m_pictures + "/folder-dialog.png"), "the picture is taken"))
-            return false;
-        Click(CentreOf(AcceptButton(dialog)));
-        return Waits([] { return !FindFileDialog(); }, "a click chooses");
+        return AcceptFile(dialog, before.root, "folder-dialog");
     });
     return well && Waits([&] { return State(*m_frame) == before; }, "a folder opened anew looks as it was left") &&
            IsTrue(CLocalRegStore::GetString("OpenFolder", "Path", "") == before.root,
@@ -392,6 +383,16 @@ bool Tour::VisitDialog(char key, const char* claim, const std::function<bool(Gtk
     Press(key, wxMOD_CONTROL);
     return Waits([&] { return visitor.IsOver(); }, claim) && visitor.WentWell() &&
            Waits([&] { return m_frame->IsActive(); }, "the window is active again");
+}
+
+/// Waits until a dialog has the file or folder to choose, takes a picture and chooses it by a click.
+bool Tour::AcceptFile(GtkWidget* dialog, const std::string& file, const char* picture)
+{
+    if (!Waits([&] { return FileIn(dialog) == file && !AcceptButton(dialog).IsEmpty(); }, "the name is taken") ||
+        !IsTrue(SaveScreenshot(dialog, m_pictures + "/" + picture + ".png"), "the picture is taken"))
+        return false;
+    Click(CentreOf(AcceptButton(dialog)));
+    return Waits([] { return !FindFileDialog(); }, "a click chooses");
 }
 
 bool Tour::SavePicture(const char* component)

@@ -44,6 +44,7 @@ private:
     bool IsTrue(bool condition, const char* claim);
     bool Waits(const std::function<bool()>& condition, const char* claim);
     bool VisitDialog(char key, const char* claim, const std::function<bool(_GtkWidget*)>& visit);
+    bool AcceptFile(_GtkWidget* dialog, const std::string& file, const char* picture);
     bool ShowPage(char key, const wxWindow* page);
     bool OpenFolderColours();
     bool FolderGets(int cell);
