@@ -31,13 +31,11 @@ double Status(const std::string& name)
 {
     std::ifstream status("/proc/self/status");
     std::string word;
-    while (status >> word)
-        if (word == name + ":") {
-            double kilobytes = 0;
-            status >> kilobytes;
-            return kilobytes * 1024;
-        }
-    return 0;
+    while (status >> word && word != name + ":") {
+    }
+    double kilobytes = 0;
+    status >> kilobytes;
+    return kilobytes * 1024;
 }
 
 /// The most memory that @a work takes at any time beyond what was taken before it, an item.

@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr int SECTIONS = 20;
+constexpr int kSections = 20;
 
 /// A user data directory with settings of a given number of keys, for as long as the object lives.
 class Settings
@@ -32,7 +32,7 @@ public:
         std_file_paths::SetUserDataDir(file_util_ex::ConvertFromUTF8W(m_folder));
         std::string text;
         for (int key = 0; key < keys; ++key) {
-            if (key % (keys / SECTIONS) == 0)
+            if (key % (keys / kSections) == 0)
                 text += "[" + Section(key) + "]\n";
             text += Key(key) + "=" + std::to_string(key) + ";" + std::to_string(key * 7) + ";640;480\n";
         }
@@ -51,7 +51,7 @@ public:
     std::string DefaultPath() const { return m_folder + "/settings.ini"; }
     std::string NamedPath() const { return m_folder + "/ui_config/named.ini"; }
 
-    std::string Section(int key) const { return "Section" + std::to_string(key / (m_keys / SECTIONS)); }
+    std::string Section(int key) const { return "Section" + std::to_string(key / (m_keys / kSections)); }
     std::string Key(int key) const { return "WindowGeometry" + std::to_string(key); }
 
 private:
