@@ -246,8 +246,7 @@ TEST(ColourComboWithText, OpensWithTheColourOfItsTextHot)
     const ComboOnScreen<> on(0);
     ASSERT_TRUE(ShowAndSettle(on.frame));
     on.combo->SetValue("Red");
-    on.combo->Popup();
-    ASSERT_TRUE(PumpUntil([&] { return on.combo->IsPopupShown(); }));
+    ASSERT_TRUE(Opens(*on.combo));
     EXPECT_EQ(on.popup->m_nCurrentSel, 16);
     EXPECT_EQ(on.popup->m_crColour, *wxRED);
     on.popup->EndSelection(true);
@@ -347,8 +346,7 @@ TEST_P(AsComboCtrl, IsDismissedWhenAnotherOneOpens)
     user.MouseClick();
     ExpectClosed();
     EXPECT_EQ(log.Take(), (Notes{"cancel", "closeup"}));
-    second->Popup();
-    EXPECT_TRUE(PumpUntil([&] { return second->IsPopupShown(); }));
+    EXPECT_TRUE(Opens(*second));
     EXPECT_FALSE(combo.IsPopupShown());
     second->Dismiss();
 }

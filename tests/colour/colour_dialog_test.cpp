@@ -11,8 +11,7 @@
 #include <wx/colordlg.h>
 #include <wx/modalhook.h>
 
-#include <tests/colour/colour_listener.h>
-#include <tests/colour/combo_on_screen.h>
+#include <tests/colour/combo_with_listener.h>
 
 namespace {
 
@@ -71,26 +70,16 @@ private:
     const wxColour m_colour;
 };
 
-class MoreColours : public testing::Test
+class MoreColours : public testing::Test, protected ComboWithListener
 {
 protected:
-    MoreColours() : on(wxCB_READONLY, [](OpenPopup& popup) { popup.SetInitialColour(wxColour(1, 2, 3)); })
-    {
-        on.combo->hidden.clear();
-        on.popup->SetColorListener(&listener);
-        on.combo->EnablePopupAnimation(false);
-        EXPECT_TRUE(ShowAndSettle(on.frame));
-    }
+    MoreColours() : ComboWithListener(wxColour(1, 2, 3)) {}
 
-    void Open()
+    void Open() const
     {
-        on.combo->Popup();
-        ASSERT_TRUE(PumpUntil([&] { return on.combo->IsPopupShown(); }));
+        ASSERT_TRUE(Opens(*on.combo));
         on.popup->ChangeSelection(M);
     }
-
-    const ComboOnScreen<> on;
-    ColourListener listener;
 };
 
 TEST_F(MoreColours, GivesTheColourOfTheDialog)

@@ -162,13 +162,11 @@ TEST_P(BesideTheToolkits, OpensAtTheSideThatItIsAnchoredTo)
     on.combo->SetSize(400, -1);
     on.combo->SetPopupAnchor(wxRIGHT);
     on.combo->EnablePopupAnimation(false);
-    on.combo->Popup();
-    ASSERT_TRUE(PumpUntil([&] { return on.combo->IsPopupShown(); }));
+    ASSERT_TRUE(Opens(*on.combo));
     EXPECT_EQ(on.popup->GetScreenRect().GetRight(), on.combo->GetScreenRect().GetRight());
     on.combo->Dismiss();
     on.combo->SetPopupAnchor(wxLEFT);
-    on.combo->Popup();
-    ASSERT_TRUE(PumpUntil([&] { return on.combo->IsPopupShown(); }));
+    ASSERT_TRUE(Opens(*on.combo));
     EXPECT_EQ(on.popup->GetScreenRect().x, on.combo->GetScreenRect().x);
     on.combo->Dismiss();
 }
@@ -179,8 +177,7 @@ TEST_P(BesideTheToolkits, OpensAgainAfterBeingFrozen)
     on.combo->SetValue("Lime");
     on.combo->Thaw();
     EXPECT_FALSE(on.combo->IsFrozen());
-    on.combo->Popup();
-    ASSERT_TRUE(PumpUntil([&] { return on.combo->IsPopupShown(); }));
+    ASSERT_TRUE(Opens(*on.combo));
     on.popup->ChangeSelection(16);
     on.popup->EndSelection(true);
     EXPECT_EQ(on.combo->GetValue(), "Red");
@@ -193,8 +190,7 @@ TEST_P(BesideTheToolkits, HasAPopupOfItsOwnSize)
     on.combo->SetPopupMaxHeight(50);
     on.combo->SetPopupExtents(30, 30);
     on.combo->EnablePopupAnimation(false);
-    on.combo->Popup();
-    ASSERT_TRUE(PumpUntil([&] { return on.combo->IsPopupShown(); }));
+    ASSERT_TRUE(Opens(*on.combo));
     EXPECT_EQ(on.popup->GetSize(), on.popup->m_rectWindow.GetSize());
     on.combo->Dismiss();
 }

@@ -79,8 +79,7 @@ TEST_P(ColourComboInADialog, LeavesOnlyKeysThatItsPopupDoesNotKnowToTheDialog)
     combo->EnablePopupAnimation(false);
     for (const int last : {int(WXK_ESCAPE), int(WXK_RETURN), int(WXK_NUMPAD_ENTER), int(WXK_SPACE)}) {
         hooked.clear();
-        combo->Popup();
-        ASSERT_TRUE(PumpUntil([&] { return combo->IsPopupShown(); }));
+        ASSERT_TRUE(Opens(*combo));
         PumpPending();
         for (const int key : {int(WXK_UP), int(WXK_F1), int(WXK_DOWN), int(WXK_RIGHT), int(WXK_LEFT), int('x')})
             user.Char(key);

@@ -48,11 +48,7 @@ struct Control
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
 
-    void Open()
-    {
-        combo->Popup();
-        ASSERT_TRUE(PumpUntil([&] { return combo->IsPopupShown(); }));
-    }
+    void Open() { ASSERT_TRUE(Opens(*combo)); }
 
     ColourListener listener;
     wxWeakRef<wxFrame> frame;
@@ -476,8 +472,7 @@ TEST(ColourComboPopup, IsAnotherOneThanTheColours)
     };
     const ComboOnScreen<OpenCombo, Note> on;
     ASSERT_TRUE(ShowAndSettle(on.frame));
-    on.combo->Popup();
-    EXPECT_TRUE(PumpUntil([&] { return on.combo->IsPopupShown(); }));
+    EXPECT_TRUE(Opens(*on.combo));
     on.combo->Dismiss();
     EXPECT_EQ(on.combo->GetValue(), "noted");
 }

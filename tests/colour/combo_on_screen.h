@@ -51,6 +51,13 @@ public:
     int refreshes = 0;
 };
 
+/// Opens a combo's popup as its button does; false when it is not shown before long.
+inline bool Opens(wxComboCtrl& combo)
+{
+    combo.Popup();
+    return PumpUntil([&] { return combo.IsPopupShown(); });
+}
+
 /// A frame with a combo of the given class and its popup, all gone when the object is.
 template <typename Combo = OpenCombo, typename Popup = OpenPopup>
 class ComboOnScreen

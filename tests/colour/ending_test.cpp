@@ -10,35 +10,19 @@
 
 #include <wx/textctrl.h>
 
-#include <tests/colour/colour_listener.h>
-#include <tests/colour/combo_on_screen.h>
+#include <tests/colour/combo_with_listener.h>
 
 namespace {
 
 constexpr int A = CELL_AUTOMATIC;
 constexpr int M = CELL_MORE_COLOURS;
 
-// A combo in a window on the screen, with the colour blue and a popup that opens without animation.
-class ColourEnding : public testing::TestWithParam<long>
+class ColourEnding : public testing::Test, protected ComboWithListener
 {
 protected:
-    explicit ColourEnding(long style = wxCB_READONLY)
-        : on(style, [](OpenPopup& popup) { popup.SetInitialColour(*wxBLUE); })
-    {
-        on.combo->hidden.clear();
-        on.popup->SetColorListener(&listener);
-        on.combo->EnablePopupAnimation(false);
-        EXPECT_TRUE(ShowAndSettle(on.frame));
-    }
+    explicit ColourEnding(long style = wxCB_READONLY) : ComboWithListener(*wxBLUE, style) {}
 
-    void Open()
-    {
-        on.combo->Popup();
-        ASSERT_TRUE(PumpUntil([&] { return on.combo->IsPopupShown(); }));
-    }
-
-    const ComboOnScreen<> on;
-    ColourListener listener;
+    void Open() const { ASSERT_TRUE(Opens(*on.combo)); }
 };
 
 TEST_F(ColourEnding, StartsWithNoHotCellAndTheChosenOneMarked)
@@ -354,8 +338,7 @@ TEST(ColourPopupAlone, WorksInThePlainComboOfTheToolkit)
     ColourListener listener;
     on.popup->SetColorListener(&listener);
     ASSERT_TRUE(ShowAndSettle(on.frame));
-    on.combo->Popup();
-    ASSERT_TRUE(PumpUntil([&] { return on.combo->IsPopupShown(); }));
+    ASSERT_TRUE(Opens(*on.combo));
     on.popup->ChangeSelection(16);
     on.popup->EndSelection(true);
     EXPECT_EQ(on.combo->GetValue(), "Red");

@@ -267,15 +267,15 @@ INSTANTIATE_TEST_SUITE_P(, ColourMargin,
                              return edge < 0 ? std::string("unknown") : std::to_string(edge);
                          });
 
-const char* const WIDE = "A text that is wider than eight cells of the palette";
+const char* const kWideText = "A text that is wider than eight cells of the palette";
 
 TEST(ColourLayout, IsAsWideAsTheUpperText)
 {
     const PopupInFrame popup([](OpenPopup& made) {
-        made.m_strAutomatic = WIDE;
+        made.m_strAutomatic = kWideText;
         made.m_strMoreColours.clear();
     });
-    const int text = Extent(popup, WIDE).x;
+    const int text = Extent(popup, kWideText).x;
     ASSERT_GT(text, 148);
     EXPECT_EQ(popup->GetSize().x, text + 4);
     EXPECT_EQ(RectOf(popup, kAutomatic).x, 2);
@@ -287,20 +287,20 @@ TEST(ColourLayout, IsAsWideAsTheLowerText)
 {
     const PopupInFrame popup([](OpenPopup& made) {
         made.m_strAutomatic.clear();
-        made.m_strMoreColours = WIDE;
+        made.m_strMoreColours = kWideText;
     });
-    EXPECT_EQ(popup->GetSize().x, Extent(popup, WIDE).x + 4);
-    EXPECT_EQ(RectOf(popup, kMore).width, Extent(popup, WIDE).x + 1);
+    EXPECT_EQ(popup->GetSize().x, Extent(popup, kWideText).x + 4);
+    EXPECT_EQ(RectOf(popup, kMore).width, Extent(popup, kWideText).x + 1);
 }
 
 TEST(ColourLayout, IsAsWideAsTheWiderText)
 {
     for (const bool upper : {true, false}) {
         const PopupInFrame popup([upper](OpenPopup& made) {
-            made.m_strAutomatic = upper ? WIDE : "Auto";
-            made.m_strMoreColours = upper ? "More" : WIDE;
+            made.m_strAutomatic = upper ? kWideText : "Auto";
+            made.m_strMoreColours = upper ? "More" : kWideText;
         });
-        const int text = Extent(popup, WIDE).x;
+        const int text = Extent(popup, kWideText).x;
         EXPECT_EQ(popup->GetSize().x, text + 4) << upper;
         EXPECT_EQ(RectOf(popup, kAutomatic).width, text + 1) << upper;
         EXPECT_EQ(RectOf(popup, kMore).width, text + 1) << upper;

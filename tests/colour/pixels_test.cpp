@@ -13,12 +13,12 @@
 
 namespace {
 
-const wxColour BACKGROUND(255, 0, 255);
+const wxColour kBackground(255, 0, 255);
 
 char LetterOf(const wxColour& colour)
 {
     static const std::pair<wxColour, char> kLetters[] = {
-        {FACE, 'f'}, {SHADOW, 's'}, {HIGHLIGHT, 'H'}, {DARK, 'D'}, {BACKGROUND, '.'}, {wxColour(0, 0, 0), '#'},
+        {kFace, 'f'}, {kShadow, 's'}, {kHighlight, 'H'}, {kDark, 'D'}, {kBackground, '.'}, {wxColour(0, 0, 0), '#'},
     };
     for (const auto& [known, letter] : kLetters) {
         if (known == colour)
@@ -73,7 +73,7 @@ protected:
 
     PopupInFrame popup;
     PinnedTheme theme;
-    Picture picture{wxSize(160, 180), BACKGROUND};
+    Picture picture{wxSize(160, 180), kBackground};
 };
 
 TEST_F(ColourPixels, OfACell)

@@ -103,13 +103,13 @@ private:
 
     static std::string NameOf(const wxColour& colour)
     {
-        if (colour == FACE)
+        if (colour == kFace)
             return "FACE";
-        if (colour == SHADOW)
+        if (colour == kShadow)
             return "SHADOW";
-        if (colour == HIGHLIGHT)
+        if (colour == kHighlight)
             return "HIGHLIGHT";
-        if (colour == DARK)
+        if (colour == kDark)
             return "DARK";
         return colour.GetAsString(wxC2S_HTML_SYNTAX).utf8_string();
     }

@@ -49,8 +49,7 @@ TEST(RightToLeft, TheColourClickedIsTheOneSeenThere)
         window->SetLayoutDirection(wxLayout_RightToLeft);
     ASSERT_TRUE(ShowAndSettle(screen.frame));
     for (const int index : {1, 6, 17, 20, 27}) {
-        screen.combo->Popup();
-        ASSERT_TRUE(PumpUntil([&] { return screen.combo->IsPopupShown(); }));
+        ASSERT_TRUE(Opens(*screen.combo));
         PumpPending();
         const wxColour colour = screen.popup->GetColour(index);
         PointTo(PlaceOf(colour));

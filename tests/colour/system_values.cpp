@@ -42,13 +42,13 @@ PinnedEdge::~PinnedEdge()
 wxColour wxSystemSettingsNative::GetColour(wxSystemColour index)
 {
     if (g_themePinned && index == wxSYS_COLOUR_BTNFACE)
-        return FACE;
+        return kFace;
     if (g_themePinned && index == wxSYS_COLOUR_BTNSHADOW)
-        return SHADOW;
+        return kShadow;
     if (g_themePinned && index == wxSYS_COLOUR_BTNHIGHLIGHT)
-        return HIGHLIGHT;
+        return kHighlight;
     if (g_themePinned && index == wxSYS_COLOUR_3DDKSHADOW)
-        return DARK;
+        return kDark;
     static auto* const toolkits =
         Toolkits<wxColour(wxSystemColour)>("_ZN22wxSystemSettingsNative9GetColourE14wxSystemColour");
     return toolkits(index);

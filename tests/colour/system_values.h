@@ -6,10 +6,10 @@
 #include <wx/colour.h>
 
 /// The colours of the tests' own theme, no two alike. They take the place of the desktop's while a PinnedTheme lives.
-inline const wxColour FACE(201, 202, 203);
-inline const wxColour SHADOW(121, 122, 123);
-inline const wxColour HIGHLIGHT(251, 252, 253);
-inline const wxColour DARK(21, 22, 23);
+inline const wxColour kFace(201, 202, 203);
+inline const wxColour kShadow(121, 122, 123);
+inline const wxColour kHighlight(251, 252, 253);
+inline const wxColour kDark(21, 22, 23);
 
 class PinnedTheme
 {

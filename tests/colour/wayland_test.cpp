@@ -23,7 +23,7 @@
 
 namespace {
 
-constexpr const char* SOCKET = "wayland-of-the-test";
+constexpr const char* kSocket = "wayland-of-the-test";
 
 // Where the compositor's window is on the X screen.
 wxPoint CompositorsPlace()
@@ -62,17 +62,17 @@ protected:
     // The compositor's window is given to the one program that it has.
     ColourOnWayland()
         : compositor({"weston", "--backend=x11-backend.so", "--use-pixman", "--width=900", "--height=600",
-                      "--shell=kiosk-shell.so", "--no-config", "--idle-time=0", std::string("--socket=") + SOCKET},
+                      "--shell=kiosk-shell.so", "--no-config", "--idle-time=0", std::string("--socket=") + kSocket},
                      {{"XDG_RUNTIME_DIR", runtime.Path()}})
     {
-        EXPECT_TRUE(Becomes([&] { return std::filesystem::exists(runtime / SOCKET) || !compositor.IsRunning(); }));
+        EXPECT_TRUE(Becomes([&] { return std::filesystem::exists(runtime / kSocket) || !compositor.IsRunning(); }));
         EXPECT_TRUE(compositor.IsRunning()) << compositor.Output();
     }
 
     std::map<std::string, std::optional<std::string>> Environment() const
     {
         return {{"XDG_RUNTIME_DIR", runtime.Path()},
-                {"WAYLAND_DISPLAY", SOCKET},
+                {"WAYLAND_DISPLAY", kSocket},
                 {"GDK_BACKEND", "wayland"},
                 {"DISPLAY", std::nullopt}};
     }

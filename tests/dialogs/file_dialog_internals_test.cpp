@@ -17,8 +17,8 @@
 
 namespace {
 
-constexpr const wchar_t* NOTHING = L"(nothing)";
-constexpr long STYLE = 0x2;
+constexpr const wchar_t* kNothing = L"(nothing)";
+constexpr long kStyle = 0x2;
 
 std::wstring SamplesFolder()
 {
@@ -27,7 +27,7 @@ std::wstring SamplesFolder()
 
 std::wstring Stored(const wchar_t* entry)
 {
-    return CLocalRegStore::GetString(L"LastFiles", entry, NOTHING);
+    return CLocalRegStore::GetString(L"LastFiles", entry, kNothing);
 }
 
 TEST(FileDialogNames, AreFixed)
@@ -84,13 +84,13 @@ TEST_F(LastPath, IsNotSavedWhenItIsEmpty)
     fittings::SaveLastPath(L"", "A");
     EXPECT_EQ(Stored(L"A"), L"/usr/one");
     fittings::SaveLastPath(L"", "B");
-    EXPECT_EQ(Stored(L"B"), NOTHING);
+    EXPECT_EQ(Stored(L"B"), kNothing);
 }
 
 TEST_F(LastPath, IsNotSavedWithoutAnEntry)
 {
     fittings::SaveLastPath(L"/usr/one", "");
-    EXPECT_EQ(Stored(L""), NOTHING);
+    EXPECT_EQ(Stored(L""), kNothing);
 }
 
 TEST_F(LastPath, IsSavedInUtf8)
@@ -105,7 +105,7 @@ AskedFile AskedBy(const wchar_t* title, const wchar_t* folder, const wchar_t* fi
                   const wchar_t* wildcard)
 {
     const FileAnswer cancel(wxID_CANCEL, "");
-    EXPECT_EQ(fittings::FileSelector(title, folder, file, extension, wildcard, STYLE, nullptr, -1, -1), "");
+    EXPECT_EQ(fittings::FileSelector(title, folder, file, extension, wildcard, kStyle, nullptr, -1, -1), "");
     return cancel.Asked();
 }
 
@@ -247,7 +247,7 @@ TEST_F(OpenDialog, AssertsAndChoosesNothingWithoutASwitch)
     EXPECT_EQ(fittings::LaunchOpenDialog(nullptr, L"", L"", L"", nullptr), L"");
     EXPECT_EQ(assertions.Count(), 1);
     EXPECT_EQ(ok.Shown(), 0);
-    EXPECT_EQ(Stored(L"Report"), NOTHING);
+    EXPECT_EQ(Stored(L"Report"), kNothing);
 }
 
 }  // namespace

@@ -19,7 +19,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* NOT_ASCII = "\xE5\xB8\xB3\xE7\xB0\xBF \xC3\xA4\xF0\x9F\x93\x92";
+constexpr const char* kNotAscii = "\xE5\xB8\xB3\xE7\xB0\xBF \xC3\xA4\xF0\x9F\x93\x92";
 
 struct Call
 {
@@ -76,7 +76,7 @@ protected:
     SaveDialogByKeys()
     {
         fs::create_directories(m_folders / "plain");
-        fs::create_directories(m_folders / NOT_ASCII);
+        fs::create_directories(m_folders / kNotAscii);
         m_plain = m_folders / "plain";
         for (const std::string& folder : {m_settings.Path(), m_folders.Path(), m_plain})
             fs::permissions(folder, fs::perms::all);
@@ -221,8 +221,8 @@ TEST_F(SaveDialogByKeys, GivesAFileThatIsToBeReplaced)
 
 TEST_F(SaveDialogByKeys, GivesANameThatIsNotAscii)
 {
-    const std::string folder = m_folders / NOT_ASCII;
-    const std::string name = std::string(NOT_ASCII) + ".csv";
+    const std::string folder = m_folders / kNotAscii;
+    const std::string name = std::string(kNotAscii) + ".csv";
     {
         Dialog dialog(m_settings.Path(), CallIn(folder, name));
         dialog.WaitForProposal(folder, name);
@@ -231,7 +231,7 @@ TEST_F(SaveDialogByKeys, GivesANameThatIsNotAscii)
         EXPECT_EQ(Stored(), folder + "/" + name);
     }
     Dialog dialog(m_settings.Path(), CallAgain());
-    dialog.WaitForProposal(folder, NOT_ASCII);
+    dialog.WaitForProposal(folder, kNotAscii);
     dialog.Press("Escape");
     EXPECT_EQ(dialog.Chosen(), "");
 }

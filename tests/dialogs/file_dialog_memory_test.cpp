@@ -15,11 +15,11 @@
 
 namespace {
 
-constexpr const wchar_t* NOTHING = L"(nothing)";
+constexpr const wchar_t* kNothing = L"(nothing)";
 
 std::wstring Stored(const wchar_t* entry)
 {
-    return CLocalRegStore::GetString(L"LastFiles", entry, NOTHING);
+    return CLocalRegStore::GetString(L"LastFiles", entry, kNothing);
 }
 
 std::wstring SaveAs(const wxString& path)
@@ -153,7 +153,7 @@ TEST_F(LastFile, StaysWhenTheDialogIsCancelled)
 TEST_F(LastFile, IsNotMadeByCancelling)
 {
     Cancel();
-    EXPECT_EQ(Stored(L"Report"), NOTHING);
+    EXPECT_EQ(Stored(L"Report"), kNothing);
 }
 
 // As for a file whose name is not UTF-8, which the toolkit cannot give.
@@ -169,7 +169,7 @@ TEST_F(LastFile, IsGivenAlsoWhereItCannotBeStored)
     WriteFile(m_settings / "file", "");
     std_file_paths::SetUserDataDir(wxString::FromUTF8(m_settings / "file/folder").ToStdWstring());
     EXPECT_EQ(SaveAs("/usr/one"), L"/usr/one");
-    EXPECT_EQ(Stored(L"Report"), NOTHING);
+    EXPECT_EQ(Stored(L"Report"), kNothing);
     EXPECT_EQ(Proposed().folder, SamplesFolder());
 }
 
@@ -208,7 +208,7 @@ TEST_F(LastFile, IsStoredUnderTheEntryThatIsSetThen)
     FileAnswer ok(wxID_OK, "/usr/one");
     ok.whileShown = [] { CQVFileDialogI::SetRegEntry("Other"); };
     CQVFileDialogI::LaunchSaveDialog(nullptr, L"", L"", L"", L"", L"");
-    EXPECT_EQ(Stored(L"Report"), NOTHING);
+    EXPECT_EQ(Stored(L"Report"), kNothing);
     EXPECT_EQ(Stored(L"Other"), L"/usr/one");
 }
 
@@ -234,7 +234,7 @@ TEST_F(LastFile, IsNeitherReadNorKeptWithoutAnEntry)
         EXPECT_EQ(Proposed(L"/data/out").folder, "/data");
         EXPECT_EQ(SaveAs("/srv/two"), L"/srv/two");
         EXPECT_EQ(Stored(L""), L"/usr/one");
-        EXPECT_EQ(Stored(L"Report"), NOTHING);
+        EXPECT_EQ(Stored(L"Report"), kNothing);
     }
 }
 

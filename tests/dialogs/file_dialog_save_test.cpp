@@ -150,7 +150,7 @@ TEST_P(SaveDialogStart, HasTheNameGivenInAnyCase)
     EXPECT_EQ(asked.file, "mine.a.b");
 }
 
-const std::wstring LONG(200, L'\x5E33');
+const std::wstring kLong(200, L'\x5E33');
 
 INSTANTIATE_TEST_SUITE_P(
     , SaveDialogStart,
@@ -171,7 +171,7 @@ INSTANTIATE_TEST_SUITE_P(
         Start{"Backslash", L"/data/a\\b.c", L"/data", L"a\\b"}, Start{"Colon", L"/data/c:d.e", L"/data", L"c:d"},
         Start{"NewLine", L"/da\nta/re\nport.prj", L"/da\nta", L"re\nport"},
         Start{"NotAscii", L"/\x5E33\x7C3F/\x1F4D2 \xE4.\x442", L"/\x5E33\x7C3F", L"\x1F4D2 \xE4"},
-        Start{"VeryLong", L"/" + LONG + L"/" + LONG + L"/" + LONG + L".prj", L"/" + LONG + L"/" + LONG, LONG}),
+        Start{"VeryLong", L"/" + kLong + L"/" + kLong + L"/" + kLong + L".prj", L"/" + kLong + L"/" + kLong, kLong}),
     [](const auto& info) { return info.param.name; });
 
 // GTK's dialog shows nothing at all where it is to start in a file, and an error below one.
@@ -241,8 +241,8 @@ TEST_P(SaveDialogFilter, IsMadeOfWildcardAndExtension)
     EXPECT_EQ(asked.filterIndex, GetParam().index);
 }
 
-const wchar_t TEXT_CSV[] = L"Text (*.txt)|*.txt|CSV (*.csv)|*.csv";
-const wchar_t DESCRIBED[] = L"csv and pdf|*.x|all|*.xcsv;*.pdf|CSV|*.csv";
+const wchar_t kTextCsv[] = L"Text (*.txt)|*.txt|CSV (*.csv)|*.csv";
+const wchar_t kDescribed[] = L"csv and pdf|*.x|all|*.xcsv;*.pdf|CSV|*.csv";
 
 INSTANTIATE_TEST_SUITE_P(, SaveDialogFilter,
                          testing::Values(Filter{"Nothing", L"", L"", L"", -1},
@@ -252,20 +252,20 @@ INSTANTIATE_TEST_SUITE_P(, SaveDialogFilter,
                                          Filter{"ExtensionWithADot", L".txt", L"", L"*..txt", 0},
                                          Filter{"ExtensionNotAscii", L"\x5E33", L"", L"*.\x5E33", 0},
                                          Filter{"WildcardAlone", L"", L"*.csv", L"*.csv", 0},
-                                         Filter{"WildcardAndNull", nullptr, TEXT_CSV, TEXT_CSV, 0},
-                                         Filter{"WildcardAndEmpty", L"", TEXT_CSV, TEXT_CSV, 0},
+                                         Filter{"WildcardAndNull", nullptr, kTextCsv, kTextCsv, 0},
+                                         Filter{"WildcardAndEmpty", L"", kTextCsv, kTextCsv, 0},
                                          Filter{"WildcardOfAnotherExtension", L"txt", L"*.csv", L"*.csv", 0},
-                                         Filter{"FirstPattern", L"txt", TEXT_CSV, TEXT_CSV, 0},
-                                         Filter{"SecondPattern", L"csv", TEXT_CSV, TEXT_CSV, 1},
-                                         Filter{"NoPattern", L"pdf", TEXT_CSV, TEXT_CSV, 0},
-                                         Filter{"OtherCase", L"CSV", TEXT_CSV, TEXT_CSV, 0},
-                                         Filter{"PartOfAPattern", L"sv", TEXT_CSV, TEXT_CSV, 1},
-                                         Filter{"PartOfBothPatterns", L"*.", TEXT_CSV, TEXT_CSV, 0},
-                                         Filter{"MoreThanAPattern", L"csvx", TEXT_CSV, TEXT_CSV, 0},
-                                         Filter{"FirstOfTwoPatterns", L"csv", DESCRIBED, DESCRIBED, 1},
-                                         Filter{"SecondPartOfAPattern", L"pdf", DESCRIBED, DESCRIBED, 1},
-                                         Filter{"LastPattern", L"*.csv", DESCRIBED, DESCRIBED, 2},
-                                         Filter{"DescriptionOnly", L"and", DESCRIBED, DESCRIBED, 0}),
+                                         Filter{"FirstPattern", L"txt", kTextCsv, kTextCsv, 0},
+                                         Filter{"SecondPattern", L"csv", kTextCsv, kTextCsv, 1},
+                                         Filter{"NoPattern", L"pdf", kTextCsv, kTextCsv, 0},
+                                         Filter{"OtherCase", L"CSV", kTextCsv, kTextCsv, 0},
+                                         Filter{"PartOfAPattern", L"sv", kTextCsv, kTextCsv, 1},
+                                         Filter{"PartOfBothPatterns", L"*.", kTextCsv, kTextCsv, 0},
+                                         Filter{"MoreThanAPattern", L"csvx", kTextCsv, kTextCsv, 0},
+                                         Filter{"FirstOfTwoPatterns", L"csv", kDescribed, kDescribed, 1},
+                                         Filter{"SecondPartOfAPattern", L"pdf", kDescribed, kDescribed, 1},
+                                         Filter{"LastPattern", L"*.csv", kDescribed, kDescribed, 2},
+                                         Filter{"DescriptionOnly", L"and", kDescribed, kDescribed, 0}),
                          [](const auto& info) { return info.param.name; });
 
 }  // namespace

@@ -43,10 +43,10 @@ protected:
     {
         std::filesystem::create_directories(m_folders / "plain");
         std::filesystem::create_directories(m_folders / "other");
-        std::filesystem::create_directories(m_folders / NOT_ASCII);
+        std::filesystem::create_directories(m_folders / kNotAscii);
     }
 
-    static constexpr const char* NOT_ASCII = "\xE5\xB8\xB3\xE7\xB0\xBF \xC3\xA4\xF0\x9F\x93\x92";
+    static constexpr const char* kNotAscii = "\xE5\xB8\xB3\xE7\xB0\xBF \xC3\xA4\xF0\x9F\x93\x92";
 
     const TempFolder m_settings;
     const TempFolder m_folders;
@@ -63,8 +63,8 @@ TEST_F(FolderDialogByKeys, GivesTheFolderTyped)
 
 TEST_F(FolderDialogByKeys, GivesTheFolderTypedInPlaceOfTheStart)
 {
-    Dialog dialog({m_settings.Path(), "modal", "Choose one", m_folders / NOT_ASCII}, "Choose one");
-    dialog.WaitForFolder(m_folders / NOT_ASCII);
+    Dialog dialog({m_settings.Path(), "modal", "Choose one", m_folders / kNotAscii}, "Choose one");
+    dialog.WaitForFolder(m_folders / kNotAscii);
     dialog.TypePath(m_folders / "other");
     dialog.Press("Return");
     EXPECT_EQ(dialog.Chosen(), m_folders / "other");
@@ -72,10 +72,10 @@ TEST_F(FolderDialogByKeys, GivesTheFolderTypedInPlaceOfTheStart)
 
 TEST_F(FolderDialogByKeys, GivesTheFolderItStartsIn)
 {
-    Dialog dialog({m_settings.Path(), "modal", "Choose one", m_folders / NOT_ASCII}, "Choose one");
-    dialog.WaitForFolder(m_folders / NOT_ASCII);
+    Dialog dialog({m_settings.Path(), "modal", "Choose one", m_folders / kNotAscii}, "Choose one");
+    dialog.WaitForFolder(m_folders / kNotAscii);
     dialog.Press("alt+o");
-    EXPECT_EQ(dialog.Chosen(), m_folders / NOT_ASCII);
+    EXPECT_EQ(dialog.Chosen(), m_folders / kNotAscii);
 }
 
 TEST_F(FolderDialogByKeys, GivesNothingAfterEscape)

@@ -16,7 +16,7 @@ using namespace fittings::simulated_user;
 namespace fs = std::filesystem;
 
 const wxColour darkRed(139, 0, 0);
-const wxColour indigo(75, 0, 130);
+const wxColour kIndigo(75, 0, 130);
 
 class FolderColours : public BrowserTest
 {
@@ -115,7 +115,7 @@ TEST_F(FolderColours, PointingShowsItAndEscapeTakesItBack)
     ASSERT_TRUE(PumpUntil([&] { return LocationColour() == darkRed; }));
     OpenColours();
     PointAtCell(indigoCell);
-    EXPECT_TRUE(PumpUntil([&] { return LocationColour() == indigo && ColourOf("docs") == indigo; }));
+    EXPECT_TRUE(PumpUntil([&] { return LocationColour() == kIndigo && ColourOf("docs") == kIndigo; }));
     PointAtCell(CELL_AUTOMATIC);
     EXPECT_TRUE(PumpUntil([&] { return !ColourOf("docs").IsOk(); }));
     Press(WXK_ESCAPE);
@@ -129,7 +129,7 @@ TEST_F(FolderColours, AutomaticTakesItAway)
     const wxColour plain = LocationColour();
     OpenColours();
     ClickCell(indigoCell);
-    ASSERT_TRUE(PumpUntil([&] { return ColourOf("docs") == indigo; }));
+    ASSERT_TRUE(PumpUntil([&] { return ColourOf("docs") == kIndigo; }));
     ASSERT_NE(ReadFile(settings / "settings.ini").find("#4B0082"), std::string::npos);
     OpenColours();
     ClickCell(CELL_AUTOMATIC);
@@ -195,7 +195,7 @@ TEST_F(FolderColours, EachFolderStartsWithItsOwn)
     // Enter without a move keeps what the folder has.
     Press(WXK_RETURN);
     EXPECT_TRUE(PumpUntil([&] { return !Combo().IsPopupShown(); }));
-    EXPECT_EQ(browser_settings::LoadFolderColour(root + "/music"), indigo);
+    EXPECT_EQ(browser_settings::LoadFolderColour(root + "/music"), kIndigo);
     Select("docs");
     OpenColours();
     Press(WXK_RETURN);
@@ -216,16 +216,16 @@ TEST_F(FolderColours, ComeBack)
     Close();
     Open("");
     EXPECT_EQ(ColourOf("docs"), darkRed);
-    EXPECT_EQ(ColourOf("docs/letters"), indigo);
-    EXPECT_EQ(LocationColour(), indigo);
+    EXPECT_EQ(ColourOf("docs/letters"), kIndigo);
+    EXPECT_EQ(LocationColour(), kIndigo);
     EXPECT_FALSE(ColourOf("music").IsOk());
     Close();
     Open(root + "/docs");
     EXPECT_EQ(ColourOf(""), darkRed) << "the folder is the root now";
-    EXPECT_EQ(ColourOf("letters"), indigo);
+    EXPECT_EQ(ColourOf("letters"), kIndigo);
     Press(WXK_F5);
     PumpPending();
-    EXPECT_EQ(ColourOf("letters"), indigo);
+    EXPECT_EQ(ColourOf("letters"), kIndigo);
 }
 
 TEST_F(FolderColours, OddNamesHaveTheirOwn)
@@ -235,14 +235,14 @@ TEST_F(FolderColours, OddNamesHaveTheirOwn)
     fs::create_directory(temp / "odd|\xFE%7C\n=[x]");
     Press(WXK_F5);
     ASSERT_TRUE(PumpUntil([&] { return RowOf(odd) < List().CountRows(); }));
-    browser_settings::SaveFolderColour(JoinPath(root, odd), indigo);
+    browser_settings::SaveFolderColour(JoinPath(root, odd), kIndigo);
     Close();
     Open(root);
     unsigned coloured = 0;
     wxTreeItemIdValue cookie;
     for (wxTreeItemId child = Tree().GetFirstChild(Tree().GetRootItem(), cookie); child.IsOk();
          child = Tree().GetNextChild(Tree().GetRootItem(), cookie)) {
-        if (Tree().GetItemTextColour(child) == indigo) {
+        if (Tree().GetItemTextColour(child) == kIndigo) {
             ++coloured;
             EXPECT_EQ(Tree().PathOf(child), JoinPath(root, odd));
         }

@@ -13,6 +13,7 @@
 #include <gallery/number_format_fields.h>
 #include <gallery/numbers_page.h>
 #include <tests/gallery/browser_fixture.h>
+#include <tests/numedit/known_formats.h>
 
 namespace {
 
@@ -95,22 +96,7 @@ protected:
 
 TEST_F(NumbersPageTest, StartsWithTheFixedFormat)
 {
-    const CNumberFormat format = Format();
-    EXPECT_TRUE(format.m_bPadDecimals);
-    EXPECT_FALSE(format.m_bRoundDecimals);
-    EXPECT_TRUE(format.m_bAllowSign);
-    EXPECT_TRUE(format.m_bGroupDigits);
-    EXPECT_TRUE(format.m_bTrailingMinus);
-    EXPECT_FALSE(format.m_bAllowExponent);
-    EXPECT_EQ(format.m_chDecimalPoint, L'.');
-    EXPECT_EQ(format.m_chThousandsSep, L',');
-    EXPECT_EQ(format.m_strTemplate, L"%s");
-    EXPECT_TRUE(format.m_bHasDecimals);
-    EXPECT_EQ(format.m_nDecimals, 2u);
-    EXPECT_TRUE(format.m_bHasMaxIntDigits);
-    EXPECT_EQ(format.m_nMaxIntDigits, 5u);
-    EXPECT_FALSE(format.m_bHasMin);
-    EXPECT_FALSE(format.m_bHasMax);
+    ExpectFixed(Format());
     EXPECT_EQ(Number().GetValue(), "1234.5");
     EXPECT_EQ(Result("FormatControlText"), "1,234.50");
 }

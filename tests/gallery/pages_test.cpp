@@ -29,7 +29,22 @@ protected:
         });
     }
 
+    /// Opens the window with its folders in a window of their own, and goes to another page, with which they go.
+    void LeaveFloatingFolders()
+    {
+        Open(root);
+        place = frame->GetPosition() + wxSize(300, 200);
+        FloatFolders(place);
+        frame->Raise();
+        List().SetFocus();
+        Press('2', wxMOD_ALT);
+        ASSERT_TRUE(ShowsPage("Numbers"));
+        EXPECT_TRUE(PumpUntil([&] { return !Tree().IsShownOnScreen(); }));
+    }
+
     bool IsEnabled(int item) { return frame->GetMenuBar()->IsEnabled(item); }
+
+    wxPoint place;  ///< Of the floating folders.
 };
 
 TEST_F(Pages, AltWithADigitShowsOne)
@@ -118,14 +133,7 @@ TEST_F(Pages, NonsenseInTheSettingsShowsTheFirst)
 
 TEST_F(Pages, FloatingFoldersGoAndComeWithTheirPage)
 {
-    Open(root);
-    const wxPoint place = frame->GetPosition() + wxSize(300, 200);
-    FloatFolders(place);
-    frame->Raise();
-    List().SetFocus();
-    Press('2', wxMOD_ALT);
-    ASSERT_TRUE(ShowsPage("Numbers"));
-    EXPECT_TRUE(PumpUntil([&] { return !Tree().IsShownOnScreen(); }));
+    LeaveFloatingFolders();
     Close();
 
     Open("");
@@ -140,13 +148,7 @@ TEST_F(Pages, FloatingFoldersGoAndComeWithTheirPage)
 // The window manager may have something to say of a window that is already hidden.
 TEST_F(Pages, FloatingFoldersComeBackWhereTheyWereSeen)
 {
-    Open(root);
-    const wxPoint place = frame->GetPosition() + wxSize(300, 200);
-    FloatFolders(place);
-    frame->Raise();
-    List().SetFocus();
-    Press('2', wxMOD_ALT);
-    ASSERT_TRUE(PumpUntil([&] { return !Tree().IsShownOnScreen(); }));
+    LeaveFloatingFolders();
     frame->GetBrowser()->GetLayout().GetPane(&Tree()).frame->Move(place + wxSize(60, 60));
     Close();
 

@@ -24,7 +24,7 @@ Entry Make(const std::string& name, EntryKind kind, const std::string& type, std
     return entry;
 }
 
-const std::vector<Entry> entries = {
+const std::vector<Entry> kEntries = {
     Make("zoo.txt", EntryKind::File, "TXT file", 30, 500),   Make("beta", EntryKind::Folder, "Folder", 0, 300),
     Make("apple.png", EntryKind::File, "PNG file", 30, 100), Make("Alpha", EntryKind::Folder, "Folder", 0, 400),
     Make("link", EntryKind::Link, "Link", 0, 200),           Make("mid.png", EntryKind::File, "PNG file", 7, 600),
@@ -53,7 +53,7 @@ class Sorting : public testing::TestWithParam<Case>
 
 TEST_P(Sorting, PutsFoldersFirst)
 {
-    EXPECT_EQ(Sorted(entries, GetParam().order), GetParam().expected);
+    EXPECT_EQ(Sorted(kEntries, GetParam().order), GetParam().expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(

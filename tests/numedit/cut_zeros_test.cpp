@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <tests/numedit/number_texts.h>
-#include <tests/numedit/unusual_format.h>
+#include <tests/numedit/known_formats.h>
 
 namespace {
 

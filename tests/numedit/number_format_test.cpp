@@ -7,30 +7,9 @@
 
 #include <gtest/gtest.h>
 
-#include <tests/numedit/unusual_format.h>
+#include <tests/numedit/known_formats.h>
 
 namespace {
-
-void ExpectFixed(const CNumberFormat& format)
-{
-    EXPECT_TRUE(format.m_bPadDecimals);
-    EXPECT_FALSE(format.m_bRoundDecimals);
-    EXPECT_TRUE(format.m_bAllowSign);
-    EXPECT_TRUE(format.m_bGroupDigits);
-    EXPECT_TRUE(format.m_bTrailingMinus);
-    EXPECT_FALSE(format.m_bAllowExponent);
-    EXPECT_EQ(format.m_chDecimalPoint, L'.');
-    EXPECT_EQ(format.m_chThousandsSep, L',');
-    EXPECT_EQ(format.m_strTemplate, L"%s");
-    EXPECT_TRUE(format.m_bHasDecimals);
-    EXPECT_EQ(format.m_nDecimals, 2u);
-    EXPECT_TRUE(format.m_bHasMaxIntDigits);
-    EXPECT_EQ(format.m_nMaxIntDigits, 5u);
-    EXPECT_FALSE(format.m_bHasMin);
-    EXPECT_EQ(format.m_dMin, 0);
-    EXPECT_FALSE(format.m_bHasMax);
-    EXPECT_EQ(format.m_dMax, 0);
-}
 
 void ExpectPosixLocale(const CNumberFormat& format)
 {

@@ -13,7 +13,7 @@
 #include <wx/srchctrl.h>
 
 #include <tests/numedit/number_dialog.h>
-#include <tests/numedit/unusual_format.h>
+#include <tests/numedit/known_formats.h>
 #include <tests/support/gui.h>
 
 namespace {

@@ -34,9 +34,9 @@ struct DirtyFile
     std::string after;
 };
 
-const wchar_t* const NONE = L"(none)";
+const wchar_t* const kNone = L"(none)";
 
-const DirtyFile FILES[] = {
+const DirtyFile kFiles[] = {
     {"Comments",
      "# one\n; two\n[s]\n# three\n  ; four\nk=v\n#five\n",
      {{L"s", L"k", L"v"}},
@@ -44,7 +44,7 @@ const DirtyFile FILES[] = {
      "# one\n; two\n[s]\n# three\n  ; four\nk=w\n#five\n"},
     {"CommentedOutKeys",
      "[s]\n;k=1\n#k=2\n",
-     {{L"s", L"k", NONE}, {L"s", L";k", NONE}, {L"s", L"#k", NONE}},
+     {{L"s", L"k", kNone}, {L"s", L";k", kNone}, {L"s", L"#k", kNone}},
      {L"s", L"k", L"v"},
      "[s]\nk=v\n;k=1\n#k=2\n"},
     {"BlankLines",
@@ -74,7 +74,7 @@ const DirtyFile FILES[] = {
      {L"s", L"b", L"x"},
      "[s]\na=1\r\nb=x\nc=3\r\n"},
     {"ByteOrderMark", "\xEF\xBB\xBF[s]\nk=v\n", {{L"s", L"k", L"v"}}, {L"s", L"k", L"w"}, "\xEF\xBB\xBF[s]\nk=w\n"},
-    {"ByteOrderMarkAlone", "\xEF\xBB\xBF", {{L"s", L"k", NONE}}, {L"s", L"k", L"v"}, "\xEF\xBB\xBF[s]\nk=v\n"},
+    {"ByteOrderMarkAlone", "\xEF\xBB\xBF", {{L"s", L"k", kNone}}, {L"s", L"k", L"v"}, "\xEF\xBB\xBF[s]\nk=v\n"},
     {"ByteOrderMarkAndUnknownLine",
      "\xEF\xBB\xBFhello\r\n[s]\r\nk=v\r\n",
      {{L"s", L"k", L"v"}},
@@ -82,32 +82,32 @@ const DirtyFile FILES[] = {
      "\xEF\xBB\xBFhello\r\n[s]\r\nk=w\r\n"},
     {"LinesBeforeTheFirstSection",
      "title=x\nnote\n[s]\nk=v\n",
-     {{L"s", L"k", L"v"}, {L"", L"title", NONE}, {L"s", L"title", NONE}},
+     {{L"s", L"k", L"v"}, {L"", L"title", kNone}, {L"s", L"title", kNone}},
      {L"", L"title", L"y"},
      "title=x\nnote\n[s]\nk=v\n\n[%]\ntitle=y\n"},
     {"LinesWithoutEquals",
      "[s]\na=1\nnonsense\nb=2\n",
-     {{L"s", L"a", L"1"}, {L"s", L"b", L"2"}, {L"s", L"nonsense", NONE}},
+     {{L"s", L"a", L"1"}, {L"s", L"b", L"2"}, {L"s", L"nonsense", kNone}},
      {L"s", L"nonsense", L"3"},
      "[s]\na=1\nnonsense\nb=2\nnonsense=3\n"},
     {"LineWithoutKey",
      "[s]\n=v\n = w\nk=v\n",
-     {{L"s", L"k", L"v"}, {L"s", L"", NONE}},
+     {{L"s", L"k", L"v"}, {L"s", L"", kNone}},
      {L"s", L"", L"x"},
      "[s]\n=v\n = w\nk=v\n%=x\n"},
     {"HalfSection",
      "[a]\nk=1\n[half\nk=2\nl=3\n[b]\nk=4\n",
-     {{L"a", L"k", L"1"}, {L"a", L"l", NONE}, {L"half", L"k", NONE}, {L"b", L"k", L"4"}},
+     {{L"a", L"k", L"1"}, {L"a", L"l", kNone}, {L"half", L"k", kNone}, {L"b", L"k", L"4"}},
      {L"a", L"l", L"x"},
      "[a]\nk=1\nl=x\n[half\nk=2\nl=3\n[b]\nk=4\n"},
     {"SectionWithTextBehind",
      "[a]\nk=1\n[b] # c\nk=2\n",
-     {{L"a", L"k", L"1"}, {L"b", L"k", NONE}},
+     {{L"a", L"k", L"1"}, {L"b", L"k", kNone}},
      {L"b", L"k", L"x"},
      "[a]\nk=1\n[b] # c\nk=2\n\n[b]\nk=x\n"},
     {"EmptySectionName",
      "[]\nk=1\n[s]\nk=2\n",
-     {{L"", L"k", NONE}, {L"s", L"k", L"2"}},
+     {{L"", L"k", kNone}, {L"s", L"k", L"2"}},
      {L"s", L"k", L"3"},
      "[]\nk=1\n[s]\nk=3\n"},
     {"BlanksAround",
@@ -129,11 +129,11 @@ const DirtyFile FILES[] = {
     {"NoLineEndAtTheEnd", "[s]\nk=v", {{L"s", L"k", L"v"}}, {L"s", L"l", L"w"}, "[s]\nk=v\nl=w\n"},
     {"NoLineEndAndANewSection", "[s]\nk=v", {{L"s", L"k", L"v"}}, {L"t", L"l", L"w"}, "[s]\nk=v\n\n[t]\nl=w\n"},
     {"NoLineEndAndTheSameKey", "[s]\nk=v", {{L"s", L"k", L"v"}}, {L"s", L"k", L"w"}, "[s]\nk=w"},
-    {"Empty", "", {{L"s", L"k", NONE}}, {L"s", L"k", L"v"}, "[s]\nk=v\n"},
-    {"OneBlankLine", "\n", {{L"s", L"k", NONE}}, {L"s", L"k", L"v"}, "\n[s]\nk=v\n"},
+    {"Empty", "", {{L"s", L"k", kNone}}, {L"s", L"k", L"v"}, "[s]\nk=v\n"},
+    {"OneBlankLine", "\n", {{L"s", L"k", kNone}}, {L"s", L"k", L"v"}, "\n[s]\nk=v\n"},
     {"TextOnly",
      "Dear diary,\nnothing happened.\n",
-     {{L"s", L"k", NONE}},
+     {{L"s", L"k", kNone}},
      {L"s", L"k", L"v"},
      "Dear diary,\nnothing happened.\n\n[s]\nk=v\n"},
     {"ForeignEncodingKey",
@@ -151,12 +151,12 @@ const DirtyFile FILES[] = {
      "[s]\nName=File\nName[de]=Ordner\nName[de_DE@euro]=Akte\nName[gr\xC3\xB6\xC3\x9F]=g\n"},
     {"BrokenTranslations",
      "[s]\nName[de=1\nName]=2\nName[d e]=3\nName[de]x=4\nName[\xC4\xAD]=5\nName [de]=6\nk=v\n",
-     {{L"s", L"Name[de", NONE},
-      {L"s", L"Name]", NONE},
-      {L"s", L"Name[d e]", NONE},
-      {L"s", L"Name[de]x", NONE},
+     {{L"s", L"Name[de", kNone},
+      {L"s", L"Name]", kNone},
+      {L"s", L"Name[d e]", kNone},
+      {L"s", L"Name[de]x", kNone},
       {L"s", L"Name[\u012D]", L"5"},
-      {L"s", L"Name [de]", NONE},
+      {L"s", L"Name [de]", kNone},
       {L"s", L"k", L"v"}},
      {L"s", L"Name]", L"7"},
      "[s]\nName[de=1\nName]=2\nName[d e]=3\nName[de]x=4\nName[\xC4\xAD]=5\nName [de]=6\nk=v\nName%5D=7\n"},
@@ -197,7 +197,7 @@ const DirtyFile FILES[] = {
      "[s]\n%61=1\n[%73]\na=2\n%61=4\n"},
     {"SectionNameWithBlanks",
      "[ s ]\nk=v\n",
-     {{L" s ", L"k", L"v"}, {L"s", L"k", NONE}},
+     {{L" s ", L"k", L"v"}, {L"s", L"k", kNone}},
      {L" s ", L"k", L"w"},
      "[ s ]\nk=w\n"},
     {"WindowsPaths",
@@ -230,7 +230,7 @@ const DirtyFile FILES[] = {
      "[s]\na\tb=x\ne=\x01\n"},
     {"ControlInSectionName",
      "[a\tb]\nk=1\n[s]\nk=2\n",
-     {{L"a\tb", L"k", NONE}, {L"s", L"k", L"2"}},
+     {{L"a\tb", L"k", kNone}, {L"s", L"k", L"2"}},
      {L"a\tb", L"k", L"3"},
      "[a\tb]\nk=1\n[s]\nk=2\n\n[a%09b]\nk=3\n"},
     {"Latin1",
@@ -255,16 +255,16 @@ const DirtyFile FILES[] = {
      "[s]\na=1\n\0\0\0\n\n[t]\nb=2\n"s},
     {"ZerosFromTheMiddleOfALine",
      "[s]\na=1\nb=22\0\0\0\0"s,
-     {{L"s", L"a", L"1"}, {L"s", L"b", NONE}},
+     {{L"s", L"a", L"1"}, {L"s", L"b", kNone}},
      {L"s", L"b", L"3"},
      "[s]\na=1\nb=3\nb=22\0\0\0\0"s},
     {"ZerosInASectionName",
      "[a]\nk=1\n[b\0]\nk=2\n"s,
-     {{L"a", L"k", L"1"}, {L"b", L"k", NONE}},
+     {{L"a", L"k", L"1"}, {L"b", L"k", kNone}},
      {L"a", L"k", L"3"},
      "[a]\nk=3\n[b\0]\nk=2\n"s},
     {"ZerosInAComment", "[a]\n# \0 c\nk=1\n"s, {{L"a", L"k", L"1"}}, {L"a", L"k", L"3"}, "[a]\n# \0 c\nk=3\n"s},
-    {"MacLineEnds", "[s]\rk=v\r", {{L"s", L"k", NONE}}, {L"s", L"k", L"w"}, "[s]\rk=v\r\n\n[s]\nk=w\n"},
+    {"MacLineEnds", "[s]\rk=v\r", {{L"s", L"k", kNone}}, {L"s", L"k", L"w"}, "[s]\rk=v\r\n\n[s]\nk=w\n"},
     {"CarriageReturnLast", "[s]\r\nk=v\r", {{L"s", L"k", L"v"}}, {L"s", L"k", L"w"}, "[s]\r\nk=w"},
     {"EmptyKeyAndSectionOnFile", "[%]\n%=v\n", {{L"", L"", L"v"}}, {L"", L"", L"w"}, "[%]\n%=w\n"},
 };
@@ -326,7 +326,7 @@ TEST_P(ADirtyFile, ChangesAlikeThroughTheDefaultStore)
     EXPECT_EQ(Stored(write.section, write.key), write.value);
 }
 
-INSTANTIATE_TEST_SUITE_P(, ADirtyFile, testing::ValuesIn(FILES), [](const auto& info) { return info.param.name; });
+INSTANTIATE_TEST_SUITE_P(, ADirtyFile, testing::ValuesIn(kFiles), [](const auto& info) { return info.param.name; });
 
 struct Deletion
 {
@@ -426,7 +426,7 @@ TEST(AFileThatHoldsNoText, IsSetAsideWhenANewOneIsSaved)
         WriteFile(folder / "a.ini", bytes);
         Ini ini;
         EXPECT_FALSE(ini.Load(folder / "a.ini"));
-        EXPECT_EQ(ini.Get(L"s", L"k"), NONE);
+        EXPECT_EQ(ini.Get(L"s", L"k"), kNone);
         EXPECT_TRUE(ini.Save(folder / "a.ini"));
         EXPECT_EQ(ReadFile(folder / "a.ini"), bytes);
         EXPECT_FALSE(std::filesystem::exists(folder / "a.ini.unreadable"));
@@ -449,7 +449,7 @@ TEST(AFileThatHoldsNoText, IsSetAsideUnderANewNameEachTime)
     TempUserData data;
     for (const char* bytes : {"one", "two", "three"}) {
         WriteFile(data / "settings.ini", bytes + "\0"s);
-        EXPECT_EQ(Stored(L"s", L"k"), NONE);
+        EXPECT_EQ(Stored(L"s", L"k"), kNone);
         EXPECT_TRUE(CLocalRegStore::DeleteProfile(L"s", L"k"));
         EXPECT_EQ(ReadFile(data / "settings.ini"), bytes + "\0"s);
         EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"v"));

@@ -45,8 +45,8 @@ bool SaveKey(const std::string& path, const wchar_t* value)
     return ini.Save(path);
 }
 
-const std::string OLD = "# mine\n[s]\nk=old\nother=1\n";
-const std::string NEW = "# mine\n[s]\nk=new\nother=1\n";
+const std::string kOld = "# mine\n[s]\nk=old\nother=1\n";
+const std::string kNew = "# mine\n[s]\nk=new\nother=1\n";
 
 // The old file stands, through both ways to write it, and no other is left behind.
 void ExpectWritesToFail(const std::string& folder)
@@ -57,7 +57,7 @@ void ExpectWritesToFail(const std::string& folder)
     EXPECT_FALSE(SaveKey(folder + "/settings.ini", bigText.c_str()));
     EXPECT_FALSE(SaveKey(folder + "/new.ini", bigText.c_str()));
     EXPECT_FALSE(CLocalRegStore::WriteString(L"s", L"k", bigText.c_str()));
-    EXPECT_EQ(ReadFile(folder + "/settings.ini"), OLD);
+    EXPECT_EQ(ReadFile(folder + "/settings.ini"), kOld);
     EXPECT_EQ(Stored(L"s", L"k"), L"old");
     EXPECT_EQ(Stored(L"s", L"other"), L"1");
     std::vector<std::string> after = NamesIn(folder);
@@ -68,7 +68,7 @@ void ExpectWritesToFail(const std::string& folder)
 TEST(AWriteThatTheSystemCutsShort, LeavesTheOldFile)
 {
     TempUserData data;
-    WriteFile(data / "settings.ini", OLD);
+    WriteFile(data / "settings.ini", kOld);
     InChild([&] {
         signal(SIGXFSZ, SIG_IGN);
         const rlimit limit = {4096, 4096};
@@ -76,7 +76,7 @@ TEST(AWriteThatTheSystemCutsShort, LeavesTheOldFile)
         ExpectWritesToFail(data.Path());
         // What still fits is saved.
         EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
-        EXPECT_EQ(ReadFile(data / "settings.ini"), NEW);
+        EXPECT_EQ(ReadFile(data / "settings.ini"), kNew);
     });
 }
 
@@ -87,17 +87,17 @@ TEST(AFullDisk, LeavesTheOldFile)
         GTEST_SKIP() << "no right to mount a small disk; a write that is cut short is tested all the same";
     InChild([&] {
         ASSERT_TRUE(EnterOwnMounts() && MountSmallDisk(data.Path()));
-        WriteFile(data / "settings.ini", OLD);
+        WriteFile(data / "settings.ini", kOld);
         ExpectWritesToFail(data.Path());
         EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
-        EXPECT_EQ(ReadFile(data / "settings.ini"), NEW);
+        EXPECT_EQ(ReadFile(data / "settings.ini"), kNew);
     });
 }
 
 TEST(AReadOnlyFolder, LeavesTheOldFile)
 {
     TempUserData data;
-    WriteFile(data / "settings.ini", OLD);
+    WriteFile(data / "settings.ini", kOld);
     chmod((data / "settings.ini").c_str(), 0644);
     chmod(data.Path().c_str(), 0555);
     InChild([&] {
@@ -113,7 +113,7 @@ TEST(AReadOnlyFolder, LeavesTheOldFile)
 TEST(AFileThatMayNotBeRead, IsNotReplaced)
 {
     TempUserData data;
-    WriteFile(data / "settings.ini", OLD);
+    WriteFile(data / "settings.ini", kOld);
     chmod((data / "settings.ini").c_str(), 0);
     chmod(data.Path().c_str(), 0777);
     InChild([&] {
@@ -132,11 +132,11 @@ TEST(AFileThatMayNotBeRead, IsNotReplaced)
         EXPECT_FALSE(CLocalRegStore::WriteProfileBool(L"s", L"k", true));
     });
     chmod((data / "settings.ini").c_str(), 0600);
-    EXPECT_EQ(ReadFile(data / "settings.ini"), OLD);
+    EXPECT_EQ(ReadFile(data / "settings.ini"), kOld);
     // Once it may be read, all is as it was.
     EXPECT_EQ(Stored(L"s", L"k"), L"old");
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
-    EXPECT_EQ(ReadFile(data / "settings.ini"), NEW);
+    EXPECT_EQ(ReadFile(data / "settings.ini"), kNew);
 }
 
 // A sticky folder lets everybody add files, but replace only their own: the very last step of saving fails.
@@ -145,7 +145,7 @@ TEST(AFileOfAnotherUser, StandsWhereItMayNotBeReplaced)
     if (geteuid() != 0)
         GTEST_SKIP() << "only root can make a file of another user";
     TempUserData data;
-    WriteFile(data / "settings.ini", OLD);
+    WriteFile(data / "settings.ini", kOld);
     chmod((data / "settings.ini").c_str(), 0644);
     chmod(data.Path().c_str(), 01777);
     InChild([&] {
@@ -153,7 +153,7 @@ TEST(AFileOfAnotherUser, StandsWhereItMayNotBeReplaced)
         EXPECT_FALSE(SaveKey(data / "settings.ini", L"new"));
         EXPECT_FALSE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
     });
-    EXPECT_EQ(ReadFile(data / "settings.ini"), OLD);
+    EXPECT_EQ(ReadFile(data / "settings.ini"), kOld);
     EXPECT_EQ(NamesIn(data.Path()), (std::vector<std::string>{"settings.ini", "settings.ini.lock"}));
 }
 
@@ -303,13 +303,13 @@ TEST(AFilesMode, IsKept)
     TempUserData data;
     const mode_t mask = umask(077);
     for (const mode_t mode : {0600U, 0644U, 0664U, 0640U, 0400U, 0666U}) {
-        WriteFile(data / "settings.ini", OLD);
+        WriteFile(data / "settings.ini", kOld);
         chmod((data / "settings.ini").c_str(), mode);
         EXPECT_TRUE(SaveKey(data / "settings.ini", L"newer"));
         EXPECT_EQ(Mode(data / "settings.ini"), mode);
         EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
         EXPECT_EQ(Mode(data / "settings.ini"), mode);
-        EXPECT_EQ(ReadFile(data / "settings.ini"), NEW);
+        EXPECT_EQ(ReadFile(data / "settings.ini"), kNew);
         fs::remove(data / "settings.ini");
     }
     umask(mask);
@@ -320,7 +320,7 @@ TEST(AFilesOwner, IsKeptWhereTheProcessMay)
     if (geteuid() != 0)
         GTEST_SKIP() << "only root may write for others";
     TempFolder folder;
-    WriteFile(folder / "a.ini", OLD);
+    WriteFile(folder / "a.ini", kOld);
     ASSERT_EQ(chown((folder / "a.ini").c_str(), 65534, 65534), 0);
     EXPECT_TRUE(SaveKey(folder / "a.ini", L"new"));
     EXPECT_EQ(Info(folder / "a.ini").st_uid, 65534U);
@@ -333,13 +333,13 @@ TEST(ALinkedFile, KeepsItsLink)
     fs::create_directories(data / "real/deep");
     fs::create_symlink("real/middle.ini", data / "settings.ini");
     fs::create_symlink("deep/file.ini", data / "real/middle.ini");
-    WriteFile(data / "real/deep/file.ini", OLD);
+    WriteFile(data / "real/deep/file.ini", kOld);
     chmod((data / "real/deep/file.ini").c_str(), 0640);
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"newer"));
     EXPECT_TRUE(SaveKey(data / "settings.ini", L"new"));
     EXPECT_EQ(fs::read_symlink(data / "settings.ini"), "real/middle.ini");
     EXPECT_EQ(fs::read_symlink(data / "real/middle.ini"), "deep/file.ini");
-    EXPECT_EQ(ReadFile(data / "real/deep/file.ini"), NEW);
+    EXPECT_EQ(ReadFile(data / "real/deep/file.ini"), kNew);
     EXPECT_EQ(Mode(data / "real/deep/file.ini"), 0640U);
     EXPECT_EQ(NamesIn(data / "real/deep"), (std::vector<std::string>{"file.ini"}));
     EXPECT_EQ(NamesIn(data / "real"), (std::vector<std::string>{"deep", "middle.ini"}));
@@ -348,11 +348,11 @@ TEST(ALinkedFile, KeepsItsLink)
 TEST(AnotherHardLink, KeepsWhatTheFileHeld)
 {
     TempFolder folder;
-    WriteFile(folder / "a.ini", OLD);
+    WriteFile(folder / "a.ini", kOld);
     fs::create_hard_link(folder / "a.ini", folder / "b.ini");
     EXPECT_TRUE(SaveKey(folder / "a.ini", L"new"));
-    EXPECT_EQ(ReadFile(folder / "a.ini"), NEW);
-    EXPECT_EQ(ReadFile(folder / "b.ini"), OLD);
+    EXPECT_EQ(ReadFile(folder / "a.ini"), kNew);
+    EXPECT_EQ(ReadFile(folder / "b.ini"), kOld);
 }
 
 TEST(ALinkToNothing, IsWrittenThrough)
@@ -383,7 +383,7 @@ TEST(LinksInACircle, MakeWritingFail)
 TEST(AWriteThatChangesNothing, LeavesTheFileUntouched)
 {
     TempUserData data;
-    WriteFile(data / "settings.ini", OLD);
+    WriteFile(data / "settings.ini", kOld);
     const struct stat before = Info(data / "settings.ini");
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"old"));
     EXPECT_TRUE(CLocalRegStore::WriteString("s", "k", "old"));

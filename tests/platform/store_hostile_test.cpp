@@ -22,7 +22,7 @@ struct Triple
     const char* file;  // The whole file that holds nothing else.
 };
 
-const Triple TRIPLES[] = {
+const Triple kTriples[] = {
     {"Plain", L"Section", L"Key", L"value", "[Section]\nKey=value\n"},
     {"AllEmpty", L"", L"", L"", "[%]\n%=\n"},
     {"EmptySection", L"", L"k", L"v", "[%]\nk=v\n"},
@@ -133,7 +133,7 @@ TEST_P(AHostileTriple, ComesBackFromTheDefaultStore)
     EXPECT_EQ(Stored(triple.section, triple.key), L"(none)");
 }
 
-INSTANTIATE_TEST_SUITE_P(, AHostileTriple, testing::ValuesIn(TRIPLES),
+INSTANTIATE_TEST_SUITE_P(, AHostileTriple, testing::ValuesIn(kTriples),
                          [](const auto& info) { return info.param.name; });
 
 TEST(HostileTriples, ShareNoSlotOfAFile)
@@ -142,7 +142,7 @@ TEST(HostileTriples, ShareNoSlotOfAFile)
     std::set<std::pair<std::wstring, std::wstring>> names;
     {
         Ini ini;
-        for (const Triple& triple : TRIPLES) {
+        for (const Triple& triple : kTriples) {
             EXPECT_TRUE(names.emplace(triple.section, triple.key).second) << triple.name;
             EXPECT_EQ(ini.Get(triple.section, triple.key), L"(none)") << triple.name;
             ini.Set(triple.section, triple.key, triple.value);
@@ -150,18 +150,18 @@ TEST(HostileTriples, ShareNoSlotOfAFile)
         ASSERT_TRUE(ini.Save(folder / "a.ini"));
     }
     const Ini ini(folder / "a.ini");
-    for (const Triple& triple : TRIPLES)
+    for (const Triple& triple : kTriples)
         EXPECT_EQ(ini.Get(triple.section, triple.key), triple.value) << triple.name;
 }
 
 TEST(HostileTriples, ShareNoSlotOfTheDefaultStore)
 {
     TempUserData data;
-    for (const Triple& triple : TRIPLES)
+    for (const Triple& triple : kTriples)
         ASSERT_TRUE(CLocalRegStore::WriteString(triple.section, triple.key, triple.value)) << triple.name;
-    for (const Triple& triple : TRIPLES)
+    for (const Triple& triple : kTriples)
         EXPECT_EQ(Stored(triple.section, triple.key), triple.value) << triple.name;
-    for (const Triple& triple : TRIPLES) {
+    for (const Triple& triple : kTriples) {
         ASSERT_TRUE(CLocalRegStore::DeleteProfile(triple.section, triple.key));
         EXPECT_EQ(Stored(triple.section, triple.key), L"(none)") << triple.name;
     }

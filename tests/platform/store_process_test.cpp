@@ -164,7 +164,7 @@ std::wstring UpdateText(int update)
     return std::to_wstring(update) + std::wstring(static_cast<std::size_t>(update % 7) * 100, L'.');
 }
 
-constexpr int OTHER_KEYS = 60;
+constexpr int kOtherKeys = 60;
 
 class AKilledWriter : public testing::Test
 {
@@ -172,7 +172,7 @@ protected:
     AKilledWriter()
     {
         Ini ini;
-        for (int other = 0; other < OTHER_KEYS; ++other)
+        for (int other = 0; other < kOtherKeys; ++other)
             ini.Set(Name(L"Others", other % 4).c_str(), Name(L"other", other).c_str(), Name(L"value", other).c_str());
         ini.Set(L"Kill", L"update", UpdateText(0).c_str());
         EXPECT_TRUE(ini.Save(m_data / "settings.ini"));
@@ -206,7 +206,7 @@ protected:
             << "round " << round << ": done " << m_progress->done << ", begun " << m_progress->begun;
         m_old += m_progress->done != m_progress->begun && found == UpdateText(m_progress->done);
         m_new += m_progress->done != m_progress->begun && found == UpdateText(m_progress->begun);
-        for (int other = 0; other < OTHER_KEYS; ++other) {
+        for (int other = 0; other < kOtherKeys; ++other) {
             ASSERT_EQ(ini.Get(Name(L"Others", other % 4).c_str(), Name(L"other", other).c_str()), Name(L"value", other))
                 << "round " << round;
         }

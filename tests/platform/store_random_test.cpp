@@ -53,10 +53,10 @@ std::wstring AnyText(Random& random, unsigned maxLength)
 
 TEST(TenThousandTriples, ComeBack)
 {
-    constexpr unsigned SEED = 20240607;
-    SCOPED_TRACE(testing::Message() << "seed " << SEED);
-    RecordProperty("seed", SEED);
-    Random random(SEED);
+    constexpr unsigned kSeed = 20240607;
+    SCOPED_TRACE(testing::Message() << "seed " << kSeed);
+    RecordProperty("seed", kSeed);
+    Random random(kSeed);
     const InMemory inMemory;
     TempFolder folder;
     int triples = 0;
@@ -101,10 +101,10 @@ std::string AnyLine(Random& random)
 // Every text with the line [s] in it can be loaded, keeps all its bytes, and keeps its other values when one changes.
 TEST(ThousandsOfDirtyFiles, KeepWhatTheyHold)
 {
-    constexpr unsigned SEED = 77001;
-    SCOPED_TRACE(testing::Message() << "seed " << SEED);
-    RecordProperty("seed", SEED);
-    Random random(SEED);
+    constexpr unsigned kSeed = 77001;
+    SCOPED_TRACE(testing::Message() << "seed " << kSeed);
+    RecordProperty("seed", kSeed);
+    Random random(kSeed);
     const InMemory inMemory;
     TempFolder folder;
     const wchar_t* const names[] = {L"a", L"b", L"é", L"\xDCE9", L"%", L"", L"s", L"Encoding", L"Name[de]"};

@@ -10,7 +10,7 @@
 
 namespace {
 
-const wchar_t* const FOLDER = L"Current folder is:";
+const wchar_t* const kFolderText = L"Current folder is:";
 
 const wchar_t* Look(const wchar_t* key, const wchar_t* domainName = L"")
 {
@@ -57,7 +57,7 @@ class TranslationsInto : public Translations, public testing::WithParamInterface
 TEST_P(TranslationsInto, TheHostsLanguage)
 {
     SetLanguage(GetParam().name);
-    EXPECT_STREQ(Look(FOLDER), GetParam().expected);
+    EXPECT_STREQ(Look(kFolderText), GetParam().expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(, TranslationsInto,
@@ -76,7 +76,7 @@ INSTANTIATE_TEST_SUITE_P(, TranslationsInto,
 
 TEST_F(Translations, AreTheKeyWithoutAny)
 {
-    EXPECT_STREQ(Look(FOLDER), FOLDER);
+    EXPECT_STREQ(Look(kFolderText), kFolderText);
     EXPECT_STREQ(Look(L"never heard of \x5E33"), L"never heard of \x5E33");
     EXPECT_EQ(wxTranslations::Get(), nullptr);
 }
@@ -100,24 +100,24 @@ TEST_F(Translations, AreEmptyOfTheEmptyKey)
 {
     EXPECT_STREQ(Look(L""), L"");
     SetLanguage("de");
-    Look(FOLDER);
+    Look(kFolderText);
     EXPECT_STREQ(Look(L""), L"");
 }
 
 TEST_F(Translations, FollowAHostThatSetsThemLate)
 {
-    EXPECT_STREQ(Look(FOLDER), L"Current folder is:");
+    EXPECT_STREQ(Look(kFolderText), L"Current folder is:");
     SetLanguage("de");
-    EXPECT_STREQ(Look(FOLDER), L"Aktueller Ordner:");
+    EXPECT_STREQ(Look(kFolderText), L"Aktueller Ordner:");
     SetLanguage("ja");
-    EXPECT_STREQ(Look(FOLDER), L"現在のフォルダー:");
+    EXPECT_STREQ(Look(kFolderText), L"現在のフォルダー:");
     wxTranslations::Set(nullptr);
-    EXPECT_STREQ(Look(FOLDER), L"Current folder is:");
+    EXPECT_STREQ(Look(kFolderText), L"Current folder is:");
     SetLanguage("en");
-    EXPECT_STREQ(Look(FOLDER), L"Current folder is:");
+    EXPECT_STREQ(Look(kFolderText), L"Current folder is:");
     wxTranslations::Set(nullptr);
     SetLanguage("fr");
-    EXPECT_STREQ(Look(FOLDER), L"Dossier actuel\x00A0:");
+    EXPECT_STREQ(Look(kFolderText), L"Dossier actuel\x00A0:");
 }
 
 TEST_F(Translations, ComeFromTheHostsCataloguesToo)
@@ -126,7 +126,7 @@ TEST_F(Translations, ComeFromTheHostsCataloguesToo)
     EXPECT_STREQ(Look(L"Balance"), L"Balance");
     ASSERT_TRUE(translations->AddCatalog("ledger"));
     EXPECT_STREQ(Look(L"Balance"), L"Saldo");
-    EXPECT_STREQ(Look(FOLDER), L"Aktueller Ordner:");
+    EXPECT_STREQ(Look(kFolderText), L"Aktueller Ordner:");
 }
 
 TEST_F(Translations, ComeFromTheNamedCatalogueAlone)
@@ -135,9 +135,9 @@ TEST_F(Translations, ComeFromTheNamedCatalogueAlone)
     ASSERT_TRUE(translations->AddCatalog("ledger"));
     EXPECT_STREQ(Look(L"Balance", L"ledger"), L"Saldo");
     EXPECT_STREQ(Look(L"Balance", L"fittings"), L"Balance");
-    EXPECT_STREQ(Look(FOLDER, L"fittings"), L"Aktueller Ordner:");
-    EXPECT_STREQ(Look(FOLDER, L"ledger"), L"Current folder is:");
-    EXPECT_STREQ(Look(FOLDER, L"unheard-of"), L"Current folder is:");
+    EXPECT_STREQ(Look(kFolderText, L"fittings"), L"Aktueller Ordner:");
+    EXPECT_STREQ(Look(kFolderText, L"ledger"), L"Current folder is:");
+    EXPECT_STREQ(Look(kFolderText, L"unheard-of"), L"Current folder is:");
 }
 
 TEST_F(Translations, ComeFromEveryCatalogueForANullDomain)
@@ -145,7 +145,7 @@ TEST_F(Translations, ComeFromEveryCatalogueForANullDomain)
     wxTranslations* const translations = SetLanguage("de");
     ASSERT_TRUE(translations->AddCatalog("ledger"));
     EXPECT_STREQ(lng_util_internal::DoGetResourceString(L"Balance", nullptr), L"Saldo");
-    EXPECT_STREQ(lng_util_internal::DoGetResourceString(FOLDER, nullptr), L"Aktueller Ordner:");
+    EXPECT_STREQ(lng_util_internal::DoGetResourceString(kFolderText, nullptr), L"Aktueller Ordner:");
 }
 
 TEST_F(Translations, LeaveACatalogueThatTheHostLoadedAsItIs)
@@ -153,7 +153,7 @@ TEST_F(Translations, LeaveACatalogueThatTheHostLoadedAsItIs)
     wxTranslations* const translations = SetLanguage("de");
     ASSERT_TRUE(translations->AddCatalog("fittings"));
     translations->SetLanguage("ja");
-    EXPECT_STREQ(Look(FOLDER), L"Aktueller Ordner:");
+    EXPECT_STREQ(Look(kFolderText), L"Aktueller Ordner:");
 }
 
 // The toolkit asks the catalogue loaded last first.
@@ -163,26 +163,26 @@ TEST_F(Translations, ComeFromTheHostsCatalogueWhereItWasLoadedLast)
     ASSERT_TRUE(translations->AddCatalog("fittings"));
     translations->SetLanguage("de");
     ASSERT_TRUE(translations->AddCatalog("archive"));
-    EXPECT_STREQ(Look(FOLDER), L"Ablage:");
-    EXPECT_STREQ(Look(FOLDER, L"fittings"), L"現在のフォルダー:");
+    EXPECT_STREQ(Look(kFolderText), L"Ablage:");
+    EXPECT_STREQ(Look(kFolderText, L"fittings"), L"現在のフォルダー:");
 }
 
 TEST_F(Translations, LoadTheCatalogueIntoTheHosts)
 {
     wxTranslations* const translations = SetLanguage("de");
     EXPECT_FALSE(translations->IsLoaded("fittings"));
-    Look(FOLDER);
+    Look(kFolderText);
     EXPECT_TRUE(translations->IsLoaded("fittings"));
 }
 
 TEST_F(Translations, AreTheSamePointerForTheSameText)
 {
-    const std::wstring copy = FOLDER;
-    const wchar_t* const english = Look(FOLDER);
+    const std::wstring copy = kFolderText;
+    const wchar_t* const english = Look(kFolderText);
     EXPECT_EQ(Look(copy.c_str()), english);
-    EXPECT_NE(english, FOLDER);
+    EXPECT_NE(english, kFolderText);
     SetLanguage("de");
-    const wchar_t* const german = Look(FOLDER);
+    const wchar_t* const german = Look(kFolderText);
     EXPECT_EQ(Look(copy.c_str(), L"fittings"), german);
     EXPECT_EQ(Look(L"Aktueller Ordner:"), german);
     EXPECT_NE(german, english);
@@ -196,7 +196,7 @@ TEST_F(Translations, StayValid)
         english = Look(key.c_str());
     }
     SetLanguage("de");
-    const wchar_t* const german = Look(FOLDER);
+    const wchar_t* const german = Look(kFolderText);
     wxTranslations::Set(nullptr);
     for (int i = 0; i < 10000; ++i)
         Look(std::to_wstring(i).c_str());

@@ -1,5 +1,5 @@
-#ifndef FITTINGS_TESTS_NUMEDIT_UNUSUAL_FORMAT_H_
-#define FITTINGS_TESTS_NUMEDIT_UNUSUAL_FORMAT_H_
+#ifndef FITTINGS_TESTS_NUMEDIT_KNOWN_FORMATS_H_
+#define FITTINGS_TESTS_NUMEDIT_KNOWN_FORMATS_H_
 
 #include <fittings/numedit/number_format.h>
 
@@ -11,5 +11,8 @@ CNumberFormat FormatWithFlags(bool flag);
 
 /// Expects every field to be as in UnusualFormat().
 void ExpectUnusual(const CNumberFormat& format);
+
+/// Expects every field to be as the fixed preset has it.
+void ExpectFixed(const CNumberFormat& format);
 
 #endif
