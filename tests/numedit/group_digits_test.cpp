@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include <tests/numedit/number_texts.h>
 #include <tests/numedit/known_formats.h>
+#include <tests/numedit/number_texts.h>
 
 namespace {
 

@@ -12,8 +12,8 @@
 #include <wx/panel.h>
 #include <wx/srchctrl.h>
 
-#include <tests/numedit/number_dialog.h>
 #include <tests/numedit/known_formats.h>
+#include <tests/numedit/number_dialog.h>
 #include <tests/support/gui.h>
 
 namespace {
