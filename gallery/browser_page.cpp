@@ -25,6 +25,7 @@
 #include "folder_tree.h"
 #include "frame_rect.h"
 #include "native_text.h"
+#include "page_layout.h"
 #include "readable_colour.h"
 #include "report.h"
 #include "size_filter.h"
@@ -291,6 +292,7 @@ wxWindow* BrowserPage::MakeContents(wxWindow* parent)
                                   wxST_ELLIPSIZE_MIDDLE | wxST_NO_AUTORESIZE);
     m_location->SetFont(m_location->GetFont().Bold());
     m_location->SetName("Location");
+    BeginAtTheStart(m_location);
     m_colour = new FolderColourCombo(
         panel, [this](const wxColour& colour) { ShowColour(colour); },
         [this](const wxColour& colour) { browser_settings::SaveFolderColour(m_folder, colour); });

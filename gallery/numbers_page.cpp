@@ -122,6 +122,7 @@ wxSizer* NumbersPage::MakeResults()
         auto* result = new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, FromDIP(wxSize(260, -1)),
                                         wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END);
         result->SetName(wxString(name) + "Result");
+        BeginAtTheStart(result);
         m_results.push_back(result);
         grid->Add(result, wxSizerFlags().CentreVertical());
     }

@@ -31,7 +31,13 @@ wxStaticText* MakeHeading(wxWindow* parent, const wxString& text)
     auto* heading = new wxStaticText(parent, wxID_ANY, "");
     // A font would be measured too late for the layout.
     heading->SetLabelMarkup("<b>" + text + "</b>");
+    BeginAtTheStart(heading);
     return heading;
+}
+
+void BeginAtTheStart(wxStaticText* label)
+{
+    gtk_label_set_xalign(GTK_LABEL(label->GetHandle()), 0);
 }
 
 void ArrangeColumns(wxBoxSizer* columns, int width)

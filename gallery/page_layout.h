@@ -22,6 +22,10 @@ constexpr int kGap = 6;            ///< Between what belongs together.
 /// made next.
 wxStaticText* MakeHeading(wxWindow* parent, const wxString& text);
 
+/// Shows a label's text where reading begins, also where the label is wider. For a language that is read from right to left
+/// the toolkit turns that round, and GTK turns it back.
+void BeginAtTheStart(wxStaticText* label);
+
 /// Puts columns beside each other if @a width pixels are enough, else below each other.
 void ArrangeColumns(wxBoxSizer* columns, int width);
 

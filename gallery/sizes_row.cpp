@@ -9,6 +9,7 @@
 #include <wx/stattext.h>
 
 #include "native_text.h"
+#include "page_layout.h"
 
 namespace fittings {
 
@@ -29,6 +30,7 @@ SizesRow::SizesRow(wxWindow* parent, std::function<void(const SizeNews&)> onNews
     m_text =
         new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxST_ELLIPSIZE_END | wxST_NO_AUTORESIZE);
     m_text->SetName("Sum");
+    BeginAtTheStart(m_text);
     m_button = new wxButton(this, wxID_ANY, "S&top");
     m_button->SetToolTip("Stop or start adding up what is below this folder");
 

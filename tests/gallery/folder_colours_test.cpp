@@ -18,6 +18,18 @@ namespace fs = std::filesystem;
 const wxColour darkRed(139, 0, 0);
 const wxColour kIndigo(75, 0, 130);
 
+/// How a colour of the palette looks in the tree and beside the combo: in the dark theme, light enough to be read there.
+struct Look
+{
+    wxColour inTree;
+    wxColour inLocation;
+};
+
+Look In(const wxWindow& window, const Look& light, const Look& dark)
+{
+    return window.GetBackgroundColour().Red() < 128 ? dark : light;
+}
+
 class FolderColours : public BrowserTest
 {
 protected:
@@ -26,6 +38,9 @@ protected:
         fs::create_directories(temp / "docs/letters");
         fs::create_directories(temp / "music");
         Open(root);
+        shownRed = In(*frame, {darkRed, darkRed}, {wxColour(200, 135, 135), wxColour(204, 143, 143)});
+        shownIndigo = In(*frame, {kIndigo, kIndigo}, {wxColour(170, 135, 196), wxColour(181, 151, 204)});
+        shownBlack = In(*frame, {*wxBLACK, *wxBLACK}, {wxColour(151, 151, 151), wxColour(159, 159, 159)});
     }
 
     FolderColourCombo& Combo() { return *frame->GetBrowser()->GetColour(); }
@@ -62,6 +77,9 @@ protected:
 
     wxColour LocationColour() { return wxWindow::FindWindowByName("Location", frame)->GetForegroundColour(); }
 
+    Look shownRed;
+    Look shownIndigo;
+    Look shownBlack;
     const int darkRedCell = 8;
     const int indigoCell = 6;
 };
@@ -71,14 +89,14 @@ TEST_F(FolderColours, AClickGivesAFolderOne)
     Select("docs");
     OpenColours();
     ClickCell(darkRedCell);
-    EXPECT_TRUE(PumpUntil([&] { return ColourOf("docs") == darkRed; }));
-    EXPECT_EQ(LocationColour(), darkRed);
+    EXPECT_TRUE(PumpUntil([&] { return ColourOf("docs") == shownRed.inTree; }));
+    EXPECT_EQ(LocationColour(), shownRed.inLocation);
     EXPECT_EQ(Combo().GetColourPopup()->GetInitialColour(), darkRed);
     EXPECT_FALSE(ColourOf("music").IsOk());
     EXPECT_FALSE(ColourOf("").IsOk());
     Select("music");
-    EXPECT_EQ(ColourOf("docs"), darkRed);
-    EXPECT_NE(LocationColour(), darkRed);
+    EXPECT_EQ(ColourOf("docs"), shownRed.inTree);
+    EXPECT_NE(LocationColour(), shownRed.inLocation);
     EXPECT_EQ(Combo().GetColourPopup()->GetInitialColour(), Tree().GetForegroundColour());
 }
 
@@ -89,7 +107,7 @@ TEST_F(FolderColours, TheKeyboardGivesAFolderOne)
     OpenColours();
     for (const int key : {WXK_DOWN, WXK_DOWN, WXK_DOWN, WXK_DOWN, WXK_RETURN})
         Press(key);
-    EXPECT_TRUE(PumpUntil([&] { return ColourOf("docs") == darkRed; }));
+    EXPECT_TRUE(PumpUntil([&] { return ColourOf("docs") == shownRed.inTree; }));
     EXPECT_TRUE(PumpUntil([&] { return !Combo().IsPopupShown(); }));
 }
 
@@ -112,14 +130,16 @@ TEST_F(FolderColours, PointingShowsItAndEscapeTakesItBack)
     Select("docs");
     OpenColours();
     ClickCell(darkRedCell);
-    ASSERT_TRUE(PumpUntil([&] { return LocationColour() == darkRed; }));
+    ASSERT_TRUE(PumpUntil([&] { return LocationColour() == shownRed.inLocation; }));
     OpenColours();
     PointAtCell(indigoCell);
-    EXPECT_TRUE(PumpUntil([&] { return LocationColour() == kIndigo && ColourOf("docs") == kIndigo; }));
+    EXPECT_TRUE(PumpUntil(
+        [&] { return LocationColour() == shownIndigo.inLocation && ColourOf("docs") == shownIndigo.inTree; }));
     PointAtCell(CELL_AUTOMATIC);
     EXPECT_TRUE(PumpUntil([&] { return !ColourOf("docs").IsOk(); }));
     Press(WXK_ESCAPE);
-    EXPECT_TRUE(PumpUntil([&] { return LocationColour() == darkRed && ColourOf("docs") == darkRed; }));
+    EXPECT_TRUE(
+        PumpUntil([&] { return LocationColour() == shownRed.inLocation && ColourOf("docs") == shownRed.inTree; }));
     EXPECT_EQ(browser_settings::LoadFolderColour(root + "/docs"), darkRed);
 }
 
@@ -129,7 +149,7 @@ TEST_F(FolderColours, AutomaticTakesItAway)
     const wxColour plain = LocationColour();
     OpenColours();
     ClickCell(indigoCell);
-    ASSERT_TRUE(PumpUntil([&] { return ColourOf("docs") == kIndigo; }));
+    ASSERT_TRUE(PumpUntil([&] { return ColourOf("docs") == shownIndigo.inTree; }));
     ASSERT_NE(ReadFile(settings / "settings.ini").find("#4B0082"), std::string::npos);
     OpenColours();
     ClickCell(CELL_AUTOMATIC);
@@ -147,7 +167,7 @@ TEST_F(FolderColours, BlackIsNotAutomatic)
     Select("docs");
     OpenColours();
     ClickCell(0);
-    EXPECT_TRUE(PumpUntil([&] { return ColourOf("docs") == wxColour(0, 0, 0); }));
+    EXPECT_TRUE(PumpUntil([&] { return ColourOf("docs") == shownBlack.inTree; }));
     EXPECT_EQ(browser_settings::LoadFolderColour(root + "/docs"), wxColour(0, 0, 0));
 }
 
@@ -215,17 +235,17 @@ TEST_F(FolderColours, ComeBack)
     ClickCell(indigoCell);
     Close();
     Open("");
-    EXPECT_EQ(ColourOf("docs"), darkRed);
-    EXPECT_EQ(ColourOf("docs/letters"), kIndigo);
-    EXPECT_EQ(LocationColour(), kIndigo);
+    EXPECT_EQ(ColourOf("docs"), shownRed.inTree);
+    EXPECT_EQ(ColourOf("docs/letters"), shownIndigo.inTree);
+    EXPECT_EQ(LocationColour(), shownIndigo.inLocation);
     EXPECT_FALSE(ColourOf("music").IsOk());
     Close();
     Open(root + "/docs");
-    EXPECT_EQ(ColourOf(""), darkRed) << "the folder is the root now";
-    EXPECT_EQ(ColourOf("letters"), kIndigo);
+    EXPECT_EQ(ColourOf(""), shownRed.inTree) << "the folder is the root now";
+    EXPECT_EQ(ColourOf("letters"), shownIndigo.inTree);
     Press(WXK_F5);
     PumpPending();
-    EXPECT_EQ(ColourOf("letters"), kIndigo);
+    EXPECT_EQ(ColourOf("letters"), shownIndigo.inTree);
 }
 
 TEST_F(FolderColours, OddNamesHaveTheirOwn)
@@ -242,7 +262,7 @@ TEST_F(FolderColours, OddNamesHaveTheirOwn)
     wxTreeItemIdValue cookie;
     for (wxTreeItemId child = Tree().GetFirstChild(Tree().GetRootItem(), cookie); child.IsOk();
          child = Tree().GetNextChild(Tree().GetRootItem(), cookie)) {
-        if (Tree().GetItemTextColour(child) == kIndigo) {
+        if (Tree().GetItemTextColour(child) == shownIndigo.inTree) {
             ++coloured;
             EXPECT_EQ(Tree().PathOf(child), JoinPath(root, odd));
         }
