@@ -164,6 +164,8 @@ void SaveLastPath(const wchar_t* path, const char* entry)
 {
     if (!*entry || !*path)
         return;
+    // The platform may want to know of it; what is stored is the path as it was chosen.
+    file_util_ex::RemoveBackSlash(path);
     CLocalRegStore::WriteString(kLastFilesSection, entry, file_util_ex::ConvertToUTF8(path).c_str());
 }
 
