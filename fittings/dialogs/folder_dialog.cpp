@@ -3,6 +3,8 @@
 #include <string>
 
 #include <wx/dirdlg.h>
+#include <wx/filefn.h>
+#include <wx/utils.h>
 
 #include <fittings/base/or_empty.h>
 #include <fittings/platform/lng_util.h>
@@ -16,6 +18,9 @@ wxString DirSelector(wxWindow* parent, const wchar_t* message, const wchar_t* de
 {
     wxDirDialog dialog(parent, fittings::OrEmpty(message), fittings::OrEmpty(defaultFolder), wxDD_DEFAULT_STYLE,
                        wxPoint(x, y), wxDefaultSize, wxDirDialogNameStr);
+    // GTK's dialog would show what was used last, where nothing can be chosen.
+    if (!wxDirExists(fittings::OrEmpty(defaultFolder)))
+        dialog.SetPath(wxGetHomeDir());
     dialog.Centre(wxBOTH);
     return dialog.ShowModal() == wxID_OK ? dialog.GetPath() : wxString();
 }

@@ -15,12 +15,11 @@ class wxWindow;
 ///     Import(folder);
 /// @endcode
 ///
-/// Folders are neither checked nor changed: a remembered folder that is gone is handed to the dialog as it is. Without a
-/// folder that exists, GTK's dialog shows what was used last, and lets nothing be chosen until the user goes somewhere.
+/// No folder is made or changed. A dialog that is given no folder, or one that is gone, shows the home folder.
 class FITTINGS_API wxFolderDlg
 {
 public:
-    /// Starts in @a initialFolder (null or empty: the dialog's own default) and returns the chosen folder, empty when
+    /// Starts in @a initialFolder (null or empty: the home folder) and returns the chosen folder, empty when
     /// the user cancelled. A null @a message shows "Current folder is:" in the language of the host; an empty one
     /// shows none.
     static wxString DoModal(wxWindow* parent, const wchar_t* initialFolder, const wchar_t* message);

@@ -21,13 +21,9 @@ public:
     {
     }
 
-    /// Goes to the home folder. A dialog that was given no folder starts among the files used last, where its Open
-    /// button is dead, whatever is typed.
-    void GoHome()
-    {
-        Press("alt+Home");
-        WaitForFolder(HomeFolder());
-    }
+    /// Waits for the home folder. Where it has none, GTK's dialog shows the files used last, and its Open button is dead,
+    /// whatever is typed.
+    void WaitForHome() { WaitForFolder(HomeFolder()); }
 
     void WaitForFolder(const std::string& folder)
     {
@@ -55,10 +51,18 @@ protected:
 TEST_F(FolderDialogByKeys, GivesTheFolderTyped)
 {
     Dialog dialog({m_settings.Path(), "modal", "Choose one"}, "Choose one");
-    dialog.GoHome();
+    dialog.WaitForHome();
     dialog.TypePath(m_folders / "plain");
     dialog.Press("Return");
     EXPECT_EQ(dialog.Chosen(), m_folders / "plain");
+}
+
+TEST_F(FolderDialogByKeys, GivesTheHomeFolderAtFirst)
+{
+    Dialog dialog({m_settings.Path(), "reg", "Choose one", "Import"}, "Choose one");
+    dialog.WaitForHome();
+    dialog.Press("alt+o");
+    EXPECT_EQ(dialog.Chosen(), HomeFolder());
 }
 
 TEST_F(FolderDialogByKeys, GivesTheFolderTypedInPlaceOfTheStart)
@@ -91,7 +95,7 @@ TEST_F(FolderDialogByKeys, RemembersTheFolderChosen)
     const std::vector<std::string> command{m_settings.Path(), "reg", "Choose one", "Import"};
     {
         Dialog dialog(command, "Choose one");
-        dialog.GoHome();
+        dialog.WaitForHome();
         dialog.TypePath(m_folders / "other");
         dialog.Press("Return");
         EXPECT_EQ(dialog.Chosen(), m_folders / "other");
@@ -113,14 +117,14 @@ TEST_F(FolderDialogByKeys, BearsARememberedFolderThatIsGone)
     const std::vector<std::string> command{m_settings.Path(), "reg", "Choose one", "Import"};
     {
         Dialog dialog(command, "Choose one");
-        dialog.GoHome();
+        dialog.WaitForHome();
         dialog.TypePath(m_folders / "plain");
         dialog.Press("Return");
         EXPECT_EQ(dialog.Chosen(), m_folders / "plain");
     }
     std::filesystem::remove(m_folders / "plain");
     Dialog dialog(command, "Choose one");
-    dialog.GoHome();
+    dialog.WaitForHome();
     dialog.TypePath(m_folders / "other");
     dialog.Press("Return");
     EXPECT_EQ(dialog.Chosen(), m_folders / "other");
