@@ -3,7 +3,6 @@
 #include <string>
 
 #include <wx/dirdlg.h>
-#include <wx/filefn.h>
 #include <wx/utils.h>
 
 #include <fittings/base/or_empty.h>
@@ -18,9 +17,10 @@ wxString DirSelector(wxWindow* parent, const wchar_t* message, const wchar_t* de
 {
     wxDirDialog dialog(parent, fittings::OrEmpty(message), fittings::OrEmpty(defaultFolder), wxDD_DEFAULT_STYLE,
                        wxPoint(x, y), wxDefaultSize, wxDirDialogNameStr);
-    // GTK's dialog would show what was used last, where nothing can be chosen.
-    if (!wxDirExists(fittings::OrEmpty(defaultFolder)))
-        dialog.SetPath(wxGetHomeDir());
+    // Given no folder, or one that is gone, which the toolkit passes over, GTK's dialog would show what was used last,
+    // where nothing can be chosen.
+    dialog.SetPath(wxGetHomeDir());
+    dialog.SetPath(fittings::OrEmpty(defaultFolder));
     dialog.Centre(wxBOTH);
     return dialog.ShowModal() == wxID_OK ? dialog.GetPath() : wxString();
 }

@@ -15,7 +15,8 @@ class wxWindow;
 ///     Import(folder);
 /// @endcode
 ///
-/// No folder is made or changed. A dialog that is given no folder, or one that is gone, shows the home folder.
+/// Folders are neither checked, made nor changed: a remembered folder that is gone is handed to the dialog as it is. Given
+/// no folder, or one that is gone, the dialog shows the home folder.
 class FITTINGS_API wxFolderDlg
 {
 public:
