@@ -48,10 +48,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string value = fittings::EncodeValue(text);
     Check(IsOneLine(value), "a value keeps to its line");
     Check(fittings::DecodeValue(value) == text, "a value comes back");
+    Check(fittings::DecodesTo(value, text), "a value is known again");
+    Check(fittings::DecodesTo(value, other) == (other == text), "and taken for no other");
 
     Check(fittings::WideToNarrow(fittings::NarrowToWide(file)) == file, "every byte comes back");
     const std::wstring decoded = fittings::DecodeValue(file);
     Check(fittings::DecodeValue(fittings::EncodeValue(decoded)) == decoded, "what anybody wrote can be written again");
+    Check(fittings::DecodesTo(file, decoded), "and is known");
+    Check(fittings::DecodesTo(file, text) == (decoded == text), "but taken for nothing else");
     const std::wstring decodedName = fittings::DecodeName(file);
     Check(fittings::DecodeName(fittings::EncodeName(decodedName)) == decodedName, "and so can a name");
     return 0;

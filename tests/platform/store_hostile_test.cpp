@@ -6,6 +6,8 @@
 #include <string>
 #include <tuple>
 
+#include <sys/stat.h>
+
 #include <gtest/gtest.h>
 
 #include <tests/platform/store_support.h>
@@ -104,6 +106,14 @@ const Triple kTriples[] = {
      "[s]\na key of some length that is longer than any short buffer would be, by far=v\n"},
 };
 
+// Another one whenever the file was written: a new file takes the place of the old one, which is there until then.
+ino_t NodeOf(const std::string& path)
+{
+    struct stat info = {};
+    EXPECT_EQ(stat(path.c_str(), &info), 0);
+    return info.st_ino;
+}
+
 class AHostileTriple : public testing::TestWithParam<Triple>
 {
 };
@@ -131,6 +141,29 @@ TEST_P(AHostileTriple, ComesBackFromTheDefaultStore)
     EXPECT_EQ(ReadFile(data / "settings.ini"), triple.file);
     ASSERT_TRUE(CLocalRegStore::DeleteProfile(triple.section, triple.key));
     EXPECT_EQ(Stored(triple.section, triple.key), L"(none)");
+}
+
+TEST_P(AHostileTriple, IsNotWrittenAgainUnchanged)
+{
+    const Triple& triple = GetParam();
+    TempUserData data;
+    ASSERT_TRUE(CLocalRegStore::WriteString(triple.section, triple.key, triple.value));
+    const ino_t file = NodeOf(data / "settings.ini");
+    ASSERT_TRUE(CLocalRegStore::WriteString(triple.section, triple.key, triple.value));
+    EXPECT_EQ(NodeOf(data / "settings.ini"), file);
+}
+
+TEST_P(AHostileTriple, TakesThePlaceOfALongerAndAShorterOne)
+{
+    const Triple& triple = GetParam();
+    const std::wstring value = triple.value;
+    TempUserData data;
+    for (const std::wstring& other : {value + L"x", value.substr(0, value.size() - !value.empty())}) {
+        ASSERT_TRUE(CLocalRegStore::WriteString(triple.section, triple.key, other.c_str()));
+        EXPECT_EQ(Stored(triple.section, triple.key), other);
+        ASSERT_TRUE(CLocalRegStore::WriteString(triple.section, triple.key, triple.value));
+        EXPECT_EQ(Stored(triple.section, triple.key), value);
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(, AHostileTriple, testing::ValuesIn(kTriples),

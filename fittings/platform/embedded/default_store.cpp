@@ -32,7 +32,7 @@ bool DefaultStore::Change(std::wstring_view section, std::wstring_view key, std:
         Refresh();
         if (m_file.HasFailed())
             return false;
-        if (m_file.Get(section, key) == value)
+        if (m_file.Has(section, key, value))
             return true;
         folder = m_folder;
         path = m_path;

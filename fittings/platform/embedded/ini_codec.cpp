@@ -184,6 +184,11 @@ std::optional<Decoded> ReadEscape(std::string_view text)
     return number;
 }
 
+bool IsQuoted(std::string_view value)
+{
+    return value.size() >= 2 && value.front() == '"' && value.back() == '"';
+}
+
 // The text between the quotes of a value, where it is well formed.
 std::optional<std::wstring> Unquoted(std::string_view inner)
 {
@@ -264,17 +269,33 @@ std::string EncodeValue(std::wstring_view text)
 std::wstring DecodeValue(std::string_view value)
 {
     value = WithoutBlanksAtEnd(value);  // those before it are GKeyFile's
-    if (value.size() >= 2 && value.front() == '"' && value.back() == '"') {
+    if (IsQuoted(value)) {
         if (auto text = Unquoted(value.substr(1, value.size() - 2)))
             return *std::move(text);
     }
     return NarrowToWide(value);
 }
 
+bool DecodesTo(std::string_view value, std::wstring_view text)
+{
+    value = WithoutBlanksAtEnd(value);
+    if (IsQuoted(value))
+        return DecodeValue(value) == text;
+    for (; !value.empty() && !text.empty(); text.remove_prefix(1)) {
+        const Decoded next = DecodeUtf8(value);
+        if (static_cast<wchar_t>(next.code) != text.front())
+            return false;
+        value.remove_prefix(next.bytes);
+    }
+    return value.empty() && text.empty();
+}
+
 std::wstring NarrowToWide(std::string_view text)
 {
-    std::wstring wide;
-    wide.reserve(text.size());
+    const auto other = std::find_if(text.begin(), text.end(), [](char byte) { return (byte & 0x80) != 0; });
+    std::wstring wide(text.begin(), other);
+    text.remove_prefix(wide.size());
+    wide.reserve(wide.size() + text.size());
     while (!text.empty()) {
         const Decoded next = DecodeUtf8(text);
         wide += static_cast<wchar_t>(next.code);

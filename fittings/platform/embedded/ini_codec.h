@@ -26,6 +26,9 @@ std::string EncodeValue(std::wstring_view text);
 /// literally, quotes included.
 std::wstring DecodeValue(std::string_view value);
 
+/// True when DecodeValue() returns @a text for @a value. A difference is found without decoding what follows it.
+bool DecodesTo(std::string_view value, std::wstring_view text);
+
 std::wstring NarrowToWide(std::string_view text);
 
 /// The reverse of NarrowToWide(). A character that has no bytes, such as the surrogate U+D800, gets those that UTF-8

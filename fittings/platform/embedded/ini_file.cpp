@@ -135,22 +135,23 @@ bool CIniFile::Save(const std::string& path) const
 
 std::optional<std::wstring> CIniFile::Get(std::wstring_view section, std::wstring_view key) const
 {
-    const Slot names(fittings::EncodeName(section), fittings::EncodeName(key));
-    GText value = Value(names);
-    if (!value) {
-        const auto slot = FindSlot(names);
-        if (!slot)
-            return std::nullopt;
-        value = Value(*slot);
-    }
+    const GText value = Find(section, key);
+    if (!value)
+        return std::nullopt;
     return fittings::DecodeValue(value.get());
+}
+
+bool CIniFile::Has(std::wstring_view section, std::wstring_view key, std::optional<std::wstring_view> text) const
+{
+    const GText value = Find(section, key);
+    return value ? text && fittings::DecodesTo(value.get(), *text) : !text;
 }
 
 void CIniFile::Set(std::wstring_view section, std::wstring_view key, std::wstring_view value)
 {
     const Slot names(fittings::EncodeName(section), fittings::EncodeName(key));
     const auto found = FindSlot(names);
-    if (found && fittings::DecodeValue(Value(*found).get()) == value)
+    if (found && fittings::DecodesTo(Value(*found).get(), value))
         return;
     const Slot slot = found ? *found : NewSlot(names);
     if (!found && slot != names)
@@ -222,6 +223,17 @@ void CIniFile::NoteName(const std::string& section, std::string_view rawSection,
 CIniFile::GText CIniFile::Value(const Slot& slot) const
 {
     return {g_key_file_get_value(m_keys.get(), slot.first.c_str(), slot.second.c_str(), nullptr), g_free};
+}
+
+CIniFile::GText CIniFile::Find(std::wstring_view section, std::wstring_view key) const
+{
+    const Slot names(fittings::EncodeName(section), fittings::EncodeName(key));
+    GText value = Value(names);
+    if (!value) {
+        if (const auto slot = FindSlot(names))
+            value = Value(*slot);
+    }
+    return value;
 }
 
 // Where the key stands: under the name that we write, or the last of those that mean the same.

@@ -36,6 +36,10 @@ public:
     bool Save(const std::string& path) const;
 
     std::optional<std::wstring> Get(std::wstring_view section, std::wstring_view key) const;
+
+    /// True when Get() returns @a text.
+    bool Has(std::wstring_view section, std::wstring_view key, std::optional<std::wstring_view> text) const;
+
     void Set(std::wstring_view section, std::wstring_view key, std::wstring_view value);
     void Delete(std::wstring_view section, std::wstring_view key);
 
@@ -59,6 +63,7 @@ private:
     bool Parse();
     void NoteName(const std::string& section, std::string_view rawSection, std::string_view rawKey);
     GText Value(const Slot& slot) const;
+    GText Find(std::wstring_view section, std::wstring_view key) const;
     std::optional<Slot> FindSlot(const Slot& names) const;
     Slot NewSlot(Slot names) const;
     void Remove(const Slot& slot);
