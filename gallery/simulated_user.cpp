@@ -1,5 +1,6 @@
 #include "simulated_user.h"
 
+#include <algorithm>
 #include <chrono>
 
 #include <gtk/gtk.h>
@@ -77,6 +78,15 @@ void Press(int key, int modifiers)
     HandleEvents();
 }
 
+void Widen(const wxWindow& window, const wxRect& part, int pixels, int gap)
+{
+    const bool isRightToLeft = window.GetLayoutDirection() == wxLayout_RightToLeft;
+    const int forward = isRightToLeft ? -1 : 1;
+    const int end = isRightToLeft ? part.GetLeft() : part.GetRight();
+    const wxPoint border(end + forward * gap, part.y + part.height / 2);
+    Drag(border, border + wxSize(forward * pixels, 0));
+}
+
 wxPoint CentreOf(const wxRect& rect)
 {
     return rect.GetPosition() + wxSize(rect.width / 2, rect.height / 2);
@@ -86,12 +96,19 @@ wxRect WidgetRect(GtkWidget* widget)
 {
     if (!gtk_widget_get_realized(widget))
         return {};
-    GtkAllocation place;
-    gtk_widget_get_allocation(widget, &place);
+    GtkWidget* const top = gtk_widget_get_toplevel(widget);
     int x = 0;
     int y = 0;
-    gdk_window_get_origin(gtk_widget_get_window(widget), &x, &y);
-    return {x + place.x, y + place.y, place.width, place.height};
+    gtk_widget_translate_coordinates(widget, top, 0, 0, &x, &y);
+    wxPoint origin;
+    gdk_window_get_origin(gtk_widget_get_window(top), &origin.x, &origin.y);
+    return {origin.x + x, origin.y + y, gtk_widget_get_allocated_width(widget),
+            gtk_widget_get_allocated_height(widget)};
+}
+
+wxRect WindowRect(const wxWindow& window)
+{
+    return WidgetRect(window.GetHandle());
 }
 
 wxRect LabelRect(const wxTreeCtrl& tree, const wxTreeItemId& item)
@@ -99,8 +116,9 @@ wxRect LabelRect(const wxTreeCtrl& tree, const wxTreeItemId& item)
     wxRect rect;
     if (!tree.GetBoundingRect(item, rect, true))
         return {};
-    rect.SetPosition(tree.ClientToScreen(rect.GetPosition()));
-    return rect;
+    const wxPoint start = tree.ClientToScreen(rect.GetTopLeft());
+    const wxPoint end = tree.ClientToScreen(rect.GetTopLeft() + wxSize(rect.width, 0));
+    return {wxPoint(std::min(start.x, end.x), start.y), rect.GetSize()};
 }
 
 wxRect HeaderRect(const ContentsList& list, SortColumn column)
@@ -111,8 +129,9 @@ wxRect HeaderRect(const ContentsList& list, SortColumn column)
 
 wxRect NameRect(const ContentsList& list, unsigned row)
 {
+    // From the left, wherever reading begins.
     wxRect rect = list.GetItemRect(list.ItemOf(row), list.GetColumn(0));
-    rect.SetPosition(list.ClientToScreen(rect.GetPosition()));
+    rect.Offset(WindowRect(list).GetPosition());
     return rect;
 }
 

@@ -9,6 +9,7 @@
 struct _GtkWidget;
 class wxTreeCtrl;
 class wxTreeItemId;
+class wxWindow;
 
 namespace fittings {
 
@@ -28,13 +29,16 @@ void DoubleClick(const wxPoint& point);
 void Drag(const wxPoint& from, const wxPoint& to);
 void PointAt(const wxPoint& point);
 void Press(int key, int modifiers = wxMOD_NONE);
+/// Makes @a part of a window wider: drags the border at its end, or @a gap pixels behind it, where reading goes on.
+void Widen(const wxWindow& window, const wxRect& part, int pixels, int gap = 0);
 /// @}
 
 /// @name What to point at, on the screen; empty when it cannot be seen
 /// @{
 wxPoint CentreOf(const wxRect& rect);
-/// Of a widget that is placed in the window it is drawn on, such as a button.
 wxRect WidgetRect(_GtkWidget* widget);
+/// Not GetScreenRect(), which begins where the window ends when reading goes from right to left.
+wxRect WindowRect(const wxWindow& window);
 wxRect LabelRect(const wxTreeCtrl& tree, const wxTreeItemId& item);
 wxRect HeaderRect(const ContentsList& list, SortColumn column);
 wxRect NameRect(const ContentsList& list, unsigned row);

@@ -216,9 +216,9 @@ bool Tour::ExpandByKeyboard()
             break;
         if (!Waits([&] { return tree.GetSelection().item == folder; }, "Down moves the selection"))
             return false;
-        Press(WXK_RIGHT);
+        Press(tree.GetLayoutDirection() == wxLayout_RightToLeft ? WXK_LEFT : WXK_RIGHT);
         if (!Waits([&] { return tree.IsExpanded(folder) && tree.GetChildrenCount(folder, false) > 0; },
-                   "Right expands a folder"))
+                   "the arrow key in reading direction expands a folder"))
             return false;
     }
     return SavePicture("tree");
@@ -247,7 +247,7 @@ bool Tour::SortByHeader()
     if (files > 0) {
         const unsigned first = list.CountRows() - files;
         list.EnsureVisible(list.ItemOf(first));
-        if (!Waits([&] { return list.GetScreenRect().Contains(NameRect(list, first)); }, "a file comes into view"))
+        if (!Waits([&] { return WindowRect(list).Contains(NameRect(list, first)); }, "a file comes into view"))
             return false;
         Click(CentreOf(NameRect(list, first)));
         if (!Waits([&] { return list.GetSelectedEntry() == &list.GetEntry(first); }, "a click selects a file"))
@@ -263,7 +263,7 @@ bool Tour::AddUpFolders()
     const auto isStopped = [&] { return !row.IsRunning(); };
     if (!IsTrue(WaitUntil(isStopped, 60000), "the folders are added up"))
         return false;
-    const wxRect button = row.GetButton()->GetScreenRect();
+    const wxRect button = WindowRect(*row.GetButton());
     Click(CentreOf(button));
     if (!Waits([&] { return row.IsRunning() || row.GetText().EndsWith("done"); }, "a click starts anew") ||
         !IsTrue(WaitUntil(isStopped, 60000), "the folders are added up again"))
@@ -342,9 +342,7 @@ bool Tour::RememberWindow()
 {
     FolderTree& tree = *m_frame->GetBrowser()->GetTree();
     const int width = tree.GetSize().x;
-    const wxRect place = tree.GetScreenRect();
-    const wxPoint sash(place.GetRight() + 4, place.y + place.height / 2);
-    Drag(sash, sash + wxSize(60, 0));
+    Widen(tree, WindowRect(tree), 60, 4);
     if (!Waits([&] { return tree.GetSize().x > width + 30; }, "the panes' border can be dragged"))
         return false;
     const wxRect wanted(90, 70, 1020, 560);

@@ -113,6 +113,6 @@ bool BrowserTest::FoldersComeTo(const wxPoint& place)
         if (!pane.frame)
             return false;
         const wxRect shown = FrameRect(pane.frame->GetHandle());
-        return shown.GetPosition() == place && shown.Contains(Tree().GetScreenRect());
+        return shown.GetPosition() == place && shown.Contains(WindowRect(Tree()));
     });
 }

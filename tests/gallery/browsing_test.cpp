@@ -47,14 +47,16 @@ TEST_F(Browsing, AllLabelsAreWholeInAnyLocale)
 
 TEST_F(Browsing, RightAndLeftKeysExpandAndCollapse)
 {
+    // As for a language that is read from right to left, they change places.
+    const bool isRightToLeft = Tree().GetLayoutDirection() == wxLayout_RightToLeft;
     ClickFolder("docs");
     ASSERT_TRUE(SelectionComesTo("docs"));
     EXPECT_FALSE(Tree().IsExpanded(Item("docs")));
-    Press(WXK_RIGHT);
+    Press(isRightToLeft ? WXK_LEFT : WXK_RIGHT);
     EXPECT_TRUE(PumpUntil([&] { return Tree().IsExpanded(Item("docs")); }));
     EXPECT_TRUE(Item("docs/letters").IsOk());
     EXPECT_TRUE(Item("docs/taxes").IsOk());
-    Press(WXK_LEFT);
+    Press(isRightToLeft ? WXK_RIGHT : WXK_LEFT);
     EXPECT_TRUE(PumpUntil([&] { return !Tree().IsExpanded(Item("docs")); }));
 }
 
@@ -203,8 +205,7 @@ TEST_F(Browsing, F9HidesAndShowsTheFolders)
 
 TEST_F(Browsing, F9ShowsFoldersThatWereClosedByTheirButton)
 {
-    const wxRect tree = Tree().GetScreenRect();
-    Click(tree.GetTopRight() + wxSize(-8, -10));
+    Click(Tree().GetParent()->ClientToScreen(Tree().GetRect().GetTopRight() + wxSize(-8, -10)));
     ASSERT_TRUE(PumpUntil([&] { return !Tree().IsShownOnScreen(); }));
     EXPECT_FALSE(frame->GetMenuBar()->IsChecked(wxID_VIEW_LIST));
     Press(WXK_F9);

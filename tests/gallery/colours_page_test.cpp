@@ -209,7 +209,7 @@ TEST_F(ColoursPageTest, AClickBesideThePopupCancels)
     OpenColours();
     PointAtCell(kDarkRedCell);
     ASSERT_TRUE(PumpUntil([&] { return Preview() == "Dark red\n#8B0000"; }));
-    Click(CentreOf(Get<wxWindow>("Preview").GetScreenRect()));
+    Click(CentreOf(WindowRect(Get<wxWindow>("Preview"))));
     const Strings expected{"wxEVT_COMBOBOX_DROPDOWN", "OnColourPopup", "OnColourSelChange Dark red #8B0000",
                            "OnColourSelCancel Blue #0000FF", "wxEVT_COMBOBOX_CLOSEUP"};
     EXPECT_TRUE(PumpUntil([&] { return Events() == expected; })) << testing::PrintToString(Events());
@@ -416,7 +416,7 @@ TEST_F(ColoursPageTest, NeedsNoScrollingInAWindowOf1024By600)
 {
     Resize(wxSize(1024, 600));
     for (const char* name : {"Combo", "Clear", "Events", "Margin", "Default", "Duration"})
-        EXPECT_TRUE(Page().GetScreenRect().Contains(Get<wxWindow>(name).GetScreenRect())) << name;
+        EXPECT_TRUE(WindowRect(Page()).Contains(WindowRect(Get<wxWindow>(name)))) << name;
 }
 
 TEST_F(ColoursPageTest, FitsIntoASmallWindow)
@@ -428,7 +428,7 @@ TEST_F(ColoursPageTest, FitsIntoASmallWindow)
         GoTo('C', "Combo");
         GoTo('N', "Animate");
         const auto& last = Get<wxWindow>("Animate");
-        EXPECT_TRUE(PumpUntil([&] { return Page().GetScreenRect().Contains(last.GetScreenRect()); }));
+        EXPECT_TRUE(PumpUntil([&] { return WindowRect(Page()).Contains(WindowRect(last)); }));
     }
 }
 

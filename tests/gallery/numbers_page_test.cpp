@@ -120,7 +120,7 @@ TEST_P(NumbersPageFlag, IsSwitchedByItsMnemonicAndByAClick)
     Press(flag.mnemonic, wxMOD_ALT);
     EXPECT_TRUE(PumpUntil([&] { return Format().*flag.field != before; }));
     EXPECT_EQ(Number().GetValue(), "1234.5");
-    Click(CentreOf(Get<wxCheckBox>(flag.name).GetScreenRect()));
+    Click(CentreOf(WindowRect(Get<wxCheckBox>(flag.name))));
     EXPECT_TRUE(PumpUntil([&] { return Format().*flag.field == before; }));
 }
 
@@ -308,7 +308,7 @@ TEST_F(NumbersPageTest, ARefusedNumberIsNotKept)
     Press('C', wxMOD_ALT);
     ASSERT_TRUE(PumpUntil([&] { return frame->GetNumbers()->GetKept() == "12.5"; }));
     Number().SetValue("1.234");
-    Click(CentreOf(Get<wxButton>("Keep").GetScreenRect()));
+    Click(CentreOf(WindowRect(Get<wxButton>("Keep"))));
     EXPECT_TRUE(PumpUntil([&] { return Label("Kept") == "Not accepted, so not kept."; }));
     EXPECT_EQ(frame->GetNumbers()->GetKept(), "12.5");
     EXPECT_TRUE(FocusComesTo("Number"));
@@ -441,15 +441,16 @@ TEST_F(NumbersPageTest, FitsIntoASmallWindow)
         const wxWindow& page = *frame->GetNumbers();
         for (const wxWindow* part : page.GetChildren())
             EXPECT_LE(part->GetRect().GetRight(), page.GetClientSize().x) << part->GetName();
-        for (const wxWindow* part : frame->GetNumbers()->GetFields()->GetChildren())
-            EXPECT_LE(part->GetScreenRect().GetRight(), page.GetScreenRect().GetRight()) << part->GetName();
+        for (const wxWindow* part : frame->GetNumbers()->GetFields()->GetChildren()) {
+            EXPECT_GE(WindowRect(*part).GetLeft(), WindowRect(page).GetLeft()) << part->GetName();
+            EXPECT_LE(WindowRect(*part).GetRight(), WindowRect(page).GetRight()) << part->GetName();
+        }
         // What lies below the window's border comes into sight with the focus.
         Press('N', wxMOD_ALT);
         ASSERT_TRUE(FocusComesTo("Number"));
         Press('L', wxMOD_ALT);
         ASSERT_TRUE(FocusComesTo("Template"));
-        EXPECT_TRUE(
-            PumpUntil([&] { return page.GetScreenRect().Contains(Get<wxChoice>("Template").GetScreenRect()); }));
+        EXPECT_TRUE(PumpUntil([&] { return WindowRect(page).Contains(WindowRect(Get<wxChoice>("Template"))); }));
     }
 }
 

@@ -59,10 +59,10 @@ TEST_F(Pages, AltWithADigitShowsOne)
 TEST_F(Pages, AClickOnATabShowsOne)
 {
     Open(root);
-    const wxPoint origin = frame->GetPages()->GetScreenPosition();
-    Click(origin + wxSize(150, 15));
+    const wxNotebook& pages = *frame->GetPages();
+    Click(pages.ClientToScreen(wxPoint(150, 15)));
     EXPECT_TRUE(ShowsPage("Numbers"));
-    Click(origin + wxSize(30, 15));
+    Click(pages.ClientToScreen(wxPoint(30, 15)));
     EXPECT_TRUE(ShowsPage("Browser"));
 }
 
@@ -163,9 +163,7 @@ TEST_F(Pages, FoldersThatWereNotShownKeepTheirLayout)
 {
     Open(root);
     const int width = Tree().GetSize().x;
-    const wxRect tree = Tree().GetScreenRect();
-    const wxPoint sash(tree.GetRight() + 4, tree.y + 100);
-    Drag(sash, sash + wxSize(75, 0));
+    Widen(Tree(), WindowRect(Tree()), 75, 4);
     ASSERT_TRUE(PumpUntil([&] { return Tree().GetSize().x > width + 50; }));
     const int dragged = Tree().GetSize().x;
     Press('2', wxMOD_ALT);

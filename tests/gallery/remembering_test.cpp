@@ -61,9 +61,7 @@ TEST_F(Remembering, ThePanesComeBackAsTheyWereDragged)
 {
     Open(root);
     const int first = Tree().GetSize().x;
-    const wxRect place = Tree().GetScreenRect();
-    const wxPoint sash(place.GetRight() + 4, place.y + 100);
-    Drag(sash, sash + wxSize(75, 0));
+    Widen(Tree(), WindowRect(Tree()), 75, 4);
     ASSERT_TRUE(PumpUntil([&] { return Tree().GetSize().x > first + 50; }));
     const int width = Tree().GetSize().x;
     Close();
@@ -222,9 +220,7 @@ TEST_F(Remembering, OrderAndColumnWidthsComeBack)
     Click(CentreOf(HeaderRect(List(), SortColumn::Modified)));
     ASSERT_TRUE(PumpUntil([&] { return !List().GetSortOrder().ascending; }));
     const int width = List().GetColumnWidths()[1];
-    const wxRect header = HeaderRect(List(), SortColumn::Type);
-    const wxPoint border(header.GetRight(), header.y + header.height / 2);
-    Drag(border, border + wxSize(40, 0));
+    Widen(List(), HeaderRect(List(), SortColumn::Type), 40);
     ASSERT_TRUE(PumpUntil([&] { return List().GetColumnWidths()[1] > width + 20; }));
     const std::vector<int> widths = List().GetColumnWidths();
     Close();

@@ -141,7 +141,7 @@ TEST_F(Sizes, TheButtonStopsAndStartsAgain)
 {
     Open(MakeLargeFolder());
     ASSERT_TRUE(ComesToRest());
-    const wxPoint button = CentreOf(Row().GetButton()->GetScreenRect());
+    const wxPoint button = CentreOf(WindowRect(*Row().GetButton()));
     EXPECT_EQ(Row().GetButton()->GetLabelText(), "Add up");
     Click(button);
     ASSERT_TRUE(PumpUntil([&] { return Row().IsRunning() || Row().GetText().EndsWith("done"); }));
