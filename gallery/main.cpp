@@ -107,6 +107,10 @@ public:
         SetAppName("fittings-gallery");
         SetAppDisplayName("Fittings Gallery");
         wxUILocale::UseDefault();
+        // GTK settled its own direction when the program had no language yet: the toolkit's windows would follow the language,
+        // and what is GTK's in them would not.
+        if (GetLayoutDirection() == wxLayout_RightToLeft)
+            gtk_widget_set_default_direction(GTK_TEXT_DIR_RTL);
         for (const int signal : {SIGTERM, SIGINT, SIGHUP})
             g_unix_signal_add(signal, OnStopSignal, &m_stop);
         m_stop.Register();

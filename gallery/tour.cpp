@@ -185,6 +185,8 @@ bool Tour::OpenWindow()
     const FolderTree& tree = *m_frame->GetBrowser()->GetTree();
     return Waits([&] { return m_frame->IsActive() && m_frame->IsShownOnScreen(); }, "the window is shown") &&
            IsTrue(note.empty(), "the folder opens") &&
+           IsTrue(gtk_widget_get_direction(m_frame->GetHandle()) == gtk_widget_get_default_direction(),
+                  "all is laid out in one direction") &&
            IsTrue(tree.IsExpanded(tree.GetRootItem()), "its folders are listed");
 }
 

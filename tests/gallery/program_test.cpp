@@ -14,6 +14,7 @@
 
 #include <tests/support/becomes.h>
 #include <tests/support/child_process.h>
+#include <tests/support/scoped_locale.h>
 #include <tests/support/temp_folder.h>
 
 namespace {
@@ -187,6 +188,15 @@ TEST_F(TheTour, ShowsEachComponentOnAFolderOfItsOwn)
     TempFolder folder;
     TakesItsPictures({"--tour", folder / "pictures"}, folder / "pictures");
     EXPECT_FALSE(fs::exists(data / "fittings-gallery")) << "the tour touched the user's settings";
+}
+
+TEST_F(TheTour, GoesFromRightToLeftAsTheLanguageDoes)
+{
+    TempFolder folder;
+    const ScopedLocale hebrew("he_IL.UTF-8");
+    setenv("LC_ALL", "he_IL.UTF-8", 1);
+    TakesItsPictures({"--tour", folder / "pictures"}, folder / "pictures");
+    setenv("LC_ALL", "C.UTF-8", 1);
 }
 
 TEST_F(TheTour, ShowsAFolderThatItIsGiven)

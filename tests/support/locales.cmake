@@ -3,6 +3,7 @@
 #
 #   de_DE.UTF-8   point ","       thousands "."
 #   fr_FR.UTF-8   point ","       thousands U+202F
+#   he_IL.UTF-8   point "."       thousands ","       read from right to left
 #   ps_AF.UTF-8   point U+066B    thousands U+066C
 #
 # Every fittings_test has them: ScopedLocale of tests/support/scoped_locale.h sets one for a scope. Any other program
@@ -13,7 +14,7 @@ find_program(LOCALEDEF localedef REQUIRED)
 
 # One after the other: each links what it shares with those that are there.
 set(make_locales)
-foreach(language IN ITEMS de_DE fr_FR ps_AF)
+foreach(language IN ITEMS de_DE fr_FR he_IL ps_AF)
   list(APPEND make_locales COMMAND ${LOCALEDEF} -i ${language} -f UTF-8 ${FITTINGS_TEST_LOCALES}/${language}.UTF-8)
 endforeach()
 add_custom_command(OUTPUT ${FITTINGS_TEST_LOCALES}/stamp
