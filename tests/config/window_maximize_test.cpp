@@ -211,7 +211,7 @@ TEST(MaximizeFrame, ActsOnce)
     CountingFrame frame;
     ASSERT_TRUE(ShowAndSettle(&frame));
     wx_window_state::MaximizeFrame(&frame);
-    ASSERT_TRUE(PumpUntil([&] { return frame.IsMaximized(); }));
+    ASSERT_TRUE(PumpUntil([&] { return frame.IsMaximized() && frame.GetSize() == wxSize(1264, 960); }));
     frame.Maximize(false);
     ASSERT_TRUE(PumpUntil([&] { return !frame.IsMaximized() && frame.GetRect() == wxRect(300, 200, 400, 300); }));
 
