@@ -4,7 +4,7 @@
 #include <string>
 #include <utility>
 
-/// A standard string that takes a null pointer for the empty text.
+/// A standard string that takes a null pointer for the empty text, and is made of all that a standard string is made of.
 ///
 /// Assigning from a pointer into its own buffer is safe, as with the standard string it derives from.
 /// Like that one it has no virtual destructor: use it by value.
@@ -13,6 +13,8 @@ class CStdStr : public std::basic_string<CharT>
 {
 public:
     using Base = std::basic_string<CharT>;  ///< The standard string.
+
+    using Base::Base;  // what stands below comes before an inherited constructor of the same text
 
     CStdStr() = default;
     CStdStr(const CharT* text) : Base(text ? Base(text) : Base()) {}  ///< Copies the text; of null, an empty one.

@@ -1,5 +1,7 @@
 #include <fittings/base/std_str.h>
 
+#include <string>
+#include <string_view>
 #include <type_traits>
 #include <utility>
 
@@ -87,6 +89,30 @@ TEST(StdStr, IsAStandardString)
     EXPECT_EQ(std::stoi(text), 1234);
     const std::wstring standard = text;
     EXPECT_EQ(standard, L"1234");
+}
+
+TEST(StdStr, IsMadeAsAStandardStringIs)
+{
+    const std::wstring source(L"abcdef");
+    EXPECT_EQ(Text(L"abc", 2), L"ab");
+    EXPECT_EQ(Text(3, L'x'), L"xxx");
+    EXPECT_EQ(Text(source.begin() + 1, source.end()), L"bcdef");
+    EXPECT_EQ(Text(source, 4), L"ef");
+    EXPECT_EQ(Text(source, 1, 2), L"bc");
+    EXPECT_EQ((Text{L'a', L'b'}), L"ab");
+    EXPECT_EQ(Text(std::wstring_view(L"abc")), L"abc");
+}
+
+TEST(StdStr, IsEmptyOfWhatHoldsNothing)
+{
+    EXPECT_TRUE(Text{}.empty());
+    EXPECT_TRUE(Text(nullptr).empty());
+    Text text(L"something");
+    text = nullptr;
+    EXPECT_TRUE(text.empty());
+    text = L"something";
+    text = {};
+    EXPECT_TRUE(text.empty());
 }
 
 TEST(StdStr, IsMadeOfNarrowCharactersToo)
