@@ -18,9 +18,9 @@
 /// @endcode
 ///
 /// While the user types, a character that would leave something else than the beginning of an acceptable number is
-/// refused with a bell. Keys that are no characters (Backspace, Delete, Tab, Enter, arrows, Control with a letter) are
-/// never refused, whatever text they leave behind. The text is never formatted: CNumberEditUtils::FormatControlText()
-/// does.
+/// refused with a bell. Keys that are no characters (Backspace, Delete, Tab, Enter, arrows, Control with a letter from A to
+/// Z) are never refused, whatever text they leave behind. The text is never formatted:
+/// CNumberEditUtils::FormatControlText() does.
 ///
 /// What typing cannot promise, Validate() and TransferFromWindow() do, so that no dialog ends with a bad number:
 /// - A pasted or dropped text, and one set by the program, goes in unchecked.

@@ -31,7 +31,7 @@ class wxThreadExImpl;
 /// @endcode
 ///
 /// Construct, Create(), Run(), Wait(), destroy: all of them on one thread, the owner's, once the toolkit is initialised.
-/// An object runs once.
+/// An object runs once. Where Create() or Run() has failed, it is of no more use: make another one to try again.
 ///
 /// - Nothing here pauses the work or ends it early. Entry() may ask wxThread::This(), the toolkit's detached thread, for
 ///   its id or TestDestroy(); whether anyone calls that thread's Pause() or Delete() is the host's to see to.
