@@ -274,6 +274,17 @@ TEST_F(Numbers, MayBeReplacedWhileTheyTakeAKey)
     EXPECT_EQ(values[0], "1");
 }
 
+TEST_F(Numbers, MayBeReplacedWhileTheyShowTheirText)
+{
+    fields[0]->Bind(wxEVT_TEXT,
+                    [&](wxCommandEvent&) { fields[0]->SetValidator(wxNumValidator(FixedFormat(), &values[1])); });
+    values[0] = "5";
+    EXPECT_TRUE(fields[0]->GetValidator()->TransferToWindow());
+    EXPECT_EQ(fields[0]->GetValue(), "5");
+    EXPECT_TRUE(fields[0]->GetValidator()->TransferFromWindow());
+    EXPECT_EQ(values[1], "5");
+}
+
 TEST_F(Numbers, GoWithTheirControlToAnotherWindow)
 {
     Show();

@@ -147,6 +147,13 @@ TEST(FrenchLocale, SeparatesGroupsByANarrowSpace)
     EXPECT_EQ(Shown(L"1234567,5", Amount()), L"1\u202f234\u202f567,50");
 }
 
+TEST(FrenchLocale, SeparatesGroupsByASpaceThatIsOneByteBeyondAscii)
+{
+    const ScopedLocale french("fr_FR.ISO-8859-1");
+    EXPECT_EQ(CNumberFormat(eLocaleFormat).m_chThousandsSep, L'\u00a0');
+    EXPECT_EQ(Shown(L"1234567,5", Amount()), L"1\u00a0234\u00a0567,50");
+}
+
 TEST(PashtoLocale, HasSeparatorsBeyondAscii)
 {
     const ScopedLocale pashto("ps_AF.UTF-8");

@@ -3,6 +3,7 @@
 #
 #   de_DE.UTF-8   point ","       thousands "."
 #   fr_FR.UTF-8   point ","       thousands U+202F
+#   fr_FR.ISO-8859-1   the same with thousands U+00A0, which is one byte there
 #   he_IL.UTF-8   point "."       thousands ","       read from right to left
 #   ps_AF.UTF-8   point U+066B    thousands U+066C
 #
@@ -14,8 +15,10 @@ find_program(LOCALEDEF localedef REQUIRED)
 
 # One after the other: each links what it shares with those that are there.
 set(make_locales)
-foreach(language IN ITEMS de_DE fr_FR he_IL ps_AF)
-  list(APPEND make_locales COMMAND ${LOCALEDEF} -i ${language} -f UTF-8 ${FITTINGS_TEST_LOCALES}/${language}.UTF-8)
+foreach(locale IN ITEMS de_DE.UTF-8 fr_FR.UTF-8 fr_FR.ISO-8859-1 he_IL.UTF-8 ps_AF.UTF-8)
+  string(REGEX MATCH "^([^.]*)\\.(.*)$" whole ${locale})
+  list(APPEND make_locales
+    COMMAND ${LOCALEDEF} -i ${CMAKE_MATCH_1} -f ${CMAKE_MATCH_2} ${FITTINGS_TEST_LOCALES}/${locale})
 endforeach()
 add_custom_command(OUTPUT ${FITTINGS_TEST_LOCALES}/stamp
   COMMAND ${CMAKE_COMMAND} -E rm -rf ${FITTINGS_TEST_LOCALES}

@@ -2,7 +2,9 @@
 
 #include <fittings/thread/gui_thread.h>
 
+#include <algorithm>
 #include <memory>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -47,6 +49,26 @@ bool IsFree(wxMutex& mutex)
     });
     other.Ends();
     return free;
+}
+
+// The place of each member that a derived class sees, in the order in which they are to stand.
+class Laid : public Working<wxGUIThreadEx>
+{
+public:
+    Laid() : Working([](Working&) { return Code(0); }, nullptr, 1) {}
+
+    std::vector<const void*> Members() const
+    {
+        return {&m_handler, &m_continue, &m_continueMutex, &m_postMutex, &m_eventType};
+    }
+};
+
+// So the post mutex, which is taken first, is destroyed first.
+TEST(WorkerClass, LaysItsMembersOutInOrder)
+{
+    const Laid worker;
+    const std::vector<const void*> members = worker.Members();
+    EXPECT_TRUE(std::is_sorted(members.begin(), members.end()));
 }
 
 TEST(Posting, HoldsThePostMutexAloneWhileItQueues)
