@@ -66,10 +66,12 @@ wxRect ScreenRect(wxWindow& window)
 
 /// Returns the display that shows most of the window, as wxDisplay::GetFromWindow() is meant to.
 ///
-/// The toolkit's own function names some display even for a window that is far off all of them, and goes by where a
-/// hidden window was before it was moved.
+/// The toolkit's own function knows of a window that is not created that it is on none. But it names some display even
+/// for one that is far off all of them, and goes by where a hidden window was before it was moved.
 int DisplayOf(wxWindow& window)
 {
+    if (wxDisplay::GetFromWindow(&window) == wxNOT_FOUND)
+        return wxNOT_FOUND;
     const wxRect rect = ScreenRect(window);
     int best = wxNOT_FOUND;
     int largest = 0;

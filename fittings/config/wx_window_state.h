@@ -60,7 +60,8 @@ FITTINGS_API void SaveAuiManagerState(wxAuiManager* manager, const wchar_t* name
 /// Restores a stored layout and updates the window; returns false, and changes nothing, when there is none.
 ///
 /// As wxAuiManager::LoadPerspective() has it, panes that the stored layout does not name are hidden, and captions come
-/// back as they were stored. It cannot read back a caption with a ";" or "|": keep these out of captions.
+/// back as they were stored. It cannot read back a caption with a ";", or with a "\" before a "|": keep these out of
+/// captions.
 ///
 /// A floating pane is shown at once, and before the frame is on the screen a window manager does not keep it above the
 /// frame. Where panes can float, load the layout when GTK reports the frame mapped ("map-event"), before it is drawn.

@@ -1,0 +1,74 @@
+// A window that the toolkit finds on no display.
+
+#include <fittings/config/wx_window_state.h>
+
+#include <utility>
+#include <vector>
+
+#include <dlfcn.h>
+#include <gtest/gtest.h>
+#include <wx/display.h>
+
+#include <fittings/platform/local_reg_store.h>
+#include <tests/config/spy_window.h>
+#include <tests/support/gui.h>
+#include <tests/support/temp_folder.h>
+
+namespace {
+
+// What the toolkit is to say from now on, the last first.
+std::vector<int> g_answers;
+
+}  // namespace
+
+// In place of the toolkit's, which it calls where it has no answer of its own.
+int wxDisplay::GetFromWindow(const wxWindow* window)
+{
+    if (!g_answers.empty()) {
+        const int answer = g_answers.back();
+        g_answers.pop_back();
+        return answer;
+    }
+    using Function = int (*)(const wxWindow*);
+    static const auto original =
+        reinterpret_cast<Function>(dlsym(RTLD_NEXT, "_ZN9wxDisplay13GetFromWindowEPK8wxWindow"));
+    return original(window);
+}
+
+namespace {
+
+// The first two calls are those that apply what is stored.
+TEST(WindowOnNoDisplay, IsMovedToTheFirstAndStaysThereIfThatDoesNotHelp)
+{
+    const TempUserData data;
+    CLocalRegStore::WriteString(L"wxWindowState", L"w", L"100;100;300;200");
+    SpyFrame frame;
+    g_answers = {wxNOT_FOUND, wxNOT_FOUND};
+    EXPECT_FALSE(wx_window_state::LoadState(&frame, L"w"));
+    EXPECT_TRUE(g_answers.empty());
+    EXPECT_EQ(frame.TakeCalls(), (SizeCalls{"100;100;300;200 4", "100;100;-1;-1 0", "0;0;-1;-1 0"}));
+}
+
+TEST(WindowOnNoDisplay, IsClippedWhereTheMoveHelps)
+{
+    const TempUserData data;
+    CLocalRegStore::WriteString(L"wxWindowState", L"w", L"100;100;300;200");
+    SpyFrame frame;
+    g_answers = {0, wxNOT_FOUND};
+    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    EXPECT_TRUE(g_answers.empty());
+    EXPECT_EQ(frame.TakeCalls(), (SizeCalls{"100;100;300;200 4", "100;100;-1;-1 0", "0;0;-1;-1 0", "16;24;284;176 3"}));
+}
+
+TEST(WindowThatIsNotCreated, IsOnNoDisplay)
+{
+    const TempUserData data;
+    CLocalRegStore::WriteString(L"wxWindowState", L"w", L"100;100;300;200");
+    const ExpectAssertions theToolkits;
+    wxPanel panel;
+    EXPECT_FALSE(wx_window_state::LoadState(&panel, L"w"));
+    wxFrame frame;
+    EXPECT_FALSE(wx_window_state::LoadState(&frame, L"w"));
+}
+
+}  // namespace
