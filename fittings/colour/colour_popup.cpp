@@ -211,8 +211,8 @@ void wxColourPopup::SetStringValue(const wxString& value)
     for (int i = 0; i < fittings::kColourCount; ++i) {
         const wchar_t* const name = GetColourName(i);
         if (name && value == name) {
-            // When the combo closes its popup, it hands back the name of the cell that is hot already.
-            if (i != m_nCurrentSel)
+            // A combo whose popup is dismissed hands back the name of the cell that is hot already.
+            if (i != m_nCurrentSel || !m_valueWhenShown)
                 ChangeSelection(i);
             return;
         }

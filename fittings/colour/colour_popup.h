@@ -18,7 +18,7 @@
 class FITTINGS_API wxColorPopupListener
 {
 public:
-    /// The popup has been shown.
+    /// The popup is about to be shown. Where the combo's value names a colour, that one becomes hot next.
     virtual void OnColourPopup();
 
     /// Another cell became hot; @a colour is that cell's.
@@ -135,8 +135,8 @@ public:
     wxString GetStringValue() const override;
 
     /// Makes the colour of that name hot, in the language and the letter case that the table has it in. Any other text,
-    /// those of the boxes included, changes nothing, and neither does the name of the cell that is hot already, nor any
-    /// while the popup hides itself: what the combo then hands back is no choice of the user's.
+    /// those of the boxes included, changes nothing. Neither does the name of the hot cell while the popup is
+    /// open, nor any while the popup hides itself: what the combo then hands back is no choice of the user's.
     void SetStringValue(const wxString& value) override;
     /// @}
 
@@ -190,14 +190,15 @@ public:
     /// @name Mouse and keyboard
     /// @{
 
-    /// The combo shows the popup: nothing is hot, the cell of the colour in effect is chosen, and the listener hears of it.
+    /// The combo shows the popup: nothing is hot yet, the cell of the colour in effect is chosen, and the listener hears
+    /// of it.
     void OnPopup() override;
 
     /// The combo hides the popup. Unless the popup does that itself, the listener hears that nothing was chosen.
     void OnDismiss() override;
 
     /// Makes a cell hot, draws it so and tells the listener. An index above the number of the palette's cells counts as
-    /// CELL_MORE_COLOURS; with any other that names no cell none is hot, and the colour is the one in effect.
+    /// CELL_MORE_COLOURS; any other that names no cell is kept, none looks hot, and the colour is the one in effect.
     void ChangeSelection(int index);
 
     /// Tells the listener, and the combo where SetRefreshCombo() says so, of the hot cell's colour.
@@ -263,12 +264,13 @@ private:
     int CellTowards(int key) const;
     void RedrawHotCells(int old);
     void OnCharHook(wxKeyEvent& event);
+    void TellOfTheEnd(bool ok);
     bool HideCombo();
     void RestoreValue();
 
     bool m_ending = false;                     ///< While the listener hears of an end.
     bool m_handsValueBack = false;             ///< While a cancelled selection closes the popup.
-    std::optional<wxString> m_valueWhenShown;  ///< Of the combo; none once a colour has been chosen.
+    std::optional<wxString> m_valueWhenShown;  ///< Of the combo, while the popup is open.
 
     wxDECLARE_EVENT_TABLE();
 };

@@ -1,7 +1,10 @@
 #include <fittings/colour/colour_popup.h>
 
 #include <initializer_list>
+#include <optional>
+#include <utility>
 
+#include <gtk/gtk.h>
 #include <wx/colordlg.h>
 #include <wx/dcclient.h>
 #include <wx/weakref.h>
@@ -13,6 +16,24 @@ namespace {
 
 // A listener may destroy the control, and the popup with it.
 using Alive = wxWeakRef<wxColourPopup>;
+
+// Raises a flag of the popup and takes it down again, also after an exception of the listener's.
+class Raised
+{
+public:
+    Raised(wxColourPopup* popup, bool& flag) : m_alive(popup), m_flag(flag) { m_flag = true; }
+    ~Raised()
+    {
+        if (m_alive)
+            m_flag = false;
+    }
+    Raised(const Raised&) = delete;
+    Raised& operator=(const Raised&) = delete;
+
+private:
+    const Alive m_alive;
+    bool& m_flag;
+};
 
 // The frame is drawn in the second and third of the window's outermost pixels.
 constexpr int kFrameWidth = 3;
@@ -41,6 +62,18 @@ int FirstPresent(std::initializer_list<int> cells)
             return cell;
     }
     return CELL_NONE;
+}
+
+// Of a window within another one, the toolkit's Centre() takes the outermost.
+void CentreOn(const wxWindow& window, wxDialog& dialog)
+{
+    dialog.Centre(wxBOTH);
+    if (window.IsTopLevel())
+        return;
+    GtkRequisition size;
+    gtk_widget_get_preferred_size(dialog.GetHandle(), nullptr, &size);
+    const wxRect rect = wxRect(0, 0, size.width, size.height).CentreIn(window.GetScreenRect());
+    gtk_window_move(GTK_WINDOW(dialog.GetHandle()), rect.x, rect.y);
 }
 
 }  // namespace
@@ -168,7 +201,7 @@ void wxColourPopup::DoShowColorDlg()
     wxWindow* const parent = m_pCenterOn ? m_pCenterOn : m_combo;
     wxColourDialog dialog(parent, &data);
     if (m_pCenterOn)
-        dialog.Centre(wxBOTH);
+        CentreOn(*m_pCenterOn, dialog);
     const bool ok = dialog.ShowModal() == wxID_OK;
     if (!alive)
         return;
@@ -180,7 +213,26 @@ void wxColourPopup::DoShowColorDlg()
 void wxColourPopup::DoEndSel(bool ok)
 {
     const Alive alive(this);
-    m_ending = true;
+    TellOfTheEnd(ok);
+    if (!alive || !m_combo)
+        return;
+    if (m_combo->IsPopupShown()) {
+        std::optional<Raised> handsValueBack;
+        if (!ok)
+            handsValueBack.emplace(this, m_handsValueBack);
+        if (!HideCombo())
+            return;
+    }
+    // Where the listener has closed the popup, the combo has taken the hot cell's name for its value.
+    if (!ok)
+        RestoreValue();
+    if (alive)
+        m_combo->Refresh();
+}
+
+void wxColourPopup::TellOfTheEnd(bool ok)
+{
+    const Raised ending(this, m_ending);
     if (ok) {
         m_crInitialColour = m_crColour;
         m_nChosenColourSel = m_nCurrentSel;
@@ -193,31 +245,15 @@ void wxColourPopup::DoEndSel(bool ok)
         if (m_pListener)
             m_pListener->OnColourSelCancel(wxColour(m_crColour));
     }
-    if (!alive)
-        return;
-    m_ending = false;
-    if (!m_combo)
-        return;
-    m_handsValueBack = !ok;
-    if (m_combo->IsPopupShown() && !HideCombo())
-        return;
-    m_handsValueBack = false;
-    // Where the listener has closed the popup, the combo has taken the hot cell's name for its value.
-    if (!ok)
-        RestoreValue();
-    if (alive)
-        m_combo->Refresh();
 }
 
 // Closes the popup without a report to the listener; false when the popup is gone afterwards.
 bool wxColourPopup::HideCombo()
 {
     const Alive alive(this);
-    m_bInternalHide = true;
+    const Raised hiding(this, m_bInternalHide);
     if (m_combo)
         m_combo->HidePopup(false);
-    if (alive)
-        m_bInternalHide = false;
     return alive;
 }
 
@@ -225,13 +261,11 @@ bool wxColourPopup::HideCombo()
 // Enter would then choose the colour that was not chosen now.
 void wxColourPopup::RestoreValue()
 {
-    if (!m_combo || !m_valueWhenShown || m_combo->GetValue() == *m_valueWhenShown)
+    const std::optional<wxString> value = std::exchange(m_valueWhenShown, std::nullopt);
+    if (!m_combo || !value || m_combo->GetValue() == *value)
         return;
-    const Alive alive(this);
-    m_bInternalHide = true;
-    m_combo->SetValueByUser(wxString(*m_valueWhenShown));
-    if (alive)
-        m_bInternalHide = false;
+    const Raised restoring(this, m_bInternalHide);
+    m_combo->SetValueByUser(*value);
 }
 
 void wxColourPopup::OnMouseMove(wxMouseEvent& event)

@@ -10,6 +10,7 @@
 #include <gtk/gtk.h>
 #include <wx/colordlg.h>
 #include <wx/modalhook.h>
+#include <wx/panel.h>
 
 #include <tests/colour/combo_with_listener.h>
 
@@ -37,6 +38,7 @@ public:
     Answer(int answer, const wxColour& colour) : m_answer(answer), m_colour(colour) { Register(); }
 
     std::function<void()> during;
+    std::function<void(GtkWidget* dialog)> duringDialog;
     int asked = 0;
     wxColour proposed;
     bool full = false;
@@ -55,6 +57,8 @@ protected:
         centred = std::exchange(g_centred, {});
         if (during)
             during();
+        if (duringDialog)
+            duringDialog(dialog->GetHandle());
         // The dialog reads the widget after this.
         const GdkRGBA rgba{m_colour.Red() / 255.0, m_colour.Green() / 255.0, m_colour.Blue() / 255.0, 1};
         G_GNUC_BEGIN_IGNORE_DEPRECATIONS
@@ -163,6 +167,27 @@ TEST_F(MoreColours, GivesTheDialogTheWindowToCentreOnForItsParent)
     EXPECT_EQ(answer.parent, on.frame);
     EXPECT_TRUE(answer.centred.empty());
     other->Destroy();
+}
+
+TEST_F(MoreColours, CentresTheDialogOnAPartOfAWindow)
+{
+    auto* const panel = new wxPanel(on.frame, wxID_ANY, wxPoint(40, 60), wxSize(100, 80));
+    on.popup->SetCenterOn(panel);
+    wxPoint middle;
+    Answer answer(wxID_CANCEL, *wxRED);
+    answer.duringDialog = [&](GtkWidget* dialog) {
+        int x = 0;
+        int y = 0;
+        gtk_window_get_position(GTK_WINDOW(dialog), &x, &y);
+        GtkRequisition size;
+        gtk_widget_get_preferred_size(dialog, nullptr, &size);
+        middle = wxPoint(x + size.width / 2, y + size.height / 2);
+    };
+    on.popup->DoShowColorDlg();
+    const wxRect screen = panel->GetScreenRect();
+    EXPECT_EQ(answer.centred, std::vector<int>{wxBOTH});
+    EXPECT_NEAR(middle.x, screen.x + 50, 1);
+    EXPECT_NEAR(middle.y, screen.y + 40, 1);
 }
 
 TEST_F(MoreColours, ProposesTheColourChosenLast)

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstring>
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -326,8 +327,56 @@ TEST_F(ColourEndingWithText, ChangesNothingByAValueHandedBackWhileItHidesItself)
     on.popup->m_bInternalHide = false;
     on.popup->SetStringValue("Red");
     EXPECT_EQ(listener.Take(), ColourCalls{"change #FF0000"});
+}
+
+TEST_F(ColourEndingWithText, ChangesNothingByTheHotCellsNameThatTheComboHandsBack)
+{
+    Open();
+    on.popup->ChangeSelection(16);
+    listener.Take();
     on.popup->SetStringValue("Red");
-    EXPECT_EQ(listener.Take(), ColourCalls()) << "the cell is hot already";
+    EXPECT_EQ(listener.Take(), ColourCalls());
+}
+
+TEST_F(ColourEnding, ChoosesTheColourThatWasNamedAfterACancel)
+{
+    on.popup->ChangeSelection(16);
+    on.popup->DoEndSel(false);
+    EXPECT_EQ(listener.Take(), (ColourCalls{"change #FF0000", "cancel #0000FF"}));
+    on.popup->SetStringValue("Red");
+    EXPECT_EQ(listener.Take(), ColourCalls{"change #FF0000"});
+    on.popup->DoEndSel(true);
+    EXPECT_EQ(listener.Take(), ColourCalls{"end #FF0000"});
+    EXPECT_EQ(on.popup->m_nChosenColourSel, 16);
+}
+
+TEST_F(ColourEndingWithText, LeavesAValueAloneThatWasSetAfterACancel)
+{
+    Open();
+    on.popup->EndSelection(false);
+    on.combo->SetValue("Typed by the host");
+    on.popup->DoEndSel(false);
+    EXPECT_EQ(on.combo->GetValue(), "Typed by the host");
+    on.popup->OnDismiss();
+    EXPECT_EQ(on.combo->GetValue(), "Typed by the host");
+}
+
+TEST_F(ColourEnding, WorksOnAfterAnExceptionOfTheListeners)
+{
+    for (const bool ok : {true, false}) {
+        Open();
+        on.popup->ChangeSelection(16);
+        listener.Take();
+        listener.during = [](const std::string&) { throw std::runtime_error("the host's"); };
+        EXPECT_THROW(on.popup->EndSelection(ok), std::runtime_error);
+        listener.during = nullptr;
+        on.popup->DoEndSel(ok);
+        EXPECT_FALSE(on.combo->IsPopupShown());
+        listener.Take();
+        on.popup->SetStringValue("Lime");
+        on.popup->OnDismiss();
+        EXPECT_EQ(listener.Take(), (ColourCalls{"change #32CD32", "cancel #FF0000"}));
+    }
 }
 
 // --- Without a colour combo ------------------------------------------------------------------------------------------
