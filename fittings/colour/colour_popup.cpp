@@ -212,7 +212,7 @@ void wxColourPopup::SetStringValue(const wxString& value)
         const wchar_t* const name = GetColourName(i);
         if (name && value == name) {
             // A combo whose popup is dismissed hands back the name of the cell that is hot already.
-            if (i != m_nCurrentSel || !m_valueWhenShown)
+            if (i != m_nCurrentSel || !m_valueWhenShown || m_crColour != GetColour(i))
                 ChangeSelection(i);
             return;
         }

@@ -226,8 +226,10 @@ void wxColourPopup::DoEndSel(bool ok)
     // Where the listener has closed the popup, the combo has taken the hot cell's name for its value.
     if (!ok)
         RestoreValue();
-    if (alive)
-        m_combo->Refresh();
+    if (!alive)
+        return;
+    m_valueWhenShown.reset();
+    m_combo->Refresh();
 }
 
 void wxColourPopup::TellOfTheEnd(bool ok)
@@ -261,11 +263,12 @@ bool wxColourPopup::HideCombo()
 // Enter would then choose the colour that was not chosen now.
 void wxColourPopup::RestoreValue()
 {
-    const std::optional<wxString> value = std::exchange(m_valueWhenShown, std::nullopt);
-    if (!m_combo || !value || m_combo->GetValue() == *value)
+    // A popup that is closed before it has been seen comes nevertheless, and its value may change yet.
+    if (!m_combo || !m_valueWhenShown || m_combo->GetValue() == *m_valueWhenShown)
         return;
+    const wxString value = *std::exchange(m_valueWhenShown, std::nullopt);
     const Raised restoring(this, m_bInternalHide);
-    m_combo->SetValueByUser(*value);
+    m_combo->SetValueByUser(value);
 }
 
 void wxColourPopup::OnMouseMove(wxMouseEvent& event)

@@ -350,6 +350,19 @@ TEST_F(ColourEnding, ChoosesTheColourThatWasNamedAfterACancel)
     EXPECT_EQ(on.popup->m_nChosenColourSel, 16);
 }
 
+TEST_F(ColourEndingWithText, ChoosesTheColourThatWasNamedAfterADismissal)
+{
+    on.combo->SetValue("Red");
+    Open();
+    EXPECT_EQ(listener.Take(), (ColourCalls{"change #FF0000", "popup", "change #FF0000"}));
+    on.combo->Dismiss();
+    EXPECT_EQ(listener.Take(), ColourCalls{"cancel #0000FF"});
+    on.popup->SetStringValue("Red");
+    EXPECT_EQ(listener.Take(), ColourCalls{"change #FF0000"});
+    on.popup->DoEndSel(true);
+    EXPECT_EQ(listener.Take(), ColourCalls{"end #FF0000"});
+}
+
 TEST_F(ColourEndingWithText, LeavesAValueAloneThatWasSetAfterACancel)
 {
     Open();
