@@ -5,112 +5,10 @@
 #include <stdexcept>
 #include <string>
 #include <type_traits>
-#include <vector>
 
 #include <gtest/gtest.h>
 
-#include <fittings/platform/file_util_ex.h>
-#include <fittings/platform/local_reg_store.h>
-#include <fittings/platform/std_file_paths.h>
-
-namespace {
-
-struct Platform
-{
-    std::vector<std::wstring> calls;
-    std::wstring thrower;  ///< The operation that throws.
-    bool folderExists = true;
-    bool loads = true;
-    bool saves = true;
-    std::wstring stored = L"stored";
-    int files = 0;  ///< File objects alive.
-};
-
-Platform g_platform;
-
-void Note(const std::wstring& operation, const std::vector<std::wstring>& arguments = {})
-{
-    std::wstring call = operation;
-    for (const std::wstring& argument : arguments)
-        call += L" [" + argument + L"]";
-    g_platform.calls.push_back(call);
-    if (operation == g_platform.thrower)
-        throw std::runtime_error("platform");
-}
-
-}  // namespace
-
-class CIniFile
-{
-public:
-    CIniFile() { ++g_platform.files; }
-    ~CIniFile() { --g_platform.files; }
-};
-
-CIniFile* CLocalRegStore::CreateInitFile(bool reserved)
-{
-    Note(reserved ? L"create true" : L"create false");
-    return new CIniFile;
-}
-
-bool CLocalRegStore::Load(CIniFile&, const wchar_t* path)
-{
-    Note(L"load", {path});
-    return g_platform.loads;
-}
-
-std::wstring CLocalRegStore::GetString(const CIniFile&, const wchar_t* section, const wchar_t* key,
-                                       const wchar_t* defaultValue)
-{
-    Note(L"get", {section, key, defaultValue});
-    return g_platform.stored;
-}
-
-void CLocalRegStore::WriteString(CIniFile&, const wchar_t* section, const wchar_t* key, const wchar_t* value)
-{
-    Note(L"write", {section, key, value});
-}
-
-bool CLocalRegStore::Save(const CIniFile&, const wchar_t* path)
-{
-    Note(L"save", {path});
-    return g_platform.saves;
-}
-
-void CLocalRegStore::DestroyIniFile(CIniFile* ini)
-{
-    delete ini;
-    g_platform.calls.push_back(L"destroy");
-}
-
-bool CLocalRegStore::DeleteProfile(const wchar_t* section, const wchar_t* key)
-{
-    Note(L"delete from default store", {section, key});
-    return true;
-}
-
-// A separator that only this function knows.
-std::wstring file_util_ex::MakePath(const CStdStr<wchar_t>& dir, const CStdStr<wchar_t>& name)
-{
-    return dir + L">" + name;
-}
-
-bool file_util_ex::DoesDirExist(const CStdStr<wchar_t>& path)
-{
-    Note(L"exists", {path});
-    return g_platform.folderExists;
-}
-
-bool file_util_ex::Mkdir(const CStdStr<wchar_t>& path)
-{
-    Note(L"mkdir", {path});
-    return false;
-}
-
-std::wstring std_file_paths::GetUserDataDir()
-{
-    return L"/data";
-}
+#include <tests/support/noting_platform.h>
 
 namespace {
 
@@ -127,8 +25,6 @@ protected:
     ConfigCalls() { g_platform = {}; }
     ~ConfigCalls() override { EXPECT_EQ(g_platform.files, 0) << "file objects left behind"; }
 };
-
-using Calls = std::vector<std::wstring>;
 
 TEST_F(ConfigCalls, OfWriteConfigString)
 {

@@ -1,0 +1,172 @@
+#include <tests/support/noting_platform.h>
+
+#include <stdexcept>
+
+#include <fittings/platform/file_util_ex.h>
+#include <fittings/platform/local_reg_store.h>
+#include <fittings/platform/std_file_paths.h>
+
+NotingPlatform g_platform;
+
+void Note(const std::wstring& operation, const std::vector<std::wstring>& arguments)
+{
+    std::wstring call = operation;
+    for (const std::wstring& argument : arguments)
+        call += L" [" + argument + L"]";
+    g_platform.calls.push_back(call);
+    if (operation == g_platform.thrower)
+        throw std::runtime_error("platform");
+}
+
+namespace {
+
+std::wstring Widened(const std::string& ascii)
+{
+    return {ascii.begin(), ascii.end()};
+}
+
+std::string Narrowed(const std::wstring& ascii)
+{
+    return {ascii.begin(), ascii.end()};
+}
+
+}  // namespace
+
+class CIniFile
+{
+public:
+    CIniFile() { ++g_platform.files; }
+    ~CIniFile() { --g_platform.files; }
+};
+
+CIniFile* CLocalRegStore::CreateInitFile(bool reserved)
+{
+    Note(reserved ? L"create true" : L"create false");
+    return new CIniFile;
+}
+
+bool CLocalRegStore::Load(CIniFile&, const wchar_t* path)
+{
+    Note(L"load", {path});
+    return g_platform.loads;
+}
+
+std::wstring CLocalRegStore::GetString(const CIniFile&, const wchar_t* section, const wchar_t* key,
+                                       const wchar_t* defaultValue)
+{
+    Note(L"get", {section, key, defaultValue});
+    return g_platform.stored;
+}
+
+void CLocalRegStore::WriteString(CIniFile&, const wchar_t* section, const wchar_t* key, const wchar_t* value)
+{
+    Note(L"write", {section, key, value});
+}
+
+bool CLocalRegStore::Save(const CIniFile&, const wchar_t* path)
+{
+    Note(L"save", {path});
+    return g_platform.saves;
+}
+
+void CLocalRegStore::DestroyIniFile(CIniFile* ini)
+{
+    delete ini;
+    g_platform.calls.push_back(L"destroy");
+}
+
+std::wstring CLocalRegStore::GetString(const wchar_t* section, const wchar_t* key, const wchar_t* defaultValue)
+{
+    Note(L"get from default store", {section, key, defaultValue});
+    return g_platform.stored;
+}
+
+bool CLocalRegStore::WriteString(const wchar_t* section, const wchar_t* key, const wchar_t* value)
+{
+    Note(L"write to default store", {section, key, value});
+    return g_platform.saves;
+}
+
+bool CLocalRegStore::GetProfileBool(const wchar_t* section, const wchar_t* key, bool defaultValue)
+{
+    Note(L"get flag", {section, key, defaultValue ? L"true" : L"false"});
+    return defaultValue;
+}
+
+bool CLocalRegStore::WriteProfileBool(const wchar_t* section, const wchar_t* key, bool value)
+{
+    Note(L"write flag", {section, key, value ? L"true" : L"false"});
+    return g_platform.saves;
+}
+
+bool CLocalRegStore::DeleteProfile(const wchar_t* section, const wchar_t* key)
+{
+    Note(L"delete from default store", {section, key});
+    return true;
+}
+
+std::string CLocalRegStore::GetString(const char* section, const char* key, const char* defaultValue)
+{
+    Note(L"get narrow", {Widened(section), Widened(key), Widened(defaultValue)});
+    return Narrowed(g_platform.stored);
+}
+
+bool CLocalRegStore::WriteString(const char* section, const char* key, const char* value)
+{
+    Note(L"write narrow", {Widened(section), Widened(key), Widened(value)});
+    return g_platform.saves;
+}
+
+// A separator that only this function knows.
+std::wstring file_util_ex::MakePath(const CStdStr<wchar_t>& dir, const CStdStr<wchar_t>& name)
+{
+    return dir + L">" + name;
+}
+
+bool file_util_ex::DoesDirExist(const CStdStr<wchar_t>& path)
+{
+    Note(L"exists", {path});
+    return g_platform.folderExists;
+}
+
+bool file_util_ex::Mkdir(const CStdStr<wchar_t>& path)
+{
+    Note(L"mkdir", {path});
+    return false;
+}
+
+std::wstring file_util_ex::GetPathWithSep(const wchar_t* path)
+{
+    Note(L"with separator", {path});
+    return std::wstring(path) + L"/";
+}
+
+std::wstring file_util_ex::RemoveBackSlash(const wchar_t* path)
+{
+    Note(L"without separator", {path});
+    return L"/of/no/use";
+}
+
+// Beginnings that only these two know.
+std::string file_util_ex::ConvertToUTF8(const std::wstring& text)
+{
+    Note(L"to UTF-8", {text});
+    return "/encoded" + Narrowed(text);
+}
+
+std::wstring file_util_ex::ConvertFromUTF8W(const std::string& text)
+{
+    Note(L"from UTF-8", {Widened(text)});
+    return L"/decoded" + Widened(text);
+}
+
+std::wstring std_file_paths::GetUserDataDir()
+{
+    return L"/data";
+}
+
+std::wstring std_file_paths::GetAppFolderPath(const wchar_t* name)
+{
+    Note(L"application's folder", {name});
+    return std::wstring(L"/documents/") + name;
+}
