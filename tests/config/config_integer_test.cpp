@@ -3,9 +3,11 @@
 #include <climits>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 #include <gtest/gtest.h>
 
+#include <tests/support/scoped_locale.h>
 #include <tests/support/temp_folder.h>
 
 namespace {
@@ -74,6 +76,19 @@ INSTANTIATE_TEST_SUITE_P(
                     Stored{"MinusZero", L"-0", 0}, Stored{"Largest", L"2147483647", INT_MAX},
                     Stored{"Smallest", L"-2147483648", INT_MIN}),
     [](const auto& info) { return info.param.name; });
+
+TEST(IntegerInALocaleThatGroups, IsWrittenAndReadWithoutGroups)
+{
+    const TempUserData data;
+    for (const auto& [name, grouped] : {std::pair("de_DE.UTF-8", L"1.234"), std::pair("ps_AF.UTF-8", L"1\u066C234")}) {
+        const ScopedLocale locale(name);
+        ui_config_mgr::WriteConfigInt(L"n.ini", L"Numbers", L"n", -1234567);
+        EXPECT_EQ(ui_config_mgr::GetConfigString(L"n.ini", L"Numbers", L"n"), L"-1234567") << name;
+        EXPECT_EQ(Read(), -1234567) << name;
+        Plant(grouped);
+        EXPECT_EQ(Read(), 1) << name;
+    }
+}
 
 TEST(MissingInteger, IsZero)
 {

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <type_traits>
+#include <utility>
 
 #include <gtest/gtest.h>
 #include <wx/dialog.h>
@@ -11,6 +12,7 @@
 #include <fittings/platform/std_file_paths.h>
 #include <tests/config/spy_window.h>
 #include <tests/support/gui.h>
+#include <tests/support/scoped_locale.h>
 #include <tests/support/temp_folder.h>
 
 namespace {
@@ -306,5 +308,21 @@ INSTANTIATE_TEST_SUITE_P(
                     Text{"MegabyteBehind", L"100;200;300;400" + std::wstring(1 << 20, L'x')},
                     Text{"MegabyteOfZeros", std::wstring(1 << 20, L'0') + L"100;200;300;400"}),
     [](const auto& info) { return info.param.name; });
+
+TEST(GeometryInALocaleThatGroups, IsWrittenAndReadWithoutGroups)
+{
+    const TempUserData data;
+    for (const auto& [name, grouped] : {std::pair("de_DE.UTF-8", L"1.100"), std::pair("ps_AF.UTF-8", L"1\u066C100")}) {
+        const ScopedLocale locale(name);
+        SpyFrame saved(wxRect(100, 50, 1100, 800));
+        wx_window_state::SaveState(&saved, L"w");
+        EXPECT_EQ(Stored(L"w"), L"100;50;1100;800") << name;
+        SpyFrame loaded;
+        EXPECT_TRUE(wx_window_state::LoadState(&loaded, L"w")) << name;
+        EXPECT_EQ(loaded.GetRect(), wxRect(100, 50, 1100, 800)) << name;
+        Plant(std::wstring(L"100;50;") + grouped + L";800");
+        EXPECT_FALSE(wx_window_state::LoadState(&loaded, L"w")) << name;
+    }
+}
 
 }  // namespace
