@@ -1,5 +1,6 @@
 #include <tests/dialogs/file_answer.h>
 
+#include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <wx/filedlg.h>
 
@@ -61,8 +62,20 @@ wxFileDialog::wxFileDialog(wxWindow* parent, const wxString& title, const wxStri
     made.position = position;
     made.size = size;
     made.name = name;
-    g_made.push_back(made);
     Create(parent, title, folder, file, wildcard, style, position, size, name);
+    g_made.push_back(made);
+}
+
+// In place of the toolkit's, which it calls, and which calls it as well while a dialog is made.
+void wxFileDialog::SetFilterIndex(int index)
+{
+    if (!g_made.empty()) {
+        EXPECT_TRUE(CentredDialogs().empty()) << "a filter chosen after the dialog was centred";
+        g_made.back().filtersSet.push_back(index);
+    }
+    using Function = void (*)(wxFileDialog*, int);
+    static const auto original = reinterpret_cast<Function>(dlsym(RTLD_NEXT, "_ZN12wxFileDialog14SetFilterIndexEi"));
+    original(this, index);
 }
 
 wxString wxFileDialog::GetPath() const

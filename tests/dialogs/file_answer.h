@@ -23,7 +23,8 @@ struct AskedFile
     wxSize size;
     wxString name;
 
-    int filterIndex = -1;  // none where there is no wildcard
+    int filterIndex = -1;         // none where there is no wildcard
+    std::vector<int> filtersSet;  // by SetFilterIndex() once it was made
     wxString shownFolder;
     std::vector<int> centred;
 };

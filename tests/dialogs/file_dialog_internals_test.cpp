@@ -10,7 +10,6 @@
 #include <wx/frame.h>
 
 #include <fittings/dialogs/file_dialog.h>
-#include <fittings/platform/file_util_ex.h>
 #include <fittings/platform/local_reg_store.h>
 #include <tests/dialogs/file_answer.h>
 #include <tests/support/gui.h>
@@ -20,19 +19,6 @@ namespace {
 
 constexpr const wchar_t* kNothing = L"(nothing)";
 constexpr long kStyle = 0x2;
-
-std::vector<std::wstring> g_withoutBackSlash;
-
-}  // namespace
-
-// In place of the platform's. The folder of the settings has no separator at its end.
-std::wstring file_util_ex::RemoveBackSlash(const wchar_t* path)
-{
-    g_withoutBackSlash.push_back(path);
-    return path;
-}
-
-namespace {
 
 std::wstring SamplesFolder()
 {
@@ -121,17 +107,6 @@ AskedFile AskedBy(const wchar_t* title, const wchar_t* folder, const wchar_t* fi
     const FileAnswer cancel(wxID_CANCEL, "");
     EXPECT_EQ(fittings::FileSelector(title, folder, file, extension, wildcard, kStyle, nullptr, -1, -1), "");
     return cancel.Asked();
-}
-
-TEST_F(LastPath, IsToldToThePlatformAndKeptAsItIs)
-{
-    g_withoutBackSlash.clear();
-    fittings::SaveLastPath(L"/usr/folder/", "");
-    fittings::SaveLastPath(L"", "Report");
-    EXPECT_TRUE(g_withoutBackSlash.empty());
-    fittings::SaveLastPath(L"/usr/folder/", "Report");
-    EXPECT_EQ(g_withoutBackSlash, std::vector<std::wstring>{L"/usr/folder/"});
-    EXPECT_EQ(Stored(L"Report"), L"/usr/folder/");
 }
 
 TEST(FileSelector, HandsOnWhatItIsGiven)

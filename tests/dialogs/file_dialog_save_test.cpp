@@ -239,6 +239,8 @@ TEST_P(SaveDialogFilter, IsMadeOfWildcardAndExtension)
     const AskedFile asked = AskedFor(GetParam().extension, GetParam().wildcard);
     EXPECT_EQ(asked.wildcard, GetParam().effective);
     EXPECT_EQ(asked.filterIndex, GetParam().index);
+    // The first is there without being asked for.
+    EXPECT_EQ(asked.filtersSet, GetParam().index > 0 ? std::vector<int>{GetParam().index} : std::vector<int>());
 }
 
 const wchar_t kTextCsv[] = L"Text (*.txt)|*.txt|CSV (*.csv)|*.csv";

@@ -1,0 +1,113 @@
+// The save dialog and DoModalReg() of the folder dialog against a platform that notes every call it gets.
+
+#include <string>
+
+#include <gtest/gtest.h>
+#include <wx/defs.h>
+
+#include <fittings/dialogs/file_dialog.h>
+#include <fittings/dialogs/folder_dialog.h>
+#include <tests/dialogs/file_answer.h>
+#include <tests/support/noting_platform.h>
+
+namespace {
+
+wxString g_chosenFolder;
+
+class SaveDialogCalls : public testing::Test
+{
+protected:
+    SaveDialogCalls()
+    {
+        g_platform = {};
+        g_platform.stored = L"/a/one.prj";
+        CQVFileDialogI::SetRegEntry("Report");
+    }
+    ~SaveDialogCalls() override { CQVFileDialogI::SetRegEntry(""); }
+
+    static AskedFile Ask(int result, const wxString& path, const wchar_t* folder = L"")
+    {
+        FileAnswer answer(result, path);
+        answer.whileShown = [] { Note(L"show"); };
+        CQVFileDialogI::LaunchSaveDialog(nullptr, L"", L"", L"", folder, L"");
+        return answer.Asked();
+    }
+};
+
+TEST_F(SaveDialogCalls, OfADialogThatIsCancelled)
+{
+    const AskedFile asked = Ask(wxID_CANCEL, "/b/two.prj");
+    EXPECT_EQ(g_platform.calls, (Calls{L"get narrow [LastFiles] [Report] []", L"from UTF-8 [/a/one.prj]", L"show"}));
+    EXPECT_EQ(asked.folder, "/decoded/a");
+    EXPECT_EQ(asked.file, "one");
+}
+
+TEST_F(SaveDialogCalls, OfADialogWhileNothingIsRemembered)
+{
+    g_platform.stored = L"";
+    const AskedFile asked = Ask(wxID_CANCEL, "");
+    EXPECT_EQ(g_platform.calls, (Calls{L"get narrow [LastFiles] [Report] []", L"application's folder [Samples]",
+                                       L"with separator [/documents/Samples]", L"show"}));
+    EXPECT_EQ(asked.folder, "/documents/Samples");
+    EXPECT_EQ(asked.file, "");
+}
+
+TEST_F(SaveDialogCalls, OfADialogThatIsAccepted)
+{
+    Ask(wxID_OK, "/b/two/");
+    EXPECT_EQ(g_platform.calls, (Calls{L"get narrow [LastFiles] [Report] []", L"from UTF-8 [/a/one.prj]", L"show",
+                                       L"without separator [/b/two/]", L"to UTF-8 [/b/two/]",
+                                       L"write narrow [LastFiles] [Report] [/encoded/b/two/]"}));
+}
+
+TEST_F(SaveDialogCalls, OfADialogInWhichNothingIsChosen)
+{
+    Ask(wxID_OK, "");
+    EXPECT_EQ(g_platform.calls.back(), L"show");
+}
+
+TEST_F(SaveDialogCalls, OfADialogWithAFolderOfTheCallers)
+{
+    Ask(wxID_CANCEL, "/b/two.prj", L"/c/");
+    EXPECT_EQ(g_platform.calls, Calls{L"show"});
+}
+
+TEST_F(SaveDialogCalls, OfADialogWithoutAnEntry)
+{
+    CQVFileDialogI::SetRegEntry("");
+    Ask(wxID_OK, "/b/two.prj");
+    EXPECT_EQ(g_platform.calls, Calls{L"show"});
+}
+
+class FolderDialogCalls : public testing::Test
+{
+protected:
+    FolderDialogCalls() { g_platform = {}; }
+
+private:
+    const FileAnswer m_cancel{wxID_CANCEL, ""};  // Fails, and ends, a dialog that is shown all the same.
+};
+
+TEST_F(FolderDialogCalls, OfADialogThatIsAccepted)
+{
+    g_chosenFolder = "/chosen/";
+    EXPECT_EQ(wxFolderDlg::DoModalReg(nullptr, L"Import", L"Choose"), "/chosen/");
+    EXPECT_EQ(g_platform.calls, (Calls{L"get from default store [Import] [Path] []", L"show [stored] [Choose]",
+                                       L"write to default store [Import] [Path] [/chosen/]"}));
+}
+
+TEST_F(FolderDialogCalls, OfADialogThatIsCancelled)
+{
+    g_chosenFolder = "";
+    EXPECT_EQ(wxFolderDlg::DoModalReg(nullptr, L"Import", nullptr), "");
+    EXPECT_EQ(g_platform.calls, (Calls{L"get from default store [Import] [Path] []", L"show [stored] [(null)]"}));
+}
+
+}  // namespace
+
+// In place of the library's.
+wxString wxFolderDlg::DoModal(wxWindow*, const wchar_t* initialFolder, const wchar_t* message)
+{
+    Note(L"show", {initialFolder, message ? message : L"(null)"});
+    return g_chosenFolder;
+}
