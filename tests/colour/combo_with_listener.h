@@ -19,8 +19,8 @@ protected:
         EXPECT_TRUE(ShowAndSettle(on.frame));
     }
 
+    ColourListener listener;  // outlives the popup
     const ComboOnScreen<> on;
-    ColourListener listener;
 };
 
 #endif

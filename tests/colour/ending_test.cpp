@@ -336,6 +336,7 @@ TEST_F(ColourEndingWithText, ChangesNothingByTheHotCellsNameThatTheComboHandsBac
     listener.Take();
     on.popup->SetStringValue("Red");
     EXPECT_EQ(listener.Take(), ColourCalls());
+    on.popup->EndSelection(false);
 }
 
 TEST_F(ColourEnding, ChoosesTheColourThatWasNamedAfterACancel)
