@@ -213,8 +213,9 @@ TEST(MaximizeFrame, ActsOnce)
     wx_window_state::MaximizeFrame(&frame);
     ASSERT_TRUE(PumpUntil([&] { return frame.IsMaximized() && frame.GetSize() == wxSize(1264, 960); }));
     frame.Maximize(false);
-    // Where to is for the window manager to say.
-    ASSERT_TRUE(PumpUntil([&] { return !frame.IsMaximized() && frame.GetSize().x < 1264; }));
+    ASSERT_TRUE(PumpUntil([&] { return !frame.IsMaximized() && frame.GetRect() == wxRect(300, 200, 400, 300); }))
+        << frame.IsMaximized() << " at " << frame.GetPosition().x << ";" << frame.GetPosition().y << ", "
+        << frame.GetSize().x << "x" << frame.GetSize().y;
 
     PostMaximizeEvent(&frame, &frame);
     wxTheApp->ProcessPendingEvents();
