@@ -13,6 +13,14 @@ lint_packages=(clang-format-14 clang-tidy-14 cppcheck)
 package_packages=(dpkg-dev lintian appstream desktop-file-utils mmdebstrap)
 fuzz_packages=(clang libclang-rt-dev llvm locales)
 
+as_root() {
+  if [ "$(id -u)" -eq 0 ]; then
+    "$@"
+  else
+    sudo "$@"
+  fi
+}
+
 # install_missing PACKAGE...: installs those that are not installed yet, with sudo when not root.
 install_missing() {
   local missing=() package
@@ -25,23 +33,19 @@ install_missing() {
     echo "There is no apt-get here: should the build fail, install by hand what provides ${missing[*]}" >&2
     return 0
   fi
-  local as_root=()
-  if [ "$(id -u)" -ne 0 ]; then
-    if ! command -v sudo >/dev/null; then
-      echo "As root, run: apt-get install ${missing[*]}; then try again." >&2
-      return 1
-    fi
-    as_root=(sudo)
+  if [ "$(id -u)" -ne 0 ] && ! command -v sudo >/dev/null; then
+    echo "As root, run: apt-get install ${missing[*]}; then try again." >&2
+    return 1
   fi
 
   echo "Installing, which may take some minutes: ${missing[*]}"
   local log
   log=$(mktemp)
   # The index may be missing or old: refresh it only when the first attempt fails.
-  if ! apt_install >"$log" 2>&1 && ! { "${as_root[@]}" apt-get update && apt_install; } >"$log" 2>&1; then
+  if ! apt_install >"$log" 2>&1 && ! { as_root apt-get update && apt_install; } >"$log" 2>&1; then
     tail -n 5 "$log" >&2
     rm -f "$log"
-    echo "The packages could not be installed. With a network, run: ${as_root[*]:+sudo }apt-get install ${missing[*]}" >&2
+    echo "The packages could not be installed. With a network, run as root: apt-get install ${missing[*]}" >&2
     return 1
   fi
   rm -f "$log"
@@ -49,7 +53,7 @@ install_missing() {
 
 # Reads install_missing's variables.
 apt_install() {
-  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${missing[@]}"
+  as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${missing[@]}"
 }
 
 # configure_and_build PRESET TARGET...: into build/PRESET; no target means all of them.
