@@ -9,6 +9,16 @@ class FuzzedDataProvider;
 /// finding, except those about a wildcard that is none.
 void StartToolkit();
 
+/// Makes the toolkit's assertions no finding for as long as the object lives, where @a allowed says so.
+class AssertionsAllowed
+{
+public:
+    explicit AssertionsAllowed(bool allowed);
+    ~AssertionsAllowed();
+    AssertionsAllowed(const AssertionsAllowed&) = delete;
+    AssertionsAllowed& operator=(const AssertionsAllowed&) = delete;
+};
+
 /// The remaining bytes as text: ASCII as it is, high bytes as unusual characters.
 std::wstring ConsumeWideText(FuzzedDataProvider& bytes);
 

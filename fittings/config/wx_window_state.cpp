@@ -10,6 +10,7 @@
 #include <wx/frame.h>
 
 #include <fittings/base/or_empty.h>
+#include <fittings/config/aui_layout.h>
 #include <fittings/config/ui_config_mgr.h>
 #include <fittings/platform/local_reg_store.h>
 
@@ -207,7 +208,7 @@ void wx_window_state::SaveAuiManagerState(wxAuiManager* manager, const wchar_t* 
 bool wx_window_state::LoadAuiManagerState(wxAuiManager* manager, const wchar_t* name)
 {
     const std::wstring layout = ui_config_mgr::GetConfigString(kLayoutFile, kLayoutSection, name);
-    if (layout.empty())
+    if (!fittings::IsAuiLayout(layout))
         return false;
     manager->LoadPerspective(layout, true);
     return true;

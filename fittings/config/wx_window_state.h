@@ -59,6 +59,10 @@ FITTINGS_API void SaveAuiManagerState(wxAuiManager* manager, const wchar_t* name
 
 /// Restores a stored layout and updates the window; returns false, and changes nothing, when there is none.
 ///
+/// A text that the toolkit cannot have written counts as none: one that is cut or damaged, and one with more rows or
+/// layers than the toolkit lays out at once. wxAuiManager::LoadPerspective() asserts on some of these, and never comes to
+/// an end with others.
+///
 /// As wxAuiManager::LoadPerspective() has it, panes that the stored layout does not name are hidden, and captions come
 /// back as they were stored. It cannot read back a caption with a ";", or with a "\" before a "|": keep these out of
 /// captions.

@@ -96,18 +96,23 @@ TEST_F(WindowCalls, OfSaveAuiManagerState)
 TEST_F(WindowCalls, OfLoadAuiManagerState)
 {
     wxAuiManager manager;
+    g_platform.stored = L"layout2|dock_size(5,0,0)=22|";
     EXPECT_TRUE(wx_window_state::LoadAuiManagerState(&manager, L"Main"));
-    EXPECT_EQ(g_platform.calls,
-              (Calls{L"exists [/data>ui_config]", L"create false", L"load [/data>ui_config>wxAuiManagerState.ini]",
-                     L"get [wxAuiManagerState] [Main] []", L"destroy", L"lay out [stored] [at once]"}));
+    EXPECT_EQ(
+        g_platform.calls,
+        (Calls{L"exists [/data>ui_config]", L"create false", L"load [/data>ui_config>wxAuiManagerState.ini]",
+               L"get [wxAuiManagerState] [Main] []", L"destroy", L"lay out [layout2|dock_size(5,0,0)=22|] [at once]"}));
 }
 
 TEST_F(WindowCalls, OfLoadAuiManagerStateWithoutALayout)
 {
     wxAuiManager manager;
-    g_platform.stored = L"";
-    EXPECT_FALSE(wx_window_state::LoadAuiManagerState(&manager, L"Main"));
-    EXPECT_EQ(g_platform.calls.back(), L"destroy");
+    for (const wchar_t* const text : {L"", L"stored"}) {
+        g_platform = {};
+        g_platform.stored = text;
+        EXPECT_FALSE(wx_window_state::LoadAuiManagerState(&manager, L"Main"));
+        EXPECT_EQ(g_platform.calls.back(), L"destroy");
+    }
 }
 
 }  // namespace

@@ -1,0 +1,18 @@
+#ifndef FITTINGS_CONFIG_AUI_LAYOUT_H_
+#define FITTINGS_CONFIG_AUI_LAYOUT_H_
+
+#include <string_view>
+
+namespace fittings {
+
+/// Whether wxAuiManager::SavePerspective() can have written the text, and LoadPerspective() lays it out at once.
+///
+/// False for a text that is cut, lacks a field, or has one that is no number as the toolkit writes it; and for one that
+/// is damaged so that the toolkit would count rows for minutes, or would divide by zero.
+///
+/// A ";" in a caption is fine here, but LoadPerspective() asserts on it and cuts the caption.
+bool IsAuiLayout(std::wstring_view text);
+
+}  // namespace fittings
+
+#endif
