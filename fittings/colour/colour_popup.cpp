@@ -6,6 +6,7 @@
 #include <wx/dcclient.h>
 #include <wx/settings.h>
 #include <wx/translation.h>
+#include <wx/weakref.h>
 
 #include <fittings/base/accessible.h>
 #include <fittings/base/or_empty.h>
@@ -208,12 +209,17 @@ void wxColourPopup::SetStringValue(const wxString& value)
 {
     if (m_bInternalHide || m_ending)
         return;
+    const wxWeakRef<wxColourPopup> alive(this);
     for (int i = 0; i < fittings::kColourCount; ++i) {
         const wchar_t* const name = GetColourName(i);
         if (name && value == name) {
             // A combo whose popup is dismissed hands back the name of the cell that is hot already.
             if (i != m_nCurrentSel || !m_valueWhenShown || m_crColour != GetColour(i))
                 ChangeSelection(i);
+            // A combo with a text hands it over while it opens the popup, wherever the pointer is. A listener may have
+            // destroyed the popup by now.
+            if (alive && m_valueWhenShown && m_combo && !m_combo->IsPopupShown())
+                ShowNameAtPointer("");
             return;
         }
     }

@@ -190,8 +190,8 @@ public:
     /// @name Mouse and keyboard
     /// @{
 
-    /// The combo shows the popup: nothing is hot yet, the cell of the colour in effect is chosen, and the listener hears
-    /// of it.
+    /// The combo shows the popup: nothing is hot yet and no name is shown at the pointer, the cell of the colour in effect
+    /// is chosen, and the listener hears of it.
     void OnPopup() override;
 
     /// The combo hides the popup. Unless the popup does that itself, the listener hears that nothing was chosen.
@@ -263,6 +263,7 @@ private:
     void DrawEdge(wxDC& dc, const wxRect& rect, int index);
     int CellTowards(int key) const;
     void RedrawHotCells(int old);
+    void ShowNameAtPointer(const wxString& name);
     void OnCharHook(wxKeyEvent& event);
     void TellOfTheEnd(bool ok);
     bool HideCombo();

@@ -55,6 +55,16 @@ bool IsOwnKey(int key)
     }
 }
 
+bool IsOfPalette(int index)
+{
+    return index >= 0 && index < fittings::kColourCount;
+}
+
+wxString NameOf(int index)
+{
+    return IsOfPalette(index) ? fittings::OrEmpty(GetColourName(index)) : L"";
+}
+
 int FirstPresent(std::initializer_list<int> cells)
 {
     for (const int cell : cells) {
@@ -99,6 +109,8 @@ void wxColourPopup::OnPopup()
 {
     FindCellFromColour(m_crInitialColour);
     m_nCurrentSel = CELL_NONE;
+    // The pointer may be over another cell than the one that was hot when the popup closed.
+    ShowNameAtPointer("");
     // What is chosen while no cell is hot is the colour in effect.
     m_crColour = m_crInitialColour;
     if (m_combo)
@@ -131,17 +143,20 @@ void wxColourPopup::ChangeSelection(int index)
     if (GetHandle())
         RedrawHotCells(old);
 
-    const bool isOfPalette = index >= 0 && index < fittings::kColourCount;
-    const bool isCell = isOfPalette || index == CELL_MORE_COLOURS || index == CELL_AUTOMATIC;
+    const bool isCell = IsOfPalette(index) || index == CELL_MORE_COLOURS || index == CELL_AUTOMATIC;
     m_crColour = isCell ? GetColour(index) : m_crInitialColour;
 
-    const wxString name = isOfPalette ? fittings::OrEmpty(GetColourName(index)) : L"";
-    if (name != m_strToolTip) {
-        m_strToolTip = name;
-        if (GetHandle())
-            SetToolTip(m_strToolTip);
-    }
+    ShowNameAtPointer(NameOf(index));
     DoSelChange();
+}
+
+void wxColourPopup::ShowNameAtPointer(const wxString& name)
+{
+    if (name == m_strToolTip)
+        return;
+    m_strToolTip = name;
+    if (GetHandle())
+        SetToolTip(m_strToolTip);
 }
 
 // The cell that was hot, the one that is, and the frame over both: not the whole popup, for each move of the pointer.
@@ -289,6 +304,8 @@ void wxColourPopup::OnMouseMove(wxMouseEvent& event)
     }
     if (target != m_nCurrentSel)
         ChangeSelection(target);
+    else
+        ShowNameAtPointer(NameOf(target));  // of a cell that was hot when the popup opened
 }
 
 void wxColourPopup::OnLButtonUp(wxMouseEvent& event)

@@ -253,6 +253,29 @@ TEST_P(ColourComboByKeys, OpensByF4AndGivesTheColourOfReturn)
     EXPECT_EQ(combo->GetValue(), "Grey - 40");
 }
 
+// The pointer may be over another cell then.
+TEST_P(ColourComboByKeys, ForgetsTheNameAtThePointerWhenItOpensAgain)
+{
+    PointTo(frame->GetScreenRect().GetTopRight() + wxPoint(50, 0));
+    Press(WXK_F4);
+    ExpectShown();
+    Press(WXK_UP);
+    Press(WXK_RIGHT);
+    EXPECT_TRUE(PumpUntil([&] { return popup->GetToolTipText() == "Black"; }));
+    Press(WXK_RETURN);
+    ExpectHidden();
+    EXPECT_EQ(combo->GetValue(), "Black");
+
+    Press(WXK_F4);
+    ExpectShown();
+    EXPECT_EQ(popup->GetToolTipText(), "");
+    EXPECT_EQ(popup->m_strToolTip, "");
+    PointToCell(0);
+    EXPECT_TRUE(PumpUntil([&] { return popup->GetToolTipText() == "Black"; })) << "it is said when it is hovered";
+    Press(WXK_ESCAPE);
+    ExpectHidden();
+}
+
 TEST_P(ColourComboByKeys, OpensByAltDownAndClosesByEscape)
 {
     Press(WXK_DOWN, wxMOD_ALT);

@@ -144,6 +144,21 @@ TEST(ColourTooltip, IsNotSetAgain)
     EXPECT_TRUE(on.popup->tips.empty());
 }
 
+TEST(ColourTooltip, IsForgottenWhenThePopupOpens)
+{
+    const ComboOnScreen<OpenCombo, TippedPopup> on;
+    on.popup->OnPopup();
+    EXPECT_TRUE(on.popup->tips.empty()) << "there was none";
+    on.popup->ChangeSelection(16);
+    on.popup->OnDismiss();
+    EXPECT_EQ(on.popup->m_strToolTip, "Red");
+    on.popup->OnPopup();
+    EXPECT_EQ(on.popup->m_strToolTip, "");
+    EXPECT_EQ(on.popup->GetToolTipText(), "");
+    on.popup->ChangeSelection(16);
+    EXPECT_EQ(on.popup->tips, (std::vector<wxString>{"Red", "", "Red"}));
+}
+
 // --- The combo's preview ---------------------------------------------------------------------------------------------
 
 TEST(ColourPreview, RefreshesTheComboAfterTheListenerWhenItIsToBe)
