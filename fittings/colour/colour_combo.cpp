@@ -168,10 +168,11 @@ void wxColourCombo::DrawStep(int elapsed)
 
 void wxColourCombo::EndAnimation(wxWindow& popup)
 {
-    if (m_animBitmap.IsOk())
-        wxScreenDC().DrawBitmap(m_animBitmap, m_animRect.GetPosition());
+    // Before the background is drawn, so that nothing of the outline can come back over it.
     if (m_outline)
         m_outline->Hide();
+    if (m_animBitmap.IsOk())
+        wxScreenDC().DrawBitmap(m_animBitmap, m_animRect.GetPosition());
     popup.Move(0, 0);
     const bool animated = m_animTimer.IsRunning();
     m_animTimer.Stop();
