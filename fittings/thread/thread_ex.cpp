@@ -79,7 +79,8 @@ wxThread::ExitCode wxThreadEx::Wait()
     if (m_detached || !m_running)
         return kNoExitCode;
     const wxMutexLocker lock(m_mutex);
-    if (!m_finished)
-        m_condition.Wait();  // once: nothing but the end of the thread signals it
+    // A condition may wake up without having been signalled.
+    while (!m_finished)
+        m_condition.Wait();
     return m_exitCode;
 }

@@ -1,0 +1,48 @@
+// A condition that wakes up without having been signalled, which POSIX allows.
+
+#include <atomic>
+
+#include <dlfcn.h>
+
+#include <gtest/gtest.h>
+
+#include <tests/thread/thread_support.h>
+
+namespace {
+
+std::atomic<int> g_wakeUpsToCome{0};
+
+}  // namespace
+
+// In place of the toolkit's wait for a condition, which does the same but for the wake-ups that a test asks for.
+extern "C" wxCondError WaitForCondition(wxCondition* condition) __asm__("_ZN11wxCondition4WaitEv");
+
+extern "C" wxCondError WaitForCondition(wxCondition* condition)
+{
+    using Function = wxCondError (*)(wxCondition*);
+    static const auto original = reinterpret_cast<Function>(dlsym(RTLD_NEXT, "_ZN11wxCondition4WaitEv"));
+    if (g_wakeUpsToCome > 0) {
+        --g_wakeUpsToCome;
+        return condition->WaitTimeout(1) == wxCOND_TIMEOUT ? wxCOND_NO_ERROR : wxCOND_MISC_ERROR;
+    }
+    return original(condition);
+}
+
+namespace {
+
+TEST(SpuriousWakeUp, DoesNotEndTheWaitForAThread)
+{
+    HeldThread held;
+    ASSERT_TRUE(held.thread.started.Wait());
+    g_wakeUpsToCome = 3;
+    wxThread::ExitCode code = nullptr;
+    Helper waiter([&] { code = held.thread.Wait(); });
+    EXPECT_TRUE(Becomes([] { return g_wakeUpsToCome == 0; }));
+    EXPECT_TRUE(waiter.IsBlocked());
+    EXPECT_FALSE(waiter.IsDone());
+    held.go.Set();
+    EXPECT_TRUE(waiter.Ends());
+    EXPECT_EQ(code, Code(42));
+}
+
+}  // namespace
