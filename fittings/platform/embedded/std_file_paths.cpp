@@ -4,8 +4,12 @@
 #include <cerrno>
 #include <cstddef>
 #include <mutex>
+#include <string>
+#include <vector>
 
 #include <glib.h>
+#include <pwd.h>
+#include <unistd.h>
 #include <wx/app.h>
 #include <wx/string.h>
 
@@ -64,13 +68,35 @@ std::wstring ApplicationFolderName(const wxString& applicationName)
     return name.empty() ? L"application" : name;
 }
 
+// What the password database has for the user's home folder; empty where it has none.
+std::string RegisteredHome()
+{
+    constexpr std::size_t kMostBytes = std::size_t{1} << 20;
+    passwd entry{};
+    passwd* found = nullptr;
+    std::vector<char> texts(1024);
+    while (getpwuid_r(getuid(), &entry, texts.data(), texts.size(), &found) == ERANGE && texts.size() < kMostBytes)
+        texts.resize(2 * texts.size());
+    return found && found->pw_dir ? found->pw_dir : "";
+}
+
+// Always absolute: GLib hands on what HOME says, and in a relative folder, or an empty one, settings would be stored
+// wherever the program happens to run.
+std::wstring Home()
+{
+    std::string home = g_get_home_dir();
+    if (!g_path_is_absolute(home.c_str()))
+        home = RegisteredHome();
+    return g_path_is_absolute(home.c_str()) ? file_util_ex::ConvertFromUTF8W(home.c_str()) : L"/";
+}
+
 std::wstring BaseDataDir()
 {
     const char* base = g_get_user_data_dir();
     // The XDG Base Directory Specification has a relative path ignored; GLib hands it on.
     if (g_path_is_absolute(base))
         return file_util_ex::ConvertFromUTF8W(base);
-    return file_util_ex::MakePath(file_util_ex::ConvertFromUTF8W(g_get_home_dir()), L".local/share");
+    return file_util_ex::MakePath(Home(), L".local/share");
 }
 
 }  // namespace
@@ -102,8 +128,10 @@ void SetUserDataDir(const CStdStr<wchar_t>& path)
 
 std::wstring GetAppFolderPath(const wchar_t* name)
 {
-    const char* documents = g_get_user_special_dir(G_USER_DIRECTORY_DOCUMENTS);
-    const std::wstring base = file_util_ex::ConvertFromUTF8W(documents ? documents : g_get_home_dir());
+    // Where the documents are is read from the home folder, and said relative to it.
+    const bool hasHome = g_path_is_absolute(g_get_home_dir());
+    const char* documents = hasHome ? g_get_user_special_dir(G_USER_DIRECTORY_DOCUMENTS) : nullptr;
+    const std::wstring base = documents ? file_util_ex::ConvertFromUTF8W(documents) : Home();
     return file_util_ex::MakePath(file_util_ex::MakePath(base, ApplicationFolderName(ApplicationName())), name);
 }
 

@@ -1,0 +1,56 @@
+// home_probe REGISTERED [store]: prints the user data directory and the folder "Samples" of the application's documents, a
+// line each, as for a user whose home folder in the password database is REGISTERED; "none" for a user who is not in it.
+// With "store" it stores a value before, and ends with 1 when that fails.
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <string>
+
+#include <pwd.h>
+
+#include <wx/app.h>
+#include <wx/init.h>
+
+#include <fittings/platform/file_util_ex.h>
+#include <fittings/platform/local_reg_store.h>
+#include <fittings/platform/std_file_paths.h>
+
+namespace {
+
+std::string g_registered;
+
+}  // namespace
+
+// In place of the C library's.
+int getpwuid_r(uid_t user, passwd* entry, char* texts, std::size_t size, passwd** found)
+{
+    static char nothing[] = "";
+    *found = nullptr;
+    if (g_registered == "none")
+        return 0;
+    // As for a long entry: a caller with little room has to ask again.
+    if (size < g_registered.size() + 3000)
+        return ERANGE;
+    std::strcpy(texts, g_registered.c_str());
+    *entry = {nothing, nothing, user, 0, nothing, texts, nothing};
+    *found = entry;
+    return 0;
+}
+
+int main(int argc, char** argv)
+{
+    if (argc < 2)
+        return 2;
+    g_registered = argv[1];
+    const bool stores = argc > 2 && std::strcmp(argv[2], "store") == 0;
+    wxApp::SetInstance(new wxAppConsole);
+    if (!wxEntryStart(argc, argv))
+        return 2;
+    wxAppConsole::GetInstance()->SetAppName("Ledger");
+    const bool isStored = !stores || CLocalRegStore::WriteString(L"Section", L"Key", L"value");
+    for (const std::wstring& path : {std_file_paths::GetUserDataDir(), std_file_paths::GetAppFolderPath(L"Samples")})
+        std::printf("%s\n", file_util_ex::ConvertToUTF8(path).c_str());
+    wxEntryCleanup();
+    return isStored ? 0 : 1;
+}
