@@ -1,6 +1,7 @@
 #ifndef FITTINGS_COLOUR_COLOUR_POPUP_H_
 #define FITTINGS_COLOUR_COLOUR_POPUP_H_
 
+#include <memory>
 #include <optional>
 
 #include <wx/colour.h>
@@ -272,6 +273,7 @@ private:
     bool m_ending = false;                     ///< While the listener hears of an end.
     bool m_handsValueBack = false;             ///< While a cancelled selection closes the popup.
     std::optional<wxString> m_valueWhenShown;  ///< Of the combo, while the popup is open.
+    const std::shared_ptr<const bool> m_life = std::make_shared<const bool>(true);  ///< Ends with the popup.
 
     wxDECLARE_EVENT_TABLE();
 };

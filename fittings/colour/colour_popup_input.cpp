@@ -1,37 +1,37 @@
 #include <fittings/colour/colour_popup.h>
 
 #include <initializer_list>
+#include <memory>
 #include <optional>
 #include <utility>
 
 #include <gtk/gtk.h>
 #include <wx/colordlg.h>
 #include <wx/dcclient.h>
-#include <wx/weakref.h>
 
 #include <fittings/base/or_empty.h>
 #include <fittings/colour/direct_drawing.h>
 
 namespace {
 
-// A listener may destroy the control, and the popup with it.
-using Alive = wxWeakRef<wxColourPopup>;
+// Expired when the popup is gone: a listener may destroy the control, and the popup with it.
+using Life = std::weak_ptr<const bool>;
 
 // Raises a flag of the popup and takes it down again, also after an exception of the listener's.
 class Raised
 {
 public:
-    Raised(wxColourPopup* popup, bool& flag) : m_alive(popup), m_flag(flag) { m_flag = true; }
+    Raised(Life life, bool& flag) : m_life(std::move(life)), m_flag(flag) { m_flag = true; }
     ~Raised()
     {
-        if (m_alive)
+        if (!m_life.expired())
             m_flag = false;
     }
     Raised(const Raised&) = delete;
     Raised& operator=(const Raised&) = delete;
 
 private:
-    const Alive m_alive;
+    const Life m_life;
     bool& m_flag;
 };
 
@@ -125,9 +125,9 @@ void wxColourPopup::OnDismiss()
     // A listener that closes the popup when it hears of an end needs not hear of another.
     if (m_bInternalHide || m_ending)
         return;
-    const Alive alive(this);
+    const Life life(m_life);
     RestoreValue();
-    if (!alive || !m_pListener)
+    if (life.expired() || !m_pListener)
         return;
     m_crColour = m_crInitialColour;
     // A copy: the popup may go during the call, and its members with it. So elsewhere.
@@ -187,10 +187,10 @@ void wxColourPopup::RedrawHotCells(int old)
 
 void wxColourPopup::DoSelChange()
 {
-    const Alive alive(this);
+    const Life life(m_life);
     if (m_pListener)
         m_pListener->OnColourSelChange(wxColour(m_crColour));
-    if (alive && m_bRefreshCombo && m_combo)
+    if (!life.expired() && m_bRefreshCombo && m_combo)
         m_combo->Refresh();
 }
 
@@ -199,9 +199,9 @@ void wxColourPopup::EndSelection(bool ok)
     if (ok && m_nCurrentSel == CELL_MORE_COLOURS) {
         if (!HideCombo())
             return;
-        const Alive alive(this);
+        const Life life(m_life);
         DoShowColorDlg();
-        if (!alive)
+        if (life.expired())
             return;
     }
     DoEndSel(ok);
@@ -209,7 +209,7 @@ void wxColourPopup::EndSelection(bool ok)
 
 void wxColourPopup::DoShowColorDlg()
 {
-    const Alive alive(this);
+    const Life life(m_life);
     wxColourData data;
     data.SetChooseFull(true);
     data.SetColour(m_crInitialColour);
@@ -218,7 +218,7 @@ void wxColourPopup::DoShowColorDlg()
     if (m_pCenterOn)
         CentreOn(*m_pCenterOn, dialog);
     const bool ok = dialog.ShowModal() == wxID_OK;
-    if (!alive)
+    if (life.expired())
         return;
     if (ok)
         m_crInitialColour = dialog.GetColourData().GetColour();
@@ -227,21 +227,21 @@ void wxColourPopup::DoShowColorDlg()
 
 void wxColourPopup::DoEndSel(bool ok)
 {
-    const Alive alive(this);
+    const Life life(m_life);
     TellOfTheEnd(ok);
-    if (!alive || !m_combo)
+    if (life.expired() || !m_combo)
         return;
     if (m_combo->IsPopupShown()) {
         std::optional<Raised> handsValueBack;
         if (!ok)
-            handsValueBack.emplace(this, m_handsValueBack);
+            handsValueBack.emplace(m_life, m_handsValueBack);
         if (!HideCombo())
             return;
     }
     // Where the listener has closed the popup, the combo has taken the hot cell's name for its value.
     if (!ok)
         RestoreValue();
-    if (!alive)
+    if (life.expired())
         return;
     m_valueWhenShown.reset();
     m_combo->Refresh();
@@ -249,7 +249,7 @@ void wxColourPopup::DoEndSel(bool ok)
 
 void wxColourPopup::TellOfTheEnd(bool ok)
 {
-    const Raised ending(this, m_ending);
+    const Raised ending(m_life, m_ending);
     if (ok) {
         m_crInitialColour = m_crColour;
         m_nChosenColourSel = m_nCurrentSel;
@@ -267,11 +267,11 @@ void wxColourPopup::TellOfTheEnd(bool ok)
 // Closes the popup without a report to the listener; false when the popup is gone afterwards.
 bool wxColourPopup::HideCombo()
 {
-    const Alive alive(this);
-    const Raised hiding(this, m_bInternalHide);
+    const Life life(m_life);
+    const Raised hiding(m_life, m_bInternalHide);
     if (m_combo)
         m_combo->HidePopup(false);
-    return alive;
+    return !life.expired();
 }
 
 // Closing makes the hot cell's name the combo's value, which is handed back when the popup is opened again: a plain
@@ -282,7 +282,7 @@ void wxColourPopup::RestoreValue()
     if (!m_combo || !m_valueWhenShown || m_combo->GetValue() == *m_valueWhenShown)
         return;
     const wxString value = *std::exchange(m_valueWhenShown, std::nullopt);
-    const Raised restoring(this, m_bInternalHide);
+    const Raised restoring(m_life, m_bInternalHide);
     m_combo->SetValueByUser(value);
 }
 
