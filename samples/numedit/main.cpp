@@ -26,7 +26,7 @@ public:
         panel->SetSizer(sizer);
         field->SetFocus();
 
-        field->Bind(wxEVT_TEXT_ENTER, [=](wxCommandEvent&) {
+        field->Bind(wxEVT_TEXT_ENTER, [this, panel, field, list](wxCommandEvent&) {
             if (!panel->Validate() || !panel->TransferDataFromWindow()) {
                 SetTitle("Not paid: at least 0.01");
                 return;

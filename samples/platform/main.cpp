@@ -22,7 +22,7 @@ public:
         panel->SetSizer(sizer);
         field->SetFocus();
 
-        field->Bind(wxEVT_SEARCH, [=](wxCommandEvent&) {
+        field->Bind(wxEVT_SEARCH, [this, field, whole](wxCommandEvent&) {
             const bool saved = CLocalRegStore::WriteString(L"Search", L"LastText", field->GetValue().wc_str()) &&
                                CLocalRegStore::WriteProfileBool(L"Search", L"WholeWords", whole->GetValue());
             SetTitle(saved ? "Searching for " + field->GetValue()

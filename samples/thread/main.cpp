@@ -36,7 +36,7 @@ public:
     PrimesFrame() : wxFrame(nullptr, wxID_ANY, "Primes"), m_counter(this, EVT_COUNTED)
     {
         auto* gauge = new wxGauge(this, wxID_ANY, 100);
-        Bind(EVT_COUNTED, [=](wxCommandEvent& event) {
+        Bind(EVT_COUNTED, [this, gauge](wxCommandEvent& event) {
             gauge->SetValue(event.GetInt());
             SetTitle(wxString::Format("%ld primes, %d %% done", event.GetExtraLong(), event.GetInt()));
         });
