@@ -37,6 +37,8 @@ bool MountSmallDisk(const std::string& folder)
 
 bool SetReadOnly(const std::string& folder, bool isReadOnly)
 {
-    return mount("fittings-test", folder.c_str(), "tmpfs", MS_REMOUNT | (isReadOnly ? MS_RDONLY : 0),
-                 "size=64k,mode=700") == 0;
+    unsigned long flags = MS_REMOUNT;
+    if (isReadOnly)
+        flags |= MS_RDONLY;
+    return mount("fittings-test", folder.c_str(), "tmpfs", flags, "size=64k,mode=700") == 0;
 }
