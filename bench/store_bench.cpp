@@ -79,6 +79,15 @@ void Expect(benchmark::State& state, bool holds)
         state.SkipWithError("a wrong result");
 }
 
+void SaveKeyFile(benchmark::State& state, GKeyFile* keys, const std::string& path)
+{
+    const auto flags = static_cast<GFileSetContentsFlags>(G_FILE_SET_CONTENTS_CONSISTENT | G_FILE_SET_CONTENTS_DURABLE);
+    gsize length = 0;
+    gchar* const text = g_key_file_to_data(keys, &length, nullptr);
+    Expect(state, g_file_set_contents_full(path.c_str(), text, static_cast<gssize>(length), flags, 0600, nullptr));
+    g_free(text);
+}
+
 void GetWarm(benchmark::State& state)
 {
     const Settings settings(1000);
@@ -143,15 +152,47 @@ void FileSetPeer(benchmark::State& state)
     const std::string path = settings.NamedPath();
     const std::string section = settings.Section(567);
     const std::string key = settings.Key(567);
-    const auto flags = static_cast<GFileSetContentsFlags>(G_FILE_SET_CONTENTS_CONSISTENT | G_FILE_SET_CONTENTS_DURABLE);
     int number = 0;
     for (auto _ : state) {
         GKeyFile* const keys = LoadKeyFile(state, path);
         g_key_file_set_value(keys, section.c_str(), key.c_str(), std::to_string(++number).c_str());
-        gsize length = 0;
-        gchar* const text = g_key_file_to_data(keys, &length, nullptr);
-        Expect(state, g_file_set_contents_full(path.c_str(), text, static_cast<gssize>(length), flags, 0600, nullptr));
-        g_free(text);
+        SaveKeyFile(state, keys, path);
+        g_key_file_unref(keys);
+    }
+}
+
+constexpr int kWindowValues = 22;
+
+// What a closing window stores: its geometry, flags, columns and trees.
+void CloseWindow(benchmark::State& state)
+{
+    const Settings settings(1000);
+    int number = 0;
+    for (auto _ : state) {
+        ++number;
+        CLocalRegStore::Batch batch;
+        for (int value = 0; value < kWindowValues; ++value) {
+            const std::wstring key = Wide(settings.Key(value));
+            CLocalRegStore::WriteProfileInt(L"Section0", key.c_str(), number + value);
+        }
+        Expect(state, batch.Save());
+    }
+    Expect(state, CLocalRegStore::GetProfileInt(L"Section0", Wide(settings.Key(0)).c_str(), 0) == number);
+}
+
+void CloseWindowPeer(benchmark::State& state)
+{
+    const Settings settings(1000);
+    const std::string path = settings.DefaultPath();
+    int number = 0;
+    for (auto _ : state) {
+        ++number;
+        GKeyFile* const keys = LoadKeyFile(state, path);
+        for (int value = 0; value < kWindowValues; ++value) {
+            g_key_file_set_value(keys, "Section0", settings.Key(value).c_str(),
+                                 std::to_string(number + value).c_str());
+        }
+        SaveKeyFile(state, keys, path);
         g_key_file_unref(keys);
     }
 }
@@ -191,9 +232,11 @@ BENCHMARK(GetWarm)->Name("store/get-warm");
 BENCHMARK(GetWarmPeer)->Name("store/get-warm/peer");
 BENCHMARK(FileGet)->Name("store/file-get");
 BENCHMARK(FileGetPeer)->Name("store/file-get/peer");
-// What these two do is mostly waiting for the disk.
+// What these four do is mostly waiting for the disk.
 BENCHMARK(FileSet)->Name("store/file-set")->UseRealTime();
 BENCHMARK(FileSetPeer)->Name("store/file-set/peer")->UseRealTime();
+BENCHMARK(CloseWindow)->Name("store/close-window")->UseRealTime();
+BENCHMARK(CloseWindowPeer)->Name("store/close-window/peer")->UseRealTime();
 BENCHMARK_CAPTURE(LoadGetSave, 10k, 10'000)->Name("store/10k-load-get-save")->UseRealTime();
 BENCHMARK_CAPTURE(LoadGetSave, 100k, 100'000)->Name("store/100k-load-get-save")->UseRealTime();
 BENCHMARK_CAPTURE(LoadGetSavePeer, 100k, 100'000)->Name("store/100k-load-get-save/peer")->UseRealTime();

@@ -13,6 +13,7 @@
 
 #include <fittings/base/version.h>
 #include <fittings/config/wx_window_state.h>
+#include <fittings/platform/local_reg_store.h>
 
 #include "accessible_name.h"
 #include "browser_page.h"
@@ -225,6 +226,7 @@ void GalleryFrame::OnAbout()
 
 void GalleryFrame::OnClose(wxCloseEvent& event)
 {
+    CLocalRegStore::Batch together;
     m_browser->SaveSettings();
     m_numbers->SaveSettings();
     m_colours->SaveSettings();

@@ -160,6 +160,7 @@ void wx_window_state::SaveState(wxWindow* window, const wchar_t* name)
 void wx_window_state::SaveState(wxFrame* frame, const wchar_t* name)
 {
     const bool maximized = frame->IsMaximized();
+    CLocalRegStore::Batch both;
     SaveState(static_cast<wxWindow*>(frame), name);
     CLocalRegStore::WriteProfileBool(kMaximizedSection, OrEmpty(name), maximized);
 }

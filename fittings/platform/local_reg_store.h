@@ -1,7 +1,9 @@
 #ifndef FITTINGS_PLATFORM_LOCAL_REG_STORE_H_
 #define FITTINGS_PLATFORM_LOCAL_REG_STORE_H_
 
+#include <memory>
 #include <string>
+#include <vector>
 
 #include <fittings/base/export.h>
 
@@ -13,9 +15,14 @@ class CIniFile;
 /// Every text may hold any character, line breaks and lone surrogates included, and comes back exactly; null counts as
 /// empty. Sections, keys and values are told apart by their exact characters, upper and lower case included.
 ///
-/// The default store is the file settings.ini in std_file_paths::GetUserDataDir(). Each write re-reads it under a lock
-/// and saves it before returning, so that several processes of one application keep each other's updates. A write waits
-/// up to two seconds for another process to finish its own, a read for none.
+/// The default store is the file settings.ini in std_file_paths::GetUserDataDir(), shared by all processes of one
+/// application. A write re-reads it, changes its own keys alone, and is on the disk when it returns true; a write by another
+/// process at the same time is kept too. A write waits two seconds at most for another process that is stuck, a read for
+/// none. On file systems that cannot exchange two files in one step, such as NFS, two writes within the same few microseconds
+/// can still lose one of them, but only if the lock file settings.ini.lock cannot be used either.
+///
+/// A file of more than 64 MiB or of a million lines is not a settings file: it is not read, and nothing is stored that would
+/// make one.
 ///
 /// The default store may be used from any thread, and until the process ends; a CIniFile from one thread at a time.
 ///
@@ -47,6 +54,17 @@ public:
     /// Sets a value, creating section and key as needed. Only in memory: Save() makes it last.
     static void WriteString(CIniFile& ini, const wchar_t* section, const wchar_t* key, const wchar_t* value);
 
+    /// Removes a key. Only in memory, as WriteString() is. True when there was such a key.
+    static bool DeleteKey(CIniFile& ini, const wchar_t* section, const wchar_t* key);
+
+    /// Returns the names of all sections, each once, in the order of the file; those written since come last. The keys before
+    /// the first section belong to none.
+    static std::vector<std::wstring> GetSectionNames(const CIniFile& ini);
+
+    /// Returns the names of the keys of @a section, each once, in the order of the file; those written since come last. Empty
+    /// when there is no such section.
+    static std::vector<std::wstring> GetKeyNames(const CIniFile& ini, const wchar_t* section);
+
     /// Writes the whole object to @a path, creating or replacing the file in one step.
     ///
     /// What was read from a file and not changed since is written as it was read: comments, blank lines, lines that
@@ -76,8 +94,22 @@ public:
     /// Stores a boolean. Returns as WriteString() does.
     static bool WriteProfileBool(const wchar_t* section, const wchar_t* key, bool value);
 
+    /// Returns a stored integer, or @a defaultValue when there is none or the stored text is not a decimal number that fits.
+    static int GetProfileInt(const wchar_t* section, const wchar_t* key, int defaultValue);
+
+    /// Stores an integer as decimal text. Returns as WriteString() does.
+    static bool WriteProfileInt(const wchar_t* section, const wchar_t* key, int value);
+
     /// Removes a key. Returns false when the store could not be saved; true also when there was no such key.
     static bool DeleteProfile(const wchar_t* section, const wchar_t* key);
+
+    /// Returns the names of all sections, each once, in the order of the file.
+    static std::vector<std::wstring> GetSectionNames();
+
+    /// Returns the names of the keys of @a section, each once, in the order of the file. Empty when there is no such section.
+    static std::vector<std::wstring> GetKeyNames(const wchar_t* section);
+
+    class Batch;
 
     /// @}
     /// @name The default store, narrow text
@@ -92,6 +124,38 @@ public:
     /// Stores a value for good. Returns as the wide operation does.
     static bool WriteString(const char* section, const char* key, const char* value);
     /// @}
+};
+
+/// Collects what its thread stores in the default store, and saves it as one: for all that a closing window remembers.
+///
+/// While an object lives, each write of its thread to the default store answers true and is seen by that thread's reads; other
+/// threads and processes see it from the save on. Objects may be nested; the outermost saves when it ends. To be destroyed by
+/// the thread that made it, in the reverse order.
+///
+/// @code
+/// CLocalRegStore::Batch batch;
+/// wx_window_state::SaveState(frame, L"Main");
+/// tree->SaveState("Folders", root);
+/// @endcode
+class FITTINGS_API CLocalRegStore::Batch
+{
+public:
+    Batch();
+
+    /// Saves what has not been saved yet when this is the outermost object. Call Save() to learn whether that succeeds.
+    ~Batch();
+
+    Batch(const Batch&) = delete;
+    Batch& operator=(const Batch&) = delete;
+
+    /// Saves what this thread has collected so far, by the objects around this one too: all of it or nothing. Returns false
+    /// when it could not be saved; it is then still collected, and the outermost object tries again.
+    bool Save();
+
+private:
+    struct Collected;
+
+    std::unique_ptr<Collected> m_collected;  ///< Of the outermost object.
 };
 
 #endif

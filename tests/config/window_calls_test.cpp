@@ -38,6 +38,8 @@ TEST_F(WindowCalls, OfSaveStateOfAFrame)
     wx_window_state::SaveState(&frame, L"Main");
     EXPECT_EQ(g_platform.calls, (Calls{L"write to default store [wxWindowState] [Main] [100;50;800;600]",
                                        L"write flag [wxWindowMaximize] [Main] [false]"}));
+    EXPECT_EQ(g_platform.savesWithoutBatch, 0);
+    EXPECT_EQ(g_platform.batches, 0);
 }
 
 TEST_F(WindowCalls, OfLoadStateOfAWindow)

@@ -230,7 +230,7 @@ INSTANTIATE_TEST_SUITE_P(, ClockJumpsByAnHour, testing::Values(-kHour, kHour), N
 TEST(AFileFromTheFuture, IsClearedAwayOnceItsTimeIsPast)
 {
     TempUserData data;
-    const std::string leftover = data / ".fittings-save-killed";
+    const std::string leftover = data / ".fittings-save-0c5a1a4e-3f0b-4d5c-9a55-6a1f0c9d7e10";
     WriteFile(leftover, "half");
     JumpingClock clock(-kHour);
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"1"));

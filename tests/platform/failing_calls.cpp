@@ -5,6 +5,7 @@
 
 #include <cerrno>
 #include <cstdarg>
+#include <cstdio>
 
 #include <dlfcn.h>
 #include <fcntl.h>
@@ -73,11 +74,16 @@ TAKE_PLACE(int, ftruncate64, (int fd, off64_t size), (fd, size))
 TAKE_PLACE(int, fallocate, (int fd, int mode, off_t from, off_t size), (fd, mode, from, size))
 TAKE_PLACE(int, fallocate64, (int fd, int mode, off64_t from, off64_t size), (fd, mode, from, size))
 TAKE_PLACE(int, rename, (const char* from, const char* to) noexcept, (from, to))
+TAKE_PLACE(int, renameat2, (int fromFolder, const char* from, int toFolder, const char* to, unsigned int flags) noexcept,
+           (fromFolder, from, toFolder, to, flags))
+TAKE_PLACE(ssize_t, readlink, (const char* path, char* to, size_t size) noexcept, (path, to, size))
+TAKE_PLACE(off_t, lseek, (int fd, off_t to, int from) noexcept, (fd, to, from))
 TAKE_PLACE(int, link, (const char* from, const char* to) noexcept, (from, to))
 TAKE_PLACE(int, unlink, (const char* path) noexcept, (path))
 TAKE_PLACE(int, mkdir, (const char* path, mode_t mode) noexcept, (path, mode))
 TAKE_PLACE(int, chmod, (const char* path, mode_t mode) noexcept, (path, mode))
 TAKE_PLACE(int, chown, (const char* path, uid_t user, gid_t group) noexcept, (path, user, group))
+TAKE_PLACE(int, lchown, (const char* path, uid_t user, gid_t group) noexcept, (path, user, group))
 TAKE_PLACE(int, fstat, (int fd, struct stat* info) noexcept, (fd, info))
 TAKE_PLACE(int, fstat64, (int fd, struct stat64* info) noexcept, (fd, info))
 TAKE_PLACE(int, stat, (const char* path, struct stat* info) noexcept, (path, info))

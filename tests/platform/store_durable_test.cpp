@@ -1,6 +1,7 @@
 // What is stored is on the disk when the call returns: the file's bytes before it is renamed, the folder's entry after.
 
 #include <cstdio>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -38,17 +39,47 @@ extern "C" int rename(const char* from, const char* to) noexcept
     return static_cast<int>(syscall(SYS_renameat, AT_FDCWD, from, AT_FDCWD, to));
 }
 
+extern "C" int renameat2(int fromFolder, const char* from, int toFolder, const char* to, unsigned int flags) noexcept
+{
+    if (g_calls)
+        g_calls->push_back(flags == RENAME_EXCHANGE ? "exchange" : "rename");
+    return static_cast<int>(syscall(SYS_renameat2, fromFolder, from, toFolder, to, flags));
+}
+
 namespace {
+
+using Calls = std::vector<std::string>;
+
+Calls CallsOf(const std::function<void()>& work)
+{
+    Calls calls;
+    g_calls = &calls;
+    work();
+    g_calls = nullptr;
+    return calls;
+}
 
 TEST(StoringAValue, ReachesTheDiskBeforeItReturns)
 {
     const TempUserData data;
-    std::vector<std::string> calls;
-    g_calls = &calls;
-    const bool stored = CLocalRegStore::WriteString(L"Section", L"Key", L"value");
-    g_calls = nullptr;
-    EXPECT_TRUE(stored);
-    EXPECT_EQ(calls, (std::vector<std::string>{"sync file", "rename", "sync folder"}));
+    EXPECT_EQ(CallsOf([] { EXPECT_TRUE(CLocalRegStore::WriteString(L"Section", L"Key", L"value")); }),
+              (Calls{"sync file", "rename", "sync folder"}));
+    EXPECT_EQ(CallsOf([] { EXPECT_TRUE(CLocalRegStore::WriteString(L"Section", L"Key", L"other")); }),
+              (Calls{"sync file", "exchange", "sync folder"}));
+}
+
+TEST(ABatchOfTwentyTwoValues, ReachesTheDiskByOneSave)
+{
+    const TempUserData data;
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"Section", L"Key", L"value"));
+    EXPECT_EQ(CallsOf([] {
+                  CLocalRegStore::Batch batch;
+                  for (int i = 0; i < 22; ++i)
+                      EXPECT_TRUE(CLocalRegStore::WriteProfileInt(L"Window", std::to_wstring(i).c_str(), i));
+              }),
+              (Calls{"sync file", "exchange", "sync folder"}));
+    for (int i = 0; i < 22; ++i)
+        EXPECT_EQ(CLocalRegStore::GetProfileInt(L"Window", std::to_wstring(i).c_str(), -1), i);
 }
 
 }  // namespace

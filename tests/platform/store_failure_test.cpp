@@ -407,20 +407,30 @@ TEST(TheDefaultStore, MakesNothingUntilSomethingIsStored)
     EXPECT_FALSE(fs::exists(data / "new"));
 }
 
-// Made by nobody but this store, and told from names that a person gives by how they begin.
+// Staging files bear a name that no person gives: a prefix and a UUID.
 TEST(LeftoversOfAKilledProcess, GoAMinuteLaterAndNothingElseDoes)
 {
-    TempFolder folder;
+    const TempFolder folder;
+    const std::string leftover = ".fittings-save-0c5a1a4e-3f0b-4d5c-9a55-6a1f0c9d7e10";
+    const std::string recent = ".fittings-save-7a3f1b9c-64c2-4f86-8f1e-2b9d0e5c4a31";
+    const std::vector<std::string> others = {".a",
+                                             ".fittings-save-backup",
+                                             ".fittings-save-mine",
+                                             ".fittings-save-0c5a1a4e-3f0b-4d5c-9a55-6a1f0c9d7e10.old",
+                                             "a.ini.A1b2C3",
+                                             "a.ini.backup"};
     const timespec old[] = {{1'000'000'000, 0}, {1'000'000'000, 0}};
-    for (const char* name :
-         {".fittings-save-1-1", ".fittings-save-99-2.A1b2C3", "a.ini.backup", "a.ini.A1b2C3", ".a"}) {
+    std::vector<std::string> expected = others;
+    expected.insert(expected.end(), {"a.ini", recent});
+    std::sort(expected.begin(), expected.end());
+    for (const std::string& name : others)
         WriteFile(folder / name, "x");
+    WriteFile(folder / leftover, "x");
+    for (const std::string& name : NamesIn(folder.Path()))
         ASSERT_EQ(utimensat(AT_FDCWD, (folder / name).c_str(), old, 0), 0);
-    }
-    WriteFile(folder / ".fittings-save-1-2.A1b2C3", "x");
+    WriteFile(folder / recent, "x");
     EXPECT_TRUE(SaveKey(folder / "a.ini", L"v"));
-    EXPECT_EQ(NamesIn(folder.Path()),
-              (std::vector<std::string>{".a", ".fittings-save-1-2.A1b2C3", "a.ini", "a.ini.A1b2C3", "a.ini.backup"}));
+    EXPECT_EQ(NamesIn(folder.Path()), expected);
 }
 
 }  // namespace

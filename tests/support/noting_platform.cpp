@@ -39,6 +39,26 @@ public:
     ~CIniFile() { --g_platform.files; }
 };
 
+struct CLocalRegStore::Batch::Collected
+{
+};
+
+CLocalRegStore::Batch::Batch()
+{
+    ++g_platform.batches;
+}
+
+CLocalRegStore::Batch::~Batch()
+{
+    --g_platform.batches;
+}
+
+bool CLocalRegStore::Batch::Save()
+{
+    Note(L"save batch");
+    return g_platform.saves;
+}
+
 CIniFile* CLocalRegStore::CreateInitFile(bool reserved)
 {
     Note(reserved ? L"create true" : L"create false");
@@ -84,6 +104,7 @@ std::wstring CLocalRegStore::GetString(const wchar_t* section, const wchar_t* ke
 bool CLocalRegStore::WriteString(const wchar_t* section, const wchar_t* key, const wchar_t* value)
 {
     Note(L"write to default store", {section, key, value});
+    g_platform.savesWithoutBatch += g_platform.batches == 0;
     return g_platform.saves;
 }
 
@@ -96,7 +117,50 @@ bool CLocalRegStore::GetProfileBool(const wchar_t* section, const wchar_t* key, 
 bool CLocalRegStore::WriteProfileBool(const wchar_t* section, const wchar_t* key, bool value)
 {
     Note(L"write flag", {section, key, value ? L"true" : L"false"});
+    g_platform.savesWithoutBatch += g_platform.batches == 0;
     return g_platform.saves;
+}
+
+int CLocalRegStore::GetProfileInt(const wchar_t* section, const wchar_t* key, int defaultValue)
+{
+    Note(L"get integer", {section, key, std::to_wstring(defaultValue)});
+    return defaultValue;
+}
+
+bool CLocalRegStore::WriteProfileInt(const wchar_t* section, const wchar_t* key, int value)
+{
+    Note(L"write integer", {section, key, std::to_wstring(value)});
+    return g_platform.saves;
+}
+
+bool CLocalRegStore::DeleteKey(CIniFile&, const wchar_t* section, const wchar_t* key)
+{
+    Note(L"delete", {section, key});
+    return true;
+}
+
+std::vector<std::wstring> CLocalRegStore::GetSectionNames(const CIniFile&)
+{
+    Note(L"sections");
+    return {};
+}
+
+std::vector<std::wstring> CLocalRegStore::GetKeyNames(const CIniFile&, const wchar_t* section)
+{
+    Note(L"keys", {section});
+    return {};
+}
+
+std::vector<std::wstring> CLocalRegStore::GetSectionNames()
+{
+    Note(L"sections of default store");
+    return {};
+}
+
+std::vector<std::wstring> CLocalRegStore::GetKeyNames(const wchar_t* section)
+{
+    Note(L"keys of default store", {section});
+    return {};
 }
 
 bool CLocalRegStore::DeleteProfile(const wchar_t* section, const wchar_t* key)

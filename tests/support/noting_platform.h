@@ -18,6 +18,8 @@ struct NotingPlatform
     bool saves = true;
     std::wstring stored = L"stored";  ///< Every text that is read; ASCII.
     int files = 0;                    ///< File objects alive.
+    int batches = 0;                  ///< Batches alive.
+    int savesWithoutBatch = 0;        ///< Writes to the default store that saved at once.
 };
 
 extern NotingPlatform g_platform;

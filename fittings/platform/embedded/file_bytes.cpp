@@ -2,7 +2,10 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <memory>
+#include <thread>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -11,44 +14,27 @@
 #include <glib.h>
 #include <glib/gstdio.h>
 
+#include <fittings/platform/embedded/file_descriptor.h>
+#include <fittings/platform/embedded/staged_file.h>
+
 namespace fittings {
 
 namespace {
 
-// A bigger one is no settings file, and reading it might take all memory.
-constexpr off_t kMaxFileSize = off_t{1} << 30;
-
-constexpr const char* kStagingPrefix = ".fittings-save-";
-
-// What is older was left behind by a process that was killed while it saved.
-constexpr time_t kStagingLifetimeSeconds = 60;
-
 using GText = std::unique_ptr<char, decltype(&g_free)>;
 
-class FileDescriptor
-{
-public:
-    explicit FileDescriptor(int fd) : m_fd(fd) {}
-    ~FileDescriptor()
-    {
-        if (m_fd >= 0)
-            close(m_fd);
-    }
-    FileDescriptor(const FileDescriptor&) = delete;
-    FileDescriptor& operator=(const FileDescriptor&) = delete;
+constexpr std::chrono::milliseconds kTimeToFillAFile(500);
+constexpr std::chrono::milliseconds kPause(1);
 
-    int Get() const { return m_fd; }
-
-private:
-    int m_fd;
-};
+// How often a change that came at the very moment of an exchange is merged. Each time takes another one.
+constexpr int kMaxMerges = 100;
 
 bool IsBefore(const timespec& a, const timespec& b)
 {
     return a.tv_sec != b.tv_sec ? a.tv_sec < b.tv_sec : a.tv_nsec < b.tv_nsec;
 }
 
-// Past the tick of the clock that stamped a file: one that changes from now on gets another stamp. Stamps without a
+// Later than the file's timestamp can resolve: a file that changes from now on gets another stamp. Stamps without a
 // fraction come from file systems that keep whole seconds, some every second one only.
 bool IsPastTick(const timespec& stamp, const timespec& now)
 {
@@ -80,19 +66,19 @@ bool ReadAll(int fd, std::size_t expected, std::string& bytes)
     }
 }
 
-std::string FolderOf(const std::string& path)
-{
-    return GText(g_path_get_dirname(path.c_str()), g_free).get();
-}
-
-// The path behind the links at the end of @a path, also where there is no file yet. A circle gives a path that
-// cannot be opened.
-std::string FollowLinks(std::string path)
+// The path behind the links at the end of @a path, also where there is no file yet. None on an error. A circle gives a path
+// that cannot be opened.
+std::optional<std::string> FollowLinks(std::string path)
 {
     for (int links = 0; links < 40; ++links) {
-        const GText target(g_file_read_link(path.c_str(), nullptr), g_free);
-        if (!target)
-            break;
+        GError* error = nullptr;
+        const GText target(g_file_read_link(path.c_str(), &error), g_free);
+        if (!target) {
+            const bool isNoLink = g_error_matches(error, G_FILE_ERROR, G_FILE_ERROR_INVAL) ||
+                                  g_error_matches(error, G_FILE_ERROR, G_FILE_ERROR_NOENT);
+            g_error_free(error);
+            return isNoLink ? std::optional<std::string>(path) : std::nullopt;
+        }
         path = g_path_is_absolute(target.get()) ? target.get() : FolderOf(path) + "/" + target.get();
     }
     return path;
@@ -105,44 +91,121 @@ bool HoldsBytes(const std::string& path, const struct stat& info, std::string_vi
            ReadFileBytes(path, old).result == ReadResult::Read && old == bytes;
 }
 
-void RemoveOldStagingFiles(const std::string& folder)
-{
-    GDir* const dir = g_dir_open(folder.c_str(), 0, nullptr);
-    if (!dir)
-        return;
-    const time_t now = time(nullptr);
-    while (const char* const name = g_dir_read_name(dir)) {
-        struct stat info;
-        const std::string path = folder + "/" + name;
-        if (g_str_has_prefix(name, kStagingPrefix) && lstat(path.c_str(), &info) == 0 &&
-            info.st_mtime + kStagingLifetimeSeconds < now)
-            unlink(path.c_str());
-    }
-    g_dir_close(dir);
-}
-
-// Makes an empty file that nobody else writes, processes in other containers included. Unlike the temporary file
-// beside a file of GLib's own making, its name is told from any that a person gives. An empty path on any error.
-std::string NewStagingFile(const std::string& folder)
-{
-    std::string path = folder + "/" + kStagingPrefix + "XXXXXX";
-    const FileDescriptor file(g_mkstemp_full(path.data(), O_WRONLY | O_CLOEXEC, 0600));
-    return file.Get() >= 0 ? path : std::string();
-}
-
-// The bytes are on the disk when this returns. Renaming, and what makes that last, is left to the caller.
-bool WriteStagingFile(const std::string& path, std::string_view bytes)
-{
-    return g_file_set_contents_full(path.c_str(), bytes.data(), static_cast<gssize>(bytes.size()),
-                                    G_FILE_SET_CONTENTS_DURABLE, 0600, nullptr);
-}
-
-// Makes a renaming last. What cannot be synced is stored all the same, and comes back unless the power fails now.
+// Makes the rename durable. If syncing fails, only a power cut loses it.
 void SyncFolder(const std::string& folder)
 {
     const FileDescriptor descriptor(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (descriptor.Get() >= 0)
         fsync(descriptor.Get());
+}
+
+// Half a second for a program that has emptied a file in place to fill it.
+FileContent ReadFilledBytes(const std::string& path, std::string& bytes)
+{
+    for (;;) {
+        bytes.clear();
+        const FileContent content = ReadFileBytes(path, bytes);
+        if (!content.IsEmptyForNow())
+            return content;
+        std::this_thread::sleep_for(kPause);
+    }
+}
+
+// What an exchange has displaced. Another process may take its new name for a leftover and remove it: then it is the file
+// that was open before, as any other is too new for that.
+std::optional<std::string> ReadDisplaced(const StagedFile& staged, int before)
+{
+    std::string bytes;
+    const FileContent content = ReadFilledBytes(staged.Path(), bytes);
+    if (content.result == ReadResult::Read)
+        return bytes;
+    struct stat info;
+    if (content.result == ReadResult::Missing && fstat(before, &info) == 0 && lseek(before, 0, SEEK_SET) == 0 &&
+        ReadAll(before, static_cast<std::size_t>(info.st_size), bytes))
+        return bytes;
+    return std::nullopt;
+}
+
+// The target of an update, and what is known of it.
+struct Target
+{
+    std::string path;
+    std::optional<struct stat> old;  ///< None when there is no file.
+};
+
+// None when the file cannot be replaced.
+std::optional<Target> PrepareTarget(const std::string& path)
+{
+    const auto target = FollowLinks(path);
+    if (!target)
+        return std::nullopt;
+    struct stat old;
+    if (lstat(target->c_str(), &old) == 0) {
+        // Renaming to the place of a folder fails by itself; a device or a pipe would be replaced.
+        if (!S_ISREG(old.st_mode))
+            return std::nullopt;
+        return Target{*target, old};
+    }
+    if (errno != ENOENT || g_mkdir_with_parents(FolderOf(*target).c_str(), 0700) != 0)
+        return std::nullopt;
+    return Target{*target, std::nullopt};
+}
+
+const struct stat* OldOf(const Target& target)
+{
+    return target.old ? &*target.old : nullptr;
+}
+
+UpdateResult ResultOf(PlaceResult placed)
+{
+    switch (placed) {
+    case PlaceResult::Done:
+        return UpdateResult::Saved;
+    case PlaceResult::NotAsExpected:
+        return UpdateResult::Outdated;
+    case PlaceResult::Failed:
+    case PlaceResult::Unsupported:
+        break;
+    }
+    return UpdateResult::Failed;
+}
+
+// After an exchange: looks at what was displaced, and puts that and our change together as long as it is another than
+// what was expected there. Whoever changes the file meanwhile is displaced in turn, and merged in turn.
+UpdateResult MergeDisplaced(const Target& target, StagedFile& staged, int before, std::string_view expected,
+                            std::string_view put, const FileUpdate& update, int merges)
+{
+    const auto displaced = ReadDisplaced(staged, before);
+    if (displaced && *displaced == expected)
+        return UpdateResult::Saved;
+    const auto merged =
+        displaced && merges < kMaxMerges ? update.merge(expected, put, *displaced) : std::optional<std::string>();
+    if (merged) {
+        StagedFile next(target.path, *merged, OldOf(target));
+        const FileDescriptor ours(open(target.path.c_str(), O_RDONLY | O_CLOEXEC));
+        if (next.IsWritten() && next.Exchange() == PlaceResult::Done)
+            return MergeDisplaced(target, next, ours.Get(), put, *merged, update, merges + 1);
+    }
+    // What was displaced goes back. If not even that can be done, ours stays.
+    return staged.Exchange() == PlaceResult::Done ? UpdateResult::Failed : UpdateResult::Saved;
+}
+
+UpdateResult ExchangeAndMerge(const Target& target, StagedFile& staged, const FileUpdate& update)
+{
+    const FileDescriptor before(open(target.path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    struct stat info;
+    if (before.Get() < 0)
+        return errno == ENOENT ? UpdateResult::Outdated : UpdateResult::Failed;
+    if (fstat(before.Get(), &info) != 0)
+        return UpdateResult::Failed;
+    if (!(FileIdentity(info) == *update.found.identity))
+        return UpdateResult::Outdated;
+    const PlaceResult placed = staged.Exchange();
+    if (placed == PlaceResult::Unsupported)
+        return ResultOf(staged.Replace());
+    if (placed != PlaceResult::Done)
+        return ResultOf(placed);
+    return MergeDisplaced(target, staged, before.Get(), update.foundBytes, update.newBytes, update, 0);
 }
 
 }  // namespace
@@ -181,53 +244,87 @@ FileContent ReadFileBytes(const std::string& path, std::string& bytes)
     return {ReadResult::Read, FileIdentity(info), IsPastTick(info.st_ctim, now)};
 }
 
+bool FileContent::IsEmptyForNow() const
+{
+    if (result != ReadResult::Read || !identity || identity->size != 0)
+        return false;
+    timespec now;
+    clock_gettime(CLOCK_REALTIME, &now);
+    const auto age = std::chrono::seconds(now.tv_sec - identity->modified.tv_sec) +
+                     std::chrono::nanoseconds(now.tv_nsec - identity->modified.tv_nsec);
+    return age >= age.zero() && age < kTimeToFillAFile;
+}
+
 bool ReplaceFileBytes(const std::string& path, std::string_view bytes)
 {
-    const std::string target = FollowLinks(path);
-    const std::string folder = FolderOf(target);
-    struct stat old;
-    const bool exists = lstat(target.c_str(), &old) == 0;
-    if (exists && HoldsBytes(target, old, bytes))
+    const auto target = PrepareTarget(path);
+    if (!target || bytes.size() > static_cast<std::size_t>(kMaxFileSize))
+        return false;
+    if (target->old && HoldsBytes(target->path, *target->old, bytes))
         return true;
-    // Renaming to the place of a folder fails by itself; a device or a pipe would be replaced.
-    if (exists ? !S_ISREG(old.st_mode) : errno != ENOENT)
+    StagedFile staged(target->path, bytes, OldOf(*target));
+    if (!staged.IsWritten() || staged.Replace() != PlaceResult::Done)
         return false;
-    if (!exists && g_mkdir_with_parents(folder.c_str(), 0700) != 0)
-        return false;
-
-    RemoveOldStagingFiles(folder);
-    const std::string staging = NewStagingFile(folder);
-    if (staging.empty())
-        return false;
-    if (!WriteStagingFile(staging, bytes)) {
-        unlink(staging.c_str());
-        return false;
-    }
-    if (exists) {
-        // Where they cannot be kept, as on a file system without owners, saving matters more.
-        if (old.st_uid != geteuid() || old.st_gid != getegid())
-            static_cast<void>(!chown(staging.c_str(), old.st_uid, old.st_gid));
-        static_cast<void>(!chmod(staging.c_str(), old.st_mode & 07777));
-    }
-    if (rename(staging.c_str(), target.c_str()) != 0) {
-        unlink(staging.c_str());
-        return false;
-    }
-    SyncFolder(folder);
+    SyncFolder(FolderOf(target->path));
     return true;
+}
+
+UpdateResult UpdateFileBytes(const std::string& path, const FileUpdate& update)
+{
+    if (update.found.result == ReadResult::Read && update.newBytes == update.foundBytes)
+        return UpdateResult::Saved;
+    const auto target = PrepareTarget(path);
+    if (!target || update.newBytes.size() > static_cast<std::size_t>(kMaxFileSize))
+        return UpdateResult::Failed;
+    if (target->old.has_value() != (update.found.result == ReadResult::Read))
+        return UpdateResult::Outdated;
+    StagedFile staged(target->path, update.newBytes, OldOf(*target));
+    if (!staged.IsWritten())
+        return UpdateResult::Failed;
+
+    UpdateResult result = UpdateResult::Failed;
+    if (target->old) {
+        result = ExchangeAndMerge(*target, staged, update);
+    } else {
+        PlaceResult placed = staged.PutNew();
+        if (placed == PlaceResult::Unsupported)
+            placed = IdentityOf(target->path) ? PlaceResult::NotAsExpected : staged.Replace();
+        result = ResultOf(placed);
+    }
+    if (result == UpdateResult::Saved)
+        SyncFolder(FolderOf(target->path));
+    return result;
 }
 
 std::string KeepUnderOtherName(const std::string& path)
 {
-    const std::string target = FollowLinks(path);
+    const auto target = FollowLinks(path);
+    if (!target)
+        return {};
     for (int number = 1; number < 1000; ++number) {
-        std::string other = target + ".unreadable" + (number > 1 ? "." + std::to_string(number) : "");
-        if (link(target.c_str(), other.c_str()) == 0)
+        std::string other = *target + ".unreadable" + (number > 1 ? "." + std::to_string(number) : "");
+        if (link(target->c_str(), other.c_str()) == 0)
             return other;
         if (errno != EEXIST)
             break;
     }
     return {};
+}
+
+void GiveToOwnerOfFolder(const std::string& path, const std::string& folder)
+{
+    struct stat owner;
+    struct stat file;
+    if (geteuid() != 0 || stat(folder.c_str(), &owner) != 0 || owner.st_uid == 0)
+        return;
+    // Another name of the file could be in a folder of root's.
+    if (lstat(path.c_str(), &file) == 0 && S_ISREG(file.st_mode) && file.st_uid == 0 && file.st_nlink == 1)
+        static_cast<void>(!lchown(path.c_str(), owner.st_uid, owner.st_gid));
+}
+
+std::string FolderOf(const std::string& path)
+{
+    return GText(g_path_get_dirname(path.c_str()), g_free).get();
 }
 
 }  // namespace fittings

@@ -1,67 +1,108 @@
 #include <fittings/platform/embedded/file_lock.h>
 
 #include <cerrno>
-#include <chrono>
 #include <thread>
 
 #include <fcntl.h>
-#include <unistd.h>
+
+#include <fittings/platform/embedded/file_bytes.h>
 
 namespace fittings {
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
-
-constexpr std::chrono::seconds kPatience(2);
 constexpr std::chrono::milliseconds kPause(1);
+
+// For this long the lock may stay free although somebody has the turn to take it. A process that was stopped while it
+// waited would keep all others waiting otherwise.
+constexpr std::chrono::milliseconds kTimeToUseTheTurn(25);
 
 // The lock itself, and the turn to be the next who gets it: without the turn, a process that stores in a loop would
 // take the lock again before those who wait look at it.
 constexpr off_t kLockByte = 0;
 constexpr off_t kTurnByte = 1;
 
-bool SetLock(int fd, short type, off_t byte)
+struct flock RequestFor(short type, off_t byte)
 {
-    struct flock lock = {};
-    lock.l_type = type;
-    lock.l_whence = SEEK_SET;
-    lock.l_start = byte;
-    lock.l_len = 1;
-    return fcntl(fd, F_OFD_SETLK, &lock) == 0;
+    struct flock request = {};
+    request.l_type = type;
+    request.l_whence = SEEK_SET;
+    request.l_start = byte;
+    request.l_len = 1;
+    return request;
 }
 
-bool WaitForLock(int fd, off_t byte, Clock::time_point deadline)
+enum class Attempt { Had, Taken, Impossible };
+
+Attempt TryLock(int fd, off_t byte)
 {
-    while (!SetLock(fd, F_WRLCK, byte)) {
-        if ((errno != EAGAIN && errno != EACCES && errno != EINTR) || Clock::now() >= deadline)
-            return false;
+    struct flock request = RequestFor(F_WRLCK, byte);
+    if (fcntl(fd, F_OFD_SETLK, &request) == 0)
+        return Attempt::Had;
+    return errno == EAGAIN || errno == EACCES || errno == EINTR ? Attempt::Taken : Attempt::Impossible;
+}
+
+void Unlock(int fd, off_t byte)
+{
+    struct flock request = RequestFor(F_UNLCK, byte);
+    fcntl(fd, F_OFD_SETLK, &request);
+}
+
+bool IsFree(int fd, off_t byte)
+{
+    struct flock request = RequestFor(F_WRLCK, byte);
+    return fcntl(fd, F_OFD_GETLK, &request) == 0 && request.l_type == F_UNLCK;
+}
+
+// Waits for the turn. Ends without it at the deadline, or when whoever has it seems to be stuck.
+Attempt WaitForTurn(int fd, FileLock::Clock::time_point deadline)
+{
+    auto lastTaken = FileLock::Clock::now();
+    for (;;) {
+        const Attempt attempt = TryLock(fd, kTurnByte);
+        const auto now = FileLock::Clock::now();
+        if (attempt != Attempt::Taken || now >= deadline)
+            return attempt;
+        if (!IsFree(fd, kLockByte))
+            lastTaken = now;
+        else if (now - lastTaken >= kTimeToUseTheTurn)
+            return attempt;
         std::this_thread::sleep_for(kPause);
     }
-    return true;
+}
+
+bool WaitForLock(int fd, FileLock::Clock::time_point deadline)
+{
+    for (;;) {
+        const Attempt attempt = TryLock(fd, kLockByte);
+        if (attempt != Attempt::Taken || FileLock::Clock::now() >= deadline)
+            return attempt == Attempt::Had;
+        std::this_thread::sleep_for(kPause);
+    }
 }
 
 }  // namespace
 
-FileLock::FileLock(const std::string& path)
-    : m_fd(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, 0600))
+FileLock::FileLock(const std::string& path, Clock::time_point deadline)
+    : m_file(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, 0600))
 {
-    if (m_fd < 0)
+    const int fd = m_file.Get();
+    if (fd < 0)
         return;
-    const Clock::time_point deadline = Clock::now() + kPatience;
-    if (WaitForLock(m_fd, kTurnByte, deadline)) {
-        WaitForLock(m_fd, kLockByte, deadline);
-        SetLock(m_fd, F_UNLCK, kTurnByte);
-    }
+    GiveToOwnerOfFolder(path, FolderOf(path));
+    const Attempt turn = WaitForTurn(fd, deadline);
+    if (turn == Attempt::Impossible)
+        return;
+    m_isHeld = WaitForLock(fd, deadline);
+    if (turn == Attempt::Had)
+        Unlock(fd, kTurnByte);
 }
 
 FileLock::~FileLock()
 {
-    if (m_fd < 0)
-        return;
     // Closing would leave the lock with a child that was forked meanwhile.
-    SetLock(m_fd, F_UNLCK, kLockByte);
-    close(m_fd);
+    if (m_isHeld)
+        Unlock(m_file.Get(), kLockByte);
 }
 
 }  // namespace fittings

@@ -1,24 +1,34 @@
 #ifndef FITTINGS_PLATFORM_EMBEDDED_FILE_LOCK_H_
 #define FITTINGS_PLATFORM_EMBEDDED_FILE_LOCK_H_
 
+#include <chrono>
 #include <string>
+
+#include <fittings/platform/embedded/file_descriptor.h>
 
 namespace fittings {
 
 /// Keeps other processes and threads that take the same lock waiting for as long as the object lives.
 ///
-/// The lock file is made when missing and never removed: another process may be waiting for that very file. A lock
-/// that cannot be had within two seconds is done without; its holder may have been stopped.
+/// A courtesy: who cannot have the lock goes on without it. The lock file is made when missing and never removed: another
+/// process may be waiting for that very file.
 class FileLock
 {
 public:
-    explicit FileLock(const std::string& path);
+    using Clock = std::chrono::steady_clock;
+
+    /// Waits for the lock until @a deadline at the latest.
+    FileLock(const std::string& path, Clock::time_point deadline);
     ~FileLock();
     FileLock(const FileLock&) = delete;
     FileLock& operator=(const FileLock&) = delete;
 
+    /// False also when the lock file cannot be opened.
+    bool IsHeld() const { return m_isHeld; }
+
 private:
-    int m_fd;
+    const FileDescriptor m_file;
+    bool m_isHeld = false;
 };
 
 }  // namespace fittings

@@ -1,6 +1,8 @@
 #include <fittings/platform/embedded/ini_file.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <cstddef>
 
 #include <unistd.h>
 
@@ -46,9 +48,48 @@ private:
 
 thread_local bool SpareBuffer::s_isGone = false;
 
+// A file of more lines holds no settings, and its keys would take all memory.
+constexpr std::ptrdiff_t kMaxLines = 1'000'000;
+
+bool HasTooManyLines(std::string_view text)
+{
+    return std::count(text.begin(), text.end(), '\n') > kMaxLines;
+}
+
 bool IsUtf16(std::string_view text)
 {
     return text.substr(0, 2) == "\xFF\xFE" || text.substr(0, 2) == "\xFE\xFF";
+}
+
+std::string_view FirstSectionName()
+{
+    return kFirstSection.substr(1, kFirstSection.size() - 3);
+}
+
+// Takes what GKeyFile gives.
+void Append(std::vector<std::string>& names, gchar** given)
+{
+    for (gchar** name = given; name && *name; ++name)
+        names.emplace_back(*name);
+    g_strfreev(given);
+}
+
+// The texts that the names stand for, each once.
+std::vector<std::wstring> Decoded(const std::vector<std::string>& names)
+{
+    std::vector<std::wstring> texts;
+    std::set<std::wstring> known;
+    for (const std::string& name : names) {
+        std::wstring text = fittings::DecodeName(name);
+        if (known.insert(text).second)
+            texts.push_back(std::move(text));
+    }
+    return texts;
+}
+
+bool SaveText(const std::string& path, const std::string& text)
+{
+    return !HasTooManyLines(text) && fittings::ReplaceFileBytes(path, text);
 }
 
 // Hides from GKeyFile, for as long as the object lives, the lines that it would not load.
@@ -103,10 +144,22 @@ bool CIniFile::Load(const std::string& path)
     Clear();
     m_path = path;
     m_content = fittings::ReadFileBytes(path, m_buffer);
-    if (m_content.result == fittings::ReadResult::Read && Parse())
+    if (HasTooManyLines(Text()))
+        m_content.result = fittings::ReadResult::Failed;
+    if (m_content.result == fittings::ReadResult::Read && ParseBuffer())
         return true;
     Clear();
     m_isNoText = m_content.result == fittings::ReadResult::Read;
+    return false;
+}
+
+bool CIniFile::Parse(std::string_view text)
+{
+    Clear();
+    m_buffer += text;
+    if (ParseBuffer())
+        return true;
+    Clear();
     return false;
 }
 
@@ -115,22 +168,71 @@ bool CIniFile::Save(const std::string& path) const
     if (path.empty() || (HasFailed() && path == m_path))
         return false;
     if (!m_isNoText)
-        return fittings::ReplaceFileBytes(path, ChangedText());
+        return SaveText(path, ChangedText());
     // What could not be read goes to another name, unless somebody has put a new file in its place.
     const auto identity = fittings::IdentityOf(path);
     if (!identity && errno != ENOENT)
         return false;
     if (!(identity == m_content.identity))
-        return fittings::ReplaceFileBytes(path, ChangedText());
+        return SaveText(path, ChangedText());
     if (m_changes.empty())
         return true;
     const std::string other = fittings::KeepUnderOtherName(path);
     if (other.empty())
         return false;
-    if (fittings::ReplaceFileBytes(path, ChangedText()))
+    if (SaveText(path, ChangedText()))
         return true;
     unlink(other.c_str());
     return false;
+}
+
+fittings::UpdateResult CIniFile::Update() const
+{
+    using fittings::UpdateResult;
+    if (m_isNoText || HasFailed())
+        return Save(m_path) ? UpdateResult::Saved : UpdateResult::Failed;
+    std::string changed = ChangedText();
+    if (HasTooManyLines(changed))
+        return UpdateResult::Failed;
+    const auto merge = [this](std::string_view expected, std::string_view put, std::string_view displaced) {
+        return Merged(expected, put, displaced);
+    };
+    return fittings::UpdateFileBytes(m_path, {m_content, Text(), std::move(changed), merge});
+}
+
+// What stood in the file, with what was put there changed in it as against what was expected there. Where both changed a
+// key, the change of this object counts, else the one that was displaced, which is newer than what else was put.
+std::optional<std::string> CIniFile::Merged(std::string_view expected, std::string_view put,
+                                            std::string_view displaced) const
+{
+    CIniFile before;
+    CIniFile ours;
+    CIniFile result;
+    if (!before.Parse(expected) || !ours.Parse(put) || !result.Parse(displaced))
+        return std::nullopt;
+    for (const CIniFile* const file : {&before, &ours}) {
+        for (const std::wstring& section : file->SectionNames()) {
+            for (const std::wstring& key : file->KeyNames(section)) {
+                const auto old = before.Get(section, key);
+                const auto value = ours.Get(section, key);
+                if (value == old || (!result.Has(section, key, old) && !IsChanged(section, key)))
+                    continue;
+                if (value)
+                    result.Set(section, key, *value);
+                else
+                    result.Delete(section, key);
+            }
+        }
+    }
+    std::string text = result.ChangedText();
+    return HasTooManyLines(text) ? std::nullopt : std::optional<std::string>(std::move(text));
+}
+
+bool CIniFile::IsChanged(std::wstring_view section, std::wstring_view key) const
+{
+    return std::any_of(m_changes.begin(), m_changes.end(), [&](const Slot& slot) {
+        return fittings::DecodeName(slot.first) == section && fittings::DecodeName(slot.second) == key;
+    });
 }
 
 std::optional<std::wstring> CIniFile::Get(std::wstring_view section, std::wstring_view key) const
@@ -172,8 +274,32 @@ void CIniFile::Delete(std::wstring_view section, std::wstring_view key)
         Remove(slot);
 }
 
+std::vector<std::wstring> CIniFile::SectionNames() const
+{
+    return Decoded(GroupNames());
+}
+
+std::vector<std::wstring> CIniFile::KeyNames(std::wstring_view section) const
+{
+    std::vector<std::string> keys;
+    for (const std::string& group : GroupNames()) {
+        if (fittings::DecodeName(group) == section)
+            Append(keys, g_key_file_get_keys(m_keys.get(), group.c_str(), nullptr, nullptr));
+    }
+    return Decoded(keys);
+}
+
+std::vector<std::string> CIniFile::GroupNames() const
+{
+    std::vector<std::string> names;
+    Append(names, g_key_file_get_groups(m_keys.get(), nullptr));
+    const auto ours = std::remove(names.begin(), names.end(), FirstSectionName());
+    names.erase(ours, names.end());
+    return names;
+}
+
 // False when there is nothing in the text that anybody could have meant as settings.
-bool CIniFile::Parse()
+bool CIniFile::ParseBuffer()
 {
     Mask mask(m_buffer);
     const std::size_t start = kFirstSection.size();

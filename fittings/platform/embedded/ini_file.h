@@ -32,8 +32,15 @@ public:
     /// bytes that are no text.
     bool Load(const std::string& path);
 
+    /// Takes @a text in place of what the object held. False when it holds no settings but bytes that are no text.
+    bool Parse(std::string_view text);
+
     /// Writes the file anew where its bytes change.
     bool Save(const std::string& path) const;
+
+    /// Writes the file that was loaded last anew where its bytes change, unless it has changed since: what others store at the
+    /// same time is kept.
+    fittings::UpdateResult Update() const;
 
     std::optional<std::wstring> Get(std::wstring_view section, std::wstring_view key) const;
 
@@ -42,6 +49,12 @@ public:
 
     void Set(std::wstring_view section, std::wstring_view key, std::wstring_view value);
     void Delete(std::wstring_view section, std::wstring_view key);
+
+    /// The names of all sections, each once, in the order of the file. New ones come last.
+    std::vector<std::wstring> SectionNames() const;
+
+    /// The names of a section's keys, each once, in the order of the file. New ones come last.
+    std::vector<std::wstring> KeyNames(std::wstring_view section) const;
 
     /// The last Load() met a file that is there but could not be read.
     bool HasFailed() const { return m_content.result == fittings::ReadResult::Failed; }
@@ -60,7 +73,10 @@ private:
     };
 
     void Clear();
-    bool Parse();
+    bool ParseBuffer();
+    std::vector<std::string> GroupNames() const;
+    std::optional<std::string> Merged(std::string_view expected, std::string_view put, std::string_view displaced) const;
+    bool IsChanged(std::wstring_view section, std::wstring_view key) const;
     void NoteName(const std::string& section, std::string_view rawSection, std::string_view rawKey);
     GText Value(const Slot& slot) const;
     GText Find(std::wstring_view section, std::wstring_view key) const;

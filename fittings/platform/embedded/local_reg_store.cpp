@@ -1,15 +1,25 @@
 #include <fittings/platform/local_reg_store.h>
 
 #include <algorithm>
+#include <charconv>
 #include <initializer_list>
+#include <optional>
 #include <string_view>
+#include <system_error>
+#include <utility>
 
 #include <glib.h>
 
+#include <fittings/platform/embedded/collected_settings.h>
 #include <fittings/platform/embedded/default_store.h>
 #include <fittings/platform/embedded/ini_codec.h>
 #include <fittings/platform/embedded/ini_file.h>
 #include <fittings/platform/file_util_ex.h>
+
+using fittings::CollectedSettings;
+using fittings::DefaultStore;
+using fittings::NarrowToWide;
+using fittings::WideToNarrow;
 
 namespace {
 
@@ -30,7 +40,46 @@ bool IsOneOf(const std::string& text, std::initializer_list<const char*> words)
                        [&](const char* word) { return g_ascii_strcasecmp(text.c_str(), word) == 0; });
 }
 
+std::optional<std::wstring> GetSetting(std::wstring_view section, std::wstring_view key)
+{
+    const CollectedSettings* const collected = CollectedSettings::OfThread();
+    const fittings::Setting* const setting = collected ? collected->Find(section, key) : nullptr;
+    return setting ? setting->value : DefaultStore::Instance().Get(section, key);
+}
+
+// Without a value the key is removed.
+bool StoreSetting(std::wstring_view section, std::wstring_view key, std::optional<std::wstring_view> value)
+{
+    fittings::Setting setting{std::wstring(section), std::wstring(key), std::optional<std::wstring>(value)};
+    CollectedSettings* const collected = CollectedSettings::OfThread();
+    if (!collected)
+        return DefaultStore::Instance().Store({std::move(setting)});
+    collected->Put(std::move(setting));
+    return true;
+}
+
 }  // namespace
+
+struct CLocalRegStore::Batch::Collected : CollectedSettings
+{
+};
+
+CLocalRegStore::Batch::Batch()
+{
+    if (!CollectedSettings::OfThread())
+        m_collected = std::make_unique<Collected>();
+}
+
+CLocalRegStore::Batch::~Batch()
+{
+    if (m_collected)
+        m_collected->Save();
+}
+
+bool CLocalRegStore::Batch::Save()
+{
+    return CollectedSettings::OfThread()->Save();
+}
 
 CIniFile* CLocalRegStore::CreateInitFile(bool)
 {
@@ -54,6 +103,24 @@ void CLocalRegStore::WriteString(CIniFile& ini, const wchar_t* section, const wc
     ini.Set(View(section), View(key), View(value));
 }
 
+bool CLocalRegStore::DeleteKey(CIniFile& ini, const wchar_t* section, const wchar_t* key)
+{
+    if (ini.Has(View(section), View(key), std::nullopt))
+        return false;
+    ini.Delete(View(section), View(key));
+    return true;
+}
+
+std::vector<std::wstring> CLocalRegStore::GetSectionNames(const CIniFile& ini)
+{
+    return ini.SectionNames();
+}
+
+std::vector<std::wstring> CLocalRegStore::GetKeyNames(const CIniFile& ini, const wchar_t* section)
+{
+    return ini.KeyNames(View(section));
+}
+
 bool CLocalRegStore::Save(const CIniFile& ini, const wchar_t* path)
 {
     return ini.Save(SystemPath(path));
@@ -66,18 +133,18 @@ void CLocalRegStore::DestroyIniFile(CIniFile* ini)
 
 std::wstring CLocalRegStore::GetString(const wchar_t* section, const wchar_t* key, const wchar_t* defaultValue)
 {
-    auto value = fittings::DefaultStore::Instance().Get(View(section), View(key));
+    auto value = GetSetting(View(section), View(key));
     return value ? *std::move(value) : std::wstring(View(defaultValue));
 }
 
 bool CLocalRegStore::WriteString(const wchar_t* section, const wchar_t* key, const wchar_t* value)
 {
-    return fittings::DefaultStore::Instance().Change(View(section), View(key), View(value));
+    return StoreSetting(View(section), View(key), View(value));
 }
 
 bool CLocalRegStore::GetProfileBool(const wchar_t* section, const wchar_t* key, bool defaultValue)
 {
-    const std::string text = fittings::WideToNarrow(GetString(section, key, L""));
+    const std::string text = WideToNarrow(GetString(section, key, L""));
     if (IsOneOf(text, {"true", "yes", "1"}))
         return true;
     if (IsOneOf(text, {"false", "no", "0"}))
@@ -90,20 +157,46 @@ bool CLocalRegStore::WriteProfileBool(const wchar_t* section, const wchar_t* key
     return WriteString(section, key, value ? L"true" : L"false");
 }
 
+int CLocalRegStore::GetProfileInt(const wchar_t* section, const wchar_t* key, int defaultValue)
+{
+    const std::string text = WideToNarrow(GetString(section, key, L""));
+    int value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    return error == std::errc() && end == text.data() + text.size() ? value : defaultValue;
+}
+
+bool CLocalRegStore::WriteProfileInt(const wchar_t* section, const wchar_t* key, int value)
+{
+    return WriteString(section, key, std::to_wstring(value).c_str());
+}
+
 bool CLocalRegStore::DeleteProfile(const wchar_t* section, const wchar_t* key)
 {
-    return fittings::DefaultStore::Instance().Change(View(section), View(key), std::nullopt);
+    return StoreSetting(View(section), View(key), std::nullopt);
+}
+
+std::vector<std::wstring> CLocalRegStore::GetSectionNames()
+{
+    auto names = DefaultStore::Instance().SectionNames();
+    const CollectedSettings* const collected = CollectedSettings::OfThread();
+    return collected ? collected->SectionNames(std::move(names)) : names;
+}
+
+std::vector<std::wstring> CLocalRegStore::GetKeyNames(const wchar_t* section)
+{
+    auto names = DefaultStore::Instance().KeyNames(View(section));
+    const CollectedSettings* const collected = CollectedSettings::OfThread();
+    return collected ? collected->KeyNames(View(section), std::move(names)) : names;
 }
 
 std::string CLocalRegStore::GetString(const char* section, const char* key, const char* defaultValue)
 {
-    const auto value = fittings::DefaultStore::Instance().Get(fittings::NarrowToWide(View(section)),
-                                                              fittings::NarrowToWide(View(key)));
-    return value ? fittings::WideToNarrow(*value) : std::string(View(defaultValue));
+    const auto value = GetSetting(NarrowToWide(View(section)), NarrowToWide(View(key)));
+    return value ? WideToNarrow(*value) : std::string(View(defaultValue));
 }
 
 bool CLocalRegStore::WriteString(const char* section, const char* key, const char* value)
 {
-    return fittings::DefaultStore::Instance().Change(
-        fittings::NarrowToWide(View(section)), fittings::NarrowToWide(View(key)), fittings::NarrowToWide(View(value)));
+    return StoreSetting(NarrowToWide(View(section)), NarrowToWide(View(key)),
+                        NarrowToWide(View(value)));
 }

@@ -42,6 +42,22 @@ const MemoryStore& GetMemoryStore()
     return g_store;
 }
 
+//! [batch]
+// Nothing is saved here, so there is nothing to save as one.
+struct CLocalRegStore::Batch::Collected
+{
+};
+
+CLocalRegStore::Batch::Batch() = default;
+
+CLocalRegStore::Batch::~Batch() = default;
+
+bool CLocalRegStore::Batch::Save()
+{
+    return true;
+}
+//! [batch]
+
 //! [load]
 CIniFile* CLocalRegStore::CreateInitFile(bool)
 {
@@ -70,6 +86,29 @@ std::wstring CLocalRegStore::GetString(const CIniFile& ini, const wchar_t* secti
 void CLocalRegStore::WriteString(CIniFile& ini, const wchar_t* section, const wchar_t* key, const wchar_t* value)
 {
     ini.values[{Text(section), Text(key)}] = Text(value);
+}
+
+bool CLocalRegStore::DeleteKey(CIniFile& ini, const wchar_t* section, const wchar_t* key)
+{
+    return ini.values.erase({Text(section), Text(key)}) != 0;
+}
+
+std::vector<std::wstring> CLocalRegStore::GetSectionNames(const CIniFile& ini)
+{
+    std::vector<std::wstring> names;
+    for (const auto& [name, value] : ini.values)
+        if (names.empty() || names.back() != name.first)
+            names.push_back(name.first);
+    return names;
+}
+
+std::vector<std::wstring> CLocalRegStore::GetKeyNames(const CIniFile& ini, const wchar_t* section)
+{
+    std::vector<std::wstring> names;
+    for (const auto& [name, value] : ini.values)
+        if (name.first == Text(section))
+            names.push_back(name.second);
+    return names;
 }
 
 bool CLocalRegStore::Save(const CIniFile& ini, const wchar_t* path)
@@ -107,6 +146,32 @@ bool CLocalRegStore::GetProfileBool(const wchar_t* section, const wchar_t* key, 
 bool CLocalRegStore::WriteProfileBool(const wchar_t* section, const wchar_t* key, bool value)
 {
     return WriteString(section, key, value ? L"yes" : L"no");
+}
+
+int CLocalRegStore::GetProfileInt(const wchar_t* section, const wchar_t* key, int defaultValue)
+{
+    const std::wstring text = GetString(section, key, L"");
+    return text.empty() ? defaultValue : std::stoi(text);
+}
+
+bool CLocalRegStore::WriteProfileInt(const wchar_t* section, const wchar_t* key, int value)
+{
+    return WriteString(section, key, std::to_wstring(value).c_str());
+}
+
+// The default store is the file without a name.
+std::vector<std::wstring> CLocalRegStore::GetSectionNames()
+{
+    CIniFile defaultStore;
+    Load(defaultStore, L"");
+    return GetSectionNames(defaultStore);
+}
+
+std::vector<std::wstring> CLocalRegStore::GetKeyNames(const wchar_t* section)
+{
+    CIniFile defaultStore;
+    Load(defaultStore, L"");
+    return GetKeyNames(defaultStore, section);
 }
 
 bool CLocalRegStore::DeleteProfile(const wchar_t* section, const wchar_t* key)

@@ -1,0 +1,144 @@
+#include <fittings/platform/embedded/staged_file.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <ctime>
+#include <memory>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <glib.h>
+
+#include <fittings/platform/embedded/file_bytes.h>
+#include <fittings/platform/embedded/file_descriptor.h>
+
+namespace fittings {
+
+namespace {
+
+using GText = std::unique_ptr<char, decltype(&g_free)>;
+
+constexpr std::string_view kPrefix = ".fittings-save-";
+
+// What is older was left behind by a process that was killed while it saved.
+constexpr time_t kLifetimeSeconds = 60;
+
+// Makes an empty file whose name no person gives. Empty on any error.
+std::string MakeFile(const std::string& folder)
+{
+    for (int attempt = 0; attempt < 1000; ++attempt) {
+        const std::string name = std::string(kPrefix) + GText(g_uuid_string_random(), g_free).get();
+        std::string path = folder + "/" + name;
+        const FileDescriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOCTTY, 0600));
+        if (file.Get() >= 0)
+            return path;
+        // A forked process draws the same random numbers as its parent.
+        if (errno != EEXIST)
+            break;
+    }
+    return {};
+}
+
+bool IsStagingName(std::string_view name)
+{
+    return name.substr(0, kPrefix.size()) == kPrefix &&
+           g_uuid_string_is_valid(std::string(name.substr(kPrefix.size())).c_str());
+}
+
+void RemoveLeftovers(const std::string& folder)
+{
+    GDir* const dir = g_dir_open(folder.c_str(), 0, nullptr);
+    if (!dir)
+        return;
+    const time_t now = time(nullptr);
+    while (const char* const name = g_dir_read_name(dir)) {
+        struct stat info;
+        const std::string path = folder + "/" + name;
+        if (IsStagingName(name) && lstat(path.c_str(), &info) == 0 && S_ISREG(info.st_mode) &&
+            info.st_mtime + kLifetimeSeconds < now)
+            unlink(path.c_str());
+    }
+    g_dir_close(dir);
+}
+
+// The bytes are on the disk when this returns.
+bool WriteDurably(const std::string& path, std::string_view bytes)
+{
+    return g_file_set_contents_full(path.c_str(), bytes.data(), static_cast<gssize>(bytes.size()),
+                                    G_FILE_SET_CONTENTS_DURABLE, 0600, nullptr);
+}
+
+void KeepOwnerAndMode(const std::string& path, const struct stat& old)
+{
+    // Where they cannot be kept, as on a file system without owners, saving matters more.
+    if (old.st_uid != geteuid() || old.st_gid != getegid())
+        static_cast<void>(!chown(path.c_str(), old.st_uid, old.st_gid));
+    static_cast<void>(!chmod(path.c_str(), old.st_mode & 07777));
+}
+
+}  // namespace
+
+StagedFile::StagedFile(std::string target, std::string_view bytes, const struct stat* old) : m_target(std::move(target))
+{
+    const std::string folder = FolderOf(m_target);
+    RemoveLeftovers(folder);
+    m_path = MakeFile(folder);
+    if (m_path.empty())
+        return;
+    m_isWritten = WriteDurably(m_path, bytes);
+    if (old)
+        KeepOwnerAndMode(m_path, *old);
+    else
+        GiveToOwnerOfFolder(m_path, folder);
+}
+
+StagedFile::~StagedFile()
+{
+    if (!m_path.empty())
+        unlink(m_path.c_str());
+}
+
+PlaceResult StagedFile::Replace()
+{
+    const PlaceResult result = Rename(0);
+    if (result == PlaceResult::Done)
+        m_path.clear();
+    return result;
+}
+
+PlaceResult StagedFile::PutNew()
+{
+    const PlaceResult result = Rename(RENAME_NOREPLACE);
+    if (result == PlaceResult::Done)
+        m_path.clear();
+    return result;
+}
+
+PlaceResult StagedFile::Exchange()
+{
+    return Rename(RENAME_EXCHANGE);
+}
+
+PlaceResult StagedFile::Rename(unsigned int flags)
+{
+    const int result = flags ? renameat2(AT_FDCWD, m_path.c_str(), AT_FDCWD, m_target.c_str(), flags)
+                             : rename(m_path.c_str(), m_target.c_str());
+    if (result == 0)
+        return PlaceResult::Done;
+    switch (errno) {
+    case EEXIST:
+    case ENOENT:
+        return PlaceResult::NotAsExpected;
+    case EINVAL:  // the file system
+    case ENOSYS:  // the kernel, or a sandbox
+    case EPERM:
+        return flags ? PlaceResult::Unsupported : PlaceResult::Failed;
+    default:
+        return PlaceResult::Failed;
+    }
+}
+
+}  // namespace fittings
