@@ -9,7 +9,7 @@ namespace fittings {
 /// What a folder holds, everything below it and itself included.
 struct FolderSum
 {
-    std::uint64_t bytes = 0;       ///< As du --apparent-size counts them: a file with several names once.
+    std::uint64_t bytes = 0;       ///< What their sizes are, folders' too; a file with several names counts once.
     std::uint64_t items = 0;       ///< Names of any kind.
     std::uint64_t unreadable = 0;  ///< Those of them that could not be looked at or, folders, not be read.
 };

@@ -9,8 +9,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <tests/gallery/listed_size.h>
 #include <tests/support/as_nobody.h>
-#include <tests/support/child_process.h>
 #include <tests/support/temp_folder.h>
 
 namespace {
@@ -50,11 +50,6 @@ std::uint64_t OwnSize(const std::string& path)
     struct stat status;
     EXPECT_EQ(lstat(path.c_str(), &status), 0) << path;
     return static_cast<std::uint64_t>(status.st_size);
-}
-
-std::uint64_t DiskUsageOf(const std::string& path)
-{
-    return std::stoull(RunChild({"du", "--summarize", "--apparent-size", "--block-size=1", path}));
 }
 
 /// A chain of folders named "d" below @a path, longer than a path can be; each holds a file of one byte.
@@ -101,7 +96,7 @@ TEST(SumFolder, AddsUpEverythingBelowAndTheFoldersThemselves)
     EXPECT_EQ(sum.bytes, 1000 + 200 + 30 + 12 + folders);
     EXPECT_EQ(sum.items, 7u);
     EXPECT_EQ(sum.unreadable, 0u);
-    EXPECT_EQ(sum.bytes, DiskUsageOf(folder.Path()));
+    EXPECT_EQ(sum.bytes, ListedSize(folder.Path()));
 }
 
 TEST(SumFolder, AnEmptyFolderIsItself)
@@ -128,7 +123,7 @@ TEST(SumFolder, TellsTheSumOfEachFolderRightInIt)
     const FolderSum a = notes.subfolders["a"];
     EXPECT_EQ(a.bytes, 780 + OwnSize(folder / "a") + OwnSize(folder / "a/deep") + OwnSize(folder / "a/deep/deeper"));
     EXPECT_EQ(a.items, 5u);
-    EXPECT_EQ(a.bytes, DiskUsageOf(folder / "a"));
+    EXPECT_EQ(a.bytes, ListedSize(folder / "a"));
     EXPECT_EQ(notes.subfolders["empty"].bytes, OwnSize(folder / "empty"));
     EXPECT_EQ(notes.subfolders["empty"].items, 1u);
 }
@@ -145,7 +140,7 @@ TEST(SumFolder, CountsAFileWithSeveralNamesOnce)
     const FolderSum sum = SumFolder(folder.Path(), notes);
     EXPECT_EQ(sum.bytes, 100000 + OwnSize(folder.Path()) + OwnSize(folder / "a") + OwnSize(folder / "b"));
     EXPECT_EQ(sum.items, 6u);
-    EXPECT_EQ(sum.bytes, DiskUsageOf(folder.Path()));
+    EXPECT_EQ(sum.bytes, ListedSize(folder.Path()));
     EXPECT_EQ(notes.subfolders["a"].bytes + notes.subfolders["b"].bytes + OwnSize(folder.Path()), sum.bytes);
 }
 
@@ -176,7 +171,7 @@ TEST(SumFolder, CountsWhatCannotBeRead)
     fs::create_directories(folder / "names-only/in");
     WriteFile(folder / "open", "12345");
     chmod((folder / "closed").c_str(), 0);
-    chmod((folder / "names-only").c_str(), 0744);
+    chmod((folder / "names-only").c_str(), 0444);
     const AsNobody asNobody;
     Notes notes;
     const FolderSum sum = SumFolder(folder.Path(), notes);
@@ -203,7 +198,7 @@ TEST(SumFolder, GoesDeeperThanPathsAndDescriptorsReach)
     fs::create_directory(folder / "b");
     MakeChain(folder / "a", 3000);
     MakeChain(folder / "b", 70);
-    const std::uint64_t expected = DiskUsageOf(folder.Path());
+    const std::uint64_t expected = ListedSize(folder.Path());
     const FewDescriptors few;
     const FolderSum sum = Sum(folder.Path());
     EXPECT_EQ(sum.unreadable, 0u);
@@ -225,7 +220,7 @@ TEST(SumFolder, ComesBackToEveryFolderOnTheWayUp)
     const FolderSum sum = Sum(folder.Path());
     EXPECT_EQ(sum.unreadable, 0u);
     EXPECT_EQ(sum.items, 1u + 150u * 5);
-    EXPECT_EQ(sum.bytes, DiskUsageOf(folder.Path()));
+    EXPECT_EQ(sum.bytes, ListedSize(folder.Path()));
 }
 
 /// Moves a part of the chain away while the walk is at its end.

@@ -10,7 +10,7 @@
 #include <gallery/native_text.h>
 #include <gallery/size_worker.h>
 #include <tests/gallery/browser_fixture.h>
-#include <tests/support/child_process.h>
+#include <tests/gallery/listed_size.h>
 #include <tests/support/patience.h>
 
 namespace {
@@ -19,11 +19,6 @@ using namespace fittings;
 using namespace fittings::simulated_user;
 namespace fs = std::filesystem;
 using Strings = std::vector<std::string>;
-
-std::uint64_t DiskUsageOf(const std::string& path)
-{
-    return std::stoull(RunChild({"du", "--summarize", "--apparent-size", "--block-size=1", path}));
-}
 
 std::size_t CountThreads()
 {
@@ -46,7 +41,7 @@ protected:
     SizesRow& Row() { return *frame->GetBrowser()->GetSizes(); }
     bool ComesToRest()
     {
-        return PumpUntil([&] { return !Row().IsRunning(); }, 20000);
+        return PumpUntil([&] { return !Row().IsRunning(); });
     }
     const Entry& EntryNamed(const std::string& name) { return List().GetEntry(RowOf(name)); }
 
@@ -69,10 +64,10 @@ TEST_F(Sizes, EveryFolderGetsWhatItHolds)
     Open(root);
     ASSERT_TRUE(ComesToRest());
     EXPECT_TRUE(EntryNamed("docs").summed);
-    EXPECT_EQ(EntryNamed("docs").size, DiskUsageOf(temp / "docs"));
-    EXPECT_EQ(EntryNamed("music").size, DiskUsageOf(temp / "music"));
+    EXPECT_EQ(EntryNamed("docs").size, ListedSize(temp / "docs"));
+    EXPECT_EQ(EntryNamed("music").size, ListedSize(temp / "music"));
     EXPECT_EQ(EntryNamed("big.bin").size, 30000u);
-    const wxString sum = HumanSize(DiskUsageOf(root));
+    const wxString sum = HumanSize(ListedSize(root));
     EXPECT_TRUE(Row().GetText().StartsWith(sum + " in 9 items, ")) << Row().GetText();
     EXPECT_TRUE(Row().GetText().EndsWith(L" a second \u2013 done")) << Row().GetText();
 }
@@ -83,7 +78,7 @@ TEST_F(Sizes, ASummedFolderSaysItsSizeWhenSelected)
     ASSERT_TRUE(ComesToRest());
     Click(CentreOf(NameRect(List(), RowOf("docs"))));
     EXPECT_TRUE(PumpUntil(
-        [&] { return frame->GetStatusBar()->GetStatusText(1) == "docs: " + ExactSize(DiskUsageOf(temp / "docs")); }));
+        [&] { return frame->GetStatusBar()->GetStatusText(1) == "docs: " + ExactSize(ListedSize(temp / "docs")); }));
 }
 
 TEST_F(Sizes, AnotherFolderIsAddedUpInItsTurn)
@@ -92,7 +87,7 @@ TEST_F(Sizes, AnotherFolderIsAddedUpInItsTurn)
     ClickFolder("docs");
     ASSERT_TRUE(SelectionComesTo("docs"));
     ASSERT_TRUE(ComesToRest());
-    EXPECT_EQ(EntryNamed("taxes").size, DiskUsageOf(temp / "docs/taxes"));
+    EXPECT_EQ(EntryNamed("taxes").size, ListedSize(temp / "docs/taxes"));
     EXPECT_TRUE(Row().GetText().Contains(" in 6 items, ")) << Row().GetText();
 }
 

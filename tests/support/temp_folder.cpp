@@ -18,6 +18,19 @@ namespace {
 
 constexpr const char* kMemory = "/dev/shm";
 
+/// Gives a user who is not root the rights back that a test has taken from folders, which could not be emptied.
+void OpenFolders(const std::filesystem::path& folder)
+{
+    std::error_code ignored;
+    std::filesystem::permissions(folder, std::filesystem::perms::owner_all, ignored);
+    std::error_code error;
+    for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
+         entry.increment(error)) {
+        if (!entry->is_symlink(ignored) && entry->is_directory(ignored))
+            OpenFolders(entry->path());
+    }
+}
+
 std::string TempFolderOfTheEnvironment()
 {
     const char* const folder = getenv("TMPDIR");
@@ -50,8 +63,12 @@ TempFolder::TempFolder()
 
 TempFolder::~TempFolder()
 {
-    std::error_code ignored;
-    std::filesystem::remove_all(m_path, ignored);
+    std::error_code error;
+    std::filesystem::remove_all(m_path, error);
+    if (error) {
+        OpenFolders(m_path);
+        std::filesystem::remove_all(m_path, error);
+    }
 }
 
 TempUserData::TempUserData()
