@@ -18,6 +18,7 @@ Accessible Parse(const std::string& line)
     std::string states;
     for (std::string* part : {&accessible.role, &accessible.name, &accessible.description, &accessible.label, &states})
         std::getline(rest, *part, '|');
+    accessible.role = RoleName(accessible.role);
     const auto is = [&](const char* state) { return states.find(state) != std::string::npos; };
     accessible.showing = is(" showing");
     accessible.focusable = is(" focusable") && is(" sensitive");
@@ -39,6 +40,11 @@ void PrintTo(const Accessible& accessible, std::ostream* out)
 {
     *out << accessible.role << " '" << accessible.name << "', described by '" << accessible.description
          << "', labelled by '" << accessible.label << "'";
+}
+
+std::string RoleName(const std::string& told)
+{
+    return told == "button" ? "push button" : told;
 }
 
 std::vector<Accessible> ReadAccessibles()

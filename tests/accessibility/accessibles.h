@@ -8,7 +8,7 @@
 /// What a screen reader learns of a part of a window.
 struct Accessible
 {
-    std::string role;
+    std::string role;  ///< As RoleName() gives it.
     std::string name;
     std::string description;
     std::string label;  ///< The text that labels it.
@@ -18,6 +18,9 @@ struct Accessible
 };
 
 void PrintTo(const Accessible& accessible, std::ostream* out);
+
+/// The name of a role as it is here: newer releases of AT-SPI and ATK call a push button a button.
+std::string RoleName(const std::string& told);
 
 /// Reads what this process tells of its windows now, parents before their children.
 std::vector<Accessible> ReadAccessibles();

@@ -43,7 +43,7 @@ protected:
         GtkWidget* const choice = gtk_widget_get_ancestor(widget, GTK_TYPE_COMBO_BOX);
         AtkObject* const object = gtk_widget_get_accessible(choice ? choice : widget);
         Accessible focused;
-        focused.role = atk_role_get_name(atk_object_get_role(object));
+        focused.role = RoleName(atk_role_get_name(atk_object_get_role(object)));
         const char* const name = atk_object_get_name(object);
         focused.name = name ? name : "";
         focused.label = LabelOf(object);
