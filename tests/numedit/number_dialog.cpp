@@ -44,7 +44,9 @@ int KeyLog::FilterEvent(wxEvent& event)
         m_held.insert(key.GetRawKeyFlags());
         m_wentDown = true;
     } else if (type == wxEVT_CHAR) {
-        chars.push_back(static_cast<wxKeyEvent&>(event).GetKeyCode());
+        const auto& key = static_cast<wxKeyEvent&>(event);
+        chars.push_back(key.GetKeyCode());
+        characters += key.GetUnicodeKey();
     } else if (type == wxEVT_KEY_UP) {
         m_held.erase(static_cast<wxKeyEvent&>(event).GetRawKeyFlags());
     }
@@ -56,7 +58,7 @@ void KeyLog::WaitForKeys(const std::function<void()>& input)
     m_held.clear();
     m_wentDown = false;
     input();
-    EXPECT_TRUE(PumpUntil([&] { return m_wentDown && m_held.empty(); }, 10000)) << "a key is missing";
+    EXPECT_TRUE(PumpUntil([&] { return m_wentDown && m_held.empty(); })) << "a key is missing";
 }
 
 NumberDialog::NumberDialog(const CNumberFormat& format, wxString* value, long style)
@@ -105,6 +107,7 @@ void NumberDialog::Restart(const wxString& text, long caret)
     m_bellsBefore = Bells();
     keys.down.clear();
     keys.chars.clear();
+    keys.characters.clear();
 }
 
 void NumberDialog::Type(const std::string& characters)

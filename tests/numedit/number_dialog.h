@@ -44,7 +44,8 @@ public:
     void WaitForKeys(const std::function<void()>& input);
 
     std::vector<int> down;   ///< The codes of the keys that went down.
-    std::vector<int> chars;  ///< The codes of the characters.
+    std::vector<int> chars;  ///< The codes of the characters: 0 for those that the toolkit gives none.
+    std::wstring characters;
 
 private:
     std::set<wxUint32> m_held;

@@ -12,13 +12,14 @@ namespace {
 
 using Codes = std::vector<int>;
 
+// Newer toolkits give it no key code.
 TEST(LatinLetter, IsRefused)
 {
     const Layout french({"fr"}, kKey2, 0, "eacute");
     NumberDialog screen{FixedFormat()};
     screen.Show("1");
     screen.PressRaw(std::to_string(kKey2));
-    EXPECT_EQ(screen.keys.chars, Codes{233});
+    EXPECT_EQ(screen.keys.characters, L"\u00E9");
     EXPECT_EQ(screen.Text(), L"1");
     EXPECT_EQ(screen.textEvents, 0);
     EXPECT_EQ(screen.BellsRung(), 1);
@@ -117,7 +118,7 @@ protected:
 TEST_F(DeadAccent, OnALetterIsRefusedOnce)
 {
     screen.PressRaw(std::to_string(kKeyE));
-    EXPECT_EQ(screen.keys.chars, Codes{233});
+    EXPECT_EQ(screen.keys.characters, L"\u00E9");
     EXPECT_EQ(screen.Text(), L"1");
     EXPECT_EQ(screen.BellsRung(), 1);
 }
@@ -126,7 +127,7 @@ TEST_F(DeadAccent, OnALetterIsRefusedOnce)
 TEST_F(DeadAccent, BeforeADigitIsRefusedWithTheDigit)
 {
     screen.PressRaw(std::to_string(kKey1));
-    EXPECT_EQ(screen.keys.chars, Codes{180});
+    EXPECT_EQ(screen.keys.characters, L"\u00B4");
     EXPECT_EQ(screen.Text(), L"1");
     EXPECT_EQ(screen.textEvents, 0);
     EXPECT_EQ(screen.BellsRung(), 1);
