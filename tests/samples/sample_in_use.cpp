@@ -1,11 +1,11 @@
 #include <tests/samples/sample_in_use.h>
 
 #include <sstream>
+#include <stdexcept>
 
 #include <gtest/gtest.h>
 
 #include <tests/support/becomes.h>
-#include <tests/support/xdotool.h>
 
 namespace {
 
@@ -17,22 +17,55 @@ std::string FirstLine(const std::string& text)
     return text.substr(0, text.find('\n'));
 }
 
+// A program may complain of the same thing again and again.
+std::string Shortened(const std::string& text)
+{
+    constexpr std::size_t kMost = 4000;
+    return text.size() <= kMost ? text : text.substr(0, kMost) + " [and more]";
+}
+
+// Runs a program and returns what it prints. One that fails ends the test: it may be asked a thousand times over, and
+// would fail each time.
+std::string Run(const std::vector<std::string>& command)
+{
+    const TempFolder folder;
+    const std::string errors = folder / "errors";
+    ChildProcess child(command, {}, errors);
+    if (child.WaitForEnd() && child.ExitCode() == 0)
+        return child.Output();
+    std::string line;
+    for (const std::string& word : command)
+        line += word + " ";
+    throw std::runtime_error(line + (child.IsRunning() ? "does not end" : "fails") + ": " +
+                             Shortened(ReadFile(errors)));
+}
+
+std::string Xdotool(std::vector<std::string> arguments)
+{
+    arguments.insert(arguments.begin(), "xdotool");
+    return Run(arguments);
+}
+
 }  // namespace
 
 SampleInUse::SampleInUse(const std::string& sample, const std::string& title, const Person& person)
-    : m_program({std::string(SAMPLES) + "/sample-" + sample}, {{"HOME", person.home.Path()},
-                                                               {"XDG_DATA_HOME", person.data.Path()},
-                                                               {"XDG_CONFIG_HOME", person.data.Path()},
-                                                               {"XDG_CACHE_HOME", person.data.Path()}})
+    : m_program({std::string(SAMPLES) + "/sample-" + sample},
+                {{"HOME", person.home.Path()},
+                 {"XDG_DATA_HOME", person.data.Path()},
+                 {"XDG_CONFIG_HOME", person.data.Path()},
+                 {"XDG_CACHE_HOME", person.data.Path()}},
+                m_folder / "errors")
 {
+    // Finding none counts as a failure of the search.
     const std::vector<std::string> search = {"xdotool", "search", "--onlyvisible", "--name", "^" + title + "$"};
-    EXPECT_TRUE(Becomes([&] {
-        ChildProcess found(search);
+    const bool isOver = Becomes([&] {
+        ChildProcess found(search, {}, m_folder / "search-errors");
         found.WaitForEnd();
         m_window = FirstLine(found.Output());
         return !m_window.empty() || !m_program.IsRunning();
-    })) << "no window with the title "
-        << title;
+    });
+    if (!isOver || m_window.empty())
+        throw std::runtime_error("no window with the title " + title + ": " + Complaints());
     Xdotool({"windowactivate", "--sync", m_window});
 }
 
@@ -69,7 +102,7 @@ std::optional<ScreenPoint> SampleInUse::Find(const std::string& colour)
 {
     const TempFolder folder;
     const std::string file = folder / "screen";
-    RunChild({"import", "-window", "root", "-depth", "8", "rgb:" + file});
+    Run({"import", "-window", "root", "-depth", "8", "rgb:" + file});
     const std::string pixels = ReadFile(file);
     std::string wanted;
     for (std::size_t digits = 1; digits < colour.size(); digits += 2)
@@ -102,7 +135,7 @@ void SampleInUse::Move(int x, int y) const
 
 std::string SampleInUse::Geometry() const
 {
-    std::istringstream lines(RunChild({"xwininfo", "-id", m_window}));
+    std::istringstream lines(Run({"xwininfo", "-id", m_window}));
     std::string numbers;
     for (std::string line; std::getline(lines, line);) {
         for (const char* name : {"Absolute", "  Width", "  Height"}) {
@@ -115,12 +148,12 @@ std::string SampleInUse::Geometry() const
 
 bool SampleInUse::IsMaximised() const
 {
-    return RunChild({"xprop", "-id", m_window, "_NET_WM_STATE"}).find("MAXIMIZED_VERT") != std::string::npos;
+    return Run({"xprop", "-id", m_window, "_NET_WM_STATE"}).find("MAXIMIZED_VERT") != std::string::npos;
 }
 
 std::string SampleInUse::Title() const
 {
-    return FirstLine(RunChild({"xdotool", "getwindowname", m_window}));
+    return FirstLine(Run({"xdotool", "getwindowname", m_window}));
 }
 
 void SampleInUse::WaitForTitle(const std::string& title) const
@@ -131,8 +164,7 @@ void SampleInUse::WaitForTitle(const std::string& title) const
 std::string SampleInUse::ColourAt(int x, int y) const
 {
     const std::string place = "1x1+" + std::to_string(x) + "+" + std::to_string(y);
-    const std::string pixel =
-        RunChild({"import", "-window", m_window, "-crop", place, "+repage", "-depth", "8", "txt:-"});
+    const std::string pixel = Run({"import", "-window", m_window, "-crop", place, "+repage", "-depth", "8", "txt:-"});
     const std::size_t sign = pixel.find('#', pixel.find('\n'));
     return sign == std::string::npos ? pixel : pixel.substr(sign, 7);
 }
@@ -141,5 +173,10 @@ void SampleInUse::Close()
 {
     Press("alt+F4");
     EXPECT_TRUE(m_program.WaitForEnd()) << "the window stays open";
-    EXPECT_EQ(m_program.ExitCode(), 0) << m_program.Output();
+    EXPECT_EQ(m_program.ExitCode(), 0) << Complaints();
+}
+
+std::string SampleInUse::Complaints() const
+{
+    return Shortened(ReadFile(m_folder / "errors"));
 }

@@ -31,7 +31,8 @@ struct Person
     }
 };
 
-/// One run of a sample, and the person who uses its window with mouse and keyboard.
+/// One run of a sample, and the person who uses its window with mouse and keyboard. What cannot be done, as with a window
+/// that is gone, ends the test by an exception.
 class SampleInUse
 {
 public:
@@ -63,6 +64,10 @@ public:
     void Close();
 
 private:
+    /// What the sample has said of errors, when that is long the beginning.
+    std::string Complaints() const;
+
+    TempFolder m_folder;
     ChildProcess m_program;
     std::string m_window;
 };

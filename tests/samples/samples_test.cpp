@@ -136,7 +136,7 @@ void PointAtColour(const SampleInUse& sheet, const char* colour)
     bool shown = false;
     for (int i = 0; i < 15 && !shown; ++i) {
         SampleInUse::PointAt({cell->x + i % 2, cell->y});
-        shown = Becomes(isShown, 1000);
+        shown = Becomes(isShown, 3000);
     }
     ASSERT_TRUE(shown) << sheet.ColourAt(490, 390) << " not " << colour;
 }
@@ -184,7 +184,7 @@ void PressUntil(const std::string& key, const std::function<bool()>& isDone)
     bool done = false;
     for (int i = 0; i < 15 && !done; ++i) {
         SampleInUse::Press(key);
-        done = Becomes(isDone, 1000);
+        done = Becomes(isDone, 3000);
     }
     EXPECT_TRUE(done) << key << " does nothing";
 }
