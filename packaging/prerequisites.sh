@@ -1,5 +1,5 @@
 # What the scripts share: the packages that each job needs, and how a preset is built.
-# Sourced with the project's folder as the current one.
+# Sourced with the project's folder as the current one. "one|other" is the first of them that the release has.
 
 build_packages=(g++ cmake ninja-build pkg-config gettext libwxgtk3.2-dev libglib2.0-dev libgtk-3-dev)
 display_packages=(xvfb xauth openbox x11-utils librsvg2-common)
@@ -9,7 +9,7 @@ picture_packages=(pngquant)
 coverage_packages=(gcovr)
 valgrind_packages=(valgrind libc6-dbg)
 bench_packages=(libbenchmark-dev libicu-dev)
-lint_packages=(clang-format-14 clang-tidy-14 cppcheck)
+lint_packages=('clang-format-14|clang-format' 'clang-tidy-14|clang-tidy' cppcheck)
 package_packages=(dpkg-dev lintian appstream desktop-file-utils mmdebstrap)
 fuzz_packages=(clang libclang-rt-dev llvm locales)
 
@@ -21,12 +21,31 @@ as_root() {
   fi
 }
 
-# install_missing PACKAGE...: installs those that are not installed yet, with sudo when not root.
-install_missing() {
-  local missing=() package
+is_installed() {
+  dpkg-query -W -f '${Status}\n' "$1" 2>/dev/null | grep -q '^install ok installed'
+}
+
+# find_missing PACKAGE...: sets missing to those that are not installed. Of several names it takes the first one that is
+# known, and the last one where none is.
+find_missing() {
+  local package name
+  missing=()
   for package in "$@"; do
-    dpkg-query -W -f '${Status}\n' "$package" 2>/dev/null | grep -q '^install ok installed' || missing+=("$package")
+    for name in ${package//|/ }; do
+      if is_installed "$name"; then
+        continue 2
+      elif apt-cache show "$name" >/dev/null 2>&1; then
+        break
+      fi
+    done
+    missing+=("$name")
   done
+}
+
+# install_missing PACKAGE...: says which of them are not installed yet, and installs those, with sudo when not root.
+install_missing() {
+  local missing
+  find_missing "$@"
   [ "${#missing[@]}" -gt 0 ] || return 0
 
   if ! command -v apt-get >/dev/null; then
@@ -38,11 +57,13 @@ install_missing() {
     return 1
   fi
 
-  echo "Installing, which may take some minutes: ${missing[*]}"
-  local log
+  local log sudo=
+  [ "$(id -u)" -eq 0 ] || sudo=" with sudo"
+  echo "Installing these packages$sudo, which may take some minutes: ${missing[*]}"
   log=$(mktemp)
-  # The index may be missing or old: refresh it only when the first attempt fails.
-  if ! apt_install >"$log" 2>&1 && ! { as_root apt-get update && apt_install; } >"$log" 2>&1; then
+  # The index may be missing or old: refresh it only when the first attempt fails. It may know other names.
+  if ! apt_install >"$log" 2>&1 &&
+    ! { as_root apt-get update && find_missing "$@" && apt_install; } >"$log" 2>&1; then
     tail -n 5 "$log" >&2
     rm -f "$log"
     echo "The packages could not be installed. With a network, run as root: apt-get install ${missing[*]}" >&2
