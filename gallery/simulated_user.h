@@ -20,7 +20,7 @@ enum class SortColumn;
 namespace simulated_user {
 
 /// Runs the event loop until @a done says so; false when it did not within @a milliseconds.
-bool WaitUntil(const std::function<bool()>& done, int milliseconds = 10000);
+bool WaitUntil(const std::function<bool()>& done, int milliseconds = 30000);
 
 /// @name Input, at points of the screen
 /// @{

@@ -59,7 +59,7 @@ public:
     /// Waits for its end, and expects it to be a good one.
     void ExpectEnd()
     {
-        EXPECT_TRUE(m_child.WaitForEnd(15000)) << m_child.Output();
+        EXPECT_TRUE(m_child.WaitForEnd()) << m_child.Output();
         EXPECT_EQ(m_child.ExitCode(), 0) << m_child.Output();
     }
 

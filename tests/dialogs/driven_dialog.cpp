@@ -119,7 +119,7 @@ void DrivenDialog::WaitFor(const std::string& what, const std::function<bool(con
         isHere = isThere(State());
         return isHere || !m_child.IsRunning();
     };
-    if (!Becomes(isDecided, 15000) || !isHere)
+    if (!Becomes(isDecided) || !isHere)
         ADD_FAILURE() << "does not come: " << what << "\n" << m_child.Output();
 }
 

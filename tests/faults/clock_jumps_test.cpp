@@ -60,7 +60,7 @@ TEST_P(ClockJumps, DoNotKeepTheColourPopup)
     const auto start = Clock::now();
     clock.Jump(GetParam());
     EXPECT_TRUE(PumpUntil([&] { return screen.combo->IsPopupShown(); }));
-    EXPECT_LT(Clock::now() - start, Patience() * std::chrono::seconds(3));
+    EXPECT_LT(Clock::now() - start, Patience() * std::chrono::seconds(30));
     EXPECT_FALSE(screen.combo->m_animTimer.IsRunning());
     screen.combo->Dismiss();
     EXPECT_TRUE(PumpUntil([&] { return !screen.combo->IsPopupShown(); }));
@@ -87,7 +87,7 @@ TEST_P(ClockJumpsByAnHour, LeaveTheWaitForTheStoresLockAsItIs)
     const auto waited = Clock::now() - start;
     somebody.join();
     EXPECT_GE(waited, std::chrono::milliseconds(1800));
-    EXPECT_LT(waited, Patience() * std::chrono::seconds(6));
+    EXPECT_LT(waited, Patience() * std::chrono::seconds(60));
     EXPECT_EQ(Stored(L"s", L"k"), L"2");
 }
 
@@ -104,7 +104,7 @@ TEST_P(ClockJumps, NeitherEndNorProlongTheWaitForAThread)
     const auto start = Clock::now();
     held.go.Set();
     EXPECT_TRUE(waiter.Ends());
-    EXPECT_LT(Clock::now() - start, Patience() * std::chrono::seconds(3));
+    EXPECT_LT(Clock::now() - start, Patience() * std::chrono::seconds(30));
     EXPECT_EQ(code, Code(42));
 }
 

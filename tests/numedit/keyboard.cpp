@@ -32,7 +32,7 @@ std::string SymbolName(unsigned key, unsigned level)
 
 void WaitForSymbol(unsigned key, unsigned level, const std::string& symbol)
 {
-    EXPECT_TRUE(PumpUntil([&] { return SymbolName(key, level) == symbol; }, 10000))
+    EXPECT_TRUE(PumpUntil([&] { return SymbolName(key, level) == symbol; }))
         << "key " << key << " has " << SymbolName(key, level) << " instead of " << symbol;
 }
 
@@ -41,7 +41,7 @@ void SetNumLock(bool on)
     if (gdk_keymap_get_num_lock_state(Keymap()) == on)
         return;
     RunChild({"xdotool", "key", "Num_Lock"});
-    EXPECT_TRUE(PumpUntil([&] { return bool{gdk_keymap_get_num_lock_state(Keymap()) != 0} == on; }, 10000));
+    EXPECT_TRUE(PumpUntil([&] { return bool{gdk_keymap_get_num_lock_state(Keymap()) != 0} == on; }));
 }
 
 }  // namespace
@@ -68,7 +68,7 @@ void RemapKey(unsigned key, wchar_t character)
     std::ostringstream command;
     command << "keycode " << key << " = U" << std::hex << std::setw(4) << std::setfill('0') << std::uint32_t(character);
     RunChild({"xmodmap", "-e", command.str()});
-    EXPECT_TRUE(PumpUntil([&] { return gdk_keyval_to_unicode(Symbol(key, 0)) == std::uint32_t(character); }, 10000))
+    EXPECT_TRUE(PumpUntil([&] { return gdk_keyval_to_unicode(Symbol(key, 0)) == std::uint32_t(character); }))
         << "key " << key << " has " << SymbolName(key, 0);
 }
 

@@ -9,7 +9,7 @@
 
 /// Whether something comes true within @a milliseconds: it is asked again and again. No event is handled meanwhile, as
 /// PumpUntil() does.
-inline bool Becomes(const std::function<bool()>& isTrue, int milliseconds = 30000)
+inline bool Becomes(const std::function<bool()>& isTrue, int milliseconds = 60000)
 {
     const auto deadline = std::chrono::steady_clock::now() + Patience() * std::chrono::milliseconds(milliseconds);
     while (!isTrue()) {

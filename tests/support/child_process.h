@@ -28,7 +28,7 @@ public:
     void Send(int signal);
 
     /// Waits for its end; false when it still runs after @a milliseconds.
-    bool WaitForEnd(int milliseconds = 30000);
+    bool WaitForEnd(int milliseconds = 60000);
 
     /// Its exit code once it has ended; minus the signal's number when a signal ended it.
     int ExitCode() const { return m_exitCode; }

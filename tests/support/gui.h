@@ -10,7 +10,7 @@ class wxTopLevelWindow;
 
 /// Runs the event loop until @a done says so; false when it did not within @a milliseconds, which are for a machine that
 /// is busy with other things.
-bool PumpUntil(const std::function<bool()>& done, int milliseconds = 10000);
+bool PumpUntil(const std::function<bool()>& done, int milliseconds = 30000);
 
 /// Handles every event that has arrived, idle processing included.
 void PumpPending();
