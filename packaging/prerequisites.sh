@@ -2,7 +2,7 @@
 # Sourced with the project's folder as the current one. "one|other" is the first of them that the release has.
 
 build_packages=(g++ cmake ninja-build pkg-config gettext libwxgtk3.2-dev libglib2.0-dev libgtk-3-dev)
-display_packages=(xvfb xauth openbox x11-utils librsvg2-common)
+display_packages=(xvfb xauth openbox x11-utils librsvg2-common 'adwaita-icon-theme-legacy|adwaita-icon-theme')
 test_packages=(libgtest-dev libgmock-dev libatspi2.0-dev at-spi2-core dbus-daemon xdotool x11-xkb-utils x11-xserver-utils imagemagick dpkg-dev file locales python3 weston)
 docs_packages=(doxygen doxygen-awesome-css)
 picture_packages=(pngquant)
@@ -25,20 +25,24 @@ is_installed() {
   dpkg-query -W -f '${Status}\n' "$1" 2>/dev/null | grep -q '^install ok installed'
 }
 
-# find_missing PACKAGE...: sets missing to those that are not installed. Of several names it takes the first one that is
-# known, and the last one where none is.
+# first_known NAME|...: of several names the first one that is known, and the last one where none is.
+first_known() {
+  local name
+  for name in ${1//|/ }; do
+    if [ "$name" = "${1##*|}" ] || is_installed "$name" || apt-cache show "$name" >/dev/null 2>&1; then
+      echo "$name"
+      return
+    fi
+  done
+}
+
+# find_missing PACKAGE...: sets missing to those that are not installed.
 find_missing() {
   local package name
   missing=()
   for package in "$@"; do
-    for name in ${package//|/ }; do
-      if is_installed "$name"; then
-        continue 2
-      elif apt-cache show "$name" >/dev/null 2>&1; then
-        break
-      fi
-    done
-    missing+=("$name")
+    name=$(first_known "$package")
+    is_installed "$name" || missing+=("$name")
   done
 }
 

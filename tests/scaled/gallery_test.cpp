@@ -55,7 +55,8 @@ TEST_F(GalleryOnAScaledScreen, HasSharpImagesOnItsTools)
     Open(root);
     for (const int id : {wxID_OPEN, wxID_UP, wxID_REFRESH, wxID_SAVEAS}) {
         const wxBitmapBundle image = frame->GetBrowser()->GetTools()->FindById(id)->GetNormalBitmapBundle();
-        EXPECT_FALSE(WasMadeLarger(image.GetBitmap(2 * image.GetDefaultSize()).ConvertToImage())) << id;
+        EXPECT_FALSE(WasMadeLarger(image.GetBitmap(2 * image.GetDefaultSize()).ConvertToImage()))
+            << "tool " << id << ": does the icon theme have images in colour, as adwaita-icon-theme-legacy?";
     }
 }
 
