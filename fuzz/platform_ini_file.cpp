@@ -1,12 +1,14 @@
 // INI files: whatever a file holds, loading and saving it changes nothing, and a value that is set is the one value that
 // changes, in memory and in the file.
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include <fittings/platform/local_reg_store.h>
 #include <fuzz/check.h>
@@ -76,6 +78,16 @@ std::wstring Get(const Ini& ini, const Address& address)
     return CLocalRegStore::GetString(*ini, address.section.c_str(), address.key.c_str(), kAbsent);
 }
 
+// Whether the names in the file lead to the key.
+bool HasName(const Ini& ini, const Address& address)
+{
+    const auto contains = [](const std::vector<std::wstring>& names, const std::wstring& name) {
+        return std::count(names.begin(), names.end(), name) == 1;
+    };
+    return contains(CLocalRegStore::GetSectionNames(*ini), address.section) &&
+           contains(CLocalRegStore::GetKeyNames(*ini, address.section.c_str()), address.key);
+}
+
 // A piece of the file, so that its own names are met; high bytes stand for unusual characters.
 std::wstring ConsumeText(FuzzedDataProvider& bytes, const std::string& file)
 {
@@ -122,11 +134,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     CLocalRegStore::WriteString(*ini, set.section.c_str(), set.key.c_str(), value.c_str());
     Check(Get(ini, set) == value, "a value that was set is there");
     Check(set == other || Get(ini, other) == otherValue, "another value stays");
+    Check(HasName(ini, set), "a key that was set is named");
+    Check(HasName(ini, other) == (Get(ini, other) != kAbsent), "a key is named where it has a value");
 
     Check(CLocalRegStore::Save(*ini, saved.widePath.c_str()), "what was changed can be saved");
     const Ini again = NewIni();
     Check(CLocalRegStore::Load(*again, saved.widePath.c_str()), "what was saved can be loaded");
     Check(Get(again, set) == value, "a value that was set comes back");
     Check(set == other || Get(again, other) == otherValue, "another value comes back");
+
+    Check(CLocalRegStore::DeleteKey(*again, set.section.c_str(), set.key.c_str()), "it was there");
+    Check(!HasName(again, set) && Get(again, set) == kAbsent, "a key that was deleted is gone");
     return 0;
 }

@@ -72,6 +72,14 @@ TEST_F(NamesOfAFile, ChangeWithIt)
     EXPECT_EQ(Keys(L"s"), (Names{L"b", L"d"}));
 }
 
+TEST_F(NamesOfAFile, AreGoneWithAKeyThatStoodThereTwice)
+{
+    Load("[s]\na=1\n[t]\n[s]\na=2\na=3\nb=1\n");
+    EXPECT_EQ(Keys(L"s"), (Names{L"a", L"b"}));
+    EXPECT_TRUE(CLocalRegStore::DeleteKey(*m_file, L"s", L"a"));
+    EXPECT_EQ(Keys(L"s"), (Names{L"b"}));
+}
+
 TEST(NamesInTheDefaultStore, StandInTheOrderOfTheFile)
 {
     const TempUserData data;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstddef>
+#include <iterator>
 
 #include <unistd.h>
 
@@ -61,9 +62,9 @@ bool IsUtf16(std::string_view text)
     return text.substr(0, 2) == "\xFF\xFE" || text.substr(0, 2) == "\xFE\xFF";
 }
 
-std::string_view FirstSectionName()
+std::string FirstSectionName()
 {
-    return kFirstSection.substr(1, kFirstSection.size() - 3);
+    return std::string(kFirstSection.substr(1, kFirstSection.size() - 3));
 }
 
 // Takes what GKeyFile gives.
@@ -283,8 +284,14 @@ std::vector<std::wstring> CIniFile::KeyNames(std::wstring_view section) const
 {
     std::vector<std::string> keys;
     for (const std::string& group : GroupNames()) {
-        if (fittings::DecodeName(group) == section)
-            Append(keys, g_key_file_get_keys(m_keys.get(), group.c_str(), nullptr, nullptr));
+        if (fittings::DecodeName(group) != section)
+            continue;
+        std::vector<std::string> names;
+        Append(names, g_key_file_get_keys(m_keys.get(), group.c_str(), nullptr, nullptr));
+        // A key that stood there twice is still named when it has been removed.
+        std::copy_if(names.begin(), names.end(), std::back_inserter(keys), [&](const std::string& key) {
+            return g_key_file_has_key(m_keys.get(), group.c_str(), key.c_str(), nullptr);
+        });
     }
     return Decoded(keys);
 }
@@ -293,8 +300,11 @@ std::vector<std::string> CIniFile::GroupNames() const
 {
     std::vector<std::string> names;
     Append(names, g_key_file_get_groups(m_keys.get(), nullptr));
-    const auto ours = std::remove(names.begin(), names.end(), FirstSectionName());
-    names.erase(ours, names.end());
+    // The first section is ours, unless a person has given the same name to one.
+    std::vector<std::string> keys;
+    Append(keys, g_key_file_get_keys(m_keys.get(), FirstSectionName().c_str(), nullptr, nullptr));
+    if (keys.empty())
+        names.erase(std::remove(names.begin(), names.end(), FirstSectionName()), names.end());
     return names;
 }
 
