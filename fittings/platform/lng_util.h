@@ -6,21 +6,7 @@
 #include <fittings/base/export.h>
 #include <fittings/base/std_str.h>
 
-/// Names the message catalogue in which a text is looked up; an empty name means every catalogue that is loaded.
-class CLanguageDomain
-{
-public:
-    CLanguageDomain() = default;
-
-    /// Names the catalogue as gettext does: the file is @a name with ".mo" behind it.
-    explicit CLanguageDomain(const CStdStr<wchar_t>& name) : m_name(name) {}
-
-    /// The name that it was made with.
-    const std::wstring& GetName() const { return m_name; }
-
-private:
-    std::wstring m_name;
-};
+class CLanguageDomain;
 
 /// Translation of the library's own texts.
 namespace lng_util_internal {
@@ -36,5 +22,21 @@ namespace lng_util_internal {
 FITTINGS_API const wchar_t* DoGetResourceString(const wchar_t* key, CLanguageDomain* domain);
 
 }  // namespace lng_util_internal
+
+/// Names the message catalogue in which a text is looked up; an empty name means every catalogue that is loaded.
+class CLanguageDomain
+{
+public:
+    CLanguageDomain() = default;
+
+    /// Names the catalogue as gettext does: the file is @a name with ".mo" behind it.
+    explicit CLanguageDomain(const CStdStr<wchar_t>& name) : m_name(name) {}
+
+    /// The name that it was made with.
+    const std::wstring& GetName() const { return m_name; }
+
+private:
+    std::wstring m_name;
+};
 
 #endif
