@@ -223,6 +223,29 @@ TEST(ThreadSample, CanBeClosedAtAnyTime)
     primes.Close();
 }
 
+TEST(RestartSample, StopsARunAndStartsAnother)
+{
+    const Person person;
+    SampleInUse sums("restart", "Sum", person);
+    sums.Type("1000");
+    sums.WaitForTitle("The sum is 500500");
+    sums.Type("000000000000");
+    sums.WaitForTitle("Adding up");
+    sums.Press("ctrl+a");
+    sums.Type("4");
+    sums.WaitForTitle("The sum is 10");
+    sums.Close();
+}
+
+TEST(RestartSample, CanBeClosedWhileItAddsUp)
+{
+    const Person person;
+    SampleInUse sums("restart", "Sum", person);
+    sums.Type("1000000000000000");
+    sums.WaitForTitle("Adding up");
+    sums.Close();
+}
+
 TEST(PlatformSample, RemembersWhatWasSearchedFor)
 {
     const Person person;

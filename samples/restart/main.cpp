@@ -1,0 +1,59 @@
+// Adds up all numbers to the one in the field, on a thread that each change of the field stops and starts anew.
+
+#include <memory>
+
+#include <wx/wx.h>
+
+#include <fittings/thread/gui_thread.h>
+
+wxDEFINE_EVENT(EVT_ADDED_UP, wxCommandEvent);  // the int is the number of the run, the extra long the sum
+
+class Adder final : public wxGUIThreadEx
+{
+public:
+    Adder(wxEvtHandler* handler, int run, long last) : wxGUIThreadEx(handler, EVT_ADDED_UP), m_run(run), m_last(last) {}
+    ~Adder() override
+    {
+        StartKill();  // ask it to stop,
+        Wait();       // and wait until it has: Entry() uses the members below
+    }
+    wxThread::ExitCode Entry() override
+    {
+        long sum = 0;
+        for (long number = 1; number <= m_last && DoContinue(); ++number)
+            sum += number;
+        PostEvent(m_run, sum);  // does nothing when asked to stop
+        return nullptr;
+    }
+
+private:
+    const int m_run;
+    const long m_last;
+};
+
+class SumFrame : public wxFrame
+{
+public:
+    SumFrame() : wxFrame(nullptr, wxID_ANY, "Sum")
+    {
+        (new wxTextCtrl(this, wxID_ANY))->Bind(wxEVT_TEXT, [this](wxCommandEvent& event) {
+            m_adder.reset();  // stops
+            m_adder = std::make_unique<Adder>(this, ++m_run, wxAtol(event.GetString()));
+            SetTitle(m_adder->RunThread() == wxTHREAD_NO_ERROR ? "Adding up" : "No thread to add up on");
+        });
+        Bind(EVT_ADDED_UP, [this](wxCommandEvent& event) {
+            if (event.GetInt() == m_run)  // else of a run that had sent its result when it was stopped
+                SetTitle(wxString::Format("The sum is %ld", event.GetExtraLong()));
+        });
+    }
+
+private:
+    std::unique_ptr<Adder> m_adder;
+    int m_run = 0;
+};
+
+class SumApp : public wxApp
+{
+    bool OnInit() override { return (new SumFrame)->Show(); }
+};
+wxIMPLEMENT_APP(SumApp);
