@@ -19,6 +19,7 @@ class OutlineWindow;
 /// @code
 /// class LinePage : public wxPanel, private wxColorPopupListener
 /// {
+/// public:
 ///     explicit LinePage(wxWindow* parent) : wxPanel(parent)
 ///     {
 ///         auto* const combo = new wxColourCombo;
@@ -29,6 +30,7 @@ class OutlineWindow;
 ///         combo->SetPopupControl(popup);
 ///     }
 ///
+/// private:
 ///     void OnColourSelEnd(const wxColour& colour) override { m_line = colour; }
 ///
 ///     wxColour m_line = *wxBLUE;

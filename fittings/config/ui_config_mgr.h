@@ -9,7 +9,10 @@
 ///
 /// Every call opens the one file, reads or changes one value, saves what changed and closes it: nothing is cached and
 /// no lock is taken, so of two processes that write one file at the same moment the later one wins. The folder is
-/// made by the first call of any kind. File names are used exactly as given; null texts count as empty. GUI thread only.
+/// made by the first call of any kind. Null texts count as empty. GUI thread only.
+///
+/// A file name is joined to the folder as it is, and not checked: "../x.ini" is a file outside of the folder, and a name
+/// with a folder in it needs that folder. Take names of the program's own, never one that a user can choose.
 ///
 /// @code
 /// ui_config_mgr::WriteConfigInt(L"search.ini", L"Results", L"PageSize", 50);

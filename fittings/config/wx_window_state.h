@@ -17,8 +17,14 @@ class wxWindow;
 /// Windows and managers must not be null; a null name counts as an empty one. Failures to save are not reported.
 ///
 /// @code
-/// MainFrame::MainFrame() { ...; wx_window_state::LoadState(this, L"Main"); }
-/// void MainFrame::OnClose(wxCloseEvent& event) { wx_window_state::SaveState(this, L"Main"); event.Skip(); }
+/// MainFrame::MainFrame() : wxFrame(nullptr, wxID_ANY, "Planets")
+/// {
+///     wx_window_state::LoadState(this, L"Main");
+///     Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent& event) {
+///         wx_window_state::SaveState(this, L"Main");
+///         event.Skip();
+///     });
+/// }
 /// @endcode
 namespace wx_window_state {
 

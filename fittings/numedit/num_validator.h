@@ -17,15 +17,21 @@
 ///     Buy(price);
 /// @endcode
 ///
-/// While the user types, a character that would leave something else than the beginning of an acceptable number is
-/// refused with a bell. Keys that are no characters (Backspace, Delete, Tab, Enter, arrows, Control with a letter from A to
+/// While the user types, a character that would leave something else than a number or the beginning of one is refused
+/// with a bell. Bounds are checked at each character too: with a lowest value of 10, "1" is refused, and so "12" cannot
+/// be typed. CNumberFormat says with which bounds every number within them can be. Keys that are no characters (Backspace, Delete, Tab, Enter, arrows, Control with a letter from A to
 /// Z) are never refused, whatever text they leave behind. The text is never formatted:
 /// CNumberEditUtils::FormatControlText() does.
 ///
-/// What typing cannot promise, Validate() and TransferFromWindow() do, so that no dialog ends with a bad number:
+/// What typing cannot promise, Validate() and TransferFromWindow() do, so that no dialog ends with a text that the format
+/// does not accept:
 /// - A pasted or dropped text, and one set by the program, goes in unchecked.
 /// - The control itself deletes a selection before it reports the character typed over it. The character is judged
 ///   without the selection, and refusing it does not bring the selection back.
+///
+/// They accept what CNumberEditUtils::ValidateString() accepts, and so the beginning of a number, too: the empty text,
+/// "-", "+", "." where decimals are accepted, "1." and "1e-". A program that needs a value looks whether the text has one,
+/// by wxString::ToCDouble() for example.
 ///
 /// The keypad's decimal key types the format's decimal point, whatever the keyboard layout would make of it, where the
 /// key is reported as WXK_NUMPAD_DECIMAL. Where the layout gives the key another code (the German one, for example,

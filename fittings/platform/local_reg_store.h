@@ -27,7 +27,7 @@ class CIniFile;
 /// The default store may be used from any thread, and until the process ends; a CIniFile from one thread at a time.
 ///
 /// @code
-/// CLocalRegStore::WriteString(L"Search", L"LastText", text.wc_str());
+/// CLocalRegStore::WriteString(L"Search", L"LastText", L"a needle");
 /// wxString text = CLocalRegStore::GetString(L"Search", L"LastText", L"");
 /// @endcode
 class FITTINGS_API CLocalRegStore

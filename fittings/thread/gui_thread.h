@@ -124,19 +124,24 @@ protected:
 /// class Lines : public wxGUIThreadEx
 /// {
 /// public:
-///     Lines(wxEvtHandler* handler, std::vector<std::string> lines)
-///         : wxGUIThreadEx(handler, EVT_LINE), m_lines(std::move(lines)) {}
+///     Lines(wxEvtHandler* handler, const std::vector<wxString>& lines)
+///         : wxGUIThreadEx(handler, EVT_LONG_LINE), m_lines(lines) {}
 ///     wxThread::ExitCode Entry() override
 ///     {
-///         int number = 0;
-///         for (std::string& line : m_lines) {
-///             if (!PostEvent(++number, &line))  // GetInt() is the number, GetClientData() the line
-///                 break;
+///         for (std::size_t i = 0; i < m_lines.size() && DoContinue(); ++i) {
+///             if (m_lines[i].length() > 80)
+///                 PostEvent(static_cast<int>(i));
 ///         }
 ///         return nullptr;
 ///     }
+///
+/// private:
+///     const std::vector<wxString>& m_lines;  // the handler's, which changes none until Wait() has returned
 /// };
 /// @endcode
+///
+/// Events may arrive after the worker is gone, where its handler lives on. What an event leads to, as the line of that
+/// number here, must be the handler's therefore, or live as long as it. Client data that points into the worker does not.
 class FITTINGS_API wxGUIThreadEx : public wxGUIThread
 {
 public:

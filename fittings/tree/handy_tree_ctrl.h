@@ -22,6 +22,7 @@ class wxImageList;
 ///     }
 /// };
 ///
+/// auto* tree = new FolderTree;
 /// tree->Create(parent);
 /// tree->SetProfile("Folders");
 /// wxTreeCursor root = tree->AddRoot("/");

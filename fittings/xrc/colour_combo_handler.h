@@ -10,7 +10,7 @@ class wxColourPopup;
 
 /// Makes a wxColourCombo with its wxColourPopup from an XML resource, for an object of class "wxColourCombo".
 ///
-/// @code
+/// @code{.xml}
 /// <object class="wxColourCombo" name="line">
 ///   <style>wxCB_READONLY</style>
 ///   <initial-colour>#0000FF</initial-colour>

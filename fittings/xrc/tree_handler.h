@@ -8,7 +8,7 @@
 /// Makes a wxHandyTreeCtrl, or a host's class that is derived from it, from an XML resource, for an object of class
 /// "wxHandyTreeCtrl".
 ///
-/// @code
+/// @code{.xml}
 /// <object class="wxHandyTreeCtrl" name="folders" subclass="FolderTree">
 ///   <size>200,300d</size>
 ///   <profile>Folders</profile>

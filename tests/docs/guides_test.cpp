@@ -1,10 +1,15 @@
-// The code that docs/guides shows: between two comments "[...]" stands what a guide takes over.
+// The code that docs/guides shows, word for word.
+
+#include <algorithm>
+#include <charconv>
+#include <optional>
 
 #include <gtest/gtest.h>
 
 #include <wx/dialog.h>
 #include <wx/fileconf.h>
 #include <wx/frame.h>
+#include <wx/intl.h>
 #include <wx/persist/toplevel.h>
 #include <wx/textctrl.h>
 #include <wx/translation.h>
@@ -17,6 +22,7 @@
 #include <fittings/platform/lng_util.h>
 #include <fittings/platform/local_reg_store.h>
 #include <tests/support/gui.h>
+#include <tests/support/scoped_locale.h>
 #include <tests/support/temp_folder.h>
 
 namespace {
@@ -28,35 +34,42 @@ wxFrame* NewFrame(const wxRect& rect)
 
 namespace before {
 
-//! [window before]
 void Remember(wxFrame* frame)
 {
     // When the frame is destroyed, its place and size are written to wxConfig.
     wxPersistentRegisterAndRestore(frame, "Main");
 }
-//! [window before]
 
-//! [settings before]
 void SaveSearch(wxConfigBase& config, const wxString& text, int pageSize)
 {
     config.Write("/Search/LastText", text);
     config.Write("/Search/PageSize", pageSize);
     config.Flush();
 }
-//! [settings before]
 
-//! [number before]
 void AddPrice(wxTextCtrl* field, double* price)
 {
     wxFloatingPointValidator<double> validator(2, price, wxNUM_VAL_THOUSANDS_SEPARATOR);
     validator.SetRange(0, 99999);
     field->SetValidator(validator);
 }
-//! [number before]
+
+void SaveSettings(wxConfigBase& config, wxFrame* frame, const wxString& folder, bool whole, long pageSize, double zoom)
+{
+    const wxRect place = frame->GetRect();
+    config.Write("/Main/x", place.x);
+    config.Write("/Main/y", place.y);
+    config.Write("/Main/w", place.width);
+    config.Write("/Main/h", place.height);
+    config.Write("/Search/Folder", folder);
+    config.Write("/Search/WholeWords", whole);
+    config.Write("/Search/PageSize", pageSize);
+    config.Write("/View/Zoom", zoom);
+    config.Flush();
+}
 
 }  // namespace before
 
-//! [window after]
 void Remember(wxFrame* frame)
 {
     wx_window_state::LoadState(frame, L"Main");
@@ -65,9 +78,7 @@ void Remember(wxFrame* frame)
         event.Skip();
     });
 }
-//! [window after]
 
-//! [window once]
 void TakeOver(wxFrame* frame)
 {
     if (wx_window_state::LoadState(frame, L"Main"))
@@ -82,9 +93,7 @@ void TakeOver(wxFrame* frame)
     if (earlier.ReadBool(path + "Maximized", false))
         wx_window_state::MaximizeFrame(frame);
 }
-//! [window once]
 
-//! [settings after]
 void SaveSearch(const wxString& text, int pageSize)
 {
     // Shared by all windows and processes of the program, and saved when the call returns.
@@ -92,9 +101,7 @@ void SaveSearch(const wxString& text, int pageSize)
     // In a file of its own, ui_config/search.ini.
     ui_config_mgr::WriteConfigInt(L"search.ini", L"Search", L"PageSize", pageSize);
 }
-//! [settings after]
 
-//! [settings once]
 void TakeOver(wxConfigBase& earlier)
 {
     wxString group;
@@ -107,9 +114,7 @@ void TakeOver(wxConfigBase& earlier)
             CLocalRegStore::WriteString(group.wc_str(), key.wc_str(), earlier.Read(key).wc_str());
     }
 }
-//! [settings once]
 
-//! [number after]
 void AddPrice(wxTextCtrl* field, wxString* price)
 {
     CNumberFormat format(eFixedFormat);  // two decimals and at most five digits before them
@@ -124,13 +129,97 @@ wxString Shown(const wxString& price)
 
 double ValueOf(const wxString& price)
 {
+    wxString number = price;
+    number.Replace(wxLocale::GetInfo(wxLOCALE_DECIMAL_POINT), ".");  // the validator takes the locale's point, too
     double value = 0;
-    price.ToCDouble(&value);  // the format's point is "." in every locale
-    return value;
+    return number.ToCDouble(&value) ? value : 0;  // "", "-" and "." are accepted, and are no numbers yet
 }
-//! [number after]
 
-//! [language]
+wxString TextOf(double value, const CNumberFormat& format)
+{
+    const auto decimals = format.m_bHasDecimals ? std::min<std::uint64_t>(format.m_nDecimals, 15) : 0;
+    wxString text = wxString::FromDouble(value, static_cast<int>(decimals));
+    text.Replace(wxLocale::GetInfo(wxLOCALE_DECIMAL_POINT), wxString(format.m_chDecimalPoint));
+    return text;
+}
+
+std::optional<double> NumberIn(wxString text, const CNumberFormat& format)
+{
+    text.Replace(wxString(format.m_chDecimalPoint), ".");
+    text.Replace(wxLocale::GetInfo(wxLOCALE_DECIMAL_POINT), ".");  // accepted besides the format's
+    double value = 0;
+    return text.ToCDouble(&value) ? std::optional(value) : std::nullopt;
+}
+
+void EditPrice(wxDialog& dialog, wxTextCtrl* field, double& price)
+{
+    CNumberFormat format(eLocaleFormat);
+    format.m_bHasDecimals = true;
+    format.m_nDecimals = 2;
+    wxString text = TextOf(price, format);
+    field->SetValidator(wxNumValidator(format, &text));
+    if (dialog.ShowModal() == wxID_OK)
+        price = NumberIn(text, format).value_or(price);
+    field->SetValidator(wxDefaultValidator);  // text ends here
+}
+
+wxString WithUnit(const wxString& number, wxString unit)
+{
+    unit.Replace("%", "%%");  // what a user types is text, and no format
+    CNumberFormat format(eFixedFormat);
+    format.m_strTemplate = ("%s " + unit).wc_str();
+    return CNumberEditUtils::FormatControlText(number.wc_str(), format);
+}
+
+long ReadInteger(const wchar_t* section, const wchar_t* key, long otherwise)
+{
+    long value = 0;
+    return wxString(CLocalRegStore::GetString(section, key, L"")).ToCLong(&value) ? value : otherwise;
+}
+
+double ReadNumber(const wchar_t* section, const wchar_t* key, double otherwise)
+{
+    double value = 0;
+    return wxString(CLocalRegStore::GetString(section, key, L"")).ToCDouble(&value) ? value : otherwise;
+}
+
+bool WriteNumber(const wchar_t* section, const wchar_t* key, double value)
+{
+    char text[32];
+    const std::to_chars_result end = std::to_chars(text, text + sizeof text, value);  // the same in every locale
+    return CLocalRegStore::WriteString(section, key, wxString::FromAscii(text, end.ptr - text).wc_str());
+}
+
+void SaveSettings(wxFrame* frame, const wxString& folder, bool whole, long pageSize, double zoom)
+{
+    wx_window_state::SaveState(frame, L"Main");
+    CLocalRegStore::WriteString(L"Search", L"Folder", folder.wc_str());
+    CLocalRegStore::WriteProfileBool(L"Search", L"WholeWords", whole);
+    CLocalRegStore::WriteString(L"Search", L"PageSize", wxString::Format("%ld", pageSize).wc_str());
+    WriteNumber(L"View", L"Zoom", zoom);
+}
+
+bool TakeOverAll(wxConfigBase& earlier)
+{
+    const wxString path = earlier.GetPath().Mid(1);  // "Search", or "View/Colours"
+    bool saved = true;
+    wxString name;
+    long place = 0;
+    for (bool more = earlier.GetFirstEntry(name, place); more; more = earlier.GetNextEntry(name, place))
+        saved = CLocalRegStore::WriteString(path.wc_str(), name.wc_str(), earlier.Read(name).wc_str()) && saved;
+    for (bool more = earlier.GetFirstGroup(name, place); more; more = earlier.GetNextGroup(name, place)) {
+        const wxConfigPathChanger inGroup(&earlier, name + "/");
+        saved = TakeOverAll(earlier) && saved;
+    }
+    return saved;
+}
+
+void TakeOverOnce(wxConfigBase& earlier)
+{
+    if (!CLocalRegStore::GetProfileBool(L"Settings", L"TakenOver", false) && TakeOverAll(earlier))
+        CLocalRegStore::WriteProfileBool(L"Settings", L"TakenOver", true);
+}
+
 void UseLanguage(wxLanguage language)
 {
     auto* translations = new wxTranslations;
@@ -139,7 +228,6 @@ void UseLanguage(wxLanguage language)
     translations->AddCatalog("fittings");  // before the program's own, whose words win
     translations->AddCatalog("planets");
 }
-//! [language]
 
 // A configuration of the toolkit's in memory, as the one in force, and a user data directory for the store.
 class Guide : public testing::Test
@@ -251,6 +339,110 @@ TEST_F(Guide, TransfersTheSameNumberBeforeAndAfterTheMove)
     EXPECT_EQ(ValueOf(price), 1234.5);
     field->SetValue("-1");
     EXPECT_FALSE(dialog.Validate());
+}
+
+TEST_F(Guide, ReadsThePriceThatAUserTypesInTheLocalesWay)
+{
+    const ScopedLocale german("de_DE.UTF-8");
+    wxDialog dialog(nullptr, wxID_ANY, "guide");
+    auto* field = new wxTextCtrl(&dialog, wxID_ANY);
+    wxString price;
+    AddPrice(field, &price);
+    for (const char* const typed : {"9,95", "9.95"}) {
+        field->SetValue(typed);
+        EXPECT_TRUE(dialog.Validate() && dialog.TransferDataFromWindow());
+        EXPECT_EQ(ValueOf(price), 9.95) << typed;
+    }
+    for (const char* const typed : {"", "."}) {
+        field->SetValue(typed);
+        EXPECT_TRUE(dialog.Validate() && dialog.TransferDataFromWindow()) << typed;
+        EXPECT_EQ(ValueOf(price), 0) << typed;
+    }
+}
+
+TEST_F(Guide, MakesATextOfANumberAndBack)
+{
+    const auto format = [](EGeneralFormat preset) {
+        CNumberFormat result(preset);
+        result.m_bHasDecimals = true;
+        result.m_nDecimals = 2;
+        return result;
+    };
+    for (const EGeneralFormat preset : {eLocaleFormat, eFixedFormat}) {
+        EXPECT_EQ(TextOf(-1234.567, format(preset)), "-1234.57");
+        EXPECT_EQ(NumberIn("-1234.57", format(preset)), -1234.57);
+        EXPECT_FALSE(NumberIn("-", format(preset)));
+    }
+    const ScopedLocale german("de_DE.UTF-8");
+    EXPECT_EQ(TextOf(9.95, format(eLocaleFormat)), "9,95");
+    EXPECT_EQ(TextOf(9.95, format(eFixedFormat)), "9.95");
+    EXPECT_EQ(NumberIn("9,95", format(eLocaleFormat)), 9.95);
+    EXPECT_EQ(NumberIn("9,95", format(eFixedFormat)), 9.95);
+    EXPECT_EQ(NumberIn("9.95", format(eFixedFormat)), 9.95);
+}
+
+TEST_F(Guide, EditsANumberInADialog)
+{
+    const ScopedLocale german("de_DE.UTF-8");
+    wxDialog dialog(nullptr, wxID_ANY, "guide");
+    auto* field = new wxTextCtrl(&dialog, wxID_ANY);
+    double price = 9.95;
+    const auto edit = [&](const char* typed) {
+        wxString before;
+        dialog.CallAfter([&, typed] {
+            before = field->GetValue();
+            field->SetValue(typed);
+            EXPECT_TRUE(dialog.Validate() && dialog.TransferDataFromWindow());
+            dialog.EndModal(wxID_OK);
+        });
+        EditPrice(dialog, field, price);
+        return before;
+    };
+    EXPECT_EQ(edit("12,5"), "9,95");
+    EXPECT_EQ(price, 12.5);
+    EXPECT_EQ(edit("-"), "12,50");
+    EXPECT_EQ(price, 12.5);
+}
+
+TEST_F(Guide, TakesAUnitFromAUser)
+{
+    EXPECT_EQ(WithUnit("1234.5", "kg"), "1,234.50 kg");
+    EXPECT_EQ(WithUnit("1234.5", "%s%n"), "1,234.50 %s%n");
+}
+
+TEST_F(Guide, TakesOverAllThatAProgramHasStored)
+{
+    wxFrame* frame = NewFrame(m_somewhere);
+    before::SaveSettings(m_config, frame, L"/home/caf\x00E9", true, 50, 1.25);
+    m_config.Write("/View/Colours/Line", "#FF6820");
+    m_config.Write("Name", "Ada");
+    TakeOverOnce(m_config);
+    EXPECT_EQ(m_config.GetPath(), "");
+    EXPECT_EQ(CLocalRegStore::GetString(L"Search", L"Folder", L""), L"/home/caf\x00E9");
+    EXPECT_TRUE(CLocalRegStore::GetProfileBool(L"Search", L"WholeWords", false));
+    EXPECT_EQ(ReadInteger(L"Search", L"PageSize", 10), 50);
+    EXPECT_EQ(ReadInteger(L"Search", L"Folder", 10), 10);
+    EXPECT_EQ(ReadNumber(L"View", L"Zoom", 1), 1.25);
+    EXPECT_EQ(ReadNumber(L"View", L"Missing", 1), 1);
+    EXPECT_EQ(CLocalRegStore::GetString(L"View/Colours", L"Line", L""), L"#FF6820");
+    EXPECT_EQ(CLocalRegStore::GetString(L"", L"Name", L""), L"Ada");
+
+    SaveSettings(frame, "/home/ada", false, 25, 0.5);
+    TakeOverOnce(m_config);
+    EXPECT_EQ(CLocalRegStore::GetString(L"Search", L"Folder", L""), L"/home/ada");
+    EXPECT_FALSE(CLocalRegStore::GetProfileBool(L"Search", L"WholeWords", true));
+    EXPECT_EQ(ReadInteger(L"Search", L"PageSize", 10), 25);
+    EXPECT_EQ(ReadNumber(L"View", L"Zoom", 1), 0.5);
+    EXPECT_EQ(CLocalRegStore::GetString(L"wxWindowState", L"Main", L""), L"160;120;420;310");
+    frame->Destroy();
+}
+
+TEST_F(Guide, ReadsAStoredNumberInAnyLocale)
+{
+    const ScopedLocale german("de_DE.UTF-8");
+    WriteNumber(L"View", L"Zoom", 1.25);
+    EXPECT_EQ(CLocalRegStore::GetString(L"View", L"Zoom", L""), L"1.25");
+    EXPECT_EQ(ReadNumber(L"View", L"Zoom", 1), 1.25);
 }
 
 TEST_F(Guide, LooksUpTheLanguageThatWasSet)
