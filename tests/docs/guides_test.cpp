@@ -54,7 +54,7 @@ void AddPrice(wxTextCtrl* field, double* price)
     field->SetValidator(validator);
 }
 
-void SaveSettings(wxConfigBase& config, wxFrame* frame, const wxString& folder, bool whole, long pageSize, double zoom)
+void SaveSettings(wxConfigBase& config, wxFrame* frame, const wxString& folder, bool whole, int pageSize, double zoom)
 {
     const wxRect place = frame->GetRect();
     config.Write("/Main/x", place.x);
@@ -171,12 +171,6 @@ wxString WithUnit(const wxString& number, wxString unit)
     return CNumberEditUtils::FormatControlText(number.wc_str(), format);
 }
 
-long ReadInteger(const wchar_t* section, const wchar_t* key, long otherwise)
-{
-    long value = 0;
-    return wxString(CLocalRegStore::GetString(section, key, L"")).ToCLong(&value) ? value : otherwise;
-}
-
 double ReadNumber(const wchar_t* section, const wchar_t* key, double otherwise)
 {
     double value = 0;
@@ -190,34 +184,36 @@ bool WriteNumber(const wchar_t* section, const wchar_t* key, double value)
     return CLocalRegStore::WriteString(section, key, wxString::FromAscii(text, end.ptr - text).wc_str());
 }
 
-void SaveSettings(wxFrame* frame, const wxString& folder, bool whole, long pageSize, double zoom)
+void SaveSettings(wxFrame* frame, const wxString& folder, bool whole, int pageSize, double zoom)
 {
+    CLocalRegStore::Batch batch;  // all of it is saved at once
     wx_window_state::SaveState(frame, L"Main");
     CLocalRegStore::WriteString(L"Search", L"Folder", folder.wc_str());
     CLocalRegStore::WriteProfileBool(L"Search", L"WholeWords", whole);
-    CLocalRegStore::WriteString(L"Search", L"PageSize", wxString::Format("%ld", pageSize).wc_str());
+    CLocalRegStore::WriteProfileInt(L"Search", L"PageSize", pageSize);
     WriteNumber(L"View", L"Zoom", zoom);
 }
 
-bool TakeOverAll(wxConfigBase& earlier)
+void TakeOverGroup(wxConfigBase& earlier)
 {
     const wxString path = earlier.GetPath().Mid(1);  // "Search", or "View/Colours"
-    bool saved = true;
     wxString name;
     long place = 0;
     for (bool more = earlier.GetFirstEntry(name, place); more; more = earlier.GetNextEntry(name, place))
-        saved = CLocalRegStore::WriteString(path.wc_str(), name.wc_str(), earlier.Read(name).wc_str()) && saved;
+        CLocalRegStore::WriteString(path.wc_str(), name.wc_str(), earlier.Read(name).wc_str());
     for (bool more = earlier.GetFirstGroup(name, place); more; more = earlier.GetNextGroup(name, place)) {
         const wxConfigPathChanger inGroup(&earlier, name + "/");
-        saved = TakeOverAll(earlier) && saved;
+        TakeOverGroup(earlier);
     }
-    return saved;
 }
 
 void TakeOverOnce(wxConfigBase& earlier)
 {
-    if (!CLocalRegStore::GetProfileBool(L"Settings", L"TakenOver", false) && TakeOverAll(earlier))
-        CLocalRegStore::WriteProfileBool(L"Settings", L"TakenOver", true);
+    if (CLocalRegStore::GetProfileBool(L"Settings", L"TakenOver", false))
+        return;
+    CLocalRegStore::Batch batch;  // all of it, or nothing
+    TakeOverGroup(earlier);
+    CLocalRegStore::WriteProfileBool(L"Settings", L"TakenOver", true);
 }
 
 void UseLanguage(wxLanguage language)
@@ -420,8 +416,7 @@ TEST_F(Guide, TakesOverAllThatAProgramHasStored)
     EXPECT_EQ(m_config.GetPath(), "");
     EXPECT_EQ(CLocalRegStore::GetString(L"Search", L"Folder", L""), L"/home/caf\x00E9");
     EXPECT_TRUE(CLocalRegStore::GetProfileBool(L"Search", L"WholeWords", false));
-    EXPECT_EQ(ReadInteger(L"Search", L"PageSize", 10), 50);
-    EXPECT_EQ(ReadInteger(L"Search", L"Folder", 10), 10);
+    EXPECT_EQ(CLocalRegStore::GetProfileInt(L"Search", L"PageSize", 10), 50);
     EXPECT_EQ(ReadNumber(L"View", L"Zoom", 1), 1.25);
     EXPECT_EQ(ReadNumber(L"View", L"Missing", 1), 1);
     EXPECT_EQ(CLocalRegStore::GetString(L"View/Colours", L"Line", L""), L"#FF6820");
@@ -431,7 +426,7 @@ TEST_F(Guide, TakesOverAllThatAProgramHasStored)
     TakeOverOnce(m_config);
     EXPECT_EQ(CLocalRegStore::GetString(L"Search", L"Folder", L""), L"/home/ada");
     EXPECT_FALSE(CLocalRegStore::GetProfileBool(L"Search", L"WholeWords", true));
-    EXPECT_EQ(ReadInteger(L"Search", L"PageSize", 10), 25);
+    EXPECT_EQ(CLocalRegStore::GetProfileInt(L"Search", L"PageSize", 10), 25);
     EXPECT_EQ(ReadNumber(L"View", L"Zoom", 1), 0.5);
     EXPECT_EQ(CLocalRegStore::GetString(L"wxWindowState", L"Main", L""), L"160;120;420;310");
     frame->Destroy();

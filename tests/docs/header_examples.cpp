@@ -135,6 +135,22 @@ TEST(HeaderExamples, KeepAText)
     EXPECT_EQ(text, "a needle");
 }
 
+TEST(HeaderExamples, SaveAllAtOnce)
+{
+    const TempUserData data;
+    auto* frame = new wxFrame(nullptr, wxID_ANY, "examples");
+    auto* tree = new wxHandyTreeCtrl;
+    tree->Create(frame);
+    wxTreeCursor root = tree->AddRoot("/");
+    {
+        CLocalRegStore::Batch batch;
+        wx_window_state::SaveState(frame, L"Main");
+        tree->SaveState("Folders", root);
+    }
+    EXPECT_EQ(CLocalRegStore::GetSectionNames().size(), 3U);
+    frame->Destroy();
+}
+
 TEST(HeaderExamples, FillATreeAsItIsExpanded)
 {
     const TempUserData data;

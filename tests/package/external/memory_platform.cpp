@@ -9,13 +9,11 @@
 #include <fittings/platform/local_reg_store.h>
 #include <fittings/platform/std_file_paths.h>
 
-//! [file]
 class CIniFile
 {
 public:
     std::map<std::pair<std::wstring, std::wstring>, std::wstring> values;
 };
-//! [file]
 
 namespace {
 
@@ -42,7 +40,6 @@ const MemoryStore& GetMemoryStore()
     return g_store;
 }
 
-//! [batch]
 // Nothing is saved here, so there is nothing to save as one.
 struct CLocalRegStore::Batch::Collected
 {
@@ -56,9 +53,7 @@ bool CLocalRegStore::Batch::Save()
 {
     return true;
 }
-//! [batch]
 
-//! [load]
 CIniFile* CLocalRegStore::CreateInitFile(bool)
 {
     return new CIniFile;
@@ -74,7 +69,6 @@ bool CLocalRegStore::Load(CIniFile& ini, const wchar_t* path)
     }
     return g_files.count(Text(path)) != 0;
 }
-//! [load]
 
 std::wstring CLocalRegStore::GetString(const CIniFile& ini, const wchar_t* section, const wchar_t* key,
                                        const wchar_t* defaultValue)
@@ -124,7 +118,6 @@ void CLocalRegStore::DestroyIniFile(CIniFile* ini)
     delete ini;
 }
 
-//! [default store]
 std::wstring CLocalRegStore::GetString(const wchar_t* section, const wchar_t* key, const wchar_t* defaultValue)
 {
     const auto found = g_store.find({L"", Text(section), Text(key)});
@@ -136,7 +129,6 @@ bool CLocalRegStore::WriteString(const wchar_t* section, const wchar_t* key, con
     g_store[{L"", Text(section), Text(key)}] = Text(value);
     return true;
 }
-//! [default store]
 
 bool CLocalRegStore::GetProfileBool(const wchar_t* section, const wchar_t* key, bool defaultValue)
 {
