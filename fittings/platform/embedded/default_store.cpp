@@ -114,7 +114,7 @@ UpdateResult DefaultStore::StoreOnce(const std::string& path, const std::vector<
             file.Delete(setting.section, setting.key);
     }
     const UpdateResult result = file.Update();
-    m_hasWaitedInVain = !lock.IsHeld();
+    m_hasWaitedInVain = !lock.IsHeld() && result != UpdateResult::Outdated;
     m_savedAfterThat = m_hasWaitedInVain ? IdentityOf(path) : std::nullopt;
     return result;
 }
