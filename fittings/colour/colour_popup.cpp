@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <memory>
 
 #include <wx/dcclient.h>
 #include <wx/settings.h>
 #include <wx/translation.h>
-#include <wx/weakref.h>
 
 #include <fittings/base/accessible.h>
 #include <fittings/base/or_empty.h>
@@ -209,7 +209,7 @@ void wxColourPopup::SetStringValue(const wxString& value)
 {
     if (m_bInternalHide || m_ending)
         return;
-    const wxWeakRef<wxColourPopup> alive(this);
+    const std::weak_ptr<const bool> life(m_life);
     for (int i = 0; i < fittings::kColourCount; ++i) {
         const wchar_t* const name = GetColourName(i);
         if (name && value == name) {
@@ -218,7 +218,7 @@ void wxColourPopup::SetStringValue(const wxString& value)
                 ChangeSelection(i);
             // A combo with a text hands it over while it opens the popup, wherever the pointer is. A listener may have
             // destroyed the popup by now.
-            if (alive && m_valueWhenShown && m_combo && !m_combo->IsPopupShown())
+            if (!life.expired() && m_valueWhenShown && m_combo && !m_combo->IsPopupShown())
                 ShowNameAtPointer("");
             return;
         }
