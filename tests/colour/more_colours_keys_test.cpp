@@ -14,7 +14,7 @@ protected:
     // Opens the popup and goes up from "Automatic" to "More Colours...".
     void OpenDialog()
     {
-        Xdotool({"key", "F4"});
+        Xdotool({"key", kF4});
         ASSERT_TRUE(probe.Waits("popup "));
         Xdotool({"key", "Down"});
         ASSERT_TRUE(probe.Waits("change "));

@@ -154,7 +154,7 @@ TEST_F(ColourOnWayland, IsUsedByKeyboard)
     WatchedProbe probe(2, Environment());
     EXPECT_EQ(probe.Lines("display "), std::vector<std::string>{"wayland"});
     const wxRect combo = Combo(probe);
-    Xdotool({"key", "F4"});
+    Xdotool({"key", kF4});
     ASSERT_TRUE(probe.Waits("popup "));
     EXPECT_EQ(probe.Lines("opens "), std::vector<std::string>{"at once"});
     // Down leads to "More Colours...", "Automatic" and the first cell.
@@ -203,7 +203,7 @@ TEST_F(ColourOnWayland, IsUsedByMouse)
 TEST_F(ColourOnWayland, IsClosedByAClickOutside)
 {
     WatchedProbe probe(1, Environment());
-    Xdotool({"key", "F4"});
+    Xdotool({"key", kF4});
     ASSERT_TRUE(probe.Waits("popup "));
     const wxPoint outside = Combo(probe).GetPosition() + wxPoint(300, 250);
     Xdotool({"mousemove", "0", "0", "mousemove", std::to_string(outside.x), std::to_string(outside.y), "click", "1"});

@@ -13,6 +13,7 @@
 #include <tests/numedit/number_dialog.h>
 #include <tests/support/child_process.h>
 #include <tests/support/gui.h>
+#include <tests/support/xdotool.h>
 #include <tests/tree/tree_on_screen.h>
 
 namespace {
@@ -95,7 +96,7 @@ TEST_P(KeyboardLayouts, LeadThroughTheColourPopup)
     ASSERT_TRUE(ShowAndSettle(screen.frame));
     screen.combo->SetFocus();
     ASSERT_TRUE(PumpUntil([&] { return screen.combo->HasFocus(); }));
-    Press("70");  // F4
+    Press(kF4);
     ASSERT_TRUE(PumpUntil([&] { return screen.combo->IsPopupShown(); }));
     PumpPending();
     struct Step

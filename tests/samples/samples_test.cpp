@@ -10,6 +10,7 @@
 
 #include <tests/samples/sample_in_use.h>
 #include <tests/support/becomes.h>
+#include <tests/support/xdotool.h>
 
 namespace {
 
@@ -129,7 +130,7 @@ constexpr const char* kLime = "#32CD32";
 // Opens the drop-down and moves over one of its colours until the sheet shows it.
 void PointAtColour(const SampleInUse& sheet, const char* colour)
 {
-    SampleInUse::Press("F4");
+    SampleInUse::Press(kF4);
     std::optional<ScreenPoint> cell;
     ASSERT_TRUE(Becomes([&] { return (cell = SampleInUse::Find(colour)).has_value(); })) << "no " << colour;
     const auto isShown = [&] { return sheet.ColourAt(490, 390) == colour; };
@@ -282,7 +283,7 @@ TEST(XrcSample, GivesAPlanetTheColourThatIsChosenAndOpensTheTreeAgain)
         planets.Press("Right");
         planets.Press("Down");
         planets.Press("alt+c");
-        planets.Press("F4");
+        planets.Press(kF4);
         EXPECT_TRUE(Becomes([] { return SampleInUse::Find(kOrange).has_value(); }));
         for (const char* const key : {"Up", "Down", "Right", "Return"})
             planets.Press(key);

@@ -6,6 +6,9 @@
 
 #include <tests/support/child_process.h>
 
+/// F4 for "xdotool key". By its name it would be sent with Alt where xkb-data is 2.48 or later.
+inline constexpr const char* kF4 = "70";
+
 /// Sends input to whatever has the focus of the X display, or asks about its windows, and returns the answer.
 inline std::string Xdotool(std::vector<std::string> arguments)
 {
