@@ -189,8 +189,7 @@ void CloseWindowPeer(benchmark::State& state)
         ++number;
         GKeyFile* const keys = LoadKeyFile(state, path);
         for (int value = 0; value < kWindowValues; ++value) {
-            g_key_file_set_value(keys, "Section0", settings.Key(value).c_str(),
-                                 std::to_string(number + value).c_str());
+            g_key_file_set_value(keys, "Section0", settings.Key(value).c_str(), std::to_string(number + value).c_str());
         }
         SaveKeyFile(state, keys, path);
         g_key_file_unref(keys);

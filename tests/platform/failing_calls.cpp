@@ -9,6 +9,7 @@
 
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -69,12 +70,14 @@ const std::string& FailingCalls::Failed()
 TAKE_PLACE(ssize_t, read, (int fd, void* to, size_t size), (fd, to, size))
 TAKE_PLACE(ssize_t, write, (int fd, const void* from, size_t size), (fd, from, size))
 TAKE_PLACE(int, fsync, (int fd), (fd))
+TAKE_PLACE(int, flock, (int fd, int operation) noexcept, (fd, operation))
 TAKE_PLACE(int, ftruncate, (int fd, off_t size), (fd, size))
 TAKE_PLACE(int, ftruncate64, (int fd, off64_t size), (fd, size))
 TAKE_PLACE(int, fallocate, (int fd, int mode, off_t from, off_t size), (fd, mode, from, size))
 TAKE_PLACE(int, fallocate64, (int fd, int mode, off64_t from, off64_t size), (fd, mode, from, size))
 TAKE_PLACE(int, rename, (const char* from, const char* to) noexcept, (from, to))
-TAKE_PLACE(int, renameat2, (int fromFolder, const char* from, int toFolder, const char* to, unsigned int flags) noexcept,
+TAKE_PLACE(int, renameat2,
+           (int fromFolder, const char* from, int toFolder, const char* to, unsigned int flags) noexcept,
            (fromFolder, from, toFolder, to, flags))
 TAKE_PLACE(ssize_t, readlink, (const char* path, char* to, size_t size) noexcept, (path, to, size))
 TAKE_PLACE(off_t, lseek, (int fd, off_t to, int from) noexcept, (fd, to, from))

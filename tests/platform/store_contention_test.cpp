@@ -73,7 +73,8 @@ void ExpectCounterAndKeys(int processes, int updates)
     }
 }
 
-void Contend(int processes, int updates, const std::function<void()>& prepare = [] {})
+void Contend(
+    int processes, int updates, const std::function<void()>& prepare = [] {})
 {
     std::vector<pid_t> children;
     for (int process = 0; process < processes; ++process) {

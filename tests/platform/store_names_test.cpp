@@ -123,8 +123,8 @@ TEST(AStoredInteger, ComesBack)
 TEST(AStoredInteger, ThatIsNoneGivesTheDefault)
 {
     const TempUserData data;
-    for (const wchar_t* const text : {L"", L"x", L"12px", L"1.5", L"2147483648", L"-2147483649", L"99999999999999999999",
-                                      L"0x10", L" 7", L"7 ", L"+7", L"--7", L"٧"}) {
+    for (const wchar_t* const text : {L"", L"x", L"12px", L"1.5", L"2147483648", L"-2147483649",
+                                      L"99999999999999999999", L"0x10", L" 7", L"7 ", L"+7", L"--7", L"٧"}) {
         EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"n", text));
         EXPECT_EQ(CLocalRegStore::GetProfileInt(L"s", L"n", 5), 5) << file_util_ex::ConvertToUTF8(text);
     }

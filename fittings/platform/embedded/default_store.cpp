@@ -24,9 +24,8 @@ constexpr int kMaxAttempts = 100;
 
 bool HoldsAll(const CIniFile& file, const std::vector<Setting>& settings)
 {
-    return std::all_of(settings.begin(), settings.end(), [&](const Setting& setting) {
-        return file.Has(setting.section, setting.key, setting.value);
-    });
+    return std::all_of(settings.begin(), settings.end(),
+                       [&](const Setting& setting) { return file.Has(setting.section, setting.key, setting.value); });
 }
 
 // Waits for a program that has emptied the file in place, such as an editor, to fill it.

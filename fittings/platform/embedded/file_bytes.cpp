@@ -8,6 +8,7 @@
 #include <utility>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -24,6 +25,7 @@ namespace {
 using GText = std::unique_ptr<char, decltype(&g_free)>;
 
 constexpr std::chrono::milliseconds kTimeToFillAFile(500);
+constexpr std::chrono::milliseconds kTimeToExchange(500);
 constexpr std::chrono::milliseconds kPause(1);
 
 // How often a change that came at the very moment of an exchange is merged. Each time takes another one.
@@ -190,17 +192,55 @@ UpdateResult MergeDisplaced(const Target& target, StagedFile& staged, int before
     return staged.Exchange() == PlaceResult::Done ? UpdateResult::Failed : UpdateResult::Saved;
 }
 
+// Of all who keep to it, only the one that has this lock of the folder exchanges a file there. It is held for the
+// microseconds between the last look at the file and the exchange, and cannot be removed or belong to somebody else.
+class ExchangeLock
+{
+public:
+    explicit ExchangeLock(const std::string& folder)
+        : m_folder(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+    {
+    }
+    ~ExchangeLock()
+    {
+        // Closing would leave the lock with a child that was forked meanwhile.
+        if (m_isHeld)
+            flock(m_folder.Get(), LOCK_UN);
+    }
+    ExchangeLock(const ExchangeLock&) = delete;
+    ExchangeLock& operator=(const ExchangeLock&) = delete;
+
+    // Waits as long as the file is as it was, but not for a process that was stopped just then.
+    void WaitWhile(const std::function<bool()>& isAsItWas)
+    {
+        const auto deadline = std::chrono::steady_clock::now() + kTimeToExchange;
+        while (m_folder.Get() >= 0 && !m_isHeld && std::chrono::steady_clock::now() < deadline && isAsItWas()) {
+            m_isHeld = flock(m_folder.Get(), LOCK_EX | LOCK_NB) == 0;
+            if (!m_isHeld && errno != EWOULDBLOCK && errno != EINTR)
+                return;
+            if (!m_isHeld)
+                std::this_thread::sleep_for(kPause);
+        }
+    }
+
+private:
+    const FileDescriptor m_folder;
+    bool m_isHeld = false;
+};
+
 UpdateResult ExchangeAndMerge(const Target& target, StagedFile& staged, const FileUpdate& update)
 {
     const FileDescriptor before(open(target.path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
-    struct stat info;
     if (before.Get() < 0)
         return errno == ENOENT ? UpdateResult::Outdated : UpdateResult::Failed;
-    if (fstat(before.Get(), &info) != 0)
-        return UpdateResult::Failed;
-    if (!(FileIdentity(info) == *update.found.identity))
-        return UpdateResult::Outdated;
-    const PlaceResult placed = staged.Exchange();
+    const auto isAsItWas = [&] { return IdentityOf(target.path) == update.found.identity; };
+    PlaceResult placed = PlaceResult::NotAsExpected;
+    {
+        ExchangeLock lock(FolderOf(target.path));
+        lock.WaitWhile(isAsItWas);
+        if (isAsItWas())
+            placed = staged.Exchange();
+    }
     if (placed == PlaceResult::Unsupported)
         return ResultOf(staged.Replace());
     if (placed != PlaceResult::Done)

@@ -202,7 +202,8 @@ fittings::UpdateResult CIniFile::Update() const
 }
 
 // What stood in the file, with what was put there changed in it as against what was expected there. Where both changed a
-// key, the change of this object counts, else the one that was displaced, which is newer than what else was put.
+// key, the change of this object counts, else the one that was displaced, which is newer than what else was put. Only this
+// object removes a key: that it is missing elsewhere may mean that another process has not merged it yet.
 std::optional<std::string> CIniFile::Merged(std::string_view expected, std::string_view put,
                                             std::string_view displaced) const
 {
@@ -211,29 +212,24 @@ std::optional<std::string> CIniFile::Merged(std::string_view expected, std::stri
     CIniFile result;
     if (!before.Parse(expected) || !ours.Parse(put) || !result.Parse(displaced))
         return std::nullopt;
-    for (const CIniFile* const file : {&before, &ours}) {
-        for (const std::wstring& section : file->SectionNames()) {
-            for (const std::wstring& key : file->KeyNames(section)) {
-                const auto old = before.Get(section, key);
-                const auto value = ours.Get(section, key);
-                if (value == old || (!result.Has(section, key, old) && !IsChanged(section, key)))
-                    continue;
-                if (value)
-                    result.Set(section, key, *value);
-                else
-                    result.Delete(section, key);
-            }
+    for (const std::wstring& section : ours.SectionNames()) {
+        for (const std::wstring& key : ours.KeyNames(section)) {
+            const auto old = before.Get(section, key);
+            const auto value = ours.Get(section, key);
+            if (value != old && result.Has(section, key, old))
+                result.Set(section, key, *value);
         }
+    }
+    for (const Slot& slot : m_changes) {
+        const std::wstring section = fittings::DecodeName(slot.first);
+        const std::wstring key = fittings::DecodeName(slot.second);
+        if (const auto value = Get(section, key))
+            result.Set(section, key, *value);
+        else
+            result.Delete(section, key);
     }
     std::string text = result.ChangedText();
     return HasTooManyLines(text) ? std::nullopt : std::optional<std::string>(std::move(text));
-}
-
-bool CIniFile::IsChanged(std::wstring_view section, std::wstring_view key) const
-{
-    return std::any_of(m_changes.begin(), m_changes.end(), [&](const Slot& slot) {
-        return fittings::DecodeName(slot.first) == section && fittings::DecodeName(slot.second) == key;
-    });
 }
 
 std::optional<std::wstring> CIniFile::Get(std::wstring_view section, std::wstring_view key) const

@@ -75,8 +75,8 @@ private:
     void Clear();
     bool ParseBuffer();
     std::vector<std::string> GroupNames() const;
-    std::optional<std::string> Merged(std::string_view expected, std::string_view put, std::string_view displaced) const;
-    bool IsChanged(std::wstring_view section, std::wstring_view key) const;
+    std::optional<std::string> Merged(std::string_view expected, std::string_view put,
+                                      std::string_view displaced) const;
     void NoteName(const std::string& section, std::string_view rawSection, std::string_view rawKey);
     GText Value(const Slot& slot) const;
     GText Find(std::wstring_view section, std::wstring_view key) const;

@@ -197,6 +197,5 @@ std::string CLocalRegStore::GetString(const char* section, const char* key, cons
 
 bool CLocalRegStore::WriteString(const char* section, const char* key, const char* value)
 {
-    return StoreSetting(NarrowToWide(View(section)), NarrowToWide(View(key)),
-                        NarrowToWide(View(value)));
+    return StoreSetting(NarrowToWide(View(section)), NarrowToWide(View(key)), NarrowToWide(View(value)));
 }
