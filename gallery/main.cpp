@@ -124,7 +124,6 @@ public:
         if (!note.empty())
             std::fprintf(stderr, "fittings-gallery: %s\n", static_cast<const char*>(note.utf8_str()));
         frame->Show();
-        frame->Raise();
         return true;
     }
 

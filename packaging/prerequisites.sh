@@ -3,7 +3,7 @@
 
 build_packages=(g++ cmake ninja-build pkg-config gettext libwxgtk3.2-dev libglib2.0-dev libgtk-3-dev)
 display_packages=(xvfb xauth openbox x11-utils x11-xkb-utils librsvg2-common 'adwaita-icon-theme-legacy|adwaita-icon-theme')
-test_packages=(libgtest-dev libgmock-dev libatspi2.0-dev at-spi2-core dbus-daemon xdotool x11-xserver-utils imagemagick dpkg-dev file locales python3 weston)
+test_packages=(libgtest-dev libgmock-dev libatspi2.0-dev at-spi2-core dbus-daemon xdotool x11-xserver-utils imagemagick dpkg-dev file locales python3 weston metacity icewm)
 docs_packages=(doxygen doxygen-awesome-css python3)
 picture_packages=(pngquant)
 coverage_packages=(gcovr)

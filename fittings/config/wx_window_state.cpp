@@ -11,6 +11,7 @@
 
 #include <fittings/base/or_empty.h>
 #include <fittings/config/aui_layout.h>
+#include <fittings/config/first_showing.h>
 #include <fittings/config/ui_config_mgr.h>
 #include <fittings/platform/local_reg_store.h>
 
@@ -175,7 +176,11 @@ bool wx_window_state::LoadState(wxWindow* window, const wchar_t* name)
         // A window that had to grow or shrink may have moved with it.
         window->SetSize(stored->x, stored->y, -1, -1, wxSIZE_USE_EXISTING);
     }
-    return BringOntoDisplay(*window);
+    if (!BringOntoDisplay(*window))
+        return false;
+    if (auto* const topLevel = wxDynamicCast(window, wxTopLevelWindow))
+        fittings::KeepGeometryWhenShown(*topLevel);
+    return true;
 }
 
 bool wx_window_state::LoadState(wxFrame* frame, const wchar_t* name)

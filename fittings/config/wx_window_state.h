@@ -42,7 +42,8 @@ FITTINGS_API void SaveState(wxFrame* frame, const wchar_t* name);
 /// (0, 0); one that reaches out of its display's work area is clipped to it, and one that is wholly outside of that
 /// area, under a panel, moves into it. Numbers beyond the 16 bits of an X display count as the largest of these.
 ///
-/// On X11 the toolkit loses the position of the first window that a process shows, unless Raise() follows Show().
+/// A hidden window comes back in its place when it is shown, the first one of a process too, under any window manager that
+/// lets programs place their windows. wxWindow::Show() is all that it takes.
 ///
 /// Meant for top-level windows: a child's position in its parent is measured against the work area as it is.
 ///

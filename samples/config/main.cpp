@@ -47,9 +47,7 @@ class NotesApp : public wxApp
 {
     bool OnInit() override
     {
-        auto* frame = new NotesFrame;
-        frame->Show();
-        frame->Raise();  // without it, some window managers place a program's first window themselves
+        (new NotesFrame)->Show();
         return true;
     }
 };

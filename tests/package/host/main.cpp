@@ -20,7 +20,6 @@ class Host : public wxApp
             event.Skip();
         });
         frame->Show();
-        frame->Raise();  // some window managers place a program's first window themselves unless it is raised
         return true;
     }
 };

@@ -1,0 +1,147 @@
+// first_frame_probe KIND store X;Y;WIDTH;HEIGHT: shows a frame, gives it this geometry, or with "corner" 500 x 340 pixels in
+// the corner of the work area, and stores it. first_frame_probe KIND restore: restores a frame and shows it as the first
+// window of the process. Both print the geometry on the screen when it is the one that is expected and stays so, or else
+// the last one that was seen. KIND is "plain", "menu" or "fixed".
+
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+#include <gtk/gtk.h>
+#include <wx/display.h>
+#include <wx/stopwatch.h>
+#include <wx/textctrl.h>
+#include <wx/wx.h>
+
+#include <fittings/config/wx_window_state.h>
+#include <fittings/platform/local_reg_store.h>
+#include <tests/support/patience.h>
+
+#include <gdk/gdkx.h>
+#include <X11/Xatom.h>
+#include <X11/Xlib.h>
+
+namespace {
+
+constexpr int kPause = 20;
+constexpr int kTimesTheSame = 25;
+constexpr int kLongest = 20000;
+
+std::string Text(const wxRect& rect)
+{
+    return wxString::Format("%d;%d;%d;%d", rect.x, rect.y, rect.width, rect.height).utf8_string();
+}
+
+/// Where the frame is on the screen with the decorations that a user can see, as the X server has it; empty until the
+/// window manager has put them around it.
+wxRect OnScreen(const wxFrame& frame)
+{
+    GdkWindow* const window = gtk_widget_get_window(frame.GetHandle());
+    if (!window || !gtk_widget_get_mapped(frame.GetHandle()))
+        return {};
+    Display* const display = GDK_WINDOW_XDISPLAY(window);
+    const Window id = GDK_WINDOW_XID(window);
+    Atom type = None;
+    int format = 0;
+    unsigned long count = 0;
+    unsigned long left = 0;
+    unsigned char* data = nullptr;
+    XGetWindowProperty(display, id, XInternAtom(display, "_NET_FRAME_EXTENTS", False), 0, 4, False, XA_CARDINAL, &type,
+                       &format, &count, &left, &data);
+    wxRect rect;
+    if (data && count == 4) {
+        const auto* const extents = reinterpret_cast<const long*>(data);
+        XWindowAttributes attributes;
+        XGetWindowAttributes(display, id, &attributes);
+        Window child = None;
+        XTranslateCoordinates(display, id, attributes.root, 0, 0, &rect.x, &rect.y, &child);
+        rect.x -= static_cast<int>(extents[0]);
+        rect.y -= static_cast<int>(extents[2]);
+        rect.width = attributes.width + static_cast<int>(extents[0] + extents[1]);
+        rect.height = attributes.height + static_cast<int>(extents[2] + extents[3]);
+    }
+    if (data)
+        XFree(data);
+    return rect;
+}
+
+class ProbeApp : public wxApp
+{
+public:
+    bool OnInit() override
+    {
+        SetAppName("first-frame");
+        if (argc < 3)
+            return false;
+        const wxString kind = argv[1];
+        const long style =
+            kind == "fixed" ? wxDEFAULT_FRAME_STYLE & ~(wxRESIZE_BORDER | wxMAXIMIZE_BOX) : wxDEFAULT_FRAME_STYLE;
+        m_frame = new wxFrame(nullptr, wxID_ANY, "first", wxDefaultPosition, wxDefaultSize, style);
+        if (kind == "menu") {
+            auto* menu = new wxMenu;
+            menu->Append(wxID_EXIT);
+            auto* bar = new wxMenuBar;
+            bar->Append(menu, "&File");
+            m_frame->SetMenuBar(bar);
+            m_frame->CreateStatusBar();
+            new wxTextCtrl(m_frame, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxTE_MULTILINE);
+        }
+        m_stores = argc > 3;
+        if (m_stores) {
+            m_frame->SetSize(Wanted(argv[3]));
+        } else {
+            wx_window_state::LoadState(m_frame, L"Main");
+            const std::wstring stored = CLocalRegStore::GetString(L"wxWindowState", L"Main", L"");
+            m_expected = wxString(stored).utf8_string();
+        }
+        m_frame->Show();
+        m_timer.Bind(wxEVT_TIMER, [this](wxTimerEvent&) { Look(); });
+        m_timer.Start(kPause);
+        return true;
+    }
+
+private:
+    wxRect Wanted(const wxString& text)
+    {
+        m_wanted = wxRect(wxDisplay(0U).GetClientArea().GetPosition(), wxSize(500, 340));
+        if (text != "corner")
+            wxSscanf(text, "%d;%d;%d;%d", &m_wanted.x, &m_wanted.y, &m_wanted.width, &m_wanted.height);
+        return m_wanted;
+    }
+
+    void Look()
+    {
+        const wxRect now = OnScreen(*m_frame);
+        m_same = now == m_last && !now.IsEmpty() && now == m_frame->GetScreenRect() ? m_same + 1 : 0;
+        m_last = now;
+        const bool isLate = m_watch.Time() > Patience() * kLongest;
+        if (m_same < kTimesTheSame && !isLate)
+            return;
+        // A frame that is shown may be moved and sized by its program.
+        if (m_stores && now != m_wanted && !isLate) {
+            m_frame->SetSize(m_wanted);
+            m_same = 0;
+            return;
+        }
+        if (!m_stores && Text(now) != m_expected && !isLate)
+            return;
+        if (m_stores)
+            wx_window_state::SaveState(m_frame, L"Main");
+        std::printf("%s\n", Text(now).c_str());
+        m_timer.Stop();
+        m_frame->Close(true);
+    }
+
+    wxFrame* m_frame = nullptr;
+    bool m_stores = false;
+    wxRect m_wanted;
+    std::string m_expected;
+    wxRect m_last;
+    int m_same = 0;
+    wxTimer m_timer;
+    const wxStopWatch m_watch;
+};
+
+}  // namespace
+
+wxIMPLEMENT_APP(ProbeApp);

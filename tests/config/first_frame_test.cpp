@@ -1,0 +1,40 @@
+// The first window of a process comes back where it was and as large as it was, whatever the window manager.
+
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include <tests/support/child_process.h>
+
+namespace {
+
+class FirstFrame : public testing::TestWithParam<const char*>
+{
+protected:
+    void ExpectBack(const std::string& geometry) const
+    {
+        const std::string stored = RunChild({FIRST_FRAME_PROBE, GetParam(), "store", geometry});
+        ASSERT_FALSE(stored.empty());
+        if (geometry != "corner") {
+            ASSERT_EQ(stored, geometry + "\n");
+        }
+        for (int time = 1; time <= 2; ++time)
+            EXPECT_EQ(RunChild({FIRST_FRAME_PROBE, GetParam(), "restore"}), stored) << "time " << time;
+    }
+};
+
+TEST_P(FirstFrame, ComesBackInItsPlace)
+{
+    ExpectBack("420;130;510;340");
+}
+
+// Where a frame is that was never moved: the toolkit then leaves the place to the window manager.
+TEST_P(FirstFrame, ComesBackInTheCorner)
+{
+    ExpectBack("corner");
+}
+
+INSTANTIATE_TEST_SUITE_P(, FirstFrame, testing::Values("plain", "menu", "fixed"),
+                         [](const auto& info) { return std::string(info.param); });
+
+}  // namespace

@@ -1,0 +1,69 @@
+// A restored window that is not shown, or not for long.
+
+#include <fittings/config/wx_window_state.h>
+
+#include <gtest/gtest.h>
+#include <gtk/gtk.h>
+#include <wx/frame.h>
+
+#include <fittings/platform/local_reg_store.h>
+#include <tests/support/gui.h>
+#include <tests/support/temp_folder.h>
+
+namespace {
+
+class RestoredFrame : public testing::Test
+{
+protected:
+    RestoredFrame()
+    {
+        CLocalRegStore::WriteString(L"wxWindowState", L"Main", L"420;130;510;340");
+        EXPECT_TRUE(wx_window_state::LoadState(frame, L"Main"));
+    }
+
+    const TempUserData data;
+    wxFrame* frame = new wxFrame(nullptr, wxID_ANY, "restored");
+};
+
+TEST_F(RestoredFrame, StaysHiddenUntilItIsShown)
+{
+    gtk_widget_realize(frame->GetHandle());
+    PumpPending();
+    EXPECT_FALSE(frame->IsShown());
+    EXPECT_FALSE(gtk_widget_get_visible(frame->GetHandle()));
+    ASSERT_TRUE(ShowAndSettle(frame));
+    EXPECT_EQ(frame->GetScreenRect(), wxRect(420, 130, 510, 340));
+    frame->Destroy();
+}
+
+TEST_F(RestoredFrame, StaysHiddenWhenItIsHiddenAtOnce)
+{
+    frame->Show();
+    frame->Hide();
+    PumpPending();
+    EXPECT_FALSE(gtk_widget_get_visible(frame->GetHandle()));
+    frame->Destroy();
+}
+
+TEST_F(RestoredFrame, MayBeDestroyedAtOnce)
+{
+    frame->Show();
+    delete frame;
+    PumpPending();
+}
+
+// Each time that it is restored before it is shown, and no time later.
+TEST_F(RestoredFrame, GoesWhereItsProgramPutsIt)
+{
+    EXPECT_TRUE(wx_window_state::LoadState(frame, L"Main"));
+    frame->SetSize(300, 200, 400, 300);
+    ASSERT_TRUE(ShowAndSettle(frame));
+    EXPECT_EQ(frame->GetScreenRect(), wxRect(300, 200, 400, 300));
+    frame->Hide();
+    frame->SetSize(310, 220, 420, 320);
+    ASSERT_TRUE(ShowAndSettle(frame));
+    EXPECT_EQ(frame->GetScreenRect(), wxRect(310, 220, 420, 320));
+    frame->Destroy();
+}
+
+}  // namespace
