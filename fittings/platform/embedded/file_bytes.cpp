@@ -240,9 +240,9 @@ UpdateResult ExchangeAndMerge(const Target& target, StagedFile& staged, const Fi
         lock.WaitWhile(isAsItWas);
         if (isAsItWas())
             placed = staged.Exchange();
+        if (placed == PlaceResult::Unsupported)
+            return ResultOf(staged.Replace());
     }
-    if (placed == PlaceResult::Unsupported)
-        return ResultOf(staged.Replace());
     if (placed != PlaceResult::Done)
         return ResultOf(placed);
     return MergeDisplaced(target, staged, before.Get(), update.foundBytes, update.newBytes, update, 0);
