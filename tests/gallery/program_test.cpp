@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <memory>
 #include <set>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -148,13 +149,26 @@ TEST_F(TheProgram, FitsOnTheScreenAtFirst)
     EXPECT_NEAR(height, 480, 1);
 }
 
+// What the program itself says. The image loader of newer releases says besides when it runs without its sandbox.
+std::string OwnLines(const std::string& errors)
+{
+    std::string own;
+    std::istringstream lines(errors);
+    for (std::string line; std::getline(lines, line);) {
+        if (line.rfind("fittings-gallery: ", 0) == 0)
+            own += line + "\n";
+    }
+    return own;
+}
+
 TEST_F(TheProgram, SaysInOneLineWhatIsNoFolderAndStarts)
 {
     Program program({"/no such folder"});
     ASSERT_TRUE(ShowsWindow("Fittings Gallery"));
     program.Send(SIGTERM);
     EXPECT_EQ(program.Wait(), 0);
-    EXPECT_EQ(program.Errors(), "fittings-gallery: /no such folder: No such file or directory\n");
+    EXPECT_EQ(OwnLines(program.Errors()), "fittings-gallery: /no such folder: No such file or directory\n")
+        << program.Errors();
 }
 
 std::size_t CountColours(const std::string& path)
