@@ -151,8 +151,8 @@ protected:
         ASSERT_TRUE(wxTheClipboard->SetData(new wxTextDataObject("pasted")));
     }
 
-    // GTK 3 offers the compositor the same data source again where the program owns the clipboard, and weston 16
-    // cancels a source that is set a second time: the clipboard would then be empty.
+    // Where the program owns the clipboard, GTK 3.24.52 sets the same data source on Wayland again, and weston 16 cancels
+    // it: the clipboard would then be empty. GTK 3.24.38 makes a new one.
     void TearDown() override
     {
         const wxClipboardLocker clipboard;
