@@ -124,8 +124,6 @@ public:
         if (!note.empty())
             std::fprintf(stderr, "fittings-gallery: %s\n", static_cast<const char*>(note.utf8_str()));
         frame->Show();
-        // Shows it now. The toolkit alone shows a first window late, and GTK then complains of sizes below zero.
-        frame->Raise();
         return true;
     }
 

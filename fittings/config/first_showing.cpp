@@ -48,14 +48,17 @@ void OnRealize(GtkWidget* widget, gpointer data)
 
 }  // namespace
 
-void fittings::KeepGeometryWhenShown(wxTopLevelWindow& window)
+void fittings::ShowWithoutDelay(wxTopLevelWindow& window)
 {
     GtkWidget* const widget = window.GetHandle();
-    if (!widget || window.IsShown() || !GDK_IS_X11_DISPLAY(gtk_widget_get_display(widget)))
-        return;
-    // The toolkit leaves this out where the window has the position already, and then the window manager chooses one.
+    if (widget && !window.IsShown() && GDK_IS_X11_DISPLAY(gtk_widget_get_display(widget)))
+        g_signal_connect_data(widget, "realize", G_CALLBACK(&OnRealize), Copy(&window), &DeleteOfSignal,
+                              GConnectFlags{});
+}
+
+void fittings::KeepPlace(wxTopLevelWindow& window)
+{
     const wxPoint position = window.GetPosition();
-    if (position != wxDefaultPosition)
-        gtk_window_move(GTK_WINDOW(widget), position.x, position.y);
-    g_signal_connect_data(widget, "realize", G_CALLBACK(&OnRealize), Copy(&window), &DeleteOfSignal, GConnectFlags{});
+    if (window.GetHandle() && position != wxDefaultPosition)
+        gtk_window_move(GTK_WINDOW(window.GetHandle()), position.x, position.y);
 }

@@ -168,6 +168,9 @@ void wx_window_state::SaveState(wxFrame* frame, const wchar_t* name)
 
 bool wx_window_state::LoadState(wxWindow* window, const wchar_t* name)
 {
+    auto* const topLevel = wxDynamicCast(window, wxTopLevelWindow);
+    if (topLevel)
+        fittings::ShowWithoutDelay(*topLevel);
     const auto stored = ParseGeometry(CLocalRegStore::GetString(kGeometrySection, OrEmpty(name), L""));
     if (!stored)
         return false;
@@ -175,12 +178,10 @@ bool wx_window_state::LoadState(wxWindow* window, const wchar_t* name)
         window->SetSize(*stored, wxSIZE_ALLOW_MINUS_ONE);
         // A window that had to grow or shrink may have moved with it.
         window->SetSize(stored->x, stored->y, -1, -1, wxSIZE_USE_EXISTING);
+        if (topLevel)
+            fittings::KeepPlace(*topLevel);
     }
-    if (!BringOntoDisplay(*window))
-        return false;
-    if (auto* const topLevel = wxDynamicCast(window, wxTopLevelWindow))
-        fittings::KeepGeometryWhenShown(*topLevel);
-    return true;
+    return BringOntoDisplay(*window);
 }
 
 bool wx_window_state::LoadState(wxFrame* frame, const wchar_t* name)
