@@ -50,8 +50,15 @@ void Click(const wxPoint& point)
 void DoubleClick(const wxPoint& point)
 {
     PointAt(point);
+    // On a busy machine the second click may come late.
+    GdkDisplay* const display = gdk_display_get_default();
+    gdk_display_set_double_click_time(display, 60000);
     wxUIActionSimulator().MouseDblClick();
+    gdk_display_sync(display);
     HandleEvents();
+    guint usual = 0;
+    g_object_get(gtk_settings_get_default(), "gtk-double-click-time", &usual, nullptr);
+    gdk_display_set_double_click_time(display, usual);
 }
 
 void Drag(const wxPoint& from, const wxPoint& to)
