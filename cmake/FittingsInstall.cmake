@@ -17,7 +17,8 @@ if(TARGET fittings-gallery)
   install(FILES gallery/fittings-gallery.svg
     DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT fittings_gallery)
   install(FILES gallery/fittings-gallery.metainfo.xml
-    DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo COMPONENT fittings_gallery)
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo RENAME io.github.fittings.gallery.metainfo.xml
+    COMPONENT fittings_gallery)
   gzip_into(${PROJECT_BINARY_DIR}/gallery/fittings-gallery.1.gz ${PROJECT_SOURCE_DIR}/gallery/fittings-gallery.1)
   install(FILES ${PROJECT_BINARY_DIR}/gallery/fittings-gallery.1.gz
     DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT fittings_gallery)
