@@ -35,6 +35,11 @@ bool MountSmallDisk(const std::string& folder)
     return mount("fittings-test", folder.c_str(), "tmpfs", 0, "size=64k,mode=700") == 0;
 }
 
+bool MountDisk(const std::string& folder)
+{
+    return mount("fittings-test", folder.c_str(), "tmpfs", 0, "mode=700") == 0;
+}
+
 bool SetReadOnly(const std::string& folder, bool isReadOnly)
 {
     unsigned long flags = MS_REMOUNT;

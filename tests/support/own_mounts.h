@@ -10,7 +10,10 @@ bool EnterOwnMounts();
 /// Mounts an empty file system of 64 KiB, in memory. Only after EnterOwnMounts().
 bool MountSmallDisk(const std::string& folder);
 
-/// Lets such a disk be read only, or be written again.
+/// Mounts an empty file system in memory. Only after EnterOwnMounts().
+bool MountDisk(const std::string& folder);
+
+/// Lets a small disk be read only, or be written again.
 bool SetReadOnly(const std::string& folder, bool isReadOnly);
 
 #endif
