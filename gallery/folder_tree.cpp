@@ -129,7 +129,7 @@ bool FolderTree::SelectSubfolder(const std::string& name)
     const wxTreeItemId selected = GetSelection().item;
     wxTreeItemId subfolder = FindSubfolder(selected, name);
     if (!subfolder.IsOk()) {
-        Update(selected);  // it may be new
+        Refill(selected);  // it may be new
         subfolder = FindSubfolder(selected, name);
     }
     if (!subfolder.IsOk())
@@ -164,7 +164,7 @@ void FolderTree::Reread()
         const wxTreeItemId item = rest.back();
         rest.pop_back();
         if (GetChildrenCount(item, false) > 0 || IsExpanded(item))
-            Update(item);
+            Refill(item);
         const std::vector<wxTreeItemId> children = ChildrenOf(item);
         rest.insert(rest.end(), children.begin(), children.end());
     }
@@ -205,11 +205,11 @@ wxString FolderTree::GetItemText(const wxTreeItemId& item) const
 void FolderTree::Fill(const wxTreeItemId& item)
 {
     if (GetChildrenCount(item, false) == 0)
-        Update(item);
+        Refill(item);
 }
 
 /// Makes the children of an item those that the file system has now, in their sorted order.
-void FolderTree::Update(const wxTreeItemId& item)
+void FolderTree::Refill(const wxTreeItemId& item)
 {
     const wxWindowUpdateLocker frozen(this);
     const std::vector<Subfolder> subfolders = ReadSubfolders(PathOf(item));

@@ -72,7 +72,7 @@ private:
     };
 
     void Fill(const wxTreeItemId& item);
-    void Update(const wxTreeItemId& item);
+    void Refill(const wxTreeItemId& item);
     void Dress(const wxTreeItemId& item, const Subfolder& folder);
     void Colour(const wxTreeItemId& item, const wxColour& colour);
     std::vector<wxTreeItemId> ChildrenOf(const wxTreeItemId& item) const;

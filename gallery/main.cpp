@@ -99,6 +99,10 @@ gboolean OnStopSignal(gpointer stop)
     return G_SOURCE_CONTINUE;
 }
 
+}  // namespace
+
+namespace fittings {
+
 class GalleryApp : public wxApp
 {
 public:
@@ -140,9 +144,9 @@ private:
     Stop m_stop;
 };
 
-}  // namespace
+}  // namespace fittings
 
-wxIMPLEMENT_APP_NO_MAIN(GalleryApp);
+wxIMPLEMENT_APP_NO_MAIN(fittings::GalleryApp);
 
 int main(int argc, char** argv)
 {
