@@ -19,6 +19,16 @@ inline struct flock BytesOfLock(off_t begin, off_t count)
     return lock;
 }
 
+/// Whether somebody has the turn to be the next who gets the lock.
+inline bool IsTurnTaken(const std::string& path)
+{
+    const int file = open(path.c_str(), O_RDWR | O_CLOEXEC);
+    struct flock lock = BytesOfLock(1, 1);
+    EXPECT_EQ(fcntl(file, F_OFD_GETLK, &lock), 0);
+    close(file);
+    return lock.l_type != F_UNLCK;
+}
+
 /// Holds the default store's lock, or some bytes of it, as another process would.
 class HeldLock
 {

@@ -214,15 +214,6 @@ TEST(AStoppedHolderOfTheLock, DoesNotDelayAWriteThatChangesNothingWhileAnotherTh
     waitpid(holder, nullptr, 0);
 }
 
-bool IsTurnTaken(const std::string& path)
-{
-    const int file = open(path.c_str(), O_RDWR | O_CLOEXEC);
-    struct flock lock = BytesOfLock(1, 1);
-    EXPECT_EQ(fcntl(file, F_OFD_GETLK, &lock), 0);
-    close(file);
-    return lock.l_type != F_UNLCK;
-}
-
 TEST(AStoppedWaiter, DelaysNobodyForLong)
 {
     const TempUserData data;

@@ -71,15 +71,6 @@ TEST(AHeldLock, DelaysNoReadAndNoWriteThatChangesNothing)
     EXPECT_LT(Clock::now() - start, std::chrono::milliseconds(1000));
 }
 
-bool IsTurnTaken(const std::string& path)
-{
-    const int file = open(path.c_str(), O_RDWR | O_CLOEXEC);
-    struct flock lock = BytesOfLock(1, 1);
-    EXPECT_EQ(fcntl(file, F_OFD_GETLK, &lock), 0);
-    close(file);
-    return lock.l_type != F_UNLCK;
-}
-
 TEST(AHeldLock, GoesToWhoHasWaitedLongest)
 {
     const InMemory inMemory;
