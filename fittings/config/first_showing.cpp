@@ -12,19 +12,29 @@ namespace {
 
 using Window = wxWeakRef<wxTopLevelWindow>;
 
-void Delete(gpointer window)
-{
-    const std::unique_ptr<Window> owned(static_cast<Window*>(window));
-}
+constexpr char kData[] = "fittings-first-showing";
 
-void DeleteOfSignal(gpointer window, GClosure* /*closure*/)
+/// Watches a window until it is on the screen for the first time. Owned by the window's widget.
+class FirstShowing
 {
-    Delete(window);
-}
+public:
+    explicit FirstShowing(wxTopLevelWindow& window) : m_window(&window) {}
 
-gpointer Copy(wxTopLevelWindow* window)
+    void Watch(GtkWidget* widget);
+
+private:
+    static void OnRealize(GtkWidget* widget, FirstShowing* showing);
+    static gboolean OnEvent(GtkWidget* widget, GdkEvent* event, FirstShowing* showing);
+    static void AfterEvent(GtkWidget* widget, GdkEvent* event, FirstShowing* showing);
+
+    const Window m_window;
+    wxSize m_size;
+};
+
+template <typename T>
+void Delete(gpointer data)
 {
-    return std::make_unique<Window>(window).release();
+    const std::unique_ptr<T> owned(static_cast<T*>(data));
 }
 
 // The toolkit counts the window as shown as soon as it is to be shown; to GTK it is hidden until then.
@@ -36,14 +46,46 @@ gboolean ShowNow(gpointer data)
     return G_SOURCE_REMOVE;
 }
 
+bool TellsDecorations(const GdkEvent& event)
+{
+    return event.type == GDK_PROPERTY_NOTIFY &&
+           event.property.atom == gdk_atom_intern_static_string("_NET_FRAME_EXTENTS");
+}
+
+void FirstShowing::Watch(GtkWidget* widget)
+{
+    g_signal_connect(widget, "realize", G_CALLBACK(&OnRealize), this);
+    g_signal_connect(widget, "event", G_CALLBACK(&OnEvent), this);
+    g_signal_connect(widget, "event-after", G_CALLBACK(&AfterEvent), this);
+}
+
 // The toolkit does this as it asks for the decorations. It must not be disturbed in it, so the window is shown right after,
 // before any answer is looked at.
-void OnRealize(GtkWidget* widget, gpointer data)
+void FirstShowing::OnRealize(GtkWidget* /*widget*/, FirstShowing* showing)
 {
-    const Window& window = *static_cast<Window*>(data);
-    if (window)
-        g_idle_add_full(G_PRIORITY_HIGH, &ShowNow, Copy(window), &Delete);
-    g_signal_handlers_disconnect_by_data(widget, data);
+    if (showing->m_window)
+        g_idle_add_full(G_PRIORITY_HIGH, &ShowNow, std::make_unique<Window>(showing->m_window).release(),
+                        &Delete<Window>);
+}
+
+gboolean FirstShowing::OnEvent(GtkWidget* /*widget*/, GdkEvent* event, FirstShowing* showing)
+{
+    if (showing->m_window && TellsDecorations(*event))
+        showing->m_size = showing->m_window->GetSize();
+    return FALSE;
+}
+
+// A window manager may first tell the decorations of windows in general, and then those of this one. The toolkit takes the
+// first off the window's size; at the second it keeps what is left, and the window would be larger or smaller than it was to be.
+void FirstShowing::AfterEvent(GtkWidget* widget, GdkEvent* event, FirstShowing* showing)
+{
+    const Window& window = showing->m_window;
+    if (window && TellsDecorations(*event) && !window->IsMaximized() && !window->IsFullScreen())
+        window->SetSize(showing->m_size);
+    if (event->type == GDK_MAP) {
+        g_signal_handlers_disconnect_by_data(widget, showing);
+        g_object_set_data(G_OBJECT(widget), kData, nullptr);
+    }
 }
 
 }  // namespace
@@ -51,9 +93,12 @@ void OnRealize(GtkWidget* widget, gpointer data)
 void fittings::ShowWithoutDelay(wxTopLevelWindow& window)
 {
     GtkWidget* const widget = window.GetHandle();
-    if (widget && !window.IsShown() && GDK_IS_X11_DISPLAY(gtk_widget_get_display(widget)))
-        g_signal_connect_data(widget, "realize", G_CALLBACK(&OnRealize), Copy(&window), &DeleteOfSignal,
-                              GConnectFlags{});
+    if (!widget || window.IsShown() || !GDK_IS_X11_DISPLAY(gtk_widget_get_display(widget)) ||
+        g_object_get_data(G_OBJECT(widget), kData))
+        return;
+    auto showing = std::make_unique<FirstShowing>(window);
+    showing->Watch(widget);
+    g_object_set_data_full(G_OBJECT(widget), kData, showing.release(), &Delete<FirstShowing>);
 }
 
 void fittings::KeepPlace(wxTopLevelWindow& window)

@@ -1,7 +1,8 @@
 // first_frame_probe KIND store X;Y;WIDTH;HEIGHT: shows a frame, gives it this geometry, or with "corner" 500 x 340 pixels in
 // the corner of the work area, and stores it. first_frame_probe KIND restore: restores a frame and shows it as the first
 // window of the process. Both print the geometry on the screen when it is the one that is expected and stays so, or else
-// the last one that was seen. KIND is "plain", "menu" or "fixed".
+// the last one that was seen. KIND is "plain", "menu" or "fixed", or "corrected": a plain frame whose restored program is first
+// told of other decorations than it gets.
 
 #include <cstdio>
 #include <cstdlib>
@@ -65,6 +66,23 @@ wxRect OnScreen(const wxFrame& frame)
     return rect;
 }
 
+/// Has the toolkit take decorations of another size off the frame's than it gets, as some window managers do.
+void TellOtherDecorations(wxFrame& frame)
+{
+    GdkWindow* const window = gtk_widget_get_window(frame.GetHandle());
+    Display* const display = GDK_WINDOW_XDISPLAY(window);
+    // Until the end nobody else is served, the window manager neither.
+    XGrabServer(display);
+    const long extents[] = {3, 4, 30, 40};
+    XChangeProperty(display, GDK_WINDOW_XID(window), XInternAtom(display, "_NET_FRAME_EXTENTS", False), XA_CARDINAL, 32,
+                    PropModeReplace, reinterpret_cast<const unsigned char*>(extents), 4);
+    const wxStopWatch watch;
+    while (frame.GetSize() - frame.GetClientSize() != wxSize(7, 70) && watch.Time() < Patience() * kLongest)
+        gtk_main_iteration_do(FALSE);
+    XUngrabServer(display);
+    XFlush(display);
+}
+
 class ProbeApp : public wxApp
 {
 public:
@@ -95,6 +113,8 @@ public:
             m_expected = wxString(stored).utf8_string();
         }
         m_frame->Show();
+        if (kind == "corrected" && !m_stores)
+            TellOtherDecorations(*m_frame);
         m_timer.Bind(wxEVT_TIMER, [this](wxTimerEvent&) { Look(); });
         m_timer.Start(kPause);
         return true;
