@@ -2,10 +2,34 @@
 #define FITTINGS_PLATFORM_LOCAL_REG_STORE_H_
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include <fittings/base/export.h>
+
+namespace fittings {
+
+/// A key of a section and its value.
+struct SettingsEntry
+{
+    std::wstring key;
+    std::wstring value;
+};
+
+/// One of several changes of settings that are saved together.
+struct SettingsChange
+{
+    std::wstring section;
+    std::wstring key;
+    std::optional<std::wstring> value;  ///< None removes the key.
+
+    /// The change is of the section itself, and the key counts for nothing: with a value the section is made, though it
+    /// may have no keys; with none it is removed, unless it has a key when all keys are changed.
+    bool isOfSection = false;
+};
+
+}  // namespace fittings
 
 /// One INI file in memory. Opaque: made, used and released through CLocalRegStore only.
 class CIniFile;
@@ -65,6 +89,11 @@ public:
     /// when there is no such section.
     static std::vector<std::wstring> GetKeyNames(const CIniFile& ini, const wchar_t* section);
 
+    using Entry = fittings::SettingsEntry;  ///< A key and its value.
+
+    /// Returns the keys of @a section with their values, in the order of GetKeyNames(). Takes time in proportion to their number.
+    static std::vector<Entry> GetEntries(const CIniFile& ini, const wchar_t* section);
+
     /// Writes the whole object to @a path, creating or replacing the file in one step.
     ///
     /// What was read from a file and not changed since is written as it was read: comments, blank lines, lines that
@@ -77,6 +106,25 @@ public:
 
     /// Releases @a ini, which may be null.
     static void DestroyIniFile(CIniFile* ini);
+
+    /// @}
+    /// @name One INI file that others change as well
+    /// @{
+
+    using Change = fittings::SettingsChange;  ///< One of several changes that are saved together.
+
+    /// Reads the file at @a path into @a ini in place of what it held, unless the file is as it was when this read it last.
+    /// Then makes @a changes in @a ini, which is not to be saved by Save().
+    ///
+    /// Returns false when @a ini was left as it is, changes that were made in it meanwhile included. A file that cannot be read
+    /// counts as empty.
+    static bool Refresh(CIniFile& ini, const wchar_t* path, const std::vector<Change>& changes);
+
+    /// Makes the changes in what the file at @a path holds now, by one save, as WriteString() does it in the default store: what
+    /// other processes and threads store by this operation at the same time is kept. The lock file has ".lock" at its end.
+    ///
+    /// Returns false when they could not be saved; none of them is then made.
+    static bool SaveChanges(const wchar_t* path, const std::vector<Change>& changes);
 
     /// @}
     /// @name The default store, wide text
@@ -102,6 +150,13 @@ public:
 
     /// Removes a key. Returns false when the store could not be saved; true also when there was no such key.
     static bool DeleteProfile(const wchar_t* section, const wchar_t* key);
+
+    /// Makes several changes by one save. Returns as WriteString() does, and does it as one.
+    static bool SaveChanges(const std::vector<Change>& changes);
+
+    /// Reads the default store into @a ini as the operation of the same name reads a file, with what this thread's Batch has
+    /// collected.
+    static bool Refresh(CIniFile& ini, const std::vector<Change>& changes);
 
     /// Returns the names of all sections, each once, in the order of the file.
     static std::vector<std::wstring> GetSectionNames();

@@ -151,6 +151,37 @@ std::vector<std::wstring> CLocalRegStore::GetKeyNames(const CIniFile&, const wch
     return {};
 }
 
+std::vector<CLocalRegStore::Entry> CLocalRegStore::GetEntries(const CIniFile&, const wchar_t* section)
+{
+    Note(L"entries", {section});
+    return {};
+}
+
+bool CLocalRegStore::Refresh(CIniFile&, const wchar_t* path, const std::vector<Change>&)
+{
+    Note(L"refresh", {path});
+    return g_platform.loads;
+}
+
+bool CLocalRegStore::Refresh(CIniFile&, const std::vector<Change>&)
+{
+    Note(L"refresh from default store");
+    return g_platform.loads;
+}
+
+bool CLocalRegStore::SaveChanges(const wchar_t* path, const std::vector<Change>&)
+{
+    Note(L"save changes", {path});
+    return g_platform.saves;
+}
+
+bool CLocalRegStore::SaveChanges(const std::vector<Change>&)
+{
+    Note(L"save changes to default store");
+    g_platform.savesWithoutBatch += g_platform.batches == 0;
+    return g_platform.saves;
+}
+
 std::vector<std::wstring> CLocalRegStore::GetSectionNames()
 {
     Note(L"sections of default store");

@@ -1,13 +1,16 @@
 #include <fittings/platform/embedded/collected_settings.h>
 
-#include <algorithm>
-#include <set>
+#include <atomic>
+#include <utility>
+
+#include <fittings/platform/embedded/default_store.h>
 
 namespace fittings {
 
 namespace {
 
 thread_local CollectedSettings* t_ofThread = nullptr;
+std::atomic<std::uint64_t> g_lastRevision = 0;
 
 }  // namespace
 
@@ -19,6 +22,7 @@ CollectedSettings* CollectedSettings::OfThread()
 CollectedSettings::CollectedSettings()
 {
     t_ofThread = this;
+    NoteChange();
 }
 
 CollectedSettings::~CollectedSettings()
@@ -26,52 +30,41 @@ CollectedSettings::~CollectedSettings()
     t_ofThread = nullptr;
 }
 
-void CollectedSettings::Put(Setting setting)
+void CollectedSettings::NoteChange()
 {
-    const auto [place, isNew] = m_indices.try_emplace({setting.section, setting.key}, m_settings.size());
+    m_revision = ++g_lastRevision;
+}
+
+void CollectedSettings::Put(SettingsChange change)
+{
+    NoteChange();
+    const auto [place, isNew] =
+        m_indices.try_emplace({change.isOfSection, change.section, change.key}, m_changes.size());
     if (isNew)
-        m_settings.push_back(std::move(setting));
+        m_changes.push_back(std::move(change));
     else
-        m_settings[place->second].value = std::move(setting.value);
+        m_changes[place->second].value = std::move(change.value);
 }
 
-const Setting* CollectedSettings::Find(std::wstring_view section, std::wstring_view key) const
+const SettingsChange* CollectedSettings::Find(std::wstring_view section, std::wstring_view key) const
 {
-    const auto found = m_indices.find({std::wstring(section), std::wstring(key)});
-    return found == m_indices.end() ? nullptr : &m_settings[found->second];
+    const auto found = m_indices.find({false, std::wstring(section), std::wstring(key)});
+    return found == m_indices.end() ? nullptr : &m_changes[found->second];
 }
 
-std::vector<std::wstring> CollectedSettings::SectionNames(std::vector<std::wstring> stored) const
+const CIniFile& CollectedSettings::Preview()
 {
-    std::set<std::wstring> known(stored.begin(), stored.end());
-    for (const Setting& setting : m_settings) {
-        if (setting.value && known.insert(setting.section).second)
-            stored.push_back(setting.section);
-    }
-    return stored;
-}
-
-std::vector<std::wstring> CollectedSettings::KeyNames(std::wstring_view section, std::vector<std::wstring> stored) const
-{
-    const auto isRemoved = [&](const std::wstring& key) {
-        const Setting* const setting = Find(section, key);
-        return setting && !setting->value;
-    };
-    stored.erase(std::remove_if(stored.begin(), stored.end(), isRemoved), stored.end());
-    std::set<std::wstring> known(stored.begin(), stored.end());
-    for (const Setting& setting : m_settings) {
-        if (setting.section == section && setting.value && known.insert(setting.key).second)
-            stored.push_back(setting.key);
-    }
-    return stored;
+    m_preview.Refresh(DefaultStore::Instance().Path(), m_changes, m_revision);
+    return m_preview;
 }
 
 bool CollectedSettings::Save()
 {
-    if (!m_settings.empty() && !DefaultStore::Instance().Store(m_settings))
+    if (!m_changes.empty() && !DefaultStore::Instance().Store(m_changes))
         return false;
-    m_settings.clear();
+    m_changes.clear();
     m_indices.clear();
+    NoteChange();
     return true;
 }
 

@@ -2,14 +2,14 @@
 #define FITTINGS_PLATFORM_EMBEDDED_COLLECTED_SETTINGS_H_
 
 #include <cstddef>
+#include <cstdint>
 #include <map>
-#include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
+#include <tuple>
 #include <vector>
 
-#include <fittings/platform/embedded/default_store.h>
+#include <fittings/platform/embedded/ini_file.h>
 
 namespace fittings {
 
@@ -26,23 +26,32 @@ public:
     CollectedSettings(const CollectedSettings&) = delete;
     CollectedSettings& operator=(const CollectedSettings&) = delete;
 
-    void Put(Setting setting);
+    void Put(SettingsChange change);
 
     /// Null when nothing was collected for that key.
-    const Setting* Find(std::wstring_view section, std::wstring_view key) const;
+    const SettingsChange* Find(std::wstring_view section, std::wstring_view key) const;
 
-    /// @name What the stored names will be
-    /// @{
-    std::vector<std::wstring> SectionNames(std::vector<std::wstring> stored) const;
-    std::vector<std::wstring> KeyNames(std::wstring_view section, std::vector<std::wstring> stored) const;
-    /// @}
+    /// What was collected, in the order of the first change of each key.
+    const std::vector<SettingsChange>& Changes() const { return m_changes; }
+
+    /// Another number, and never 0, whenever Changes() are others, those of an earlier object included.
+    std::uint64_t Revision() const { return m_revision; }
+
+    /// The default store as it will be.
+    const CIniFile& Preview();
 
     /// What could not be saved stays collected.
     bool Save();
 
 private:
-    std::vector<Setting> m_settings;
-    std::map<std::pair<std::wstring, std::wstring>, std::size_t> m_indices;
+    using Address = std::tuple<bool, std::wstring, std::wstring>;
+
+    void NoteChange();
+
+    std::vector<SettingsChange> m_changes;
+    std::map<Address, std::size_t> m_indices;
+    std::uint64_t m_revision = 0;
+    CIniFile m_preview;
 };
 
 }  // namespace fittings

@@ -1,45 +1,11 @@
 #include <fittings/platform/embedded/default_store.h>
 
-#include <algorithm>
-#include <cerrno>
-#include <chrono>
-#include <thread>
 #include <utility>
 
 #include <fittings/platform/file_util_ex.h>
 #include <fittings/platform/std_file_paths.h>
 
 namespace fittings {
-
-namespace {
-
-using Clock = FileLock::Clock;
-
-// How long a write waits for others in all.
-constexpr std::chrono::milliseconds kPatience(1900);
-constexpr std::chrono::milliseconds kPause(1);
-
-// Each time that another process was faster takes a new attempt.
-constexpr int kMaxAttempts = 100;
-
-bool HoldsAll(const CIniFile& file, const std::vector<Setting>& settings)
-{
-    return std::all_of(settings.begin(), settings.end(),
-                       [&](const Setting& setting) { return file.Has(setting.section, setting.key, setting.value); });
-}
-
-// Waits for a program that has emptied the file in place, such as an editor, to fill it.
-void LoadFilled(CIniFile& file, const std::string& path)
-{
-    for (;;) {
-        file.Load(path);
-        if (!file.Content().IsEmptyForNow())
-            return;
-        std::this_thread::sleep_for(kPause);
-    }
-}
-
-}  // namespace
 
 DefaultStore& DefaultStore::Instance()
 {
@@ -48,101 +14,60 @@ DefaultStore& DefaultStore::Instance()
     return store;
 }
 
+std::string DefaultStore::Path()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    Locate();
+    return m_shared->Path();
+}
+
 std::optional<std::wstring> DefaultStore::Get(std::wstring_view section, std::wstring_view key)
 {
-    const std::lock_guard<std::mutex> reading(m_reading);
+    const std::lock_guard<std::mutex> lock(m_mutex);
     return Refreshed().Get(section, key);
 }
 
 std::vector<std::wstring> DefaultStore::SectionNames()
 {
-    const std::lock_guard<std::mutex> reading(m_reading);
+    const std::lock_guard<std::mutex> lock(m_mutex);
     return Refreshed().SectionNames();
 }
 
 std::vector<std::wstring> DefaultStore::KeyNames(std::wstring_view section)
 {
-    const std::lock_guard<std::mutex> reading(m_reading);
+    const std::lock_guard<std::mutex> lock(m_mutex);
     return Refreshed().KeyNames(section);
 }
 
-bool DefaultStore::Store(const std::vector<Setting>& settings)
+bool DefaultStore::Store(const std::vector<SettingsChange>& changes)
 {
-    const Clock::time_point start = Clock::now();
-    std::wstring folder;
-    std::string path;
+    SharedFile* shared = nullptr;
     {
-        const std::lock_guard<std::mutex> reading(m_reading);
+        const std::lock_guard<std::mutex> lock(m_mutex);
         const CIniFile& file = Refreshed();
         if (file.HasFailed())
             return false;
-        if (HoldsAll(file, settings))
+        if (file.HoldsAll(changes))
             return true;
-        folder = m_folder;
-        path = m_path;
+        shared = m_shared;
     }
-    if (!file_util_ex::Mkdir(folder))
-        return false;
-
-    const std::lock_guard<std::mutex> writing(m_writing);
-    Clock::time_point deadline = start + kPatience;
-    for (int attempt = 0; attempt < kMaxAttempts; ++attempt) {
-        const UpdateResult result = StoreOnce(path, settings, deadline);
-        if (result != UpdateResult::Outdated)
-            return result == UpdateResult::Saved;
-        // Somebody else has saved, so nobody is stuck.
-        deadline = Clock::now() + kPatience;
-    }
-    return false;
+    return shared->Store(changes);
 }
 
-UpdateResult DefaultStore::StoreOnce(const std::string& path, const std::vector<Setting>& settings,
-                                     Clock::time_point deadline)
-{
-    // Who holds the lock is stuck when an earlier wait for it was in vain, and nobody else has saved since.
-    const bool isStuck = m_hasWaitedInVain && m_savedAfterThat == IdentityOf(path);
-    const FileLock lock(path + ".lock", isStuck ? Clock::now() : deadline);
-
-    // What other processes have stored since is read now, and only the given settings of it change.
-    CIniFile file;
-    LoadFilled(file, path);
-    for (const Setting& setting : settings) {
-        if (setting.value)
-            file.Set(setting.section, setting.key, *setting.value);
-        else
-            file.Delete(setting.section, setting.key);
-    }
-    const UpdateResult result = file.Update();
-    m_hasWaitedInVain = !lock.IsHeld() && result != UpdateResult::Outdated;
-    m_savedAfterThat = m_hasWaitedInVain ? IdentityOf(path) : std::nullopt;
-    return result;
-}
-
-// Reads the file unless it is known to be as it was.
-const CIniFile& DefaultStore::Refreshed()
+void DefaultStore::Locate()
 {
     std::wstring folder = std_file_paths::GetUserDataDir();
-    const bool isOtherFile = folder != m_folder;
-    if (isOtherFile) {
-        m_path = file_util_ex::ConvertToUTF8(file_util_ex::MakePath(folder, L"settings.ini"));
-        m_folder = std::move(folder);
-    }
-    if (isOtherFile || !IsFresh()) {
-        auto file = std::make_unique<CIniFile>();
-        file->Load(m_path);
-        // A read does not wait for the file to be filled: what stood there a moment ago still holds.
-        if (isOtherFile || !file->Content().IsEmptyForNow() || m_file->Content().result != ReadResult::Read)
-            m_file = std::move(file);
-    }
-    return *m_file;
+    if (m_shared && folder == m_folder)
+        return;
+    m_shared = &SharedFile::At(file_util_ex::ConvertToUTF8(file_util_ex::MakePath(folder, L"settings.ini")));
+    m_folder = std::move(folder);
 }
 
-bool DefaultStore::IsFresh() const
+const CIniFile& DefaultStore::Refreshed()
 {
-    const auto identity = IdentityOf(m_path);
-    if (!identity)
-        return errno == ENOENT && m_file->Content().result == ReadResult::Missing;
-    return m_file->Content().isSettled && m_file->Content().identity == identity;
+    Locate();
+    m_file.Refresh(m_shared->Path());
+    return m_file;
 }
 
 }  // namespace fittings

@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <cstddef>
 #include <iterator>
+#include <unordered_set>
 
 #include <unistd.h>
 
@@ -79,7 +80,7 @@ void Append(std::vector<std::string>& names, gchar** given)
 std::vector<std::wstring> Decoded(const std::vector<std::string>& names)
 {
     std::vector<std::wstring> texts;
-    std::set<std::wstring> known;
+    std::unordered_set<std::wstring> known;
     for (const std::string& name : names) {
         std::wstring text = fittings::DecodeName(name);
         if (known.insert(text).second)
@@ -154,6 +155,33 @@ bool CIniFile::Load(const std::string& path)
     return false;
 }
 
+bool CIniFile::Refresh(const std::string& path, const std::vector<Change>& changes, std::uint64_t revision)
+{
+    const bool isSameStore = path == m_path && revision == m_revision;
+    if (isSameStore && IsFresh())
+        return false;
+    CIniFile now;
+    now.Load(path);
+    // A read does not wait for the file to be filled: what stood there a moment ago still holds.
+    if (isSameStore && now.m_content.IsEmptyForNow() && m_content.result == fittings::ReadResult::Read)
+        return false;
+    if (isSameStore && now.HasFailed() && HasFailed())
+        return false;
+    const bool isSame = isSameStore && now.HasFailed() == HasFailed() && m_changes.empty() && now.m_buffer == m_buffer;
+    now.Apply(changes);
+    now.m_revision = revision;
+    *this = std::move(now);
+    return !isSame;
+}
+
+bool CIniFile::IsFresh() const
+{
+    const auto identity = fittings::IdentityOf(m_path);
+    if (!identity)
+        return errno == ENOENT && m_content.result == fittings::ReadResult::Missing;
+    return m_content.isSettled && m_content.identity == identity;
+}
+
 bool CIniFile::Parse(std::string_view text)
 {
     Clear();
@@ -196,40 +224,10 @@ fittings::UpdateResult CIniFile::Update() const
     if (HasTooManyLines(changed))
         return UpdateResult::Failed;
     const auto merge = [this](std::string_view expected, std::string_view put, std::string_view displaced) {
-        return Merged(expected, put, displaced);
+        auto text = Merged(expected, put, displaced);
+        return text && HasTooManyLines(*text) ? std::nullopt : text;
     };
     return fittings::UpdateFileBytes(m_path, {m_content, Text(), std::move(changed), merge});
-}
-
-// What stood in the file, with what was put there changed in it as against what was expected there. Where both changed a
-// key, the change of this object counts, else the one that was displaced, which is newer than what else was put. Only this
-// object removes a key: that it is missing elsewhere may mean that another process has not merged it yet.
-std::optional<std::string> CIniFile::Merged(std::string_view expected, std::string_view put,
-                                            std::string_view displaced) const
-{
-    CIniFile before;
-    CIniFile ours;
-    CIniFile result;
-    if (!before.Parse(expected) || !ours.Parse(put) || !result.Parse(displaced))
-        return std::nullopt;
-    for (const std::wstring& section : ours.SectionNames()) {
-        for (const std::wstring& key : ours.KeyNames(section)) {
-            const auto old = before.Get(section, key);
-            const auto value = ours.Get(section, key);
-            if (value != old && result.Has(section, key, old))
-                result.Set(section, key, *value);
-        }
-    }
-    for (const Slot& slot : m_changes) {
-        const std::wstring section = fittings::DecodeName(slot.first);
-        const std::wstring key = fittings::DecodeName(slot.second);
-        if (const auto value = Get(section, key))
-            result.Set(section, key, *value);
-        else
-            result.Delete(section, key);
-    }
-    std::string text = result.ChangedText();
-    return HasTooManyLines(text) ? std::nullopt : std::optional<std::string>(std::move(text));
 }
 
 std::optional<std::wstring> CIniFile::Get(std::wstring_view section, std::wstring_view key) const
@@ -279,9 +277,7 @@ std::vector<std::wstring> CIniFile::SectionNames() const
 std::vector<std::wstring> CIniFile::KeyNames(std::wstring_view section) const
 {
     std::vector<std::string> keys;
-    for (const std::string& group : GroupNames()) {
-        if (fittings::DecodeName(group) != section)
-            continue;
+    for (const std::string& group : GroupNames(section)) {
         std::vector<std::string> names;
         Append(names, g_key_file_get_keys(m_keys.get(), group.c_str(), nullptr, nullptr));
         // A key that stood there twice is still named when it has been removed.
@@ -290,6 +286,16 @@ std::vector<std::wstring> CIniFile::KeyNames(std::wstring_view section) const
         });
     }
     return Decoded(keys);
+}
+
+std::vector<fittings::SettingsEntry> CIniFile::Entries(std::wstring_view section) const
+{
+    std::vector<fittings::SettingsEntry> entries;
+    for (std::wstring& key : KeyNames(section)) {
+        if (auto value = Get(section, key))
+            entries.push_back({std::move(key), *std::move(value)});
+    }
+    return entries;
 }
 
 std::vector<std::string> CIniFile::GroupNames() const
@@ -301,6 +307,23 @@ std::vector<std::string> CIniFile::GroupNames() const
     Append(keys, g_key_file_get_keys(m_keys.get(), FirstSectionName().c_str(), nullptr, nullptr));
     if (keys.empty())
         names.erase(std::remove(names.begin(), names.end(), FirstSectionName()), names.end());
+    return names;
+}
+
+// Under its own name and the others that mean the same, in the order of the file.
+std::vector<std::string> CIniFile::GroupNames(std::wstring_view section) const
+{
+    std::vector<std::string> names;
+    const std::string name = fittings::EncodeName(section);
+    if (m_otherSections.count(name) == 0) {
+        if (g_key_file_has_group(m_keys.get(), name.c_str()))
+            names.push_back(name);
+        return names;
+    }
+    for (std::string& group : GroupNames()) {
+        if (fittings::DecodeName(group) == section)
+            names.push_back(std::move(group));
+    }
     return names;
 }
 
@@ -414,6 +437,11 @@ std::string CIniFile::ChangedText() const
     std::vector<fittings::IniEdit> edits;
     edits.reserve(m_changes.size());
     for (const Slot& slot : m_changes) {
+        if (slot.second.empty()) {
+            const bool isThere = g_key_file_has_group(m_keys.get(), slot.first.c_str());
+            edits.push_back({slot.first, "", isThere ? std::optional<std::string>("") : std::nullopt});
+            continue;
+        }
         const GText value = Value(slot);
         edits.push_back({slot.first, slot.second, value ? std::optional<std::string>(value.get()) : std::nullopt});
     }

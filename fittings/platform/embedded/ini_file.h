@@ -2,6 +2,7 @@
 #define FITTINGS_PLATFORM_EMBEDDED_INI_FILE_H_
 
 #include <cstddef>
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <optional>
@@ -15,6 +16,7 @@
 #include <glib.h>
 
 #include <fittings/platform/embedded/file_bytes.h>
+#include <fittings/platform/local_reg_store.h>
 
 /// An INI file: the text as it was read, and a GKeyFile made of it that answers questions and takes changes.
 ///
@@ -27,10 +29,16 @@ public:
     ~CIniFile();
     CIniFile(const CIniFile&) = delete;
     CIniFile& operator=(const CIniFile&) = delete;
+    CIniFile& operator=(CIniFile&&) = default;
 
     /// Reads the file in place of what the object held. False when it could not be read or holds no settings but
     /// bytes that are no text.
     bool Load(const std::string& path);
+
+    /// Loads the file and makes the changes in it, unless the file is known to be as it was when it was loaded last and the
+    /// revision of the changes is the same. True when the object may hold something else than before.
+    bool Refresh(const std::string& path, const std::vector<fittings::SettingsChange>& changes = {},
+                 std::uint64_t revision = 0);
 
     /// Takes @a text in place of what the object held. False when it holds no settings but bytes that are no text.
     bool Parse(std::string_view text);
@@ -50,11 +58,28 @@ public:
     void Set(std::wstring_view section, std::wstring_view key, std::wstring_view value);
     void Delete(std::wstring_view section, std::wstring_view key);
 
+    /// Makes a section, which may stay without keys.
+    void AddSection(std::wstring_view section);
+
+    /// Removes a section that has no keys.
+    void DropSection(std::wstring_view section);
+
+    using Change = fittings::SettingsChange;
+
+    /// Makes the changes: those of keys, and then those of sections.
+    void Apply(const std::vector<Change>& changes);
+
+    /// True when Apply() would change nothing.
+    bool HoldsAll(const std::vector<Change>& changes) const;
+
     /// The names of all sections, each once, in the order of the file. New ones come last.
     std::vector<std::wstring> SectionNames() const;
 
     /// The names of a section's keys, each once, in the order of the file. New ones come last.
     std::vector<std::wstring> KeyNames(std::wstring_view section) const;
+
+    /// What KeyNames() names, with its values.
+    std::vector<fittings::SettingsEntry> Entries(std::wstring_view section) const;
 
     /// The last Load() met a file that is there but could not be read.
     bool HasFailed() const { return m_content.result == fittings::ReadResult::Failed; }
@@ -74,7 +99,9 @@ private:
 
     void Clear();
     bool ParseBuffer();
+    bool IsFresh() const;
     std::vector<std::string> GroupNames() const;
+    std::vector<std::string> GroupNames(std::wstring_view section) const;
     std::optional<std::string> Merged(std::string_view expected, std::string_view put,
                                       std::string_view displaced) const;
     void NoteName(const std::string& section, std::string_view rawSection, std::string_view rawKey);
@@ -92,13 +119,14 @@ private:
     /// What stands in the text under a name that EncodeName() writes otherwise, by the name that it writes.
     std::unordered_map<std::string, std::vector<std::string>> m_otherSections;
     std::map<Slot, std::vector<Slot>> m_otherSlots;
-    /// The changed slots, each once, in the order of their first change.
+    /// The changed slots, each once, in the order of their first change. The key is empty where a section was added or removed.
     std::vector<Slot> m_changes;
     std::set<Slot> m_changed;
 
     std::string m_path;
     fittings::FileContent m_content = {fittings::ReadResult::Missing, std::nullopt};
     bool m_isNoText = false;
+    std::uint64_t m_revision = 0;
 };
 
 #endif

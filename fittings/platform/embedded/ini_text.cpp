@@ -64,9 +64,10 @@ struct Splice
 // What is to be done in one section, and where the text has it.
 struct SectionPlan
 {
-    std::map<std::string_view, std::vector<IniLine>> lines;
+    std::map<std::string_view, std::vector<IniLine>> lines;  ///< Those of the section itself under an empty name.
     std::optional<std::size_t> insertAt;
     std::string additions;
+    bool isMade = false;
 };
 
 class Editor
@@ -103,10 +104,9 @@ private:
             if (!plan || (line.kind != IniLineKind::Section && line.kind != IniLineKind::Key))
                 continue;
             plan->insertAt = line.next;
-            if (line.kind == IniLineKind::Key) {
-                if (const auto found = plan->lines.find(line.name); found != plan->lines.end())
-                    found->second.push_back(line);
-            }
+            const bool isKey = line.kind == IniLineKind::Key;
+            if (const auto found = plan->lines.find(isKey ? line.name : std::string_view()); found != plan->lines.end())
+                found->second.push_back(line);
         }
     }
 
@@ -117,6 +117,8 @@ private:
         if (!edit.value) {
             for (const IniLine& line : lines)
                 m_splices.push_back({line.begin, line.next, ""});
+        } else if (edit.key.empty()) {
+            plan.isMade = true;
         } else if (!lines.empty()) {
             m_splices.push_back({lines.back().value, lines.back().end, *edit.value});
         } else {
@@ -144,7 +146,7 @@ private:
     {
         for (const IniEdit& edit : m_edits) {
             SectionPlan& plan = m_plans.find(edit.section)->second;
-            if (plan.insertAt || plan.additions.empty())
+            if (plan.insertAt || (plan.additions.empty() && !plan.isMade))
                 continue;
             if (result.size() > ByteOrderMarkSize(result)) {
                 if (result.back() != '\n')
@@ -154,6 +156,7 @@ private:
             }
             result += "[" + edit.section + "]" + m_lineEnd + plan.additions;
             plan.additions.clear();
+            plan.isMade = false;
         }
     }
 

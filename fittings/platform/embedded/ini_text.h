@@ -58,14 +58,15 @@ std::size_t ByteOrderMarkSize(std::string_view text);
 struct IniEdit
 {
     std::string section;               ///< As it stands in the text.
-    std::string key;                   ///< As it stands in the text.
-    std::optional<std::string> value;  ///< None removes the key.
+    std::string key;                   ///< As it stands in the text. Empty: the edit is of the section itself.
+    std::optional<std::string> value;  ///< None removes the key, or the line of the section.
 };
 
 /// Returns @a text after the edits, none of which may name a key twice.
 ///
 /// A value is replaced in its line; of several lines with one key in the last, which is the one that counts. New keys
-/// come after the last key of their section, new sections after a blank line at the end.
+/// come after the last key of their section, new sections after a blank line at the end. What is not a key stays where a
+/// section is removed, and who removes one removes its keys too.
 std::string ApplyEdits(std::string_view text, const std::vector<IniEdit>& edits);
 
 }  // namespace fittings

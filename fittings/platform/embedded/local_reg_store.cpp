@@ -14,6 +14,7 @@
 #include <fittings/platform/embedded/default_store.h>
 #include <fittings/platform/embedded/ini_codec.h>
 #include <fittings/platform/embedded/ini_file.h>
+#include <fittings/platform/embedded/shared_file.h>
 #include <fittings/platform/file_util_ex.h>
 
 using fittings::CollectedSettings;
@@ -43,19 +44,24 @@ bool IsOneOf(const std::string& text, std::initializer_list<const char*> words)
 std::optional<std::wstring> GetSetting(std::wstring_view section, std::wstring_view key)
 {
     const CollectedSettings* const collected = CollectedSettings::OfThread();
-    const fittings::Setting* const setting = collected ? collected->Find(section, key) : nullptr;
-    return setting ? setting->value : DefaultStore::Instance().Get(section, key);
+    const fittings::SettingsChange* const change = collected ? collected->Find(section, key) : nullptr;
+    return change ? change->value : DefaultStore::Instance().Get(section, key);
+}
+
+bool StoreChanges(const std::vector<fittings::SettingsChange>& changes)
+{
+    CollectedSettings* const collected = CollectedSettings::OfThread();
+    if (!collected)
+        return DefaultStore::Instance().Store(changes);
+    for (const fittings::SettingsChange& change : changes)
+        collected->Put(change);
+    return true;
 }
 
 // Without a value the key is removed.
 bool StoreSetting(std::wstring_view section, std::wstring_view key, std::optional<std::wstring_view> value)
 {
-    fittings::Setting setting{std::wstring(section), std::wstring(key), std::optional<std::wstring>(value)};
-    CollectedSettings* const collected = CollectedSettings::OfThread();
-    if (!collected)
-        return DefaultStore::Instance().Store({std::move(setting)});
-    collected->Put(std::move(setting));
-    return true;
+    return StoreChanges({{std::wstring(section), std::wstring(key), std::optional<std::wstring>(value)}});
 }
 
 }  // namespace
@@ -121,6 +127,25 @@ std::vector<std::wstring> CLocalRegStore::GetKeyNames(const CIniFile& ini, const
     return ini.KeyNames(View(section));
 }
 
+std::vector<CLocalRegStore::Entry> CLocalRegStore::GetEntries(const CIniFile& ini, const wchar_t* section)
+{
+    return ini.Entries(View(section));
+}
+
+bool CLocalRegStore::Refresh(CIniFile& ini, const wchar_t* path, const std::vector<Change>& changes)
+{
+    const bool isOther = ini.Refresh(SystemPath(path));
+    if (isOther)
+        ini.Apply(changes);
+    return isOther;
+}
+
+bool CLocalRegStore::SaveChanges(const wchar_t* path, const std::vector<Change>& changes)
+{
+    const std::string file = SystemPath(path);
+    return !file.empty() && (changes.empty() || fittings::SharedFile::At(file).Store(changes));
+}
+
 bool CLocalRegStore::Save(const CIniFile& ini, const wchar_t* path)
 {
     return ini.Save(SystemPath(path));
@@ -175,18 +200,31 @@ bool CLocalRegStore::DeleteProfile(const wchar_t* section, const wchar_t* key)
     return StoreSetting(View(section), View(key), std::nullopt);
 }
 
+bool CLocalRegStore::SaveChanges(const std::vector<Change>& changes)
+{
+    return StoreChanges(changes);
+}
+
+bool CLocalRegStore::Refresh(CIniFile& ini, const std::vector<Change>& changes)
+{
+    const CollectedSettings* const collected = CollectedSettings::OfThread();
+    const std::string path = DefaultStore::Instance().Path();
+    const bool isOther = collected ? ini.Refresh(path, collected->Changes(), collected->Revision()) : ini.Refresh(path);
+    if (isOther)
+        ini.Apply(changes);
+    return isOther;
+}
+
 std::vector<std::wstring> CLocalRegStore::GetSectionNames()
 {
-    auto names = DefaultStore::Instance().SectionNames();
-    const CollectedSettings* const collected = CollectedSettings::OfThread();
-    return collected ? collected->SectionNames(std::move(names)) : names;
+    CollectedSettings* const collected = CollectedSettings::OfThread();
+    return collected ? collected->Preview().SectionNames() : DefaultStore::Instance().SectionNames();
 }
 
 std::vector<std::wstring> CLocalRegStore::GetKeyNames(const wchar_t* section)
 {
-    auto names = DefaultStore::Instance().KeyNames(View(section));
-    const CollectedSettings* const collected = CollectedSettings::OfThread();
-    return collected ? collected->KeyNames(View(section), std::move(names)) : names;
+    CollectedSettings* const collected = CollectedSettings::OfThread();
+    return collected ? collected->Preview().KeyNames(View(section)) : DefaultStore::Instance().KeyNames(View(section));
 }
 
 std::string CLocalRegStore::GetString(const char* section, const char* key, const char* defaultValue)

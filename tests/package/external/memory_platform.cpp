@@ -105,6 +105,43 @@ std::vector<std::wstring> CLocalRegStore::GetKeyNames(const CIniFile& ini, const
     return names;
 }
 
+std::vector<CLocalRegStore::Entry> CLocalRegStore::GetEntries(const CIniFile& ini, const wchar_t* section)
+{
+    std::vector<Entry> entries;
+    for (const auto& [name, value] : ini.values)
+        if (name.first == Text(section))
+            entries.push_back({name.second, value});
+    return entries;
+}
+
+// A section is here for its keys alone.
+bool CLocalRegStore::Refresh(CIniFile& ini, const wchar_t* path, const std::vector<Change>& changes)
+{
+    CIniFile now;
+    Load(now, path);
+    for (const Change& change : changes) {
+        if (change.value && !change.isOfSection)
+            now.values[{change.section, change.key}] = *change.value;
+        else if (!change.isOfSection)
+            now.values.erase({change.section, change.key});
+    }
+    const bool isOther = now.values != ini.values;
+    ini.values = now.values;
+    return isOther;
+}
+
+bool CLocalRegStore::SaveChanges(const wchar_t* path, const std::vector<Change>& changes)
+{
+    g_files.insert(Text(path));
+    for (const Change& change : changes) {
+        if (change.value && !change.isOfSection)
+            g_store[{Text(path), change.section, change.key}] = *change.value;
+        else if (!change.isOfSection)
+            g_store.erase({Text(path), change.section, change.key});
+    }
+    return true;
+}
+
 bool CLocalRegStore::Save(const CIniFile& ini, const wchar_t* path)
 {
     g_files.insert(Text(path));
@@ -157,6 +194,16 @@ std::vector<std::wstring> CLocalRegStore::GetSectionNames()
     CIniFile defaultStore;
     Load(defaultStore, L"");
     return GetSectionNames(defaultStore);
+}
+
+bool CLocalRegStore::Refresh(CIniFile& ini, const std::vector<Change>& changes)
+{
+    return Refresh(ini, L"", changes);
+}
+
+bool CLocalRegStore::SaveChanges(const std::vector<Change>& changes)
+{
+    return SaveChanges(L"", changes);
 }
 
 std::vector<std::wstring> CLocalRegStore::GetKeyNames(const wchar_t* section)

@@ -1,0 +1,80 @@
+#include <fittings/platform/embedded/shared_file.h>
+
+#include <chrono>
+#include <map>
+#include <memory>
+#include <thread>
+
+#include <fittings/platform/file_util_ex.h>
+
+namespace fittings {
+
+namespace {
+
+using Clock = FileLock::Clock;
+
+// How long a write waits for others in all.
+constexpr std::chrono::milliseconds kPatience(1900);
+constexpr std::chrono::milliseconds kPause(1);
+
+// Each time that another process was faster takes a new attempt.
+constexpr int kMaxAttempts = 100;
+
+// Waits for a program that has emptied the file in place, such as an editor, to fill it.
+void LoadFilled(CIniFile& file, const std::string& path)
+{
+    for (;;) {
+        file.Load(path);
+        if (!file.Content().IsEmptyForNow())
+            return;
+        std::this_thread::sleep_for(kPause);
+    }
+}
+
+}  // namespace
+
+SharedFile& SharedFile::At(const std::string& path)
+{
+    // Never destroyed: an application's own objects may store something when the process ends.
+    static auto& mutex = *new std::mutex;
+    static auto& files = *new std::map<std::string, std::unique_ptr<SharedFile>>;
+    const std::lock_guard<std::mutex> lock(mutex);
+    std::unique_ptr<SharedFile>& file = files[path];
+    if (!file)
+        file = std::make_unique<SharedFile>(path);
+    return *file;
+}
+
+bool SharedFile::Store(const std::vector<SettingsChange>& changes)
+{
+    Clock::time_point deadline = Clock::now() + kPatience;
+    if (!file_util_ex::Mkdir(file_util_ex::ConvertFromUTF8W(FolderOf(m_path))))
+        return false;
+    const std::lock_guard<std::mutex> writing(m_writing);
+    for (int attempt = 0; attempt < kMaxAttempts; ++attempt) {
+        const UpdateResult result = StoreOnce(changes, deadline);
+        if (result != UpdateResult::Outdated)
+            return result == UpdateResult::Saved;
+        // Somebody else has saved, so nobody is stuck.
+        deadline = Clock::now() + kPatience;
+    }
+    return false;
+}
+
+UpdateResult SharedFile::StoreOnce(const std::vector<SettingsChange>& changes, Clock::time_point deadline)
+{
+    // Who holds the lock is stuck when an earlier wait for it was in vain, and nobody else has saved since.
+    const bool isStuck = m_hasWaitedInVain && m_savedAfterThat == IdentityOf(m_path);
+    const FileLock lock(m_path + ".lock", isStuck ? Clock::now() : deadline);
+
+    // What other processes have stored since is read now, and only the given settings of it change.
+    CIniFile file;
+    LoadFilled(file, m_path);
+    file.Apply(changes);
+    const UpdateResult result = file.Update();
+    m_hasWaitedInVain = !lock.IsHeld() && result != UpdateResult::Outdated;
+    m_savedAfterThat = m_hasWaitedInVain ? IdentityOf(m_path) : std::nullopt;
+    return result;
+}
+
+}  // namespace fittings
