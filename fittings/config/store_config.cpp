@@ -1,0 +1,377 @@
+#include <fittings/config/store_config.h>
+
+#include <optional>
+#include <string>
+
+#include <wx/app.h>
+#include <wx/base64.h>
+
+#include <fittings/config/store_model.h>
+#include <fittings/platform/file_util_ex.h>
+#include <fittings/platform/std_file_paths.h>
+
+using fittings::FindStoreGroup;
+using fittings::FollowedPath;
+using fittings::kMaxStoreDepth;
+using fittings::MakeStoreGroup;
+using fittings::StoreGroup;
+using fittings::StoreModel;
+using fittings::StorePath;
+
+namespace {
+
+constexpr wchar_t kSeparator = wxCONFIG_PATH_SEPARATOR;
+
+// Where it is noted that another configuration was taken over: no path of groups, so that no enumeration meets it.
+constexpr const wchar_t* kImportSection = L"wxStoreConfig/";
+constexpr const wchar_t* kImportKey = L"Imported";
+
+std::wstring PathOfFile(const wxString& file)
+{
+    const std::wstring folder = file_util_ex::MakePath(std_file_paths::GetUserDataDir(), L"ui_config");
+    return file_util_ex::MakePath(folder, file.ToStdWstring());
+}
+
+wxString NameOfApp()
+{
+    return wxTheApp ? wxTheApp->GetAppName() : wxString();
+}
+
+wxString VendorOfApp()
+{
+    return wxTheApp ? wxTheApp->GetVendorName() : wxString();
+}
+
+// The store's texts have no null characters.
+bool CanBeStored(const std::wstring& text)
+{
+    return text.find(L'\0') == std::wstring::npos;
+}
+
+bool IsGroupName(const std::wstring& name)
+{
+    return !name.empty() && name != L"." && name != L".." && name.find(kSeparator) == std::wstring::npos &&
+           CanBeStored(name);
+}
+
+wxString ShownPath(const StorePath& path)
+{
+    return path.empty() ? wxString() : wxString(kSeparator + fittings::SectionOf(path));
+}
+
+// Where an entry is: what stands before the last separator leads to its group.
+struct EntryAddress
+{
+    StorePath group;
+    std::wstring name;
+
+    EntryAddress(const StorePath& current, const wxString& path) : name(path.ToStdWstring())
+    {
+        const std::size_t last = name.rfind(kSeparator);
+        if (last == std::wstring::npos) {
+            group = current;
+            return;
+        }
+        group = FollowedPath(current, std::wstring_view(name).substr(0, last + 1));
+        name.erase(0, last + 1);
+    }
+};
+
+const std::wstring* FindEntry(StoreModel& model, const wxString& path)
+{
+    model.Refresh();
+    const EntryAddress address(model.CurrentPath(), path);
+    StoreGroup* const group = FindStoreGroup(model.Root(), address.group);
+    return group ? group->entries.Find(address.name) : nullptr;
+}
+
+StoreGroup* FindGroup(StoreModel& model, const wxString& path)
+{
+    model.Refresh();
+    return FindStoreGroup(model.Root(), FollowedPath(model.CurrentPath(), path.ToStdWstring()));
+}
+
+template <typename List>
+bool GetNext(const List& list, wxString& name, long& place)
+{
+    const auto* const item = list.Next(place);
+    if (item)
+        name = item->name;
+    return item != nullptr;
+}
+
+std::size_t CountEntries(const StoreGroup& group)
+{
+    std::size_t count = group.entries.Size();
+    for (const auto& [place, item] : group.groups.Items())
+        count += CountEntries(*item.value);
+    return count;
+}
+
+std::size_t CountGroups(const StoreGroup& group)
+{
+    std::size_t count = group.groups.Size();
+    for (const auto& [place, item] : group.groups.Items())
+        count += CountGroups(*item.value);
+    return count;
+}
+
+// Reads the texts of another configuration as they stand, and leaves its path and options as they were.
+class Importer
+{
+public:
+    Importer(wxConfigBase& from, StoreModel& to)
+        : m_from(from), m_to(to), m_path(from.GetPath()), m_expands(from.IsExpandingEnvVars()),
+          m_records(from.IsRecordingDefaults())
+    {
+        m_from.SetExpandEnvVars(false);
+        m_from.SetRecordDefaults(false);
+    }
+
+    ~Importer()
+    {
+        m_from.SetPath(m_path.empty() ? wxString(kSeparator) : m_path);
+        m_from.SetExpandEnvVars(m_expands);
+        m_from.SetRecordDefaults(m_records);
+    }
+    Importer(const Importer&) = delete;
+    Importer& operator=(const Importer&) = delete;
+
+    void Import(const StorePath& path)
+    {
+        m_from.SetPath(kSeparator + fittings::SectionOf(path));
+        StoreGroup& group = MakeStoreGroup(m_to.Root(), path);
+        if (!path.empty())
+            m_to.AddSection(group);
+        wxString name;
+        wxString value;
+        long place = 0;
+        for (bool more = m_from.GetFirstEntry(name, place); more; more = m_from.GetNextEntry(name, place)) {
+            const std::wstring key = name.ToStdWstring();
+            if (!group.entries.Find(key) && m_from.Read(name, &value) && CanBeStored(key + value.ToStdWstring()))
+                m_to.Set(group, key, value.ToStdWstring());
+        }
+        for (bool more = m_from.GetFirstGroup(name, place); more; more = m_from.GetNextGroup(name, place)) {
+            StorePath inner = path;
+            inner.push_back(name.ToStdWstring());
+            if (!IsGroupName(inner.back()) || inner.size() > kMaxStoreDepth)
+                continue;
+            Import(inner);
+            m_from.SetPath(kSeparator + fittings::SectionOf(path));
+        }
+    }
+
+private:
+    wxConfigBase& m_from;
+    StoreModel& m_to;
+    const wxString m_path;
+    const bool m_expands;
+    const bool m_records;
+};
+
+}  // namespace
+
+wxStoreConfig::wxStoreConfig()
+    : wxConfigBase(NameOfApp(), VendorOfApp()), m_model(std::make_unique<StoreModel>(std::nullopt))
+{
+}
+
+wxStoreConfig::wxStoreConfig(const wxString& file)
+    : wxConfigBase(NameOfApp(), VendorOfApp()), m_model(std::make_unique<StoreModel>(PathOfFile(file)))
+{
+}
+
+wxStoreConfig::~wxStoreConfig()
+{
+    m_model->Save();
+}
+
+bool wxStoreConfig::ImportFrom(wxConfigBase& old)
+{
+    m_model->Refresh();
+    if (&old != this && m_model->HiddenText(kImportSection, kImportKey).empty()) {
+        Importer(old, *m_model).Import({});
+        m_model->SetHidden(kImportSection, kImportKey, L"1");
+    }
+    return m_model->Save();
+}
+
+void wxStoreConfig::SetPath(const wxString& path)
+{
+    m_model->Refresh();
+    const std::wstring text = path.ToStdWstring();
+    const StorePath followed = FollowedPath(m_model->CurrentPath(), text);
+    if (followed.size() > kMaxStoreDepth || !CanBeStored(text))
+        return;
+    m_model->SetCurrent(followed);
+    m_path = ShownPath(followed);
+}
+
+const wxString& wxStoreConfig::GetPath() const
+{
+    return m_path;
+}
+
+bool wxStoreConfig::GetFirstGroup(wxString& name, long& place) const
+{
+    place = 0;
+    return GetNextGroup(name, place);
+}
+
+bool wxStoreConfig::GetNextGroup(wxString& name, long& place) const
+{
+    m_model->Refresh();
+    return GetNext(m_model->Current().groups, name, place);
+}
+
+bool wxStoreConfig::GetFirstEntry(wxString& name, long& place) const
+{
+    place = 0;
+    return GetNextEntry(name, place);
+}
+
+bool wxStoreConfig::GetNextEntry(wxString& name, long& place) const
+{
+    m_model->Refresh();
+    return GetNext(m_model->Current().entries, name, place);
+}
+
+size_t wxStoreConfig::GetNumberOfEntries(bool recursive) const
+{
+    m_model->Refresh();
+    return recursive ? CountEntries(m_model->Current()) : m_model->Current().entries.Size();
+}
+
+size_t wxStoreConfig::GetNumberOfGroups(bool recursive) const
+{
+    m_model->Refresh();
+    return recursive ? CountGroups(m_model->Current()) : m_model->Current().groups.Size();
+}
+
+bool wxStoreConfig::HasGroup(const wxString& path) const
+{
+    return !path.empty() && FindGroup(*m_model, path);
+}
+
+bool wxStoreConfig::HasEntry(const wxString& path) const
+{
+    return FindEntry(*m_model, path) != nullptr;
+}
+
+bool wxStoreConfig::DoReadString(const wxString& path, wxString* value) const
+{
+    const std::wstring* const found = FindEntry(*m_model, path);
+    if (found)
+        *value = *found;
+    return found != nullptr;
+}
+
+bool wxStoreConfig::DoReadLong(const wxString& path, long* value) const
+{
+    wxString text;
+    // Blanks at the end do not keep a number from being read.
+    return Read(path, &text) && text.Trim().ToLong(value);
+}
+
+bool wxStoreConfig::DoReadBinary(const wxString& path, wxMemoryBuffer* value) const
+{
+    wxCHECK_MSG(value, false, "no buffer");
+    wxString text;
+    if (!Read(path, &text))
+        return false;
+    *value = wxBase64Decode(text);
+    return true;
+}
+
+bool wxStoreConfig::DoWriteString(const wxString& path, const wxString& value)
+{
+    m_model->Refresh();
+    const std::wstring text = value.ToStdWstring();
+    const EntryAddress address(m_model->CurrentPath(), path);
+    if (address.group.size() > kMaxStoreDepth || !CanBeStored(path.ToStdWstring()) || !CanBeStored(text))
+        return false;
+    if (!address.name.empty()) {
+        m_model->Set(MakeStoreGroup(m_model->Root(), address.group), address.name, text);
+        return true;
+    }
+    // An empty text for a group makes it, as wxFileConfig has it.
+    wxCHECK_MSG(text.empty(), false, "a group has no value");
+    if (!address.group.empty())
+        m_model->AddSection(MakeStoreGroup(m_model->Root(), address.group));
+    return true;
+}
+
+bool wxStoreConfig::DoWriteLong(const wxString& path, long value)
+{
+    return Write(path, wxString::Format("%ld", value));
+}
+
+bool wxStoreConfig::DoWriteBinary(const wxString& path, const wxMemoryBuffer& value)
+{
+    return Write(path, wxBase64Encode(value));
+}
+
+bool wxStoreConfig::RenameEntry(const wxString& oldName, const wxString& newName)
+{
+    m_model->Refresh();
+    StoreGroup& group = m_model->Current();
+    const std::wstring from = oldName.ToStdWstring();
+    const std::wstring to = newName.ToStdWstring();
+    const std::wstring* const value = group.entries.Find(from);
+    if (!value || group.entries.Find(to) || to.empty() || to.find(kSeparator) != std::wstring::npos || !CanBeStored(to))
+        return false;
+    m_model->Set(group, to, std::wstring(*value));
+    m_model->Remove(group, from);
+    return true;
+}
+
+bool wxStoreConfig::RenameGroup(const wxString& oldName, const wxString& newName)
+{
+    m_model->Refresh();
+    StoreGroup& parent = m_model->Current();
+    const std::wstring to = newName.ToStdWstring();
+    auto* const group = parent.groups.Find(oldName.ToStdWstring());
+    if (!group || parent.groups.Find(to) || !IsGroupName(to))
+        return false;
+    m_model->RenameGroup(**group, to);
+    return true;
+}
+
+bool wxStoreConfig::DeleteEntry(const wxString& path, bool deleteGroupIfEmpty)
+{
+    m_model->Refresh();
+    const EntryAddress address(m_model->CurrentPath(), path);
+    StoreGroup* const group = FindStoreGroup(m_model->Root(), address.group);
+    if (!group || !group->entries.Find(address.name))
+        return false;
+    m_model->Remove(*group, address.name);
+    if (deleteGroupIfEmpty && group->parent && group->IsEmpty())
+        m_model->RemoveGroup(*group);
+    else if (deleteGroupIfEmpty && !group->parent && group->entries.Size() == 0)
+        m_model->DropSection(*group);
+    m_path = ShownPath(m_model->CurrentPath());
+    return true;
+}
+
+bool wxStoreConfig::DeleteGroup(const wxString& path)
+{
+    StoreGroup* const group = path.empty() ? nullptr : FindGroup(*m_model, path);
+    if (!group || !group->parent)
+        return false;
+    m_model->RemoveGroup(*group);
+    m_path = ShownPath(m_model->CurrentPath());
+    return true;
+}
+
+bool wxStoreConfig::DeleteAll()
+{
+    m_model->Refresh();
+    m_model->RemoveAll();
+    m_path.clear();
+    return true;
+}
+
+bool wxStoreConfig::Flush(bool)
+{
+    return m_model->Save();
+}

@@ -1,0 +1,83 @@
+#ifndef FITTINGS_TESTS_CONFIG_STORE_STORE_CONFIG_SUPPORT_H_
+#define FITTINGS_TESTS_CONFIG_STORE_STORE_CONFIG_SUPPORT_H_
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include <fittings/config/store_config.h>
+#include <tests/support/temp_folder.h>
+
+/// The names of the current group's entries, in order.
+inline std::vector<wxString> EntryNames(const wxConfigBase& config)
+{
+    std::vector<wxString> names;
+    wxString name;
+    long place = 0;
+    for (bool more = config.GetFirstEntry(name, place); more; more = config.GetNextEntry(name, place))
+        names.push_back(name);
+    return names;
+}
+
+/// The names of the current group's groups, in order.
+inline std::vector<wxString> GroupNames(const wxConfigBase& config)
+{
+    std::vector<wxString> names;
+    wxString name;
+    long place = 0;
+    for (bool more = config.GetFirstGroup(name, place); more; more = config.GetNextGroup(name, place))
+        names.push_back(name);
+    return names;
+}
+
+/// What the current group holds, as an INI file in which each group has a line.
+inline wxString Dump(wxConfigBase& config)
+{
+    wxString text;
+    for (const wxString& name : EntryNames(config))
+        text += name + "=" + config.Read(name) + "\n";
+    for (const wxString& name : GroupNames(config)) {
+        const wxConfigPathChanger inGroup(&config, name + "/");
+        text += "[" + config.GetPath().substr(1) + "]\n" + Dump(config);
+    }
+    return text;
+}
+
+/// A named file with a wxStoreConfig over it.
+class StoreConfig : public testing::Test
+{
+protected:
+    std::string Path() const { return m_data / "ui_config/test.ini"; }
+
+    /// Opens the file with @a text in it.
+    void Open(const std::string& text)
+    {
+        m_config.reset();
+        std::filesystem::create_directories(m_data / "ui_config");
+        WriteFile(Path(), text);
+        Reopen();
+    }
+
+    /// Opens what the file holds after the object that has it open has ended.
+    void Reopen()
+    {
+        m_config.reset();
+        m_config = std::make_unique<wxStoreConfig>("test.ini");
+    }
+
+    /// What another object finds in the file once this one has saved.
+    wxString Saved()
+    {
+        EXPECT_TRUE(m_config->Flush());
+        wxStoreConfig other("test.ini");
+        return Dump(other);
+    }
+
+    const TempUserData m_data;
+    std::unique_ptr<wxStoreConfig> m_config = std::make_unique<wxStoreConfig>("test.ini");
+};
+
+#endif
