@@ -1,5 +1,7 @@
 #include <fittings/tree/handy_tree_ctrl.h>
 
+#include <utility>
+
 #include <wx/cursor.h>
 #include <wx/imaglist.h>
 
@@ -10,6 +12,9 @@
 namespace {
 
 constexpr wchar_t kStateSection[] = L"TreeControlState";
+
+/// What the toolkit takes before it has measured an item.
+constexpr int kLeastRowHeight = 10;
 
 // For the whole application, not only for this control: filling may take a while, and nothing else answers meanwhile.
 class BusyCursor
@@ -28,6 +33,13 @@ wxHandyTreeCtrl::wxHandyTreeCtrl()
     Bind(wxEVT_TREE_ITEM_EXPANDING, &wxHandyTreeCtrl::OnEvtItemExpanding, this, wxID_ANY, wxID_ANY);
 }
 
+wxHandyTreeCtrl::wxHandyTreeCtrl(wxWindow* parent, wxWindowID id, const wxPoint& pos, const wxSize& size, long style,
+                                 const wxValidator& validator, const wxString& name)
+    : wxHandyTreeCtrl()
+{
+    Create(parent, id, pos, size, style, validator, name);
+}
+
 wxHandyTreeCtrl::~wxHandyTreeCtrl()
 {
     DetroyImageList();
@@ -35,15 +47,29 @@ wxHandyTreeCtrl::~wxHandyTreeCtrl()
 
 void wxHandyTreeCtrl::Create(wxWindow* parent)
 {
-    wxTreeCtrl::Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTR_HAS_BUTTONS | wxTR_NO_LINES,
-                       wxDefaultValidator, wxTreeCtrlNameStr);
+    Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTR_HAS_BUTTONS | wxTR_NO_LINES);
     CreateImageList();
+}
+
+bool wxHandyTreeCtrl::Create(wxWindow* parent, wxWindowID id, const wxPoint& pos, const wxSize& size, long style,
+                             const wxValidator& validator, const wxString& name)
+{
+    return wxTreeCtrlEx::Create(parent, id, pos, size, style, validator, name);
 }
 
 void wxHandyTreeCtrl::CreateImageList()
 {
     m_imageList = new wxImageList(16, 16, true, 1);
     SetImageList(m_imageList);
+}
+
+// The toolkit keeps the height that the rows had with the images. It measures the items anew, and the rows become as high as the
+// highest of them.
+void wxHandyTreeCtrl::SetImageList(wxImageList* images)
+{
+    wxTreeCtrlEx::SetImageList(images);
+    if (!images)
+        m_lineHeight = kLeastRowHeight;
 }
 
 void wxHandyTreeCtrl::DetroyImageList()
@@ -67,24 +93,44 @@ bool wxHandyTreeCtrl::SelectRootItem()
     return true;
 }
 
-void wxHandyTreeCtrl::SaveState(const wxString& name, wxTreeCursor& start)
+void wxHandyTreeCtrl::SaveState(const wxString& name, const wxTreeCursor& start)
 {
     CLocalRegStore::WriteString(kStateSection, name.wc_str(), fittings::ExpandedLabels(start).c_str());
 }
 
-void wxHandyTreeCtrl::SaveState(wxTreeCursor& start)
+void wxHandyTreeCtrl::SaveState(const wxTreeCursor& start)
 {
     SaveState(m_profile, start);
 }
 
-void wxHandyTreeCtrl::LoadState(const wxString& name, wxTreeCursor& start)
+void wxHandyTreeCtrl::SaveState(const wxString& name, wxTreeCursor& start)
+{
+    SaveState(name, std::as_const(start));
+}
+
+void wxHandyTreeCtrl::SaveState(wxTreeCursor& start)
+{
+    SaveState(std::as_const(start));
+}
+
+void wxHandyTreeCtrl::LoadState(const wxString& name, const wxTreeCursor& start)
 {
     fittings::ExpandLabels(CLocalRegStore::GetString(kStateSection, name.wc_str(), L""), start);
 }
 
-void wxHandyTreeCtrl::LoadState(wxTreeCursor& start)
+void wxHandyTreeCtrl::LoadState(const wxTreeCursor& start)
 {
     LoadState(m_profile, start);
+}
+
+void wxHandyTreeCtrl::LoadState(const wxString& name, wxTreeCursor& start)
+{
+    LoadState(name, std::as_const(start));
+}
+
+void wxHandyTreeCtrl::LoadState(wxTreeCursor& start)
+{
+    LoadState(std::as_const(start));
 }
 
 void wxHandyTreeCtrl::OnEvtItemExpanding(wxTreeEvent& event)

@@ -13,6 +13,8 @@ class wxImageList;
 /// @code
 /// class FolderTree : public wxHandyTreeCtrl
 /// {
+///     using wxHandyTreeCtrl::wxHandyTreeCtrl;
+///
 ///     void OnItemExpanding(const wxTreeCursor& item) override
 ///     {
 ///         if (item.GetChild().IsOk())
@@ -22,8 +24,7 @@ class wxImageList;
 ///     }
 /// };
 ///
-/// auto* tree = new FolderTree;
-/// tree->Create(parent);
+/// auto* tree = new FolderTree(parent);
 /// tree->SetProfile("Folders");
 /// wxTreeCursor root = tree->AddRoot("/");
 /// root.SetChildren(true);
@@ -43,17 +44,33 @@ class FITTINGS_API wxHandyTreeCtrl : public wxTreeCtrlEx
 public:
     /// Makes the object; the control itself comes with Create().
     wxHandyTreeCtrl();
+
+    /// Makes the object and the control, as the toolkit's constructor does: without an image list.
+    explicit wxHandyTreeCtrl(wxWindow* parent, wxWindowID id = wxID_ANY, const wxPoint& pos = wxDefaultPosition,
+                             const wxSize& size = wxDefaultSize, long style = wxTR_DEFAULT_STYLE,
+                             const wxValidator& validator = wxDefaultValidator,
+                             const wxString& name = wxString::FromAscii(wxTreeCtrlNameStr));
+
     ~wxHandyTreeCtrl() override;
 
-    /// Creates the control with the toolkit's default tree style, and its image list.
+    /// Creates the control with the toolkit's default tree style, and its image list, whose images make the rows 23 pixels high.
     void Create(wxWindow* parent);
+
+    /// Creates the control as the toolkit's Create() does: without an image list. False when it could not be created.
+    bool Create(wxWindow* parent, wxWindowID id, const wxPoint& pos = wxDefaultPosition,
+                const wxSize& size = wxDefaultSize, long style = wxTR_DEFAULT_STYLE,
+                const wxValidator& validator = wxDefaultValidator,
+                const wxString& name = wxString::FromAscii(wxTreeCtrlNameStr));
 
     /// Gives the control an empty list of 16 × 16 images, which this object owns.
     ///
     /// The size is in the toolkit's pixels: bitmaps that wxBitmapBundle::GetBitmapFor() makes for this control have more
-    /// where its screen has more, and look sharp there. Create() gives the list already. One from an earlier call is not
-    /// released: call DetroyImageList() first.
+    /// where its screen has more, and look sharp there. Create() with the parent alone gives the list already. One from an
+    /// earlier call is not released: call DetroyImageList() first.
     void CreateImageList();
+
+    /// Shows the images of another list, which this object does not own. Without one the rows become as low as their text.
+    void SetImageList(wxImageList* images) override;
 
     /// Deletes the image list, if there is one. The control must not be drawn with its images afterwards.
     void DetroyImageList();
@@ -75,16 +92,20 @@ public:
 
     /// Stores which items are expanded, collapsed levels included.
     void SaveState(const wxString& name, wxTreeCursor& start);
+    void SaveState(const wxString& name, const wxTreeCursor& start);
 
     /// Stores them under the name of SetProfile().
     void SaveState(wxTreeCursor& start);
+    void SaveState(const wxTreeCursor& start);
 
     /// Expands the items whose labels were stored, parents first, so that children made by OnItemExpanding() are
     /// restored too. Nothing is collapsed.
     void LoadState(const wxString& name, wxTreeCursor& start);
+    void LoadState(const wxString& name, const wxTreeCursor& start);
 
     /// Expands those stored under the name of SetProfile().
     void LoadState(wxTreeCursor& start);
+    void LoadState(const wxTreeCursor& start);
 
     /// @}
 

@@ -2,6 +2,12 @@
 
 wxTreeCtrlEx::wxTreeCtrlEx() = default;
 
+wxTreeCtrlEx::wxTreeCtrlEx(wxWindow* parent, wxWindowID id, const wxPoint& pos, const wxSize& size, long style,
+                           const wxValidator& validator, const wxString& name)
+    : wxTreeCtrl(parent, id, pos, size, style, validator, name)
+{
+}
+
 wxTreeCtrlEx::~wxTreeCtrlEx() = default;
 
 wxTreeCursor wxTreeCtrlEx::GetSelection()

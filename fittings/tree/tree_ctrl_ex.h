@@ -19,7 +19,15 @@
 class FITTINGS_API wxTreeCtrlEx : public wxTreeCtrl
 {
 public:
+    /// Makes the object; the control itself comes with Create(), which takes what the toolkit's does.
     wxTreeCtrlEx();
+
+    /// Makes the object and the control, as the toolkit's constructor does.
+    explicit wxTreeCtrlEx(wxWindow* parent, wxWindowID id = wxID_ANY, const wxPoint& pos = wxDefaultPosition,
+                          const wxSize& size = wxDefaultSize, long style = wxTR_DEFAULT_STYLE,
+                          const wxValidator& validator = wxDefaultValidator,
+                          const wxString& name = wxString::FromAscii(wxTreeCtrlNameStr));
+
     ~wxTreeCtrlEx() override;
 
     /// Returns the selected item; invalid, with this control as its tree, when nothing is selected.

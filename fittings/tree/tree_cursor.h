@@ -48,8 +48,32 @@ public:
     /// True when there is an item.
     bool IsOk() const { return item.IsOk(); }
 
+    /// @name As the toolkit's wxTreeItemId
+    /// @{
+
+    /// True when there is an item.
+    explicit operator bool() const { return IsOk(); }
+
     /// The item, so that the toolkit's operations take a cursor: tree->EnsureVisible(tree->GetSelection()).
     operator wxTreeItemId() const { return item; }
+
+    /// The item's number in the toolkit; null when there is no item.
+    wxTreeItemIdValue GetID() const { return item.GetID(); }
+
+    /// Makes the cursor invalid; the tree is kept.
+    void Unset() { item.Unset(); }
+
+    /// Whether both stand on the same item, or on none.
+    friend bool operator==(const wxTreeCursor& left, const wxTreeCursor& right) { return left.item == right.item; }
+    friend bool operator==(const wxTreeCursor& left, const wxTreeItemId& right) { return left.item == right; }
+    friend bool operator==(const wxTreeItemId& left, const wxTreeCursor& right) { return left == right.item; }
+
+    /// Whether they stand on different items.
+    friend bool operator!=(const wxTreeCursor& left, const wxTreeCursor& right) { return !(left == right); }
+    friend bool operator!=(const wxTreeCursor& left, const wxTreeItemId& right) { return !(left == right); }
+    friend bool operator!=(const wxTreeItemId& left, const wxTreeCursor& right) { return !(left == right); }
+
+    /// @}
 
     /// Returns the label.
     std::wstring GetText() const;

@@ -40,9 +40,8 @@ wxObject* wxHandyTreeCtrlXmlHandler::DoCreateResource()
         ReportError("the object to load is no wxHandyTreeCtrl");
     if (!tree)
         tree = new wxHandyTreeCtrl;
-    // The class's own Create() takes the parent alone; its style is the one that is taken here without any other.
-    tree->wxTreeCtrl::Create(m_parentAsWindow, GetID(), GetPosition(), GetSize(),
-                             GetStyle("style", wxTR_HAS_BUTTONS | wxTR_NO_LINES), wxDefaultValidator, GetName());
+    tree->Create(m_parentAsWindow, GetID(), GetPosition(), GetSize(),
+                 GetStyle("style", wxTR_HAS_BUTTONS | wxTR_NO_LINES), wxDefaultValidator, GetName());
     std::unique_ptr<wxImageList> images(GetImageList());
     // Without a size in the resource it is that of the first bitmap, which may not have been found.
     if (images && images->GetSize() != wxSize(0, 0))

@@ -9,6 +9,8 @@
 class FolderTree : public wxHandyTreeCtrl
 {
 public:
+    using wxHandyTreeCtrl::wxHandyTreeCtrl;
+
     static wxString PathOf(const wxTreeCursor& item)
     {
         const wxTreeCursor parent = item.GetParent();
@@ -38,8 +40,7 @@ class FoldersApp : public wxApp
     bool OnInit() override
     {
         auto* frame = new wxFrame(nullptr, wxID_ANY, "Folders");
-        auto* tree = new FolderTree;
-        tree->Create(frame);
+        auto* tree = new FolderTree(frame);
         tree->SetProfile("Folders");
         wxTreeCursor root = tree->AddRoot(wxGetHomeDir());
         root.SetChildren(true);
@@ -47,7 +48,7 @@ class FoldersApp : public wxApp
         tree->SelectRootItem();
         tree->Bind(wxEVT_TREE_SEL_CHANGED,
                    [=](wxTreeEvent&) { frame->SetTitle(FolderTree::PathOf(tree->GetSelection())); });
-        frame->Bind(wxEVT_CLOSE_WINDOW, [=](wxCloseEvent& event) mutable {
+        frame->Bind(wxEVT_CLOSE_WINDOW, [=](wxCloseEvent& event) {
             tree->SaveState(root);
             event.Skip();
         });

@@ -139,8 +139,7 @@ TEST(HeaderExamples, SaveAllAtOnce)
 {
     const TempUserData data;
     auto* frame = new wxFrame(nullptr, wxID_ANY, "examples");
-    auto* tree = new wxHandyTreeCtrl;
-    tree->Create(frame);
+    auto* tree = new wxHandyTreeCtrl(frame);
     wxTreeCursor root = tree->AddRoot("/");
     {
         CLocalRegStore::Batch batch;
@@ -158,6 +157,8 @@ TEST(HeaderExamples, FillATreeAsItIsExpanded)
 
     class FolderTree : public wxHandyTreeCtrl
     {
+        using wxHandyTreeCtrl::wxHandyTreeCtrl;
+
         void OnItemExpanding(const wxTreeCursor& item) override
         {
             if (item.GetChild().IsOk())
@@ -167,8 +168,7 @@ TEST(HeaderExamples, FillATreeAsItIsExpanded)
         }
     };
 
-    auto* tree = new FolderTree;
-    tree->Create(parent);
+    auto* tree = new FolderTree(parent);
     tree->SetProfile("Folders");
     wxTreeCursor root = tree->AddRoot("/");
     root.SetChildren(true);

@@ -4,6 +4,7 @@
 #include <cstring>
 #include <memory>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -23,7 +24,7 @@ static_assert(sizeof(wxHandyTreeCtrl) == sizeof(wxTreeCtrlEx) + sizeof(wxImageLi
 template <typename Result, typename... Arguments>
 using Operation = Result (wxHandyTreeCtrl::*)(Arguments...);
 
-static_assert(std::is_same_v<decltype(&wxHandyTreeCtrl::Create), Operation<void, wxWindow*>>);
+static_assert(std::is_same_v<decltype(std::declval<wxHandyTreeCtrl&>().Create(nullptr)), void>);
 static_assert(std::is_same_v<decltype(&wxHandyTreeCtrl::CreateImageList), Operation<void>>);
 static_assert(std::is_same_v<decltype(&wxHandyTreeCtrl::DetroyImageList), Operation<void>>);
 static_assert(std::is_same_v<decltype(&wxHandyTreeCtrl::SetProfile), Operation<void, const wxString&>>);
