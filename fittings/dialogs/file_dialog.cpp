@@ -58,13 +58,8 @@ bool CanBeShown(const wxFileName& folder)
 // or nothing at all, and nothing can be chosen.
 void LeaveWhatCannotBeShown(wxFileDialog& dialog, const wxString& start)
 {
-    wxFileName folder = wxFileName::DirName(start);
-    if (CanBeShown(folder) || IsGone(start))
-        return;
-    folder.MakeAbsolute();
-    while (!CanBeShown(folder) && folder.GetDirCount() > 0)
-        folder.RemoveLastDir();
-    dialog.SetDirectory(folder.GetPath());
+    if (!CanBeShown(wxFileName::DirName(start)) && !IsGone(start))
+        dialog.SetDirectory(fittings::NearestThatCanBeShown(start));
 }
 
 }  // namespace
@@ -150,13 +145,26 @@ wxString FileSelector(const wchar_t* title, const wchar_t* defaultDir, const wch
     return dialog.ShowModal() == wxID_OK ? dialog.GetPath() : wxString();
 }
 
+wxString NearestThatCanBeShown(const wxString& path)
+{
+    wxFileName folder = wxFileName::DirName(path);
+    folder.MakeAbsolute();
+    while (!CanBeShown(folder) && folder.GetDirCount() > 0)
+        folder.RemoveLastDir();
+    return folder.GetPath();
+}
+
+std::wstring LoadLastFile(const char* entry)
+{
+    const std::string path = *entry ? CLocalRegStore::GetString(kLastFilesSection, entry, "") : std::string();
+    return path.empty() ? std::wstring() : file_util_ex::ConvertFromUTF8W(path);
+}
+
 std::wstring LoadLastPath(const char* entry)
 {
-    if (!*entry)
-        return {};
-    const std::string path = CLocalRegStore::GetString(kLastFilesSection, entry, "");
-    if (!path.empty())
-        return file_util_ex::ConvertFromUTF8W(path);
+    const std::wstring path = LoadLastFile(entry);
+    if (!*entry || !path.empty())
+        return path;
     return file_util_ex::GetPathWithSep(std_file_paths::GetAppFolderPath(kSamplesFolder).c_str());
 }
 

@@ -33,6 +33,12 @@ CStdStr<wchar_t> LaunchOpenDialog(wxWindow* parent, const wchar_t* defaultExtens
 wxString FileSelector(const wchar_t* title, const wchar_t* defaultDir, const wchar_t* defaultFile,
                       const wchar_t* defaultExt, const wchar_t* wildcard, long style, wxWindow* parent, int x, int y);
 
+/// The folder @a path, or the nearest above it, that is there and can be read.
+wxString NearestThatCanBeShown(const wxString& path);
+
+/// The file remembered under @a entry; empty when there is none, and for an empty entry.
+std::wstring LoadLastFile(const char* entry);
+
 /// The file remembered under @a entry, or else the application's folder of samples; empty for an empty entry.
 std::wstring LoadLastPath(const char* entry);
 

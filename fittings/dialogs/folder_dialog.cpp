@@ -6,6 +6,7 @@
 #include <wx/utils.h>
 
 #include <fittings/base/or_empty.h>
+#include <fittings/dialogs/folder_dialog_p.h>
 #include <fittings/platform/lng_util.h>
 #include <fittings/platform/local_reg_store.h>
 
@@ -38,9 +39,22 @@ wxString wxFolderDlg::DoModal(wxWindow* parent, const wchar_t* initialFolder, co
 
 wxString wxFolderDlg::DoModalReg(wxWindow* parent, const wchar_t* section, const wchar_t* message)
 {
-    const std::wstring remembered = CLocalRegStore::GetString(section, kPathKey, L"");
-    const wxString folder = DoModal(parent, remembered.c_str(), message);
-    if (!folder.empty())
-        CLocalRegStore::WriteString(section, kPathKey, folder.wc_str());
+    const wxString folder = DoModal(parent, fittings::LoadLastFolder(section).c_str(), message);
+    fittings::SaveLastFolder(section, folder.wc_str());
     return folder;
 }
+
+namespace fittings {
+
+std::wstring LoadLastFolder(const wchar_t* section)
+{
+    return CLocalRegStore::GetString(section, kPathKey, L"");
+}
+
+void SaveLastFolder(const wchar_t* section, const wchar_t* folder)
+{
+    if (*folder)
+        CLocalRegStore::WriteString(section, kPathKey, folder);
+}
+
+}  // namespace fittings

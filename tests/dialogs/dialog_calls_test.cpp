@@ -7,6 +7,7 @@
 
 #include <fittings/dialogs/file_dialog.h>
 #include <fittings/dialogs/folder_dialog.h>
+#include <fittings/dialogs/remembering_dialogs.h>
 #include <tests/dialogs/file_answer.h>
 #include <tests/support/noting_platform.h>
 
@@ -77,6 +78,54 @@ TEST_F(SaveDialogCalls, OfADialogWithoutAnEntry)
     CQVFileDialogI::SetRegEntry("");
     Ask(wxID_OK, "/b/two.prj");
     EXPECT_EQ(g_platform.calls, Calls{L"show"});
+}
+
+// The toolkit's GetPath() gives what FileAnswer says, and FileAnswer knows the other dialog alone.
+class RememberingDialogCalls : public testing::Test, private wxModalDialogHook
+{
+protected:
+    RememberingDialogCalls()
+    {
+        g_platform = {};
+        g_platform.stored = L"/a/one.prj";
+        Register();
+    }
+
+    class Dialog : public wxRememberingFileDialog
+    {
+    public:
+        using wxRememberingFileDialog::wxRememberingFileDialog;
+        wxString GetPath() const override { return "/b/two.prj"; }
+    };
+
+    int m_result = wxID_OK;
+
+private:
+    int Enter(wxDialog*) override
+    {
+        Note(L"show");
+        return m_result;
+    }
+};
+
+TEST_F(RememberingDialogCalls, OfADialogThatIsAccepted)
+{
+    Dialog(nullptr, "Report", "Save", "Tables|*.csv|All files|*", wxFD_SAVE).ShowModal();
+    EXPECT_EQ(g_platform.calls,
+              (Calls{L"to UTF-8 [Report]", L"get narrow [LastFiles] [/encodedReport] []", L"from UTF-8 [/a/one.prj]",
+                     L"get from default store [LastFilters] [Report] []", L"show", L"to UTF-8 [Report]",
+                     L"without separator [/b/two.prj]", L"to UTF-8 [/b/two.prj]",
+                     L"write narrow [LastFiles] [/encodedReport] [/encoded/b/two.prj]",
+                     L"write to default store [LastFilters] [Report] [*]"}));
+    EXPECT_EQ(g_platform.savesWithoutBatch, 0);
+    EXPECT_EQ(g_platform.batches, 0);
+}
+
+TEST_F(RememberingDialogCalls, OfADialogThatIsCancelled)
+{
+    m_result = wxID_CANCEL;
+    Dialog(nullptr, "Report", "Save", "Tables|*.csv|All files|*", wxFD_SAVE).ShowModal();
+    EXPECT_EQ(g_platform.calls.back(), L"show");
 }
 
 class FolderDialogCalls : public testing::Test

@@ -17,6 +17,7 @@
 #include <fittings/config/wx_window_state.h>
 #include <fittings/dialogs/file_dialog.h>
 #include <fittings/dialogs/folder_dialog.h>
+#include <fittings/dialogs/remembering_dialogs.h>
 #include <fittings/numedit/num_validator.h>
 #include <fittings/numedit/number_edit_utils.h>
 #include <fittings/platform/local_reg_store.h>
@@ -365,6 +366,21 @@ public:
         CQVFileDialogI::SetRegEntry(earlier);
         if (!path.empty())
             WriteReport(path);
+    }
+
+    void LoadWith(void (*Load)(const wxString& path))
+    {
+        wxRememberingFileDialog dialog(this, "Table", "Open a table", "Tables (*.csv)|*.csv|All files|*",
+                                       wxFD_OPEN | wxFD_FILE_MUST_EXIST);
+        if (dialog.ShowModal() == wxID_OK)
+            Load(dialog.GetPath());
+    }
+
+    void ImportFolderWith(void (*Import)(const wxString& folder))
+    {
+        wxRememberingDirDialog dialog(this, "ImportFolder", "Import from");
+        if (dialog.ShowModal() == wxID_OK)
+            Import(dialog.GetPath());
     }
 };
 

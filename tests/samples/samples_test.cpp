@@ -209,6 +209,25 @@ TEST(DialogsSample, ListsTheFolderAndSavesInTheFileChosenLast)
     list.Close();
 }
 
+TEST(RememberingSample, OpensAndSavesWhereItDidLast)
+{
+    const Person person;
+    WriteFile(person.home / "fugue.txt", "a subject, and its answer");
+    fs::create_directories(person.PathOf("remembering", ""));
+    const std::string settings =
+        "[LastFiles]\nOpenedText=" + (person.home / "fugue.txt") + "\nSavedText=" + (person.home / "copy.txt") + "\n";
+    WriteFile(person.PathOf("remembering", "settings.ini"), settings);
+    SampleInUse texts("remembering", "Texts", person);
+    texts.Press("ctrl+o");
+    PressUntil("alt+o", [&] { return texts.Title() == "1 opened, " + (person.home / "fugue.txt") + " shown"; });
+    texts.Press("ctrl+s");
+    PressUntil("Return", [&] { return texts.Title() == "Saved in " + (person.home / "copy.txt"); });
+    EXPECT_EQ(ReadFile(person.home / "copy.txt"), "a subject, and its answer");
+    EXPECT_EQ(person.FileOf("remembering", "settings.ini"),
+              settings + "\n[LastFilters]\nOpenedText=*.txt\nSavedText=*.txt\n");
+    texts.Close();
+}
+
 TEST(ThreadSample, CountsOnWhileItsWindowAnswers)
 {
     const Person person;

@@ -1,0 +1,98 @@
+#include <tests/dialogs/answered_dialog.h>
+
+#include <filesystem>
+
+#include <wx/stopwatch.h>
+#include <wx/timer.h>
+
+#include <fittings/platform/local_reg_store.h>
+#include <fittings/platform/std_file_paths.h>
+#include <tests/support/gui.h>
+
+namespace {
+
+// A text of GLib's, which may be null, and is freed.
+std::string Take(char* text)
+{
+    std::string result = text ? text : "";
+    g_free(text);
+    return result;
+}
+
+}  // namespace
+
+GtkFileChooser* ChooserOf(const wxWindow& dialog)
+{
+    return GTK_FILE_CHOOSER(dialog.GetHandle());
+}
+
+std::string FolderOf(const wxWindow& dialog)
+{
+    std::string folder;
+    PumpUntil([&] {
+        folder = Take(gtk_file_chooser_get_current_folder(ChooserOf(dialog)));
+        return !folder.empty();
+    });
+    return folder;
+}
+
+std::string TitleOf(const wxWindow& dialog)
+{
+    return gtk_window_get_title(GTK_WINDOW(dialog.GetHandle()));
+}
+
+std::string NameOf(const wxWindow& saveDialog)
+{
+    return Take(gtk_file_chooser_get_current_name(ChooserOf(saveDialog)));
+}
+
+wxArrayString PathsOf(const wxFileDialog& dialog)
+{
+    wxArrayString paths;
+    dialog.GetPaths(paths);
+    return paths;
+}
+
+int Choose(wxFileDialog& dialog, const std::string& path)
+{
+    const wxString chosen = wxString::FromUTF8(path);
+    dialog.SetPath(chosen);
+    EXPECT_TRUE(PumpUntil([&] { return PathsOf(dialog).Index(chosen) != wxNOT_FOUND; })) << path;
+    return wxID_OK;
+}
+
+int ShowAndChoose(wxFileDialog&& dialog, const std::string& path)
+{
+    const Answer answer([&](wxDialog*) { return Choose(dialog, path); });
+    return dialog.ShowModal();
+}
+
+int AcceptWhen(wxFileDialog& dialog, const std::function<bool()>& isReady)
+{
+    wxTimer timer;
+    const wxStopWatch watch;
+    timer.Bind(wxEVT_TIMER, [&](wxTimerEvent&) {
+        GtkDialog* const shown = GTK_DIALOG(dialog.GetHandle());
+        if (watch.Time() > 60000)
+            gtk_dialog_response(shown, GTK_RESPONSE_CANCEL);
+        else if (gtk_widget_get_mapped(GTK_WIDGET(shown)) && isReady())
+            gtk_dialog_response(shown, GTK_RESPONSE_ACCEPT);  // which it may ignore while it is not ready
+    });
+    timer.Start(10);
+    return dialog.ShowModal();
+}
+
+RememberingDialog::RememberingDialog() : m_plain(m_folders / "plain")
+{
+    std::filesystem::create_directories(m_plain);
+}
+
+std::string RememberingDialog::Stored(const char* section, const char* key)
+{
+    return CLocalRegStore::GetString(section, key, "(nothing)");
+}
+
+std::string RememberingDialog::Documents()
+{
+    return std::filesystem::path(std_file_paths::GetAppFolderPath(L"")).parent_path();
+}

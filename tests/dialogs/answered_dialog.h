@@ -1,0 +1,67 @@
+#ifndef FITTINGS_TESTS_DIALOGS_ANSWERED_DIALOG_H_
+#define FITTINGS_TESTS_DIALOGS_ANSWERED_DIALOG_H_
+
+#include <functional>
+#include <string>
+#include <utility>
+
+#include <gtest/gtest.h>
+#include <gtk/gtk.h>
+#include <wx/arrstr.h>
+#include <wx/filedlg.h>
+#include <wx/modalhook.h>
+
+#include <tests/support/temp_folder.h>
+
+/// Answers every dialog while it lives, before it is shown.
+class Answer : public wxModalDialogHook
+{
+public:
+    explicit Answer(std::function<int(wxDialog*)> answer) : m_answer(std::move(answer)) { Register(); }
+
+protected:
+    int Enter(wxDialog* dialog) override { return m_answer(dialog); }
+
+private:
+    const std::function<int(wxDialog*)> m_answer;
+};
+
+GtkFileChooser* ChooserOf(const wxWindow& dialog);
+
+/// Waits for the folder, to which the dialog goes in the background.
+std::string FolderOf(const wxWindow& dialog);
+
+std::string TitleOf(const wxWindow& dialog);
+
+/// The name that a dialog to save proposes.
+std::string NameOf(const wxWindow& saveDialog);
+
+wxArrayString PathsOf(const wxFileDialog& dialog);
+
+/// Has the dialog choose a file, and waits until it gives it. Returns wxID_OK.
+int Choose(wxFileDialog& dialog, const std::string& path);
+
+/// The result of a dialog in which the file is chosen.
+int ShowAndChoose(wxFileDialog&& dialog, const std::string& path);
+
+/// Shows the dialog on the screen, and accepts it as a user does when the condition holds; cancels it when it never does.
+int AcceptWhen(wxFileDialog& dialog, const std::function<bool()>& isReady);
+
+/// A user whose settings are empty at first, and a folder to choose from.
+class RememberingDialog : public testing::Test
+{
+protected:
+    RememberingDialog();
+
+    static std::string Stored(const char* section, const char* key);
+
+    /// Where the program's documents are.
+    static std::string Documents();
+    std::string Settings() const { return ReadFile(m_settings / "settings.ini"); }
+
+    const TempUserData m_settings;
+    const TempFolder m_folders;
+    std::string m_plain;
+};
+
+#endif
