@@ -1,6 +1,17 @@
 #include <fittings/thread/gui_thread.h>
 
-wxGUIThread::wxGUIThread(wxEvtHandler* handler) : wxThreadEx(wxTHREAD_JOINABLE), m_handler(handler) {}
+#include <atomic>
+
+namespace {
+
+std::atomic<int> g_lastRunNumber = 0;
+
+}  // namespace
+
+wxGUIThread::wxGUIThread(wxEvtHandler* handler)
+    : wxThreadEx(wxTHREAD_JOINABLE), m_handler(handler), m_runNumber(++g_lastRunNumber)
+{
+}
 
 wxGUIThread::~wxGUIThread() = default;
 
@@ -20,6 +31,23 @@ void wxGUIThread::StartKill()
 {
     const wxMutexLocker lock(m_continueMutex);
     m_continue = false;
+}
+
+void wxGUIThread::SetEndEvent(int eventType)
+{
+    m_atEnd = [this, eventType](wxThread::ExitCode exitCode) {
+        wxCommandEvent event(eventType);
+        event.SetInt(m_runNumber);
+        event.SetClientData(exitCode);
+        PostResult(event);
+    };
+}
+
+bool wxGUIThread::PostResult(const wxCommandEvent& event)
+{
+    if (m_handler)
+        m_handler->AddPendingEvent(event);
+    return m_handler != nullptr;
 }
 
 bool wxGUIThread::PostEvent(wxCommandEvent& event, int value)

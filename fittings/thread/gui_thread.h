@@ -77,6 +77,17 @@ public:
     /// Events that are queued already still arrive.
     void StartKill();
 
+    /// Has the handler told by one event of that type when Entry() has returned, whatever ended it: its work done, StartKill(), an
+    /// exception. To be called before RunThread(). No event at first.
+    ///
+    /// The event is a wxCommandEvent whose int is GetRunNumber() and whose client data is what Entry() returned. HasEnded() is
+    /// true when it arrives, and Wait() returns at once.
+    void SetEndEvent(int eventType);
+
+    /// A number that no other worker of the process has, larger than those of the workers made before. Events that tell it are
+    /// told apart from those that an earlier worker has left queued.
+    int GetRunNumber() const { return m_runNumber; }
+
     /// @name Posting
     ///
     /// The handler gets a copy of the event, on the GUI thread, by the toolkit's pending events. Each overload returns
@@ -101,6 +112,10 @@ public:
     bool PostEvent(int eventType, int value, long extra);  ///< As above, with an extra long.
     bool PostEvent(int eventType, int value, void* data);  ///< As above, with client data.
 
+    /// Posts a copy of the event as it is, also after StartKill(): a last result, which a stopped worker hands over. Returns false
+    /// when there is no handler.
+    bool PostResult(const wxCommandEvent& event);
+
     /// @}
 
 protected:
@@ -113,6 +128,9 @@ protected:
 
     /// One event at a time is made and posted. Taken before m_continueMutex, never after it.
     wxMutex m_postMutex{wxMUTEX_DEFAULT};
+
+private:
+    const int m_runNumber;
 };
 
 /// A wxGUIThread whose events are all of one type, named once.

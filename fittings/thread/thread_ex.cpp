@@ -1,8 +1,24 @@
 #include <fittings/thread/thread_ex.h>
 
+#include <algorithm>
+#include <chrono>
 #include <cstdint>
 
+#include <wx/evtloop.h>
+
 namespace {
+
+using Clock = std::chrono::steady_clock;
+
+// How long a wait may keep windows from being painted.
+constexpr std::chrono::milliseconds kPaintInterval(20);
+
+void PaintWindows()
+{
+    wxEventLoopBase* const loop = wxThread::IsMain() ? wxEventLoopBase::GetActive() : nullptr;
+    if (loop)
+        loop->YieldFor(wxEVT_CATEGORY_UI);
+}
 
 // The toolkit's exit codes are pointers that need not point. NOLINTNEXTLINE(performance-no-int-to-ptr)
 const auto kNoExitCode = reinterpret_cast<wxThread::ExitCode>(std::intptr_t{-1});
@@ -26,6 +42,8 @@ private:
             const wxMutexLocker lock(owner->m_mutex);
             owner->m_exitCode = exitCode;
             owner->m_finished = true;
+            if (owner->m_atEnd)
+                owner->m_atEnd(exitCode);
             owner->m_condition.Signal();
         }
         End(const End&) = delete;
@@ -83,4 +101,28 @@ wxThread::ExitCode wxThreadEx::Wait()
     while (!m_finished)
         m_condition.Wait();
     return m_exitCode;
+}
+
+bool wxThreadEx::WaitFor(unsigned long milliseconds)
+{
+    if (!m_running)
+        return false;
+    const auto deadline = Clock::now() + std::chrono::milliseconds(milliseconds);
+    for (;;) {
+        {
+            const wxMutexLocker lock(m_mutex);
+            const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now());
+            if (!m_finished && left.count() > 0)
+                m_condition.WaitTimeout(static_cast<unsigned long>(std::min(left, kPaintInterval).count()));
+            if (m_finished || Clock::now() >= deadline)
+                return m_finished;
+        }
+        PaintWindows();
+    }
+}
+
+bool wxThreadEx::HasEnded() const
+{
+    const wxMutexLocker lock(m_mutex);
+    return m_finished;
 }

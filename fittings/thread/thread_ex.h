@@ -1,6 +1,8 @@
 #ifndef FITTINGS_THREAD_THREAD_EX_H_
 #define FITTINGS_THREAD_THREAD_EX_H_
 
+#include <functional>
+
 #include <wx/thread.h>
 
 #include <fittings/base/export.h>
@@ -78,6 +80,15 @@ public:
     /// @return what Entry() returned; (wxThread::ExitCode)-1 at once when the object is detached, or has not run.
     wxThread::ExitCode Wait();
 
+    /// Waits as Wait() does, but at most so long. On the GUI thread windows are painted meanwhile and timers run; what a user does
+    /// and what workers post is handled afterwards.
+    ///
+    /// @return HasEnded(); false at once when the object has not run.
+    bool WaitFor(unsigned long milliseconds);
+
+    /// True once Entry() has returned, or an exception has left it; Wait() then returns at once. Any thread may ask.
+    bool HasEnded() const;
+
     /// The work. Called once, on the new thread; its result is the exit code.
     ///
     /// No exception may leave it. One that does goes to the toolkit's wxApp::OnUnhandledException(), the work counts as
@@ -87,13 +98,18 @@ public:
 private:
     friend class wxThreadExImpl;
 
-    wxMutex m_mutex{wxMUTEX_DEFAULT};  // guards m_finished and m_exitCode
+    mutable wxMutex m_mutex{wxMUTEX_DEFAULT};  // guards m_finished and m_exitCode
     wxCondition m_condition{m_mutex};
     const bool m_detached;
     bool m_running = false;
     bool m_finished = false;
     wxThreadExImpl* const m_impl;
     wxThread::ExitCode m_exitCode = nullptr;
+
+protected:
+    /// Called on the thread when Entry() has returned, with the exit code. It must not call HasEnded() or Wait(), which wait for
+    /// it. To be set before Run().
+    std::function<void(wxThread::ExitCode)> m_atEnd;
 };
 
 #endif

@@ -6,12 +6,12 @@
 
 #include <fittings/thread/gui_thread.h>
 
-wxDEFINE_EVENT(EVT_ADDED_UP, wxCommandEvent);  // the int is the number of the run, the extra long the sum
+wxDEFINE_EVENT(EVT_ADDED_UP, wxCommandEvent);  // the int is the worker's run number, the extra long the sum
 
 class Adder final : public wxGUIThreadEx
 {
 public:
-    Adder(wxEvtHandler* handler, int run, long last) : wxGUIThreadEx(handler, EVT_ADDED_UP), m_run(run), m_last(last) {}
+    Adder(wxEvtHandler* handler, long last) : wxGUIThreadEx(handler, EVT_ADDED_UP), m_last(last) {}
     ~Adder() override
     {
         StartKill();  // ask it to stop,
@@ -22,12 +22,11 @@ public:
         long sum = 0;
         for (long number = 1; number <= m_last && DoContinue(); ++number)
             sum += number;
-        PostEvent(m_run, sum);  // does nothing when asked to stop
+        PostEvent(GetRunNumber(), sum);  // does nothing when asked to stop
         return nullptr;
     }
 
 private:
-    const int m_run;
     const long m_last;
 };
 
@@ -38,18 +37,17 @@ public:
     {
         (new wxTextCtrl(this, wxID_ANY))->Bind(wxEVT_TEXT, [this](wxCommandEvent& event) {
             m_adder.reset();  // stops
-            m_adder = std::make_unique<Adder>(this, ++m_run, wxAtol(event.GetString()));
+            m_adder = std::make_unique<Adder>(this, wxAtol(event.GetString()));
             SetTitle(m_adder->RunThread() == wxTHREAD_NO_ERROR ? "Adding up" : "No thread to add up on");
         });
         Bind(EVT_ADDED_UP, [this](wxCommandEvent& event) {
-            if (event.GetInt() == m_run)  // else of a run that had sent its result when it was stopped
+            if (event.GetInt() == m_adder->GetRunNumber())  // else of one that had sent its result when it was stopped
                 SetTitle(wxString::Format("The sum is %ld", event.GetExtraLong()));
         });
     }
 
 private:
     std::unique_ptr<Adder> m_adder;
-    int m_run = 0;
 };
 
 class SumApp : public wxApp

@@ -68,6 +68,7 @@ TEST(ExceptionThatLeavesEntry, GoesToTheToolkitAndEndsTheWait)
     EXPECT_NE(output.find("unhandled of Entry\n"), std::string::npos) << output;
     EXPECT_NE(output.find("wait -1\n"), std::string::npos) << output;
     EXPECT_NE(output.find("ended 1\n"), std::string::npos) << output;
+    EXPECT_NE(output.find("unhandled of a worker\nend events 1\nwith -1\n"), std::string::npos) << output;
 }
 
 }  // namespace

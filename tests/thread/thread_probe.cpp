@@ -216,6 +216,16 @@ void Throw()
     thread.Run();
     Say("wait", Number(thread.Wait()));
     Say("ended", HasEnded(thread.thread));
+
+    Recorder recorder;
+    Working<wxGUIThread> worker([](auto&) -> wxThread::ExitCode { throw std::runtime_error("of a worker"); },
+                                &recorder);
+    worker.SetEndEvent(wxNewEventType());
+    worker.RunThread();
+    worker.Wait();
+    wxTheApp->ProcessPendingEvents();
+    Say("end events", static_cast<long>(recorder.events.size()));
+    Say("with", Number(recorder.events.empty() ? nullptr : recorder.events.front().data));
 }
 
 }  // namespace

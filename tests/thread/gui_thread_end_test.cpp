@@ -1,0 +1,260 @@
+// The end of a worker: the event that tells it, the question for it, and a wait that keeps windows painted.
+
+#include <fittings/thread/gui_thread.h>
+
+#include <atomic>
+#include <memory>
+
+#include <gtest/gtest.h>
+
+#include <wx/frame.h>
+#include <wx/panel.h>
+
+#include <tests/support/gui.h>
+#include <tests/thread/thread_support.h>
+
+namespace {
+
+using Worker = Working<wxGUIThread>;
+
+const int kEnd = wxNewEventType();
+const int kOther = wxNewEventType();
+
+/// Waits for the event that is expected, and a little longer for one too many.
+void ExpectEvents(const Recorder& recorder, const Events& events)
+{
+    PumpUntil([&] { return recorder.events.size() >= events.size(); });
+    PumpUntil([&] { return recorder.events.size() > events.size(); }, 50);
+    EXPECT_EQ(recorder.events, events);
+}
+
+TEST(EndEvent, ComesOnceWithTheRunNumberAndTheExitCode)
+{
+    Recorder recorder;
+    Worker worker([](Worker&) { return Code(42); }, &recorder);
+    worker.SetEndEvent(kEnd);
+    ASSERT_EQ(worker.RunThread(), wxTHREAD_NO_ERROR);
+    ExpectEvents(recorder, {Plain(kEnd, worker.GetRunNumber(), 0, Code(42))});
+    EXPECT_TRUE(recorder.allOnGuiThread);
+}
+
+TEST(EndEvent, ComesAfterAllOthersOfTheWorker)
+{
+    Recorder recorder;
+    Worker worker(
+        [](Worker& self) {
+            self.PostEvent(kOther, 1);
+            return Code(0);
+        },
+        &recorder);
+    worker.SetEndEvent(kEnd);
+    worker.RunThread();
+    ExpectEvents(recorder, {Plain(kOther, 1), Plain(kEnd, worker.GetRunNumber())});
+}
+
+TEST(EndEvent, ComesAfterStartKill)
+{
+    Recorder recorder;
+    Worker worker(
+        [](Worker& self) {
+            while (self.DoContinue())
+                wxThread::Yield();
+            return Code(7);
+        },
+        &recorder);
+    worker.SetEndEvent(kEnd);
+    worker.RunThread();
+    ASSERT_TRUE(worker.started.Wait());
+    worker.StartKill();
+    worker.Wait();
+    ExpectEvents(recorder, {Plain(kEnd, worker.GetRunNumber(), 0, Code(7))});
+}
+
+TEST(EndEvent, ComesWhenTheWorkHasEnded)
+{
+    struct Asking : wxEvtHandler
+    {
+        bool ProcessEvent(wxEvent&) override
+        {
+            hadEnded = worker->HasEnded();
+            exitCode = worker->Wait();
+            hasCome = true;
+            return true;
+        }
+        Worker* worker = nullptr;
+        bool hasCome = false;
+        bool hadEnded = false;
+        wxThread::ExitCode exitCode = nullptr;
+    };
+    Asking handler;
+    Worker worker([](Worker&) { return Code(42); }, &handler);
+    handler.worker = &worker;
+    worker.SetEndEvent(kEnd);
+    worker.RunThread();
+    EXPECT_TRUE(PumpUntil([&] { return handler.hasCome; }));
+    EXPECT_TRUE(handler.hadEnded);
+    EXPECT_EQ(handler.exitCode, Code(42));
+}
+
+TEST(EndEvent, DoesNotComeUnasked)
+{
+    Recorder recorder;
+    Worker worker([](Worker&) { return Code(42); }, &recorder);
+    worker.RunThread();
+    worker.Wait();
+    ExpectEvents(recorder, {});
+}
+
+TEST(EndEvent, NeedsNoHandler)
+{
+    Worker worker([](Worker&) { return Code(42); }, nullptr);
+    worker.SetEndEvent(kEnd);
+    worker.RunThread();
+    EXPECT_EQ(worker.Wait(), Code(42));
+}
+
+TEST(EndEvent, IsDroppedWithTheHandler)
+{
+    auto recorder = std::make_unique<Recorder>();
+    Worker worker([](Worker&) { return Code(42); }, recorder.get());
+    worker.SetEndEvent(kEnd);
+    worker.RunThread();
+    worker.Wait();
+    recorder.reset();
+    PumpPending();
+}
+
+TEST(RunNumber, GrowsFromWorkerToWorker)
+{
+    const Worker first([](Worker&) { return Code(0); }, nullptr);
+    const Worker second([](Worker&) { return Code(0); }, nullptr);
+    EXPECT_GT(first.GetRunNumber(), 0);
+    EXPECT_GT(second.GetRunNumber(), first.GetRunNumber());
+}
+
+TEST(RunNumber, TellsALateEventOfAnEarlierWorker)
+{
+    Recorder recorder;
+    auto worker = std::make_unique<Worker>([](Worker&) { return Code(1); }, &recorder);
+    const int earlier = worker->GetRunNumber();
+    worker->SetEndEvent(kEnd);
+    worker->RunThread();
+    worker->Wait();
+    worker = std::make_unique<Worker>([](Worker&) { return Code(2); }, &recorder);
+    worker->SetEndEvent(kEnd);
+    worker->RunThread();
+    ExpectEvents(recorder, {Plain(kEnd, earlier, 0, Code(1)), Plain(kEnd, worker->GetRunNumber(), 0, Code(2))});
+}
+
+TEST(PostResult, IsDeliveredAfterStartKill)
+{
+    Recorder recorder;
+    bool isPosted = false;
+    Worker worker(
+        [&](Worker& self) {
+            wxCommandEvent event(kOther, 5);
+            event.SetInt(3);
+            event.SetString("half done");
+            isPosted = self.PostResult(event);
+            return Code(0);
+        },
+        &recorder);
+    worker.StartKill();
+    worker.RunThread();
+    worker.Wait();
+    EXPECT_TRUE(isPosted);
+    Event expected = Plain(kOther, 3);
+    expected.id = 5;
+    expected.string = "half done";
+    ExpectEvents(recorder, {expected});
+}
+
+TEST(PostResult, TellsThatThereIsNoHandler)
+{
+    Worker worker([](Worker& self) { return Code(self.PostResult(wxCommandEvent(kOther)) ? 1 : 2); }, nullptr);
+    worker.RunThread();
+    EXPECT_EQ(worker.Wait(), Code(2));
+}
+
+TEST(HasEnded, IsTrueOnceTheWorkIsDone)
+{
+    HeldThread held;
+    EXPECT_FALSE(held.thread.HasEnded());
+    held.go.Set();
+    EXPECT_TRUE(Becomes([&] { return held.thread.HasEnded(); }));
+    EXPECT_EQ(held.thread.Wait(), Code(42));
+    EXPECT_TRUE(held.thread.HasEnded());
+}
+
+TEST(HasEnded, IsFalseOfAThreadThatHasNotRun)
+{
+    const Worker worker([](Worker&) { return Code(0); }, nullptr);
+    EXPECT_FALSE(worker.HasEnded());
+}
+
+TEST(WaitFor, AnswersAtOnceForAThreadThatHasNotRun)
+{
+    Worker worker([](Worker&) { return Code(0); }, nullptr);
+    EXPECT_FALSE(worker.WaitFor(1'000'000));
+}
+
+TEST(WaitFor, GivesUpAfterTheTime)
+{
+    HeldThread held;
+    EXPECT_FALSE(held.thread.WaitFor(0));
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_FALSE(held.thread.WaitFor(70));
+    EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(70));
+}
+
+TEST(WaitFor, EndsWithTheWork)
+{
+    HeldThread held;
+    EXPECT_FALSE(held.thread.WaitFor(30));
+    held.go.Set();
+    EXPECT_TRUE(held.thread.WaitFor(1'000'000));
+    EXPECT_TRUE(held.thread.WaitFor(0));
+    EXPECT_EQ(held.thread.Wait(), Code(42));
+}
+
+TEST(WaitFor, MayBeCalledByAnotherThread)
+{
+    bool hasEnded = false;
+    Helper helper([&] {
+        Working<wxThreadEx> thread([](auto&) { return Code(42); }, wxTHREAD_JOINABLE);
+        thread.Create(0);
+        thread.Run();
+        hasEnded = thread.WaitFor(1'000'000);
+    });
+    EXPECT_TRUE(helper.Ends());
+    EXPECT_TRUE(hasEnded);
+}
+
+TEST(WaitFor, KeepsWindowsPaintedAndHandlesNothingElse)
+{
+    auto* const frame = new wxFrame(nullptr, wxID_ANY, "painted");
+    auto* const panel = new wxPanel(frame);
+    ASSERT_TRUE(ShowAndSettle(frame));
+    std::atomic<int> painted{0};
+    panel->Bind(wxEVT_PAINT, [&](wxPaintEvent& event) {
+        ++painted;
+        event.Skip();
+    });
+    Recorder recorder;
+    Worker worker(
+        [&](Worker& self) {
+            self.PostEvent(kOther, 1);
+            return Code(Becomes([&] { return painted > 0; }) ? 1 : 2);
+        },
+        &recorder);
+    panel->Refresh();
+    worker.RunThread();
+    EXPECT_TRUE(worker.WaitFor(1'000'000));
+    EXPECT_EQ(worker.Wait(), Code(1));
+    EXPECT_EQ(recorder.events, Events());
+    ExpectEvents(recorder, {Plain(kOther, 1)});
+    frame->Destroy();
+    PumpPending();
+}
+
+}  // namespace
