@@ -43,8 +43,8 @@ bool IsGoing(wxWindow* window)
 
 }  // namespace
 
+// Without entries: the tables of derived classes refer to it.
 wxBEGIN_EVENT_TABLE(wxColourCombo, wxComboCtrl)
-    EVT_TIMER(wxID_ANY, wxColourCombo::OnTimerEvent)
 wxEND_EVENT_TABLE()
 
 wxColourCombo::wxColourCombo()
@@ -140,6 +140,15 @@ void wxColourCombo::OnTimerEvent(wxTimerEvent& /*event*/)
         DrawStep(elapsed);
     else
         EndAnimation(*popup->GetControl());
+}
+
+// Before any handler: a host may bind one for timers of its own on the control, and not skip the event.
+bool wxColourCombo::TryBefore(wxEvent& event)
+{
+    auto* const tick = dynamic_cast<wxTimerEvent*>(&event);
+    if (tick && &tick->GetTimer() == &m_animTimer)
+        OnTimerEvent(*tick);
+    return wxComboCtrl::TryBefore(event);
 }
 
 wxRect wxColourCombo::OutlineAt(int elapsed) const

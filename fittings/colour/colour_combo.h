@@ -77,13 +77,17 @@ public:
     /// Tells assistive technologies of the colour in effect.
     void OnInternalIdle() override;
 
-    /// One step of the animation; the last one shows the popup. The event is not used.
+    /// One step of the animation; the last one shows the popup. The event is not used. Called for the ticks of the animation's
+    /// timer, which handlers of the host hear of as well, and not for those of other timers.
     void OnTimerEvent(wxTimerEvent& event);
 
 protected:
     /// Starts the animation, and returns false: the popup is shown at its end. True, and no animation, where the screen
     /// cannot be drawn to or @a rect, in screen coordinates, is empty.
     bool AnimateShow(const wxRect& rect, int flags) override;
+
+    /// Takes a step when the animation's timer ticks, whatever the host has bound.
+    bool TryBefore(wxEvent& event) override;
 
     /// Draws the button, and the sign of the focus on it where there is no text field: the face is all colour.
     void DrawButton(wxDC& dc, const wxRect& rect, int flags) override;

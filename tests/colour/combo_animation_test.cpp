@@ -458,4 +458,30 @@ TEST_F(ColourAnimation, IsNotStartedByAnotherTimer)
     EXPECT_FALSE(on.combo->IsPopupShown());
 }
 
+TEST_F(ColourAnimation, IsNotGoneThroughAgainByAnotherTimer)
+{
+    on.combo->Popup();
+    ExpectShown();
+    const std::size_t shown = on.combo->shown.size();
+    int ticks = 0;
+    on.combo->Bind(wxEVT_TIMER, [&](wxTimerEvent& event) {
+        ++ticks;
+        event.Skip();
+    });
+    wxTimer other(on.combo);
+    other.Start(5);
+    EXPECT_TRUE(PumpUntil([&] { return ticks >= 3; }));
+    EXPECT_EQ(on.combo->shown.size(), shown);
+}
+
+// A host may handle the ticks of its own timers and skip none.
+TEST_F(ColourAnimation, EndsWhateverTheHostBinds)
+{
+    int ticks = 0;
+    on.combo->Bind(wxEVT_TIMER, [&](wxTimerEvent&) { ++ticks; });
+    on.combo->Popup();
+    ExpectShown();
+    EXPECT_GT(ticks, 0);
+}
+
 }  // namespace
