@@ -104,10 +104,11 @@ wxString BrowserPage::Start(const std::string& folder)
         if (root.empty())
             note = DisplayText(folder) + ": " + ReasonText(errno);
     }
-    for (const std::string& other : {browser_settings::LoadRootFolder(), PathFromDialog(wxGetHomeDir())}) {
-        if (root.empty() && !other.empty())
-            root = ResolveFolder(other);
-    }
+    const std::vector<std::string> earlier = browser_settings::LoadRootFolders();
+    if (root.empty() && !earlier.empty())
+        root = ResolveFolder(earlier.front());
+    if (root.empty())
+        root = ResolveFolder(PathFromDialog(wxGetHomeDir()));
     OpenRoot(root.empty() ? "/" : root);
     if (!note.empty())
         m_note->ShowMessage(note, wxICON_WARNING);
@@ -180,13 +181,19 @@ wxString BrowserPage::GetSelectionText() const
 void BrowserPage::OpenFolder()
 {
     const wxString folder = wxFolderDlg::DoModalReg(this, L"OpenFolder", L"Open folder");
-    if (folder.empty())
-        return;
-    const std::string path = ResolveFolder(PathFromDialog(folder));
+    if (!folder.empty())
+        Open(PathFromDialog(folder));
+}
+
+bool BrowserPage::Open(const std::string& folder)
+{
+    const std::string path = ResolveFolder(folder);
+    const int error = errno;
     if (path.empty())
-        m_note->ShowMessage(folder + ": " + ReasonText(errno), wxICON_WARNING);
+        m_note->ShowMessage(DisplayText(folder) + ": " + ReasonText(error), wxICON_WARNING);
     else
         OpenRoot(path);
+    return !path.empty();
 }
 
 void BrowserPage::GoUp()

@@ -65,6 +65,9 @@ public:
     wxString GetSelectionText() const;
     /// @}
 
+    /// Opens a folder. Where it cannot be read, says so in the page, and returns false.
+    bool Open(const std::string& folder);
+
     /// @name Commands
     /// @{
     void OpenFolder();

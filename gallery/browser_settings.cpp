@@ -58,10 +58,12 @@ void SavePage(const wxString& name)
     ui_config_mgr::WriteConfigString(kFile, L"Window", L"Page", name.wc_str());
 }
 
-std::string LoadRootFolder()
+std::vector<std::string> LoadRootFolders()
 {
-    const std::vector<std::wstring> roots = LoadRoots();
-    return roots.empty() ? std::string() : PathFromText(roots.front());
+    std::vector<std::string> paths;
+    for (const std::wstring& root : LoadRoots())
+        paths.push_back(PathFromText(root));
+    return paths;
 }
 
 std::string SaveRootFolder(const std::string& path)

@@ -18,8 +18,8 @@ namespace browser_settings {
 wxString LoadPage();
 void SavePage(const wxString& name);
 
-/// The last session's; empty in the first one.
-std::string LoadRootFolder();
+/// Those of earlier sessions, the last one first.
+std::vector<std::string> LoadRootFolders();
 
 /// Returns the root that is forgotten for this one, with what is kept here for it; empty when there is room for all. The
 /// last 50 are remembered.

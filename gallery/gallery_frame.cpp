@@ -72,6 +72,7 @@ void GalleryFrame::MakeMenus()
 {
     auto* file = new wxMenu;
     file->Append(wxID_OPEN, L"&Open folder\u2026\tCtrl+O", "Browse another folder");
+    file->AppendSubMenu(m_recent.MakeMenu(), "Recent &folders", "Browse a folder again");
     file->Append(wxID_REFRESH, "&Refresh\tF5", "Read the folders again");
     file->Append(wxID_SAVEAS, L"&Save report\u2026\tCtrl+S", "Write what the list shows into a file");
     file->AppendSeparator();
@@ -144,6 +145,8 @@ void GalleryFrame::BindEvents()
     Bind(
         wxEVT_MENU, [this](wxCommandEvent& event) { ShowPage(event.GetId() - kFirstPageId); }, kFirstPageId,
         kFirstPageId + static_cast<int>(m_pages->GetPageCount()) - 1);
+    Bind(
+        wxEVT_MENU, [this](wxCommandEvent& event) { OpenRecent(event.GetId()); }, wxID_FILE1, wxID_FILE9);
     Bind(EVT_BROWSER_CHANGED, [this](wxCommandEvent&) { ShowState(); });
     Bind(wxEVT_CHAR_HOOK, &GalleryFrame::OnCharHook, this);
     Bind(wxEVT_CLOSE_WINDOW, &GalleryFrame::OnClose, this);
@@ -173,6 +176,8 @@ void GalleryFrame::ShowPage(int index)
 /// Brings title, status texts and commands in line with the selected page.
 void GalleryFrame::ShowState()
 {
+    if (!m_browser->GetTree()->GetRootFolder().empty())
+        m_recent.Add(m_browser->GetTree()->GetRootFolder());
     const bool browser = ShowsBrowser();
     const wxString page = m_pages->GetPageText(static_cast<std::size_t>(m_pages->GetSelection()));
     SetTitle((browser ? DisplayText(m_browser->GetFolder()) : page) + L" \u2013 Fittings Gallery");
@@ -188,6 +193,14 @@ void GalleryFrame::ShowState()
     menus->Check(wxID_VIEW_LIST, m_browser->ShowsFolders());
     menus->Enable(wxID_SELECT_COLOR, browser);
     menus->Enable(wxID_RESET, browser);
+}
+
+/// Opens a folder of an earlier time; one that is gone leaves the menu.
+void GalleryFrame::OpenRecent(int id)
+{
+    ShowPage(m_pages->FindPage(m_browser));
+    if (!m_browser->Open(m_recent.PathOf(id)))
+        m_recent.Remove(id);
 }
 
 void GalleryFrame::OnMapped()
@@ -231,6 +244,7 @@ void GalleryFrame::OnClose(wxCloseEvent& event)
     m_numbers->SaveSettings();
     m_colours->SaveSettings();
     browser_settings::SavePage(m_pages->GetCurrentPage()->GetName());
+    m_recent.Save();
     wx_window_state::SaveState(this, kStateName);
     event.Skip();
 }

@@ -5,6 +5,8 @@
 
 #include <wx/frame.h>
 
+#include "recent_folders.h"
+
 class wxBookCtrlEvent;
 class wxMenu;
 class wxNotebook;
@@ -39,6 +41,7 @@ private:
     bool ShowsBrowser() const;
     void ShowPage(int index);
     void ShowState();
+    void OpenRecent(int id);
     void OnMapped();
     void OnPageChanged(wxBookCtrlEvent& event);
     void OnCharHook(wxKeyEvent& event);
@@ -49,6 +52,7 @@ private:
     BrowserPage* m_browser = nullptr;
     NumbersPage* m_numbers = nullptr;
     ColoursPage* m_colours = nullptr;
+    RecentFolders m_recent;
     bool m_mapped = false;
 };
 
