@@ -1,0 +1,113 @@
+#include <fittings/config/window_geometry.h>
+
+#include <algorithm>
+
+#include <wx/display.h>
+#include <wx/toplevel.h>
+
+#include <fittings/config/first_showing.h>
+
+namespace {
+
+/// Stored sizes up to this one, in either direction, are not applied.
+constexpr int kTooSmall = 10;
+
+/// Coordinates and sizes on an X display are 16 bits wide. Larger numbers mean nothing to it, and would overflow when
+/// they are added up.
+constexpr long kFarthest = 32767;
+
+/// Returns the window's rectangle on the screen.
+///
+/// Inside a top-level window that is not shown yet the toolkit cannot tell, and logs so. The sum of the positions
+/// leaves out no more than the decorations.
+wxRect ScreenRect(wxWindow& window)
+{
+    if (wxGetTopLevelParent(&window)->IsShown())
+        return window.GetScreenRect();
+    wxRect rect = window.GetRect();
+    for (const wxWindow* inner = &window; !inner->IsTopLevel(); inner = inner->GetParent())
+        rect.Offset(inner->GetParent()->GetPosition());
+    return rect;
+}
+
+/// Returns the display that shows most of the window, as wxDisplay::GetFromWindow() is meant to.
+///
+/// The toolkit's own function knows of a window that is not created that it is on none. But it names some display even
+/// for one that is far off all of them, and goes by where a hidden window was before it was moved.
+int DisplayOf(wxWindow& window)
+{
+    if (wxDisplay::GetFromWindow(&window) == wxNOT_FOUND)
+        return wxNOT_FOUND;
+    const wxRect rect = ScreenRect(window);
+    int best = wxNOT_FOUND;
+    int largest = 0;
+    for (unsigned n = 0; n < wxDisplay::GetCount(); ++n) {
+        const wxRect shown = wxDisplay(n).GetGeometry().Intersect(rect);
+        const int area = shown.width * shown.height;
+        if (area > largest) {
+            largest = area;
+            best = static_cast<int>(n);
+        }
+    }
+    return best;
+}
+
+/// Returns the part of @a rect that lies in @a area. A rectangle that lies wholly beside it, under a panel for one, is
+/// moved into it instead: nothing would be left of the window.
+wxRect FitInto(const wxRect& area, const wxRect& rect)
+{
+    const wxRect common = area.Intersect(rect);
+    if (!common.IsEmpty())
+        return common;
+    const wxSize size(std::min(rect.width, area.width), std::min(rect.height, area.height));
+    return wxRect(wxPoint(std::max(area.x, std::min(rect.x, area.x + area.width - size.x)),
+                          std::max(area.y, std::min(rect.y, area.y + area.height - size.y))),
+                  size);
+}
+
+/// Brings a window into the work area of the display it is on; false when it can be brought onto no display.
+bool BringOntoDisplay(wxWindow& window)
+{
+    if (DisplayOf(window) == wxNOT_FOUND)
+        window.SetSize(0, 0, -1, -1, wxSIZE_USE_EXISTING);
+    const int display = DisplayOf(window);
+    if (display == wxNOT_FOUND)
+        return false;
+
+    const wxRect area = wxDisplay(static_cast<unsigned>(display)).GetClientArea();
+    wxRect rect(window.GetPosition(), window.GetSize());
+    // No position yet: the window manager will choose one, and a window that fits is left to it.
+    if (rect.GetPosition() == wxDefaultPosition)
+        rect.SetPosition(area.GetPosition());
+    if (!area.Contains(rect))
+        window.SetSize(FitInto(area, rect), wxSIZE_AUTO);
+    return true;
+}
+
+}  // namespace
+
+int fittings::ToPixels(long stored)
+{
+    return static_cast<int>(std::clamp(stored, -kFarthest, kFarthest));
+}
+
+bool fittings::RestoreGeometry(wxWindow& window, const wxRect& stored)
+{
+    if (stored.width > kTooSmall && stored.height > kTooSmall) {
+        window.SetSize(stored, wxSIZE_ALLOW_MINUS_ONE);
+        // A window that had to grow or shrink may have moved with it.
+        window.SetSize(stored.x, stored.y, -1, -1, wxSIZE_USE_EXISTING);
+        if (auto* const topLevel = wxDynamicCast(&window, wxTopLevelWindow))
+            KeepPlace(*topLevel);
+    }
+    return BringOntoDisplay(window);
+}
+
+bool fittings::CoversWorkArea(const wxRect& rect)
+{
+    for (unsigned n = 0; n < wxDisplay::GetCount(); ++n) {
+        if (rect.Contains(wxDisplay(n).GetClientArea()))
+            return true;
+    }
+    return false;
+}
