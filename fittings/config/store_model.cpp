@@ -201,6 +201,8 @@ bool StoreModel::Save()
         m_file ? CLocalRegStore::SaveChanges(m_file->c_str(), m_changes) : CLocalRegStore::SaveChanges(m_changes);
     if (!isSaved)
         return false;
+    // What the file held before may stand there again when it is read next.
+    m_ini.reset(CLocalRegStore::CreateInitFile(false));
     m_changes.clear();
     m_indices.clear();
     return true;

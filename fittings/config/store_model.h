@@ -80,7 +80,7 @@ private:
     void CopyInto(StoreGroup& from, StoreGroup& to);
 
     const std::optional<std::wstring> m_file;
-    const std::unique_ptr<CIniFile, DestroyIni> m_ini;  ///< What the store held, and changes that were made by then.
+    std::unique_ptr<CIniFile, DestroyIni> m_ini;  ///< What the store held, and changes that were made by then.
     std::unique_ptr<StoreGroup> m_root;
 
     StorePath m_currentPath;

@@ -142,4 +142,14 @@ TEST_F(StoreConfig, ExpandsEnvironmentVariablesUnlessToldNotTo)
     EXPECT_EQ(m_config->Read("k"), "$(FITTINGS_TEST_PLACE) ${FITTINGS_TEST_PLACE} \\$x");
 }
 
+TEST_F(StoreConfig, SeesWhatIsPutBackAfterItsOwnSave)
+{
+    Open("[root]\nkey=old\n");
+    EXPECT_EQ(m_config->Read("/root/key"), "old");
+    EXPECT_TRUE(m_config->Write("/root/key", "new"));
+    EXPECT_TRUE(m_config->Flush());
+    WriteFile(Path(), "[root]\nkey=old\n");
+    EXPECT_EQ(m_config->Read("/root/key"), "old");
+}
+
 }  // namespace
