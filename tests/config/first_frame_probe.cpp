@@ -1,7 +1,8 @@
 // first_frame_probe KIND store X;Y;WIDTH;HEIGHT: shows a frame, gives it this geometry, or with "corner" 500 x 340 pixels in
 // the corner of the work area, and stores it. first_frame_probe KIND restore: restores a frame and shows it as the first
 // window of the process. Both print the geometry on the screen when it is the one that is expected and stays so, or else
-// the last one that was seen. KIND is "plain", "menu" or "fixed", or "corrected": a plain frame whose restored program is first
+// the last one that was seen. KIND is "plain", "menu" or "fixed"; "persistent" for a plain
+// frame that the toolkit's persistence restores and stores; or "corrected": a plain frame whose restored program is first
 // told of other decorations than it gets.
 
 #include <cstdio>
@@ -14,6 +15,7 @@
 #include <wx/textctrl.h>
 #include <wx/wx.h>
 
+#include <fittings/config/persistence.h>
 #include <fittings/config/wx_window_state.h>
 #include <fittings/platform/local_reg_store.h>
 #include <tests/support/patience.h>
@@ -104,10 +106,17 @@ public:
             m_frame->CreateStatusBar();
             new wxTextCtrl(m_frame, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxTE_MULTILINE);
         }
+        m_isPersistent = kind == "persistent";
         m_stores = argc > 3;
-        if (m_stores) {
+        if (m_isPersistent) {
+            wxStorePersistenceManager::Install();
+            wxPersistentRegisterAndRestore(m_frame, "Main");
+        }
+        if (m_stores)
             m_frame->SetSize(Wanted(argv[3]));
-        } else {
+        else if (m_isPersistent)
+            m_expected = PersistentGeometry();
+        else {
             wx_window_state::LoadState(m_frame, L"Main");
             const std::wstring stored = CLocalRegStore::GetString(L"wxWindowState", L"Main", L"");
             m_expected = wxString(stored).utf8_string();
@@ -121,6 +130,15 @@ public:
     }
 
 private:
+    static std::string PersistentGeometry()
+    {
+        wxString text;
+        for (const wchar_t* const key : {L"x", L"y", L"w", L"h"})
+            text << (text.empty() ? "" : ";")
+                 << CLocalRegStore::GetString(L"Persistent_Options/Window/Main", key, L"none");
+        return text.utf8_string();
+    }
+
     wxRect Wanted(const wxString& text)
     {
         m_wanted = wxRect(wxDisplay(0U).GetClientArea().GetPosition(), wxSize(500, 340));
@@ -145,7 +163,7 @@ private:
         }
         if (!m_stores && Text(now) != m_expected && !isLate)
             return;
-        if (m_stores)
+        if (m_stores && !m_isPersistent)
             wx_window_state::SaveState(m_frame, L"Main");
         std::printf("%s\n", Text(now).c_str());
         m_timer.Stop();
@@ -153,6 +171,7 @@ private:
     }
 
     wxFrame* m_frame = nullptr;
+    bool m_isPersistent = false;
     bool m_stores = false;
     wxRect m_wanted;
     std::string m_expected;

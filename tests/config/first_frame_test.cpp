@@ -34,7 +34,7 @@ TEST_P(FirstFrame, ComesBackInTheCorner)
     ExpectBack("corner");
 }
 
-INSTANTIATE_TEST_SUITE_P(, FirstFrame, testing::Values("plain", "menu", "fixed", "corrected"),
+INSTANTIATE_TEST_SUITE_P(, FirstFrame, testing::Values("plain", "menu", "fixed", "persistent", "corrected"),
                          [](const auto& info) { return std::string(info.param); });
 
 }  // namespace

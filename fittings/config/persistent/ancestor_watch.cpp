@@ -1,0 +1,39 @@
+#include <fittings/config/persistent/ancestor_watch.h>
+
+#include <wx/event.h>
+#include <wx/window.h>
+
+namespace {
+
+bool IsAbove(const wxWindow* ancestor, const wxWindow* window)
+{
+    while (window && window != ancestor)
+        window = window->GetParent();
+    return window;
+}
+
+}  // namespace
+
+namespace fittings {
+
+AncestorWatch::AncestorWatch(wxWindow& window, std::function<void()> isGoing)
+    : m_isGoing(std::make_shared<std::function<void()>>(std::move(isGoing)))
+{
+    wxWindow* ancestor = &window;
+    while (!ancestor->IsTopLevel() && ancestor->GetParent()) {
+        ancestor = ancestor->GetParent();
+        ancestor->Bind(wxEVT_DESTROY, [call = m_isGoing, ancestor, &window](wxWindowDestroyEvent& event) {
+            event.Skip();
+            // The event of any window below comes here, too; and the window may have another parent now.
+            if (*call && event.GetEventObject() == ancestor && IsAbove(ancestor, &window))
+                (*call)();
+        });
+    }
+}
+
+AncestorWatch::~AncestorWatch()
+{
+    *m_isGoing = nullptr;
+}
+
+}  // namespace fittings

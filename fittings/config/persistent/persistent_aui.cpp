@@ -1,0 +1,126 @@
+#include <fittings/config/persistence.h>
+
+#include <utility>
+
+#include <fittings/config/aui_layout.h>
+
+// A manager is no window, and nothing tells when UnInit() ends its work, so the layout is noted whenever it is drawn, and when
+// the window is about to close. The last one that was noted is stored when the manager or its window goes.
+
+class wxPersistentAui::Watch
+{
+public:
+    Watch(wxAuiManager* manager, wxPersistentAui* owner) : m_manager(manager), m_owner(owner) { Note(); }
+
+    static std::shared_ptr<Watch> Start(wxAuiManager* manager, wxPersistentAui* owner)
+    {
+        const auto watch = std::make_shared<Watch>(manager, owner);
+        const auto note = [watch](wxEvent& event) {
+            event.Skip();
+            watch->Note();
+        };
+        manager->Bind(wxEVT_AUI_RENDER, note);
+        manager->Bind(wxEVT_CLOSE_WINDOW, note);
+
+        // The manager handles the events of its window. After UnInit() it does so no more.
+        wxWindow* const window = manager->GetManagedWindow();
+        const auto end = [watch, window](wxWindowDestroyEvent& event) {
+            event.Skip();
+            if (event.GetEventObject() == window) {
+                watch->Note();
+                watch->End();
+            }
+        };
+        manager->Bind(wxEVT_DESTROY, end);
+        if (window)
+            window->Bind(wxEVT_DESTROY, end);
+
+        // The handlers of a manager are the last that goes with it.
+        struct Guard
+        {
+            explicit Guard(std::shared_ptr<Watch> toEnd) : watch(std::move(toEnd)) {}
+            ~Guard() { watch->OnManagerGoes(); }
+            Guard(const Guard&) = delete;
+            Guard& operator=(const Guard&) = delete;
+            std::shared_ptr<Watch> watch;
+        };
+        manager->Bind(wxEVT_CLOSE_WINDOW,
+                      [guard = std::make_shared<Guard>(watch)](wxCloseEvent& event) { event.Skip(); });
+        return watch;
+    }
+
+    wxAuiManager* Manager() const { return m_manager; }
+    const wxString& Layout() const { return m_layout; }
+
+    void Note()
+    {
+        // Without a window to manage, a manager has laid out nothing that is worth remembering.
+        if (m_manager && m_manager->GetManagedWindow())
+            m_layout = m_manager->SavePerspective();
+    }
+
+    void ForgetOwner() { m_owner = nullptr; }
+
+    /// Stores the layout and lets the persistent object go, if it has not gone yet.
+    void End()
+    {
+        if (m_owner)
+            wxPersistenceManager::Get().SaveAndUnregister(m_owner->GetObject());
+    }
+
+    void OnManagerGoes()
+    {
+        m_manager = nullptr;
+        End();
+    }
+
+private:
+    wxAuiManager* m_manager;
+    wxPersistentAui* m_owner;
+    wxString m_layout;
+};
+
+wxPersistentAui::wxPersistentAui(wxAuiManager* manager, const wxString& name)
+    : wxPersistentObject(manager), m_watch(Watch::Start(manager, this)), m_name(name)
+{
+    if (m_name.empty() && manager->GetManagedWindow())
+        m_name = manager->GetManagedWindow()->GetName();
+}
+
+wxPersistentAui::~wxPersistentAui()
+{
+    m_watch->ForgetOwner();
+}
+
+void wxPersistentAui::Save() const
+{
+    m_watch->Note();
+    if (!m_watch->Layout().empty())
+        SaveValue("Layout", m_watch->Layout());
+}
+
+bool wxPersistentAui::Restore()
+{
+    wxString layout;
+    wxAuiManager* const manager = Get();
+    if (!manager || !RestoreValue("Layout", &layout) || !fittings::IsAuiLayout(layout.ToStdWstring()))
+        return false;
+    manager->LoadPerspective(layout, true);
+    m_watch->Note();
+    return true;
+}
+
+wxString wxPersistentAui::GetKind() const
+{
+    return "AuiManager";
+}
+
+wxString wxPersistentAui::GetName() const
+{
+    return m_name;
+}
+
+wxAuiManager* wxPersistentAui::Get() const
+{
+    return m_watch->Manager();
+}

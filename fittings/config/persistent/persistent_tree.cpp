@@ -1,0 +1,79 @@
+#include <fittings/config/persistence.h>
+
+#include <fittings/config/persistent/ancestor_watch.h>
+#include <fittings/config/persistent/tree_paths.h>
+
+namespace {
+
+/// The tree; null when only the window below it is left, because it was deleted without Destroy().
+wxTreeCtrl* TreeOf(wxWindow* window)
+{
+    return dynamic_cast<wxTreeCtrl*>(window);
+}
+
+std::optional<wxString> StateOf(wxWindow* window)
+{
+    const wxTreeCtrl* const tree = TreeOf(window);
+    return tree ? std::optional<wxString>(fittings::ToText(fittings::StepsOf(*tree))) : std::nullopt;
+}
+
+}  // namespace
+
+wxPersistentTreeCtrl::wxPersistentTreeCtrl(wxTreeCtrl* tree)
+    : wxPersistentWindow(tree),
+      m_watch(std::make_unique<fittings::AncestorWatch>(*tree, [this] { m_state = StateOf(GetWindow()); }))
+{
+}
+
+wxPersistentTreeCtrl::~wxPersistentTreeCtrl()
+{
+    ForgetFirstInView();
+}
+
+void wxPersistentTreeCtrl::Save() const
+{
+    if (const auto state = m_state ? m_state : StateOf(GetWindow()))
+        SaveValue("Items", *state);
+}
+
+bool wxPersistentTreeCtrl::Restore()
+{
+    wxTreeCtrl* const tree = TreeOf(GetWindow());
+    wxString text;
+    if (!tree || !RestoreValue("Items", &text))
+        return false;
+    const auto steps = fittings::FromText(text.ToStdWstring());
+    if (!steps)
+        return false;
+    fittings::RestoreSteps(*tree, *steps);
+    // A tree that is not shown yet has not its size.
+    ForgetFirstInView();
+    m_scrollTo = text;
+    if (!text.empty())
+        tree->Bind(wxEVT_IDLE, &wxPersistentTreeCtrl::OnIdle, this);
+    return true;
+}
+
+wxString wxPersistentTreeCtrl::GetKind() const
+{
+    return "Tree";
+}
+
+void wxPersistentTreeCtrl::OnIdle(wxIdleEvent& event)
+{
+    event.Skip();
+    if (!GetWindow()->IsShownOnScreen())
+        return;
+    const auto steps = fittings::FromText(m_scrollTo.ToStdWstring());
+    ForgetFirstInView();
+    if (steps)
+        fittings::ScrollToSteps(*Get(), *steps);
+}
+
+void wxPersistentTreeCtrl::ForgetFirstInView()
+{
+    if (m_scrollTo.empty())
+        return;
+    m_scrollTo.clear();
+    GetWindow()->Unbind(wxEVT_IDLE, &wxPersistentTreeCtrl::OnIdle, this);
+}

@@ -1,0 +1,145 @@
+#include <fittings/config/persistent/tree_paths.h>
+
+#include <algorithm>
+#include <unordered_map>
+
+#include <wx/wupdlock.h>
+
+namespace {
+
+/// Follows steps down a tree. A handler of what happens on the way may change the tree: an item that is deleted is not touched
+/// any more.
+class Descent
+{
+public:
+    explicit Descent(wxTreeCtrl& tree) : m_tree(tree)
+    {
+        m_tree.Bind(wxEVT_TREE_DELETE_ITEM, &Descent::OnDeleteItem, this);
+    }
+
+    ~Descent() { m_tree.Unbind(wxEVT_TREE_DELETE_ITEM, &Descent::OnDeleteItem, this); }
+
+    Descent(const Descent&) = delete;
+    Descent& operator=(const Descent&) = delete;
+
+    /// Returns the item that the next step leads to; null when there is none.
+    wxTreeItemId Go(const fittings::TreeStep& step)
+    {
+        // A level that was not found is missed by what is below it.
+        if (step.level > m_levels.size())
+            return {};
+        m_levels.erase(m_levels.begin() + static_cast<std::ptrdiff_t>(step.level), m_levels.end());
+        const wxTreeItemId item = step.level == 0 ? m_tree.GetRootItem() : Find(m_levels.back(), step);
+        if (item.IsOk())
+            m_levels.push_back({item, false, {}});
+        return item;
+    }
+
+    /// Keeps an item until it is asked for, unless it is deleted first.
+    void Keep(const wxTreeItemId& item) { m_kept.push_back(item); }
+
+    /// Takes the item that was kept first and is still there; null when there is none.
+    wxTreeItemId TakeKept()
+    {
+        while (m_taken < m_kept.size()) {
+            const wxTreeItemId item = m_kept[m_taken++];
+            if (item.IsOk())
+                return item;
+        }
+        return {};
+    }
+
+private:
+    struct Level
+    {
+        wxTreeItemId item;
+        bool isKnown;  // The children are in the map.
+        std::unordered_map<std::wstring, std::vector<wxTreeItemId>> children;
+    };
+
+    wxTreeItemId Find(Level& parent, const fittings::TreeStep& step)
+    {
+        if (!parent.isKnown) {
+            parent.isKnown = true;
+            wxTreeItemIdValue cookie = nullptr;
+            for (wxTreeItemId child = m_tree.GetFirstChild(parent.item, cookie); child.IsOk();
+                 child = m_tree.GetNextChild(parent.item, cookie))
+                parent.children[m_tree.GetItemText(child).ToStdWstring()].push_back(child);
+        }
+        const auto same = parent.children.find(step.label);
+        return same != parent.children.end() && step.number <= same->second.size() ? same->second[step.number - 1]
+                                                                                   : wxTreeItemId();
+    }
+
+    void OnDeleteItem(wxTreeEvent& event)
+    {
+        event.Skip();
+        const wxTreeItemId item = event.GetItem();
+        std::replace(m_kept.begin() + static_cast<std::ptrdiff_t>(m_taken), m_kept.end(), item, wxTreeItemId());
+        const wxTreeItemId parent = m_tree.GetItemParent(item);
+        for (auto level = m_levels.begin(); level != m_levels.end(); ++level) {
+            if (level->item == item) {
+                m_levels.erase(level, m_levels.end());
+                return;
+            }
+            if (level->item == parent) {
+                level->isKnown = false;
+                level->children.clear();
+            }
+        }
+    }
+
+    wxTreeCtrl& m_tree;
+    std::vector<Level> m_levels;  // The root and the steps below it that were gone last.
+    std::vector<wxTreeItemId> m_kept;
+    std::size_t m_taken = 0;
+};
+
+}  // namespace
+
+namespace fittings {
+
+void RestoreSteps(wxTreeCtrl& tree, const TreeSteps& steps)
+{
+    Descent descent(tree);
+    {
+        // Each expansion alone would lay out the whole tree again.
+        const wxWindowUpdateLocker frozen(&tree);
+        for (const TreeStep& step : steps) {
+            const wxTreeItemId item = descent.Go(step);
+            if (!item.IsOk())
+                continue;
+            // First: the handlers of the expansion may delete the item.
+            if (step.isSelected)
+                descent.Keep(item);
+            // The toolkit keeps a hidden root expanded, and asserts when it is to be expanded again.
+            if (step.isExpanded && !(step.level == 0 && tree.HasFlag(wxTR_HIDE_ROOT)))
+                tree.Expand(item);
+        }
+    }
+    bool isFirst = true;
+    for (wxTreeItemId item = descent.TakeKept(); item.IsOk(); item = descent.TakeKept()) {
+        if (isFirst && tree.HasFlag(wxTR_MULTIPLE))
+            tree.UnselectAll();
+        isFirst = false;
+        tree.SelectItem(item);
+    }
+}
+
+void ScrollToSteps(wxTreeCtrl& tree, const TreeSteps& steps)
+{
+    Descent descent(tree);
+    for (const TreeStep& step : steps) {
+        const wxTreeItemId item = descent.Go(step);
+        if (!step.isFirstInView)
+            continue;
+        wxRect rect;
+        int pixels = 0;
+        tree.GetScrollPixelsPerUnit(nullptr, &pixels);
+        if (item.IsOk() && pixels > 0 && tree.GetBoundingRect(item, rect))
+            tree.Scroll(-1, tree.GetViewStart().y + rect.y / pixels);
+        return;
+    }
+}
+
+}  // namespace fittings

@@ -1,0 +1,141 @@
+// Layouts of AUI panes, stored when the manager or its window goes.
+
+#include <memory>
+
+#include <gtest/gtest.h>
+
+#include <tests/config/aui_frame.h>
+#include <tests/config/persistence/stored.h>
+#include <tests/support/gui.h>
+
+namespace {
+
+constexpr wchar_t kKind[] = L"AuiManager";
+
+void MoveLogToTheTop(wxAuiManager& manager)
+{
+    manager.GetPane("log").Top();
+    manager.Update();
+}
+
+bool IsLogAtTheTop(wxAuiManager& manager)
+{
+    return manager.GetPane("log").dock_direction == wxAUI_DOCK_TOP;
+}
+
+/// Shows a frame again, and whether the pane is where it was left.
+void ExpectLogAtTheTop()
+{
+    AuiFrame frame;
+    EXPECT_TRUE(wxPersistentRegisterAndRestore(&frame.manager, "w"));
+    EXPECT_TRUE(IsLogAtTheTop(frame.manager));
+}
+
+// Its destructor calls UnInit() before the frame is gone.
+TEST(PersistentAui, OfAFrameThatEndsItsManagerIsRemembered)
+{
+    const TempPersistence data;
+    {
+        AuiFrame frame;
+        EXPECT_FALSE(wxPersistentRegisterAndRestore(&frame.manager, "w"));
+        ASSERT_TRUE(ShowAndSettle(&frame));
+        MoveLogToTheTop(frame.manager);
+    }
+    EXPECT_NE(Stored(kKind, L"Layout"), L"(none)");
+    ExpectLogAtTheTop();
+}
+
+TEST(PersistentAui, OfAFrameThatIsClosedIsRememberedWithoutADrawing)
+{
+    const TempPersistence data;
+    auto* const frame = new AuiFrame;
+    wxPersistentRegisterAndRestore(&frame->manager, "w");
+    frame->Pane("log").Top();
+    frame->Close();
+    PumpPending();
+    ExpectLogAtTheTop();
+}
+
+TEST(PersistentAui, OfAManagerThatNobodyEndsIsRemembered)
+{
+    const TempPersistence data;
+    for (const bool isManagerFirst : {false, true}) {
+        auto* const frame = new wxFrame(nullptr, wxID_ANY, "aui");
+        auto manager = std::make_unique<wxAuiManager>(frame);
+        manager->AddPane(new wxPanel(frame), wxAuiPaneInfo().Name("log").Left());
+        wxPersistentRegisterAndRestore(manager.get(), "w");
+        EXPECT_EQ(IsLogAtTheTop(*manager), isManagerFirst);
+        MoveLogToTheTop(*manager);
+        ASSERT_TRUE(ShowAndSettle(frame));
+        if (isManagerFirst)
+            manager.reset();
+        frame->Destroy();
+        PumpPending();
+        EXPECT_NE(Stored(kKind, L"Layout").find(L"dir=1;"), std::wstring::npos) << Stored(kKind, L"Layout");
+    }
+}
+
+TEST(PersistentAui, OfAManagerThatIsEndedEarlyIsStoredWithItsWindow)
+{
+    const TempPersistence data;
+    wxAuiManager manager;
+    auto* const frame = new wxFrame(nullptr, wxID_ANY, "aui");
+    manager.SetManagedWindow(frame);
+    manager.AddPane(new wxPanel(frame), wxAuiPaneInfo().Name("log").Top());
+    manager.Update();
+    wxPersistentRegisterAndRestore(&manager, "w");
+    manager.UnInit();
+    EXPECT_EQ(Stored(kKind, L"Layout"), L"(none)");
+    frame->Destroy();
+    PumpPending();
+    EXPECT_NE(Stored(kKind, L"Layout").find(L"dir=1;"), std::wstring::npos);
+}
+
+TEST(PersistentAui, ThatIsNotRegisteredAnyMoreStoresNothing)
+{
+    const TempPersistence data;
+    {
+        AuiFrame frame;
+        wxPersistentRegisterAndRestore(&frame.manager, "w");
+        wxPersistenceManager::Get().Unregister(&frame.manager);
+        ASSERT_TRUE(ShowAndSettle(&frame));
+        EXPECT_TRUE(frame.Close());
+        EXPECT_EQ(Stored(kKind, L"Layout"), L"(none)");
+    }
+    EXPECT_EQ(Stored(kKind, L"Layout"), L"(none)");
+}
+
+TEST(PersistentAui, IsNamedAsItsWindowWhereItHasNoName)
+{
+    const TempPersistence data;
+    {
+        AuiFrame frame;
+        frame.SetName("w");
+        EXPECT_FALSE(wxPersistentRegisterAndRestore(&frame.manager));
+        ASSERT_TRUE(ShowAndSettle(&frame));
+        MoveLogToTheTop(frame.manager);
+    }
+    ExpectLogAtTheTop();
+}
+
+TEST(DamagedLayout, LoadsNothing)
+{
+    const TempPersistence data;
+    std::wstring layout;
+    {
+        AuiFrame frame;
+        MoveLogToTheTop(frame.manager);
+        layout = frame.manager.SavePerspective().ToStdWstring();
+    }
+    for (std::size_t length = 1; length + 1 < layout.size(); length += 9) {
+        // What is cut between two fields is whole.
+        if (layout[length - 1] == L'|')
+            continue;
+        Plant(kKind, L"Layout", layout.substr(0, length));
+        AuiFrame frame;
+        EXPECT_FALSE(wxPersistentRegisterAndRestore(&frame.manager, "w"));
+        EXPECT_FALSE(IsLogAtTheTop(frame.manager));
+    }
+}
+
+}  // namespace

@@ -1,0 +1,210 @@
+// When the values of windows are saved, and with how many writes to the disk.
+
+#include <gtest/gtest.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+#include <wx/frame.h>
+#include <wx/notebook.h>
+#include <wx/panel.h>
+#include <wx/splitter.h>
+#include <wx/treebook.h>
+
+#include <fittings/platform/std_file_paths.h>
+#include <tests/config/persistence/stored.h>
+#include <tests/support/gui.h>
+
+namespace {
+
+int g_syncs = 0;
+
+}  // namespace
+
+// In place of the C library's.
+extern "C" int fsync(int fd)
+{
+    ++g_syncs;
+    return static_cast<int>(syscall(SYS_fsync, fd));
+}
+
+namespace {
+
+/// A frame with a splitter, a book of two pages, a list and a tree in it, all of them persistent.
+class FullFrame : public wxFrame
+{
+public:
+    FullFrame()
+        : wxFrame(nullptr, wxID_ANY, "full", wxPoint(100, 100), wxSize(600, 400)), splitter(new wxSplitterWindow(this)),
+          tree(new wxTreeCtrl(splitter)), book(new wxNotebook(splitter, wxID_ANY)), list(new wxListView(book))
+    {
+        splitter->SplitVertically(tree, book, 150);
+        tree->AppendItem(tree->AppendItem(tree->AddRoot("root"), "folder"), "file");
+        for (int column = 0; column < 3; ++column)
+            list->AppendColumn("column");
+        book->AddPage(new wxPanel(book), "first");
+        book->AddPage(list, "second");
+    }
+
+    bool RestoreAll()
+    {
+        bool all = wxPersistentRegisterAndRestore(splitter, "w");
+        all = wxPersistentRegisterAndRestore(tree, "w") && all;
+        all = wxPersistentRegisterAndRestore(book, "w") && all;
+        all = wxPersistentRegisterAndRestore(list, "w") && all;
+        return wxPersistentRegisterAndRestore(this, "w") && all;
+    }
+
+    wxSplitterWindow* splitter;
+    wxTreeCtrl* tree;
+    wxNotebook* book;
+    wxListView* list;
+};
+
+void DestroyNow(wxWindow* window)
+{
+    window->Destroy();
+    PumpPending();
+}
+
+TEST(ClosedFrame, SavesAllThatIsInItByOneSave)
+{
+    const TempPersistence data;
+    auto* frame = new FullFrame;
+    EXPECT_FALSE(frame->RestoreAll());
+    ASSERT_TRUE(ShowAndSettle(frame));
+    frame->splitter->SetSashPosition(222);
+    frame->book->SetSelection(1);
+    frame->list->SetColumnWidth(1, 77);
+    frame->tree->ExpandAll();
+    g_syncs = 0;
+    DestroyNow(frame);
+    EXPECT_EQ(g_syncs, 2);
+
+    frame = new FullFrame;
+    EXPECT_TRUE(frame->RestoreAll());
+    ASSERT_TRUE(ShowAndSettle(frame));
+    EXPECT_EQ(frame->splitter->GetSashPosition(), 222);
+    EXPECT_EQ(frame->book->GetSelection(), 1);
+    EXPECT_EQ(frame->list->GetColumnWidth(1), 77);
+    EXPECT_TRUE(frame->tree->IsExpanded(frame->tree->GetRootItem()));
+    DestroyNow(frame);
+}
+
+// A process that is ended by a signal loses nothing of a window that was closed before.
+TEST(ClosedFrame, IsSavedWhenItIsGone)
+{
+    const TempPersistence data;
+    auto* const other = new wxFrame(nullptr, wxID_ANY, "other");
+    wxPersistentRegisterAndRestore(other, "other");
+    auto* const frame = new FullFrame;
+    frame->RestoreAll();
+    ASSERT_TRUE(ShowAndSettle(frame));
+    delete frame;
+    EXPECT_EQ(Stored(L"Window", L"w"), L"600");
+    EXPECT_EQ(Stored(L"Splitter", L"Position"), L"150");
+    EXPECT_NE(Stored(L"Tree", L"Items"), L"(none)");
+    EXPECT_NE(Stored(L"List", L"Widths"), L"(none)");
+    delete other;
+}
+
+TEST(ClosedFrame, WithoutAnyChangeWritesNothing)
+{
+    const TempPersistence data;
+    for (int run = 0; run < 3; ++run) {
+        auto* const frame = new FullFrame;
+        frame->RestoreAll();
+        ASSERT_TRUE(ShowAndSettle(frame));
+        g_syncs = 0;
+        DestroyNow(frame);
+    }
+    EXPECT_EQ(g_syncs, 0);
+}
+
+TEST(Control, ThatGoesAloneIsSavedOnTheNextTurn)
+{
+    const TempPersistence data;
+    auto* const frame = new FullFrame;
+    frame->RestoreAll();
+    ASSERT_TRUE(ShowAndSettle(frame));
+    g_syncs = 0;
+    frame->splitter->Unsplit(frame->tree);
+    frame->tree->Destroy();
+    EXPECT_EQ(Stored(L"Tree", L"Items"), L"(none)");
+    PumpPending();
+    EXPECT_NE(Stored(L"Tree", L"Items"), L"(none)");
+    EXPECT_EQ(g_syncs, 2);
+    DestroyNow(frame);
+}
+
+TEST(Control, ThatIsDeletedWithoutDestroyLeavesWhatWasStored)
+{
+    const TempPersistence data;
+    auto* const frame = new FullFrame;
+    frame->RestoreAll();
+    frame->book->DeletePage(1);
+    DestroyNow(frame);
+    EXPECT_EQ(Stored(L"List", L"Widths"), L"(none)");
+}
+
+TEST(Control, ThatWasNotRestoredIsSavedWithItsFrame)
+{
+    const TempPersistence data;
+    auto* const frame = new FullFrame;
+    ASSERT_TRUE(ShowAndSettle(frame));
+    frame->splitter->SetName("w");
+    wxPersistenceManager::Get().Register(frame->splitter);
+    delete frame;
+    EXPECT_EQ(Stored(L"Splitter", L"Position"), L"150");
+}
+
+TEST(Manager, SaysThatItCouldNotSaveAndSavesLater)
+{
+    const TempPersistence data;
+    wxStorePersistenceManager& manager = wxStorePersistenceManager::Install();
+    EXPECT_TRUE(manager.Flush());
+    std_file_paths::SetUserDataDir(L"/dev/null/none");
+    auto* const frame = new FullFrame;
+    frame->RestoreAll();
+    DestroyNow(frame);
+    EXPECT_FALSE(manager.Flush());
+    std_file_paths::SetUserDataDir(std::wstring(data.Path().begin(), data.Path().end()).c_str());
+    EXPECT_TRUE(manager.Flush());
+    EXPECT_EQ(Stored(L"Window", L"w"), L"600");
+}
+
+TEST(Manager, IsTheToolkitsOnceItIsInstalled)
+{
+    EXPECT_EQ(&wxStorePersistenceManager::Install(), &wxPersistenceManager::Get());
+    EXPECT_EQ(&wxStorePersistenceManager::Install(), &wxStorePersistenceManager::Install());
+}
+
+// What the toolkit's classes make of numbers that they have not written.
+TEST(DamagedNumbers, DoNoHarm)
+{
+    const TempPersistence data;
+    for (const wchar_t* const text : {L"", L"x", L"-2", L"-2147483648", L"2147483647", L"2147483648", L"99999999999"}) {
+        Plant(L"Splitter", L"Position", text);
+        Plant(L"Book", L"Selection", text);
+        auto* const frame = new FullFrame;
+        EXPECT_FALSE(frame->RestoreAll());
+        ASSERT_TRUE(ShowAndSettle(frame));
+        EXPECT_TRUE(frame->splitter->IsSplit());
+        EXPECT_EQ(frame->book->GetSelection(), 0);
+        EXPECT_GT(frame->splitter->GetSashPosition(), 0) << text;
+        EXPECT_LT(frame->splitter->GetSashPosition(), 600) << text;
+        DestroyNow(frame);
+    }
+}
+
+TEST(TreeBook, IsStillTheToolkits)
+{
+    const TempPersistence data;
+    auto* const frame = new wxFrame(nullptr, wxID_ANY, "book");
+    auto* const book = new wxTreebook(frame, wxID_ANY);
+    book->AddPage(new wxPanel(book), "page");
+    wxPersistentRegisterAndRestore(book, "w");
+    EXPECT_EQ(wxPersistenceManager::Get().Find(book)->GetKind(), "TreeBook");
+    DestroyNow(frame);
+    EXPECT_EQ(Stored(L"TreeBook", L"Selection"), L"0");
+}
+
+}  // namespace

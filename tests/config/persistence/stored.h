@@ -1,0 +1,35 @@
+#ifndef FITTINGS_TESTS_CONFIG_PERSISTENCE_STORED_H_
+#define FITTINGS_TESTS_CONFIG_PERSISTENCE_STORED_H_
+
+#include <string>
+
+#include <fittings/config/persistence.h>
+#include <fittings/platform/local_reg_store.h>
+#include <tests/support/temp_folder.h>
+
+/// An empty default store that the toolkit's persistence keeps its values in.
+class TempPersistence : public TempUserData
+{
+public:
+    TempPersistence() { wxStorePersistenceManager::Install(); }
+    ~TempPersistence() { wxStorePersistenceManager::Install().Flush(); }
+};
+
+inline std::wstring StoredSection(const std::wstring& kind)
+{
+    return L"Persistent_Options/" + kind + L"/w";
+}
+
+/// Stores a value of the object "w" as if an earlier run of the program had.
+inline void Plant(const std::wstring& kind, const wchar_t* key, const std::wstring& text)
+{
+    CLocalRegStore::WriteString(StoredSection(kind).c_str(), key, text.c_str());
+}
+
+/// Returns what is on the disk for the object "w".
+inline std::wstring Stored(const std::wstring& kind, const wchar_t* key)
+{
+    return CLocalRegStore::GetString(StoredSection(kind).c_str(), key, L"(none)");
+}
+
+#endif

@@ -1,0 +1,236 @@
+// Frames and dialogs, by the toolkit's own wxPersistentTLW. The display of these tests is 1280 x 1024 with the work area
+// 16;24;1264;960.
+
+#include <memory>
+#include <optional>
+
+#include <gtest/gtest.h>
+#include <wx/dialog.h>
+#include <wx/display.h>
+#include <wx/frame.h>
+
+#include <tests/config/persistence/stored.h>
+#include <tests/support/gui.h>
+
+namespace {
+
+constexpr wchar_t kKind[] = L"Window";
+
+void PlantPlace(const std::wstring& x, const std::wstring& y, const std::wstring& width, const std::wstring& height)
+{
+    Plant(kKind, L"x", x);
+    Plant(kKind, L"y", y);
+    Plant(kKind, L"w", width);
+    Plant(kKind, L"h", height);
+}
+
+wxFrame* NewFrame()
+{
+    return new wxFrame(nullptr, wxID_ANY, "w", wxPoint(300, 200), wxSize(400, 300));
+}
+
+void DestroyNow(wxWindow* window)
+{
+    window->Destroy();
+    PumpPending();
+}
+
+bool SettlesAt(const wxTopLevelWindow& window, const wxRect& rect)
+{
+    return PumpUntil([&] { return !window.IsMaximized() && window.GetScreenRect() == rect; });
+}
+
+bool SettlesMaximized(const wxTopLevelWindow& window)
+{
+    return PumpUntil([&] { return window.IsMaximized() && window.GetSize() == wxSize(1264, 960); });
+}
+
+/// What a user sees of one run of a program: the frame comes up, is changed and is closed.
+template <typename Change>
+void InOneRun(bool isRestored, Change change)
+{
+    wxFrame* const frame = NewFrame();
+    EXPECT_EQ(wxPersistentRegisterAndRestore(frame, "w"), isRestored);
+    ASSERT_TRUE(ShowAndSettle(frame));
+    change(*frame);
+    DestroyNow(frame);
+}
+
+TEST(PersistentFrame, ComesBackWhereItWas)
+{
+    const TempPersistence data;
+    InOneRun(false, [](wxFrame& frame) {
+        frame.SetSize(150, 120, 500, 340);
+        ASSERT_TRUE(SettlesAt(frame, wxRect(150, 120, 500, 340)));
+    });
+    EXPECT_EQ(Stored(kKind, L"x"), L"150");
+    EXPECT_EQ(Stored(kKind, L"h"), L"340");
+    InOneRun(true, [](wxFrame& frame) { EXPECT_TRUE(SettlesAt(frame, wxRect(150, 120, 500, 340))); });
+}
+
+TEST(PersistentFrame, ThatWasMaximizedComesBackSoAndIsRestoredToItsEarlierSize)
+{
+    const TempPersistence data;
+    InOneRun(false, [](wxFrame& frame) {
+        frame.SetSize(150, 120, 500, 340);
+        ASSERT_TRUE(SettlesAt(frame, wxRect(150, 120, 500, 340)));
+        frame.Maximize();
+        ASSERT_TRUE(SettlesMaximized(frame));
+    });
+    EXPECT_EQ(Stored(kKind, L"Maximized"), L"1");
+    EXPECT_EQ(Stored(kKind, L"w"), L"500");
+    // Once more without a change: what is remembered is still the earlier size.
+    InOneRun(true, [](wxFrame& frame) { ASSERT_TRUE(SettlesMaximized(frame)); });
+    InOneRun(true, [](wxFrame& frame) {
+        ASSERT_TRUE(SettlesMaximized(frame));
+        frame.Maximize(false);
+        EXPECT_TRUE(SettlesAt(frame, wxRect(150, 120, 500, 340)))
+            << frame.GetPosition().x << ";" << frame.GetPosition().y << " " << frame.GetSize().x << "x"
+            << frame.GetSize().y;
+    });
+    EXPECT_EQ(Stored(kKind, L"Maximized"), L"0");
+    InOneRun(true, [](wxFrame& frame) { EXPECT_TRUE(SettlesAt(frame, wxRect(150, 120, 500, 340))); });
+}
+
+TEST(PersistentFrame, ThatWasOnTheFullScreenComesBackAtItsEarlierSize)
+{
+    const TempPersistence data;
+    InOneRun(false, [](wxFrame& frame) {
+        frame.ShowFullScreen(true);
+        ASSERT_TRUE(PumpUntil([&] { return frame.GetSize() == wxSize(1280, 1024); }));
+    });
+    InOneRun(true, [](wxFrame& frame) { EXPECT_TRUE(SettlesAt(frame, wxRect(300, 200, 400, 300))); });
+}
+
+// A second frame is hidden before it is destroyed, and the window manager then forgets that it is maximised.
+TEST(PersistentFrame, ThatIsClosedMaximizedBeforeAnotherIsRemembered)
+{
+    const TempPersistence data;
+    wxFrame* const other = new wxFrame(nullptr, wxID_ANY, "other");
+    ASSERT_TRUE(ShowAndSettle(other));
+    InOneRun(false, [](wxFrame& frame) {
+        frame.Maximize();
+        ASSERT_TRUE(SettlesMaximized(frame));
+        frame.Hide();
+        EXPECT_TRUE(PumpUntil([&] { return !frame.IsMaximized(); }, 3000));
+    });
+    DestroyNow(other);
+    EXPECT_EQ(Stored(kKind, L"Maximized"), L"1");
+    EXPECT_EQ(Stored(kKind, L"w"), L"400");
+}
+
+// Nothing has followed the frame, so its earlier size is not known.
+TEST(PersistentFrame, ThatIsMaximizedAndWasNotRestoredLeavesTheStoredPlace)
+{
+    const TempPersistence data;
+    PlantPlace(L"100", L"100", L"300", L"200");
+    wxFrame* const frame = NewFrame();
+    frame->SetName("w");
+    wxPersistenceManager::Get().Register(frame);
+    ASSERT_TRUE(ShowAndSettle(frame));
+    frame->Maximize();
+    ASSERT_TRUE(SettlesMaximized(*frame));
+    DestroyNow(frame);
+    EXPECT_EQ(Stored(kKind, L"w"), L"300");
+    EXPECT_EQ(Stored(kKind, L"Maximized"), L"1");
+}
+
+struct Restored
+{
+    const char* name;
+    const wchar_t* fields[4];
+    wxRect rect;
+};
+
+class StoredPlace : public testing::TestWithParam<Restored>
+{
+};
+
+TEST_P(StoredPlace, ComesOntoTheDisplay)
+{
+    const TempPersistence data;
+    const Restored& stored = GetParam();
+    PlantPlace(stored.fields[0], stored.fields[1], stored.fields[2], stored.fields[3]);
+    wxFrame* const frame = NewFrame();
+    EXPECT_TRUE(wxPersistentRegisterAndRestore(frame, "w"));
+    EXPECT_EQ(frame->GetRect(), stored.rect);
+    ASSERT_TRUE(ShowAndSettle(frame));
+    EXPECT_TRUE(SettlesAt(*frame, stored.rect));
+    DestroyNow(frame);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , StoredPlace,
+    testing::Values(Restored{"Inside", {L"100", L"100", L"300", L"200"}, wxRect(100, 100, 300, 200)},
+                    Restored{"OnADisplayThatIsGone", {L"5000", L"100", L"300", L"200"}, wxRect(16, 24, 284, 176)},
+                    Restored{"LeftOfAll", {L"-5000", L"100", L"300", L"200"}, wxRect(16, 24, 284, 176)},
+                    Restored{"TooLarge", {L"0", L"0", L"3000", L"3000"}, wxRect(16, 24, 1264, 960)},
+                    Restored{"AtTheOrigin", {L"0", L"0", L"300", L"200"}, wxRect(16, 24, 284, 176)},
+                    Restored{"OutOnTheRight", {L"1100", L"100", L"300", L"200"}, wxRect(1100, 100, 180, 200)},
+                    Restored{"UnderThePanel", {L"100", L"-180", L"300", L"200"}, wxRect(100, 24, 300, 200)},
+                    Restored{"TooSmall", {L"100", L"100", L"5", L"600"}, wxRect(300, 200, 400, 300)},
+                    Restored{"HugeNumbers",
+                             {L"-9000000000", L"-9000000000", L"9000000000", L"9000000000"},
+                             wxRect(16, 24, 1264, 960)},
+                    Restored{"HugeSize", {L"100", L"100", L"2147483647", L"2147483647"}, wxRect(100, 100, 1180, 884)}),
+    [](const auto& info) { return info.param.name; });
+
+/// One field that is no number.
+class DamagedPlace : public testing::TestWithParam<const wchar_t*>
+{
+};
+
+TEST_P(DamagedPlace, CountsAsNone)
+{
+    const TempPersistence data;
+    for (const wchar_t* const text : {L"", L"12x", L"nan", L"99999999999999999999", L"1e3", L"\x1F600"}) {
+        PlantPlace(L"100", L"100", L"300", L"200");
+        Plant(kKind, GetParam(), text);
+        wxFrame* const frame = NewFrame();
+        EXPECT_FALSE(wxPersistentRegisterAndRestore(frame, "w")) << text;
+        EXPECT_EQ(frame->GetRect(), wxRect(300, 200, 400, 300)) << text;
+        DestroyNow(frame);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(, DamagedPlace, testing::Values(L"x", L"y", L"w", L"h"));
+
+TEST(DamagedFlagsAndDecorations, ChangeNothing)
+{
+    const TempPersistence data;
+    for (const wchar_t* const key : {L"Maximized", L"Iconized", L"decor_l", L"decor_r", L"decor_t", L"decor_b"}) {
+        for (const wchar_t* const text : {L"", L"x", L"-2147483649", L"9999999999"}) {
+            PlantPlace(L"100", L"100", L"300", L"200");
+            Plant(kKind, key, text);
+            wxFrame* const frame = NewFrame();
+            EXPECT_TRUE(wxPersistentRegisterAndRestore(frame, "w"));
+            ASSERT_TRUE(ShowAndSettle(frame));
+            EXPECT_TRUE(SettlesAt(*frame, wxRect(100, 100, 300, 200))) << key << "=" << text;
+            EXPECT_FALSE(frame->IsIconized());
+            DestroyNow(frame);
+        }
+    }
+    Plant(kKind, L"decor_t", L"30000");
+    wxFrame* const frame = NewFrame();
+    EXPECT_TRUE(wxPersistentRegisterAndRestore(frame, "w"));
+    ASSERT_TRUE(ShowAndSettle(frame));
+    EXPECT_TRUE(SettlesAt(*frame, wxRect(100, 100, 300, 200)));
+    DestroyNow(frame);
+}
+
+TEST(PersistentDialog, ComesBackWhereItWas)
+{
+    const TempPersistence data;
+    for (const bool isRestored : {false, true}) {
+        auto* const dialog = new wxDialog(nullptr, wxID_ANY, "w", wxPoint(300, 200), wxSize(400, 300),
+                                          wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER);
+        EXPECT_EQ(wxPersistentRegisterAndRestore(dialog, "w"), isRestored);
+        ASSERT_TRUE(ShowAndSettle(dialog));
+        if (!isRestored)
+            dialog->SetSize(200, 150, 450, 350);
+        EXPECT_TRUE(SettlesAt(*dialog, wxRect(200, 150, 450, 350)));
+        DestroyNow(dialog);
+    }
+}
+
+}  // namespace

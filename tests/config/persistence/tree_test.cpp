@@ -1,0 +1,399 @@
+// Trees, each in a frame on the screen.
+
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <wx/frame.h>
+#include <wx/splitter.h>
+
+#include <fittings/tree/handy_tree_ctrl.h>
+#include <tests/config/persistence/stored.h>
+#include <tests/support/gui.h>
+#include <tests/support/processor_time.h>
+
+namespace {
+
+constexpr wchar_t kKind[] = L"Tree";
+
+/// A frame with a tree alone.
+class TreeFrame
+{
+public:
+    explicit TreeFrame(long style = wxTR_HAS_BUTTONS)
+        : m_frame(new wxFrame(nullptr, wxID_ANY, "tree", wxPoint(100, 100), wxSize(300, 200))),
+          tree(new wxTreeCtrl(m_frame, wxID_ANY, wxDefaultPosition, wxDefaultSize, style))
+    {
+    }
+    ~TreeFrame()
+    {
+        m_frame->Destroy();
+        PumpPending();
+    }
+    TreeFrame(const TreeFrame&) = delete;
+    TreeFrame& operator=(const TreeFrame&) = delete;
+
+    bool Show() { return ShowAndSettle(m_frame); }
+
+private:
+    wxFrame* m_frame;
+
+public:
+    wxTreeCtrl* tree;
+};
+
+wxTreeItemId Add(wxTreeCtrl& tree, const wxTreeItemId& parent, const wxString& label)
+{
+    return tree.AppendItem(parent, label);
+}
+
+/// Returns the child with a number, from 0.
+wxTreeItemId Child(const wxTreeCtrl& tree, const wxTreeItemId& parent, int number)
+{
+    wxTreeItemIdValue cookie = nullptr;
+    wxTreeItemId child = tree.GetFirstChild(parent, cookie);
+    while (number-- > 0 && child.IsOk())
+        child = tree.GetNextChild(parent, cookie);
+    return child;
+}
+
+/// "a" to "c" below the root, each with two children of one label, each with one child.
+void Fill(wxTreeCtrl& tree)
+{
+    const wxTreeItemId root = tree.AddRoot("root");
+    for (const char* const label : {"a", "b|/\\", "a"}) {
+        const wxTreeItemId item = Add(tree, root, label);
+        for (int number = 0; number < 2; ++number)
+            Add(tree, Add(tree, item, "twin"), "leaf");
+    }
+}
+
+TEST(PersistentTree, ExpandsAndSelectsByPath)
+{
+    const TempPersistence data;
+    {
+        TreeFrame frame;
+        Fill(*frame.tree);
+        EXPECT_FALSE(wxPersistentRegisterAndRestore(frame.tree, "w"));
+        const wxTreeItemId root = frame.tree->GetRootItem();
+        frame.tree->Expand(root);
+        frame.tree->Expand(Child(*frame.tree, root, 1));
+        frame.tree->Expand(Child(*frame.tree, Child(*frame.tree, root, 1), 1));
+        frame.tree->Expand(Child(*frame.tree, root, 2));
+        frame.tree->SelectItem(Child(*frame.tree, Child(*frame.tree, root, 2), 1));
+    }
+    EXPECT_EQ(Stored(kKind, L"Items").find(L"0+"), 0u);
+    TreeFrame frame;
+    Fill(*frame.tree);
+    EXPECT_TRUE(wxPersistentRegisterAndRestore(frame.tree, "w"));
+    const wxTreeItemId root = frame.tree->GetRootItem();
+    EXPECT_TRUE(frame.tree->IsExpanded(root));
+    EXPECT_FALSE(frame.tree->IsExpanded(Child(*frame.tree, root, 0)));
+    EXPECT_TRUE(frame.tree->IsExpanded(Child(*frame.tree, root, 1)));
+    EXPECT_TRUE(frame.tree->IsExpanded(Child(*frame.tree, root, 2)));
+    EXPECT_FALSE(frame.tree->IsExpanded(Child(*frame.tree, Child(*frame.tree, root, 1), 0)));
+    EXPECT_TRUE(frame.tree->IsExpanded(Child(*frame.tree, Child(*frame.tree, root, 1), 1)));
+    EXPECT_FALSE(frame.tree->IsExpanded(Child(*frame.tree, Child(*frame.tree, root, 2), 1)));
+    EXPECT_EQ(frame.tree->GetSelection(), Child(*frame.tree, Child(*frame.tree, root, 2), 1));
+}
+
+TEST(PersistentTree, StoresReadableText)
+{
+    const TempPersistence data;
+    {
+        TreeFrame frame;
+        Fill(*frame.tree);
+        wxPersistentRegisterAndRestore(frame.tree, "w");
+        const wxTreeItemId root = frame.tree->GetRootItem();
+        frame.tree->Expand(root);
+        frame.tree->Expand(Child(*frame.tree, root, 1));
+        frame.tree->SelectItem(Child(*frame.tree, root, 2));
+        ASSERT_TRUE(frame.Show());
+    }
+    EXPECT_EQ(Stored(kKind, L"Items"), L"0+^:|1+:b\\|/\\\\|1*#2:a|");
+}
+
+// The root cannot be expanded.
+TEST(PersistentTree, WithAHiddenRootIsRestored)
+{
+    const TempPersistence data;
+    for (const bool isRestored : {false, true}) {
+        TreeFrame frame(wxTR_HIDE_ROOT | wxTR_HAS_BUTTONS);
+        Fill(*frame.tree);
+        EXPECT_EQ(wxPersistentRegisterAndRestore(frame.tree, "w"), isRestored);
+        const wxTreeItemId last = Child(*frame.tree, frame.tree->GetRootItem(), 2);
+        EXPECT_EQ(frame.tree->IsExpanded(last), isRestored);
+        frame.tree->Expand(last);
+        ASSERT_TRUE(frame.Show());
+    }
+}
+
+TEST(PersistentTree, OfManySelectedRestoresAll)
+{
+    const TempPersistence data;
+    for (const bool isRestored : {false, true}) {
+        TreeFrame frame(wxTR_MULTIPLE);
+        Fill(*frame.tree);
+        frame.tree->SelectItem(frame.tree->GetRootItem());
+        EXPECT_EQ(wxPersistentRegisterAndRestore(frame.tree, "w"), isRestored);
+        const wxTreeItemId root = frame.tree->GetRootItem();
+        if (!isRestored) {
+            frame.tree->UnselectAll();
+            frame.tree->SelectItem(Child(*frame.tree, root, 0));
+            frame.tree->SelectItem(Child(*frame.tree, root, 2));
+        }
+        EXPECT_FALSE(frame.tree->IsSelected(root));
+        EXPECT_TRUE(frame.tree->IsSelected(Child(*frame.tree, root, 0)));
+        EXPECT_FALSE(frame.tree->IsSelected(Child(*frame.tree, root, 1)));
+        EXPECT_TRUE(frame.tree->IsSelected(Child(*frame.tree, root, 2)));
+    }
+}
+
+TEST(PersistentTree, ScrollsToTheItemThatWasFirstInView)
+{
+    const TempPersistence data;
+    int first = 0;
+    for (const bool isRestored : {false, true, true}) {
+        TreeFrame frame;
+        const wxTreeItemId root = frame.tree->AddRoot("root");
+        for (int number = 0; number < 500; ++number)
+            Add(*frame.tree, root, wxString::Format("item %d", number));
+        frame.tree->Expand(root);
+        EXPECT_EQ(wxPersistentRegisterAndRestore(frame.tree, "w"), isRestored);
+        ASSERT_TRUE(frame.Show());
+        if (!isRestored) {
+            frame.tree->Scroll(-1, 333);
+            first = frame.tree->GetViewStart().y;
+            ASSERT_GT(first, 300);
+        }
+        EXPECT_TRUE(PumpUntil([&] { return std::abs(frame.tree->GetViewStart().y - first) <= 2; }))
+            << frame.tree->GetViewStart().y << " for " << first;
+        first = frame.tree->GetViewStart().y;
+    }
+}
+
+/// Each item has three children of equal labels, made when it is expanded; the first stands for them until then.
+class LazyTree : public wxHandyTreeCtrl
+{
+public:
+    explicit LazyTree(wxWindow* parent)
+    {
+        Create(parent);
+        AddRoot("root").SetChildren(true);
+    }
+
+    void OnItemExpanding(const wxTreeCursor& item) override
+    {
+        ++filled;
+        if (item.GetChild().IsOk())
+            DeleteChildren(item);
+        for (int number = 0; number < 3; ++number)
+            AppendItem(AppendItem(item, "same|/"), "stands for the children");
+    }
+
+    int filled = 0;
+};
+
+TEST(PersistentTree, FilledAsItIsExpandedOpensOnTheWay)
+{
+    const TempPersistence data;
+    for (const bool isRestored : {false, true}) {
+        auto* const frame = new wxFrame(nullptr, wxID_ANY, "tree");
+        auto* const tree = new LazyTree(frame);
+        EXPECT_EQ(wxPersistentRegisterAndRestore(tree, "w"), isRestored);
+        EXPECT_EQ(tree->filled, isRestored ? 3 : 0);
+        wxTreeItemId item = tree->GetRootItem();
+        for (int level = 0; level < 3; ++level) {
+            EXPECT_EQ(tree->IsExpanded(item), isRestored);
+            tree->Expand(item);
+            item = Child(*tree, item, 1);
+        }
+        EXPECT_EQ(tree->wxTreeCtrl::GetSelection() == item, isRestored);
+        tree->SelectItem(item);
+        frame->Destroy();
+        PumpPending();
+    }
+}
+
+TEST(PersistentTree, IsFoundForTheLibrarysTrees)
+{
+    const TempPersistence data;
+    auto* const frame = new wxFrame(nullptr, wxID_ANY, "tree");
+    auto* const tree = new wxTreeCtrlEx;
+    tree->Create(frame);
+    tree->AddRoot("root");
+    EXPECT_FALSE(wxPersistentRegisterAndRestore(tree, "w"));
+    wxPersistentObject* const object = wxPersistenceManager::Get().Find(tree);
+    ASSERT_TRUE(object);
+    EXPECT_EQ(object->GetKind(), "Tree");
+    frame->Destroy();
+    PumpPending();
+    EXPECT_EQ(Stored(kKind, L"Items").substr(0, 1), L"0");
+}
+
+TEST(PersistentTree, LeavesOutWhatIsGoneAndDoesNotCollapse)
+{
+    const TempPersistence data;
+    Plant(kKind, L"Items", L"0+:|1+:gone|2+*:twin|1+#3:a|2+:twin|1+#2:a|2*#2:twin|");
+    TreeFrame frame;
+    Fill(*frame.tree);
+    const wxTreeItemId root = frame.tree->GetRootItem();
+    frame.tree->Expand(Child(*frame.tree, root, 0));
+    EXPECT_TRUE(wxPersistentRegisterAndRestore(frame.tree, "w"));
+    EXPECT_TRUE(frame.tree->IsExpanded(Child(*frame.tree, root, 0)));
+    EXPECT_FALSE(frame.tree->IsExpanded(Child(*frame.tree, Child(*frame.tree, root, 0), 0)));
+    EXPECT_TRUE(frame.tree->IsExpanded(Child(*frame.tree, root, 2)));
+    EXPECT_EQ(frame.tree->GetSelection(), Child(*frame.tree, Child(*frame.tree, root, 2), 1));
+}
+
+/// Handlers that change the tree while it is restored.
+TEST(PersistentTree, BearsHandlersThatDeleteItems)
+{
+    const TempPersistence data;
+    for (int deleted = 0; deleted < 4; ++deleted) {
+        Plant(kKind, L"Items", L"0+:|1+*:a|2+*:twin|1+*:b\\|/\\\\|2+*:twin|2+*#2:twin|1+*#2:a|");
+        TreeFrame frame(wxTR_MULTIPLE);
+        Fill(*frame.tree);
+        wxTreeCtrl& tree = *frame.tree;
+        tree.Bind(wxEVT_TREE_ITEM_EXPANDED, [&](wxTreeEvent& event) {
+            event.Skip();
+            const wxTreeItemId root = tree.GetRootItem();
+            if (tree.GetItemText(event.GetItem()) != "b|/\\")
+                return;
+            if (deleted == 3)
+                tree.DeleteAllItems();
+            else
+                tree.Delete(Child(tree, root, deleted));
+        });
+        tree.Bind(wxEVT_TREE_SEL_CHANGED, [&](wxTreeEvent& event) {
+            if (tree.GetChildrenCount(tree.GetRootItem(), false) > 1)
+                tree.Delete(Child(tree, tree.GetRootItem(), 0));
+            event.Skip();
+        });
+        wxPersistentRegisterAndRestore(&tree, "w");
+        EXPECT_LT(tree.GetCount(), 15u);
+        PumpPending();
+    }
+}
+
+class DamagedItems : public testing::TestWithParam<const wchar_t*>
+{
+};
+
+TEST_P(DamagedItems, CountAsNone)
+{
+    const TempPersistence data;
+    Plant(kKind, L"Items", GetParam());
+    TreeFrame frame;
+    Fill(*frame.tree);
+    EXPECT_FALSE(wxPersistentRegisterAndRestore(frame.tree, "w"));
+    EXPECT_FALSE(frame.tree->IsExpanded(frame.tree->GetRootItem()));
+    ASSERT_TRUE(frame.Show());
+    PumpPending();
+}
+
+INSTANTIATE_TEST_SUITE_P(, DamagedItems,
+                         testing::Values(L"x", L"|", L"0", L"0+", L"0+:", L"0+:|1+", L"0+:|1+:a", L"0+:|1+:a\\|",
+                                         L"0+:|1+:\\x|", L"0+:|2+:a|", L"0+:|0+:|", L"1+:a|", L"0+:|1+#1:a|",
+                                         L"0+:|1+#:a|", L"0+:|1+#9999999999:a|", L"0+:|01+:a|", L"0+:|-1+:a|",
+                                         L"0+:|1++:a|", L"0+:|1^*:a|", L"0+:|99999999999:a|", L"0+:|1+:a||"));
+
+TEST(StoredItems, OfMegabytesAndDeepAreRestoredAtOnce)
+{
+    const TempPersistence data;
+    const InMemory memory;
+    std::wstring wide = L"0+:|";
+    for (int number = 0; number < 400'000; ++number)
+        wide += L"1+:no such item|";
+    std::wstring deep = L"0+:|";
+    for (int level = 1; level <= 10'000; ++level)
+        deep += std::to_wstring(level) + L"+:same\\|/|";
+    std::wstring tooDeep = L"0+:|";
+    for (int level = 1; level <= 100'000; ++level)
+        tooDeep += std::to_wstring(level) + L"+:same\\|/|";
+    const std::wstring label = L"0+:|1+:" + std::wstring(8'000'000, L'x') + L"|";
+    for (const std::wstring& text : {wide, tooDeep, label}) {
+        Plant(kKind, L"Items", text);
+        TreeFrame frame;
+        Fill(*frame.tree);
+        EXPECT_LT(ProcessorSeconds([&] { wxPersistentRegisterAndRestore(frame.tree, "w"); }), 20);
+        PumpPending();
+    }
+    // A tree that goes on for ever.
+    Plant(kKind, L"Items", deep);
+    auto* const frame = new wxFrame(nullptr, wxID_ANY, "tree");
+    auto* const tree = new LazyTree(frame);
+    EXPECT_LT(ProcessorSeconds([&] { EXPECT_TRUE(wxPersistentRegisterAndRestore(tree, "w")); }), 60);
+    EXPECT_EQ(tree->filled, 10'001);
+    ASSERT_TRUE(ShowAndSettle(frame));
+    frame->Destroy();
+    PumpPending();
+}
+
+TEST(PersistentTree, OfManyItemsIsSavedAndRestoredInProportion)
+{
+    const TempPersistence data;
+    const InMemory memory;
+    for (const bool isRestored : {false, true}) {
+        auto* const frame = new wxFrame(nullptr, wxID_ANY, "tree");
+        auto* const tree = new wxTreeCtrl(frame);
+        const wxTreeItemId root = tree->AddRoot("root");
+        wxTreeItemId last;
+        for (int number = 0; number < 50'000; ++number) {
+            last = Add(*tree, root, wxString::Format("item %d", number / 2));
+            Add(*tree, last, "child");
+        }
+        EXPECT_LT(ProcessorSeconds([&] { EXPECT_EQ(wxPersistentRegisterAndRestore(tree, "w"), isRestored); }), 30);
+        EXPECT_EQ(tree->IsExpanded(last), isRestored);
+        if (!isRestored) {
+            tree->Freeze();
+            tree->ExpandAll();
+        }
+        EXPECT_LT(ProcessorSeconds([&] {
+                      frame->Destroy();
+                      PumpPending();
+                  }),
+                  30);
+    }
+}
+
+// Deleted without Destroy(), a tree is no tree any more when it is to be stored.
+TEST(PersistentTree, ThatIsDeletedAtOnceLeavesTheStoredState)
+{
+    const TempPersistence data;
+    Plant(kKind, L"Items", L"0+:|");
+    auto* const frame = new wxFrame(nullptr, wxID_ANY, "tree");
+    auto* const tree = new wxTreeCtrl(frame);
+    tree->AddRoot("root");
+    EXPECT_TRUE(wxPersistentRegisterAndRestore(tree, "w"));
+    delete tree;
+    frame->Destroy();
+    PumpPending();
+    EXPECT_EQ(Stored(kKind, L"Items"), L"0+:|");
+}
+
+TEST(PersistentTree, WithoutItemsIsSavedAndRestored)
+{
+    const TempPersistence data;
+    for (const bool isRestored : {false, true}) {
+        TreeFrame frame;
+        EXPECT_EQ(wxPersistentRegisterAndRestore(frame.tree, "w"), isRestored);
+        ASSERT_TRUE(frame.Show());
+    }
+}
+
+TEST(PersistentTree, KeepsLabelsWithVariablesAndNullCharacters)
+{
+    const TempPersistence data;
+    const wxString label(L"$HOME ${HOME}\n\0 \xD83D", 17);
+    for (const bool isRestored : {false, true}) {
+        TreeFrame frame;
+        const wxTreeItemId item = Add(*frame.tree, frame.tree->AddRoot("root"), label);
+        Add(*frame.tree, item, "child");
+        EXPECT_EQ(wxPersistentRegisterAndRestore(frame.tree, "w"), isRestored);
+        EXPECT_EQ(frame.tree->IsExpanded(item), isRestored);
+        frame.tree->Expand(item);
+    }
+}
+
+}  // namespace
