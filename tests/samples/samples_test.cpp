@@ -95,6 +95,43 @@ TEST(ConfigSample, StartsWithANumberThatIsNone)
     EXPECT_EQ(person.FileOf("config", "ui_config/notes.ini").substr(0, 18), "[Notes]\nCopies=1\nT");
 }
 
+TEST(PersistenceSample, ComesBackAsItWasLeft)
+{
+    const Person person;
+    std::string geometry;
+    {
+        SampleInUse planets("persistence", "Planets", person);
+        planets.Resize(640, 420);
+        planets.Move(210, 160);
+        EXPECT_TRUE(Becomes([&] { return planets.Geometry().find(" 640 420") != std::string::npos; }));
+        geometry = planets.Geometry();
+        std::istringstream numbers(geometry);
+        int x = 0;
+        int y = 0;
+        numbers >> x >> y;
+        SampleInUse::PointAt({x + 45, y + 13});
+        SampleInUse::Click();
+        planets.Press("Right");
+        planets.Press("Down");
+        planets.Press("Right");
+        SampleInUse::Drag({x + 202, y + 300}, {x + 262, y + 300});
+        SampleInUse::PointAt({x + 355, y + 16});
+        SampleInUse::Click();
+        planets.Close();
+    }
+    const std::string left = person.FileOf("persistence", "settings.ini");
+    EXPECT_NE(left.find("[Persistent_Options/Tree/Planets]\nItems=0+^:|1+*:Earth|\n"), std::string::npos) << left;
+    EXPECT_NE(left.find("[Persistent_Options/Splitter/Planets]\nPosition=26"), std::string::npos) << left;
+    EXPECT_NE(left.find("[Persistent_Options/Book/Planets]\nSelection=1\n"), std::string::npos) << left;
+    EXPECT_NE(left.find("[Persistent_Options/List/Planets]\nWidths="), std::string::npos) << left;
+
+    // What it stores then is what it shows.
+    SampleInUse planets("persistence", "Planets", person);
+    EXPECT_TRUE(Becomes([&] { return planets.Geometry() == geometry; })) << planets.Geometry() << " not " << geometry;
+    planets.Close();
+    EXPECT_EQ(person.FileOf("persistence", "settings.ini"), left);
+}
+
 TEST(TreeSample, OpensAgainWhatWasOpen)
 {
     const Person person;
