@@ -15,6 +15,11 @@ constexpr Budget kBudgets[] = {
     {"store/file-get", "bare GKeyFile load + get", 1.3},
     {"store/file-set", "bare GKeyFile load + set + save", 1.3},
     {"store/100k-load-get-save", "wxFileConfig", 0.12},
+    {"config/100k-load", "wxFileConfig", 0.5},
+    {"config/100k-read", "wxFileConfig", 0.5},
+    {"config/100k-write", "wxFileConfig", 0.5},
+    {"config/100k-flush", "wxFileConfig", 0.5},
+    {"config/100k-all", "wxFileConfig", 0.5},
     {"validate/12", "wxRegEx, compiled once", 0.25},
     {"validate/12-bounds", "wcstod alone", 1.5},
     {"validate/100k", "wxRegEx, compiled once", 0.35},
@@ -52,6 +57,11 @@ struct Growth
 
 constexpr Growth kGrowths[] = {
     {"store/100k-load-get-save", "store/10k-load-get-save", 10, 1.5},
+    {"config/100k-load", "config/1k-load", 100, 1.5},
+    {"config/100k-read", "config/1k-read", 100, 1.5},
+    {"config/100k-write", "config/1k-write", 100, 1.5},
+    {"config/100k-flush", "config/1k-flush", 100, 1.5},
+    {"config/100k-all", "config/1k-all", 100, 1.5},
     {"validate/100k", "validate/1k", 100, 1.5},
     {"format/100k", "format/1k", 100, 1.5},
     {"tree/save-100k", "tree/save-10k", 10, 2.0},

@@ -2,6 +2,8 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
+#include <utility>
 
 #include <wx/app.h>
 #include <wx/base64.h>
@@ -43,9 +45,9 @@ wxString VendorOfApp()
 }
 
 // The store's texts have no null characters.
-bool CanBeStored(const std::wstring& text)
+bool CanBeStored(std::wstring_view text)
 {
-    return text.find(L'\0') == std::wstring::npos;
+    return text.find(L'\0') == std::wstring_view::npos;
 }
 
 bool IsGroupName(const std::wstring& name)
@@ -59,36 +61,55 @@ wxString ShownPath(const StorePath& path)
     return path.empty() ? wxString() : wxString(kSeparator + fittings::SectionOf(path));
 }
 
-// Where an entry is: what stands before the last separator leads to its group.
-struct EntryAddress
+// A text of the toolkit's as one of the standard library's, for as long as the toolkit's lives.
+class TextView
 {
-    StorePath group;
-    std::wstring name;
+public:
+    explicit TextView(const wxString& text) : m_buffer(text.wc_str()), m_view(m_buffer, text.length()) {}
 
-    EntryAddress(const StorePath& current, const wxString& path) : name(path.ToStdWstring())
+    operator std::wstring_view() const { return m_view; }
+
+private:
+    const decltype(std::declval<const wxString&>().wc_str()) m_buffer;
+    const std::wstring_view m_view;
+};
+
+// Where an entry is: what stands before the last separator, and that too, leads to its group.
+struct EntryPath
+{
+    std::wstring_view group;
+    std::wstring_view name;
+
+    explicit EntryPath(std::wstring_view path)
     {
-        const std::size_t last = name.rfind(kSeparator);
-        if (last == std::wstring::npos) {
-            group = current;
-            return;
-        }
-        group = FollowedPath(current, std::wstring_view(name).substr(0, last + 1));
-        name.erase(0, last + 1);
+        const std::size_t last = path.rfind(kSeparator);
+        const std::size_t length = last == std::wstring_view::npos ? 0 : last + 1;
+        group = path.substr(0, length);
+        name = path.substr(length);
     }
 };
 
-const std::wstring* FindEntry(StoreModel& model, const wxString& path)
+const fittings::StoreEntry* FindEntry(StoreModel& model, const wxString& path)
 {
     model.Refresh();
-    const EntryAddress address(model.CurrentPath(), path);
-    StoreGroup* const group = FindStoreGroup(model.Root(), address.group);
-    return group ? group->entries.Find(address.name) : nullptr;
+    const TextView text(path);
+    const EntryPath entry(text);
+    StoreGroup* const group = model.Find(entry.group);
+    return group ? group->entries.Find(entry.name) : nullptr;
+}
+
+// Returns whether the model has that value already, in the case that nobody else has changed it.
+bool HasText(StoreModel& model, const EntryPath& entry, std::wstring_view text)
+{
+    StoreGroup* const group = model.Find(entry.group);
+    const fittings::StoreEntry* const found = group ? group->entries.Find(entry.name) : nullptr;
+    return found && found->text == text;
 }
 
 StoreGroup* FindGroup(StoreModel& model, const wxString& path)
 {
     model.Refresh();
-    return FindStoreGroup(model.Root(), FollowedPath(model.CurrentPath(), path.ToStdWstring()));
+    return FindStoreGroup(model.Root(), FollowedPath(model.CurrentPath(), TextView(path)));
 }
 
 template <typename List>
@@ -103,16 +124,18 @@ bool GetNext(const List& list, wxString& name, long& place)
 std::size_t CountEntries(const StoreGroup& group)
 {
     std::size_t count = group.entries.Size();
-    for (const auto& [place, item] : group.groups.Items())
-        count += CountEntries(*item.value);
+    long place = 0;
+    while (const auto* const inner = group.groups.Next(place))
+        count += CountEntries(*inner->value);
     return count;
 }
 
 std::size_t CountGroups(const StoreGroup& group)
 {
     std::size_t count = group.groups.Size();
-    for (const auto& [place, item] : group.groups.Items())
-        count += CountGroups(*item.value);
+    long place = 0;
+    while (const auto* const inner = group.groups.Next(place))
+        count += CountGroups(*inner->value);
     return count;
 }
 
@@ -260,9 +283,9 @@ bool wxStoreConfig::HasEntry(const wxString& path) const
 
 bool wxStoreConfig::DoReadString(const wxString& path, wxString* value) const
 {
-    const std::wstring* const found = FindEntry(*m_model, path);
+    const fittings::StoreEntry* const found = FindEntry(*m_model, path);
     if (found)
-        *value = *found;
+        *value = found->text;
     return found != nullptr;
 }
 
@@ -285,19 +308,29 @@ bool wxStoreConfig::DoReadBinary(const wxString& path, wxMemoryBuffer* value) co
 
 bool wxStoreConfig::DoWriteString(const wxString& path, const wxString& value)
 {
-    m_model->Refresh();
-    const std::wstring text = value.ToStdWstring();
-    const EntryAddress address(m_model->CurrentPath(), path);
-    if (address.group.size() > kMaxStoreDepth || !CanBeStored(path.ToStdWstring()) || !CanBeStored(text))
+    const TextView pathText(path);
+    const TextView text(value);
+    const EntryPath entry(pathText);
+    if (!CanBeStored(pathText) || !CanBeStored(text))
         return false;
-    if (!address.name.empty()) {
-        m_model->Set(MakeStoreGroup(m_model->Root(), address.group), address.name, text);
+    // What the store holds now matters only where there may be nothing to change.
+    if (!m_model->IsLoaded() || HasText(*m_model, entry, text))
+        m_model->Refresh();
+    StoreGroup* group = m_model->Find(entry.group);
+    if (!group) {
+        const StorePath followed = FollowedPath(m_model->CurrentPath(), entry.group);
+        if (followed.size() > kMaxStoreDepth)
+            return false;
+        group = &MakeStoreGroup(m_model->Root(), followed);
+    }
+    if (!entry.name.empty()) {
+        m_model->Set(*group, entry.name, text);
         return true;
     }
     // An empty text for a group makes it, as wxFileConfig has it.
-    wxCHECK_MSG(text.empty(), false, "a group has no value");
-    if (!address.group.empty())
-        m_model->AddSection(MakeStoreGroup(m_model->Root(), address.group));
+    wxCHECK_MSG(value.empty(), false, "a group has no value");
+    if (group->parent)
+        m_model->AddSection(*group);
     return true;
 }
 
@@ -317,10 +350,10 @@ bool wxStoreConfig::RenameEntry(const wxString& oldName, const wxString& newName
     StoreGroup& group = m_model->Current();
     const std::wstring from = oldName.ToStdWstring();
     const std::wstring to = newName.ToStdWstring();
-    const std::wstring* const value = group.entries.Find(from);
-    if (!value || group.entries.Find(to) || to.empty() || to.find(kSeparator) != std::wstring::npos || !CanBeStored(to))
+    const fittings::StoreEntry* const entry = group.entries.Find(from);
+    if (!entry || group.entries.Find(to) || to.empty() || to.find(kSeparator) != std::wstring::npos || !CanBeStored(to))
         return false;
-    m_model->Set(group, to, std::wstring(*value));
+    m_model->Set(group, to, std::wstring(entry->text));
     m_model->Remove(group, from);
     return true;
 }
@@ -340,11 +373,12 @@ bool wxStoreConfig::RenameGroup(const wxString& oldName, const wxString& newName
 bool wxStoreConfig::DeleteEntry(const wxString& path, bool deleteGroupIfEmpty)
 {
     m_model->Refresh();
-    const EntryAddress address(m_model->CurrentPath(), path);
-    StoreGroup* const group = FindStoreGroup(m_model->Root(), address.group);
-    if (!group || !group->entries.Find(address.name))
+    const TextView text(path);
+    const EntryPath entry(text);
+    StoreGroup* const group = m_model->Find(entry.group);
+    if (!group || !group->entries.Find(entry.name))
         return false;
-    m_model->Remove(*group, address.name);
+    m_model->Remove(*group, entry.name);
     if (deleteGroupIfEmpty && group->parent && group->IsEmpty())
         m_model->RemoveGroup(*group);
     else if (deleteGroupIfEmpty && !group->parent && group->entries.Size() == 0)

@@ -8,18 +8,6 @@ namespace fittings {
 
 namespace {
 
-// No section or key has a null character, so that no two changes share an address.
-std::wstring AddressOf(const CLocalRegStore::Change& change)
-{
-    std::wstring address = change.section;
-    address += L'\0';
-    if (change.isOfSection)
-        address += L'\0';
-    else
-        address += change.key;
-    return address;
-}
-
 StorePath PathOf(const StoreGroup& group)
 {
     if (!group.parent)
@@ -46,10 +34,22 @@ StoreModel::~StoreModel() = default;
 
 void StoreModel::Refresh()
 {
-    const bool isOther = m_file ? CLocalRegStore::Refresh(*m_ini, m_file->c_str(), m_changes)
-                                : CLocalRegStore::Refresh(*m_ini, m_changes);
-    if (isOther)
-        Rebuild();
+    m_isLoaded = true;
+    const bool isOther = m_file ? CLocalRegStore::Refresh(*m_ini, m_file->c_str()) : CLocalRegStore::Refresh(*m_ini);
+    if (!isOther)
+        return;
+    const std::vector<Change> changes = Changes();
+    CLocalRegStore::ApplyChanges(*m_ini, changes);
+    Rebuild();
+    for (const Change& change : changes) {
+        const auto path = PathOfSection(change.section);
+        StoreGroup* const group = path ? FindStoreGroup(*m_root, *path) : nullptr;
+        StoreEntry* const entry = group ? group->entries.Find(change.key) : nullptr;
+        if (change.isOfSection && change.value && group)
+            group->isMade = true;
+        else if (change.value && entry)
+            entry->isChanged = true;
+    }
 }
 
 void StoreModel::Rebuild()
@@ -62,15 +62,28 @@ void StoreModel::Rebuild()
         StoreGroup& group = MakeStoreGroup(*m_root, *path);
         group.isSection = true;
         for (CLocalRegStore::Entry& entry : CLocalRegStore::GetEntries(*m_ini, section.c_str()))
-            group.entries.Add(entry.key, std::move(entry.value));
+            group.entries.Add(entry.key, {std::move(entry.value)});
     }
     for (const StorePath& path : m_made)
         MakeStoreGroup(*m_root, path);
     m_current = &MakeStoreGroup(*m_root, m_currentPath);
+    m_lastFound = nullptr;
+}
+
+StoreGroup* StoreModel::Find(std::wstring_view path)
+{
+    if (path.empty())
+        return m_current;
+    if (m_lastFound && m_lastPath == path)
+        return m_lastFound;
+    m_lastFound = FindStoreGroup(*m_root, FollowedPath(m_currentPath, path));
+    m_lastPath = path;
+    return m_lastFound;
 }
 
 void StoreModel::SetCurrent(const StorePath& path)
 {
+    m_lastFound = nullptr;
     m_current = FindStoreGroup(*m_root, path);
     if (!m_current) {
         m_made.insert(path);
@@ -79,23 +92,32 @@ void StoreModel::SetCurrent(const StorePath& path)
     m_currentPath = path;
 }
 
-void StoreModel::Set(StoreGroup& group, const std::wstring& name, const std::wstring& value)
+void StoreModel::Set(StoreGroup& group, std::wstring_view name, std::wstring_view value)
 {
-    std::wstring* const old = group.entries.Find(name);
-    if (old && *old == value)
+    StoreEntry* const entry = group.entries.Find(name);
+    if (entry && entry->text == value)
         return;
-    if (old)
-        *old = value;
-    else
-        group.entries.Add(name, value);
+    if (entry) {
+        entry->text = value;
+        entry->isChanged = true;
+    } else {
+        group.entries.Add(name, {std::wstring(value), true});
+    }
+    m_hasChanges = true;
+    if (!m_removed.empty()) {
+        if (const auto removed = m_removed.find(group.Section()); removed != m_removed.end())
+            removed->second.erase(std::wstring(name));
+    }
+    if (!group.isSection)
+        m_dropped.erase(group.Section());
     group.isSection = true;
-    Note({group.Section(), name, value});
 }
 
-void StoreModel::Remove(StoreGroup& group, const std::wstring& name)
+void StoreModel::Remove(StoreGroup& group, std::wstring_view name)
 {
+    m_removed[group.Section()].emplace(name);
     group.entries.Remove(name);
-    Note({group.Section(), name, std::nullopt});
+    m_hasChanges = true;
 }
 
 void StoreModel::AddSection(StoreGroup& group)
@@ -103,21 +125,30 @@ void StoreModel::AddSection(StoreGroup& group)
     if (group.isSection)
         return;
     group.isSection = true;
-    Note({group.Section(), L"", L"", true});
+    group.isMade = true;
+    m_dropped.erase(group.Section());
+    m_hasChanges = true;
 }
 
 void StoreModel::DropSection(StoreGroup& group)
 {
     group.isSection = false;
-    Note({group.Section(), L"", std::nullopt, true});
+    group.isMade = false;
+    m_dropped.insert(group.Section());
+    m_hasChanges = true;
 }
 
 void StoreModel::NoteRemoval(StoreGroup& group)
 {
-    for (const auto& [place, item] : group.groups.Items())
-        NoteRemoval(*item.value);
-    for (const auto& [place, item] : group.entries.Items())
-        Note({group.Section(), item.name, std::nullopt});
+    long place = 0;
+    while (const auto* const inner = group.groups.Next(place))
+        NoteRemoval(*inner->value);
+    if (group.entries.Size() > 0) {
+        std::set<std::wstring>& removed = m_removed[group.Section()];
+        place = 0;
+        while (const auto* const entry = group.entries.Next(place))
+            removed.insert(entry->name);
+    }
     if (group.isSection)
         DropSection(group);
 }
@@ -125,6 +156,7 @@ void StoreModel::NoteRemoval(StoreGroup& group)
 void StoreModel::RemoveGroup(StoreGroup& group)
 {
     const StorePath path = PathOf(group);
+    m_lastFound = nullptr;
     NoteRemoval(group);
     for (auto made = m_made.begin(); made != m_made.end();)
         made = IsWithin(*made, path) ? m_made.erase(made) : std::next(made);
@@ -149,62 +181,110 @@ void StoreModel::CopyInto(StoreGroup& from, StoreGroup& to)
         AddSection(to);
     else
         m_made.insert(PathOf(to));
-    for (const auto& [place, item] : from.entries.Items())
-        Set(to, item.name, item.value);
-    for (const auto& [place, item] : from.groups.Items())
-        CopyInto(*item.value, *to.groups.Add(item.name, std::make_unique<StoreGroup>(&to, item.name)));
+    long place = 0;
+    while (const auto* const entry = from.entries.Next(place))
+        Set(to, entry->name, entry->value.text);
+    place = 0;
+    while (const auto* const inner = from.groups.Next(place))
+        CopyInto(*inner->value, *to.groups.Add(inner->name, std::make_unique<StoreGroup>(&to, inner->name)));
 }
 
 void StoreModel::RemoveAll()
 {
     NoteRemoval(*m_root);
     for (const std::wstring& section : CLocalRegStore::GetSectionNames(*m_ini)) {
-        for (const std::wstring& key : CLocalRegStore::GetKeyNames(*m_ini, section.c_str()))
-            Note({section, key, std::nullopt});
-        Note({section, L"", std::nullopt, true});
+        for (std::wstring& key : CLocalRegStore::GetKeyNames(*m_ini, section.c_str()))
+            m_removed[section].insert(std::move(key));
+        m_dropped.insert(section);
     }
-    for (Change& change : m_changes)
-        change.value.reset();
+    for (const auto& [address, value] : m_hidden) {
+        m_removed[address.first].insert(address.second);
+        m_dropped.insert(address.first);
+    }
+    m_hidden.clear();
+    m_hasChanges = true;
     m_made.clear();
     m_currentPath.clear();
     m_root = std::make_unique<StoreGroup>(nullptr, L"");
     m_current = m_root.get();
+    m_lastFound = nullptr;
 }
 
 std::wstring StoreModel::HiddenText(const std::wstring& section, const std::wstring& key) const
 {
-    const auto found = m_indices.find(AddressOf({section, key, std::nullopt}));
-    if (found == m_indices.end())
-        return CLocalRegStore::GetString(*m_ini, section.c_str(), key.c_str(), L"");
-    return m_changes[found->second].value.value_or(L"");
+    if (const auto found = m_hidden.find({section, key}); found != m_hidden.end())
+        return found->second;
+    const auto removed = m_removed.find(section);
+    if (removed != m_removed.end() && removed->second.count(key) != 0)
+        return {};
+    return CLocalRegStore::GetString(*m_ini, section.c_str(), key.c_str(), L"");
 }
 
 void StoreModel::SetHidden(const std::wstring& section, const std::wstring& key, const std::wstring& value)
 {
-    Note({section, key, value});
+    m_hidden[{section, key}] = value;
+    m_hasChanges = true;
 }
 
-void StoreModel::Note(Change change)
+void StoreModel::CollectChanges(StoreGroup& group, std::vector<Change>& changes) const
 {
-    const auto [place, isNew] = m_indices.try_emplace(AddressOf(change), m_changes.size());
-    if (isNew)
-        m_changes.push_back(std::move(change));
-    else
-        m_changes[place->second].value = std::move(change.value);
+    const std::wstring section = group.Section();
+    if (group.isMade)
+        changes.push_back({section, L"", L"", true});
+    long place = 0;
+    while (const auto* const entry = group.entries.Next(place)) {
+        if (entry->value.isChanged)
+            changes.push_back({section, entry->name, entry->value.text});
+    }
+    place = 0;
+    while (const auto* const inner = group.groups.Next(place))
+        CollectChanges(*inner->value, changes);
+}
+
+std::vector<StoreModel::Change> StoreModel::Changes() const
+{
+    std::vector<Change> changes;
+    if (!m_hasChanges)
+        return changes;
+    for (const auto& [section, keys] : m_removed) {
+        for (const std::wstring& key : keys)
+            changes.push_back({section, key, std::nullopt});
+    }
+    for (const std::wstring& section : m_dropped)
+        changes.push_back({section, L"", std::nullopt, true});
+    CollectChanges(*m_root, changes);
+    for (const auto& [address, value] : m_hidden)
+        changes.push_back({address.first, address.second, value});
+    return changes;
+}
+
+void StoreModel::ForgetChanges(StoreGroup& group)
+{
+    group.isMade = false;
+    long place = 0;
+    while (auto* const entry = group.entries.Next(place))
+        entry->value.isChanged = false;
+    place = 0;
+    while (auto* const inner = group.groups.Next(place))
+        ForgetChanges(*inner->value);
 }
 
 bool StoreModel::Save()
 {
-    if (m_changes.empty())
-        return true;
-    const bool isSaved =
-        m_file ? CLocalRegStore::SaveChanges(m_file->c_str(), m_changes) : CLocalRegStore::SaveChanges(m_changes);
+    const std::vector<Change> changes = Changes();
+    const bool isSaved = changes.empty() || (m_file ? CLocalRegStore::SaveChanges(m_file->c_str(), changes)
+                                                    : CLocalRegStore::SaveChanges(changes));
     if (!isSaved)
         return false;
+    if (!m_hasChanges)
+        return true;
     // What the file held before may stand there again when it is read next.
     m_ini.reset(CLocalRegStore::CreateInitFile(false));
-    m_changes.clear();
-    m_indices.clear();
+    ForgetChanges(*m_root);
+    m_removed.clear();
+    m_dropped.clear();
+    m_hidden.clear();
+    m_hasChanges = false;
     return true;
 }
 

@@ -1,12 +1,13 @@
 #ifndef FITTINGS_CONFIG_STORE_MODEL_H_
 #define FITTINGS_CONFIG_STORE_MODEL_H_
 
-#include <cstddef>
+#include <map>
 #include <memory>
 #include <optional>
 #include <set>
 #include <string>
-#include <unordered_map>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 #include <fittings/config/store_tree.h>
@@ -27,6 +28,9 @@ public:
     /// Brings in what others have stored. References to groups are good until the next call.
     void Refresh();
 
+    /// False before the first Refresh().
+    bool IsLoaded() const { return m_isLoaded; }
+
     StoreGroup& Root() { return *m_root; }
 
     /// @name The current group, which is there whatever others remove
@@ -38,10 +42,13 @@ public:
     void SetCurrent(const StorePath& path);
     /// @}
 
+    /// The group that a path leads to, from the current one on, or null. Quick for the same path again.
+    StoreGroup* Find(std::wstring_view path);
+
     /// @name Changes, collected for Save()
     /// @{
-    void Set(StoreGroup& group, const std::wstring& name, const std::wstring& value);
-    void Remove(StoreGroup& group, const std::wstring& name);
+    void Set(StoreGroup& group, std::wstring_view name, std::wstring_view value);
+    void Remove(StoreGroup& group, std::wstring_view name);
 
     /// Stores the group though it may have no entries.
     void AddSection(StoreGroup& group);
@@ -75,20 +82,31 @@ private:
     };
 
     void Rebuild();
-    void Note(Change change);
     void NoteRemoval(StoreGroup& group);
     void CopyInto(StoreGroup& from, StoreGroup& to);
+    void CollectChanges(StoreGroup& group, std::vector<Change>& changes) const;
+    std::vector<Change> Changes() const;
+    static void ForgetChanges(StoreGroup& group);
 
     const std::optional<std::wstring> m_file;
     std::unique_ptr<CIniFile, DestroyIni> m_ini;  ///< What the store held, and changes that were made by then.
+    bool m_isLoaded = false;
     std::unique_ptr<StoreGroup> m_root;
 
     StorePath m_currentPath;
     StoreGroup* m_current = nullptr;
     std::set<StorePath> m_made;  ///< By SetCurrent().
 
-    std::vector<Change> m_changes;
-    std::unordered_map<std::wstring, std::size_t> m_indices;
+    std::wstring m_lastPath;
+    StoreGroup* m_lastFound = nullptr;  ///< By Find(); null when that may lead elsewhere now.
+
+    /// @name Changes, but for those that the groups and entries know of
+    /// @{
+    bool m_hasChanges = false;
+    std::map<std::wstring, std::set<std::wstring>> m_removed;  ///< Keys by their sections.
+    std::set<std::wstring> m_dropped;                          ///< Sections.
+    std::map<std::pair<std::wstring, std::wstring>, std::wstring> m_hidden;
+    /// @}
 };
 
 }  // namespace fittings

@@ -1,8 +1,9 @@
 #ifndef FITTINGS_CONFIG_STORE_TREE_H_
 #define FITTINGS_CONFIG_STORE_TREE_H_
 
+#include <algorithm>
 #include <cstddef>
-#include <map>
+#include <deque>
 #include <memory>
 #include <optional>
 #include <string>
@@ -13,7 +14,7 @@
 
 namespace fittings {
 
-/// Values by name, in the order in which they were added.
+/// Values by name, in the order in which they were added. Places stay what they are when items come and go.
 template <typename Value>
 class NamedList
 {
@@ -22,22 +23,23 @@ public:
     {
         std::wstring name;
         Value value;
+        bool isRemoved = false;
     };
 
-    std::size_t Size() const { return m_items.size(); }
+    std::size_t Size() const { return m_places.size(); }
 
     Value* Find(std::wstring_view name)
     {
         const auto found = m_places.find(name);
-        return found == m_places.end() ? nullptr : &found->second->second.value;
+        return found == m_places.end() ? nullptr : &m_items[static_cast<std::size_t>(found->second - m_first)].value;
     }
 
     /// Adds a value under a name that is not there yet.
     Value& Add(std::wstring_view name, Value value)
     {
-        const auto place = m_items.emplace_hint(m_items.end(), m_next++, Item{std::wstring(name), std::move(value)});
-        m_places.emplace(place->second.name, place);
-        return place->second.value;
+        m_items.push_back({std::wstring(name), std::move(value)});
+        m_places.emplace(m_items.back().name, m_first + static_cast<long>(m_items.size()) - 1);
+        return m_items.back().value;
     }
 
     void Remove(std::wstring_view name)
@@ -45,29 +47,43 @@ public:
         const auto found = m_places.find(name);
         if (found == m_places.end())
             return;
-        const auto place = found->second;
+        Item& item = m_items[static_cast<std::size_t>(found->second - m_first)];
         m_places.erase(found);
-        m_items.erase(place);
+        item.isRemoved = true;
+        item.value = Value();
+        for (; !m_items.empty() && m_items.front().isRemoved; ++m_first)
+            m_items.pop_front();
     }
 
-    /// Returns the first item at @a place or behind, or null, and moves the place behind it. Places stay what they are when
-    /// items come and go.
-    const Item* Next(long& place) const
-    {
-        const auto found = m_items.lower_bound(place);
-        if (found == m_items.end())
-            return nullptr;
-        place = found->first + 1;
-        return &found->second;
-    }
-
-    /// The items by their places.
-    const std::map<long, Item>& Items() const { return m_items; }
+    /// Returns the first item at @a place or behind, or null, and moves the place behind it.
+    const Item* Next(long& place) const { return NextOf(*this, place); }
+    Item* Next(long& place) { return NextOf(*this, place); }
 
 private:
-    std::map<long, Item> m_items;
-    std::unordered_map<std::wstring_view, typename std::map<long, Item>::iterator> m_places;
-    long m_next = 0;
+    template <typename List>
+    static auto NextOf(List& list, long& place) -> decltype(&list.m_items.front())
+    {
+        const long end = list.m_first + static_cast<long>(list.m_items.size());
+        for (place = std::max(place, list.m_first); place < end; ++place) {
+            auto& item = list.m_items[static_cast<std::size_t>(place - list.m_first)];
+            if (!item.isRemoved) {
+                ++place;
+                return &item;
+            }
+        }
+        return nullptr;
+    }
+
+    std::deque<Item> m_items;
+    long m_first = 0;  ///< The place of the first one.
+    std::unordered_map<std::wstring_view, long> m_places;
+};
+
+/// The text of an entry.
+struct StoreEntry
+{
+    std::wstring text;
+    bool isChanged = false;  ///< It was not saved yet.
 };
 
 /// A group of entries and groups.
@@ -83,7 +99,8 @@ struct StoreGroup
     StoreGroup* const parent;  ///< Null for the root.
     const std::wstring name;
     bool isSection = false;  ///< The store has the section, or will have it.
-    NamedList<std::wstring> entries;
+    bool isMade = false;     ///< It will have it though there may be no entries.
+    NamedList<StoreEntry> entries;
     NamedList<std::unique_ptr<StoreGroup>> groups;
 };
 

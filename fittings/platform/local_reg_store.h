@@ -114,11 +114,13 @@ public:
     using Change = fittings::SettingsChange;  ///< One of several changes that are saved together.
 
     /// Reads the file at @a path into @a ini in place of what it held, unless the file is as it was when this read it last.
-    /// Then makes @a changes in @a ini, which is not to be saved by Save().
     ///
     /// Returns false when @a ini was left as it is, changes that were made in it meanwhile included. A file that cannot be read
-    /// counts as empty.
-    static bool Refresh(CIniFile& ini, const wchar_t* path, const std::vector<Change>& changes);
+    /// counts as empty. @a ini is for reading: do not hand it to Save().
+    static bool Refresh(CIniFile& ini, const wchar_t* path);
+
+    /// Makes the changes in @a ini: those of keys, and then those of sections.
+    static void ApplyChanges(CIniFile& ini, const std::vector<Change>& changes);
 
     /// Makes the changes in what the file at @a path holds now, by one save, as WriteString() does it in the default store: what
     /// other processes and threads store by this operation at the same time is kept. The lock file has ".lock" at its end.
@@ -156,7 +158,7 @@ public:
 
     /// Reads the default store into @a ini as the operation of the same name reads a file, with what this thread's Batch has
     /// collected.
-    static bool Refresh(CIniFile& ini, const std::vector<Change>& changes);
+    static bool Refresh(CIniFile& ini);
 
     /// Returns the names of all sections, each once, in the order of the file.
     static std::vector<std::wstring> GetSectionNames();

@@ -157,16 +157,21 @@ std::vector<CLocalRegStore::Entry> CLocalRegStore::GetEntries(const CIniFile&, c
     return {};
 }
 
-bool CLocalRegStore::Refresh(CIniFile&, const wchar_t* path, const std::vector<Change>&)
+bool CLocalRegStore::Refresh(CIniFile&, const wchar_t* path)
 {
     Note(L"refresh", {path});
     return g_platform.loads;
 }
 
-bool CLocalRegStore::Refresh(CIniFile&, const std::vector<Change>&)
+bool CLocalRegStore::Refresh(CIniFile&)
 {
     Note(L"refresh from default store");
     return g_platform.loads;
+}
+
+void CLocalRegStore::ApplyChanges(CIniFile&, const std::vector<Change>&)
+{
+    Note(L"apply changes");
 }
 
 bool CLocalRegStore::SaveChanges(const wchar_t* path, const std::vector<Change>&)

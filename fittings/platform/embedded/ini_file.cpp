@@ -291,6 +291,21 @@ std::vector<std::wstring> CIniFile::KeyNames(std::wstring_view section) const
 std::vector<fittings::SettingsEntry> CIniFile::Entries(std::wstring_view section) const
 {
     std::vector<fittings::SettingsEntry> entries;
+    // Where each name stands as EncodeName() writes it, it leads to its value as it is.
+    const std::string group = fittings::EncodeName(section);
+    if (m_otherSections.empty() && m_otherSlots.empty()) {
+        gsize count = 0;
+        gchar** const names = g_key_file_get_keys(m_keys.get(), group.c_str(), &count, nullptr);
+        entries.reserve(count);
+        std::unordered_set<std::string_view> known;
+        for (gsize i = 0; i < count; ++i) {
+            const GText value = known.insert(names[i]).second ? Value({group, names[i]}) : GText(nullptr, g_free);
+            if (value)
+                entries.push_back({fittings::DecodeName(names[i]), fittings::DecodeValue(value.get())});
+        }
+        g_strfreev(names);
+        return entries;
+    }
     for (std::wstring& key : KeyNames(section)) {
         if (auto value = Get(section, key))
             entries.push_back({std::move(key), *std::move(value)});
@@ -423,7 +438,7 @@ CIniFile::Slot CIniFile::NewSlot(Slot names) const
 
 void CIniFile::NoteChange(const Slot& slot)
 {
-    if (m_changed.insert(slot).second)
+    if (m_changed.insert(slot.first + '\n' + slot.second).second)
         m_changes.push_back(slot);
 }
 

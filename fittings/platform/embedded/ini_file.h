@@ -6,10 +6,10 @@
 #include <map>
 #include <memory>
 #include <optional>
-#include <set>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -121,7 +121,7 @@ private:
     std::map<Slot, std::vector<Slot>> m_otherSlots;
     /// The changed slots, each once, in the order of their first change. The key is empty where a section was added or removed.
     std::vector<Slot> m_changes;
-    std::set<Slot> m_changed;
+    std::unordered_set<std::string> m_changed;  ///< Section and key with a line break between them, which no name has.
 
     std::string m_path;
     fittings::FileContent m_content = {fittings::ReadResult::Missing, std::nullopt};

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <map>
+#include <unordered_map>
 
 #include <glib.h>
 
@@ -64,7 +65,8 @@ struct Splice
 // What is to be done in one section, and where the text has it.
 struct SectionPlan
 {
-    std::map<std::string_view, std::vector<IniLine>> lines;  ///< Those of the section itself under an empty name.
+    std::unordered_map<std::string_view, std::vector<IniLine>>
+        lines;  ///< Those of the section itself under an empty name.
     std::optional<std::size_t> insertAt;
     std::string additions;
     bool isMade = false;

@@ -132,12 +132,14 @@ std::vector<CLocalRegStore::Entry> CLocalRegStore::GetEntries(const CIniFile& in
     return ini.Entries(View(section));
 }
 
-bool CLocalRegStore::Refresh(CIniFile& ini, const wchar_t* path, const std::vector<Change>& changes)
+bool CLocalRegStore::Refresh(CIniFile& ini, const wchar_t* path)
 {
-    const bool isOther = ini.Refresh(SystemPath(path));
-    if (isOther)
-        ini.Apply(changes);
-    return isOther;
+    return ini.Refresh(SystemPath(path));
+}
+
+void CLocalRegStore::ApplyChanges(CIniFile& ini, const std::vector<Change>& changes)
+{
+    ini.Apply(changes);
 }
 
 bool CLocalRegStore::SaveChanges(const wchar_t* path, const std::vector<Change>& changes)
@@ -205,14 +207,11 @@ bool CLocalRegStore::SaveChanges(const std::vector<Change>& changes)
     return StoreChanges(changes);
 }
 
-bool CLocalRegStore::Refresh(CIniFile& ini, const std::vector<Change>& changes)
+bool CLocalRegStore::Refresh(CIniFile& ini)
 {
     const CollectedSettings* const collected = CollectedSettings::OfThread();
     const std::string path = DefaultStore::Instance().Path();
-    const bool isOther = collected ? ini.Refresh(path, collected->Changes(), collected->Revision()) : ini.Refresh(path);
-    if (isOther)
-        ini.Apply(changes);
-    return isOther;
+    return collected ? ini.Refresh(path, collected->Changes(), collected->Revision()) : ini.Refresh(path);
 }
 
 std::vector<std::wstring> CLocalRegStore::GetSectionNames()

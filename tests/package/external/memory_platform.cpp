@@ -114,32 +114,34 @@ std::vector<CLocalRegStore::Entry> CLocalRegStore::GetEntries(const CIniFile& in
     return entries;
 }
 
-// A section is here for its keys alone.
-bool CLocalRegStore::Refresh(CIniFile& ini, const wchar_t* path, const std::vector<Change>& changes)
+// Reading costs nothing here, so that the file always counts as another.
+bool CLocalRegStore::Refresh(CIniFile& ini, const wchar_t* path)
 {
-    CIniFile now;
-    Load(now, path);
+    Load(ini, path);
+    return true;
+}
+
+// A section is here for its keys alone.
+void CLocalRegStore::ApplyChanges(CIniFile& ini, const std::vector<Change>& changes)
+{
     for (const Change& change : changes) {
         if (change.value && !change.isOfSection)
-            now.values[{change.section, change.key}] = *change.value;
+            WriteString(ini, change.section.c_str(), change.key.c_str(), change.value->c_str());
         else if (!change.isOfSection)
-            now.values.erase({change.section, change.key});
+            DeleteKey(ini, change.section.c_str(), change.key.c_str());
     }
-    const bool isOther = now.values != ini.values;
-    ini.values = now.values;
-    return isOther;
 }
 
 bool CLocalRegStore::SaveChanges(const wchar_t* path, const std::vector<Change>& changes)
 {
-    g_files.insert(Text(path));
     for (const Change& change : changes) {
-        if (change.value && !change.isOfSection)
-            g_store[{Text(path), change.section, change.key}] = *change.value;
-        else if (!change.isOfSection)
+        if (!change.isOfSection && !change.value)
             g_store.erase({Text(path), change.section, change.key});
     }
-    return true;
+    CIniFile ini;
+    Load(ini, path);
+    ApplyChanges(ini, changes);
+    return Save(ini, path);
 }
 
 bool CLocalRegStore::Save(const CIniFile& ini, const wchar_t* path)
@@ -196,9 +198,9 @@ std::vector<std::wstring> CLocalRegStore::GetSectionNames()
     return GetSectionNames(defaultStore);
 }
 
-bool CLocalRegStore::Refresh(CIniFile& ini, const std::vector<Change>& changes)
+bool CLocalRegStore::Refresh(CIniFile& ini)
 {
-    return Refresh(ini, L"", changes);
+    return Refresh(ini, L"");
 }
 
 bool CLocalRegStore::SaveChanges(const std::vector<Change>& changes)

@@ -1,0 +1,164 @@
+// wxStoreConfig over a named file beside wxFileConfig over one with the same entries.
+
+#include <cstdlib>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <benchmark/benchmark.h>
+
+#include <wx/fileconf.h>
+
+#include <fittings/config/store_config.h>
+#include <fittings/platform/file_util_ex.h>
+#include <fittings/platform/std_file_paths.h>
+
+namespace {
+
+constexpr int kGroups = 20;
+
+/// A folder with a file of a given number of entries for each of the two, for as long as the object lives.
+class Entries
+{
+public:
+    explicit Entries(int count)
+    {
+        std::string folder = (std::filesystem::temp_directory_path() / "fittings-bench-XXXXXX").string();
+        m_folder = mkdtemp(folder.data());
+        std_file_paths::SetUserDataDir(file_util_ex::ConvertFromUTF8W(m_folder));
+        for (int entry = 0; entry < count; ++entry)
+            m_paths.push_back(wxString::Format("/Group%d/WindowGeometry%d", entry / (count / kGroups), entry));
+        for (wxConfigBase* const config : {Ours().release(), Peers().release()}) {
+            WriteAll(*config, 0);
+            delete config;
+        }
+    }
+
+    ~Entries()
+    {
+        std_file_paths::SetUserDataDir(L"");
+        std::filesystem::remove_all(m_folder);
+    }
+    Entries(const Entries&) = delete;
+    Entries& operator=(const Entries&) = delete;
+
+    static std::unique_ptr<wxConfigBase> Ours() { return std::make_unique<wxStoreConfig>("bench.ini"); }
+
+    std::unique_ptr<wxConfigBase> Peers() const
+    {
+        return std::make_unique<wxFileConfig>("", "", m_folder + "/peer.ini", "", wxCONFIG_USE_LOCAL_FILE);
+    }
+
+    void WriteAll(wxConfigBase& config, long value) const
+    {
+        for (const wxString& path : m_paths)
+            config.Write(path, value);
+    }
+
+    bool HasAll(const wxConfigBase& config) const
+    {
+        long value = 0;
+        for (const wxString& path : m_paths)
+            if (!config.Read(path, &value))
+                return false;
+        return true;
+    }
+
+    const wxString& SomePath() const { return m_paths[m_paths.size() / 2]; }
+
+private:
+    std::string m_folder;
+    std::vector<wxString> m_paths;
+};
+
+using Open = std::unique_ptr<wxConfigBase> (*)(const Entries&);
+
+std::unique_ptr<wxConfigBase> OpenOurs(const Entries&)
+{
+    return Entries::Ours();
+}
+
+std::unique_ptr<wxConfigBase> OpenPeers(const Entries& entries)
+{
+    return entries.Peers();
+}
+
+void Expect(benchmark::State& state, bool holds)
+{
+    if (!holds)
+        state.SkipWithError("a wrong result");
+}
+
+// Up to the first value.
+void Load(benchmark::State& state, Open open, int count)
+{
+    const Entries entries(count);
+    for (auto _ : state)
+        Expect(state, open(entries)->HasEntry(entries.SomePath()));
+}
+
+void Read(benchmark::State& state, Open open, int count)
+{
+    const Entries entries(count);
+    const auto config = open(entries);
+    for (auto _ : state)
+        Expect(state, entries.HasAll(*config));
+}
+
+void Write(benchmark::State& state, Open open, int count)
+{
+    const Entries entries(count);
+    const auto config = open(entries);
+    long value = 0;
+    for (auto _ : state)
+        entries.WriteAll(*config, ++value);
+    config->Flush();
+}
+
+// All entries have changed.
+void Flush(benchmark::State& state, Open open, int count)
+{
+    const Entries entries(count);
+    const auto config = open(entries);
+    long value = 0;
+    for (auto _ : state) {
+        state.PauseTiming();
+        entries.WriteAll(*config, ++value);
+        state.ResumeTiming();
+        Expect(state, config->Flush());
+    }
+}
+
+// What a program does with its settings from its start to its end.
+void All(benchmark::State& state, Open open, int count)
+{
+    const Entries entries(count);
+    long value = 0;
+    for (auto _ : state) {
+        const auto config = open(entries);
+        Expect(state, entries.HasAll(*config));
+        entries.WriteAll(*config, ++value);
+        Expect(state, config->Flush());
+    }
+}
+
+void Register(const std::string& name, void (*run)(benchmark::State&, Open, int), int count)
+{
+    benchmark::RegisterBenchmark(name.c_str(), run, OpenOurs, count)->UseRealTime();
+    benchmark::RegisterBenchmark((name + "/peer").c_str(), run, OpenPeers, count)->UseRealTime();
+}
+
+[[maybe_unused]] const bool kIsRegistered = [] {
+    for (const auto& [size, count] : {std::pair("1k", 1000), std::pair("100k", 100'000)}) {
+        const std::string prefix = std::string("config/") + size + "-";
+        Register(prefix + "load", Load, count);
+        Register(prefix + "read", Read, count);
+        Register(prefix + "write", Write, count);
+        Register(prefix + "flush", Flush, count);
+        Register(prefix + "all", All, count);
+    }
+    return true;
+}();
+
+}  // namespace
