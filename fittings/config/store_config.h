@@ -56,39 +56,56 @@ public:
     /// Saves at once, with all that was collected. Returns false when that failed; the next call then tries again.
     bool ImportFrom(wxConfigBase& old);
 
-    /// @name As in wxConfigBase
+    /// @name The current group
     /// @{
+
+    /// Makes the group at @a path, which may be relative and have "..", current. A group that is not there is made, and stored with
+    /// its first entry.
     void SetPath(const wxString& path) override;
+
+    /// The path of the current group, absolute and without a separator at its end: empty for the root.
     const wxString& GetPath() const override;
-    bool GetFirstGroup(wxString& name, long& place) const override;
-    bool GetNextGroup(wxString& name, long& place) const override;
-    bool GetFirstEntry(wxString& name, long& place) const override;
-    bool GetNextEntry(wxString& name, long& place) const override;
-    size_t GetNumberOfEntries(bool recursive = false) const override;
-    size_t GetNumberOfGroups(bool recursive = false) const override;
-    bool HasGroup(const wxString& path) const override;
-    bool HasEntry(const wxString& path) const override;
+
+    bool GetFirstGroup(wxString& name,
+                       long& place) const override;  ///< The first group in it; false when there is none.
+    bool GetNextGroup(wxString& name, long& place) const override;  ///< The one after it; false at the end.
+    bool GetFirstEntry(wxString& name,
+                       long& place) const override;  ///< The first entry in it; false when there is none.
+    bool GetNextEntry(wxString& name, long& place) const override;  ///< The one after it; false at the end.
+    size_t
+    GetNumberOfEntries(bool recursive = false) const override;        ///< With those of all groups below, if asked for.
+    size_t GetNumberOfGroups(bool recursive = false) const override;  ///< With those of all groups below, if asked for.
+
+    /// Gives an entry of the current group another name. False when there is none of the old name, or one of the new.
     bool RenameEntry(const wxString& oldName, const wxString& newName) override;
+
+    /// Gives a group in the current one another name. False when there is none of the old name, or one of the new.
     bool RenameGroup(const wxString& oldName, const wxString& newName) override;
-    bool DeleteEntry(const wxString& path, bool deleteGroupIfEmpty = true) override;
-    bool DeleteGroup(const wxString& path) override;
-    bool DeleteAll() override;
     /// @}
+
+    bool HasGroup(const wxString& path) const override;  ///< True when there is such a group; false for an empty path.
+    bool HasEntry(const wxString& path) const override;  ///< True when there is such an entry.
+
+    /// Removes an entry, and its group when that is empty then. False when there is no such entry.
+    bool DeleteEntry(const wxString& path, bool deleteGroupIfEmpty = true) override;
+
+    /// Removes a group with all in it; the current group is then the nearest one that is left. False when there is no such group.
+    bool DeleteGroup(const wxString& path) override;
+
+    /// Removes all groups and entries, and the sections that are no groups. True.
+    bool DeleteAll() override;
 
     /// Saves what was changed since the last time, in all groups. Returns false when it could not be saved: it is then still
     /// there, and saved by the next call.
     bool Flush(bool currentOnly = false) override;
 
 protected:
-    /// @name As in wxFileConfig
-    /// @{
-    bool DoReadString(const wxString& path, wxString* value) const override;
-    bool DoReadLong(const wxString& path, long* value) const override;
-    bool DoReadBinary(const wxString& path, wxMemoryBuffer* value) const override;
-    bool DoWriteString(const wxString& path, const wxString& value) override;
-    bool DoWriteLong(const wxString& path, long value) override;
-    bool DoWriteBinary(const wxString& path, const wxMemoryBuffer& value) override;
-    /// @}
+    bool DoReadString(const wxString& path, wxString* value) const override;        ///< As in wxFileConfig.
+    bool DoReadLong(const wxString& path, long* value) const override;              ///< As in wxFileConfig.
+    bool DoReadBinary(const wxString& path, wxMemoryBuffer* value) const override;  ///< As in wxFileConfig: in Base64.
+    bool DoWriteString(const wxString& path, const wxString& value) override;       ///< False when it cannot be stored.
+    bool DoWriteLong(const wxString& path, long value) override;                    ///< As in wxFileConfig.
+    bool DoWriteBinary(const wxString& path, const wxMemoryBuffer& value) override;  ///< As in wxFileConfig: in Base64.
 
 private:
     const std::unique_ptr<fittings::StoreModel> m_model;

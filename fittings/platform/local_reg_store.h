@@ -13,15 +13,15 @@ namespace fittings {
 /// A key of a section and its value.
 struct SettingsEntry
 {
-    std::wstring key;
-    std::wstring value;
+    std::wstring key;    ///< Any text.
+    std::wstring value;  ///< Any text.
 };
 
 /// One of several changes of settings that are saved together.
 struct SettingsChange
 {
-    std::wstring section;
-    std::wstring key;
+    std::wstring section;               ///< Any text without a null character, as the two that follow.
+    std::wstring key;                   ///< Of a value.
     std::optional<std::wstring> value;  ///< None removes the key.
 
     /// The change is of the section itself, and the key counts for nothing: with a value the section is made, though it

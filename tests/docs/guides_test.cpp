@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <memory>
 #include <optional>
 
 #include <gtest/gtest.h>
@@ -15,6 +16,7 @@
 #include <wx/translation.h>
 #include <wx/valnum.h>
 
+#include <fittings/config/store_config.h>
 #include <fittings/config/ui_config_mgr.h>
 #include <fittings/config/wx_window_state.h>
 #include <fittings/numedit/num_validator.h>
@@ -169,6 +171,15 @@ wxString WithUnit(const wxString& number, wxString unit)
     CNumberFormat format(eFixedFormat);
     format.m_strTemplate = ("%s " + unit).wc_str();
     return CNumberEditUtils::FormatControlText(number.wc_str(), format);
+}
+
+void UseStore(wxConfigBase& earlier)
+{
+    auto store = std::make_unique<wxStoreConfig>();
+    // What users have stored, once. If it cannot be saved, the next start tries again.
+    store->ImportFrom(earlier);
+    // The toolkit deletes the new one when the program ends.
+    delete wxConfigBase::Set(store.release());
 }
 
 double ReadNumber(const wchar_t* section, const wchar_t* key, double otherwise)
@@ -430,6 +441,19 @@ TEST_F(Guide, TakesOverAllThatAProgramHasStored)
     EXPECT_EQ(ReadNumber(L"View", L"Zoom", 1), 0.5);
     EXPECT_EQ(CLocalRegStore::GetString(L"wxWindowState", L"Main", L""), L"160;120;420;310");
     frame->Destroy();
+}
+
+TEST_F(Guide, GoesOnWithTheStoreAsItsConfiguration)
+{
+    wxConfigBase* const former = wxConfigBase::Set(nullptr);
+    auto* const earlier = new wxFileConfig("guide", "", "guide-earlier", "", wxCONFIG_USE_LOCAL_FILE);
+    earlier->Write("/Search/Folder", "/home/ada");
+    earlier->Write("Name", "Ada");
+    wxConfigBase::Set(earlier);
+    UseStore(*wxConfigBase::Get());
+    EXPECT_EQ(wxConfigBase::Get()->Read("/Search/Folder"), "/home/ada");
+    EXPECT_EQ(CLocalRegStore::GetString(L"", L"Name", L""), L"Ada");
+    delete wxConfigBase::Set(former);
 }
 
 TEST_F(Guide, ReadsAStoredNumberInAnyLocale)

@@ -13,6 +13,7 @@
 
 #include <fittings/colour/colour_combo.h>
 #include <fittings/colour/colour_popup.h>
+#include <fittings/config/store_config.h>
 #include <fittings/config/ui_config_mgr.h>
 #include <fittings/config/wx_window_state.h>
 #include <fittings/dialogs/file_dialog.h>
@@ -134,6 +135,16 @@ TEST(HeaderExamples, KeepAText)
     CLocalRegStore::WriteString(L"Search", L"LastText", L"a needle");
     wxString text = CLocalRegStore::GetString(L"Search", L"LastText", L"");
     EXPECT_EQ(text, "a needle");
+}
+
+TEST(HeaderExamples, UseTheStoreAsTheToolkitsConfiguration)
+{
+    const TempUserData data;
+    wxConfigBase* const former = wxConfigBase::Get(false);
+    wxConfigBase::Set(new wxStoreConfig);  // the toolkit deletes it when the program ends
+    wxConfigBase::Get()->Write("/Search/LastText", "a needle");
+    delete wxConfigBase::Set(former);
+    EXPECT_EQ(CLocalRegStore::GetString(L"Search", L"LastText", L""), L"a needle");
 }
 
 TEST(HeaderExamples, SaveAllAtOnce)

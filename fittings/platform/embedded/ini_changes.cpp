@@ -28,6 +28,8 @@ void CIniFile::DropSection(std::wstring_view section)
 
 void CIniFile::Apply(const std::vector<Change>& changes)
 {
+    m_changes.reserve(m_changes.size() + changes.size());
+    m_changed.reserve(m_changes.size() + changes.size());
     // GKeyFile finds the last key of a section first.
     for (auto change = changes.rbegin(); change != changes.rend(); ++change) {
         if (!change->isOfSection && !change->value)
