@@ -85,9 +85,10 @@ BrowserPage::BrowserPage(wxWindow* parent) : wxPanel(parent)
     m_firstLayout = m_layout.SavePerspective();
     BindEvents();
 
-    m_list->SortBy(browser_settings::LoadSortOrder());
+    m_list->SortBy(browser_settings::LoadEarlierSortOrder());
+    m_list->SetColumnWidths(browser_settings::LoadEarlierColumnWidths(m_list->GetColumnWidths().size()));
+    m_list->RememberColumns();
     m_filter->SetMegabytes(browser_settings::LoadMinimumSize());
-    m_list->SetColumnWidths(browser_settings::LoadColumnWidths(m_list->GetColumnWidths().size()));
 }
 
 BrowserPage::~BrowserPage()
@@ -138,8 +139,6 @@ void BrowserPage::ShowFloatingPanes(bool show)
 void BrowserPage::SaveSettings()
 {
     RememberRoot();
-    browser_settings::SaveSortOrder(m_list->GetSortOrder());
-    browser_settings::SaveColumnWidths(m_list->GetColumnWidths());
     browser_settings::SaveMinimumSize(m_filter->GetMegabytes());
     if (!m_layoutLoaded)
         return;

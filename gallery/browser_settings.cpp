@@ -113,7 +113,7 @@ void SaveFolderColour(const std::string& path, const wxColour& colour)
         CLocalRegStore::DeleteProfile(kColourSection, key.c_str());
 }
 
-SortOrder LoadSortOrder()
+SortOrder LoadEarlierSortOrder()
 {
     SortOrder order;
     switch (LoadInt(L"Contents", L"SortColumn")) {
@@ -133,12 +133,6 @@ SortOrder LoadSortOrder()
     return order;
 }
 
-void SaveSortOrder(SortOrder order)
-{
-    ui_config_mgr::WriteConfigInt(kFile, L"Contents", L"SortColumn", static_cast<int>(order.column));
-    ui_config_mgr::WriteConfigInt(kFile, L"Contents", L"SortDescending", order.ascending ? 0 : 1);
-}
-
 wxString LoadMinimumSize()
 {
     return ui_config_mgr::GetConfigString(kFile, L"Contents", L"AtLeastMB");
@@ -149,7 +143,7 @@ void SaveMinimumSize(const wxString& megabytes)
     ui_config_mgr::WriteConfigString(kFile, L"Contents", L"AtLeastMB", megabytes.wc_str());
 }
 
-std::vector<int> LoadColumnWidths(std::size_t count)
+std::vector<int> LoadEarlierColumnWidths(std::size_t count)
 {
     std::vector<int> widths;
     for (std::size_t i = 0; i < count; ++i) {
@@ -159,12 +153,6 @@ std::vector<int> LoadColumnWidths(std::size_t count)
         widths.push_back(width);
     }
     return widths;
-}
-
-void SaveColumnWidths(const std::vector<int>& widths)
-{
-    for (std::size_t i = 0; i < widths.size(); ++i)
-        ui_config_mgr::WriteConfigInt(kFile, L"Contents", WidthKey(i).c_str(), widths[i]);
 }
 
 }  // namespace fittings::browser_settings

@@ -33,16 +33,17 @@ void SaveSelectedFolder(const std::string& root, const std::string& path);
 wxColour LoadFolderColour(const std::string& path);
 void SaveFolderColour(const std::string& path, const wxColour& colour);
 
-SortOrder LoadSortOrder();
-void SaveSortOrder(SortOrder order);
-
 /// The smallest size listed, as SizeFilter takes it; empty when there is none.
 wxString LoadMinimumSize();
 void SaveMinimumSize(const wxString& megabytes);
 
-/// Empty in the first session, and when not all @a count widths can be used.
-std::vector<int> LoadColumnWidths(std::size_t count);
-void SaveColumnWidths(const std::vector<int>& widths);
+/// @name Of a version that kept the columns here
+/// @{
+SortOrder LoadEarlierSortOrder();
+
+/// Empty when not all @a count widths can be used.
+std::vector<int> LoadEarlierColumnWidths(std::size_t count);
+/// @}
 
 }  // namespace browser_settings
 

@@ -8,6 +8,8 @@
 #include <gtk/gtk.h>
 #include <wx/artprov.h>
 
+#include <fittings/config/persistence.h>
+
 #include "accessible_name.h"
 #include "native_text.h"
 
@@ -15,6 +17,7 @@ namespace fittings {
 
 namespace {
 
+constexpr int kNameCharacters = 24;
 constexpr SortColumn kColumns[] = {SortColumn::Name, SortColumn::Size, SortColumn::Type, SortColumn::Modified};
 
 unsigned IndexOf(SortColumn column)
@@ -186,7 +189,8 @@ ContentsList::ContentsList(wxWindow* parent)
 
     const int flags = wxDATAVIEW_COL_RESIZABLE | wxDATAVIEW_COL_SORTABLE;
     const int character = GetCharWidth();
-    AppendIconTextColumn("Name", IndexOf(SortColumn::Name), wxDATAVIEW_CELL_INERT, 24 * character, wxALIGN_LEFT, flags);
+    AppendIconTextColumn("Name", IndexOf(SortColumn::Name), wxDATAVIEW_CELL_INERT, kNameCharacters * character,
+                         wxALIGN_LEFT, flags);
     AppendTextColumn("Size", IndexOf(SortColumn::Size), wxDATAVIEW_CELL_INERT, 12 * character, wxALIGN_RIGHT, flags);
     AppendTextColumn("Kind", IndexOf(SortColumn::Type), wxDATAVIEW_CELL_INERT, 14 * character, wxALIGN_LEFT, flags);
     AppendTextColumn("Modified", IndexOf(SortColumn::Modified), wxDATAVIEW_CELL_INERT, 20 * character, wxALIGN_LEFT,
@@ -293,7 +297,12 @@ void ContentsList::SortBy(SortOrder order)
 
 void ContentsList::OnColumnSorted(wxDataViewEvent& event)
 {
-    const wxDataViewColumn* column = event.GetDataViewColumn();
+    SortByColumn(event.GetDataViewColumn());
+}
+
+/// Takes over the order that the header shows.
+void ContentsList::SortByColumn(const wxDataViewColumn* column)
+{
     if (column)
         SortBy({kColumns[column->GetModelColumn()], column->IsSortOrderAscending()});
 }
@@ -316,6 +325,14 @@ void ContentsList::SetColumnWidths(const std::vector<int>& widths)
 {
     for (unsigned i = 1; i < GetColumnCount() && i <= widths.size(); ++i)
         GetColumn(i)->SetWidth(widths[i - 1]);
+}
+
+void ContentsList::RememberColumns()
+{
+    wxPersistentRegisterAndRestore(this, GetName());
+    // Its width in a larger window would be its least one now.
+    GetColumn(IndexOf(SortColumn::Name))->SetWidth(kNameCharacters * GetCharWidth());
+    SortByColumn(GetSortingColumn());
 }
 
 }  // namespace fittings

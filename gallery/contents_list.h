@@ -61,8 +61,12 @@ public:
     void SetColumnWidths(const std::vector<int>& widths);
     /// @}
 
+    /// Brings widths and order of the last session back, where there was one, and has those of this one kept.
+    void RememberColumns();
+
 private:
     void OnColumnSorted(wxDataViewEvent& event);
+    void SortByColumn(const wxDataViewColumn* column);
     void ShowOrder();
 
     wxObjectDataPtr<ContentsModel> m_model;

@@ -12,6 +12,7 @@
 #include <wx/notebook.h>
 
 #include <fittings/base/version.h>
+#include <fittings/config/persistence.h>
 #include <fittings/config/wx_window_state.h>
 #include <fittings/platform/local_reg_store.h>
 
@@ -35,6 +36,7 @@ constexpr int kFirstPageId = wxID_HIGHEST + 1;
 
 GalleryFrame::GalleryFrame() : wxFrame(nullptr, wxID_ANY, "Fittings Gallery")
 {
+    wxStorePersistenceManager::Install();
     SetName("Gallery");
     SetMinSize(FromDIP(wxSize(480, 320)));
     wxSize size = FromDIP(wxSize(960, 640));

@@ -236,12 +236,48 @@ TEST_F(Remembering, OrderAndColumnWidthsComeBack)
     EXPECT_EQ(List().GetSortOrder().column, SortColumn::Modified);
 }
 
+// They were in a file of the gallery's own.
+TEST_F(Remembering, OrderAndColumnWidthsOfAnEarlierVersionComeBack)
+{
+    fs::create_directories(settings / "ui_config");
+    const std::string earlier = settings / "ui_config/browser.ini";
+    WriteFile(earlier, "[Contents]\nSortColumn=1\nSortDescending=1\nWidth1=111\nWidth2=122\nWidth3=133\n");
+    const std::vector<int> widths{111, 122, 133};
+    for (const std::string& folder : {root, root + "/a"}) {
+        Open(folder);
+        EXPECT_EQ(List().GetSortOrder().column, SortColumn::Size);
+        EXPECT_FALSE(List().GetSortOrder().ascending);
+        EXPECT_TRUE(List().GetColumn(1)->IsSortKey());
+        EXPECT_TRUE(PumpUntil([&] { return List().GetColumnWidths() == widths; }));
+        Close();
+        fs::remove(earlier);
+    }
+}
+
+TEST_F(Remembering, TheNameColumnComesBackNoWiderThanItsRoom)
+{
+    Open(root);
+    Resize(wxSize(1200, 640));
+    Close();
+    Open("");
+    Resize(wxSize(900, 640));
+    EXPECT_TRUE(PumpUntil([&] {
+        int width = List().GetColumn(0)->GetWidth();
+        for (const int other : List().GetColumnWidths())
+            width += other;
+        return width <= List().GetClientSize().x;
+    })) << List().GetColumn(0)->GetWidth();
+}
+
 TEST_F(Remembering, NonsenseInTheSettingsDoesNoHarm)
 {
     fs::create_directories(settings / "ui_config");
     WriteFile(settings / "ui_config/browser.ini", "[Contents]\nSortColumn=abc\nSortDescending=99999999999\nWidth1=-5\n"
                                                   "Width2=wide\nWidth3=100000\n[Folders]\nRoots=|/gone%zz\n");
-    WriteFile(settings / "settings.ini", "[wxWindowState]\nBrowser=1;2;x\n[TreeControlState]\n" + root + "=||%|\n");
+    WriteFile(settings / "settings.ini", "[wxWindowState]\nBrowser=1;2;x\n[TreeControlState]\n" + root + "=||%|\n" +
+                                             "[Persistent_Options/DataView/Contents/Columns/Size]\nWidth=-5\n" +
+                                             "[Persistent_Options/DataView/Contents/Columns/Kind]\nWidth=wide\n" +
+                                             "[Persistent_Options/DataView/Contents/Sorting]\nColumn=Colour\nAsc=x\n");
     Open(root);
     EXPECT_EQ(frame->GetSize(), wxSize(960, 640));
     EXPECT_EQ(List().GetSortOrder().column, SortColumn::Name);
