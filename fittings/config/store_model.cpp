@@ -64,6 +64,11 @@ void StoreModel::Rebuild()
         for (CLocalRegStore::Entry& entry : CLocalRegStore::GetEntries(*m_ini, section.c_str()))
             group.entries.Add(entry.key, {std::move(entry.value)});
     }
+    // The keys before the first section are the root's, too.
+    if (!m_root->isSection) {
+        for (CLocalRegStore::Entry& entry : CLocalRegStore::GetEntries(*m_ini, L""))
+            m_root->entries.Add(entry.key, {std::move(entry.value)});
+    }
     for (const StorePath& path : m_made)
         MakeStoreGroup(*m_root, path);
     m_current = &MakeStoreGroup(*m_root, m_currentPath);

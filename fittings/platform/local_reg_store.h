@@ -91,7 +91,8 @@ public:
 
     using Entry = fittings::SettingsEntry;  ///< A key and its value.
 
-    /// Returns the keys of @a section with their values, in the order of GetKeyNames(). Takes time in proportion to their number.
+    /// Returns the keys of @a section with their values, in the order of GetKeyNames(), in a time in proportion to their number.
+    /// Those of the section of the empty name come after the keys before the first section, as wxFileConfig writes them.
     static std::vector<Entry> GetEntries(const CIniFile& ini, const wchar_t* section);
 
     /// Writes the whole object to @a path, creating or replacing the file in one step.

@@ -51,7 +51,8 @@ bool CIniFile::HoldsAll(const std::vector<Change>& changes) const
 {
     return std::all_of(changes.begin(), changes.end(), [this](const Change& change) {
         if (!change.isOfSection)
-            return Has(change.section, change.key, change.value);
+            return Has(change.section, change.key, change.value) &&
+                   (change.value || !change.section.empty() || !HasEarlyKey(change.key));
         const bool isThere = !GroupNames(change.section).empty();
         return change.value ? isThere : !isThere || !KeyNames(change.section).empty();
     });

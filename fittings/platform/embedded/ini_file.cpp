@@ -135,6 +135,7 @@ void CIniFile::Clear()
     m_keys.reset(g_key_file_new());
     m_buffer = kFirstSection;
     m_otherSections.clear();
+    m_earlyKeys.clear();
     m_otherSlots.clear();
     m_changes.clear();
     m_changed.clear();
@@ -261,6 +262,12 @@ void CIniFile::Delete(std::wstring_view section, std::wstring_view key)
 {
     const Slot names(fittings::EncodeName(section), fittings::EncodeName(key));
     Remove(names);
+    for (auto early = m_earlyKeys.begin(); section.empty() && early != m_earlyKeys.end();) {
+        const bool isMeant = fittings::DecodeName(early->first) == key;
+        if (isMeant)
+            NoteChange({"", early->first});
+        early = isMeant ? m_earlyKeys.erase(early) : std::next(early);
+    }
     // A hand-written file may have the key under several names.
     const auto others = m_otherSlots.find(names);
     if (others == m_otherSlots.end())
@@ -286,31 +293,6 @@ std::vector<std::wstring> CIniFile::KeyNames(std::wstring_view section) const
         });
     }
     return Decoded(keys);
-}
-
-std::vector<fittings::SettingsEntry> CIniFile::Entries(std::wstring_view section) const
-{
-    std::vector<fittings::SettingsEntry> entries;
-    // Where each name stands as EncodeName() writes it, it leads to its value as it is.
-    const std::string group = fittings::EncodeName(section);
-    if (m_otherSections.empty() && m_otherSlots.empty()) {
-        gsize count = 0;
-        gchar** const names = g_key_file_get_keys(m_keys.get(), group.c_str(), &count, nullptr);
-        entries.reserve(count);
-        std::unordered_set<std::string_view> known;
-        for (gsize i = 0; i < count; ++i) {
-            const GText value = known.insert(names[i]).second ? Value({group, names[i]}) : GText(nullptr, g_free);
-            if (value)
-                entries.push_back({fittings::DecodeName(names[i]), fittings::DecodeValue(value.get())});
-        }
-        g_strfreev(names);
-        return entries;
-    }
-    for (std::wstring& key : KeyNames(section)) {
-        if (auto value = Get(section, key))
-            entries.push_back({std::move(key), *std::move(value)});
-    }
-    return entries;
 }
 
 std::vector<std::string> CIniFile::GroupNames() const
@@ -372,6 +354,10 @@ bool CIniFile::ParseBuffer()
         case fittings::IniLineKind::Key:
             if (isOther || !line.isPlainName)
                 NoteName(section, rawSection, line.name);
+            break;
+        case fittings::IniLineKind::EarlyKey:
+            m_earlyKeys.emplace_back(line.name, Text().substr(line.value, line.end - line.value));
+            mask.Put(start + line.begin, '#');
             break;
         case fittings::IniLineKind::BrokenSection:
         case fittings::IniLineKind::Unknown:
@@ -452,6 +438,10 @@ std::string CIniFile::ChangedText() const
     std::vector<fittings::IniEdit> edits;
     edits.reserve(m_changes.size());
     for (const Slot& slot : m_changes) {
+        if (slot.first.empty()) {
+            edits.push_back({"", slot.second, std::nullopt});
+            continue;
+        }
         if (slot.second.empty()) {
             const bool isThere = g_key_file_has_group(m_keys.get(), slot.first.c_str());
             edits.push_back({slot.first, "", isThere ? std::optional<std::string>("") : std::nullopt});

@@ -56,6 +56,7 @@ public:
     bool Has(std::wstring_view section, std::wstring_view key, std::optional<std::wstring_view> text) const;
 
     void Set(std::wstring_view section, std::wstring_view key, std::wstring_view value);
+    /// Of the section of the empty name it removes the keys before the first section, too.
     void Delete(std::wstring_view section, std::wstring_view key);
 
     /// Makes a section, which may stay without keys.
@@ -78,7 +79,8 @@ public:
     /// The names of a section's keys, each once, in the order of the file. New ones come last.
     std::vector<std::wstring> KeyNames(std::wstring_view section) const;
 
-    /// What KeyNames() names, with its values.
+    /// What KeyNames() names, with its values. Those of the section of the empty name come after the keys before the first
+    /// section that are not in it, too.
     std::vector<fittings::SettingsEntry> Entries(std::wstring_view section) const;
 
     /// The last Load() met a file that is there but could not be read.
@@ -100,6 +102,8 @@ private:
     void Clear();
     bool ParseBuffer();
     bool IsFresh() const;
+    bool HasEarlyKey(std::wstring_view key) const;
+    void AddEarlyKeys(std::vector<fittings::SettingsEntry>& entries) const;
     std::vector<std::string> GroupNames() const;
     std::vector<std::string> GroupNames(std::wstring_view section) const;
     std::optional<std::string> Merged(std::string_view expected, std::string_view put,
@@ -118,6 +122,8 @@ private:
     std::string m_buffer;
     /// What stands in the text under a name that EncodeName() writes otherwise, by the name that it writes.
     std::unordered_map<std::string, std::vector<std::string>> m_otherSections;
+    /// The keys before the first section, as they stand in the text, with their values.
+    std::vector<std::pair<std::string, std::string>> m_earlyKeys;
     std::map<Slot, std::vector<Slot>> m_otherSlots;
     /// The changed slots, each once, in the order of their first change. The key is empty where a section was added or removed.
     std::vector<Slot> m_changes;

@@ -97,16 +97,17 @@ private:
     void Locate()
     {
         IniLines lines(m_text);
-        SectionPlan* plan = nullptr;
+        const auto early = m_plans.find("");
+        SectionPlan* plan = early == m_plans.end() ? nullptr : &early->second;
         for (IniLine line; lines.Next(line);) {
             if (line.kind == IniLineKind::Section || line.kind == IniLineKind::BrokenSection) {
                 const auto found = line.kind == IniLineKind::Section ? m_plans.find(line.name) : m_plans.end();
                 plan = found == m_plans.end() ? nullptr : &found->second;
             }
-            if (!plan || (line.kind != IniLineKind::Section && line.kind != IniLineKind::Key))
+            const bool isKey = line.kind == IniLineKind::Key || line.kind == IniLineKind::EarlyKey;
+            if (!plan || (line.kind != IniLineKind::Section && !isKey))
                 continue;
             plan->insertAt = line.next;
-            const bool isKey = line.kind == IniLineKind::Key;
             if (const auto found = plan->lines.find(isKey ? line.name : std::string_view()); found != plan->lines.end())
                 found->second.push_back(line);
         }
@@ -207,10 +208,10 @@ bool IniLines::Next(IniLine& line)
     }
     m_at = line.next;
     line.kind = Classify(line);
-    if (line.kind == IniLineKind::Section)
-        m_inSection = true;
-    else if (line.kind == IniLineKind::BrokenSection)
-        m_inSection = false;
+    if (line.kind == IniLineKind::Section || line.kind == IniLineKind::BrokenSection) {
+        m_hasSection = true;
+        m_inSection = line.kind == IniLineKind::Section;
+    }
     return true;
 }
 
@@ -223,9 +224,10 @@ IniLineKind IniLines::Classify(IniLine& line)
         return IniLineKind::Comment;
     if (text.front() == '[')
         return ClassifySection(line, text);
-    if (text.front() == ';' || !m_inSection)
+    if (text.front() == ';' || (m_hasSection && !m_inSection))
         return IniLineKind::Unknown;
-    return ClassifyKey(line, text);
+    const IniLineKind kind = ClassifyKey(line, text);
+    return kind == IniLineKind::Key && !m_hasSection ? IniLineKind::EarlyKey : kind;
 }
 
 IniLineKind IniLines::ClassifySection(IniLine& line, std::string_view text) const

@@ -14,6 +14,7 @@ enum class IniLineKind {
     Comment,        ///< A blank line or one that starts with '#'.
     Section,        ///< [name]
     Key,            ///< name=value below a section.
+    EarlyKey,       ///< name=value before the first section.
     BrokenSection,  ///< Starts with '[' but is no section line. Keys below it belong to no section.
     Unknown,        ///< All else, lines that start with ';' among them.
 };
@@ -49,6 +50,7 @@ private:
     std::string_view m_text;
     std::size_t m_at = 0;
     bool m_hasNul;
+    bool m_hasSection = false;
     bool m_inSection = false;
 };
 
@@ -57,8 +59,8 @@ std::size_t ByteOrderMarkSize(std::string_view text);
 
 struct IniEdit
 {
-    std::string section;               ///< As it stands in the text.
-    std::string key;                   ///< As it stands in the text. Empty: the edit is of the section itself.
+    std::string section;  ///< As it stands in the text. Empty: the edit removes a key before the first section.
+    std::string key;      ///< As it stands in the text. Empty: the edit is of the section itself.
     std::optional<std::string> value;  ///< None removes the key, or the line of the section.
 };
 

@@ -362,6 +362,19 @@ TEST_F(StoreConfig, KeepsWhatAPersonWroteBesideItsChanges)
     EXPECT_EQ(ReadFile(Path()), "# mine\n[a]\nx=3\n\n# of b\n; old\n");
 }
 
+TEST_F(StoreConfig, FindsTheKeysBeforeTheFirstSection)
+{
+    Open("# mine\nName=Ada\nAge=1\nName=Eva\n; Old=1\n\n[g]\nk=v\n[half\nno=1\n");
+    EXPECT_EQ(Dump(*m_config), "Name=Eva\nAge=1\n[g]\nk=v\n");
+    EXPECT_TRUE(m_config->Write("Age", "2"));
+    EXPECT_EQ(Saved(), "Name=Eva\nAge=2\n[g]\nk=v\n");
+    EXPECT_TRUE(m_config->DeleteEntry("Name"));
+    EXPECT_TRUE(m_config->DeleteEntry("Age"));
+    EXPECT_EQ(Saved(), "[g]\nk=v\n");
+    EXPECT_EQ(ReadFile(Path()), "# mine\n; Old=1\n\n[g]\nk=v\n[half\nno=1\n\n");
+    EXPECT_FALSE(m_config->HasEntry("Name"));
+}
+
 TEST_F(StoreConfig, EnumeratesWhileEntriesGo)
 {
     for (int i = 0; i < 100; ++i)
