@@ -162,7 +162,7 @@ std::wstring LoadLastFile(const char* entry)
 
 std::wstring LoadLastPath(const char* entry)
 {
-    const std::wstring path = LoadLastFile(entry);
+    std::wstring path = LoadLastFile(entry);
     if (!*entry || !path.empty())
         return path;
     return file_util_ex::GetPathWithSep(std_file_paths::GetAppFolderPath(kSamplesFolder).c_str());

@@ -61,7 +61,7 @@ int Choose(wxFileDialog& dialog, const std::string& path)
     return wxID_OK;
 }
 
-int ShowAndChoose(wxFileDialog&& dialog, const std::string& path)
+int ShowAndChoose(wxFileDialog& dialog, const std::string& path)
 {
     const Answer answer([&](wxDialog*) { return Choose(dialog, path); });
     return dialog.ShowModal();

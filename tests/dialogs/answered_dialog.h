@@ -42,7 +42,11 @@ wxArrayString PathsOf(const wxFileDialog& dialog);
 int Choose(wxFileDialog& dialog, const std::string& path);
 
 /// The result of a dialog in which the file is chosen.
-int ShowAndChoose(wxFileDialog&& dialog, const std::string& path);
+int ShowAndChoose(wxFileDialog& dialog, const std::string& path);
+inline int ShowAndChoose(wxFileDialog&& dialog, const std::string& path)
+{
+    return ShowAndChoose(dialog, path);
+}
 
 /// Shows the dialog on the screen, and accepts it as a user does when the condition holds; cancels it when it never does.
 int AcceptWhen(wxFileDialog& dialog, const std::function<bool()>& isReady);

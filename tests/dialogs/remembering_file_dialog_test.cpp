@@ -108,7 +108,7 @@ TEST_F(RememberingFileDialog, RemembersNothingWithoutAnEntry)
     EXPECT_NE(FolderOf(dialog), m_plain);
     EXPECT_EQ(NameOf(dialog), "");
     const std::string before = Settings();
-    EXPECT_EQ(ShowAndChoose(std::move(dialog), m_plain + "/other.csv"), wxID_OK);
+    EXPECT_EQ(ShowAndChoose(dialog, m_plain + "/other.csv"), wxID_OK);
     EXPECT_EQ(Settings(), before);
 }
 
@@ -135,7 +135,7 @@ TEST_F(RememberingFileDialog, CanBeMadeInTwoSteps)
     EXPECT_TRUE(dialog.Create(nullptr, "Report", "Save it", kTables, wxFD_SAVE));
     EXPECT_EQ(TitleOf(dialog), "Save it");
     EXPECT_EQ(NameOf(dialog), "report.csv");
-    EXPECT_EQ(ShowAndChoose(std::move(dialog), m_plain + "/other.csv"), wxID_OK);
+    EXPECT_EQ(ShowAndChoose(dialog, m_plain + "/other.csv"), wxID_OK);
     EXPECT_EQ(StoredFile(), m_plain + "/other.csv");
 }
 
@@ -143,7 +143,7 @@ TEST_F(RememberingFileDialog, RemembersEachOfItsShowings)
 {
     SaveDialog dialog;
     for (const char* const name : {"/one.csv", "/two.csv"}) {
-        ShowAndChoose(std::move(dialog), m_plain + name);
+        ShowAndChoose(dialog, m_plain + name);
         EXPECT_EQ(StoredFile(), m_plain + name);
     }
 }
@@ -261,7 +261,7 @@ TEST_F(RememberedFilter, OfAWildcardThatTheProgramSetLater)
     SaveDialog dialog;
     dialog.SetWildcard("Projects|*.prj|All files|*");
     dialog.SetFilterIndex(1);
-    ShowAndChoose(std::move(dialog), m_plain + "/report.csv");
+    ShowAndChoose(dialog, m_plain + "/report.csv");
     EXPECT_EQ(Stored("LastFilters", "Report"), "*");
 }
 
