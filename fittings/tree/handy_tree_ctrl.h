@@ -92,20 +92,20 @@ public:
 
     /// Stores which items are expanded, collapsed levels included.
     void SaveState(const wxString& name, wxTreeCursor& start);
-    void SaveState(const wxString& name, const wxTreeCursor& start);
+    void SaveState(const wxString& name, const wxTreeCursor& start);  ///< For a constant cursor.
 
     /// Stores them under the name of SetProfile().
     void SaveState(wxTreeCursor& start);
-    void SaveState(const wxTreeCursor& start);
+    void SaveState(const wxTreeCursor& start);  ///< For a constant cursor.
 
     /// Expands the items whose labels were stored, parents first, so that children made by OnItemExpanding() are
     /// restored too. Nothing is collapsed.
     void LoadState(const wxString& name, wxTreeCursor& start);
-    void LoadState(const wxString& name, const wxTreeCursor& start);
+    void LoadState(const wxString& name, const wxTreeCursor& start);  ///< For a constant cursor.
 
     /// Expands those stored under the name of SetProfile().
     void LoadState(wxTreeCursor& start);
-    void LoadState(const wxTreeCursor& start);
+    void LoadState(const wxTreeCursor& start);  ///< For a constant cursor.
 
     /// @}
 

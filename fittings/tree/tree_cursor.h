@@ -63,15 +63,18 @@ public:
     /// Makes the cursor invalid; the tree is kept.
     void Unset() { item.Unset(); }
 
-    /// Whether both stand on the same item, or on none.
-    friend bool operator==(const wxTreeCursor& left, const wxTreeCursor& right) { return left.item == right.item; }
+    /// @cond
     friend bool operator==(const wxTreeCursor& left, const wxTreeItemId& right) { return left.item == right; }
     friend bool operator==(const wxTreeItemId& left, const wxTreeCursor& right) { return left == right.item; }
-
-    /// Whether they stand on different items.
-    friend bool operator!=(const wxTreeCursor& left, const wxTreeCursor& right) { return !(left == right); }
     friend bool operator!=(const wxTreeCursor& left, const wxTreeItemId& right) { return !(left == right); }
     friend bool operator!=(const wxTreeItemId& left, const wxTreeCursor& right) { return !(left == right); }
+    /// @endcond
+
+    /// Whether both stand on the same item, or on none. Either may be the toolkit's wxTreeItemId.
+    friend bool operator==(const wxTreeCursor& left, const wxTreeCursor& right) { return left.item == right.item; }
+
+    /// Whether they stand on different items. Either may be the toolkit's wxTreeItemId.
+    friend bool operator!=(const wxTreeCursor& left, const wxTreeCursor& right) { return !(left == right); }
 
     /// @}
 
