@@ -138,11 +138,13 @@ public:
     wxString GetKind() const override;  ///< Part of the section's name.
 
 private:
+    /// @cond
     struct State
     {
         wxString widths;
         wxString order;
     };
+    /// @endcond
 
     std::optional<State> GetState() const;
 
