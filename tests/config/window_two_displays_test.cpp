@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 #include <wx/display.h>
 
+#include <fittings/config/persistence.h>
 #include <fittings/platform/local_reg_store.h>
 #include <tests/config/spy_window.h>
 #include <tests/support/gui.h>
@@ -79,5 +80,20 @@ INSTANTIATE_TEST_SUITE_P(, StoredOnTwoDisplays,
                                                   wxRect(940, 100, 300, 200)},
                                          Restored{"OffBoth", L"1300;100;300;200", wxRect(16, 24, 284, 176)}),
                          [](const auto& info) { return info.param.name; });
+
+TEST(PersistentFrame, ComesOntoTheDisplayThatShowsMostOfIt)
+{
+    const TempUserData data;
+    wxStorePersistenceManager::Install();
+    const wchar_t* const section = L"Persistent_Options/Window/w";
+    CLocalRegStore::WriteString(section, L"x", L"1100");
+    CLocalRegStore::WriteString(section, L"y", L"900");
+    CLocalRegStore::WriteString(section, L"w", L"300");
+    CLocalRegStore::WriteString(section, L"h", L"200");
+    SpyFrame frame;
+    EXPECT_TRUE(wxPersistentRegisterAndRestore(static_cast<wxFrame*>(&frame), "w"));
+    ASSERT_TRUE(ShowAndSettle(&frame));
+    EXPECT_EQ(frame.GetScreenRect(), wxRect(1100, 900, 140, 84));
+}
 
 }  // namespace
