@@ -148,9 +148,12 @@ TEST_F(Sizes, StoppingTakesAMomentAndKeepsWhatIsKnown)
 {
     Open(MakeLargeFolder());
     ASSERT_TRUE(ComesToRest());
-    Row().Start(memory.Path());
-    ASSERT_TRUE(PumpUntil([&] { return Row().GetBar()->GetValue() > 0 || !Row().IsRunning(); }));
-    ASSERT_TRUE(Row().IsRunning());
+    // On a busy machine the worker may be done before the window has heard of it once.
+    ASSERT_TRUE(PumpUntil([&] {
+        if (!Row().IsRunning())
+            Row().Start(memory.Path());
+        return PumpUntil([&] { return Row().GetBar()->GetValue() > 0 || !Row().IsRunning(); }) && Row().IsRunning();
+    }));
     EXPECT_EQ(Row().GetButton()->GetLabelText(), "Stop");
 
     wxCommandEvent click(wxEVT_BUTTON, Row().GetButton()->GetId());
