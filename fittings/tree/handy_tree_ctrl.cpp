@@ -13,7 +13,7 @@ namespace {
 
 constexpr wchar_t kStateSection[] = L"TreeControlState";
 
-/// What the toolkit takes before it has measured an item.
+/// Lower than any text: the toolkit raises it to the highest item that it measures.
 constexpr int kLeastRowHeight = 10;
 
 // For the whole application, not only for this control: filling may take a while, and nothing else answers meanwhile.

@@ -53,7 +53,7 @@ public:
 
     ~wxHandyTreeCtrl() override;
 
-    /// Creates the control with the toolkit's default tree style, and its image list, whose images make the rows 23 pixels high.
+    /// Creates the control with the toolkit's default tree style, and its image list, which may make the rows a little higher.
     void Create(wxWindow* parent);
 
     /// Creates the control as the toolkit's Create() does: without an image list. False when it could not be created.

