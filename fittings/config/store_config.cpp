@@ -36,12 +36,12 @@ std::wstring PathOfFile(const wxString& file)
 
 wxString NameOfApp()
 {
-    return wxTheApp ? wxTheApp->GetAppName() : wxString();
+    return wxAppConsole::GetInstance() ? wxAppConsole::GetInstance()->GetAppName() : wxString();
 }
 
 wxString VendorOfApp()
 {
-    return wxTheApp ? wxTheApp->GetVendorName() : wxString();
+    return wxAppConsole::GetInstance() ? wxAppConsole::GetInstance()->GetVendorName() : wxString();
 }
 
 // The store's texts have no null characters.
