@@ -97,7 +97,7 @@ bool fittings::RestoreGeometry(wxWindow& window, const wxRect& stored)
         window.SetSize(stored, wxSIZE_ALLOW_MINUS_ONE);
         // A window that had to grow or shrink may have moved with it.
         window.SetSize(stored.x, stored.y, -1, -1, wxSIZE_USE_EXISTING);
-        if (auto* const topLevel = wxDynamicCast(&window, wxTopLevelWindow))
+        if (auto* const topLevel = dynamic_cast<wxTopLevelWindow*>(&window))
             KeepPlace(*topLevel);
     }
     return BringOntoDisplay(window);

@@ -61,7 +61,7 @@ public:
 private:
     void OnMaximize(wxMaximizeEvent& event)
     {
-        auto* frame = wxDynamicCast(event.GetEventObject(), wxFrame);
+        auto* frame = dynamic_cast<wxFrame*>(event.GetEventObject());
         if (!frame)
             return;
         // Before maximising, so that the toolkit's own event about it does not come here.
@@ -92,7 +92,7 @@ void wx_window_state::SaveState(wxFrame* frame, const wchar_t* name)
 
 bool wx_window_state::LoadState(wxWindow* window, const wchar_t* name)
 {
-    if (auto* const topLevel = wxDynamicCast(window, wxTopLevelWindow))
+    if (auto* const topLevel = dynamic_cast<wxTopLevelWindow*>(window))
         fittings::ShowWithoutDelay(*topLevel);
     const auto stored = ParseGeometry(CLocalRegStore::GetString(kGeometrySection, OrEmpty(name), L""));
     if (!stored)
