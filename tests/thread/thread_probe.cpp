@@ -223,7 +223,7 @@ void Throw()
     worker.SetEndEvent(wxNewEventType());
     worker.RunThread();
     worker.Wait();
-    wxTheApp->ProcessPendingEvents();
+    wxAppConsole::GetInstance()->ProcessPendingEvents();
     Say("end events", static_cast<long>(recorder.events.size()));
     Say("with", Number(recorder.events.empty() ? nullptr : recorder.events.front().data));
 }
