@@ -5,7 +5,7 @@
 #include <glib.h>
 #include <wx/event.h>
 
-#include <gallery/size_worker.h>
+#include <gallery/folders/size_worker.h>
 
 namespace {
 
@@ -15,7 +15,7 @@ void GallerySum(benchmark::State& state)
 {
     for (auto _ : state) {
         wxEvtHandler handler;
-        fittings::SizeWorker worker(&handler, wxEVT_BUTTON, 1, kFolder);
+        gallery::SizeWorker worker(&handler, wxEVT_BUTTON, 1, kFolder);
         worker.RunThread();
         worker.Wait();
         if (!worker.TakeNews().done)

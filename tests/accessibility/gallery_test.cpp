@@ -11,7 +11,7 @@
 
 namespace {
 
-using namespace fittings::simulated_user;
+using namespace gallery::simulated_user;
 using testing::IsEmpty;
 using testing::IsSupersetOf;
 

@@ -7,12 +7,12 @@
 #include <gtk/gtk.h>
 #include <wx/aui/floatpane.h>
 
-#include <gallery/folder_listing.h>
-#include <gallery/frame_rect.h>
-#include <gallery/native_text.h>
+#include <gallery/folders/folder_listing.h>
+#include <gallery/folders/native_text.h>
+#include <gallery/pages/window_helpers.h>
 
-using namespace fittings;
-using namespace fittings::simulated_user;
+using namespace gallery;
+using namespace gallery::simulated_user;
 
 BrowserTest::BrowserTest() : root(std::filesystem::canonical(temp.Path()).native()) {}
 

@@ -4,11 +4,11 @@
 #include <string>
 #include <vector>
 
-#include <gallery/browser_page.h>
-#include <gallery/contents_list.h>
-#include <gallery/folder_tree.h>
-#include <gallery/gallery_frame.h>
-#include <gallery/simulated_user.h>
+#include <gallery/app/gallery_frame.h>
+#include <gallery/browser/browser_page.h>
+#include <gallery/browser/contents_list.h>
+#include <gallery/browser/folder_tree.h>
+#include <gallery/tour/simulated_user.h>
 #include <gtest/gtest.h>
 
 #include <tests/support/gui.h>
@@ -30,8 +30,8 @@ protected:
     /// Gives the window another size and waits until all of it is on the screen so.
     void Resize(const wxSize& size);
 
-    fittings::FolderTree& Tree() { return *frame->GetBrowser()->GetTree(); }
-    fittings::ContentsList& List() { return *frame->GetBrowser()->GetList(); }
+    gallery::FolderTree& Tree() { return *frame->GetBrowser()->GetTree(); }
+    gallery::ContentsList& List() { return *frame->GetBrowser()->GetList(); }
 
     /// The names in the list, from the top.
     std::vector<std::string> Rows();
@@ -52,7 +52,7 @@ protected:
     TempUserData settings;
     TempFolder temp;
     std::string root;  ///< As the browser names it.
-    fittings::GalleryFrame* frame = nullptr;
+    gallery::GalleryFrame* frame = nullptr;
 };
 
 #endif

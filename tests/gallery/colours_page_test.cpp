@@ -11,15 +11,15 @@
 #include <wx/textctrl.h>
 
 #include <fittings/colour/colour_combo.h>
-#include <gallery/colour_field.h>
-#include <gallery/colour_option_fields.h>
-#include <gallery/colours_page.h>
+#include <gallery/colours/colour_field.h>
+#include <gallery/colours/colour_option_fields.h>
+#include <gallery/colours/colours_page.h>
 #include <tests/gallery/browser_fixture.h>
 
 namespace {
 
-using namespace fittings;
-using namespace fittings::simulated_user;
+using namespace gallery;
+using namespace gallery::simulated_user;
 using Clock = std::chrono::steady_clock;
 using Strings = std::vector<std::string>;
 

@@ -4,15 +4,15 @@
 #include <wx/notebook.h>
 #include <wx/stattext.h>
 
-#include <gallery/browser_settings.h>
-#include <gallery/folder_colour_combo.h>
-#include <gallery/folder_listing.h>
+#include <gallery/browser/browser_settings.h>
+#include <gallery/browser/folder_colour_combo.h>
+#include <gallery/folders/folder_listing.h>
 #include <tests/gallery/browser_fixture.h>
 
 namespace {
 
-using namespace fittings;
-using namespace fittings::simulated_user;
+using namespace gallery;
+using namespace gallery::simulated_user;
 namespace fs = std::filesystem;
 
 const wxColour darkRed(139, 0, 0);

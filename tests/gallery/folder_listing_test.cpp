@@ -1,4 +1,4 @@
-#include <gallery/folder_listing.h>
+#include <gallery/folders/folder_listing.h>
 
 #include <cerrno>
 #include <filesystem>
@@ -15,7 +15,7 @@
 
 namespace {
 
-using namespace fittings;
+using namespace gallery;
 namespace fs = std::filesystem;
 
 /// The entry @a name; an empty one, and a failed test, when there is none.

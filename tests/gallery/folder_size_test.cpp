@@ -1,4 +1,4 @@
-#include <gallery/folder_size.h>
+#include <gallery/folders/folder_size.h>
 
 #include <filesystem>
 #include <map>
@@ -15,7 +15,7 @@
 
 namespace {
 
-using namespace fittings;
+using namespace gallery;
 namespace fs = std::filesystem;
 
 /// Writes down what it is told.

@@ -1,4 +1,4 @@
-#include <gallery/native_text.h>
+#include <gallery/folders/native_text.h>
 
 #include <clocale>
 #include <random>
@@ -7,7 +7,7 @@
 
 namespace {
 
-using namespace fittings;
+using namespace gallery;
 
 TEST(DisplayText, KeepsText)
 {

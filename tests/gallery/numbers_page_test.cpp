@@ -10,15 +10,15 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
-#include <gallery/number_format_fields.h>
-#include <gallery/numbers_page.h>
+#include <gallery/numbers/number_format_fields.h>
+#include <gallery/numbers/numbers_page.h>
 #include <tests/gallery/browser_fixture.h>
 #include <tests/numedit/known_formats.h>
 
 namespace {
 
-using namespace fittings;
-using namespace fittings::simulated_user;
+using namespace gallery;
+using namespace gallery::simulated_user;
 
 class NumbersPageTest : public BrowserTest
 {

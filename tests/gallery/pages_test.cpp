@@ -3,13 +3,13 @@
 #include <wx/menu.h>
 #include <wx/notebook.h>
 
-#include <gallery/numbers_page.h>
+#include <gallery/numbers/numbers_page.h>
 #include <tests/gallery/browser_fixture.h>
 
 namespace {
 
-using namespace fittings;
-using namespace fittings::simulated_user;
+using namespace gallery;
+using namespace gallery::simulated_user;
 namespace fs = std::filesystem;
 
 class Pages : public BrowserTest

@@ -1,4 +1,4 @@
-#include <gallery/readable_colour.h>
+#include <gallery/pages/readable_colour.h>
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 
 namespace {
 
-using namespace fittings;
+using namespace gallery;
 
 const wxColour kWhite(255, 255, 255);
 const wxColour kBlack(0, 0, 0);
@@ -45,7 +45,7 @@ TEST(ReadableColour, ComesOfEachColourOnAnyBackground)
     for (int level = 0; level <= 255; level += 5) {
         const auto channel = static_cast<unsigned char>(level);
         const wxColour background(channel, channel, channel);
-        for (int i = 0; i < kColourCount; ++i) {
+        for (int i = 0; i < fittings::kColourCount; ++i) {
             wxColour colour;
             colour.SetRGB(GetColourTable()[i].crColour);
             EXPECT_GE(ContrastRatio(background, ReadableOn(background, colour)), 4.5) << level << " " << i;

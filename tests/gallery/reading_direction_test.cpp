@@ -7,8 +7,8 @@
 
 namespace {
 
-using namespace fittings;
-using namespace fittings::simulated_user;
+using namespace gallery;
+using namespace gallery::simulated_user;
 
 struct Room
 {

@@ -6,7 +6,7 @@
 
 namespace {
 
-using namespace fittings;
+using namespace gallery;
 namespace fs = std::filesystem;
 
 class RecentFoldersMenu : public BrowserTest

@@ -3,13 +3,13 @@
 #include <wx/display.h>
 #include <wx/menu.h>
 
-#include <gallery/folder_listing.h>
+#include <gallery/folders/folder_listing.h>
 #include <tests/gallery/browser_fixture.h>
 
 namespace {
 
-using namespace fittings;
-using namespace fittings::simulated_user;
+using namespace gallery;
+using namespace gallery::simulated_user;
 namespace fs = std::filesystem;
 
 class Remembering : public BrowserTest

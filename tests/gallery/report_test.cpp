@@ -1,4 +1,4 @@
-#include <gallery/report.h>
+#include <gallery/folders/report.h>
 
 #include <cerrno>
 #include <filesystem>
@@ -7,13 +7,13 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <gallery/native_text.h>
+#include <gallery/folders/native_text.h>
 #include <tests/support/as_nobody.h>
 #include <tests/support/temp_folder.h>
 
 namespace {
 
-using namespace fittings;
+using namespace gallery;
 namespace fs = std::filesystem;
 
 Entry File(const std::string& name, std::uint64_t size)

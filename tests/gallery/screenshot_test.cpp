@@ -4,11 +4,11 @@
 #include <gtest/gtest.h>
 #include <wx/frame.h>
 
-#include <gallery/frame_rect.h>
-#include <gallery/screenshot.h>
+#include <gallery/pages/window_helpers.h>
+#include <gallery/tour/screenshot.h>
 #include <tests/support/temp_folder.h>
 
-namespace fittings {
+namespace gallery {
 namespace {
 
 TEST(AScreenshot, ShowsAWindowWithItsDecorationsThoughItHasNoPlaceYet)
@@ -38,4 +38,4 @@ TEST(AScreenshot, IsFalseWhereItCannotBeWritten)
 }
 
 }  // namespace
-}  // namespace fittings
+}  // namespace gallery

@@ -4,14 +4,14 @@
 #include <wx/statusbr.h>
 #include <wx/textctrl.h>
 
-#include <gallery/size_filter.h>
-#include <gallery/sizes_row.h>
+#include <gallery/browser/size_filter.h>
+#include <gallery/browser/sizes_row.h>
 #include <tests/gallery/browser_fixture.h>
 
 namespace {
 
-using namespace fittings;
-using namespace fittings::simulated_user;
+using namespace gallery;
+using namespace gallery::simulated_user;
 namespace fs = std::filesystem;
 using Strings = std::vector<std::string>;
 

@@ -1,4 +1,4 @@
-#include <gallery/sizes_row.h>
+#include <gallery/browser/sizes_row.h>
 
 #include <chrono>
 #include <filesystem>
@@ -7,16 +7,16 @@
 #include <wx/button.h>
 #include <wx/gauge.h>
 
-#include <gallery/native_text.h>
-#include <gallery/size_worker.h>
+#include <gallery/folders/native_text.h>
+#include <gallery/folders/size_worker.h>
 #include <tests/gallery/browser_fixture.h>
 #include <tests/gallery/listed_size.h>
 #include <tests/support/patience.h>
 
 namespace {
 
-using namespace fittings;
-using namespace fittings::simulated_user;
+using namespace gallery;
+using namespace gallery::simulated_user;
 namespace fs = std::filesystem;
 using Strings = std::vector<std::string>;
 

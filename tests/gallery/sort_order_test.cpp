@@ -1,4 +1,4 @@
-#include <gallery/folder_listing.h>
+#include <gallery/folders/folder_listing.h>
 
 #include <random>
 
@@ -9,7 +9,7 @@
 
 namespace {
 
-using namespace fittings;
+using namespace gallery;
 
 Entry Make(const std::string& name, EntryKind kind, const std::string& type, std::uint64_t size, std::int64_t modified)
 {

@@ -4,16 +4,16 @@
 #include <sys/stat.h>
 #include <wx/infobar.h>
 
-#include <gallery/folder_listing.h>
-#include <gallery/native_text.h>
+#include <gallery/folders/folder_listing.h>
+#include <gallery/folders/native_text.h>
 #include <tests/gallery/browser_fixture.h>
 #include <tests/support/as_nobody.h>
 #include <tests/support/processor_time.h>
 
 namespace {
 
-using namespace fittings;
-using namespace fittings::simulated_user;
+using namespace gallery;
+using namespace gallery::simulated_user;
 namespace fs = std::filesystem;
 using Strings = std::vector<std::string>;
 

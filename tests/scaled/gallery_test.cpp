@@ -9,7 +9,7 @@
 namespace {
 
 namespace fs = std::filesystem;
-using namespace fittings::simulated_user;
+using namespace gallery::simulated_user;
 
 /// Whether each of the image's columns is like one beside it: it had half as many, or fewer.
 bool WasMadeLarger(const wxImage& image)

@@ -1,0 +1,338 @@
+#include <gallery/browser/contents_list.h>
+
+#include <algorithm>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+
+#include <gtk/gtk.h>
+#include <wx/artprov.h>
+
+#include <fittings/config/persistence.h>
+
+#include <gallery/folders/native_text.h>
+#include <gallery/pages/window_helpers.h>
+
+namespace gallery {
+
+namespace {
+
+constexpr int kNameCharacters = 24;
+constexpr SortColumn kColumns[] = {SortColumn::Name, SortColumn::Size, SortColumn::Type, SortColumn::Modified};
+
+unsigned IndexOf(SortColumn column)
+{
+    return static_cast<unsigned>(std::find(std::begin(kColumns), std::end(kColumns), column) - std::begin(kColumns));
+}
+
+/// Lines the texts up with their header, and shortens those that are too long in the middle.
+void Space(GtkTreeViewColumn* column, int pixels)
+{
+    GList* cells = gtk_cell_layout_get_cells(GTK_CELL_LAYOUT(column));
+    for (const GList* cell = cells; cell; cell = cell->next) {
+        g_object_set(cell->data, "xpad", pixels, nullptr);
+        if (GTK_IS_CELL_RENDERER_TEXT(cell->data))
+            g_object_set(cell->data, "ellipsize", PANGO_ELLIPSIZE_MIDDLE, nullptr);
+    }
+    g_list_free(cells);
+}
+
+wxBitmapBundle Icon(const wxArtID& id)
+{
+    return wxArtProvider::GetBitmapBundle(id, wxART_OTHER, wxSize(16, 16));
+}
+
+}  // namespace
+
+class ContentsModel : public wxDataViewVirtualListModel
+{
+public:
+    ContentsModel()
+        : m_folder(Icon(wxART_FOLDER)), m_file(Icon(wxART_NORMAL_FILE)), m_program(Icon(wxART_EXECUTABLE_FILE)),
+          m_link(Icon("emblem-symbolic-link"))
+    {
+    }
+
+    void SetEntries(std::vector<Entry> entries, SortOrder order)
+    {
+        m_folders.clear();
+        m_entries = std::move(entries);
+        Sort(order);
+        Reset(static_cast<unsigned>(m_positions.size()));
+    }
+
+    void SetMinimum(std::uint64_t bytes)
+    {
+        m_minimum = bytes;
+        m_positions = LargeOnes();
+        Reset(static_cast<unsigned>(m_positions.size()));
+    }
+
+    /// Takes out the rows that have proved too small. What is on the screen stays there, which after a Reset() is drawn
+    /// anew some time later.
+    void RemoveSmallOnes()
+    {
+        wxArrayInt rows;
+        for (std::size_t row = 0; row < m_positions.size(); ++row) {
+            if (!IsLarge(m_entries[m_positions[row]]))
+                rows.push_back(static_cast<int>(row));
+        }
+        m_positions = LargeOnes();
+        if (!rows.empty())
+            RowsDeleted(rows);
+    }
+
+    /// The size is not drawn before its row is.
+    void SetFolderSize(const std::string& name, std::uint64_t size)
+    {
+        if (m_folders.empty()) {
+            for (std::size_t i = 0; i < m_entries.size(); ++i) {
+                if (m_entries[i].kind == EntryKind::Folder)
+                    m_folders.emplace(m_entries[i].name, i);
+            }
+        }
+        const auto found = m_folders.find(name);
+        if (found != m_folders.end()) {
+            m_entries[found->second].size = size;
+            m_entries[found->second].summed = true;
+        }
+    }
+
+    /// Only the order of the rows changes: who draws them must be told to draw them again.
+    void Sort(SortOrder order)
+    {
+        m_sorted = SortedPositions(m_entries, order);
+        m_positions = LargeOnes();
+    }
+
+    const Entry& At(unsigned row) const { return m_entries[m_positions[row]]; }
+
+    /// The row of an entry of this model; the number of rows when it is not shown.
+    unsigned RowOf(const Entry& entry) const
+    {
+        const auto position = static_cast<std::uint32_t>(&entry - m_entries.data());
+        return static_cast<unsigned>(std::find(m_positions.begin(), m_positions.end(), position) - m_positions.begin());
+    }
+
+    const std::vector<Entry>& Entries() const { return m_entries; }
+
+    void GetValueByRow(wxVariant& value, unsigned row, unsigned column) const override
+    {
+        const Entry& entry = At(row);
+        switch (kColumns[column]) {
+        case SortColumn::Name:
+            value << wxDataViewIconText(LabelOf(entry), IconOf(entry));
+            break;
+        case SortColumn::Size:
+            value = entry.HasSize() ? HumanSize(entry.size) : wxString();
+            break;
+        case SortColumn::Type:
+            value = DisplayText(entry.type);
+            break;
+        case SortColumn::Modified:
+            value = entry.known ? HumanTime(entry.modified) : wxString();
+            break;
+        }
+    }
+
+    bool SetValueByRow(const wxVariant&, unsigned, unsigned) override { return false; }
+
+private:
+    /// What is to be shown, as the sizes are now.
+    std::vector<std::uint32_t> LargeOnes() const
+    {
+        std::vector<std::uint32_t> positions;
+        std::copy_if(m_sorted.begin(), m_sorted.end(), std::back_inserter(positions),
+                     [this](std::uint32_t position) { return IsLarge(m_entries[position]); });
+        return positions;
+    }
+
+    bool IsLarge(const Entry& entry) const
+    {
+        const bool unknown = entry.kind == EntryKind::Folder && !entry.summed;
+        return m_minimum == 0 || unknown || (entry.HasSize() && entry.size >= m_minimum);
+    }
+
+    static wxString LabelOf(const Entry& entry)
+    {
+        wxString label = DisplayText(entry.name);
+        if (!entry.target.empty())
+            label << L" \u2192 " << DisplayText(entry.target);
+        return label;
+    }
+
+    const wxBitmapBundle& IconOf(const Entry& entry) const
+    {
+        if (entry.kind == EntryKind::Folder)
+            return m_folder;
+        if (entry.kind == EntryKind::Link)
+            return m_link;
+        return entry.type == "Program" ? m_program : m_file;
+    }
+
+    std::vector<Entry> m_entries;
+    std::vector<std::uint32_t> m_sorted;
+    std::vector<std::uint32_t> m_positions;  ///< Those of m_sorted that are shown.
+    std::uint64_t m_minimum = 0;
+    std::unordered_map<std::string_view, std::size_t> m_folders;  ///< By name, into m_entries; made when needed.
+    wxBitmapBundle m_folder, m_file, m_program, m_link;
+};
+
+ContentsList::ContentsList(wxWindow* parent)
+    : wxDataViewCtrl(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxDV_SINGLE | wxDV_ROW_LINES | wxBORDER_NONE),
+      m_model(new ContentsModel)
+{
+    SetName("Contents");
+    SetAccessibleName(this, "Contents of the folder");
+    SetMinSize(FromDIP(wxSize(200, 80)));
+    AssociateModel(m_model.get());
+
+    const int flags = wxDATAVIEW_COL_RESIZABLE | wxDATAVIEW_COL_SORTABLE;
+    const int character = GetCharWidth();
+    AppendIconTextColumn("Name", IndexOf(SortColumn::Name), wxDATAVIEW_CELL_INERT, kNameCharacters * character,
+                         wxALIGN_LEFT, flags);
+    AppendTextColumn("Size", IndexOf(SortColumn::Size), wxDATAVIEW_CELL_INERT, 12 * character, wxALIGN_RIGHT, flags);
+    AppendTextColumn("Kind", IndexOf(SortColumn::Type), wxDATAVIEW_CELL_INERT, 14 * character, wxALIGN_LEFT, flags);
+    AppendTextColumn("Modified", IndexOf(SortColumn::Modified), wxDATAVIEW_CELL_INERT, 20 * character, wxALIGN_LEFT,
+                     flags);
+
+    for (unsigned i = 0; i < GetColumnCount(); ++i)
+        Space(GTK_TREE_VIEW_COLUMN(GetColumn(i)->GetGtkHandle()), FromDIP(6));
+    // The name column takes what the others leave.
+    GtkTreeViewColumn* name = GTK_TREE_VIEW_COLUMN(GetColumn(IndexOf(SortColumn::Name))->GetGtkHandle());
+    gtk_tree_view_column_set_expand(name, TRUE);
+
+    Bind(wxEVT_DATAVIEW_COLUMN_SORTED, &ContentsList::OnColumnSorted, this);
+    ShowOrder();
+}
+
+void ContentsList::SetEntries(std::vector<Entry> entries)
+{
+    const wxEventBlocker quiet(this, wxEVT_DATAVIEW_SELECTION_CHANGED);
+    m_model->SetEntries(std::move(entries), m_order);
+}
+
+void ContentsList::SetFolderSizes(const std::vector<std::pair<std::string, FolderSum>>& sums)
+{
+    if (sums.empty())
+        return;
+    for (const auto& [name, sum] : sums)
+        m_model->SetFolderSize(name, sum.bytes);
+    {
+        // While the rows go, one by one, nobody must ask for the selected one or draw.
+        const wxEventBlocker quiet(this, wxEVT_DATAVIEW_SELECTION_CHANGED);
+        m_model->RemoveSmallOnes();
+    }
+    // Refresh() draws the frame around the rows, and leaves those that GTK has drawn already.
+    gtk_widget_queue_draw(GtkGetTreeView());
+}
+
+void ContentsList::SetMinimum(std::uint64_t bytes)
+{
+    const wxEventBlocker quiet(this, wxEVT_DATAVIEW_SELECTION_CHANGED);
+    const Entry* selected = GetSelectedEntry();
+    m_model->SetMinimum(bytes);
+    if (selected)
+        SelectEntry(selected->name);
+}
+
+std::vector<Entry> ContentsList::GetEntriesInOrder() const
+{
+    std::vector<Entry> entries;
+    for (unsigned row = 0; row < CountRows(); ++row)
+        entries.push_back(GetEntry(row));
+    return entries;
+}
+
+unsigned ContentsList::CountRows() const
+{
+    return m_model->GetCount();
+}
+
+const Entry& ContentsList::GetEntry(unsigned row) const
+{
+    return m_model->At(row);
+}
+
+const Entry* ContentsList::GetSelectedEntry() const
+{
+    return EntryOf(GetSelection());
+}
+
+const Entry* ContentsList::EntryOf(const wxDataViewItem& item) const
+{
+    return item.IsOk() ? &m_model->At(m_model->GetRow(item)) : nullptr;
+}
+
+wxDataViewItem ContentsList::ItemOf(unsigned row) const
+{
+    return m_model->GetItem(row);
+}
+
+void ContentsList::SelectEntry(const std::string& name)
+{
+    for (const Entry& entry : m_model->Entries()) {
+        if (entry.name == name && m_model->RowOf(entry) < CountRows()) {
+            const wxDataViewItem item = ItemOf(m_model->RowOf(entry));
+            Select(item);
+            EnsureVisible(item);
+            return;
+        }
+    }
+}
+
+void ContentsList::SortBy(SortOrder order)
+{
+    const Entry* selected = GetSelectedEntry();
+    m_order = order;
+    m_model->Sort(order);
+    if (selected) {
+        const wxDataViewItem item = ItemOf(m_model->RowOf(*selected));
+        Select(item);
+        EnsureVisible(item);
+    }
+    ShowOrder();
+    Refresh();
+}
+
+void ContentsList::OnColumnSorted(wxDataViewEvent& event)
+{
+    SortByColumn(event.GetDataViewColumn());
+}
+
+/// Takes over the order that the header shows.
+void ContentsList::SortByColumn(const wxDataViewColumn* column)
+{
+    if (column)
+        SortBy({kColumns[column->GetModelColumn()], column->IsSortOrderAscending()});
+}
+
+/// Puts the arrow into the header of the column that the rows are sorted by.
+void ContentsList::ShowOrder()
+{
+    GetColumn(IndexOf(m_order.column))->SetSortOrder(m_order.ascending);
+}
+
+std::vector<int> ContentsList::GetColumnWidths() const
+{
+    std::vector<int> widths;
+    for (unsigned i = 1; i < GetColumnCount(); ++i)
+        widths.push_back(GetColumn(i)->GetWidth());
+    return widths;
+}
+
+void ContentsList::SetColumnWidths(const std::vector<int>& widths)
+{
+    for (unsigned i = 1; i < GetColumnCount() && i <= widths.size(); ++i)
+        GetColumn(i)->SetWidth(widths[i - 1]);
+}
+
+void ContentsList::RememberColumns()
+{
+    wxPersistentRegisterAndRestore(this, GetName());
+    // Its width in a larger window would be its least one now.
+    GetColumn(IndexOf(SortColumn::Name))->SetWidth(kNameCharacters * GetCharWidth());
+    SortByColumn(GetSortingColumn());
+}
+
+}  // namespace gallery

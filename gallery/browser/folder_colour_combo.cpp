@@ -1,0 +1,77 @@
+#include <gallery/browser/folder_colour_combo.h>
+
+#include <utility>
+
+namespace gallery {
+
+class FolderColourCombo::ColourPopup : public wxColourPopup
+{
+public:
+    /// What the folder gets from the hot cell; @a own is what it has.
+    wxColour FolderColour(const wxColour& colour, const wxColour& own) const
+    {
+        if (m_nCurrentSel == CELL_AUTOMATIC)
+            return {};
+        // Enter without a move and a cancelled dialog report the colour that was shown, be it that of "Automatic".
+        const bool ofPalette = m_nCurrentSel >= 0;
+        return !ofPalette && colour == (own.IsOk() ? own : GetDefaultColour()) ? own : colour;
+    }
+
+    void StartWith(const wxColour& colour, const wxColour& automatic)
+    {
+        // "Automatic" stays chosen once it is, but what was chosen belongs to another folder.
+        m_nChosenColourSel = colour.IsOk() ? CELL_NONE : CELL_AUTOMATIC;
+        SetDefaultColour(automatic);
+        SetInitialColour(colour.IsOk() ? colour : automatic);
+    }
+};
+
+FolderColourCombo::FolderColourCombo(wxWindow* parent, Handler onLook, Handler onChoose)
+    : m_onLook(std::move(onLook)), m_onChoose(std::move(onChoose)), m_colours(new ColourPopup)
+{
+    Create(parent, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxCB_READONLY);
+    SetName("FolderColour");
+    SetMinSize(FromDIP(wxSize(52, 28)));
+    m_colours->SetColorListener(this);
+    m_colours->SetCenterOn(wxGetTopLevelParent(parent));
+    SetPopupControl(m_colours);
+}
+
+FolderColourCombo::~FolderColourCombo()
+{
+    // An open popup closes with the window, when what would be told of it may be gone.
+    m_colours->SetColorListener(nullptr);
+}
+
+void FolderColourCombo::ShowColour(const wxColour& colour, const wxColour& automatic)
+{
+    m_colour = colour;
+    m_colours->StartWith(colour, automatic);
+    // The name of another folder's colour would be where the keyboard starts.
+    SetText("");
+    Refresh();
+}
+
+wxColourPopup* FolderColourCombo::GetColourPopup() const
+{
+    return m_colours;
+}
+
+void FolderColourCombo::OnColourSelChange(const wxColour& colour)
+{
+    m_onLook(m_colours->FolderColour(colour, m_colour));
+}
+
+void FolderColourCombo::OnColourSelEnd(const wxColour& colour)
+{
+    m_colour = m_colours->FolderColour(colour, m_colour);
+    m_onLook(m_colour);
+    m_onChoose(m_colour);
+}
+
+void FolderColourCombo::OnColourSelCancel(const wxColour& /*colour*/)
+{
+    m_onLook(m_colour);
+}
+
+}  // namespace gallery

@@ -1,0 +1,42 @@
+#ifndef FITTINGS_GALLERY_BROWSER_FOLDER_COLOUR_COMBO_H_
+#define FITTINGS_GALLERY_BROWSER_FOLDER_COLOUR_COMBO_H_
+
+#include <functional>
+
+#include <fittings/colour/colour_combo.h>
+#include <fittings/colour/colour_popup.h>
+
+namespace gallery {
+
+/// Asks for the colour of a folder. "Automatic" is none of its own, here an invalid colour.
+class FolderColourCombo : public wxColourCombo, private wxColorPopupListener
+{
+public:
+    using Handler = std::function<void(const wxColour&)>;
+
+    /// @a onLook gets each colour that is pointed at, and in the end the one that stays; @a onChoose the one chosen.
+    FolderColourCombo(wxWindow* parent, Handler onLook, Handler onChoose);
+
+    ~FolderColourCombo() override;
+
+    /// Shows the colour of another folder. @a automatic is what "Automatic" looks like.
+    void ShowColour(const wxColour& colour, const wxColour& automatic);
+
+    wxColourPopup* GetColourPopup() const;
+
+private:
+    class ColourPopup;
+
+    void OnColourSelChange(const wxColour& colour) override;
+    void OnColourSelEnd(const wxColour& colour) override;
+    void OnColourSelCancel(const wxColour& colour) override;
+
+    Handler m_onLook;
+    Handler m_onChoose;
+    ColourPopup* m_colours;
+    wxColour m_colour;  ///< Of the folder; invalid for none.
+};
+
+}  // namespace gallery
+
+#endif

@@ -1,0 +1,91 @@
+#ifndef FITTINGS_GALLERY_BROWSER_FOLDER_TREE_H_
+#define FITTINGS_GALLERY_BROWSER_FOLDER_TREE_H_
+
+#include <string>
+#include <vector>
+
+#include <fittings/tree/handy_tree_ctrl.h>
+
+namespace gallery {
+
+struct Subfolder;
+
+/// The folders below a root folder, read as they are expanded, each in the colour that it was given.
+///
+/// Each item carries an index into a table of names, because a label cannot hold every file name. Links are left out,
+/// so that no circle of links makes the tree endless.
+class FolderTree : public wxHandyTreeCtrl
+{
+public:
+    explicit FolderTree(wxWindow* parent);
+
+    /// Starts anew with one collapsed, selected root.
+    void SetRootFolder(const std::string& path);
+    const std::string& GetRootFolder() const { return m_root; }
+
+    /// @name Paths, as the file system takes them
+    /// @{
+    std::string PathOf(const wxTreeItemId& item) const;
+
+    /// Empty when nothing is selected.
+    std::string GetSelectedPath();
+
+    /// Selects the folder and shows it, reading the levels above it as needed; the nearest of those above it when there
+    /// is no such folder any more.
+    void SelectPath(const std::string& path);
+    /// @}
+
+    /// Selects the folder @a name in the selected one; false when there is none.
+    bool SelectSubfolder(const std::string& name);
+
+    /// Selects the folder that the selected one is in; false at the root.
+    bool SelectParent();
+
+    /// Reads again what has been read: adds the folders that are new and removes those that are gone. The others keep
+    /// their state; of a selected one that is gone, the nearest above that is left gets selected.
+    void Reread();
+
+    /// Shows the selected folder in @a colour, or in the other folders' when it is invalid. Until the folder is read again,
+    /// which gives it the colour that the settings know.
+    void ShowColour(const wxColour& colour);
+
+    /// @name The expanded folders, kept apart for each root
+    /// @{
+    void SaveExpanded();
+    void LoadExpanded();
+    static void ForgetExpanded(const std::string& root);
+    /// @}
+
+    void OnItemExpanding(const wxTreeCursor& item) override;
+
+    /// The label; the path below the root while the state is saved or loaded. Labels alone would take every folder
+    /// "share" for the same one.
+    wxString GetItemText(const wxTreeItemId& item) const override;
+
+private:
+    struct Images
+    {
+        int folder;
+        int open;
+        int unreadable;
+        int disk;
+    };
+
+    void Fill(const wxTreeItemId& item);
+    void Refill(const wxTreeItemId& item);
+    void Dress(const wxTreeItemId& item, const Subfolder& folder);
+    void Colour(const wxTreeItemId& item, const wxColour& colour);
+    std::vector<wxTreeItemId> ChildrenOf(const wxTreeItemId& item) const;
+    wxTreeItemId FindSubfolder(const wxTreeItemId& item, const std::string& name);
+    const std::string& NameOf(const wxTreeItemId& item) const;
+    std::wstring StateTextOf(const wxTreeItemId& item) const;
+
+    std::string m_root;
+    std::vector<std::string> m_names;
+    Images m_images{};
+    bool m_namesPaths = false;
+};
+
+}  // namespace gallery
+
+#endif

@@ -1,0 +1,39 @@
+#ifndef FITTINGS_GALLERY_BROWSER_RECENT_FOLDERS_H_
+#define FITTINGS_GALLERY_BROWSER_RECENT_FOLDERS_H_
+
+#include <string>
+
+#include <wx/filehistory.h>
+
+class wxMenu;
+
+namespace gallery {
+
+/// The folders that were opened last, in a menu: the toolkit's file history, kept in the settings store.
+class RecentFolders
+{
+public:
+    /// The folders of earlier sessions.
+    RecentFolders();
+
+    /// Returns a menu of them that follows the changes, for a menu bar to take over. Its items' ids are wxID_FILE1 to
+    /// wxID_FILE9.
+    wxMenu* MakeMenu();
+
+    /// Puts a folder in front.
+    void Add(const std::string& path);
+
+    /// The folder behind a menu item.
+    std::string PathOf(int id) const;
+
+    void Remove(int id);
+
+    void Save();
+
+private:
+    wxFileHistory m_history;
+};
+
+}  // namespace gallery
+
+#endif

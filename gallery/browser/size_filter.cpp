@@ -1,0 +1,92 @@
+#include <gallery/browser/size_filter.h>
+
+#include <cmath>
+
+#include <wx/sizer.h>
+#include <wx/stattext.h>
+#include <wx/textctrl.h>
+
+#include <fittings/numedit/num_validator.h>
+#include <fittings/numedit/number_edit_utils.h>
+
+#include <gallery/folders/native_text.h>
+#include <gallery/pages/page_layout.h>
+#include <gallery/pages/window_helpers.h>
+
+namespace gallery {
+
+wxDEFINE_EVENT(EVT_SIZE_FILTER_CHANGED, wxCommandEvent);
+
+namespace {
+
+constexpr int kBytesInMegabyte = 1000000;
+
+/// Down to a byte, up to a petabyte.
+CNumberFormat MegabytesFormat()
+{
+    CNumberFormat format = GroupingFormat();
+    format.m_bAllowSign = false;
+    format.m_bHasDecimals = true;
+    format.m_nDecimals = 6;
+    format.m_bHasMaxIntDigits = true;
+    format.m_nMaxIntDigits = 9;
+    format.m_strTemplate = L"%s MB";
+    return format;
+}
+
+}  // namespace
+
+SizeFilter::SizeFilter(wxWindow* parent) : wxPanel(parent)
+{
+    SetName("SizeFilter");
+    auto* label = new wxStaticText(this, wxID_ANY, "At &least");
+    m_field = new wxTextCtrl(this, wxID_ANY);
+    m_field->SetName("AtLeast");
+    m_field->SetInitialSize(m_field->GetSizeFromTextSize(m_field->GetTextExtent("0000000")));
+    m_field->SetValidator(wxNumValidator(MegabytesFormat(), nullptr));
+    m_field->SetToolTip("Leaves out of the list what is smaller");
+    m_field->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { TellChange(*this, EVT_SIZE_FILTER_CHANGED); });
+    m_field->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) {
+        if (event.GetKeyCode() == WXK_ESCAPE && !m_field->IsEmpty())
+            m_field->Clear();
+        else
+            event.Skip();
+    });
+
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    const wxSizerFlags part = wxSizerFlags().CentreVertical().Border(wxRIGHT, FromDIP(kGap));
+    row->Add(label, part);
+    row->Add(m_field, part);
+    row->Add(new wxStaticText(this, wxID_ANY, "MB"), wxSizerFlags().CentreVertical());
+    SetSizer(row);
+}
+
+std::uint64_t SizeFilter::GetMinimum() const
+{
+    double megabytes = 0;
+    if (!CNumberEditUtils::ValidateString(m_field->GetValue().wc_str(), MegabytesFormat()) ||
+        !GetMegabytes().ToCDouble(&megabytes))
+        return 0;
+    return static_cast<std::uint64_t>(std::llround(megabytes * kBytesInMegabyte));
+}
+
+wxString SizeFilter::GetText() const
+{
+    return CNumberEditUtils::FormatControlText(m_field->GetValue().wc_str(), MegabytesFormat());
+}
+
+wxString SizeFilter::GetMegabytes() const
+{
+    wxString megabytes = m_field->GetValue();
+    megabytes.Replace(wxString(MegabytesFormat().m_chDecimalPoint), ".");
+    return megabytes;
+}
+
+void SizeFilter::SetMegabytes(const wxString& megabytes)
+{
+    wxString text = megabytes;
+    text.Replace(".", wxString(MegabytesFormat().m_chDecimalPoint));
+    m_field->SetValue(text);
+}
+
+}  // namespace gallery

@@ -1,0 +1,42 @@
+#ifndef FITTINGS_GALLERY_BROWSER_SIZE_FILTER_H_
+#define FITTINGS_GALLERY_BROWSER_SIZE_FILTER_H_
+
+#include <cstdint>
+
+#include <wx/event.h>
+#include <wx/panel.h>
+
+class wxTextCtrl;
+
+namespace gallery {
+
+/// Sent by a SizeFilter with each change of its number.
+wxDECLARE_EVENT(EVT_SIZE_FILTER_CHANGED, wxCommandEvent);
+
+/// "At least ___ MB": asks for a size that the user may leave out. Escape empties it.
+class SizeFilter : public wxPanel
+{
+public:
+    explicit SizeFilter(wxWindow* parent);
+
+    /// In bytes; 0 when none was typed, or what is no number was pasted.
+    std::uint64_t GetMinimum() const;
+
+    /// "1,234.5 MB", as the locale writes it.
+    wxString GetText() const;
+
+    /// @name The number as it was typed, but with a full stop for a decimal point in any locale
+    /// @{
+    wxString GetMegabytes() const;
+    void SetMegabytes(const wxString& megabytes);
+    /// @}
+
+    wxTextCtrl* GetField() const { return m_field; }
+
+private:
+    wxTextCtrl* m_field;
+};
+
+}  // namespace gallery
+
+#endif

@@ -1,0 +1,216 @@
+#include <gallery/colours/colour_option_fields.h>
+
+#include <algorithm>
+
+#include <wx/checkbox.h>
+#include <wx/sizer.h>
+#include <wx/spinctrl.h>
+#include <wx/stattext.h>
+#include <wx/textctrl.h>
+
+#include <gallery/colours/colour_field.h>
+#include <gallery/pages/page_layout.h>
+#include <gallery/pages/page_settings.h>
+#include <gallery/pages/window_helpers.h>
+
+namespace gallery {
+
+wxDEFINE_EVENT(EVT_COLOUR_OPTIONS_CHANGED, wxCommandEvent);
+
+namespace {
+
+constexpr int kFieldWidth = 130;
+
+wxFlexGridSizer* MakeGrid(const wxWindow& panel, int columns)
+{
+    return new wxFlexGridSizer(columns, panel.FromDIP(wxSize(kGap, kGap)));
+}
+
+/// Makes the rows of several columns equally high, so that they stand in lines.
+void AlignRows(std::initializer_list<wxSizer*> grids)
+{
+    int height = 0;
+    for (const wxSizer* grid : grids) {
+        for (wxSizerItem* item : grid->GetChildren())
+            height = std::max(height, item->CalcMin().y);
+    }
+    for (const wxSizer* grid : grids) {
+        // A label is drawn at the top of its window: it keeps its height and stands in the middle of its row.
+        for (wxSizerItem* item : grid->GetChildren()) {
+            if (!dynamic_cast<wxStaticText*>(item->GetWindow()))
+                item->SetMinSize(item->GetMinSize().x, height);
+        }
+    }
+}
+
+}  // namespace
+
+ColourOptionFields::ColourOptionFields(wxWindow* parent) : wxPanel(parent)
+{
+    const wxSizerFlags headingFlags = wxSizerFlags().Border(wxBOTTOM, FromDIP(kGap));
+    m_columns = new wxBoxSizer(wxHORIZONTAL);
+    // Tab follows the order in which the controls are made.
+    wxSizer* const grids[] = {MakeBoxes(), MakeCells(), MakeBehaviour()};
+    AlignRows({grids[0], grids[1], grids[2]});
+    const char* const headings[] = {"Boxes", "Cells", "Combo"};
+    for (std::size_t i = 0; i < std::size(grids); ++i) {
+        auto* column = new wxBoxSizer(wxVERTICAL);
+        column->Add(MakeHeading(this, headings[i]), headingFlags);
+        column->Add(grids[i]);
+        m_columns->Add(column, wxSizerFlags().Border(wxRIGHT | wxBOTTOM, FromDIP(kColumnGap)));
+    }
+    SetSizer(m_columns);
+
+    LoadSettings();
+    EnableFields();
+    const auto onChange = [this](wxCommandEvent&) { OnChange(); };
+    Bind(wxEVT_CHECKBOX, onChange);
+    Bind(wxEVT_SPINCTRL, onChange);
+    for (wxTextCtrl* text : {m_automatic, m_more})
+        text->Bind(wxEVT_TEXT, onChange);
+}
+
+ColourOptions ColourOptionFields::GetOptions() const
+{
+    ColourOptions options;
+    options.hasAutomatic = m_hasAutomatic->GetValue();
+    options.automatic = m_automatic->GetValue();
+    options.hasMore = m_hasMore->GetValue();
+    options.more = m_more->GetValue();
+    options.defaultColour = m_default->GetColour();
+    options.columns = m_columnCount->GetValue();
+    options.cellSize = m_cellSize->GetValue();
+    options.margin = m_margin->GetValue();
+    options.readOnly = m_readOnly->GetValue();
+    options.refresh = m_refresh->GetValue();
+    options.centre = m_centre->GetValue();
+    options.animate = m_animate->GetValue();
+    options.duration = m_duration->GetValue();
+    return options;
+}
+
+void ColourOptionFields::SaveSettings() const
+{
+    for (const wxCheckBox* box : {m_hasAutomatic, m_hasMore, m_readOnly, m_refresh, m_centre, m_animate})
+        kColourSettings.SaveFlag(box->GetName(), box->GetValue());
+    for (const wxSpinCtrl* field : {m_columnCount, m_cellSize, m_margin, m_duration})
+        kColourSettings.SaveNumber(field->GetName(), field->GetValue());
+    for (const wxTextCtrl* text : {m_automatic, m_more})
+        kColourSettings.Save(text->GetName(), text->GetValue());
+    kColourSettings.SaveColour(m_default->GetName(), m_default->GetColour());
+}
+
+void ColourOptionFields::Arrange(int width)
+{
+    ArrangeColumns(m_columns, width);
+    InvalidateBestSize();
+}
+
+/// What is missing or no value of its field stays as it is in a first session.
+void ColourOptionFields::LoadSettings()
+{
+    for (wxCheckBox* box : {m_hasAutomatic, m_hasMore, m_readOnly, m_refresh, m_centre, m_animate})
+        box->SetValue(kColourSettings.LoadFlag(box->GetName(), box->GetValue()));
+    for (wxSpinCtrl* field : {m_columnCount, m_cellSize, m_margin, m_duration}) {
+        field->SetValue(
+            kColourSettings.LoadNumber(field->GetName(), field->GetMin(), field->GetMax(), field->GetValue()));
+    }
+    for (wxTextCtrl* text : {m_automatic, m_more})
+        text->ChangeValue(kColourSettings.Load(text->GetName()));
+    m_default->SetColour(kColourSettings.LoadColour(m_default->GetName(), m_default->GetColour()));
+}
+
+/// Which boxes there are, and their texts.
+wxSizer* ColourOptionFields::MakeBoxes()
+{
+    const ColourOptions first;
+    auto* grid = MakeGrid(*this, 2);
+    const auto makeText = [&](const char* name, const wxString& accessibleName) {
+        auto* text = new wxTextCtrl(this, wxID_ANY, "", wxDefaultPosition, FromDIP(wxSize(kFieldWidth, -1)));
+        text->SetName(name);
+        text->SetHint("Its own text");
+        SetAccessibleName(text, accessibleName);
+        grid->Add(text, wxSizerFlags().CentreVertical());
+        return text;
+    };
+    m_hasAutomatic = MakeFlag("HasAutomatic", "&Automatic", first.hasAutomatic);
+    grid->Add(m_hasAutomatic, wxSizerFlags().CentreVertical());
+    m_automatic = makeText("Automatic", "Text of Automatic");
+    m_hasMore = MakeFlag("HasMoreColours", "&More Colours...", first.hasMore);
+    grid->Add(m_hasMore, wxSizerFlags().CentreVertical());
+    m_more = makeText("MoreColours", "Text of More Colours");
+    grid->Add(new wxStaticText(this, wxID_ANY, "&Default colour"), wxSizerFlags().CentreVertical());
+    m_default = new ColourField(this, [this] { OnChange(); });
+    m_default->SetName("Default");
+    m_default->SetToolTip("The colour that \"Automatic\" stands for");
+    grid->Add(m_default, wxSizerFlags().Expand());
+    return grid;
+}
+
+wxSizer* ColourOptionFields::MakeCells()
+{
+    const ColourOptions first;
+    auto* grid = MakeGrid(*this, 2);
+    const auto makeRow = [&](wxSpinCtrl*& field, const wxString& label, const char* name, int value, int least,
+                             int most) {
+        grid->Add(new wxStaticText(this, wxID_ANY, label), wxSizerFlags().CentreVertical());
+        field = MakeCount(name, value, least, most);
+        grid->Add(field, wxSizerFlags().CentreVertical());
+    };
+    makeRow(m_columnCount, "Col&umns", "Columns", first.columns, 4, 20);
+    makeRow(m_cellSize, "&Size in pixels", "CellSize", first.cellSize, 12, 36);
+    makeRow(m_margin, "Mar&gin in pixels", "Margin", first.margin, 1, 8);
+    return grid;
+}
+
+wxSizer* ColourOptionFields::MakeBehaviour()
+{
+    const ColourOptions first;
+    m_readOnly = MakeFlag("ReadOnly", "Read-onl&y", first.readOnly);
+    m_refresh = MakeFlag("RefreshCombo", "&Redraw it for each hot cell", first.refresh);
+    m_centre = MakeFlag("CenterOn", "Centre the dialog on the &window", first.centre);
+    m_animate = MakeFlag("Animate", "A&nimate the opening", first.animate);
+    m_duration = MakeCount("Duration", first.duration, 50, 2000);
+    m_duration->SetIncrement(50);
+    SetAccessibleName(m_duration, "Milliseconds");
+    auto* animation = new wxBoxSizer(wxHORIZONTAL);
+    animation->Add(m_animate, wxSizerFlags().CentreVertical().Border(wxRIGHT, FromDIP(kGap)));
+    animation->Add(m_duration, wxSizerFlags().CentreVertical().Border(wxRIGHT, FromDIP(kGap)));
+    animation->Add(new wxStaticText(this, wxID_ANY, "ms"), wxSizerFlags().CentreVertical());
+    auto* grid = MakeGrid(*this, 1);
+    for (wxCheckBox* box : {m_readOnly, m_refresh, m_centre})
+        grid->Add(box, wxSizerFlags().CentreVertical());
+    grid->Add(animation, wxSizerFlags().CentreVertical());
+    return grid;
+}
+
+wxCheckBox* ColourOptionFields::MakeFlag(const char* name, const wxString& label, bool value)
+{
+    auto* box = new wxCheckBox(this, wxID_ANY, label);
+    box->SetName(name);
+    box->SetValue(value);
+    return box;
+}
+
+wxSpinCtrl* ColourOptionFields::MakeCount(const char* name, int first, int least, int most)
+{
+    auto* field =
+        new wxSpinCtrl(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxSP_ARROW_KEYS, least, most, first);
+    field->SetName(name);
+    return field;
+}
+
+void ColourOptionFields::EnableFields()
+{
+    m_automatic->Enable(m_hasAutomatic->GetValue());
+    m_more->Enable(m_hasMore->GetValue());
+    m_duration->Enable(m_animate->GetValue());
+}
+
+void ColourOptionFields::OnChange()
+{
+    EnableFields();
+    TellChange(*this, EVT_COLOUR_OPTIONS_CHANGED);
+}
+
+}  // namespace gallery

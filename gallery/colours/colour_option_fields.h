@@ -1,0 +1,66 @@
+#ifndef FITTINGS_GALLERY_COLOURS_COLOUR_OPTION_FIELDS_H_
+#define FITTINGS_GALLERY_COLOURS_COLOUR_OPTION_FIELDS_H_
+
+#include <wx/event.h>
+#include <wx/panel.h>
+
+#include <gallery/colours/colour_options.h>
+
+class wxBoxSizer;
+class wxCheckBox;
+class wxSizer;
+class wxSpinCtrl;
+class wxTextCtrl;
+
+namespace gallery {
+
+class ColourField;
+
+/// Sent by a ColourOptionFields when the options that it says are others.
+wxDECLARE_EVENT(EVT_COLOUR_OPTIONS_CHANGED, wxCommandEvent);
+
+/// A control for each of the ColourOptions: "HasAutomatic", "Automatic", "CellSize".
+///
+/// The options come back as they were when SaveSettings() was last called.
+class ColourOptionFields : public wxPanel
+{
+public:
+    explicit ColourOptionFields(wxWindow* parent);
+
+    /// The options that the controls say.
+    ColourOptions GetOptions() const;
+
+    void SaveSettings() const;
+
+    /// Makes the best of @a width pixels.
+    void Arrange(int width);
+
+private:
+    void LoadSettings();
+    wxSizer* MakeBoxes();
+    wxSizer* MakeCells();
+    wxSizer* MakeBehaviour();
+    wxCheckBox* MakeFlag(const char* name, const wxString& label, bool value);
+    wxSpinCtrl* MakeCount(const char* name, int first, int least, int most);
+    void EnableFields();
+    void OnChange();
+
+    wxBoxSizer* m_columns = nullptr;
+    wxCheckBox* m_hasAutomatic = nullptr;
+    wxTextCtrl* m_automatic = nullptr;
+    wxCheckBox* m_hasMore = nullptr;
+    wxTextCtrl* m_more = nullptr;
+    ColourField* m_default = nullptr;
+    wxSpinCtrl* m_columnCount = nullptr;
+    wxSpinCtrl* m_cellSize = nullptr;
+    wxSpinCtrl* m_margin = nullptr;
+    wxCheckBox* m_readOnly = nullptr;
+    wxCheckBox* m_refresh = nullptr;
+    wxCheckBox* m_centre = nullptr;
+    wxCheckBox* m_animate = nullptr;
+    wxSpinCtrl* m_duration = nullptr;
+};
+
+}  // namespace gallery
+
+#endif

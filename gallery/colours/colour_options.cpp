@@ -1,0 +1,58 @@
+#include <gallery/colours/colour_options.h>
+
+#include <algorithm>
+
+#include <fittings/colour/colour_combo.h>
+#include <fittings/colour/colour_popup.h>
+
+namespace gallery {
+
+namespace {
+
+/// What a margin leaves of a cell for its colour is never less.
+constexpr int kSmallestSwatch = 7;
+
+class Popup : public wxColourPopup
+{
+public:
+    explicit Popup(const ColourOptions& options)
+    {
+        m_nNumColumns = options.columns;
+        m_nMargin = options.margin;
+        m_nBoxSize = std::max(options.cellSize, 2 * options.margin + kSmallestSwatch);
+        if (!options.hasAutomatic || !options.automatic.empty())
+            SetAutomaticText(options.hasAutomatic ? options.automatic : wxString());
+        if (!options.hasMore || !options.more.empty())
+            SetMoreColoursText(options.hasMore ? options.more : wxString());
+        SetDefaultColour(options.defaultColour);
+        SetRefreshCombo(options.refresh);
+    }
+};
+
+class Combo : public wxColourCombo
+{
+public:
+    explicit Combo(const ColourOptions& options)
+    {
+        m_animDuration = options.duration;
+        EnablePopupAnimation(options.animate);
+    }
+};
+
+}  // namespace
+
+wxColourCombo* MakeColourCombo(wxWindow* parent, const ColourOptions& options, const wxColour& colour,
+                               wxColorPopupListener* listener)
+{
+    auto* popup = new Popup(options);
+    popup->SetInitialColour(colour);
+    popup->SetColorListener(listener);
+    if (options.centre)
+        popup->SetCenterOn(wxGetTopLevelParent(parent));
+    auto* combo = new Combo(options);
+    combo->Create(parent, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, options.readOnly ? wxCB_READONLY : 0);
+    combo->SetPopupControl(popup);
+    return combo;
+}
+
+}  // namespace gallery

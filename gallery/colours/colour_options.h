@@ -1,0 +1,42 @@
+#ifndef FITTINGS_GALLERY_COLOURS_COLOUR_OPTIONS_H_
+#define FITTINGS_GALLERY_COLOURS_COLOUR_OPTIONS_H_
+
+#include <wx/colour.h>
+#include <wx/string.h>
+
+class wxColorPopupListener;
+class wxColourCombo;
+class wxWindow;
+
+namespace gallery {
+
+/// What can be set of a colour combo and its popup; at first as the library has it.
+struct ColourOptions
+{
+    bool hasAutomatic = true;
+    bool hasMore = true;
+    wxString automatic;  ///< Empty for the popup's own text, in the user's language.
+    wxString more;       ///< The same.
+    wxColour defaultColour{0, 0, 0};
+
+    /// @name For a host with a popup of its own class
+    /// @{
+    int columns = 8;
+    int cellSize = 18;  ///< Pixels; a cell is at least as large as the margin needs it.
+    int margin = 2;     ///< Pixels.
+    /// @}
+
+    bool readOnly = true;
+    bool refresh = false;
+    bool centre = true;
+    bool animate = true;
+    int duration = 200;  ///< Milliseconds.
+};
+
+/// Makes a combo with a popup of these options that shows @a colour. The listener must outlive the popup.
+wxColourCombo* MakeColourCombo(wxWindow* parent, const ColourOptions& options, const wxColour& colour,
+                               wxColorPopupListener* listener);
+
+}  // namespace gallery
+
+#endif

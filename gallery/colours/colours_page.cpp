@@ -1,0 +1,244 @@
+#include <gallery/colours/colours_page.h>
+
+#include <wx/bitmap.h>
+#include <wx/button.h>
+#include <wx/dataview.h>
+#include <wx/image.h>
+#include <wx/settings.h>
+#include <wx/sizer.h>
+#include <wx/stattext.h>
+
+#include <fittings/colour/colour_combo.h>
+#include <fittings/colour/colour_table.h>
+
+#include <gallery/colours/colour_option_fields.h>
+#include <gallery/pages/page_layout.h>
+#include <gallery/pages/page_settings.h>
+#include <gallery/pages/readable_colour.h>
+#include <gallery/pages/window_helpers.h>
+
+namespace gallery {
+
+namespace {
+
+constexpr const char* kColourKey = "Colour";
+constexpr int kBlockHeight = 176;  ///< The popup opens beside the preview.
+constexpr int kHeaderHeight = 28;
+constexpr int kChoiceWidth = 180;
+constexpr int kPreviewWidth = 160;
+constexpr int kCallWidth = 236;
+constexpr int kColourWidth = 200;
+constexpr int kSwatchSize = 16;
+constexpr int kMostEvents = 500;
+
+const wxColour kFirstColour(0, 0, 255);
+
+/// "Blue #0000FF"; of a colour that has no name the number alone.
+wxString NameOf(const wxColour& colour, const wxString& separator)
+{
+    const wxString number = colour.GetAsString(wxC2S_HTML_SYNTAX);
+    for (int i = 0; i < fittings::kColourCount; ++i) {
+        if (GetColourTable()[i].crColour == colour.GetRGB())
+            return wxString(GetColourName(i)).Trim() + separator + number;
+    }
+    return number;
+}
+
+/// Of an invalid colour a picture that cannot be seen: GTK leaves no room for pictures when the first row has none.
+wxBitmap SwatchOf(const wxColour& colour, int size)
+{
+    wxImage swatch(size, size);
+    if (!colour.IsOk()) {
+        swatch.SetMaskColour(0, 0, 0);
+        return wxBitmap(swatch);
+    }
+    const wxColour frame = wxSystemSettings::GetColour(wxSYS_COLOUR_GRAYTEXT);
+    swatch.SetRGB(wxRect(0, 0, size, size), frame.Red(), frame.Green(), frame.Blue());
+    swatch.SetRGB(wxRect(1, 1, size - 2, size - 2), colour.Red(), colour.Green(), colour.Blue());
+    return wxBitmap(swatch);
+}
+
+/// A row for a heading, as high as the one with the button beside it.
+wxSizer* MakeHeader(wxStaticText* heading)
+{
+    auto* header = new wxBoxSizer(wxHORIZONTAL);
+    header->SetMinSize(heading->FromDIP(wxSize(-1, kHeaderHeight)));
+    header->Add(heading, wxSizerFlags(1).CentreVertical());
+    return header;
+}
+
+}  // namespace
+
+ColoursPage::ColoursPage(wxWindow* parent)
+    : wxScrolledWindow(parent), m_colour(kColourSettings.LoadColour(kColourKey, kFirstColour))
+{
+    SetName("Colours");
+    auto* choice = new wxBoxSizer(wxHORIZONTAL);
+    choice->Add(MakeChoice(), wxSizerFlags().Border(wxRIGHT, FromDIP(kColumnGap)));
+    choice->Add(MakePreview());
+    m_trial = new wxBoxSizer(wxHORIZONTAL);
+    const wxSizerFlags block = wxSizerFlags().Border(wxRIGHT | wxBOTTOM, FromDIP(kColumnGap));
+    m_trial->Add(choice, block);
+    m_trial->Add(MakeEvents(), wxSizerFlags(block).Proportion(1).Expand());
+    m_options = new ColourOptionFields(this);
+    auto* rows = new wxBoxSizer(wxVERTICAL);
+    rows->Add(m_trial, wxSizerFlags().Expand().Border(wxLEFT | wxTOP, FromDIP(kMargin)));
+    rows->Add(m_options, wxSizerFlags().Expand().Border(wxLEFT, FromDIP(kMargin)));
+    SetSizer(rows);
+    SetScrollRate(0, FromDIP(10));
+    KeepFocusInSight(this);
+
+    m_options->Bind(EVT_COLOUR_OPTIONS_CHANGED, [this](wxCommandEvent&) { MakeCombo(); });
+    Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
+        Arrange();
+        event.Skip();
+    });
+    MakeCombo();
+    ShowColour(m_colour);
+}
+
+ColoursPage::~ColoursPage()
+{
+    // Later, an open popup would tell a page that is gone.
+    m_combo->HidePopup(false);
+}
+
+wxColourPopup* ColoursPage::GetColourPopup() const
+{
+    return static_cast<wxColourPopup*>(m_combo->GetPopupControl());
+}
+
+void ColoursPage::SaveSettings() const
+{
+    m_options->SaveSettings();
+    kColourSettings.SaveColour(kColourKey, m_colour);
+}
+
+/// The label of the combo, which MakeCombo() puts below it.
+wxSizer* ColoursPage::MakeChoice()
+{
+    m_label = MakeHeading(this, "&Colour");
+    m_choice = new wxBoxSizer(wxVERTICAL);
+    m_choice->Add(MakeHeader(m_label), wxSizerFlags().Expand().Border(wxBOTTOM, FromDIP(kGap)));
+    m_choice->SetMinSize(FromDIP(wxSize(kChoiceWidth, -1)));
+    return m_choice;
+}
+
+wxSizer* ColoursPage::MakePreview()
+{
+    wxStaticText* heading = MakeHeading(this, "Preview");
+    m_preview =
+        new wxWindow(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(kPreviewWidth, kBlockHeight)), wxBORDER_THEME);
+    m_preview->SetName("Preview");
+    m_preview->SetCanFocus(false);
+    m_previewText =
+        new wxStaticText(m_preview, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxALIGN_CENTRE_HORIZONTAL);
+    m_previewText->SetName("PreviewText");
+    auto* middle = new wxBoxSizer(wxVERTICAL);
+    middle->AddStretchSpacer();
+    middle->Add(m_previewText, wxSizerFlags().Expand());
+    middle->AddStretchSpacer();
+    m_preview->SetSizer(middle);
+
+    auto* rows = new wxBoxSizer(wxVERTICAL);
+    rows->Add(MakeHeader(heading), wxSizerFlags().Expand().Border(wxBOTTOM, FromDIP(kGap)));
+    rows->Add(m_preview);
+    return rows;
+}
+
+wxSizer* ColoursPage::MakeEvents()
+{
+    wxStaticText* heading = MakeHeading(this, "What the host &learns");
+    m_events = new wxDataViewListCtrl(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxDV_SINGLE | wxBORDER_THEME);
+    m_events->SetName("Events");
+    SetAccessibleName(m_events, "What the host learns");
+    m_events->SetMinSize(FromDIP(wxSize(320, kBlockHeight)));
+    m_events->AppendTextColumn("Call or event", wxDATAVIEW_CELL_INERT, FromDIP(kCallWidth));
+    m_events->AppendIconTextColumn("Colour", wxDATAVIEW_CELL_INERT, FromDIP(kColourWidth));
+    auto* clear =
+        new wxButton(this, wxID_ANY, "Cl&ear", wxDefaultPosition, FromDIP(wxSize(72, kHeaderHeight)), wxBU_EXACTFIT);
+    clear->SetName("Clear");
+    clear->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { m_events->DeleteAllItems(); });
+
+    wxSizer* header = MakeHeader(heading);
+    header->Add(clear, wxSizerFlags().CentreVertical());
+    auto* rows = new wxBoxSizer(wxVERTICAL);
+    rows->Add(header, wxSizerFlags().Expand().Border(wxBOTTOM, FromDIP(kGap)));
+    rows->Add(m_events, wxSizerFlags(1).Expand());
+    return rows;
+}
+
+/// Makes the best of the page's width. What is higher than the page can be scrolled.
+void ColoursPage::Arrange()
+{
+    const int width = GetClientSize().x - FromDIP(kMargin);
+    ArrangeColumns(m_trial, width);
+    m_options->Arrange(width);
+}
+
+/// Makes a combo with the options that are set, in place of the one that is there.
+void ColoursPage::MakeCombo()
+{
+    if (m_combo) {
+        GetColourPopup()->SetColorListener(nullptr);
+        m_choice->Detach(m_combo);
+        m_combo->Destroy();
+    }
+    m_combo = MakeColourCombo(this, m_options->GetOptions(), m_colour, this);
+    m_combo->SetName("Combo");
+    m_combo->MoveAfterInTabOrder(m_label);
+    m_combo->Bind(wxEVT_COMBOBOX_DROPDOWN, [this](wxCommandEvent&) { Note("wxEVT_COMBOBOX_DROPDOWN"); });
+    m_combo->Bind(wxEVT_COMBOBOX_CLOSEUP, [this](wxCommandEvent&) { Note("wxEVT_COMBOBOX_CLOSEUP"); });
+    m_choice->Insert(1, m_combo, wxSizerFlags().Expand());
+    Layout();
+}
+
+void ColoursPage::ShowColour(const wxColour& colour)
+{
+    m_preview->SetBackgroundColour(colour);
+    m_previewText->SetBackgroundColour(colour);
+    m_previewText->SetForegroundColour(BlackOrWhiteOn(colour));
+    m_previewText->SetLabelText(NameOf(colour, "\n"));
+    m_preview->Layout();
+    m_preview->Refresh();
+}
+
+void ColoursPage::Note(const wxString& name, const wxColour& colour)
+{
+    if (m_events->GetItemCount() >= kMostEvents)
+        m_events->DeleteItem(0);
+    const wxString text = colour.IsOk() ? NameOf(colour, " ") : wxString();
+    wxVariant shown;
+    shown << wxDataViewIconText(text, SwatchOf(colour, FromDIP(kSwatchSize)));
+    wxVector<wxVariant> row;
+    row.push_back(name);
+    row.push_back(shown);
+    m_events->AppendItem(row);
+    m_events->EnsureVisible(m_events->RowToItem(m_events->GetItemCount() - 1));
+}
+
+void ColoursPage::OnColourPopup()
+{
+    Note("OnColourPopup");
+}
+
+void ColoursPage::OnColourSelChange(const wxColour& colour)
+{
+    Note("OnColourSelChange", colour);
+    ShowColour(colour);
+}
+
+void ColoursPage::OnColourSelEnd(const wxColour& colour)
+{
+    Note("OnColourSelEnd", colour);
+    m_colour = colour;
+    ShowColour(colour);
+}
+
+void ColoursPage::OnColourSelCancel(const wxColour& colour)
+{
+    Note("OnColourSelCancel", colour);
+    ShowColour(colour);
+}
+
+}  // namespace gallery

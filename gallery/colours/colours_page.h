@@ -1,0 +1,69 @@
+#ifndef FITTINGS_GALLERY_COLOURS_COLOURS_PAGE_H_
+#define FITTINGS_GALLERY_COLOURS_COLOURS_PAGE_H_
+
+#include <wx/colour.h>
+#include <wx/scrolwin.h>
+
+#include <fittings/colour/colour_popup.h>
+
+class wxBoxSizer;
+class wxColourCombo;
+class wxDataViewListCtrl;
+class wxSizer;
+class wxStaticText;
+
+namespace gallery {
+
+class ColourOptionFields;
+
+/// A colour combo with each of its options, what its host hears of it, and what the colour looks like.
+///
+/// Options and colour come back as they were when SaveSettings() was last called. Other options make another combo, as
+/// they are set before the popup is shown.
+class ColoursPage : public wxScrolledWindow, private wxColorPopupListener
+{
+public:
+    explicit ColoursPage(wxWindow* parent);
+    ~ColoursPage() override;
+
+    wxColourCombo* GetCombo() const { return m_combo; }
+    wxColourPopup* GetColourPopup() const;
+
+    /// The calls and events, the last one below, each with its colour where it has one.
+    wxDataViewListCtrl* GetEvents() const { return m_events; }
+
+    ColourOptionFields* GetFields() const { return m_options; }
+
+    /// The colour in effect.
+    const wxColour& GetColour() const { return m_colour; }
+
+    void SaveSettings() const;
+
+private:
+    wxSizer* MakeChoice();
+    wxSizer* MakePreview();
+    wxSizer* MakeEvents();
+    void Arrange();
+    void MakeCombo();
+    void ShowColour(const wxColour& colour);
+    void Note(const wxString& name, const wxColour& colour = wxNullColour);
+
+    void OnColourPopup() override;
+    void OnColourSelChange(const wxColour& colour) override;
+    void OnColourSelEnd(const wxColour& colour) override;
+    void OnColourSelCancel(const wxColour& colour) override;
+
+    wxBoxSizer* m_trial = nullptr;
+    wxSizer* m_choice = nullptr;
+    wxStaticText* m_label = nullptr;
+    wxColourCombo* m_combo = nullptr;
+    wxWindow* m_preview = nullptr;
+    wxStaticText* m_previewText = nullptr;
+    wxDataViewListCtrl* m_events = nullptr;
+    ColourOptionFields* m_options = nullptr;
+    wxColour m_colour;
+};
+
+}  // namespace gallery
+
+#endif

@@ -1,0 +1,56 @@
+#ifndef FITTINGS_GALLERY_FOLDERS_NATIVE_TEXT_H_
+#define FITTINGS_GALLERY_FOLDERS_NATIVE_TEXT_H_
+
+#include <cstdint>
+#include <string>
+
+#include <wx/string.h>
+
+#include <fittings/numedit/number_format.h>
+
+namespace gallery {
+
+/// @name File names
+///
+/// A file name is bytes in no particular encoding. The bytes are what files are opened with; a text made from them is
+/// for showing and for the settings.
+/// @{
+
+/// Returns a name or path to be shown: what is not UTF-8 becomes U+FFFD, control characters their pictures.
+wxString DisplayText(const std::string& bytes);
+
+/// Returns a path as a text that PathFromText() turns back into the same bytes. Readable UTF-8 stays as it is, the rest
+/// is percent-encoded. The text never holds a "|".
+std::wstring TextFromPath(const std::string& path);
+std::string PathFromText(const std::wstring& text);
+
+/// Returns a path that was typed or chosen in a dialog as the bytes to open it with.
+std::string PathFromDialog(const wxString& path);
+
+/// @}
+/// @name Numbers for people, in the current locale
+/// @{
+
+/// "1.2 kB"
+wxString HumanSize(std::uint64_t bytes);
+
+/// "1.2 kB (1,234 bytes)", or "1 byte" where the short form says it all.
+wxString ExactSize(std::uint64_t bytes);
+
+/// The locale's format with its digits grouped: by a blank that never breaks where the locale has no separator.
+CNumberFormat GroupingFormat();
+
+/// "171,661", with the locale's separators, see GroupingFormat().
+wxString GroupedNumber(std::uint64_t number);
+
+/// "2026-03-14 09:26" in local time.
+wxString HumanTime(std::int64_t secondsSinceEpoch);
+
+/// "1 folder", "2 folders".
+wxString Counted(std::size_t count, const wxString& one, const wxString& many);
+
+/// @}
+
+}  // namespace gallery
+
+#endif

@@ -1,0 +1,65 @@
+#include <gallery/folders/report.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <memory>
+
+#include <glib.h>
+#include <sys/stat.h>
+
+#include <gallery/folders/native_text.h>
+
+namespace gallery {
+
+namespace {
+
+std::string Quoted(const std::string& text)
+{
+    if (text.find_first_of("\",\r\n") == std::string::npos)
+        return text;
+    std::string quoted = "\"";
+    for (const char c : text) {
+        if (c == '"')
+            quoted += '"';
+        quoted += c;
+    }
+    return quoted + '"';
+}
+
+std::string Utf8(const wxString& text)
+{
+    return std::string(text.utf8_str());
+}
+
+}  // namespace
+
+std::string ReportText(const std::string& folder, const std::vector<Entry>& entries)
+{
+    std::string text = "Name,Kind,Bytes,Modified,Path\r\n";
+    for (const Entry& entry : entries) {
+        text += Quoted(Utf8(DisplayText(entry.name))) + ',' + Quoted(entry.type) + ',';
+        if (entry.HasSize())
+            text += std::to_string(entry.size);
+        text += ',';
+        if (entry.known)
+            text += Utf8(HumanTime(entry.modified));
+        text += ',' + Quoted(Utf8(DisplayText(JoinPath(folder, entry.name)))) + "\r\n";
+    }
+    return text;
+}
+
+int SaveReport(const std::string& path, const std::string& text)
+{
+    // A link stays one, and a file keeps who may read it.
+    const std::unique_ptr<char, decltype(&std::free)> target(realpath(path.c_str(), nullptr), &std::free);
+    const char* const file = target ? target.get() : path.c_str();
+    struct stat status;
+    const int mode = stat(file, &status) == 0 ? static_cast<int>(status.st_mode & 07777) : 0666;
+    const auto flags = static_cast<GFileSetContentsFlags>(G_FILE_SET_CONTENTS_CONSISTENT | G_FILE_SET_CONTENTS_DURABLE);
+    errno = 0;
+    if (g_file_set_contents_full(file, text.data(), static_cast<gssize>(text.size()), flags, mode, nullptr))
+        return 0;
+    return errno != 0 ? errno : EIO;
+}
+
+}  // namespace gallery

@@ -1,0 +1,59 @@
+#ifndef FITTINGS_GALLERY_FOLDERS_SIZE_WORKER_H_
+#define FITTINGS_GALLERY_FOLDERS_SIZE_WORKER_H_
+
+#include <chrono>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <fittings/thread/gui_thread.h>
+
+#include <gallery/folders/folder_size.h>
+
+namespace gallery {
+
+/// What a worker has found out since it was asked last.
+struct SizeNews
+{
+    std::vector<std::pair<std::string, FolderSum>> folders;  ///< Names of folders that are done, with their sums.
+    FolderSum soFar;
+    double fraction = 0;  ///< How much is done, from 0 to 1.
+    bool done = false;
+};
+
+/// Adds up a folder and everything below it in the background.
+///
+/// Its events say only that there is news, to be had from TakeNews(): one lost with its handler loses nothing, and never is
+/// more than one in the queue.
+class SizeWorker : public wxGUIThreadEx, private SizeObserver
+{
+public:
+    /// The int of each event of @a eventType that @a handler gets is @a number, by which it tells workers apart.
+    SizeWorker(wxEvtHandler* handler, int eventType, int number, std::string folder);
+
+    /// Stops the work and waits until it has ended.
+    ~SizeWorker() override;
+
+    SizeNews TakeNews();
+
+    wxThread::ExitCode Entry() override;
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    void OnSubfolder(const std::string& name, const FolderSum& sum) override;
+    bool OnProgress(const FolderSum& soFar, double fraction) override;
+    bool Tell(const FolderSum& soFar, double fraction, bool done);
+
+    const int m_number;
+    const std::string m_folder;
+    Clock::time_point m_nextNews;
+
+    wxMutex m_newsMutex;  ///< Guards the members below.
+    SizeNews m_news;
+    bool m_told = false;  ///< An event is on its way.
+};
+
+}  // namespace gallery
+
+#endif

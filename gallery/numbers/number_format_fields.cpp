@@ -1,0 +1,360 @@
+#include <gallery/numbers/number_format_fields.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <string>
+
+#include <wx/button.h>
+#include <wx/checkbox.h>
+#include <wx/choice.h>
+#include <wx/sizer.h>
+#include <wx/spinctrl.h>
+#include <wx/stattext.h>
+#include <wx/textctrl.h>
+
+#include <fittings/numedit/num_validator.h>
+
+#include <gallery/pages/page_layout.h>
+#include <gallery/pages/page_settings.h>
+#include <gallery/pages/window_helpers.h>
+
+namespace gallery {
+
+wxDEFINE_EVENT(EVT_FORMAT_CHANGED, wxCommandEvent);
+
+namespace {
+
+constexpr int kLargestCount = 99;
+
+struct Flag
+{
+    bool CNumberFormat::*field;
+    const char* name;
+    const char* label;
+};
+
+enum FlagIndex {
+    AllowSign,
+    AllowExponent,
+    HasDecimals,
+    HasMaxIntDigits,
+    HasMin,
+    HasMax,
+    PadDecimals,
+    RoundDecimals,
+    GroupDigits,
+    TrailingMinus
+};
+
+constexpr Flag kFlags[] = {
+    {&CNumberFormat::m_bAllowSign, "AllowSign", "A &sign"},
+    {&CNumberFormat::m_bAllowExponent, "AllowExponent", "An &exponent"},
+    {&CNumberFormat::m_bHasDecimals, "HasDecimals", "&Decimals"},
+    {&CNumberFormat::m_bHasMaxIntDigits, "HasMaxIntDigits", "&Integer digits"},
+    {&CNumberFormat::m_bHasMin, "HasMin", "&Minimum"},
+    {&CNumberFormat::m_bHasMax, "HasMax", "Maxim&um"},
+    {&CNumberFormat::m_bPadDecimals, "PadDecimals", "Fill up with &zeros"},
+    {&CNumberFormat::m_bRoundDecimals, "RoundDecimals", "&Round"},
+    {&CNumberFormat::m_bGroupDigits, "GroupDigits", "&Group digits"},
+    {&CNumberFormat::m_bTrailingMinus, "TrailingMinus", "Minus sign at the &back"},
+};
+
+struct Character
+{
+    wchar_t CNumberFormat::*field;
+    const char* name;
+    const char* label;
+};
+
+constexpr Character kCharacters[] = {
+    {&CNumberFormat::m_chDecimalPoint, "DecimalPoint", "Decimal &point"},
+    {&CNumberFormat::m_chThousandsSep, "ThousandsSep", "&Thousands separator"},
+};
+
+struct Count
+{
+    std::uint64_t CNumberFormat::*field;
+    FlagIndex flag;
+    const char* name;
+};
+
+constexpr Count kCounts[] = {
+    {&CNumberFormat::m_nDecimals, HasDecimals, "Decimals"},
+    {&CNumberFormat::m_nMaxIntDigits, HasMaxIntDigits, "MaxIntDigits"},
+};
+
+struct Bound
+{
+    double CNumberFormat::*field;
+    FlagIndex flag;
+    const char* name;
+};
+
+constexpr Bound kBounds[] = {
+    {&CNumberFormat::m_dMin, HasMin, "Min"},
+    {&CNumberFormat::m_dMax, HasMax, "Max"},
+};
+
+// A choice, not a text field: a template is a printf format, which must never come from a user.
+const wchar_t* const kTemplates[] = {L"%s", L"%s kg", L"%s \u20AC", L"EUR %s", L"%s %%", L"about %s", L"(%s)"};
+
+/// The field's number in the current locale; 0 while it is none.
+double NumberIn(const wxTextCtrl& field)
+{
+    double number = 0;
+    return field.GetValue().ToDouble(&number) ? number : 0;
+}
+
+/// 0 while there is none.
+wchar_t CharacterIn(const wxTextCtrl& field)
+{
+    const wxString text = field.GetValue();
+    return text.empty() ? L'\0' : static_cast<wchar_t>(text[0]);
+}
+
+wxString TextOf(double number)
+{
+    return wxString::Format("%.15g", number);
+}
+
+wxString CodeOf(wchar_t character)
+{
+    return character == 0 ? wxString("none") : wxString::Format("U+%04X", static_cast<unsigned>(character));
+}
+
+/// Numbers of any size, for the fields that set the bounds.
+CNumberFormat BoundFormat()
+{
+    CNumberFormat format(eLocaleFormat);
+    format.m_bAllowExponent = true;
+    format.m_bHasDecimals = true;
+    format.m_nDecimals = 300;
+    return format;
+}
+
+}  // namespace
+
+NumberFormatFields::NumberFormatFields(wxWindow* parent) : wxPanel(parent)
+{
+    m_flags.resize(std::size(kFlags));
+    // Tab follows the order in which the controls are made.
+    wxSizer* presets = MakePresets();
+    m_columns = new wxBoxSizer(wxHORIZONTAL);
+    for (wxSizer* column : {MakeAccepted(), MakeLimits(), MakeShown()})
+        m_columns->Add(column, wxSizerFlags().Border(wxRIGHT | wxBOTTOM, FromDIP(kColumnGap)));
+    auto* rows = new wxBoxSizer(wxVERTICAL);
+    rows->Add(presets, wxSizerFlags().Border(wxBOTTOM, FromDIP(12)));
+    rows->Add(m_columns, wxSizerFlags().Expand());
+    SetSizer(rows);
+
+    LoadSettings();
+    const auto onChange = [this](wxCommandEvent&) { OnChange(); };
+    Bind(wxEVT_CHECKBOX, onChange);
+    Bind(wxEVT_CHOICE, onChange);
+    Bind(wxEVT_SPINCTRL, onChange);
+    Bind(wxEVT_TEXT, onChange);
+}
+
+CNumberFormat NumberFormatFields::GetFormat() const
+{
+    CNumberFormat format(eFixedFormat);
+    for (std::size_t i = 0; i < std::size(kFlags); ++i)
+        format.*kFlags[i].field = m_flags[i]->GetValue();
+    for (std::size_t i = 0; i < std::size(kCharacters); ++i)
+        format.*kCharacters[i].field = CharacterIn(*m_characters[i]);
+    for (std::size_t i = 0; i < std::size(kCounts); ++i)
+        format.*kCounts[i].field = static_cast<std::uint64_t>(m_counts[i]->GetValue());
+    for (std::size_t i = 0; i < std::size(kBounds); ++i)
+        format.*kBounds[i].field = NumberIn(*m_bounds[i]);
+    format.m_strTemplate = kTemplates[std::max(m_template->GetSelection(), 0)];
+    return format;
+}
+
+void NumberFormatFields::SetFormat(const CNumberFormat& format)
+{
+    m_settingFormat = true;
+    for (std::size_t i = 0; i < std::size(kFlags); ++i)
+        m_flags[i]->SetValue(format.*kFlags[i].field);
+    for (std::size_t i = 0; i < std::size(kCharacters); ++i) {
+        const wchar_t character = format.*kCharacters[i].field;
+        m_characters[i]->SetValue(character == 0 ? wxString() : wxString(character));
+    }
+    for (std::size_t i = 0; i < std::size(kCounts); ++i) {
+        if (format.*kFlags[kCounts[i].flag].field)
+            m_counts[i]->SetValue(static_cast<int>(std::min<std::uint64_t>(format.*kCounts[i].field, kLargestCount)));
+    }
+    for (std::size_t i = 0; i < std::size(kBounds); ++i) {
+        if (format.*kFlags[kBounds[i].flag].field)
+            m_bounds[i]->SetValue(TextOf(format.*kBounds[i].field));
+    }
+    const auto* found = std::find(std::begin(kTemplates), std::end(kTemplates), format.m_strTemplate);
+    m_template->SetSelection(found == std::end(kTemplates) ? 0 : static_cast<int>(found - std::begin(kTemplates)));
+    m_settingFormat = false;
+    OnChange();
+}
+
+void NumberFormatFields::SaveSettings() const
+{
+    for (std::size_t i = 0; i < std::size(kFlags); ++i)
+        kFormatSettings.SaveFlag(kFlags[i].name, m_flags[i]->GetValue());
+    for (std::size_t i = 0; i < std::size(kCharacters); ++i)
+        kFormatSettings.Save(kCharacters[i].name, CodeOf(CharacterIn(*m_characters[i])));
+    for (std::size_t i = 0; i < std::size(kCounts); ++i)
+        kFormatSettings.SaveNumber(kCounts[i].name, m_counts[i]->GetValue());
+    for (std::size_t i = 0; i < std::size(kBounds); ++i)
+        kFormatSettings.Save(kBounds[i].name, m_bounds[i]->GetValue());
+    kFormatSettings.Save("Template", kTemplates[m_template->GetSelection()]);
+}
+
+void NumberFormatFields::Arrange(int width)
+{
+    ArrangeColumns(m_columns, width);
+    InvalidateBestSize();
+}
+
+/// What is missing or no value of its field stays as it is in a first session.
+void NumberFormatFields::LoadSettings()
+{
+    CNumberFormat format(eFixedFormat);
+    for (const Flag& flag : kFlags)
+        format.*flag.field = kFormatSettings.LoadFlag(flag.name, format.*flag.field);
+    for (const Character& character : kCharacters) {
+        const wxString text = kFormatSettings.Load(character.name);
+        unsigned long code = 0;
+        if (text == CodeOf(0))
+            format.*character.field = L'\0';
+        else if (text.StartsWith("U+") && text.Mid(2).ToULong(&code, 16) && code > 0 && code <= 0x10FFFF)
+            format.*character.field = static_cast<wchar_t>(code);
+    }
+    format.m_strTemplate = kFormatSettings.Load("Template").wc_str();
+    SetFormat(format);
+    // Limits have a value also while they are not in force.
+    for (std::size_t i = 0; i < std::size(kCounts); ++i) {
+        m_counts[i]->SetValue(kFormatSettings.LoadNumber(kCounts[i].name, 0, kLargestCount, m_counts[i]->GetValue()));
+    }
+    for (std::size_t i = 0; i < std::size(kBounds); ++i)
+        m_bounds[i]->ChangeValue(kFormatSettings.Load(kBounds[i].name));
+}
+
+wxSizer* NumberFormatFields::MakePresets()
+{
+    const auto button = [this](const wxString& label, const char* name, EGeneralFormat preset) {
+        auto* made = new wxButton(this, wxID_ANY, label);
+        made->SetName(name);
+        made->Bind(wxEVT_BUTTON, [this, preset](wxCommandEvent&) { SetFormat(CNumberFormat(preset)); });
+        return made;
+    };
+    auto* buttons = new wxBoxSizer(wxHORIZONTAL);
+    buttons->Add(MakeHeading(this, "Format"), wxSizerFlags().CentreVertical().Border(wxRIGHT, FromDIP(kMargin)));
+    buttons->Add(button("Like the l&ocale", "eLocaleFormat", eLocaleFormat),
+                 wxSizerFlags().Border(wxRIGHT, FromDIP(kGap)));
+    buttons->Add(button("Fi&xed", "eFixedFormat", eFixedFormat));
+    return buttons;
+}
+
+wxSizer* NumberFormatFields::MakeAccepted()
+{
+    auto* rows = new wxBoxSizer(wxVERTICAL);
+    const wxSizerFlags row = wxSizerFlags().Border(wxBOTTOM, FromDIP(kGap));
+    rows->Add(MakeHeading(this, "Accept"), row);
+    rows->Add(MakeFlag(AllowSign), row);
+    rows->Add(MakeFlag(AllowExponent), row);
+    auto* grid = new wxFlexGridSizer(3, FromDIP(wxSize(kGap, kGap)));
+    for (std::size_t i = 0; i < std::size(kCharacters); ++i)
+        AddCharacter(grid, i);
+    rows->Add(grid);
+    rows->SetMinSize(FromDIP(wxSize(kColumnWidth, -1)));
+    return rows;
+}
+
+wxSizer* NumberFormatFields::MakeLimits()
+{
+    auto* grid = new wxFlexGridSizer(2, FromDIP(wxSize(kGap, kGap)));
+    grid->SetFlexibleDirection(wxHORIZONTAL);
+    for (const Count& count : kCounts) {
+        wxCheckBox* const flag = MakeFlag(count.flag);
+        grid->Add(flag, wxSizerFlags().CentreVertical());
+        auto* field =
+            new wxSpinCtrl(this, wxID_ANY, "0", wxDefaultPosition, wxDefaultSize, wxSP_ARROW_KEYS, 0, kLargestCount);
+        field->SetName(count.name);
+        SetAccessibleName(field, flag->GetLabelText());
+        m_counts.push_back(field);
+        grid->Add(field, wxSizerFlags().Expand());
+    }
+    for (const Bound& bound : kBounds) {
+        wxCheckBox* const flag = MakeFlag(bound.flag);
+        grid->Add(flag, wxSizerFlags().CentreVertical());
+        auto* field = new wxTextCtrl(this, wxID_ANY, "", wxDefaultPosition, FromDIP(wxSize(130, -1)), 0,
+                                     wxNumValidator(BoundFormat(), nullptr));
+        field->SetName(bound.name);
+        SetAccessibleName(field, flag->GetLabelText());
+        m_bounds.push_back(field);
+        grid->Add(field, wxSizerFlags().Expand());
+    }
+    auto* rows = new wxBoxSizer(wxVERTICAL);
+    rows->Add(MakeHeading(this, "Limit"), wxSizerFlags().Border(wxBOTTOM, FromDIP(kGap)));
+    rows->Add(grid);
+    return rows;
+}
+
+wxSizer* NumberFormatFields::MakeShown()
+{
+    auto* rows = new wxBoxSizer(wxVERTICAL);
+    const wxSizerFlags row = wxSizerFlags().Border(wxBOTTOM, FromDIP(kGap));
+    rows->Add(MakeHeading(this, "Show"), row);
+    for (const FlagIndex flag : {PadDecimals, RoundDecimals, GroupDigits, TrailingMinus})
+        rows->Add(MakeFlag(flag), row);
+    wxArrayString offered;
+    for (const wchar_t* each : kTemplates)
+        offered.push_back(each);
+    auto* label = new wxStaticText(this, wxID_ANY, "Temp&late");
+    m_template = new wxChoice(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, offered);
+    m_template->SetName("Template");
+    auto* line = new wxBoxSizer(wxHORIZONTAL);
+    line->Add(label, wxSizerFlags().CentreVertical().Border(wxRIGHT, FromDIP(kGap)));
+    line->Add(m_template, wxSizerFlags().CentreVertical());
+    rows->Add(line);
+    return rows;
+}
+
+wxCheckBox* NumberFormatFields::MakeFlag(std::size_t index)
+{
+    auto* box = new wxCheckBox(this, wxID_ANY, kFlags[index].label);
+    box->SetName(kFlags[index].name);
+    m_flags[index] = box;
+    return box;
+}
+
+/// A field for one character, between its label and its code: many separators are blanks of some kind.
+void NumberFormatFields::AddCharacter(wxSizer* grid, std::size_t index)
+{
+    auto* label = new wxStaticText(this, wxID_ANY, kCharacters[index].label);
+    auto* field = new wxTextCtrl(this, wxID_ANY, "");
+    field->SetName(kCharacters[index].name);
+    field->SetMaxLength(1);
+    field->SetInitialSize(field->GetSizeFromTextSize(field->GetTextExtent("MM")));
+    auto* code = new wxStaticText(this, wxID_ANY, CodeOf(L'\U0010FFFF'));
+    code->SetName(wxString(kCharacters[index].name) + "Code");
+    code->SetMinSize(code->GetBestSize());
+    grid->Add(label, wxSizerFlags().CentreVertical());
+    grid->Add(field);
+    grid->Add(code, wxSizerFlags().CentreVertical());
+    m_characters.push_back(field);
+    m_codes.push_back(code);
+}
+
+/// Brings the fields in line with each other and says that the format is another.
+void NumberFormatFields::OnChange()
+{
+    if (m_settingFormat)
+        return;
+    for (std::size_t i = 0; i < std::size(kCounts); ++i)
+        m_counts[i]->Enable(m_flags[kCounts[i].flag]->GetValue());
+    for (std::size_t i = 0; i < std::size(kBounds); ++i)
+        m_bounds[i]->Enable(m_flags[kBounds[i].flag]->GetValue());
+    for (std::size_t i = 0; i < std::size(kCharacters); ++i)
+        m_codes[i]->SetLabelText(CodeOf(CharacterIn(*m_characters[i])));
+    TellChange(*this, EVT_FORMAT_CHANGED);
+}
+
+}  // namespace gallery

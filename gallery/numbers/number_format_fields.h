@@ -1,0 +1,67 @@
+#ifndef FITTINGS_GALLERY_NUMBERS_NUMBER_FORMAT_FIELDS_H_
+#define FITTINGS_GALLERY_NUMBERS_NUMBER_FORMAT_FIELDS_H_
+
+#include <cstddef>
+#include <vector>
+
+#include <wx/event.h>
+#include <wx/panel.h>
+
+#include <fittings/numedit/number_format.h>
+
+class wxBoxSizer;
+class wxCheckBox;
+class wxChoice;
+class wxSizer;
+class wxSpinCtrl;
+class wxStaticText;
+class wxTextCtrl;
+
+namespace gallery {
+
+/// Sent by a NumberFormatFields when the format that it says is another.
+wxDECLARE_EVENT(EVT_FORMAT_CHANGED, wxCommandEvent);
+
+/// A control for every field of a CNumberFormat, named after it: "AllowSign", "HasDecimals", "Decimals".
+///
+/// The format comes back as it was when SaveSettings() was last called.
+class NumberFormatFields : public wxPanel
+{
+public:
+    explicit NumberFormatFields(wxWindow* parent);
+
+    /// The format that the controls say.
+    CNumberFormat GetFormat() const;
+
+    /// Makes the controls say @a format. A limit that is not in force keeps its value; a template that is not among
+    /// those offered becomes the plain one.
+    void SetFormat(const CNumberFormat& format);
+
+    void SaveSettings() const;
+
+    /// Makes the best of @a width pixels.
+    void Arrange(int width);
+
+private:
+    void LoadSettings();
+    wxSizer* MakePresets();
+    wxSizer* MakeAccepted();
+    wxSizer* MakeLimits();
+    wxSizer* MakeShown();
+    wxCheckBox* MakeFlag(std::size_t index);
+    void AddCharacter(wxSizer* grid, std::size_t index);
+    void OnChange();
+
+    wxBoxSizer* m_columns = nullptr;
+    std::vector<wxCheckBox*> m_flags;
+    std::vector<wxTextCtrl*> m_characters;
+    std::vector<wxStaticText*> m_codes;
+    std::vector<wxSpinCtrl*> m_counts;
+    std::vector<wxTextCtrl*> m_bounds;
+    wxChoice* m_template = nullptr;
+    bool m_settingFormat = false;
+};
+
+}  // namespace gallery
+
+#endif

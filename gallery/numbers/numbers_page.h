@@ -1,0 +1,58 @@
+#ifndef FITTINGS_GALLERY_NUMBERS_NUMBERS_PAGE_H_
+#define FITTINGS_GALLERY_NUMBERS_NUMBERS_PAGE_H_
+
+#include <vector>
+
+#include <wx/scrolwin.h>
+#include <wx/string.h>
+
+class wxBoxSizer;
+class wxButton;
+class wxCheckBox;
+class wxSizer;
+class wxStaticText;
+class wxTextCtrl;
+
+namespace gallery {
+
+class NumberFormatFields;
+
+/// A number that is typed, a format for it, and what the one makes of the other.
+///
+/// Number and format come back as they were when SaveSettings() was last called.
+class NumbersPage : public wxScrolledWindow
+{
+public:
+    explicit NumbersPage(wxWindow* parent);
+
+    NumberFormatFields* GetFields() const { return m_fields; }
+
+    /// The number that was kept last.
+    const wxString& GetKept() const { return m_kept; }
+
+    void SaveSettings() const;
+
+private:
+    void LoadSettings();
+    wxSizer* MakeTrial();
+    wxSizer* MakeResults();
+    void Arrange();
+    void UseFormat();
+    void ShowResults();
+    void OnKeep();
+    void OnBringBack();
+
+    wxBoxSizer* m_columns = nullptr;
+    NumberFormatFields* m_fields = nullptr;
+    wxTextCtrl* m_number = nullptr;
+    wxCheckBox* m_validates = nullptr;
+    wxButton* m_keep = nullptr;
+    wxButton* m_bringBack = nullptr;
+    wxStaticText* m_keptText = nullptr;
+    std::vector<wxStaticText*> m_results;
+    wxString m_kept;
+};
+
+}  // namespace gallery
+
+#endif

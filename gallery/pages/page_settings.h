@@ -1,0 +1,40 @@
+#ifndef FITTINGS_GALLERY_PAGES_PAGE_SETTINGS_H_
+#define FITTINGS_GALLERY_PAGES_PAGE_SETTINGS_H_
+
+#include <wx/colour.h>
+#include <wx/string.h>
+
+namespace gallery {
+
+/// What a page remembers between sessions: values by name, in one section of a settings file. Each function reads or
+/// writes the file at once. Someone may have edited it: what is missing or cannot be used gives @a otherwise.
+class PageSettings
+{
+public:
+    constexpr PageSettings(const wchar_t* file, const wchar_t* section) : m_file(file), m_section(section) {}
+
+    /// Empty when nothing is stored.
+    wxString Load(const wxString& name) const;
+    void Save(const wxString& name, const wxString& text) const;
+
+    bool LoadFlag(const wxString& name, bool otherwise) const;
+    void SaveFlag(const wxString& name, bool flag) const;
+
+    int LoadNumber(const wxString& name, int least, int most, int otherwise) const;
+    void SaveNumber(const wxString& name, int number) const;
+
+    wxColour LoadColour(const wxString& name, const wxColour& otherwise) const;
+    void SaveColour(const wxString& name, const wxColour& colour) const;
+
+private:
+    const wchar_t* m_file;
+    const wchar_t* m_section;
+};
+
+inline constexpr PageSettings kNumberSettings(L"numbers.ini", L"Number");
+inline constexpr PageSettings kFormatSettings(L"numbers.ini", L"Format");
+inline constexpr PageSettings kColourSettings(L"colours.ini", L"Combo");
+
+}  // namespace gallery
+
+#endif

@@ -1,0 +1,24 @@
+#ifndef FITTINGS_GALLERY_PAGES_WINDOW_HELPERS_H_
+#define FITTINGS_GALLERY_PAGES_WINDOW_HELPERS_H_
+
+#include <wx/event.h>
+#include <wx/gdicmn.h>
+
+class wxString;
+class wxWindow;
+struct _GtkWidget;
+
+namespace gallery {
+
+/// Gives a control of the toolkit a name for assistive technologies, where no static text stands before it.
+void SetAccessibleName(wxWindow* control, const wxString& name);
+
+/// Returns where a top-level window is on the screen, with its decorations.
+wxRect FrameRect(_GtkWidget* window);
+
+/// Sends a command event from @a window, as the toolkit's controls do when the user changes them.
+void TellChange(wxWindow& window, wxEventType type);
+
+}  // namespace gallery
+
+#endif

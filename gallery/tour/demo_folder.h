@@ -1,0 +1,33 @@
+#ifndef FITTINGS_GALLERY_TOUR_DEMO_FOLDER_H_
+#define FITTINGS_GALLERY_TOUR_DEMO_FOLDER_H_
+
+#include <string>
+
+namespace gallery {
+
+/// Folders and files for the tour, with the same names, sizes and times everywhere, and room for its settings. All of it
+/// goes when the object does.
+///
+/// The files have their sizes, but take no space.
+class DemoFolder
+{
+public:
+    DemoFolder();
+    ~DemoFolder();
+    DemoFolder(const DemoFolder&) = delete;
+    DemoFolder& operator=(const DemoFolder&) = delete;
+
+    /// Empty when the folder could not be made.
+    const std::string& Path() const { return m_path; }
+
+    /// An empty folder for settings.
+    std::string SettingsPath() const { return m_work + "/settings"; }
+
+private:
+    std::string m_work;
+    std::string m_path;
+};
+
+}  // namespace gallery
+
+#endif

@@ -1,0 +1,51 @@
+#ifndef FITTINGS_GALLERY_TOUR_SIMULATED_USER_H_
+#define FITTINGS_GALLERY_TOUR_SIMULATED_USER_H_
+
+#include <functional>
+
+#include <wx/defs.h>
+#include <wx/gdicmn.h>
+
+struct _GtkWidget;
+class wxTreeCtrl;
+class wxTreeItemId;
+class wxWindow;
+
+namespace gallery {
+
+class ContentsList;
+enum class SortColumn;
+
+/// A person at the mouse and the keyboard: the windows get real input events. X11 only; a top-level window must exist.
+namespace simulated_user {
+
+/// Runs the event loop until @a done says so; false when it did not within @a milliseconds.
+bool WaitUntil(const std::function<bool()>& done, int milliseconds = 30000);
+
+/// @name Input, at points of the screen
+/// @{
+void Click(const wxPoint& point);
+void DoubleClick(const wxPoint& point);
+void Drag(const wxPoint& from, const wxPoint& to);
+void PointAt(const wxPoint& point);
+void Press(int key, int modifiers = wxMOD_NONE);
+/// Makes @a part of a window wider: drags the border at its end, or @a gap pixels behind it, where reading goes on.
+void Widen(const wxWindow& window, const wxRect& part, int pixels, int gap = 0);
+/// @}
+
+/// @name What to point at, on the screen; empty when it cannot be seen
+/// @{
+wxPoint CentreOf(const wxRect& rect);
+wxRect WidgetRect(_GtkWidget* widget);
+/// Not GetScreenRect(), which begins where the window ends when reading goes from right to left.
+wxRect WindowRect(const wxWindow& window);
+wxRect LabelRect(const wxTreeCtrl& tree, const wxTreeItemId& item);
+wxRect HeaderRect(const ContentsList& list, SortColumn column);
+wxRect NameRect(const ContentsList& list, unsigned row);
+/// @}
+
+}  // namespace simulated_user
+
+}  // namespace gallery
+
+#endif

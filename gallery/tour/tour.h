@@ -1,0 +1,65 @@
+#ifndef FITTINGS_GALLERY_TOUR_TOUR_H_
+#define FITTINGS_GALLERY_TOUR_TOUR_H_
+
+#include <functional>
+#include <string>
+
+#include <gallery/tour/demo_folder.h>
+
+struct _GtkWidget;
+class wxPoint;
+class wxWindow;
+
+namespace gallery {
+
+class GalleryFrame;
+
+/// The program shown by itself: drives its window with simulated input and takes a picture of each component.
+///
+/// It browses a folder that it makes, unless it is given one, and keeps its settings apart from the user's.
+class Tour
+{
+public:
+    /// Pictures go into the folder @a pictures, which is made when it is missing.
+    Tour(const std::string& pictures, const std::string& folder);
+
+    /// Says on the standard output how each step went; true when all did what they should. Needs an active event loop.
+    bool Run();
+
+private:
+    bool OpenWindow();
+    bool ExpandByKeyboard();
+    bool SortByHeader();
+    bool AddUpFolders();
+    bool LeaveOutSmallOnes();
+    bool SaveReport();
+    bool ChooseFolder();
+    bool CancelFolder();
+    bool ColourFolder();
+    bool TypeNumber();
+    bool ChooseColour();
+    bool RememberWindow();
+    bool RememberMaximised();
+
+    bool IsTrue(bool condition, const char* claim);
+    bool Waits(const std::function<bool()>& condition, const char* claim);
+    bool VisitDialog(char key, const char* claim, const std::function<bool(_GtkWidget*)>& visit);
+    bool AcceptFile(_GtkWidget* dialog, const std::string& file, const char* picture);
+    bool ShowPage(char key, const wxWindow* page);
+    bool OpenFolderColours();
+    bool FolderGets(int cell);
+    bool SavePicture(const char* component);
+
+    /// Leaves the pointer where it is wanted in the picture.
+    bool SavePicture(const char* component, const wxPoint& pointer);
+    bool Reopen();
+
+    std::string m_pictures;
+    DemoFolder m_demo;
+    std::string m_folder;
+    GalleryFrame* m_frame = nullptr;
+};
+
+}  // namespace gallery
+
+#endif
