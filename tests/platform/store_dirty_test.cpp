@@ -414,14 +414,23 @@ TEST(SettingAValueToWhatItIs, LeavesItAsItWasTyped)
     EXPECT_EQ(ReadFile(folder / "b.ini"), typed);
 }
 
+TEST(AFileThatNamesAnEncoding, IsReadAsAnyOther)
+{
+    TempFolder folder;
+    WriteFile(folder / "a.ini", "[%%]\nEncoding=latin1\n");
+    Ini ini(folder / "a.ini");
+    EXPECT_EQ(ini.Get(L"%%", L"Encoding"), L"latin1");
+    ini.Set(L"s", L"k", L"v");
+    ASSERT_TRUE(ini.Save(folder / "a.ini"));
+    EXPECT_EQ(ReadFile(folder / "a.ini"), "[%%]\nEncoding=latin1\n\n[s]\nk=v\n");
+}
+
 TEST(AFileThatHoldsNoText, IsSetAsideWhenANewOneIsSaved)
 {
     TempFolder folder;
     const std::string files[] = {std::string(4096, '\0'), "\xFF\xFE[\0s\0]\0\n\0"s, "\xFE\xFF\x4E\x2D\x65\x87",
                                  "\x7F"
-                                 "ELF\0\0[s"s,
-                                 // Nothing that GKeyFile would take, however it is put.
-                                 "[%%]\nEncoding=latin1\n"};
+                                 "ELF\0\0[s"s};
     for (const std::string& bytes : files) {
         WriteFile(folder / "a.ini", bytes);
         Ini ini;

@@ -59,7 +59,7 @@ TEST_F(NamesOfAFile, StandOnceThoughTheyAreWrittenInTwoWays)
 {
     Load("[a b]\nk k=1\nk%20k=2\nl=3\n[a%20b]\nl=4\nm=5\n[a b]\nn=6\n");
     EXPECT_EQ(Sections(), (Names{L"a b"}));
-    EXPECT_EQ(Keys(L"a b"), (Names{L"k k", L"l", L"n", L"m"}));
+    EXPECT_EQ(Keys(L"a b"), (Names{L"k k", L"l", L"m", L"n"}));
 }
 
 TEST_F(NamesOfAFile, ChangeWithIt)

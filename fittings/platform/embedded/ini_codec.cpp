@@ -268,7 +268,7 @@ std::string EncodeValue(std::wstring_view text)
 
 std::wstring DecodeValue(std::string_view value)
 {
-    value = WithoutBlanksAtEnd(value);  // those before it are GKeyFile's
+    value = WithoutBlanksAtEnd(value);  // those before it are no part of it
     if (IsQuoted(value)) {
         if (auto text = Unquoted(value.substr(1, value.size() - 2)))
             return *std::move(text);

@@ -1,11 +1,6 @@
 #include <fittings/platform/embedded/ini_text.h>
 
-#include <algorithm>
-#include <array>
-#include <map>
-#include <unordered_map>
-
-#include <glib.h>
+#include <utility>
 
 #include <fittings/platform/embedded/ini_codec.h>
 
@@ -13,264 +8,267 @@ namespace fittings {
 
 namespace {
 
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-
-// Every load asks about every character of every name.
-const std::array<bool, 256> kPlainCharacters = [] {
-    std::array<bool, 256> plain = {};
-    for (std::size_t byte = 0; byte < plain.size(); ++byte)
-        plain[byte] = IsPlainInName(static_cast<char>(byte));
-    return plain;
-}();
-
-std::size_t PlainLength(std::string_view text)
+bool IsUtf16(std::string_view text)
 {
-    std::size_t length = 0;
-    while (length < text.size() && kPlainCharacters[static_cast<unsigned char>(text[length])])
-        ++length;
-    return length;
+    return text.substr(0, 2) == "\xFF\xFE" || text.substr(0, 2) == "\xFE\xFF";
 }
 
-// The brackets of a key such as Name[de]: letters, digits and a few marks, and nothing behind them.
-bool IsLocaleSuffix(std::string_view suffix)
+bool EndsWithBlankLine(std::string_view text)
 {
-    if (suffix.size() < 2 || suffix.back() != ']')
-        return false;
-    const std::string_view inner = suffix.substr(1, suffix.size() - 2);
-    const char* const end = inner.data() + inner.size();
-    for (const char* at = inner.data(); at < end; at = g_utf8_next_char(at)) {
-        const gunichar character = g_utf8_get_char_validated(at, end - at);
-        const bool isMark = character == '-' || character == '_' || character == '.' || character == '@';
-        if (character > 0x10FFFF || (!isMark && !g_unichar_isalnum(character)))
-            return false;
-    }
-    return true;
-}
-
-bool IsKeyName(std::string_view name)
-{
-    const std::size_t bracket = name.find_first_of("[]");
-    if (bracket == std::string_view::npos)
-        return true;
-    return bracket > 0 && name[bracket] == '[' && name[bracket - 1] != ' ' && IsLocaleSuffix(name.substr(bracket));
-}
-
-struct Splice
-{
-    std::size_t begin;
-    std::size_t end;
-    std::string bytes;
-};
-
-// What is to be done in one section, and where the text has it.
-struct SectionPlan
-{
-    std::unordered_map<std::string_view, std::vector<IniLine>>
-        lines;  ///< Those of the section itself under an empty name.
-    std::optional<std::size_t> insertAt;
-    std::string additions;
-    bool isMade = false;
-};
-
-class Editor
-{
-public:
-    Editor(std::string_view text, const std::vector<IniEdit>& edits) : m_text(text), m_edits(edits) {}
-
-    std::string Result()
-    {
-        for (const IniEdit& edit : m_edits)
-            m_plans[edit.section].lines[edit.key];
-        Locate();
-        for (const IniEdit& edit : m_edits)
-            Change(edit);
-        for (auto& [section, plan] : m_plans) {
-            if (plan.insertAt && !plan.additions.empty())
-                m_splices.push_back({*plan.insertAt, *plan.insertAt, LineEndBefore(*plan.insertAt) + plan.additions});
-        }
-        std::string result = Spliced();
-        AppendNewSections(result);
-        return result;
-    }
-
-private:
-    void Locate()
-    {
-        IniLines lines(m_text);
-        const auto early = m_plans.find("");
-        SectionPlan* plan = early == m_plans.end() ? nullptr : &early->second;
-        for (IniLine line; lines.Next(line);) {
-            if (line.kind == IniLineKind::Section || line.kind == IniLineKind::BrokenSection) {
-                const auto found = line.kind == IniLineKind::Section ? m_plans.find(line.name) : m_plans.end();
-                plan = found == m_plans.end() ? nullptr : &found->second;
-            }
-            const bool isKey = line.kind == IniLineKind::Key || line.kind == IniLineKind::EarlyKey;
-            if (!plan || (line.kind != IniLineKind::Section && !isKey))
-                continue;
-            plan->insertAt = line.next;
-            if (const auto found = plan->lines.find(isKey ? line.name : std::string_view()); found != plan->lines.end())
-                found->second.push_back(line);
-        }
-    }
-
-    void Change(const IniEdit& edit)
-    {
-        SectionPlan& plan = m_plans.find(edit.section)->second;
-        const std::vector<IniLine>& lines = plan.lines.find(edit.key)->second;
-        if (!edit.value) {
-            for (const IniLine& line : lines)
-                m_splices.push_back({line.begin, line.next, ""});
-        } else if (edit.key.empty()) {
-            plan.isMade = true;
-        } else if (!lines.empty()) {
-            m_splices.push_back({lines.back().value, lines.back().end, *edit.value});
-        } else {
-            plan.additions += edit.key + "=" + *edit.value + m_lineEnd;
-        }
-    }
-
-    std::string Spliced()
-    {
-        std::stable_sort(m_splices.begin(), m_splices.end(),
-                         [](const Splice& a, const Splice& b) { return a.begin < b.begin; });
-        std::string result;
-        result.reserve(m_text.size() + 256);
-        std::size_t at = 0;
-        for (const Splice& splice : m_splices) {
-            result.append(m_text, at, splice.begin - at);
-            result += splice.bytes;
-            at = splice.end;
-        }
-        result.append(m_text, at);
-        return result;
-    }
-
-    void AppendNewSections(std::string& result)
-    {
-        for (const IniEdit& edit : m_edits) {
-            SectionPlan& plan = m_plans.find(edit.section)->second;
-            if (plan.insertAt || (plan.additions.empty() && !plan.isMade))
-                continue;
-            if (result.size() > ByteOrderMarkSize(result)) {
-                if (result.back() != '\n')
-                    result += m_lineEnd;
-                if (!EndsWithBlankLine(result))
-                    result += m_lineEnd;
-            }
-            result += "[" + edit.section + "]" + m_lineEnd + plan.additions;
-            plan.additions.clear();
-            plan.isMade = false;
-        }
-    }
-
-    // The line end that the last line of a file may lack.
-    std::string LineEndBefore(std::size_t at) const { return m_text[at - 1] == '\n' ? "" : m_lineEnd; }
-
-    static std::string LineEndOf(std::string_view text)
-    {
-        const std::size_t first = text.find('\n');
-        return first != std::string_view::npos && first > 0 && text[first - 1] == '\r' ? "\r\n" : "\n";
-    }
-
-    static bool EndsWithBlankLine(std::string_view text)
-    {
+    text.remove_suffix(1);
+    if (!text.empty() && text.back() == '\r')
         text.remove_suffix(1);
-        if (!text.empty() && text.back() == '\r')
-            text.remove_suffix(1);
-        return text.size() == ByteOrderMarkSize(text) || text.back() == '\n';
-    }
-
-    std::string_view m_text;
-    const std::vector<IniEdit>& m_edits;
-    std::string m_lineEnd = LineEndOf(m_text);
-    std::map<std::string_view, SectionPlan> m_plans;
-    std::vector<Splice> m_splices;
-};
+    return text.size() == ByteOrderMarkSize(text) || text.back() == '\n';
+}
 
 }  // namespace
 
-IniLines::IniLines(std::string_view text)
-    : m_text(text), m_at(ByteOrderMarkSize(text)), m_hasNul(text.find('\0') != std::string_view::npos)
+IniText::IniText(std::string text) : m_text(std::move(text))
 {
-}
-
-bool IniLines::Next(IniLine& line)
-{
-    if (m_at == m_text.size())
-        return false;
-    line.begin = m_at;
-    const std::size_t lineFeed = m_text.find('\n', m_at);
-    if (lineFeed == std::string_view::npos) {
-        line.end = line.next = m_text.size();
-    } else {
-        line.next = lineFeed + 1;
-        line.end = lineFeed > m_at && m_text[lineFeed - 1] == '\r' ? lineFeed - 1 : lineFeed;
+    std::size_t section = SectionIndex(kEarlyKeys);
+    bool hasOwnName = true;
+    IniLines lines(m_text);
+    for (IniLine line; lines.Next(line);) {
+        if (line.kind == IniLineKind::Section) {
+            const std::string_view name = NameOf(line);
+            section = SectionIndex(name);
+            hasOwnName = name == line.name;
+            AddLine(section, line, hasOwnName);
+        } else if (line.kind == IniLineKind::Key || line.kind == IniLineKind::EarlyKey) {
+            AddLine(section, line, hasOwnName);
+        }
     }
-    m_at = line.next;
-    line.kind = Classify(line);
-    if (line.kind == IniLineKind::Section || line.kind == IniLineKind::BrokenSection) {
-        m_hasSection = true;
-        m_inSection = line.kind == IniLineKind::Section;
+    m_isSettings = m_sections.size() > 1 || !(lines.HasNul() || IsUtf16(m_text));
+}
+
+// As EncodeName() writes it.
+std::string_view IniText::NameOf(const IniLine& line)
+{
+    if (line.isPlainName)
+        return line.name;
+    std::string name = EncodeName(DecodeName(line.name));
+    return name == line.name ? line.name : std::string_view(m_names.emplace_back(std::move(name)));
+}
+
+std::size_t IniText::SectionIndex(std::string_view name)
+{
+    const auto [index, isNew] = m_sectionIndices.try_emplace(name, m_sections.size());
+    if (isNew)
+        m_sections.push_back({name});
+    return index->second;
+}
+
+void IniText::AddLine(std::size_t sectionIndex, const IniLine& line, bool hasOwnSection)
+{
+    Section& section = m_sections[sectionIndex];
+    if (hasOwnSection || !section.hasOwnName) {
+        section.lastLine = m_lines.size();
+        section.hasOwnName = hasOwnSection;
     }
-    return true;
+    std::size_t entryIndex = kNone;
+    if (line.kind != IniLineKind::Section) {
+        const std::string_view name = NameOf(line);
+        entryIndex = section.indices.try_emplace(name, section.entries.size()).first->second;
+        if (entryIndex == section.entries.size())
+            section.entries.push_back({name});
+        Entry& entry = section.entries[entryIndex];
+        const bool hasOwnName = hasOwnSection && name == line.name;
+        if (hasOwnName || !entry.hasOwnName) {
+            entry.line = m_lines.size();
+            entry.hasOwnName = hasOwnName;
+        }
+    }
+    m_lines.push_back({line.begin, line.value, line.end, line.next, sectionIndex, entryIndex});
 }
 
-IniLineKind IniLines::Classify(IniLine& line)
+std::optional<std::string_view> IniText::Find(std::string_view section, std::string_view key) const
 {
-    std::string_view text = m_text.substr(line.begin, line.end - line.begin);
-    while (!text.empty() && g_ascii_isspace(text.front()))
-        text.remove_prefix(1);
-    if (text.empty() || text.front() == '#')
-        return IniLineKind::Comment;
-    if (text.front() == '[')
-        return ClassifySection(line, text);
-    if (text.front() == ';' || (m_hasSection && !m_inSection))
-        return IniLineKind::Unknown;
-    const IniLineKind kind = ClassifyKey(line, text);
-    return kind == IniLineKind::Key && !m_hasSection ? IniLineKind::EarlyKey : kind;
+    const auto place = Locate(section, key);
+    return place ? ValueOf(m_sections[place->section].entries[place->entry]) : std::nullopt;
 }
 
-IniLineKind IniLines::ClassifySection(IniLine& line, std::string_view text) const
+void IniText::Set(const std::string& sectionName, const std::string& key, std::string value)
 {
-    const std::size_t close = text.find(']');
-    if (close == std::string_view::npos || text.find_first_not_of(" \t", close + 1) != std::string_view::npos)
-        return IniLineKind::BrokenSection;
-    line.name = text.substr(1, close - 1);
-    line.isPlainName = PlainLength(line.name) == line.name.size();
-    const bool hasWrongCharacter = std::any_of(line.name.begin(), line.name.end(),
-                                               [](char byte) { return byte == '[' || g_ascii_iscntrl(byte) || !byte; });
-    return line.name.empty() || hasWrongCharacter ? IniLineKind::BrokenSection : IniLineKind::Section;
+    auto place = Locate(sectionName, key);
+    if (!place) {
+        const std::size_t sectionIndex =
+            SectionIndex(HasSection(sectionName) ? sectionName : m_names.emplace_back(sectionName));
+        Section& section = m_sections[sectionIndex];
+        place = {sectionIndex, section.entries.size()};
+        const std::string_view name = m_names.emplace_back(key);
+        section.indices.emplace(name, place->entry);
+        section.entries.push_back({name});
+    }
+    Entry& entry = m_sections[place->section].entries[place->entry];
+    entry.state = State::Set;
+    entry.value = std::move(value);
+    m_isChanged = true;
 }
 
-IniLineKind IniLines::ClassifyKey(IniLine& line, std::string_view text) const
+void IniText::Remove(std::string_view section, std::string_view key)
 {
-    const std::size_t plainLength = PlainLength(text);
-    const std::size_t equals = text.find('=', plainLength);
-    if (equals == std::string_view::npos || equals == 0)
-        return IniLineKind::Unknown;
-    // What stands in a line with a NUL was cut or overwritten: it is no setting that anybody made.
-    if (m_hasNul && text.find('\0') != std::string_view::npos)
-        return IniLineKind::Unknown;
-    line.name = text.substr(0, equals);
-    while (g_ascii_isspace(line.name.back()))
-        line.name.remove_suffix(1);
-    line.isPlainName = line.name.size() <= plainLength;
-    if (!line.isPlainName && !IsKeyName(line.name))
-        return IniLineKind::Unknown;
-    line.value = line.end - (text.size() - equals - 1);
-    while (line.value < line.end && g_ascii_isspace(m_text[line.value]))
-        ++line.value;
-    return IniLineKind::Key;
+    const auto place = Locate(section, key);
+    if (!place)
+        return;
+    m_sections[place->section].entries[place->entry].state = State::Removed;
+    m_isChanged = true;
 }
 
-std::size_t ByteOrderMarkSize(std::string_view text)
+void IniText::AddSection(const std::string& section)
 {
-    return text.substr(0, kByteOrderMark.size()) == kByteOrderMark ? kByteOrderMark.size() : 0;
+    if (HasSection(section))
+        return;
+    m_sections[SectionIndex(m_names.emplace_back(section))].isMade = true;
+    m_isChanged = true;
 }
 
-std::string ApplyEdits(std::string_view text, const std::vector<IniEdit>& edits)
+void IniText::RemoveSection(std::string_view name)
 {
-    return Editor(text, edits).Result();
+    const auto index = m_sectionIndices.find(name);
+    if (index == m_sectionIndices.end())
+        return;
+    Section& section = m_sections[index->second];
+    for (Entry& entry : section.entries)
+        entry.state = State::Removed;
+    section.isRemoved = true;
+    m_sectionIndices.erase(index);
+    m_isChanged = true;
+}
+
+std::vector<std::string_view> IniText::Sections() const
+{
+    std::vector<std::string_view> names;
+    for (std::size_t i = 1; i < m_sections.size(); ++i) {
+        if (!m_sections[i].isRemoved)
+            names.push_back(m_sections[i].name);
+    }
+    return names;
+}
+
+std::vector<IniText::Key> IniText::Keys(std::string_view name) const
+{
+    std::vector<Key> keys;
+    const auto index = m_sectionIndices.find(name);
+    if (index == m_sectionIndices.end())
+        return keys;
+    const Section& section = m_sections[index->second];
+    keys.reserve(section.entries.size());
+    for (const Entry& entry : section.entries) {
+        if (const auto value = ValueOf(entry))
+            keys.push_back({entry.name, *value});
+    }
+    return keys;
+}
+
+std::vector<IniText::Change> IniText::Changes() const
+{
+    std::vector<Change> changes;
+    for (const Section& section : m_sections) {
+        for (const Entry& entry : section.entries) {
+            if (entry.state != State::AsRead)
+                changes.push_back({section.name, entry.name, ValueOf(entry)});
+        }
+        if (section.isRemoved && !HasSection(section.name))
+            changes.push_back({section.name, "", std::nullopt});
+        else if (section.isMade && !section.isRemoved)
+            changes.push_back({section.name, "", ""});
+    }
+    return changes;
+}
+
+std::string IniText::Changed() const
+{
+    if (!m_isChanged)
+        return m_text;
+    std::string result;
+    result.reserve(m_text.size() + 256);
+    std::size_t at = 0;
+    const auto copyUpTo = [&](std::size_t end) { result.append(m_text, at, end - at); };
+    for (std::size_t i = 0; i < m_lines.size(); ++i) {
+        const Line& line = m_lines[i];
+        const Section& section = m_sections[line.section];
+        const Entry* const entry = line.entry == kNone ? nullptr : &section.entries[line.entry];
+        if (entry ? entry->state == State::Removed : section.isRemoved) {
+            copyUpTo(line.begin);
+            at = line.next;
+        } else if (entry && entry->state == State::Set && entry->line == i) {
+            copyUpTo(line.value);
+            result += entry->value;
+            at = line.end;
+        }
+        if (section.lastLine == i && !section.entries.empty() && section.entries.back().line == kNone) {
+            copyUpTo(line.next);
+            at = line.next;
+            AppendNewKeys(result, section);
+        }
+    }
+    copyUpTo(m_text.size());
+    AppendNewSections(result);
+    return result;
+}
+
+std::optional<IniText::Place> IniText::Locate(std::string_view sectionName, std::string_view key) const
+{
+    const auto section = m_sectionIndices.find(sectionName);
+    if (section == m_sectionIndices.end())
+        return std::nullopt;
+    const auto& indices = m_sections[section->second].indices;
+    const auto entry = indices.find(key);
+    return entry == indices.end() ? std::nullopt : std::optional<Place>({section->second, entry->second});
+}
+
+std::optional<std::string_view> IniText::ValueOf(const Entry& entry) const
+{
+    switch (entry.state) {
+    case State::AsRead: {
+        const Line& line = m_lines[entry.line];
+        return std::string_view(m_text).substr(line.value, line.end - line.value);
+    }
+    case State::Set:
+        return entry.value;
+    case State::Removed:
+        break;
+    }
+    return std::nullopt;
+}
+
+void IniText::AppendNewKeys(std::string& text, const Section& section) const
+{
+    for (const Entry& entry : section.entries) {
+        if (entry.line != kNone || entry.state != State::Set)
+            continue;
+        // The last line of a file may lack its end.
+        if (text.back() != '\n')
+            text += LineEnd();
+        text.append(entry.name).append("=").append(entry.value).append(LineEnd());
+    }
+}
+
+void IniText::AppendNewSections(std::string& text) const
+{
+    for (const Section& section : m_sections) {
+        if (section.lastLine != kNone || section.isRemoved)
+            continue;
+        const std::string header = std::string("[").append(section.name).append("]").append(LineEnd());
+        std::string lines = header;
+        AppendNewKeys(lines, section);
+        if (section.name == kEarlyKeys || (lines == header && !section.isMade))
+            continue;
+        if (text.size() > ByteOrderMarkSize(text)) {
+            if (text.back() != '\n')
+                text += LineEnd();
+            if (!EndsWithBlankLine(text))
+                text += LineEnd();
+        }
+        text += lines;
+    }
+}
+
+// That of the first line.
+const char* IniText::LineEnd() const
+{
+    const std::size_t first = m_text.find('\n');
+    return first != std::string::npos && first > 0 && m_text[first - 1] == '\r' ? "\r\n" : "\n";
 }
 
 }  // namespace fittings

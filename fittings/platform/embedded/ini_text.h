@@ -2,74 +2,137 @@
 #define FITTINGS_PLATFORM_EMBEDDED_INI_TEXT_H_
 
 #include <cstddef>
+#include <deque>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
-/// The lines of an INI file as a person wrote them, and changes to it that leave every other byte alone.
+#include <fittings/platform/embedded/ini_lines.h>
+
 namespace fittings {
 
-enum class IniLineKind {
-    Comment,        ///< A blank line or one that starts with '#'.
-    Section,        ///< [name]
-    Key,            ///< name=value below a section.
-    EarlyKey,       ///< name=value before the first section.
-    BrokenSection,  ///< Starts with '[' but is no section line. Keys below it belong to no section.
-    Unknown,        ///< All else, lines that start with ';' among them.
-};
-
-/// One line: offsets into the text.
-struct IniLine
-{
-    IniLineKind kind;
-    std::size_t begin;
-    std::size_t end;   ///< Before the line end.
-    std::size_t next;  ///< Where the next line begins.
-    std::string_view name;
-    bool isPlainName;   ///< The name is certain to be as EncodeName() writes it.
-    std::size_t value;  ///< Where a key's value begins.
-};
-
-/// Walks through a text line by line. GKeyFile takes what is called a section, a key or a comment here as the same.
-class IniLines
+/// The text of an INI file, an index of its sections and keys, and the changes made in it.
+///
+/// Names and values are as EncodeName() and EncodeValue() write them. A person may have written a name in another way; it
+/// is found by what it means. Of several lines with one key the last counts, but one whose section and key are written as
+/// EncodeName() does counts before all others.
+class IniText
 {
 public:
-    explicit IniLines(std::string_view text);
+    /// The name of the section that holds the keys before the first section line. No section line can have it.
+    static constexpr std::string_view kEarlyKeys = "";
 
-    /// False at the end of the text.
-    bool Next(IniLine& line);
+    explicit IniText(std::string text);
+    IniText(const IniText&) = delete;
+    IniText& operator=(const IniText&) = delete;
 
-    bool HasNul() const { return m_hasNul; }
+    /// False when nothing in the text can have been meant as settings.
+    bool IsSettings() const { return m_isSettings; }
+
+    bool IsChanged() const { return m_isChanged; }
+
+    /// The text without the changes.
+    const std::string& Original() const { return m_text; }
+
+    /// The text with the changes.
+    ///
+    /// A value is replaced in its line. New keys come after the last key of their section, new sections after a blank line
+    /// at the end. Every other byte stays as it is, comments in a removed section included.
+    std::string Changed() const;
+
+    std::optional<std::string_view> Find(std::string_view section, std::string_view key) const;
+    void Set(const std::string& section, const std::string& key, std::string value);
+    void Remove(std::string_view section, std::string_view key);
+
+    bool HasSection(std::string_view section) const { return m_sectionIndices.count(section) != 0; }
+    /// Makes a section, which may stay without keys.
+    void AddSection(const std::string& section);
+    /// Removes a section and all its keys.
+    void RemoveSection(std::string_view section);
+
+    struct Key
+    {
+        std::string_view name;
+        std::string_view value;
+    };
+
+    /// All sections but the early keys, in the order of the text. New ones come last.
+    std::vector<std::string_view> Sections() const;
+
+    /// The keys of a section, in the order of the text. New ones come last.
+    std::vector<Key> Keys(std::string_view section) const;
+
+    struct Change
+    {
+        std::string_view section;
+        std::string_view key;                   ///< Empty where the section itself was made or removed.
+        std::optional<std::string_view> value;  ///< None when the key or the section was removed.
+    };
+
+    /// All changes, each key and each section once.
+    std::vector<Change> Changes() const;
 
 private:
-    IniLineKind Classify(IniLine& line);
-    IniLineKind ClassifySection(IniLine& line, std::string_view text) const;
-    IniLineKind ClassifyKey(IniLine& line, std::string_view text) const;
+    static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
 
-    std::string_view m_text;
-    std::size_t m_at = 0;
-    bool m_hasNul;
-    bool m_hasSection = false;
-    bool m_inSection = false;
+    enum class State { AsRead, Set, Removed };
+
+    struct Entry
+    {
+        std::string_view name;
+        std::size_t line = kNone;  ///< The one that counts. None: the key is new.
+        bool hasOwnName = false;   ///< Section and key stand in the line as EncodeName() writes them.
+        State state = State::AsRead;
+        std::string value = {};  ///< That was set.
+    };
+
+    struct Section
+    {
+        std::string_view name;
+        std::vector<Entry> entries = {};
+        std::unordered_map<std::string_view, std::size_t> indices = {};  ///< Of the entries, by name.
+        std::size_t lastLine = kNone;  ///< Where new keys go. None: the section is new.
+        bool hasOwnName = false;       ///< The last line is below a section line as EncodeName() writes it.
+        bool isMade = false;           ///< By AddSection().
+        bool isRemoved = false;
+    };
+
+    /// A line of a section or a key: offsets into the text.
+    struct Line
+    {
+        std::size_t begin;
+        std::size_t value;
+        std::size_t end;   ///< Before the line end.
+        std::size_t next;  ///< Where the next line begins.
+        std::size_t section;
+        std::size_t entry;  ///< None: the line of the section itself.
+    };
+
+    struct Place
+    {
+        std::size_t section;
+        std::size_t entry;
+    };
+
+    std::string_view NameOf(const IniLine& line);
+    std::size_t SectionIndex(std::string_view name);
+    void AddLine(std::size_t section, const IniLine& line, bool hasOwnName);
+    std::optional<Place> Locate(std::string_view section, std::string_view key) const;
+    std::optional<std::string_view> ValueOf(const Entry& entry) const;
+    void AppendNewKeys(std::string& text, const Section& section) const;
+    void AppendNewSections(std::string& text) const;
+    const char* LineEnd() const;
+
+    const std::string m_text;
+    std::deque<std::string> m_names;  ///< Those that do not stand in the text.
+    std::deque<Section> m_sections;   ///< Removed ones included. The first has the early keys.
+    std::unordered_map<std::string_view, std::size_t> m_sectionIndices;  ///< Without removed ones.
+    std::vector<Line> m_lines;
+    bool m_isSettings = false;
+    bool m_isChanged = false;
 };
-
-/// The number of bytes of the byte order mark that @a text begins with, or 0.
-std::size_t ByteOrderMarkSize(std::string_view text);
-
-struct IniEdit
-{
-    std::string section;  ///< As it stands in the text. Empty: the edit removes a key before the first section.
-    std::string key;      ///< As it stands in the text. Empty: the edit is of the section itself.
-    std::optional<std::string> value;  ///< None removes the key, or the line of the section.
-};
-
-/// Returns @a text after the edits, none of which may name a key twice.
-///
-/// A value is replaced in its line; of several lines with one key in the last, which is the one that counts. New keys
-/// come after the last key of their section, new sections after a blank line at the end. What is not a key stays where a
-/// section is removed, and who removes one removes its keys too.
-std::string ApplyEdits(std::string_view text, const std::vector<IniEdit>& edits);
 
 }  // namespace fittings
 

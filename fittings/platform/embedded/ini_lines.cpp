@@ -1,0 +1,137 @@
+#include <fittings/platform/embedded/ini_lines.h>
+
+#include <algorithm>
+#include <array>
+
+#include <glib.h>
+
+#include <fittings/platform/embedded/ini_codec.h>
+
+namespace fittings {
+
+namespace {
+
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+// Every load asks about every character of every name.
+const std::array<bool, 256> kPlainCharacters = [] {
+    std::array<bool, 256> plain = {};
+    for (std::size_t byte = 0; byte < plain.size(); ++byte)
+        plain[byte] = IsPlainInName(static_cast<char>(byte));
+    return plain;
+}();
+
+std::size_t PlainLength(std::string_view text)
+{
+    std::size_t length = 0;
+    while (length < text.size() && kPlainCharacters[static_cast<unsigned char>(text[length])])
+        ++length;
+    return length;
+}
+
+// The brackets of a key such as Name[de]: letters, digits and a few marks, and nothing behind them.
+bool IsLocaleSuffix(std::string_view suffix)
+{
+    if (suffix.size() < 2 || suffix.back() != ']')
+        return false;
+    const std::string_view inner = suffix.substr(1, suffix.size() - 2);
+    const char* const end = inner.data() + inner.size();
+    for (const char* at = inner.data(); at < end; at = g_utf8_next_char(at)) {
+        const gunichar character = g_utf8_get_char_validated(at, end - at);
+        const bool isMark = character == '-' || character == '_' || character == '.' || character == '@';
+        if (character > 0x10FFFF || (!isMark && !g_unichar_isalnum(character)))
+            return false;
+    }
+    return true;
+}
+
+bool IsKeyName(std::string_view name)
+{
+    const std::size_t bracket = name.find_first_of("[]");
+    if (bracket == std::string_view::npos)
+        return true;
+    return bracket > 0 && name[bracket] == '[' && name[bracket - 1] != ' ' && IsLocaleSuffix(name.substr(bracket));
+}
+
+}  // namespace
+
+IniLines::IniLines(std::string_view text)
+    : m_text(text), m_at(ByteOrderMarkSize(text)), m_hasNul(text.find('\0') != std::string_view::npos)
+{
+}
+
+bool IniLines::Next(IniLine& line)
+{
+    if (m_at == m_text.size())
+        return false;
+    line.begin = m_at;
+    const std::size_t lineFeed = m_text.find('\n', m_at);
+    if (lineFeed == std::string_view::npos) {
+        line.end = line.next = m_text.size();
+    } else {
+        line.next = lineFeed + 1;
+        line.end = lineFeed > m_at && m_text[lineFeed - 1] == '\r' ? lineFeed - 1 : lineFeed;
+    }
+    m_at = line.next;
+    line.kind = Classify(line);
+    if (line.kind == IniLineKind::Section || line.kind == IniLineKind::BrokenSection) {
+        m_hasSection = true;
+        m_inSection = line.kind == IniLineKind::Section;
+    }
+    return true;
+}
+
+IniLineKind IniLines::Classify(IniLine& line)
+{
+    std::string_view text = m_text.substr(line.begin, line.end - line.begin);
+    while (!text.empty() && g_ascii_isspace(text.front()))
+        text.remove_prefix(1);
+    if (text.empty() || text.front() == '#')
+        return IniLineKind::Comment;
+    if (text.front() == '[')
+        return ClassifySection(line, text);
+    if (text.front() == ';' || (m_hasSection && !m_inSection))
+        return IniLineKind::Unknown;
+    const IniLineKind kind = ClassifyKey(line, text);
+    return kind == IniLineKind::Key && !m_hasSection ? IniLineKind::EarlyKey : kind;
+}
+
+IniLineKind IniLines::ClassifySection(IniLine& line, std::string_view text) const
+{
+    const std::size_t close = text.find(']');
+    if (close == std::string_view::npos || text.find_first_not_of(" \t", close + 1) != std::string_view::npos)
+        return IniLineKind::BrokenSection;
+    line.name = text.substr(1, close - 1);
+    line.isPlainName = PlainLength(line.name) == line.name.size();
+    const bool hasWrongCharacter = std::any_of(line.name.begin(), line.name.end(),
+                                               [](char byte) { return byte == '[' || g_ascii_iscntrl(byte) || !byte; });
+    return line.name.empty() || hasWrongCharacter ? IniLineKind::BrokenSection : IniLineKind::Section;
+}
+
+IniLineKind IniLines::ClassifyKey(IniLine& line, std::string_view text) const
+{
+    const std::size_t plainLength = PlainLength(text);
+    const std::size_t equals = text.find('=', plainLength);
+    if (equals == std::string_view::npos || equals == 0)
+        return IniLineKind::Unknown;
+    // What stands in a line with a NUL was cut or overwritten: it is no setting that anybody made.
+    if (m_hasNul && text.find('\0') != std::string_view::npos)
+        return IniLineKind::Unknown;
+    line.name = text.substr(0, equals);
+    while (g_ascii_isspace(line.name.back()))
+        line.name.remove_suffix(1);
+    line.isPlainName = line.name.size() <= plainLength;
+    if (!line.isPlainName && !IsKeyName(line.name))
+        return IniLineKind::Unknown;
+    line.value = line.end - (text.size() - equals - 1);
+    while (line.value < line.end && g_ascii_isspace(m_text[line.value]))
+        ++line.value;
+    return IniLineKind::Key;
+}
+
+std::size_t ByteOrderMarkSize(std::string_view text)
+{
+    return text.substr(0, kByteOrderMark.size()) == kByteOrderMark ? kByteOrderMark.size() : 0;
+}
+
+}  // namespace fittings
