@@ -6,8 +6,8 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-#include <tests/support/child_process.h>
 #include <tests/support/gui.h>
+#include <tests/support/process/child_process.h>
 
 namespace {
 

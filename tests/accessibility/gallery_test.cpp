@@ -7,7 +7,7 @@
 #include <wx/notebook.h>
 
 #include <tests/accessibility/accessibles.h>
-#include <tests/gallery/browser_fixture.h>
+#include <tests/gallery/browser/browser_fixture.h>
 
 namespace {
 

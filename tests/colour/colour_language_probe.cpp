@@ -19,7 +19,7 @@
 #include <wx/translation.h>
 
 #include <fittings/platform/file_util_ex.h>
-#include <tests/colour/open_popup.h>
+#include <tests/colour/popup/open_popup.h>
 
 namespace {
 

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include <tests/colour/watched_probe.h>
+#include <tests/colour/combo/watched_probe.h>
 
 namespace {
 

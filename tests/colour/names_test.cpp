@@ -13,7 +13,7 @@
 #include <gtest/gtest.h>
 
 #include <fittings/platform/lng_util.h>
-#include <tests/colour/open_popup.h>
+#include <tests/colour/popup/open_popup.h>
 
 namespace {
 

@@ -13,8 +13,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tests/colour/combo/watched_probe.h>
 #include <tests/colour/screen.h>
-#include <tests/colour/watched_probe.h>
 #include <tests/support/patience.h>
 #include <tests/support/temp_folder.h>
 

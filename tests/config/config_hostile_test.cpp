@@ -7,7 +7,7 @@
 
 #include <fittings/platform/local_reg_store.h>
 #include <fittings/platform/std_file_paths.h>
-#include <tests/support/as_nobody.h>
+#include <tests/support/process/as_nobody.h>
 #include <tests/support/temp_folder.h>
 
 namespace {

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include <tests/support/child_process.h>
+#include <tests/support/process/child_process.h>
 
 /// The home folder, which the program shares.
 std::string HomeFolder();

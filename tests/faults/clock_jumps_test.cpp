@@ -12,12 +12,12 @@
 #include <gtest/gtest.h>
 #include <wx/time.h>
 
-#include <tests/colour/combo_on_screen.h>
+#include <tests/colour/combo/combo_on_screen.h>
 #include <tests/faults/jumping_clock.h>
-#include <tests/platform/forked_work.h>
-#include <tests/platform/held_lock.h>
-#include <tests/platform/store_support.h>
+#include <tests/platform/processes/held_lock.h>
+#include <tests/platform/store/store_support.h>
 #include <tests/support/patience.h>
+#include <tests/support/process/forked_work.h>
 #include <tests/support/temp_folder.h>
 #include <tests/thread/thread_support.h>
 #include <tests/tree/tree_on_screen.h>

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include <tests/support/child_process.h>
+#include <tests/support/process/child_process.h>
 #include <tests/support/temp_folder.h>
 
 namespace {

@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-#include <tests/support/own_mounts.h>
+#include <tests/support/process/own_mounts.h>
 
 namespace {
 

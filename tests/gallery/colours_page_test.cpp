@@ -14,7 +14,7 @@
 #include <gallery/colours/colour_field.h>
 #include <gallery/colours/colour_option_fields.h>
 #include <gallery/colours/colours_page.h>
-#include <tests/gallery/browser_fixture.h>
+#include <tests/gallery/browser/browser_fixture.h>
 
 namespace {
 

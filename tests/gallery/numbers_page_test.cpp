@@ -12,7 +12,7 @@
 
 #include <gallery/numbers/number_format_fields.h>
 #include <gallery/numbers/numbers_page.h>
-#include <tests/gallery/browser_fixture.h>
+#include <tests/gallery/browser/browser_fixture.h>
 #include <tests/numedit/known_formats.h>
 
 namespace {

@@ -4,7 +4,7 @@
 #include <wx/notebook.h>
 
 #include <gallery/numbers/numbers_page.h>
-#include <tests/gallery/browser_fixture.h>
+#include <tests/gallery/browser/browser_fixture.h>
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <gtk/gtk.h>
 #include <wx/stattext.h>
 
-#include <tests/gallery/browser_fixture.h>
+#include <tests/gallery/browser/browser_fixture.h>
 
 namespace {
 

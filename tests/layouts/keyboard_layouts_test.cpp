@@ -8,11 +8,11 @@
 
 #include <fittings/numedit/num_validator.h>
 
-#include <tests/colour/combo_on_screen.h>
-#include <tests/numedit/keyboard.h>
-#include <tests/numedit/number_dialog.h>
-#include <tests/support/child_process.h>
+#include <tests/colour/combo/combo_on_screen.h>
+#include <tests/numedit/validator/keyboard.h>
+#include <tests/numedit/validator/number_dialog.h>
 #include <tests/support/gui.h>
+#include <tests/support/process/child_process.h>
 #include <tests/support/xdotool.h>
 #include <tests/tree/tree_on_screen.h>
 

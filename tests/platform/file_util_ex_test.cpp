@@ -12,7 +12,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <tests/support/processor_time.h>
+#include <tests/support/process/processor_time.h>
 #include <tests/support/temp_folder.h>
 
 namespace {

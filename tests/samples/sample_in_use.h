@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include <tests/support/child_process.h>
+#include <tests/support/process/child_process.h>
 #include <tests/support/temp_folder.h>
 
 /// A point of the screen.

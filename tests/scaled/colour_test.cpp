@@ -5,9 +5,9 @@
 #include <wx/uiaction.h>
 
 #include <tests/colour/colour_listener.h>
-#include <tests/colour/combo_on_screen.h>
+#include <tests/colour/combo/combo_on_screen.h>
 #include <tests/scaled/scaled_screen.h>
-#include <tests/support/child_process.h>
+#include <tests/support/process/child_process.h>
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <wx/imaglist.h>
 #include <wx/toolbar.h>
 
-#include <tests/gallery/browser_fixture.h>
+#include <tests/gallery/browser/browser_fixture.h>
 #include <tests/scaled/scaled_screen.h>
 
 namespace {

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include <tests/support/child_process.h>
+#include <tests/support/process/child_process.h>
 
 /// F4 for "xdotool key". By its name it would be sent with Alt where xkb-data is 2.48 or later.
 inline constexpr const char* kF4 = "70";

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include <tests/support/child_process.h>
+#include <tests/support/process/child_process.h>
 
 namespace {
 

@@ -10,7 +10,7 @@
 #include <fittings/tree/handy_tree_ctrl.h>
 #include <tests/config/persistence/stored.h>
 #include <tests/support/gui.h>
-#include <tests/support/processor_time.h>
+#include <tests/support/process/processor_time.h>
 
 namespace {
 

@@ -15,8 +15,8 @@
 
 #include <fittings/platform/local_reg_store.h>
 #include <tests/config/store/store_config_support.h>
-#include <tests/platform/forked_work.h>
-#include <tests/platform/store_support.h>
+#include <tests/platform/store/store_support.h>
+#include <tests/support/process/forked_work.h>
 
 namespace {
 

@@ -1,0 +1,26 @@
+#ifndef FITTINGS_TESTS_COLOUR_COMBO_COMBO_WITH_LISTENER_H_
+#define FITTINGS_TESTS_COLOUR_COMBO_COMBO_WITH_LISTENER_H_
+
+#include <gtest/gtest.h>
+
+#include <tests/colour/colour_listener.h>
+#include <tests/colour/combo/combo_on_screen.h>
+
+/// A combo on the screen that shows a colour, and whose popup opens without animation. Its listener has heard nothing yet.
+class ComboWithListener
+{
+protected:
+    explicit ComboWithListener(const wxColour& colour, long style = wxCB_READONLY)
+        : on(style, [&colour](OpenPopup& popup) { popup.SetInitialColour(colour); })
+    {
+        on.combo->hidden.clear();
+        on.popup->SetColorListener(&listener);
+        on.combo->EnablePopupAnimation(false);
+        EXPECT_TRUE(ShowAndSettle(on.frame));
+    }
+
+    ColourListener listener;  // outlives the popup
+    const ComboOnScreen<> on;
+};
+
+#endif

@@ -1,0 +1,72 @@
+// The last thing seen of the outline: its window is gone before the background is drawn back.
+
+#include <vector>
+
+#include <dlfcn.h>
+
+#include <gtest/gtest.h>
+
+#include <wx/popupwin.h>
+
+#include <tests/colour/combo/combo_on_screen.h>
+
+#include <cairo-xlib.h>
+#include <gdk/gdkx.h>
+
+namespace {
+
+constexpr int kLong = 2000000;
+
+const wxWindow* g_outline = nullptr;
+
+/// Whether the outline window was shown, at each drawing of a picture on the screen itself.
+std::vector<bool> g_wasShown;
+
+bool DrawsOnTheScreen(cairo_t* context)
+{
+    cairo_surface_t* const target = cairo_get_target(context);
+    return cairo_surface_get_type(target) == CAIRO_SURFACE_TYPE_XLIB &&
+           cairo_xlib_surface_get_drawable(target) == GDK_ROOT_WINDOW();
+}
+
+}  // namespace
+
+// In place of cairo's, which does the same.
+void cairo_paint(cairo_t* context)
+{
+    static const auto original = reinterpret_cast<decltype(&cairo_paint)>(dlsym(RTLD_NEXT, "cairo_paint"));
+    if (g_outline && DrawsOnTheScreen(context))
+        g_wasShown.push_back(g_outline->IsShown());
+    original(context);
+}
+
+namespace {
+
+TEST(ColourOutlineEnd, HidesTheOutlineBeforeItDrawsTheBackground)
+{
+    const ComboOnScreen<> on;
+    on.combo->m_animDuration = kLong;
+    ASSERT_TRUE(ShowAndSettle(on.frame));
+    on.combo->Popup();
+    const auto step = [&] {
+        wxTimerEvent event(on.combo->m_animTimer);
+        on.combo->OnTimerEvent(event);
+    };
+    on.combo->m_animStart = wxGetLocalTimeMillis() - kLong / 2;
+    step();
+    g_outline = nullptr;
+    for (wxWindow* const child : on.combo->GetChildren()) {
+        if (dynamic_cast<wxPopupWindow*>(child) && child != on.combo->GetPopupWindow())
+            g_outline = child;
+    }
+    ASSERT_TRUE(g_outline && g_outline->IsShown());
+
+    on.combo->m_animDuration = 0;
+    step();
+    EXPECT_TRUE(on.combo->IsPopupShown());
+    EXPECT_EQ(g_wasShown, std::vector<bool>{false}) << "drawn once, when nothing of the outline is shown";
+    g_outline = nullptr;
+    on.combo->Dismiss();
+}
+
+}  // namespace

@@ -1,0 +1,70 @@
+#ifndef FITTINGS_TESTS_COLOUR_COMBO_WATCHED_PROBE_H_
+#define FITTINGS_TESTS_COLOUR_COMBO_WATCHED_PROBE_H_
+
+#include <map>
+#include <optional>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include <tests/support/becomes.h>
+#include <tests/support/process/child_process.h>
+#include <tests/support/xdotool.h>
+
+/// colour_combo_probe at work.
+class WatchedProbe
+{
+public:
+    explicit WatchedProbe(int ends, const std::map<std::string, std::optional<std::string>>& environment = {})
+        : m_child({COLOUR_COMBO_PROBE, std::to_string(ends)}, environment)
+    {
+        EXPECT_TRUE(Waits("combo ")) << "does not start";
+    }
+
+    /// Waits for a line with that beginning, @a count of them at least.
+    bool Waits(const std::string& start, int count = 1)
+    {
+        const bool came = Becomes([&] { return !m_child.IsRunning() || Lines(start).size() >= std::size_t(count); }) &&
+                          Lines(start).size() >= std::size_t(count);
+        if (!came)
+            ADD_FAILURE() << "no line " << start << " in\n" << m_child.Output();
+        return came;
+    }
+
+    /// What follows the beginning in all such lines.
+    std::vector<std::string> Lines(const std::string& start) const
+    {
+        std::istringstream output(m_child.Output());
+        std::vector<std::string> lines;
+        for (std::string line; std::getline(output, line);) {
+            if (line.compare(0, start.size(), start) == 0)
+                lines.push_back(line.substr(start.size()));
+        }
+        return lines;
+    }
+
+    /// The numbers in the last such line.
+    std::vector<int> Numbers(const std::string& start) const
+    {
+        std::vector<int> numbers;
+        const std::vector<std::string> lines = Lines(start);
+        std::istringstream line(lines.empty() ? "" : lines.back());
+        for (int number; line >> number;)
+            numbers.push_back(number);
+        return numbers;
+    }
+
+    /// Waits for its end, and expects it to be a good one.
+    void ExpectEnd()
+    {
+        EXPECT_TRUE(m_child.WaitForEnd()) << m_child.Output();
+        EXPECT_EQ(m_child.ExitCode(), 0) << m_child.Output();
+    }
+
+private:
+    ChildProcess m_child;
+};
+
+#endif

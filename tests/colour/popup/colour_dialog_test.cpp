@@ -1,0 +1,227 @@
+// "More Colours...": the toolkit's colour dialog, answered by a hook.
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include <gtk/gtk.h>
+#include <wx/colordlg.h>
+#include <wx/modalhook.h>
+#include <wx/panel.h>
+
+#include <tests/colour/combo/combo_with_listener.h>
+
+namespace {
+
+constexpr int M = CELL_MORE_COLOURS;
+
+std::vector<int> g_centred;
+
+}  // namespace
+
+// Takes the place of the toolkit's, which leaves the place of a dialog of GTK's own to the window manager.
+void wxTopLevelWindowBase::DoCentre(int directions)
+{
+    if (dynamic_cast<wxColourDialog*>(this))
+        g_centred.push_back(directions);
+}
+
+namespace {
+
+// Answers the colour dialog, and notes what it was opened with.
+class Answer : public wxModalDialogHook
+{
+public:
+    Answer(int answer, const wxColour& colour) : m_answer(answer), m_colour(colour) { Register(); }
+
+    std::function<void()> during;
+    std::function<void(GtkWidget* dialog)> duringDialog;
+    int asked = 0;
+    wxColour proposed;
+    bool full = false;
+    wxWindow* parent = nullptr;
+    std::vector<int> centred;  ///< How the dialog has been centred until it opens.
+
+protected:
+    int Enter(wxDialog* shown) override
+    {
+        auto* const dialog = dynamic_cast<wxColourDialog*>(shown);
+        EXPECT_TRUE(dialog);
+        ++asked;
+        proposed = dialog->GetColourData().GetColour();
+        full = dialog->GetColourData().GetChooseFull();
+        parent = dialog->GetParent();
+        centred = std::exchange(g_centred, {});
+        if (during)
+            during();
+        if (duringDialog)
+            duringDialog(dialog->GetHandle());
+        // The dialog reads the widget after this.
+        const GdkRGBA rgba{m_colour.Red() / 255.0, m_colour.Green() / 255.0, m_colour.Blue() / 255.0, 1};
+        G_GNUC_BEGIN_IGNORE_DEPRECATIONS
+        auto* const selection =
+            gtk_color_selection_dialog_get_color_selection(GTK_COLOR_SELECTION_DIALOG(dialog->GetHandle()));
+        gtk_color_selection_set_current_rgba(GTK_COLOR_SELECTION(selection), &rgba);
+        G_GNUC_END_IGNORE_DEPRECATIONS
+        return m_answer;
+    }
+
+private:
+    const int m_answer;
+    const wxColour m_colour;
+};
+
+class MoreColours : public testing::Test, protected ComboWithListener
+{
+protected:
+    MoreColours() : ComboWithListener(wxColour(1, 2, 3)) {}
+
+    void Open() const
+    {
+        ASSERT_TRUE(Opens(*on.combo));
+        on.popup->ChangeSelection(M);
+    }
+};
+
+TEST_F(MoreColours, GivesTheColourOfTheDialog)
+{
+    Answer answer(wxID_OK, wxColour(10, 200, 30));
+    bool shown = true;
+    std::vector<bool> hidden;
+    ColourCalls calls;
+    answer.during = [&] {
+        shown = on.combo->IsPopupShown();
+        hidden = on.combo->hidden;
+        calls = listener.Take();
+    };
+    Open();
+    on.popup->EndSelection(true);
+    EXPECT_EQ(answer.asked, 1);
+    EXPECT_EQ(answer.proposed, wxColour(1, 2, 3));
+    EXPECT_TRUE(answer.full);
+    EXPECT_EQ(answer.parent, on.frame) << "the toolkit takes the window that the combo is in";
+    EXPECT_FALSE(shown) << "the popup closes before the dialog opens";
+    EXPECT_EQ(hidden, std::vector<bool>{false});
+    EXPECT_EQ(calls, (ColourCalls{"popup", "change #010203"}));
+    EXPECT_EQ(listener.Take(), ColourCalls{"end #0AC81E"});
+    EXPECT_EQ(on.popup->m_crColour, wxColour(10, 200, 30));
+    EXPECT_EQ(on.popup->m_crInitialColour, wxColour(10, 200, 30));
+    EXPECT_EQ(on.popup->m_nChosenColourSel, M);
+    EXPECT_FALSE(on.popup->m_bInternalHide);
+    EXPECT_EQ(on.combo->hidden.size(), 1u) << "the popup that is hidden is not hidden again";
+}
+
+// A cancelled dialog chooses the colour in effect.
+TEST_F(MoreColours, KeepsTheColourInEffectWhenTheDialogIsCancelled)
+{
+    Answer answer(wxID_CANCEL, wxColour(10, 200, 30));
+    Open();
+    on.popup->EndSelection(true);
+    EXPECT_EQ(answer.asked, 1);
+    EXPECT_EQ(listener.Take(), (ColourCalls{"popup", "change #010203", "end #010203"}));
+    EXPECT_EQ(on.popup->m_crColour, wxColour(1, 2, 3));
+    EXPECT_EQ(on.popup->m_crInitialColour, wxColour(1, 2, 3));
+    EXPECT_EQ(on.popup->m_nChosenColourSel, M);
+}
+
+TEST_F(MoreColours, GoesBackToTheColourInEffectWhenTheDialogIsCancelled)
+{
+    Answer answer(wxID_CANCEL, wxColour(10, 200, 30));
+    on.popup->ChangeSelection(16);
+    on.popup->DoShowColorDlg();
+    EXPECT_EQ(on.popup->m_crColour, wxColour(1, 2, 3));
+    EXPECT_EQ(on.popup->m_crInitialColour, wxColour(1, 2, 3));
+    EXPECT_EQ(listener.Take(), ColourCalls{"change #FF0000"});
+}
+
+TEST_F(MoreColours, AsksNothingWhenCancelledOrWhenAnotherCellIsHot)
+{
+    Answer answer(wxID_OK, *wxRED);
+    Open();
+    on.popup->EndSelection(false);
+    EXPECT_EQ(listener.Take(), (ColourCalls{"popup", "change #010203", "cancel #010203"}));
+    Open();
+    on.popup->ChangeSelection(CELL_AUTOMATIC);
+    on.popup->EndSelection(true);
+    EXPECT_EQ(answer.asked, 0);
+}
+
+TEST_F(MoreColours, GivesTheDialogTheWindowToCentreOnForItsParent)
+{
+    auto* const other = new wxFrame(nullptr, wxID_ANY, "other", wxPoint(600, 400), wxSize(620, 560));
+    ASSERT_TRUE(ShowAndSettle(other));
+    on.popup->SetCenterOn(other);
+    Answer answer(wxID_OK, *wxRED);
+    Open();
+    on.popup->EndSelection(true);
+    EXPECT_EQ(answer.parent, other);
+    EXPECT_EQ(answer.centred, std::vector<int>{wxBOTH});
+    EXPECT_EQ(on.popup->m_crInitialColour, *wxRED);
+
+    on.popup->SetCenterOn(nullptr);
+    Open();
+    on.popup->EndSelection(true);
+    EXPECT_EQ(answer.parent, on.frame);
+    EXPECT_TRUE(answer.centred.empty());
+    other->Destroy();
+}
+
+TEST_F(MoreColours, CentresTheDialogOnAPartOfAWindow)
+{
+    auto* const panel = new wxPanel(on.frame, wxID_ANY, wxPoint(40, 60), wxSize(100, 80));
+    on.popup->SetCenterOn(panel);
+    wxPoint middle;
+    Answer answer(wxID_CANCEL, *wxRED);
+    answer.duringDialog = [&](GtkWidget* dialog) {
+        int x = 0;
+        int y = 0;
+        gtk_window_get_position(GTK_WINDOW(dialog), &x, &y);
+        GtkRequisition size;
+        gtk_widget_get_preferred_size(dialog, nullptr, &size);
+        middle = wxPoint(x + size.width / 2, y + size.height / 2);
+    };
+    on.popup->DoShowColorDlg();
+    const wxRect screen = panel->GetScreenRect();
+    EXPECT_EQ(answer.centred, std::vector<int>{wxBOTH});
+    EXPECT_NEAR(middle.x, screen.x + 50, 1);
+    EXPECT_NEAR(middle.y, screen.y + 40, 1);
+}
+
+TEST_F(MoreColours, ProposesTheColourChosenLast)
+{
+    {
+        Answer answer(wxID_OK, wxColour(10, 200, 30));
+        Open();
+        on.popup->EndSelection(true);
+    }
+    Answer answer(wxID_CANCEL, *wxRED);
+    Open();
+    on.popup->EndSelection(true);
+    EXPECT_EQ(answer.proposed, wxColour(10, 200, 30));
+}
+
+TEST_F(MoreColours, CanBeAskedForAtAnyTime)
+{
+    Answer answer(wxID_OK, *wxRED);
+    on.popup->DoShowColorDlg();
+    EXPECT_EQ(on.popup->m_crColour, *wxRED);
+    EXPECT_EQ(on.popup->m_crInitialColour, *wxRED);
+    EXPECT_EQ(listener.Take(), ColourCalls());
+}
+
+TEST(MoreColoursAlone, AsksWithoutACombo)
+{
+    const PopupInFrame popup;
+    ColourListener listener;
+    popup->SetColorListener(&listener);
+    Answer answer(wxID_OK, *wxRED);
+    popup->ChangeSelection(M);
+    popup->EndSelection(true);
+    EXPECT_EQ(answer.parent, nullptr);
+    EXPECT_EQ(listener.Take(), (ColourCalls{"change #000000", "end #FF0000"}));
+}
+
+}  // namespace

@@ -1,0 +1,410 @@
+// What a change of the hot cell does.
+
+#include <functional>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include <dlfcn.h>
+#include <wx/dcclient.h>
+#include <wx/dcgraph.h>
+
+#include <tests/colour/colour_listener.h>
+#include <tests/colour/combo/combo_on_screen.h>
+#include <tests/colour/popup/open_popup.h>
+#include <tests/colour/screen.h>
+
+namespace {
+
+constexpr int A = CELL_AUTOMATIC;
+constexpr int M = CELL_MORE_COLOURS;
+
+TEST(ColourHotCell, BringsItsColour)
+{
+    const PopupInFrame popup;
+    popup->SetInitialColour(*wxBLUE);
+    popup->SetDefaultColour(*wxGREEN);
+    ColourListener listener;
+    popup->SetColorListener(&listener);
+    for (const int cell : {5, 39, M, A, 0}) {
+        popup->ChangeSelection(cell);
+        EXPECT_EQ(popup->m_nCurrentSel, cell);
+    }
+    EXPECT_EQ(listener.Take(),
+              (ColourCalls{"change #00008B", "change #FFFFFF", "change #0000FF", "change #00FF00", "change #000000"}));
+    EXPECT_EQ(popup->m_crColour, *wxBLACK);
+    EXPECT_EQ(popup->m_crInitialColour, *wxBLUE);
+}
+
+// The chosen cell is what the window was created with: the initial black is what "Automatic" stands for.
+TEST(ColourHotCell, IsNotTheChosenOneYet)
+{
+    const PopupInFrame popup;
+    EXPECT_EQ(popup->m_nChosenColourSel, A);
+    popup->ChangeSelection(7);
+    EXPECT_EQ(popup->m_nChosenColourSel, A);
+    EXPECT_EQ(popup->m_nCurrentSel, 7);
+}
+
+TEST(ColourHotCell, IsHotInEveryRespectWhenTheListenerHearsOfIt)
+{
+    const PopupInFrame popup;
+    ColourListener listener;
+    popup->SetColorListener(&listener);
+    int hot = 0;
+    wxColour colour;
+    wxString tip;
+    listener.during = [&](const std::string&) {
+        hot = popup->m_nCurrentSel;
+        colour = popup->m_crColour;
+        tip = popup->GetToolTipText();
+    };
+    popup->ChangeSelection(16);
+    EXPECT_EQ(hot, 16);
+    EXPECT_EQ(colour, wxColour(255, 0, 0));
+    EXPECT_EQ(tip, "Red");
+}
+
+TEST(ColourHotCell, IsMoreColoursForAnIndexAboveTheNumberOfColours)
+{
+    const PopupInFrame popup;
+    popup->SetInitialColour(*wxBLUE);
+    for (const int index : {41, 42, 1000, 2147483647}) {
+        popup->ChangeSelection(3);
+        popup->ChangeSelection(index);
+        EXPECT_EQ(popup->m_nCurrentSel, M) << index;
+        EXPECT_EQ(popup->m_crColour, *wxBLUE);
+    }
+}
+
+TEST(ColourHotCell, KeepsAnIndexThatIsNoCell)
+{
+    const PopupInFrame popup;
+    popup->SetInitialColour(*wxBLUE);
+    ColourListener listener;
+    popup->SetColorListener(&listener);
+    for (const int index : {40, -1, -4, -2147483647}) {
+        popup->ChangeSelection(16);
+        popup->ChangeSelection(index);
+        EXPECT_EQ(popup->m_nCurrentSel, index);
+        EXPECT_EQ(popup->m_crColour, *wxBLUE) << "the colour in effect";
+        EXPECT_EQ(popup->GetStringValue(), "");
+        EXPECT_EQ(listener.Take(), (ColourCalls{"change #FF0000", "change #0000FF"}));
+    }
+}
+
+TEST(ColourHotCell, CanBeSetBeforeTheWindowIsCreated)
+{
+    OpenPopup popup;
+    ColourListener listener;
+    popup.SetColorListener(&listener);
+    popup.ChangeSelection(16);
+    EXPECT_EQ(popup.m_nCurrentSel, 16);
+    EXPECT_EQ(popup.m_strToolTip, "Red");
+    EXPECT_EQ(listener.Take(), ColourCalls{"change #FF0000"});
+    // There are no rows yet, and so no cells that a key could lead to.
+    wxKeyEvent down(wxEVT_KEY_DOWN);
+    down.m_keyCode = WXK_DOWN;
+    popup.SetAutomaticText("");
+    popup.SetMoreColoursText("");
+    popup.OnKeyDown(down);
+    EXPECT_EQ(popup.m_nCurrentSel, CELL_NONE);
+}
+
+// --- Tooltip ---------------------------------------------------------------------------------------------------------
+
+class TippedPopup : public OpenPopup
+{
+public:
+    std::vector<wxString> tips;
+
+protected:
+    void DoSetToolTipText(const wxString& tip) override
+    {
+        tips.push_back(tip);
+        OpenPopup::DoSetToolTipText(tip);
+    }
+};
+
+TEST(ColourTooltip, IsSetWhenTheNameChanges)
+{
+    const ComboOnScreen<OpenCombo, TippedPopup> on;
+    for (const int cell : {16, 16, 35, M, A, 16, 40, CELL_NONE, 0})
+        on.popup->ChangeSelection(cell);
+    EXPECT_EQ(on.popup->tips, (std::vector<wxString>{"Red", "Pale green ", "", "Red", "", "Black"}));
+    EXPECT_EQ(on.popup->m_strToolTip, "Black");
+    EXPECT_EQ(on.popup->GetToolTipText(), "Black");
+}
+
+TEST(ColourTooltip, IsNotSetAgain)
+{
+    const ComboOnScreen<OpenCombo, TippedPopup> on;
+    on.popup->m_strToolTip = "Red";
+    on.popup->ChangeSelection(16);
+    EXPECT_TRUE(on.popup->tips.empty());
+}
+
+TEST(ColourTooltip, IsForgottenWhenThePopupOpens)
+{
+    const ComboOnScreen<OpenCombo, TippedPopup> on;
+    on.popup->OnPopup();
+    EXPECT_TRUE(on.popup->tips.empty()) << "there was none";
+    on.popup->ChangeSelection(16);
+    on.popup->OnDismiss();
+    EXPECT_EQ(on.popup->m_strToolTip, "Red");
+    on.popup->OnPopup();
+    EXPECT_EQ(on.popup->m_strToolTip, "");
+    EXPECT_EQ(on.popup->GetToolTipText(), "");
+    on.popup->ChangeSelection(16);
+    EXPECT_EQ(on.popup->tips, (std::vector<wxString>{"Red", "", "Red"}));
+}
+
+// --- The combo's preview ---------------------------------------------------------------------------------------------
+
+TEST(ColourPreview, RefreshesTheComboAfterTheListenerWhenItIsToBe)
+{
+    const ComboOnScreen<> on;
+    ColourListener listener;
+    int refreshesBefore = -1;
+    listener.during = [&](const std::string&) { refreshesBefore = on.combo->refreshes; };
+    on.popup->SetColorListener(&listener);
+    on.popup->SetRefreshCombo(true);
+    on.combo->refreshes = 0;
+    on.popup->ChangeSelection(16);
+    EXPECT_EQ(refreshesBefore, 0);
+    EXPECT_EQ(on.combo->refreshes, 1);
+    on.popup->SetColorListener(nullptr);
+    on.popup->DoSelChange();
+    EXPECT_EQ(on.combo->refreshes, 2);
+}
+
+TEST(ColourPreview, IsOffAtFirst)
+{
+    const ComboOnScreen<> on;
+    on.combo->refreshes = 0;
+    on.popup->ChangeSelection(16);
+    EXPECT_EQ(on.combo->refreshes, 0);
+}
+
+// --- What is redrawn -------------------------------------------------------------------------------------------------
+
+// The drawing on windows that is counted.
+struct Drawn
+{
+    int rectangles = 0;
+    int lines = 0;
+};
+
+Drawn g_drawn;
+
+template <typename... Arguments>
+void DrawByToolkit(const char* name, wxGCDCImpl* dc, Arguments... arguments)
+{
+    reinterpret_cast<void (*)(wxGCDCImpl*, Arguments...)>(dlsym(RTLD_NEXT, name))(dc, arguments...);
+}
+
+}  // namespace
+
+// These take the place of the toolkit's.
+
+void wxGCDCImpl::DoDrawRectangle(int x, int y, int width, int height)
+{
+    ++g_drawn.rectangles;
+    DrawByToolkit("_ZN10wxGCDCImpl15DoDrawRectangleEiiii", this, x, y, width, height);
+}
+
+void wxGCDCImpl::DoDrawLine(int x1, int y1, int x2, int y2)
+{
+    ++g_drawn.lines;
+    DrawByToolkit("_ZN10wxGCDCImpl10DoDrawLineEiiii", this, x1, y1, x2, y2);
+}
+
+namespace {
+
+constexpr int kUntouched = 0xFF00FF;
+
+// As 0xRRGGBB.
+int PixelOf(const wxImage& image, int x, int y)
+{
+    return image.GetRed(x, y) << 16 | image.GetGreen(x, y) << 8 | image.GetBlue(x, y);
+}
+
+// The popup in a window on the screen, painted over, so that what is drawn from then on can be told.
+class HotCellOnScreen : public testing::Test
+{
+protected:
+    HotCellOnScreen()
+    {
+        popup->SetPosition(wxPoint(20, 20));
+        EXPECT_TRUE(ShowAndSettle(popup.frame));
+        popup->Bind(wxEVT_PAINT, [this](wxPaintEvent& event) {
+            ++paints;
+            event.Skip();
+        });
+    }
+
+    void PaintOver()
+    {
+        wxClientDC dc(popup.popup);
+        dc.SetBrush(wxBrush(wxColour(0xFF, 0x00, 0xFF)));
+        dc.SetPen(*wxTRANSPARENT_PEN);
+        dc.DrawRectangle(wxPoint(0, 0), popup->GetClientSize());
+        EXPECT_TRUE(PumpUntil([&] { return Untouched(74, 60) && Untouched(1, 1); }));
+        paints = 0;
+    }
+
+    wxImage Grab() const { return GrabScreen(wxRect(popup->ClientToScreen(wxPoint(0, 0)), popup->GetClientSize())); }
+
+    int Pixel(int x, int y) const { return PixelOf(Grab(), x, y); }
+
+    bool Untouched(int x, int y) const { return Pixel(x, y) == kUntouched; }
+
+    // Whether exactly the cells' rectangles and the frame have been drawn, as far as pixels tell.
+    void ExpectDrawn(const std::vector<wxRect>& cells) const
+    {
+        const wxSize size = popup->GetClientSize();
+        const wxImage seen = Grab();
+        wxRect inside(size);
+        inside.Deflate(4);
+        int wrong = 0;
+        for (int y = 0; y < size.y; ++y) {
+            for (int x = 0; x < size.x; ++x) {
+                bool drawn = false;
+                bool nearEdge = !inside.Contains(x, y);
+                for (wxRect cell : cells) {
+                    drawn = drawn || cell.Contains(x, y);
+                    const bool outer = wxRect(cell).Inflate(1).Contains(x, y);
+                    nearEdge = nearEdge || (outer && !wxRect(cell).Deflate(1).Contains(x, y));
+                }
+                if (nearEdge)
+                    continue;
+                const bool untouched = PixelOf(seen, x, y) == kUntouched;
+                if (untouched == drawn && ++wrong < 5)
+                    ADD_FAILURE() << x << ", " << y << (drawn ? " is not drawn" : " is drawn");
+            }
+        }
+        EXPECT_EQ(wrong, 0);
+        // The frame: its lines are in the second and third pixels from the edge.
+        EXPECT_FALSE(Untouched(1, size.y / 2));
+        EXPECT_FALSE(Untouched(size.x - 2, size.y / 2));
+        EXPECT_FALSE(Untouched(size.x / 2, 1));
+        EXPECT_FALSE(Untouched(size.x / 2, size.y - 2));
+    }
+
+    wxRect Cell(int index) const
+    {
+        wxRect rect;
+        EXPECT_TRUE(popup->GetCellRect(index, rect));
+        return rect;
+    }
+
+    const PopupInFrame popup;
+    int paints = 0;
+};
+
+TEST_F(HotCellOnScreen, RedrawsTheOldAndTheNewCellAndTheFrame)
+{
+    popup->ChangeSelection(10);
+    PaintOver();
+    popup->ChangeSelection(29);
+    PumpPending();
+    ExpectDrawn({Cell(10), Cell(29)});
+    EXPECT_EQ(paints, 0);
+}
+
+// A cell is two rectangles, the hot one and the frame have eight lines each. The whole popup is 89 rectangles.
+TEST_F(HotCellOnScreen, DrawsNoMoreThanTwoCellsAndTheFrame)
+{
+    popup->m_nChosenColourSel = CELL_NONE;
+    popup->ChangeSelection(10);
+    PumpPending();
+    g_drawn = {};
+    popup->ChangeSelection(29);
+    PumpPending();
+    EXPECT_EQ(g_drawn.rectangles, 4);
+    EXPECT_EQ(g_drawn.lines, 16);
+    // The box has four rectangles.
+    g_drawn = {};
+    popup->ChangeSelection(M);
+    PumpPending();
+    EXPECT_EQ(g_drawn.rectangles, 6);
+    EXPECT_EQ(g_drawn.lines, 16);
+    EXPECT_EQ(paints, 0);
+}
+
+TEST_F(HotCellOnScreen, DrawsTheFirstCellAlone)
+{
+    popup->m_nCurrentSel = CELL_NONE;
+    PaintOver();
+    popup->ChangeSelection(12);
+    PumpPending();
+    ExpectDrawn({Cell(12)});
+    EXPECT_EQ(paints, 0);
+}
+
+TEST_F(HotCellOnScreen, DrawsNothingButTheFrameForNoCell)
+{
+    popup->m_nCurrentSel = 40;
+    PaintOver();
+    popup->ChangeSelection(CELL_NONE);
+    PumpPending();
+    ExpectDrawn({});
+}
+
+TEST_F(HotCellOnScreen, RedrawsTheBoxes)
+{
+    popup->ChangeSelection(A);
+    PaintOver();
+    popup->ChangeSelection(M);
+    PumpPending();
+    // The lower box stands two margins below its rectangle; what is above the separator's two lines is not drawn.
+    wxRect more = Cell(M);
+    more.y += 4;
+    wxRect separator(more.x + 4, Cell(M).y, more.width - 8, 2);
+    const wxImage seen = Grab();
+    for (const wxRect& rect : {Cell(A).Deflate(2), wxRect(more).Deflate(4), separator}) {
+        EXPECT_NE(PixelOf(seen, rect.x, rect.y), kUntouched);
+        EXPECT_NE(PixelOf(seen, rect.GetRight(), rect.GetBottom()), kUntouched);
+    }
+    for (const int cell : {0, 7, 20, 39}) {
+        const wxRect rect = Cell(cell);
+        EXPECT_EQ(PixelOf(seen, rect.x + 9, rect.y + 9), kUntouched) << cell;
+    }
+    EXPECT_EQ(paints, 0);
+}
+
+TEST_F(HotCellOnScreen, TakesTheHotLookFromTheOldCell)
+{
+    popup->m_nChosenColourSel = CELL_NONE;
+    const wxRect rect = Cell(10);
+    popup->ChangeSelection(10);
+    // A raised cell has a dark line at its right and bottom, one pixel inside its rectangle.
+    const wxPoint edge(rect.GetRight() - 1, rect.y + 9);
+    EXPECT_TRUE(PumpUntil([&] { return Pixel(edge.x, edge.y) == 0; }));
+    popup->ChangeSelection(11);
+    EXPECT_TRUE(PumpUntil([&] { return Pixel(edge.x + 18, edge.y) == 0; }));
+    EXPECT_NE(Pixel(edge.x, edge.y), 0);
+}
+
+TEST_F(HotCellOnScreen, StaysAsItIsWhileThePointerMovesInIt)
+{
+    ColourListener listener;
+    popup->SetColorListener(&listener);
+    const auto move = [&](int x, int y) {
+        wxMouseEvent event(wxEVT_MOTION);
+        event.SetX(x);
+        event.SetY(y);
+        popup->OnMouseMove(event);
+    };
+    const wxRect rect = Cell(21);
+    move(rect.x + 4, rect.y + 4);
+    PaintOver();
+    listener.Take();
+    move(rect.x + 10, rect.y + 10);
+    PumpPending();
+    EXPECT_TRUE(Untouched(rect.x + 9, rect.y + 9));
+    EXPECT_TRUE(Untouched(1, popup->GetClientSize().y / 2));
+    EXPECT_EQ(listener.Take(), ColourCalls());
+}
+
+}  // namespace

@@ -1,0 +1,332 @@
+// Which cell has which index, row, column, colour and name.
+
+#include <gtest/gtest.h>
+
+#include <tests/colour/popup/open_popup.h>
+
+namespace {
+
+constexpr int kMore = CELL_MORE_COLOURS;
+constexpr int kAutomatic = CELL_AUTOMATIC;
+
+TEST(ColourOfCell, IsThePalettes)
+{
+    const PopupInFrame popup;
+    EXPECT_EQ(popup->GetColour(0), wxColour(0, 0, 0, 255));
+    EXPECT_EQ(popup->GetColour(1), wxColour(165, 42, 0, 255));
+    EXPECT_EQ(popup->GetColour(12), wxColour(56, 142, 142, 255));
+    EXPECT_EQ(popup->GetColour(39), wxColour(255, 255, 255, 255));
+    EXPECT_EQ(popup->GetColour(1).Alpha(), 255);
+}
+
+TEST(ColourOfCell, IsTheInitialOneOfMoreColours)
+{
+    const PopupInFrame popup;
+    popup->SetInitialColour(wxColour(1, 2, 3, 4));
+    EXPECT_EQ(popup->GetColour(kMore), wxColour(1, 2, 3, 4));
+    popup->m_strMoreColours.clear();
+    EXPECT_EQ(popup->GetColour(kMore), wxColour(1, 2, 3, 4));
+}
+
+TEST(ColourOfCell, IsTheDefaultOneOfAutomatic)
+{
+    const PopupInFrame popup;
+    popup->SetDefaultColour(wxColour(5, 6, 7, 8));
+    EXPECT_EQ(popup->GetColour(kAutomatic), wxColour(5, 6, 7, 8));
+}
+
+struct Place
+{
+    int index;
+    int row;
+    int column;
+};
+
+class ColourPlace : public testing::TestWithParam<Place>
+{
+};
+
+TEST_P(ColourPlace, IsItsRowAndColumn)
+{
+    const PopupInFrame popup;
+    EXPECT_EQ(popup->GetRow(GetParam().index), GetParam().row);
+    EXPECT_EQ(popup->GetColumn(GetParam().index), GetParam().column);
+}
+
+TEST_P(ColourPlace, LeadsBackToTheCell)
+{
+    const PopupInFrame popup;
+    if (GetParam().row != -1) {
+        EXPECT_EQ(popup->GetIndex(GetParam().row, GetParam().column), GetParam().index);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(, ColourPlace,
+                         testing::Values(Place{0, 0, 0}, Place{1, 0, 1}, Place{7, 0, 7}, Place{8, 1, 0},
+                                         Place{15, 1, 7}, Place{16, 2, 0}, Place{37, 4, 5}, Place{39, 4, 7},
+                                         Place{40, -1, -1}, Place{1000, -1, -1}, Place{-1, -1, -1}, Place{-2, -2, -2},
+                                         Place{-3, -3, -3}, Place{-4, -1, -1}),
+                         [](const auto& info) {
+                             const int index = info.param.index;
+                             return index < 0 ? "minus" + std::to_string(-index) : std::to_string(index);
+                         });
+
+TEST(ColourPlaceOfFewerColours, IsNoneBehindTheLast)
+{
+    const PopupInFrame popup;
+    popup->m_nNumColours = 37;
+    EXPECT_EQ(popup->GetRow(36), 4);
+    EXPECT_EQ(popup->GetColumn(36), 4);
+    EXPECT_EQ(popup->GetRow(37), -1);
+    EXPECT_EQ(popup->GetColumn(37), -1);
+    EXPECT_EQ(popup->GetIndex(4, 4), 36);
+    EXPECT_EQ(popup->GetIndex(4, 5), -1);
+}
+
+TEST(ColourPlaceOfBox, IsNoneWhereTheBoxIsAbsent)
+{
+    const PopupInFrame popup(WithoutBoxes);
+    EXPECT_EQ(popup->GetRow(kMore), -1);
+    EXPECT_EQ(popup->GetColumn(kMore), -1);
+    EXPECT_EQ(popup->GetRow(kAutomatic), -1);
+    EXPECT_EQ(popup->GetColumn(kAutomatic), -1);
+}
+
+TEST(ColourPlaceOfBox, DependsOnItsOwnTextAlone)
+{
+    const PopupInFrame popup(WithoutBoxes);
+    popup->m_strAutomatic = "Auto";
+    EXPECT_EQ(popup->GetRow(kMore), -1);
+    EXPECT_EQ(popup->GetColumn(kMore), -1);
+    EXPECT_EQ(popup->GetRow(kAutomatic), -3);
+    EXPECT_EQ(popup->GetColumn(kAutomatic), -3);
+    EXPECT_EQ(popup->GetIndex(-2, -2), -1);
+    EXPECT_EQ(popup->GetIndex(-3, 0), -3);
+
+    WithoutBoxes(*popup.popup);
+    popup->m_strMoreColours = "More";
+    EXPECT_EQ(popup->GetRow(kMore), -2);
+    EXPECT_EQ(popup->GetColumn(kMore), -2);
+    EXPECT_EQ(popup->GetRow(kAutomatic), -1);
+    EXPECT_EQ(popup->GetColumn(kAutomatic), -1);
+    EXPECT_EQ(popup->GetIndex(0, -2), -2);
+    EXPECT_EQ(popup->GetIndex(-3, -3), -1);
+}
+
+TEST(ColourIndex, IsACellOfTheGrid)
+{
+    const PopupInFrame popup;
+    EXPECT_EQ(popup->GetIndex(0, 0), 0);
+    EXPECT_EQ(popup->GetIndex(0, 7), 7);
+    EXPECT_EQ(popup->GetIndex(1, 0), 8);
+    EXPECT_EQ(popup->GetIndex(4, 7), 39);
+}
+
+TEST(ColourIndex, IsNoneOutsideTheGrid)
+{
+    const PopupInFrame popup;
+    EXPECT_EQ(popup->GetIndex(5, 0), -1);
+    EXPECT_EQ(popup->GetIndex(0, 8), -1);
+    EXPECT_EQ(popup->GetIndex(-1, 0), -1);
+    EXPECT_EQ(popup->GetIndex(0, -1), -1);
+    EXPECT_EQ(popup->GetIndex(1, -1), -1);
+    EXPECT_EQ(popup->GetIndex(-1, 9), -1);
+    EXPECT_EQ(popup->GetIndex(-1, -1), -1);
+    EXPECT_EQ(popup->GetIndex(-4, 0), -1);
+    EXPECT_EQ(popup->GetIndex(0, -4), -1);
+    EXPECT_EQ(popup->GetIndex(4, 2147483647), -1);
+    EXPECT_EQ(popup->GetIndex(2147483647, 7), -1);
+}
+
+TEST(ColourIndex, IsNoneBeforeThereAreRows)
+{
+    const OpenPopup popup;
+    EXPECT_EQ(popup.GetIndex(0, 0), -1);
+}
+
+// One coordinate is enough, the lower box goes first.
+TEST(ColourIndex, IsTheBoxThatEitherCoordinateNames)
+{
+    const PopupInFrame popup;
+    EXPECT_EQ(popup->GetIndex(-1, -2), -2);
+    EXPECT_EQ(popup->GetIndex(-2, 99), -2);
+    EXPECT_EQ(popup->GetIndex(-1, -3), -3);
+    EXPECT_EQ(popup->GetIndex(-3, 99), -3);
+    EXPECT_EQ(popup->GetIndex(-3, -2), -2);
+    EXPECT_EQ(popup->GetIndex(-2, -3), -2);
+}
+
+TEST(ColourIndex, IsNoneBesideAPartialLastRow)
+{
+    const PopupInFrame popup([](OpenPopup& made) { made.m_nNumColumns = 7; });
+    EXPECT_EQ(popup->GetIndex(5, 4), 39);
+    EXPECT_EQ(popup->GetIndex(5, 5), -1);
+    EXPECT_EQ(popup->GetIndex(4, 6), 34);
+    EXPECT_EQ(popup->GetIndex(6, 0), -1);
+    EXPECT_EQ(popup->GetRow(39), 5);
+    EXPECT_EQ(popup->GetColumn(39), 4);
+}
+
+class ChosenCell : public testing::Test
+{
+protected:
+    // The cell that is chosen for the colour after @a before was.
+    int For(const wxColour& colour, int before = CELL_NONE)
+    {
+        popup->m_nChosenColourSel = before;
+        popup->FindCellFromColour(colour);
+        return popup->m_nChosenColourSel;
+    }
+
+    PopupInFrame popup;
+};
+
+TEST_F(ChosenCell, IsTheFirstOfThatColour)
+{
+    EXPECT_EQ(For(wxColour(165, 42, 0)), 1);
+    EXPECT_EQ(For(wxColour(56, 142, 142)), 12);
+    EXPECT_EQ(For(wxColour(255, 255, 255)), 39);
+}
+
+TEST_F(ChosenCell, IsMoreColoursForAnyOther)
+{
+    EXPECT_EQ(For(wxColour(56, 142, 143)), -2);
+    EXPECT_EQ(For(wxColour(55, 142, 142)), -2);
+    EXPECT_EQ(For(wxColour(56, 142, 142, 254)), -2);
+    EXPECT_EQ(For(wxColour()), -2);
+    EXPECT_EQ(For(wxColour(56, 142, 143), 12), -2);
+}
+
+TEST_F(ChosenCell, IsNoneForAnyOtherWithoutThatBox)
+{
+    popup->m_strMoreColours.clear();
+    EXPECT_EQ(For(wxColour(56, 142, 143)), -1);
+    EXPECT_EQ(For(wxColour(56, 142, 143), 12), -1);
+    EXPECT_EQ(For(wxColour(56, 142, 142), -1), 12);
+}
+
+TEST_F(ChosenCell, IsAutomaticForTheDefaultColourWhereNoneWas)
+{
+    EXPECT_EQ(For(wxColour(0, 0, 0)), -3);
+    popup->SetDefaultColour(wxColour(255, 0, 0));
+    EXPECT_EQ(For(wxColour(255, 0, 0)), -3);
+    EXPECT_EQ(For(wxColour(0, 0, 0)), 0);
+    popup->SetDefaultColour(wxColour(1, 2, 3));
+    EXPECT_EQ(For(wxColour(1, 2, 3)), -3);
+}
+
+TEST_F(ChosenCell, IsThePalettesForTheDefaultColourWhereOneWas)
+{
+    EXPECT_EQ(For(wxColour(0, 0, 0), 5), 0);
+    EXPECT_EQ(For(wxColour(0, 0, 0), 0), 0);
+    EXPECT_EQ(For(wxColour(0, 0, 0), -2), 0);
+}
+
+TEST_F(ChosenCell, IsThePalettesForTheDefaultColourWithoutThatBox)
+{
+    popup->m_strAutomatic.clear();
+    EXPECT_EQ(For(wxColour(0, 0, 0)), 0);
+}
+
+// Who chose "Automatic" finds it marked again.
+TEST_F(ChosenCell, StaysAutomatic)
+{
+    EXPECT_EQ(For(wxColour(255, 0, 0), -3), -3);
+    EXPECT_EQ(For(wxColour(1, 2, 3), -3), -3);
+    popup->m_strAutomatic.clear();
+    EXPECT_EQ(For(wxColour(255, 0, 0), -3), -3);
+}
+
+TEST_F(ChosenCell, IsAmongTheColoursThatThePopupShows)
+{
+    popup->m_nNumColours = 8;
+    EXPECT_EQ(For(wxColour(40, 40, 40)), 7);
+    EXPECT_EQ(For(wxColour(139, 0, 0)), -2);
+}
+
+TEST_F(ChosenCell, LeavesTheHotOneAlone)
+{
+    popup->m_nCurrentSel = 5;
+    For(wxColour(165, 42, 0));
+    EXPECT_EQ(popup->m_nCurrentSel, 5);
+}
+
+TEST(ColourText, IsThatOfTheHotCell)
+{
+    const PopupInFrame popup;
+    EXPECT_EQ(popup->GetStringValue(), "");
+    popup->m_nCurrentSel = 0;
+    EXPECT_EQ(popup->GetStringValue(), "Black");
+    popup->m_nCurrentSel = 35;
+    EXPECT_EQ(popup->GetStringValue(), "Pale green ");
+    popup->m_nCurrentSel = 39;
+    EXPECT_EQ(popup->GetStringValue(), "White");
+    popup->m_nCurrentSel = kMore;
+    EXPECT_EQ(popup->GetStringValue(), "More Colours...");
+    popup->m_nCurrentSel = kAutomatic;
+    EXPECT_EQ(popup->GetStringValue(), "Automatic");
+    popup->m_nChosenColourSel = 5;
+    popup->m_nCurrentSel = -1;
+    EXPECT_EQ(popup->GetStringValue(), "");
+    popup->m_nCurrentSel = 40;
+    EXPECT_EQ(popup->GetStringValue(), "");
+    popup->m_nCurrentSel = -4;
+    EXPECT_EQ(popup->GetStringValue(), "");
+}
+
+class ColourByName : public testing::Test
+{
+protected:
+    ColourByName() { popup->m_nCurrentSel = 3; }
+
+    int HotAfter(const wxString& value)
+    {
+        popup->SetStringValue(value);
+        return popup->m_nCurrentSel;
+    }
+
+    PopupInFrame popup;
+};
+
+TEST_F(ColourByName, BecomesHot)
+{
+    EXPECT_EQ(HotAfter("Black"), 0);
+    EXPECT_EQ(HotAfter("White"), 39);
+    EXPECT_EQ(HotAfter("Pale green "), 35);
+    EXPECT_EQ(HotAfter("Teal"), 12);
+    EXPECT_EQ(popup->m_crColour, wxColour(56, 142, 142));
+}
+
+TEST_F(ColourByName, StaysWhatItWasForAnyOtherText)
+{
+    EXPECT_EQ(HotAfter(""), 3);
+    EXPECT_EQ(HotAfter("Automatic"), 3);
+    EXPECT_EQ(HotAfter("More Colours..."), 3);
+    EXPECT_EQ(HotAfter("black"), 3);
+    EXPECT_EQ(HotAfter("BLACK"), 3);
+    EXPECT_EQ(HotAfter("Blac"), 3);
+    EXPECT_EQ(HotAfter("Black "), 3);
+    EXPECT_EQ(HotAfter(" Black"), 3);
+    EXPECT_EQ(HotAfter("Pale green"), 3);
+    EXPECT_EQ(HotAfter(wxString("Black\0", 6)), 3);
+    EXPECT_EQ(HotAfter("16"), 3);
+    EXPECT_EQ(HotAfter("#FF0000"), 3);
+}
+
+// The combo hands back its text when the popup goes.
+TEST_F(ColourByName, StaysWhatItWasWhileThePopupHidesItself)
+{
+    popup->m_bInternalHide = true;
+    EXPECT_EQ(HotAfter("Black"), 3);
+    popup->m_bInternalHide = false;
+    EXPECT_EQ(HotAfter("Black"), 0);
+}
+
+// What is compared are the colours of the palette, however many the popup shows.
+TEST_F(ColourByName, IsFoundAmongAllOfThePalette)
+{
+    popup->m_nNumColours = 8;
+    EXPECT_EQ(HotAfter("Dark red"), 8);
+}
+
+}  // namespace

@@ -1,0 +1,74 @@
+#ifndef FITTINGS_TESTS_COLOUR_POPUP_OPEN_POPUP_H_
+#define FITTINGS_TESTS_COLOUR_POPUP_OPEN_POPUP_H_
+
+#include <functional>
+
+#include <wx/frame.h>
+
+#include <fittings/colour/colour_popup.h>
+#include <tests/support/gui.h>
+
+/// A popup whose state can be seen and set.
+class OpenPopup : public wxColourPopup
+{
+public:
+    using wxColourPopup::m_bInternalHide;
+    using wxColourPopup::m_bRefreshCombo;
+    using wxColourPopup::m_crColour;
+    using wxColourPopup::m_crDefaultColour;
+    using wxColourPopup::m_crInitialColour;
+    using wxColourPopup::m_font;
+    using wxColourPopup::m_nBoxSize;
+    using wxColourPopup::m_nChosenColourSel;
+    using wxColourPopup::m_nCurrentSel;
+    using wxColourPopup::m_nMargin;
+    using wxColourPopup::m_nNumColours;
+    using wxColourPopup::m_nNumColumns;
+    using wxColourPopup::m_nNumRows;
+    using wxColourPopup::m_palette;
+    using wxColourPopup::m_pCenterOn;
+    using wxColourPopup::m_pListener;
+    using wxColourPopup::m_rectAutomatic;
+    using wxColourPopup::m_rectMoreColours;
+    using wxColourPopup::m_rectWindow;
+    using wxColourPopup::m_strAutomatic;
+    using wxColourPopup::m_strMoreColours;
+    using wxColourPopup::m_strToolTip;
+};
+
+/// A popup in a window of its own, without a combo. Both go with the object.
+class PopupInFrame
+{
+public:
+    /// @a prepare sees the popup before its window is created.
+    explicit PopupInFrame(const std::function<void(OpenPopup&)>& prepare = {})
+        : frame(new wxFrame(nullptr, wxID_ANY, "colours", wxPoint(100, 100), wxSize(300, 260))), popup(new OpenPopup)
+    {
+        if (prepare)
+            prepare(*popup);
+        popup->Create(frame);
+    }
+
+    ~PopupInFrame()
+    {
+        frame->Destroy();
+        PumpPending();
+    }
+
+    PopupInFrame(const PopupInFrame&) = delete;
+    PopupInFrame& operator=(const PopupInFrame&) = delete;
+
+    OpenPopup* operator->() const { return popup; }
+
+    wxFrame* frame;
+    OpenPopup* popup;
+};
+
+/// Leaves out both boxes.
+inline void WithoutBoxes(OpenPopup& popup)
+{
+    popup.m_strAutomatic.clear();
+    popup.m_strMoreColours.clear();
+}
+
+#endif

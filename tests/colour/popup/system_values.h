@@ -1,0 +1,33 @@
+#ifndef FITTINGS_TESTS_COLOUR_POPUP_SYSTEM_VALUES_H_
+#define FITTINGS_TESTS_COLOUR_POPUP_SYSTEM_VALUES_H_
+
+#include <optional>
+
+#include <wx/colour.h>
+
+/// The colours of the tests' own theme, no two alike. They take the place of the desktop's while a PinnedTheme lives.
+inline const wxColour kFace(201, 202, 203);
+inline const wxColour kShadow(121, 122, 123);
+inline const wxColour kHighlight(251, 252, 253);
+inline const wxColour kDark(21, 22, 23);
+
+class PinnedTheme
+{
+public:
+    PinnedTheme();
+    ~PinnedTheme();
+    PinnedTheme(const PinnedTheme&) = delete;
+    PinnedTheme& operator=(const PinnedTheme&) = delete;
+};
+
+/// The width of an edge that the system reports while the object lives.
+class PinnedEdge
+{
+public:
+    explicit PinnedEdge(int width);
+    ~PinnedEdge();
+    PinnedEdge(const PinnedEdge&) = delete;
+    PinnedEdge& operator=(const PinnedEdge&) = delete;
+};
+
+#endif

@@ -1,0 +1,58 @@
+#ifndef FITTINGS_TESTS_GALLERY_BROWSER_BROWSER_FIXTURE_H_
+#define FITTINGS_TESTS_GALLERY_BROWSER_BROWSER_FIXTURE_H_
+
+#include <string>
+#include <vector>
+
+#include <gallery/app/gallery_frame.h>
+#include <gallery/browser/browser_page.h>
+#include <gallery/browser/contents_list.h>
+#include <gallery/browser/folder_tree.h>
+#include <gallery/tour/simulated_user.h>
+#include <gtest/gtest.h>
+
+#include <tests/support/gui.h>
+#include <tests/support/temp_folder.h>
+
+/// A browser window on a folder of its own, with settings of its own.
+class BrowserTest : public testing::Test
+{
+protected:
+    BrowserTest();
+    ~BrowserTest() override;
+
+    /// Opens a window on @a path, or on the last session's folder, and waits until it is shown.
+    void Open(const std::string& path);
+
+    /// Closes the window as a person does, and waits until it is gone.
+    void Close();
+
+    /// Gives the window another size and waits until all of it is on the screen so.
+    void Resize(const wxSize& size);
+
+    gallery::FolderTree& Tree() { return *frame->GetBrowser()->GetTree(); }
+    gallery::ContentsList& List() { return *frame->GetBrowser()->GetList(); }
+
+    /// The names in the list, from the top.
+    std::vector<std::string> Rows();
+    unsigned RowOf(const std::string& name);
+
+    /// The tree item of a folder, given by its path below the root; the levels above must be filled.
+    wxTreeItemId Item(const std::string& path);
+
+    void ClickFolder(const std::string& path);
+    bool SelectionComesTo(const std::string& path);
+
+    /// Takes the folders out of the window, to a place on the screen.
+    void FloatFolders(const wxPoint& place);
+
+    /// Whether the folders come to float there.
+    bool FoldersComeTo(const wxPoint& place);
+
+    TempUserData settings;
+    TempFolder temp;
+    std::string root;  ///< As the browser names it.
+    gallery::GalleryFrame* frame = nullptr;
+};
+
+#endif

@@ -1,0 +1,139 @@
+// Characters beyond ASCII, from keyboards that have them.
+
+#include <fittings/numedit/num_validator.h>
+
+#include <gtest/gtest.h>
+
+#include <tests/numedit/validator/keyboard.h>
+#include <tests/numedit/validator/number_dialog.h>
+#include <tests/support/gui.h>
+
+namespace {
+
+using Codes = std::vector<int>;
+
+// Newer toolkits give it no key code.
+TEST(LatinLetter, IsRefused)
+{
+    const Layout french({"fr"}, kKey2, 0, "eacute");
+    NumberDialog screen{FixedFormat()};
+    screen.Show("1");
+    screen.PressRaw(std::to_string(kKey2));
+    EXPECT_EQ(screen.keys.characters, L"\u00E9");
+    EXPECT_EQ(screen.Text(), L"1");
+    EXPECT_EQ(screen.textEvents, 0);
+    EXPECT_EQ(screen.BellsRung(), 1);
+}
+
+TEST(LatinLetter, IsTakenAsTheFormatsPoint)
+{
+    const Layout french({"fr"}, kKey2, 0, "eacute");
+    NumberDialog screen{FixedFormat(0xE9)};
+    screen.Show("1");
+    screen.PressRaw(std::to_string(kKey2));
+    EXPECT_EQ(screen.Text(), L"1\u00E9");
+    EXPECT_EQ(screen.textEvents, 1);
+    EXPECT_EQ(screen.BellsRung(), 0);
+}
+
+class CharacterWithoutKeyCode : public testing::Test
+{
+protected:
+    void TypeBehindOne(NumberDialog& screen, wchar_t character)
+    {
+        RemapKey(kKeyA, character);
+        screen.Show("1");
+        screen.PressRaw(std::to_string(kKeyA));
+        EXPECT_EQ(screen.keys.chars, Codes{0});
+    }
+
+    // Gives the key its letter again at the end.
+    Layout layout{{"us"}, kKeyA, 0, "a"};
+};
+
+struct Foreign
+{
+    const char* name;
+    wchar_t character;
+};
+
+class ForeignCharacter : public CharacterWithoutKeyCode, public testing::WithParamInterface<Foreign>
+{
+};
+
+TEST_P(ForeignCharacter, IsRefused)
+{
+    NumberDialog screen{FixedFormat()};
+    TypeBehindOne(screen, GetParam().character);
+    EXPECT_EQ(screen.Text(), L"1");
+    EXPECT_EQ(screen.textEvents, 0);
+    EXPECT_EQ(screen.BellsRung(), 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(, ForeignCharacter,
+                         testing::Values(Foreign{"Euro", 0x20AC}, Foreign{"ArabicFive", 0x665},
+                                         Foreign{"CyrillicLetter", 0x44F}, Foreign{"BeyondTheFirstPlane", 0x1D7D3}),
+                         [](const auto& info) { return info.param.name; });
+
+TEST_F(CharacterWithoutKeyCode, IsTakenAsTheFormatsPoint)
+{
+    NumberDialog screen{FixedFormat(0x66B)};
+    TypeBehindOne(screen, 0x66B);
+    EXPECT_EQ(screen.Text(), L"1\u066B");
+    EXPECT_EQ(screen.textEvents, 1);
+    EXPECT_EQ(screen.BellsRung(), 0);
+    screen.PressRaw(std::to_string(kKeyA));
+    EXPECT_EQ(screen.Text(), L"1\u066B");
+    EXPECT_EQ(screen.textEvents, 1);
+    EXPECT_EQ(screen.BellsRung(), 1);
+}
+
+TEST(EuroSign, OfAGermanKeyboardIsRefused)
+{
+    const Layout german({"de"}, kKeyE, 2, "EuroSign");
+    NumberDialog screen{FixedFormat()};
+    screen.Show("1");
+    screen.PressRaw("ISO_Level3_Shift+" + std::to_string(kKeyE));
+    EXPECT_EQ(screen.keys.chars.back(), 0);
+    EXPECT_EQ(screen.Text(), L"1");
+    EXPECT_EQ(screen.textEvents, 0);
+    EXPECT_EQ(screen.BellsRung(), 1);
+}
+
+class DeadAccent : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        screen.Show("1");
+        screen.PressRaw(std::to_string(kKeyApostrophe));
+        EXPECT_EQ(screen.Text(), L"1");
+        EXPECT_EQ(screen.BellsRung(), 0) << "no character yet";
+    }
+
+    Layout international{{"-layout", "us", "-variant", "intl"}, kKeyApostrophe, 0, "dead_acute"};
+    NumberDialog screen{FixedFormat()};
+};
+
+TEST_F(DeadAccent, OnALetterIsRefusedOnce)
+{
+    screen.PressRaw(std::to_string(kKeyE));
+    EXPECT_EQ(screen.keys.characters, L"\u00E9");
+    EXPECT_EQ(screen.Text(), L"1");
+    EXPECT_EQ(screen.BellsRung(), 1);
+}
+
+// The control gets both characters at once, and drops them together when one is refused.
+TEST_F(DeadAccent, BeforeADigitIsRefusedWithTheDigit)
+{
+    screen.PressRaw(std::to_string(kKey1));
+    EXPECT_EQ(screen.keys.characters, L"\u00B4");
+    EXPECT_EQ(screen.Text(), L"1");
+    EXPECT_EQ(screen.textEvents, 0);
+    EXPECT_EQ(screen.BellsRung(), 1);
+    screen.PressRaw(std::to_string(kKey1));
+    EXPECT_EQ(screen.Text(), L"11");
+    EXPECT_EQ(screen.BellsRung(), 1);
+}
+
+}  // namespace

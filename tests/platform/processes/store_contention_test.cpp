@@ -1,0 +1,358 @@
+// Many processes that store settings at once, on slow disks, under locks that are stuck, missing or useless. What answers
+// true is kept. FITTINGS_TEST_SOAK=N repeats each attack N times as often.
+
+#include <fittings/platform/local_reg_store.h>
+
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <gtest/gtest.h>
+
+#include <tests/platform/processes/held_lock.h>
+#include <tests/platform/processes/watched_calls.h>
+#include <tests/platform/store/store_support.h>
+#include <tests/support/becomes.h>
+#include <tests/support/patience.h>
+#include <tests/support/process/as_nobody.h>
+#include <tests/support/process/forked_work.h>
+#include <tests/support/temp_folder.h>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using std::chrono::milliseconds;
+
+int Soak()
+{
+    const char* const text = std::getenv("FITTINGS_TEST_SOAK");
+    return std::max(1, text ? std::atoi(text) : 1);
+}
+
+std::wstring Name(const wchar_t* prefix, int number)
+{
+    return prefix + std::to_wstring(number);
+}
+
+void SlowDisk(milliseconds perSync)
+{
+    g_watchedCalls.beforeSync = [perSync] { std::this_thread::sleep_for(perSync); };
+}
+
+// What one process of several stores: a counter that it counts up, and a key of its own each time.
+void StoreCounterAndKeys(int process, int updates)
+{
+    for (int update = 0; update < updates; ++update) {
+        const std::wstring value = std::to_wstring(update);
+        EXPECT_TRUE(CLocalRegStore::WriteString(L"Counters", Name(L"process", process).c_str(), value.c_str()));
+        EXPECT_TRUE(CLocalRegStore::WriteString(Name(L"Process", process).c_str(), Name(L"key", update).c_str(),
+                                                value.c_str()));
+    }
+}
+
+void ExpectCounterAndKeys(int processes, int updates)
+{
+    for (int process = 0; process < processes; ++process) {
+        EXPECT_EQ(Stored(L"Counters", Name(L"process", process).c_str()), std::to_wstring(updates - 1));
+        for (int update = 0; update < updates; ++update) {
+            EXPECT_EQ(Stored(Name(L"Process", process).c_str(), Name(L"key", update).c_str()), std::to_wstring(update))
+                << "process " << process;
+        }
+    }
+}
+
+void Contend(
+    int processes, int updates, const std::function<void()>& prepare = [] {})
+{
+    std::vector<pid_t> children;
+    for (int process = 0; process < processes; ++process) {
+        children.push_back(StartChild([&] {
+            prepare();
+            StoreCounterAndKeys(process, updates);
+        }));
+    }
+    for (const pid_t child : children)
+        EXPECT_TRUE(WaitForSuccess(child));
+    ExpectCounterAndKeys(processes, updates);
+}
+
+TEST(SixProcesses, LoseNothingOnADiskThatTakes60MillisecondsASync)
+{
+    const InMemory inMemory;
+    const TempUserData data;
+    Contend(6, 4 * Soak(), [] { SlowDisk(milliseconds(60)); });
+}
+
+TEST(ThreeProcesses, LoseNothingOnADiskThatTakes600MillisecondsASync)
+{
+    const InMemory inMemory;
+    const TempUserData data;
+    Contend(3, Soak(), [] { SlowDisk(milliseconds(600)); });
+}
+
+TEST(ManyProcesses, LoseNothingOnAFastDisk)
+{
+    const InMemory inMemory;
+    const TempUserData data;
+    Contend(128, 2 * Soak());
+}
+
+TEST(TwelveProcesses, LoseNothingInAStoreOfAHundredThousandKeys)
+{
+    const InMemory inMemory;
+    const TempUserData data;
+    std::string text;
+    for (int key = 0; key < 100'000; ++key) {
+        if (key % 1000 == 0)
+            text += "[Section" + std::to_string(key / 1000) + "]\n";
+        text += "WindowGeometry" + std::to_string(key) + "=" + std::to_string(key) + ";10;640;480\n";
+    }
+    WriteFile(data / "settings.ini", text);
+    Contend(12, Soak());
+    EXPECT_EQ(ReadFile(data / "settings.ini").substr(0, text.size()), text);
+}
+
+// Stops itself while it has the lock, as a debugger or a suspended container does it.
+pid_t StartHolderThatStops(const wchar_t* key)
+{
+    const pid_t child = StartChild([key] {
+        g_watchedCalls.beforeSync = [] {
+            g_watchedCalls.beforeSync = nullptr;
+            raise(SIGSTOP);
+        };
+        EXPECT_TRUE(CLocalRegStore::WriteString(L"s", key, L"held"));
+    });
+    int status = 0;
+    EXPECT_EQ(waitpid(child, &status, WUNTRACED), child);
+    EXPECT_TRUE(WIFSTOPPED(status));
+    return child;
+}
+
+TEST(AStoppedHolderOfTheLock, UndoesNothingWhenItGoesOn)
+{
+    for (int trial = 0; trial < 2 * Soak(); ++trial) {
+        const TempUserData data;
+        EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"first", L"1"));
+        const pid_t holder = StartHolderThatStops(L"holder");
+        for (int update = 0; update < 3; ++update)
+            EXPECT_TRUE(CLocalRegStore::WriteString(L"s", Name(L"key", update).c_str(), L"1"));
+        kill(holder, SIGCONT);
+        EXPECT_TRUE(WaitForSuccess(holder));
+        EXPECT_EQ(Stored(L"s", L"holder"), L"held");
+        EXPECT_EQ(Stored(L"s", L"first"), L"1");
+        for (int update = 0; update < 3; ++update)
+            EXPECT_EQ(Stored(L"s", Name(L"key", update).c_str()), L"1") << "trial " << trial;
+    }
+}
+
+TEST(AStoppedHolderOfTheLock, DelaysAllWritesOfAProcessByTwoSecondsTogether)
+{
+    const InMemory inMemory;
+    const TempUserData data;
+    const pid_t holder = StartHolderThatStops(L"holder");
+    const auto start = Clock::now();
+    for (int update = 0; update < 22; ++update)
+        EXPECT_TRUE(CLocalRegStore::WriteString(L"s", Name(L"key", update).c_str(), L"1"));
+    EXPECT_LT(Clock::now() - start, Patience() * milliseconds(10'000));
+    kill(holder, SIGKILL);
+    waitpid(holder, nullptr, 0);
+}
+
+TEST(AStoppedHolderOfTheLock, DelaysEightThreadsByTwoSecondsTogether)
+{
+    const InMemory inMemory;
+    const TempUserData data;
+    const pid_t holder = StartHolderThatStops(L"holder");
+    const auto start = Clock::now();
+    std::vector<std::thread> threads;
+    for (int thread = 0; thread < 8; ++thread) {
+        threads.emplace_back(
+            [thread] { EXPECT_TRUE(CLocalRegStore::WriteString(L"s", Name(L"key", thread).c_str(), L"1")); });
+    }
+    for (std::thread& thread : threads)
+        thread.join();
+    EXPECT_LT(Clock::now() - start, Patience() * milliseconds(8000));
+    for (int thread = 0; thread < 8; ++thread)
+        EXPECT_EQ(Stored(L"s", Name(L"key", thread).c_str()), L"1");
+    kill(holder, SIGKILL);
+    waitpid(holder, nullptr, 0);
+}
+
+TEST(AStoppedHolderOfTheLock, DoesNotDelayAWriteThatChangesNothingWhileAnotherThreadWaits)
+{
+    const TempUserData data;
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"1"));
+    const pid_t holder = StartHolderThatStops(L"holder");
+    std::atomic<bool> isDone = false;
+    std::thread writer([&] {
+        EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"other", L"1"));
+        isDone = true;
+    });
+    int unchanged = 0;
+    do {
+        const auto start = Clock::now();
+        EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"1"));
+        EXPECT_LT(Clock::now() - start, Patience() * milliseconds(1000));
+        std::this_thread::sleep_for(milliseconds(10));
+        ++unchanged;
+    } while (!isDone);
+    writer.join();
+    EXPECT_GT(unchanged, 1);
+    kill(holder, SIGKILL);
+    waitpid(holder, nullptr, 0);
+}
+
+TEST(AStoppedWaiter, DelaysNobodyForLong)
+{
+    const TempUserData data;
+    const std::string lockFile = data / "settings.ini.lock";
+    HeldLock lock(lockFile, 0, 1);
+    const pid_t waiter = StartChild([] { EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"waiter", L"1")); });
+    EXPECT_TRUE(Becomes([&] { return IsTurnTaken(lockFile); }, 1500));
+    kill(waiter, SIGSTOP);
+    int status = 0;
+    EXPECT_EQ(waitpid(waiter, &status, WUNTRACED), waiter);
+    lock.Release();
+    ASSERT_TRUE(WIFSTOPPED(status)) << "the waiter was done already";
+    const auto start = Clock::now();
+    for (int update = 0; update < 3; ++update)
+        EXPECT_TRUE(CLocalRegStore::WriteString(L"s", Name(L"key", update).c_str(), L"1"));
+    EXPECT_LT(Clock::now() - start, Patience() * milliseconds(1500));
+    kill(waiter, SIGCONT);
+    EXPECT_TRUE(WaitForSuccess(waiter));
+    EXPECT_EQ(Stored(L"s", L"waiter"), L"1");
+    for (int update = 0; update < 3; ++update)
+        EXPECT_EQ(Stored(L"s", Name(L"key", update).c_str()), L"1");
+}
+
+/// Removes the lock file again and again.
+class LockRemover
+{
+public:
+    LockRemover(std::string path, milliseconds pause)
+        : m_thread([this, path, pause] {
+              while (!m_isDone) {
+                  m_removed += unlink(path.c_str()) == 0;
+                  std::this_thread::sleep_for(pause);
+              }
+          })
+    {
+    }
+    ~LockRemover()
+    {
+        m_isDone = true;
+        m_thread.join();
+        EXPECT_GT(m_removed, 0);
+    }
+    LockRemover(const LockRemover&) = delete;
+    LockRemover& operator=(const LockRemover&) = delete;
+
+private:
+    std::atomic<bool> m_isDone = false;
+    std::atomic<int> m_removed = 0;
+    std::thread m_thread;
+};
+
+TEST(ALockFileThatIsRemovedAllTheTime, LosesNothing)
+{
+    const InMemory inMemory;
+    {
+        const TempUserData data;
+        const LockRemover remover(data / "settings.ini.lock", milliseconds(2));
+        Contend(6, 30 * Soak());
+    }
+    {
+        const TempUserData data;
+        const LockRemover remover(data / "settings.ini.lock", milliseconds(1000));
+        Contend(6, 10 * Soak(), [] { SlowDisk(milliseconds(10)); });
+    }
+}
+
+TEST(AFolderInPlaceOfTheLockFile, LosesNothing)
+{
+    const InMemory inMemory;
+    const TempUserData data;
+    std::filesystem::create_directory(data / "settings.ini.lock");
+    Contend(6, 10 * Soak());
+}
+
+TEST(ALockFileThatCannotBeOpened, LosesNothing)
+{
+    const InMemory inMemory;
+    const TempUserData data;
+    WriteFile(data / "settings.ini.lock", "");
+    ASSERT_EQ(chmod((data / "settings.ini.lock").c_str(), 0), 0);
+    // What sudo leaves behind in a user's folder.
+    if (geteuid() == 0) {
+        ASSERT_EQ(chown(data.Path().c_str(), 65534, 65534), 0);
+    }
+    const AsNobody nobody;
+    ASSERT_EQ(open((data / "settings.ini.lock").c_str(), O_RDWR | O_CLOEXEC), -1);
+    Contend(6, 10 * Soak());
+}
+
+// As an editor saves a file that it has read before: empties it, and fills it a moment later.
+void EditInPlace(const std::string& path, milliseconds pause)
+{
+    const std::string text = ReadFile(path);
+    const int file = open(path.c_str(), O_WRONLY | O_TRUNC | O_CLOEXEC);
+    std::this_thread::sleep_for(pause);
+    EXPECT_EQ(write(file, text.data(), text.size()), static_cast<ssize_t>(text.size()));
+    close(file);
+}
+
+TEST(AnEditorThatEmptiesTheFileAndFillsItLater, LosesNoOtherSetting)
+{
+    const InMemory inMemory;
+    for (const int pause : {2, 20}) {
+        for (int trial = 0; trial < 30 * Soak(); ++trial) {
+            const TempUserData data;
+            const std::string others = "# mine\n[other]\na=1\nb=2\n";
+            WriteFile(data / "settings.ini", others);
+            std::thread editor([&] { EditInPlace(data / "settings.ini", milliseconds(pause)); });
+            std::this_thread::sleep_for(std::chrono::microseconds(trial % 15 * 200));
+            EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"1"));
+            editor.join();
+            EXPECT_EQ(ReadFile(data / "settings.ini").substr(0, others.size()), others) << "trial " << trial;
+        }
+    }
+}
+
+TEST(AnEmptiedFile, KeepsItsValuesForReadersForAMoment)
+{
+    const TempUserData data;
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"1"));
+    EXPECT_EQ(Stored(L"s", L"k"), L"1");
+    std::filesystem::resize_file(data / "settings.ini", 0);
+    EXPECT_EQ(Stored(L"s", L"k"), L"1");
+    EXPECT_TRUE(Becomes([] { return Stored(L"s", L"k") == L"(none)"; }, 5000));
+}
+
+TEST(RootInTheFolderOfAnotherUser, GivesTheFilesToThatUser)
+{
+    if (geteuid() != 0)
+        GTEST_SKIP() << "only root can give files away";
+    const TempUserData data;
+    ASSERT_EQ(chown(data.Path().c_str(), 65534, 65534), 0);
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"1"));
+    for (const char* const name : {"settings.ini", "settings.ini.lock"}) {
+        struct stat info;
+        ASSERT_EQ(stat((data / name).c_str(), &info), 0);
+        EXPECT_EQ(info.st_uid, 65534U) << name;
+        EXPECT_EQ(info.st_gid, 65534U) << name;
+    }
+}
+
+}  // namespace

@@ -1,0 +1,209 @@
+// What others do to the settings file between the last look at it and its exchange.
+
+#include <fittings/platform/local_reg_store.h>
+
+#include <cerrno>
+#include <chrono>
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <gtest/gtest.h>
+
+#include <tests/platform/processes/watched_calls.h>
+#include <tests/platform/store/store_support.h>
+#include <tests/support/temp_folder.h>
+
+namespace {
+
+/// Lets others act before one exchange each, in turn.
+class Others
+{
+public:
+    explicit Others(std::vector<std::function<void()>> acts) : m_acts(std::move(acts))
+    {
+        g_watchedCalls.beforeExchange = [this] {
+            if (m_done < m_acts.size())
+                m_acts[m_done++]();
+            return 0;
+        };
+    }
+    ~Others() { g_watchedCalls.beforeExchange = nullptr; }
+    Others(const Others&) = delete;
+    Others& operator=(const Others&) = delete;
+
+    std::size_t Done() const { return m_done; }
+
+private:
+    const std::vector<std::function<void()>> m_acts;
+    std::size_t m_done = 0;
+};
+
+class AnExchange : public testing::Test
+{
+protected:
+    std::string Now() const { return ReadFile(m_path); }
+
+    // As another process does it: a new file in the place of the old one.
+    void Put(const std::string& text) const
+    {
+        WriteFile(m_path + ".new", text);
+        ASSERT_EQ(rename((m_path + ".new").c_str(), m_path.c_str()), 0);
+    }
+
+    const TempUserData m_data;
+    const std::string m_path = m_data / "settings.ini";
+};
+
+TEST_F(AnExchange, KeepsWhatAnotherProcessHasJustStored)
+{
+    WriteFile(m_path, "# mine\n[s]\na=1\nk=old\n");
+    const Others others({[&] { Put("# mine\n# theirs\n[s]\na=2\nk=old\nb=3\n"); }});
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
+    EXPECT_EQ(Now(), "# mine\n# theirs\n[s]\na=2\nk=new\nb=3\n");
+    EXPECT_EQ(others.Done(), 1U);
+}
+
+TEST_F(AnExchange, KeepsWhatAnotherProcessHasJustRemoved)
+{
+    WriteFile(m_path, "[s]\na=1\nk=old\n");
+    const Others others({[&] { Put("[s]\nk=old\n"); }});
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
+    EXPECT_EQ(Now(), "[s]\nk=new\n");
+}
+
+TEST_F(AnExchange, RemovesAKeyFromWhatAnotherProcessHasJustStored)
+{
+    WriteFile(m_path, "[s]\na=1\nk=old\n");
+    const Others others({[&] { Put("[s]\na=2\nk=old\n"); }});
+    EXPECT_TRUE(CLocalRegStore::DeleteProfile(L"s", L"k"));
+    EXPECT_EQ(Now(), "[s]\na=2\n");
+}
+
+TEST_F(AnExchange, StoresItsOwnValueOverTheOneThatAnotherProcessHasJustStored)
+{
+    WriteFile(m_path, "[s]\nk=old\n");
+    const Others others({[&] { Put("[s]\nk=theirs\n"); }});
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
+    EXPECT_EQ(Now(), "[s]\nk=new\n");
+}
+
+// The second one knows the first exchange, but not what that has displaced.
+TEST_F(AnExchange, KeepsTheChangesOfSeveralProcesses)
+{
+    WriteFile(m_path, "[s]\na=1\nb=1\nk=old\n");
+    const Others others({[&] { Put("[s]\na=2\nb=1\nk=old\n"); }, [&] { Put("[s]\na=1\nb=2\nk=new\nc=3\n"); },
+                         [&] { Put("[s]\na=2\nb=1\nk=new\nd=4\n"); }});
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
+    EXPECT_EQ(others.Done(), 3U);
+    const Ini now(m_path);
+    EXPECT_EQ(now.Get(L"s", L"a"), L"2");
+    EXPECT_EQ(now.Get(L"s", L"b"), L"2");
+    EXPECT_EQ(now.Get(L"s", L"c"), L"3");
+    EXPECT_EQ(now.Get(L"s", L"d"), L"4");
+    EXPECT_EQ(now.Get(L"s", L"k"), L"new");
+}
+
+// The value that was stored last, by a process that saw the one that was merged, counts.
+TEST_F(AnExchange, KeepsTheNewerOfTwoValuesOfOthers)
+{
+    WriteFile(m_path, "[s]\na=1\nk=old\n");
+    const Others others({[&] { Put("[s]\na=2\nk=old\n"); }, [&] { Put("[s]\na=3\nk=new\n"); }});
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
+    EXPECT_EQ(Now(), "[s]\na=3\nk=new\n");
+}
+
+TEST_F(AnExchange, WaitsForAnEditorThatHasJustEmptiedTheFile)
+{
+    WriteFile(m_path, "[s]\na=1\nk=old\n");
+    std::thread editor;
+    const Others others({[&] {
+        const int file = open(m_path.c_str(), O_WRONLY | O_TRUNC | O_CLOEXEC);
+        editor = std::thread([file] {
+            std::this_thread::sleep_for(std::chrono::milliseconds(20));
+            const std::string text = "[s]\na=2\nk=old\n";
+            EXPECT_EQ(write(file, text.data(), text.size()), static_cast<ssize_t>(text.size()));
+            close(file);
+        });
+    }});
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
+    editor.join();
+    EXPECT_EQ(Now(), "[s]\na=2\nk=new\n");
+}
+
+// Nobody can merge what is no text: it comes back, and is then set aside as any such file is.
+TEST_F(AnExchange, PutsBackWhatIsNoText)
+{
+    WriteFile(m_path, "[s]\na=1\nk=old\n");
+    const std::string zeros(100, '\0');
+    const Others others({[&] { Put(zeros); }});
+    EXPECT_FALSE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
+    EXPECT_EQ(Now(), zeros);
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
+    EXPECT_EQ(Now(), "[s]\nk=new\n");
+    EXPECT_EQ(ReadFile(m_path + ".unreadable"), zeros);
+}
+
+TEST_F(AnExchange, MakesTheFileAnewThatWasRemovedJustNow)
+{
+    WriteFile(m_path, "[s]\na=1\nk=old\n");
+    const Others others({[&] { ASSERT_EQ(unlink(m_path.c_str()), 0); }});
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
+    EXPECT_EQ(Now(), "[s]\nk=new\n");
+}
+
+TEST_F(AnExchange, KeepsTheFileThatAnotherProcessHasJustMade)
+{
+    const Others others({[&] { Put("[s]\na=1\n"); }});
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
+    EXPECT_EQ(Now(), "[s]\na=1\nk=new\n");
+}
+
+TEST_F(AnExchange, LeavesNothingBehind)
+{
+    WriteFile(m_path, "[s]\na=1\nk=old\n");
+    const Others others({[&] { Put("[s]\na=2\nk=old\n"); }, [&] { Put("[s]\na=3\nk=new\n"); }});
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
+    EXPECT_EQ(NamesIn(m_data.Path()), (std::vector<std::string>{"settings.ini", "settings.ini.lock"}));
+}
+
+class WithoutExchange : public AnExchange, public testing::WithParamInterface<int>
+{
+protected:
+    WithoutExchange()
+    {
+        g_watchedCalls.beforeExchange = [] { return GetParam(); };
+    }
+    ~WithoutExchange() override { g_watchedCalls.beforeExchange = nullptr; }
+};
+
+TEST_P(WithoutExchange, AValueIsStoredAsAnywhere)
+{
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"1"));
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"2"));
+    EXPECT_EQ(Now(), "[s]\nk=2\n");
+    EXPECT_EQ(NamesIn(m_data.Path()), (std::vector<std::string>{"settings.ini", "settings.ini.lock"}));
+}
+
+TEST_P(WithoutExchange, WhatAnotherProcessStoresWhileTheFileIsWrittenIsKept)
+{
+    WriteFile(m_path, "[s]\nk=1\n");
+    bool isFirst = true;
+    g_watchedCalls.beforeSync = [&] {
+        if (isFirst)
+            Put("[s]\nk=1\na=2\n");
+        isFirst = false;
+    };
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"2"));
+    g_watchedCalls.beforeSync = nullptr;
+    EXPECT_EQ(Now(), "[s]\nk=2\na=2\n");
+}
+
+INSTANTIATE_TEST_SUITE_P(, WithoutExchange, testing::Values(EINVAL, ENOSYS, EPERM));
+
+}  // namespace

@@ -1,0 +1,52 @@
+#ifndef FITTINGS_TESTS_PLATFORM_STORE_STORE_SUPPORT_H_
+#define FITTINGS_TESTS_PLATFORM_STORE_STORE_SUPPORT_H_
+
+#include <memory>
+#include <string>
+
+#include <fittings/platform/file_util_ex.h>
+#include <fittings/platform/local_reg_store.h>
+
+struct DestroyIniFile
+{
+    void operator()(CIniFile* ini) const { CLocalRegStore::DestroyIniFile(ini); }
+};
+
+/// One INI file object, released with its owner.
+class Ini
+{
+public:
+    Ini() = default;
+    explicit Ini(const std::string& path) { Load(path); }
+
+    bool Load(const std::string& path)
+    {
+        return CLocalRegStore::Load(*m_file, file_util_ex::ConvertFromUTF8W(path).c_str());
+    }
+
+    bool Save(const std::string& path) const
+    {
+        return CLocalRegStore::Save(*m_file, file_util_ex::ConvertFromUTF8W(path).c_str());
+    }
+
+    std::wstring Get(const wchar_t* section, const wchar_t* key, const wchar_t* defaultValue = L"(none)") const
+    {
+        return CLocalRegStore::GetString(*m_file, section, key, defaultValue);
+    }
+
+    void Set(const wchar_t* section, const wchar_t* key, const wchar_t* value)
+    {
+        CLocalRegStore::WriteString(*m_file, section, key, value);
+    }
+
+private:
+    std::unique_ptr<CIniFile, DestroyIniFile> m_file{CLocalRegStore::CreateInitFile(false)};
+};
+
+/// The default store's value of a key.
+inline std::wstring Stored(const wchar_t* section, const wchar_t* key)
+{
+    return CLocalRegStore::GetString(section, key, L"(none)");
+}
+
+#endif
