@@ -10,6 +10,7 @@
 #include <wx/textctrl.h>
 
 #include <fittings/base/accessible.h>
+#include <fittings/colour/click_watch.h>
 #include <fittings/colour/colour_popup.h>
 #include <fittings/colour/colour_text.h>
 #include <fittings/colour/direct_drawing.h>
@@ -47,19 +48,66 @@ bool IsGoing(wxWindow* window)
 wxBEGIN_EVENT_TABLE(wxColourCombo, wxComboCtrl)
 wxEND_EVENT_TABLE()
 
-wxColourCombo::wxColourCombo()
+wxColourCombo::wxColourCombo() : m_clicks(std::make_unique<fittings::ClickWatch>(*this, [this] { DismissOpening(); }))
 {
     // Keys are the popup's as soon as the user has opened it, and a dialog must not be closed by them meanwhile.
     Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) { event.Skip(!m_animTimer.IsRunning()); });
 }
 
+wxColourCombo::wxColourCombo(wxWindow* parent, wxWindowID id, const wxColour& colour, const wxPoint& pos,
+                             const wxSize& size, long style, const wxValidator& validator, const wxString& name)
+    : wxColourCombo()
+{
+    CreateWithColour(parent, id, colour, pos, size, style, validator, name);
+}
+
+bool wxColourCombo::CreateWithColour(wxWindow* parent, wxWindowID id, const wxColour& colour, const wxPoint& pos,
+                                     const wxSize& size, long style, const wxValidator& validator, const wxString& name)
+{
+    if (!wxComboCtrl::Create(parent, id, "", pos, size, style, validator, name))
+        return false;
+    SetPopupControl(new wxColourPopup);
+    SetColour(colour.IsOk() ? colour : *wxBLACK);
+    return true;
+}
+
 wxColourCombo::~wxColourCombo()
 {
+    // A popup that was closed while it opened is shown no more, and its end has not been told.
+    if (m_animTimer.IsRunning() && IsPopupWindowState(Hidden))
+        m_popupWinState = Animating;
     m_animTimer.Stop();
+    m_clicks->Stop();
     // The popup is closed here and not by the base, so that a listener that now wants the control destroyed finds that
     // it is being so.
     SendDestroyEvent();
     HidePopup(true);
+}
+
+wxColourPopup* wxColourCombo::GetPopup() const
+{
+    return dynamic_cast<wxColourPopup*>(m_popupInterface);
+}
+
+wxColour wxColourCombo::GetColour() const
+{
+    const wxColourPopup* const popup = GetPopup();
+    return popup ? popup->GetInitialColour() : wxColour();
+}
+
+bool wxColourCombo::SetColour(const wxColour& colour)
+{
+    wxColourPopup* const popup = GetPopup();
+    return popup && popup->SetColour(colour);
+}
+
+bool wxColourCombo::SetAutomaticColour(const wxColour& colour)
+{
+    wxColourPopup* const popup = GetPopup();
+    if (!popup || !colour.IsOk())
+        return false;
+    popup->SetDefaultColour(colour);
+    return popup->SetColour(wxColour(popup->GetInitialColour()));
 }
 
 bool wxColourCombo::Destroy()
@@ -71,10 +119,35 @@ bool wxColourCombo::Destroy()
     return true;
 }
 
+void wxColourCombo::Popup()
+{
+    if (!m_animTimer.IsRunning())
+        wxComboCtrl::Popup();
+}
+
 void wxColourCombo::ShowPopup()
 {
-    if (GetPopupControl())
-        wxComboCtrl::ShowPopup();
+    if (!GetPopupControl() || m_animTimer.IsRunning())
+        return;
+    // What was typed is the control's value: with an old one, setting that would seem to change nothing.
+    m_valueString = GetValue();
+    wxComboCtrl::ShowPopup();
+}
+
+void wxColourCombo::HidePopup(bool generateEvent)
+{
+    // The next step of the animation shows it, and it has its end when it closes then.
+    if (m_animTimer.IsRunning() && !IsGoing(this))
+        m_popupWinState = Hidden;
+    else
+        wxComboCtrl::HidePopup(generateEvent);
+}
+
+void wxColourCombo::DoSetPopupControl(wxComboPopup* popup)
+{
+    if (m_animTimer.IsRunning())
+        wxComboCtrl::HidePopup(false);
+    wxComboCtrl::DoSetPopupControl(popup);
 }
 
 bool wxColourCombo::IsClientAreaChild(const wxWindow* child) const
@@ -93,7 +166,7 @@ void wxColourCombo::OnInternalIdle()
 {
     wxComboCtrl::OnInternalIdle();
     const wxString label = GetLabelText();
-    const auto* const colours = dynamic_cast<wxColourPopup*>(m_popupInterface);
+    const wxColourPopup* const colours = GetPopup();
     // The focus stays here while the popup is open, and what is said of it is of the hot cell.
     fittings::Describe(*this, fittings::AccessibleRole::ComboBox, label,
                        colours ? fittings::SpokenText(*colours) : GetValue());
@@ -117,6 +190,7 @@ bool wxColourCombo::AnimateShow(const wxRect& rect, int flags)
         m_outline = new fittings::OutlineWindow(this);
     m_animTimer.SetOwner(this, wxID_ANY);
     m_animTimer.Start(kTick, wxTIMER_CONTINUOUS);
+    m_clicks->Start();
     wxTimerEvent firstStep(m_animTimer);
     OnTimerEvent(firstStep);
     return false;
@@ -127,6 +201,7 @@ void wxColourCombo::OnTimerEvent(wxTimerEvent& /*event*/)
     wxComboPopup* const popup = GetPopupControl();
     if (!popup) {
         m_animTimer.Stop();
+        m_clicks->Stop();
         return;
     }
     const wxLongLong now = wxGetLocalTimeMillis();
@@ -185,12 +260,22 @@ void wxColourCombo::EndAnimation(wxWindow& popup)
     popup.Move(0, 0);
     const bool animated = m_animTimer.IsRunning();
     m_animTimer.Stop();
-    if (IsGoing(this))
-        return;
-    // Who closed the popup too early to see it gets it nevertheless; the base shows only what is being opened.
+    m_clicks->Stop();
+    // If the popup was closed during the animation, it is shown nevertheless; the base shows only what is being opened.
     if (animated && IsPopupWindowState(Hidden)) {
         m_popupWinState = Animating;
         m_winPopup->Enable();
     }
-    DoShowPopup(m_animRect, m_animFlags);
+    if (!IsGoing(this))
+        DoShowPopup(m_animRect, m_animFlags);
+}
+
+// The click would have dismissed an open popup. It does so with this one, which is shown first like every popup.
+void wxColourCombo::DismissOpening()
+{
+    EndAnimation(*GetPopupControl()->GetControl());
+    if (!IsPopupShown())
+        return;
+    m_winPopup->Hide();
+    OnPopupDismiss(true);
 }

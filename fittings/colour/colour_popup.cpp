@@ -27,6 +27,12 @@ constexpr int kMarginWhereUnknown = 2;
 // What the window is made with, until it is laid out.
 constexpr int kFirstSize = 100;
 
+bool IsOpen(const wxComboCtrlBase& combo)
+{
+    const int state = combo.GetPopupWindowState();
+    return state == wxComboCtrlBase::Animating || state == wxComboCtrlBase::Visible;
+}
+
 wxRect FromCorners(int left, int top, int right, int bottom)
 {
     return {wxPoint(left, top), wxPoint(right, bottom)};
@@ -104,6 +110,31 @@ void wxColourPopup::SetInitialColour(const wxColour& colour)
 {
     wxCHECK_RET(colour.IsOk(), "invalid colour");
     m_crInitialColour = colour;
+    if (m_combo)
+        m_combo->Refresh();
+}
+
+bool wxColourPopup::SetColour(const wxColour& colour)
+{
+    if (!colour.IsOk())
+        return false;
+    m_crInitialColour = colour;
+    m_nChosenColourSel = CELL_NONE;
+    FindCellFromColour(m_crInitialColour);
+    const bool hotIsFixed = m_nCurrentSel == CELL_AUTOMATIC || (m_nCurrentSel >= 0 && m_nCurrentSel < m_nNumColours);
+    m_crColour = hotIsFixed ? GetColour(m_nCurrentSel) : m_crInitialColour;
+    if (GetHandle())
+        Refresh();
+    if (!m_combo)
+        return true;
+    const wxString name = TextOf(m_nChosenColourSel);
+    // Closing makes the hot cell's name the value, and this one takes its place.
+    if (m_valueWhenShown || m_ending)
+        m_valueWhenShown = name;
+    if (m_combo->GetValue() != name)
+        m_combo->SetText(name);
+    m_combo->Refresh();
+    return true;
 }
 
 void wxColourPopup::SetDefaultColour(const wxColour& colour)
@@ -196,12 +227,17 @@ wxString wxColourPopup::GetStringValue() const
     // A text field would tell of the name of a colour that was not chosen, and at once of its old text again.
     if (m_handsValueBack && m_valueWhenShown)
         return *m_valueWhenShown;
-    if (m_nCurrentSel == CELL_AUTOMATIC)
+    return TextOf(m_nCurrentSel);
+}
+
+wxString wxColourPopup::TextOf(int index) const
+{
+    if (index == CELL_AUTOMATIC)
         return m_strAutomatic;
-    if (m_nCurrentSel == CELL_MORE_COLOURS)
+    if (index == CELL_MORE_COLOURS)
         return m_strMoreColours;
-    if (m_nCurrentSel >= 0 && m_nCurrentSel < fittings::kColourCount)
-        return fittings::OrEmpty(GetColourName(m_nCurrentSel));
+    if (index >= 0 && index < fittings::kColourCount)
+        return fittings::OrEmpty(GetColourName(index));
     return {};
 }
 
@@ -209,6 +245,9 @@ void wxColourPopup::SetStringValue(const wxString& value)
 {
     if (m_bInternalHide || m_ending)
         return;
+    // Not what the combo hands over while it closes the popup, nor while it opens it.
+    if (m_valueWhenShown && m_combo && IsOpen(*m_combo))
+        m_valueWhenShown = m_combo->GetValue();
     const std::weak_ptr<const bool> life(m_life);
     for (int i = 0; i < fittings::kColourCount; ++i) {
         const wchar_t* const name = GetColourName(i);

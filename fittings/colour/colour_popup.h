@@ -39,16 +39,15 @@ public:
 /// "More Colours..." below it.
 ///
 /// @code
-/// auto* combo = new wxColourCombo;
-/// combo->Create(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxCB_READONLY);
-/// auto* popup = new wxColourPopup;
-/// popup->SetInitialColour(m_lineColour);
-/// popup->SetColorListener(this);
-/// combo->SetPopupControl(popup);
+/// auto* combo = new wxColourCombo(this, wxID_ANY, m_lineColour);
+/// combo->GetPopup()->SetAutomaticText("No line");
+/// combo->GetPopup()->SetColorListener(this);
 /// @endcode
 ///
-/// Settings are made before the popup is shown. The colour that the user chose reaches the listener, and is from then on
-/// the initial colour. A cell is named by its index: 0 to 39 for a colour of the palette, else one of the constants
+/// A host that derives a class from this one gives it to a combo by wxComboCtrl::SetPopupControl().
+///
+/// The other settings than the colour are made before the popup is shown. The colour that the user chose reaches the
+/// listener and the combo's wxEVT_COLOURPICKER_CHANGED, and is from then on the initial colour. A cell is named by its index: 0 to 39 for a colour of the palette, else one of the constants
 /// CELL_NONE, CELL_MORE_COLOURS and CELL_AUTOMATIC. The *hot* cell is the one under the pointer or reached by the
 /// keyboard; the *chosen* cell is the one of the colour in effect.
 ///
@@ -70,9 +69,16 @@ public:
     /// The colour in effect: what the combo's face and the "More Colours..." cell show. Black at first. An invalid
     /// colour asserts and is not taken.
     ///
-    /// Set it before the combo takes the popup: the popup marks "Automatic" then if this is the default colour, and that
-    /// mark stays.
+    /// The combo is redrawn, and no more: set it before the combo takes the popup, which marks "Automatic" then if this is
+    /// the default colour, and that mark stays. Later, SetColour() is what moves the mark.
     void SetInitialColour(const wxColour& colour);
+
+    /// Makes @a colour the one in effect, with the combo's face and value, the chosen cell and the mark of "Automatic". The
+    /// listener hears nothing of it, and no event is sent. False, and nothing changes, for an invalid colour.
+    ///
+    /// It may be called at any time. While the popup is open, the colour stays in effect if nothing is chosen; while the
+    /// listener or an event hears of the colour that was chosen, it takes its place.
+    bool SetColour(const wxColour& colour);
 
     /// The colour in effect.
     const wxColour& GetInitialColour() const { return m_crInitialColour; }
@@ -132,12 +138,15 @@ public:
     /// @a colour is: who chose it finds it marked again.
     void FindCellFromColour(const wxColour& colour);
 
-    /// The text of the hot cell; empty when none is hot. While a cancelled selection closes the popup, the combo's value.
+    /// The text of the hot cell; empty when none is hot. While a cancelled selection closes the popup, or one whose colour
+    /// SetColour() has replaced, the combo's value.
     wxString GetStringValue() const override;
 
     /// Makes the colour of that name hot, in the language and the letter case that the table has it in. Any other text,
     /// those of the boxes included, changes nothing. Neither does the name of the hot cell while the popup is
     /// open, nor any while the popup hides itself: what the combo then hands back is no choice of the user's.
+    ///
+    /// A value that the host sets while the popup is open stays the combo's if nothing is chosen.
     void SetStringValue(const wxString& value) override;
     /// @}
 
@@ -230,6 +239,11 @@ public:
     /// The cells follow one another in a circle: "Automatic", the palette row by row, "More Colours...". While none is hot,
     /// Down and Right begin with "More Colours...", Up and Left with "Automatic".
     void OnKeyDown(wxKeyEvent& event);
+
+    /// A key of the combo that has the focus while the popup is closed. With wxCB_READONLY, Up chooses the colour before the
+    /// one in effect and Down the one after: the listener hears of the choice, and the combo sends its event. They do
+    /// nothing at the first and the last cell, and do not move the focus. Other keys are skipped.
+    void OnComboKeyEvent(wxKeyEvent& event) override;
     /// @}
 
 protected:
@@ -269,9 +283,14 @@ private:
     void TellOfTheEnd(bool ok);
     bool HideCombo();
     void RestoreValue();
+    wxString TextOf(int index) const;
+    int CellBeside(int step) const;
+    void ChooseClosed(int index);
+    bool Send(wxEventType type, const wxColour& colour);
 
     bool m_ending = false;                     ///< While the listener hears of an end.
     bool m_handsValueBack = false;             ///< While a cancelled selection closes the popup.
+    bool m_dialogCancelled = false;            ///< From the end of the dialog to that of the selection.
     std::optional<wxString> m_valueWhenShown;  ///< Of the combo, while the popup is open.
     const std::shared_ptr<const bool> m_life = std::make_shared<const bool>(true);  ///< Ends with the popup.
 

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include <gtk/gtk.h>
+#include <wx/clrpicker.h>
 #include <wx/colordlg.h>
 #include <wx/dcclient.h>
 
@@ -127,11 +128,27 @@ void wxColourPopup::OnDismiss()
         return;
     const Life life(m_life);
     RestoreValue();
-    if (life.expired() || !m_pListener)
+    if (life.expired())
         return;
-    m_crColour = m_crInitialColour;
-    // A copy: the popup may go during the call, and its members with it. So elsewhere.
-    m_pListener->OnColourSelCancel(wxColour(m_crColour));
+    if (m_pListener) {
+        m_crColour = m_crInitialColour;
+        // A copy, here and below: the popup may go during the call, and its members with it.
+        m_pListener->OnColourSelCancel(wxColour(m_crColour));
+    }
+    if (!life.expired())
+        Send(wxEVT_COLOURPICKER_DIALOG_CANCELLED, m_crInitialColour);
+}
+
+// False when the popup is gone afterwards.
+bool wxColourPopup::Send(wxEventType type, const wxColour& colour)
+{
+    const Life life(m_life);
+    // What the handlers belong to may be half gone when the combo goes.
+    if (m_combo && !m_combo->IsBeingDeleted()) {
+        wxColourPickerEvent event(m_combo, m_combo->GetId(), colour, type);
+        m_combo->HandleWindowEvent(event);
+    }
+    return !life.expired();
 }
 
 void wxColourPopup::ChangeSelection(int index)
@@ -190,7 +207,11 @@ void wxColourPopup::DoSelChange()
     const Life life(m_life);
     if (m_pListener)
         m_pListener->OnColourSelChange(wxColour(m_crColour));
-    if (!life.expired() && m_bRefreshCombo && m_combo)
+    if (life.expired())
+        return;
+    if (m_valueWhenShown && !Send(wxEVT_COLOURPICKER_CURRENT_CHANGED, m_crColour))
+        return;
+    if (m_bRefreshCombo && m_combo)
         m_combo->Refresh();
 }
 
@@ -223,6 +244,7 @@ void wxColourPopup::DoShowColorDlg()
     if (ok)
         m_crInitialColour = dialog.GetColourData().GetColour();
     m_crColour = m_crInitialColour;
+    m_dialogCancelled = !ok;
 }
 
 void wxColourPopup::DoEndSel(bool ok)
@@ -233,14 +255,13 @@ void wxColourPopup::DoEndSel(bool ok)
         return;
     if (m_combo->IsPopupShown()) {
         std::optional<Raised> handsValueBack;
-        if (!ok)
+        if (m_valueWhenShown)
             handsValueBack.emplace(m_life, m_handsValueBack);
         if (!HideCombo())
             return;
     }
     // Where the listener has closed the popup, the combo has taken the hot cell's name for its value.
-    if (!ok)
-        RestoreValue();
+    RestoreValue();
     if (life.expired())
         return;
     m_valueWhenShown.reset();
@@ -249,7 +270,9 @@ void wxColourPopup::DoEndSel(bool ok)
 
 void wxColourPopup::TellOfTheEnd(bool ok)
 {
+    const Life life(m_life);
     const Raised ending(m_life, m_ending);
+    const bool cancelled = std::exchange(m_dialogCancelled, false) || !ok;
     if (ok) {
         m_crInitialColour = m_crColour;
         m_nChosenColourSel = m_nCurrentSel;
@@ -262,6 +285,8 @@ void wxColourPopup::TellOfTheEnd(bool ok)
         if (m_pListener)
             m_pListener->OnColourSelCancel(wxColour(m_crColour));
     }
+    if (!life.expired())
+        Send(cancelled ? wxEVT_COLOURPICKER_DIALOG_CANCELLED : wxEVT_COLOURPICKER_CHANGED, m_crInitialColour);
 }
 
 // Closes the popup without a report to the listener; false when the popup is gone afterwards.
@@ -278,10 +303,10 @@ bool wxColourPopup::HideCombo()
 // Enter would then choose the colour that was not chosen now.
 void wxColourPopup::RestoreValue()
 {
-    // A popup that is closed before it has been seen comes nevertheless, and its value may change yet.
-    if (!m_combo || !m_valueWhenShown || m_combo->GetValue() == *m_valueWhenShown)
+    const std::optional<wxString> kept = std::exchange(m_valueWhenShown, std::nullopt);
+    if (!m_combo || !kept || m_combo->GetValue() == *kept)
         return;
-    const wxString value = *std::exchange(m_valueWhenShown, std::nullopt);
+    const wxString& value = *kept;
     const Raised restoring(m_life, m_bInternalHide);
     m_combo->SetValueByUser(value);
 }
@@ -341,6 +366,60 @@ void wxColourPopup::OnKeyDown(wxKeyEvent& event)
     default:
         event.Skip();
     }
+}
+
+void wxColourPopup::OnComboKeyEvent(wxKeyEvent& event)
+{
+    const int key = event.GetKeyCode();
+    const bool isDown = key == WXK_DOWN || key == WXK_NUMPAD_DOWN;
+    const bool isUp = key == WXK_UP || key == WXK_NUMPAD_UP;
+    // The toolkit turns a wheel over any combo into these keys; one without the focus leaves it to the page.
+    if ((!isDown && !isUp) || event.HasAnyModifiers() || m_valueWhenShown || !m_combo->HasFocus()) {
+        event.Skip();
+        return;
+    }
+    // Not skipped with a text field, either: GTK would move the focus.
+    if (!m_combo->HasFlag(wxCB_READONLY))
+        return;
+    FindCellFromColour(m_crInitialColour);
+    ChooseClosed(CellBeside(isDown ? 1 : -1));
+}
+
+// The cell before or after the chosen one as a list would have them; none before the first and after the last.
+int wxColourPopup::CellBeside(int step) const
+{
+    const int automatic = GetIndex(CELL_AUTOMATIC, CELL_AUTOMATIC);
+    const int last = m_nNumColours - 1;
+    switch (m_nChosenColourSel) {
+    case CELL_AUTOMATIC:
+        return step > 0 ? 0 : CELL_NONE;
+    case CELL_MORE_COLOURS:
+        return step > 0 ? CELL_NONE : last;
+    case CELL_NONE:
+        return step > 0 ? FirstPresent({automatic, 0}) : last;
+    default:
+        break;
+    }
+    const int beside = m_nChosenColourSel + step;
+    if (beside < 0)
+        return automatic;
+    return beside <= last ? beside : CELL_NONE;
+}
+
+// Ends a selection that no popup was opened for.
+void wxColourPopup::ChooseClosed(int index)
+{
+    if (index == CELL_NONE)
+        return;
+    m_nCurrentSel = index;
+    m_crColour = GetColour(index);
+    m_combo->SetText(TextOf(index));
+    const Life life(m_life);
+    TellOfTheEnd(true);
+    if (life.expired())
+        return;
+    m_valueWhenShown.reset();
+    m_combo->Refresh();
 }
 
 // The cells follow one another in a circle: "Automatic", the grid row by row, "More Colours...".

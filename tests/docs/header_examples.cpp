@@ -8,11 +8,14 @@
 
 #include <gtest/gtest.h>
 
+#include <wx/clrpicker.h>
+#include <wx/modalhook.h>
 #include <wx/wx.h>
 #include <wx/xrc/xmlres.h>
 
 #include <fittings/colour/colour_combo.h>
 #include <fittings/colour/colour_popup.h>
+#include <fittings/colour/colour_validator.h>
 #include <fittings/config/store_config.h>
 #include <fittings/config/ui_config_mgr.h>
 #include <fittings/config/wx_window_state.h>
@@ -301,22 +304,16 @@ TEST(HeaderExamples, ReportAfterTheWorkerIsGone)
     EXPECT_TRUE(PumpUntil([&] { return seen == "ab"; })) << seen;
 }
 
-class LinePage : public wxPanel, private wxColorPopupListener
+class LinePage : public wxPanel
 {
 public:
     explicit LinePage(wxWindow* parent) : wxPanel(parent)
     {
-        auto* const combo = new wxColourCombo;
-        combo->Create(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxCB_READONLY);
-        auto* const popup = new wxColourPopup;
-        popup->SetInitialColour(m_line);
-        popup->SetColorListener(this);
-        combo->SetPopupControl(popup);
+        auto* const combo = new wxColourCombo(this, wxID_ANY, m_line);
+        combo->Bind(wxEVT_COLOURPICKER_CHANGED, [this](wxColourPickerEvent& event) { m_line = event.GetColour(); });
     }
 
 private:
-    void OnColourSelEnd(const wxColour& colour) override { m_line = colour; }
-
     wxColour m_line = *wxBLUE;
 };
 
@@ -325,12 +322,9 @@ class ColourPanel : public wxPanel, private wxColorPopupListener
 public:
     explicit ColourPanel(wxWindow* parent) : wxPanel(parent)
     {
-        auto* combo = new wxColourCombo;
-        combo->Create(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxCB_READONLY);
-        auto* popup = new wxColourPopup;
-        popup->SetInitialColour(m_lineColour);
-        popup->SetColorListener(this);
-        combo->SetPopupControl(popup);
+        auto* combo = new wxColourCombo(this, wxID_ANY, m_lineColour);
+        combo->GetPopup()->SetAutomaticText("No line");
+        combo->GetPopup()->SetColorListener(this);
     }
 
 private:
@@ -344,9 +338,37 @@ TEST(HeaderExamples, LetAColourBeChosen)
          {static_cast<wxWindow*>(new LinePage(frame)), static_cast<wxWindow*>(new ColourPanel(frame))}) {
         auto* const combo = dynamic_cast<wxColourCombo*>(page->GetChildren().GetFirst()->GetData());
         ASSERT_TRUE(combo);
-        EXPECT_EQ(dynamic_cast<wxColourPopup*>(combo->GetPopupControl())->GetInitialColour(), *wxBLUE);
+        EXPECT_EQ(combo->GetColour(), *wxBLUE);
     }
     frame->Destroy();
+}
+
+// Ends a dialog as OK would.
+class EndDialogs : public wxModalDialogHook
+{
+public:
+    EndDialogs() { Register(); }
+    int Enter(wxDialog* dialog) override
+    {
+        dialog->TransferDataToWindow();
+        dynamic_cast<wxColourCombo&>(*dialog->GetChildren().GetFirst()->GetData()).SetColour(*wxRED);
+        dialog->TransferDataFromWindow();
+        return wxID_OK;
+    }
+};
+
+TEST(HeaderExamples, MoveAColour)
+{
+    const EndDialogs ok;
+    std::vector<wxColour> drawn;
+    const auto Draw = [&](const wxColour& colour) { drawn.push_back(colour); };
+    wxColour line = *wxBLUE;
+    wxDialog dialog(nullptr, wxID_ANY, "Line");
+    new wxColourCombo(&dialog, wxID_ANY, *wxBLACK, wxDefaultPosition, wxDefaultSize, wxCB_READONLY,
+                      wxColourValidator(&line));
+    if (dialog.ShowModal() == wxID_OK)
+        Draw(line);
+    EXPECT_EQ(drawn, std::vector<wxColour>{*wxRED});
 }
 
 TEST(HeaderExamples, ListTheColours)
@@ -395,9 +417,11 @@ public:
     }
 };
 
-class ResourceFrame : public wxFrame, private wxColorPopupListener
+class ResourceFrame : public wxFrame
 {
 public:
+    void Draw(const wxColour& colour) { SetBackgroundColour(colour); }
+
     static void AddHandlers()
     {
         wxXmlResource::Get()->AddHandler(new wxColourComboXmlHandler);  // with InitAllHandlers(), before the first use
@@ -408,7 +432,7 @@ public:
     void FindControls()
     {
         auto* const line = XRCCTRL(*this, "line", wxColourCombo);
-        dynamic_cast<wxColourPopup*>(line->GetPopupControl())->SetColorListener(this);
+        line->Bind(wxEVT_COLOURPICKER_CHANGED, [this](wxColourPickerEvent& event) { Draw(event.GetColour()); });
         auto* const folders = XRCCTRL(*this, "folders", wxHandyTreeCtrl);
         wxTreeCursor root = folders->AddRoot("/");
         folders->LoadState(root);
