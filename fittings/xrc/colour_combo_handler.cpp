@@ -22,6 +22,16 @@ bool wxColourComboXmlHandler::CanHandle(wxXmlNode* node)
     return IsOfClass(node, "wxColourCombo");
 }
 
+namespace {
+
+// As wxColourPickerCtrl's handler reads it; the text of a field that is the name of a colour stays a text.
+bool IsColour(const wxString& value)
+{
+    return (value.StartsWith("#") || value.StartsWith("rgb")) && wxColour(value).IsOk();
+}
+
+}  // namespace
+
 wxObject* wxColourComboXmlHandler::DoCreateResource()
 {
     auto* combo = dynamic_cast<wxColourCombo*>(m_instance);
@@ -29,13 +39,17 @@ wxObject* wxColourComboXmlHandler::DoCreateResource()
         ReportError("the object to load is no wxColourCombo");
     if (!combo)
         combo = new wxColourCombo;
-    combo->Create(m_parentAsWindow, GetID(), GetText("value"), GetPosition(), GetSize(), GetStyle(), wxDefaultValidator,
-                  GetName());
+    const wxString value = GetText("value");
+    const wxColour colour = GetColour("colour", IsColour(value) ? wxColour(value) : wxNullColour);
+    combo->Create(m_parentAsWindow, GetID(), IsColour(value) ? wxString() : value, GetPosition(), GetSize(), GetStyle(),
+                  wxDefaultValidator, GetName());
     if (HasParam("buttonsize")) {
         const wxSize size = GetSize("buttonsize", combo);
         combo->SetButtonPosition(size.x, size.y);
     }
     combo->SetPopupControl(MakePopup());
+    if (colour.IsOk())
+        combo->SetColour(colour);
     SetupWindow(combo);
     return combo;
 }

@@ -13,7 +13,7 @@ class wxColourPopup;
 /// @code{.xml}
 /// <object class="wxColourCombo" name="line">
 ///   <style>wxCB_READONLY</style>
-///   <initial-colour>#0000FF</initial-colour>
+///   <colour>#0000FF</colour>
 ///   <automatic-text>No line</automatic-text>
 ///   <tooltip>The colour of new lines</tooltip>
 /// </object>
@@ -23,15 +23,16 @@ class wxColourPopup;
 /// wxXmlResource::Get()->AddHandler(new wxColourComboXmlHandler);  // with InitAllHandlers(), before the first use
 /// ...
 /// auto* const line = XRCCTRL(*this, "line", wxColourCombo);
-/// dynamic_cast<wxColourPopup*>(line->GetPopupControl())->SetColorListener(this);
+/// line->Bind(wxEVT_COLOURPICKER_CHANGED, [this](wxColourPickerEvent& event) { Draw(event.GetColour()); });
 /// @endcode
 ///
 /// | Property | Type | Meaning, and what is taken without it |
 /// | --- | --- | --- |
 /// | `style` | style | those of wxComboCtrl and of every window; none, which gives a text field |
-/// | `value` | text | of the text field; empty |
+/// | `colour` | colour | wxColourCombo::SetColour(); none |
+/// | `value` | text or colour | of the text field; "#FF0000" and "rgb(255, 0, 0)" are taken as `colour`, as with a wxColourPickerCtrl; empty |
 /// | `buttonsize` | size | of the drop-down button; what the toolkit takes |
-/// | `initial-colour` | colour | wxColourPopup::SetInitialColour(); black |
+/// | `initial-colour` | colour | wxColourPopup::SetInitialColour(), which leaves the text of the field as it is; black |
 /// | `default-colour` | colour | wxColourPopup::SetDefaultColour(); black |
 /// | `automatic-text` | text | wxColourPopup::SetAutomaticText(), an empty one takes the box away; "Automatic" |
 /// | `more-colours-text` | text | wxColourPopup::SetMoreColoursText(), likewise; "More Colours..." |

@@ -183,6 +183,24 @@ TEST(ColourComboXmlHandler, MakesAPlainControlInsteadOfASubclassThatIsNone)
         delete stray;
 }
 
+TEST(ColourComboXmlHandler, GivesTheColourWithItsNameAndItsMark)
+{
+    LoadedResource resource;
+    wxPanel* const panel = resource.MakePanel("colours");
+    const auto get = [panel](const char* name) { return dynamic_cast<wxColourCombo*>(panel->FindWindow(name)); };
+    EXPECT_EQ(get("by-name")->GetColour(), wxColour(50, 205, 50));
+    EXPECT_EQ(get("by-name")->GetValue(), "Lime");
+    EXPECT_EQ(get("by-number")->GetColour(), *wxRED);
+    EXPECT_EQ(get("by-number")->GetValue(), "No line");
+    EXPECT_EQ(get("as-value")->GetColour(), *wxBLUE);
+    EXPECT_EQ(get("as-value")->GetValue(), "Blue");
+    EXPECT_EQ(get("as-text")->GetColour(), *wxBLACK);
+    EXPECT_EQ(get("as-text")->GetValue(), "#12");
+    EXPECT_EQ(get("bad")->GetColour(), *wxBLACK);
+    ASSERT_EQ(resource.errors.size(), 1U);
+    EXPECT_THAT(resource.errors.front(), HasSubstr("\"bluish\""));
+}
+
 TEST(ColourComboXmlHandler, LoadsIntoAnObjectOfTheHost)
 {
     LoadedResource resource;
