@@ -4,12 +4,16 @@
 #include <string>
 
 #include <fittings/base/export.h>
+#include <fittings/platform/text_argument.h>
 
 /// Text and integers in named INI files below the folder "ui_config" of the user data directory.
 ///
 /// Every call opens the one file, reads or changes one value, saves what changed and closes it: nothing is cached and
 /// no lock is taken, so of two processes that write one file at the same moment the later one wins. The folder is
 /// made by the first call of any kind. Null texts count as empty. GUI thread only.
+///
+/// Each text may be of any kind, wxString, std::string, std::wstring, or a wide or narrow literal, and each of another:
+/// fittings::TextArgument.
 ///
 /// A file name is joined to the folder as it is, and not checked: "../x.ini" is a file outside of the folder, and a name
 /// with a folder in it needs that folder. Take names of the program's own, never one that a user can choose.
@@ -42,6 +46,46 @@ FITTINGS_API int GetConfigInt(const wchar_t* file, const wchar_t* section, const
 
 /// Stores @a value as decimal text.
 FITTINGS_API void WriteConfigInt(const wchar_t* file, const wchar_t* section, const wchar_t* key, int value);
+
+/// @name With texts of any kind
+/// @{
+
+/// As the function of wide text: file, section, key, value.
+template <typename... Texts, fittings::IfTexts<4, Texts...> = 0>
+void WriteConfigString(const Texts&... texts)
+{
+    WriteConfigString(fittings::TextArgument(texts)...);
+}
+
+/// As the function of wide text: file, section, key.
+template <typename... Texts, fittings::IfTexts<3, Texts...> = 0>
+std::wstring GetConfigString(const Texts&... texts)
+{
+    return GetConfigString(fittings::TextArgument(texts)...);
+}
+
+/// As the function of wide text: file, section, key.
+template <typename... Texts, fittings::IfTexts<3, Texts...> = 0>
+void DeleteConfig(const Texts&... texts)
+{
+    DeleteConfig(fittings::TextArgument(texts)...);
+}
+
+/// As the function of wide text: file, section, key.
+template <typename... Texts, fittings::IfTexts<3, Texts...> = 0>
+int GetConfigInt(const Texts&... texts)
+{
+    return GetConfigInt(fittings::TextArgument(texts)...);
+}
+
+/// As the function of wide text.
+template <typename File, typename Section, typename Key, fittings::IfTexts<3, File, Section, Key> = 0>
+void WriteConfigInt(const File& file, const Section& section, const Key& key, int value)
+{
+    WriteConfigInt(fittings::TextArgument(file), fittings::TextArgument(section), fittings::TextArgument(key), value);
+}
+
+/// @}
 
 }  // namespace ui_config_mgr
 

@@ -2,6 +2,7 @@
 #define FITTINGS_CONFIG_WX_WINDOW_STATE_H_
 
 #include <fittings/base/export.h>
+#include <fittings/platform/text_argument.h>
 
 class wxAuiManager;
 class wxFrame;
@@ -14,7 +15,8 @@ class wxWindow;
 /// default store, sections "wxWindowState" and "wxWindowMaximize"; layouts in the file "wxAuiManagerState.ini" of
 /// ui_config_mgr. GUI thread only.
 ///
-/// Windows and managers must not be null; a null name counts as an empty one. Failures to save are not reported.
+/// Windows and managers must not be null; a null name counts as an empty one. A name may be text of any kind, as
+/// fittings::TextArgument takes it. Failures to save are not reported.
 ///
 /// @code
 /// MainFrame::MainFrame() : wxFrame(nullptr, wxID_ANY, "Planets")
@@ -77,6 +79,39 @@ FITTINGS_API void SaveAuiManagerState(wxAuiManager* manager, const wchar_t* name
 /// A floating pane is shown at once, and before the frame is on the screen a window manager does not keep it above the
 /// frame. Where panes can float, load the layout when GTK reports the frame mapped ("map-event"), before it is drawn.
 FITTINGS_API bool LoadAuiManagerState(wxAuiManager* manager, const wchar_t* name);
+
+/// @name With names of any kind
+/// @{
+
+/// As the function of a wide name, for the window's own class.
+template <typename Window, typename Name, fittings::IfTexts<1, Name> = 0>
+void SaveState(Window* window, const Name& name)
+{
+    SaveState(window, fittings::TextArgument(name));
+}
+
+/// As the function of a wide name, for the window's own class.
+template <typename Window, typename Name, fittings::IfTexts<1, Name> = 0>
+bool LoadState(Window* window, const Name& name)
+{
+    return LoadState(window, fittings::TextArgument(name));
+}
+
+/// As the function of a wide name.
+template <typename Name, fittings::IfTexts<1, Name> = 0>
+void SaveAuiManagerState(wxAuiManager* manager, const Name& name)
+{
+    SaveAuiManagerState(manager, fittings::TextArgument(name));
+}
+
+/// As the function of a wide name.
+template <typename Name, fittings::IfTexts<1, Name> = 0>
+bool LoadAuiManagerState(wxAuiManager* manager, const Name& name)
+{
+    return LoadAuiManagerState(manager, fittings::TextArgument(name));
+}
+
+/// @}
 
 }  // namespace wx_window_state
 

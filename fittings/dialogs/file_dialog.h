@@ -5,6 +5,7 @@
 
 #include <fittings/base/export.h>
 #include <fittings/base/std_str.h>
+#include <fittings/platform/text_argument.h>
 
 class wxWindow;
 
@@ -16,7 +17,7 @@ class wxWindow;
 /// @code
 /// const std::string earlier = CQVFileDialogI::SetRegEntry("LastReport");
 /// const CStdStr<wchar_t> path =
-///     CQVFileDialogI::LaunchSaveDialog(this, L"csv", L"Tables (*.csv)|*.csv", L"Save the report", L"", L"");
+///     CQVFileDialogI::LaunchSaveDialog(this, "csv", "Tables (*.csv)|*.csv", "Save the report", "", "");
 /// CQVFileDialogI::SetRegEntry(earlier);
 /// if (!path.empty())
 ///     WriteReport(path);
@@ -24,6 +25,8 @@ class wxWindow;
 ///
 /// The full path of the file chosen is kept in UTF-8 in the default store: section "LastFiles", the registry entry as
 /// the key. It is read anew by each dialog, and written by none that was cancelled.
+///
+/// Each text may be of any kind: fittings::TextArgument.
 class FITTINGS_API CQVFileDialogI
 {
 public:
@@ -61,6 +64,39 @@ public:
     static CStdStr<wchar_t> LaunchSaveDialog(wxWindow* parent, const wchar_t* defaultExtension, const wchar_t* wildcard,
                                              const wchar_t* title, const wchar_t* initialFolder,
                                              const wchar_t* initialFileName);
+
+    /// @name With texts of any kind
+    /// @{
+
+    /// As the function of CStdStr.
+    template <typename Text, fittings::IfNot<CStdStr<wchar_t>, Text> = 0>
+    static void SetFileExtension(const Text& ext)
+    {
+        SetFileExtension(CStdStr<wchar_t>(fittings::TextArgument(ext)));
+    }
+
+    /// As the function of CStdStr.
+    template <typename Text, fittings::IfNot<CStdStr<wchar_t>, Text> = 0>
+    static void SetFileFilter(const Text& filter)
+    {
+        SetFileFilter(CStdStr<wchar_t>(fittings::TextArgument(filter)));
+    }
+
+    /// As the function of UTF-8.
+    template <typename Text, fittings::IfNot<std::string, Text> = 0>
+    static std::string SetRegEntry(const Text& entry)
+    {
+        return SetRegEntry(fittings::NarrowText(entry));
+    }
+
+    /// As the function of wide text: default extension, wildcard, title, initial folder, initial name.
+    template <typename... Texts, fittings::IfTexts<5, Texts...> = 0>
+    static CStdStr<wchar_t> LaunchSaveDialog(wxWindow* parent, const Texts&... texts)
+    {
+        return LaunchSaveDialog(parent, fittings::TextArgument(texts)...);
+    }
+
+    /// @}
 };
 
 #endif

@@ -4,19 +4,20 @@
 #include <wx/string.h>
 
 #include <fittings/base/export.h>
+#include <fittings/platform/text_argument.h>
 
 class wxWindow;
 
 /// Asks the user for a folder, in a modal dialog centred on its parent. GUI thread only.
 ///
 /// @code
-/// wxString folder = wxFolderDlg::DoModalReg(this, L"ImportFolder", L"Import from");
+/// wxString folder = wxFolderDlg::DoModalReg(this, "ImportFolder", "Import from");
 /// if (!folder.empty())
 ///     Import(folder);
 /// @endcode
 ///
 /// Folders are neither checked, made nor changed: a remembered folder that is gone is handed to the dialog as it is. Given
-/// no folder, or one that is gone, the dialog shows the home folder.
+/// no folder, or one that is gone, the dialog shows the home folder. Each text may be of any kind: fittings::TextArgument.
 class FITTINGS_API wxFolderDlg
 {
 public:
@@ -28,6 +29,20 @@ public:
     /// As DoModal(), starting in the folder chosen last under @a section and remembering the new choice: in the
     /// default store, key "Path" of that section. A cancelled dialog leaves it as it was.
     static wxString DoModalReg(wxWindow* parent, const wchar_t* section, const wchar_t* message);
+
+    /// As the function of wide text.
+    template <typename Folder, typename Message, fittings::IfTexts<2, Folder, Message> = 0>
+    static wxString DoModal(wxWindow* parent, const Folder& initialFolder, const Message& message)
+    {
+        return DoModal(parent, fittings::TextArgument(initialFolder), fittings::TextArgument(message));
+    }
+
+    /// As the function of wide text.
+    template <typename Section, typename Message, fittings::IfTexts<2, Section, Message> = 0>
+    static wxString DoModalReg(wxWindow* parent, const Section& section, const Message& message)
+    {
+        return DoModalReg(parent, fittings::TextArgument(section), fittings::TextArgument(message));
+    }
 };
 
 #endif

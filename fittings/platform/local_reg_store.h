@@ -7,6 +7,7 @@
 #include <vector>
 
 #include <fittings/base/export.h>
+#include <fittings/platform/text_argument.h>
 
 namespace fittings {
 
@@ -39,6 +40,9 @@ class CIniFile;
 /// Every text may hold any character, line breaks and lone surrogates included, and comes back exactly; null counts as
 /// empty. Sections, keys and values are told apart by their exact characters, upper and lower case included.
 ///
+/// Each text may be given as any kind, wxString, std::string, std::wstring, or a wide or narrow literal, and each as another:
+/// fittings::TextArgument.
+///
 /// The default store is the file settings.ini in std_file_paths::GetUserDataDir(), shared by all processes of one
 /// application. A write re-reads it, changes its own keys alone, and is on the disk when it returns true; a write by another
 /// process at the same time is kept too. A write waits two seconds at most for another process that is stuck, a read for
@@ -51,7 +55,7 @@ class CIniFile;
 /// The default store may be used from any thread, and until the process ends; a CIniFile from one thread at a time.
 ///
 /// @code
-/// CLocalRegStore::WriteString(L"Search", L"LastText", L"a needle");
+/// CLocalRegStore::WriteString(L"Search", L"LastText", field->GetValue());
 /// wxString text = CLocalRegStore::GetString(L"Search", L"LastText", L"");
 /// @endcode
 class FITTINGS_API CLocalRegStore
@@ -173,7 +177,7 @@ public:
     /// @name The default store, narrow text
     ///
     /// The same values as through the wide operations: narrow text is taken as UTF-8, and bytes that are not UTF-8
-    /// come back as they were written.
+    /// come back as they were written. A wxString of what these return is wxString::FromUTF8().
     /// @{
 
     /// Returns the stored value, or @a defaultValue when there is none.
@@ -181,6 +185,141 @@ public:
 
     /// Stores a value for good. Returns as the wide operation does.
     static bool WriteString(const char* section, const char* key, const char* value);
+
+    /// @}
+    /// @name With texts of any kind
+    /// @{
+
+    /// As the operation of wide text.
+    template <typename Path, fittings::IfTexts<1, Path> = 0>
+    static bool Load(CIniFile& ini, const Path& path)
+    {
+        return Load(ini, fittings::TextArgument(path));
+    }
+
+    /// As the operation of wide text: section, key, default value.
+    template <typename... Texts, fittings::IfTexts<3, Texts...> = 0>
+    static std::wstring GetString(const CIniFile& ini, const Texts&... texts)
+    {
+        return GetString(ini, fittings::TextArgument(texts)...);
+    }
+
+    /// As the operation of wide text: section, key, value.
+    template <typename... Texts, fittings::IfTexts<3, Texts...> = 0>
+    static void WriteString(CIniFile& ini, const Texts&... texts)
+    {
+        WriteString(ini, fittings::TextArgument(texts)...);
+    }
+
+    /// As the operation of wide text: section, key.
+    template <typename... Texts, fittings::IfTexts<2, Texts...> = 0>
+    static bool DeleteKey(CIniFile& ini, const Texts&... texts)
+    {
+        return DeleteKey(ini, fittings::TextArgument(texts)...);
+    }
+
+    /// As the operation of wide text.
+    template <typename Section, fittings::IfTexts<1, Section> = 0>
+    static std::vector<std::wstring> GetKeyNames(const CIniFile& ini, const Section& section)
+    {
+        return GetKeyNames(ini, fittings::TextArgument(section));
+    }
+
+    /// As the operation of wide text.
+    template <typename Section, fittings::IfTexts<1, Section> = 0>
+    static std::vector<Entry> GetEntries(const CIniFile& ini, const Section& section)
+    {
+        return GetEntries(ini, fittings::TextArgument(section));
+    }
+
+    /// As the operation of wide text.
+    template <typename Path, fittings::IfTexts<1, Path> = 0>
+    static bool Save(const CIniFile& ini, const Path& path)
+    {
+        return Save(ini, fittings::TextArgument(path));
+    }
+
+    /// As the operation of wide text.
+    template <typename Path, fittings::IfTexts<1, Path> = 0>
+    static bool Refresh(CIniFile& ini, const Path& path)
+    {
+        return Refresh(ini, fittings::TextArgument(path));
+    }
+
+    /// As the operation of wide text.
+    template <typename Path, fittings::IfTexts<1, Path> = 0>
+    static bool SaveChanges(const Path& path, const std::vector<Change>& changes)
+    {
+        return SaveChanges(fittings::TextArgument(path), changes);
+    }
+
+    /// As the operation of wide text. Given a narrow text, and none that is wide alone, as the operation of narrow text, which
+    /// returns a std::string.
+    template <typename Section, typename Key, typename Default, fittings::IfMixedTexts<Section, Key, Default> = 0>
+    static auto GetString(const Section& section, const Key& key, const Default& defaultValue)
+    {
+        if constexpr (fittings::kAreNarrowTexts<Section, Key, Default>)
+            return GetString(fittings::NarrowText(section).c_str(), fittings::NarrowText(key).c_str(),
+                             fittings::NarrowText(defaultValue).c_str());
+        else
+            return GetString(fittings::TextArgument(section), fittings::TextArgument(key),
+                             fittings::TextArgument(defaultValue));
+    }
+
+    /// As the operation of wide text, or of narrow text.
+    template <typename Section, typename Key, typename Value, fittings::IfMixedTexts<Section, Key, Value> = 0>
+    static bool WriteString(const Section& section, const Key& key, const Value& value)
+    {
+        if constexpr (fittings::kAreNarrowTexts<Section, Key, Value>)
+            return WriteString(fittings::NarrowText(section).c_str(), fittings::NarrowText(key).c_str(),
+                               fittings::NarrowText(value).c_str());
+        else
+            return WriteString(fittings::TextArgument(section), fittings::TextArgument(key),
+                               fittings::TextArgument(value));
+    }
+
+    /// As the operation of wide text.
+    template <typename Section, typename Key, fittings::IfTexts<2, Section, Key> = 0>
+    static bool GetProfileBool(const Section& section, const Key& key, bool defaultValue)
+    {
+        return GetProfileBool(fittings::TextArgument(section), fittings::TextArgument(key), defaultValue);
+    }
+
+    /// As the operation of wide text.
+    template <typename Section, typename Key, fittings::IfTexts<2, Section, Key> = 0>
+    static bool WriteProfileBool(const Section& section, const Key& key, bool value)
+    {
+        return WriteProfileBool(fittings::TextArgument(section), fittings::TextArgument(key), value);
+    }
+
+    /// As the operation of wide text.
+    template <typename Section, typename Key, fittings::IfTexts<2, Section, Key> = 0>
+    static int GetProfileInt(const Section& section, const Key& key, int defaultValue)
+    {
+        return GetProfileInt(fittings::TextArgument(section), fittings::TextArgument(key), defaultValue);
+    }
+
+    /// As the operation of wide text.
+    template <typename Section, typename Key, fittings::IfTexts<2, Section, Key> = 0>
+    static bool WriteProfileInt(const Section& section, const Key& key, int value)
+    {
+        return WriteProfileInt(fittings::TextArgument(section), fittings::TextArgument(key), value);
+    }
+
+    /// As the operation of wide text: section, key.
+    template <typename... Texts, fittings::IfTexts<2, Texts...> = 0>
+    static bool DeleteProfile(const Texts&... texts)
+    {
+        return DeleteProfile(fittings::TextArgument(texts)...);
+    }
+
+    /// As the operation of wide text.
+    template <typename Section, fittings::IfTexts<1, Section> = 0>
+    static std::vector<std::wstring> GetKeyNames(const Section& section)
+    {
+        return GetKeyNames(fittings::TextArgument(section));
+    }
+
     /// @}
 };
 

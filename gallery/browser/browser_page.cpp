@@ -237,7 +237,7 @@ void BrowserPage::SaveReport()
     const wxString name = DisplayText(m_folder.substr(m_folder.rfind('/') + 1));
     const CStdStr<wchar_t> chosen =
         CQVFileDialogI::LaunchSaveDialog(this, L"csv", L"Tables (*.csv)|*.csv|All files|*", L"Save report", L"",
-                                         (name.empty() ? wxString("report.csv") : name + ".csv").wc_str());
+                                         (name.empty() ? wxString("report.csv") : name + ".csv"));
     CQVFileDialogI::SetRegEntry(earlier);
     if (chosen.empty())
         return;

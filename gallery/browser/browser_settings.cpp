@@ -55,7 +55,7 @@ wxString LoadPage()
 
 void SavePage(const wxString& name)
 {
-    ui_config_mgr::WriteConfigString(kFile, L"Window", L"Page", name.wc_str());
+    ui_config_mgr::WriteConfigString(kFile, L"Window", L"Page", name);
 }
 
 std::vector<std::string> LoadRootFolders()
@@ -108,7 +108,7 @@ void SaveFolderColour(const std::string& path, const wxColour& colour)
 {
     const std::wstring key = TextFromPath(path);
     if (colour.IsOk())
-        CLocalRegStore::WriteString(kColourSection, key.c_str(), colour.GetAsString(wxC2S_HTML_SYNTAX).wc_str());
+        CLocalRegStore::WriteString(kColourSection, key.c_str(), colour.GetAsString(wxC2S_HTML_SYNTAX));
     else
         CLocalRegStore::DeleteProfile(kColourSection, key.c_str());
 }
@@ -140,7 +140,7 @@ wxString LoadMinimumSize()
 
 void SaveMinimumSize(const wxString& megabytes)
 {
-    ui_config_mgr::WriteConfigString(kFile, L"Contents", L"AtLeastMB", megabytes.wc_str());
+    ui_config_mgr::WriteConfigString(kFile, L"Contents", L"AtLeastMB", megabytes);
 }
 
 std::vector<int> LoadEarlierColumnWidths(std::size_t count)

@@ -6,12 +6,12 @@ namespace gallery {
 
 wxString PageSettings::Load(const wxString& name) const
 {
-    return ui_config_mgr::GetConfigString(m_file, m_section, name.wc_str());
+    return ui_config_mgr::GetConfigString(m_file, m_section, name);
 }
 
 void PageSettings::Save(const wxString& name, const wxString& text) const
 {
-    ui_config_mgr::WriteConfigString(m_file, m_section, name.wc_str(), text.wc_str());
+    ui_config_mgr::WriteConfigString(m_file, m_section, name, text);
 }
 
 bool PageSettings::LoadFlag(const wxString& name, bool otherwise) const

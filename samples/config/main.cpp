@@ -28,7 +28,7 @@ public:
         wx_window_state::LoadAuiManagerState(&m_panes, L"Notes");
         wx_window_state::LoadState(this, L"Notes");
         Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent& event) {
-            ui_config_mgr::WriteConfigString(L"notes.ini", L"Notes", L"Text", m_text->GetValue().wc_str());
+            ui_config_mgr::WriteConfigString(L"notes.ini", L"Notes", L"Text", m_text->GetValue());
             ui_config_mgr::WriteConfigInt(L"notes.ini", L"Notes", L"Copies", m_copies->GetValue());
             wx_window_state::SaveAuiManagerState(&m_panes, L"Notes");
             wx_window_state::SaveState(this, L"Notes");

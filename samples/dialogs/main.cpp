@@ -27,7 +27,7 @@ public:
 private:
     void Open()
     {
-        const wxString folder = wxFolderDlg::DoModalReg(this, L"ListedFolder", L"List the files of");
+        const wxString folder = wxFolderDlg::DoModalReg(this, "ListedFolder", "List the files of");
         if (folder.empty())
             return;  // cancelled
         wxArrayString files;
@@ -40,8 +40,8 @@ private:
     void Save()
     {
         const std::string earlier = CQVFileDialogI::SetRegEntry("SavedList");
-        const CStdStr<wchar_t> path = CQVFileDialogI::LaunchSaveDialog(this, L"txt", L"Texts (*.txt)|*.txt|All files|*",
-                                                                       L"Save the list", L"", L"");
+        const wxString path =
+            CQVFileDialogI::LaunchSaveDialog(this, "txt", "Texts (*.txt)|*.txt|All files|*", "Save the list", "", "");
         CQVFileDialogI::SetRegEntry(earlier);
         if (!path.empty() && wxFile(path, wxFile::write).Write(m_list->GetValue()))
             SetTitle("Saved in " + path);

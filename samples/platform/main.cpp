@@ -23,7 +23,7 @@ public:
         field->SetFocus();
 
         field->Bind(wxEVT_SEARCH, [this, field, whole](wxCommandEvent&) {
-            const bool saved = CLocalRegStore::WriteString(L"Search", L"LastText", field->GetValue().wc_str()) &&
+            const bool saved = CLocalRegStore::WriteString(L"Search", L"LastText", field->GetValue()) &&
                                CLocalRegStore::WriteProfileBool(L"Search", L"WholeWords", whole->GetValue());
             SetTitle(saved ? "Searching for " + field->GetValue()
                            : "Cannot be stored in " + wxString(std_file_paths::GetUserDataDir()));

@@ -20,7 +20,7 @@ std::wstring Stored(const wchar_t* name)
 
 void Plant(const wxString& layout)
 {
-    ui_config_mgr::WriteConfigString(L"wxAuiManagerState.ini", L"wxAuiManagerState", L"Main", layout.wc_str());
+    ui_config_mgr::WriteConfigString(L"wxAuiManagerState.ini", L"wxAuiManagerState", L"Main", layout);
 }
 
 TEST(SaveAuiManagerState, StoresThePerspectiveInAFileOfItsOwn)

@@ -4,7 +4,6 @@
 
 #include <stdexcept>
 #include <string>
-#include <type_traits>
 
 #include <gtest/gtest.h>
 
@@ -12,12 +11,13 @@
 
 namespace {
 
+// Of the functions of one name, those with these arguments.
 using Text = const wchar_t*;
-static_assert(std::is_same_v<decltype(ui_config_mgr::WriteConfigString), void(Text, Text, Text, Text)>);
-static_assert(std::is_same_v<decltype(ui_config_mgr::GetConfigString), std::wstring(Text, Text, Text)>);
-static_assert(std::is_same_v<decltype(ui_config_mgr::DeleteConfig), void(Text, Text, Text)>);
-static_assert(std::is_same_v<decltype(ui_config_mgr::GetConfigInt), int(Text, Text, Text)>);
-static_assert(std::is_same_v<decltype(ui_config_mgr::WriteConfigInt), void(Text, Text, Text, int)>);
+[[maybe_unused]] constexpr void (*kWriteText)(Text, Text, Text, Text) = ui_config_mgr::WriteConfigString;
+[[maybe_unused]] constexpr std::wstring (*kGetText)(Text, Text, Text) = ui_config_mgr::GetConfigString;
+[[maybe_unused]] constexpr void (*kDelete)(Text, Text, Text) = ui_config_mgr::DeleteConfig;
+[[maybe_unused]] constexpr int (*kGetInteger)(Text, Text, Text) = ui_config_mgr::GetConfigInt;
+[[maybe_unused]] constexpr void (*kWriteInteger)(Text, Text, Text, int) = ui_config_mgr::WriteConfigInt;
 
 class ConfigCalls : public testing::Test
 {

@@ -42,6 +42,18 @@ TEST_F(WindowCalls, OfSaveStateOfAFrame)
     EXPECT_EQ(g_platform.batches, 0);
 }
 
+TEST_F(WindowCalls, WithANameOfAnotherKind)
+{
+    g_platform.stored = L"200;150;400;300";
+    wx_window_state::SaveState(static_cast<wxWindow*>(&frame), std::wstring(L"Main"));
+    EXPECT_TRUE(wx_window_state::LoadState(static_cast<wxWindow*>(&frame), wxString("Main")));
+    wx_window_state::LoadState(&frame, std::wstring(L"Main"));
+    EXPECT_EQ(g_platform.calls, (Calls{L"write to default store [wxWindowState] [Main] [100;50;800;600]",
+                                       L"get from default store [wxWindowState] [Main] []",
+                                       L"get from default store [wxWindowState] [Main] []",
+                                       L"get flag [wxWindowMaximize] [Main] [false]"}));
+}
+
 TEST_F(WindowCalls, OfLoadStateOfAWindow)
 {
     g_platform.stored = L"200;150;400;300";

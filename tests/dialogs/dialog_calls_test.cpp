@@ -73,6 +73,17 @@ TEST_F(SaveDialogCalls, OfADialogWithAFolderOfTheCallers)
     EXPECT_EQ(g_platform.calls, Calls{L"show"});
 }
 
+TEST_F(SaveDialogCalls, OfADialogWithTextsOfOtherKinds)
+{
+    const FileAnswer answer(wxID_CANCEL, "");
+    CQVFileDialogI::LaunchSaveDialog(nullptr, wxString("csv"), std::wstring(L"Tables|*.csv"), L"Save",
+                                     std::wstring(L"/c/"), wxString("two"));
+    EXPECT_EQ(answer.Asked().title, "Save");
+    EXPECT_EQ(answer.Asked().wildcard, "Tables|*.csv");
+    EXPECT_EQ(answer.Asked().folder, "/c");
+    EXPECT_EQ(answer.Asked().file, "two");
+}
+
 TEST_F(SaveDialogCalls, OfADialogWithoutAnEntry)
 {
     CQVFileDialogI::SetRegEntry("");
@@ -143,6 +154,13 @@ TEST_F(FolderDialogCalls, OfADialogThatIsAccepted)
     EXPECT_EQ(wxFolderDlg::DoModalReg(nullptr, L"Import", L"Choose"), "/chosen/");
     EXPECT_EQ(g_platform.calls, (Calls{L"get from default store [Import] [Path] []", L"show [stored] [Choose]",
                                        L"write to default store [Import] [Path] [/chosen/]"}));
+}
+
+TEST_F(FolderDialogCalls, OfADialogWithTextsOfOtherKinds)
+{
+    g_chosenFolder = "";
+    wxFolderDlg::DoModalReg(nullptr, wxString("Import"), std::wstring(L"Choose"));
+    EXPECT_EQ(g_platform.calls, (Calls{L"get from default store [Import] [Path] []", L"show [stored] [Choose]"}));
 }
 
 TEST_F(FolderDialogCalls, OfADialogThatIsCancelled)

@@ -99,7 +99,7 @@ void TakeOver(wxFrame* frame)
 void SaveSearch(const wxString& text, int pageSize)
 {
     // Shared by all windows and processes of the program, and saved when the call returns.
-    CLocalRegStore::WriteString(L"Search", L"LastText", text.wc_str());
+    CLocalRegStore::WriteString(L"Search", L"LastText", text);
     // In a file of its own, ui_config/search.ini.
     ui_config_mgr::WriteConfigInt(L"search.ini", L"Search", L"PageSize", pageSize);
 }
@@ -113,7 +113,7 @@ void TakeOver(wxConfigBase& earlier)
         wxString key;
         long keys = 0;
         for (bool next = earlier.GetFirstEntry(key, keys); next; next = earlier.GetNextEntry(key, keys))
-            CLocalRegStore::WriteString(group.wc_str(), key.wc_str(), earlier.Read(key).wc_str());
+            CLocalRegStore::WriteString(group, key, earlier.Read(key));
     }
 }
 
@@ -192,14 +192,14 @@ bool WriteNumber(const wchar_t* section, const wchar_t* key, double value)
 {
     char text[32];
     const std::to_chars_result end = std::to_chars(text, text + sizeof text, value);  // the same in every locale
-    return CLocalRegStore::WriteString(section, key, wxString::FromAscii(text, end.ptr - text).wc_str());
+    return CLocalRegStore::WriteString(section, key, wxString::FromAscii(text, end.ptr - text));
 }
 
 void SaveSettings(wxFrame* frame, const wxString& folder, bool whole, int pageSize, double zoom)
 {
     CLocalRegStore::Batch batch;  // all of it is saved at once
     wx_window_state::SaveState(frame, L"Main");
-    CLocalRegStore::WriteString(L"Search", L"Folder", folder.wc_str());
+    CLocalRegStore::WriteString(L"Search", L"Folder", folder);
     CLocalRegStore::WriteProfileBool(L"Search", L"WholeWords", whole);
     CLocalRegStore::WriteProfileInt(L"Search", L"PageSize", pageSize);
     WriteNumber(L"View", L"Zoom", zoom);
@@ -211,7 +211,7 @@ void TakeOverGroup(wxConfigBase& earlier)
     wxString name;
     long place = 0;
     for (bool more = earlier.GetFirstEntry(name, place); more; more = earlier.GetNextEntry(name, place))
-        CLocalRegStore::WriteString(path.wc_str(), name.wc_str(), earlier.Read(name).wc_str());
+        CLocalRegStore::WriteString(path, name, earlier.Read(name));
     for (bool more = earlier.GetFirstGroup(name, place); more; more = earlier.GetNextGroup(name, place)) {
         const wxConfigPathChanger inGroup(&earlier, name + "/");
         TakeOverGroup(earlier);

@@ -135,7 +135,9 @@ TEST(HeaderExamples, KeepAnInteger)
 TEST(HeaderExamples, KeepAText)
 {
     const TempUserData data;
-    CLocalRegStore::WriteString(L"Search", L"LastText", L"a needle");
+    wxFrame frame(nullptr, wxID_ANY, "examples");
+    auto* field = new wxTextCtrl(&frame, wxID_ANY, "a needle");
+    CLocalRegStore::WriteString(L"Search", L"LastText", field->GetValue());
     wxString text = CLocalRegStore::GetString(L"Search", L"LastText", L"");
     EXPECT_EQ(text, "a needle");
 }
@@ -386,7 +388,7 @@ class DialogsFrame : public wxFrame
 public:
     void ImportWith(void (*Import)(const wxString& folder))
     {
-        wxString folder = wxFolderDlg::DoModalReg(this, L"ImportFolder", L"Import from");
+        wxString folder = wxFolderDlg::DoModalReg(this, "ImportFolder", "Import from");
         if (!folder.empty())
             Import(folder);
     }
@@ -395,7 +397,7 @@ public:
     {
         const std::string earlier = CQVFileDialogI::SetRegEntry("LastReport");
         const CStdStr<wchar_t> path =
-            CQVFileDialogI::LaunchSaveDialog(this, L"csv", L"Tables (*.csv)|*.csv", L"Save the report", L"", L"");
+            CQVFileDialogI::LaunchSaveDialog(this, "csv", "Tables (*.csv)|*.csv", "Save the report", "", "");
         CQVFileDialogI::SetRegEntry(earlier);
         if (!path.empty())
             WriteReport(path);

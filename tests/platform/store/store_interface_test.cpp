@@ -15,14 +15,14 @@ using Wide = const wchar_t*;
 using Narrow = const char*;
 
 static_assert(std::is_same_v<decltype(CLocalRegStore::CreateInitFile), CIniFile*(bool)>);
-static_assert(std::is_same_v<decltype(CLocalRegStore::Load), bool(CIniFile&, Wide)>);
-static_assert(std::is_same_v<decltype(CLocalRegStore::Save), bool(const CIniFile&, Wide)>);
 static_assert(std::is_same_v<decltype(CLocalRegStore::DestroyIniFile), void(CIniFile*)>);
-static_assert(std::is_same_v<decltype(CLocalRegStore::GetProfileBool), bool(Wide, Wide, bool)>);
-static_assert(std::is_same_v<decltype(CLocalRegStore::WriteProfileBool), bool(Wide, Wide, bool)>);
-static_assert(std::is_same_v<decltype(CLocalRegStore::DeleteProfile), bool(Wide, Wide)>);
 
 // Of the operations of one name, those with these arguments.
+[[maybe_unused]] constexpr bool (*kLoad)(CIniFile&, Wide) = CLocalRegStore::Load;
+[[maybe_unused]] constexpr bool (*kSave)(const CIniFile&, Wide) = CLocalRegStore::Save;
+[[maybe_unused]] constexpr bool (*kGetBool)(Wide, Wide, bool) = CLocalRegStore::GetProfileBool;
+[[maybe_unused]] constexpr bool (*kWriteBool)(Wide, Wide, bool) = CLocalRegStore::WriteProfileBool;
+[[maybe_unused]] constexpr bool (*kDelete)(Wide, Wide) = CLocalRegStore::DeleteProfile;
 [[maybe_unused]] constexpr std::wstring (*kGetFromFile)(const CIniFile&, Wide, Wide, Wide) = CLocalRegStore::GetString;
 [[maybe_unused]] constexpr void (*kWriteToFile)(CIniFile&, Wide, Wide, Wide) = CLocalRegStore::WriteString;
 [[maybe_unused]] constexpr std::wstring (*kGet)(Wide, Wide, Wide) = CLocalRegStore::GetString;
