@@ -6,6 +6,7 @@
 #include <wx/utils.h>
 
 #include <fittings/numedit/number_edit_utils.h>
+#include <fittings/numedit/refused_key.h>
 
 namespace {
 
@@ -25,6 +26,14 @@ std::wstring TextWith(wchar_t character, const wxTextCtrl& control)
     text.erase(position, control.GetStringSelection().length());
     text.insert(position, 1, character);
     return text;
+}
+
+// Says in a debug build what a program is to mend: on another control the number is lost without a word.
+bool HasTextControl(const wxNumValidator& validator)
+{
+    const bool hasTextControl = validator.CheckValidator();
+    wxASSERT_MSG(hasTextControl || !validator.GetWindow(), "wxNumValidator is for a wxTextCtrl, and no other control");
+    return hasTextControl;
 }
 
 }  // namespace
@@ -66,7 +75,7 @@ bool wxNumValidator::CheckValidator() const
 
 bool wxNumValidator::Validate(wxWindow*)
 {
-    if (!CheckValidator())
+    if (!HasTextControl(*this))
         return false;
     auto* control = static_cast<wxTextCtrl*>(GetWindow());
     if (!control->IsEnabled())
@@ -81,7 +90,7 @@ bool wxNumValidator::TransferToWindow()
 {
     if (!m_pString)
         return true;
-    if (!CheckValidator())
+    if (!HasTextControl(*this))
         return false;
     static_cast<wxTextCtrl*>(GetWindow())->SetValue(*m_pString);
     return true;
@@ -91,7 +100,7 @@ bool wxNumValidator::TransferFromWindow()
 {
     if (!m_pString)
         return true;
-    if (!CheckValidator())
+    if (!HasTextControl(*this))
         return false;
     const wxString value = static_cast<wxTextCtrl*>(GetWindow())->GetValue();
     if (!CNumberEditUtils::ValidateString(value.wc_str(), m_format))
@@ -113,6 +122,7 @@ void wxNumValidator::OnChar(wxKeyEvent& event)
         character = event.GetUnicodeKey();
 
     if (!CNumberEditUtils::ValidateInput(TextWith(character, *control).c_str(), m_format)) {
+        fittings::UndoKey(*control);
         if (!IsSilent())
             wxBell();
         return;
@@ -127,5 +137,7 @@ void wxNumValidator::OnChar(wxKeyEvent& event)
 void wxNumValidator::OnKeyDown(wxKeyEvent& event)
 {
     m_bNumpadDecimal = event.GetKeyCode() == WXK_NUMPAD_DECIMAL;
+    if (CheckValidator())
+        fittings::BeginKey(*static_cast<wxTextCtrl*>(GetWindow()));
     event.Skip();
 }

@@ -161,6 +161,7 @@ TEST_F(Transfer, FailsWithoutATextControl)
 {
     wxWindow* const others[] = {nullptr, panel, new wxChoice(panel, wxID_ANY), new wxComboBox(panel, wxID_ANY, "12")};
     for (wxWindow* other : others) {
+        const ExpectAssertions assertions;
         validator.SetWindow(other);
         EXPECT_FALSE(validator.TransferToWindow());
         EXPECT_FALSE(validator.TransferFromWindow());
@@ -175,6 +176,7 @@ TEST_F(Transfer, FailsWithoutATextControl)
             EXPECT_FALSE(validator.Validate(panel)) << "disabled";
             other->Enable();
         }
+        EXPECT_EQ(assertions.Count(), other ? 5 : 0) << "of each that fails on a window";
     }
     EXPECT_EQ(static_cast<wxComboBox*>(others[3])->GetValue(), "12");
 }

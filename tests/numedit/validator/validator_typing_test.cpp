@@ -222,7 +222,7 @@ TEST_F(Typing, JudgesTheTextWithoutTheSelection)
     screen.Restart("123.45", 0);
     screen.number->SetSelection(3, 4);
     screen.Type("6");
-    EXPECT_EQ(screen.Text(), L"12345") << "without the point it would have six digits";
+    EXPECT_EQ(screen.Text(), L"123.45") << "without the point it would have six digits";
     EXPECT_EQ(screen.BellsRung(), 1);
 }
 
@@ -236,18 +236,6 @@ TEST_F(Typing, OverTheWholeTextIsJudgedAlone)
         EXPECT_EQ(screen.Text(), L"7");
         EXPECT_EQ(screen.BellsRung(), 0);
     }
-}
-
-// The control has deleted the selection by the time it reports the character.
-TEST_F(Typing, OverASelectionDeletesItEvenWhenRefused)
-{
-    screen.Restart("12345", 0);
-    screen.number->SetSelection(1, 3);
-    screen.Type("x");
-    EXPECT_EQ(screen.Text(), L"145");
-    EXPECT_EQ(screen.number->GetInsertionPoint(), 1);
-    EXPECT_EQ(screen.BellsRung(), 1);
-    EXPECT_EQ(screen.textEvents, 1) << "the deletion";
 }
 
 TEST_F(Typing, IsRefusedInSilenceWhenValidatorsAreSilent)

@@ -1,0 +1,143 @@
+#include <fittings/numedit/refused_key.h>
+
+#include <memory>
+#include <string>
+#include <utility>
+
+#include <gtk/gtk.h>
+
+#include <wx/event.h>
+#include <wx/textctrl.h>
+
+namespace {
+
+// In characters, as GTK counts them.
+struct Range
+{
+    int begin;
+    int end;
+};
+
+struct Deletion
+{
+    Range range;
+    int anchor;
+    int caret;
+    std::string text;  // in UTF-8
+};
+
+/// What a control has lost during the present key. Belongs to its GtkEntry.
+struct Key
+{
+    wxTextCtrl& control;
+    std::unique_ptr<Deletion> deletion;
+    std::unique_ptr<wxEventBlocker> quiet;  // from the restoring to the end of the key
+    bool wasModified = false;
+    gulong selecting = 0;
+};
+
+const char kKeyData[] = "fittings-key";
+
+GtkEntry* EntryOf(const wxTextCtrl& control)
+{
+    return GTK_IS_ENTRY(control.GetHandle()) ? GTK_ENTRY(control.GetHandle()) : nullptr;
+}
+
+int AnchorOf(GtkEditable* editable)
+{
+    int begin = 0;
+    int end = 0;
+    const int caret = gtk_editable_get_position(editable);
+    if (!gtk_editable_get_selection_bounds(editable, &begin, &end))
+        return caret;
+    return caret == begin ? end : begin;
+}
+
+void OnDelete(GtkEditable* editable, int begin, int end, Key* key)
+{
+    char* const text = gtk_editable_get_chars(editable, begin, end);
+    const auto length = static_cast<int>(g_utf8_strlen(text, -1));
+    key->deletion = std::make_unique<Deletion>(
+        Deletion{{begin, begin + length}, AnchorOf(editable), gtk_editable_get_position(editable), text});
+    g_free(text);
+}
+
+void OnInserted(GtkEditable*, const char*, int, int*, Key* key)
+{
+    key->deletion.reset();
+}
+
+// GTK sets the caret behind what it takes for inserted, and that ends the selection.
+void OnSelectionEnded(GtkEditable* editable, GParamSpec*, Key* key)
+{
+    g_signal_handler_disconnect(editable, std::exchange(key->selecting, 0));
+    if (key->deletion)
+        gtk_editable_select_region(editable, key->deletion->anchor, key->deletion->caret);
+}
+
+// The toolkit has sent its event by now, or would have.
+void OnKeyEnd(GtkWidget* entry, GdkEvent*, Key* key)
+{
+    if (!key->quiet)
+        return;
+    key->quiet.reset();
+    key->deletion.reset();
+    if (key->selecting)
+        g_signal_handler_disconnect(entry, std::exchange(key->selecting, 0));
+    if (!key->wasModified)
+        key->control.DiscardEdits();
+}
+
+Key& WatchedKey(wxTextCtrl& control, GtkEntry* entry)
+{
+    if (auto* key = static_cast<Key*>(g_object_get_data(G_OBJECT(entry), kKeyData)))
+        return *key;
+    auto* key = new Key{control, nullptr, nullptr};
+    g_object_set_data_full(G_OBJECT(entry), kKeyData, key, [](gpointer data) { delete static_cast<Key*>(data); });
+    g_signal_connect(entry, "delete-text", G_CALLBACK(OnDelete), key);
+    g_signal_connect_after(entry, "insert-text", G_CALLBACK(OnInserted), key);
+    g_signal_connect_after(entry, "event-after", G_CALLBACK(OnKeyEnd), key);
+    return *key;
+}
+
+bool IsInKeyPress()
+{
+    GdkEvent* const event = gtk_get_current_event();
+    const bool isPress = event && gdk_event_get_event_type(event) == GDK_KEY_PRESS;
+    if (event)
+        gdk_event_free(event);
+    return isPress;
+}
+
+}  // namespace
+
+void fittings::BeginKey(wxTextCtrl& control)
+{
+    if (GtkEntry* const entry = EntryOf(control))
+        WatchedKey(control, entry).deletion.reset();
+}
+
+void fittings::UndoKey(wxTextCtrl& control)
+{
+    GtkEntry* const entry = EntryOf(control);
+    auto* const key = entry ? static_cast<Key*>(g_object_get_data(G_OBJECT(entry), kKeyData)) : nullptr;
+    if (!key || !key->deletion || key->quiet || !IsInKeyPress())
+        return;
+
+    key->quiet = std::make_unique<wxEventBlocker>(&control, wxEVT_TEXT);
+    key->wasModified = control.IsModified();
+    const std::unique_ptr<Deletion> lost = std::move(key->deletion);
+
+    // The toolkit would take it for typed, and report it as characters.
+    const guint inserting = g_signal_lookup("insert-text", GTK_TYPE_EDITABLE);
+    const auto toolkit = static_cast<GSignalMatchType>(G_SIGNAL_MATCH_ID | G_SIGNAL_MATCH_DATA);
+    auto* const receiver = static_cast<wxTextEntry*>(&control);
+    g_signal_handlers_block_matched(entry, toolkit, inserting, 0, nullptr, nullptr, receiver);
+    int position = lost->range.begin;
+    gtk_editable_insert_text(GTK_EDITABLE(entry), lost->text.data(), static_cast<int>(lost->text.size()), &position);
+    g_signal_handlers_unblock_matched(entry, toolkit, inserting, 0, nullptr, nullptr, receiver);
+
+    gtk_editable_select_region(GTK_EDITABLE(entry), lost->anchor, lost->caret);
+    key->deletion = std::make_unique<Deletion>(*lost);
+    key->selecting = g_signal_connect(entry, "notify::selection-bound", G_CALLBACK(OnSelectionEnded), key);
+}
