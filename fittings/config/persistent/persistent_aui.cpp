@@ -4,8 +4,8 @@
 
 #include <fittings/config/aui_layout.h>
 
-// A manager is no window, and nothing tells when UnInit() ends its work, so the layout is noted whenever it is drawn, and when
-// the window is about to close. The last one that was noted is stored when the manager or its window goes.
+// A manager is no window, and nothing tells when UnInit() ends its work, so the layout is noted whenever it is drawn,
+// and when the window is about to close. The last one that was noted is stored when the manager or its window goes.
 
 class wxPersistentAui::Watch
 {
@@ -14,7 +14,7 @@ public:
 
     static std::shared_ptr<Watch> Start(wxAuiManager* manager, wxPersistentAui* owner)
     {
-        const auto watch = std::make_shared<Watch>(manager, owner);
+        auto watch = std::make_shared<Watch>(manager, owner);
         const auto note = [watch](wxEvent& event) {
             event.Skip();
             watch->Note();

@@ -87,7 +87,7 @@ std::wstring Home()
     std::string home = g_get_home_dir();
     if (!g_path_is_absolute(home.c_str()))
         home = RegisteredHome();
-    return g_path_is_absolute(home.c_str()) ? file_util_ex::ConvertFromUTF8W(home.c_str()) : L"/";
+    return g_path_is_absolute(home.c_str()) ? file_util_ex::ConvertFromUTF8W(home) : L"/";
 }
 
 std::wstring BaseDataDir()

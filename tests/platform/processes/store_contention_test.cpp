@@ -1,5 +1,5 @@
-// Many processes that store settings at once, on slow disks, under locks that are stuck, missing or useless. What answers
-// true is kept. FITTINGS_TEST_SOAK=N repeats each attack N times as often.
+// Many processes that store settings at once, on slow disks, with locks that are stuck, missing or useless. A write
+// that returns true is kept. FITTINGS_TEST_SOAK=N repeats each attack N times as often.
 
 #include <fittings/platform/local_reg_store.h>
 
@@ -51,7 +51,7 @@ void SlowDisk(milliseconds perSync)
     g_watchedCalls.beforeSync = [perSync] { std::this_thread::sleep_for(perSync); };
 }
 
-// What one process of several stores: a counter that it counts up, and a key of its own each time.
+// One process of several: stores a counter that goes up, and a new key each time.
 void StoreCounterAndKeys(int process, int updates)
 {
     for (int update = 0; update < updates; ++update) {
@@ -124,7 +124,7 @@ TEST(TwelveProcesses, LoseNothingInAStoreOfAHundredThousandKeys)
     EXPECT_EQ(ReadFile(data / "settings.ini").substr(0, text.size()), text);
 }
 
-// Stops itself while it has the lock, as a debugger or a suspended container does it.
+// Stops itself while it has the lock, as under a debugger or in a suspended container.
 pid_t StartHolderThatStops(const wchar_t* key)
 {
     const pid_t child = StartChild([key] {
@@ -241,7 +241,7 @@ TEST(AStoppedWaiter, DelaysNobodyForLong)
 class LockRemover
 {
 public:
-    LockRemover(std::string path, milliseconds pause)
+    LockRemover(const std::string& path, milliseconds pause)
         : m_thread([this, path, pause] {
               while (!m_isDone) {
                   m_removed += unlink(path.c_str()) == 0;
@@ -294,7 +294,7 @@ TEST(ALockFileThatCannotBeOpened, LosesNothing)
     const TempUserData data;
     WriteFile(data / "settings.ini.lock", "");
     ASSERT_EQ(chmod((data / "settings.ini.lock").c_str(), 0), 0);
-    // What sudo leaves behind in a user's folder.
+    // A lock file of root in a user's folder, as a program run by sudo leaves it.
     if (geteuid() == 0) {
         ASSERT_EQ(chown(data.Path().c_str(), 65534, 65534), 0);
     }
@@ -303,7 +303,7 @@ TEST(ALockFileThatCannotBeOpened, LosesNothing)
     Contend(6, 10 * Soak());
 }
 
-// As an editor saves a file that it has read before: empties it, and fills it a moment later.
+// As an editor saves a file: empties it, and fills it a moment later.
 void EditInPlace(const std::string& path, milliseconds pause)
 {
     const std::string text = ReadFile(path);
