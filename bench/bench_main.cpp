@@ -152,8 +152,8 @@ public:
 
 int main(int argc, char** argv)
 {
-    // Otherwise it depends on what lies at the end of the heap whether each round gives its memory back to the system and
-    // gets it anew: one row took 6 ms or 9, without a change to the program.
+    // Otherwise it depends on what lies at the end of the heap whether each round gives its memory back to the system
+    // and gets it anew: one row took 6 ms or 9, without a change to the program.
     mallopt(M_MMAP_THRESHOLD, 32 << 20);
     mallopt(M_TRIM_THRESHOLD, INT_MAX);
 

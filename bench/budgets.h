@@ -45,7 +45,8 @@ constexpr Extra kExtras[] = {
     {"library/load", "dlopen of a library of the same size that does nothing", 1e6},
 };
 
-/// Cost must grow in proportion to size: the time of @a large, per item, is held against the time of @a small, per item.
+/// Cost must grow in proportion to size: the time of @a large, per item, is held against the time of @a small, per
+/// item.
 struct Growth
 {
     const char* large;

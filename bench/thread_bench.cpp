@@ -84,8 +84,8 @@ private:
     const int m_count;
 };
 
-// What an event costs from the worker to the end of its handler. First all are posted and then all delivered: when both go
-// on at once, the toolkit's locks decide by chance how often one thread sleeps for the other.
+// What an event costs from the worker to the end of its handler. First all are posted and then all delivered: when both
+// go on at once, the toolkit's locks decide by chance how often one thread sleeps for the other.
 template <typename Worker>
 void Post(benchmark::State& state, int count)
 {

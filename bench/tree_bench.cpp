@@ -107,8 +107,8 @@ double ProcessorTime(Work work)
     return static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
 }
 
-// Loading and its peer take turns on the same tree: wherever its items lie and whatever else the machine does, both meet
-// the same.
+// Loading and its peer take turns on the same tree: wherever its items lie and whatever else the machine does, both
+// meet the same.
 void Load(benchmark::State& state, int count)
 {
     Siblings siblings(count, 10);

@@ -1,5 +1,5 @@
-// AUI layouts: every layout that the toolkit writes is loaded again, any other text is loaded at once or not at all, and
-// none brings up an assertion of the toolkit's.
+// AUI layouts: every layout that the toolkit writes is loaded again, any other text is loaded at once or not at all,
+// and none brings up an assertion of the toolkit's.
 
 #include <array>
 #include <cstdint>

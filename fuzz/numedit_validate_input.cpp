@@ -1,4 +1,5 @@
-// ValidateInput(): accepts what ValidateString() accepts, and beyond that the way from nothing to a small fraction alone.
+// ValidateInput(): accepts what ValidateString() accepts, and beyond that the way from nothing to a small fraction
+// alone.
 
 #include <algorithm>
 

@@ -1,5 +1,5 @@
-// INI files: whatever a file holds, loading and saving it changes nothing, and a value that is set is the one value that
-// changes, in memory and in the file.
+// INI files: whatever a file holds, loading and saving it changes nothing, and a value that is set is the one value
+// that changes, in memory and in the file.
 
 #include <algorithm>
 #include <cstdio>

@@ -59,7 +59,8 @@ std::optional<std::string> ValueOf(const KeyFile& file, const std::string& secti
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string bytes(reinterpret_cast<const char*>(data), size);
-    // GKeyFile ends a line at a null character, and steps over some bytes that are not UTF-8. The validation finds both.
+    // GKeyFile ends a line at a null character, and steps over some bytes that are not UTF-8. The validation finds
+    // both.
     const KeyFile file = g_utf8_validate_len(bytes.data(), bytes.size(), nullptr) ? Load(bytes) : nullptr;
     if (!file)
         return 0;

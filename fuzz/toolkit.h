@@ -5,8 +5,8 @@
 
 class FuzzedDataProvider;
 
-/// Starts the toolkit on the display, with an empty user data directory in memory. Every assertion of the toolkit's is a
-/// finding, except those about a wildcard that is none.
+/// Starts the toolkit on the display, with an empty user data directory in memory. Every assertion of the toolkit's is
+/// a finding, except those about a wildcard that is none.
 void StartToolkit();
 
 /// Makes the toolkit's assertions no finding for as long as the object lives, where @a allowed says so.

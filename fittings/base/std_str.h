@@ -4,7 +4,8 @@
 #include <string>
 #include <utility>
 
-/// A standard string that takes a null pointer for the empty text, and is made of all that a standard string is made of.
+/// A standard string that takes a null pointer for the empty text, and is made of all that a standard string is made
+/// of.
 ///
 /// Assigning from a pointer into its own buffer is safe, as with the standard string it derives from.
 /// Like that one it has no virtual destructor: use it by value.

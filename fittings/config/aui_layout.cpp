@@ -142,7 +142,8 @@ bool AreTexts(std::wstring_view texts)
 /// Whether the toolkit finds no number in the texts that it could not use.
 ///
 /// It does not read back the ";" of a text, but takes what follows for the next field: "a;row=99999999;" of a caption
-/// for a row, and the empty field after it for the end of the pane. "\b" is what it puts in the place of a ";" meanwhile.
+/// for a row, and the empty field after it for the end of the pane. "\b" is what it puts in the place of a ";"
+/// meanwhile.
 bool AreReadAtOnce(std::wstring_view texts)
 {
     for (std::size_t at = texts.find_first_of(L";\b"); at != texts.npos; at = texts.find_first_of(L";\b", at + 1)) {

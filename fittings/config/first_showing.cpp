@@ -59,8 +59,8 @@ void FirstShowing::Watch(GtkWidget* widget)
     g_signal_connect(widget, "event-after", G_CALLBACK(&AfterEvent), this);
 }
 
-// The toolkit does this as it asks for the decorations. It must not be disturbed in it, so the window is shown right after,
-// before any answer is looked at.
+// The toolkit does this as it asks for the decorations. It must not be disturbed in it, so the window is shown right
+// after, before any answer is looked at.
 void FirstShowing::OnRealize(GtkWidget* /*widget*/, FirstShowing* showing)
 {
     if (showing->m_window)
@@ -75,8 +75,9 @@ gboolean FirstShowing::OnEvent(GtkWidget* /*widget*/, GdkEvent* event, FirstShow
     return FALSE;
 }
 
-// A window manager may first tell the decorations of windows in general, and then those of this one. The toolkit takes the
-// first off the window's size; at the second it keeps what is left, and the window would be larger or smaller than it was to be.
+// A window manager may first tell the decorations of windows in general, and then those of this one. The toolkit takes
+// the first off the window's size; at the second it keeps what is left, and the window would be larger or smaller than
+// it was to be.
 void FirstShowing::AfterEvent(GtkWidget* widget, GdkEvent* event, FirstShowing* showing)
 {
     const Window& window = showing->m_window;

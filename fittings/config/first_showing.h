@@ -8,9 +8,9 @@ namespace fittings {
 /// Lets a hidden window come on the screen as soon as it is shown, and with the outer size that it has then.
 ///
 /// The toolkit shows the first window of a kind only when the window manager has told how large its decorations are. By
-/// then GTK has made the window at (0, 0), where some window managers leave it, and complains of sizes below zero; others
-/// never tell, and the decorations come on top of the size. So the window is shown before the answer, and the toolkit
-/// takes the decorations off its size when they are known.
+/// then GTK has made the window at (0, 0), where some window managers leave it, and complains of sizes below zero;
+/// others never tell, and the decorations come on top of the size. So the window is shown before the answer, and the
+/// toolkit takes the decorations off its size when they are known.
 ///
 /// Does nothing for a window that is shown already, nor on Wayland.
 void ShowWithoutDelay(wxTopLevelWindow& window);

@@ -46,8 +46,8 @@ const int* Field(const wxRect& rect, const wxString& name)
     return name == kHeight ? &rect.height : nullptr;
 }
 
-/// Whether a number can be a value of an object. The toolkit asserts that it is an int, and makes places and sizes of some that no
-/// window can have.
+/// Whether a number can be a value of an object. The toolkit asserts that it is an int, and makes places and sizes of
+/// some that no window can have.
 bool IsPossible(long number, const wxPersistentObject& who)
 {
     if (dynamic_cast<const wxPersistentSplitter*>(&who) || dynamic_cast<const wxPersistentDataViewCtrl*>(&who))
@@ -91,8 +91,8 @@ public:
         return found == m_records.end() ? nullptr : found->second.lock().get();
     }
 
-    /// Lets the values that are being stored be saved, at the latest on the next turn of the event loop; and when the program
-    /// ends before, together with the window.
+    /// Lets the values that are being stored be saved, at the latest on the next turn of the event loop; and when the
+    /// program ends before, together with the window.
     void SaveSoon(const wxPersistentObject& who)
     {
         // The outermost, as it is not known how much of a window that is going is left.

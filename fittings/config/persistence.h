@@ -45,23 +45,23 @@ class AncestorWatch;
 ///
 /// Register a window once it has all its children, items and columns, and before it is shown.
 ///
-/// A frame or dialog comes back as by wx_window_state::LoadState(): on a display that is still there, within its work area,
-/// and in its place even if it is the first window of the process. One that was maximised comes back maximised, and when the
-/// user restores it, it has the place and size that it had before; the same for full screen and iconised. These are known
-/// from wxPersistentRegisterAndRestore() on.
+/// A frame or dialog comes back as by wx_window_state::LoadState(): on a display that is still there, within its work
+/// area, and in its place even if it is the first window of the process. One that was maximised comes back maximised,
+/// and when the user restores it, it has the place and size that it had before; the same for full screen and iconised.
+/// These are known from wxPersistentRegisterAndRestore() on.
 ///
-/// What a window and the controls in it store is collected and saved as one when the window is gone; what is stored by a
-/// control that goes alone, on the next turn of the event loop.
+/// What a window and the controls in it store is collected and saved as one when the window is gone; what is stored by
+/// a control that goes alone, on the next turn of the event loop.
 ///
-/// The values are those of the toolkit's classes, sections "Persistent_Options/Window/Browser" and the like. A value that is
-/// damaged counts as none. GUI thread only.
+/// The values are those of the toolkit's classes, sections "Persistent_Options/Window/Browser" and the like. A value
+/// that is damaged counts as none. GUI thread only.
 class FITTINGS_API wxStorePersistenceManager : public wxPersistenceManager
 {
 public:
     ~wxStorePersistenceManager() override;
 
-    /// Makes wxPersistenceManager::Get() return the one object of this class, which is never destroyed. To be called before
-    /// the first window is registered, as in wxApp::OnInit(). More calls do nothing.
+    /// Makes wxPersistenceManager::Get() return the one object of this class, which is never destroyed. To be called
+    /// before the first window is registered, as in wxApp::OnInit(). More calls do nothing.
     static wxStorePersistenceManager& Install();
 
     /// Saves what has been collected. Returns false when it could not be saved; it is then still collected.
@@ -100,10 +100,10 @@ private:
 
 /// Remembers of a tree which items are expanded, which are selected, and which is the first in view.
 ///
-/// Items are known by their paths, whose steps may hold any text; siblings with one label are told apart by their number.
-/// The label of the root does not matter. Restoring expands parents first, so that levels which are filled as they are
-/// expanded open on the way; it collapses nothing, and fills no level that was collapsed. Selecting sends the toolkit's
-/// events, as if the user did it. Items that are gone are left out.
+/// Items are known by their paths, whose steps may hold any text; siblings with one label are told apart by their
+/// number. The label of the root does not matter. Restoring expands parents first, so that levels which are filled as
+/// they are expanded open on the way; it collapses nothing, and fills no level that was collapsed. Selecting sends the
+/// toolkit's events, as if the user did it. Items that are gone are left out.
 ///
 /// Deeper than 10,000 levels nothing is remembered: the toolkit does not bear expanded trees that are much deeper.
 class FITTINGS_API wxPersistentTreeCtrl : public wxPersistentWindow<wxTreeCtrl>
@@ -125,8 +125,8 @@ private:
     std::unique_ptr<fittings::AncestorWatch> m_watch;
 };
 
-/// Remembers the widths of a report's columns, and their order where the toolkit lets the user change it. Widths of another
-/// number of columns than there are now count as none.
+/// Remembers the widths of a report's columns, and their order where the toolkit lets the user change it. Widths of
+/// another number of columns than there are now count as none.
 class FITTINGS_API wxPersistentListCtrl : public wxPersistentWindow<wxListCtrl>
 {
 public:
@@ -152,10 +152,11 @@ private:
     std::unique_ptr<fittings::AncestorWatch> m_watch;
 };
 
-/// Remembers the layout of an AUI manager's panes, until the manager or the window that it manages goes, whichever is first.
+/// Remembers the layout of an AUI manager's panes, until the manager or the window that it manages goes, whichever is
+/// first.
 ///
-/// Register the manager when it has all its panes. A stored layout that the toolkit cannot have written counts as none, as for
-/// wx_window_state::LoadAuiManagerState(); what is said there of captions and floating panes holds here too.
+/// Register the manager when it has all its panes. A stored layout that the toolkit cannot have written counts as none,
+/// as for wx_window_state::LoadAuiManagerState(); what is said there of captions and floating panes holds here too.
 class FITTINGS_API wxPersistentAui : public wxPersistentObject
 {
 public:
@@ -200,8 +201,8 @@ inline wxPersistentObject* wxCreatePersistentObject(wxAuiManager* manager)
     return new wxPersistentAui(manager);
 }
 
-/// As the toolkit's function does for windows; a manager has no SetName(). For a class derived from wxAuiManager, convert the
-/// pointer.
+/// As the toolkit's function does for windows; a manager has no SetName(). For a class derived from wxAuiManager,
+/// convert the pointer.
 inline bool wxPersistentRegisterAndRestore(wxAuiManager* manager, const wxString& name)
 {
     return wxPersistenceManager::Get().RegisterAndRestore(manager, new wxPersistentAui(manager, name));

@@ -14,12 +14,12 @@ class StoreModel;
 
 /// The settings store as the toolkit's wxConfigBase: for wxFileHistory, wxPersistenceManager and all that asks for one.
 ///
-/// The group "A/B" is the section `A/B` of the store and an entry its key, so that `/LastFiles/Report` reads what CQVFileDialogI
-/// has stored. Entries of the root stand in the section of the empty name, `[%]` in the file.
+/// The group "A/B" is the section `A/B` of the store and an entry its key, so that `/LastFiles/Report` reads what
+/// CQVFileDialogI has stored. Entries of the root stand in the section of the empty name, `[%]` in the file.
 ///
-/// Reads see own changes over what the store holds at that moment, whoever has stored it. Changes are collected; Flush() and the
-/// destructor save the changed entries alone, by one save that loses nothing of what other processes have stored meanwhile.
-/// While the thread has a CLocalRegStore::Batch, the default store is saved with that.
+/// Reads see own changes over what the store holds at that moment, whoever has stored it. Changes are collected;
+/// Flush() and the destructor save the changed entries alone, by one save that loses nothing of what other processes
+/// have stored meanwhile. While the thread has a CLocalRegStore::Batch, the default store is saved with that.
 ///
 /// What is as in wxFileConfig: paths, "..", groups without entries, the texts of numbers and binary data. What is not:
 /// - Names are told apart by their exact characters, upper and lower case included.
@@ -28,8 +28,9 @@ class StoreModel;
 /// - To read an entry makes no group, and a failure to save is not logged but returned by Flush().
 /// - DeleteAll() is collected, too. In the default store it removes the settings of all components.
 ///
-/// A name or value with a null character, and a path of more than 100 groups, cannot be stored: the write returns false. A
-/// section whose name is no path of groups, such as `A//B`, is kept and cannot be reached. One thread at a time.
+/// A name or value with a null character, and a path of more than 100 groups, cannot be stored: the write returns
+/// false. A section whose name is no path of groups, such as `A//B`, is kept and cannot be reached. One thread at a
+/// time.
 ///
 /// @code
 /// wxConfigBase::Set(new wxStoreConfig);  // the toolkit deletes it when the program ends
@@ -49,9 +50,9 @@ public:
     wxStoreConfig(const wxStoreConfig&) = delete;
     wxStoreConfig& operator=(const wxStoreConfig&) = delete;
 
-    /// Takes over all groups and entries of @a old, once: a later call changes nothing, also in a later run of the program and
-    /// with another @a old. An entry that is there already keeps its value. Texts are taken as they stand, with no environment
-    /// variable expanded, and @a old keeps its path and options.
+    /// Takes over all groups and entries of @a old, once: a later call changes nothing, also in a later run of the
+    /// program and with another @a old. An entry that is there already keeps its value. Texts are taken as they stand,
+    /// with no environment variable expanded, and @a old keeps its path and options.
     ///
     /// Saves at once, with all that was collected. Returns false when that failed; the next call then tries again.
     bool ImportFrom(wxConfigBase& old);
@@ -59,8 +60,8 @@ public:
     /// @name The current group
     /// @{
 
-    /// Makes the group at @a path, which may be relative and have "..", current. A group that is not there is made, and stored with
-    /// its first entry.
+    /// Makes the group at @a path, which may be relative and have "..", current. A group that is not there is made, and
+    /// stored with its first entry.
     void SetPath(const wxString& path) override;
 
     /// The path of the current group, absolute and without a separator at its end: empty for the root.
@@ -89,14 +90,15 @@ public:
     /// Removes an entry, and its group when that is empty then. False when there is no such entry.
     bool DeleteEntry(const wxString& path, bool deleteGroupIfEmpty = true) override;
 
-    /// Removes a group with all in it; the current group is then the nearest one that is left. False when there is no such group.
+    /// Removes a group with all in it; the current group is then the nearest one that is left. False when there is no
+    /// such group.
     bool DeleteGroup(const wxString& path) override;
 
     /// Removes all groups and entries, and the sections that are no groups. True.
     bool DeleteAll() override;
 
-    /// Saves what was changed since the last time, in all groups. Returns false when it could not be saved: it is then still
-    /// there, and saved by the next call.
+    /// Saves what was changed since the last time, in all groups. Returns false when it could not be saved: it is then
+    /// still there, and saved by the next call.
     bool Flush(bool currentOnly = false) override;
 
 protected:

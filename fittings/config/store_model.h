@@ -56,7 +56,8 @@ public:
     /// Stores the group without entries no more, unless it is there for the groups in it.
     void DropSection(StoreGroup& group);
 
-    /// Removes a group with all that it holds. When the current group is gone by that, the nearest one above is current.
+    /// Removes a group with all that it holds. When the current group is gone by that, the nearest one above is
+    /// current.
     void RemoveGroup(StoreGroup& group);
 
     /// Moves all that the group holds into a new group beside it.

@@ -116,8 +116,8 @@ std::wstring SectionOf(const StorePath& path);
 /// The reverse; none when the name is no path of groups.
 std::optional<StorePath> PathOfSection(std::wstring_view section);
 
-/// Follows @a text as the toolkit does, from the root or, where it does not begin with the separator, from @a current: empty
-/// steps and "." lead nowhere, ".." up.
+/// Follows @a text as the toolkit does, from the root or, where it does not begin with the separator, from @a current:
+/// empty steps and "." lead nowhere, ".." up.
 StorePath FollowedPath(const StorePath& current, std::wstring_view text);
 
 /// Null when there is no such group.

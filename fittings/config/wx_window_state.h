@@ -44,8 +44,8 @@ FITTINGS_API void SaveState(wxFrame* frame, const wchar_t* name);
 /// (0, 0); one that reaches out of its display's work area is clipped to it, and one that is wholly outside of that
 /// area, under a panel, moves into it. Numbers beyond the 16 bits of an X display count as the largest of these.
 ///
-/// A hidden window comes back in its place when it is shown, the first one of a process too, under any window manager that
-/// lets programs place their windows. wxWindow::Show() is all that it takes.
+/// A hidden window comes back in its place when it is shown, the first one of a process too, under any window manager
+/// that lets programs place their windows. wxWindow::Show() is all that it takes.
 ///
 /// Meant for top-level windows: a child's position in its parent is measured against the work area as it is.
 ///
@@ -69,8 +69,8 @@ FITTINGS_API void SaveAuiManagerState(wxAuiManager* manager, const wchar_t* name
 /// Restores a stored layout and updates the window; returns false, and changes nothing, when there is none.
 ///
 /// A text that the toolkit cannot have written counts as none: one that is cut or damaged, and one with more rows or
-/// layers than the toolkit lays out at once. wxAuiManager::LoadPerspective() asserts on some of these, and never comes to
-/// an end with others.
+/// layers than the toolkit lays out at once. wxAuiManager::LoadPerspective() asserts on some of these, and never comes
+/// to an end with others.
 ///
 /// As wxAuiManager::LoadPerspective() has it, panes that the stored layout does not name are hidden, and captions come
 /// back as they were stored. It cannot read back a caption with a ";", or with a "\" before a "|": keep these out of

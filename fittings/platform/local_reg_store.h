@@ -44,13 +44,13 @@ class CIniFile;
 /// fittings::TextArgument.
 ///
 /// The default store is the file settings.ini in std_file_paths::GetUserDataDir(), shared by all processes of one
-/// application. A write re-reads it, changes its own keys alone, and is on the disk when it returns true; a write by another
-/// process at the same time is kept too. A write waits two seconds at most for another process that is stuck, a read for
-/// none. On file systems that cannot exchange two files in one step, such as NFS, two writes within the same few microseconds
-/// can still lose one of them, but only if the lock file settings.ini.lock cannot be used either.
+/// application. A write re-reads it, changes its own keys alone, and is on the disk when it returns true; a write by
+/// another process at the same time is kept too. A write waits two seconds at most for another process that is stuck, a
+/// read for none. On file systems that cannot exchange two files in one step, such as NFS, two writes within the same
+/// few microseconds can still lose one of them, but only if the lock file settings.ini.lock cannot be used either.
 ///
-/// A file of more than 64 MiB or of a million lines is not a settings file: it is not read, and nothing is stored that would
-/// make one.
+/// A file of more than 64 MiB or of a million lines is not a settings file: it is not read, and nothing is stored that
+/// would make one.
 ///
 /// The default store may be used from any thread, and until the process ends; a CIniFile from one thread at a time.
 ///
@@ -85,18 +85,19 @@ public:
     /// Removes a key. Only in memory, as WriteString() is. True when there was such a key.
     static bool DeleteKey(CIniFile& ini, const wchar_t* section, const wchar_t* key);
 
-    /// Returns the names of all sections, each once, in the order of the file; those written since come last. The keys before
-    /// the first section belong to none.
+    /// Returns the names of all sections, each once, in the order of the file; those written since come last. The keys
+    /// before the first section belong to none.
     static std::vector<std::wstring> GetSectionNames(const CIniFile& ini);
 
-    /// Returns the names of the keys of @a section, each once, in the order of the file; those written since come last. Empty
-    /// when there is no such section.
+    /// Returns the names of the keys of @a section, each once, in the order of the file; those written since come last.
+    /// Empty when there is no such section.
     static std::vector<std::wstring> GetKeyNames(const CIniFile& ini, const wchar_t* section);
 
     using Entry = fittings::SettingsEntry;  ///< A key and its value.
 
-    /// Returns the keys of @a section with their values, in the order of GetKeyNames(), in a time in proportion to their number.
-    /// Those of the section of the empty name come after the keys before the first section, as wxFileConfig writes them.
+    /// Returns the keys of @a section with their values, in the order of GetKeyNames(), in a time in proportion to
+    /// their number. Those of the section of the empty name come after the keys before the first section, as
+    /// wxFileConfig writes them.
     static std::vector<Entry> GetEntries(const CIniFile& ini, const wchar_t* section);
 
     /// Writes the whole object to @a path, creating or replacing the file in one step.
@@ -118,17 +119,19 @@ public:
 
     using Change = fittings::SettingsChange;  ///< One of several changes that are saved together.
 
-    /// Reads the file at @a path into @a ini in place of what it held, unless the file is as it was when this read it last.
+    /// Reads the file at @a path into @a ini in place of what it held, unless the file is as it was when this read it
+    /// last.
     ///
-    /// Returns false when @a ini was left as it is, changes that were made in it meanwhile included. A file that cannot be read
-    /// counts as empty. @a ini is for reading: do not hand it to Save().
+    /// Returns false when @a ini was left as it is, changes that were made in it meanwhile included. A file that cannot
+    /// be read counts as empty. @a ini is for reading: do not hand it to Save().
     static bool Refresh(CIniFile& ini, const wchar_t* path);
 
     /// Makes the changes in @a ini: those of keys, and then those of sections.
     static void ApplyChanges(CIniFile& ini, const std::vector<Change>& changes);
 
-    /// Makes the changes in what the file at @a path holds now, by one save, as WriteString() does it in the default store: what
-    /// other processes and threads store by this operation at the same time is kept. The lock file has ".lock" at its end.
+    /// Makes the changes in what the file at @a path holds now, by one save, as WriteString() does it in the default
+    /// store: what other processes and threads store by this operation at the same time is kept. The lock file has
+    /// ".lock" at its end.
     ///
     /// Returns false when they could not be saved; none of them is then made.
     static bool SaveChanges(const wchar_t* path, const std::vector<Change>& changes);
@@ -149,7 +152,8 @@ public:
     /// Stores a boolean. Returns as WriteString() does.
     static bool WriteProfileBool(const wchar_t* section, const wchar_t* key, bool value);
 
-    /// Returns a stored integer, or @a defaultValue when there is none or the stored text is not a decimal number that fits.
+    /// Returns a stored integer, or @a defaultValue when there is none or the stored text is not a decimal number that
+    /// fits.
     static int GetProfileInt(const wchar_t* section, const wchar_t* key, int defaultValue);
 
     /// Stores an integer as decimal text. Returns as WriteString() does.
@@ -161,14 +165,15 @@ public:
     /// Makes several changes by one save. Returns as WriteString() does, and does it as one.
     static bool SaveChanges(const std::vector<Change>& changes);
 
-    /// Reads the default store into @a ini as the operation of the same name reads a file, with what this thread's Batch has
-    /// collected.
+    /// Reads the default store into @a ini as the operation of the same name reads a file, with what this thread's
+    /// Batch has collected.
     static bool Refresh(CIniFile& ini);
 
     /// Returns the names of all sections, each once, in the order of the file.
     static std::vector<std::wstring> GetSectionNames();
 
-    /// Returns the names of the keys of @a section, each once, in the order of the file. Empty when there is no such section.
+    /// Returns the names of the keys of @a section, each once, in the order of the file. Empty when there is no such
+    /// section.
     static std::vector<std::wstring> GetKeyNames(const wchar_t* section);
 
     class Batch;
@@ -325,9 +330,9 @@ public:
 
 /// Collects what its thread stores in the default store, and saves it as one: for all that a closing window remembers.
 ///
-/// While an object lives, each write of its thread to the default store answers true and is seen by that thread's reads; other
-/// threads and processes see it from the save on. Objects may be nested; the outermost saves when it ends. To be destroyed by
-/// the thread that made it, in the reverse order.
+/// While an object lives, each write of its thread to the default store answers true and is seen by that thread's
+/// reads; other threads and processes see it from the save on. Objects may be nested; the outermost saves when it ends.
+/// To be destroyed by the thread that made it, in the reverse order.
 ///
 /// @code
 /// CLocalRegStore::Batch batch;
@@ -345,8 +350,8 @@ public:
     Batch(const Batch&) = delete;
     Batch& operator=(const Batch&) = delete;
 
-    /// Saves what this thread has collected so far, by the objects around this one too: all of it or nothing. Returns false
-    /// when it could not be saved; it is then still collected, and the outermost object tries again.
+    /// Saves what this thread has collected so far, by the objects around this one too: all of it or nothing. Returns
+    /// false when it could not be saved; it is then still collected, and the outermost object tries again.
     bool Save();
 
 private:

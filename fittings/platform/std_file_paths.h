@@ -25,8 +25,8 @@ FITTINGS_API std::wstring GetUserDataDir();
 /// Makes GetUserDataDir() return @a path from now on; an empty path restores the default. Nothing is moved.
 FITTINGS_API void SetUserDataDir(const CStdStr<wchar_t>& path);
 
-/// Returns `<documents>/<application>/`@a name. The folder may not exist. Where the user has no documents folder (none in
-/// user-dirs.dirs, as xdg-user-dirs keeps it), the home folder takes its place, as GetUserDataDir() has it.
+/// Returns `<documents>/<application>/`@a name. The folder may not exist. Where the user has no documents folder (none
+/// in user-dirs.dirs, as xdg-user-dirs keeps it), the home folder takes its place, as GetUserDataDir() has it.
 FITTINGS_API std::wstring GetAppFolderPath(const wchar_t* name);
 
 }  // namespace std_file_paths

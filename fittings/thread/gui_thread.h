@@ -48,13 +48,13 @@
 /// };
 /// @endcode
 ///
-/// That order of shutting down is the owner's to keep: StartKill(), Wait(), destroy. Destroying a worker that still runs
-/// is not allowed. Its destructor neither stops it nor waits in time: the mutexes that PostEvent() uses are gone when the
-/// base class waits.
+/// That order of shutting down is the owner's to keep: StartKill(), Wait(), destroy. Destroying a worker that still
+/// runs is not allowed. Its destructor neither stops it nor waits in time: the mutexes that PostEvent() uses are gone
+/// when the base class waits.
 ///
 /// The handler is not owned and must live until Wait() has returned. Destroying it then is safe with events still
-/// queued: the toolkit drops them. The owner's thread makes, runs, stops, waits for and destroys the object; DoContinue()
-/// and PostEvent() may be called by any thread.
+/// queued: the toolkit drops them. The owner's thread makes, runs, stops, waits for and destroys the object;
+/// DoContinue() and PostEvent() may be called by any thread.
 class FITTINGS_API wxGUIThread : public wxThreadEx
 {
 public:
@@ -77,28 +77,28 @@ public:
     /// Events that are queued already still arrive.
     void StartKill();
 
-    /// Has the handler told by one event of that type when Entry() has returned, whatever ended it: its work done, StartKill(), an
-    /// exception. To be called before RunThread(). No event at first.
+    /// Has the handler told by one event of that type when Entry() has returned, whatever ended it: its work done,
+    /// StartKill(), an exception. To be called before RunThread(). No event at first.
     ///
-    /// The event is a wxCommandEvent whose int is GetRunNumber() and whose client data is what Entry() returned. HasEnded() is
-    /// true when it arrives, and Wait() returns at once.
+    /// The event is a wxCommandEvent whose int is GetRunNumber() and whose client data is what Entry() returned.
+    /// HasEnded() is true when it arrives, and Wait() returns at once.
     void SetEndEvent(int eventType);
 
-    /// A number that no other worker of the process has, larger than those of the workers made before. Events that tell it are
-    /// told apart from those that an earlier worker has left queued.
+    /// A number that no other worker of the process has, larger than those of the workers made before. Events that tell
+    /// it are told apart from those that an earlier worker has left queued.
     int GetRunNumber() const { return m_runNumber; }
 
     /// @name Posting
     ///
     /// The handler gets a copy of the event, on the GUI thread, by the toolkit's pending events. Each overload returns
-    /// true when the worker may go on: the event was queued, or dropped for want of a handler. It returns false when the
-    /// worker was asked to stop; then nothing is queued.
+    /// true when the worker may go on: the event was queued, or dropped for want of a handler. It returns false when
+    /// the worker was asked to stop; then nothing is queued.
     ///
-    /// Nothing slows a worker down that posts faster than the GUI thread handles: its events fill the memory and keep the
-    /// GUI from everything else. Report results at intervals, not each by itself.
+    /// Nothing slows a worker down that posts faster than the GUI thread handles: its events fill the memory and keep
+    /// the GUI from everything else. Report results at intervals, not each by itself.
     ///
-    /// Client data is passed through as it is and never owned. An event that is dropped, or still queued when its handler
-    /// is destroyed, frees nothing.
+    /// Client data is passed through as it is and never owned. An event that is dropped, or still queued when its
+    /// handler is destroyed, frees nothing.
     ///
     /// The compiler cannot choose for PostEvent(type, value, 0): write 0L or nullptr.
     /// @{
@@ -112,8 +112,8 @@ public:
     bool PostEvent(int eventType, int value, long extra);  ///< As above, with an extra long.
     bool PostEvent(int eventType, int value, void* data);  ///< As above, with client data.
 
-    /// Posts a copy of the event as it is, also after StartKill(): a last result, which a stopped worker hands over. Returns false
-    /// when there is no handler.
+    /// Posts a copy of the event as it is, also after StartKill(): a last result, which a stopped worker hands over.
+    /// Returns false when there is no handler.
     bool PostResult(const wxCommandEvent& event);
 
     /// @}
@@ -159,7 +159,8 @@ private:
 /// @endcode
 ///
 /// Events may arrive after the worker is gone, where its handler lives on. What an event leads to, as the line of that
-/// number here, must be the handler's therefore, or live as long as it. Client data that points into the worker does not.
+/// number here, must be the handler's therefore, or live as long as it. Client data that points into the worker does
+/// not.
 class FITTINGS_API wxGUIThreadEx : public wxGUIThread
 {
 public:
@@ -172,8 +173,8 @@ public:
 
     /// @name Posting
     ///
-    /// As wxGUIThread::PostEvent() of the type named at construction, which says what is returned and who owns the data.
-    /// The compiler cannot choose for PostEvent(value, 0): write 0L or nullptr.
+    /// As wxGUIThread::PostEvent() of the type named at construction, which says what is returned and who owns the
+    /// data. The compiler cannot choose for PostEvent(value, 0): write 0L or nullptr.
     /// @{
     bool PostEvent(int value);              ///< Posts an event with that int.
     bool PostEvent(int value, long extra);  ///< Posts an event with that int and extra long.

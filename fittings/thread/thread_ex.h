@@ -32,17 +32,18 @@ class wxThreadExImpl;
 ///     Compare(reinterpret_cast<std::uintptr_t>(checksum.Wait()));
 /// @endcode
 ///
-/// Construct, Create(), Run(), Wait(), destroy: all of them on one thread, the owner's, once the toolkit is initialised.
-/// An object runs once. Where Create() or Run() has failed, it is of no more use: make another one to try again.
+/// Construct, Create(), Run(), Wait(), destroy: all of them on one thread, the owner's, once the toolkit is
+/// initialised. An object runs once. Where Create() or Run() has failed, it is of no more use: make another one to try
+/// again.
 ///
-/// - Nothing here pauses the work or ends it early. Entry() may ask wxThread::This(), the toolkit's detached thread, for
-///   its id or TestDestroy(); whether anyone calls that thread's Pause() or Delete() is the host's to see to.
-/// - The destructor waits, but only after the derived class's members are gone, and a thread that begins as late as that
-///   finds no Entry() to call and aborts the process. So Wait() is to be called before, by the owner or by the
+/// - Nothing here pauses the work or ends it early. Entry() may ask wxThread::This(), the toolkit's detached thread,
+///   for its id or TestDestroy(); whether anyone calls that thread's Pause() or Delete() is the host's to see to.
+/// - The destructor waits, but only after the derived class's members are gone, and a thread that begins as late as
+///   that finds no Entry() to call and aborts the process. So Wait() is to be called before, by the owner or by the
 ///   destructor of the most derived class.
 /// - A detached object must outlive its Entry(): the thread writes into the object when Entry() has returned, and
-///   neither Wait() nor the destructor waits for that. No call tells when it is safe, so keep such an object for as long
-///   as the process lives. While its thread runs, the toolkit must not be shut down.
+///   neither Wait() nor the destructor waits for that. No call tells when it is safe, so keep such an object for as
+///   long as the process lives. While its thread runs, the toolkit must not be shut down.
 /// - The toolkit's thread object behind this one is freed by its own thread when that ends. An object that never ran,
 ///   or whose Run() failed, leaves it behind for as long as the process lives. After Create() that is a waiting thread,
 ///   too, which the toolkit may trip over when it shuts down: only create what you run.
@@ -80,8 +81,8 @@ public:
     /// @return what Entry() returned; (wxThread::ExitCode)-1 at once when the object is detached, or has not run.
     wxThread::ExitCode Wait();
 
-    /// Waits as Wait() does, but at most so long. On the GUI thread windows are painted meanwhile and timers run; what a user does
-    /// and what workers post is handled afterwards.
+    /// Waits as Wait() does, but at most so long. On the GUI thread windows are painted meanwhile and timers run; what
+    /// a user does and what workers post is handled afterwards.
     ///
     /// @return HasEnded(); false at once when the object has not run.
     bool WaitFor(unsigned long milliseconds);
@@ -107,8 +108,8 @@ private:
     wxThread::ExitCode m_exitCode = nullptr;
 
 protected:
-    /// Called on the thread when Entry() has returned, with the exit code. It must not call HasEnded() or Wait(), which wait for
-    /// it. To be set before Run().
+    /// Called on the thread when Entry() has returned, with the exit code. It must not call HasEnded() or Wait(), which
+    /// wait for it. To be set before Run().
     std::function<void(wxThread::ExitCode)> m_atEnd;
 };
 

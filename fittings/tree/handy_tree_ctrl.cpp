@@ -63,8 +63,8 @@ void wxHandyTreeCtrl::CreateImageList()
     SetImageList(m_imageList);
 }
 
-// The toolkit keeps the height that the rows had with the images. It measures the items anew, and the rows become as high as the
-// highest of them.
+// The toolkit keeps the height that the rows had with the images. It measures the items anew, and the rows become as
+// high as the highest of them.
 void wxHandyTreeCtrl::SetImageList(wxImageList* images)
 {
     wxTreeCtrlEx::SetImageList(images);

@@ -35,8 +35,8 @@ class wxImageList;
 /// one in the tree decides whether it is saved, and loading expands all of them. A label with a "|" in it is taken for
 /// two. The state is kept in the default store, section "TreeControlState".
 ///
-/// A screen reader says the label of the item that the keyboard moves to, and with it the static text that is made before
-/// the control, or what SetLabel() gives it.
+/// A screen reader says the label of the item that the keyboard moves to, and with it the static text that is made
+/// before the control, or what SetLabel() gives it.
 ///
 /// GUI thread only.
 class FITTINGS_API wxHandyTreeCtrl : public wxTreeCtrlEx
@@ -53,7 +53,8 @@ public:
 
     ~wxHandyTreeCtrl() override;
 
-    /// Creates the control with the toolkit's default tree style, and its image list, which may make the rows a little higher.
+    /// Creates the control with the toolkit's default tree style, and its image list, which may make the rows a little
+    /// higher.
     void Create(wxWindow* parent);
 
     /// Creates the control as the toolkit's Create() does: without an image list. False when it could not be created.
@@ -64,12 +65,13 @@ public:
 
     /// Gives the control an empty list of 16 × 16 images, which this object owns.
     ///
-    /// The size is in the toolkit's pixels: bitmaps that wxBitmapBundle::GetBitmapFor() makes for this control have more
-    /// where its screen has more, and look sharp there. Create() with the parent alone gives the list already. One from an
-    /// earlier call is not released: call DetroyImageList() first.
+    /// The size is in the toolkit's pixels: bitmaps that wxBitmapBundle::GetBitmapFor() makes for this control have
+    /// more where its screen has more, and look sharp there. Create() with the parent alone gives the list already. One
+    /// from an earlier call is not released: call DetroyImageList() first.
     void CreateImageList();
 
-    /// Shows the images of another list, which this object does not own. Without one the rows become as low as their text.
+    /// Shows the images of another list, which this object does not own. Without one the rows become as low as their
+    /// text.
     void SetImageList(wxImageList* images) override;
 
     /// Deletes the image list, if there is one. The control must not be drawn with its images afterwards.
@@ -109,12 +111,12 @@ public:
 
     /// @}
 
-    /// Shows the busy cursor around OnItemExpanding(), in all of the application, and the usual one afterwards, whatever the
-    /// host had set before. Bound to wxEVT_TREE_ITEM_EXPANDING by the constructor.
+    /// Shows the busy cursor around OnItemExpanding(), in all of the application, and the usual one afterwards,
+    /// whatever the host had set before. Bound to wxEVT_TREE_ITEM_EXPANDING by the constructor.
     ///
-    /// The event ends here: neither the event table of a derived class nor a parent window hears of it. A host that wants
-    /// to, to veto it for example, calls Bind() on the control, is asked first, and skips the event if the item is to be
-    /// filled.
+    /// The event ends here: neither the event table of a derived class nor a parent window hears of it. A host that
+    /// wants to, to veto it for example, calls Bind() on the control, is asked first, and skips the event if the item
+    /// is to be filled.
     void OnEvtItemExpanding(wxTreeEvent& event);
 
     /// Tells assistive technologies of the item that has the focus in the tree.

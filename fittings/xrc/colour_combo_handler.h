@@ -38,8 +38,9 @@ class wxColourPopup;
 /// | `more-colours-text` | text | wxColourPopup::SetMoreColoursText(), likewise; "More Colours..." |
 /// | `refresh-combo` | boolean | wxColourPopup::SetRefreshCombo(); 0 |
 ///
-/// And those of every window: `pos`, `size`, `tooltip`, `enabled`, `hidden`, `font` and the rest. The texts are translated
-/// as any text of a resource is. In those of the two boxes no character stands for another, as "_" does in a label.
+/// And those of every window: `pos`, `size`, `tooltip`, `enabled`, `hidden`, `font` and the rest. The texts are
+/// translated as any text of a resource is. In those of the two boxes no character stands for another, as "_" does in a
+/// label.
 ///
 /// A value that cannot be understood is reported, as wxXmlResource::ReportError() does, and taken for absent. So is a
 /// `subclass` that is no wxColourCombo: the control is a plain one then. Host classes that are named by `subclass` say

@@ -29,15 +29,16 @@
 /// | Property | Type | Meaning, and what is taken without it |
 /// | --- | --- | --- |
 /// | `style` | style | those of wxTreeCtrl and of every window; those of wxHandyTreeCtrl::Create() |
-/// | `imagelist` | image list | of the size that its bitmaps have; the empty one of wxHandyTreeCtrl::CreateImageList() |
+/// | `imagelist` | image list | of the size that its bitmaps have; the empty one of wxHandyTreeCtrl::CreateImageList()
+/// |
 /// | `profile` | text, never translated | wxHandyTreeCtrl::SetProfile(); empty |
 ///
 /// And those of every window: `pos`, `size`, `tooltip`, `enabled`, `hidden`, `font` and the rest. The items are the
 /// program's to add.
 ///
 /// A value that cannot be understood is reported, as wxXmlResource::ReportError() does, and taken for absent. So is a
-/// `subclass` that is no wxHandyTreeCtrl: the control is a plain one then. Host classes that are named by `subclass` say
-/// wxDECLARE_DYNAMIC_CLASS().
+/// `subclass` that is no wxHandyTreeCtrl: the control is a plain one then. Host classes that are named by `subclass`
+/// say wxDECLARE_DYNAMIC_CLASS().
 ///
 /// GUI thread only.
 class FITTINGS_API wxHandyTreeCtrlXmlHandler : public wxXmlResourceHandler

@@ -55,8 +55,8 @@ CommandLine Parse(int count, char** arguments)
 
 CommandLine g_line;
 
-/// Ends the program as a person would, who cancels the open dialogs and closes the window, so that it is remembered. What
-/// has opened a dialog is still at work in the window: that is closed when the last dialog is gone.
+/// Ends the program as a person would, who cancels the open dialogs and closes the window, so that it is remembered.
+/// What has opened a dialog is still at work in the window: that is closed when the last dialog is gone.
 class Stop : public wxModalDialogHook
 {
 public:
@@ -111,8 +111,8 @@ public:
         SetAppName("fittings-gallery");
         SetAppDisplayName("Fittings Gallery");
         wxUILocale::UseDefault();
-        // GTK settled its own direction when the program had no language yet: the toolkit's windows would follow the language,
-        // and what is GTK's in them would not.
+        // GTK settled its own direction when the program had no language yet: the toolkit's windows would follow the
+        // language, and what is GTK's in them would not.
         if (GetLayoutDirection() == wxLayout_RightToLeft)
             gtk_widget_set_default_direction(GTK_TEXT_DIR_RTL);
         for (const int signal : {SIGTERM, SIGINT, SIGHUP})

@@ -64,8 +64,8 @@ wxString Summary(const std::vector<Entry>& entries)
     return text;
 }
 
-/// Where a window is. The toolkit sometimes takes a window for being in the corner of the screen when it has just been shown,
-/// and the window manager was slow to frame it.
+/// Where a window is. The toolkit sometimes takes a window for being in the corner of the screen when it has just been
+/// shown, and the window manager was slow to frame it.
 wxPoint PlaceOf(const wxFrame& window)
 {
     return FrameRect(window.GetHandle()).GetPosition();

@@ -21,8 +21,8 @@ void SavePage(const wxString& name);
 /// Those of earlier sessions, the last one first.
 std::vector<std::string> LoadRootFolders();
 
-/// Returns the root that is forgotten for this one, with what is kept here for it; empty when there is room for all. The
-/// last 50 are remembered.
+/// Returns the root that is forgotten for this one, with what is kept here for it; empty when there is room for all.
+/// The last 50 are remembered.
 std::string SaveRootFolder(const std::string& path);
 
 /// The folder that was selected below a root; empty when there is none.

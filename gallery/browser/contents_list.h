@@ -27,12 +27,12 @@ public:
     /// @{
     void SetEntries(std::vector<Entry> entries);
 
-    /// Leaves out what is smaller than @a bytes, and what has no size; 0 leaves out nothing. Folders stay until they are
-    /// added up.
+    /// Leaves out what is smaller than @a bytes, and what has no size; 0 leaves out nothing. Folders stay until they
+    /// are added up.
     void SetMinimum(std::uint64_t bytes);
 
-    /// Fills in what folders hold, as far as they are listed, and leaves out those that prove too small. The order of the
-    /// rows stays until SortBy().
+    /// Fills in what folders hold, as far as they are listed, and leaves out those that prove too small. The order of
+    /// the rows stays until SortBy().
     void SetFolderSizes(const std::vector<std::pair<std::string, FolderSum>>& sums);
     /// @}
 

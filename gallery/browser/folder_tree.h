@@ -45,8 +45,8 @@ public:
     /// their state; of a selected one that is gone, the nearest above that is left gets selected.
     void Reread();
 
-    /// Shows the selected folder in @a colour, or in the other folders' when it is invalid. Until the folder is read again,
-    /// which gives it the colour that the settings know.
+    /// Shows the selected folder in @a colour, or in the other folders' when it is invalid. Until the folder is read
+    /// again, which gives it the colour that the settings know.
     void ShowColour(const wxColour& colour);
 
     /// @name The expanded folders, kept apart for each root

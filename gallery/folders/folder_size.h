@@ -23,8 +23,8 @@ public:
     /// A folder right in the summed one is done.
     virtual void OnSubfolder(const std::string& name, const FolderSum& sum) = 0;
 
-    /// Comes after each item. @a fraction goes from 0 to 1, never back; every folder has an equal share of the one that it
-    /// is in. Returning false ends the walk.
+    /// Comes after each item. @a fraction goes from 0 to 1, never back; every folder has an equal share of the one that
+    /// it is in. Returning false ends the walk.
     virtual bool OnProgress(const FolderSum& soFar, double fraction) = 0;
 };
 

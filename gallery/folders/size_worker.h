@@ -23,8 +23,8 @@ struct SizeNews
 
 /// Adds up a folder and everything below it in the background.
 ///
-/// Its events say only that there is news, to be had from TakeNews(): one lost with its handler loses nothing, and never is
-/// more than one in the queue.
+/// Its events say only that there is news, to be had from TakeNews(): one lost with its handler loses nothing, and
+/// never is more than one in the queue.
 class SizeWorker : public wxGUIThreadEx, private SizeObserver
 {
 public:

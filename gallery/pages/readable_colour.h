@@ -11,7 +11,8 @@ double ContrastRatio(const wxColour& a, const wxColour& b);
 /// Returns black or white, whichever is the easier to read on @a background.
 const wxColour& BlackOrWhiteOn(const wxColour& background);
 
-/// Returns @a colour, or as little lighter or darker a one as can be read on @a background: with a contrast ratio of 4.5.
+/// Returns @a colour, or as little lighter or darker a one as can be read on @a background: with a contrast ratio of
+/// 4.5.
 wxColour ReadableOn(const wxColour& background, const wxColour& colour);
 
 }  // namespace gallery

@@ -5,8 +5,8 @@
 
 namespace gallery {
 
-/// Folders and files for the tour, with the same names, sizes and times everywhere, and room for its settings. All of it
-/// goes when the object does.
+/// Folders and files for the tour, with the same names, sizes and times everywhere, and room for its settings. All of
+/// it goes when the object does.
 ///
 /// The files have their sizes, but take no space.
 class DemoFolder

@@ -1,5 +1,5 @@
-// A window that comes back as it was left, by one call for each window that remembers: its place and size, where it is split,
-// which page is shown, how wide the columns are, and what is open and selected in the tree.
+// A window that comes back as it was left, by one call for each window that remembers: its place and size, where it is
+// split, which page is shown, how wide the columns are, and what is open and selected in the tree.
 
 #include <utility>
 

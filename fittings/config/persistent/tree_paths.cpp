@@ -35,8 +35,8 @@ bool IsHiddenRoot(const wxTreeCtrl& tree, const wxTreeItemId& item)
     return tree.HasFlag(wxTR_HIDE_ROOT) && item == tree.GetRootItem();
 }
 
-/// Returns the first item whose top is in view. The one above it, of which a part is in view, would move down by that part each
-/// time that it is scrolled to.
+/// Returns the first item whose top is in view. The one above it, of which a part is in view, would move down by that
+/// part each time that it is scrolled to.
 wxTreeItemId FirstInView(const wxTreeCtrl& tree)
 {
     const int height = tree.GetClientSize().y;

@@ -7,8 +7,8 @@
 
 namespace {
 
-/// Follows steps down a tree. A handler of what happens on the way may change the tree: an item that is deleted is not touched
-/// any more.
+/// Follows steps down a tree. A handler of what happens on the way may change the tree: an item that is deleted is not
+/// touched any more.
 class Descent
 {
 public:
