@@ -261,7 +261,7 @@ void wxColourCombo::EndAnimation(wxWindow& popup)
     const bool animated = m_animTimer.IsRunning();
     m_animTimer.Stop();
     m_clicks->Stop();
-    // If the popup was closed during the animation, it is shown nevertheless; the base shows only what is being opened.
+    // If the popup was closed during the animation, show it anyway. The base shows only a popup that is being opened.
     if (animated && IsPopupWindowState(Hidden)) {
         m_popupWinState = Animating;
         m_winPopup->Enable();

@@ -37,35 +37,37 @@ class OutlineWindow;
 /// };
 /// @endcode
 ///
-/// It is a combo control whose popup opens with an animation: a black outline grows from the middle of the popup's place
-/// to its full size. The popup is a wxColourPopup, which the constructor with a colour and Create() with a colour make;
-/// one of a class of the host's, or any other, is set by SetPopupControl() on a control that is made without a colour.
+/// It is a combo control whose popup opens with an animation: a black outline grows from the middle of the popup's
+/// place to its full size. The popup is a wxColourPopup, which the constructor with a colour and Create() with a colour
+/// make; one of a class of the host's, or any other, is set by SetPopupControl() on a control that is made without a
+/// colour.
 ///
 /// The face shows the colour in effect. The control is reached by Tab and opened by F4 and Alt+Down, with wxCB_READONLY
-/// too; the toolkit's own combo control refuses the focus then. While it is closed, has the focus and is read-only, Up and
-/// Down choose the colour before and the one after: "Automatic" and the grid row by row. So does the mouse wheel.
+/// too; the toolkit's own combo control refuses the focus then. While it is closed, has the focus and is read-only, Up
+/// and Down choose the colour before and the one after: "Automatic" and the grid row by row. So does the mouse wheel.
 ///
-/// The events are those of wxColourPickerCtrl, in wx/clrpicker.h, with the control's id. They come after the calls of the
-/// popup's listener:
+/// The events are those of wxColourPickerCtrl, in wx/clrpicker.h, with the control's id. They come after the calls of
+/// the popup's listener:
 /// - wxEVT_COLOURPICKER_CURRENT_CHANGED, with the colour of each cell that becomes hot while the popup is open.
 /// - wxEVT_COLOURPICKER_CHANGED, with the colour that was chosen, be it the one that was in effect.
-/// - wxEVT_COLOURPICKER_DIALOG_CANCELLED, with the colour that stays, when the popup closes without a choice or the dialog
-///   of "More Colours..." is cancelled. A control that is being destroyed sends none.
+/// - wxEVT_COLOURPICKER_DIALOG_CANCELLED, with the colour that stays, when the popup closes without a choice or the
+///   dialog of "More Colours..." is cancelled. A control that is being destroyed sends none.
 ///
-/// A screen reader says the colour in effect by its name, and before it the static text that is made before the control,
-/// whose mnemonic leads to the control, or what SetLabel() gives it. In the open popup it says the name of each hot cell.
+/// A screen reader says the colour in effect by its name, and before it the static text that is made before the
+/// control, whose mnemonic leads to the control, or what SetLabel() gives it. In the open popup it says the name of
+/// each hot cell.
 ///
 /// Where no program may place its windows or copy the screen, as on Wayland, the popup opens at once. Closing the popup
 /// while the animation runs ends the animation, and the popup is shown all the same; nobody hears of an end before the
 /// popup closes again. A click on another of the program's windows, or in the text field, ends the animation, too, and
-/// dismisses the popup as soon as it is shown. Keys have no effect until then. wxComboCtrl::EnablePopupAnimation() turns
-/// the animation off.
+/// dismisses the popup as soon as it is shown. Keys have no effect until then. wxComboCtrl::EnablePopupAnimation()
+/// turns the animation off.
 ///
-/// wxEVT_COMBOBOX_DROPDOWN comes when it opens. wxEVT_COMBOBOX_CLOSEUP comes when it is dismissed from outside, and not when
-/// the popup closes itself because a colour was chosen or the selection cancelled: the popup's listener hears of every end.
-/// The control holds the names of colours, and sends wxEVT_TEXT, as the toolkit's does: with a text field only. A popup
-/// that is dismissed by the button or by Dismiss() with a cell hot makes the field tell of that cell's name and at once of
-/// its old text again.
+/// wxEVT_COMBOBOX_DROPDOWN comes when it opens. wxEVT_COMBOBOX_CLOSEUP comes when it is dismissed from outside, and not
+/// when the popup closes itself because a colour was chosen or the selection cancelled: the popup's listener hears of
+/// every end. The control holds the names of colours, and sends wxEVT_TEXT, as the toolkit's does: with a text field
+/// only. A popup that is dismissed by the button or by Dismiss() with a cell hot makes the field tell of that cell's
+/// name and at once of its old text again.
 ///
 /// The toolkit's class queries take this class for a wxComboCtrl, and wxColourPopup for a wxWindow: wxDynamicCast() to
 /// either of them would succeed for others too. Use dynamic_cast.
@@ -106,13 +108,13 @@ public:
 
     /// Makes @a colour, or the one that a text names as wxColour::Set() reads it, the colour in effect.
     ///
-    /// The face, the text, the chosen cell and the mark of "Automatic" follow at once, and no event is sent. While the popup
-    /// is open, it stays in effect when nothing is chosen. False, and nothing changes, for an invalid colour and while there
-    /// is no wxColourPopup.
+    /// The face, the text, the chosen cell and the mark of "Automatic" follow at once, and no event is sent. While the
+    /// popup is open, it stays in effect when nothing is chosen. False, and nothing changes, for an invalid colour and
+    /// while there is no wxColourPopup.
     bool SetColour(const wxColour& colour);
 
-    /// Sets the colour that "Automatic" stands for; black at first. "Automatic" is marked from now on if this is the colour
-    /// in effect, which stays as it is.
+    /// Sets the colour that "Automatic" stands for; black at first. "Automatic" is marked from now on if this is the
+    /// colour in effect, which stays as it is.
     ///
     /// False, and nothing changes, for an invalid colour and while there is no wxColourPopup.
     bool SetAutomaticColour(const wxColour& colour);
@@ -139,8 +141,8 @@ public:
     /// Tells assistive technologies of the colour in effect.
     void OnInternalIdle() override;
 
-    /// One step of the animation; the last one shows the popup. The event is not used. Called for the ticks of the animation's
-    /// timer, which handlers of the host hear of as well, and not for those of other timers.
+    /// One step of the animation; the last one shows the popup. The event is not used. Called for the ticks of the
+    /// animation's timer, which handlers of the host hear of as well, and not for those of other timers.
     void OnTimerEvent(wxTimerEvent& event);
 
 protected:
@@ -157,7 +159,8 @@ protected:
     /// Draws the button, and the sign of the focus on it where there is no text field: the face is all colour.
     void DrawButton(wxDC& dc, const wxRect& rect, int flags) override;
 
-    /// The outline after @a elapsed milliseconds, from 0 to m_animDuration, in screen coordinates. It grows in 256 steps.
+    /// The outline after @a elapsed milliseconds, from 0 to m_animDuration, in screen coordinates. It grows in 256
+    /// steps.
     wxRect OutlineAt(int elapsed) const;
 
     wxLongLong m_animStart;    ///< Local time in milliseconds.

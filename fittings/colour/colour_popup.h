@@ -25,8 +25,8 @@ public:
     /// Another cell became hot; @a colour is that cell's.
     virtual void OnColourSelChange(const wxColour& colour);
 
-    /// @a colour was chosen. It is the one already in effect when no cell was hot, or when the dialog of "More Colours..."
-    /// was cancelled.
+    /// @a colour was chosen. It is the one already in effect when no cell was hot, or when the dialog of "More
+    /// Colours..." was cancelled.
     virtual void OnColourSelEnd(const wxColour& colour);
 
     /// Nothing was chosen; @a colour is the one that stays in effect.
@@ -47,9 +47,10 @@ public:
 /// A host that derives a class from this one gives it to a combo by wxComboCtrl::SetPopupControl().
 ///
 /// The other settings than the colour are made before the popup is shown. The colour that the user chose reaches the
-/// listener and the combo's wxEVT_COLOURPICKER_CHANGED, and is from then on the initial colour. A cell is named by its index: 0 to 39 for a colour of the palette, else one of the constants
-/// CELL_NONE, CELL_MORE_COLOURS and CELL_AUTOMATIC. The *hot* cell is the one under the pointer or reached by the
-/// keyboard; the *chosen* cell is the one of the colour in effect.
+/// listener and the combo's wxEVT_COLOURPICKER_CHANGED, and is from then on the initial colour. A cell is named by its
+/// index: 0 to 39 for a colour of the palette, else one of the constants CELL_NONE, CELL_MORE_COLOURS and
+/// CELL_AUTOMATIC. The *hot* cell is the one under the pointer or reached by the keyboard; the *chosen* cell is the one
+/// of the colour in effect.
 ///
 /// The texts are in the language that is set when the popup is made, the colours' names in the one that is set when the
 /// first popup of the process is made.
@@ -69,15 +70,15 @@ public:
     /// The colour in effect: what the combo's face and the "More Colours..." cell show. Black at first. An invalid
     /// colour asserts and is not taken.
     ///
-    /// The combo is redrawn, and no more: set it before the combo takes the popup, which marks "Automatic" then if this is
-    /// the default colour, and that mark stays. Later, SetColour() is what moves the mark.
+    /// The combo is redrawn, and no more: set it before the combo takes the popup, which marks "Automatic" then if this
+    /// is the default colour, and that mark stays. Later, SetColour() is what moves the mark.
     void SetInitialColour(const wxColour& colour);
 
-    /// Makes @a colour the one in effect, with the combo's face and value, the chosen cell and the mark of "Automatic". The
-    /// listener hears nothing of it, and no event is sent. False, and nothing changes, for an invalid colour.
+    /// Makes @a colour the one in effect, with the combo's face and value, the chosen cell and the mark of "Automatic".
+    /// The listener hears nothing of it, and no event is sent. False, and nothing changes, for an invalid colour.
     ///
-    /// It may be called at any time. While the popup is open, the colour stays in effect if nothing is chosen; while the
-    /// listener or an event hears of the colour that was chosen, it takes its place.
+    /// It may be called at any time. While the popup is open, the colour stays in effect if nothing is chosen; while
+    /// the listener or an event hears of the colour that was chosen, it takes its place.
     bool SetColour(const wxColour& colour);
 
     /// The colour in effect.
@@ -138,8 +139,8 @@ public:
     /// @a colour is: who chose it finds it marked again.
     void FindCellFromColour(const wxColour& colour);
 
-    /// The text of the hot cell; empty when none is hot. While a cancelled selection closes the popup, or one whose colour
-    /// SetColour() has replaced, the combo's value.
+    /// The text of the hot cell; empty when none is hot. While a cancelled selection closes the popup, or one whose
+    /// colour SetColour() has replaced, the combo's value.
     wxString GetStringValue() const override;
 
     /// Makes the colour of that name hot, in the language and the letter case that the table has it in. Any other text,
@@ -200,8 +201,8 @@ public:
     /// @name Mouse and keyboard
     /// @{
 
-    /// The combo shows the popup: nothing is hot yet and no name is shown at the pointer, the cell of the colour in effect
-    /// is chosen, and the listener hears of it.
+    /// The combo shows the popup: nothing is hot yet and no name is shown at the pointer, the cell of the colour in
+    /// effect is chosen, and the listener hears of it.
     void OnPopup() override;
 
     /// The combo hides the popup. Unless the popup does that itself, the listener hears that nothing was chosen.
@@ -214,15 +215,16 @@ public:
     /// Tells the listener, and the combo where SetRefreshCombo() says so, of the hot cell's colour.
     void DoSelChange();
 
-    /// Ends the selection: with the hot cell's colour, asked for in the dialog where that is CELL_MORE_COLOURS, or, unless
+    /// Ends the selection: with the hot cell's colour, asked for in the dialog where that is CELL_MORE_COLOURS, or,
+    /// unless
     /// @a ok, with the one that was in effect.
     void EndSelection(bool ok);
 
     /// Tells the listener of the end, and makes a colour that was chosen the initial one.
     void DoEndSel(bool ok);
 
-    /// Asks for a colour in the toolkit's dialog, which begins with the one in effect. Its answer takes effect; a cancelled
-    /// dialog leaves the colour as it was.
+    /// Asks for a colour in the toolkit's dialog, which begins with the one in effect. Its answer takes effect; a
+    /// cancelled dialog leaves the colour as it was.
     void DoShowColorDlg();
 
     /// Makes the cell under the pointer hot; where there is none, what was hot stays so.
@@ -236,13 +238,13 @@ public:
 
     /// The arrows move the hot cell, Enter and the space bar choose it, Escape cancels. Other keys are skipped.
     ///
-    /// The cells follow one another in a circle: "Automatic", the palette row by row, "More Colours...". While none is hot,
-    /// Down and Right begin with "More Colours...", Up and Left with "Automatic".
+    /// The cells follow one another in a circle: "Automatic", the palette row by row, "More Colours...". While none is
+    /// hot, Down and Right begin with "More Colours...", Up and Left with "Automatic".
     void OnKeyDown(wxKeyEvent& event);
 
-    /// A key of the combo that has the focus while the popup is closed. With wxCB_READONLY, Up chooses the colour before the
-    /// one in effect and Down the one after: the listener hears of the choice, and the combo sends its event. They do
-    /// nothing at the first and the last cell, and do not move the focus. Other keys are skipped.
+    /// A key of the combo that has the focus while the popup is closed. With wxCB_READONLY, Up chooses the colour
+    /// before the one in effect and Down the one after: the listener hears of the choice, and the combo sends its
+    /// event. They do nothing at the first and the last cell, and do not move the focus. Other keys are skipped.
     void OnComboKeyEvent(wxKeyEvent& event) override;
     /// @}
 

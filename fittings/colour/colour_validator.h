@@ -7,24 +7,25 @@
 
 class wxColour;
 
-/// Carries a colour between the host's variable and a wxColourCombo, as wxGenericValidator does for the toolkit's controls.
-/// It takes a wxColourPickerCtrl as well.
+/// Carries a colour between the host's variable and a wxColourCombo, as wxGenericValidator does for the toolkit's
+/// controls. It takes a wxColourPickerCtrl as well.
 ///
 /// @code
 /// wxColour line = *wxBLUE;
 /// wxDialog dialog(nullptr, wxID_ANY, "Line");
-/// new wxColourCombo(&dialog, wxID_ANY, *wxBLACK, wxDefaultPosition, wxDefaultSize, wxCB_READONLY, wxColourValidator(&line));
+/// new wxColourCombo(&dialog, wxID_ANY, *wxBLACK, wxDefaultPosition, wxDefaultSize, wxCB_READONLY,
+///                   wxColourValidator(&line));
 /// if (dialog.ShowModal() == wxID_OK)
 ///     Draw(line);
 /// @endcode
 ///
-/// Every colour is valid. The toolkit's class queries take this class for a wxValidator: use dynamic_cast. A derived class
-/// overrides Clone(), or the control keeps a wxColourValidator. GUI thread only.
+/// Every colour is valid. The toolkit's class queries take this class for a wxValidator: use dynamic_cast. A derived
+/// class overrides Clone(), or the control keeps a wxColourValidator. GUI thread only.
 class FITTINGS_API wxColourValidator : public wxValidator
 {
 public:
-    /// @a colour is not owned and must outlive the validator and each control that it was set on; with a null one nothing
-    /// is transferred.
+    /// @a colour is not owned and must outlive the validator and each control that it was set on; with a null one
+    /// nothing is transferred.
     explicit wxColourValidator(wxColour* colour);
 
     /// Copies the pointer to the colour, and not the window.
@@ -38,12 +39,12 @@ public:
     /// Returns true. @a parent is not used.
     bool Validate(wxWindow* parent) override;
 
-    /// Shows the host's colour in the control, which sends no event. False, and nothing changes, for an invalid colour and
-    /// for a control of another class.
+    /// Shows the host's colour in the control, which sends no event. False, and nothing changes, for an invalid colour
+    /// and for a control of another class.
     bool TransferToWindow() override;
 
-    /// Copies the control's colour to the host's. False, and nothing changes, for a control of another class, and for one
-    /// that has no colour.
+    /// Copies the control's colour to the host's. False, and nothing changes, for a control of another class, and for
+    /// one that has no colour.
     bool TransferFromWindow() override;
 
 protected:

@@ -15,8 +15,8 @@
 /// Each text may be of any kind, wxString, std::string, std::wstring, or a wide or narrow literal, and each of another:
 /// fittings::TextArgument.
 ///
-/// A file name is joined to the folder as it is, and not checked: "../x.ini" is a file outside of the folder, and a name
-/// with a folder in it needs that folder. Take names of the program's own, never one that a user can choose.
+/// A file name is joined to the folder as it is, and not checked: "../x.ini" is a file outside of the folder, and a
+/// name with a folder in it needs that folder. Take names of the program's own, never one that a user can choose.
 ///
 /// @code
 /// ui_config_mgr::WriteConfigInt(L"search.ini", L"Results", L"PageSize", 50);

@@ -16,8 +16,9 @@ class wxWindow;
 ///     Import(folder);
 /// @endcode
 ///
-/// Folders are neither checked, made nor changed: a remembered folder that is gone is handed to the dialog as it is. Given
-/// no folder, or one that is gone, the dialog shows the home folder. Each text may be of any kind: fittings::TextArgument.
+/// Folders are neither checked, made nor changed: a remembered folder that is gone is handed to the dialog as it is.
+/// Given no folder, or one that is gone, the dialog shows the home folder. Each text may be of any kind:
+/// fittings::TextArgument.
 class FITTINGS_API wxFolderDlg
 {
 public:

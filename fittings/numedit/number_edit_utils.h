@@ -41,14 +41,15 @@ public:
     ///
     /// Accepted is a sign, digits, a point and digits, and then an exponent, each as far as the format allows it.
     /// Whatever begins such a number is accepted too: the empty text, a lone sign, a lone point, "1." and "1e-". The
-    /// exponent's letter may be left out, as in "12-5". Group separators, blanks and a trailing minus are not accepted, and so
-    /// not everything that FormatControlText() shows.
+    /// exponent's letter may be left out, as in "12-5". Group separators, blanks and a trailing minus are not accepted,
+    /// and so not everything that FormatControlText() shows.
     ///
     /// The point is the format's or the locale's; none is accepted where the toolkit's current conversion cannot read
     /// the locale's. A digit as the format's point stands for the point wherever it is typed.
     ///
     /// Bounds are checked against what wcstod() reads, which is 0 of a text that is no number yet: with a lowest value
-    /// above 0 or a highest one below 0, the empty text and a lone sign are refused. Where the lowest value is above the highest, every text is.
+    /// above 0 or a highest one below 0, the empty text and a lone sign are refused. Where the lowest value is above
+    /// the highest, every text is.
     static bool ValidateString(const wchar_t* text, const CNumberFormat& format);
 
     /// Whether @a text may stand in a field while a user types.

@@ -70,11 +70,11 @@ public:
     /// @name Limits, each in force only while its flag is set
     /// A limit that is not in force is never read.
     ///
-    /// Bounds are checked while the user types, too, against the number as far as it is typed. A number within them that
-    /// has no exponent can be typed where the lowest value is 0 or less and the highest 0 or more. With a lowest value of
-    /// 1, 0.1, 0.01 and so on it can be typed as well, without a plus sign, and a fraction with "0." at its beginning.
-    /// Other bounds refuse the beginning of numbers that they accept: a lowest value of 10 refuses the "1" of "12", a
-    /// highest value below 0 refuses each "-". Leave such a bound out, and check it when the dialog ends.
+    /// Bounds are checked while the user types, too, against the number as far as it is typed. A number within them
+    /// that has no exponent can be typed where the lowest value is 0 or less and the highest 0 or more. With a lowest
+    /// value of 1, 0.1, 0.01 and so on it can be typed as well, without a plus sign, and a fraction with "0." at its
+    /// beginning. Other bounds refuse the beginning of numbers that they accept: a lowest value of 10 refuses the "1"
+    /// of "12", a highest value below 0 refuses each "-". Leave such a bound out, and check it when the dialog ends.
     /// @{
 
     /// Where false, no decimals are accepted, and those of a shown number are left as they are.

@@ -44,16 +44,16 @@ NumberState Judge(std::wstring_view text, const NumberRules& rules);
 
 /// Whether @a text is empty, a number within the bounds, or the beginning of one.
 ///
-/// Zeros in front are no other number: "007" is 7. A minus needs a number below 0 that begins so: with a lowest value of
-/// 0, "-0" is a number within the bounds and "-" is refused all the same.
+/// Zeros in front are no other number: "007" is 7. A minus needs a number below 0 that begins so: with a lowest value
+/// of 0, "-0" is a number within the bounds and "-" is refused all the same.
 bool CanBeTyped(std::wstring_view text, const NumberRules& rules);
 
 /// The number that plain text is, whatever the bounds and how many digits are allowed.
 std::optional<Decimal> NumberIn(std::wstring_view text, wchar_t point);
 
 /// The plain text of a text that CNumberEditUtils::FormatControlText() may have made: with blanks around it, in the
-/// template or without it, with groups of three digits, and with the minus in front or behind. Nothing where the text is
-/// no number, or one of more digits than are allowed.
+/// template or without it, with groups of three digits, and with the minus in front or behind. Nothing where the text
+/// is no number, or one of more digits than are allowed.
 std::optional<std::wstring> PlainTextOf(std::wstring_view text, const CNumberFormat& format);
 
 /// A decimal text as plain text with that point.

@@ -40,8 +40,8 @@ class CIniFile;
 /// Every text may hold any character, line breaks and lone surrogates included, and comes back exactly; null counts as
 /// empty. Sections, keys and values are told apart by their exact characters, upper and lower case included.
 ///
-/// Each text may be given as any kind, wxString, std::string, std::wstring, or a wide or narrow literal, and each as another:
-/// fittings::TextArgument.
+/// Each text may be given as any kind, wxString, std::string, std::wstring, or a wide or narrow literal, and each as
+/// another: fittings::TextArgument.
 ///
 /// The default store is the file settings.ini in std_file_paths::GetUserDataDir(), shared by all processes of one
 /// application. A write re-reads it, changes its own keys alone, and is on the disk when it returns true; a write by
@@ -258,8 +258,8 @@ public:
         return SaveChanges(fittings::TextArgument(path), changes);
     }
 
-    /// As the operation of wide text. Given a narrow text, and none that is wide alone, as the operation of narrow text, which
-    /// returns a std::string.
+    /// As the operation of wide text. Given a narrow text, and none that is wide alone, as the operation of narrow
+    /// text, which returns a std::string.
     template <typename Section, typename Key, typename Default, fittings::IfMixedTexts<Section, Key, Default> = 0>
     static auto GetString(const Section& section, const Key& key, const Default& defaultValue)
     {

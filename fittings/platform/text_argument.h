@@ -14,8 +14,8 @@ template <typename Text>
 constexpr bool kIsWideText =
     std::is_convertible_v<const Text&, const wchar_t*> || std::is_convertible_v<const Text&, std::wstring>;
 
-/// Whether a type is narrow text: char pointers and literals, std::string, and what else converts to these. The toolkit's
-/// texts are wide, and narrow too where it converts them to `const char*` unasked.
+/// Whether a type is narrow text: char pointers and literals, std::string, and what else converts to these. The
+/// toolkit's texts are wide, and narrow too where it converts them to `const char*` unasked.
 template <typename Text>
 constexpr bool kIsNarrowText =
     std::is_convertible_v<const Text&, const char*> || std::is_convertible_v<const Text&, std::string>;
@@ -26,8 +26,8 @@ constexpr bool kAreNarrowTexts = (kIsNarrowText<Texts> && ...) && !(kIsWideText<
 
 /// A text of any kind, as a function that takes a `const wchar_t*` is given it: for the length of that call.
 ///
-/// Narrow text is taken as UTF-8, whatever the locale, as file_util_ex::ConvertFromUTF8W() reads it. A text ends at its first
-/// null character, as behind a pointer; a null pointer stays one.
+/// Narrow text is taken as UTF-8, whatever the locale, as file_util_ex::ConvertFromUTF8W() reads it. A text ends at its
+/// first null character, as behind a pointer; a null pointer stays one.
 class TextArgument
 {
 public:
@@ -78,8 +78,8 @@ std::string NarrowText(const Text& text)
     }
 }
 
-/// Chooses a function for @a count texts of any kind, where the function of `const wchar_t*` beside it cannot be called: all
-/// calls that compile without the chosen one mean what they mean without it.
+/// Chooses a function for @a count texts of any kind, where the function of `const wchar_t*` beside it cannot be
+/// called: all calls that compile without the chosen one mean what they mean without it.
 template <std::size_t count, typename... Texts>
 using IfTexts = std::enable_if_t<sizeof...(Texts) == count && ((kIsWideText<Texts> || kIsNarrowText<Texts>)&&...) &&
                                      !(std::is_convertible_v<const Texts&, const wchar_t*> && ...),

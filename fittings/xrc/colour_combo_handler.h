@@ -30,9 +30,11 @@ class wxColourPopup;
 /// | --- | --- | --- |
 /// | `style` | style | those of wxComboCtrl and of every window; none, which gives a text field |
 /// | `colour` | colour | wxColourCombo::SetColour(); none |
-/// | `value` | text or colour | of the text field; "#FF0000" and "rgb(255, 0, 0)" are taken as `colour`, as with a wxColourPickerCtrl; empty |
+/// | `value` | text or colour | of the text field; "#FF0000" and "rgb(255, 0, 0)" are taken as `colour`, as with a
+/// wxColourPickerCtrl; empty |
 /// | `buttonsize` | size | of the drop-down button; what the toolkit takes |
-/// | `initial-colour` | colour | wxColourPopup::SetInitialColour(), which leaves the text of the field as it is; black |
+/// | `initial-colour` | colour | wxColourPopup::SetInitialColour(), which leaves the text of the field as it is; black
+/// |
 /// | `default-colour` | colour | wxColourPopup::SetDefaultColour(); black |
 /// | `automatic-text` | text | wxColourPopup::SetAutomaticText(), an empty one takes the box away; "Automatic" |
 /// | `more-colours-text` | text | wxColourPopup::SetMoreColoursText(), likewise; "More Colours..." |

@@ -75,8 +75,8 @@ TEST_P(ScreenReaderInTheGallery, HasANameForAllThatTakesTheFocus)
     EXPECT_THAT(said, IsSupersetOf(names[GetParam()]));
 }
 
-// What is in the tool bar has keys of its own, which its description tells. What is scrolled takes the focus itself, and a
-// choice has it in a part that is not told of.
+// What is in the tool bar has keys of its own, which its description tells. What is scrolled takes the focus itself,
+// and a choice has it in a part that is not told of.
 TEST_P(ScreenReaderInTheGallery, IsLedByTabToAllThatTakesTheFocus)
 {
     std::set<std::string> expected;

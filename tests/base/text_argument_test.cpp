@@ -142,7 +142,8 @@ TEST(TextsOfAnyKind, KeepTheirOrder)
     EXPECT_EQ(Stored(L"section", L"number"), L"3");
 }
 
-// Dialogs and windows are tried with a platform and a display of their own; here it is enough that all of it is compiled.
+// Dialogs and windows are tried with a platform and a display of their own; here it is enough that all of it is
+// compiled.
 [[maybe_unused]] void CompilesForDialogsAndWindows(wxFrame* frame, wxAuiManager* panes, wxHandyTreeCtrl& tree)
 {
     WithEachKind<5>([](const auto&... texts) { CQVFileDialogI::LaunchSaveDialog(nullptr, texts...); });

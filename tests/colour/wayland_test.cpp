@@ -104,8 +104,8 @@ protected:
     // A hot cell has a dark line at its right, two pixels from its edge.
     static bool IsHot(const wxPoint& middle) { return Pixel(middle + wxPoint(7, 0)) == 0; }
 
-    // What cell 1 has repainted when it follows cell 0: the two cells and the sides of the frame, and never all of the popup
-    // but when it opens.
+    // What cell 1 has repainted when it follows cell 0: the two cells and the sides of the frame, and never all of the
+    // popup but when it opens.
     static void ExpectLastRepaint(const WatchedProbe& probe)
     {
         const std::vector<std::string> parts = probe.Lines("repaints ");
@@ -131,8 +131,8 @@ protected:
         EXPECT_EQ(part(1).GetBottom(), height - 1);
     }
 
-    // Moves the pointer to a place until a program has heard of it. The compositor believes the pointer's place only when
-    // it comes into its window, and does not always tell of a single move.
+    // Moves the pointer to a place until a program has heard of it. The compositor believes the pointer's place only
+    // when it comes into its window, and does not always tell of a single move.
     static void Move(const wxPoint& at, const std::function<bool()>& done)
     {
         const auto deadline = std::chrono::steady_clock::now() + Patience() * std::chrono::seconds(15);

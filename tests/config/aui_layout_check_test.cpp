@@ -1,4 +1,5 @@
-// What counts as a stored AUI layout: what the toolkit writes does, and what it could not read back at once does not.
+// Which texts count as a stored AUI layout: those that the toolkit writes, and none that it could not read back at
+// once.
 
 #include <fittings/config/aui_layout.h>
 
@@ -45,7 +46,7 @@ TEST(AuiLayout, IsWhatTheToolkitWrites)
 TEST(AuiLayout, IsNotATextThatIsCut)
 {
     for (std::size_t length = 0; length < kWhole.size(); ++length) {
-        // A cut between two panes or docks leaves a whole layout.
+        // A text that is cut between two panes or docks is still a whole layout.
         const bool isBetweenParts = length > 0 && kWhole[length - 1] == L'|';
         EXPECT_EQ(IsLayout(kWhole.substr(0, length)), isBetweenParts) << "after " << length;
     }

@@ -57,7 +57,7 @@ TEST(LoadAuiManagerState, LeavesAManagerAloneWhenNothingIsStored)
 {
     const TempUserData data;
     AuiFrame frame;
-    frame.Pane("log").Hide();  // Not updated yet, and to stay so.
+    frame.Pane("log").Hide();  // The manager is deliberately not updated.
     const wxString before = frame.manager.SavePerspective();
     EXPECT_FALSE(wx_window_state::LoadAuiManagerState(&frame.manager, L"Main"));
     Plant("");
@@ -220,14 +220,14 @@ TEST_F(DamagedLayout, ThatIsCutIsNotLoaded)
     }
 }
 
-// The toolkit opens its assertion for these.
+// The toolkit asserts on these.
 TEST_F(DamagedLayout, WithAnUnknownFieldIsNotLoaded)
 {
     ExpectNotLoaded(With("state=", "stat="));
     ExpectNotLoaded(With(";floath=", ";floath=1;more="));
 }
 
-// The toolkit spins over these for minutes.
+// The toolkit takes minutes for these.
 TEST_F(DamagedLayout, WithARowFarOutIsNotLoaded)
 {
     ExpectNotLoaded(With("row=0", "row=2147483647"));
@@ -235,7 +235,7 @@ TEST_F(DamagedLayout, WithARowFarOutIsNotLoaded)
     ExpectNotLoaded(With("dock_size(4,0,0)", "dock_size(4,0,2147483647)"));
 }
 
-// These add up to zero, which the toolkit divides by.
+// These proportions add up to zero, and the toolkit divides by the sum.
 TEST_F(DamagedLayout, WithANegativeProportionIsNotLoaded)
 {
     ExpectNotLoaded(With("dir=4;layer=0;row=0;pos=0;prop=100000", "dir=3;layer=0;row=0;pos=0;prop=-100000"));

@@ -1,4 +1,4 @@
-// ui_config_mgr against a platform that notes every call it gets, and can fail any one of them.
+// ui_config_mgr on a platform that records every call and can fail any of them.
 
 #include <fittings/config/ui_config_mgr.h>
 
@@ -51,7 +51,7 @@ TEST_F(ConfigCalls, OfGetConfigString)
                                        L"get [section] [key] []", L"destroy"}));
 }
 
-// A store that answers from a file it could not read is not asked.
+// A file that could not be read is not asked for values.
 TEST_F(ConfigCalls, OfGetConfigStringFromAFileThatIsMissing)
 {
     g_platform.folderExists = false;

@@ -14,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Calls every operation once, a value between them.
+/// Calls every operation once, with one value among them.
 void UseAll(const std::wstring& file)
 {
     ui_config_mgr::WriteConfigString(file.c_str(), L"s", L"k", L"v");
@@ -29,7 +29,7 @@ std::wstring ValueIn(const std::wstring& file)
     return ui_config_mgr::GetConfigString(file.c_str(), L"s", L"k");
 }
 
-/// A file name that names no file which could be made.
+/// A file name under which no file can be made.
 struct Name
 {
     const char* name;
@@ -56,7 +56,7 @@ INSTANTIATE_TEST_SUITE_P(, ImpossibleFileName,
                                          Name{"Megabyte", std::wstring(1 << 20, L'\u20ac')}),
                          [](const auto& info) { return info.param.name; });
 
-/// A file name that is odd, and the file it names below the user data folder.
+/// An odd file name, and the file that it means below the user data folder.
 struct Odd
 {
     const char* name;
@@ -201,7 +201,7 @@ TEST(SettingsFileWithoutPermission, ReadsAsEmptyAndIsNotReplaced)
     EXPECT_EQ(ReadFile(data / "ui_config/a.ini"), "[s]\nk=secret\n");
 }
 
-// No one can make a folder there, root included.
+// Nobody can make a folder there, not even root.
 TEST(UserDataFolderThatCannotBeMade, ReadsAsEmpty)
 {
     const TempUserData data;

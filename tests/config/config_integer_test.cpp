@@ -106,7 +106,7 @@ struct Bad
     std::wstring text;
 };
 
-/// What the exception says; empty when none of this type, or of one derived from it, is thrown.
+/// The text of the exception; empty when none of this type is thrown.
 template <typename Exception>
 std::string Thrown()
 {

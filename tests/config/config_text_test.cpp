@@ -100,7 +100,7 @@ TEST(WriteConfigString, ReplacesOneValueAndKeepsTheOthers)
     EXPECT_EQ(ui_config_mgr::GetConfigString(L"a.ini", L"two", L"k"), L"3");
 }
 
-// Unlike the default store, which keeps a lock beside its file.
+// The default store keeps a lock file beside its file; named files have none.
 TEST(WriteConfigString, TakesNoLock)
 {
     const TempUserData data;

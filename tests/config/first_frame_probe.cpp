@@ -1,9 +1,9 @@
-// first_frame_probe KIND store X;Y;WIDTH;HEIGHT: shows a frame, gives it this geometry, or with "corner" 500 x 340 pixels in
-// the corner of the work area, and stores it. first_frame_probe KIND restore: restores a frame and shows it as the first
-// window of the process. Both print the geometry on the screen when it is the one that is expected and stays so, or else
-// the last one that was seen. KIND is "plain", "menu" or "fixed"; "persistent" for a plain
-// frame that the toolkit's persistence restores and stores; or "corrected": a plain frame whose restored program is first
-// told of other decorations than it gets.
+// first_frame_probe KIND store X;Y;WIDTH;HEIGHT: shows a frame, gives it this geometry, or with "corner" 500 x 340
+// pixels in the corner of the work area, and stores it. first_frame_probe KIND restore: restores a frame and shows it
+// as the first window of the process. Both print the geometry on the screen once it is the expected one and stays so,
+// otherwise the last one that was seen. KIND is "plain", "menu" or "fixed"; "persistent" for a plain frame that
+// the toolkit's persistence restores and stores; or "corrected" for a plain frame that is restored after the window
+// manager has announced decorations of another size.
 
 #include <cstdio>
 #include <cstdlib>
@@ -35,8 +35,8 @@ std::string Text(const wxRect& rect)
     return wxString::Format("%d;%d;%d;%d", rect.x, rect.y, rect.width, rect.height).utf8_string();
 }
 
-/// Where the frame is on the screen with the decorations that a user can see, as the X server has it; empty until the
-/// window manager has put them around it.
+/// Where the X server has the frame on the screen, with its decorations; empty until the window manager has added
+/// them.
 wxRect OnScreen(const wxFrame& frame)
 {
     GdkWindow* const window = gtk_widget_get_window(frame.GetHandle());
@@ -68,12 +68,13 @@ wxRect OnScreen(const wxFrame& frame)
     return rect;
 }
 
-/// Has the toolkit take decorations of another size off the frame's than it gets, as some window managers do.
+/// Announces decorations of another size than the frame gets, as some window managers do, and waits for the toolkit to
+/// see it.
 void TellOtherDecorations(wxFrame& frame)
 {
     GdkWindow* const window = gtk_widget_get_window(frame.GetHandle());
     Display* const display = GDK_WINDOW_XDISPLAY(window);
-    // Until the end nobody else is served, the window manager neither.
+    // Until the ungrab the X server serves nobody else, not even the window manager.
     XGrabServer(display);
     const long extents[] = {3, 4, 30, 40};
     XChangeProperty(display, GDK_WINDOW_XID(window), XInternAtom(display, "_NET_FRAME_EXTENTS", False), XA_CARDINAL, 32,
@@ -155,7 +156,7 @@ private:
         const bool isLate = m_watch.Time() > Patience() * kLongest;
         if (m_same < kTimesTheSame && !isLate)
             return;
-        // A frame that is shown may be moved and sized by its program.
+        // A program may move and size a frame that is shown.
         if (m_stores && now != m_wanted && !isLate) {
             m_frame->SetSize(m_wanted);
             m_same = 0;

@@ -28,7 +28,7 @@ TEST_P(FirstFrame, ComesBackInItsPlace)
     ExpectBack("420;130;510;340");
 }
 
-// Where a frame is that was never moved: the toolkit then leaves the place to the window manager.
+// The position of a frame that was never moved: the toolkit then leaves the place to the window manager.
 TEST_P(FirstFrame, ComesBackInTheCorner)
 {
     ExpectBack("corner");

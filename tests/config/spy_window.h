@@ -8,14 +8,14 @@
 #include <wx/frame.h>
 #include <wx/panel.h>
 
-/// A window that notes each call to set its size, as "x;y;width;height flags".
+/// A window that records each call to set its size, as "x;y;width;height flags".
 template <typename Window>
 class SpyWindow : public Window
 {
 public:
     using Window::Window;
 
-    /// Returns the calls since the last time.
+    /// Returns the calls since the previous call of this function.
     std::vector<std::string> TakeCalls() { return std::exchange(m_calls, {}); }
 
 protected:
@@ -30,7 +30,7 @@ private:
     std::vector<std::string> m_calls;
 };
 
-/// A frame that is hidden until it is shown, and goes when the object does.
+/// A frame that is hidden at first and destroyed with this object.
 class SpyFrame : public SpyWindow<wxFrame>
 {
 public:
@@ -41,7 +41,7 @@ public:
     }
 };
 
-/// The calls that SpyWindow notes.
+/// The calls that SpyWindow records.
 using SizeCalls = std::vector<std::string>;
 
 #endif

@@ -1,4 +1,4 @@
-// wx_window_state against a platform that notes every call it gets.
+// wx_window_state on a platform that records every call.
 
 #include <fittings/config/wx_window_state.h>
 
@@ -10,7 +10,7 @@
 
 #include <tests/support/noting_platform.h>
 
-// In place of the toolkit's.
+// Replaces the toolkit's function.
 bool wxAuiManager::LoadPerspective(const wxString& layout, bool update)
 {
     Note(L"lay out", {layout.ToStdWstring(), update ? L"at once" : L"later"});
@@ -79,7 +79,7 @@ TEST_F(WindowCalls, OfLoadStateOfAFrameWithoutAGeometry)
     }
 }
 
-/// Stays where no display is.
+/// A window that stays off every display.
 class FrameOutOfSight : public wxFrame
 {
 public:

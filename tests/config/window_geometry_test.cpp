@@ -27,7 +27,7 @@ void Plant(const std::wstring& text, const wchar_t* name = L"w")
     CLocalRegStore::WriteString(L"wxWindowState", name, text.c_str());
 }
 
-// What the calls for any window and for a frame give.
+// The results of the calls for any window and for a frame.
 template <typename Window>
 constexpr bool kSavesNothingAndLoadsBool =
     std::is_void_v<decltype(wx_window_state::SaveState(static_cast<Window*>(nullptr), L""))>&&
@@ -96,7 +96,7 @@ TEST(SaveState, TakesANullNameForTheEmptyOne)
     EXPECT_EQ(other.GetRect(), wxRect(100, 50, 800, 600));
 }
 
-/// Notes the order in which a frame is asked.
+/// Records the order of the questions to a frame.
 class AskedFrame : public wxFrame
 {
 public:
@@ -218,7 +218,7 @@ TEST(LoadState, LogsNothingAboutAChildOfAHiddenFrame)
     EXPECT_EQ(log.count, 0);
 }
 
-// No one can make a folder there, root included.
+// Nobody can make a folder there, not even root.
 TEST(SettingsThatCannotBeStored, GoUnnoticed)
 {
     const TempUserData data;

@@ -18,7 +18,7 @@ int g_handlersDestroyed = 0;
 
 }  // namespace
 
-// In place of the toolkit's destructor of event handlers, which does the same but for the counting.
+// Replaces the toolkit's destructor of event handlers: does the same, and counts.
 extern "C" void DestroyHandler(wxEvtHandler* handler) __asm__("_ZN12wxEvtHandlerD2Ev");
 
 extern "C" void DestroyHandler(wxEvtHandler* handler)
@@ -31,7 +31,7 @@ extern "C" void DestroyHandler(wxEvtHandler* handler)
 
 namespace {
 
-/// Counts the calls to maximise it.
+/// A frame that counts the calls to maximise it.
 class CountingFrame : public wxFrame
 {
 public:
@@ -64,7 +64,7 @@ bool MaximizeAndSettle(wxFrame* frame)
     return PumpUntil([&] { return frame->IsMaximized() && frame->GetSize() == wxSize(1264, 960); });
 }
 
-/// Posts what the toolkit posts when a frame was maximised.
+/// Posts the event that the toolkit posts when a frame is maximised.
 void PostMaximizeEvent(wxFrame* frame, wxObject* object)
 {
     wxMaximizeEvent event(frame->GetId());
@@ -328,7 +328,7 @@ TEST(MaximizeFrame, DestroysItsHandlerOnceItHasActed)
     EXPECT_EQ(g_handlersDestroyed, before + 1);
 }
 
-// The frame does not own the handler: destroyed first, it takes down no more than it does without one.
+// The frame does not own the handler: destroying the frame first destroys no handler.
 TEST(MaximizeFrame, LeavesItsHandlerToNobodyWhenTheFrameGoesFirst)
 {
     auto plain = std::make_unique<CountingFrame>();

@@ -27,7 +27,7 @@ TEST(Display, HasTheWorkAreaThatTheseTestsExpect)
     EXPECT_EQ(wxDisplay(0u).GetClientArea(), wxRect(16, 24, 1264, 960));
 }
 
-/// A stored geometry, the calls that follow setting it, and what the window comes to.
+/// A stored geometry, the calls that restoring it makes, and the geometry of the window then.
 struct Restored
 {
     const char* name;
@@ -82,13 +82,13 @@ INSTANTIATE_TEST_SUITE_P(
         Restored{"JustAbove", L"100;-200;300;200", {"0;0;-1;-1 0", "16;24;284;176 3"}, wxRect(16, 24, 284, 176)},
         Restored{
             "OffAndOversize", L"5000;5000;3000;3000", {"0;0;-1;-1 0", "16;24;1264;960 3"}, wxRect(16, 24, 1264, 960)},
-        // On the display, but wholly under a panel: nothing of these would be left.
+        // On the display, but wholly under a panel: clipping to the work area would leave nothing.
         Restored{"UnderTheBottomPanel", L"100;990;300;30", {"100;954;300;30 3"}, wxRect(100, 954, 300, 30)},
         Restored{"UnderTheTopPanel", L"100;-180;300;200", {"100;24;300;200 3"}, wxRect(100, 24, 300, 200)},
         Restored{"UnderTheLeftPanel", L"-290;100;300;200", {"16;100;300;200 3"}, wxRect(16, 100, 300, 200)},
         Restored{"UnderTheBottomPanelOversize", L"-9;984;3000;2000", {"16;24;1264;960 3"}, wxRect(16, 24, 1264, 960)},
         Restored{"OffAndLow", L"5000;5000;300;20", {"0;0;-1;-1 0", "16;24;300;20 3"}, wxRect(16, 24, 300, 20)},
-        // The window manager is to choose the place.
+        // The window manager chooses the place.
         Restored{"NoPosition", L"-1;-1;300;200", {}, wxRect(-1, -1, 300, 200)},
         Restored{"NoPositionOversize", L"-1;-1;1280;1024", {"16;24;1264;960 3"}, wxRect(16, 24, 1264, 960)},
         Restored{"HalfAPosition", L"-1;100;300;200", {"16;100;283;200 3"}, wxRect(16, 100, 283, 200)}),
@@ -224,7 +224,7 @@ TEST(ShownFrame, IsClippedToo)
     EXPECT_TRUE(PumpUntil([&] { return frame.GetScreenRect() == wxRect(1100, 900, 180, 84); }));
 }
 
-// Moving the child to its parent's corner does not bring it onto a display.
+// At its parent's corner the child is still on no display.
 TEST(ChildOfAFrameThatIsOffEveryDisplay, StaysAtTheParentsCorner)
 {
     const TempUserData data;
@@ -237,7 +237,7 @@ TEST(ChildOfAFrameThatIsOffEveryDisplay, StaysAtTheParentsCorner)
     EXPECT_EQ(panel.GetRect(), wxRect(0, 0, 200, 100));
 }
 
-// Where it is on the screen says whether it is on a display, not where it is in its parent.
+// Its place on the screen decides whether it is on a display, not its place in its parent.
 TEST(ChildLeftOfAShownParent, IsOnTheDisplay)
 {
     const TempUserData data;

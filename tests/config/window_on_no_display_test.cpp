@@ -1,4 +1,4 @@
-// A window that the toolkit finds on no display.
+// A window that is on no display according to the toolkit.
 
 #include <fittings/config/wx_window_state.h>
 
@@ -15,12 +15,12 @@
 
 namespace {
 
-// What the toolkit is to say from now on, the last first.
+// The next answers of the toolkit, in reverse order.
 std::vector<int> g_answers;
 
 }  // namespace
 
-// In place of the toolkit's, which it calls where it has no answer of its own.
+// Replaces the toolkit's function, and calls it when no answer is prepared.
 int wxDisplay::GetFromWindow(const wxWindow* window)
 {
     if (!g_answers.empty()) {
@@ -36,7 +36,7 @@ int wxDisplay::GetFromWindow(const wxWindow* window)
 
 namespace {
 
-// The first two calls are those that apply what is stored.
+// The first two calls apply the stored geometry.
 TEST(WindowOnNoDisplay, IsMovedToTheFirstAndStaysThereIfThatDoesNotHelp)
 {
     const TempUserData data;

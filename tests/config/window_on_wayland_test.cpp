@@ -41,7 +41,7 @@ TEST(DisplayOfTheseTests, IsWayland)
     EXPECT_EQ(wxGetDisplayInfo().type, wxDisplayWayland);
 }
 
-// The place that the frame believes to have is the compositor's affair; it must not creep either.
+// The compositor decides the position that the frame reports, but the position must not drift from run to run.
 TEST(FrameOnWayland, ComesBackInTheSameSizeEachTime)
 {
     const TempUserData data;

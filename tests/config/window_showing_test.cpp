@@ -1,4 +1,4 @@
-// A restored window that is not shown, or not for long.
+// A restored window that is not shown, or shown only briefly.
 
 #include <fittings/config/wx_window_state.h>
 
@@ -52,7 +52,7 @@ TEST_F(RestoredFrame, MayBeDestroyedAtOnce)
     PumpPending();
 }
 
-// Each time that it is restored before it is shown, and no time later.
+// A size that the program sets after restoring wins.
 TEST_F(RestoredFrame, GoesWhereItsProgramPutsIt)
 {
     EXPECT_TRUE(wx_window_state::LoadState(frame, L"Main"));

@@ -11,7 +11,7 @@
 
 namespace {
 
-// A text of GLib's, which may be null, and is freed.
+// Takes over a text of GLib, which may be null.
 std::string Take(char* text)
 {
     std::string result = text ? text : "";
@@ -76,7 +76,7 @@ int AcceptWhen(wxFileDialog& dialog, const std::function<bool()>& isReady)
         if (watch.Time() > 60000)
             gtk_dialog_response(shown, GTK_RESPONSE_CANCEL);
         else if (gtk_widget_get_mapped(GTK_WIDGET(shown)) && isReady())
-            gtk_dialog_response(shown, GTK_RESPONSE_ACCEPT);  // which it may ignore while it is not ready
+            gtk_dialog_response(shown, GTK_RESPONSE_ACCEPT);  // ignored while the dialog is not ready
     });
     timer.Start(10);
     return dialog.ShowModal();

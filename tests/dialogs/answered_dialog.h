@@ -13,7 +13,7 @@
 
 #include <tests/support/temp_folder.h>
 
-/// Answers every dialog while it lives, before it is shown.
+/// Answers every dialog before it is shown, as long as this object lives.
 class Answer : public wxModalDialogHook
 {
 public:
@@ -28,7 +28,7 @@ private:
 
 GtkFileChooser* ChooserOf(const wxWindow& dialog);
 
-/// Waits for the folder, to which the dialog goes in the background.
+/// Waits until the dialog shows the folder: it loads the folder in the background.
 std::string FolderOf(const wxWindow& dialog);
 
 std::string TitleOf(const wxWindow& dialog);
@@ -38,17 +38,18 @@ std::string NameOf(const wxWindow& saveDialog);
 
 wxArrayString PathsOf(const wxFileDialog& dialog);
 
-/// Has the dialog choose a file, and waits until it gives it. Returns wxID_OK.
+/// Makes the dialog choose a file, and waits until it reports that file. Returns wxID_OK.
 int Choose(wxFileDialog& dialog, const std::string& path);
 
-/// The result of a dialog in which the file is chosen.
+/// Returns the result of a dialog in which the file is chosen.
 int ShowAndChoose(wxFileDialog& dialog, const std::string& path);
 inline int ShowAndChoose(wxFileDialog&& dialog, const std::string& path)
 {
     return ShowAndChoose(dialog, path);
 }
 
-/// Shows the dialog on the screen, and accepts it as a user does when the condition holds; cancels it when it never does.
+/// Shows the dialog on the screen. Accepts it as a user does when the condition holds, and cancels it when the
+/// condition never holds.
 int AcceptWhen(wxFileDialog& dialog, const std::function<bool()>& isReady);
 
 /// A user whose settings are empty at first, and a folder to choose from.
@@ -59,7 +60,7 @@ protected:
 
     static std::string Stored(const char* section, const char* key);
 
-    /// Where the program's documents are.
+    /// The folder of the program's documents.
     static std::string Documents();
     std::string Settings() const { return ReadFile(m_settings / "settings.ini"); }
 

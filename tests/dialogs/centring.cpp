@@ -10,7 +10,7 @@ std::vector<int>& CentredDialogs()
     return directions;
 }
 
-// In place of the toolkit's, which it calls.
+// Replaces the toolkit's function, and calls it.
 void wxTopLevelWindowBase::DoCentre(int direction)
 {
     if (dynamic_cast<wxDirDialog*>(this) || dynamic_cast<wxFileDialog*>(this))

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-/// The directions in which file and folder dialogs have been centred, in their order. Whoever reads it clears it.
+/// The directions in which file and folder dialogs have been centred, in order. Tests clear it after reading.
 std::vector<int>& CentredDialogs();
 
 #endif

@@ -1,4 +1,4 @@
-// The save dialog and DoModalReg() of the folder dialog against a platform that notes every call it gets.
+// The save dialog and the folder dialog's DoModalReg() on a platform that records every call.
 
 #include <string>
 
@@ -91,7 +91,7 @@ TEST_F(SaveDialogCalls, OfADialogWithoutAnEntry)
     EXPECT_EQ(g_platform.calls, Calls{L"show"});
 }
 
-// The toolkit's GetPath() gives what FileAnswer says, and FileAnswer knows the other dialog alone.
+// FileAnswer knows the save dialog alone, so this hook and GetPath() answer here.
 class RememberingDialogCalls : public testing::Test, private wxModalDialogHook
 {
 protected:
@@ -145,7 +145,7 @@ protected:
     FolderDialogCalls() { g_platform = {}; }
 
 private:
-    const FileAnswer m_cancel{wxID_CANCEL, ""};  // Fails, and ends, a dialog that is shown all the same.
+    const FileAnswer m_cancel{wxID_CANCEL, ""};  // Ends a dialog that must not be shown.
 };
 
 TEST_F(FolderDialogCalls, OfADialogThatIsAccepted)
@@ -172,7 +172,7 @@ TEST_F(FolderDialogCalls, OfADialogThatIsCancelled)
 
 }  // namespace
 
-// In place of the library's.
+// Replaces the library's function.
 wxString wxFolderDlg::DoModal(wxWindow*, const wchar_t* initialFolder, const wchar_t* message)
 {
     Note(L"show", {initialFolder, message ? message : L"(null)"});

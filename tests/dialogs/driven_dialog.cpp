@@ -73,7 +73,7 @@ DrivenDialog::DrivenDialog(const std::vector<std::string>& command, const std::s
     WaitFor("a dialog", [](const DialogState& state) { return !state.focus.empty(); });
     if (!m_child.IsRunning())
         return;
-    // There no other program can find the dialog, and it gets the input focus by itself.
+    // On Wayland no other program can find the dialog, and the dialog gets the input focus by itself.
     if (std::getenv("WAYLAND_DISPLAY")) {
         WaitFor("the input focus", [](const DialogState& state) { return state.isActive || !state.message.empty(); });
         return;
@@ -106,7 +106,7 @@ void DrivenDialog::TypePath(const std::string& path)
     WaitFor("the entry", isInEntry);
     Type(path);
     WaitFor(path + " as understood", [&](const DialogState& state) {
-        // The entry may have put a separator behind a folder.
+        // The entry may have added a separator to a folder's path.
         return isInEntry(state) && state.canAccept && state.file == path &&
                (state.text == path || state.text == path + "/");
     });
@@ -163,11 +163,11 @@ void DrivenDialog::ExpectCentred() const
     Rect parent;
     line >> word >> parent.x >> parent.y >> parent.width >> parent.height;
     const Rect window = RectOf(m_window);
-    // Twice the distance of the centres, in whole pixels.
+    // Twice the distance between the centres, to stay with whole pixels.
     const int right = 2 * window.x + window.width - 2 * parent.x - parent.width;
     const int down = 2 * window.y + window.height - 2 * parent.y - parent.height;
     EXPECT_NEAR(right, 0, 8);
-    // The title bars take their part of the height, above the one window and within the other's rectangle.
+    // One window's rectangle includes its title bar, the other's does not.
     EXPECT_NEAR(down, 0, 100);
 }
 
@@ -175,7 +175,7 @@ std::vector<std::string> DrivenDialog::Lines(const std::string& start) const
 {
     std::vector<std::string> result;
     std::istringstream lines(m_child.Output());
-    // A line that is still being written has no end yet.
+    // A last line without a line end is still being written.
     for (std::string line; std::getline(lines, line) && !lines.eof();) {
         if (line.compare(0, start.size(), start) == 0)
             result.push_back(line);

@@ -9,10 +9,10 @@
 
 #include <tests/support/process/child_process.h>
 
-/// The home folder, which the program shares.
+/// The home folder of the test, shared with the program.
 std::string HomeFolder();
 
-/// What the program with the dialog said last, see StatePrinter.
+/// The state that the program with the dialog printed last, see StatePrinter.
 struct DialogState
 {
     bool isActive = false;
@@ -25,22 +25,22 @@ struct DialogState
     std::string message;
 };
 
-/// A program that shows a file or folder dialog, and the user in front of it. Keys are sent only once the program has
-/// said that it is ready for them: the dialog reads folders in the background, and a Return that comes too early is
+/// A program that shows a file or folder dialog, and its simulated user. Keys are sent only when the program has
+/// printed that it is ready for them: the dialog reads folders in the background, and a Return that comes too early is
 /// lost.
 class DrivenDialog
 {
 public:
-    /// Starts the program and returns when its dialog, found by its title, has the input focus or shows a message.
+    /// Starts the program, finds the dialog by its title, and returns when it has the input focus or shows a message.
     DrivenDialog(const std::vector<std::string>& command, const std::string& title,
                  const std::map<std::string, std::optional<std::string>>& environment = {});
 
     static void Press(const std::string& key);
 
-    /// Types into the entry that has the focus, in place of what is in it.
+    /// Types into the entry that has the focus, and replaces its text.
     static void Type(const std::string& text);
 
-    /// Opens the location entry and types a path; returns when the dialog has understood it.
+    /// Opens the location entry and types a path; returns when the dialog shows that path.
     void TypePath(const std::string& path);
 
     /// Waits for a state; fails the test when it does not come.
@@ -49,7 +49,7 @@ public:
     /// Waits for a message and returns its text.
     std::string Message();
 
-    /// Whether there has been a message at any time.
+    /// True when the dialog has shown a message at any time.
     bool HadMessage() const;
 
     /// Waits until there is no message and the dialog has the input focus again.
@@ -57,7 +57,7 @@ public:
 
     DialogState State() const;
 
-    /// What the dialog gave once it has closed.
+    /// Waits until the dialog has closed, and returns its result.
     std::string Chosen();
 
     /// Fails the test unless the dialog stands in the middle of its parent.

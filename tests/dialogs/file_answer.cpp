@@ -8,7 +8,8 @@
 
 namespace {
 
-// The toolkit keeps some of what a dialog is made with to itself, and GTK's dialog has a mind of its own about paths.
+// The toolkit has no getters for some of the arguments of a dialog, and GTK's dialog may return other paths than those
+// set. So the dialog's own functions are replaced.
 std::vector<AskedFile> g_made;
 wxString g_path;
 
@@ -46,7 +47,7 @@ int FileAnswer::Enter(wxDialog* dialog)
     return m_result;
 }
 
-// In place of the toolkit's.
+// Replaces the toolkit's function.
 
 wxFileDialog::wxFileDialog(wxWindow* parent, const wxString& title, const wxString& folder, const wxString& file,
                            const wxString& wildcard, long style, const wxPoint& position, const wxSize& size,
@@ -66,7 +67,7 @@ wxFileDialog::wxFileDialog(wxWindow* parent, const wxString& title, const wxStri
     g_made.push_back(made);
 }
 
-// In place of the toolkit's, which it calls, and which calls it as well while a dialog is made.
+// Replaces the toolkit's function, and calls it. The toolkit, too, calls this one while it makes a dialog.
 void wxFileDialog::SetFilterIndex(int index)
 {
     if (!g_made.empty()) {

@@ -10,7 +10,7 @@
 
 class wxWindow;
 
-/// What a file dialog was made with, and what it was when it was to be shown.
+/// The arguments that a file dialog was made with, and its state when it was to be shown.
 struct AskedFile
 {
     wxWindow* parent = nullptr;
@@ -29,18 +29,18 @@ struct AskedFile
     std::vector<int> centred;
 };
 
-/// Answers file dialogs in place of the user for as long as it lives, one such object at a time. The path is what the
-/// dialog's GetPath() gives, whether GTK's dialog could be brought to give it or not.
+/// Answers file dialogs in place of the user as long as it lives; there is one such object at a time. The dialog's
+/// GetPath() returns this path, whatever GTK's dialog would return.
 class FileAnswer : public wxModalDialogHook
 {
 public:
     FileAnswer(int result, const wxString& path);
     ~FileAnswer() override;
 
-    /// Done when a dialog is to be shown, before the answer.
+    /// Called when a dialog is to be shown, before the answer.
     std::function<void()> whileShown;
 
-    /// The dialog that was shown last, and how many were.
+    /// The dialog that was shown last, and the number of dialogs shown.
     const AskedFile& Asked() const { return m_asked; }
     int Shown() const { return m_shown; }
 

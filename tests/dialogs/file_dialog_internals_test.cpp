@@ -1,4 +1,4 @@
-// What stands behind the save dialog, and the open dialog, which hosts do not see. Built with the module itself.
+// The internals of the save dialog, and the open dialog, which is not exported. Built with the module's source.
 
 #include <fittings/dialogs/file_dialog_p.h>
 

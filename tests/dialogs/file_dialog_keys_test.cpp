@@ -1,4 +1,4 @@
-// The save dialog as a user meets it: shown by a program of its own, and sent keys. And the open dialog behind it.
+// The save and open dialogs as a user sees them: shown by a program of their own, and driven by keys.
 
 #include <fittings/dialogs/file_dialog.h>
 
@@ -42,7 +42,7 @@ public:
     {
     }
 
-    /// Waits for the dialog to have read the folder and to propose the name.
+    /// Waits until the dialog has read the folder and proposes the name.
     void WaitForProposal(const std::string& folder, const std::string& name)
     {
         const std::string file = name.empty() ? "" : fs::path(folder) / name;
@@ -52,7 +52,7 @@ public:
         });
     }
 
-    /// Types a name in place of the one proposed; returns when the dialog has understood it.
+    /// Types a name in place of the proposed one; returns when the dialog shows that name.
     void TypeName(const std::string& name)
     {
         const std::string folder = State().folder;
@@ -65,7 +65,7 @@ private:
     {
         if (!call.asNobody)
             return {};
-        // The home folder is root's.
+        // The home folder belongs to root.
         return {{"FILE_DIALOG_AS_NOBODY", "1"}, {"HOME", settings}};
     }
 };
@@ -91,7 +91,7 @@ protected:
         return call;
     }
 
-    // A call that goes by what is remembered.
+    // A call that uses the remembered file.
     Call CallAgain() const
     {
         Call call;
@@ -274,7 +274,7 @@ TEST_F(SaveDialogByKeys, StartsInTheFolderOfSamples)
 TEST_F(SaveDialogByKeys, StartsAboveSamplesThatAreNotThereWithoutAnError)
 {
     const std::string home = HomeFolder();
-    // Into an empty entry GTK writes what the names of all files have in common, as the dot of hidden ones.
+    // GTK completes an empty entry with the common beginning of all names, such as the dot of hidden files.
     WriteFile(home + "/visible", "");
     Dialog dialog(m_settings.Path(), CallAgain());
     dialog.WaitForProposal(home, "");
@@ -348,7 +348,7 @@ TEST_F(SaveDialogByKeys, GivesAFileInAFolderThatCannotBeWritten)
     fs::permissions(m_plain, fs::perms::owner_all);
 }
 
-// The toolkit reads 0x1000FF as the byte 0xFF, but gives no path that is not UTF-8.
+// The toolkit reads 0x1000FF as the byte 0xFF, but returns no path that is not UTF-8.
 TEST_F(SaveDialogByKeys, GivesNothingInAFolderWhoseNameIsNotUtf8)
 {
     const std::string folder = m_plain + "/\xFF";
@@ -411,7 +411,7 @@ TEST_F(OpenDialogByKeys, GivesNoFileThatIsNotThere)
     EXPECT_EQ(dialog.Message(), "Please choose an existing file.");
     dialog.Press("Return");
     dialog.WaitForNoMessage();
-    // The first Escape closes the entry alone.
+    // The first Escape closes only the entry.
     dialog.Press("Escape");
     dialog.WaitFor("the list", [](const DialogState& state) { return state.focus == "GtkTreeView"; });
     dialog.Press("Escape");

@@ -1,4 +1,4 @@
-// Which file the save dialog proposes, and which it remembers, when.
+// Which file the save dialog proposes, and when it remembers which one.
 
 #include <fittings/dialogs/file_dialog.h>
 
@@ -156,7 +156,7 @@ TEST_F(LastFile, IsNotMadeByCancelling)
     EXPECT_EQ(Stored(L"Report"), kNothing);
 }
 
-// As for a file whose name is not UTF-8, which the toolkit cannot give.
+// The toolkit returns an empty path for a file whose name is not UTF-8.
 TEST_F(LastFile, StaysWhenTheDialogGivesNoPath)
 {
     SaveAs("/usr/one");
@@ -221,7 +221,7 @@ TEST_F(LastFile, IsReadAnewEachTime)
     EXPECT_EQ(Proposed().folder, SamplesFolder());
 }
 
-// A text that ends at once counts as empty, whatever stands behind.
+// A text that begins with a null character counts as empty.
 TEST_F(LastFile, IsNeitherReadNorKeptWithoutAnEntry)
 {
     CLocalRegStore::WriteString(L"LastFiles", L"", L"/usr/one");

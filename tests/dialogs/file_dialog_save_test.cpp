@@ -1,4 +1,4 @@
-// What CQVFileDialogI::LaunchSaveDialog asks of the toolkit's dialog, and what it makes of the answer.
+// How CQVFileDialogI::LaunchSaveDialog sets up the toolkit's dialog, and how it uses the answer.
 
 #include <fittings/dialogs/file_dialog.h>
 
@@ -92,7 +92,7 @@ TEST(SaveDialog, IsNotAffectedByTheExtensionAndFilterThatAreKept)
     CQVFileDialogI::SetFileFilter(L"");
 }
 
-// The toolkit finds fault with it, more than once.
+// The toolkit asserts on it more than once.
 TEST(SaveDialog, BearsAWildcardThatIsCutShort)
 {
     const ExpectAssertions assertions;
@@ -174,7 +174,7 @@ INSTANTIATE_TEST_SUITE_P(
         Start{"VeryLong", L"/" + kLong + L"/" + kLong + L"/" + kLong + L".prj", L"/" + kLong + L"/" + kLong, kLong}),
     [](const auto& info) { return info.param.name; });
 
-// GTK's dialog shows nothing at all where it is to start in a file, and an error below one.
+// GTK's dialog shows nothing when it is to start in a file, and an error when it is to start below a file.
 TEST(SaveDialogFolder, IsTheNearestFolderAboveAFile)
 {
     const TempFolder folder;
@@ -201,7 +201,7 @@ TEST(SaveDialogFolder, IsTheNearestFolderAboveARelativeFile)
     EXPECT_EQ(in.shownFolder, folder.Path());
 }
 
-// From there it goes up by itself.
+// GTK's dialog goes up from a missing folder by itself.
 TEST(SaveDialogFolder, IsAFolderThatIsGone)
 {
     const TempFolder folder;
@@ -239,7 +239,7 @@ TEST_P(SaveDialogFilter, IsMadeOfWildcardAndExtension)
     const AskedFile asked = AskedFor(GetParam().extension, GetParam().wildcard);
     EXPECT_EQ(asked.wildcard, GetParam().effective);
     EXPECT_EQ(asked.filterIndex, GetParam().index);
-    // The first is there without being asked for.
+    // The first filter is selected without a call.
     EXPECT_EQ(asked.filtersSet, GetParam().index > 0 ? std::vector<int>{GetParam().index} : std::vector<int>());
 }
 

@@ -1,4 +1,4 @@
-// What CQVFileDialogI keeps for its host in the process: the extension, the filter and the registry entry.
+// The settings that CQVFileDialogI keeps for its host: the extension, the filter and the registry entry.
 
 #include <fittings/dialogs/file_dialog.h>
 
@@ -8,7 +8,7 @@
 
 namespace {
 
-// Taken before any test could set them, and while a host's own globals are made.
+// Read during static initialisation, as a host's globals may, and before any test sets them.
 const CStdStr<wchar_t> g_firstExtension = CQVFileDialogI::GetFileExtension();
 const CStdStr<wchar_t> g_firstFilter = CQVFileDialogI::GetFileFilter();
 const std::string g_firstEntry = CQVFileDialogI::SetRegEntry("");

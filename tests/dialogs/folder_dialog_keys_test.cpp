@@ -1,4 +1,4 @@
-// The folder dialog as a user meets it: shown by a program of its own, and sent keys.
+// The folder dialog as a user sees it: shown by a program of its own, and driven by keys.
 
 #include <fittings/dialogs/folder_dialog.h>
 
@@ -21,8 +21,8 @@ public:
     {
     }
 
-    /// Waits for the home folder. Where it has none, GTK's dialog shows the files used last, and its Open button is dead,
-    /// whatever is typed.
+    /// Waits for the home folder. Given no folder, GTK's dialog shows the files used last, and its Open button stays
+    /// disabled whatever is typed.
     void WaitForHome() { WaitForFolder(HomeFolder()); }
 
     void WaitForFolder(const std::string& folder)

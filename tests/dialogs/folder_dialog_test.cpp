@@ -1,5 +1,5 @@
-// What wxFolderDlg asks of the toolkit's dialog, and what it makes of the answer. The dialog is answered by a hook; the
-// toolkit keeps some of what it is made with to itself, so its constructor and its centring are watched.
+// How wxFolderDlg sets up the toolkit's dialog, and how it uses the answer. A modal hook answers the dialog. The
+// toolkit has no getters for some of the arguments, so its constructor and its centring are replaced.
 
 #include <fittings/dialogs/folder_dialog.h>
 
@@ -38,7 +38,7 @@ struct Made
 
 std::vector<Made> g_made;
 
-// Gives every folder dialog an answer in place of the user.
+// Answers every folder dialog in place of the user.
 class Answer : public wxModalDialogHook
 {
 public:
@@ -51,7 +51,7 @@ public:
 
     std::function<void()> whileShown;
 
-    // How often a dialog was to be shown, and how often it had been centred before.
+    // How often a dialog was shown, and how often it was centred before that.
     int Shown() const { return m_shown; }
     std::size_t CentredBefore() const { return m_centredBefore; }
 
@@ -290,7 +290,7 @@ TEST_F(RememberedFolder, IsReadBeforeTheDialogAndStoredAfterIt)
     EXPECT_EQ(Stored(L"Import"), L"/another");
 }
 
-// No one can make a folder there, root included.
+// Nobody can make a folder there, not even root.
 TEST_F(RememberedFolder, IsGivenAllTheSameWhereItCannotBeStored)
 {
     std_file_paths::SetUserDataDir(L"/proc/fittings");
@@ -325,7 +325,7 @@ TEST_F(RememberedFolder, ComesWithTheSameDialog)
 
 }  // namespace
 
-// In place of the toolkit's, which does the same but for the recording.
+// Replaces the toolkit's constructor: does the same, and records the arguments.
 wxDirDialog::wxDirDialog(wxWindow* parent, const wxString& message, const wxString& folder, long style,
                          const wxPoint& position, const wxSize& size, const wxString& name)
 {

@@ -1,4 +1,4 @@
-// The dialogs that remember as a user meets them: shown by a program of their own, and sent keys.
+// The remembering dialogs as a user sees them: shown by a program of their own, and driven by keys.
 
 #include <fittings/dialogs/remembering_dialogs.h>
 

@@ -1,4 +1,4 @@
-// What the file dialog that remembers proposes, and what it stores.
+// What wxRememberingFileDialog proposes, and what it stores.
 
 #include <fittings/dialogs/remembering_dialogs.h>
 
@@ -63,7 +63,7 @@ TEST_F(RememberingFileDialog, RemembersFolderNameAndFilter)
     SaveDialog first;
     const Answer answer([&](wxDialog*) {
         Choose(first, m_plain + "/report.old.csv");
-        first.SetFilterIndex(1);  // the toolkit has chosen the one with the extension
+        first.SetFilterIndex(1);  // the toolkit has chosen the filter with the extension
         return wxID_OK;
     });
     EXPECT_EQ(first.ShowModal(), wxID_OK);
@@ -323,7 +323,7 @@ TEST_F(OpenedFile, IsNotSelectedWhenItIsGone)
     fs::create_directories(m_plain + "/folder.csv");
     StoreFile(m_plain + "/folder.csv");
     EXPECT_EQ(OpenDialog().GetFilename(), "");
-    // Above a folder that is gone there may be a file of that name.
+    // The folder is gone: the dialog starts in the nearest folder above it.
     StoreFile(m_plain + "/gone/one.csv");
     EXPECT_EQ(FolderOf(OpenDialog()), m_plain);
 }
@@ -339,7 +339,7 @@ TEST_F(OpenedFile, IsNotSelectedWhenTheFilterHidesIt)
     EXPECT_EQ(StoredFile(), m_plain + "/two.csv");
 }
 
-// GTK's dialog drops its filter then, and the toolkit asserts when it is asked for its index.
+// GTK's dialog then drops its filter, and the toolkit asserts when asked for the filter's index.
 TEST_F(OpenedFile, IsRememberedWhenTheProgramSelectsOneThatEachFilterHides)
 {
     StoreFilter("*.txt");

@@ -1,4 +1,4 @@
-// Where the folder dialog that remembers starts, and what it stores.
+// Where wxRememberingDirDialog starts, and what it stores.
 
 #include <fittings/dialogs/remembering_dialogs.h>
 

@@ -1,5 +1,5 @@
-// A home folder that nothing can be written to: what is stored there is read, what cannot be stored is only that, and
-// once there is a way again all is stored as ever.
+// A home folder that cannot be written to: earlier settings are read, a write that fails breaks nothing else, and all
+// is stored again when the folder becomes writable.
 
 #include <cerrno>
 #include <cstdlib>
@@ -33,7 +33,7 @@ struct Trouble
     const char* name;
     void (*begin)();
     void (*end)();
-    int error;  ///< What a program is told that writes nevertheless.
+    int error;  ///< The error that writing gives there.
 
     friend void PrintTo(const Trouble& trouble, std::ostream* stream) { *stream << trouble.name; }
 };
@@ -48,7 +48,7 @@ std::wstring Stored(const wchar_t* section, const wchar_t* key)
     return CLocalRegStore::GetString(section, key, L"(none)");
 }
 
-/// Every file below the data folder, by its path there, with what it holds.
+/// The contents of every file below the data folder, by its relative path.
 std::map<std::string, std::string> Files()
 {
     std::map<std::string, std::string> files;
@@ -69,7 +69,7 @@ protected:
         if (!own_home::IsThere())
             GTEST_SKIP() << "no right to mount a disk";
         EXPECT_EQ(std_file_paths::GetUserDataDir(), file_util_ex::ConvertFromUTF8W(DataFolder()));
-        // What an application has that was used before.
+        // The settings of an application that was used before.
         ASSERT_TRUE(CLocalRegStore::WriteString(L"Application", L"Before", L"kept"));
         ui_config_mgr::WriteConfigString(L"application.ini", L"Application", L"Before", L"kept too");
     }
@@ -95,7 +95,7 @@ protected:
         EXPECT_EQ(errno, GetParam().error);
     }
 
-    /// All files are as they were when the trouble began.
+    /// All files are as they were when the fault began.
     void ExpectAllKept() const
     {
         EXPECT_EQ(Files(), m_before);
@@ -238,7 +238,7 @@ TEST_P(BadHome, GivesTheSaveDialogTheLastFile)
     CQVFileDialogI::SetRegEntry("");
 }
 
-// In a program of its own, which has the same home.
+// In a program of its own with the same home folder.
 std::string Chosen(const std::string& startFolder)
 {
     DrivenDialog dialog({FOLDER_DIALOG_PROBE, DataFolder(), "reg", "Choose one", "Import"}, "Choose one");

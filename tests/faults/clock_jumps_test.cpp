@@ -1,4 +1,4 @@
-// The machine's clock is set while the program runs: whatever waits ends in its time, and no change of a file is missed.
+// The machine's clock is set while the program runs: every wait ends in time, and no change of a file is missed.
 
 #include <chrono>
 #include <filesystem>
@@ -64,7 +64,7 @@ TEST_P(ClockJumps, DoNotKeepTheColourPopup)
     EXPECT_FALSE(screen.combo->m_animTimer.IsRunning());
     screen.combo->Dismiss();
     EXPECT_TRUE(PumpUntil([&] { return !screen.combo->IsPopupShown(); }));
-    // And the next time it takes as long as ever.
+    // The next wait takes as long as usual.
     const auto again = Clock::now();
     EXPECT_TRUE(Opens(*screen.combo));
     EXPECT_GE(Clock::now() - again, std::chrono::milliseconds(390));
@@ -140,7 +140,7 @@ TEST_P(ClockJumps, DoNotDisturbATreeThatIsFilledWhileItIsLoaded)
 
 // --- Files -----------------------------------------------------------------------------------------------------------
 
-/// Gives a file a time of its last change that is so many seconds from now.
+/// Sets the time of a file's last change to so many seconds from now.
 void SetTime(const std::string& path, long seconds)
 {
     timespec now = {};
@@ -168,7 +168,7 @@ TEST_P(ClockJumps, HideNoChangeByAnotherProcess)
         clock.Jump(ahead);
         const std::wstring value = std::to_wstring(i);
         InChild([&] { EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", value.c_str())); });
-        // The stamp of a clock that has jumped.
+        // The timestamp of a clock that has jumped.
         SetTime(path, 0);
         EXPECT_EQ(Stored(L"s", L"k"), value);
         EXPECT_EQ(Stored(L"s", L"k"), value);
@@ -178,14 +178,14 @@ TEST_P(ClockJumps, HideNoChangeByAnotherProcess)
     EXPECT_EQ(NamesIn(data.Path()), (std::vector<std::string>{"settings.ini", "settings.ini.lock"}));
 }
 
-// Written into the very same file, in as many bytes, and with the same time of the last change, or with that clock's.
+// Overwrites the same file with as many bytes, and with the same time of the last change or that of the jumped clock.
 TEST_P(ClockJumps, HideNoChangeInPlace)
 {
     TempUserData data;
     const std::string path = data / "settings.ini";
     WriteFile(path, "[s]\nk=1\n");
     const timespec first = TimeOf(path);
-    // Past the tick of the file's clock, so that the copy is kept.
+    // Later than the file's timestamp can resolve, so that the copy is kept.
     std::this_thread::sleep_for(std::chrono::milliseconds(30));
     EXPECT_EQ(Stored(L"s", L"k"), L"1");
     clock.Jump(GetParam());
@@ -226,7 +226,7 @@ std::string NameOf(const testing::TestParamInfo<long>& info)
 INSTANTIATE_TEST_SUITE_P(, ClockJumps, testing::Values(-kYear, -1, 1, kYear), NameOf);
 INSTANTIATE_TEST_SUITE_P(, ClockJumpsByAnHour, testing::Values(-kHour, kHour), NameOf);
 
-// What a process that was killed has left behind, in the future: somebody may still be writing it.
+// A temporary file from the future: its process may still be writing it.
 TEST(AFileFromTheFuture, IsClearedAwayOnceItsTimeIsPast)
 {
     TempUserData data;

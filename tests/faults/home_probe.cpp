@@ -1,6 +1,6 @@
-// home_probe REGISTERED [store]: prints the user data directory and the folder "Samples" of the application's documents, a
-// line each, as for a user whose home folder in the password database is REGISTERED; "none" for a user who is not in it.
-// With "store" it stores a value before, and ends with 1 when that fails.
+// home_probe REGISTERED [store]: prints the user data directory and the folder "Samples" of the application's
+// documents, a line each, for a user whose home folder in the password database is REGISTERED, or who is not in it when
+// that is "none". With "store" it first stores a value, and ends with 1 when that fails.
 
 #include <cerrno>
 #include <cstdio>
@@ -22,14 +22,14 @@ std::string g_registered;
 
 }  // namespace
 
-// In place of the C library's.
+// Replaces the C library's function.
 int getpwuid_r(uid_t user, passwd* entry, char* texts, std::size_t size, passwd** found)
 {
     static char nothing[] = "";
     *found = nullptr;
     if (g_registered == "none")
         return 0;
-    // As for a long entry: a caller with little room has to ask again.
+    // As for a long entry: a caller with a small buffer has to ask again.
     if (size < g_registered.size() + 3000)
         return ERANGE;
     std::strcpy(texts, g_registered.c_str());

@@ -1,9 +1,8 @@
 #ifndef FITTINGS_TESTS_FAULTS_JUMPING_CLOCK_H_
 #define FITTINGS_TESTS_FAULTS_JUMPING_CLOCK_H_
 
-/// Puts the time of day that this process is told so many seconds ahead of the true one, or behind it, for as long as
-/// the object lives, as when somebody sets the machine's clock. What only measures how time goes by, the monotonic clock,
-/// goes on.
+/// Sets this process's time of day so many seconds ahead of the true one, or behind it, as long as the object lives, as
+/// when somebody sets the machine's clock. The monotonic clock does not change.
 class JumpingClock
 {
 public:
@@ -12,7 +11,7 @@ public:
     JumpingClock(const JumpingClock&) = delete;
     JumpingClock& operator=(const JumpingClock&) = delete;
 
-    /// Jumps, from wherever it is.
+    /// Sets another offset.
     void Jump(long secondsAhead);
 };
 

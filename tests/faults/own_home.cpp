@@ -19,7 +19,7 @@ std::string Home()
     return home ? home : "/nonexistent";
 }
 
-// Where the system has no cache of its fonts, each program makes one of its own, which would fill the disk.
+// Where the system has no cache of its fonts, each program makes one, which would fill the small disk.
 bool MountCaches()
 {
     const std::string caches = Home() + "/.cache";

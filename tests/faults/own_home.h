@@ -3,16 +3,16 @@
 
 #include <string>
 
-/// The home folder of this process and its children: since before main() a disk of 64 KiB of its own, where the system
-/// allows that. Without one nothing here can be done.
+/// The home folder of this process and its children: from before main() on a disk of 64 KiB, where the system allows
+/// one. Without one these functions do nothing.
 namespace own_home {
 
 bool IsThere();
 
-/// Every change is refused, as on a mount that is read only, or one that went so after an error.
+/// Makes the disk refuse every change, as a mount that is read only, or has become so after an error.
 void MakeReadOnly(bool isReadOnly);
 
-/// There is no room for another byte.
+/// Fills the disk to the last byte.
 void Fill(bool isFull);
 
 }  // namespace own_home

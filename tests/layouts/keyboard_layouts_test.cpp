@@ -1,4 +1,4 @@
-// What the same keys do on the keyboards of four countries.
+// The same keys on the keyboards of four countries.
 
 #include <ostream>
 #include <string>
@@ -18,23 +18,23 @@
 
 namespace {
 
-/// A key by its number, or what is held with it: "shift+61".
+/// A key by its number, with the modifier held: "shift+61".
 using Key = std::string;
 
 struct Keyboard
 {
     const char* layout;
-    /// A key that tells the layout from the others, with its symbol.
+    /// A key that differs between the layouts, and its symbol.
     unsigned key;
     unsigned level;
     const char* symbol;
-    /// Where the characters are.
+    /// The keys of the characters.
     Key point;
     Key comma;
     Key plus;
     Key minus;
     Key asterisk;
-    /// What the keypad's decimal key is for a program, and what it types on its own.
+    /// The code of the keypad's decimal key in a program, and the character that it types.
     int keypadCode;
     wchar_t keypadCharacter;
 
@@ -75,7 +75,7 @@ TEST_P(KeyboardLayouts, TypeAMinus)
     EXPECT_EQ(screen.BellsRung(), 0);
 }
 
-// The key with the code of a decimal point types the format's, any other one its own character.
+// A key with the code of the keypad's decimal point types the format's; any other key types its own character.
 TEST_P(KeyboardLayouts, TypeThePointOfTheKeypad)
 {
     const NumLock numLock;
@@ -104,7 +104,7 @@ TEST_P(KeyboardLayouts, LeadThroughTheColourPopup)
         const char* key;
         int cell;
     };
-    // Down to "More Colours...", "Automatic" and the first cell, and once around.
+    // Down through "More Colours...", "Automatic" and the first cell: once around.
     for (const Step& step : {Step{"116", -2}, Step{"116", -3}, Step{"116", 0}, Step{"114", 1}, Step{"116", 9},
                              Step{"113", 8}, Step{"111", 0}, Step{"114", 1}}) {
         Press(step.key);

@@ -227,7 +227,8 @@ TEST(CurrentConversion, ReadsSeparatorsBeyondAscii)
     EXPECT_EQ(Shown(L"1٫5", CNumberFormat(eFixedFormat)), L"1.50");
 }
 
-// Only the first character of a point counts in the grammar and in the format, the whole of it where one replaces the other.
+// Only the first character of a point counts in the grammar and in the format, the whole of it where one replaces the
+// other.
 TEST(CurrentConversion, MayMakeSeveralCharactersOfThePoint)
 {
     const ScopedLocale pashto("ps_AF.UTF-8");

@@ -117,7 +117,7 @@ TEST(DoesDirExist, FollowsLinks)
     EXPECT_FALSE(file_util_ex::DoesDirExist(Wide(folder / "dangling")));
 }
 
-// A path goes to the system as text that ends at a NUL: it must not stand for its beginning.
+// The system ends a path at a null character: a path that contains one must not be taken for its beginning.
 TEST(PathWithNul, NamesNoFolder)
 {
     const TempFolder folder;
@@ -128,7 +128,7 @@ TEST(PathWithNul, NamesNoFolder)
     EXPECT_FALSE(std::filesystem::exists(folder / "new"));
 }
 
-// The permissions a folder gets are what the process's mask leaves of 0700.
+// The process's mask may reduce the mode 0700.
 class Mkdir : public testing::Test
 {
 protected:
@@ -174,7 +174,7 @@ TEST_F(Mkdir, LeavesAFolderThatExistsAsItIs)
 
 TEST_F(Mkdir, TakesNamesThatAreNotAsciiInAnyLocale)
 {
-    // A graphical program is in the C locale until it asks for its own.
+    // A graphical program is in the C locale until it sets another one.
     const std::string locale = setlocale(LC_ALL, nullptr);
     setlocale(LC_ALL, "C");
     EXPECT_TRUE(file_util_ex::Mkdir(Wide(m_folder.Path()) + L"/\x5E33 \x00E4\x1F4D2"));
@@ -247,7 +247,7 @@ INSTANTIATE_TEST_SUITE_P(, NoCharacter,
                          testing::Values(0xD800L, 0xDBFFL, 0xDC00L, 0xDFFFL, 0x110000L, 0x7FFFFFFFL, -1L,
                                          -2147483647L - 1));
 
-// A pair of surrogates is two units that are no characters, each by itself: wide text has no pairs here.
+// Wide text has no surrogate pairs here: each surrogate is no character by itself.
 TEST(SurrogatePair, BecomesTwoReplacementCharacters)
 {
     EXPECT_EQ(ConvertToUTF8(std::wstring{static_cast<wchar_t>(0xD83D), static_cast<wchar_t>(0xDCD2)}),
@@ -272,18 +272,18 @@ TEST_P(NotUtf8, BecomesReplacementCharacters)
 INSTANTIATE_TEST_SUITE_P(
     , NotUtf8,
     testing::Values(
-        // Bytes that start nothing.
+        // Bytes that cannot start a sequence.
         Broken{"a\x80z", L"a\xFFFDz"}, Broken{"a\xBFz", L"a\xFFFDz"}, Broken{"\xFEz", L"\xFFFDz"},
         Broken{"\xFF\xFF", L"\xFFFD\xFFFD"}, Broken{"\xF8\x88\x80\x80\x80", L"\xFFFD\xFFFD\xFFFD\xFFFD\xFFFD"},
-        // Longer than need be.
+        // Overlong sequences.
         Broken{"\xC0\xAF", L"\xFFFD\xFFFD"}, Broken{"\xC1\xBF", L"\xFFFD\xFFFD"},
         Broken{"\xE0\x80\xAF", L"\xFFFD\xFFFD\xFFFD"}, Broken{"\xE0\x9F\xBF", L"\xFFFD\xFFFD\xFFFD"},
         Broken{"\xF0\x8F\xBF\xBF", L"\xFFFD\xFFFD\xFFFD\xFFFD"},
-        // Surrogates, and above the last character.
+        // Surrogates, and numbers above the last character.
         Broken{"\xED\xA0\x80", L"\xFFFD\xFFFD\xFFFD"}, Broken{"\xED\xBF\xBF", L"\xFFFD\xFFFD\xFFFD"},
         Broken{"\xF4\x90\x80\x80", L"\xFFFD\xFFFD\xFFFD\xFFFD"},
         Broken{"\xF5\x80\x80\x80", L"\xFFFD\xFFFD\xFFFD\xFFFD"},
-        // Cut short, by the end or by what follows.
+        // Sequences cut short by the end or by the next byte.
         Broken{"\xC3", L"\xFFFD"}, Broken{"\xE5\xB8", L"\xFFFD"}, Broken{"\xF0\x9F\x93", L"\xFFFD"},
         Broken{"\xC3z", L"\xFFFDz"}, Broken{"\xE5\xB8z", L"\xFFFDz"}, Broken{"\xF0\x9F\x93z", L"\xFFFDz"},
         Broken{"\xE5\xC3\xA4", L"\xFFFD\xE4"}, Broken{"\xF0\x9F\xE5\xB8\xB3", L"\xFFFD\x5E33"},
@@ -301,7 +301,7 @@ double SecondsFor(std::size_t characters)
     return best;
 }
 
-// Ten times the text takes some ten times as long; if the time grew with the square, it would be a hundred times.
+// Ten times the text takes about ten times as long; a quadratic time would be a hundred times.
 TEST(Utf8OfMegabytes, IsLinear)
 {
     EXPECT_LT(SecondsFor(4000000) / SecondsFor(400000), 40);

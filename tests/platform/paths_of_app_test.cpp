@@ -1,4 +1,4 @@
-// The paths in one process whose application changes its name, and under threads.
+// The paths in a process whose application changes its name, and the paths on several threads.
 
 #include <fittings/platform/std_file_paths.h>
 
@@ -13,7 +13,7 @@
 
 namespace {
 
-// The application object of this process for as long as the object lives.
+// Is the application object of this process as long as it lives.
 class App
 {
 public:
@@ -50,7 +50,7 @@ TEST(PathsOfAnApp, FollowItsName)
     EXPECT_EQ(LastPart(std_file_paths::GetUserDataDir()), L"platform-paths-test");
 }
 
-// No Unicode text: it becomes what a file name can hold.
+// Not Unicode text: it is replaced by characters that a file name can hold.
 TEST(PathsOfAnApp, AreUnicodeWhateverItsName)
 {
     App app;

@@ -21,7 +21,7 @@ struct Paths
     std::string samples;
 };
 
-// The folders as a new process sees them: the environment is read once in each.
+// The folders of a new process: each process reads the environment once.
 Paths PathsIn(const Environment& environment, const std::vector<std::string>& arguments = {"--app", "Ledger"},
               const std::string& program = PATHS_PROBE)
 {

@@ -31,7 +31,7 @@ protected:
     }
     ~Translations() override { wxTranslations::Set(nullptr); }
 
-    // What a host does to be translated.
+    // Does what a host does to be translated.
     static wxTranslations* SetLanguage(const wxString& language)
     {
         auto* translations = new wxTranslations;
@@ -156,7 +156,7 @@ TEST_F(Translations, LeaveACatalogueThatTheHostLoadedAsItIs)
     EXPECT_STREQ(Look(kFolderText), L"Aktueller Ordner:");
 }
 
-// The toolkit asks the catalogue loaded last first.
+// The toolkit first asks the catalogue that was loaded last.
 TEST_F(Translations, ComeFromTheHostsCatalogueWhereItWasLoadedLast)
 {
     wxTranslations* const translations = SetLanguage("ja");

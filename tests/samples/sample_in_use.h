@@ -31,8 +31,8 @@ struct Person
     }
 };
 
-/// One run of a sample, and the person who uses its window with mouse and keyboard. What cannot be done, as with a window
-/// that is gone, ends the test by an exception.
+/// One run of a sample, and the person who uses its window with mouse and keyboard. What cannot be done, as with a
+/// window that is gone, ends the test by an exception.
 class SampleInUse
 {
 public:

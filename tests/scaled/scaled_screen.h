@@ -10,8 +10,8 @@ wxImage GrabScaled(const wxRect& rect);
 /// The screen's pixel, as 0xRRGGBB, in the middle of that one of the toolkit's.
 int PixelAt(const wxPoint& place);
 
-/// Whether each of the toolkit's pixels is one colour, wherever the first one begins: nothing is blurred, and nothing drawn
-/// finer.
+/// Whether each of the toolkit's pixels is one colour, wherever the first one begins: nothing is blurred, and nothing
+/// drawn finer.
 bool IsOfWholePixels(const wxImage& scaled);
 
 #endif

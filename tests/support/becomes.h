@@ -7,8 +7,8 @@
 
 #include <tests/support/patience.h>
 
-/// Whether something comes true within @a milliseconds: it is asked again and again. No event is handled meanwhile, as
-/// PumpUntil() does.
+/// Polls a condition; returns false when it did not come true within @a milliseconds. Unlike PumpUntil(), it handles no
+/// events meanwhile.
 inline bool Becomes(const std::function<bool()>& isTrue, int milliseconds = 60000)
 {
     const auto deadline = std::chrono::steady_clock::now() + Patience() * std::chrono::milliseconds(milliseconds);

@@ -8,8 +8,8 @@
 class wxFrame;
 class wxTopLevelWindow;
 
-/// Runs the event loop until @a done says so; false when it did not within @a milliseconds, which are for a machine that
-/// is busy with other things.
+/// Runs the event loop until @a done returns true; returns false when it did not within @a milliseconds. The default
+/// leaves room for a busy machine.
 bool PumpUntil(const std::function<bool()>& done, int milliseconds = 30000);
 
 /// Handles every event that has arrived, idle processing included.
@@ -18,8 +18,8 @@ void PumpPending();
 /// Shows a window and waits until the window manager has mapped and placed it.
 bool ShowAndSettle(wxTopLevelWindow* window);
 
-/// Makes the toolkit's assertions expected, and counts them, for as long as the object lives. Without one, an
-/// assertion fails the test.
+/// Expects assertions of the toolkit, and counts them, as long as the object lives. Without one, an assertion fails the
+/// test.
 class ExpectAssertions
 {
 public:
@@ -36,7 +36,7 @@ private:
     int m_count = 0;
 };
 
-/// Counts an assertion where one is expected; false where none is.
+/// Counts an assertion; returns false when none is expected.
 bool NoteAssertion();
 
 #endif

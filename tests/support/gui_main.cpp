@@ -16,7 +16,7 @@
 
 namespace {
 
-/// Whether all is shown as for a language that is read from right to left.
+/// True when windows are laid out from right to left.
 bool IsRightToLeft()
 {
     const char* const direction = std::getenv("FITTINGS_TEST_DIRECTION");
@@ -48,20 +48,20 @@ public:
             gtk_widget_set_default_direction(GTK_TEXT_DIR_RTL);
         wxGUIEventLoop loop;
         wxEventLoopActivator activate(&loop);
-        // The first frame of a process is placed unlike all later ones.
+        // The first frame of a process is placed differently from all later ones, so show one before the tests.
         auto* frame = new wxFrame(nullptr, wxID_ANY, "warm-up");
         ShowAndSettle(frame);
         frame->Destroy();
         PumpPending();
-        // The first thread makes what the toolkit keeps for all of them. Two that come first at once are a race to the thread
-        // sanitizer, which does not see how a library that is built without it guards that.
+        // The first thread makes data that the toolkit keeps for all threads. Make it here: the thread sanitizer cannot
+        // see how the toolkit, built without it, guards that, and would report a race between two first threads.
         FirstThread thread;
         thread.Run();
         thread.Wait();
         return RUN_ALL_TESTS();
     }
 
-    /// Every window's, unless the window says otherwise.
+    /// The layout direction of windows that set none.
     wxLayoutDirection GetLayoutDirection() const override
     {
         return IsRightToLeft() ? wxLayout_RightToLeft : wxApp::GetLayoutDirection();

@@ -217,7 +217,7 @@ bool CLocalRegStore::WriteString(const char* section, const char* key, const cha
     return g_platform.saves;
 }
 
-// A separator that only this function knows.
+// Joins with a separator that no other function uses.
 std::wstring file_util_ex::MakePath(const CStdStr<wchar_t>& dir, const CStdStr<wchar_t>& name)
 {
     return dir + L">" + name;
@@ -247,7 +247,7 @@ std::wstring file_util_ex::RemoveBackSlash(const wchar_t* path)
     return L"/of/no/use";
 }
 
-// Beginnings that only these two know.
+// Add prefixes that no other function uses.
 std::string file_util_ex::ConvertToUTF8(const std::wstring& text)
 {
     Note(L"to UTF-8", {text});

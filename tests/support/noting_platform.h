@@ -7,8 +7,8 @@
 /// Calls to the platform, each as "operation [argument] [argument]".
 using Calls = std::vector<std::wstring>;
 
-/// The platform of a program that links this in place of the platform library's settings, paths and UTF-8: it notes the
-/// calls it gets, and can fail any one of them.
+/// Replaces the platform library's settings, paths and UTF-8 in a program that links this: it records its calls, and
+/// can fail any of them.
 struct NotingPlatform
 {
     Calls calls;
@@ -16,7 +16,7 @@ struct NotingPlatform
     bool folderExists = true;
     bool loads = true;
     bool saves = true;
-    std::wstring stored = L"stored";  ///< Every text that is read; ASCII.
+    std::wstring stored = L"stored";  ///< The text that every read returns; ASCII.
     int files = 0;                    ///< File objects alive.
     int batches = 0;                  ///< Batches alive.
     int savesWithoutBatch = 0;        ///< Writes to the default store that saved at once.
@@ -24,7 +24,7 @@ struct NotingPlatform
 
 extern NotingPlatform g_platform;
 
-/// Notes a call; throws when the operation is the one that does.
+/// Records a call; throws when it is the operation that is to throw.
 void Note(const std::wstring& operation, const std::vector<std::wstring>& arguments = {});
 
 #endif

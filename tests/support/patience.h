@@ -3,8 +3,8 @@
 
 #include <cstdlib>
 
-/// How many times longer than usual things may take: what FITTINGS_TEST_PATIENCE says where a tool makes all slow,
-/// else 1. Every deadline is multiplied by it.
+/// How many times longer than usual the tests wait: FITTINGS_TEST_PATIENCE where a tool makes everything slow, else 1.
+/// Every deadline is multiplied by it.
 inline int Patience()
 {
     static const int patience = [] {

@@ -18,7 +18,7 @@ namespace {
 
 constexpr const char* kMemory = "/dev/shm";
 
-/// Gives a user who is not root the rights back that a test has taken from folders, which could not be emptied.
+/// Restores the rights that a test has taken from folders: only root could empty them otherwise.
 void OpenFolders(const std::filesystem::path& folder)
 {
     std::error_code ignored;

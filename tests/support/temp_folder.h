@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-/// Puts the folders made during its life into memory, where there is such a place: who saves a thousand files would wait
-/// for the disk for long, and a disk that is busy with something else makes others wait for a lock for too long.
+/// Makes temporary folders in memory, where the system has a place for that, as long as the object lives. A test that
+/// saves a thousand files would wait long for a disk, and on a busy disk its locks would time out.
 class InMemory
 {
 public:
@@ -19,7 +19,7 @@ private:
     const std::string m_folder;
 };
 
-/// A new folder that goes, with all it holds, when the object does.
+/// A new folder that is removed with its contents when the object is destroyed.
 class TempFolder
 {
 public:
@@ -30,7 +30,7 @@ public:
 
     const std::string& Path() const { return m_path; }
 
-    /// The path of @a name in the folder.
+    /// Returns the path of @a name in the folder.
     std::string operator/(const std::string& name) const { return m_path + "/" + name; }
 
 private:
@@ -45,13 +45,13 @@ public:
     ~TempUserData();
 };
 
-/// The names of what is in a folder, sorted.
+/// Returns the sorted names of a folder's contents.
 std::vector<std::string> NamesIn(const std::string& folder);
 
-/// The bytes of a file; empty when it cannot be read.
+/// Returns the bytes of a file; empty when it cannot be read.
 std::string ReadFile(const std::string& path);
 
-/// Writes a file anew; fails the test when it cannot.
+/// Writes a file, replacing its contents; fails the test when that fails.
 void WriteFile(const std::string& path, const std::string& bytes);
 
 #endif

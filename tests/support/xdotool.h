@@ -6,10 +6,10 @@
 
 #include <tests/support/process/child_process.h>
 
-/// F4 for "xdotool key". By its name it would be sent with Alt where xkb-data is 2.48 or later.
+/// The key F4 for "xdotool key", by its code: with xkb-data 2.48 or later the name would send Alt+F4.
 inline constexpr const char* kF4 = "70";
 
-/// Sends input to whatever has the focus of the X display, or asks about its windows, and returns the answer.
+/// Sends input to the focused window of the X display, or asks about its windows. Returns the output.
 inline std::string Xdotool(std::vector<std::string> arguments)
 {
     arguments.insert(arguments.begin(), "xdotool");

@@ -1,4 +1,4 @@
-// What users of the toolkit's threads know of them holds for the thread objects of this library.
+// The toolkit's own tests of wxThread, for the thread objects of this library.
 
 #include <atomic>
 #include <memory>
@@ -418,7 +418,7 @@ TEST_F(PostedToAWindow, ArrivesInTheLoopOfAModalDialog)
     EXPECT_EQ(last, 5);
 }
 
-// As the Cancel of a progress window does.
+// As the Cancel button of a progress window does.
 TEST_F(PostedToAWindow, MayEndAndDestroyItsWorker)
 {
     std::vector<int> seen;
@@ -443,7 +443,7 @@ TEST_F(PostedToAWindow, MayEndAndDestroyItsWorker)
         panel);
     EXPECT_EQ(worker->RunThread(), wxTHREAD_NO_ERROR);
     EXPECT_TRUE(PumpUntil([&] { return !worker; }, 30000));
-    // What was queued before still arrives, and nothing else.
+    // Only the events that were queued before arrive.
     EXPECT_TRUE(PumpUntil([&] { return static_cast<int>(seen.size()) == posted; }, 30000));
     PumpPending();
     EXPECT_EQ(static_cast<int>(seen.size()), posted);

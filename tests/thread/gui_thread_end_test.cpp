@@ -1,4 +1,4 @@
-// The end of a worker: the event that tells it, the question for it, and a wait that keeps windows painted.
+// The end of a worker: the event that reports it, HasEnded(), and a wait that keeps windows painted.
 
 #include <fittings/thread/gui_thread.h>
 
@@ -20,7 +20,7 @@ using Worker = Working<wxGUIThread>;
 const int kEnd = wxNewEventType();
 const int kOther = wxNewEventType();
 
-/// Waits for the event that is expected, and a little longer for one too many.
+/// Waits for the expected event, and a little longer to see that no other one follows.
 void ExpectEvents(const Recorder& recorder, const Events& events)
 {
     PumpUntil([&] { return recorder.events.size() >= events.size(); });

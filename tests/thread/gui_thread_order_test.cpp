@@ -1,4 +1,4 @@
-// The two mutexes: which is held when, in which order, and what happens when one cannot be had.
+// The two mutexes: when each is held, in which order they are taken, and what happens when one cannot be taken.
 
 #include <fittings/thread/gui_thread.h>
 
@@ -23,7 +23,7 @@ public:
     wxMutex& PostMutex() { return m_postMutex; }
 };
 
-// Calls a function of the test while an event is being queued.
+// Calls a function of the test while it queues an event.
 class Interrupted : public Recorder
 {
 public:
@@ -38,7 +38,7 @@ public:
     std::function<void()> whileQueueing;
 };
 
-// Whether another thread could have the mutex now.
+// True when another thread could take the mutex now.
 bool IsFree(wxMutex& mutex)
 {
     bool free = false;
@@ -51,7 +51,7 @@ bool IsFree(wxMutex& mutex)
     return free;
 }
 
-// The place of each member that a derived class sees, in the order in which they are to stand.
+// The offsets of the members that a derived class sees, in their required order.
 class Laid : public Working<wxGUIThreadEx>
 {
 public:
@@ -63,7 +63,7 @@ public:
     }
 };
 
-// So the post mutex, which is taken first, is destroyed first.
+// Members are destroyed in reverse order: the post mutex, which is taken first, goes first.
 TEST(WorkerClass, LaysItsMembersOutInOrder)
 {
     const Laid worker;
@@ -103,7 +103,7 @@ TEST(Posting, ReleasesThePostMutexWhenRefused)
     EXPECT_TRUE(IsFree(worker.ContinueMutex()));
 }
 
-// The event is on its way: the answer is about it, and the next post is refused.
+// A stop while the event is being queued does not change the answer for that event; the next post is refused.
 TEST(Posting, IsAnsweredByTheFlagAsItWasBefore)
 {
     Interrupted handler;
@@ -141,7 +141,7 @@ class OneAtATime : public testing::TestWithParam<Overload>
 {
 };
 
-// The flag is read with the post mutex in hand: a stop that comes while a post waits for its turn still counts.
+// The flag is read under the post mutex: a stop that comes while a post waits for the mutex still counts.
 TEST_P(OneAtATime, AndTheFlagIsReadWhenItsTurnHasCome)
 {
     Recorder handler;
@@ -167,7 +167,7 @@ const Overload kOverloads[] = {
 
 INSTANTIATE_TEST_SUITE_P(, OneAtATime, testing::ValuesIn(kOverloads), [](const auto& info) { return info.param.name; });
 
-// Otherwise two threads could each wait for what the other has.
+// The opposite order in another place would be a deadlock.
 TEST_P(OneAtATime, AndTheContinueMutexIsTakenInsideThePostMutex)
 {
     Open worker(nullptr);

@@ -21,7 +21,7 @@ using WorkerEx = Working<wxGUIThreadEx>;
 static_assert(std::is_base_of_v<wxThreadEx, wxGUIThread> && std::is_base_of_v<wxGUIThread, wxGUIThreadEx>);
 static_assert(std::is_abstract_v<wxGUIThread> && std::is_abstract_v<wxGUIThreadEx>);
 
-// A literal 0 is as good a long as a null pointer: the caller has to say which.
+// A literal 0 converts to a long and to a null pointer alike, so the call is ambiguous.
 template <typename Thread, typename = void>
 struct TakesZero : std::false_type
 {
@@ -139,7 +139,7 @@ TEST(PostEvent, DeliversACopyOfTheCallersEvent)
     EXPECT_EQ(handler.events, (Events{{7, 12, &object, L"caf\u00e9", 3, 5, &data, nullptr}}));
 }
 
-// Hosts override it, to see what is posted to them.
+// Hosts override it to see what is posted to them.
 TEST(PostEvent, GoesByTheHandlersPendingEvents)
 {
     struct Handler : Recorder
@@ -241,7 +241,7 @@ TEST(PostEvent, WakesASleepingEventLoop)
     Worker thread(
         [&](Worker& self) {
             go.Wait();
-            // In the loop's poll, with nothing to do.
+            // The GUI thread is asleep when its event loop waits in poll().
             const bool asleep = Becomes([&] {
                 std::string call;
                 std::getline(std::ifstream(TaskFile(gui, "syscall")), call);

@@ -14,7 +14,7 @@ std::atomic<int> g_wakeUpsToCome{0};
 
 }  // namespace
 
-// In place of the toolkit's wait for a condition, which does the same but for the wake-ups that a test asks for.
+// Replaces the toolkit's wait for a condition: does the same, but returns early where a test asks for it.
 extern "C" wxCondError WaitForCondition(wxCondition* condition) __asm__("_ZN11wxCondition4WaitEv");
 
 extern "C" wxCondError WaitForCondition(wxCondition* condition)

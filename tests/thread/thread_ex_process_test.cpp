@@ -1,4 +1,4 @@
-// What thread objects do to, and in, a process of their own.
+// Thread objects in a process of their own.
 
 #include <cstdlib>
 
@@ -13,7 +13,8 @@ std::string Probe(const char* question)
     return RunChild({THREAD_PROBE, question});
 }
 
-// wxTHREAD_NO_RESOURCE is 1. A toolkit thread that could not be created answers wxTHREAD_RUNNING, which is 2, to Run().
+// wxTHREAD_NO_RESOURCE is 1, wxTHREAD_RUNNING is 2. Run() of a toolkit thread that could not be created returns the
+// latter.
 TEST(WithoutRoomForAThread, RunFailsAndThereIsNothingToWaitFor)
 {
     EXPECT_EQ(Probe("no-room"), "limited 1\n"

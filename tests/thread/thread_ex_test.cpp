@@ -70,7 +70,7 @@ TEST(Wait, BlocksUntilEntryHasReturned)
     EXPECT_EQ(code, Code(42));
 }
 
-// One after the other, from different threads: the condition is signalled only once, the flag stays.
+// Two threads wait one after the other. The condition is signalled only once, but the flag stays set.
 TEST(Wait, EndsForLaterCallersToo)
 {
     Thread thread(Returning(7), wxTHREAD_JOINABLE);
@@ -94,7 +94,7 @@ TEST(Wait, IsRefusedBeforeRun)
     EXPECT_EQ(constructed.Wait(), Code(42));
 }
 
-// So that a program may end right after Wait().
+// A program may end right after Wait().
 TEST(Wait, BlocksUntilTheThreadIsOver)
 {
     static Signal over;
@@ -120,7 +120,7 @@ TEST(Wait, BlocksUntilTheThreadIsOver)
     EXPECT_EQ(code, Code(42));
 }
 
-// No one can tell when a detached object may go: these stay.
+// No call tells when a detached object may be destroyed, so these are never destroyed.
 TEST(Detached, IsNotWaitedFor)
 {
     static Signal go;

@@ -1,5 +1,5 @@
-// What a thread object does in a process of its own: where the system has no room for threads, where threads are left
-// behind, where the process ends. Each line it prints is an answer to one question.
+// Thread objects in a process of their own: when the system has no room for threads, when threads are left behind, and
+// when the process ends. Prints one result a line.
 
 #include <cstdio>
 #include <cstdlib>
@@ -23,7 +23,7 @@ std::atomic<long> g_allocations{0};
 
 }  // namespace
 
-// The toolkit's allocations are made by these too.
+// The toolkit allocates by these too.
 void* operator new(size_t size)
 {
     void* memory = std::malloc(size > 0 ? size : 1);
@@ -85,7 +85,7 @@ void NoRoom()
     Say("wait", Number(uncreated.Wait()));
 }
 
-// The toolkit's own end is no place for the thread that still waits to be run.
+// Ends by _exit(): the toolkit's shutdown would wait for the thread that was never run.
 void Created()
 {
     {
@@ -98,7 +98,7 @@ void Created()
     _exit(0);
 }
 
-// What the toolkit finds of them at its end is in its log, on stderr.
+// At its shutdown the toolkit logs the threads that are left, on stderr.
 void NeverRun()
 {
     dup2(STDOUT_FILENO, STDERR_FILENO);
@@ -148,10 +148,10 @@ void TwoWaiters()
     _exit(0);
 }
 
-// What allocations a run of an object, or its life without one, leaves behind.
+// The number of allocations that the work leaves behind.
 long AllocationsLeftBy(const std::function<void()>& work)
 {
-    work();  // what the toolkit and the system make once, they make here
+    work();  // the toolkit and the system make here what they make once
     const long before = g_allocations;
     work();
     return g_allocations - before;

@@ -13,7 +13,7 @@
 
 namespace {
 
-// Counts the events of each worker, whose number is in the extra long, and sees whether they came in order.
+// Counts the events of each worker, whose number is in the extra long, and checks their order.
 class Counter : public wxEvtHandler
 {
 public:
@@ -59,8 +59,8 @@ private:
     const int m_count;
 };
 
-/// Posts until it is stopped, but never gets far ahead of the handler: a GUI thread that is slower would not get to
-/// anything but the events, and they would fill the memory.
+/// Posts until it is stopped, but never gets far ahead of the handler. Otherwise a slow GUI thread would do nothing but
+/// handle events, and the events would fill the memory.
 class EndlessPoster : public wxGUIThreadEx
 {
 public:
@@ -92,7 +92,7 @@ TEST(AThousandCycles, OfStartPostStopAndWaitLoseNothing)
         handler.handled = 0;
         auto worker = std::make_unique<EndlessPoster>(handler);
         ASSERT_EQ(worker->RunThread(), wxTHREAD_NO_ERROR);
-        // Every other one is stopped at any moment from its start on.
+        // Every other worker is stopped at a random moment after its start.
         const int awaited = cycle % 2;
         ASSERT_TRUE(PumpUntil([&] { return handler.total >= awaited; }, 30000));
         worker->StartKill();
@@ -121,7 +121,7 @@ TEST(SixtyFourWorkers, PostTenThousandEventsEachInOrder)
     EXPECT_EQ(handler.outOfOrder, 0);
 }
 
-// Other threads may post for the worker: the events of each stay in order too.
+// Other threads may post for the worker, too: the events of each thread stay in order.
 TEST(OneWorker, LetsSeveralThreadsPost)
 {
     Counter handler(4);

@@ -24,7 +24,7 @@
 #include <tests/support/becomes.h>
 #include <tests/support/patience.h>
 
-/// An exit code of this number.
+/// The exit code with this number.
 inline wxThread::ExitCode Code(std::intptr_t number)
 {
     return reinterpret_cast<wxThread::ExitCode>(number);  // NOLINT(performance-no-int-to-ptr)
@@ -65,7 +65,7 @@ inline std::string TaskFile(pid_t thread, const char* name)
     return "/proc/self/task/" + std::to_string(thread) + "/" + name;
 }
 
-/// True once the thread has gone to sleep on a lock or condition and stays there.
+/// True once the thread sleeps on a lock or condition and stays asleep.
 inline bool IsBlocked(pid_t thread)
 {
     std::string last;
@@ -128,7 +128,7 @@ public:
 
     wxThread::ExitCode Entry() override
     {
-        const Work work = m_work;  // out of the object, whose members go before the base's destructor waits
+        const Work work = m_work;  // a copy: the object's members are destroyed before the base's destructor waits
         thread = gettid();
         started.Set();
         return work(*this);
@@ -141,7 +141,8 @@ private:
     Work m_work;
 };
 
-/// A running thread object whose work ends with the code 42 once it is told to go on, at the latest with this.
+/// A running thread object whose work ends with the code 42 when it is told to go on, at the latest when this is
+/// destroyed.
 struct HeldThread
 {
     HeldThread()
@@ -159,7 +160,7 @@ struct HeldThread
                                wxTHREAD_JOINABLE};
 };
 
-/// What a handler was given.
+/// An event as a handler received it.
 struct Event
 {
     int type;
@@ -190,7 +191,7 @@ inline Event Plain(int type, int value, long extra = 0, void* data = nullptr)
     return {type, 0, nullptr, wxString(), value, extra, data, nullptr};
 }
 
-/// Keeps what it is given.
+/// Records the events that it receives.
 class Recorder : public wxEvtHandler
 {
 public:

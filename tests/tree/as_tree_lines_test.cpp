@@ -1,5 +1,5 @@
-// Lines of programs that use the toolkit's tree control compile with the controls of this library, and do the same: the same
-// tests run on all three.
+// Lines of programs that use the toolkit's tree control compile with the controls of this library, and do the same: the
+// same tests run on all three.
 
 #include <algorithm>
 #include <map>

@@ -8,7 +8,8 @@
 #include <wx/panel.h>
 #include <wx/xrc/xmlres.h>
 
-/// controls.xrc with the toolkit's handlers and ours, and a frame or a panel made from it, which is gone when the object is.
+/// controls.xrc with the toolkit's handlers and ours, and a frame or a panel made from it, which is gone when the
+/// object is.
 class LoadedResource : public wxXmlResource
 {
 public:

@@ -68,8 +68,8 @@ bool ReadAll(int fd, std::size_t expected, std::string& bytes)
     }
 }
 
-// The path behind the links at the end of @a path, also where there is no file yet. None on an error. A circle gives a path
-// that cannot be opened.
+// The path behind the links at the end of @a path, also where there is no file yet. None on an error. A circle gives a
+// path that cannot be opened.
 std::optional<std::string> FollowLinks(std::string path)
 {
     for (int links = 0; links < 40; ++links) {
@@ -113,8 +113,8 @@ FileContent ReadFilledBytes(const std::string& path, std::string& bytes)
     }
 }
 
-// What an exchange has displaced. Another process may take its new name for a leftover and remove it: then it is the file
-// that was open before, as any other is too new for that.
+// What an exchange has displaced. Another process may take its new name for a leftover and remove it: then it is the
+// file that was open before, as any other is too new for that.
 std::optional<std::string> ReadDisplaced(const StagedFile& staged, int before)
 {
     std::string bytes;

@@ -40,8 +40,8 @@ struct FileContent
     /// same tick of the clock that stamps files.
     bool isSettled = false;
 
-    /// The file is empty and was changed less than half a second ago: a program that writes files in place may be about to
-    /// fill it.
+    /// The file is empty and was changed less than half a second ago: a program that writes files in place may be about
+    /// to fill it.
     bool IsEmptyForNow() const;
 };
 
@@ -75,9 +75,9 @@ struct FileUpdate
 
 /// Like ReplaceFileBytes(), but never undoes what somebody else has stored since the file was read.
 ///
-/// Outdated when the file is not as it was found any more; it was not touched then. A change that comes between that look
-/// and the exchange of the two files is merged. File systems that cannot exchange two files in one step, such as NFS, leave
-/// those few microseconds open.
+/// Outdated when the file is not as it was found any more; it was not touched then. A change that comes between that
+/// look and the exchange of the two files is merged. File systems that cannot exchange two files in one step, such as
+/// NFS, leave those few microseconds open.
 UpdateResult UpdateFileBytes(const std::string& path, const FileUpdate& update);
 
 /// Gives the file at @a path, links followed, a second name that is new: with ".unreadable" behind its own, or

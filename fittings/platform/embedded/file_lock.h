@@ -10,8 +10,8 @@ namespace fittings {
 
 /// Keeps other processes and threads that take the same lock waiting for as long as the object lives.
 ///
-/// A courtesy: who cannot have the lock goes on without it. The lock file is made when missing and never removed: another
-/// process may be waiting for that very file.
+/// A courtesy: who cannot have the lock goes on without it. The lock file is made when missing and never removed:
+/// another process may be waiting for that very file.
 class FileLock
 {
 public:

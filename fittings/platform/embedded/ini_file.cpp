@@ -235,9 +235,9 @@ std::vector<IniText::Key> CIniFile::WithEarlyKeys(std::vector<IniText::Key> keys
     return all;
 }
 
-// What stood in the file, with what was put there changed in it as against what was expected there. Where both changed a
-// key, the change of this object counts, else the one that was displaced, which is newer than what else was put. Only this
-// object removes a key: that it is missing elsewhere may mean that another process has not merged it yet.
+// What stood in the file, with what was put there changed in it as against what was expected there. Where both changed
+// a key, the change of this object counts, else the one that was displaced, which is newer than what else was put. Only
+// this object removes a key: that it is missing elsewhere may mean that another process has not merged it yet.
 std::optional<std::string> CIniFile::Merged(std::string_view expected, std::string_view put,
                                             std::string_view displaced) const
 {

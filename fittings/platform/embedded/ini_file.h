@@ -23,8 +23,8 @@ public:
     /// bytes that are no text.
     bool Load(const std::string& path);
 
-    /// Loads the file and makes the changes in it, unless the file is known to be as it was when it was loaded last and the
-    /// revision of the changes is the same. True when the object may hold something else than before.
+    /// Loads the file and makes the changes in it, unless the file is known to be as it was when it was loaded last and
+    /// the revision of the changes is the same. True when the object may hold something else than before.
     bool Refresh(const std::string& path, const std::vector<fittings::SettingsChange>& changes = {},
                  std::uint64_t revision = 0);
 
@@ -34,8 +34,8 @@ public:
     /// Writes the file anew where its bytes change.
     bool Save(const std::string& path) const;
 
-    /// Writes the file that was loaded last anew where its bytes change, unless it has changed since: what others store at the
-    /// same time is kept.
+    /// Writes the file that was loaded last anew where its bytes change, unless it has changed since: what others store
+    /// at the same time is kept.
     fittings::UpdateResult Update() const;
 
     std::optional<std::wstring> Get(std::wstring_view section, std::wstring_view key) const;
@@ -61,8 +61,8 @@ public:
     /// The names of a section's keys, each once, in the order of the file. New ones come last.
     std::vector<std::wstring> KeyNames(std::wstring_view section) const;
 
-    /// What KeyNames() names, with its values. Those of the section of the empty name come after the keys before the first
-    /// section that are not in it, too.
+    /// What KeyNames() names, with its values. Those of the section of the empty name come after the keys before the
+    /// first section that are not in it, too.
     std::vector<fittings::SettingsEntry> Entries(std::wstring_view section) const;
 
     /// The last Load() met a file that is there but could not be read.

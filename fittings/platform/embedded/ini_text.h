@@ -15,9 +15,9 @@ namespace fittings {
 
 /// The text of an INI file, an index of its sections and keys, and the changes made in it.
 ///
-/// Names and values are as EncodeName() and EncodeValue() write them. A person may have written a name in another way; it
-/// is found by what it means. Of several lines with one key the last counts, but one whose section and key are written as
-/// EncodeName() does counts before all others.
+/// Names and values are as EncodeName() and EncodeValue() write them. A person may have written a name in another way;
+/// it is found by what it means. Of several lines with one key the last counts, but one whose section and key are
+/// written as EncodeName() does counts before all others.
 class IniText
 {
 public:
@@ -38,8 +38,8 @@ public:
 
     /// The text with the changes.
     ///
-    /// A value is replaced in its line. New keys come after the last key of their section, new sections after a blank line
-    /// at the end. Every other byte stays as it is, comments in a removed section included.
+    /// A value is replaced in its line. New keys come after the last key of their section, new sections after a blank
+    /// line at the end. Every other byte stays as it is, comments in a removed section included.
     std::string Changed() const;
 
     std::optional<std::string_view> Find(std::string_view section, std::string_view key) const;

@@ -15,8 +15,8 @@ enum class PlaceResult {
     Unsupported,    ///< The file system cannot do this in one step.
 };
 
-/// Bytes on the disk beside the file whose place they will take, under a name of their own until then. What stands under
-/// that name goes with the object.
+/// Bytes on the disk beside the file whose place they will take, under a name of their own until then. What stands
+/// under that name goes with the object.
 class StagedFile
 {
 public:

@@ -6,7 +6,8 @@
 #include <tests/colour/colour_listener.h>
 #include <tests/colour/combo/combo_on_screen.h>
 
-/// A combo on the screen that shows a colour, and whose popup opens without animation. Its listener has heard nothing yet.
+/// A combo on the screen that shows a colour, and whose popup opens without animation. Its listener has heard nothing
+/// yet.
 class ComboWithListener
 {
 protected:

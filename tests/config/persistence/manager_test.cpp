@@ -19,7 +19,7 @@ int g_syncs = 0;
 
 }  // namespace
 
-// In place of the C library's.
+// Replaces the C library's function.
 extern "C" int fsync(int fd)
 {
     ++g_syncs;
@@ -89,7 +89,7 @@ TEST(ClosedFrame, SavesAllThatIsInItByOneSave)
     DestroyNow(frame);
 }
 
-// A process that is ended by a signal loses nothing of a window that was closed before.
+// A signal that ends the process loses nothing of a window that was closed before.
 TEST(ClosedFrame, IsSavedWhenItIsGone)
 {
     const TempPersistence data;
@@ -177,7 +177,7 @@ TEST(Manager, IsTheToolkitsOnceItIsInstalled)
     EXPECT_EQ(&wxStorePersistenceManager::Install(), &wxStorePersistenceManager::Install());
 }
 
-// What the toolkit's classes make of numbers that they have not written.
+// Numbers that the toolkit's classes cannot have written.
 TEST(DamagedNumbers, DoNoHarm)
 {
     const TempPersistence data;

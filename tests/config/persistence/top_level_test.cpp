@@ -1,5 +1,5 @@
-// Frames and dialogs, by the toolkit's own wxPersistentTLW. The display of these tests is 1280 x 1024 with the work area
-// 16;24;1264;960.
+// Frames and dialogs, by the toolkit's own wxPersistentTLW. The display of these tests is 1280 x 1024 with the work
+// area 16;24;1264;960.
 
 #include <cstdlib>
 #include <memory>
@@ -42,8 +42,8 @@ bool SettlesAt(const wxTopLevelWindow& window, const wxRect& rect)
     return PumpUntil([&] { return !window.IsMaximized() && window.GetScreenRect() == rect; });
 }
 
-/// On a busy machine the window manager takes the decorations of the maximised frame for those of the restored one, and the place
-/// is wrong by the width of a border.
+/// On a busy machine the window manager places the restored frame with the decorations of the maximised one, wrong by
+/// the width of a border.
 bool SettlesNear(const wxTopLevelWindow& window, const wxRect& rect)
 {
     constexpr int kBorder = 2;
@@ -59,7 +59,7 @@ bool SettlesMaximized(const wxTopLevelWindow& window)
     return PumpUntil([&] { return window.IsMaximized() && window.GetSize() == wxSize(1264, 960); });
 }
 
-/// What a user sees of one run of a program: the frame comes up, is changed and is closed.
+/// One run of a program: the frame is shown, changed and closed.
 template <typename Change>
 void InOneRun(bool isRestored, Change change)
 {
@@ -93,7 +93,7 @@ TEST(PersistentFrame, ThatWasMaximizedComesBackSoAndIsRestoredToItsEarlierSize)
     });
     EXPECT_EQ(Stored(kKind, L"Maximized"), L"1");
     EXPECT_EQ(Stored(kKind, L"w"), L"500");
-    // Once more without a change: what is remembered is still the earlier size.
+    // A run without a change still remembers the earlier size.
     InOneRun(true, [](wxFrame& frame) { ASSERT_TRUE(SettlesMaximized(frame)); });
     InOneRun(true, [](wxFrame& frame) {
         ASSERT_TRUE(SettlesMaximized(frame));
@@ -134,7 +134,7 @@ TEST(PersistentFrame, ThatIsClosedMaximizedBeforeAnotherIsRemembered)
     EXPECT_EQ(Stored(kKind, L"w"), L"400");
 }
 
-// Nothing has followed the frame, so its earlier size is not known.
+// Nobody has followed the frame, so its earlier size is not known.
 TEST(PersistentFrame, ThatIsMaximizedAndWasNotRestoredLeavesTheStoredPlace)
 {
     const TempPersistence data;
@@ -190,7 +190,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Restored{"HugeSize", {L"100", L"100", L"2147483647", L"2147483647"}, wxRect(100, 100, 1180, 884)}),
     [](const auto& info) { return info.param.name; });
 
-/// One field that is no number.
+/// A stored geometry with one field that is not a number.
 class DamagedPlace : public testing::TestWithParam<const wchar_t*>
 {
 };

@@ -319,7 +319,7 @@ TEST(StoredItems, OfMegabytesAndDeepAreRestoredAtOnce)
         EXPECT_LT(ProcessorSeconds([&] { wxPersistentRegisterAndRestore(frame.tree, "w"); }), 20);
         PumpPending();
     }
-    // A tree that goes on for ever.
+    // A tree without an end: each level is made when it is expanded.
     Plant(kKind, L"Items", deep);
     auto* const frame = new wxFrame(nullptr, wxID_ANY, "tree");
     auto* const tree = new LazyTree(frame);
@@ -357,7 +357,7 @@ TEST(PersistentTree, OfManyItemsIsSavedAndRestoredInProportion)
     }
 }
 
-// Deleted without Destroy(), a tree is no tree any more when it is to be stored.
+// A tree that is deleted without Destroy() is no longer a wxTreeCtrl when it is to be stored.
 TEST(PersistentTree, ThatIsDeletedAtOnceLeavesTheStoredState)
 {
     const TempPersistence data;

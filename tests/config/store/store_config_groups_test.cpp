@@ -1,4 +1,4 @@
-// Groups, entries, paths. The expectations of wxWidgets' own tests of wxFileConfig hold, but for what is about its file.
+// Groups, entries and paths. wxWidgets' own tests of wxFileConfig hold here too, except those about its file.
 
 #include <fittings/config/store_config.h>
 

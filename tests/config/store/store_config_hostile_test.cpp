@@ -1,4 +1,4 @@
-// Names, values and files that nobody means.
+// Odd names, odd values and damaged files.
 
 #include <fittings/config/store_config.h>
 

@@ -1,4 +1,4 @@
-// What an earlier version of a program has stored by another configuration.
+// Settings that an earlier version of a program stored by another configuration class.
 
 #include <fittings/config/store_config.h>
 

@@ -107,7 +107,7 @@ TEST_F(StoreConfig, StaysInAGroupThatAnotherDeletes)
     Open("[a/b]\nk=1\n");
     m_config->SetPath("a/b");
     WriteFile(Path(), "");
-    // An empty file counts as written in place, and not filled yet, for half a second.
+    // For half a second an empty file counts as one that another program is still writing.
     WriteFile(Path(), "[x]\n");
     EXPECT_FALSE(m_config->HasEntry("k"));
     EXPECT_EQ(m_config->GetPath(), "/a/b");
@@ -219,7 +219,7 @@ TEST(TheToolkitsConfig, IsSavedWhenTheToolkitEnds)
     EXPECT_EQ(history.GetHistoryFile(1), "/tmp/a.txt");
 }
 
-// Made before the store is first used, and so destroyed after what was made then.
+// Made before the store is first used, and so destroyed after the objects that the store makes then.
 std::unique_ptr<wxStoreConfig> g_config;
 
 TEST(AConfigThatOutlivesMain, IsSavedWhenTheProcessEnds)

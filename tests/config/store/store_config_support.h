@@ -33,7 +33,7 @@ inline std::vector<wxString> GroupNames(const wxConfigBase& config)
     return names;
 }
 
-/// What the current group holds, as an INI file in which each group has a line.
+/// The contents of the current group as an INI file in which each group has a line.
 inline wxString Dump(wxConfigBase& config)
 {
     wxString text;
@@ -61,14 +61,14 @@ protected:
         Reopen();
     }
 
-    /// Opens what the file holds after the object that has it open has ended.
+    /// Destroys the object, and opens the file with a new one.
     void Reopen()
     {
         m_config.reset();
         m_config = std::make_unique<wxStoreConfig>("test.ini");
     }
 
-    /// What another object finds in the file once this one has saved.
+    /// Saves, and returns what another object finds in the file.
     wxString Saved()
     {
         EXPECT_TRUE(m_config->Flush());

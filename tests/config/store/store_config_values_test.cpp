@@ -1,4 +1,4 @@
-// Values of each type. The expectations of wxWidgets' own tests of wxConfig hold.
+// Values of each type. wxWidgets' own tests of wxConfig hold here too.
 
 #include <fittings/config/store_config.h>
 

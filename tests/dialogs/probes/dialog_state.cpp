@@ -9,7 +9,7 @@
 
 namespace {
 
-// A text of GLib's, which may be null, and is freed.
+// Takes over a text of GLib, which may be null.
 std::string Take(char* text)
 {
     std::string result = text ? text : "";

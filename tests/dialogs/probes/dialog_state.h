@@ -5,21 +5,21 @@
 
 class wxFrame;
 
-/// A frame for a dialog to stand on, whose place is printed for whoever reads this program's output:
+/// Shows a frame as the parent of a dialog, and prints its place:
 ///
 ///   frame X Y WIDTH HEIGHT
 ///
-/// Null when it does not come up.
+/// Returns null when the frame does not appear.
 wxFrame* ShowParent();
 
-/// Prints, for as long as it lives, what state the process's file or folder dialog is in, at every change:
+/// Prints the state of the process's file or folder dialog at every change, as long as this object lives:
 ///
 ///   state ACTIVE FOCUS POPUP ACCEPT FOLDER FILE TEXT MESSAGE
 ///
-/// The fields stand behind tabs: "active" when the dialog has the input focus, else "inactive"; the kind of widget that
-/// has it within the dialog; "popup" while a list of completions is shown; "accept" while the button that accepts can
-/// be pressed; the folder shown; the file or folder that would be chosen now; the text of the entry when that has the
-/// focus; and, while there is a message, "active" or "inactive" for its window, and its text.
+/// Tabs separate the fields: "active" when the dialog has the input focus, else "inactive"; the kind of the focused
+/// widget; "popup" while a list of completions is shown; "accept" while the accepting button can be pressed; the folder
+/// shown; the file or folder that would be chosen now; the text of the entry while that has the focus; and, while there
+/// is a message, "active" or "inactive" for its window, and its text.
 class StatePrinter
 {
 public:

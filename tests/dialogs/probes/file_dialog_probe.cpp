@@ -1,8 +1,8 @@
 // file_dialog_probe SETTINGS save ENTRY TITLE EXTENSION WILDCARD FOLDER NAME
 // file_dialog_probe SETTINGS open ENTRY TITLE EXTENSION WILDCARD SWITCH
 //
-// Shows the file dialog over a frame, with the settings in the folder SETTINGS, and prints what becomes of it, for a
-// test that sends it keys: the states of the dialog, and at its end
+// Shows the file dialog over a frame, with the settings in the folder SETTINGS, for a test that sends it keys. Prints
+// the states of the dialog, and at its end
 //
 //   chosen PATH
 //

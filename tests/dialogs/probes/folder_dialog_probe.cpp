@@ -1,6 +1,5 @@
 // folder_dialog_probe SETTINGS modal TITLE [FOLDER] | reg TITLE SECTION: shows the folder dialog over a frame, with the
-// settings in the folder SETTINGS, and prints what becomes of it, for a test that sends it keys: the states of the
-// dialog, and at its end
+// settings in the folder SETTINGS, for a test that sends it keys. Prints the states of the dialog, and at its end
 //
 //   chosen FOLDER
 

@@ -1,6 +1,6 @@
-// remembering_dialog_probe SETTINGS save|open|several|folder ENTRY TITLE [WILDCARD]: shows a dialog that remembers over a
-// frame, with the settings in the folder SETTINGS, and prints what becomes of it, for a test that sends it keys: the states
-// of the dialog, and at its end
+// remembering_dialog_probe SETTINGS save|open|several|folder ENTRY TITLE [WILDCARD]: shows a dialog that remembers over
+// a frame, with the settings in the folder SETTINGS, for a test that sends it keys. Prints the states of the dialog,
+// and at its end
 //
 //   chosen PATH|PATH...
 

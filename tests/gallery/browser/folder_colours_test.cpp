@@ -18,7 +18,8 @@ namespace fs = std::filesystem;
 const wxColour darkRed(139, 0, 0);
 const wxColour kIndigo(75, 0, 130);
 
-/// How a colour of the palette looks in the tree and beside the combo: in the dark theme, light enough to be read there.
+/// How a colour of the palette looks in the tree and beside the combo: in the dark theme, light enough to be read
+/// there.
 struct Look
 {
     wxColour inTree;

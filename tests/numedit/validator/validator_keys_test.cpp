@@ -151,8 +151,8 @@ protected:
         ASSERT_TRUE(wxTheClipboard->SetData(new wxTextDataObject("pasted")));
     }
 
-    // Where the program owns the clipboard, GTK 3.24.52 sets the same data source on Wayland again, and weston 16 cancels
-    // it: the clipboard would then be empty. GTK 3.24.38 makes a new one.
+    // Where the program owns the clipboard, GTK 3.24.52 sets the same data source on Wayland again, and weston 16
+    // cancels it: the clipboard would then be empty. GTK 3.24.38 makes a new one.
     void TearDown() override
     {
         const wxClipboardLocker clipboard;

@@ -1,5 +1,5 @@
-// A key that is refused changes nothing, as far as anybody can see: the text, what is selected in it, and what the program
-// hears of it. With the keys of a real keyboard.
+// A key that is refused changes nothing, as far as anybody can see: the text, what is selected in it, and what the
+// program hears of it. With the keys of a real keyboard.
 
 #include <fittings/numedit/num_validator.h>
 

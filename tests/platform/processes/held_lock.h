@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-/// The first byte of the lock file is the lock, the second the turn to be the next who gets it.
+/// The first byte of the lock file is the lock. Its second byte is the queue: who holds that gets the lock next.
 inline struct flock BytesOfLock(off_t begin, off_t count)
 {
     struct flock lock = {};
@@ -19,7 +19,7 @@ inline struct flock BytesOfLock(off_t begin, off_t count)
     return lock;
 }
 
-/// Whether somebody has the turn to be the next who gets the lock.
+/// True when somebody is next for the lock.
 inline bool IsTurnTaken(const std::string& path)
 {
     const int file = open(path.c_str(), O_RDWR | O_CLOEXEC);
@@ -47,7 +47,7 @@ public:
     {
         if (m_fd < 0)
             return;
-        // Processes that were forked meanwhile would keep the lock of a file that is only closed.
+        // Unlock first: closing alone would leave the lock to processes that were forked meanwhile.
         struct flock lock = BytesOfLock(0, 0);
         lock.l_type = F_UNLCK;
         EXPECT_EQ(fcntl(m_fd, F_OFD_SETLK, &lock), 0);

@@ -1,4 +1,4 @@
-// What others do to the settings file between the last look at it and its exchange.
+// Others change the settings file after the store has last looked at it, and before it exchanges the file.
 
 #include <fittings/platform/local_reg_store.h>
 
@@ -21,7 +21,7 @@
 
 namespace {
 
-/// Lets others act before one exchange each, in turn.
+/// Runs one action before each exchange, in turn.
 class Others
 {
 public:
@@ -49,7 +49,7 @@ class AnExchange : public testing::Test
 protected:
     std::string Now() const { return ReadFile(m_path); }
 
-    // As another process does it: a new file in the place of the old one.
+    // As another process saves: a new file takes the place of the old one.
     void Put(const std::string& text) const
     {
         WriteFile(m_path + ".new", text);
@@ -93,7 +93,7 @@ TEST_F(AnExchange, StoresItsOwnValueOverTheOneThatAnotherProcessHasJustStored)
     EXPECT_EQ(Now(), "[s]\nk=new\n");
 }
 
-// The second one knows the first exchange, but not what that has displaced.
+// The second process knows the first exchange, but not the file that it has displaced.
 TEST_F(AnExchange, KeepsTheChangesOfSeveralProcesses)
 {
     WriteFile(m_path, "[s]\na=1\nb=1\nk=old\n");
@@ -109,7 +109,7 @@ TEST_F(AnExchange, KeepsTheChangesOfSeveralProcesses)
     EXPECT_EQ(now.Get(L"s", L"k"), L"new");
 }
 
-// The value that was stored last, by a process that saw the one that was merged, counts.
+// The last value counts: its process has seen the merged one.
 TEST_F(AnExchange, KeepsTheNewerOfTwoValuesOfOthers)
 {
     WriteFile(m_path, "[s]\na=1\nk=old\n");
@@ -136,7 +136,7 @@ TEST_F(AnExchange, WaitsForAnEditorThatHasJustEmptiedTheFile)
     EXPECT_EQ(Now(), "[s]\na=2\nk=new\n");
 }
 
-// Nobody can merge what is no text: it comes back, and is then set aside as any such file is.
+// A file that is not text cannot be merged: it is put back, and then set aside as any unreadable file.
 TEST_F(AnExchange, PutsBackWhatIsNoText)
 {
     WriteFile(m_path, "[s]\na=1\nk=old\n");

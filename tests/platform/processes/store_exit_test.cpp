@@ -1,4 +1,4 @@
-// The store in the last moments of a process.
+// The store while a process ends.
 
 #include <cstdlib>
 
@@ -13,7 +13,7 @@
 
 namespace {
 
-// Made before the store is first used, and so destroyed after what was made then.
+// Made before the store is first used, and so destroyed after the objects that the store makes then.
 struct Host
 {
     ~Host()

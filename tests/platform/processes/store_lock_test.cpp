@@ -87,7 +87,7 @@ TEST(AHeldLock, GoesToWhoHasWaitedLongest)
     EXPECT_FALSE(IsTurnTaken(lockFile));
 }
 
-// A child that is forked while a thread stores something has the open lock file too.
+// A child that is forked while a thread stores something inherits the open lock file.
 TEST(AChildForkedWhileTheLockIsHeld, DoesNotKeepIt)
 {
     const InMemory inMemory;

@@ -69,7 +69,7 @@ TEST(SixProcesses, KeepAllOfTheirTwoHundredAndFortyUpdates)
     EXPECT_EQ(NamesIn(data.Path()), (std::vector<std::string>{"settings.ini", "settings.ini.lock"}));
 }
 
-// In a container of its own a process has a number that another has in another container: here both are number 1.
+// Processes in different containers may have the same process number: here both are number 1.
 void InOwnContainer(const std::function<void()>& work)
 {
     ASSERT_TRUE(unshare(CLONE_NEWPID) == 0 || unshare(CLONE_NEWUSER | CLONE_NEWPID) == 0);
@@ -132,7 +132,7 @@ TEST(FourThreads, KeepAllOfTheirUpdates)
         EXPECT_EQ(Stored(L"s", Name(L"k", number).c_str()), Name(L"v", number));
 }
 
-// What a writing process says about itself, in memory that outlives it.
+// The state of a writing process, in memory that outlives it.
 struct Progress
 {
     std::atomic<int> begun;
@@ -158,7 +158,7 @@ private:
     Progress* m_progress;
 };
 
-// The number of the update, in a text whose length changes with it.
+// A text with the number of the update; its length changes with the number.
 std::wstring UpdateText(int update)
 {
     return std::to_wstring(update) + std::wstring(static_cast<std::size_t>(update % 7) * 100, L'.');
@@ -182,7 +182,7 @@ protected:
                             Patience() * std::chrono::microseconds(10'000));
     }
 
-    // Starts a writer, kills it after a random time, and looks at what is left.
+    // Starts a writer, kills it after a random time, and checks the file.
     template <typename Write>
     void KillOnce(int round, Write write, const std::string& path)
     {
@@ -193,7 +193,7 @@ protected:
                 m_progress->done = update;
             }
         });
-        // From before the first write to well into some later one.
+        // The time ranges from before the first write to well into a later one.
         std::this_thread::sleep_for(std::chrono::microseconds(m_random() % (Patience() * 3000 + 2 * m_saving.count())));
         ASSERT_EQ(kill(child, SIGKILL), 0);
         int status = 0;
@@ -210,12 +210,12 @@ protected:
             ASSERT_EQ(ini.Get(Name(L"Others", other % 4).c_str(), Name(L"other", other).c_str()), Name(L"value", other))
                 << "round " << round;
         }
-        // The next writer goes on from what is there.
+        // The next writer continues from the values in the file.
         m_progress->done = m_progress->begun =
             found == UpdateText(m_progress->begun) ? +m_progress->begun : +m_progress->done;
     }
 
-    // What killed writers leave goes when somebody saves a minute later.
+    // A save removes the temporary files of killed writers when they are a minute old.
     void ExpectLeftoversToGo(const std::vector<std::string>& expected)
     {
         for (const std::string& name : NamesIn(m_data.Path())) {
@@ -241,7 +241,7 @@ TEST_F(AKilledWriter, LeavesTheOldOrTheNewValueAndAllOthersInTheDefaultStore)
         KillOnce(
             round, [](const std::wstring& text) { CLocalRegStore::WriteString(L"Kill", L"update", text.c_str()); },
             m_data / "settings.ini");
-        // The next reader gets it too, and a lock never outlives its holder.
+        // The next reader sees it too, and a lock never outlives its holder.
         const auto start = Clock::now();
         ASSERT_EQ(Stored(L"Kill", L"update"), UpdateText(m_progress->done));
         ASSERT_LT(Clock::now() - start, std::chrono::milliseconds(1500));
@@ -294,7 +294,7 @@ TEST(AChangeByAnotherProcess, IsNotUndoneByTheNextWrite)
     EXPECT_EQ(ReadFile(data / "settings.ini"), "[s]\nmine=3\ntheirs=2\n");
 }
 
-// Two states of one file with one size, within one tick of the file system's clock: nothing but the bytes differs.
+// Two states of one file with the same size, within one tick of the file system's clock: only the bytes differ.
 TEST(AChangeInPlace, IsSeenHoweverFastItFollowsAnother)
 {
     TempUserData data;
@@ -316,7 +316,7 @@ TEST(AChangeInPlace, IsSeenWhenItsTimeIsPutBack)
     WriteFile(path, "[s]\nk=1\n");
     struct stat info;
     ASSERT_EQ(stat(path.c_str(), &info), 0);
-    std::this_thread::sleep_for(std::chrono::milliseconds(30));  // Past the tick, so that the copy is kept.
+    std::this_thread::sleep_for(std::chrono::milliseconds(30));  // past the timestamp's resolution
     EXPECT_EQ(Stored(L"s", L"k"), L"1");
     WriteFile(path, "[s]\nk=2\n");
     const timespec times[] = {info.st_atim, info.st_mtim};

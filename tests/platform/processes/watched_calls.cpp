@@ -8,7 +8,7 @@
 
 WatchedCalls g_watchedCalls;
 
-// These take the place of the C library's in the whole process.
+// These replace the C library's functions in the whole process.
 
 extern "C" int fsync(int fd)
 {

@@ -3,17 +3,17 @@
 
 #include <functional>
 
-/// What happens in the process before it makes a call on a file.
+/// Actions before the process makes a call on a file.
 struct WatchedCalls
 {
     std::function<void()> beforeSync;
 
-    /// Before a file takes the place of another, or a place where there is none. A number other than 0 is the error that the
-    /// call then fails with.
+    /// Called before a file is renamed or exchanged. When it returns a number other than 0, the call fails with that
+    /// error.
     std::function<int()> beforeExchange;
 };
 
-/// Of the whole process; a forked process has its own.
+/// The one of the process; a forked process has its own.
 extern WatchedCalls g_watchedCalls;
 
 #endif

@@ -1,4 +1,4 @@
-// Disks, folders and files that do not let themselves be written.
+// Disks, folders and files that cannot be written.
 
 #include <fittings/platform/local_reg_store.h>
 
@@ -48,7 +48,7 @@ bool SaveKey(const std::string& path, const wchar_t* value)
 const std::string kOld = "# mine\n[s]\nk=old\nother=1\n";
 const std::string kNew = "# mine\n[s]\nk=new\nother=1\n";
 
-// The old file stands, through both ways to write it, and no other is left behind.
+// The old file stays, by both ways to write it, and no other file is left behind.
 void ExpectWritesToFail(const std::string& folder)
 {
     const std::string big(1 << 20, 'x');
@@ -74,7 +74,7 @@ TEST(AWriteThatTheSystemCutsShort, LeavesTheOldFile)
         const rlimit limit = {4096, 4096};
         ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
         ExpectWritesToFail(data.Path());
-        // What still fits is saved.
+        // A value that still fits is saved.
         EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
         EXPECT_EQ(ReadFile(data / "settings.ini"), kNew);
     });
@@ -133,13 +133,13 @@ TEST(AFileThatMayNotBeRead, IsNotReplaced)
     });
     chmod((data / "settings.ini").c_str(), 0600);
     EXPECT_EQ(ReadFile(data / "settings.ini"), kOld);
-    // Once it may be read, all is as it was.
+    // When the file may be read again, all values are there.
     EXPECT_EQ(Stored(L"s", L"k"), L"old");
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
     EXPECT_EQ(ReadFile(data / "settings.ini"), kNew);
 }
 
-// A sticky folder lets everybody add files, but replace only their own: the very last step of saving fails.
+// In a sticky folder everybody may add files, but replace only their own: the last step of saving fails.
 TEST(AFileOfAnotherUser, StandsWhereItMayNotBeReplaced)
 {
     if (geteuid() != 0)
@@ -187,7 +187,7 @@ TEST(AFileInTheFoldersPlace, MakesWritingFail)
     EXPECT_EQ(ReadFile(folder / "data"), "precious");
 }
 
-// That there was no file is no longer known once its folder cannot be looked into.
+// When the folder cannot be searched, nobody knows whether the file is missing.
 TEST(AFolderThatBecomesAFile, MakesWritingFail)
 {
     TempFolder folder;
@@ -407,7 +407,7 @@ TEST(TheDefaultStore, MakesNothingUntilSomethingIsStored)
     EXPECT_FALSE(fs::exists(data / "new"));
 }
 
-// Staging files bear a name that no person gives: a prefix and a UUID.
+// Staging files have a name that no person gives: a prefix and a UUID.
 TEST(LeftoversOfAKilledProcess, GoAMinuteLaterAndNothingElseDoes)
 {
     const TempFolder folder;

@@ -1,6 +1,6 @@
 // Every call on a file that the store makes fails in turn, with each of several errors, once and from then on.
-// Whatever fails: the old or the new value is stored and the result says which, all other values are kept, and as soon
-// as the system works again the store does.
+// In each case the old or the new value is stored and the result says which, all other values are kept, and the store
+// works again as soon as the system does.
 
 #include <cerrno>
 #include <functional>
@@ -20,7 +20,7 @@ namespace {
 
 constexpr int kErrors[] = {ENOSPC, EIO, EACCES, EROFS, ENOMEM, EMFILE, EINTR};
 
-/// Tries every fault until there is no call left that could fail, and counts them.
+/// Tries every fault until no call is left that could fail, and counts them.
 void ForEveryFault(const std::function<void(const Fault&)>& attempt)
 {
     int faults = 0;
@@ -28,7 +28,7 @@ void ForEveryFault(const std::function<void(const Fault&)>& attempt)
     for (const int error : kErrors)
         for (const bool lasts : {false, true}) {
             if (lasts && error == EINTR)
-                continue;  // what is interrupted each time has to be tried again each time
+                continue;  // a call that is interrupted each time is repeated for ever
             for (int nth = 1;; ++nth) {
                 attempt({nth, error, lasts});
                 const std::string& failed = FailingCalls::Failed();
@@ -56,7 +56,7 @@ bool Under(const Fault& fault, const std::function<bool()>& work)
     return work();
 }
 
-// Nothing but what was there, the store's lock, and what could not be removed, which goes with a later save.
+// Only the earlier files, the store's lock, and files that could not be removed; a later save removes those.
 void ExpectNoStrangers(const TempFolder& folder, const std::string& file)
 {
     int leftovers = 0;
@@ -163,7 +163,7 @@ TEST(AnyFailingCall, LetsAFileBeSavedOrSaysThatItWasNot)
     });
 }
 
-// What was in the file, readable or not, is in one file or the other.
+// The earlier bytes, readable or not, are in one file or the other.
 TEST(AnyFailingCall, KeepsAFileThatHoldsNoText)
 {
     const InMemory fast;

@@ -1,4 +1,4 @@
-// Texts that an INI file could not hold as they are.
+// Texts that an INI file cannot hold without encoding.
 
 #include <fittings/platform/local_reg_store.h>
 
@@ -21,7 +21,7 @@ struct Triple
     const wchar_t* section;
     const wchar_t* key;
     const wchar_t* value;
-    const char* file;  // The whole file that holds nothing else.
+    const char* file;  // the whole file
 };
 
 const Triple kTriples[] = {
@@ -106,7 +106,7 @@ const Triple kTriples[] = {
      "[s]\na key of some length that is longer than any short buffer would be, by far=v\n"},
 };
 
-// Another one whenever the file was written: a new file takes the place of the old one, which is there until then.
+// Changes with every save: a new file is made while the old one is still there.
 ino_t NodeOf(const std::string& path)
 {
     struct stat info = {};
@@ -253,7 +253,7 @@ INSTANTIATE_TEST_SUITE_P(, NarrowText,
                                          NarrowCase{"AllOnes", "\xFE\xFF", L"\xDCFE\xDCFF"}),
                          [](const auto& info) { return info.param.name; });
 
-// Narrow text has no bytes for these: it gets what UTF-8 would have, and the wide text stays what it was.
+// UTF-8 has no bytes for these: narrow text gets the nearest encoding, and the wide text stays the same.
 TEST(WideText, ThatIsNoUnicodeIsReadableAsNarrowText)
 {
     TempUserData data;

@@ -17,7 +17,7 @@ using Narrow = const char*;
 static_assert(std::is_same_v<decltype(CLocalRegStore::CreateInitFile), CIniFile*(bool)>);
 static_assert(std::is_same_v<decltype(CLocalRegStore::DestroyIniFile), void(CIniFile*)>);
 
-// Of the operations of one name, those with these arguments.
+// Selects an overload by its arguments.
 [[maybe_unused]] constexpr bool (*kLoad)(CIniFile&, Wide) = CLocalRegStore::Load;
 [[maybe_unused]] constexpr bool (*kSave)(const CIniFile&, Wide) = CLocalRegStore::Save;
 [[maybe_unused]] constexpr bool (*kGetBool)(Wide, Wide, bool) = CLocalRegStore::GetProfileBool;
@@ -274,7 +274,7 @@ struct BoolCase
 {
     const char* name;
     const wchar_t* text;
-    int meaning;  // -1: none.
+    int meaning;  // -1: not a boolean
 };
 
 class ABooleanTypedByHand : public testing::TestWithParam<BoolCase>

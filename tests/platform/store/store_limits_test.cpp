@@ -43,7 +43,7 @@ TEST(AFileOfFiveMillionKeys, IsNotReadAndNotReplaced)
     Ini ini;
     EXPECT_FALSE(ini.Load(data / "settings.ini"));
     EXPECT_EQ(ini.Get(L"s", L"1"), L"(none)");
-    EXPECT_LT(ResidentBytes(), before + 600 * kMiB);  // a sanitizer takes some itself
+    EXPECT_LT(ResidentBytes(), before + 600 * kMiB);  // sanitizers need some of it
     ini.Set(L"s", L"k", L"v");
     EXPECT_FALSE(ini.Save(data / "settings.ini"));
     EXPECT_EQ(Stored(L"s", L"1"), L"(none)");
@@ -62,7 +62,7 @@ TEST(AFileOfMoreThan64MiB, IsNotReadAndNotReplaced)
     EXPECT_TRUE(ReadFile(data / "settings.ini") == text);
 }
 
-// What would be refused the next time is not made.
+// A file that could not be read again is not written.
 TEST(AValueOfMoreThan64MiB, IsNotStored)
 {
     const InMemory inMemory;

@@ -1,4 +1,4 @@
-// Texts and files made by chance, from fixed seeds that a failure names.
+// Random texts and files, from fixed seeds that a failure names.
 
 #include <fittings/platform/local_reg_store.h>
 
@@ -21,7 +21,7 @@ unsigned Below(Random& random, unsigned limit)
     return static_cast<unsigned>(random() % limit);
 }
 
-// Characters with a meaning to somebody are as likely as all the rest.
+// Special characters are as likely as all others together.
 wchar_t AnyCharacter(Random& random)
 {
     static const std::wstring special = L"=[]#;%\"\\/ \t\r\n{}ux0189abAF.:-_\x7F\x85\xA0\xFEFF\x2028";
@@ -60,11 +60,11 @@ TEST(TenThousandTriples, ComeBack)
     const InMemory inMemory;
     TempFolder folder;
     int triples = 0;
-    // The texts are short so that many sections and keys meet again.
+    // Short texts make equal sections and keys likely.
     for (int file = 0; triples < 10'000; ++file) {
         std::map<std::pair<std::wstring, std::wstring>, std::wstring> expected;
         const std::string path = folder / "a.ini";
-        // A file that was saved and read again must take further values like one that was not.
+        // A file that was saved and read again takes further values as one that was not.
         for (int saving = 0; saving < 4 && triples < 10'000; ++saving) {
             Ini ini(path);
             for (unsigned size = Below(random, 40); size > 0 && triples < 10'000; --size, ++triples) {
@@ -120,11 +120,11 @@ TEST(ThousandsOfDirtyFiles, KeepWhatTheyHold)
 
         Ini before;
         if (!before.Load(folder / "a.ini")) {
-            // The zeros have hit the one line that was sure to be a section.
+            // The zeros have overwritten the only section line.
             ASSERT_NE(bytes.find('\0'), std::string::npos) << "file " << file << ":\n" << bytes;
             continue;
         }
-        // Where the same bytes stand already, no time is lost on waiting for the disk.
+        // A file with the same bytes already is not written, which saves the wait for the disk.
         WriteFile(folder / "b.ini", bytes);
         ASSERT_TRUE(before.Save(folder / "b.ini"));
         ASSERT_EQ(ReadFile(folder / "b.ini"), bytes) << "file " << file;

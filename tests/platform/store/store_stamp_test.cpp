@@ -1,5 +1,5 @@
-// The default store's copy of its file is told to be out of date by the file's stamps. Here the stamps and the clock
-// are the test's: whether two changes fall into one tick is not left to chance.
+// The default store knows by the file's timestamps when its copy is out of date. Here the test sets the timestamps and
+// the clock, so that two changes fall into one tick whenever the test wants.
 
 #include <filesystem>
 #include <optional>
@@ -31,7 +31,7 @@ int Status(int folder, const char* path, struct stat* info, int flags)
 
 }  // namespace
 
-// These take the place of the C library's in the whole process.
+// These replace the C library's functions in the whole process.
 
 extern "C" int stat(const char* path, struct stat* info) noexcept
 {
@@ -54,7 +54,7 @@ extern "C" int clock_gettime(clockid_t clock, timespec* now) noexcept
 
 namespace {
 
-// A file whose stamps never change, read once at a time of the test's.
+// A file whose timestamps never change, read once at a time that the test sets.
 class AnUnchangedStamp : public testing::Test
 {
 protected:
@@ -100,7 +100,7 @@ TEST_F(AnUnchangedStamp, IsNotTrustedWhenTheClockWasPutBack)
     EXPECT_EQ(ReadAfterChange(), L"2");
 }
 
-// Some file systems keep no fractions, and some no odd seconds.
+// Some file systems keep whole seconds only, and some only even ones.
 TEST_F(AnUnchangedStamp, OfWholeSecondsIsNotTrustedForTwoOfThem)
 {
     ReadOnce({1'700'000'000, 0}, {1'700'000'001, 996'000'000});

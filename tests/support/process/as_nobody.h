@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-/// Takes root's right to read and write everything away for as long as it lives; other users lack it anyway.
+/// Takes away root's right to read and write every file, as long as the object lives. Other users do not have it.
 class AsNobody
 {
 public:

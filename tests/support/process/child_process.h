@@ -10,12 +10,12 @@
 
 #include <tests/support/temp_folder.h>
 
-/// A program run by a test, with what it prints. It never outlives the object.
+/// A program that a test runs, and its output. It never outlives the object.
 class ChildProcess
 {
 public:
-    /// Starts it in this process's environment with the changes in @a environment; no value removes a variable. What it
-    /// says of errors goes where this process's does, or into the file @a errors.
+    /// Starts it in this process's environment with the changes in @a environment; an entry without a value removes the
+    /// variable. Its standard error goes where this process's goes, or into the file @a errors.
     explicit ChildProcess(const std::vector<std::string>& command,
                           const std::map<std::string, std::optional<std::string>>& environment = {},
                           const std::string& errors = {});
@@ -27,13 +27,13 @@ public:
 
     void Send(int signal);
 
-    /// Waits for its end; false when it still runs after @a milliseconds.
+    /// Waits for its end; returns false when it still runs after @a milliseconds.
     bool WaitForEnd(int milliseconds = 60000);
 
-    /// Its exit code once it has ended; minus the signal's number when a signal ended it.
+    /// The exit code once it has ended; minus the signal's number when a signal ended it.
     int ExitCode() const { return m_exitCode; }
 
-    /// What it has printed so far.
+    /// The output so far.
     std::string Output() const { return ReadFile(m_folder / "output"); }
 
 private:

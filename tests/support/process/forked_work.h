@@ -6,14 +6,14 @@
 
 #include <sys/types.h>
 
-/// Starts a child process that does @a work and ends. The parent goes on; WaitForSuccess() collects the child.
+/// Starts a child process that runs @a work and ends. The parent goes on; WaitForSuccess() waits for the child.
 pid_t StartChild(const std::function<void()>& work);
 
 /// True when the child ended by itself and none of its expectations failed.
 bool WaitForSuccess(pid_t child);
 
-/// Runs @a work in a child process, with its expectations, and waits for it. What the work does to the process
-/// ends with the child.
+/// Runs @a work, with its expectations, in a child process, and waits for it. Its changes of the process end with the
+/// child.
 void InChild(const std::function<void()>& work);
 
 #endif

@@ -8,7 +8,7 @@
 
 namespace {
 
-// A user who is not root gets to mount in a user namespace of their own, where that is allowed, as its root.
+// A user who is not root may mount as the root of a user namespace, where the system allows that.
 bool EnterMountNamespace()
 {
     if (unshare(CLONE_NEWNS) == 0)

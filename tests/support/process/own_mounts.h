@@ -3,8 +3,8 @@
 
 #include <string>
 
-/// Gives this process, which has one thread only, mounts that it and its children alone see and that go with them.
-/// False where the system does not allow it; other users than root need user namespaces.
+/// Gives this process a mount namespace that only it and its children see, and that ends with them. The process must
+/// have one thread. Returns false where the system does not allow it; users other than root need user namespaces.
 bool EnterOwnMounts();
 
 /// Mounts an empty file system of 64 KiB, in memory. Only after EnterOwnMounts().
@@ -13,7 +13,7 @@ bool MountSmallDisk(const std::string& folder);
 /// Mounts an empty file system in memory. Only after EnterOwnMounts().
 bool MountDisk(const std::string& folder);
 
-/// Lets a small disk be read only, or be written again.
+/// Makes a small disk read only, or writable again.
 bool SetReadOnly(const std::string& folder, bool isReadOnly);
 
 #endif

@@ -6,8 +6,8 @@
 
 #include <tests/support/patience.h>
 
-/// The seconds that the processor spends on @a work: what else the machine does counts for nothing, nor does what a
-/// tool takes that makes all slow.
+/// Returns the seconds that the processor spends on @a work, divided by Patience(). The machine's other work does not
+/// count.
 inline double ProcessorSeconds(const std::function<void()>& work)
 {
     const std::clock_t start = std::clock();
