@@ -277,10 +277,25 @@ std::optional<Decimal> NumberIn(std::wstring_view text, wchar_t point)
     return typed ? ValueOf(*typed) : std::nullopt;
 }
 
+std::string DecimalTextOf(std::wstring_view plain, wchar_t point)
+{
+    const std::optional<Typed> typed = Parse(plain, point);
+    if (!typed || !typed->IsFinished())
+        return {};
+    std::string text = typed->sign == L'-' ? "-" : "";
+    text += typed->integers.empty() ? "0" : typed->integers;
+    if (!typed->decimals.empty())
+        text += "." + typed->decimals;
+    if (typed->hasExponent)
+        text += (typed->exponentSign == L'-' ? "e-" : "e") + typed->exponent;
+    return text;
+}
+
 std::wstring WithPoint(std::string_view decimal, wchar_t point)
 {
     std::wstring text(decimal.begin(), decimal.end());
-    std::replace(text.begin(), text.end(), L'.', point);
+    if (point != 0)
+        std::replace(text.begin(), text.end(), L'.', point);
     return text;
 }
 

@@ -56,6 +56,9 @@ std::optional<Decimal> NumberIn(std::wstring_view text, wchar_t point);
 /// is no number, or one of more digits than are allowed.
 std::optional<std::wstring> PlainTextOf(std::wstring_view text, const CNumberFormat& format);
 
+/// The same number with `.` as its point, as programs read it: "+5." is "5"; empty where there is none.
+std::string DecimalTextOf(std::wstring_view plain, wchar_t point);
+
 /// A decimal text as plain text with that point.
 std::wstring WithPoint(std::string_view decimal, wchar_t point);
 

@@ -1,0 +1,168 @@
+#include <fittings/numedit/decimal_validator.h>
+
+#include <optional>
+#include <string>
+
+#include <wx/textentry.h>
+#include <wx/window.h>
+
+#include <fittings/numedit/decimal.h>
+#include <fittings/numedit/number_ctrl.h>
+#include <fittings/numedit/number_rules.h>
+
+namespace {
+
+using fittings::Decimal;
+
+/// The decimal text of a field, empty where it is; nothing where the field has no number that is accepted.
+std::optional<std::string> DecimalIn(wxWindow* window, const CNumberFormat& format)
+{
+    if (const auto* const control = dynamic_cast<const wxNumberCtrl*>(window))
+        return control->IsAcceptable() ? std::optional(control->GetDecimal().utf8_string()) : std::nullopt;
+    const auto* const entry = dynamic_cast<const wxTextEntry*>(window);
+    if (!entry)
+        return std::nullopt;
+    const wxString text = entry->GetValue();
+    if (text.empty())
+        return std::string();
+    const std::optional<std::wstring> plain = fittings::PlainTextOf(text.ToStdWstring(), format);
+    if (!plain || fittings::Judge(*plain, fittings::RulesOf(format)) != fittings::NumberState::Good)
+        return std::nullopt;
+    return fittings::DecimalTextOf(*plain, format.m_chDecimalPoint);
+}
+
+/// What to show for a variable; nothing where it is no number.
+/// @{
+std::optional<std::string> TextOf(const std::monostate&)
+{
+    return std::nullopt;
+}
+
+std::optional<std::string> TextOf(const double* value)
+{
+    const std::optional<Decimal> number = fittings::DecimalOf(*value);
+    return number ? fittings::PlainText(*number) : std::nullopt;
+}
+
+std::optional<std::string> TextOf(const std::int64_t* value)
+{
+    return std::to_string(*value);
+}
+
+std::optional<std::string> TextOf(const wxString* value)
+{
+    std::string text = value->utf8_string();
+    return text.empty() || fittings::ParseDecimal(text) ? std::optional(text) : std::nullopt;
+}
+/// @}
+
+/// Puts a number into a variable, if it is there, fits and is to be stored.
+/// @{
+bool Take(const std::string&, std::monostate, bool)
+{
+    return true;
+}
+
+bool Take(const std::string& text, double* variable, bool store)
+{
+    const std::optional<Decimal> number = fittings::ParseDecimal(text);
+    const std::optional<double> value = number ? fittings::DoubleOf(*number) : std::nullopt;
+    if (value && store)
+        *variable = *value;
+    return value.has_value();
+}
+
+bool Take(const std::string& text, std::int64_t* variable, bool store)
+{
+    const std::optional<Decimal> number = fittings::ParseDecimal(text);
+    const std::optional<std::int64_t> value = number ? fittings::IntegerOf(*number) : std::nullopt;
+    if (value && store)
+        *variable = *value;
+    return value.has_value();
+}
+
+bool Take(const std::string& text, wxString* variable, bool store)
+{
+    if (store)
+        *variable = text;
+    return true;
+}
+/// @}
+
+}  // namespace
+
+wxDecimalValidator::wxDecimalValidator() : m_format(wxNumberCtrl::FromLocale()) {}
+
+wxDecimalValidator::wxDecimalValidator(double* value) : wxDecimalValidator(value, wxNumberCtrl::FromLocale()) {}
+
+wxDecimalValidator::wxDecimalValidator(double* value, const CNumberFormat& format) : m_format(format), m_variable(value)
+{
+}
+
+wxDecimalValidator::wxDecimalValidator(std::int64_t* value) : wxDecimalValidator(value, wxNumberCtrl::FromLocale()) {}
+
+wxDecimalValidator::wxDecimalValidator(std::int64_t* value, const CNumberFormat& format)
+    : m_format(format), m_variable(value)
+{
+}
+
+wxDecimalValidator::wxDecimalValidator(wxString* value) : wxDecimalValidator(value, wxNumberCtrl::FromLocale()) {}
+
+wxDecimalValidator::wxDecimalValidator(wxString* value, const CNumberFormat& format)
+    : m_format(format), m_variable(value)
+{
+}
+
+// The window is each copy's own.
+// NOLINTNEXTLINE(bugprone-copy-constructor-init)
+wxDecimalValidator::wxDecimalValidator(const wxDecimalValidator& other)
+    : wxValidator(), m_format(other.m_format), m_variable(other.m_variable)
+{
+}
+
+wxDecimalValidator::~wxDecimalValidator() = default;
+
+wxObject* wxDecimalValidator::Clone() const
+{
+    return new wxDecimalValidator(*this);
+}
+
+bool wxDecimalValidator::Move(bool store) const
+{
+    const std::optional<std::string> text = DecimalIn(GetWindow(), m_format);
+    return text && std::visit([&](auto variable) { return Take(*text, variable, store); }, m_variable);
+}
+
+bool wxDecimalValidator::Validate(wxWindow*)
+{
+    wxWindow* const window = GetWindow();
+    if (!window || !dynamic_cast<wxTextEntry*>(window))
+        return false;
+    if (!window->IsEnabled() || Move(false))
+        return true;
+    window->SetFocus();
+    return false;
+}
+
+bool wxDecimalValidator::TransferToWindow()
+{
+    auto* const entry = dynamic_cast<wxTextEntry*>(GetWindow());
+    if (!entry)
+        return false;
+    if (std::holds_alternative<std::monostate>(m_variable))
+        return true;
+    const std::optional<std::string> text = std::visit([](auto variable) { return TextOf(variable); }, m_variable);
+    if (!text)
+        return false;
+    if (auto* const control = dynamic_cast<wxNumberCtrl*>(GetWindow()))
+        return control->SetDecimal(*text);
+    entry->SetValue(fittings::WithPoint(*text, m_format.m_chDecimalPoint));
+    return true;
+}
+
+bool wxDecimalValidator::TransferFromWindow()
+{
+    if (std::holds_alternative<std::monostate>(m_variable))
+        return dynamic_cast<wxTextEntry*>(GetWindow()) != nullptr;
+    return Move(true);
+}

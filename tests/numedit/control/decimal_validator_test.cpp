@@ -1,0 +1,141 @@
+// Numbers that a validator moves between fields and the program's variables.
+
+#include <fittings/numedit/decimal_validator.h>
+
+#include <cstdint>
+#include <limits>
+
+#include <gtest/gtest.h>
+
+#include <wx/combobox.h>
+
+#include <tests/numedit/control/number_ctrl_dialog.h>
+#include <tests/support/gui.h>
+
+namespace {
+
+TEST(AValidatorOnANumberCtrl, MovesADouble)
+{
+    double price = 9.95;
+    NumberCtrlDialog screen(FixedFormat(), wxDecimalValidator(&price));
+    screen.Show();
+    ASSERT_TRUE(screen.dialog->TransferDataToWindow());
+    EXPECT_EQ(screen.Text(), L"9.95");
+    screen.Restart("1234.5");
+    screen.Leave();
+    EXPECT_TRUE(screen.dialog->Validate());
+    EXPECT_TRUE(screen.dialog->TransferDataFromWindow());
+    EXPECT_EQ(price, 1234.5);
+}
+
+TEST(AValidatorOnANumberCtrl, RefusesAnEmptyFieldForAVariableThatCannotSayIt)
+{
+    std::int64_t count = 7;
+    NumberCtrlDialog screen(FixedFormat(), wxDecimalValidator(&count));
+    screen.Show();
+    screen.Leave();
+    EXPECT_FALSE(screen.dialog->Validate());
+    EXPECT_TRUE(PumpUntil([&] { return screen.number->HasFocus(); }));
+    EXPECT_FALSE(screen.number->GetValidator()->TransferFromWindow());
+    EXPECT_EQ(count, 7);
+    screen.Restart("2.5");
+    EXPECT_FALSE(screen.dialog->Validate()) << "no whole number";
+    screen.Restart("2.00");
+    EXPECT_TRUE(screen.dialog->Validate());
+    EXPECT_TRUE(screen.number->GetValidator()->TransferFromWindow());
+    EXPECT_EQ(count, 2);
+}
+
+TEST(AValidatorOnANumberCtrl, MovesDecimalTextOfAnyLength)
+{
+    CNumberFormat format(eFixedFormat);
+    format.m_bHasMaxIntDigits = false;
+    wxString digits = "12345678901234567890123.45";
+    NumberCtrlDialog screen(format, wxDecimalValidator(&digits));
+    screen.Show();
+    ASSERT_TRUE(screen.number->GetValidator()->TransferToWindow());
+    EXPECT_EQ(screen.number->GetDecimal(), digits);
+    screen.Restart("");
+    EXPECT_TRUE(screen.dialog->Validate());
+    EXPECT_TRUE(screen.number->GetValidator()->TransferFromWindow());
+    EXPECT_EQ(digits, "");
+    digits = "twelve";
+    EXPECT_FALSE(screen.number->GetValidator()->TransferToWindow());
+    EXPECT_EQ(screen.Text(), L"");
+}
+
+TEST(AValidatorOnANumberCtrl, RefusesWhatTheControlRefuses)
+{
+    double price = 1;
+    NumberCtrlDialog screen(Bounded(10, 20), wxDecimalValidator(&price));
+    screen.Show();
+    screen.Restart("5");
+    EXPECT_FALSE(screen.dialog->Validate());
+    EXPECT_FALSE(screen.number->GetValidator()->TransferFromWindow());
+    EXPECT_EQ(price, 1);
+    price = std::numeric_limits<double>::quiet_NaN();
+    EXPECT_FALSE(screen.number->GetValidator()->TransferToWindow());
+    EXPECT_EQ(screen.Text(), L"5");
+}
+
+class AValidatorOnAComboBox : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        frame = new wxDialog(nullptr, wxID_ANY, "Combo", wxPoint(200, 200), wxDefaultSize,
+                             wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER);
+        combo = new wxComboBox(frame, wxID_ANY);
+        ASSERT_TRUE(ShowAndSettle(frame));
+    }
+
+    void TearDown() override
+    {
+        frame->Destroy();
+        PumpPending();
+    }
+
+    wxDialog* frame = nullptr;
+    wxComboBox* combo = nullptr;
+};
+
+TEST_F(AValidatorOnAComboBox, MovesNumbersByItsOwnFormat)
+{
+    double price = 1234.5;
+    combo->SetValidator(wxDecimalValidator(&price, FixedFormat(L',')));
+    ASSERT_TRUE(frame->TransferDataToWindow());
+    EXPECT_EQ(combo->GetValue(), "1234,5");
+    combo->SetValue("77,25-");
+    EXPECT_TRUE(frame->Validate());
+    EXPECT_TRUE(frame->TransferDataFromWindow());
+    EXPECT_EQ(price, -77.25);
+    for (const char* const text : {"x", "-", "1,234", "", "123456"}) {
+        combo->SetValue(text);
+        EXPECT_FALSE(frame->Validate()) << text;
+        EXPECT_FALSE(combo->GetValidator()->TransferFromWindow());
+    }
+    EXPECT_EQ(price, -77.25);
+}
+
+TEST_F(AValidatorOnAComboBox, ChecksWithoutAVariable)
+{
+    combo->SetValidator(wxDecimalValidator());
+    EXPECT_TRUE(combo->GetValidator()->TransferToWindow());
+    EXPECT_TRUE(combo->GetValidator()->TransferFromWindow());
+    EXPECT_TRUE(frame->Validate());
+    combo->SetValue("twelve");
+    EXPECT_FALSE(frame->Validate());
+    combo->Disable();
+    EXPECT_TRUE(frame->Validate());
+}
+
+TEST_F(AValidatorOnAComboBox, FailsOnAWindowWithoutText)
+{
+    double price = 1;
+    frame->SetValidator(wxDecimalValidator(&price));
+    EXPECT_FALSE(frame->GetValidator()->Validate(nullptr));
+    EXPECT_FALSE(frame->GetValidator()->TransferToWindow());
+    EXPECT_FALSE(frame->GetValidator()->TransferFromWindow());
+}
+
+}  // namespace

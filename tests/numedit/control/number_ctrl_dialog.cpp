@@ -1,0 +1,101 @@
+#include <tests/numedit/control/number_ctrl_dialog.h>
+
+#include <gtest/gtest.h>
+
+#include <wx/clipbrd.h>
+#include <wx/dataobj.h>
+#include <wx/sizer.h>
+#include <wx/uiaction.h>
+
+#include <tests/support/process/child_process.h>
+#include <tests/support/gui.h>
+
+NumberCtrlDialog::NumberCtrlDialog(const CNumberFormat& format, const wxValidator& validator, long style)
+    : dialog(new wxDialog(nullptr, wxID_ANY, "Numbers", wxPoint(200, 200), wxDefaultSize,
+                          wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER)),
+      m_bellsBefore(Bells())
+{
+    first = new wxTextCtrl(dialog, wxID_ANY);
+    number = new wxNumberCtrl(dialog, wxID_ANY, format, wxDefaultPosition, wxDefaultSize, style, validator);
+    number->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { ++textEvents; });
+    number->Bind(wxEVT_NUMBER_CHANGED,
+                 [this](wxCommandEvent& event) { numbers.push_back(event.GetString().utf8_string()); });
+    auto* all = new wxBoxSizer(wxVERTICAL);
+    all->Add(first, wxSizerFlags().Border());
+    all->Add(number, wxSizerFlags().Border());
+    all->Add(dialog->CreateButtonSizer(wxOK | wxCANCEL), wxSizerFlags().Border());
+    dialog->SetSizerAndFit(all);
+}
+
+NumberCtrlDialog::~NumberCtrlDialog()
+{
+    dialog->Destroy();
+    PumpPending();
+}
+
+void NumberCtrlDialog::Show()
+{
+    ASSERT_TRUE(ShowAndSettle(dialog));
+    Enter();
+    Restart("");
+}
+
+void NumberCtrlDialog::Leave()
+{
+    first->SetFocus();
+    ASSERT_TRUE(PumpUntil([this] { return first->HasFocus() && !number->HasFocus(); }));
+    PumpPending();
+}
+
+void NumberCtrlDialog::Enter()
+{
+    number->SetFocus();
+    ASSERT_TRUE(PumpUntil([this] { return number->HasFocus(); }));
+    PumpPending();
+}
+
+void NumberCtrlDialog::Restart(const wxString& decimal)
+{
+    ASSERT_TRUE(number->SetDecimal(decimal));
+    number->SetInsertionPointEnd();
+    PumpPending();
+    textEvents = 0;
+    numbers.clear();
+    m_bellsBefore = Bells();
+}
+
+void NumberCtrlDialog::Type(const std::string& characters)
+{
+    wxUIActionSimulator keyboard;
+    for (const char character : characters)
+        keys.WaitForKeys([&] { EXPECT_TRUE(keyboard.Text(wxString(character))); });
+}
+
+void NumberCtrlDialog::Press(int keyCode, int modifiers)
+{
+    wxUIActionSimulator keyboard;
+    keys.WaitForKeys([&] { EXPECT_TRUE(keyboard.Char(keyCode, modifiers)); });
+}
+
+void NumberCtrlDialog::PressRaw(const std::string& key)
+{
+    keys.WaitForKeys([&] { RunChild({"xdotool", "key", key}); });
+}
+
+void NumberCtrlDialog::Paste(const wxString& text)
+{
+    {
+        wxClipboardLocker clipboard;
+        ASSERT_TRUE(wxTheClipboard->SetData(new wxTextDataObject(text)));
+    }
+    Press('V', wxMOD_CONTROL);
+}
+
+CNumberFormat Bounded(double min, double max)
+{
+    CNumberFormat format(eFixedFormat);
+    format.m_bHasMin = format.m_bHasMax = true;
+    format.m_dMin = min;
+    format.m_dMax = max;
+    return format;
+}

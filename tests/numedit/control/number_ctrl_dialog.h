@@ -1,0 +1,60 @@
+#ifndef FITTINGS_TESTS_NUMEDIT_CONTROL_NUMBER_CTRL_DIALOG_H_
+#define FITTINGS_TESTS_NUMEDIT_CONTROL_NUMBER_CTRL_DIALOG_H_
+
+#include <string>
+#include <vector>
+
+#include <wx/dialog.h>
+#include <wx/textctrl.h>
+
+#include <fittings/numedit/number_ctrl.h>
+
+#include <tests/numedit/validator/number_dialog.h>
+
+/// A dialog on the screen with a plain text field, a wxNumberCtrl, and OK and Cancel. The number has the focus.
+class NumberCtrlDialog
+{
+public:
+    explicit NumberCtrlDialog(const CNumberFormat& format, const wxValidator& validator = wxDefaultValidator,
+                              long style = 0);
+    ~NumberCtrlDialog();
+    NumberCtrlDialog(const NumberCtrlDialog&) = delete;
+    NumberCtrlDialog& operator=(const NumberCtrlDialog&) = delete;
+
+    void Show();
+
+    /// Gives the focus away from the number, or to it.
+    /// @{
+    void Leave();
+    void Enter();
+    /// @}
+
+    /// Shows a number with the caret behind it, and forgets what was counted.
+    void Restart(const wxString& decimal);
+
+    void Type(const std::string& characters);
+    void Press(int keyCode, int modifiers = wxMOD_NONE);
+    void PressRaw(const std::string& key);
+
+    /// Puts a text on the clipboard and presses Ctrl+V.
+    void Paste(const wxString& text);
+
+    std::wstring Text() const { return number->GetValue().ToStdWstring(); }
+    std::string Selection() const { return number->GetStringSelection().utf8_string(); }
+    int BellsRung() const { return Bells() - m_bellsBefore; }
+
+    wxDialog* dialog;
+    wxTextCtrl* first;
+    wxNumberCtrl* number;
+    int textEvents = 0;                ///< wxEVT_TEXT of the number
+    std::vector<std::string> numbers;  ///< what each wxEVT_NUMBER_CHANGED said
+    KeyLog keys;
+
+private:
+    int m_bellsBefore;
+};
+
+/// The fixed preset with the given bounds.
+CNumberFormat Bounded(double min, double max);
+
+#endif

@@ -1,0 +1,197 @@
+// What can be typed and pasted into a wxNumberCtrl, with real keys.
+
+#include <fittings/numedit/number_ctrl.h>
+
+#include <gtest/gtest.h>
+
+#include <tests/numedit/validator/keyboard.h>
+#include <tests/numedit/control/number_ctrl_dialog.h>
+#include <tests/support/gui.h>
+
+namespace {
+
+class NumberTyping : public testing::Test
+{
+protected:
+    void SetUp() override { screen.Show(); }
+
+    NumberCtrlDialog screen{FixedFormat()};
+};
+
+TEST_F(NumberTyping, TellsEachTextAndEachNumber)
+{
+    screen.Type("-1.50");
+    EXPECT_EQ(screen.Text(), L"-1.50");
+    EXPECT_EQ(screen.BellsRung(), 0);
+    EXPECT_EQ(screen.textEvents, 5);
+    EXPECT_EQ(screen.numbers, (std::vector<std::string>{"-1", "-1.5"})) << "1. and 1.50 are no other numbers";
+}
+
+TEST_F(NumberTyping, RefusesWhatCannotBecomeANumber)
+{
+    screen.Type("1x2 -.34,5e");
+    EXPECT_EQ(screen.Text(), L"12.34");
+    EXPECT_EQ(screen.BellsRung(), 6);
+    EXPECT_EQ(screen.textEvents, 5);
+}
+
+TEST_F(NumberTyping, ReplacesASelectionWithOneEvent)
+{
+    screen.Restart("12345");
+    screen.number->SetSelection(1, 4);
+    screen.Type("9");
+    EXPECT_EQ(screen.Text(), L"195");
+    EXPECT_EQ(screen.number->GetInsertionPoint(), 2);
+    EXPECT_EQ(screen.textEvents, 1);
+    EXPECT_EQ(screen.numbers, std::vector<std::string>{"195"});
+}
+
+TEST_F(NumberTyping, KeepsTheSelectionWhenAKeyIsRefused)
+{
+    screen.Restart("12345");
+    screen.number->SetSelection(1, 4);
+    screen.Type("x");
+    EXPECT_EQ(screen.Text(), L"12345");
+    EXPECT_EQ(screen.Selection(), "234");
+    EXPECT_EQ(screen.BellsRung(), 1);
+    EXPECT_EQ(screen.textEvents, 0);
+    EXPECT_TRUE(screen.numbers.empty());
+    screen.Type("9");
+    EXPECT_EQ(screen.Text(), L"195") << "what is selected is still replaced";
+}
+
+TEST_F(NumberTyping, JudgesTheTextWithoutTheSelection)
+{
+    screen.Restart("123.45");
+    screen.number->SetSelection(3, 4);
+    screen.Type("6");
+    EXPECT_EQ(screen.Text(), L"123.45") << "without the point it would have six digits";
+    EXPECT_EQ(screen.Selection(), ".");
+    EXPECT_EQ(screen.BellsRung(), 1);
+}
+
+TEST_F(NumberTyping, NeverRefusesToDelete)
+{
+    screen.Restart("123.45");
+    screen.number->SetSelection(3, 4);
+    screen.Press(WXK_BACK);
+    EXPECT_EQ(screen.Text(), L"12345");
+    screen.Press('A', wxMOD_CONTROL);
+    screen.Press(WXK_DELETE);
+    EXPECT_EQ(screen.Text(), L"");
+    EXPECT_EQ(screen.BellsRung(), 0);
+    EXPECT_EQ(screen.numbers, (std::vector<std::string>{"12345", ""}));
+}
+
+TEST_F(NumberTyping, IsRefusedInSilenceWhereValidatorsAreSilent)
+{
+    const SilentValidators silence;
+    screen.Type("x");
+    EXPECT_EQ(screen.Text(), L"");
+    EXPECT_EQ(screen.BellsRung(), 0);
+}
+
+TEST(NumberTypingWithinBounds, TakesTheBeginningOfEachNumber)
+{
+    NumberCtrlDialog screen(Bounded(10, 20));
+    screen.Show();
+    screen.Type("32x1");
+    EXPECT_EQ(screen.Text(), L"2") << "2 begins 20";
+    screen.Restart("");
+    screen.Type("15");
+    EXPECT_EQ(screen.Text(), L"15");
+    screen.Type("0");
+    EXPECT_EQ(screen.Text(), L"15");
+}
+
+TEST(NumberTypingWithinBounds, TakesTheMinusOfNegativeNumbersAlone)
+{
+    NumberCtrlDialog screen(Bounded(-50, -1));
+    screen.Show();
+    screen.Type("5-551");
+    EXPECT_EQ(screen.Text(), L"-5");
+    NumberCtrlDialog positive(Bounded(0, 50));
+    positive.Show();
+    positive.Type("-5");
+    EXPECT_EQ(positive.Text(), L"5");
+}
+
+TEST(NumberTypingOnTheKeypad, GivesTheFormatsPoint)
+{
+    const NumLock on;
+    NumberCtrlDialog screen(FixedFormat(L','));
+    screen.Show();
+    screen.Type("1");
+    screen.PressRaw("91");
+    screen.Type("5");
+    EXPECT_EQ(screen.Text(), L"1,5");
+    EXPECT_EQ(screen.keys.down.at(1), WXK_NUMPAD_DECIMAL);
+}
+
+TEST(NumberTypingOnTheKeypad, GivesTheFormatsPointUnderTheGermanLayout)
+{
+    const NumLock on;
+    NumberCtrlDialog screen(FixedFormat(L'.'));
+    screen.Show();
+    const Layout german({"-layout", "de"}, kKeypadDecimal, 1, "KP_Separator");
+    screen.Type("1");
+    screen.PressRaw("91");
+    screen.Type("5");
+    EXPECT_EQ(screen.Text(), L"1.5");
+    EXPECT_EQ(screen.keys.down.at(1), WXK_NUMPAD_SEPARATOR);
+    screen.PressRaw("91");
+    EXPECT_EQ(screen.Text(), L"1.5");
+    EXPECT_EQ(screen.BellsRung(), 1);
+}
+
+TEST_F(NumberTyping, TakesAPastedNumberAsItIsShown)
+{
+    for (const char* const text : {"1,234.50-", " -1234.50\n", "-1,234.50"}) {
+        screen.Restart("7");
+        screen.number->SelectAll();
+        screen.Paste(text);
+        EXPECT_EQ(screen.Text(), L"-1234.50");
+        EXPECT_EQ(screen.number->GetInsertionPoint(), 8);
+        EXPECT_EQ(screen.BellsRung(), 0);
+        EXPECT_EQ(screen.textEvents, 1);
+        EXPECT_EQ(screen.numbers, std::vector<std::string>{"-1234.50"});
+    }
+}
+
+TEST_F(NumberTyping, TakesAPastedPartOfANumber)
+{
+    screen.Restart("15");
+    screen.number->SetInsertionPoint(1);
+    screen.Paste("23");
+    EXPECT_EQ(screen.Text(), L"1235");
+    EXPECT_EQ(screen.number->GetInsertionPoint(), 3);
+}
+
+TEST_F(NumberTyping, RefusesOtherPastedTextWhole)
+{
+    for (const char* const text : {"12abc", "1.234", "twelve", "123456", "1 2"}) {
+        screen.Restart("7.5");
+        screen.number->SetSelection(0, 1);
+        screen.Paste(text);
+        EXPECT_EQ(screen.Text(), L"7.5") << text;
+        EXPECT_EQ(screen.Selection(), "7");
+        EXPECT_EQ(screen.BellsRung(), 1);
+        EXPECT_EQ(screen.textEvents, 0);
+    }
+}
+
+TEST(NumberTypingIntoAReadOnlyControl, ChangesNothing)
+{
+    NumberCtrlDialog screen(FixedFormat(), wxDefaultValidator, wxTE_READONLY);
+    screen.Show();
+    screen.Restart("12");
+    screen.Type("3");
+    screen.Press(WXK_UP);
+    screen.Enter();
+    screen.Paste("5");
+    EXPECT_EQ(screen.Text(), L"12");
+    EXPECT_EQ(screen.textEvents, 0);
+    EXPECT_TRUE(screen.numbers.empty());
+}
+
+}  // namespace
