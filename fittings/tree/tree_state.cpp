@@ -1,15 +1,20 @@
 #include <fittings/tree/tree_state.h>
 
 #include <algorithm>
+#include <cstddef>
+#include <iterator>
 #include <string_view>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
 #include <wx/wupdlock.h>
 
-#include <fittings/tree/label_set.h>
-
 namespace {
+
+constexpr wchar_t kSeparator = L'|';
+
+using Labels = std::unordered_set<std::wstring_view>;
 
 std::wstring_view View(const wxString& text)
 {
@@ -38,7 +43,7 @@ private:
 class ExpandingWalk
 {
 public:
-    ExpandingWalk(wxTreeCtrl& tree, const fittings::LabelSet& labels) : m_tree(tree), m_labels(labels)
+    ExpandingWalk(wxTreeCtrl& tree, const Labels& labels) : m_tree(tree), m_labels(labels)
     {
         m_tree.Bind(wxEVT_TREE_DELETE_ITEM, &ExpandingWalk::OnDeleteItem, this);
     }
@@ -67,7 +72,7 @@ private:
     void Visit()
     {
         const wxTreeItemId item = m_path.back().item;
-        if (m_labels.Has(View(m_tree.GetItemText(item))) && !IsHiddenRoot(item))
+        if (m_labels.count(View(m_tree.GetItemText(item))) != 0 && !IsHiddenRoot(item))
             m_tree.Expand(item);
     }
 
@@ -135,9 +140,41 @@ private:
     }
 
     wxTreeCtrl& m_tree;
-    const fittings::LabelSet& m_labels;
+    const Labels& m_labels;
     std::vector<Step> m_path;  // From the start to the item being visited: a deep tree must not use up the stack.
 };
+
+// What follows the last separator is no label.
+Labels SplitLabels(std::wstring_view text)
+{
+    Labels labels;
+    // Most labels of a tree are looked up in vain, which an empty bucket answers at once.
+    labels.max_load_factor(0.25F);
+    for (std::size_t end = text.find(kSeparator); end != text.npos; end = text.find(kSeparator)) {
+        labels.insert(text.substr(0, end));
+        text.remove_prefix(end + 1);
+    }
+    return labels;
+}
+
+struct Item
+{
+    std::wstring label;
+    bool isExpanded;
+};
+
+// Each label once, in ascending order. Of several items with one label the last one decides.
+std::wstring JoinExpanded(std::vector<Item> items)
+{
+    std::stable_sort(items.begin(), items.end(), [](const Item& a, const Item& b) { return a.label < b.label; });
+    std::wstring text;
+    for (auto item = items.begin(); item != items.end(); ++item) {
+        const auto next = std::next(item);
+        if (item->isExpanded && (next == items.end() || next->label != item->label))
+            text.append(item->label).push_back(kSeparator);
+    }
+    return text;
+}
 
 }  // namespace
 
@@ -152,10 +189,10 @@ std::wstring ExpandedLabels(const wxTreeCursor& start)
         Place place;
     };
     const wxTreeCtrl& tree = *start.tree;
-    LabelSet labels;
+    std::vector<Item> items;
     std::vector<Level> levels;
     const auto visit = [&](const wxTreeItemId& item) {
-        labels.Note(View(tree.GetItemText(item)), tree.IsExpanded(item));
+        items.push_back({tree.GetItemText(item).ToStdWstring(), tree.IsExpanded(item)});
         if (tree.ItemHasChildren(item))
             levels.push_back({item, Place()});
     };
@@ -168,13 +205,13 @@ std::wstring ExpandedLabels(const wxTreeCursor& start)
         else
             levels.pop_back();
     }
-    return labels.TakeText();
+    return JoinExpanded(std::move(items));
 }
 
 void ExpandLabels(const std::wstring& text, const wxTreeCursor& start)
 {
     wxCHECK_RET(start.tree && start.IsOk(), "invalid tree item");
-    const LabelSet labels(text);
+    const Labels labels = SplitLabels(text);
     // Each expansion alone would lay out the whole tree again. A control that is not created cannot be frozen.
     wxWindowUpdateLocker frozen;
     if (start.tree->GetHandle())
