@@ -17,6 +17,9 @@
 
 #include <fittings/base/export.h>
 
+/// @file
+/// Windows that remember what their user has arranged, through the toolkit's persistence.
+
 namespace fittings {
 class AncestorWatch;
 }
@@ -25,25 +28,14 @@ class AncestorWatch;
 /// and data views, and of the trees, lists and AUI layouts below.
 ///
 /// @code
-/// class PlanetsFrame : public wxFrame
-/// {
+/// wxStorePersistenceManager::Install();
 /// ...
-///         wxPersistentRegisterAndRestore(this, "Planets");
-///         wxPersistentRegisterAndRestore(splitter, "Planets");
-/// ...
-/// };
-///
-/// class PlanetsApp : public wxApp
-/// {
-///     bool OnInit() override
-///     {
-///         wxStorePersistenceManager::Install();
-///         return (new PlanetsFrame)->Show();
-///     }
-/// };
+/// wxPersistentRegisterAndRestoreAll(frame, "Planets");
+/// return frame->Show();
 /// @endcode
 ///
-/// Register a window once it has all its children, items and columns, and before it is shown.
+/// Register a window once it has all its children, items and columns, and before it is shown: with all that is in it,
+/// as above, or alone, by wxPersistentRegisterAndRestore().
 ///
 /// A frame or dialog comes back as by wx_window_state::LoadState(): on a display that is still there, within its work
 /// area, and in its place even if it is the first window of the process. One that was maximised comes back maximised,
@@ -208,5 +200,16 @@ inline bool wxPersistentRegisterAndRestore(wxAuiManager* manager, const wxString
     return wxPersistenceManager::Get().RegisterAndRestore(manager, new wxPersistentAui(manager, name));
 }
 /// @}
+
+/// Registers and restores a window, under @a name, and each window in it that can remember something: splitters, books,
+/// data views, trees and reports. True when something was restored.
+///
+/// A window in it goes by its own name behind that of the outer one, "Planets/treeCtrl" where it was given none. Of
+/// several with one name, the second one has " 2" at its end, and so on in the order in which they were made: give a
+/// name to those that later versions of the program may put in another order. No window's name changes.
+///
+/// Left out are windows that were registered before, other frames and dialogs, data views that are a page of a book
+/// themselves, and AUI managers.
+FITTINGS_API bool wxPersistentRegisterAndRestoreAll(wxWindow* window, const wxString& name);
 
 #endif

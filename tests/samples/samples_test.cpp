@@ -120,10 +120,11 @@ TEST(PersistenceSample, ComesBackAsItWasLeft)
         planets.Close();
     }
     const std::string left = person.FileOf("persistence", "settings.ini");
-    EXPECT_NE(left.find("[Persistent_Options/Tree/Planets]\nItems=0+^:|1+*:Earth|\n"), std::string::npos) << left;
-    EXPECT_NE(left.find("[Persistent_Options/Splitter/Planets]\nPosition=26"), std::string::npos) << left;
-    EXPECT_NE(left.find("[Persistent_Options/Book/Planets]\nSelection=1\n"), std::string::npos) << left;
-    EXPECT_NE(left.find("[Persistent_Options/List/Planets]\nWidths="), std::string::npos) << left;
+    EXPECT_NE(left.find("[Persistent_Options/Tree/Planets/treeCtrl]\nItems=0+^:|1+*:Earth|\n"), std::string::npos)
+        << left;
+    EXPECT_NE(left.find("[Persistent_Options/Splitter/Planets/splitter]\nPosition=26"), std::string::npos) << left;
+    EXPECT_NE(left.find("[Persistent_Options/Book/Planets/notebook]\nSelection=1\n"), std::string::npos) << left;
+    EXPECT_NE(left.find("[Persistent_Options/List/Planets/listCtrl]\nWidths="), std::string::npos) << left;
 
     // What it stores then is what it shows.
     SampleInUse planets("persistence", "Planets", person);

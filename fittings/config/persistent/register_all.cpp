@@ -1,0 +1,117 @@
+#include <map>
+#include <memory>
+
+#include <wx/toplevel.h>
+
+#include <fittings/config/persistence.h>
+
+namespace {
+
+/// An object with a name of its own, so that the window keeps the one by which its program finds it.
+template <typename Persistent>
+class Named : public Persistent
+{
+public:
+    template <typename Window>
+    Named(Window* window, const wxString& name) : Persistent(window), m_name(name)
+    {
+    }
+
+    wxString GetName() const override { return m_name; }
+
+private:
+    const wxString m_name;
+};
+
+/// Makes the object for a window of the class; null for another window.
+template <typename Persistent, typename Window>
+std::unique_ptr<wxPersistentObject> MakeFor(wxWindow& window, const wxString& name)
+{
+    auto* const found = dynamic_cast<Window*>(&window);
+    return found ? std::make_unique<Named<Persistent>>(found, name) : nullptr;
+}
+
+/// Whether the toolkit has persistence for the class, and this window bears it.
+bool CanRemember(wxWindow& window)
+{
+    if (auto* const list = dynamic_cast<wxListCtrl*>(&window))
+        return list->InReportView();
+    // The toolkit asserts when such a page goes.
+    if (dynamic_cast<wxDataViewCtrl*>(&window))
+        return !dynamic_cast<wxBookCtrlBase*>(window.GetParent());
+    return dynamic_cast<wxTopLevelWindow*>(&window) || dynamic_cast<wxSplitterWindow*>(&window) ||
+           dynamic_cast<wxBookCtrlBase*>(&window) || dynamic_cast<wxTreeCtrl*>(&window);
+}
+
+std::unique_ptr<wxPersistentObject> Make(wxWindow& window, const wxString& name)
+{
+    using Maker = std::unique_ptr<wxPersistentObject> (*)(wxWindow&, const wxString&);
+    // A wxTreebook is a book, too.
+    for (const Maker make :
+         {Maker(MakeFor<wxPersistentTLW, wxTopLevelWindow>), Maker(MakeFor<wxPersistentSplitter, wxSplitterWindow>),
+          Maker(MakeFor<wxPersistentTreeBookCtrl, wxTreebook>), Maker(MakeFor<wxPersistentBookCtrl, wxBookCtrlBase>),
+          Maker(MakeFor<wxPersistentDataViewCtrl, wxDataViewCtrl>), Maker(MakeFor<wxPersistentTreeCtrl, wxTreeCtrl>),
+          Maker(MakeFor<wxPersistentListCtrl, wxListCtrl>)}) {
+        if (auto object = make(window, name))
+            return object;
+    }
+    return nullptr;
+}
+
+/// Registers a window and those in it, from the outside inwards.
+class Registration
+{
+public:
+    explicit Registration(const wxString& name) : m_name(name) {}
+
+    /// True when something was restored.
+    bool Register(wxWindow& window) { return Restore(window, m_name) | RegisterInside(window); }
+
+private:
+    bool Restore(wxWindow& window, const wxString& name)
+    {
+        wxPersistenceManager& manager = wxPersistenceManager::Get();
+        return CanRemember(window) && !manager.Find(&window) &&
+               manager.RegisterAndRestore(&window, Make(window, name).release());
+    }
+
+    bool RegisterChild(wxWindow& child)
+    {
+        if (child.IsTopLevel())
+            return false;
+        wxString name = m_name + "/" + child.GetName();
+        if (CanRemember(child)) {
+            const int number = ++m_numbers[name];
+            if (number > 1)
+                name += wxString::Format(" %d", number);
+        }
+        return Restore(child, name) | RegisterInside(child);
+    }
+
+    bool RegisterInside(wxWindow& window)
+    {
+        bool isRestored = false;
+        // The control by which the user chooses a page is the book's own.
+        if (const auto* const book = dynamic_cast<wxBookCtrlBase*>(&window)) {
+            for (std::size_t page = 0; page < book->GetPageCount(); ++page) {
+                if (wxWindow* const shown = book->GetPage(page))
+                    isRestored |= RegisterChild(*shown);
+            }
+            return isRestored;
+        }
+        for (wxWindow* const child : window.GetChildren())
+            isRestored |= RegisterChild(*child);
+        return isRestored;
+    }
+
+    const wxString m_name;
+    std::map<wxString, int> m_numbers;  // How many there are of a name.
+};
+
+}  // namespace
+
+bool wxPersistentRegisterAndRestoreAll(wxWindow* window, const wxString& name)
+{
+    wxCHECK_MSG(window, false, "no window");
+    return Registration(name).Register(*window);
+}
