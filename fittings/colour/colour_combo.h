@@ -5,6 +5,7 @@
 #include <type_traits>
 
 #include <wx/bitmap.h>
+#include <wx/clrpicker.h>
 #include <wx/colour.h>
 #include <wx/combo.h>
 #include <wx/gdicmn.h>
@@ -46,8 +47,8 @@ class OutlineWindow;
 /// too; the toolkit's own combo control refuses the focus then. While it is closed, has the focus and is read-only, Up
 /// and Down choose the colour before and the one after: "Automatic" and the grid row by row. So does the mouse wheel.
 ///
-/// The events are those of wxColourPickerCtrl, in wx/clrpicker.h, with the control's id. They come after the calls of
-/// the popup's listener:
+/// The events are those of wxColourPickerCtrl, with the control's id. They come after the calls of the
+/// popup's listener:
 /// - wxEVT_COLOURPICKER_CURRENT_CHANGED, with the colour of each cell that becomes hot while the popup is open.
 /// - wxEVT_COLOURPICKER_CHANGED, with the colour that was chosen, be it the one that was in effect.
 /// - wxEVT_COLOURPICKER_DIALOG_CANCELLED, with the colour that stays, when the popup closes without a choice or the

@@ -4,23 +4,20 @@
 #include <wx/wx.h>
 
 #include <fittings/colour/colour_combo.h>
-#include <fittings/colour/colour_popup.h>
 
-class SheetFrame : public wxFrame, private wxColorPopupListener
+class SheetFrame : public wxFrame
 {
 public:
     SheetFrame() : wxFrame(nullptr, wxID_ANY, "Sheet")
     {
-        auto* popup = new wxColourPopup;
-        popup->SetInitialColour(*wxWHITE);
-        popup->SetDefaultColour(*wxWHITE);  // what "Automatic" stands for
-        popup->SetColorListener(this);
         auto* bar = new wxPanel(this);
         auto* label = new wxStaticText(bar, wxID_ANY, "&Paper:");
-        auto* combo = new wxColourCombo;
-        combo->Create(bar, wxID_ANY, "", wxDefaultPosition, wxSize(160, -1), wxCB_READONLY);
-        combo->SetPopupControl(popup);  // the combo owns it from now on
+        auto* combo = new wxColourCombo(bar, wxID_ANY, *wxWHITE, wxDefaultPosition, wxSize(160, -1));
+        combo->SetAutomaticColour(*wxWHITE);
         combo->SetFocus();
+        Bind(wxEVT_COLOURPICKER_CURRENT_CHANGED, &SheetFrame::Paint, this);
+        Bind(wxEVT_COLOURPICKER_DIALOG_CANCELLED, &SheetFrame::Paint, this);
+        Bind(wxEVT_COLOURPICKER_CHANGED, &SheetFrame::Paint, this);
 
         auto* row = new wxBoxSizer(wxHORIZONTAL);
         row->Add(label, wxSizerFlags().CentreVertical().Border());
@@ -30,22 +27,16 @@ public:
         column->Add(bar, wxSizerFlags().Expand());
         column->Add(m_sheet, wxSizerFlags(1).Expand());
         SetSizer(column);
-        Paint(*wxWHITE);
+        m_sheet->SetBackgroundColour(*wxWHITE);
     }
 
 private:
-    void OnColourSelChange(const wxColour& colour) override { Paint(colour); }
-    void OnColourSelCancel(const wxColour& colour) override { Paint(colour); }
-    void OnColourSelEnd(const wxColour& colour) override
+    void Paint(wxColourPickerEvent& event)
     {
-        Paint(colour);
-        SetTitle("Sheet in " + colour.GetAsString(wxC2S_HTML_SYNTAX));
-    }
-
-    void Paint(const wxColour& colour)
-    {
-        m_sheet->SetBackgroundColour(colour);
+        m_sheet->SetBackgroundColour(event.GetColour());
         m_sheet->Refresh();
+        if (event.GetEventType() == wxEVT_COLOURPICKER_CHANGED)
+            SetTitle("Sheet in " + event.GetColour().GetAsString(wxC2S_HTML_SYNTAX));
     }
 
     wxPanel* m_sheet = new wxPanel(this);

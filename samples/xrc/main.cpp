@@ -7,20 +7,18 @@
 #include <wx/xrc/xmlres.h>
 
 #include <fittings/colour/colour_combo.h>
-#include <fittings/colour/colour_popup.h>
 #include <fittings/tree/handy_tree_ctrl.h>
 #include <fittings/xrc/colour_combo_handler.h>
 #include <fittings/xrc/tree_handler.h>
 
-class PlanetsFrame : public wxFrame, private wxColorPopupListener
+class PlanetsFrame : public wxFrame
 {
 public:
     PlanetsFrame()
     {
         wxXmlResource::Get()->LoadFrame(this, nullptr, "planets");
         m_tree = XRCCTRL(*this, "tree", wxHandyTreeCtrl);
-        auto* combo = XRCCTRL(*this, "colour", wxColourCombo);
-        dynamic_cast<wxColourPopup*>(combo->GetPopupControl())->SetColorListener(this);
+        Bind(wxEVT_COLOURPICKER_CHANGED, &PlanetsFrame::OnColour, this, XRCID("colour"));
 
         wxTreeCursor sun = m_tree->AddRoot("Sun");
         sun.AppendItem("Earth").AppendItem("Moon");
@@ -34,11 +32,11 @@ public:
     }
 
 private:
-    void OnColourSelEnd(const wxColour& colour) override
+    void OnColour(wxColourPickerEvent& event)
     {
         const wxTreeCursor planet = m_tree->GetSelection();
-        m_tree->SetItemTextColour(planet, colour);
-        SetTitle(planet.GetText() + " in " + colour.GetAsString(wxC2S_HTML_SYNTAX));
+        m_tree->SetItemTextColour(planet, event.GetColour());
+        SetTitle(planet.GetText() + " in " + event.GetColour().GetAsString(wxC2S_HTML_SYNTAX));
     }
 
     wxHandyTreeCtrl* m_tree = nullptr;
