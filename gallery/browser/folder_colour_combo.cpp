@@ -49,7 +49,6 @@ void FolderColourCombo::ShowColour(const wxColour& colour, const wxColour& autom
     m_colours->StartWith(colour, automatic);
     // The name of another folder's colour would be where the keyboard starts.
     SetText("");
-    Refresh();
 }
 
 wxColourPopup* FolderColourCombo::GetColourPopup() const

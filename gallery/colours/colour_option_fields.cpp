@@ -8,7 +8,8 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
-#include <gallery/colours/colour_field.h>
+#include <fittings/colour/colour_combo.h>
+#include <fittings/colour/colour_popup.h>
 #include <gallery/pages/page_layout.h>
 #include <gallery/pages/page_settings.h>
 #include <gallery/pages/window_helpers.h>
@@ -140,7 +141,10 @@ wxSizer* ColourOptionFields::MakeBoxes()
     grid->Add(m_hasMore, wxSizerFlags().CentreVertical());
     m_more = makeText("MoreColours", "Text of More Colours");
     grid->Add(new wxStaticText(this, wxID_ANY, "&Default colour"), wxSizerFlags().CentreVertical());
-    m_default = new ColourField(this, [this] { OnChange(); });
+    m_default = new wxColourCombo(this, wxID_ANY);
+    m_default->GetPopup()->SetAutomaticText("");
+    m_default->GetPopup()->SetCenterOn(wxGetTopLevelParent(this));
+    m_default->Bind(wxEVT_COLOURPICKER_CHANGED, [this](wxColourPickerEvent&) { OnChange(); });
     m_default->SetName("Default");
     m_default->SetToolTip("The colour that \"Automatic\" stands for");
     grid->Add(m_default, wxSizerFlags().Expand());

@@ -8,13 +8,12 @@
 
 class wxBoxSizer;
 class wxCheckBox;
+class wxColourCombo;
 class wxSizer;
 class wxSpinCtrl;
 class wxTextCtrl;
 
 namespace gallery {
-
-class ColourField;
 
 /// Sent by a ColourOptionFields when the options that it says are others.
 wxDECLARE_EVENT(EVT_COLOUR_OPTIONS_CHANGED, wxCommandEvent);
@@ -50,7 +49,7 @@ private:
     wxTextCtrl* m_automatic = nullptr;
     wxCheckBox* m_hasMore = nullptr;
     wxTextCtrl* m_more = nullptr;
-    ColourField* m_default = nullptr;
+    wxColourCombo* m_default = nullptr;
     wxSpinCtrl* m_columnCount = nullptr;
     wxSpinCtrl* m_cellSize = nullptr;
     wxSpinCtrl* m_margin = nullptr;

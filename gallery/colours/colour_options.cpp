@@ -41,17 +41,16 @@ public:
 
 }  // namespace
 
-wxColourCombo* MakeColourCombo(wxWindow* parent, const ColourOptions& options, const wxColour& colour,
-                               wxColorPopupListener* listener)
+wxColourCombo* MakeColourCombo(wxWindow* parent, const ColourOptions& options, const wxColour& colour)
 {
     auto* popup = new Popup(options);
-    popup->SetInitialColour(colour);
-    popup->SetColorListener(listener);
     if (options.centre)
         popup->SetCenterOn(wxGetTopLevelParent(parent));
+    // One step would make a popup of the library's class, whose cells cannot be set.
     auto* combo = new Combo(options);
     combo->Create(parent, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, options.readOnly ? wxCB_READONLY : 0);
     combo->SetPopupControl(popup);
+    combo->SetColour(colour);
     return combo;
 }
 

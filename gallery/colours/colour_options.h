@@ -4,7 +4,6 @@
 #include <wx/colour.h>
 #include <wx/string.h>
 
-class wxColorPopupListener;
 class wxColourCombo;
 class wxWindow;
 
@@ -33,9 +32,8 @@ struct ColourOptions
     int duration = 200;  ///< Milliseconds.
 };
 
-/// Makes a combo with a popup of these options that shows @a colour. The listener must outlive the popup.
-wxColourCombo* MakeColourCombo(wxWindow* parent, const ColourOptions& options, const wxColour& colour,
-                               wxColorPopupListener* listener);
+/// Makes a combo with a popup of these options that shows @a colour.
+wxColourCombo* MakeColourCombo(wxWindow* parent, const ColourOptions& options, const wxColour& colour);
 
 }  // namespace gallery
 

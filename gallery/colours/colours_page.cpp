@@ -8,7 +8,7 @@
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 
-#include <fittings/colour/colour_combo.h>
+#include <fittings/colour/colour_popup.h>
 #include <fittings/colour/colour_table.h>
 
 #include <gallery/colours/colour_option_fields.h>
@@ -26,8 +26,8 @@ constexpr int kBlockHeight = 176;  ///< The popup opens beside the preview.
 constexpr int kHeaderHeight = 28;
 constexpr int kChoiceWidth = 180;
 constexpr int kPreviewWidth = 160;
-constexpr int kCallWidth = 236;
-constexpr int kColourWidth = 200;
+constexpr int kEventWidth = 336;
+constexpr int kColourWidth = 180;
 constexpr int kSwatchSize = 16;
 constexpr int kMostEvents = 500;
 
@@ -105,7 +105,7 @@ ColoursPage::~ColoursPage()
 
 wxColourPopup* ColoursPage::GetColourPopup() const
 {
-    return static_cast<wxColourPopup*>(m_combo->GetPopupControl());
+    return m_combo->GetPopup();
 }
 
 void ColoursPage::SaveSettings() const
@@ -153,7 +153,7 @@ wxSizer* ColoursPage::MakeEvents()
     m_events->SetName("Events");
     SetAccessibleName(m_events, "What the host learns");
     m_events->SetMinSize(FromDIP(wxSize(320, kBlockHeight)));
-    m_events->AppendTextColumn("Call or event", wxDATAVIEW_CELL_INERT, FromDIP(kCallWidth));
+    m_events->AppendTextColumn("Event", wxDATAVIEW_CELL_INERT, FromDIP(kEventWidth));
     m_events->AppendIconTextColumn("Colour", wxDATAVIEW_CELL_INERT, FromDIP(kColourWidth));
     auto* clear =
         new wxButton(this, wxID_ANY, "Cl&ear", wxDefaultPosition, FromDIP(wxSize(72, kHeaderHeight)), wxBU_EXACTFIT);
@@ -180,15 +180,20 @@ void ColoursPage::Arrange()
 void ColoursPage::MakeCombo()
 {
     if (m_combo) {
-        GetColourPopup()->SetColorListener(nullptr);
         m_choice->Detach(m_combo);
         m_combo->Destroy();
     }
-    m_combo = MakeColourCombo(this, m_options->GetOptions(), m_colour, this);
+    m_combo = MakeColourCombo(this, m_options->GetOptions(), m_colour);
     m_combo->SetName("Combo");
     m_combo->MoveAfterInTabOrder(m_label);
     m_combo->Bind(wxEVT_COMBOBOX_DROPDOWN, [this](wxCommandEvent&) { Note("wxEVT_COMBOBOX_DROPDOWN"); });
     m_combo->Bind(wxEVT_COMBOBOX_CLOSEUP, [this](wxCommandEvent&) { Note("wxEVT_COMBOBOX_CLOSEUP"); });
+    const auto show = [this](const wxString& name) {
+        return [this, name](wxColourPickerEvent& event) { OnColour(event, name); };
+    };
+    m_combo->Bind(wxEVT_COLOURPICKER_CURRENT_CHANGED, show("wxEVT_COLOURPICKER_CURRENT_CHANGED"));
+    m_combo->Bind(wxEVT_COLOURPICKER_CHANGED, show("wxEVT_COLOURPICKER_CHANGED"));
+    m_combo->Bind(wxEVT_COLOURPICKER_DIALOG_CANCELLED, show("wxEVT_COLOURPICKER_DIALOG_CANCELLED"));
     m_choice->Insert(1, m_combo, wxSizerFlags().Expand());
     Layout();
 }
@@ -217,28 +222,11 @@ void ColoursPage::Note(const wxString& name, const wxColour& colour)
     m_events->EnsureVisible(m_events->RowToItem(m_events->GetItemCount() - 1));
 }
 
-void ColoursPage::OnColourPopup()
+void ColoursPage::OnColour(wxColourPickerEvent& event, const wxString& name)
 {
-    Note("OnColourPopup");
-}
-
-void ColoursPage::OnColourSelChange(const wxColour& colour)
-{
-    Note("OnColourSelChange", colour);
-    ShowColour(colour);
-}
-
-void ColoursPage::OnColourSelEnd(const wxColour& colour)
-{
-    Note("OnColourSelEnd", colour);
-    m_colour = colour;
-    ShowColour(colour);
-}
-
-void ColoursPage::OnColourSelCancel(const wxColour& colour)
-{
-    Note("OnColourSelCancel", colour);
-    ShowColour(colour);
+    Note(name, event.GetColour());
+    m_colour = m_combo->GetColour();
+    ShowColour(event.GetColour());
 }
 
 }  // namespace gallery

@@ -4,10 +4,10 @@
 #include <wx/colour.h>
 #include <wx/scrolwin.h>
 
-#include <fittings/colour/colour_popup.h>
+#include <fittings/colour/colour_combo.h>
 
 class wxBoxSizer;
-class wxColourCombo;
+class wxColourPopup;
 class wxDataViewListCtrl;
 class wxSizer;
 class wxStaticText;
@@ -20,7 +20,7 @@ class ColourOptionFields;
 ///
 /// Options and colour come back as they were when SaveSettings() was last called. Other options make another combo, as
 /// they are set before the popup is shown.
-class ColoursPage : public wxScrolledWindow, private wxColorPopupListener
+class ColoursPage : public wxScrolledWindow
 {
 public:
     explicit ColoursPage(wxWindow* parent);
@@ -29,7 +29,7 @@ public:
     wxColourCombo* GetCombo() const { return m_combo; }
     wxColourPopup* GetColourPopup() const;
 
-    /// The calls and events, the last one below, each with its colour where it has one.
+    /// The events, the last one below, each with its colour where it has one.
     wxDataViewListCtrl* GetEvents() const { return m_events; }
 
     ColourOptionFields* GetFields() const { return m_options; }
@@ -48,10 +48,7 @@ private:
     void ShowColour(const wxColour& colour);
     void Note(const wxString& name, const wxColour& colour = wxNullColour);
 
-    void OnColourPopup() override;
-    void OnColourSelChange(const wxColour& colour) override;
-    void OnColourSelEnd(const wxColour& colour) override;
-    void OnColourSelCancel(const wxColour& colour) override;
+    void OnColour(wxColourPickerEvent& event, const wxString& name);
 
     wxBoxSizer* m_trial = nullptr;
     wxSizer* m_choice = nullptr;

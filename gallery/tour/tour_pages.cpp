@@ -133,12 +133,12 @@ bool Tour::ChooseColour()
     colours.GetCellRect(kOrange, cell);
     const wxPoint orange = colours.ClientToScreen(CentreOf(cell));
     PointAt(orange);
-    if (!Waits([&] { return lastEvent() == "OnColourSelChange"; }, "the listener hears of a cell") ||
+    if (!Waits([&] { return lastEvent() == "wxEVT_COLOURPICKER_CURRENT_CHANGED"; }, "an event tells of a cell") ||
         !SavePicture("colours", orange))
         return false;
     Click(orange);
     if (!Waits([&] { return page.GetColour() == colours.GetColour(kOrange); }, "a click chooses") ||
-        !IsTrue(lastEvent() == "OnColourSelEnd", "the listener hears of it"))
+        !IsTrue(lastEvent() == "wxEVT_COLOURPICKER_CHANGED", "an event tells of it"))
         return false;
 
     Press('A', wxMOD_ALT);
