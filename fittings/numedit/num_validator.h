@@ -36,6 +36,9 @@
 /// key is reported as WXK_NUMPAD_DECIMAL. Where the layout gives the key another code (the German one, for example,
 /// WXK_NUMPAD_SEPARATOR), it types the layout's own character, which is judged like any other.
 ///
+/// wxNumberCtrl can what this validator cannot: it takes the beginning of each number within any bounds, judges what is
+/// pasted, formats, steps, and gives a `double`. wxDecimalValidator works on every wxTextEntry.
+///
 /// A derived class overrides Clone(), or the control keeps a wxNumValidator. The toolkit's class queries take this
 /// class for a wxValidator: use dynamic_cast. The host may set another validator on the control while this one takes a
 /// key.

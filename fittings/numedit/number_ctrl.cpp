@@ -371,7 +371,7 @@ void wxNumberCtrl::ShowPlain()
     else
         selection = {m_field->Place(shown, plain, selection.first), m_field->Place(shown, plain, selection.second)};
     m_field->showsPlain = true;
-    Show(plain, selection);
+    ShowText(plain, selection);
 }
 
 void wxNumberCtrl::ShowFormatted()
@@ -383,11 +383,11 @@ void wxNumberCtrl::ShowFormatted()
     GetSelection(&m_field->selection.first, &m_field->selection.second);
     m_field->mapped = {m_field->Place(before, m_field->shown, m_field->selection.first),
                        m_field->Place(before, m_field->shown, m_field->selection.second)};
-    Show(m_field->shown, m_field->mapped);
+    ShowText(m_field->shown, m_field->mapped);
 }
 
 /// Changes what the text looks like, not what it says: without an event, and without making it modified.
-void wxNumberCtrl::Show(const std::wstring& text, const std::pair<long, long>& selection)
+void wxNumberCtrl::ShowText(const std::wstring& text, const std::pair<long, long>& selection)
 {
     if (wxTextCtrl::DoGetValue() == text)
         return;

@@ -164,7 +164,7 @@ private:
     void ShowPlain();
     void ShowFormatted();
     std::wstring Plain() const;
-    void Show(const std::wstring& text, const std::pair<long, long>& selection);
+    void ShowText(const std::wstring& text, const std::pair<long, long>& selection);
     void SetPlain(const std::wstring& plain, bool byUser);
     void Step(bool up, bool tenfold);
     void TellNumber();

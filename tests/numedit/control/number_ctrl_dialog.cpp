@@ -7,8 +7,8 @@
 #include <wx/sizer.h>
 #include <wx/uiaction.h>
 
-#include <tests/support/process/child_process.h>
 #include <tests/support/gui.h>
+#include <tests/support/process/child_process.h>
 
 NumberCtrlDialog::NumberCtrlDialog(const CNumberFormat& format, const wxValidator& validator, long style)
     : dialog(new wxDialog(nullptr, wxID_ANY, "Numbers", wxPoint(200, 200), wxDefaultSize,

@@ -9,8 +9,8 @@
 #include <wx/uiaction.h>
 
 #include <tests/numedit/control/number_ctrl_dialog.h>
-#include <tests/support/process/child_process.h>
 #include <tests/support/gui.h>
+#include <tests/support/process/child_process.h>
 
 namespace {
 

@@ -4,8 +4,11 @@
 
 #include <gtest/gtest.h>
 
-#include <tests/numedit/validator/keyboard.h>
+#include <gtk/gtk.h>
+#include <wx/uiaction.h>
+
 #include <tests/numedit/control/number_ctrl_dialog.h>
+#include <tests/numedit/validator/keyboard.h>
 #include <tests/support/gui.h>
 
 namespace {
@@ -178,6 +181,75 @@ TEST_F(NumberTyping, RefusesOtherPastedTextWhole)
         EXPECT_EQ(screen.BellsRung(), 1);
         EXPECT_EQ(screen.textEvents, 0);
     }
+}
+
+/// Text that comes without a key of the control's: the selection of another field, by the middle button.
+class PasteOfASelection : public NumberTyping
+{
+protected:
+    void Paste(const wxString& text)
+    {
+        const wxSize size = screen.number->GetSize();
+        screen.first->SetValue(text);
+        screen.first->SetFocus();
+        screen.first->SelectAll();
+        ASSERT_TRUE(PumpUntil([&] { return screen.first->HasFocus() && screen.first->GetStringSelection() == text; }));
+        PumpPending();
+        wxUIActionSimulator mouse;
+        mouse.MouseMove(screen.number->ClientToScreen(wxPoint(size.x / 2, size.y / 2)));
+        mouse.MouseClick(wxMOUSE_BTN_MIDDLE);
+    }
+};
+
+TEST_F(PasteOfASelection, IsTakenWhereItIsANumber)
+{
+    Paste("1,234.50-");
+    EXPECT_TRUE(PumpUntil([&] { return screen.number->GetDecimal() == "-1234.50"; }));
+    EXPECT_EQ(screen.BellsRung(), 0);
+}
+
+TEST_F(PasteOfASelection, IsRefusedWholeWhereItIsNone)
+{
+    screen.Restart("7");
+    Paste("12abc");
+    EXPECT_TRUE(PumpUntil([&] { return screen.BellsRung() == 1; }));
+    EXPECT_EQ(screen.number->GetDecimal(), "7");
+    EXPECT_EQ(screen.textEvents, 0);
+}
+
+// As an input method does that works in a process of its own: no key is on its way.
+TEST_F(NumberTyping, PutsASelectionBackThatATextWithoutAKeyWasToReplace)
+{
+    screen.Restart("12345");
+    screen.number->SetSelection(1, 4);
+    auto* const editable = GTK_EDITABLE(screen.number->m_widget);
+    const auto commit = [editable](const char* text) {
+        gtk_editable_delete_selection(editable);
+        int position = gtk_editable_get_position(editable);
+        gtk_editable_insert_text(editable, text, -1, &position);
+        gtk_editable_set_position(editable, position);
+    };
+    commit("x");
+    EXPECT_TRUE(PumpUntil([&] { return screen.Selection() == "234"; }));
+    EXPECT_EQ(screen.Text(), L"12345");
+    EXPECT_EQ(screen.BellsRung(), 1);
+    commit("78");
+    EXPECT_EQ(screen.Text(), L"1785");
+    EXPECT_EQ(screen.BellsRung(), 1);
+}
+
+// A dead key and a letter commit a character that no single key stands for.
+TEST_F(NumberTyping, RefusesWhatAComposingLayoutMakes)
+{
+    screen.Restart("12345");
+    screen.number->SetSelection(1, 4);
+    const Layout german({"-layout", "de"}, kKeypadDecimal, 1, "KP_Separator");
+    screen.PressRaw("dead_acute");
+    screen.PressRaw("e");
+    EXPECT_TRUE(PumpUntil([&] { return screen.BellsRung() == 1; }));
+    EXPECT_EQ(screen.Text(), L"12345");
+    EXPECT_EQ(screen.Selection(), "234");
+    EXPECT_EQ(screen.textEvents, 0);
 }
 
 TEST(NumberTypingIntoAReadOnlyControl, ChangesNothing)
