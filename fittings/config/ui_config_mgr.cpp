@@ -1,7 +1,7 @@
 #include <fittings/config/ui_config_mgr.h>
 
-#include <cwchar>
 #include <memory>
+#include <string>
 
 #include <fittings/base/or_empty.h>
 #include <fittings/platform/file_util_ex.h>
@@ -32,15 +32,6 @@ std::wstring SettingsPath(const wchar_t* file)
     if (!file_util_ex::DoesDirExist(folder))
         file_util_ex::Mkdir(folder);
     return file_util_ex::MakePath(folder, file);
-}
-
-/// Formats into a buffer with room for the format itself and 1023 characters more; longer output would be cut.
-std::wstring FormatText(const wchar_t* format, int value)
-{
-    std::wstring text(std::wcslen(format) + 1024, L'\0');
-    std::swprintf(text.data(), text.size() - 1, format, value);
-    text.resize(std::wcslen(text.c_str()));
-    return text;
 }
 
 }  // namespace
@@ -83,5 +74,5 @@ int ui_config_mgr::GetConfigInt(const wchar_t* file, const wchar_t* section, con
 
 void ui_config_mgr::WriteConfigInt(const wchar_t* file, const wchar_t* section, const wchar_t* key, int value)
 {
-    WriteConfigString(file, section, key, FormatText(L"%d", value).c_str());
+    WriteConfigString(file, section, key, std::to_wstring(value).c_str());
 }

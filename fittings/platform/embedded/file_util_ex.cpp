@@ -1,6 +1,7 @@
 #include <fittings/platform/file_util_ex.h>
 
 #include <cstddef>
+#include <string_view>
 
 #include <glib.h>
 #include <glib/gstdio.h>
@@ -23,49 +24,6 @@ std::wstring WithoutTrailingSeparators(std::wstring path)
 bool CanBePath(const std::wstring& path)
 {
     return !path.empty() && path.find(L'\0') == std::wstring::npos;
-}
-
-// One step of decoding: what stands at a position, and how many bytes it takes.
-struct Decoded
-{
-    char32_t code;
-    std::size_t bytes;
-};
-
-// Decodes the sequence that starts with a byte of 0x80 or more. A sequence that is cut short or wrong is replaced up
-// to its first wrong byte, which may start the next one (the Unicode Standard's "maximal subpart" practice).
-Decoded DecodeSequence(const unsigned char* at, const unsigned char* end)
-{
-    const unsigned char lead = at[0];
-    std::size_t length = 0;
-    char32_t code = 0;
-    // Bounds of the second byte: they leave out overlong forms, surrogates and what is above U+10FFFF.
-    unsigned char low = 0x80;
-    unsigned char high = 0xBF;
-    if (lead >= 0xC2 && lead <= 0xDF) {
-        length = 2;
-        code = lead & 0x1F;
-    } else if (lead >= 0xE0 && lead <= 0xEF) {
-        length = 3;
-        code = lead & 0x0F;
-        low = lead == 0xE0 ? 0xA0 : 0x80;
-        high = lead == 0xED ? 0x9F : 0xBF;
-    } else if (lead >= 0xF0 && lead <= 0xF4) {
-        length = 4;
-        code = lead & 0x07;
-        low = lead == 0xF0 ? 0x90 : 0x80;
-        high = lead == 0xF4 ? 0x8F : 0xBF;
-    } else {
-        return {kReplacement, 1};
-    }
-    for (std::size_t i = 1; i < length; ++i) {
-        if (at + i == end || at[i] < low || at[i] > high)
-            return {kReplacement, i};
-        code = (code << 6) | (at[i] & 0x3F);
-        low = 0x80;
-        high = 0xBF;
-    }
-    return {code, length};
 }
 
 }  // namespace
@@ -131,12 +89,10 @@ std::wstring ConvertFromUTF8W(const std::string& text)
 {
     std::wstring result;
     result.reserve(text.size());
-    const auto* at = reinterpret_cast<const unsigned char*>(text.data());
-    const unsigned char* const end = at + text.size();
-    while (at != end) {
-        const Decoded next = *at < 0x80 ? Decoded{*at, 1} : DecodeSequence(at, end);
-        result += static_cast<wchar_t>(next.code);
-        at += next.bytes;
+    for (std::string_view rest = text; !rest.empty();) {
+        const fittings::DecodedUtf8 next = fittings::DecodeUtf8(rest);
+        result += static_cast<wchar_t>(next.code.value_or(kReplacement));
+        rest.remove_prefix(next.bytes);
     }
     return result;
 }

@@ -14,7 +14,6 @@ namespace {
 
 // Bytes that are not UTF-8 are the characters from here on, one for each of 0x80 to 0xFF.
 constexpr char32_t kByteBase = 0xDC00;
-constexpr char32_t kMaxUnicode = 0x10FFFF;
 
 bool IsByte(char32_t code)
 {
@@ -39,14 +38,11 @@ struct Decoded
     std::size_t bytes;
 };
 
-Decoded DecodeUtf8(std::string_view text)
+Decoded DecodeNext(std::string_view text)
 {
-    if (const auto byte = static_cast<unsigned char>(text.front()); byte < 0x80)
-        return {byte, 1};
-    const gunichar code = g_utf8_get_char_validated(text.data(), static_cast<gssize>(text.size()));
-    if (code > kMaxUnicode)
-        return {kByteBase + static_cast<unsigned char>(text.front()), 1};
-    return {code, code < 0x800 ? 2U : code < 0x10000 ? 3U : 4U};
+    const DecodedUtf8 next = DecodeUtf8(text);
+    return next.code ? Decoded{*next.code, next.bytes}
+                     : Decoded{kByteBase + static_cast<unsigned char>(text.front()), 1};
 }
 
 void AppendHex(std::string& out, char32_t code, int minDigits)
@@ -204,7 +200,7 @@ std::optional<std::wstring> Unquoted(std::string_view inner)
                 return std::nullopt;
             next = {escape->code, escape->bytes + 1};
         } else {
-            next = DecodeUtf8(inner);
+            next = DecodeNext(inner);
         }
         text += static_cast<wchar_t>(next.code);
         inner.remove_prefix(next.bytes);
@@ -237,7 +233,7 @@ std::wstring DecodeName(std::string_view name)
         return text;
     text.reserve(name.size());
     while (!name.empty()) {
-        Decoded next = DecodeUtf8(name);
+        Decoded next = DecodeNext(name);
         if (name.front() == '%') {
             const std::string_view rest = name.substr(1);
             const bool braces = rest.substr(0, 2) == "u{";
@@ -282,7 +278,7 @@ bool DecodesTo(std::string_view value, std::wstring_view text)
     if (IsQuoted(value))
         return DecodeValue(value) == text;
     for (; !value.empty() && !text.empty(); text.remove_prefix(1)) {
-        const Decoded next = DecodeUtf8(value);
+        const Decoded next = DecodeNext(value);
         if (static_cast<wchar_t>(next.code) != text.front())
             return false;
         value.remove_prefix(next.bytes);
@@ -297,7 +293,7 @@ std::wstring NarrowToWide(std::string_view text)
     text.remove_prefix(wide.size());
     wide.reserve(wide.size() + text.size());
     while (!text.empty()) {
-        const Decoded next = DecodeUtf8(text);
+        const Decoded next = DecodeNext(text);
         wide += static_cast<wchar_t>(next.code);
         text.remove_prefix(next.bytes);
     }
