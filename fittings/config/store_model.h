@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include <fittings/config/owned_ini_file.h>
 #include <fittings/config/store_tree.h>
 #include <fittings/platform/local_reg_store.h>
 
@@ -77,11 +78,6 @@ public:
 private:
     using Change = CLocalRegStore::Change;
 
-    struct DestroyIni
-    {
-        void operator()(CIniFile* ini) const { CLocalRegStore::DestroyIniFile(ini); }
-    };
-
     void Rebuild();
     void NoteRemoval(StoreGroup& group);
     void CopyInto(StoreGroup& from, StoreGroup& to);
@@ -90,7 +86,7 @@ private:
     static void ForgetChanges(StoreGroup& group);
 
     const std::optional<std::wstring> m_file;
-    std::unique_ptr<CIniFile, DestroyIni> m_ini;  ///< What the store held, and changes that were made by then.
+    OwnedIniFile m_ini;  ///< What the store held, and changes that were made by then.
     bool m_isLoaded = false;
     std::unique_ptr<StoreGroup> m_root;
 

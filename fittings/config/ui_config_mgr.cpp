@@ -4,25 +4,19 @@
 #include <string>
 
 #include <fittings/base/or_empty.h>
+#include <fittings/config/owned_ini_file.h>
 #include <fittings/platform/file_util_ex.h>
 #include <fittings/platform/local_reg_store.h>
 #include <fittings/platform/std_file_paths.h>
 
 using fittings::OrEmpty;
+using fittings::OwnedIniFile;
 
 namespace {
 
-struct DestroyIni
+OwnedIniFile NewIniFile()
 {
-    void operator()(CIniFile* ini) const { CLocalRegStore::DestroyIniFile(ini); }
-};
-
-/// Destroys the file object however the call that made it is left.
-using IniFile = std::unique_ptr<CIniFile, DestroyIni>;
-
-IniFile NewIniFile()
-{
-    return IniFile(CLocalRegStore::CreateInitFile(false));
+    return OwnedIniFile(CLocalRegStore::CreateInitFile(false));
 }
 
 /// Returns the path of a settings file, in a folder that exists from now on where it can be made.
@@ -40,7 +34,7 @@ void ui_config_mgr::WriteConfigString(const wchar_t* file, const wchar_t* sectio
                                       const wchar_t* value)
 {
     const std::wstring path = SettingsPath(file);
-    const IniFile ini = NewIniFile();
+    const OwnedIniFile ini = NewIniFile();
     // A file that is not there yet starts empty; saving creates it.
     CLocalRegStore::Load(*ini, path.c_str());
     CLocalRegStore::WriteString(*ini, OrEmpty(section), OrEmpty(key), OrEmpty(value));
@@ -50,7 +44,7 @@ void ui_config_mgr::WriteConfigString(const wchar_t* file, const wchar_t* sectio
 std::wstring ui_config_mgr::GetConfigString(const wchar_t* file, const wchar_t* section, const wchar_t* key)
 {
     const std::wstring path = SettingsPath(file);
-    const IniFile ini = NewIniFile();
+    const OwnedIniFile ini = NewIniFile();
     if (!CLocalRegStore::Load(*ini, path.c_str()))
         return {};
     return CLocalRegStore::GetString(*ini, OrEmpty(section), OrEmpty(key), L"");
@@ -59,7 +53,7 @@ std::wstring ui_config_mgr::GetConfigString(const wchar_t* file, const wchar_t* 
 void ui_config_mgr::DeleteConfig(const wchar_t* file, const wchar_t* section, const wchar_t* key)
 {
     const std::wstring path = SettingsPath(file);
-    const IniFile ini = NewIniFile();
+    const OwnedIniFile ini = NewIniFile();
     CLocalRegStore::Load(*ini, path.c_str());
     // Callers rely on this: the key goes from the default store, and the file keeps its own.
     CLocalRegStore::DeleteProfile(OrEmpty(section), OrEmpty(key));

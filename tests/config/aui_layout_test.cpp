@@ -13,12 +13,12 @@
 
 namespace {
 
-std::wstring Stored(const wchar_t* name)
+std::wstring StoredLayout(const wchar_t* name)
 {
     return ui_config_mgr::GetConfigString(L"wxAuiManagerState.ini", L"wxAuiManagerState", name);
 }
 
-void Plant(const wxString& layout)
+void StoreLayout(const wxString& layout)
 {
     ui_config_mgr::WriteConfigString(L"wxAuiManagerState.ini", L"wxAuiManagerState", L"Main", layout);
 }
@@ -28,8 +28,8 @@ TEST(SaveAuiManagerState, StoresThePerspectiveInAFileOfItsOwn)
     const TempUserData data;
     AuiFrame frame;
     wx_window_state::SaveAuiManagerState(&frame.manager, L"Main");
-    EXPECT_EQ(wxString(Stored(L"Main")), frame.manager.SavePerspective());
-    EXPECT_EQ(Stored(L"Main").rfind(L"layout2|name=tree;caption=Folders;", 0), 0u);
+    EXPECT_EQ(wxString(StoredLayout(L"Main")), frame.manager.SavePerspective());
+    EXPECT_EQ(StoredLayout(L"Main").rfind(L"layout2|name=tree;caption=Folders;", 0), 0u);
     EXPECT_TRUE(std::filesystem::is_regular_file(data / "ui_config/wxAuiManagerState.ini"));
     const std::string file = ReadFile(data / "ui_config/wxAuiManagerState.ini");
     EXPECT_EQ(file.rfind("[wxAuiManagerState]\nMain=layout2|name=tree;caption=Folders;", 0), 0u) << file;
@@ -45,8 +45,8 @@ TEST(SaveAuiManagerState, KeepsNamesApart)
     frame.manager.Update();
     wx_window_state::SaveAuiManagerState(&frame.manager, L"two");
     wx_window_state::SaveAuiManagerState(&frame.manager, nullptr);
-    EXPECT_NE(Stored(L"one"), Stored(L"two"));
-    EXPECT_EQ(Stored(L""), Stored(L"two"));
+    EXPECT_NE(StoredLayout(L"one"), StoredLayout(L"two"));
+    EXPECT_EQ(StoredLayout(L""), StoredLayout(L"two"));
     EXPECT_TRUE(wx_window_state::LoadAuiManagerState(&frame.manager, L"one"));
     EXPECT_TRUE(frame.Pane("log").IsShown());
     EXPECT_TRUE(wx_window_state::LoadAuiManagerState(&frame.manager, nullptr));
@@ -60,7 +60,7 @@ TEST(LoadAuiManagerState, LeavesAManagerAloneWhenNothingIsStored)
     frame.Pane("log").Hide();  // The manager is deliberately not updated.
     const wxString before = frame.manager.SavePerspective();
     EXPECT_FALSE(wx_window_state::LoadAuiManagerState(&frame.manager, L"Main"));
-    Plant("");
+    StoreLayout("");
     EXPECT_FALSE(wx_window_state::LoadAuiManagerState(&frame.manager, L"Main"));
     EXPECT_EQ(frame.manager.SavePerspective(), before);
     EXPECT_TRUE(frame.Pane("log").window->IsShown());
@@ -191,7 +191,7 @@ protected:
 
     void ExpectNotLoaded(const wxString& layout)
     {
-        Plant(layout);
+        StoreLayout(layout);
         EXPECT_FALSE(wx_window_state::LoadAuiManagerState(&frame.manager, L"Main")) << layout;
         EXPECT_EQ(frame.manager.SavePerspective(), before) << layout;
         EXPECT_TRUE(frame.Pane("list").window->IsShown());
@@ -244,7 +244,7 @@ TEST_F(DamagedLayout, WithANegativeProportionIsNotLoaded)
 TEST_F(DamagedLayout, IsLoadedOnceItIsWholeAgain)
 {
     ExpectNotLoaded(With("state=", "stat="));
-    Plant(whole);
+    StoreLayout(whole);
     EXPECT_TRUE(wx_window_state::LoadAuiManagerState(&frame.manager, L"Main"));
     for (const char* const name : {"tree", "log", "props", "list"}) {
         EXPECT_TRUE(frame.Pane(name).IsDocked()) << name;

@@ -12,7 +12,7 @@
 
 namespace {
 
-void Plant(const std::wstring& text)
+void StoreText(const std::wstring& text)
 {
     ui_config_mgr::WriteConfigString(L"n.ini", L"Numbers", L"n", text.c_str());
 }
@@ -62,7 +62,7 @@ class GetConfigInt : public testing::TestWithParam<Stored>
 TEST_P(GetConfigInt, Gives)
 {
     const TempUserData data;
-    Plant(GetParam().text);
+    StoreText(GetParam().text);
     EXPECT_EQ(Read(), GetParam().value);
 }
 
@@ -85,7 +85,7 @@ TEST(IntegerInALocaleThatGroups, IsWrittenAndReadWithoutGroups)
         ui_config_mgr::WriteConfigInt(L"n.ini", L"Numbers", L"n", -1234567);
         EXPECT_EQ(ui_config_mgr::GetConfigString(L"n.ini", L"Numbers", L"n"), L"-1234567") << name;
         EXPECT_EQ(Read(), -1234567) << name;
-        Plant(grouped);
+        StoreText(grouped);
         EXPECT_EQ(Read(), 1) << name;
     }
 }
@@ -94,7 +94,7 @@ TEST(MissingInteger, IsZero)
 {
     const TempUserData data;
     EXPECT_EQ(Read(), 0);
-    Plant(L"5");
+    StoreText(L"5");
     EXPECT_EQ(ui_config_mgr::GetConfigInt(L"n.ini", L"Numbers", L"absent"), 0);
     EXPECT_EQ(ui_config_mgr::GetConfigInt(L"n.ini", L"absent", L"n"), 0);
     EXPECT_EQ(ui_config_mgr::GetConfigInt(L"absent.ini", L"Numbers", L"n"), 0);
@@ -125,7 +125,7 @@ class NoInteger : public testing::TestWithParam<Bad>
 TEST_P(NoInteger, ThrowsInvalidArgument)
 {
     const TempUserData data;
-    Plant(GetParam().text);
+    StoreText(GetParam().text);
     EXPECT_EQ(Thrown<std::invalid_argument>(), "stoi");
 }
 
@@ -142,7 +142,7 @@ class IntegerOutOfRange : public testing::TestWithParam<Bad>
 TEST_P(IntegerOutOfRange, ThrowsOutOfRange)
 {
     const TempUserData data;
-    Plant(GetParam().text);
+    StoreText(GetParam().text);
     EXPECT_EQ(Thrown<std::out_of_range>(), "stoi");
 }
 

@@ -11,21 +11,12 @@
 #include <fittings/platform/local_reg_store.h>
 #include <fittings/platform/std_file_paths.h>
 #include <tests/config/spy_window.h>
+#include <tests/config/stored_geometry.h>
 #include <tests/support/gui.h>
 #include <tests/support/scoped_locale.h>
 #include <tests/support/temp_folder.h>
 
 namespace {
-
-std::wstring Stored(const wchar_t* name)
-{
-    return CLocalRegStore::GetString(L"wxWindowState", name, L"none");
-}
-
-void Plant(const std::wstring& text, const wchar_t* name = L"w")
-{
-    CLocalRegStore::WriteString(L"wxWindowState", name, text.c_str());
-}
 
 // The results of the calls for any window and for a frame.
 template <typename Window>
@@ -39,7 +30,7 @@ TEST(SaveState, StoresPositionAndSizeOfAWindow)
     const TempUserData data;
     SpyFrame frame(wxRect(100, 50, 800, 600));
     wx_window_state::SaveState(static_cast<wxWindow*>(&frame), L"Main");
-    EXPECT_EQ(Stored(L"Main"), L"100;50;800;600");
+    EXPECT_EQ(StoredGeometry(L"Main"), L"100;50;800;600");
 }
 
 TEST(SaveState, StoresNegativeCoordinates)
@@ -48,7 +39,7 @@ TEST(SaveState, StoresNegativeCoordinates)
     SpyFrame frame;
     frame.SetSize(-1920, -7, 300, 200, wxSIZE_ALLOW_MINUS_ONE);
     wx_window_state::SaveState(&frame, L"Main");
-    EXPECT_EQ(Stored(L"Main"), L"-1920;-7;300;200");
+    EXPECT_EQ(StoredGeometry(L"Main"), L"-1920;-7;300;200");
 }
 
 TEST(SaveState, StoresAChildRelativeToItsParent)
@@ -60,7 +51,7 @@ TEST(SaveState, StoresAChildRelativeToItsParent)
     ASSERT_TRUE(ShowAndSettle(&frame));
     ASSERT_GE(panel.GetScreenPosition().x, 330);
     wx_window_state::SaveState(&panel, L"Panel");
-    EXPECT_EQ(Stored(L"Panel"), L"30;40;200;100");
+    EXPECT_EQ(StoredGeometry(L"Panel"), L"30;40;200;100");
 }
 
 TEST(SaveState, StoresTheGeometryOfAFrameAndThenItsFlag)
@@ -80,9 +71,9 @@ TEST(SaveState, KeepsNamesApart)
     wx_window_state::SaveState(&one, L"one");
     wx_window_state::SaveState(&two, L"two");
     wx_window_state::SaveState(&two, L"");
-    EXPECT_EQ(Stored(L"one"), L"100;50;800;600");
-    EXPECT_EQ(Stored(L"two"), L"200;80;500;400");
-    EXPECT_EQ(Stored(L""), L"200;80;500;400");
+    EXPECT_EQ(StoredGeometry(L"one"), L"100;50;800;600");
+    EXPECT_EQ(StoredGeometry(L"two"), L"200;80;500;400");
+    EXPECT_EQ(StoredGeometry(L""), L"200;80;500;400");
 }
 
 TEST(SaveState, TakesANullNameForTheEmptyOne)
@@ -90,7 +81,7 @@ TEST(SaveState, TakesANullNameForTheEmptyOne)
     const TempUserData data;
     SpyFrame frame(wxRect(100, 50, 800, 600));
     wx_window_state::SaveState(&frame, nullptr);
-    EXPECT_EQ(Stored(L""), L"100;50;800;600");
+    EXPECT_EQ(StoredGeometry(L""), L"100;50;800;600");
     SpyFrame other;
     EXPECT_TRUE(wx_window_state::LoadState(&other, nullptr));
     EXPECT_EQ(other.GetRect(), wxRect(100, 50, 800, 600));
@@ -151,7 +142,7 @@ TEST(LoadState, BringsAShownFrameBack)
         ASSERT_TRUE(PumpUntil([&] { return frame.GetScreenRect() == wxRect(420, 130, 510, 340); }));
         wx_window_state::SaveState(&frame, L"Main");
     }
-    EXPECT_EQ(Stored(L"Main"), L"420;130;510;340");
+    EXPECT_EQ(StoredGeometry(L"Main"), L"420;130;510;340");
     SpyFrame frame;
     EXPECT_TRUE(wx_window_state::LoadState(&frame, L"Main"));
     ASSERT_TRUE(ShowAndSettle(&frame));
@@ -169,7 +160,7 @@ TEST(LoadState, BringsADialogBack)
         ASSERT_TRUE(PumpUntil([&] { return dialog.GetScreenRect() == wxRect(250, 150, 320, 240); }));
         wx_window_state::SaveState(&dialog, L"Dialog");
     }
-    EXPECT_EQ(Stored(L"Dialog"), L"250;150;320;240");
+    EXPECT_EQ(StoredGeometry(L"Dialog"), L"250;150;320;240");
     wxDialog dialog(nullptr, wxID_ANY, "two", wxDefaultPosition, wxDefaultSize, style);
     EXPECT_TRUE(wx_window_state::LoadState(&dialog, L"Dialog"));
     ASSERT_TRUE(ShowAndSettle(&dialog));
@@ -179,7 +170,7 @@ TEST(LoadState, BringsADialogBack)
 TEST(LoadState, BringsAChildBackInsideItsParent)
 {
     const TempUserData data;
-    Plant(L"30;40;200;100");
+    StoreGeometry(L"30;40;200;100");
     SpyFrame frame(wxRect(300, 200, 400, 300));
     SpyWindow<wxPanel> first(&frame, wxID_ANY);
     SpyWindow<wxPanel> panel(&frame, wxID_ANY, wxPoint(0, 0), wxSize(50, 50));
@@ -209,7 +200,7 @@ private:
 TEST(LoadState, LogsNothingAboutAChildOfAHiddenFrame)
 {
     const TempUserData data;
-    Plant(L"30;40;200;100");
+    StoreGeometry(L"30;40;200;100");
     SpyFrame frame;
     wxPanel panel(&frame, wxID_ANY);
     CountingLog log;
@@ -226,7 +217,7 @@ TEST(SettingsThatCannotBeStored, GoUnnoticed)
     SpyFrame frame;
     CountingLog log;
     wx_window_state::SaveState(&frame, L"Main");
-    EXPECT_EQ(Stored(L"Main"), L"none");
+    EXPECT_EQ(StoredGeometry(L"Main"), L"none");
     EXPECT_FALSE(wx_window_state::LoadState(&frame, L"Main"));
     EXPECT_EQ(frame.TakeCalls(), SizeCalls{});
     EXPECT_EQ(log.count, 0);
@@ -235,7 +226,7 @@ TEST(SettingsThatCannotBeStored, GoUnnoticed)
 TEST(LoadState, SetsTheSizeThenThePositionAgain)
 {
     const TempUserData data;
-    Plant(L"100;50;800;600");
+    StoreGeometry(L"100;50;800;600");
     SpyFrame frame;
     EXPECT_TRUE(wx_window_state::LoadState(static_cast<wxWindow*>(&frame), L"w"));
     EXPECT_EQ(frame.TakeCalls(), (SizeCalls{"100;50;800;600 4", "100;50;-1;-1 0"}));
@@ -255,7 +246,7 @@ class TextThatIsNoGeometry : public testing::TestWithParam<Text>
 TEST_P(TextThatIsNoGeometry, ChangesNothing)
 {
     const TempUserData data;
-    Plant(GetParam().text);
+    StoreGeometry(GetParam().text);
     CLocalRegStore::WriteProfileBool(L"wxWindowMaximize", L"w", true);
     SpyFrame frame(wxRect(5000, 5000, 300, 200));
     EXPECT_FALSE(wx_window_state::LoadState(static_cast<wxWindow*>(&frame), L"w"));
@@ -294,7 +285,7 @@ class TextReadLeniently : public testing::TestWithParam<Text>
 TEST_P(TextReadLeniently, GivesTheGeometry)
 {
     const TempUserData data;
-    Plant(GetParam().text);
+    StoreGeometry(GetParam().text);
     SpyFrame frame;
     EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
     EXPECT_EQ(frame.GetRect(), wxRect(100, 200, 300, 400));
@@ -316,11 +307,11 @@ TEST(GeometryInALocaleThatGroups, IsWrittenAndReadWithoutGroups)
         const ScopedLocale locale(name);
         SpyFrame saved(wxRect(100, 50, 1100, 800));
         wx_window_state::SaveState(&saved, L"w");
-        EXPECT_EQ(Stored(L"w"), L"100;50;1100;800") << name;
+        EXPECT_EQ(StoredGeometry(L"w"), L"100;50;1100;800") << name;
         SpyFrame loaded;
         EXPECT_TRUE(wx_window_state::LoadState(&loaded, L"w")) << name;
         EXPECT_EQ(loaded.GetRect(), wxRect(100, 50, 1100, 800)) << name;
-        Plant(std::wstring(L"100;50;") + grouped + L";800");
+        StoreGeometry(std::wstring(L"100;50;") + grouped + L";800");
         EXPECT_FALSE(wx_window_state::LoadState(&loaded, L"w")) << name;
     }
 }

@@ -3,13 +3,14 @@
 #include <memory>
 #include <string>
 
-#include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <wx/app.h>
 #include <wx/frame.h>
 
 #include <fittings/platform/local_reg_store.h>
+#include <tests/config/stored_geometry.h>
 #include <tests/support/gui.h>
+#include <tests/support/replaced_function.h>
 #include <tests/support/temp_folder.h>
 
 namespace {
@@ -23,8 +24,7 @@ extern "C" void DestroyHandler(wxEvtHandler* handler) __asm__("_ZN12wxEvtHandler
 
 extern "C" void DestroyHandler(wxEvtHandler* handler)
 {
-    using Function = void (*)(wxEvtHandler*);
-    static const auto original = reinterpret_cast<Function>(dlsym(RTLD_NEXT, "_ZN12wxEvtHandlerD2Ev"));
+    static const auto original = ReplacedFunction<void(wxEvtHandler*)>("_ZN12wxEvtHandlerD2Ev");
     ++g_handlersDestroyed;
     original(handler);
 }
@@ -47,9 +47,9 @@ public:
     int restored = 0;
 };
 
-void Plant(const wchar_t* geometry, bool maximized)
+void StoreState(const wchar_t* geometry, bool maximized)
 {
-    CLocalRegStore::WriteString(L"wxWindowState", L"w", geometry);
+    StoreGeometry(geometry);
     CLocalRegStore::WriteProfileBool(L"wxWindowMaximize", L"w", maximized);
 }
 
@@ -98,7 +98,7 @@ TEST(SaveStateOfAFrame, StoresTheMaximizedGeometryAndTheFlag)
 TEST(SaveStateOfAFrame, StoresAgainThatItIsNotMaximizedAnyMore)
 {
     const TempUserData data;
-    Plant(L"100;100;300;200", true);
+    StoreState(L"100;100;300;200", true);
     CountingFrame frame;
     wx_window_state::SaveState(&frame, L"w");
     EXPECT_FALSE(StoredFlag(true));
@@ -107,7 +107,7 @@ TEST(SaveStateOfAFrame, StoresAgainThatItIsNotMaximizedAnyMore)
 TEST(LoadStateOfAFrame, MaximizesOnALaterTurnOfTheEventLoop)
 {
     const TempUserData data;
-    Plant(L"100;100;300;200", true);
+    StoreState(L"100;100;300;200", true);
     CountingFrame frame;
     EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
     EXPECT_EQ(frame.GetRect(), wxRect(100, 100, 300, 200));
@@ -127,7 +127,7 @@ TEST(LoadStateOfAFrame, MaximizesOnALaterTurnOfTheEventLoop)
 TEST(LoadStateOfAFrame, MaximizesAShownFrameLaterToo)
 {
     const TempUserData data;
-    Plant(L"100;100;300;200", true);
+    StoreState(L"100;100;300;200", true);
     CountingFrame frame;
     ASSERT_TRUE(ShowAndSettle(&frame));
     EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
@@ -140,7 +140,7 @@ TEST(LoadStateOfAFrame, MaximizesAShownFrameLaterToo)
 TEST(LoadStateOfAFrame, LeavesItAsItIsWhenTheFlagIsNotSet)
 {
     const TempUserData data;
-    Plant(L"100;100;300;200", false);
+    StoreState(L"100;100;300;200", false);
     CountingFrame frame;
     EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
     ASSERT_TRUE(ShowAndSettle(&frame));
@@ -162,7 +162,7 @@ TEST(LoadStateOfAFrame, LeavesItAsItIsWhenThereIsNoFlag)
 TEST(LoadStateOfAFrame, DoesNotAskForTheFlagWithoutAGeometry)
 {
     const TempUserData data;
-    Plant(L"1;2;3", true);
+    StoreState(L"1;2;3", true);
     CountingFrame frame;
     EXPECT_FALSE(wx_window_state::LoadState(&frame, L"w"));
     PumpPending();
@@ -172,7 +172,7 @@ TEST(LoadStateOfAFrame, DoesNotAskForTheFlagWithoutAGeometry)
 TEST(LoadStateOfAFrame, MaximizesWhenTheStoredSizeIsTooSmallToBeApplied)
 {
     const TempUserData data;
-    Plant(L"100;100;5;600", true);
+    StoreState(L"100;100;5;600", true);
     CountingFrame frame;
     EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
     EXPECT_EQ(frame.GetRect(), wxRect(300, 200, 400, 300));
@@ -183,7 +183,7 @@ TEST(LoadStateOfAFrame, MaximizesWhenTheStoredSizeIsTooSmallToBeApplied)
 TEST(LoadStateOfAWindow, LeavesTheFlagAlone)
 {
     const TempUserData data;
-    Plant(L"100;100;300;200", true);
+    StoreState(L"100;100;300;200", true);
     CountingFrame frame;
     EXPECT_TRUE(wx_window_state::LoadState(static_cast<wxWindow*>(&frame), L"w"));
     PumpPending();

@@ -10,15 +10,11 @@
 
 #include <fittings/platform/local_reg_store.h>
 #include <tests/config/spy_window.h>
+#include <tests/config/stored_geometry.h>
 #include <tests/support/gui.h>
 #include <tests/support/temp_folder.h>
 
 namespace {
-
-void Plant(const std::wstring& text)
-{
-    CLocalRegStore::WriteString(L"wxWindowState", L"w", text.c_str());
-}
 
 TEST(Display, HasTheWorkAreaThatTheseTestsExpect)
 {
@@ -48,7 +44,7 @@ class StoredGeometry : public testing::TestWithParam<Restored>
 TEST_P(StoredGeometry, ComesOntoTheDisplay)
 {
     const TempUserData data;
-    Plant(GetParam().stored);
+    StoreGeometry(GetParam().stored);
     SpyFrame frame;
     EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
     SizeCalls calls = frame.TakeCalls();
@@ -98,7 +94,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(StoredPositionMinusOne, IsApplied)
 {
     const TempUserData data;
-    Plant(L"-1;-1;300;200");
+    StoreGeometry(L"-1;-1;300;200");
     SpyFrame frame;
     EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
     EXPECT_EQ(frame.TakeCalls(), (SizeCalls{"-1;-1;300;200 4", "-1;-1;-1;-1 0"}));
@@ -111,7 +107,7 @@ class StoredSizeTooSmall : public testing::TestWithParam<const wchar_t*>
 TEST_P(StoredSizeTooSmall, LeavesTheWindowWhereItIs)
 {
     const TempUserData data;
-    Plant(GetParam());
+    StoreGeometry(GetParam());
     SpyFrame frame(wxRect(300, 200, 400, 300));
     EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
     EXPECT_EQ(frame.TakeCalls(), SizeCalls{});
@@ -121,7 +117,7 @@ TEST_P(StoredSizeTooSmall, LeavesTheWindowWhereItIs)
 TEST_P(StoredSizeTooSmall, PullsAWindowOntoTheDisplayAllTheSame)
 {
     const TempUserData data;
-    Plant(GetParam());
+    StoreGeometry(GetParam());
     SpyFrame frame(wxRect(5000, 5000, 400, 300));
     EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
     EXPECT_EQ(frame.TakeCalls(), (SizeCalls{"0;0;-1;-1 0", "16;24;384;276 3"}));
@@ -141,7 +137,7 @@ class HugeGeometry : public testing::TestWithParam<const wchar_t*>
 TEST_P(HugeGeometry, EndsInsideTheWorkArea)
 {
     const TempUserData data;
-    Plant(GetParam());
+    StoreGeometry(GetParam());
     SpyFrame frame;
     EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
     ASSERT_TRUE(ShowAndSettle(&frame));
@@ -153,7 +149,7 @@ TEST_P(HugeGeometry, EndsInsideTheWorkArea)
 TEST_P(HugeGeometry, EndsInsideTheWorkAreaOfAShownWindow)
 {
     const TempUserData data;
-    Plant(GetParam());
+    StoreGeometry(GetParam());
     SpyFrame frame;
     ASSERT_TRUE(ShowAndSettle(&frame));
     EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
@@ -177,7 +173,7 @@ TEST(NumberOfAMegabyte, IsTheLargest)
 {
     const TempUserData data;
     const std::wstring huge(1 << 20, L'7');
-    Plant(huge + L";-" + huge + L";" + huge + L";" + huge);
+    StoreGeometry(huge + L";-" + huge + L";" + huge + L";" + huge);
     SpyFrame frame;
     EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
     EXPECT_EQ(frame.GetRect(), wxRect(16, 24, 1264, 960));
@@ -186,7 +182,7 @@ TEST(NumberOfAMegabyte, IsTheLargest)
 TEST(FrameFromAMissingMonitor, IsShownClipped)
 {
     const TempUserData data;
-    Plant(L"5000;5000;300;200");
+    StoreGeometry(L"5000;5000;300;200");
     SpyFrame frame;
     EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
     ASSERT_TRUE(ShowAndSettle(&frame));
@@ -196,7 +192,7 @@ TEST(FrameFromAMissingMonitor, IsShownClipped)
 TEST(FrameUnderAPanel, IsShownBesideIt)
 {
     const TempUserData data;
-    Plant(L"100;-180;300;200");
+    StoreGeometry(L"100;-180;300;200");
     SpyFrame frame;
     EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
     ASSERT_TRUE(ShowAndSettle(&frame));
@@ -206,7 +202,7 @@ TEST(FrameUnderAPanel, IsShownBesideIt)
 TEST(FrameWithoutAPosition, IsPutIntoTheWorkAreaByTheWindowManager)
 {
     const TempUserData data;
-    Plant(L"-1;-1;300;200");
+    StoreGeometry(L"-1;-1;300;200");
     SpyFrame frame;
     EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
     ASSERT_TRUE(ShowAndSettle(&frame));
@@ -217,7 +213,7 @@ TEST(FrameWithoutAPosition, IsPutIntoTheWorkAreaByTheWindowManager)
 TEST(ShownFrame, IsClippedToo)
 {
     const TempUserData data;
-    Plant(L"1100;900;300;200");
+    StoreGeometry(L"1100;900;300;200");
     SpyFrame frame;
     ASSERT_TRUE(ShowAndSettle(&frame));
     EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
@@ -228,7 +224,7 @@ TEST(ShownFrame, IsClippedToo)
 TEST(ChildOfAFrameThatIsOffEveryDisplay, StaysAtTheParentsCorner)
 {
     const TempUserData data;
-    Plant(L"30;40;200;100");
+    StoreGeometry(L"30;40;200;100");
     SpyFrame frame(wxRect(5000, 5000, 400, 300));
     SpyWindow<wxPanel> panel(&frame, wxID_ANY);
     panel.TakeCalls();
@@ -241,7 +237,7 @@ TEST(ChildOfAFrameThatIsOffEveryDisplay, StaysAtTheParentsCorner)
 TEST(ChildLeftOfAShownParent, IsOnTheDisplay)
 {
     const TempUserData data;
-    Plant(L"-210;40;200;100");
+    StoreGeometry(L"-210;40;200;100");
     SpyFrame frame(wxRect(300, 200, 400, 300));
     wxPanel first(&frame, wxID_ANY);
     SpyWindow<wxPanel> panel(&frame, wxID_ANY);
@@ -255,7 +251,7 @@ TEST(ChildLeftOfAShownParent, IsOnTheDisplay)
 TEST(ChildAtItsParentsCorner, IsClippedByItsOwnPosition)
 {
     const TempUserData data;
-    Plant(L"0;0;200;100");
+    StoreGeometry(L"0;0;200;100");
     SpyFrame frame;
     SpyWindow<wxPanel> panel(&frame, wxID_ANY);
     panel.TakeCalls();
@@ -266,7 +262,7 @@ TEST(ChildAtItsParentsCorner, IsClippedByItsOwnPosition)
 TEST(GrandchildOfAHiddenFrame, IsOffTheDisplayWithTheParentsAbove)
 {
     const TempUserData data;
-    Plant(L"30;40;200;100");
+    StoreGeometry(L"30;40;200;100");
     SpyFrame frame(wxRect(-390, 100, 400, 300));
     wxPanel outer(&frame, wxID_ANY, wxPoint(0, 0), wxSize(380, 280));
     SpyWindow<wxPanel> inner(&outer, wxID_ANY);

@@ -4,13 +4,13 @@
 
 #include <vector>
 
-#include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <wx/display.h>
 
 #include <fittings/platform/local_reg_store.h>
 #include <tests/config/spy_window.h>
 #include <tests/support/gui.h>
+#include <tests/support/replaced_function.h>
 #include <tests/support/temp_folder.h>
 
 namespace {
@@ -28,9 +28,7 @@ int wxDisplay::GetFromWindow(const wxWindow* window)
         g_answers.pop_back();
         return answer;
     }
-    using Function = int (*)(const wxWindow*);
-    static const auto original =
-        reinterpret_cast<Function>(dlsym(RTLD_NEXT, "_ZN9wxDisplay13GetFromWindowEPK8wxWindow"));
+    static const auto original = ReplacedFunction<int(const wxWindow*)>("_ZN9wxDisplay13GetFromWindowEPK8wxWindow");
     return original(window);
 }
 

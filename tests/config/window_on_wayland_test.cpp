@@ -11,20 +11,11 @@
 
 #include <fittings/platform/local_reg_store.h>
 #include <tests/config/spy_window.h>
+#include <tests/config/stored_geometry.h>
 #include <tests/support/gui.h>
 #include <tests/support/temp_folder.h>
 
 namespace {
-
-std::wstring Stored()
-{
-    return CLocalRegStore::GetString(L"wxWindowState", L"w", L"none");
-}
-
-void Plant(const std::wstring& text)
-{
-    CLocalRegStore::WriteString(L"wxWindowState", L"w", text.c_str());
-}
 
 bool Ends(const std::wstring& text, const std::wstring& end)
 {
@@ -45,18 +36,18 @@ TEST(DisplayOfTheseTests, IsWayland)
 TEST(FrameOnWayland, ComesBackInTheSameSizeEachTime)
 {
     const TempUserData data;
-    Plant(L"300;200;510;340");
+    StoreGeometry(L"300;200;510;340");
     std::wstring first;
     for (int run = 0; run < 4; ++run) {
         SpyFrame frame;
         EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
         ASSERT_TRUE(ShowsInSize(&frame, wxSize(510, 340)));
         wx_window_state::SaveState(&frame, L"w");
-        EXPECT_TRUE(Ends(Stored(), L";510;340")) << wxString(Stored());
+        EXPECT_TRUE(Ends(StoredGeometry(), L";510;340")) << wxString(StoredGeometry());
         if (run == 0)
-            first = Stored();
+            first = StoredGeometry();
     }
-    EXPECT_EQ(wxString(Stored()), wxString(first));
+    EXPECT_EQ(wxString(StoredGeometry()), wxString(first));
 }
 
 TEST(FrameOnWayland, KeepsTheSizeThatItsUserGaveIt)
@@ -77,17 +68,17 @@ TEST(FrameOnWayland, KeepsTheSizeThatItsUserGaveIt)
 TEST(FrameOnWayland, KeepsItsStoredPlaceUntilItIsShown)
 {
     const TempUserData data;
-    Plant(L"300;200;510;340");
+    StoreGeometry(L"300;200;510;340");
     SpyFrame frame(wxRect(10, 20, 400, 300));
     EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
     wx_window_state::SaveState(&frame, L"w");
-    EXPECT_EQ(wxString(Stored()), L"300;200;510;340");
+    EXPECT_EQ(wxString(StoredGeometry()), L"300;200;510;340");
 }
 
 TEST(FrameOnWayland, FromAMissingMonitorIsShown)
 {
     const TempUserData data;
-    Plant(L"5000;5000;510;340");
+    StoreGeometry(L"5000;5000;510;340");
     SpyFrame frame;
     EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
     EXPECT_EQ(frame.GetRect(), wxRect(0, 0, 510, 340));
@@ -97,7 +88,7 @@ TEST(FrameOnWayland, FromAMissingMonitorIsShown)
 TEST(FrameOnWayland, LargerThanTheDisplayIsShownInIts)
 {
     const TempUserData data;
-    Plant(L"100;100;9000;9000");
+    StoreGeometry(L"100;100;9000;9000");
     SpyFrame frame;
     EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
     ASSERT_TRUE(ShowAndSettle(&frame));
@@ -108,7 +99,7 @@ TEST(FrameOnWayland, LargerThanTheDisplayIsShownInIts)
 TEST(FrameOnWayland, TakesItsSizeWhileItIsShown)
 {
     const TempUserData data;
-    Plant(L"300;200;510;340");
+    StoreGeometry(L"300;200;510;340");
     SpyFrame frame;
     ASSERT_TRUE(ShowAndSettle(&frame));
     EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
@@ -142,13 +133,13 @@ TEST(FrameOnWayland, ComesBackMaximizedAndCanBeRestored)
 TEST(DialogOnWayland, ComesBackInItsSize)
 {
     const TempUserData data;
-    Plant(L"250;150;420;310");
+    StoreGeometry(L"250;150;420;310");
     wxDialog dialog(nullptr, wxID_ANY, "dialog", wxDefaultPosition, wxSize(300, 200),
                     wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER);
     EXPECT_TRUE(wx_window_state::LoadState(&dialog, L"w"));
     ASSERT_TRUE(ShowsInSize(&dialog, wxSize(420, 310)));
     wx_window_state::SaveState(&dialog, L"w");
-    EXPECT_TRUE(Ends(Stored(), L";420;310")) << wxString(Stored());
+    EXPECT_TRUE(Ends(StoredGeometry(), L";420;310")) << wxString(StoredGeometry());
 }
 
 TEST(RightCornerOnWayland, LeavesTheWindowShownInItsSize)

@@ -10,6 +10,7 @@
 #include <fittings/config/persistence.h>
 #include <fittings/platform/local_reg_store.h>
 #include <tests/config/spy_window.h>
+#include <tests/config/stored_geometry.h>
 #include <tests/support/gui.h>
 #include <tests/support/temp_folder.h>
 
@@ -32,11 +33,6 @@ void gdk_screen_get_monitor_workarea(GdkScreen*, int number, GdkRectangle* area)
 }
 
 namespace {
-
-void Plant(const wchar_t* text)
-{
-    CLocalRegStore::WriteString(L"wxWindowState", L"w", text);
-}
 
 TEST(Displays, AreThoseThatTheseTestsExpect)
 {
@@ -61,7 +57,7 @@ class StoredOnTwoDisplays : public testing::TestWithParam<Restored>
 TEST_P(StoredOnTwoDisplays, ComesOntoTheOneThatShowsMostOfIt)
 {
     const TempUserData data;
-    Plant(GetParam().stored);
+    StoreGeometry(GetParam().stored);
     SpyFrame frame;
     EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
     EXPECT_EQ(frame.GetRect(), GetParam().rect);

@@ -1,6 +1,6 @@
 #include <tests/dialogs/centring.h>
+#include <tests/support/replaced_function.h>
 
-#include <dlfcn.h>
 #include <wx/dirdlg.h>
 #include <wx/filedlg.h>
 
@@ -15,7 +15,7 @@ void wxTopLevelWindowBase::DoCentre(int direction)
 {
     if (dynamic_cast<wxDirDialog*>(this) || dynamic_cast<wxFileDialog*>(this))
         CentredDialogs().push_back(direction);
-    using Function = void (*)(wxTopLevelWindowBase*, int);
-    static const auto original = reinterpret_cast<Function>(dlsym(RTLD_NEXT, "_ZN20wxTopLevelWindowBase8DoCentreEi"));
+    static const auto original =
+        ReplacedFunction<void(wxTopLevelWindowBase*, int)>("_ZN20wxTopLevelWindowBase8DoCentreEi");
     original(this, direction);
 }

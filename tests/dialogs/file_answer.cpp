@@ -1,10 +1,10 @@
 #include <tests/dialogs/file_answer.h>
 
-#include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <wx/filedlg.h>
 
 #include <tests/dialogs/centring.h>
+#include <tests/support/replaced_function.h>
 
 namespace {
 
@@ -74,8 +74,7 @@ void wxFileDialog::SetFilterIndex(int index)
         EXPECT_TRUE(CentredDialogs().empty()) << "a filter chosen after the dialog was centred";
         g_made.back().filtersSet.push_back(index);
     }
-    using Function = void (*)(wxFileDialog*, int);
-    static const auto original = reinterpret_cast<Function>(dlsym(RTLD_NEXT, "_ZN12wxFileDialog14SetFilterIndexEi"));
+    static const auto original = ReplacedFunction<void(wxFileDialog*, int)>("_ZN12wxFileDialog14SetFilterIndexEi");
     original(this, index);
 }
 

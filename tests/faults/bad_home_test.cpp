@@ -22,6 +22,7 @@
 #include <tests/dialogs/driven_dialog.h>
 #include <tests/dialogs/file_answer.h>
 #include <tests/faults/own_home.h>
+#include <tests/platform/store/store_support.h>
 #include <tests/support/gui.h>
 #include <tests/support/temp_folder.h>
 #include <tests/tree/tree_on_screen.h>
@@ -41,11 +42,6 @@ struct Trouble
 std::string DataFolder()
 {
     return HomeFolder() + "/.local/share/fittings-test";
-}
-
-std::wstring Stored(const wchar_t* section, const wchar_t* key)
-{
-    return CLocalRegStore::GetString(section, key, L"(none)");
 }
 
 /// The contents of every file below the data folder, by its relative path.

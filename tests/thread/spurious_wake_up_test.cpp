@@ -2,10 +2,9 @@
 
 #include <atomic>
 
-#include <dlfcn.h>
-
 #include <gtest/gtest.h>
 
+#include <tests/support/replaced_function.h>
 #include <tests/thread/thread_support.h>
 
 namespace {
@@ -19,8 +18,7 @@ extern "C" wxCondError WaitForCondition(wxCondition* condition) __asm__("_ZN11wx
 
 extern "C" wxCondError WaitForCondition(wxCondition* condition)
 {
-    using Function = wxCondError (*)(wxCondition*);
-    static const auto original = reinterpret_cast<Function>(dlsym(RTLD_NEXT, "_ZN11wxCondition4WaitEv"));
+    static const auto original = ReplacedFunction<wxCondError(wxCondition*)>("_ZN11wxCondition4WaitEv");
     if (g_wakeUpsToCome > 0) {
         --g_wakeUpsToCome;
         return condition->WaitTimeout(1) == wxCOND_TIMEOUT ? wxCOND_NO_ERROR : wxCOND_MISC_ERROR;

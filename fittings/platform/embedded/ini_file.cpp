@@ -201,7 +201,7 @@ std::vector<fittings::SettingsEntry> CIniFile::Entries(std::wstring_view section
 {
     std::vector<IniText::Key> keys = m_text->Keys(fittings::EncodeName(section));
     if (section.empty())
-        keys = WithEarlyKeys(std::move(keys));
+        keys = WithEarlyKeys(keys);
     std::vector<fittings::SettingsEntry> entries;
     entries.reserve(keys.size());
     for (const IniText::Key& key : keys)
@@ -220,7 +220,7 @@ bool CIniFile::HasEarlyKey(std::wstring_view key) const
 }
 
 // The keys before the first section come first, with the values that the section of the empty name has for them.
-std::vector<IniText::Key> CIniFile::WithEarlyKeys(std::vector<IniText::Key> keys) const
+std::vector<IniText::Key> CIniFile::WithEarlyKeys(const std::vector<IniText::Key>& keys) const
 {
     std::vector<IniText::Key> all = m_text->Keys(IniText::kEarlyKeys);
     std::unordered_map<std::string_view, std::size_t> indices;

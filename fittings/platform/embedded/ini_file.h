@@ -76,7 +76,7 @@ private:
     bool IsFresh() const;
     std::optional<std::string_view> Find(std::wstring_view section, std::wstring_view key) const;
     bool HasEarlyKey(std::wstring_view key) const;
-    std::vector<fittings::IniText::Key> WithEarlyKeys(std::vector<fittings::IniText::Key> keys) const;
+    std::vector<fittings::IniText::Key> WithEarlyKeys(const std::vector<fittings::IniText::Key>& keys) const;
     std::optional<std::string> Merged(std::string_view expected, std::string_view put,
                                       std::string_view displaced) const;
 

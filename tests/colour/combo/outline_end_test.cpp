@@ -2,13 +2,12 @@
 
 #include <vector>
 
-#include <dlfcn.h>
-
 #include <gtest/gtest.h>
 
 #include <wx/popupwin.h>
 
 #include <tests/colour/combo/combo_on_screen.h>
+#include <tests/support/replaced_function.h>
 
 #include <cairo-xlib.h>
 #include <gdk/gdkx.h>
@@ -34,7 +33,7 @@ bool DrawsOnTheScreen(cairo_t* context)
 // In place of cairo's, which does the same.
 void cairo_paint(cairo_t* context)
 {
-    static const auto original = reinterpret_cast<decltype(&cairo_paint)>(dlsym(RTLD_NEXT, "cairo_paint"));
+    static const auto original = ReplacedFunction<decltype(cairo_paint)>("cairo_paint");
     if (g_outline && DrawsOnTheScreen(context))
         g_wasShown.push_back(g_outline->IsShown());
     original(context);

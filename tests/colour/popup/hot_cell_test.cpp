@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <dlfcn.h>
 #include <wx/dcclient.h>
 #include <wx/dcgraph.h>
 
@@ -13,6 +12,7 @@
 #include <tests/colour/combo/combo_on_screen.h>
 #include <tests/colour/popup/open_popup.h>
 #include <tests/colour/screen.h>
+#include <tests/support/replaced_function.h>
 
 namespace {
 
@@ -200,7 +200,7 @@ Drawn g_drawn;
 template <typename... Arguments>
 void DrawByToolkit(const char* name, wxGCDCImpl* dc, Arguments... arguments)
 {
-    reinterpret_cast<void (*)(wxGCDCImpl*, Arguments...)>(dlsym(RTLD_NEXT, name))(dc, arguments...);
+    ReplacedFunction<void(wxGCDCImpl*, Arguments...)>(name)(dc, arguments...);
 }
 
 }  // namespace

@@ -1,19 +1,12 @@
 #include <tests/colour/popup/system_values.h>
+#include <tests/support/replaced_function.h>
 
-#include <dlfcn.h>
 #include <wx/settings.h>
 
 namespace {
 
 bool g_themePinned = false;
 std::optional<int> g_edge;
-
-// What the toolkit itself answers.
-template <typename Function>
-Function* Toolkits(const char* name)
-{
-    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
-}
 
 }  // namespace
 
@@ -50,7 +43,7 @@ wxColour wxSystemSettingsNative::GetColour(wxSystemColour index)
     if (g_themePinned && index == wxSYS_COLOUR_3DDKSHADOW)
         return kDark;
     static auto* const toolkits =
-        Toolkits<wxColour(wxSystemColour)>("_ZN22wxSystemSettingsNative9GetColourE14wxSystemColour");
+        ReplacedFunction<wxColour(wxSystemColour)>("_ZN22wxSystemSettingsNative9GetColourE14wxSystemColour");
     return toolkits(index);
 }
 
@@ -58,7 +51,7 @@ int wxSystemSettingsNative::GetMetric(wxSystemMetric index, const wxWindow* wind
 {
     if (g_edge && index == wxSYS_EDGE_X)
         return *g_edge;
-    static auto* const toolkits = Toolkits<int(wxSystemMetric, const wxWindow*)>(
+    static auto* const toolkits = ReplacedFunction<int(wxSystemMetric, const wxWindow*)>(
         "_ZN22wxSystemSettingsNative9GetMetricE14wxSystemMetricPK8wxWindow");
     return toolkits(index, window);
 }

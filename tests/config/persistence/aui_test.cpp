@@ -41,7 +41,7 @@ TEST(PersistentAui, OfAFrameThatEndsItsManagerIsRemembered)
         ASSERT_TRUE(ShowAndSettle(&frame));
         MoveLogToTheTop(frame.manager);
     }
-    EXPECT_NE(Stored(kKind, L"Layout"), L"(none)");
+    EXPECT_NE(StoredValue(kKind, L"Layout"), L"(none)");
     ExpectLogAtTheTop();
 }
 
@@ -71,7 +71,7 @@ TEST(PersistentAui, OfAManagerThatNobodyEndsIsRemembered)
             manager.reset();
         frame->Destroy();
         PumpPending();
-        EXPECT_NE(Stored(kKind, L"Layout").find(L"dir=1;"), std::wstring::npos) << Stored(kKind, L"Layout");
+        EXPECT_NE(StoredValue(kKind, L"Layout").find(L"dir=1;"), std::wstring::npos) << StoredValue(kKind, L"Layout");
     }
 }
 
@@ -85,10 +85,10 @@ TEST(PersistentAui, OfAManagerThatIsEndedEarlyIsStoredWithItsWindow)
     manager.Update();
     wxPersistentRegisterAndRestore(&manager, "w");
     manager.UnInit();
-    EXPECT_EQ(Stored(kKind, L"Layout"), L"(none)");
+    EXPECT_EQ(StoredValue(kKind, L"Layout"), L"(none)");
     frame->Destroy();
     PumpPending();
-    EXPECT_NE(Stored(kKind, L"Layout").find(L"dir=1;"), std::wstring::npos);
+    EXPECT_NE(StoredValue(kKind, L"Layout").find(L"dir=1;"), std::wstring::npos);
 }
 
 TEST(PersistentAui, ThatIsNotRegisteredAnyMoreStoresNothing)
@@ -100,9 +100,9 @@ TEST(PersistentAui, ThatIsNotRegisteredAnyMoreStoresNothing)
         wxPersistenceManager::Get().Unregister(&frame.manager);
         ASSERT_TRUE(ShowAndSettle(&frame));
         EXPECT_TRUE(frame.Close());
-        EXPECT_EQ(Stored(kKind, L"Layout"), L"(none)");
+        EXPECT_EQ(StoredValue(kKind, L"Layout"), L"(none)");
     }
-    EXPECT_EQ(Stored(kKind, L"Layout"), L"(none)");
+    EXPECT_EQ(StoredValue(kKind, L"Layout"), L"(none)");
 }
 
 TEST(PersistentAui, IsNamedAsItsWindowWhereItHasNoName)
@@ -131,7 +131,7 @@ TEST(DamagedLayout, LoadsNothing)
         // A text that is cut between two fields is a whole layout.
         if (layout[length - 1] == L'|')
             continue;
-        Plant(kKind, L"Layout", layout.substr(0, length));
+        StoreValue(kKind, L"Layout", layout.substr(0, length));
         AuiFrame frame;
         EXPECT_FALSE(wxPersistentRegisterAndRestore(&frame.manager, "w"));
         EXPECT_FALSE(IsLogAtTheTop(frame.manager));

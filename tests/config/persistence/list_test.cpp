@@ -75,8 +75,8 @@ TEST(PersistentList, HasTheWidthsThatItHad)
         frame.list->SetColumnWidth(1, 222);
         frame.list->SetColumnWidth(2, 33);
     }
-    EXPECT_EQ(Stored(kKind, L"Widths"), L"100;222;33");
-    EXPECT_EQ(Stored(kKind, L"Order"), L"(none)");
+    EXPECT_EQ(StoredValue(kKind, L"Widths"), L"100;222;33");
+    EXPECT_EQ(StoredValue(kKind, L"Order"), L"(none)");
     ListFrame<wxListView> frame;
     EXPECT_TRUE(wxPersistentRegisterAndRestore(frame.list, "w"));
     EXPECT_EQ(frame.Widths(), (std::vector<int>{100, 222, 33}));
@@ -93,7 +93,7 @@ TEST(PersistentList, HasTheOrderThatItHadWhereColumnsHaveOne)
         frame.list->order = Order({2, 0, 1});
     }
     for (const wchar_t* const order : {L"", L"2;0", L"2;0;0", L"2;0;3", L"-1;0;1", L"2;0;1;3", L"2,0,1", L"a;b;c"}) {
-        Plant(kKind, L"Order", order);
+        StoreValue(kKind, L"Order", order);
         ListFrame<OrderedList> frame;
         frame.list->order = Order({0, 1, 2});
         EXPECT_TRUE(wxPersistentRegisterAndRestore(frame.list, "w"));
@@ -106,7 +106,7 @@ TEST(DamagedWidths, ChangeNothing)
     const TempPersistence data;
     for (const wchar_t* const widths : {L"", L"1", L"50;50", L"50;50;50;50", L"50;50;x", L"50;50;-1", L"50;50;-2",
                                         L"50;50;32768", L"50;;50", L"50;50;99999999999999999999", L"50 50 50", L";;"}) {
-        Plant(kKind, L"Widths", widths);
+        StoreValue(kKind, L"Widths", widths);
         ListFrame<wxListCtrl> frame;
         EXPECT_FALSE(wxPersistentRegisterAndRestore(frame.list, "w")) << widths;
         EXPECT_EQ(frame.Widths(), (std::vector<int>{100, 100, 100})) << widths;
@@ -116,13 +116,13 @@ TEST(DamagedWidths, ChangeNothing)
 TEST(ListOfAnotherKind, StoresNothing)
 {
     const TempPersistence data;
-    Plant(kKind, L"Widths", L"50;50;50");
+    StoreValue(kKind, L"Widths", L"50;50;50");
     auto* const frame = new wxFrame(nullptr, wxID_ANY, "list");
     auto* const list = new wxListCtrl(frame, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxLC_LIST);
     EXPECT_FALSE(wxPersistentRegisterAndRestore(list, "w"));
     frame->Destroy();
     PumpPending();
-    EXPECT_EQ(Stored(kKind, L"Widths"), L"50;50;50");
+    EXPECT_EQ(StoredValue(kKind, L"Widths"), L"50;50;50");
 }
 
 TEST(PersistentDataView, HasTheColumnsThatItHad)

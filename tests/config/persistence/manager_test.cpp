@@ -99,10 +99,10 @@ TEST(ClosedFrame, IsSavedWhenItIsGone)
     frame->RestoreAll();
     ASSERT_TRUE(ShowAndSettle(frame));
     delete frame;
-    EXPECT_EQ(Stored(L"Window", L"w"), L"600");
-    EXPECT_EQ(Stored(L"Splitter", L"Position"), L"150");
-    EXPECT_NE(Stored(L"Tree", L"Items"), L"(none)");
-    EXPECT_NE(Stored(L"List", L"Widths"), L"(none)");
+    EXPECT_EQ(StoredValue(L"Window", L"w"), L"600");
+    EXPECT_EQ(StoredValue(L"Splitter", L"Position"), L"150");
+    EXPECT_NE(StoredValue(L"Tree", L"Items"), L"(none)");
+    EXPECT_NE(StoredValue(L"List", L"Widths"), L"(none)");
     delete other;
 }
 
@@ -128,9 +128,9 @@ TEST(Control, ThatGoesAloneIsSavedOnTheNextTurn)
     g_syncs = 0;
     frame->splitter->Unsplit(frame->tree);
     frame->tree->Destroy();
-    EXPECT_EQ(Stored(L"Tree", L"Items"), L"(none)");
+    EXPECT_EQ(StoredValue(L"Tree", L"Items"), L"(none)");
     PumpPending();
-    EXPECT_NE(Stored(L"Tree", L"Items"), L"(none)");
+    EXPECT_NE(StoredValue(L"Tree", L"Items"), L"(none)");
     EXPECT_EQ(g_syncs, 2);
     DestroyNow(frame);
 }
@@ -142,7 +142,7 @@ TEST(Control, ThatIsDeletedWithoutDestroyLeavesWhatWasStored)
     frame->RestoreAll();
     frame->book->DeletePage(1);
     DestroyNow(frame);
-    EXPECT_EQ(Stored(L"List", L"Widths"), L"(none)");
+    EXPECT_EQ(StoredValue(L"List", L"Widths"), L"(none)");
 }
 
 TEST(Control, ThatWasNotRestoredIsSavedWithItsFrame)
@@ -153,7 +153,7 @@ TEST(Control, ThatWasNotRestoredIsSavedWithItsFrame)
     frame->splitter->SetName("w");
     wxPersistenceManager::Get().Register(frame->splitter);
     delete frame;
-    EXPECT_EQ(Stored(L"Splitter", L"Position"), L"150");
+    EXPECT_EQ(StoredValue(L"Splitter", L"Position"), L"150");
 }
 
 TEST(Manager, SaysThatItCouldNotSaveAndSavesLater)
@@ -168,7 +168,7 @@ TEST(Manager, SaysThatItCouldNotSaveAndSavesLater)
     EXPECT_FALSE(manager.Flush());
     std_file_paths::SetUserDataDir(std::wstring(data.Path().begin(), data.Path().end()).c_str());
     EXPECT_TRUE(manager.Flush());
-    EXPECT_EQ(Stored(L"Window", L"w"), L"600");
+    EXPECT_EQ(StoredValue(L"Window", L"w"), L"600");
 }
 
 TEST(Manager, IsTheToolkitsOnceItIsInstalled)
@@ -182,8 +182,8 @@ TEST(DamagedNumbers, DoNoHarm)
 {
     const TempPersistence data;
     for (const wchar_t* const text : {L"", L"x", L"-2", L"-2147483648", L"2147483647", L"2147483648", L"99999999999"}) {
-        Plant(L"Splitter", L"Position", text);
-        Plant(L"Book", L"Selection", text);
+        StoreValue(L"Splitter", L"Position", text);
+        StoreValue(L"Book", L"Selection", text);
         auto* const frame = new FullFrame;
         EXPECT_FALSE(frame->RestoreAll());
         ASSERT_TRUE(ShowAndSettle(frame));
@@ -204,7 +204,7 @@ TEST(TreeBook, IsStillTheToolkits)
     wxPersistentRegisterAndRestore(book, "w");
     EXPECT_EQ(wxPersistenceManager::Get().Find(book)->GetKind(), "TreeBook");
     DestroyNow(frame);
-    EXPECT_EQ(Stored(L"TreeBook", L"Selection"), L"0");
+    EXPECT_EQ(StoredValue(L"TreeBook", L"Selection"), L"0");
 }
 
 }  // namespace

@@ -20,14 +20,14 @@ inline std::wstring StoredSection(const std::wstring& kind)
     return L"Persistent_Options/" + kind + L"/w";
 }
 
-/// Stores a value of the object "w" as if an earlier run of the program had.
-inline void Plant(const std::wstring& kind, const wchar_t* key, const std::wstring& text)
+/// Stores a value of the object "w" as an earlier run of the program would have.
+inline void StoreValue(const std::wstring& kind, const wchar_t* key, const std::wstring& text)
 {
     CLocalRegStore::WriteString(StoredSection(kind).c_str(), key, text.c_str());
 }
 
 /// Returns what is on the disk for the object "w".
-inline std::wstring Stored(const std::wstring& kind, const wchar_t* key)
+inline std::wstring StoredValue(const std::wstring& kind, const wchar_t* key)
 {
     return CLocalRegStore::GetString(StoredSection(kind).c_str(), key, L"(none)");
 }

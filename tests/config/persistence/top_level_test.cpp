@@ -20,10 +20,10 @@ constexpr wchar_t kKind[] = L"Window";
 
 void PlantPlace(const std::wstring& x, const std::wstring& y, const std::wstring& width, const std::wstring& height)
 {
-    Plant(kKind, L"x", x);
-    Plant(kKind, L"y", y);
-    Plant(kKind, L"w", width);
-    Plant(kKind, L"h", height);
+    StoreValue(kKind, L"x", x);
+    StoreValue(kKind, L"y", y);
+    StoreValue(kKind, L"w", width);
+    StoreValue(kKind, L"h", height);
 }
 
 wxFrame* NewFrame()
@@ -77,8 +77,8 @@ TEST(PersistentFrame, ComesBackWhereItWas)
         frame.SetSize(150, 120, 500, 340);
         ASSERT_TRUE(SettlesAt(frame, wxRect(150, 120, 500, 340)));
     });
-    EXPECT_EQ(Stored(kKind, L"x"), L"150");
-    EXPECT_EQ(Stored(kKind, L"h"), L"340");
+    EXPECT_EQ(StoredValue(kKind, L"x"), L"150");
+    EXPECT_EQ(StoredValue(kKind, L"h"), L"340");
     InOneRun(true, [](wxFrame& frame) { EXPECT_TRUE(SettlesAt(frame, wxRect(150, 120, 500, 340))); });
 }
 
@@ -91,8 +91,8 @@ TEST(PersistentFrame, ThatWasMaximizedComesBackSoAndIsRestoredToItsEarlierSize)
         frame.Maximize();
         ASSERT_TRUE(SettlesMaximized(frame));
     });
-    EXPECT_EQ(Stored(kKind, L"Maximized"), L"1");
-    EXPECT_EQ(Stored(kKind, L"w"), L"500");
+    EXPECT_EQ(StoredValue(kKind, L"Maximized"), L"1");
+    EXPECT_EQ(StoredValue(kKind, L"w"), L"500");
     // A run without a change still remembers the earlier size.
     InOneRun(true, [](wxFrame& frame) { ASSERT_TRUE(SettlesMaximized(frame)); });
     InOneRun(true, [](wxFrame& frame) {
@@ -102,8 +102,8 @@ TEST(PersistentFrame, ThatWasMaximizedComesBackSoAndIsRestoredToItsEarlierSize)
             << frame.GetPosition().x << ";" << frame.GetPosition().y << " " << frame.GetSize().x << "x"
             << frame.GetSize().y;
     });
-    EXPECT_EQ(Stored(kKind, L"Maximized"), L"0");
-    const wxPoint place(std::stoi(Stored(kKind, L"x")), std::stoi(Stored(kKind, L"y")));
+    EXPECT_EQ(StoredValue(kKind, L"Maximized"), L"0");
+    const wxPoint place(std::stoi(StoredValue(kKind, L"x")), std::stoi(StoredValue(kKind, L"y")));
     InOneRun(true, [&](wxFrame& frame) { EXPECT_TRUE(SettlesAt(frame, wxRect(place, wxSize(500, 340)))); });
 }
 
@@ -130,8 +130,8 @@ TEST(PersistentFrame, ThatIsClosedMaximizedBeforeAnotherIsRemembered)
         EXPECT_TRUE(PumpUntil([&] { return !frame.IsMaximized(); }, 3000));
     });
     DestroyNow(other);
-    EXPECT_EQ(Stored(kKind, L"Maximized"), L"1");
-    EXPECT_EQ(Stored(kKind, L"w"), L"400");
+    EXPECT_EQ(StoredValue(kKind, L"Maximized"), L"1");
+    EXPECT_EQ(StoredValue(kKind, L"w"), L"400");
 }
 
 // Nobody has followed the frame, so its earlier size is not known.
@@ -146,8 +146,8 @@ TEST(PersistentFrame, ThatIsMaximizedAndWasNotRestoredLeavesTheStoredPlace)
     frame->Maximize();
     ASSERT_TRUE(SettlesMaximized(*frame));
     DestroyNow(frame);
-    EXPECT_EQ(Stored(kKind, L"w"), L"300");
-    EXPECT_EQ(Stored(kKind, L"Maximized"), L"1");
+    EXPECT_EQ(StoredValue(kKind, L"w"), L"300");
+    EXPECT_EQ(StoredValue(kKind, L"Maximized"), L"1");
 }
 
 struct Restored
@@ -200,7 +200,7 @@ TEST_P(DamagedPlace, CountsAsNone)
     const TempPersistence data;
     for (const wchar_t* const text : {L"", L"12x", L"nan", L"99999999999999999999", L"1e3", L"\x1F600"}) {
         PlantPlace(L"100", L"100", L"300", L"200");
-        Plant(kKind, GetParam(), text);
+        StoreValue(kKind, GetParam(), text);
         wxFrame* const frame = NewFrame();
         EXPECT_FALSE(wxPersistentRegisterAndRestore(frame, "w")) << text;
         EXPECT_EQ(frame->GetRect(), wxRect(300, 200, 400, 300)) << text;
@@ -216,7 +216,7 @@ TEST(DamagedFlagsAndDecorations, ChangeNothing)
     for (const wchar_t* const key : {L"Maximized", L"Iconized", L"decor_l", L"decor_r", L"decor_t", L"decor_b"}) {
         for (const wchar_t* const text : {L"", L"x", L"-2147483649", L"9999999999"}) {
             PlantPlace(L"100", L"100", L"300", L"200");
-            Plant(kKind, key, text);
+            StoreValue(kKind, key, text);
             wxFrame* const frame = NewFrame();
             EXPECT_TRUE(wxPersistentRegisterAndRestore(frame, "w"));
             ASSERT_TRUE(ShowAndSettle(frame));
@@ -225,7 +225,7 @@ TEST(DamagedFlagsAndDecorations, ChangeNothing)
             DestroyNow(frame);
         }
     }
-    Plant(kKind, L"decor_t", L"30000");
+    StoreValue(kKind, L"decor_t", L"30000");
     wxFrame* const frame = NewFrame();
     EXPECT_TRUE(wxPersistentRegisterAndRestore(frame, "w"));
     ASSERT_TRUE(ShowAndSettle(frame));

@@ -82,7 +82,7 @@ TEST(PersistentTree, ExpandsAndSelectsByPath)
         frame.tree->Expand(Child(*frame.tree, root, 2));
         frame.tree->SelectItem(Child(*frame.tree, Child(*frame.tree, root, 2), 1));
     }
-    EXPECT_EQ(Stored(kKind, L"Items").find(L"0+"), 0u);
+    EXPECT_EQ(StoredValue(kKind, L"Items").find(L"0+"), 0u);
     TreeFrame frame;
     Fill(*frame.tree);
     EXPECT_TRUE(wxPersistentRegisterAndRestore(frame.tree, "w"));
@@ -110,7 +110,7 @@ TEST(PersistentTree, StoresReadableText)
         frame.tree->SelectItem(Child(*frame.tree, root, 2));
         ASSERT_TRUE(frame.Show());
     }
-    EXPECT_EQ(Stored(kKind, L"Items"), L"0+^:|1+:b\\|/\\\\|1*#2:a|");
+    EXPECT_EQ(StoredValue(kKind, L"Items"), L"0+^:|1+:b\\|/\\\\|1*#2:a|");
 }
 
 // The root cannot be expanded.
@@ -228,13 +228,13 @@ TEST(PersistentTree, IsFoundForTheLibrarysTrees)
     EXPECT_EQ(object->GetKind(), "Tree");
     frame->Destroy();
     PumpPending();
-    EXPECT_EQ(Stored(kKind, L"Items").substr(0, 1), L"0");
+    EXPECT_EQ(StoredValue(kKind, L"Items").substr(0, 1), L"0");
 }
 
 TEST(PersistentTree, LeavesOutWhatIsGoneAndDoesNotCollapse)
 {
     const TempPersistence data;
-    Plant(kKind, L"Items", L"0+:|1+:gone|2+*:twin|1+#3:a|2+:twin|1+#2:a|2*#2:twin|");
+    StoreValue(kKind, L"Items", L"0+:|1+:gone|2+*:twin|1+#3:a|2+:twin|1+#2:a|2*#2:twin|");
     TreeFrame frame;
     Fill(*frame.tree);
     const wxTreeItemId root = frame.tree->GetRootItem();
@@ -251,7 +251,7 @@ TEST(PersistentTree, BearsHandlersThatDeleteItems)
 {
     const TempPersistence data;
     for (int deleted = 0; deleted < 4; ++deleted) {
-        Plant(kKind, L"Items", L"0+:|1+*:a|2+*:twin|1+*:b\\|/\\\\|2+*:twin|2+*#2:twin|1+*#2:a|");
+        StoreValue(kKind, L"Items", L"0+:|1+*:a|2+*:twin|1+*:b\\|/\\\\|2+*:twin|2+*#2:twin|1+*#2:a|");
         TreeFrame frame(wxTR_MULTIPLE);
         Fill(*frame.tree);
         wxTreeCtrl& tree = *frame.tree;
@@ -283,7 +283,7 @@ class DamagedItems : public testing::TestWithParam<const wchar_t*>
 TEST_P(DamagedItems, CountAsNone)
 {
     const TempPersistence data;
-    Plant(kKind, L"Items", GetParam());
+    StoreValue(kKind, L"Items", GetParam());
     TreeFrame frame;
     Fill(*frame.tree);
     EXPECT_FALSE(wxPersistentRegisterAndRestore(frame.tree, "w"));
@@ -313,14 +313,14 @@ TEST(StoredItems, OfMegabytesAndDeepAreRestoredAtOnce)
         tooDeep += std::to_wstring(level) + L"+:same\\|/|";
     const std::wstring label = L"0+:|1+:" + std::wstring(8'000'000, L'x') + L"|";
     for (const std::wstring& text : {wide, tooDeep, label}) {
-        Plant(kKind, L"Items", text);
+        StoreValue(kKind, L"Items", text);
         TreeFrame frame;
         Fill(*frame.tree);
         EXPECT_LT(ProcessorSeconds([&] { wxPersistentRegisterAndRestore(frame.tree, "w"); }), 20);
         PumpPending();
     }
     // A tree without an end: each level is made when it is expanded.
-    Plant(kKind, L"Items", deep);
+    StoreValue(kKind, L"Items", deep);
     auto* const frame = new wxFrame(nullptr, wxID_ANY, "tree");
     auto* const tree = new LazyTree(frame);
     EXPECT_LT(ProcessorSeconds([&] { EXPECT_TRUE(wxPersistentRegisterAndRestore(tree, "w")); }), 60);
@@ -361,7 +361,7 @@ TEST(PersistentTree, OfManyItemsIsSavedAndRestoredInProportion)
 TEST(PersistentTree, ThatIsDeletedAtOnceLeavesTheStoredState)
 {
     const TempPersistence data;
-    Plant(kKind, L"Items", L"0+:|");
+    StoreValue(kKind, L"Items", L"0+:|");
     auto* const frame = new wxFrame(nullptr, wxID_ANY, "tree");
     auto* const tree = new wxTreeCtrl(frame);
     tree->AddRoot("root");
@@ -369,7 +369,7 @@ TEST(PersistentTree, ThatIsDeletedAtOnceLeavesTheStoredState)
     delete tree;
     frame->Destroy();
     PumpPending();
-    EXPECT_EQ(Stored(kKind, L"Items"), L"0+:|");
+    EXPECT_EQ(StoredValue(kKind, L"Items"), L"0+:|");
 }
 
 TEST(PersistentTree, WithoutItemsIsSavedAndRestored)

@@ -2,12 +2,12 @@
 #undef _FILE_OFFSET_BITS
 
 #include <tests/platform/store/failing_calls.h>
+#include <tests/support/replaced_function.h>
 
 #include <cerrno>
 #include <cstdarg>
 #include <cstdio>
 
-#include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -30,13 +30,6 @@ bool Fails(const char* name)
         g_failed = name;
     errno = g_fault->error;
     return true;
-}
-
-/// The C library's function, or a sanitizer's in its place.
-template <class Function>
-Function* Next(const char* name)
-{
-    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
 }
 
 }  // namespace
@@ -63,7 +56,7 @@ const std::string& FailingCalls::Failed()
 #define TAKE_PLACE(result, name, parameters, arguments)                                                                \
     extern "C" result name parameters                                                                                  \
     {                                                                                                                  \
-        static auto* const next = Next<result parameters>(#name);                                                      \
+        static auto* const next = ReplacedFunction<result parameters>(#name);                                          \
         return Fails(#name) ? -1 : next arguments;                                                                     \
     }
 
@@ -97,7 +90,7 @@ TAKE_PLACE(int, lstat64, (const char* path, struct stat64* info) noexcept, (path
 // It is closed all the same, as the system's is.
 extern "C" int close(int fd)
 {
-    static auto* const next = Next<int(int)>("close");
+    static auto* const next = ReplacedFunction<int(int)>("close");
     const int result = next(fd);
     return Fails("close") ? -1 : result;
 }
@@ -105,7 +98,7 @@ extern "C" int close(int fd)
 #define TAKE_PLACE_OF_OPEN(name)                                                                                       \
     extern "C" int name(const char* path, int flags, ...)                                                              \
     {                                                                                                                  \
-        static auto* const next = Next<int(const char*, int, ...)>(#name);                                             \
+        static auto* const next = ReplacedFunction<int(const char*, int, ...)>(#name);                                 \
         va_list rest;                                                                                                  \
         va_start(rest, flags);                                                                                         \
         const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(rest, mode_t) : 0;                                         \
@@ -119,7 +112,7 @@ TAKE_PLACE_OF_OPEN(open64)
 #define TAKE_PLACE_OF_FCNTL(name)                                                                                      \
     extern "C" int name(int fd, int command, ...)                                                                      \
     {                                                                                                                  \
-        static auto* const next = Next<int(int, int, ...)>(#name);                                                     \
+        static auto* const next = ReplacedFunction<int(int, int, ...)>(#name);                                         \
         va_list rest;                                                                                                  \
         va_start(rest, command);                                                                                       \
         void* const argument = va_arg(rest, void*);                                                                    \

@@ -31,7 +31,7 @@ protected:
     Names Sections() const { return CLocalRegStore::GetSectionNames(*m_file); }
     Names Keys(const wchar_t* section) const { return CLocalRegStore::GetKeyNames(*m_file, section); }
 
-    const std::unique_ptr<CIniFile, DestroyIniFile> m_file{CLocalRegStore::CreateInitFile(false)};
+    const fittings::OwnedIniFile m_file{CLocalRegStore::CreateInitFile(false)};
 };
 
 TEST_F(NamesOfAFile, StandInTheOrderOfTheFile)
@@ -97,7 +97,7 @@ TEST(DeletingAKeyOfAnIniFile, SaysWhetherItWasThere)
     const TempFolder folder;
     const std::wstring path = file_util_ex::ConvertFromUTF8W(folder / "a.ini");
     WriteFile(folder / "a.ini", "# mine\n[s]\na=1\n# of b\nb=2\n");
-    const std::unique_ptr<CIniFile, DestroyIniFile> file(CLocalRegStore::CreateInitFile(false));
+    const fittings::OwnedIniFile file(CLocalRegStore::CreateInitFile(false));
     EXPECT_TRUE(CLocalRegStore::Load(*file, path.c_str()));
     EXPECT_FALSE(CLocalRegStore::DeleteKey(*file, L"s", L"c"));
     EXPECT_FALSE(CLocalRegStore::DeleteKey(*file, L"t", L"a"));

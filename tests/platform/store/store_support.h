@@ -1,18 +1,13 @@
 #ifndef FITTINGS_TESTS_PLATFORM_STORE_STORE_SUPPORT_H_
 #define FITTINGS_TESTS_PLATFORM_STORE_STORE_SUPPORT_H_
 
-#include <memory>
 #include <string>
 
+#include <fittings/config/owned_ini_file.h>
 #include <fittings/platform/file_util_ex.h>
 #include <fittings/platform/local_reg_store.h>
 
-struct DestroyIniFile
-{
-    void operator()(CIniFile* ini) const { CLocalRegStore::DestroyIniFile(ini); }
-};
-
-/// One INI file object, released with its owner.
+/// One INI file object.
 class Ini
 {
 public:
@@ -40,10 +35,10 @@ public:
     }
 
 private:
-    std::unique_ptr<CIniFile, DestroyIniFile> m_file{CLocalRegStore::CreateInitFile(false)};
+    fittings::OwnedIniFile m_file{CLocalRegStore::CreateInitFile(false)};
 };
 
-/// The default store's value of a key.
+/// Returns the default store's value of a key, or "(none)".
 inline std::wstring Stored(const wchar_t* section, const wchar_t* key)
 {
     return CLocalRegStore::GetString(section, key, L"(none)");
