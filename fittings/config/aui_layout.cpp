@@ -15,20 +15,20 @@ constexpr std::wstring_view kStart = L"layout2|";
 constexpr std::size_t kLongest = 1'000'000;
 constexpr int kMostParts = 2000;
 
-// It searches every row of every layer for every dock, some times over, each time that it lays out.
+// For each layout the toolkit searches every row of every layer for every dock, several times.
 constexpr std::int64_t kMostSteps = 10'000'000;
 constexpr std::int64_t kMostRows = 10'000;
 
-// The same for what it takes for a number in a caption.
+// The same for text in a caption that the toolkit takes for a number.
 constexpr long kMostInText = 100;
 
-// Pixels: as many as there can be parts do not overflow when they are added up.
+// In pixels: the sum over all possible parts does not overflow.
 constexpr std::int64_t kFarthest = 1'000'000;
 
 constexpr std::int64_t kLastDirection = 5;                   // wxAUI_DOCK_CENTER
 constexpr std::int64_t kActionPane = std::int64_t{1} << 31;  // wxAuiPaneInfo::actionPane: the one that is being dragged
 
-/// Takes a text apart from its start. Once something is not as expected, nothing is any more.
+/// Parses a text from its start. After the first unexpected character, everything fails.
 class Scanner
 {
 public:
@@ -45,7 +45,7 @@ public:
             m_rest.remove_prefix(expected.size());
     }
 
-    /// Takes what stands before @a end, and @a end itself.
+    /// Takes the text before @a end, and @a end itself.
     std::wstring_view TakeUpTo(std::size_t end)
     {
         m_isOk = m_isOk && end < m_rest.size();
@@ -83,7 +83,7 @@ public:
         return TakeNumber(least, most);
     }
 
-    /// Where the pane ends that is next: its texts have a "\" before each "|".
+    /// Returns where the next pane ends: its texts have a "\" before each "|".
     std::size_t EndOfPane() const
     {
         std::size_t end = m_rest.find(L'|');
@@ -97,7 +97,7 @@ private:
     bool m_isOk = true;
 };
 
-/// What all panes and docks of a layout come to.
+/// Sums over all panes and docks of a layout.
 struct Sums
 {
     int panes = 0;
@@ -132,18 +132,17 @@ bool AreTexts(std::wstring_view texts)
             return false;
         separator = at;
     }
-    // A "\" at the end of the name stands before the separator, and is none of its own.
+    // A "\" at the end of the name belongs to the separator.
     if (separator == texts.npos)
         separator = texts.find(kCaption);
     return separator != texts.npos && texts.substr(0, 5) == L"name=" &&
            texts.substr(separator, kCaption.size()) == kCaption;
 }
 
-/// Whether the toolkit finds no number in the texts that it could not use.
+/// True when the texts hold nothing that the toolkit would take for a number that it cannot use.
 ///
-/// It does not read back the ";" of a text, but takes what follows for the next field: "a;row=99999999;" of a caption
-/// for a row, and the empty field after it for the end of the pane. "\b" is what it puts in the place of a ";"
-/// meanwhile.
+/// The toolkit does not read back the ";" of a text, but takes the rest for the next field: "a;row=99999999;" in a
+/// caption becomes a row, and the empty field after it the end of the pane. "\b" is its placeholder for a ";".
 bool AreReadAtOnce(std::wstring_view texts)
 {
     for (std::size_t at = texts.find_first_of(L";\b"); at != texts.npos; at = texts.find_first_of(L";\b", at + 1)) {
@@ -160,7 +159,7 @@ bool AreReadAtOnce(std::wstring_view texts)
 
 bool IsPane(std::wstring_view text, Sums& sums)
 {
-    // Numbers alone follow this one, so the last is it, whatever the caption says.
+    // Only numbers follow this field, so the last match is the field, whatever the caption holds.
     const std::size_t numbers = text.rfind(L";state=");
     if (numbers == text.npos)
         return false;
@@ -174,7 +173,7 @@ bool IsPane(std::wstring_view text, Sums& sums)
     const std::int64_t layer = scanner.TakeField(L";layer=", 0, kMostRows);
     const std::int64_t row = scanner.TakeField(L";row=", 0, kMostRows);
     scanner.TakeField(L";pos=", -kFarthest, kFarthest);
-    // Negative ones may add up to zero, which the toolkit divides by.
+    // Negative proportions may add up to zero, and the toolkit divides by the sum.
     sums.proportion += scanner.TakeField(L";prop=", 0, INT_MAX);
     for (const std::wstring_view name : {L";bestw=", L";besth=", L";minw=", L";minh=", L";maxw=", L";maxh=",
                                          L";floatx=", L";floaty=", L";floatw=", L";floath="})

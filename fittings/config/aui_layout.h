@@ -7,8 +7,8 @@ namespace fittings {
 
 /// Whether wxAuiManager::SavePerspective() can have written the text, and LoadPerspective() lays it out at once.
 ///
-/// False for a text that is cut, lacks a field, or has one that is no number as the toolkit writes it; and for one that
-/// is damaged so that the toolkit would count rows for minutes, or would divide by zero.
+/// False for a text that is cut, lacks a field or has a wrong number in one; and for a damaged text for which the
+/// toolkit would count rows for minutes, or divide by zero.
 ///
 /// A ";" in a caption is fine here, but LoadPerspective() asserts on it and cuts the caption.
 bool IsAuiLayout(std::wstring_view text);

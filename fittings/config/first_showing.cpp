@@ -37,7 +37,7 @@ void Delete(gpointer data)
     const std::unique_ptr<T> owned(static_cast<T*>(data));
 }
 
-// The toolkit counts the window as shown as soon as it is to be shown; to GTK it is hidden until then.
+// For the toolkit the window is shown as soon as Show() is called; for GTK it is hidden until it is mapped.
 gboolean ShowNow(gpointer data)
 {
     const Window& window = *static_cast<Window*>(data);
@@ -59,8 +59,8 @@ void FirstShowing::Watch(GtkWidget* widget)
     g_signal_connect(widget, "event-after", G_CALLBACK(&AfterEvent), this);
 }
 
-// The toolkit does this as it asks for the decorations. It must not be disturbed in it, so the window is shown right
-// after, before any answer is looked at.
+// The toolkit calls this while it asks for the decorations. Do not disturb it: show the window right after that, before
+// any answer is read.
 void FirstShowing::OnRealize(GtkWidget* /*widget*/, FirstShowing* showing)
 {
     if (showing->m_window)
@@ -75,9 +75,8 @@ gboolean FirstShowing::OnEvent(GtkWidget* /*widget*/, GdkEvent* event, FirstShow
     return FALSE;
 }
 
-// A window manager may first tell the decorations of windows in general, and then those of this one. The toolkit takes
-// the first off the window's size; at the second it keeps what is left, and the window would be larger or smaller than
-// it was to be.
+// A window manager may first announce the decorations of windows in general, and then those of this one. The toolkit
+// subtracts only the first from the window's size, so the window would get a wrong size.
 void FirstShowing::AfterEvent(GtkWidget* widget, GdkEvent* event, FirstShowing* showing)
 {
     const Window& window = showing->m_window;

@@ -12,7 +12,7 @@
 
 namespace {
 
-// What the toolkit calls the fields of a frame or dialog.
+// The toolkit's names for the fields of a frame or dialog.
 constexpr char kX[] = "x";
 constexpr char kY[] = "y";
 constexpr char kWidth[] = "w";
@@ -46,8 +46,8 @@ const int* Field(const wxRect& rect, const wxString& name)
     return name == kHeight ? &rect.height : nullptr;
 }
 
-/// Whether a number can be a value of an object. The toolkit asserts that it is an int, and makes places and sizes of
-/// some that no window can have.
+/// True when a number can be a value of an object. The toolkit asserts on numbers that are not an int, and uses places
+/// and sizes that no window can have.
 bool IsPossible(long number, const wxPersistentObject& who)
 {
     if (dynamic_cast<const wxPersistentSplitter*>(&who) || dynamic_cast<const wxPersistentDataViewCtrl*>(&who))
@@ -57,7 +57,7 @@ bool IsPossible(long number, const wxPersistentObject& who)
 
 }  // namespace
 
-/// The windows whose values are kept, and the save that is due.
+/// The windows whose values are collected, and the pending save.
 class wxStorePersistenceManager::Windows
 {
 public:
@@ -77,7 +77,7 @@ public:
         return *record;
     }
 
-    /// Has the values that will be stored for the window saved with those of all of its top-level window.
+    /// Saves the values of the window together with all others of its top-level window.
     void Keep(const wxPersistentObject& who)
     {
         wxWindow* const window = WindowOf(who);
@@ -91,11 +91,11 @@ public:
         return found == m_records.end() ? nullptr : found->second.lock().get();
     }
 
-    /// Lets the values that are being stored be saved, at the latest on the next turn of the event loop; and when the
-    /// program ends before, together with the window.
+    /// Schedules a save of the values that are being stored: on the next turn of the event loop at the latest, or with
+    /// the window when the program ends before that.
     void SaveSoon(const wxPersistentObject& who)
     {
-        // The outermost, as it is not known how much of a window that is going is left.
+        // Use the outermost one: a window that is being destroyed may be partly gone.
         wxWindow* outermost = WindowOf(who);
         for (wxWindow* window = outermost; window; window = window->GetParent()) {
             outermost = window;
@@ -125,7 +125,7 @@ wxStorePersistenceManager::~wxStorePersistenceManager() = default;
 
 wxStorePersistenceManager& wxStorePersistenceManager::Install()
 {
-    // Windows and managers may go after the objects that are destroyed at the end of a program.
+    // Never destroyed: windows and managers may live longer than objects that are destroyed at the end of the program.
     static auto* const manager = new wxStorePersistenceManager;
     Set(*manager);
     return *manager;
@@ -140,7 +140,7 @@ wxConfigBase* wxStorePersistenceManager::GetConfig() const
 {
     if (!m_config) {
         m_config = std::make_unique<wxStoreConfig>();
-        // A "$" in the label of a tree's item stands for itself.
+        // A "$" in the label of a tree's item is not a variable.
         m_config->SetExpandEnvVars(false);
     }
     return m_config.get();
@@ -160,7 +160,7 @@ bool wxStorePersistenceManager::SaveValue(const wxPersistentObject& who, const w
         if (name == kMaximized)
             value = record.IsMaximized(*window);
         if (Field(wxRect(), name) && record.IsOutOfItsPlace(*window)) {
-            // Where its own place is not known, what was stored before stays.
+            // When the normal place is not known, the stored one stays.
             if (!record.NormalRect())
                 return true;
             value = *Field(*record.NormalRect(), name);
@@ -183,7 +183,7 @@ bool wxStorePersistenceManager::SaveValue(const wxPersistentObject& who, const w
 
 bool wxStorePersistenceManager::RestoreValue(const wxPersistentObject& who, const wxString& name, bool* value)
 {
-    // The toolkit takes any number but zero and one for an error that the user is to be told of.
+    // The toolkit reports any number other than zero and one to the user as an error.
     long number = 0;
     if (!RestoreValue(who, name, &number) || (number != 0 && number != 1))
         return false;
@@ -199,7 +199,7 @@ bool wxStorePersistenceManager::RestoreValue(const wxPersistentObject& who, cons
             *value = window->GetPosition().x;
             return isRestored;
         }
-        // All of the place is restored by then, and the toolkit is to change nothing of it.
+        // The whole place is restored here; the toolkit must not change it.
         if (name == kY) {
             *value = window->GetPosition().y;
             return true;

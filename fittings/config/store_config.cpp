@@ -24,7 +24,8 @@ namespace {
 
 constexpr wchar_t kSeparator = wxCONFIG_PATH_SEPARATOR;
 
-// Where it is noted that another configuration was taken over: no path of groups, so that no enumeration meets it.
+// The section that records that another configuration was taken over. It is not a path of groups, so that no
+// enumeration finds it.
 constexpr const wchar_t* kImportSection = L"wxStoreConfig/";
 constexpr const wchar_t* kImportKey = L"Imported";
 
@@ -61,7 +62,7 @@ wxString ShownPath(const StorePath& path)
     return path.empty() ? wxString() : wxString(kSeparator + fittings::SectionOf(path));
 }
 
-// A text of the toolkit's as one of the standard library's, for as long as the toolkit's lives.
+// Views a text of the toolkit as a standard one, as long as the toolkit's text lives.
 class TextView
 {
 public:
@@ -74,7 +75,7 @@ private:
     const std::wstring_view m_view;
 };
 
-// Where an entry is: what stands before the last separator, and that too, leads to its group.
+// The place of an entry: everything up to the last separator leads to its group.
 struct EntryPath
 {
     std::wstring_view group;
@@ -98,7 +99,7 @@ const fittings::StoreEntry* FindEntry(StoreModel& model, const wxString& path)
     return group ? group->entries.Find(entry.name) : nullptr;
 }
 
-// Returns whether the model has that value already, in the case that nobody else has changed it.
+// True when the model has that value already, provided that nobody else has changed it.
 bool HasText(StoreModel& model, const EntryPath& entry, std::wstring_view text)
 {
     StoreGroup* const group = model.Find(entry.group);
@@ -139,7 +140,7 @@ std::size_t CountGroups(const StoreGroup& group)
     return count;
 }
 
-// Reads the texts of another configuration as they stand, and leaves its path and options as they were.
+// Reads the texts of another configuration without expansion, and restores its path and options.
 class Importer
 {
 public:
@@ -292,7 +293,7 @@ bool wxStoreConfig::DoReadString(const wxString& path, wxString* value) const
 bool wxStoreConfig::DoReadLong(const wxString& path, long* value) const
 {
     wxString text;
-    // Blanks at the end do not keep a number from being read.
+    // Trailing blanks are allowed after a number.
     return Read(path, &text) && text.Trim().ToLong(value);
 }
 
@@ -313,7 +314,7 @@ bool wxStoreConfig::DoWriteString(const wxString& path, const wxString& value)
     const EntryPath entry(pathText);
     if (!CanBeStored(pathText) || !CanBeStored(text))
         return false;
-    // What the store holds now matters only where there may be nothing to change.
+    // Refresh only when there may be nothing to change.
     if (!m_model->IsLoaded() || HasText(*m_model, entry, text))
         m_model->Refresh();
     StoreGroup* group = m_model->Find(entry.group);
@@ -327,7 +328,7 @@ bool wxStoreConfig::DoWriteString(const wxString& path, const wxString& value)
         m_model->Set(*group, entry.name, text);
         return true;
     }
-    // An empty text for a group makes it, as wxFileConfig has it.
+    // Writing an empty text to a group makes the group, as in wxFileConfig.
     wxCHECK_MSG(value.empty(), false, "a group has no value");
     if (group->parent)
         m_model->AddSection(*group);

@@ -64,7 +64,7 @@ void StoreModel::Rebuild()
         for (CLocalRegStore::Entry& entry : CLocalRegStore::GetEntries(*m_ini, section.c_str()))
             group.entries.Add(entry.key, {std::move(entry.value)});
     }
-    // The keys before the first section are the root's, too.
+    // The keys before the first section belong to the root, too.
     if (!m_root->isSection) {
         for (CLocalRegStore::Entry& entry : CLocalRegStore::GetEntries(*m_ini, L""))
             m_root->entries.Add(entry.key, {std::move(entry.value)});
@@ -283,7 +283,7 @@ bool StoreModel::Save()
         return false;
     if (!m_hasChanges)
         return true;
-    // What the file held before may stand there again when it is read next.
+    // The next time the file is read, it may hold the earlier values again.
     m_ini.reset(CLocalRegStore::CreateInitFile(false));
     ForgetChanges(*m_root);
     m_removed.clear();

@@ -26,7 +26,7 @@ public:
     StoreModel(const StoreModel&) = delete;
     StoreModel& operator=(const StoreModel&) = delete;
 
-    /// Brings in what others have stored. References to groups are good until the next call.
+    /// Loads the changes of others. References to groups are valid until the next call.
     void Refresh();
 
     /// False before the first Refresh().
@@ -34,16 +34,17 @@ public:
 
     StoreGroup& Root() { return *m_root; }
 
-    /// @name The current group, which is there whatever others remove
+    /// @name The current group, which exists even when others have removed it
     /// @{
     const StorePath& CurrentPath() const { return m_currentPath; }
     StoreGroup& Current() { return *m_current; }
 
-    /// Makes the group where it is missing. The store gets it with its first entry.
+    /// Makes the group when it is missing. It is stored with its first entry.
     void SetCurrent(const StorePath& path);
     /// @}
 
-    /// The group that a path leads to, from the current one on, or null. Quick for the same path again.
+    /// Returns the group that a path from the current group leads to, or null. Fast when the path is the same as
+    /// before.
     StoreGroup* Find(std::wstring_view path);
 
     /// @name Changes, collected for Save()
@@ -51,28 +52,28 @@ public:
     void Set(StoreGroup& group, std::wstring_view name, std::wstring_view value);
     void Remove(StoreGroup& group, std::wstring_view name);
 
-    /// Stores the group though it may have no entries.
+    /// Stores the group even if it has no entries.
     void AddSection(StoreGroup& group);
 
-    /// Stores the group without entries no more, unless it is there for the groups in it.
+    /// No longer stores the group when it is empty.
     void DropSection(StoreGroup& group);
 
-    /// Removes a group with all that it holds. When the current group is gone by that, the nearest one above is
+    /// Removes a group with its contents. When that removes the current group, the nearest one above it becomes
     /// current.
     void RemoveGroup(StoreGroup& group);
 
-    /// Moves all that the group holds into a new group beside it.
+    /// Moves the contents of the group into a new sibling group.
     void RenameGroup(StoreGroup& group, const std::wstring& newName);
 
-    /// Removes all that the store holds, sections that are no groups included.
+    /// Removes everything from the store, also sections that are not groups.
     void RemoveAll();
 
-    /// A setting whose section is no group.
+    /// A setting whose section is not a group.
     std::wstring HiddenText(const std::wstring& section, const std::wstring& key) const;
     void SetHidden(const std::wstring& section, const std::wstring& key, const std::wstring& value);
     /// @}
 
-    /// False when it could not be saved. It is then collected still.
+    /// Returns false when saving failed; the changes are then kept for the next call.
     bool Save();
 
 private:
@@ -86,18 +87,18 @@ private:
     static void ForgetChanges(StoreGroup& group);
 
     const std::optional<std::wstring> m_file;
-    OwnedIniFile m_ini;  ///< What the store held, and changes that were made by then.
+    OwnedIniFile m_ini;  ///< The store as it was loaded, with the changes at that time.
     bool m_isLoaded = false;
     std::unique_ptr<StoreGroup> m_root;
 
     StorePath m_currentPath;
     StoreGroup* m_current = nullptr;
-    std::set<StorePath> m_made;  ///< By SetCurrent().
+    std::set<StorePath> m_made;  ///< Groups made by SetCurrent().
 
     std::wstring m_lastPath;
-    StoreGroup* m_lastFound = nullptr;  ///< By Find(); null when that may lead elsewhere now.
+    StoreGroup* m_lastFound = nullptr;  ///< The last result of Find(); null when it may be out of date.
 
-    /// @name Changes, but for those that the groups and entries know of
+    /// @name Changes that the groups and entries do not record
     /// @{
     bool m_hasChanges = false;
     std::map<std::wstring, std::set<std::wstring>> m_removed;  ///< Keys by their sections.

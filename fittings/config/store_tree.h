@@ -14,7 +14,8 @@
 
 namespace fittings {
 
-/// Values by name, in the order in which they were added. Places stay what they are when items come and go.
+/// Values by name, in the order in which they were added. The place of an item does not change when others are added or
+/// removed.
 template <typename Value>
 class NamedList
 {
@@ -55,7 +56,7 @@ public:
             m_items.pop_front();
     }
 
-    /// Returns the first item at @a place or behind, or null, and moves the place behind it.
+    /// Returns the first item at or after @a place, or null, and moves the place past it.
     const Item* Next(long& place) const { return NextOf(*this, place); }
     Item* Next(long& place) { return NextOf(*this, place); }
 
@@ -83,7 +84,7 @@ private:
 struct StoreEntry
 {
     std::wstring text;
-    bool isChanged = false;  ///< It was not saved yet.
+    bool isChanged = false;  ///< It is not saved yet.
 };
 
 /// A group of entries and groups.
@@ -99,7 +100,7 @@ struct StoreGroup
     StoreGroup* const parent;  ///< Null for the root.
     const std::wstring name;
     bool isSection = false;  ///< The store has the section, or will have it.
-    bool isMade = false;     ///< It will have it though there may be no entries.
+    bool isMade = false;     ///< The store will have it even without entries.
     NamedList<StoreEntry> entries;
     NamedList<std::unique_ptr<StoreGroup>> groups;
 };
@@ -107,17 +108,17 @@ struct StoreGroup
 /// A group's names, from the root on.
 using StorePath = std::vector<std::wstring>;
 
-/// Groups may be so deep in each other, and no deeper.
+/// The greatest depth of nested groups.
 inline constexpr std::size_t kMaxStoreDepth = 100;
 
 /// The section that has the entries of the group at @a path.
 std::wstring SectionOf(const StorePath& path);
 
-/// The reverse; none when the name is no path of groups.
+/// Returns the path of the group for a section; none when its name is not a path of groups.
 std::optional<StorePath> PathOfSection(std::wstring_view section);
 
-/// Follows @a text as the toolkit does, from the root or, where it does not begin with the separator, from @a current:
-/// empty steps and "." lead nowhere, ".." up.
+/// Resolves @a text as the toolkit does, from the root when it begins with the separator, else from @a current. Empty
+/// steps and "." stay, ".." goes up.
 StorePath FollowedPath(const StorePath& current, std::wstring_view text);
 
 /// Null when there is no such group.

@@ -19,7 +19,7 @@ OwnedIniFile NewIniFile()
     return OwnedIniFile(CLocalRegStore::CreateInitFile(false));
 }
 
-/// Returns the path of a settings file, in a folder that exists from now on where it can be made.
+/// Returns the path of a settings file. Makes its folder if possible.
 std::wstring SettingsPath(const wchar_t* file)
 {
     const std::wstring folder = file_util_ex::MakePath(std_file_paths::GetUserDataDir(), L"ui_config");
@@ -35,7 +35,7 @@ void ui_config_mgr::WriteConfigString(const wchar_t* file, const wchar_t* sectio
 {
     const std::wstring path = SettingsPath(file);
     const OwnedIniFile ini = NewIniFile();
-    // A file that is not there yet starts empty; saving creates it.
+    // A missing file counts as empty; saving creates it.
     CLocalRegStore::Load(*ini, path.c_str());
     CLocalRegStore::WriteString(*ini, OrEmpty(section), OrEmpty(key), OrEmpty(value));
     CLocalRegStore::Save(*ini, path.c_str());
@@ -55,7 +55,7 @@ void ui_config_mgr::DeleteConfig(const wchar_t* file, const wchar_t* section, co
     const std::wstring path = SettingsPath(file);
     const OwnedIniFile ini = NewIniFile();
     CLocalRegStore::Load(*ini, path.c_str());
-    // Callers rely on this: the key goes from the default store, and the file keeps its own.
+    // Callers rely on this: it removes the key from the default store, not from the file.
     CLocalRegStore::DeleteProfile(OrEmpty(section), OrEmpty(key));
     CLocalRegStore::Save(*ini, path.c_str());
 }

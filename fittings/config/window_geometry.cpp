@@ -12,14 +12,14 @@ namespace {
 /// Stored sizes up to this one, in either direction, are not applied.
 constexpr int kTooSmall = 10;
 
-/// Coordinates and sizes on an X display are 16 bits wide. Larger numbers mean nothing to it, and would overflow when
-/// they are added up.
+/// Coordinates and sizes on an X display are 16 bits wide. Larger numbers have no meaning there, and sums of them could
+/// overflow.
 constexpr long kFarthest = 32767;
 
 /// Returns the window's rectangle on the screen.
 ///
-/// Inside a top-level window that is not shown yet the toolkit cannot tell, and logs so. The sum of the positions
-/// leaves out no more than the decorations.
+/// Inside a top-level window that is not shown yet, the toolkit cannot find out, and logs an error. The sum of the
+/// positions lacks only the decorations.
 wxRect ScreenRect(wxWindow& window)
 {
     if (wxGetTopLevelParent(&window)->IsShown())
@@ -32,8 +32,8 @@ wxRect ScreenRect(wxWindow& window)
 
 /// Returns the display that shows most of the window, as wxDisplay::GetFromWindow() is meant to.
 ///
-/// The toolkit's own function knows of a window that is not created that it is on none. But it names some display even
-/// for one that is far off all of them, and goes by where a hidden window was before it was moved.
+/// The toolkit's own function is right for a window that is not created. But it names a display even for a window that
+/// is far off all of them, and uses the earlier place of a hidden window that was moved.
 int DisplayOf(wxWindow& window)
 {
     if (wxDisplay::GetFromWindow(&window) == wxNOT_FOUND)
@@ -52,8 +52,9 @@ int DisplayOf(wxWindow& window)
     return best;
 }
 
-/// Returns the part of @a rect that lies in @a area. A rectangle that lies wholly beside it, under a panel for one, is
-/// moved into it instead: nothing would be left of the window.
+/// Returns the part of @a rect that lies in @a area. A rectangle wholly outside, for example under a panel, is moved
+/// into
+/// @a area instead.
 wxRect FitInto(const wxRect& area, const wxRect& rect)
 {
     const wxRect common = area.Intersect(rect);
@@ -65,7 +66,7 @@ wxRect FitInto(const wxRect& area, const wxRect& rect)
                   size);
 }
 
-/// Brings a window into the work area of the display it is on; false when it can be brought onto no display.
+/// Brings a window into the work area of its display; returns false when it stays off every display.
 bool BringOntoDisplay(wxWindow& window)
 {
     if (DisplayOf(window) == wxNOT_FOUND)
@@ -76,7 +77,7 @@ bool BringOntoDisplay(wxWindow& window)
 
     const wxRect area = wxDisplay(static_cast<unsigned>(display)).GetClientArea();
     wxRect rect(window.GetPosition(), window.GetSize());
-    // No position yet: the window manager will choose one, and a window that fits is left to it.
+    // The window has no position yet. When it fits, leave its place to the window manager.
     if (rect.GetPosition() == wxDefaultPosition)
         rect.SetPosition(area.GetPosition());
     if (!area.Contains(rect))
@@ -95,7 +96,7 @@ bool fittings::RestoreGeometry(wxWindow& window, const wxRect& stored)
 {
     if (stored.width > kTooSmall && stored.height > kTooSmall) {
         window.SetSize(stored, wxSIZE_ALLOW_MINUS_ONE);
-        // A window that had to grow or shrink may have moved with it.
+        // A change of its size may have moved the window.
         window.SetSize(stored.x, stored.y, -1, -1, wxSIZE_USE_EXISTING);
         if (auto* const topLevel = dynamic_cast<wxTopLevelWindow*>(&window))
             KeepPlace(*topLevel);

@@ -5,20 +5,20 @@
 
 class wxWindow;
 
-// How a window comes back to a stored geometry, whoever has stored it. Private to the library.
+// Restores the stored geometry of a window. Private to the library.
 
 namespace fittings {
 
 /// Returns a stored coordinate or size as the nearest one that an X display can have.
 int ToPixels(long stored);
 
-/// Gives a window a geometry and brings it into the work area of the display that shows most of it; from off every
-/// display it comes to the first. A geometry with a width or height of 10 or less is not given to it.
+/// Sets a window's geometry and moves the window into the work area of the display that shows most of it; from off
+/// every display it moves to the first one. A geometry with a width or height of 10 or less is not set.
 ///
-/// Returns false, and leaves the window at (0, 0), when it is on no display even there.
+/// Returns false when the window is on no display even at (0, 0), and leaves it there.
 bool RestoreGeometry(wxWindow& window, const wxRect& stored);
 
-/// Whether a rectangle covers the whole work area of a display, as that of a maximised window does.
+/// True when a rectangle covers the whole work area of a display, as that of a maximised window does.
 bool CoversWorkArea(const wxRect& rect);
 
 }  // namespace fittings

@@ -23,11 +23,11 @@ constexpr wchar_t kMaximizedSection[] = L"wxWindowMaximize";
 constexpr wchar_t kLayoutFile[] = L"wxAuiManagerState.ini";
 constexpr wchar_t kLayoutSection[] = L"wxAuiManagerState";
 
-/// Beside a reference narrower than this, half of the window sticks out.
+/// Next to a reference narrower than this, half of the window extends past the corner.
 constexpr int kWideReference = 800;
 
-/// Reads "x;y;width;height" as scanf's "%d;%d;%d;%d" does, blanks before a number and anything after the last one
-/// included; but a number that is out of range becomes the nearest one in range, where scanf's result is undefined.
+/// Reads "x;y;width;height" as scanf's "%d;%d;%d;%d" does: blanks before a number and any text after the last one are
+/// allowed. A number out of range, for which scanf's result is undefined, becomes the nearest one in range.
 std::optional<wxRect> ParseGeometry(const std::wstring& text)
 {
     int fields[4];
@@ -44,8 +44,8 @@ std::optional<wxRect> ParseGeometry(const std::wstring& text)
     return wxRect(fields[0], fields[1], fields[2], fields[3]);
 }
 
-/// Maximises one frame when the event that was posted for it arrives, and is gone then. One whose frame is destroyed
-/// first stays behind: nobody owns it.
+/// Maximises one frame when the event posted for it arrives, and then destroys itself. When the frame is destroyed
+/// first, the handler is never destroyed: nobody owns it.
 class wxMaximizeEvtHandler : public wxEvtHandler
 {
 public:
@@ -64,7 +64,7 @@ private:
         auto* frame = dynamic_cast<wxFrame*>(event.GetEventObject());
         if (!frame)
             return;
-        // Before maximising, so that the toolkit's own event about it does not come here.
+        // Unbind before maximising: the toolkit's own maximise event must not arrive here.
         frame->Unbind(wxEVT_MAXIMIZE, &wxMaximizeEvtHandler::OnMaximize, this, frame->GetId(), wxID_ANY);
         frame->Maximize(true);
         delete this;

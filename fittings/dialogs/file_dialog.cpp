@@ -54,8 +54,8 @@ bool CanBeShown(const wxFileName& folder)
     return folder.DirExists() && folder.IsDirReadable();
 }
 
-// From a folder that is gone, GTK's dialog goes up by itself. Given a file, or what it may not read, it shows an error
-// or nothing at all, and nothing can be chosen.
+// GTK's dialog goes up from a missing folder by itself. Given a file, or a folder that it may not read, it shows an
+// error or nothing, and nothing can be chosen.
 void LeaveWhatCannotBeShown(wxFileDialog& dialog, const wxString& start)
 {
     if (!CanBeShown(wxFileName::DirName(start)) && !IsGone(start))
@@ -97,7 +97,7 @@ CStdStr<wchar_t> CQVFileDialogI::LaunchSaveDialog(wxWindow* parent, const wchar_
     wxString folder = *initialFolder ? initialFolder : fittings::LoadLastPath(g_regEntry.c_str());
     wxString fileName = fittings::OrEmpty(initialFileName);
     if (!folder.empty()) {
-        // A folder without a separator at its end loses its last part to the file name, a caller's folder as well.
+        // The toolkit takes the last part of a folder without a separator at its end for the file name.
         wxFileName path;
         path.Assign(folder, wxPATH_NATIVE);
         if (fileName.empty())
@@ -123,7 +123,7 @@ CStdStr<wchar_t> LaunchOpenDialog(wxWindow* parent, const wchar_t* defaultExtens
 {
     wxCHECK_MSG(folderSwitch, CStdStr<wchar_t>(), "the folder switch is null");
     const std::wstring folder = *folderSwitch ? LoadLastPath(g_regEntry.c_str()) : std::wstring();
-    // The remembered path is a file's, and stays whole: the dialog starts in the folder that holds it.
+    // The remembered path is that of a file, and is passed on whole: the dialog starts in the file's folder.
     const wxString chosen = FileSelector(title, folder.c_str(), L"", defaultExtension, wildcard,
                                          wxFD_OPEN | wxFD_FILE_MUST_EXIST, parent, wxDefaultCoord, wxDefaultCoord);
     SaveLastPath(chosen.wc_str(), g_regEntry.c_str());
@@ -172,7 +172,7 @@ void SaveLastPath(const wchar_t* path, const char* entry)
 {
     if (!*entry || !*path)
         return;
-    // The platform may want to know of it; what is stored is the path as it was chosen.
+    // The call is for the platform's sake; the path is stored as it was chosen.
     file_util_ex::RemoveBackSlash(path);
     CLocalRegStore::WriteString(kLastFilesSection, entry, file_util_ex::ConvertToUTF8(path).c_str());
 }

@@ -18,7 +18,7 @@ namespace {
 
 constexpr wchar_t kLastFiltersSection[] = L"LastFilters";
 
-// The folder remembered, or the nearest above it; the user's documents for what names no folder.
+// Returns the remembered folder, or the nearest one above it; the user's documents when no folder is remembered.
 wxString StartFolder(const wxString& remembered)
 {
     if (remembered.StartsWith("/"))
@@ -37,7 +37,7 @@ wxArrayString PatternsOf(const wxString& wildcard)
     return patterns;
 }
 
-// Whether GTK's dialog shows the name with a filter such as "*.csv;*.tsv".
+// True when GTK's dialog shows the name with a filter such as "*.csv;*.tsv".
 bool Shows(const wxString& filter, const wxString& name)
 {
     for (const wxString& pattern : wxSplit(filter, ';', '\0')) {
@@ -95,14 +95,14 @@ bool wxRememberingFileDialog::Create(wxWindow* parent, const wxString& entry, co
     wxString name = FileName(defaultName.empty() ? last : defaultName);
     const wxArrayString filters = PatternsOf(GetWildcard());
     const int filter = FilterFor(filters, CLocalRegStore::GetString(kLastFiltersSection, entry.wc_str(), L""), name);
-    // Given to the dialog from the start, a name would get the first filter's extension, a remembered one too.
+    // A name that is set when the dialog is made would get the extension of the first filter.
     const wxString& pattern = filters[static_cast<std::size_t>(filter)];
     if (!defaultName.empty() && !name.empty())
         name = AppendExtension(name, pattern);
-    // Told to select a file that the filter hides, GTK's dialog drops the filter.
+    // GTK's dialog drops the filter when it is told to select a file that the filter hides.
     if (HasFlag(wxFD_SAVE) ? !name.empty() : Shows(pattern, name) && wxFileExists(folder + "/" + name))
         SetFilename(name);
-    // Only now: a name to open has the toolkit choose a filter.
+    // Set the filter after the name: the toolkit chooses a filter for a name to open.
     SetFilterIndex(filter);
     return true;
 }
@@ -118,7 +118,7 @@ int wxRememberingFileDialog::ShowModal()
     const std::string key = file_util_ex::ConvertToUTF8(m_entry.ToStdWstring());
     fittings::SaveLastPath(path.wc_str(), key.c_str());
     const wxArrayString filters = PatternsOf(GetWildcard());
-    // GTK's dialog has none after it was told to select a file that its filter hides.
+    // GTK's dialog has no filter after it was told to select a file that the filter hides.
     if (filters.size() > 1 && gtk_file_chooser_get_filter(GTK_FILE_CHOOSER(GetHandle()))) {
         const wxString& filter = filters[static_cast<std::size_t>(GetFilterIndex())];
         CLocalRegStore::WriteString(kLastFiltersSection, m_entry.wc_str(), filter.wc_str());

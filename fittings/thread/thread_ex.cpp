@@ -10,7 +10,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-// How long a wait may keep windows from being painted.
+// The longest time that a wait keeps windows from being painted.
 constexpr std::chrono::milliseconds kPaintInterval(20);
 
 void PaintWindows()
@@ -25,20 +25,20 @@ const auto kNoExitCode = reinterpret_cast<wxThread::ExitCode>(std::intptr_t{-1})
 
 }  // namespace
 
-// The toolkit's thread behind a wxThreadEx. Detached whatever the owner is, so that the toolkit deletes it.
+// The toolkit's thread behind a wxThreadEx. Always detached, so that the toolkit deletes it.
 class wxThreadExImpl : public wxThread
 {
 public:
     explicit wxThreadExImpl(wxThreadEx* owner) : wxThread(wxTHREAD_DETACHED), m_owner(owner) {}
 
 private:
-    // Tells the owner that its thread is over, also when an exception ended it: Wait() must not hang.
+    // Tells the owner that the thread is over, also after an exception: Wait() must not hang.
     struct End
     {
         explicit End(wxThreadEx* threadOwner) : owner(threadOwner) {}
         ~End()
         {
-            // Signalled under the lock: once that is free, the owner may destroy the condition and the mutex.
+            // Signal under the lock: once it is free, the owner may destroy the condition and the mutex.
             const wxMutexLocker lock(owner->m_mutex);
             owner->m_exitCode = exitCode;
             owner->m_finished = true;
@@ -55,8 +55,8 @@ private:
 
     ExitCode Entry() override
     {
-        // Thread-local, and so destroyed after the toolkit has done its last for the thread: a program that ends right
-        // after Wait() would otherwise pull the toolkit away from under a thread that still leaves it, and crash.
+        // Thread-local, so that it is destroyed after the toolkit's last use of the thread. Otherwise a program that
+        // ends right after Wait() would shut down the toolkit while the thread still uses it, and crash.
         static thread_local End end(m_owner);
         end.exitCode = m_owner->Entry();
         return nullptr;
@@ -67,7 +67,7 @@ private:
 
 wxThreadEx::wxThreadEx(wxThreadKind kind) : m_detached(kind == wxTHREAD_DETACHED), m_impl(new wxThreadExImpl(this)) {}
 
-// The implementation is the toolkit's to delete, at the end of its thread.
+// The toolkit deletes the implementation at the end of its thread.
 wxThreadEx::~wxThreadEx()
 {
     if (!m_detached)
@@ -76,8 +76,8 @@ wxThreadEx::~wxThreadEx()
 
 wxThreadError wxThreadEx::Create(unsigned int WXUNUSED(stackSize))
 {
-    // Once it runs, the implementation may be gone. Before, the toolkit would make a second thread for it, which
-    // outlives it.
+    // Once the thread runs, the implementation may be gone. Before that, the toolkit would make a second thread for it,
+    // which would outlive it.
     if (m_running || m_impl->GetId() != 0)
         return wxTHREAD_RUNNING;
     return m_impl->Create(0);
@@ -97,7 +97,7 @@ wxThread::ExitCode wxThreadEx::Wait()
     if (m_detached || !m_running)
         return kNoExitCode;
     const wxMutexLocker lock(m_mutex);
-    // A condition may wake up without having been signalled.
+    // A condition may wake up without a signal.
     while (!m_finished)
         m_condition.Wait();
     return m_exitCode;

@@ -13,10 +13,10 @@ namespace {
 
 constexpr wchar_t kStateSection[] = L"TreeControlState";
 
-/// Lower than any text: the toolkit raises it to the highest item that it measures.
+/// Lower than any text: the toolkit raises the row height to that of the highest item that it measures.
 constexpr int kLeastRowHeight = 10;
 
-// For the whole application, not only for this control: filling may take a while, and nothing else answers meanwhile.
+// For the whole application, not only for this control: nothing else answers while a tree is filled.
 class BusyCursor
 {
 public:
@@ -63,8 +63,7 @@ void wxHandyTreeCtrl::CreateImageList()
     SetImageList(m_imageList);
 }
 
-// The toolkit keeps the height that the rows had with the images. It measures the items anew, and the rows become as
-// high as the highest of them.
+// The toolkit would keep the row height that the images needed. Make it measure the items again.
 void wxHandyTreeCtrl::SetImageList(wxImageList* images)
 {
     wxTreeCtrlEx::SetImageList(images);

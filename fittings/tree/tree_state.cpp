@@ -21,12 +21,12 @@ std::wstring_view View(const wxString& text)
     return std::wstring_view(text.wc_str(), text.length());
 }
 
-// A place among the children of an item. Unlike GetNextSibling(), which searches for the item that it is given, a step
-// takes the same time wherever it is made.
+// A place among the children of an item. A step takes constant time, unlike GetNextSibling(), which searches for its
+// item.
 class Place
 {
 public:
-    // Returns the child that stands here, null after the last one, and moves on to the next place.
+    // Returns the child at this place, or null after the last one, and moves on to the next place.
     wxTreeItemId Step(const wxTreeCtrl& tree, const wxTreeItemId& parent)
     {
         return std::exchange(m_first, false) ? tree.GetFirstChild(parent, m_cookie)
@@ -38,8 +38,8 @@ private:
     wxTreeItemIdValue m_cookie = nullptr;
 };
 
-// The walk of a subtree that expands on its way. A handler of an expansion may change the tree wherever it likes: the
-// items visited are still those that GetChild() and GetNextSibling() lead to, and a deleted item is not touched.
+// Walks a subtree and expands items on the way. The handlers of the expansions may change the tree anywhere: the walk
+// still visits the items that GetChild() and GetNextSibling() would give, and does not use a deleted item.
 class ExpandingWalk
 {
 public:
@@ -64,7 +64,7 @@ public:
 private:
     struct Step
     {
-        wxTreeItemId item;  // Null once it is deleted.
+        wxTreeItemId item;  // null once it is deleted
         Place here;         // Where the item was among its siblings when it was found.
         Place next;
     };
@@ -111,8 +111,8 @@ private:
         return false;
     }
 
-    // Mends the places of a step whose siblings have changed. Where the item itself is gone, what followed it stands
-    // in its place now.
+    // Corrects the places of a step whose siblings have changed. When the item itself is deleted, its next sibling has
+    // its place now.
     void FindAgain(Step& step, const wxTreeItemId& parent) const
     {
         Place same = step.here;

@@ -13,8 +13,8 @@ namespace fittings {
 /// Of several items with one label, the last one decides.
 std::wstring ExpandedLabels(const wxTreeCursor& start);
 
-/// Expands each item from @a start downwards whose label is in @a text, parents first. Bears that the handlers of the
-/// expansions add and delete items, those that are being visited among them.
+/// Expands each item from @a start downwards whose label is in @a text, parents first. Handlers of the expansions may
+/// add and delete items, also those that are being visited.
 void ExpandLabels(const std::wstring& text, const wxTreeCursor& start);
 
 }  // namespace fittings

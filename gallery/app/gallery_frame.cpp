@@ -107,7 +107,7 @@ wxMenu* GalleryFrame::MakeViewMenu() const
     return view;
 }
 
-/// Lets the menus' keys work in a pane that floats, which is in a window of its own.
+/// Makes the menus' keys work in a floating pane, which is a window of its own.
 void GalleryFrame::ShareMenuKeys(wxWindow* pane)
 {
     std::vector<wxAcceleratorEntry> keys;
@@ -166,7 +166,7 @@ bool GalleryFrame::ShowsBrowser() const
     return m_pages->GetCurrentPage() == m_browser;
 }
 
-/// Selects a page and puts the focus where it was in it; an index that is none changes nothing.
+/// Selects a page and restores the focus in it; a negative index changes nothing.
 void GalleryFrame::ShowPage(int index)
 {
     if (index < 0 || index == m_pages->GetSelection())
@@ -197,7 +197,7 @@ void GalleryFrame::ShowState()
     menus->Enable(wxID_RESET, browser);
 }
 
-/// Opens a folder of an earlier time; one that is gone leaves the menu.
+/// Opens a recent folder; a folder that is gone is removed from the menu.
 void GalleryFrame::OpenRecent(int id)
 {
     ShowPage(m_pages->FindPage(m_browser));
@@ -221,7 +221,7 @@ void GalleryFrame::OnPageChanged(wxBookCtrlEvent& event)
     event.Skip();
 }
 
-/// Lets Alt with a letter reach its control or menu first: a field that takes only numbers would refuse the letter.
+/// Sends Alt with a letter to its control or menu first: a number field would refuse the letter.
 void GalleryFrame::OnCharHook(wxKeyEvent& event)
 {
     const std::unique_ptr<GdkEvent, void (*)(GdkEvent*)> key(gtk_get_current_event(), gdk_event_free);

@@ -19,13 +19,14 @@ class NumbersPage;
 
 /// The gallery's window: the disk-usage browser, and a page for each component that is shown by itself.
 ///
-/// The window and its pages come back as they were when the last one was closed.
+/// The window and its pages come back as they were when the last window was closed.
 class GalleryFrame : public wxFrame
 {
 public:
     GalleryFrame();
 
-    /// Opens a folder in the browser, see BrowserPage::Start(). A folder that was asked for is also shown.
+    /// Opens a folder in the browser, see BrowserPage::Start(). When a folder is given, also selects the browser's
+    /// page.
     wxString Start(const std::string& folder);
 
     wxNotebook* GetPages() const { return m_pages; }

@@ -35,7 +35,7 @@ struct CommandLine
     bool good = true;
 };
 
-/// Arguments stay bytes, because a folder's name may be no text.
+/// Arguments stay bytes, because a folder's name need not be valid text.
 CommandLine Parse(int count, char** arguments)
 {
     CommandLine line;
@@ -55,8 +55,8 @@ CommandLine Parse(int count, char** arguments)
 
 CommandLine g_line;
 
-/// Ends the program as a person would, who cancels the open dialogs and closes the window, so that it is remembered.
-/// What has opened a dialog is still at work in the window: that is closed when the last dialog is gone.
+/// Ends the program as a person would: cancels the open dialogs and closes the window, so that the window's state is
+/// stored. The code that opened a dialog still uses the window, so the window is closed after the last dialog.
 class Stop : public wxModalDialogHook
 {
 public:
@@ -68,7 +68,7 @@ public:
             if (window)
                 window->Close();
         } else if (m_dialogs.back()->IsModal()) {
-            // Otherwise it has been cancelled and waits for a question of GTK's own, whether to replace a file.
+            // Otherwise the dialog has been cancelled already and waits for GTK's question whether to replace a file.
             m_dialogs.back()->EndModal(wxID_CANCEL);
         }
     }
@@ -94,7 +94,7 @@ private:
 
 gboolean OnStopSignal(gpointer stop)
 {
-    // Later, because a window closed by GLib's own event loop is not destroyed before the next wx event.
+    // Closed from a wx event: a window that is closed by GLib's event loop is not destroyed before the next wx event.
     wxTheApp->CallAfter([stop] { static_cast<Stop*>(stop)->Begin(); });
     return G_SOURCE_CONTINUE;
 }
@@ -111,8 +111,8 @@ public:
         SetAppName("fittings-gallery");
         SetAppDisplayName("Fittings Gallery");
         wxUILocale::UseDefault();
-        // GTK settled its own direction when the program had no language yet: the toolkit's windows would follow the
-        // language, and what is GTK's in them would not.
+        // GTK chose its direction before the program had a language: wxWidgets' windows would follow the language, but
+        // GTK's widgets in them would not.
         if (GetLayoutDirection() == wxLayout_RightToLeft)
             gtk_widget_set_default_direction(GTK_TEXT_DIR_RTL);
         for (const int signal : {SIGTERM, SIGINT, SIGHUP})

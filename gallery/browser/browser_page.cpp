@@ -64,8 +64,8 @@ wxString Summary(const std::vector<Entry>& entries)
     return text;
 }
 
-/// Where a window is. The toolkit sometimes takes a window for being in the corner of the screen when it has just been
-/// shown, and the window manager was slow to frame it.
+/// Where a window is, according to X. When the window manager is slow to frame a new window, the toolkit may believe
+/// the window is in the corner of the screen.
 wxPoint PlaceOf(const wxFrame& window)
 {
     return FrameRect(window.GetHandle()).GetPosition();
@@ -141,7 +141,7 @@ void BrowserPage::SaveSettings()
     browser_settings::SaveMinimumSize(m_filter->GetMegabytes());
     if (!m_layoutLoaded)
         return;
-    // A window that is hidden has a place no longer.
+    // A hidden window has no place on the screen.
     wxAuiPaneInfo& folders = m_layout.GetPane(kFoldersPane);
     if (folders.frame)
         folders.floating_pos = folders.frame->IsShown() ? PlaceOf(*folders.frame) : m_floatingPlace;
@@ -266,7 +266,7 @@ void BrowserPage::MakeTools()
 wxWindow* BrowserPage::MakePanes()
 {
     auto* panel = new wxPanel(this);
-    // The layout gives a pane no more than a share of the panel, which has no size of its own yet.
+    // The layout limits a pane to a share of the panel, and the panel has no size yet.
     panel->SetSize(wxGetTopLevelParent(this)->GetClientSize());
     m_layout.SetManagedWindow(panel);
     m_layout.SetFlags(wxAUI_MGR_DEFAULT | wxAUI_MGR_LIVE_RESIZE);
@@ -352,7 +352,7 @@ void BrowserPage::OpenRoot(const std::string& path)
     RememberRoot();
     const std::string selected = browser_settings::LoadSelectedFolder(path);
     {
-        // What counts is the folder that is selected in the end.
+        // Only the folder that is selected last counts.
         const wxEventBlocker noSelection(m_tree, wxEVT_TREE_SEL_CHANGED);
         m_tree->SetRootFolder(path);
         if (selected.empty())
@@ -364,7 +364,7 @@ void BrowserPage::OpenRoot(const std::string& path)
     ShowFolder(m_tree->GetSelectedPath());
 }
 
-/// Stores what is kept for each root.
+/// Stores the settings that belong to this root.
 void BrowserPage::RememberRoot()
 {
     const std::string& root = m_tree->GetRootFolder();

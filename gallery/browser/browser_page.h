@@ -21,8 +21,8 @@ class SizeFilter;
 class SizesRow;
 struct SizeNews;
 
-/// Sent by a BrowserPage when something of what the window shows about it is another: the folder, the selected entry or
-/// which panes there are. It propagates to the window.
+/// Sent by a BrowserPage when the folder, the selected entry or the set of shown panes changes. It propagates to the
+/// window, which shows them.
 wxDECLARE_EVENT(EVT_BROWSER_CHANGED, wxCommandEvent);
 
 /// The disk-usage browser: folders to the left, the contents of the selected one to the right.
@@ -36,7 +36,7 @@ public:
 
     /// Opens @a folder; when it is empty, the folder of the last session, and in the first session the home folder.
     ///
-    /// Another folder is opened in place of one that is none; the page says why, and so does the text returned.
+    /// When it is not a folder, opens another one; the page shows the reason, and the returned text is the same.
     wxString Start(const std::string& folder);
 
     FolderTree* GetTree() const { return m_tree; }
@@ -47,16 +47,16 @@ public:
     wxToolBar* GetTools() const { return m_tools; }
     wxAuiManager& GetLayout() { return m_layout; }
 
-    /// Puts the panes where they were in the last session. Only once, and best when the page has come to the screen: a
-    /// window manager keeps a floating pane above a window only when it appears after it.
+    /// Puts the panes where they were in the last session. Call it once, when the page is on the screen: window
+    /// managers keep a floating pane above its window only when the pane appears after the window.
     void LoadLayout();
 
-    /// Shows or hides the panes that float, which do not go with the page.
+    /// Shows or hides the floating panes, which do not follow the page by themselves.
     void ShowFloatingPanes(bool show);
 
     void SaveSettings();
 
-    /// @name What there is to tell about the page
+    /// @name The state of the page
     /// @{
     const std::string& GetFolder() const { return m_folder; }
     bool HasFolderAbove() const;
@@ -65,7 +65,7 @@ public:
     wxString GetSelectionText() const;
     /// @}
 
-    /// Opens a folder. Where it cannot be read, says so in the page, and returns false.
+    /// Opens a folder. When it cannot be read, shows that in the page and returns false.
     bool Open(const std::string& folder);
 
     /// @name Commands
@@ -75,13 +75,13 @@ public:
     void RefreshFolders();
     void ToggleFolders();
 
-    /// Opens the colours that the folder can have.
+    /// Opens the drop-down with the colours for the folder.
     void ChooseColour();
 
-    /// Asks for a file and writes what the list shows into it.
+    /// Asks for a file and writes the entries of the list into it.
     void SaveReport();
 
-    /// Forgets how the panes were moved.
+    /// Puts the panes back to their first places.
     void ResetLayout();
     /// @}
 

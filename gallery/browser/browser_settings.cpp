@@ -19,7 +19,7 @@ constexpr const wchar_t* kSelectedSection = L"SelectedFolder";
 constexpr const wchar_t* kColourSection = L"FolderColours";
 constexpr std::size_t kRememberedRoots = 50;
 
-/// A number that someone may have edited; 0 when it is none.
+/// Reads a number that someone may have edited; 0 when it is not a number.
 int LoadInt(const wchar_t* section, const wchar_t* key)
 {
     try {
@@ -29,7 +29,7 @@ int LoadInt(const wchar_t* section, const wchar_t* key)
     }
 }
 
-/// The roots of earlier sessions as texts, the last one first.
+/// The roots of earlier sessions as texts, the latest first.
 std::vector<std::wstring> LoadRoots()
 {
     std::vector<std::wstring> roots;

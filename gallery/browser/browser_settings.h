@@ -11,18 +11,18 @@
 
 namespace gallery {
 
-/// What the gallery keeps besides the library's window state and tree state.
+/// The gallery's settings, other than the states that the library stores for windows and trees.
 namespace browser_settings {
 
 /// The name of the page that was shown last; empty in the first session.
 wxString LoadPage();
 void SavePage(const wxString& name);
 
-/// Those of earlier sessions, the last one first.
+/// The roots of earlier sessions, the latest first.
 std::vector<std::string> LoadRootFolders();
 
-/// Returns the root that is forgotten for this one, with what is kept here for it; empty when there is room for all.
-/// The last 50 are remembered.
+/// Stores a root. The last 50 are kept: returns the one that is removed in exchange, with its settings here, or an
+/// empty path.
 std::string SaveRootFolder(const std::string& path);
 
 /// The folder that was selected below a root; empty when there is none.
@@ -37,11 +37,11 @@ void SaveFolderColour(const std::string& path, const wxColour& colour);
 wxString LoadMinimumSize();
 void SaveMinimumSize(const wxString& megabytes);
 
-/// @name Of a version that kept the columns here
+/// @name Settings of an earlier version, which kept the columns here
 /// @{
 SortOrder LoadEarlierSortOrder();
 
-/// Empty when not all @a count widths can be used.
+/// Empty when any of the @a count widths cannot be used.
 std::vector<int> LoadEarlierColumnWidths(std::size_t count);
 /// @}
 

@@ -25,7 +25,7 @@ unsigned IndexOf(SortColumn column)
     return static_cast<unsigned>(std::find(std::begin(kColumns), std::end(kColumns), column) - std::begin(kColumns));
 }
 
-/// Lines the texts up with their header, and shortens those that are too long in the middle.
+/// Aligns the texts with their header, and shortens long ones in the middle.
 void Space(GtkTreeViewColumn* column, int pixels)
 {
     GList* cells = gtk_cell_layout_get_cells(GTK_CELL_LAYOUT(column));
@@ -68,8 +68,7 @@ public:
         Reset(static_cast<unsigned>(m_positions.size()));
     }
 
-    /// Takes out the rows that have proved too small. What is on the screen stays there, which after a Reset() is drawn
-    /// anew some time later.
+    /// Removes the rows that have proved too small. After a Reset() GTK would redraw the list only later.
     void RemoveSmallOnes()
     {
         wxArrayInt rows;
@@ -82,7 +81,7 @@ public:
             RowsDeleted(rows);
     }
 
-    /// The size is not drawn before its row is.
+    /// Sets a size; it is drawn when its row is drawn next.
     void SetFolderSize(const std::string& name, std::uint64_t size)
     {
         if (m_folders.empty()) {
@@ -98,7 +97,7 @@ public:
         }
     }
 
-    /// Only the order of the rows changes: who draws them must be told to draw them again.
+    /// Changes only the order of the rows; the caller has them drawn again.
     void Sort(SortOrder order)
     {
         m_sorted = SortedPositions(m_entries, order);
@@ -107,7 +106,7 @@ public:
 
     const Entry& At(unsigned row) const { return m_entries[m_positions[row]]; }
 
-    /// The row of an entry of this model; the number of rows when it is not shown.
+    /// Returns the row of an entry of this model, or the number of rows when it is not shown.
     unsigned RowOf(const Entry& entry) const
     {
         const auto position = static_cast<std::uint32_t>(&entry - m_entries.data());
@@ -138,7 +137,7 @@ public:
     bool SetValueByRow(const wxVariant&, unsigned, unsigned) override { return false; }
 
 private:
-    /// What is to be shown, as the sizes are now.
+    /// Returns whether an entry is shown with its present size.
     std::vector<std::uint32_t> LargeOnes() const
     {
         std::vector<std::uint32_t> positions;
@@ -172,9 +171,9 @@ private:
 
     std::vector<Entry> m_entries;
     std::vector<std::uint32_t> m_sorted;
-    std::vector<std::uint32_t> m_positions;  ///< Those of m_sorted that are shown.
+    std::vector<std::uint32_t> m_positions;  ///< The elements of m_sorted that are shown.
     std::uint64_t m_minimum = 0;
-    std::unordered_map<std::string_view, std::size_t> m_folders;  ///< By name, into m_entries; made when needed.
+    std::unordered_map<std::string_view, std::size_t> m_folders;  ///< Indices of m_entries by name; made when needed.
     wxBitmapBundle m_folder, m_file, m_program, m_link;
 };
 
@@ -198,7 +197,7 @@ ContentsList::ContentsList(wxWindow* parent)
 
     for (unsigned i = 0; i < GetColumnCount(); ++i)
         Space(GTK_TREE_VIEW_COLUMN(GetColumn(i)->GetGtkHandle()), FromDIP(6));
-    // The name column takes what the others leave.
+    // The name column takes the rest of the width.
     GtkTreeViewColumn* name = GTK_TREE_VIEW_COLUMN(GetColumn(IndexOf(SortColumn::Name))->GetGtkHandle());
     gtk_tree_view_column_set_expand(name, TRUE);
 
@@ -219,11 +218,11 @@ void ContentsList::SetFolderSizes(const std::vector<std::pair<std::string, Folde
     for (const auto& [name, sum] : sums)
         m_model->SetFolderSize(name, sum.bytes);
     {
-        // While the rows go, one by one, nobody must ask for the selected one or draw.
+        // The rows are removed one by one; until all are gone, nothing must be drawn or ask for the selected row.
         const wxEventBlocker quiet(this, wxEVT_DATAVIEW_SELECTION_CHANGED);
         m_model->RemoveSmallOnes();
     }
-    // Refresh() draws the frame around the rows, and leaves those that GTK has drawn already.
+    // Refresh() redraws only the frame around the rows, not the rows that GTK has drawn already.
     gtk_widget_queue_draw(GtkGetTreeView());
 }
 
@@ -330,7 +329,7 @@ void ContentsList::SetColumnWidths(const std::vector<int>& widths)
 void ContentsList::RememberColumns()
 {
     wxPersistentRegisterAndRestore(this, GetName());
-    // Its width in a larger window would be its least one now.
+    // The width that it had in a larger window would now be its minimum.
     GetColumn(IndexOf(SortColumn::Name))->SetWidth(kNameCharacters * GetCharWidth());
     SortByColumn(GetSortingColumn());
 }

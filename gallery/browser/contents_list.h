@@ -16,27 +16,27 @@ class ContentsModel;
 
 /// The entries of one folder with their sizes, sorted by the column whose header was clicked.
 ///
-/// Rows are made as they are drawn, so that a folder of 100,000 entries costs no more than its reading and sorting.
+/// Rows are made when they are drawn, so that a folder of 100,000 entries takes only the time to read and sort it.
 class ContentsList : public wxDataViewCtrl
 {
 public:
     explicit ContentsList(wxWindow* parent);
 
     /// @name What changes the rows
-    /// None of these sends a selection event, though the selected row may go.
+    /// None of these sends a selection event, even when the selected row is removed.
     /// @{
     void SetEntries(std::vector<Entry> entries);
 
-    /// Leaves out what is smaller than @a bytes, and what has no size; 0 leaves out nothing. Folders stay until they
-    /// are added up.
+    /// Hides entries smaller than @a bytes, and entries without a size; 0 hides nothing. A folder stays until its size
+    /// is known.
     void SetMinimum(std::uint64_t bytes);
 
-    /// Fills in what folders hold, as far as they are listed, and leaves out those that prove too small. The order of
-    /// the rows stays until SortBy().
+    /// Sets the sizes of the folders that are listed, and hides those that prove too small. The order of the rows stays
+    /// until SortBy().
     void SetFolderSizes(const std::vector<std::pair<std::string, FolderSum>>& sums);
     /// @}
 
-    /// Those that are shown, in their order.
+    /// The entries that are shown, in their order.
     std::vector<Entry> GetEntriesInOrder() const;
 
     unsigned CountRows() const;
@@ -45,7 +45,7 @@ public:
     /// Null when nothing is selected.
     const Entry* GetSelectedEntry() const;
 
-    /// Null when the item is none.
+    /// Null when the item is invalid.
     const Entry* EntryOf(const wxDataViewItem& item) const;
     wxDataViewItem ItemOf(unsigned row) const;
 
@@ -55,13 +55,13 @@ public:
     SortOrder GetSortOrder() const { return m_order; }
     void SortBy(SortOrder order);
 
-    /// @name Column widths, the name column's apart: it takes what the others leave
+    /// @name Column widths, except that of the name column, which takes the rest
     /// @{
     std::vector<int> GetColumnWidths() const;
     void SetColumnWidths(const std::vector<int>& widths);
     /// @}
 
-    /// Brings widths and order of the last session back, where there was one, and has those of this one kept.
+    /// Restores the widths and order of the last session, if any, and keeps those of this one.
     void RememberColumns();
 
 private:

@@ -7,19 +7,20 @@ namespace gallery {
 class FolderColourCombo::ColourPopup : public wxColourPopup
 {
 public:
-    /// What the folder gets from the hot cell; @a own is what it has.
+    /// The colour that the hot cell gives the folder; @a own is its present one.
     wxColour FolderColour(const wxColour& colour, const wxColour& own) const
     {
         if (m_nCurrentSel == CELL_AUTOMATIC)
             return {};
-        // Enter without a move and a cancelled dialog report the colour that was shown, be it that of "Automatic".
+        // Enter without a move, and a cancelled dialog, report the colour that was shown, which may be that of
+        // "Automatic".
         const bool ofPalette = m_nCurrentSel >= 0;
         return !ofPalette && colour == (own.IsOk() ? own : GetDefaultColour()) ? own : colour;
     }
 
     void StartWith(const wxColour& colour, const wxColour& automatic)
     {
-        // "Automatic" stays chosen once it is, but what was chosen belongs to another folder.
+        // The popup keeps "Automatic" chosen, but that choice was made for another folder.
         m_nChosenColourSel = colour.IsOk() ? CELL_NONE : CELL_AUTOMATIC;
         SetDefaultColour(automatic);
         SetInitialColour(colour.IsOk() ? colour : automatic);
@@ -39,7 +40,7 @@ FolderColourCombo::FolderColourCombo(wxWindow* parent, Handler onLook, Handler o
 
 FolderColourCombo::~FolderColourCombo()
 {
-    // An open popup closes with the window, when what would be told of it may be gone.
+    // An open popup closes with the window, when its listener may be gone already.
     m_colours->SetColorListener(nullptr);
 }
 
@@ -47,7 +48,7 @@ void FolderColourCombo::ShowColour(const wxColour& colour, const wxColour& autom
 {
     m_colour = colour;
     m_colours->StartWith(colour, automatic);
-    // The name of another folder's colour would be where the keyboard starts.
+    // Otherwise the keyboard would start at the colour of another folder.
     SetText("");
 }
 

@@ -8,18 +8,19 @@
 
 namespace gallery {
 
-/// Asks for the colour of a folder. "Automatic" is none of its own, here an invalid colour.
+/// Asks for the colour of a folder. "Automatic" means no colour of its own, here an invalid colour.
 class FolderColourCombo : public wxColourCombo, private wxColorPopupListener
 {
 public:
     using Handler = std::function<void(const wxColour&)>;
 
-    /// @a onLook gets each colour that is pointed at, and in the end the one that stays; @a onChoose the one chosen.
+    /// @a onLook gets each colour that is pointed at, and finally the colour in effect; @a onChoose gets the chosen
+    /// one.
     FolderColourCombo(wxWindow* parent, Handler onLook, Handler onChoose);
 
     ~FolderColourCombo() override;
 
-    /// Shows the colour of another folder. @a automatic is what "Automatic" looks like.
+    /// Shows the colour of another folder. @a automatic is the colour in which "Automatic" is shown.
     void ShowColour(const wxColour& colour, const wxColour& automatic);
 
     wxColourPopup* GetColourPopup() const;

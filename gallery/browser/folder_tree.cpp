@@ -17,13 +17,13 @@ namespace gallery {
 
 namespace {
 
-/// As sharp as the screen of @a window is.
+/// Returns an image in the resolution of the screen of @a window.
 wxBitmap Icon(const wxArtID& id, const wxWindow* window)
 {
     return wxArtProvider::GetBitmapBundle(id, wxART_OTHER, wxSize(16, 16)).GetBitmapFor(window);
 }
 
-/// Makes item labels paths for as long as it lives.
+/// Makes GetItemText() return paths, as long as the object lives.
 class NamePaths
 {
 public:
@@ -36,7 +36,7 @@ private:
     bool& m_flag;
 };
 
-/// The folder above; the root folder is above itself.
+/// Returns the parent folder; that of the root folder is itself.
 std::string ParentPath(const std::string& path)
 {
     const std::size_t slash = path.rfind('/');
@@ -105,7 +105,7 @@ std::string FolderTree::GetSelectedPath()
 
 void FolderTree::SelectPath(const std::string& path)
 {
-    // The names below the root, the last one first.
+    // The names below the root, the deepest first.
     std::vector<std::string> names;
     std::string level = path;
     for (; level.size() > m_root.size(); level = ParentPath(level))
@@ -208,7 +208,7 @@ void FolderTree::Fill(const wxTreeItemId& item)
         Refill(item);
 }
 
-/// Makes the children of an item those that the file system has now, in their sorted order.
+/// Makes the children of an item match the file system, in sorted order.
 void FolderTree::Refill(const wxTreeItemId& item)
 {
     const wxWindowUpdateLocker frozen(this);
@@ -234,7 +234,7 @@ void FolderTree::Refill(const wxTreeItemId& item)
     SetItemHasChildren(item, !subfolders.empty());
 }
 
-/// Gives an item all that belongs to its folder, but for the label.
+/// Sets everything of an item that belongs to its folder, except the label.
 void FolderTree::Dress(const wxTreeItemId& item, const Subfolder& folder)
 {
     wxTreeCursor cursor(this, item);
@@ -245,7 +245,7 @@ void FolderTree::Dress(const wxTreeItemId& item, const Subfolder& folder)
     cursor.SetImage(folder.readable ? m_images.folder : m_images.unreadable, wxTreeItemIcon_Normal);
     cursor.SetImage(folder.readable ? m_images.open : m_images.unreadable, wxTreeItemIcon_Expanded);
     Colour(item, browser_settings::LoadFolderColour(PathOf(item)));
-    // What has been filled in shows its button already, whatever a look into the folder said.
+    // An item that has been filled shows its button already, whatever the listing said about subfolders.
     if (GetChildrenCount(item, false) == 0)
         cursor.SetChildren(folder.mayHaveSubfolders);
 }

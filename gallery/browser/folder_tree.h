@@ -10,10 +10,10 @@ namespace gallery {
 
 struct Subfolder;
 
-/// The folders below a root folder, read as they are expanded, each in the colour that it was given.
+/// The folders below a root folder, read when they are expanded, each in its colour.
 ///
-/// Each item carries an index into a table of names, because a label cannot hold every file name. Links are left out,
-/// so that no circle of links makes the tree endless.
+/// Each item holds an index into a table of names, because a label cannot hold every file name. Links are left out:
+/// circular links would make the tree endless.
 class FolderTree : public wxHandyTreeCtrl
 {
 public:
@@ -30,23 +30,23 @@ public:
     /// Empty when nothing is selected.
     std::string GetSelectedPath();
 
-    /// Selects the folder and shows it, reading the levels above it as needed; the nearest of those above it when there
-    /// is no such folder any more.
+    /// Selects the folder and shows it, reading the levels above it as needed. When the folder is gone, selects the
+    /// nearest one above it.
     void SelectPath(const std::string& path);
     /// @}
 
     /// Selects the folder @a name in the selected one; false when there is none.
     bool SelectSubfolder(const std::string& name);
 
-    /// Selects the folder that the selected one is in; false at the root.
+    /// Selects the parent of the selected folder; false at the root.
     bool SelectParent();
 
-    /// Reads again what has been read: adds the folders that are new and removes those that are gone. The others keep
-    /// their state; of a selected one that is gone, the nearest above that is left gets selected.
+    /// Reads the known folders again: adds new ones and removes those that are gone. The others keep their state. When
+    /// the selected one is gone, selects the nearest one above it that is left.
     void Reread();
 
-    /// Shows the selected folder in @a colour, or in the other folders' when it is invalid. Until the folder is read
-    /// again, which gives it the colour that the settings know.
+    /// Shows the selected folder in @a colour, or without one when it is invalid. When the folder is read again, it
+    /// gets the colour from the settings.
     void ShowColour(const wxColour& colour);
 
     /// @name The expanded folders, kept apart for each root
@@ -58,8 +58,8 @@ public:
 
     void OnItemExpanding(const wxTreeCursor& item) override;
 
-    /// The label; the path below the root while the state is saved or loaded. Labels alone would take every folder
-    /// "share" for the same one.
+    /// Returns the label, or the path below the root while the state is saved or loaded. By labels alone all folders
+    /// named "share" would be the same.
     wxString GetItemText(const wxTreeItemId& item) const override;
 
 private:

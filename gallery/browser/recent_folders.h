@@ -13,17 +13,17 @@ namespace gallery {
 class RecentFolders
 {
 public:
-    /// The folders of earlier sessions.
+    /// Loads the folders of earlier sessions.
     RecentFolders();
 
-    /// Returns a menu of them that follows the changes, for a menu bar to take over. Its items' ids are wxID_FILE1 to
-    /// wxID_FILE9.
+    /// Returns a menu of the folders, owned by the menu bar that it is added to, and kept up to date. Its items' ids
+    /// are wxID_FILE1 to wxID_FILE9.
     wxMenu* MakeMenu();
 
-    /// Puts a folder in front.
+    /// Makes a folder the first one.
     void Add(const std::string& path);
 
-    /// The folder behind a menu item.
+    /// The folder of a menu item.
     std::string PathOf(int id) const;
 
     void Remove(int id);

@@ -21,7 +21,7 @@ namespace {
 
 constexpr int kBytesInMegabyte = 1000000;
 
-/// Down to a byte, up to a petabyte.
+/// From a byte to a petabyte.
 CNumberFormat MegabytesFormat()
 {
     CNumberFormat format = GroupingFormat();

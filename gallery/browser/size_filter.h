@@ -19,13 +19,13 @@ class SizeFilter : public wxPanel
 public:
     explicit SizeFilter(wxWindow* parent);
 
-    /// In bytes; 0 when none was typed, or what is no number was pasted.
+    /// The size in bytes; 0 when the field is empty or does not hold a number.
     std::uint64_t GetMinimum() const;
 
     /// "1,234.5 MB", as the locale writes it.
     wxString GetText() const;
 
-    /// @name The number as it was typed, but with a full stop for a decimal point in any locale
+    /// @name The number as it was typed, with a full stop as the decimal point in any locale
     /// @{
     wxString GetMegabytes() const;
     void SetMegabytes(const wxString& megabytes);

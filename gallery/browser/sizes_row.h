@@ -16,23 +16,23 @@ class wxStaticText;
 
 namespace gallery {
 
-/// Adds up a folder in the background, and shows how far that has come: a bar, numbers and a button that stops it.
+/// Adds up a folder in the background, and shows the progress: a bar, numbers and a button to stop it.
 class SizesRow : public wxPanel
 {
 public:
-    /// Sums go to @a onNews as they come.
+    /// @a onNews gets each sum when it is ready.
     SizesRow(wxWindow* parent, std::function<void(const SizeNews&)> onNews);
 
-    /// Adds up @a folder; what was under way for another one stops.
+    /// Adds up @a folder; stops the work on another one.
     void Start(const std::string& folder);
 
-    /// Waits until the worker has ended, which takes no longer than the call to the file system that it is in. What was
-    /// found until then has come; nothing comes later.
+    /// Stops the worker and waits for it, at most as long as its present call to the file system takes. All sums found
+    /// so far have been delivered; none comes later.
     void Stop();
 
     bool IsRunning() const { return m_worker != nullptr; }
 
-    /// What the numbers say, for a person.
+    /// The numbers as a text.
     wxString GetText() const;
 
     wxButton* GetButton() const { return m_button; }
@@ -53,7 +53,7 @@ private:
     wxButton* m_button;
     std::string m_folder;
     std::unique_ptr<SizeWorker> m_worker;
-    int m_number = 0;  ///< Of the worker that counts: events of earlier ones may still come.
+    int m_number = 0;  ///< Of the present worker: events of earlier ones may still arrive.
     Clock::time_point m_start;
 };
 

@@ -27,7 +27,7 @@ wxFlexGridSizer* MakeGrid(const wxWindow& panel, int columns)
     return new wxFlexGridSizer(columns, panel.FromDIP(wxSize(kGap, kGap)));
 }
 
-/// Makes the rows of several columns equally high, so that they stand in lines.
+/// Makes the rows of several columns equally high, so that they line up.
 void AlignRows(std::initializer_list<wxSizer*> grids)
 {
     int height = 0;
@@ -36,7 +36,7 @@ void AlignRows(std::initializer_list<wxSizer*> grids)
             height = std::max(height, item->CalcMin().y);
     }
     for (const wxSizer* grid : grids) {
-        // A label is drawn at the top of its window: it keeps its height and stands in the middle of its row.
+        // A label draws its text at the top of its window. So it keeps its height and is centred in its row.
         for (wxSizerItem* item : grid->GetChildren()) {
             if (!dynamic_cast<wxStaticText*>(item->GetWindow()))
                 item->SetMinSize(item->GetMinSize().x, height);
@@ -107,7 +107,7 @@ void ColourOptionFields::Arrange(int width)
     InvalidateBestSize();
 }
 
-/// What is missing or no value of its field stays as it is in a first session.
+/// A value that is missing or wrong keeps its default.
 void ColourOptionFields::LoadSettings()
 {
     for (wxCheckBox* box : {m_hasAutomatic, m_hasMore, m_readOnly, m_refresh, m_centre, m_animate})
@@ -121,7 +121,7 @@ void ColourOptionFields::LoadSettings()
     m_default->SetColour(kColourSettings.LoadColour(m_default->GetName(), m_default->GetColour()));
 }
 
-/// Which boxes there are, and their texts.
+/// Adds the controls for the two boxes and their texts.
 wxSizer* ColourOptionFields::MakeBoxes()
 {
     const ColourOptions first;

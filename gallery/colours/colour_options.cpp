@@ -9,7 +9,7 @@ namespace gallery {
 
 namespace {
 
-/// What a margin leaves of a cell for its colour is never less.
+/// The least width of a cell inside its margins.
 constexpr int kSmallestSwatch = 7;
 
 class Popup : public wxColourPopup

@@ -33,7 +33,7 @@ constexpr int kMostEvents = 500;
 
 const wxColour kFirstColour(0, 0, 255);
 
-/// "Blue #0000FF"; of a colour that has no name the number alone.
+/// "Blue #0000FF"; only the number for a colour without a name.
 wxString NameOf(const wxColour& colour, const wxString& separator)
 {
     const wxString number = colour.GetAsString(wxC2S_HTML_SYNTAX);
@@ -44,7 +44,7 @@ wxString NameOf(const wxColour& colour, const wxString& separator)
     return number;
 }
 
-/// Of an invalid colour a picture that cannot be seen: GTK leaves no room for pictures when the first row has none.
+/// For an invalid colour, a transparent picture: GTK leaves no room for pictures when the first row has none.
 wxBitmap SwatchOf(const wxColour& colour, int size)
 {
     wxImage swatch(size, size);
@@ -99,7 +99,7 @@ ColoursPage::ColoursPage(wxWindow* parent)
 
 ColoursPage::~ColoursPage()
 {
-    // Later, an open popup would tell a page that is gone.
+    // Otherwise an open popup would call a page that is gone.
     m_combo->HidePopup(false);
 }
 
@@ -114,7 +114,7 @@ void ColoursPage::SaveSettings() const
     kColourSettings.SaveColour(kColourKey, m_colour);
 }
 
-/// The label of the combo, which MakeCombo() puts below it.
+/// Makes the label of the combo; MakeCombo() puts the combo below it.
 wxSizer* ColoursPage::MakeChoice()
 {
     m_label = MakeHeading(this, "&Colour");
@@ -168,7 +168,7 @@ wxSizer* ColoursPage::MakeEvents()
     return rows;
 }
 
-/// Makes the best of the page's width. What is higher than the page can be scrolled.
+/// Arranges the page for its width. The page scrolls when its contents are higher.
 void ColoursPage::Arrange()
 {
     const int width = GetClientSize().x - FromDIP(kMargin);
@@ -176,7 +176,7 @@ void ColoursPage::Arrange()
     m_options->Arrange(width);
 }
 
-/// Makes a combo with the options that are set, in place of the one that is there.
+/// Replaces the combo by one with the present options.
 void ColoursPage::MakeCombo()
 {
     if (m_combo) {

@@ -93,7 +93,7 @@ std::string TargetOf(int folder, const char* name)
     return length > 0 ? std::string(target, static_cast<std::size_t>(length)) : std::string();
 }
 
-/// Fills in what lstat() tells. A reason why it tells nothing is returned, else 0.
+/// Fills in the results of lstat(). Returns 0, or the errno when it fails.
 int Describe(Entry& entry, int folder, const dirent& found)
 {
     struct stat status;
@@ -115,7 +115,7 @@ int Describe(Entry& entry, int folder, const dirent& found)
     return error;
 }
 
-/// Looks for one folder in the folder @a name of @a parent.
+/// Returns whether the folder @a name of @a parent has a subfolder.
 void LookInto(Subfolder& subfolder, int parent)
 {
     const Folder folder = OpenFolder(parent, subfolder.name.c_str(), O_NOFOLLOW);
@@ -131,7 +131,7 @@ void LookInto(Subfolder& subfolder, int parent)
     }
 }
 
-/// The letters of @a name without case and accents; bytes that are not UTF-8 stay.
+/// Returns @a name without case and accents; bytes that are not UTF-8 stay.
 std::string Folded(const std::string& name)
 {
     const bool ascii = std::all_of(name.begin(), name.end(), [](char c) { return static_cast<signed char>(c) >= 0; });
@@ -226,7 +226,7 @@ std::string SortKey(const std::string& name)
         std::size_t end = i;
         while (end < folded.size() && IsDigit(folded[end]))
             ++end;
-        // Of two numbers the longer one is the greater; a file name has at most 255 bytes.
+        // Compare numbers by their length first: the longer is the greater. A file name has at most 255 bytes.
         key += '0';
         key += static_cast<char>(end - i);
         key.append(folded, i, end - i);
@@ -241,7 +241,7 @@ std::vector<std::uint32_t> SortedPositions(const std::vector<Entry>& entries, So
     for (std::size_t i = 0; i < positions.size(); ++i)
         positions[i] = static_cast<std::uint32_t>(i);
 
-    // Negative when a stands before b in an ascending list.
+    // Negative when a comes before b in an ascending list.
     const auto compare = [column = order.column](const Entry& a, const Entry& b) {
         switch (column) {
         case SortColumn::Size:

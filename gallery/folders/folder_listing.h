@@ -9,16 +9,16 @@ namespace gallery {
 
 enum class EntryKind { Folder, File, Link, Pipe, Socket, Device, Unknown };
 
-/// What the file system says about one name in a folder. Links are described themselves, never followed.
+/// One entry of a folder, as the file system describes it. Links are described themselves, never followed.
 struct Entry
 {
-    std::string name;     ///< Its bytes, in no particular encoding.
-    std::string sortKey;  ///< Compared byte by byte it gives the order in which people look for names.
+    std::string name;     ///< The bytes, in no particular encoding.
+    std::string sortKey;  ///< Byte order of the keys is the order for people.
     std::string type;     ///< For people: "Folder", "PNG file".
     std::string target;   ///< Where a link points.
     EntryKind kind = EntryKind::Unknown;
-    bool known = false;         ///< Whether size and time could be read.
-    bool summed = false;        ///< Whether the size is that of everything in the folder.
+    bool known = false;         ///< Size and time could be read.
+    bool summed = false;        ///< The size is that of everything in the folder.
     std::uint64_t size = 0;     ///< Of a file or a summed folder, in bytes; 0 for everything else.
     std::int64_t modified = 0;  ///< Seconds since the epoch.
 
@@ -44,8 +44,8 @@ struct Subfolder
 
 /// Reads the folders in a folder, sorted by name. Links to folders are not among them.
 ///
-/// Each of them is looked into, to say whether it has folders of its own, as long as that takes no longer than a
-/// twentieth of a second in all; the others count as if they had.
+/// Looks into each of them for subfolders, for at most a twentieth of a second in all. Folders that it did not get to
+/// count as if they had some.
 std::vector<Subfolder> ReadSubfolders(const std::string& path);
 
 /// Returns the key of a name: case and accents do not count, and numbers count by their value.
@@ -59,15 +59,15 @@ struct SortOrder
     bool ascending = true;
 };
 
-/// Returns the positions of @a entries in the order in which they are shown. Folders come first in either direction;
-/// equals stand in ascending order of their names.
+/// Returns the positions of @a entries in the order of display. Folders come first in either direction; entries that
+/// compare equal are in ascending order of their names.
 std::vector<std::uint32_t> SortedPositions(const std::vector<Entry>& entries, SortOrder order);
 
 /// Joins a folder's path and the name of an entry in it.
 std::string JoinPath(const std::string& folder, const std::string& name);
 
-/// Returns the path of the folder that @a path leads to, absolute and without links in it. Empty, with errno set, when
-/// it leads to no folder.
+/// Returns the absolute path, without links, of the folder that @a path leads to. Empty, with errno set, when that is
+/// not a folder.
 std::string ResolveFolder(const std::string& path);
 
 }  // namespace gallery

@@ -14,7 +14,7 @@ namespace gallery {
 
 namespace {
 
-/// So many folders on the way down stay open; those above them are opened again from below.
+/// The number of folders that stay open on the way down; those above are opened again through "..".
 constexpr std::size_t kMostOpen = 64;
 
 struct FileId
@@ -36,10 +36,10 @@ struct HashFileId
 struct Pending
 {
     std::string name;
-    std::uint64_t bytes;  ///< Its own, without what is in it.
+    std::uint64_t bytes;  ///< Of the folder itself, without its contents.
 };
 
-/// A folder on the way from the top to where the walk is.
+/// A folder on the path from the top to the present one.
 struct Level
 {
     Folder folder;  ///< Null while it is closed to save descriptors.
@@ -90,7 +90,7 @@ private:
         Finish();
     }
 
-    /// Reads a folder, and makes it the one in which the walk goes on.
+    /// Reads a folder and makes it the present one.
     bool Enter(int parent, const char* name, double start, double span)
     {
         Folder folder = OpenFolder(parent, name, O_NOFOLLOW);
@@ -134,7 +134,7 @@ private:
         Finish();
     }
 
-    /// Steps over the subfolder that is done.
+    /// Goes on after a finished subfolder.
     void Finish()
     {
         Level& level = m_levels.back();
@@ -160,7 +160,7 @@ private:
 
     void TellProgress(double fraction)
     {
-        // Shares are rounded: where one folder ends, the next may begin a hair earlier.
+        // Shares are rounded: the next folder may begin slightly before the end of the previous one.
         m_fraction = std::max(m_fraction, fraction);
         m_goesOn = m_observer.OnProgress(m_sum, m_fraction);
     }
@@ -176,7 +176,7 @@ private:
         }
     }
 
-    /// Null when the folder above is another one by now, as after a move.
+    /// Null when the parent folder is a different one now, as after a move.
     static Folder Reopen(DIR* below, const FileId& id)
     {
         Folder folder = below ? OpenFolder(dirfd(below), "..") : nullptr;
@@ -188,7 +188,7 @@ private:
 
     SizeObserver& m_observer;
     FolderSum m_sum;
-    FolderSum m_before;  ///< The sum when the walk entered the folder right below the top that it is in.
+    FolderSum m_before;  ///< The sum when the walk entered the present folder of the first level.
     double m_fraction = 0;
     bool m_goesOn = true;
     std::vector<Level> m_levels;

@@ -6,25 +6,25 @@
 
 namespace gallery {
 
-/// What a folder holds, everything below it and itself included.
+/// The sum of a folder and everything below it.
 struct FolderSum
 {
-    std::uint64_t bytes = 0;       ///< What their sizes are, folders' too; a file with several names counts once.
+    std::uint64_t bytes = 0;       ///< Of all sizes, folders' included; a file with several names counts once.
     std::uint64_t items = 0;       ///< Names of any kind.
-    std::uint64_t unreadable = 0;  ///< Those of them that could not be looked at or, folders, not be read.
+    std::uint64_t unreadable = 0;  ///< Names without a size, and folders that could not be read.
 };
 
-/// Is told how far a sum has come, on the thread that sums.
+/// Gets the progress of a sum, on the thread that sums.
 class SizeObserver
 {
 public:
     virtual ~SizeObserver() = default;
 
-    /// A folder right in the summed one is done.
+    /// A direct subfolder of the summed one is finished.
     virtual void OnSubfolder(const std::string& name, const FolderSum& sum) = 0;
 
-    /// Comes after each item. @a fraction goes from 0 to 1, never back; every folder has an equal share of the one that
-    /// it is in. Returning false ends the walk.
+    /// Called after each item. @a fraction rises from 0 to 1; all subfolders of a folder have equal shares of it.
+    /// Return false to end the walk.
     virtual bool OnProgress(const FolderSum& soFar, double fraction) = 0;
 };
 

@@ -21,7 +21,7 @@ std::size_t Utf8Length(std::string_view text)
     return static_cast<std::size_t>(end - text.data());
 }
 
-/// Calls @a ofText for each byte that UTF-8 is made of, and @a other for each of the rest.
+/// Calls @a ofText for each byte of valid UTF-8, and @a other for each other byte.
 template <typename OfText, typename Other>
 void ForEachByte(std::string_view bytes, OfText ofText, Other other)
 {

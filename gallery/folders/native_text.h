@@ -12,15 +12,16 @@ namespace gallery {
 
 /// @name File names
 ///
-/// A file name is bytes in no particular encoding. The bytes are what files are opened with; a text made from them is
-/// for showing and for the settings.
+/// A file name is bytes in no particular encoding. Files are opened by these bytes; texts made from them are for
+/// display and for the settings.
 /// @{
 
-/// Returns a name or path to be shown: what is not UTF-8 becomes U+FFFD, control characters their pictures.
+/// Returns a name or path for display: bytes that are not UTF-8 become U+FFFD, control characters become their
+/// pictures.
 wxString DisplayText(const std::string& bytes);
 
-/// Returns a path as a text that PathFromText() turns back into the same bytes. Readable UTF-8 stays as it is, the rest
-/// is percent-encoded. The text never holds a "|".
+/// Returns a path as a text that PathFromText() turns back into the same bytes. Printable UTF-8 stays as it is, the
+/// rest is percent-encoded. The text never holds a "|".
 std::wstring TextFromPath(const std::string& path);
 std::string PathFromText(const std::wstring& text);
 
@@ -34,10 +35,10 @@ std::string PathFromDialog(const wxString& path);
 /// "1.2 kB"
 wxString HumanSize(std::uint64_t bytes);
 
-/// "1.2 kB (1,234 bytes)", or "1 byte" where the short form says it all.
+/// "1.2 kB (1,234 bytes)", or "1 byte" where the short form is exact.
 wxString ExactSize(std::uint64_t bytes);
 
-/// The locale's format with its digits grouped: by a blank that never breaks where the locale has no separator.
+/// The locale's format with grouped digits; a no-break space groups them where the locale has no separator.
 CNumberFormat GroupingFormat();
 
 /// "171,661", with the locale's separators, see GroupingFormat().

@@ -17,10 +17,10 @@ using Folder = std::unique_ptr<DIR, CloseFolder>;
 /// Null, with errno set, when the folder cannot be read.
 Folder OpenFolder(int base, const char* path, int flags = 0);
 
-/// The next entry but "." and ".."; null at the end, with errno telling whether it is a real one.
+/// Returns the next entry other than "." and ".."; null at the end, with errno 0, or on an error.
 const dirent* NextEntry(DIR* folder);
 
-/// For fstatat(): describes a link itself, and mounts nothing.
+/// Flags for fstatat(): describe a link itself, and mount nothing.
 constexpr int kLookAtLinks = AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT;
 
 }  // namespace gallery

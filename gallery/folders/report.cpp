@@ -50,7 +50,7 @@ std::string ReportText(const std::string& folder, const std::vector<Entry>& entr
 
 int SaveReport(const std::string& path, const std::string& text)
 {
-    // A link stays one, and a file keeps who may read it.
+    // A link stays a link, and a file keeps its permissions.
     const std::unique_ptr<char, decltype(&std::free)> target(realpath(path.c_str(), nullptr), &std::free);
     const char* const file = target ? target.get() : path.c_str();
     struct stat status;

@@ -4,7 +4,7 @@ namespace gallery {
 
 namespace {
 
-/// How often the progress is told; as often as a person can see.
+/// The time between two reports of progress: as often as a person can see.
 constexpr std::chrono::milliseconds kNewsInterval(40);
 
 }  // namespace

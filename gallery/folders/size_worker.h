@@ -12,10 +12,10 @@
 
 namespace gallery {
 
-/// What a worker has found out since it was asked last.
+/// The results of a worker since TakeNews() was last called.
 struct SizeNews
 {
-    std::vector<std::pair<std::string, FolderSum>> folders;  ///< Names of folders that are done, with their sums.
+    std::vector<std::pair<std::string, FolderSum>> folders;  ///< The finished folders, with their sums.
     FolderSum soFar;
     double fraction = 0;  ///< How much is done, from 0 to 1.
     bool done = false;
@@ -23,12 +23,12 @@ struct SizeNews
 
 /// Adds up a folder and everything below it in the background.
 ///
-/// Its events say only that there is news, to be had from TakeNews(): one lost with its handler loses nothing, and
-/// never is more than one in the queue.
+/// Its events say only that TakeNews() has something new. An event that is lost with its handler loses no result, and
+/// there is never more than one in the queue.
 class SizeWorker : public wxGUIThreadEx, private SizeObserver
 {
 public:
-    /// The int of each event of @a eventType that @a handler gets is @a number, by which it tells workers apart.
+    /// @a handler gets events of @a eventType with the int @a number, which tells workers apart.
     SizeWorker(wxEvtHandler* handler, int eventType, int number, std::string folder);
 
     /// Stops the work and waits until it has ended.
@@ -51,7 +51,7 @@ private:
 
     wxMutex m_newsMutex;  ///< Guards the members below.
     SizeNews m_news;
-    bool m_told = false;  ///< An event is on its way.
+    bool m_told = false;  ///< An event is in the queue.
 };
 
 }  // namespace gallery

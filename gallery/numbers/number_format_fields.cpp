@@ -95,17 +95,17 @@ constexpr Bound kBounds[] = {
     {&CNumberFormat::m_dMax, HasMax, "Max"},
 };
 
-// A choice, not a text field: a template is a printf format, which must never come from a user.
+// A choice, not a text field: a template is a printf format, and users must not enter printf formats.
 const wchar_t* const kTemplates[] = {L"%s", L"%s kg", L"%s \u20AC", L"EUR %s", L"%s %%", L"about %s", L"(%s)"};
 
-/// The field's number in the current locale; 0 while it is none.
+/// The field's number in the current locale; 0 while the text is not a number.
 double NumberIn(const wxTextCtrl& field)
 {
     double number = 0;
     return field.GetValue().ToDouble(&number) ? number : 0;
 }
 
-/// 0 while there is none.
+/// 0 while the field is empty.
 wchar_t CharacterIn(const wxTextCtrl& field)
 {
     const wxString text = field.GetValue();
@@ -122,7 +122,7 @@ wxString CodeOf(wchar_t character)
     return character == 0 ? wxString("none") : wxString::Format("U+%04X", static_cast<unsigned>(character));
 }
 
-/// Numbers of any size, for the fields that set the bounds.
+/// A format for numbers of any size, for the fields that set the bounds.
 CNumberFormat BoundFormat()
 {
     CNumberFormat format(eLocaleFormat);
@@ -212,7 +212,7 @@ void NumberFormatFields::Arrange(int width)
     InvalidateBestSize();
 }
 
-/// What is missing or no value of its field stays as it is in a first session.
+/// A value that is missing or wrong keeps its default.
 void NumberFormatFields::LoadSettings()
 {
     CNumberFormat format(eFixedFormat);
@@ -228,7 +228,7 @@ void NumberFormatFields::LoadSettings()
     }
     format.m_strTemplate = kFormatSettings.Load("Template").wc_str();
     SetFormat(format);
-    // Limits have a value also while they are not in force.
+    // A limit keeps its value while it is not in force.
     for (std::size_t i = 0; i < std::size(kCounts); ++i) {
         m_counts[i]->SetValue(kFormatSettings.LoadNumber(kCounts[i].name, 0, kLargestCount, m_counts[i]->GetValue()));
     }
@@ -325,7 +325,7 @@ wxCheckBox* NumberFormatFields::MakeFlag(std::size_t index)
     return box;
 }
 
-/// A field for one character, between its label and its code: many separators are blanks of some kind.
+/// A field for one character, between its label and the character's code: many separators are blanks that look alike.
 void NumberFormatFields::AddCharacter(wxSizer* grid, std::size_t index)
 {
     auto* label = new wxStaticText(this, wxID_ANY, kCharacters[index].label);
@@ -343,7 +343,7 @@ void NumberFormatFields::AddCharacter(wxSizer* grid, std::size_t index)
     m_codes.push_back(code);
 }
 
-/// Brings the fields in line with each other and says that the format is another.
+/// Updates the fields from each other, and sends EVT_NUMBER_FORMAT_CHANGED.
 void NumberFormatFields::OnChange()
 {
     if (m_settingFormat)

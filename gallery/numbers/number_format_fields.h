@@ -19,7 +19,7 @@ class wxTextCtrl;
 
 namespace gallery {
 
-/// Sent by a NumberFormatFields when the format that it says is another.
+/// Sent by a NumberFormatFields when its format changes.
 wxDECLARE_EVENT(EVT_FORMAT_CHANGED, wxCommandEvent);
 
 /// A control for every field of a CNumberFormat, named after it: "AllowSign", "HasDecimals", "Decimals".
@@ -30,16 +30,16 @@ class NumberFormatFields : public wxPanel
 public:
     explicit NumberFormatFields(wxWindow* parent);
 
-    /// The format that the controls say.
+    /// The format as the controls have it.
     CNumberFormat GetFormat() const;
 
-    /// Makes the controls say @a format. A limit that is not in force keeps its value; a template that is not among
-    /// those offered becomes the plain one.
+    /// Sets the controls to @a format. A limit that is not in force keeps its value; an unknown template becomes the
+    /// plain one.
     void SetFormat(const CNumberFormat& format);
 
     void SaveSettings() const;
 
-    /// Makes the best of @a width pixels.
+    /// Arranges the controls for a width of @a width pixels.
     void Arrange(int width);
 
 private:

@@ -73,7 +73,7 @@ void NumbersPage::SaveSettings() const
 
 void NumbersPage::LoadSettings()
 {
-    // The field may have been left empty.
+    // The field may be empty.
     const bool isFirstSession = kNumberSettings.Load("Validates").empty();
     m_number->ChangeValue(isFirstSession ? wxString(kFirstNumber) : kNumberSettings.Load("Typed"));
     m_kept = kNumberSettings.Load("Kept");
@@ -81,7 +81,7 @@ void NumbersPage::LoadSettings()
     m_validates->SetValue(kNumberSettings.LoadFlag("Validates", true));
 }
 
-/// The number that is typed, and what can be done with it.
+/// Makes the field for the number, and its buttons.
 wxSizer* NumbersPage::MakeTrial()
 {
     wxStaticText* label = MakeHeading(this, "&Number");
@@ -113,7 +113,7 @@ wxSizer* NumbersPage::MakeTrial()
     return rows;
 }
 
-/// What each of the text functions makes of the number.
+/// Makes the rows for the results of the text functions.
 wxSizer* NumbersPage::MakeResults()
 {
     auto* grid = new wxFlexGridSizer(2, FromDIP(wxSize(18, 8)));
@@ -134,7 +134,7 @@ wxSizer* NumbersPage::MakeResults()
     return rows;
 }
 
-/// Makes the best of the page's width. What is higher than the page can be scrolled.
+/// Arranges the page for its width. The page scrolls when its contents are higher.
 void NumbersPage::Arrange()
 {
     const int width = GetClientSize().x - FromDIP(kMargin);
@@ -142,7 +142,7 @@ void NumbersPage::Arrange()
     m_fields->Arrange(width);
 }
 
-/// Gives the number's field a validator of the format, or none.
+/// Gives the number's field a validator with the present format, or none.
 void NumbersPage::UseFormat()
 {
     const bool validates = m_validates->GetValue();
@@ -170,7 +170,7 @@ void NumbersPage::ShowResults()
     m_results[Shown]->SetLabelText(CNumberEditUtils::FormatControlText(typed.wc_str(), format));
 }
 
-/// What a dialog does on OK.
+/// Validates and transfers the number, as a dialog does on OK.
 void NumbersPage::OnKeep()
 {
     wxValidator* validator = m_number->GetValidator();

@@ -17,7 +17,7 @@ namespace gallery {
 
 class NumberFormatFields;
 
-/// A number that is typed, a format for it, and what the one makes of the other.
+/// A field for a number, its format, and the results of both.
 ///
 /// Number and format come back as they were when SaveSettings() was last called.
 class NumbersPage : public wxScrolledWindow
@@ -27,7 +27,7 @@ public:
 
     NumberFormatFields* GetFields() const { return m_fields; }
 
-    /// The number that was kept last.
+    /// The number that was stored last.
     const wxString& GetKept() const { return m_kept; }
 
     void SaveSettings() const;

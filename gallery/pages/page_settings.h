@@ -6,8 +6,8 @@
 
 namespace gallery {
 
-/// What a page remembers between sessions: values by name, in one section of a settings file. Each function reads or
-/// writes the file at once. Someone may have edited it: what is missing or cannot be used gives @a otherwise.
+/// The settings of a page: values by name, in one section of a settings file. Each function reads or writes the file at
+/// once. A value that is missing or that someone has damaged gives @a otherwise.
 class PageSettings
 {
 public:

@@ -5,14 +5,15 @@
 
 namespace gallery {
 
-/// The ratio that the Web Content Accessibility Guidelines 2 define: 1 of equal colours to 21 of black and white.
+/// Returns the contrast ratio of the Web Content Accessibility Guidelines 2: from 1 for equal colours to 21 for black
+/// and white.
 double ContrastRatio(const wxColour& a, const wxColour& b);
 
 /// Returns black or white, whichever is the easier to read on @a background.
 const wxColour& BlackOrWhiteOn(const wxColour& background);
 
-/// Returns @a colour, or as little lighter or darker a one as can be read on @a background: with a contrast ratio of
-/// 4.5.
+/// Returns @a colour, made lighter or darker just so much that it can be read on @a background: with a contrast ratio
+/// of 4.5.
 wxColour ReadableOn(const wxColour& background, const wxColour& colour);
 
 }  // namespace gallery

@@ -19,7 +19,7 @@ struct DemoFile
 {
     const char* path;
     std::int64_t size;
-    int day;  ///< After the first of March 2026.
+    int day;  ///< Days after 1 March 2026.
 };
 
 constexpr DemoFile kFiles[] = {
@@ -94,7 +94,7 @@ bool Fill(const fs::path& root)
 
 }  // namespace
 
-// The plain name, so that pictures show the same path; another one beside a tour that runs now.
+// The plain name when it is free, so that pictures show the same path; another name while another tour runs.
 DemoFolder::DemoFolder() : m_work((fs::temp_directory_path() / "fittings-tour").native())
 {
     if (mkdir(m_work.c_str(), 0700) != 0) {

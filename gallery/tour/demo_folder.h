@@ -5,10 +5,10 @@
 
 namespace gallery {
 
-/// Folders and files for the tour, with the same names, sizes and times everywhere, and room for its settings. All of
-/// it goes when the object does.
+/// Folders and files for the tour, with the same names, sizes and times on every machine, and a folder for its
+/// settings. The destructor removes them.
 ///
-/// The files have their sizes, but take no space.
+/// The files are sparse: they have sizes, but take no space.
 class DemoFolder
 {
 public:

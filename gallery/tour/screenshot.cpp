@@ -16,7 +16,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-// So long nothing changes before a picture is taken.
+// Nothing must change for so long before a picture is taken.
 constexpr std::chrono::milliseconds kStill(400);
 
 struct Unref
@@ -41,7 +41,7 @@ bool AreEqual(const Pixels& a, const Pixels& b)
                        gdk_pixbuf_get_byte_length(a.get())) == 0;
 }
 
-// Where a window is to be and nothing of it is drawn yet.
+// True for a window that is not drawn yet.
 bool IsOfOneColour(const Pixels& pixels)
 {
     const guint8* const bytes = gdk_pixbuf_read_pixels(pixels.get());
@@ -68,7 +68,7 @@ bool SaveScreenshot(GtkWidget* window, const std::string& path)
     Pixels seen;
     Clock::time_point changed = Clock::now();
     const bool stands = simulated_user::WaitUntil([&] {
-        // Where it is now: a window that was just shown may not have its place and decorations yet.
+        // Ask each time: a window that was just shown may not have its place and decorations yet.
         Pixels now = ReadScreen(FrameRect(window));
         if (!AreEqual(seen, now) || IsOfOneColour(now))
             changed = Clock::now();

@@ -10,8 +10,8 @@ namespace gallery {
 /// True where the pixels of the screen can be read: on an X display.
 bool CanReadScreen();
 
-/// Writes what the screen shows of a top-level window with its decorations as a PNG file, once something is drawn and
-/// no longer changes. False when it never stands still, cannot be read or the file cannot be written.
+/// Writes a top-level window with its decorations as the screen shows it to a PNG file, once it is drawn and no longer
+/// changes. False when it keeps changing, or when the screen cannot be read or the file not be written.
 bool SaveScreenshot(_GtkWidget* window, const std::string& path);
 
 }  // namespace gallery

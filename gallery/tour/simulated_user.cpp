@@ -20,7 +20,7 @@ void HandleEvents()
     wxEventLoopBase* loop = wxEventLoopBase::GetActive();
     while (loop->Pending())
         loop->Dispatch();
-    // Asking for pending events switches the loop's own idle handling off.
+    // Pending() turns off the loop's idle handling, so do it here.
     wxTheApp->ProcessPendingEvents();
     loop->ProcessIdle();
 }
@@ -50,7 +50,7 @@ void Click(const wxPoint& point)
 void DoubleClick(const wxPoint& point)
 {
     PointAt(point);
-    // On a busy machine the second click may come late.
+    // On a busy machine the second click may come too late for a double click.
     GdkDisplay* const display = gdk_display_get_default();
     gdk_display_set_double_click_time(display, 60000);
     wxUIActionSimulator().MouseDblClick();
@@ -136,7 +136,7 @@ wxRect HeaderRect(const ContentsList& list, SortColumn column)
 
 wxRect NameRect(const ContentsList& list, unsigned row)
 {
-    // From the left, wherever reading begins.
+    // Counted from the left in both reading directions.
     wxRect rect = list.GetItemRect(list.ItemOf(row), list.GetColumn(0));
     rect.Offset(WindowRect(list).GetPosition());
     return rect;

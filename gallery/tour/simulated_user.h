@@ -16,7 +16,7 @@ namespace gallery {
 class ContentsList;
 enum class SortColumn;
 
-/// A person at the mouse and the keyboard: the windows get real input events. X11 only; a top-level window must exist.
+/// Simulates a person at the mouse and the keyboard by real input events. X11 only; a top-level window must exist.
 namespace simulated_user {
 
 /// Runs the event loop until @a done says so; false when it did not within @a milliseconds.
@@ -29,15 +29,15 @@ void DoubleClick(const wxPoint& point);
 void Drag(const wxPoint& from, const wxPoint& to);
 void PointAt(const wxPoint& point);
 void Press(int key, int modifiers = wxMOD_NONE);
-/// Makes @a part of a window wider: drags the border at its end, or @a gap pixels behind it, where reading goes on.
+/// Makes @a part of a window wider: drags the border at its end in reading direction, or @a gap pixels after it.
 void Widen(const wxWindow& window, const wxRect& part, int pixels, int gap = 0);
 /// @}
 
-/// @name What to point at, on the screen; empty when it cannot be seen
+/// @name Rectangles on the screen to point at; empty when they are not visible
 /// @{
 wxPoint CentreOf(const wxRect& rect);
 wxRect WidgetRect(_GtkWidget* widget);
-/// Not GetScreenRect(), which begins where the window ends when reading goes from right to left.
+/// Use this in place of GetScreenRect(), which begins at the wrong side for languages read from right to left.
 wxRect WindowRect(const wxWindow& window);
 wxRect LabelRect(const wxTreeCtrl& tree, const wxTreeItemId& item);
 wxRect HeaderRect(const ContentsList& list, SortColumn column);

@@ -30,7 +30,7 @@ namespace {
 
 using namespace simulated_user;
 
-/// The file or folder dialog on the screen, if there is one. The toolkit does not list it among its windows.
+/// The open file or folder dialog, if any. The toolkit does not list it among its windows.
 GtkWidget* FindFileDialog()
 {
     GList* windows = gtk_window_list_toplevels();
@@ -43,7 +43,7 @@ GtkWidget* FindFileDialog()
     return dialog;
 }
 
-/// Waits for such a dialog inside the dialog's own event loop, and ends it when the visit does not.
+/// Visits such a dialog from inside the dialog's own event loop, and closes it when the visit has not.
 class DialogVisitor : public wxTimer
 {
 public:
@@ -78,14 +78,14 @@ std::string FileIn(GtkWidget* dialog)
     return path;
 }
 
-/// The place on the screen of the button that chooses; empty while it does nothing.
+/// The place on the screen of the accepting button; empty while the button is disabled.
 wxRect AcceptButton(GtkWidget* dialog)
 {
     GtkWidget* button = gtk_dialog_get_widget_for_response(GTK_DIALOG(dialog), GTK_RESPONSE_ACCEPT);
     return button && gtk_widget_is_sensitive(button) ? WidgetRect(button) : wxRect();
 }
 
-/// What must be the same in the next session.
+/// The state that must be the same in the next session.
 struct State
 {
     explicit State(GalleryFrame& frame) : window(frame.GetRect())
@@ -124,7 +124,7 @@ Tour::Tour(const std::string& pictures, const std::string& folder)
     : m_pictures(pictures), m_folder(folder.empty() ? m_demo.Path() : folder)
 {
     std_file_paths::SetUserDataDir(file_util_ex::ConvertFromUTF8W(m_demo.SettingsPath()));
-    // A picture is taken of what does not change.
+    // A picture needs a window that no longer changes.
     g_object_set(gtk_settings_get_default(), "gtk-cursor-blink", FALSE, nullptr);
 }
 
@@ -138,7 +138,7 @@ bool Tour::Run()
         std::puts("The tour cannot make its folders.");
         return false;
     }
-    // Whatever hangs, the program ends.
+    // End the program even when a step hangs.
     alarm(120);
 
     const struct
@@ -197,7 +197,7 @@ bool Tour::ExpandByKeyboard()
     if (!Waits([&] { return tree.HasFocus() && tree.GetSelection().item == tree.GetRootItem(); }, "a click selects"))
         return false;
 
-    // Down to the last folder that can be expanded, and into it, as long as there is one and it can be seen.
+    // Expand the last visible folder that can be expanded, level by level.
     for (int level = 0; level < 2; ++level) {
         const wxTreeItemId start = tree.GetSelection().item;
         wxTreeItemIdValue cookie;
@@ -408,7 +408,7 @@ bool Tour::SavePicture(const char* component, const wxPoint& pointer)
     return IsTrue(SaveScreenshot(m_frame->GetHandle(), m_pictures + "/" + component + ".png"), "the picture is taken");
 }
 
-/// Closes the window as a person does and opens the next session's.
+/// Closes the window as a person does, and opens that of the next session.
 bool Tour::Reopen()
 {
     m_frame->Close();

@@ -14,16 +14,16 @@ namespace gallery {
 
 class GalleryFrame;
 
-/// The program shown by itself: drives its window with simulated input and takes a picture of each component.
+/// A tour of the program: drives its window by simulated input and takes a picture of each component.
 ///
-/// It browses a folder that it makes, unless it is given one, and keeps its settings apart from the user's.
+/// It browses a folder that it makes, or the given one, and keeps its settings apart from the user's.
 class Tour
 {
 public:
     /// Pictures go into the folder @a pictures, which is made when it is missing.
     Tour(const std::string& pictures, const std::string& folder);
 
-    /// Says on the standard output how each step went; true when all did what they should. Needs an active event loop.
+    /// Prints the result of each step; returns true when all steps succeeded. Needs an active event loop.
     bool Run();
 
 private:
@@ -50,7 +50,7 @@ private:
     bool FolderGets(int cell);
     bool SavePicture(const char* component);
 
-    /// Leaves the pointer where it is wanted in the picture.
+    /// Leaves the pointer at its place in the picture.
     bool SavePicture(const char* component, const wxPoint& pointer);
     bool Reopen();
 

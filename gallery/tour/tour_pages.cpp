@@ -1,4 +1,4 @@
-// The tour's steps on the pages beside the browser.
+// The tour's steps on the pages other than the browser.
 
 #include <wx/dataview.h>
 #include <wx/notebook.h>
@@ -24,7 +24,7 @@ using namespace simulated_user;
 
 namespace {
 
-// Of the palette.
+// A colour of the palette.
 constexpr int kOrange = 9;
 constexpr int kGreen = 11;
 constexpr int kViolet = 22;
@@ -45,7 +45,7 @@ bool Tour::OpenFolderColours()
     return Waits([&] { return combo.GetColourPopup()->IsShownOnScreen(); }, "Ctrl+T opens the colours");
 }
 
-/// Whether the colours close and the selected folder has been given one of the palette.
+/// Returns whether the popup closes and the selected folder has the chosen colour.
 bool Tour::FolderGets(int cell)
 {
     const FolderColourCombo& combo = *m_frame->GetBrowser()->GetColour();
@@ -63,7 +63,7 @@ bool Tour::ColourFolder()
     const wxColourPopup& colours = *m_frame->GetBrowser()->GetColour()->GetColourPopup();
     if (!OpenFolderColours())
         return false;
-    // From "More Colours..." over "Automatic" and black to the second row, where the fourth is a green.
+    // From "More Colours..." over "Automatic" and black to the second row, whose fourth cell is a green.
     for (const int key : {WXK_DOWN, WXK_DOWN, WXK_DOWN, WXK_DOWN, WXK_RIGHT, WXK_RIGHT, WXK_RIGHT})
         Press(key);
     if (!Waits([&] { return colours.GetStringValue() == GetColourName(kGreen); },

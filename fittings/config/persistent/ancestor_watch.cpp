@@ -24,7 +24,7 @@ AncestorWatch::AncestorWatch(wxWindow& window, std::function<void()> isGoing)
         ancestor = ancestor->GetParent();
         ancestor->Bind(wxEVT_DESTROY, [call = m_isGoing, ancestor, &window](wxWindowDestroyEvent& event) {
             event.Skip();
-            // The event of any window below comes here, too; and the window may have another parent now.
+            // Events of all windows below arrive here, too, and the window may have a new parent.
             if (*call && event.GetEventObject() == ancestor && IsAbove(ancestor, &window))
                 (*call)();
         });

@@ -10,8 +10,8 @@ class wxWindow;
 
 namespace fittings {
 
-/// Tells when one of the windows around a window is about to go, while the window itself is still whole. Some windows,
-/// such as books, delete what is in them so that it hears of it too late.
+/// Reports when a window's ancestor is about to be destroyed, while the window itself is still whole. Some windows,
+/// such as books, delete their children in a way that would tell the child too late.
 class AncestorWatch
 {
 public:

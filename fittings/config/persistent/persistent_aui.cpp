@@ -4,8 +4,9 @@
 
 #include <fittings/config/aui_layout.h>
 
-// A manager is no window, and nothing tells when UnInit() ends its work, so the layout is noted whenever it is drawn,
-// and when the window is about to close. The last one that was noted is stored when the manager or its window goes.
+// A manager is not a window, and no event tells when UnInit() is called. So the layout is recorded whenever it is
+// drawn, and when the window is about to close. The last recorded one is stored when the manager or its window is
+// destroyed.
 
 class wxPersistentAui::Watch
 {
@@ -22,7 +23,7 @@ public:
         manager->Bind(wxEVT_AUI_RENDER, note);
         manager->Bind(wxEVT_CLOSE_WINDOW, note);
 
-        // The manager handles the events of its window. After UnInit() it does so no more.
+        // Until UnInit() the manager handles the events of its window.
         wxWindow* const window = manager->GetManagedWindow();
         const auto end = [watch, window](wxWindowDestroyEvent& event) {
             event.Skip();
@@ -35,7 +36,7 @@ public:
         if (window)
             window->Bind(wxEVT_DESTROY, end);
 
-        // The handlers of a manager are the last that goes with it.
+        // The handlers of a manager are destroyed last.
         struct Guard
         {
             explicit Guard(std::shared_ptr<Watch> toEnd) : watch(std::move(toEnd)) {}
@@ -54,14 +55,14 @@ public:
 
     void Note()
     {
-        // Without a window to manage, a manager has laid out nothing that is worth remembering.
+        // A manager without a window has no layout.
         if (m_manager && m_manager->GetManagedWindow())
             m_layout = m_manager->SavePerspective();
     }
 
     void ForgetOwner() { m_owner = nullptr; }
 
-    /// Stores the layout and lets the persistent object go, if it has not gone yet.
+    /// Stores the layout and removes the persistent object, if it is still there.
     void End()
     {
         if (m_owner)

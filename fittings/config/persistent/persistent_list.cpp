@@ -21,7 +21,7 @@ wxString ToText(const std::vector<int>& numbers)
     return text;
 }
 
-/// Reads one number for each column, of 0 to @a most; none where the text is anything else.
+/// Reads one number from 0 to @a most for each column; returns none when the text is anything else.
 std::optional<std::vector<int>> FromText(const wxString& text, std::size_t columns, long most)
 {
     std::vector<int> numbers;
@@ -103,7 +103,7 @@ std::optional<wxPersistentListCtrl::State> wxPersistentListCtrl::GetState() cons
     std::vector<int> widths;
     for (int column = 0; column < list->GetColumnCount(); ++column)
         widths.push_back(list->GetColumnWidth(column));
-    // Empty where the columns have no order but their own.
+    // Empty when the columns cannot be reordered.
     const wxArrayInt order = list->GetColumnsOrder();
     return State{ToText(widths), ToText(std::vector<int>(order.begin(), order.end()))};
 }

@@ -46,7 +46,7 @@ bool wxPersistentTreeCtrl::Restore()
     if (!steps)
         return false;
     fittings::RestoreSteps(*tree, *steps);
-    // A tree that is not shown yet has not its size.
+    // A tree that is not shown yet does not have its final size.
     ForgetFirstInView();
     m_scrollTo = text;
     if (!text.empty())

@@ -7,16 +7,16 @@
 
 namespace {
 
-/// The toolkit does not bear many times more levels that are expanded.
+/// The most levels. The toolkit's recursion overflows the stack with many times more expanded levels.
 constexpr std::size_t kDeepest = 10'000;
 
-/// A place among the children of an item: a step takes the same time wherever it is made.
+/// A place among the children of an item. Each step takes constant time.
 class Children
 {
 public:
     Children(const wxTreeCtrl& tree, const wxTreeItemId& parent) : m_tree(tree), m_parent(parent) {}
 
-    /// Null after the last one.
+    /// The child at this place; null after the last one.
     wxTreeItemId Next()
     {
         return std::exchange(m_isAtStart, false) ? m_tree.GetFirstChild(m_parent, m_cookie)
@@ -35,8 +35,8 @@ bool IsHiddenRoot(const wxTreeCtrl& tree, const wxTreeItemId& item)
     return tree.HasFlag(wxTR_HIDE_ROOT) && item == tree.GetRootItem();
 }
 
-/// Returns the first item whose top is in view. The one above it, of which a part is in view, would move down by that
-/// part each time that it is scrolled to.
+/// Returns the first item whose top is in view. Restoring an item that is only partly in view would scroll the tree a
+/// little each time.
 wxTreeItemId FirstInView(const wxTreeCtrl& tree)
 {
     const int height = tree.GetClientSize().y;
@@ -46,7 +46,7 @@ wxTreeItemId FirstInView(const wxTreeCtrl& tree)
         const wxTreeItemId item = tree.HitTest(wxPoint(1, y), flags);
         wxRect rect;
         if (!item.IsOk() || !tree.GetBoundingRect(item, rect))
-            ++y;  // On the line between two items, which belongs to neither.
+            ++y;  // the line between two items belongs to neither
         else if (rect.y >= 0)
             return item;
         else
@@ -55,7 +55,7 @@ wxTreeItemId FirstInView(const wxTreeCtrl& tree)
     return {};
 }
 
-/// Walks over a tree and notes the items that matter, each with the steps to it.
+/// Walks over a tree and records the expanded, selected and first visible items, each with the steps to it.
 class Walk
 {
 public:
@@ -88,7 +88,7 @@ private:
         wxTreeItemId item;
         Children children;
         bool isNoted;
-        // For the numbers among equal labels: what has been counted, up to the child that was noted last.
+        // To number equal labels: the counts up to the child that was recorded last.
         Children counting;
         std::unordered_map<std::wstring, std::size_t> counts;
     };
@@ -142,7 +142,7 @@ private:
     const wxTreeCtrl& m_tree;
     wxArrayTreeItemIds m_selected;
     wxTreeItemId m_firstInView;
-    std::vector<Level> m_levels;  // The items above the one being visited.
+    std::vector<Level> m_levels;  // the items above the one being visited
     fittings::TreeSteps m_steps;
 };
 

@@ -13,7 +13,7 @@
 
 namespace fittings {
 
-/// A step of a path in a tree: it leads down from the last step before it that is one level higher.
+/// A step of a path in a tree. Its parent is the nearest step before it that is one level higher.
 struct TreeStep
 {
     std::size_t level = 0;   ///< 0 for the root.
@@ -26,23 +26,23 @@ struct TreeStep
 
 using TreeSteps = std::vector<TreeStep>;
 
-/// The steps to the items of a tree that are expanded or selected, and to the first one whose top is in view, in the
-/// order in which the tree shows them. Levels that are collapsed are looked into, too.
+/// Returns the steps to the expanded and selected items of a tree, and to the first one whose top is in view, in the
+/// order of the tree. Includes items inside collapsed levels.
 TreeSteps StepsOf(const wxTreeCtrl& tree);
 
-/// The steps as a text, such as "0+:|1+:Sun|2*:Earth|2#2:Earth|3^:Moon|": the level; "+" when expanded, "*" when
-/// selected, "^" when the first in view; the number from 2 on; and the label, with a "\" before each "|" and "\", and
-/// "\0" for a null.
+/// Returns the steps as a text, such as "0+:|1+:Sun|2*:Earth|2#2:Earth|3^:Moon|": the level; "+" when expanded, "*"
+/// when selected, "^" when the first in view; "#" and the number from 2 on; and the label, with a "\" before each "|"
+/// and "\", and "\0" for a null.
 std::wstring ToText(const TreeSteps& steps);
 
-/// Reads such a text; none where ToText() cannot have written it.
+/// Reads such a text; returns none when ToText() cannot have written it.
 std::optional<TreeSteps> FromText(std::wstring_view text);
 
-/// Expands the items that are, and then selects those that are. Bears that the handlers of the expansions add and
-/// delete items.
+/// Expands the items that were expanded, and then selects those that were selected. Handlers of the expansions may add
+/// and delete items.
 void RestoreSteps(wxTreeCtrl& tree, const TreeSteps& steps);
 
-/// Makes the first item in view the topmost, as far as the tree can be scrolled.
+/// Scrolls the item that was the first in view to the top, as far as the tree can be scrolled.
 void ScrollToSteps(wxTreeCtrl& tree, const TreeSteps& steps);
 
 }  // namespace fittings

@@ -7,8 +7,8 @@
 
 namespace {
 
-/// Follows steps down a tree. A handler of what happens on the way may change the tree: an item that is deleted is not
-/// touched any more.
+/// Follows steps down a tree. Handlers of the events on the way may change the tree: a deleted item is not used any
+/// more.
 class Descent
 {
 public:
@@ -25,7 +25,7 @@ public:
     /// Returns the item that the next step leads to; null when there is none.
     wxTreeItemId Go(const fittings::TreeStep& step)
     {
-        // A level that was not found is missed by what is below it.
+        // Below a level that was not found, nothing is found.
         if (step.level > m_levels.size())
             return {};
         m_levels.erase(m_levels.begin() + static_cast<std::ptrdiff_t>(step.level), m_levels.end());
@@ -35,7 +35,7 @@ public:
         return item;
     }
 
-    /// Keeps an item until it is asked for, unless it is deleted first.
+    /// Keeps items until they are taken; drops those that are deleted.
     void Keep(const wxTreeItemId& item) { m_kept.push_back(item); }
 
     /// Takes the item that was kept first and is still there; null when there is none.
@@ -53,7 +53,7 @@ private:
     struct Level
     {
         wxTreeItemId item;
-        bool isKnown;  // The children are in the map.
+        bool isKnown;  // the children are in the map
         std::unordered_map<std::wstring, std::vector<wxTreeItemId>> children;
     };
 
@@ -90,7 +90,7 @@ private:
     }
 
     wxTreeCtrl& m_tree;
-    std::vector<Level> m_levels;  // The root and the steps below it that were gone last.
+    std::vector<Level> m_levels;  // the root and the steps below it that were followed last
     std::vector<wxTreeItemId> m_kept;
     std::size_t m_taken = 0;
 };
@@ -109,7 +109,7 @@ void RestoreSteps(wxTreeCtrl& tree, const TreeSteps& steps)
             const wxTreeItemId item = descent.Go(step);
             if (!item.IsOk())
                 continue;
-            // First: the handlers of the expansion may delete the item.
+            // Do this first: the handlers of the expansion may delete the item.
             if (step.isSelected)
                 descent.Keep(item);
             // The toolkit keeps a hidden root expanded, and asserts when it is to be expanded again.

@@ -11,7 +11,7 @@ std::shared_ptr<WindowRecord> WindowRecord::Attach(wxWindow& window, std::functi
 {
     const auto record = std::make_shared<WindowRecord>(std::move(atEnd));
     record->m_self = record;
-    // The handlers of a window are the last that goes with it, after its children.
+    // The handlers of a window are destroyed last, after its children.
     window.Bind(wxEVT_DESTROY, [record](wxWindowDestroyEvent& event) { event.Skip(); });
     return record;
 }
@@ -38,7 +38,7 @@ void WindowRecord::Follow(wxTopLevelWindow& window)
 
 void WindowRecord::Note(const wxTopLevelWindow& window)
 {
-    // The size of a window that is being maximised can come before the news that it is.
+    // The size event of a window that is being maximised may come before its maximise event.
     const wxRect rect = window.GetRect();
     if (window.IsShown() && !IsOutOfItsPlace(window) && !CoversWorkArea(rect))
         m_normal = rect;

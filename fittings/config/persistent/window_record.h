@@ -14,11 +14,11 @@ class wxWindow;
 
 namespace fittings {
 
-/// What is known of a window for as long as it lives: the window itself keeps the object.
+/// Data about a window, owned by the window.
 class WindowRecord
 {
 public:
-    /// Attaches a new object to @a window. @a atEnd is called when the window is gone, and all of its children are.
+    /// Attaches a new object to @a window. @a atEnd is called when the window and all of its children are gone.
     static std::shared_ptr<WindowRecord> Attach(wxWindow& window, std::function<void()> atEnd);
 
     explicit WindowRecord(std::function<void()> atEnd) : m_atEnd(std::move(atEnd)) {}
@@ -26,16 +26,16 @@ public:
     WindowRecord(const WindowRecord&) = delete;
     WindowRecord& operator=(const WindowRecord&) = delete;
 
-    /// Follows where the window is while it is neither maximised, nor on the full screen, nor iconised.
+    /// Records the window's place while it is neither maximised, nor on the full screen, nor iconised.
     void Follow(wxTopLevelWindow& window);
 
-    /// Whether the window is maximised, or was when it was hidden: the system then forgets it.
+    /// True when the window is maximised, or was when it was hidden: the system forgets that for hidden windows.
     bool IsMaximized(const wxTopLevelWindow& window) const;
 
-    /// Whether the window has a place and size of its own to come back to, NormalRect().
+    /// True when the window has a normal place and size, NormalRect().
     bool IsOutOfItsPlace(const wxTopLevelWindow& window) const;
 
-    /// The place and size that were seen last; none before Follow().
+    /// The last normal place and size; none before Follow().
     const std::optional<wxRect>& NormalRect() const { return m_normal; }
 
 private:
@@ -43,7 +43,7 @@ private:
 
     const std::function<void()> m_atEnd;
     std::optional<wxRect> m_normal;
-    bool m_wasMaximized = false;  // When it was hidden.
+    bool m_wasMaximized = false;  // when it was hidden
     std::weak_ptr<WindowRecord> m_self;
 };
 
