@@ -15,7 +15,7 @@ class wxTextCtrl;
 
 namespace gallery {
 
-/// Sent by a ColourOptionFields when the options that it says are others.
+/// Sent by a ColourOptionFields when its options change.
 wxDECLARE_EVENT(EVT_COLOUR_OPTIONS_CHANGED, wxCommandEvent);
 
 /// A control for each of the ColourOptions: "HasAutomatic", "Automatic", "CellSize".
@@ -26,12 +26,12 @@ class ColourOptionFields : public wxPanel
 public:
     explicit ColourOptionFields(wxWindow* parent);
 
-    /// The options that the controls say.
+    /// The options as the controls have them.
     ColourOptions GetOptions() const;
 
     void SaveSettings() const;
 
-    /// Makes the best of @a width pixels.
+    /// Arranges the controls for a width of @a width pixels.
     void Arrange(int width);
 
 private:

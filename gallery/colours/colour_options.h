@@ -9,7 +9,7 @@ class wxWindow;
 
 namespace gallery {
 
-/// What can be set of a colour combo and its popup; at first as the library has it.
+/// The options of a colour combo and its popup, with the library's defaults.
 struct ColourOptions
 {
     bool hasAutomatic = true;
@@ -21,7 +21,7 @@ struct ColourOptions
     /// @name For a host with a popup of its own class
     /// @{
     int columns = 8;
-    int cellSize = 18;  ///< Pixels; a cell is at least as large as the margin needs it.
+    int cellSize = 18;  ///< Pixels; a large margin makes a cell larger.
     int margin = 2;     ///< Pixels.
     /// @}
 

@@ -16,10 +16,10 @@ namespace gallery {
 
 class ColourOptionFields;
 
-/// A colour combo with each of its options, what its host hears of it, and what the colour looks like.
+/// A colour combo, controls for its options, a list of its calls and events, and a preview of the colour.
 ///
-/// Options and colour come back as they were when SaveSettings() was last called. Other options make another combo, as
-/// they are set before the popup is shown.
+/// Options and colour come back as they were when SaveSettings() was last called. A change of the options makes a new
+/// combo, as they must be set before the popup is shown.
 class ColoursPage : public wxScrolledWindow
 {
 public:

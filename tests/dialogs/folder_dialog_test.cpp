@@ -21,9 +21,10 @@
 
 namespace {
 
-using Ask = wxString(wxWindow*, const wchar_t*, const wchar_t*);
-static_assert(std::is_same_v<decltype(wxFolderDlg::DoModal), Ask>);
-static_assert(std::is_same_v<decltype(wxFolderDlg::DoModalReg), Ask>);
+// Selects the overloads by their arguments.
+using Ask = wxString (*)(wxWindow*, const wchar_t*, const wchar_t*);
+[[maybe_unused]] constexpr Ask kAsk = wxFolderDlg::DoModal;
+[[maybe_unused]] constexpr Ask kAskAndRemember = wxFolderDlg::DoModalReg;
 
 struct Made
 {
