@@ -23,11 +23,11 @@ std::wstring_view View(const wxString& text)
 
 // A place among the children of an item. A step takes constant time, unlike GetNextSibling(), which searches for its
 // item.
-class Place
+class ChildCursor
 {
 public:
     // Returns the child at this place, or null after the last one, and moves on to the next place.
-    wxTreeItemId Step(const wxTreeCtrl& tree, const wxTreeItemId& parent)
+    wxTreeItemId Next(const wxTreeCtrl& tree, const wxTreeItemId& parent)
     {
         return std::exchange(m_first, false) ? tree.GetFirstChild(parent, m_cookie)
                                              : tree.GetNextChild(parent, m_cookie);
@@ -55,18 +55,18 @@ public:
 
     void Run(const wxTreeItemId& start)
     {
-        m_path.push_back({start, Place(), Place()});
+        m_path.push_back({start, ChildCursor(), ChildCursor()});
         do
             Visit();
         while (Descend() || Advance());
     }
 
 private:
-    struct Step
+    struct VisitedItem
     {
         wxTreeItemId item;  // null once it is deleted
-        Place here;         // Where the item was among its siblings when it was found.
-        Place next;
+        ChildCursor here;   // Where the item was among its siblings when it was found.
+        ChildCursor next;
     };
 
     void Visit()
@@ -88,11 +88,11 @@ private:
         const wxTreeItemId parent = m_path.back().item;
         if (!parent.IsOk() || !m_tree.ItemHasChildren(parent))
             return false;
-        Step step;
-        step.item = step.next.Step(m_tree, parent);
-        if (!step.item.IsOk())
+        VisitedItem visited;
+        visited.item = visited.next.Next(m_tree, parent);
+        if (!visited.item.IsOk())
             return false;
-        m_path.push_back(step);
+        m_path.push_back(visited);
         return true;
     }
 
@@ -100,39 +100,39 @@ private:
     bool Advance()
     {
         for (; m_path.size() > 1; m_path.pop_back()) {
-            Step& step = m_path.back();
+            VisitedItem& visited = m_path.back();
             const wxTreeItemId parent = m_path[m_path.size() - 2].item;
-            FindAgain(step, parent);
-            step.here = step.next;
-            step.item = step.next.Step(m_tree, parent);
-            if (step.item.IsOk())
+            FindAgain(visited, parent);
+            visited.here = visited.next;
+            visited.item = visited.next.Next(m_tree, parent);
+            if (visited.item.IsOk())
                 return true;
         }
         return false;
     }
 
-    // Corrects the places of a step whose siblings have changed. When the item itself is deleted, its next sibling has
+    // Corrects the places of an item whose siblings have changed. When the item is deleted, its next sibling has
     // its place now.
-    void FindAgain(Step& step, const wxTreeItemId& parent) const
+    void FindAgain(VisitedItem& visited, const wxTreeItemId& parent) const
     {
-        Place same = step.here;
-        if (step.item.IsOk() && same.Step(m_tree, parent) == step.item)
+        ChildCursor same = visited.here;
+        if (visited.item.IsOk() && same.Next(m_tree, parent) == visited.item)
             return;
-        Place place;
-        for (wxTreeItemId child = place.Step(m_tree, parent); child.IsOk(); child = place.Step(m_tree, parent)) {
-            if (child == step.item) {
-                step.next = place;
+        ChildCursor place;
+        for (wxTreeItemId child = place.Next(m_tree, parent); child.IsOk(); child = place.Next(m_tree, parent)) {
+            if (child == visited.item) {
+                visited.next = place;
                 return;
             }
         }
-        step.next = step.here;
+        visited.next = visited.here;
     }
 
     void OnDeleteItem(wxTreeEvent& event)
     {
         event.Skip();
-        const auto deleted =
-            std::find_if(m_path.begin(), m_path.end(), [&](const Step& step) { return step.item == event.GetItem(); });
+        const auto deleted = std::find_if(m_path.begin(), m_path.end(),
+                                          [&](const VisitedItem& visited) { return visited.item == event.GetItem(); });
         if (deleted == m_path.end())
             return;
         deleted->item.Unset();
@@ -141,7 +141,8 @@ private:
 
     wxTreeCtrl& m_tree;
     const Labels& m_labels;
-    std::vector<Step> m_path;  // From the start to the item being visited: a deep tree must not use up the stack.
+    std::vector<VisitedItem>
+        m_path;  // From the start to the item being visited: a deep tree must not use up the stack.
 };
 
 // What follows the last separator is no label.
@@ -186,7 +187,7 @@ std::wstring ExpandedLabels(const wxTreeCursor& start)
     struct Level
     {
         wxTreeItemId parent;
-        Place place;
+        ChildCursor place;
     };
     const wxTreeCtrl& tree = *start.tree;
     std::vector<Item> items;
@@ -194,12 +195,12 @@ std::wstring ExpandedLabels(const wxTreeCursor& start)
     const auto visit = [&](const wxTreeItemId& item) {
         items.push_back({tree.GetItemText(item).ToStdWstring(), tree.IsExpanded(item)});
         if (tree.ItemHasChildren(item))
-            levels.push_back({item, Place()});
+            levels.push_back({item, ChildCursor()});
     };
     visit(start.item);
     while (!levels.empty()) {
         Level& level = levels.back();
-        const wxTreeItemId child = level.place.Step(tree, level.parent);
+        const wxTreeItemId child = level.place.Next(tree, level.parent);
         if (child.IsOk())
             visit(child);
         else

@@ -13,7 +13,7 @@
 // Replaces the toolkit's function.
 bool wxAuiManager::LoadPerspective(const wxString& layout, bool update)
 {
-    Note(L"lay out", {layout.ToStdWstring(), update ? L"at once" : L"later"});
+    RecordCall(L"lay out", {layout.ToStdWstring(), update ? L"at once" : L"later"});
     return false;
 }
 

@@ -29,7 +29,7 @@ protected:
     static AskedFile Ask(int result, const wxString& path, const wchar_t* folder = L"")
     {
         FileAnswer answer(result, path);
-        answer.whileShown = [] { Note(L"show"); };
+        answer.whileShown = [] { RecordCall(L"show"); };
         CQVFileDialogI::LaunchSaveDialog(nullptr, L"", L"", L"", folder, L"");
         return answer.Asked();
     }
@@ -114,7 +114,7 @@ protected:
 private:
     int Enter(wxDialog*) override
     {
-        Note(L"show");
+        RecordCall(L"show");
         return m_result;
     }
 };
@@ -175,6 +175,6 @@ TEST_F(FolderDialogCalls, OfADialogThatIsCancelled)
 // Replaces the library's function.
 wxString wxFolderDlg::DoModal(wxWindow*, const wchar_t* initialFolder, const wchar_t* message)
 {
-    Note(L"show", {initialFolder, message ? message : L"(null)"});
+    RecordCall(L"show", {initialFolder, message ? message : L"(null)"});
     return g_chosenFolder;
 }

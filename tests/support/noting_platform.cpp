@@ -8,7 +8,7 @@
 
 NotingPlatform g_platform;
 
-void Note(const std::wstring& operation, const std::vector<std::wstring>& arguments)
+void RecordCall(const std::wstring& operation, const std::vector<std::wstring>& arguments)
 {
     std::wstring call = operation;
     for (const std::wstring& argument : arguments)
@@ -55,37 +55,37 @@ CLocalRegStore::Batch::~Batch()
 
 bool CLocalRegStore::Batch::Save()
 {
-    Note(L"save batch");
+    RecordCall(L"save batch");
     return g_platform.saves;
 }
 
 CIniFile* CLocalRegStore::CreateInitFile(bool reserved)
 {
-    Note(reserved ? L"create true" : L"create false");
+    RecordCall(reserved ? L"create true" : L"create false");
     return new CIniFile;
 }
 
 bool CLocalRegStore::Load(CIniFile&, const wchar_t* path)
 {
-    Note(L"load", {path});
+    RecordCall(L"load", {path});
     return g_platform.loads;
 }
 
 std::wstring CLocalRegStore::GetString(const CIniFile&, const wchar_t* section, const wchar_t* key,
                                        const wchar_t* defaultValue)
 {
-    Note(L"get", {section, key, defaultValue});
+    RecordCall(L"get", {section, key, defaultValue});
     return g_platform.stored;
 }
 
 void CLocalRegStore::WriteString(CIniFile&, const wchar_t* section, const wchar_t* key, const wchar_t* value)
 {
-    Note(L"write", {section, key, value});
+    RecordCall(L"write", {section, key, value});
 }
 
 bool CLocalRegStore::Save(const CIniFile&, const wchar_t* path)
 {
-    Note(L"save", {path});
+    RecordCall(L"save", {path});
     return g_platform.saves;
 }
 
@@ -97,123 +97,123 @@ void CLocalRegStore::DestroyIniFile(CIniFile* ini)
 
 std::wstring CLocalRegStore::GetString(const wchar_t* section, const wchar_t* key, const wchar_t* defaultValue)
 {
-    Note(L"get from default store", {section, key, defaultValue});
+    RecordCall(L"get from default store", {section, key, defaultValue});
     return g_platform.stored;
 }
 
 bool CLocalRegStore::WriteString(const wchar_t* section, const wchar_t* key, const wchar_t* value)
 {
-    Note(L"write to default store", {section, key, value});
+    RecordCall(L"write to default store", {section, key, value});
     g_platform.savesWithoutBatch += g_platform.batches == 0;
     return g_platform.saves;
 }
 
 bool CLocalRegStore::GetProfileBool(const wchar_t* section, const wchar_t* key, bool defaultValue)
 {
-    Note(L"get flag", {section, key, defaultValue ? L"true" : L"false"});
+    RecordCall(L"get flag", {section, key, defaultValue ? L"true" : L"false"});
     return defaultValue;
 }
 
 bool CLocalRegStore::WriteProfileBool(const wchar_t* section, const wchar_t* key, bool value)
 {
-    Note(L"write flag", {section, key, value ? L"true" : L"false"});
+    RecordCall(L"write flag", {section, key, value ? L"true" : L"false"});
     g_platform.savesWithoutBatch += g_platform.batches == 0;
     return g_platform.saves;
 }
 
 int CLocalRegStore::GetProfileInt(const wchar_t* section, const wchar_t* key, int defaultValue)
 {
-    Note(L"get integer", {section, key, std::to_wstring(defaultValue)});
+    RecordCall(L"get integer", {section, key, std::to_wstring(defaultValue)});
     return defaultValue;
 }
 
 bool CLocalRegStore::WriteProfileInt(const wchar_t* section, const wchar_t* key, int value)
 {
-    Note(L"write integer", {section, key, std::to_wstring(value)});
+    RecordCall(L"write integer", {section, key, std::to_wstring(value)});
     return g_platform.saves;
 }
 
 bool CLocalRegStore::DeleteKey(CIniFile&, const wchar_t* section, const wchar_t* key)
 {
-    Note(L"delete", {section, key});
+    RecordCall(L"delete", {section, key});
     return true;
 }
 
 std::vector<std::wstring> CLocalRegStore::GetSectionNames(const CIniFile&)
 {
-    Note(L"sections");
+    RecordCall(L"sections");
     return {};
 }
 
 std::vector<std::wstring> CLocalRegStore::GetKeyNames(const CIniFile&, const wchar_t* section)
 {
-    Note(L"keys", {section});
+    RecordCall(L"keys", {section});
     return {};
 }
 
 std::vector<CLocalRegStore::Entry> CLocalRegStore::GetEntries(const CIniFile&, const wchar_t* section)
 {
-    Note(L"entries", {section});
+    RecordCall(L"entries", {section});
     return {};
 }
 
 bool CLocalRegStore::Refresh(CIniFile&, const wchar_t* path)
 {
-    Note(L"refresh", {path});
+    RecordCall(L"refresh", {path});
     return g_platform.loads;
 }
 
 bool CLocalRegStore::Refresh(CIniFile&)
 {
-    Note(L"refresh from default store");
+    RecordCall(L"refresh from default store");
     return g_platform.loads;
 }
 
 void CLocalRegStore::ApplyChanges(CIniFile&, const std::vector<Change>&)
 {
-    Note(L"apply changes");
+    RecordCall(L"apply changes");
 }
 
 bool CLocalRegStore::SaveChanges(const wchar_t* path, const std::vector<Change>&)
 {
-    Note(L"save changes", {path});
+    RecordCall(L"save changes", {path});
     return g_platform.saves;
 }
 
 bool CLocalRegStore::SaveChanges(const std::vector<Change>&)
 {
-    Note(L"save changes to default store");
+    RecordCall(L"save changes to default store");
     g_platform.savesWithoutBatch += g_platform.batches == 0;
     return g_platform.saves;
 }
 
 std::vector<std::wstring> CLocalRegStore::GetSectionNames()
 {
-    Note(L"sections of default store");
+    RecordCall(L"sections of default store");
     return {};
 }
 
 std::vector<std::wstring> CLocalRegStore::GetKeyNames(const wchar_t* section)
 {
-    Note(L"keys of default store", {section});
+    RecordCall(L"keys of default store", {section});
     return {};
 }
 
 bool CLocalRegStore::DeleteProfile(const wchar_t* section, const wchar_t* key)
 {
-    Note(L"delete from default store", {section, key});
+    RecordCall(L"delete from default store", {section, key});
     return true;
 }
 
 std::string CLocalRegStore::GetString(const char* section, const char* key, const char* defaultValue)
 {
-    Note(L"get narrow", {Widened(section), Widened(key), Widened(defaultValue)});
+    RecordCall(L"get narrow", {Widened(section), Widened(key), Widened(defaultValue)});
     return Narrowed(g_platform.stored);
 }
 
 bool CLocalRegStore::WriteString(const char* section, const char* key, const char* value)
 {
-    Note(L"write narrow", {Widened(section), Widened(key), Widened(value)});
+    RecordCall(L"write narrow", {Widened(section), Widened(key), Widened(value)});
     return g_platform.saves;
 }
 
@@ -225,38 +225,38 @@ std::wstring file_util_ex::MakePath(const CStdStr<wchar_t>& dir, const CStdStr<w
 
 bool file_util_ex::DoesDirExist(const CStdStr<wchar_t>& path)
 {
-    Note(L"exists", {path});
+    RecordCall(L"exists", {path});
     return g_platform.folderExists;
 }
 
 bool file_util_ex::Mkdir(const CStdStr<wchar_t>& path)
 {
-    Note(L"mkdir", {path});
+    RecordCall(L"mkdir", {path});
     return false;
 }
 
 std::wstring file_util_ex::GetPathWithSep(const wchar_t* path)
 {
-    Note(L"with separator", {path});
+    RecordCall(L"with separator", {path});
     return std::wstring(path) + L"/";
 }
 
 std::wstring file_util_ex::RemoveBackSlash(const wchar_t* path)
 {
-    Note(L"without separator", {path});
+    RecordCall(L"without separator", {path});
     return L"/of/no/use";
 }
 
 // Add prefixes that no other function uses.
 std::string file_util_ex::ConvertToUTF8(const std::wstring& text)
 {
-    Note(L"to UTF-8", {text});
+    RecordCall(L"to UTF-8", {text});
     return "/encoded" + Narrowed(text);
 }
 
 std::wstring file_util_ex::ConvertFromUTF8W(const std::string& text)
 {
-    Note(L"from UTF-8", {Widened(text)});
+    RecordCall(L"from UTF-8", {Widened(text)});
     return L"/decoded" + Widened(text);
 }
 
@@ -267,6 +267,6 @@ std::wstring std_file_paths::GetUserDataDir()
 
 std::wstring std_file_paths::GetAppFolderPath(const wchar_t* name)
 {
-    Note(L"application's folder", {name});
+    RecordCall(L"application's folder", {name});
     return std::wstring(L"/documents/") + name;
 }

@@ -25,6 +25,6 @@ struct NotingPlatform
 extern NotingPlatform g_platform;
 
 /// Records a call; throws when it is the operation that is to throw.
-void Note(const std::wstring& operation, const std::vector<std::wstring>& arguments = {});
+void RecordCall(const std::wstring& operation, const std::vector<std::wstring>& arguments = {});
 
 #endif

@@ -51,7 +51,7 @@ private:
     void Watch(const wxEventTypeTag<wxTreeEvent>& type, const std::wstring& name)
     {
         m_tree->Bind(type, [this, name](wxTreeEvent& event) {
-            const std::wstring note = Note(name, event);
+            const std::wstring note = Described(name, event);
             m_notes.push_back(note);
             const auto reaction = on.find(note);
             if (reaction != on.end())
@@ -61,7 +61,7 @@ private:
         });
     }
 
-    std::wstring Note(const std::wstring& name, const wxTreeEvent& event) const
+    std::wstring Described(const std::wstring& name, const wxTreeEvent& event) const
     {
         if (event.GetEventType() == wxEVT_TREE_KEY_DOWN)
             return name + L" " + std::to_wstring(event.GetKeyCode());

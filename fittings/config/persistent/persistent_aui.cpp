@@ -11,14 +11,14 @@
 class wxPersistentAui::Watch
 {
 public:
-    Watch(wxAuiManager* manager, wxPersistentAui* owner) : m_manager(manager), m_owner(owner) { Note(); }
+    Watch(wxAuiManager* manager, wxPersistentAui* owner) : m_manager(manager), m_owner(owner) { RecordLayout(); }
 
     static std::shared_ptr<Watch> Start(wxAuiManager* manager, wxPersistentAui* owner)
     {
         auto watch = std::make_shared<Watch>(manager, owner);
         const auto note = [watch](wxEvent& event) {
             event.Skip();
-            watch->Note();
+            watch->RecordLayout();
         };
         manager->Bind(wxEVT_AUI_RENDER, note);
         manager->Bind(wxEVT_CLOSE_WINDOW, note);
@@ -28,7 +28,7 @@ public:
         const auto end = [watch, window](wxWindowDestroyEvent& event) {
             event.Skip();
             if (event.GetEventObject() == window) {
-                watch->Note();
+                watch->RecordLayout();
                 watch->End();
             }
         };
@@ -53,7 +53,7 @@ public:
     wxAuiManager* Manager() const { return m_manager; }
     const wxString& Layout() const { return m_layout; }
 
-    void Note()
+    void RecordLayout()
     {
         // A manager without a window has no layout.
         if (m_manager && m_manager->GetManagedWindow())
@@ -95,7 +95,7 @@ wxPersistentAui::~wxPersistentAui()
 
 void wxPersistentAui::Save() const
 {
-    m_watch->Note();
+    m_watch->RecordLayout();
     if (!m_watch->Layout().empty())
         SaveValue("Layout", m_watch->Layout());
 }
@@ -107,7 +107,7 @@ bool wxPersistentAui::Restore()
     if (!manager || !RestoreValue("Layout", &layout) || !fittings::IsAuiLayout(layout.ToStdWstring()))
         return false;
     manager->LoadPerspective(layout, true);
-    m_watch->Note();
+    m_watch->RecordLayout();
     return true;
 }
 

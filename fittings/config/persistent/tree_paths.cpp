@@ -107,9 +107,9 @@ private:
         if (isNoted) {
             for (std::size_t level = 0; level < m_levels.size(); ++level) {
                 if (!std::exchange(m_levels[level].isNoted, true))
-                    Note(level, m_levels[level].item);
+                    Record(level, m_levels[level].item);
             }
-            fittings::TreeStep& step = Note(m_levels.size(), item);
+            fittings::TreeStep& step = Record(m_levels.size(), item);
             step.isExpanded = isExpanded;
             step.isSelected = isSelected;
             step.isFirstInView = isFirstInView;
@@ -118,7 +118,7 @@ private:
             m_levels.push_back({item, Children(m_tree, item), isNoted, Children(m_tree, item), {}});
     }
 
-    fittings::TreeStep& Note(std::size_t level, const wxTreeItemId& item)
+    fittings::TreeStep& Record(std::size_t level, const wxTreeItemId& item)
     {
         fittings::TreeStep& step = m_steps.emplace_back();
         step.level = level;

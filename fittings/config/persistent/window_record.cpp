@@ -24,7 +24,7 @@ void WindowRecord::Follow(wxTopLevelWindow& window)
     const auto note = [record = m_self, &window](wxEvent& event) {
         event.Skip();
         if (const auto self = record.lock())
-            self->Note(window);
+            self->RecordPlace(window);
     };
     window.Bind(wxEVT_SIZE, note);
     window.Bind(wxEVT_MOVE, note);
@@ -36,7 +36,7 @@ void WindowRecord::Follow(wxTopLevelWindow& window)
     });
 }
 
-void WindowRecord::Note(const wxTopLevelWindow& window)
+void WindowRecord::RecordPlace(const wxTopLevelWindow& window)
 {
     // The size event of a window that is being maximised may come before its maximise event.
     const wxRect rect = window.GetRect();

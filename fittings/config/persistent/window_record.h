@@ -39,7 +39,7 @@ public:
     const std::optional<wxRect>& NormalRect() const { return m_normal; }
 
 private:
-    void Note(const wxTopLevelWindow& window);
+    void RecordPlace(const wxTopLevelWindow& window);
 
     const std::function<void()> m_atEnd;
     std::optional<wxRect> m_normal;
