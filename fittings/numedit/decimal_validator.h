@@ -13,7 +13,7 @@
 class wxTextEntry;
 
 /// Moves a number between a field and a variable of the program: a `double`, a `std::int64_t`, or a wxString with its
-/// decimal digits, of any length and with `.` as the point.
+/// decimal digits, of any length and with a dot as the point.
 ///
 /// @code
 /// new wxNumberCtrl(&dialog, wxID_ANY, wxNumberCtrl::FromLocale(), wxDefaultPosition, wxDefaultSize, 0,

@@ -19,7 +19,7 @@
 /// Sent by a wxNumberCtrl, besides wxEVT_TEXT and after it, when its number has become another one, or the field has
 /// got or lost a number. GetString() is wxNumberCtrl::GetDecimal(). Not sent where the text alone has changed: 1.5 and
 /// 1.50 are the same number.
-wxDECLARE_EXPORTED_EVENT(FITTINGS_API, wxEVT_NUMBER_CHANGED, wxCommandEvent);
+extern const FITTINGS_API wxEventTypeTag<wxCommandEvent> wxEVT_NUMBER_CHANGED;
 
 /// The name of a wxNumberCtrl that is given none.
 #define wxNumberCtrlNameStr "numberCtrl"
@@ -105,7 +105,7 @@ public:
         return SetDecimal(wxString(std::to_string(value)));
     }
 
-    /// Shows a number of any length, with `.` as its point. False, and nothing is changed, where @a text is no number;
+    /// Shows a number of any length, with a dot as its point. False, and nothing is changed, where @a text is no number;
     /// the empty text empties the field.
     bool SetDecimal(const wxString& text);
 
@@ -117,7 +117,7 @@ public:
     /// that does not fit.
     bool GetNumber(std::int64_t* value) const;
 
-    /// The number with all its digits and `.` as its point; empty where the field has none.
+    /// The number with all its digits and a dot as its point; empty where the field has none.
     wxString GetDecimal() const;
 
     /// Whether the field is empty or has a number within the bounds.
@@ -126,7 +126,7 @@ public:
     /// Why the field is not acceptable, in the user's language; empty where it is.
     wxString GetProblem() const;
 
-    /// Replaces the bounds by those, of any length and with `.` as the point; an empty one is none. False, and nothing is
+    /// Replaces the bounds by those, of any length and with a dot as the point; an empty one is none. False, and nothing is
     /// changed, where one is no number or the lowest is above the highest.
     bool SetRange(const wxString& min, const wxString& max);
 

@@ -2,22 +2,21 @@
 
 #include <wx/wx.h>
 
-#include <fittings/numedit/num_validator.h>
+#include <fittings/numedit/number_ctrl.h>
 #include <fittings/numedit/number_edit_utils.h>
 
 class PaymentsFrame : public wxFrame
 {
 public:
-    PaymentsFrame() : wxFrame(nullptr, wxID_ANY, "Payments"), m_format(eFixedFormat)
+    PaymentsFrame() : wxFrame(nullptr, wxID_ANY, "Payments")
     {
-        m_format.m_bHasMin = true;
-        m_format.m_dMin = 0.01;
-        m_format.m_strTemplate = L"%s EUR";
+        CNumberFormat format(eFixedFormat);
+        format.m_bHasMin = true;
+        format.m_dMin = 0.01;
+        format.m_strTemplate = L"%s EUR";
 
         auto* panel = new wxPanel(this);
-        panel->SetExtraStyle(wxWS_EX_VALIDATE_RECURSIVELY);
-        auto* field = new wxTextCtrl(panel, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxTE_PROCESS_ENTER,
-                                     wxNumValidator(m_format, &m_amount));
+        auto* field = new wxNumberCtrl(panel, wxID_ANY, format, wxDefaultPosition, wxDefaultSize, wxTE_PROCESS_ENTER);
         auto* list = new wxListBox(panel, wxID_ANY);
         auto* sizer = new wxBoxSizer(wxVERTICAL);
         sizer->Add(new wxStaticText(panel, wxID_ANY, "Amount, and Enter to pay it:"), wxSizerFlags().Border());
@@ -26,21 +25,18 @@ public:
         panel->SetSizer(sizer);
         field->SetFocus();
 
-        field->Bind(wxEVT_TEXT_ENTER, [this, panel, field, list](wxCommandEvent&) {
-            if (!panel->Validate() || !panel->TransferDataFromWindow()) {
+        field->Bind(wxEVT_TEXT_ENTER, [this, field, list](wxCommandEvent&) {
+            if (field->IsEmpty() || !field->Validate()) {
                 SetTitle("Not paid: at least 0.01");
                 return;
             }
-            const wxString shown = CNumberEditUtils::FormatControlText(m_amount.wc_str(), m_format);
+            const wxString amount = field->GetDecimal();
+            const wxString shown = CNumberEditUtils::FormatControlText(amount.wc_str(), field->GetFormat());
             list->Append(shown);
             SetTitle("Paid " + shown);
             field->Clear();
         });
     }
-
-private:
-    CNumberFormat m_format;
-    wxString m_amount;
 };
 
 class PaymentsApp : public wxApp

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <fittings/xrc/colour_combo_handler.h>
+#include <fittings/xrc/number_ctrl_handler.h>
 #include <fittings/xrc/tree_handler.h>
 #include <tests/support/gui.h>
 
@@ -15,6 +16,7 @@ LoadedResource::LoadedResource()
     InitAllHandlers();
     AddHandler(new wxColourComboXmlHandler);
     AddHandler(new wxHandyTreeCtrlXmlHandler);
+    AddHandler(new wxNumberCtrlXmlHandler);
     EXPECT_TRUE(Load(CONTROLS_XRC));
 }
 
