@@ -45,7 +45,12 @@ protected:
         EXPECT_EQ(Take(), (Notes{"dropdown", "popup"}));
     }
 
-    void TearDown() override { on.popup->SetColorListener(nullptr); }
+    void TearDown() override
+    {
+        // The listener goes before the popup does.
+        if (popup)
+            popup->SetColorListener(nullptr);
+    }
 
     bool HasFocus() const
     {
@@ -81,6 +86,7 @@ protected:
     ColourListener listener;
     ComboOnScreen<> on{GetParam()};
     OpenCombo& combo = *on.combo;
+    const wxWeakRef<OpenPopup> popup{on.popup};
     OpenCombo* second = nullptr;
     wxButton* button = nullptr;
     wxUIActionSimulator user;
@@ -188,8 +194,7 @@ TEST_P(ColourComboOpening, HasItsEndWhenItGoesMeanwhile)
     combo.Destroy();
     EXPECT_TRUE(PumpUntil([&] { return !notes.empty(); }));
     EXPECT_EQ(notes.front(), "cancel");
-    // The listener outlives the popup, which is gone.
-    on.frame->Hide();
+    EXPECT_TRUE(PumpUntil([&] { return !popup; }));
 }
 
 // --- A value that the host sets while the popup is open --------------------------------------------------------------
@@ -282,7 +287,12 @@ protected:
         ASSERT_TRUE(PumpUntil([&] { return HasFocus(); }));
     }
 
-    void TearDown() override { on.popup->SetColorListener(nullptr); }
+    void TearDown() override
+    {
+        // The listener goes before the popup does.
+        if (popup)
+            popup->SetColorListener(nullptr);
+    }
 
     bool HasFocus() const
     {
@@ -315,6 +325,7 @@ protected:
                            popup.SetInitialColour(*wxBLUE);
                            popup.SetDefaultColour(*wxRED);
                        }};
+    const wxWeakRef<OpenPopup> popup{on.popup};
     wxButton* before = nullptr;
     wxButton* after = nullptr;
     wxUIActionSimulator user;
@@ -419,13 +430,9 @@ TEST_P(ClosedReadOnlyCombo, ChangesItsColourByTheWheelWithTheFocusAlone)
 
 TEST_P(ClosedReadOnlyCombo, MayGoWhenItsColourIsChanged)
 {
-    const wxWeakRef<OpenCombo> gone(on.combo);
-    on.popup->SetColorListener(nullptr);
-    on.combo->Bind(wxEVT_COLOURPICKER_CHANGED, [&](wxColourPickerEvent&) { gone->Destroy(); });
+    on.combo->Bind(wxEVT_COLOURPICKER_CHANGED, [&](wxColourPickerEvent&) { on.combo->Destroy(); });
     user.Char(WXK_DOWN);
-    EXPECT_TRUE(PumpUntil([&] { return !gone; }));
-    on.frame->Destroy();
-    SUCCEED();
+    EXPECT_TRUE(PumpUntil([&] { return !popup; }));
 }
 
 TEST_P(ClosedComboWithText, KeepsFocusTextAndColourByUpAndDown)

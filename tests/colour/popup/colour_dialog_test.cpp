@@ -114,6 +114,29 @@ TEST_F(MoreColours, GivesTheColourOfTheDialog)
     EXPECT_EQ(on.combo->hidden.size(), 1u) << "the popup that is hidden is not hidden again";
 }
 
+// The listener hears of the colour in effect as chosen then; the event says what the user did.
+TEST_F(MoreColours, SendsAnEventOfItsCancelAndNoneOfAChoice)
+{
+    const Answer answer(wxID_CANCEL, wxColour(10, 200, 30));
+    std::vector<std::string> events;
+    const auto note = [&events](const char* name) {
+        return [&events, name](wxColourPickerEvent& event) {
+            events.push_back(name + event.GetColour().GetAsString(wxC2S_HTML_SYNTAX).ToStdString());
+        };
+    };
+    on.combo->Bind(wxEVT_COLOURPICKER_CHANGED, note("changed "));
+    on.combo->Bind(wxEVT_COLOURPICKER_DIALOG_CANCELLED, note("cancelled "));
+    Open();
+    on.popup->EndSelection(true);
+    EXPECT_EQ(std::exchange(events, {}), std::vector<std::string>{"cancelled #010203"});
+    EXPECT_EQ(listener.Take().back(), "end #010203");
+
+    ASSERT_TRUE(Opens(*on.combo));
+    on.popup->ChangeSelection(16);
+    on.popup->EndSelection(true);
+    EXPECT_EQ(events, std::vector<std::string>{"changed #FF0000"}) << "the cancel before is forgotten";
+}
+
 // A cancelled dialog chooses the colour in effect.
 TEST_F(MoreColours, KeepsTheColourInEffectWhenTheDialogIsCancelled)
 {
