@@ -20,8 +20,8 @@ class wxTextEntry;
 ///                  wxDecimalValidator(&m_price));
 /// @endcode
 ///
-/// On a wxNumberCtrl, it goes by that control's format and bounds. On any other wxTextEntry, a wxComboBox for example, by
-/// its own: there it reads groups and the template too, and leaves typing alone.
+/// On a wxNumberCtrl, it goes by that control's format and bounds. On any other wxTextEntry, a wxComboBox for example,
+/// by its own: there it reads groups and the template too, and leaves typing alone.
 ///
 /// An empty field has no number. It is accepted, and moves as the empty text, where the variable is a wxString or there
 /// is none; a `double` or an integer cannot say so, and the field is refused. A number that its variable cannot hold
@@ -68,8 +68,8 @@ public:
     /// Shows the variable's number. False where it is none, or the window is no wxTextEntry.
     bool TransferToWindow() override;
 
-    /// Gives the variable the field's number. False, and it is left alone, where Validate() would refuse the field, were
-    /// it enabled.
+    /// Gives the variable the field's number. False, and it is left alone, where Validate() would refuse the field,
+    /// were it enabled.
     bool TransferFromWindow() override;
 
 private:

@@ -48,8 +48,9 @@ wchar_t FirstCharacter(const wxString& text)
     return text.empty() ? L'\0' : static_cast<wchar_t>(text[0].GetValue());
 }
 
-/// A bound as a text says it; nothing in the first where it is no number, nothing in the second where there is no bound.
-std::optional<std::optional<Decimal>> BoundIn(const wxString& text)
+/// A bound as a text says it; nothing in the first where it is no number, nothing in the second where there is no
+/// bound.
+std::optional<std::optional<Decimal>> ParsedBound(const wxString& text)
 {
     if (text.empty())
         return std::optional<Decimal>();
@@ -188,8 +189,8 @@ wxString wxNumberCtrl::GetProblem() const
 
 bool wxNumberCtrl::SetRange(const wxString& min, const wxString& max)
 {
-    const auto lowest = BoundIn(min);
-    const auto highest = BoundIn(max);
+    const auto lowest = ParsedBound(min);
+    const auto highest = ParsedBound(max);
     if (!lowest || !highest || (*lowest && *highest && fittings::Compare(**lowest, **highest) > 0))
         return false;
     m_field->rules.min = *lowest;

@@ -38,8 +38,8 @@ class NumberField;
 /// @endcode
 ///
 /// With the focus the field shows the number as it is typed, without it as CNumberEditUtils::FormatControlText() does:
-/// `1234.5` and `1,234.50 kg`. What comes in by keyboard, input method, clipboard or mouse is taken where the field then
-/// holds a number within the bounds or the beginning of one, and refused whole otherwise, with a bell unless
+/// `1234.5` and `1,234.50 kg`. What comes in by keyboard, input method, clipboard or mouse is taken where the field
+/// then holds a number within the bounds or the beginning of one, and refused whole otherwise, with a bell unless
 /// wxValidator::IsSilent(). A refusal changes nothing: what was selected stays so.
 ///
 /// | Input | What it does |
@@ -50,10 +50,10 @@ class NumberField;
 /// | Up and Down, the wheel | step by SetIncrement(), held to the bounds |
 /// | Page Up and Page Down | step ten times as far |
 ///
-/// Deleting is never refused, and neither is what the program sets. A text that is no number within the bounds is shown
-/// as such: in the theme's colour for errors, with the reason as tooltip and as accessible description, in place of the
-/// program's own. The validator refuses it. It is never changed by the control. An empty field has no number, which is no
-/// error.
+/// Deleting is never refused, and neither is what the program sets. A text that is no number within the bounds is
+/// shown as such: in the theme's colour for errors, with the reason as tooltip and as accessible description, in place
+/// of the program's own. The validator refuses it. It is never changed by the control. An empty field has no number,
+/// which is no error.
 ///
 /// All else is a text control's: SetValue() takes any text, and GetValue() returns what is shown. SetNumber() and
 /// SetDecimal() send no event.
@@ -92,8 +92,8 @@ public:
     /// Shows the number in another format, and takes its bounds. The number stays.
     void SetFormat(const CNumberFormat& format);
 
-    /// Shows the shortest decimal number that is read as @a value. False, and nothing is changed, where it is infinite or
-    /// no number.
+    /// Shows the shortest decimal number that is read as @a value. False, and nothing is changed, where it is infinite
+    /// or no number.
     ///
     /// Digits beyond the format's decimals stay until the user changes the text.
     bool SetNumber(double value);
@@ -105,16 +105,16 @@ public:
         return SetDecimal(wxString(std::to_string(value)));
     }
 
-    /// Shows a number of any length, with a dot as its point. False, and nothing is changed, where @a text is no number;
-    /// the empty text empties the field.
+    /// Shows a number of any length, with a dot as its point. False, and nothing is changed, where @a text is no
+    /// number; the empty text empties the field.
     bool SetDecimal(const wxString& text);
 
     /// The number as the nearest double. False, and @a value is left alone, where the field has no number or one that
     /// would be infinite. The number may be out of bounds: see IsAcceptable().
     bool GetNumber(double* value) const;
 
-    /// The number as a whole one. False, and @a value is left alone, where the field has none, one with a fraction or one
-    /// that does not fit.
+    /// The number as a whole one. False, and @a value is left alone, where the field has none, one with a fraction or
+    /// one that does not fit.
     bool GetNumber(std::int64_t* value) const;
 
     /// The number with all its digits and a dot as its point; empty where the field has none.
@@ -126,8 +126,8 @@ public:
     /// Why the field is not acceptable, in the user's language; empty where it is.
     wxString GetProblem() const;
 
-    /// Replaces the bounds by those, of any length and with a dot as the point; an empty one is none. False, and nothing is
-    /// changed, where one is no number or the lowest is above the highest.
+    /// Replaces the bounds by those, of any length and with a dot as the point; an empty one is none. False, and
+    /// nothing is changed, where one is no number or the lowest is above the highest.
     bool SetRange(const wxString& min, const wxString& max);
 
     /// Replaces the bounds by the shortest decimal numbers that are read as those. An infinite one is none.

@@ -15,8 +15,8 @@ namespace fittings {
 /// Judges what goes into a GtkEntry, by keyboard, input method, clipboard and mouse, before it is there.
 ///
 /// GTK deletes a selection before it inserts what takes its place. While a key is on its way, that deletion waits for
-/// the verdict, and so a refused key has changed nothing. What an input method or a drop brings later comes without such
-/// a frame: there the selection is put back.
+/// the verdict, and so a refused key has changed nothing. What an input method or a drop brings later comes without
+/// such a frame: there the selection is put back.
 class NumberEntry
 {
 public:

@@ -27,8 +27,8 @@
 /// | `decimals` | integer | of wxNumberCtrl::FromLocale(); 2 |
 /// | `template` | text, with one `%s` | CNumberFormat::m_strTemplate; `%s` |
 ///
-/// And those of every window: `pos`, `size`, `tooltip`, `enabled`, `hidden`, `font` and the rest. The format is the user's
-/// own: wxNumberCtrl::SetFormat() gives another one.
+/// And those of every window: `pos`, `size`, `tooltip`, `enabled`, `hidden`, `font` and the rest. The format is the
+/// user's own: wxNumberCtrl::SetFormat() gives another one.
 ///
 /// A value that cannot be understood is reported, as wxXmlResource::ReportError() does, and taken for absent: so is a
 /// template that has not exactly one `%s`, and no other `%` but `%%`. So is a `subclass` that is no wxNumberCtrl: the
