@@ -180,7 +180,7 @@ std::optional<std::wstring> NumberField::Accepted(const NumberEntry::Insertion& 
         if (insertion.typed)
             return std::nullopt;
     }
-    const std::optional<std::wstring> read = PlainTextOf(text, format);
+    std::optional<std::wstring> read = PlainTextOf(text, format);
     if (!read || !MayStay(insertion.before + *read + insertion.behind))
         return std::nullopt;
     return read;

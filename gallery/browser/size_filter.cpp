@@ -4,9 +4,8 @@
 
 #include <wx/sizer.h>
 #include <wx/stattext.h>
-#include <wx/textctrl.h>
 
-#include <fittings/numedit/num_validator.h>
+#include <fittings/numedit/number_ctrl.h>
 #include <fittings/numedit/number_edit_utils.h>
 
 #include <gallery/folders/native_text.h>
@@ -30,7 +29,6 @@ CNumberFormat MegabytesFormat()
     format.m_nDecimals = 6;
     format.m_bHasMaxIntDigits = true;
     format.m_nMaxIntDigits = 9;
-    format.m_strTemplate = L"%s MB";
     return format;
 }
 
@@ -40,10 +38,9 @@ SizeFilter::SizeFilter(wxWindow* parent) : wxPanel(parent)
 {
     SetName("SizeFilter");
     auto* label = new wxStaticText(this, wxID_ANY, "At &least");
-    m_field = new wxTextCtrl(this, wxID_ANY);
+    m_field = new wxNumberCtrl(this, wxID_ANY, MegabytesFormat());
     m_field->SetName("AtLeast");
     m_field->SetInitialSize(m_field->GetSizeFromTextSize(m_field->GetTextExtent("0000000")));
-    m_field->SetValidator(wxNumValidator(MegabytesFormat(), nullptr));
     m_field->SetToolTip("Leaves out of the list what is smaller");
     m_field->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { TellChange(*this, EVT_SIZE_FILTER_CHANGED); });
     m_field->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) {
@@ -64,29 +61,27 @@ SizeFilter::SizeFilter(wxWindow* parent) : wxPanel(parent)
 std::uint64_t SizeFilter::GetMinimum() const
 {
     double megabytes = 0;
-    if (!CNumberEditUtils::ValidateString(m_field->GetValue().wc_str(), MegabytesFormat()) ||
-        !GetMegabytes().ToCDouble(&megabytes))
+    if (!m_field->IsAcceptable() || !m_field->GetNumber(&megabytes))
         return 0;
     return static_cast<std::uint64_t>(std::llround(megabytes * kBytesInMegabyte));
 }
 
 wxString SizeFilter::GetText() const
 {
-    return CNumberEditUtils::FormatControlText(m_field->GetValue().wc_str(), MegabytesFormat());
+    CNumberFormat format = MegabytesFormat();
+    format.m_strTemplate = L"%s MB";
+    return CNumberEditUtils::FormatControlText(m_field->GetDecimal().wc_str(), format);
 }
 
 wxString SizeFilter::GetMegabytes() const
 {
-    wxString megabytes = m_field->GetValue();
-    megabytes.Replace(wxString(MegabytesFormat().m_chDecimalPoint), ".");
-    return megabytes;
+    return m_field->GetDecimal();
 }
 
 void SizeFilter::SetMegabytes(const wxString& megabytes)
 {
-    wxString text = megabytes;
-    text.Replace(".", wxString(MegabytesFormat().m_chDecimalPoint));
-    m_field->SetValue(text);
+    if (m_field->SetDecimal(megabytes))
+        TellChange(*this, EVT_SIZE_FILTER_CHANGED);
 }
 
 }  // namespace gallery

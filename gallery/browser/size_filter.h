@@ -6,7 +6,7 @@
 #include <wx/event.h>
 #include <wx/panel.h>
 
-class wxTextCtrl;
+#include <fittings/numedit/number_ctrl.h>
 
 namespace gallery {
 
@@ -31,10 +31,10 @@ public:
     void SetMegabytes(const wxString& megabytes);
     /// @}
 
-    wxTextCtrl* GetField() const { return m_field; }
+    wxNumberCtrl* GetField() const { return m_field; }
 
 private:
-    wxTextCtrl* m_field;
+    wxNumberCtrl* m_field;
 };
 
 }  // namespace gallery
