@@ -32,6 +32,7 @@ struct User;
 template <>
 struct User<wxColourPickerCtrl>
 {
+    static constexpr const char* kName = "Picker";
     static constexpr const char* kResource = "picker";
 
     // The dialog is GTK's. This is what it does at OK.
@@ -48,6 +49,7 @@ struct User<wxColourPickerCtrl>
 template <>
 struct User<wxColourCombo>
 {
+    static constexpr const char* kName = "DropDown";
     static constexpr const char* kResource = "drop-down";
 
     static wxColour Choose(wxColourCombo& control)
@@ -107,12 +109,21 @@ protected:
 };
 
 using Controls = testing::Types<wxColourPickerCtrl, wxColourCombo>;
-TYPED_TEST_SUITE(WhereAColourPickerStands, Controls);
+
+struct NameOfControl
+{
+    template <typename Control>
+    static std::string GetName(int /*index*/)
+    {
+        return User<Control>::kName;
+    }
+};
+
+TYPED_TEST_SUITE(WhereAColourPickerStands, Controls, NameOfControl);
 
 TYPED_TEST(WhereAColourPickerStands, IsConstructed)
 {
-    const wxFrame& frame = *this->frame;
-    auto* const parent = const_cast<wxFrame*>(&frame);
+    wxFrame* const parent = this->frame;
     EXPECT_EQ((new TypeParam(parent, wxID_ANY))->GetColour(), *wxBLACK);
     EXPECT_EQ((new TypeParam(parent, wxID_ANY, *wxRED))->GetColour(), *wxRED);
     EXPECT_EQ((new TypeParam(parent, wxID_ANY, wxColour("#123456")))->GetColour(), wxColour(0x12, 0x34, 0x56));
