@@ -81,7 +81,7 @@ wxColourCombo::~wxColourCombo()
     // The popup is closed here and not by the base, so that a listener that now wants the control destroyed finds that
     // it is being so.
     SendDestroyEvent();
-    HidePopup(true);
+    wxColourCombo::HidePopup(true);
 }
 
 wxColourPopup* wxColourCombo::GetPopup() const

@@ -101,6 +101,7 @@ std::optional<wxPersistentListCtrl::State> wxPersistentListCtrl::GetState() cons
     if (!list || !list->InReportView())
         return std::nullopt;
     std::vector<int> widths;
+    widths.reserve(static_cast<std::size_t>(list->GetColumnCount()));
     for (int column = 0; column < list->GetColumnCount(); ++column)
         widths.push_back(list->GetColumnWidth(column));
     // Empty when the columns cannot be reordered.

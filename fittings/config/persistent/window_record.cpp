@@ -9,7 +9,7 @@ namespace fittings {
 
 std::shared_ptr<WindowRecord> WindowRecord::Attach(wxWindow& window, std::function<void()> atEnd)
 {
-    const auto record = std::make_shared<WindowRecord>(std::move(atEnd));
+    auto record = std::make_shared<WindowRecord>(std::move(atEnd));
     record->m_self = record;
     // The handlers of a window are destroyed last, after its children.
     window.Bind(wxEVT_DESTROY, [record](wxWindowDestroyEvent& event) { event.Skip(); });
