@@ -22,7 +22,8 @@
 
 namespace {
 
-/// Keeps the median of each benchmark, in nanoseconds. One that measures its peer too has it in the counter "peer".
+/// Collects the median of each benchmark in nanoseconds. A benchmark that also measures its peer reports that in the
+/// counter "peer".
 class Medians : public benchmark::BenchmarkReporter
 {
 public:
@@ -38,7 +39,7 @@ public:
         }
     }
 
-    /// The median of @a name; 0 when it was not run.
+    /// Returns the median of @a name; 0 when it was not run.
     double Of(const std::string& name) const
     {
         const auto found = m_ns.find(name);
@@ -58,7 +59,7 @@ private:
     std::map<std::string, double> m_ns;
 };
 
-/// Two medians that are held against each other.
+/// Two medians to compare.
 struct Pair
 {
     bool IsMeasured() const { return ours > 0 && peer > 0; }
@@ -157,7 +158,7 @@ int main(int argc, char** argv)
     mallopt(M_MMAP_THRESHOLD, 32 << 20);
     mallopt(M_TRIM_THRESHOLD, INT_MAX);
 
-    // What the caller says comes later and wins.
+    // The caller's arguments come last and win.
     std::vector<char*> arguments{argv[0]};
     std::string defaults[] = {"--benchmark_repetitions=9", "--benchmark_enable_random_interleaving=true",
                               "--benchmark_report_aggregates_only=true", "--benchmark_min_time=0.05"};

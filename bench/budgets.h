@@ -1,12 +1,12 @@
 #ifndef FITTINGS_BENCH_BUDGETS_H_
 #define FITTINGS_BENCH_BUDGETS_H_
 
-/// A row of the table: the benchmark @a row is held against the benchmark "<row>/peer".
+/// A row of the table: the benchmark @a row is compared with the benchmark "<row>/peer".
 struct Budget
 {
     const char* row;
     const char* peer;
-    double most;  ///< the largest ratio of ours to the peer's that is within the budget
+    double most;  ///< the budget: the largest allowed ratio of ours to the peer's
 };
 
 constexpr Budget kBudgets[] = {
@@ -45,8 +45,7 @@ constexpr Extra kExtras[] = {
     {"library/load", "dlopen of a library of the same size that does nothing", 1e6},
 };
 
-/// Cost must grow in proportion to size: the time of @a large, per item, is held against the time of @a small, per
-/// item.
+/// Cost must grow in proportion to size: compares the time for one item of @a large with that of @a small.
 struct Growth
 {
     const char* large;

@@ -1,4 +1,5 @@
-// Painting the whole colour popup, against the same rectangles, lines and texts with pens and brushes made beforehand.
+// Painting the whole colour popup, compared with the same rectangles, lines and texts with pens and brushes made
+// beforehand.
 
 #include <array>
 #include <cstddef>
@@ -45,7 +46,7 @@ public:
     wxMemoryDC dc;
 };
 
-// What the popup draws when no cell is hot or chosen, with everything made once.
+// Draws the popup as it is without a hot or chosen cell, with everything made once.
 class Primitives
 {
 public:
@@ -70,7 +71,7 @@ public:
     }
 
 private:
-    // The system of the benchmarks knows no width of an edge.
+    // The display of the benchmarks has no width of an edge.
     static constexpr int kMargin = 2;
 
     struct Cell
@@ -171,7 +172,7 @@ wxImage PictureOf(Popup& shown)
     return shown.bitmap.ConvertToImage();
 }
 
-// Whether both draw the very same.
+// True when both draw exactly the same.
 bool AreAlike()
 {
     Popup ours;

@@ -18,7 +18,7 @@ namespace {
 
 constexpr int kGroups = 20;
 
-/// A folder with a file of a given number of entries for each of the two, for as long as the object lives.
+/// A temporary folder with a file of so many entries for each of the two.
 class Entries
 {
 public:
@@ -90,7 +90,7 @@ void Expect(benchmark::State& state, bool holds)
         state.SkipWithError("a wrong result");
 }
 
-// Up to the first value.
+// Until the first value is read.
 void Load(benchmark::State& state, Open open, int count)
 {
     const Entries entries(count);
@@ -131,7 +131,7 @@ void Flush(benchmark::State& state, Open open, int count)
     }
 }
 
-// What a program does with its settings from its start to its end.
+// All that a program does with its settings in one run.
 void All(benchmark::State& state, Open open, int count)
 {
     const Entries entries(count);

@@ -1,4 +1,4 @@
-// The gallery's background summing beside the system's own command, both with a warm cache.
+// The gallery's background sum, compared with the system's command, both with a warm cache.
 
 #include <benchmark/benchmark.h>
 

@@ -1,6 +1,6 @@
-// library-load LIBRARY: says how many nanoseconds dlopen() of it takes in a program that already runs on the toolkit.
+// library-load LIBRARY: prints how many nanoseconds its dlopen() takes in a program that has loaded the toolkit.
 //
-// A program of its own for each: a library that was loaded once is loaded no more.
+// One process for each measurement: a library is loaded only once in a process.
 
 #include <chrono>
 #include <cstdio>

@@ -1,5 +1,5 @@
-// fittings-memory: what a hundred thousand of something take at the most while the library works with them, beside the
-// least that the same takes elsewhere.
+// fittings-memory: the peak memory for a hundred thousand items while the library works with them, compared with that
+// of a peer.
 
 #include <cstdio>
 #include <cstdlib>
@@ -38,12 +38,12 @@ double Status(const std::string& name)
     return kilobytes * 1024;
 }
 
-/// The most memory that @a work takes at any time beyond what was taken before it, an item.
+/// Returns the peak of the memory that @a work takes in addition, divided by the number of items.
 double PeakOf(const std::function<void()>& work)
 {
     malloc_trim(0);
     const double before = Status("VmRSS");
-    std::ofstream("/proc/self/clear_refs") << "5\n";  // the peak begins anew
+    std::ofstream("/proc/self/clear_refs") << "5\n";  // resets the peak
     work();
     return (Status("VmHWM") - before) / kItems;
 }

@@ -1,4 +1,4 @@
-// Checking and showing numbers beside what else a program could use for it.
+// Checking and formatting numbers, compared with the alternatives.
 
 #include <cwchar>
 #include <string>
@@ -114,8 +114,8 @@ void FormatLong(benchmark::State& state)
     Format(state, Digits<wchar_t>(state.range(0)));
 }
 
-/// The formatter and the memory of its result are kept, text and result stay in the forms that ICU has: a host of the
-/// toolkit would have to convert both.
+/// The formatter and the memory of its result are kept. Text and result stay in ICU's types; a host would have to
+/// convert both.
 void FormatIcu(benchmark::State& state, const std::string& text)
 {
     UErrorCode status = U_ZERO_ERROR;

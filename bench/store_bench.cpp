@@ -1,4 +1,4 @@
-// The settings store beside what its parts cost bare.
+// The settings store, compared with the bare cost of its parts.
 
 #include <cstdlib>
 #include <filesystem>
@@ -20,7 +20,7 @@ namespace {
 
 constexpr int kSections = 20;
 
-/// A user data directory with settings of a given number of keys, for as long as the object lives.
+/// A temporary user data directory with settings of so many keys.
 class Settings
 {
 public:
@@ -163,7 +163,7 @@ void FileSetPeer(benchmark::State& state)
 
 constexpr int kWindowValues = 22;
 
-// What a closing window stores: its geometry, flags, columns and trees.
+// The values that a closing window stores: its geometry, flags, columns and trees.
 void CloseWindow(benchmark::State& state)
 {
     const Settings settings(1000);
@@ -231,7 +231,7 @@ BENCHMARK(GetWarm)->Name("store/get-warm");
 BENCHMARK(GetWarmPeer)->Name("store/get-warm/peer");
 BENCHMARK(FileGet)->Name("store/file-get");
 BENCHMARK(FileGetPeer)->Name("store/file-get/peer");
-// What these four do is mostly waiting for the disk.
+// These four mostly wait for the disk.
 BENCHMARK(FileSet)->Name("store/file-set")->UseRealTime();
 BENCHMARK(FileSetPeer)->Name("store/file-set/peer")->UseRealTime();
 BENCHMARK(CloseWindow)->Name("store/close-window")->UseRealTime();

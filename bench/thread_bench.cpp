@@ -1,4 +1,4 @@
-// What a worker's thread and its posted events cost over the toolkit's own, made up by hand.
+// The cost of a worker's thread and of its events, compared with the toolkit's thread and events used directly.
 
 #include <atomic>
 
@@ -15,7 +15,7 @@ namespace {
 
 const wxEventTypeTag<wxCommandEvent> kType(wxNewEventType());
 
-// An exit code to be known again.
+// An exit code to recognise.
 wxThread::ExitCode Result()
 {
     static int result;

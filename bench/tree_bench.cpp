@@ -1,4 +1,4 @@
-// Saving and restoring the expanded items of a large tree, against the least that the toolkit asks for the same work.
+// Saving and restoring the expanded items of a large tree, compared with the least work in the toolkit for the same.
 
 #include <ctime>
 #include <memory>
@@ -41,7 +41,7 @@ public:
             m_tree->Expand(item);
     }
 
-    // Out of sight: the toolkit lays out all that is visible again after each item, frozen or not.
+    // Not visible: the toolkit lays out all visible items again after each change, frozen or not.
     void Collapse()
     {
         const wxWindowUpdateLocker frozen(m_tree);
@@ -69,7 +69,7 @@ void Save(benchmark::State& state, int count)
         siblings.Tree().SaveState("bench", siblings.Root());
 }
 
-// One below the other, each expanded.
+// A chain of expanded items.
 void SaveDeep(benchmark::State& state, int depth)
 {
     const std::unique_ptr<wxFrame> frame(new wxFrame(nullptr, wxID_ANY, "bench"));
@@ -98,7 +98,7 @@ void CopyEveryLabel(benchmark::State& state, int count)
     }
 }
 
-// In seconds. Nothing is waited for here, so that is what passes where nothing else runs.
+// The processor's time in seconds. Nothing here waits, so that this is the time on an idle machine.
 template <typename Work>
 double ProcessorTime(Work work)
 {

@@ -47,7 +47,7 @@ wxString ConsumeCaption(FuzzedDataProvider& bytes)
     return text;
 }
 
-/// Arranges the panes as a program and its user could.
+/// Arranges the panes as a program and its user may.
 void Arrange(wxAuiManager& manager, FuzzedDataProvider& bytes)
 {
     for (const char* const name : kNames) {
@@ -58,7 +58,7 @@ void Arrange(wxAuiManager& manager, FuzzedDataProvider& bytes)
         pane.BestSize(bytes.ConsumeIntegralInRange(-1, 2000), bytes.ConsumeIntegralInRange(-1, 2000));
         pane.MinSize(bytes.ConsumeIntegralInRange(-1, 300), bytes.ConsumeIntegralInRange(-1, 300));
         pane.Show(bytes.ConsumeBool()).Resizable(bytes.ConsumeBool()).DockFixed(bytes.ConsumeBool());
-        // A window manager looks at each floating pane, which takes its time.
+        // Floating panes are slow: the window manager handles each of them.
         if (bytes.ConsumeIntegralInRange(0, 15) == 0)
             pane.Float().FloatingPosition(bytes.ConsumeIntegralInRange(-100, 900), 50);
     }
@@ -68,7 +68,7 @@ void Arrange(wxAuiManager& manager, FuzzedDataProvider& bytes)
         manager.MaximizePane(manager.GetPane(bytes.PickValueInArray(kNames)));
 }
 
-/// The layout with some of its numbers, or of its characters, replaced.
+/// Returns the layout with some of its numbers or characters replaced.
 std::wstring Damage(std::wstring layout, FuzzedDataProvider& bytes)
 {
     constexpr const wchar_t* kNumbers[] = {L"-1",      L"0",          L"1",          L"9999",
@@ -87,7 +87,7 @@ std::wstring Damage(std::wstring layout, FuzzedDataProvider& bytes)
     return layout;
 }
 
-/// Whether the toolkit asserts on a text of its own: it does not read back a ";" of a caption.
+/// True when the toolkit asserts on its own text: it does not read back the ";" of a caption.
 bool HasDelimiterInText(const std::wstring& layout)
 {
     return layout.find(L"\\;") != layout.npos || layout.find(L'\b') != layout.npos;

@@ -1,4 +1,4 @@
-// Window geometry: whatever is stored, the window ends up where a user can reach it, or stays as it is.
+// Window geometry: whatever is stored, the user can reach the window, or the window stays unchanged.
 
 #include <cstdint>
 #include <cwchar>
@@ -40,7 +40,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     wx_window_state::SaveState(static_cast<wxWindow*>(&frame), L"window");
     frame.SetSize(before);
     Check(wx_window_state::LoadState(static_cast<wxWindow*>(&frame), L"window"), "what was saved is loaded");
-    // What is left of a window that was small and partly outside may be too small to come back.
+    // The visible part of a small window may be too small to be restored.
     if (after.width > 10 && after.height > 10)
         Check(frame.GetRect() == after, "the window comes back where it was");
     return 0;

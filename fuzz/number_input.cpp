@@ -31,7 +31,7 @@ struct NumberLocale
     wchar_t point;
 };
 
-// Sets one of the locales, all of which stay loaded: setlocale() alone would read the files anew at each change.
+// Sets one of the locales. All of them stay loaded: setlocale() would read the files at each change.
 wchar_t UseLocale(std::size_t index)
 {
     static const auto load = [](const char* name, wchar_t point) {
@@ -54,7 +54,7 @@ std::uint64_t ConsumeCount(FuzzedDataProvider& bytes)
 {
     constexpr std::uint64_t kHuge[] = {0xFFFF'FFFF'FFFF'FFFF, 0xFFFF'FFFF, 0x8000'0000'0000'0000};
     const auto count = bytes.ConsumeIntegral<std::uint8_t>();
-    // Not the highest byte, which comes often: a million zeros take long.
+    // Avoid the highest byte, which fuzzers often try: a million zeros take long.
     const unsigned huge = count - 0xA5U;
     return huge < std::size(kHuge) ? kHuge[huge] : count % 10;
 }
@@ -96,13 +96,13 @@ CNumberFormat ConsumeFormat(FuzzedDataProvider& bytes)
 
 std::wstring ConsumeText(FuzzedDataProvider& bytes)
 {
-    // A large text makes time that grows faster than the text show as a timeout.
+    // With a large text, time that grows faster than the text is found as a timeout.
     const bool isLarge = bytes.ConsumeIntegral<std::uint16_t>() == 0x4040;
     std::wstring text;
     for (const char byte : bytes.ConsumeRemainingBytesAsString())
         text += CharacterOf(static_cast<unsigned char>(byte));
     if (isLarge && !text.empty()) {
-        // What begins and what ends the text stays there.
+        // Keep the beginning and the end of the text.
         const std::size_t middle = text.size() / 2;
         text.insert(middle, kLargeText, text[middle]);
     }

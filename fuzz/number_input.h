@@ -7,17 +7,16 @@
 
 #include <fittings/numedit/number_format.h>
 
-/// A format and a text made from a fuzzer's bytes, and the locale they ask for.
+/// A format, a text and a locale, made from a fuzzer's bytes.
 ///
-/// The text stands first in the bytes, a character each: ASCII as itself, higher bytes for blanks, digits and points of
-/// other scripts and for what is no character at all. The last bytes are the format. So a text file is a good first
-/// input.
+/// The text comes first, one character for each byte: ASCII as itself, higher bytes for blanks, digits and points of
+/// other scripts and for invalid characters. The last bytes are the format. So a text file is a good first input.
 struct NumberInput
 {
     /// Sets the locale.
     NumberInput(const std::uint8_t* data, std::size_t size);
 
-    /// The text as a pointer to it gives it.
+    /// The text up to its first null character.
     std::wstring Typed() const { return text.substr(0, text.find(L'\0')); }
 
     CNumberFormat format;

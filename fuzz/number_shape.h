@@ -5,7 +5,7 @@
 #include <limits>
 #include <string>
 
-/// What a number may consist of; as it stands, of everything.
+/// The parts that a number may have; all of them by default.
 struct NumberShape
 {
     wchar_t point;
@@ -21,16 +21,16 @@ struct NumberShape
 /// `[+-]? [0-9]* (P [0-9]*)?` and, behind at least one digit or point, `[eE]? [+-]? [0-9]*`.
 bool HasShape(const std::wstring& text, const NumberShape& shape);
 
-/// Whether nothing else in a number can be mistaken for this point.
+/// True when nothing else in a number can be mistaken for this point.
 bool IsPlainPoint(wchar_t point);
 
-/// Without the blanks at either end.
+/// Returns the text without the blanks at both ends.
 std::wstring WithoutBlanks(const std::wstring& text);
 
-/// What wcstod() reads.
+/// Returns the value that wcstod() reads.
 double ValueOf(const std::wstring& text);
 
-/// Without each @a character.
+/// Returns the text with every @a character removed.
 std::wstring Without(std::wstring text, wchar_t character);
 
 #endif

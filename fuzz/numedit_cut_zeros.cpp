@@ -1,4 +1,4 @@
-// CutZeros(): nothing but blanks, zeros and points goes; a number keeps its value and is not cut a second time.
+// CutZeros() removes only blanks, zeros and points. A number keeps its value, and a second call changes nothing.
 
 #include <cwctype>
 
@@ -16,7 +16,7 @@ std::wstring Cut(const std::wstring& text, const CNumberFormat& format)
     return cut.ToStdWstring();
 }
 
-// What the operation has no right to touch.
+// The characters that the operation must not change.
 std::wstring Rest(const std::wstring& text, wchar_t point)
 {
     std::wstring rest;

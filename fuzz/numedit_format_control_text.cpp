@@ -1,4 +1,4 @@
-// FormatControlText(): each field of the format does its own part, and the number shown is the number typed.
+// FormatControlText(): each field of the format has its effect, and the number shown is the number typed.
 
 #include <algorithm>
 #include <cmath>
@@ -72,7 +72,7 @@ std::size_t DecimalsOf(const std::wstring& number, wchar_t point)
     return end - at - 1;
 }
 
-// Only for what is a number, with a point that can be nothing else.
+// Only for numbers with an unambiguous point.
 void CheckNumber(const std::wstring& number, const NumberInput& input, const std::wstring& bare)
 {
     const CNumberFormat& format = input.format;
@@ -86,7 +86,7 @@ void CheckNumber(const std::wstring& number, const NumberInput& input, const std
         Check(shownDecimals <= decimals, "a rounded number has no more decimals than asked for");
     if (isPadded && !hasExponent)
         Check(shownDecimals >= std::min<std::uint64_t>(decimals, 1'000'000), "a padded number has all its decimals");
-    // The plus sign goes, and with it what kept the zeros behind it. A rounded number may end in zeros.
+    // Removing the plus sign exposes the zeros after it. A rounded number may end in zeros.
     if (number[0] != L'+' && (!isRounded || (isPadded && !hasExponent)))
         Check(Show(bare, Bare(format)) == bare, "what is shown is shown again as it is");
 
@@ -117,7 +117,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     }
 
-    // Of large texts it is the time that counts.
+    // For large texts only the time matters.
     if (typed.size() > kMostChecked || shown.size() > kMostChecked)
         return 0;
 

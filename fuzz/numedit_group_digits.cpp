@@ -1,4 +1,4 @@
-// GroupDigits(): what is left when the separators are taken out again is the text, and they stand where they should.
+// GroupDigits(): without the separators the result is the text, and the separators are in the right places.
 
 #include <fittings/numedit/number_edit_utils.h>
 #include <fuzz/check.h>

@@ -1,5 +1,4 @@
-// ValidateInput(): accepts what ValidateString() accepts, and beyond that the way from nothing to a small fraction
-// alone.
+// ValidateInput() accepts what ValidateString() accepts, and in addition only the beginnings of small fractions.
 
 #include <algorithm>
 

@@ -1,5 +1,5 @@
-// Texts in INI files: every text comes back from what it is written as, which keeps to its line, and every byte of a
-// file but NUL means something.
+// Texts in INI files: every text comes back from its encoded form, which is one line, and every byte of a file other
+// than NUL can be decoded.
 
 #include <algorithm>
 #include <cstdint>
@@ -12,7 +12,7 @@
 
 namespace {
 
-// Characters of every kind, those that are no Unicode included, but not the one that ends a text.
+// Characters of every kind, also invalid ones, except the null character.
 std::wstring ConsumeText(FuzzedDataProvider& bytes)
 {
     std::wstring text;

@@ -5,11 +5,11 @@
 
 class FuzzedDataProvider;
 
-/// Starts the toolkit on the display, with an empty user data directory in memory. Every assertion of the toolkit's is
-/// a finding, except those about a wildcard that is none.
+/// Starts the toolkit on the display, with an empty user data directory in memory. Every assertion of the toolkit is a
+/// finding, except those about an invalid wildcard.
 void StartToolkit();
 
-/// Makes the toolkit's assertions no finding for as long as the object lives, where @a allowed says so.
+/// Allows assertions of the toolkit as long as the object lives, when @a allowed is true.
 class AssertionsAllowed
 {
 public:

@@ -1,5 +1,5 @@
-// What a tree remembers of its expanded items: any text expands the items that it names and no other, and what is saved
-// names those that are expanded.
+// The expanded items of a tree: any text expands the items that it names and no others, and a saved text names the
+// expanded items.
 
 #include <cstdint>
 #include <functional>
@@ -22,7 +22,7 @@ namespace {
 constexpr const wchar_t* kLabels[] = {L"", L"a", L"b", L"ab", L"a|b", L"B", L"\u3042", L"\U0001F600"};
 constexpr std::size_t kMostItems = 40;
 
-// Each byte says where the next item goes and what it is called.
+// Each byte gives the place and the label of the next item.
 void Fill(wxHandyTreeCtrl& tree, FuzzedDataProvider& bytes)
 {
     std::vector<wxTreeItemId> items{tree.AddRoot(bytes.PickValueInArray(kLabels)).item};
@@ -43,7 +43,7 @@ std::set<std::wstring> LabelsIn(std::wstring text)
     return labels;
 }
 
-// Every item below @a item, parents before their children.
+// Returns every item below @a item, parents before their children.
 void ForEach(const wxTreeCtrl& tree, const wxTreeItemId& item, const std::function<void(const wxTreeItemId&)>& visit)
 {
     visit(item);

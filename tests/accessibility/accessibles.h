@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-/// What a screen reader learns of a part of a window.
+/// A part of a window as a screen reader sees it.
 struct Accessible
 {
     std::string role;  ///< As RoleName() gives it.
@@ -13,22 +13,22 @@ struct Accessible
     std::string description;
     std::string label;  ///< The text that labels it.
     bool showing = false;
-    bool focusable = false;  ///< And enabled.
+    bool focusable = false;  ///< Focusable and enabled.
     bool focused = false;
 };
 
 void PrintTo(const Accessible& accessible, std::ostream* out);
 
-/// The name of a role as it is here: newer releases of AT-SPI and ATK call a push button a button.
+/// The name of a role in the installed release: newer releases of AT-SPI and ATK call a push button a button.
 std::string RoleName(const std::string& told);
 
-/// Reads what this process tells of its windows now, parents before their children.
+/// Reads the accessible objects of this process's windows, parents before their children.
 std::vector<Accessible> ReadAccessibles();
 
-/// The one that has the focus; with an empty role when none has.
+/// Returns the focused object; its role is empty when there is none.
 Accessible ReadFocused();
 
-/// The first of that role that is showing; with an empty role when there is none.
+/// Returns the first visible object of that role; its role is empty when there is none.
 Accessible ReadFirst(const std::string& role);
 
 #endif

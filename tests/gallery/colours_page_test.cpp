@@ -90,7 +90,7 @@ protected:
         ASSERT_TRUE(PumpUntil([&] { return HasFocus(Get<wxWindow>(name)); })) << name;
     }
 
-    /// Types into a field in place of what it holds.
+    /// Replaces the text of a field by typing.
     void Type(const std::string& text)
     {
         Press('A', wxMOD_CONTROL);
@@ -98,7 +98,7 @@ protected:
             Press(key);
     }
 
-    /// Leads to a field by its label and gives it another number.
+    /// Finds a field by its label and enters another number.
     void SetNumber(char mnemonic, const wxString& name, int number)
     {
         GoTo(mnemonic, name);
@@ -110,7 +110,7 @@ protected:
 
     void OpenColours()
     {
-        // Away from the cells, of which one would become hot at once.
+        // Keep the pointer off the cells: one would become hot at once.
         PointAt(frame->GetScreenPosition());
         GoTo('C', "Combo");
         Press(WXK_F4);
@@ -230,7 +230,7 @@ TEST_F(ColoursPageTest, TheListForgetsWhatIsOld)
     OpenColours();
     PointAtCell(kDarkRedCell);
     ASSERT_TRUE(PumpUntil([&] { return Events().size() == 2; }));
-    // These come faster than a person could make them.
+    // More events than a person could cause in this time.
     for (int i = 0; i < 249; ++i) {
         Popup().ChangeSelection(0);
         Popup().ChangeSelection(kIndigoCell);

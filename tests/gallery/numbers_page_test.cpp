@@ -52,8 +52,8 @@ protected:
     wxString Result(const wxString& function) { return Label(function + "Result"); }
     CNumberFormat Format() { return frame->GetNumbers()->GetFields()->GetFormat(); }
 
-    /// The name of the page's control that has the focus; empty when none has. Some controls have it in a part that is
-    /// no window of the toolkit's.
+    /// The name of the page's control that has the focus, or empty. In some controls a GTK widget has the focus that is
+    /// not a window of the toolkit.
     wxString FocusName()
     {
         GtkWidget* focus = gtk_window_get_focus(GTK_WINDOW(frame->GetHandle()));
@@ -83,7 +83,7 @@ protected:
         PumpPending();
     }
 
-    /// Puts @a text into the number's field in place of what is there, by keys that may be refused.
+    /// Replaces the text of the number's field by typing; keys may be refused.
     void TypeNumber(const std::string& text)
     {
         Press('N', wxMOD_ALT);
@@ -112,7 +112,7 @@ class NumbersPageFlag : public NumbersPageTest, public testing::WithParamInterfa
 {
 };
 
-// From within the number's field, whose validator would take the letter for a character.
+// The focus is in the number's field, whose validator would refuse the letter.
 TEST_P(NumbersPageFlag, IsSwitchedByItsMnemonicAndByAClick)
 {
     const FlagCase& flag = GetParam();
@@ -247,7 +247,7 @@ TEST_F(NumbersPageTest, TheFieldRefusesWhatTheFormatDoes)
     TypeNumber("x-123456.789");
     EXPECT_EQ(Number().GetValue(), "-12345.78");
     EXPECT_EQ(Result("FormatControlText"), "12,345.78-");
-    // The new format is the field's at once.
+    // The field uses the new format at once.
     Press('S', wxMOD_ALT);
     Press('I', wxMOD_ALT);
     TypeNumber("-123456.789");
@@ -336,7 +336,7 @@ TEST_F(NumbersPageTest, TabGoesFromTheTopToTheBottom)
     for (int i = 0; i < 40 && (names.empty() || names.back() != "Number"); ++i) {
         const wxString before = FocusName();
         Press(WXK_TAB);
-        // The tabs are a stop too.
+        // Tab also stops at the notebook's tabs.
         ASSERT_TRUE(PumpUntil([&] { return FocusName() != before; }));
         if (!FocusName().empty())
             names.emplace_back(FocusName());
@@ -413,7 +413,7 @@ TEST_F(NumbersPageTest, AnEmptyNumberAndNoValidatorComeBackToo)
     EXPECT_EQ(Number().GetValue(), "x");
 }
 
-// Above all not a template: it would be a printf format from the outside.
+// Especially not a template: it would be a printf format from outside the program.
 TEST_F(NumbersPageTest, NonsenseInTheSettingsDoesNoHarm)
 {
     Close();
@@ -445,7 +445,7 @@ TEST_F(NumbersPageTest, FitsIntoASmallWindow)
             EXPECT_GE(WindowRect(*part).GetLeft(), WindowRect(page).GetLeft()) << part->GetName();
             EXPECT_LE(WindowRect(*part).GetRight(), WindowRect(page).GetRight()) << part->GetName();
         }
-        // What lies below the window's border comes into sight with the focus.
+        // A control below the window's border is scrolled into view when it gets the focus.
         Press('N', wxMOD_ALT);
         ASSERT_TRUE(FocusComesTo("Number"));
         Press('L', wxMOD_ALT);

@@ -29,7 +29,7 @@ protected:
         });
     }
 
-    /// Opens the window with its folders in a window of their own, and goes to another page, with which they go.
+    /// Opens the window with the pane of the folders floating, and selects another page, which hides the pane.
     void LeaveFloatingFolders()
     {
         Open(root);
@@ -44,7 +44,7 @@ protected:
 
     bool IsEnabled(int item) { return frame->GetMenuBar()->IsEnabled(item); }
 
-    wxPoint place;  ///< Of the floating folders.
+    wxPoint place;  ///< Of the floating pane.
 };
 
 TEST_F(Pages, AltWithADigitShowsOne)
@@ -145,7 +145,7 @@ TEST_F(Pages, FloatingFoldersGoAndComeWithTheirPage)
     EXPECT_TRUE(FoldersComeTo(place));
 }
 
-// The window manager may have something to say of a window that is already hidden.
+// Events from the window manager may arrive for a window that is already hidden.
 TEST_F(Pages, FloatingFoldersComeBackWhereTheyWereSeen)
 {
     LeaveFloatingFolders();
@@ -158,7 +158,7 @@ TEST_F(Pages, FloatingFoldersComeBackWhereTheyWereSeen)
     EXPECT_TRUE(FoldersComeTo(place));
 }
 
-// Their layout is loaded with their page, so that what was never on the screen is not stored as it is.
+// The layout is loaded when the page is shown: a layout that was never on the screen must not be stored.
 TEST_F(Pages, FoldersThatWereNotShownKeepTheirLayout)
 {
     Open(root);

@@ -1,4 +1,4 @@
-// The program as it is started from a shell.
+// The program, started as from a shell.
 
 #include <csignal>
 #include <cstdio>
@@ -38,7 +38,7 @@ public:
 
     void Send(int signal) { m_child.Send(signal); }
 
-    /// The exit code; negative when a signal ended it, or the deadline has come.
+    /// The exit code; negative when a signal or the deadline ended it.
     int Wait()
     {
         if (m_child.WaitForEnd(1200'000))
@@ -65,7 +65,7 @@ bool ShowsWindow(const std::string& title)
     return WaitFor("xdotool search --onlyvisible --name '" + title + "'");
 }
 
-/// Each test finds no settings of an earlier one.
+/// Each test starts without settings of an earlier one.
 class TheProgram : public testing::Test
 {
 protected:
@@ -130,7 +130,7 @@ TEST_F(TheProgram, SavesItsStateWhenItIsTerminatedInADialog)
     }
 }
 
-// Twice as large as usual, it would not: the screen is 1280 by 1024, less the margins at its edges.
+// At twice the usual size the window would not fit: the screen is 1280 by 1024, less the margins at its edges.
 TEST_F(TheProgram, FitsOnTheScreenAtFirst)
 {
     setenv("GDK_SCALE", "2", 1);
@@ -149,7 +149,7 @@ TEST_F(TheProgram, FitsOnTheScreenAtFirst)
     EXPECT_NEAR(height, 480, 1);
 }
 
-// What the program itself says. The image loader of newer releases says besides when it runs without its sandbox.
+// The program's own messages. The image loader of newer releases also reports that it runs without its sandbox.
 std::string OwnLines(const std::string& errors)
 {
     std::string own;

@@ -1,4 +1,4 @@
-// Where texts begin: at the left, or at the right as for a language that is read from there.
+// Texts begin at the left, or at the right for a language that is read from right to left.
 
 #include <gtk/gtk.h>
 #include <wx/stattext.h>
@@ -16,7 +16,7 @@ struct Room
     int right;
 };
 
-/// How much room a label leaves on both sides of what it shows.
+/// The free width on both sides of a label's text.
 Room Around(const wxString& name, const wxWindow* parent)
 {
     auto* const label = GTK_LABEL(wxWindow::FindWindowByName(name, parent)->GetHandle());

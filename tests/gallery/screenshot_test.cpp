@@ -1,4 +1,4 @@
-// The pictures that the tour takes.
+// The tour's pictures.
 
 #include <gdk-pixbuf/gdk-pixbuf.h>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
-// What users of the toolkit's tree control know of its events holds for the controls of this library: the same tests
-// run on all three.
+// The events of the toolkit's tree control are the same in this library's controls: the same tests run on all
+// three.
 
 #include <gtest/gtest.h>
 
@@ -196,7 +196,7 @@ TYPED_TEST(AsTreeCtrl, DragsAnItemWhenTheHostAllowsIt)
         this->PointTo(PointOn(item, wxTREE_HITTEST_ONITEMLABEL));
         this->user.MouseDown();
         PumpPending();
-        // It takes a few moves to be one.
+        // A drag begins after a few moves.
         for (int x = 0; x < 5; ++x)
             this->PointTo(PointOn(this->c, wxTREE_HITTEST_ONITEMLABEL) + wxPoint(x, 0));
         this->user.MouseUp();

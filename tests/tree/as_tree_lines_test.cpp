@@ -1,5 +1,5 @@
-// Lines of programs that use the toolkit's tree control compile with the controls of this library, and do the same: the
-// same tests run on all three.
+// Code for the toolkit's tree control compiles with this library's controls and does the same: the same tests run on
+// all three.
 
 #include <algorithm>
 #include <map>
@@ -183,7 +183,7 @@ TEST(TreeInOneStep, TakesItsImagesBackAndItsRowsWithThem)
 
     tree->SetImageList(nullptr);
     EXPECT_EQ(tree->GetImageList(), nullptr);
-    // A newer toolkit makes the rows of a tree that never had images a little higher than their text.
+    // Newer versions of the toolkit make the rows of a tree without images a little higher than their text.
     wxRect after;
     EXPECT_TRUE(PumpUntil([&] { return tree->GetBoundingRect(root, after) && after.height <= before.height; }))
         << after.height;

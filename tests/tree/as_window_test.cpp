@@ -1,4 +1,4 @@
-// What users of the toolkit's tree control know of it as a window among others holds for the controls of this library.
+// This library's tree controls are windows just as the toolkit's tree control is.
 
 #include <string>
 
@@ -51,7 +51,7 @@ TEST(TreeCtrlCreate, OfTheToolkitIsThereForTheHandyOneToo)
     PumpPending();
 }
 
-// Neither class has a record of its own: the toolkit takes every tree control for one.
+// Neither class has run-time type information of its own: the toolkit sees a tree control.
 TEST(TreeCtrlClass, IsTheToolkits)
 {
     const TreeOnScreen<wxTreeCtrlEx> ex;
@@ -66,7 +66,7 @@ TEST(TreeCtrlClass, IsTheToolkits)
 
 }  // namespace
 
-// A host's class, which the toolkit knows by its name.
+// A host's class that the toolkit can make by its name.
 class RecordedTree : public wxHandyTreeCtrl
 {
 public:
@@ -124,7 +124,7 @@ TEST(TreeCtrlClass, MayHaveAnEventTableAndAnOrderOfItsOwn)
     Append(root, {L"a3", L"b1", L"c2"});
     root.Expand();
     EXPECT_EQ(screen.tree->expanded, 1);
-    // The control's own handler comes before the table and keeps the event.
+    // The control's own handler runs before the event table and does not skip the event.
     EXPECT_EQ(screen.tree->expanding, 0);
     screen.tree->SortChildren(root.item);
     EXPECT_EQ(ChildrenOf(root), (Labels{L"b1", L"c2", L"a3"}));
@@ -321,7 +321,7 @@ TEST(TreesInOtherColoursAndFont, LookLikeTheToolkits)
     }
     EXPECT_GT(sizes[0].y, 25);
     EXPECT_EQ(sizes[1], sizes[0]);
-    // The colour of the control is not one of the item's own.
+    // The colour of the control is not the item's.
     EXPECT_EQ(root.GetTextColour(), 0u);
     root.SetTextColour(0x00FF0000);
     EXPECT_EQ(handy.tree->GetItemTextColour(root.item), *wxBLUE);
@@ -404,7 +404,7 @@ TEST_F(HandyTreeInUse, TellsOfTheRootThatItSelects)
     ExpectEvents({});
 }
 
-// A selection that the host vetoes is one that was asked for.
+// The host is asked about a selection that it vetoes.
 TEST_F(HandyTreeInUse, LetsTheHostVetoTheRoot)
 {
     tree.SelectItem(b.item);

@@ -1,4 +1,4 @@
-// The wait cursor as the display has it.
+// The wait cursor, as the display shows it.
 
 #include <fittings/tree/handy_tree_ctrl.h>
 
@@ -18,8 +18,8 @@
 
 namespace {
 
-// The name of the cursor under the pointer. Asks through the program's own connection, so the answer comes after
-// whatever the program has asked for before.
+// The name of the cursor under the pointer. Uses the program's own connection, so that the answer comes after the
+// effects of all earlier requests.
 std::string CursorOnDisplay()
 {
     Display* display = gdk_x11_get_default_xdisplay();

@@ -15,7 +15,7 @@
 
 namespace {
 
-// What may be asked of a constant cursor, and what the answers are.
+// The operations on a constant cursor, and their results.
 template <typename Result, typename... Arguments>
 using Asks = Result (wxTreeCursor::*)(Arguments...) const;
 
@@ -29,7 +29,7 @@ static_assert(std::is_same_v<decltype(&wxTreeCursor::GetChild), Asks<wxTreeCurso
 static_assert(std::is_same_v<decltype(&wxTreeCursor::GetNextSibling), Asks<wxTreeCursor>>);
 static_assert(std::is_same_v<decltype(&wxTreeCursor::GetTextColour), Asks<unsigned long>>);
 
-// And what changes the item.
+// The operations that change the item.
 template <typename Result, typename... Arguments>
 using Does = Result (wxTreeCursor::*)(Arguments...);
 
@@ -121,7 +121,7 @@ TEST_F(Cursor, AddsABitmapToTheImageListAndAnswersWhichKindItWas)
     EXPECT_EQ(tree.GetImageList()->GetImageCount(), 2);
     EXPECT_EQ(ImagesOf(root), (std::array{0, -1, -1, 1}));
 
-    // The mask colour is cut out.
+    // The mask colour is transparent.
     const wxImage image = tree.GetImageList()->GetBitmap(0).ConvertToImage();
     EXPECT_EQ(image.GetRed(8, 8), 255);
     EXPECT_TRUE(image.HasMask() ? image.IsTransparent(0, 0) : image.HasAlpha() && image.GetAlpha(0, 0) == 0);

@@ -32,7 +32,7 @@ static_assert(std::is_same_v<decltype(&wxHandyTreeCtrl::SelectRootItem), Operati
 static_assert(std::is_same_v<decltype(&wxHandyTreeCtrl::OnEvtItemExpanding), Operation<void, wxTreeEvent&>>);
 static_assert(std::is_same_v<decltype(&wxHandyTreeCtrl::OnItemExpanding), Operation<void, const wxTreeCursor&>>);
 
-// Where a virtual operation stands among those of its class, in bytes from some beginning: a pointer to it holds that.
+// The offset of a virtual operation in the virtual table, which a pointer to the operation holds.
 template <typename Pointer>
 std::ptrdiff_t PlaceOf(Pointer operation)
 {
@@ -41,7 +41,7 @@ std::ptrdiff_t PlaceOf(Pointer operation)
     return place;
 }
 
-// The class with one virtual operation more.
+// The class with one additional virtual operation.
 template <typename Tree>
 struct Extended : Tree
 {
@@ -114,7 +114,7 @@ TEST(HandyTree, KeepsMasksInItsImageList)
     EXPECT_NE(screen.tree->GetImageList()->GetBitmap(0).GetMask(), nullptr);
 }
 
-// A bitmap that an image list holds as it is: the number of its holders tells whether the list is still there.
+// A bitmap that an image list shares: its reference count tells whether the list still exists.
 wxBitmap Held(wxImageList& list)
 {
     wxBitmap bitmap(16, 16, 24);
@@ -150,7 +150,7 @@ TEST(HandyTree, DeletesItsImageListBeforeTheControlGoes)
     EXPECT_EQ(bitmap.GetRefData()->GetRefCount(), 1);
 }
 
-// Says when it is deleted.
+// Records its deletion.
 struct TrackedImages : wxImageList
 {
     explicit TrackedImages(bool& deleted) : wxImageList(16, 16), m_deleted(deleted) {}

@@ -1,4 +1,4 @@
-// What saving and restoring ask of the toolkit, counted on trees that are wide and deep.
+// The calls of the toolkit that saving and restoring make, counted on wide and deep trees.
 
 #include <fittings/tree/handy_tree_ctrl.h>
 
@@ -16,7 +16,7 @@ namespace {
 
 constexpr int kWidth = 100'000;
 
-/// Counts the calls of a walk. Those by sibling take time in proportion to the number of siblings, each.
+/// Counts the calls of a walk. Each call by sibling takes time in proportion to the number of siblings.
 class CountingTree : public wxHandyTreeCtrl
 {
 public:
@@ -37,7 +37,7 @@ public:
         return wxHandyTreeCtrl::GetPrevSibling(item);
     }
 
-    // GetFirstChild() comes by here too.
+    // GetFirstChild() calls this, too.
     wxTreeItemId GetNextChild(const wxTreeItemId& item, wxTreeItemIdValue& cookie) const override
     {
         ++byCookie;
@@ -69,7 +69,7 @@ protected:
 
     static std::wstring Stored() { return CLocalRegStore::GetString(L"TreeControlState", L"state", L"(nothing)"); }
 
-    /// A root with many children, each @a step-th expanded where a step is given.
+    /// Makes a root with many children; with a @a step, each @a step-th child is expanded.
     void MakeWide(int step)
     {
         const wxWindowUpdateLocker frozen(&tree);
@@ -81,7 +81,7 @@ protected:
         }
     }
 
-    /// A chain of items below the root; the last one.
+    /// Makes a chain of items below the root; returns the last one.
     wxTreeCursor MakeDeep(int depth)
     {
         const wxWindowUpdateLocker frozen(&tree);
@@ -144,7 +144,7 @@ TEST_F(LargeTree, IsVisitedAlsoWhenNothingIsStored)
     EXPECT_EQ(tree.expansions, 0);
 }
 
-// Many of one label, changing from one to the next: no more than the last counts.
+// Many items with one label, expanded and collapsed in turn: only the last one counts.
 TEST_F(LargeTree, OfOneLabelIsSavedAsOne)
 {
     {
@@ -163,7 +163,7 @@ TEST_F(LargeTree, OfOneLabelIsSavedAsOne)
     EXPECT_EQ(Stored(), L"");
 }
 
-// So many that some of them agree in 32 bits of any hash.
+// So many that some of them have equal 32-bit hashes.
 TEST_F(LargeTree, TellsAllItsLabelsApart)
 {
     constexpr int kCount = 300'000;
@@ -221,7 +221,7 @@ TEST_F(LargeTree, IsSavedAndVisitedWhateverItsDepth)
     EXPECT_LE(tree.byCookie, 4 * kDepth);
 }
 
-// As deep as the toolkit can lay out an expanded chain in a stack of 8 MB.
+// The deepest expanded chain that the toolkit can lay out with a stack of 8 MB.
 TEST_F(LargeTree, IsRestoredAsDeepAsTheToolkitBears)
 {
     constexpr int kDepth = 20'000;
@@ -233,7 +233,7 @@ TEST_F(LargeTree, IsRestoredAsDeepAsTheToolkitBears)
     tree.LoadState("state", root);
     EXPECT_EQ(tree.expansions, kDepth + 1);
 
-    // The last is a leaf, and cannot be expanded.
+    // The last item is a leaf and cannot be expanded.
     tree.SaveState("state", root);
     EXPECT_EQ(Stored().size(), (kDepth - 1) * 7u + 5);
     EXPECT_EQ(Stored().substr(0, 14), L"000000|000001|");

@@ -14,7 +14,7 @@
 
 namespace {
 
-/// Counts what is asked of items that are deleted. The toolkit would read memory that is no longer theirs.
+/// Counts calls with deleted items, for which the toolkit would read freed memory.
 class MortalTree : public LazyTree
 {
 public:
@@ -56,7 +56,7 @@ protected:
         });
     }
 
-    /// Restores a tree in which everything was expanded; the items that were visited.
+    /// Restores a tree in which everything was expanded, and returns the visited items.
     Labels Load()
     {
         const auto note = [this](wxTreeEvent& event) {
@@ -72,12 +72,12 @@ protected:
     }
 
     TempUserData settings;
-    Labels deleted;  // The end of the tree deletes its items too.
+    Labels deleted;  // declared first: the tree's destructor deletes its items, too
     TreeOnScreen<MortalTree> screen;
     MortalTree& tree = *screen.tree;
     wxTreeCursor root;
     std::map<std::wstring, wxTreeCursor> items;
-    std::map<std::wstring, std::function<void()>> when;  ///< What happens once the item is expanded, the first time.
+    std::map<std::wstring, std::function<void()>> when;  ///< Actions when the item is first expanded.
 };
 
 TEST_F(LoadStateMeanwhile, VisitsAnAppendedSibling)
@@ -118,7 +118,7 @@ TEST_F(LoadStateMeanwhile, SkipsNothingWhenASiblingBehindItIsDeleted)
     EXPECT_EQ(Load(), (Labels{L"R", L"A", L"A1", L"A2", L"B", L"B1", L"B2", L"C", L"C1", L"C2"}));
 }
 
-// The number of siblings stays the same, their places do not.
+// The number of siblings stays the same, but their places change.
 TEST_F(LoadStateMeanwhile, KeepsItsPlaceWhenSiblingsAreExchanged)
 {
     when[L"B"] = [&] {

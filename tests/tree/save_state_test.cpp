@@ -215,7 +215,7 @@ TEST_F(SaveState, ChangesNothingInTheTree)
     EXPECT_EQ(root.tree, &tree);
 }
 
-// No one can make a folder there, root included.
+// Nobody can make a folder there, not even root.
 TEST_F(SaveState, IsLostQuietlyWhereNothingCanBeStored)
 {
     std_file_paths::SetUserDataDir(L"/proc/fittings");

@@ -14,7 +14,8 @@
 
 #include <tests/tree/tree_on_screen.h>
 
-/// Notes each event of a tree, which it is to outlive, as "selected b after a". A host's reactions can be named.
+/// Records each event of a tree as a text such as "selected b after a", and runs a host's reactions. Must outlive the
+/// tree.
 class TreeLog
 {
 public:
@@ -39,10 +40,10 @@ public:
         Watch(wxEVT_TREE_KEY_DOWN, L"key");
     }
 
-    /// What a host does when it hears of the event with that note. An event without a reaction is skipped.
+    /// The host's reaction to the event with that text. An event without a reaction is skipped.
     std::map<std::wstring, std::function<void(wxTreeEvent&)>> on;
 
-    /// Returns the notes since the last time.
+    /// Returns the texts since the previous call.
     Labels Take() { return std::exchange(m_notes, {}); }
 
     const Labels& Notes() const { return m_notes; }
@@ -113,7 +114,7 @@ protected:
         user.MouseClick(button);
     }
 
-    /// Waits until as many events have come, and a little longer for one too many.
+    /// Waits until so many events have arrived, and a little longer to see that no other one follows.
     void ExpectEvents(const Labels& events)
     {
         PumpUntil([&] { return log.Notes().size() >= events.size(); });

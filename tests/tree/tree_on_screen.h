@@ -15,7 +15,7 @@
 
 using Labels = std::vector<std::wstring>;
 
-/// A frame that holds a tree of the given class, both gone when the object is.
+/// A frame with a tree of the given class, destroyed with this object.
 template <typename Tree = wxHandyTreeCtrl>
 class TreeOnScreen
 {
@@ -46,7 +46,7 @@ public:
     Tree* tree;
 };
 
-/// A browsing tree over a fixed list of folders, filled as it is expanded. It notes what is asked of it.
+/// A tree over a fixed list of folders, filled when it is expanded. Records the calls.
 class LazyTree : public wxHandyTreeCtrl
 {
 public:
@@ -81,7 +81,7 @@ inline wxTreeCursor AddLazyRoot(wxTreeCtrlEx& tree, const wxString& label)
     return root;
 }
 
-/// Appends one child a label, and returns them.
+/// Appends one child for each label, and returns the children.
 inline std::vector<wxTreeCursor> Append(wxTreeCursor parent, const Labels& labels)
 {
     std::vector<wxTreeCursor> items;

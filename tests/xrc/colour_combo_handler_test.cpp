@@ -16,7 +16,7 @@
 #include <tests/support/gui.h>
 #include <tests/xrc/loaded_resource.h>
 
-/// A host's class, made by its name in the resource.
+/// A host's class that the resource names.
 class NotingCombo : public wxColourCombo, private wxColorPopupListener
 {
 public:
@@ -106,7 +106,7 @@ TEST(ColourComboXmlHandler, LeavesOutTheBoxesWhoseTextIsEmpty)
     EXPECT_FALSE(combo->IsEnabled());
 }
 
-// The texts are those of the cells that the keys reach, letter by letter.
+// Compares the texts of the cells that the keys reach.
 TEST(ColourComboXmlHandler, MakesAControlThatCanBeUsedByKeys)
 {
     LoadedResource resource;

@@ -1,4 +1,4 @@
-// A program's code for a wxColourPickerCtrl, compiled and run with that and with a wxColourCombo.
+// Code for a wxColourPickerCtrl, compiled and run with that class and with wxColourCombo.
 
 #include <string>
 #include <utility>
@@ -35,7 +35,7 @@ struct User<wxColourPickerCtrl>
     static constexpr const char* kName = "Picker";
     static constexpr const char* kResource = "picker";
 
-    // The dialog is GTK's. This is what it does at OK.
+    // Does what GTK's dialog does at OK.
     static wxColour Choose(wxColourPickerCtrl& control)
     {
         GtkWidget* const button = control.GetPickerCtrl()->GetHandle();

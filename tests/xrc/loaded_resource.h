@@ -8,8 +8,8 @@
 #include <wx/panel.h>
 #include <wx/xrc/xmlres.h>
 
-/// controls.xrc with the toolkit's handlers and ours, and a frame or a panel made from it, which is gone when the
-/// object is.
+/// Loads controls.xrc with the toolkit's handlers and ours, and makes a frame or a panel from it, which is destroyed
+/// with this object.
 class LoadedResource : public wxXmlResource
 {
 public:
@@ -22,7 +22,7 @@ public:
     /// The panel of that name, in a frame of its own.
     wxPanel* MakePanel(const std::string& name);
 
-    /// What was reported, one message a line.
+    /// The reported errors, one message a line.
     std::vector<std::string> errors;
 
 protected:
@@ -32,7 +32,7 @@ private:
     wxFrame* m_frame = nullptr;
 };
 
-/// No control, though the resource names it as a subclass of one. Nobody owns those that were `made`.
+/// Not a control, though the resource names it as a subclass of one. Nobody owns the objects in `made`.
 class StrayObject : public wxObject
 {
 public:

@@ -11,7 +11,7 @@
 #include <tests/support/gui.h>
 #include <tests/xrc/loaded_resource.h>
 
-/// A host's class, made by its name in the resource.
+/// A host's class that the resource names.
 class PlanetTree : public wxHandyTreeCtrl
 {
     void OnItemExpanding(const wxTreeCursor& item) override { wxTreeCursor(item).AppendItem("Earth"); }
@@ -92,7 +92,7 @@ TEST(HandyTreeXmlHandler, MakesTheSubclassThatTheResourceNames)
 TEST(HandyTreeXmlHandler, ReportsWhatItCannotUnderstandAndTakesWhatIsUsual)
 {
     LoadedResource resource;
-    const ExpectAssertions ofTheToolkit;  // it goes on with the bitmap that is none
+    const ExpectAssertions ofTheToolkit;  // it asserts on the invalid bitmap and goes on
     wxPanel* const panel = resource.MakePanel("bad-tree");
     ASSERT_NE(panel, nullptr);
     EXPECT_THAT(resource.errors, Contains(HasSubstr("wxTR_NO_ROOTS")).Times(1));

@@ -26,8 +26,8 @@ struct DecodedUtf8
     std::size_t bytes;             ///< How many bytes it takes.
 };
 
-/// Decodes the first character of @a text, which must not be empty. A sequence that is cut short or wrong takes the bytes up to
-/// its first wrong one, which may start the next (the Unicode Standard's "maximal subpart" practice).
+/// Decodes the first character of @a text, which must not be empty. A sequence that is cut short or wrong takes the
+/// bytes up to its first wrong one, which may start the next (the Unicode Standard's "maximal subpart" practice).
 DecodedUtf8 DecodeUtf8(std::string_view text);
 
 /// Appends @a code in UTF-8, whose scheme is carried on up to 32 bits for what is no Unicode character.

@@ -44,7 +44,7 @@ void BrowserTest::Resize(const wxSize& size)
     };
     const wxSize decorations = frame->GetSize() - sizeOnScreen();
     frame->SetSize(size);
-    // What the frame says of its size runs ahead of what is on the screen.
+    // GetSize() already returns the new size before the screen shows it.
     ASSERT_TRUE(PumpUntil([&] { return frame->GetSize() == size && sizeOnScreen() + decorations == size; }));
     PumpPending();
 }
@@ -101,7 +101,7 @@ void BrowserTest::FloatFolders(const wxPoint& place)
     pane.Float().FloatingSize(300, 260);
     frame->GetBrowser()->GetLayout().Update();
     ASSERT_TRUE(PumpUntil([&] { return Tree().IsShownOnScreen() && Tree().GetSize().y < 300; }));
-    // Where a window first appears is the window manager's choice.
+    // The window manager chooses where a window first appears.
     pane.frame->Move(place);
     ASSERT_TRUE(FoldersComeTo(place));
 }

@@ -14,7 +14,7 @@
 #include <tests/support/gui.h>
 #include <tests/support/temp_folder.h>
 
-/// A browser window on a folder of its own, with settings of its own.
+/// A browser window on a temporary folder, with temporary settings.
 class BrowserTest : public testing::Test
 {
 protected:
@@ -27,13 +27,13 @@ protected:
     /// Closes the window as a person does, and waits until it is gone.
     void Close();
 
-    /// Gives the window another size and waits until all of it is on the screen so.
+    /// Resizes the window and waits until the screen shows all of it in the new size.
     void Resize(const wxSize& size);
 
     gallery::FolderTree& Tree() { return *frame->GetBrowser()->GetTree(); }
     gallery::ContentsList& List() { return *frame->GetBrowser()->GetList(); }
 
-    /// The names in the list, from the top.
+    /// The names in the list, from top to bottom.
     std::vector<std::string> Rows();
     unsigned RowOf(const std::string& name);
 
@@ -43,15 +43,15 @@ protected:
     void ClickFolder(const std::string& path);
     bool SelectionComesTo(const std::string& path);
 
-    /// Takes the folders out of the window, to a place on the screen.
+    /// Makes the pane of the folders float at a place on the screen.
     void FloatFolders(const wxPoint& place);
 
-    /// Whether the folders come to float there.
+    /// Waits until that pane floats there; returns false when it does not.
     bool FoldersComeTo(const wxPoint& place);
 
     TempUserData settings;
     TempFolder temp;
-    std::string root;  ///< As the browser names it.
+    std::string root;  ///< In the browser's spelling.
     gallery::GalleryFrame* frame = nullptr;
 };
 

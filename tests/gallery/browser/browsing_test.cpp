@@ -37,7 +37,7 @@ TEST_F(Browsing, StartsWithTheFoldersOfTheRoot)
               wxString::FromUTF8("4 items, 3.0\u00A0kB (3\u00A0003 bytes) in 2 files"));
 }
 
-// This process stays in the C locale.
+// The locale is that of the process: C.
 TEST_F(Browsing, AllLabelsAreWholeInAnyLocale)
 {
     EXPECT_EQ(frame->GetMenuBar()->FindItem(wxID_OPEN)->GetItemLabelText(), L"Open folder\u2026");
@@ -47,7 +47,7 @@ TEST_F(Browsing, AllLabelsAreWholeInAnyLocale)
 
 TEST_F(Browsing, RightAndLeftKeysExpandAndCollapse)
 {
-    // As for a language that is read from right to left, they change places.
+    // From right to left the two change places.
     const bool isRightToLeft = Tree().GetLayoutDirection() == wxLayout_RightToLeft;
     ClickFolder("docs");
     ASSERT_TRUE(SelectionComesTo("docs"));
@@ -86,7 +86,7 @@ TEST_F(Browsing, AClickOnAHeaderSortsAndASecondReverses)
     EXPECT_TRUE(PumpUntil([&] { return List().GetColumn(0)->IsSortKey() && !List().GetColumn(1)->IsSortKey(); }));
 }
 
-// The toolkit keeps its own record of the order: a new folder's rows must not make it start again.
+// The toolkit also keeps the sort order: the rows of a new folder must not reset it.
 TEST_F(Browsing, TheOrderStaysInAnotherFolder)
 {
     Click(CentreOf(HeaderRect(List(), SortColumn::Name)));

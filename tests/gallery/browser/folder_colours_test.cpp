@@ -18,8 +18,8 @@ namespace fs = std::filesystem;
 const wxColour darkRed(139, 0, 0);
 const wxColour kIndigo(75, 0, 130);
 
-/// How a colour of the palette looks in the tree and beside the combo: in the dark theme, light enough to be read
-/// there.
+/// A colour of the palette as the tree shows it, and the label next to the combo: in the dark theme it is made light
+/// enough to read.
 struct Look
 {
     wxColour inTree;
@@ -101,7 +101,7 @@ TEST_F(FolderColours, AClickGivesAFolderOne)
     EXPECT_EQ(Combo().GetColourPopup()->GetInitialColour(), Tree().GetForegroundColour());
 }
 
-// Down from "More Colours..." leads to "Automatic", from there to the palette's first row.
+// Down leads from "More Colours..." to "Automatic", and from there to the first row of the palette.
 TEST_F(FolderColours, TheKeyboardGivesAFolderOne)
 {
     Select("docs");
@@ -162,7 +162,7 @@ TEST_F(FolderColours, AutomaticTakesItAway)
     EXPECT_FALSE(ColourOf("docs").IsOk());
 }
 
-// The plain text's colour is also in the palette.
+// The colour of plain text is also in the palette.
 TEST_F(FolderColours, BlackIsNotAutomatic)
 {
     Select("docs");
@@ -213,7 +213,7 @@ TEST_F(FolderColours, EachFolderStartsWithItsOwn)
     Select("docs");
     Select("music");
     OpenColours();
-    // Enter without a move keeps what the folder has.
+    // Enter without a move keeps the folder's colour.
     Press(WXK_RETURN);
     EXPECT_TRUE(PumpUntil([&] { return !Combo().IsPopupShown(); }));
     EXPECT_EQ(browser_settings::LoadFolderColour(root + "/music"), kIndigo);

@@ -71,7 +71,7 @@ TEST_F(Remembering, ThePanesComeBackAsTheyWereDragged)
     EXPECT_TRUE(PumpUntil([&] { return Tree().GetSize().x == first; }));
 }
 
-// Behind the window the folders could not be clicked.
+// The floating pane must be above the window, or it could not be clicked.
 TEST_F(Remembering, FloatingFoldersComeBackAboveTheWindow)
 {
     Open(root);
@@ -230,13 +230,13 @@ TEST_F(Remembering, OrderAndColumnWidthsComeBack)
     EXPECT_TRUE(List().GetColumn(3)->IsSortKey());
     EXPECT_FALSE(List().GetColumn(3)->IsSortOrderAscending());
     EXPECT_TRUE(PumpUntil([&] { return List().GetColumnWidths() == widths; }));
-    // The first click on that header goes on from there.
+    // The first click on that header reverses the restored order.
     Click(CentreOf(HeaderRect(List(), SortColumn::Modified)));
     EXPECT_TRUE(PumpUntil([&] { return List().GetSortOrder().ascending; }));
     EXPECT_EQ(List().GetSortOrder().column, SortColumn::Modified);
 }
 
-// They were in a file of the gallery's own.
+// Earlier versions stored the columns in a file of the gallery.
 TEST_F(Remembering, OrderAndColumnWidthsOfAnEarlierVersionComeBack)
 {
     fs::create_directories(settings / "ui_config");

@@ -15,7 +15,7 @@ using namespace gallery::simulated_user;
 namespace fs = std::filesystem;
 using Strings = std::vector<std::string>;
 
-/// Counts GTK's own complaints for as long as it lives.
+/// Counts GTK's warnings as long as it lives.
 class CriticalMessages
 {
 public:
@@ -53,7 +53,7 @@ protected:
         Open(root);
     }
 
-    /// It takes no room, whatever its size.
+    /// Makes a sparse file, which takes no space.
     void MakeFile(const std::string& name, std::uintmax_t size)
     {
         fs::create_directories(fs::path(temp / name).parent_path());
@@ -129,7 +129,7 @@ TEST_F(SizeFilterTest, RefusesWhatIsNoSize)
     EXPECT_EQ(frame->GetBrowser()->GetFilter()->GetMinimum(), 123456789000000u);
 }
 
-// The field does not hinder pasting.
+// Text that is pasted is not filtered.
 TEST_F(SizeFilterTest, TakesPastedNonsenseForNoNumber)
 {
     for (const char* pasted : {"abc", "1e3", "-5", ".", "12 34", "nan", "inf", "0x10"}) {
@@ -149,7 +149,7 @@ TEST_F(SizeFilterTest, EscapeEmptiesIt)
     EXPECT_TRUE(Field().HasFocus());
 }
 
-// This process stays in the C locale, which has no separator of its own.
+// The process is in the C locale, which has no thousands separator.
 TEST_F(SizeFilterTest, ShowsTheNumberWithItsDigitsGrouped)
 {
     Filter("1234567.50");
@@ -185,7 +185,7 @@ TEST_F(SizeFilterTest, TheSelectedEntryStaysSelectedWhileItIsListed)
     EXPECT_EQ(Status(1), "");
 }
 
-// Asked in between for the selected row, the list would name one that is not there any more.
+// While rows are being removed, the list would return a selected row that no longer exists.
 TEST_F(SizeFilterTest, TheSelectedFolderMayProveTooSmall)
 {
     ASSERT_TRUE(PumpUntil([&] { return !frame->GetBrowser()->GetSizes()->IsRunning(); }));

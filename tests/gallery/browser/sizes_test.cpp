@@ -45,7 +45,7 @@ protected:
     }
     const Entry& EntryNamed(const std::string& name) { return List().GetEntry(RowOf(name)); }
 
-    /// Adding this folder up takes a while.
+    /// A folder large enough that adding it up takes a while.
     std::string MakeLargeFolder()
     {
         for (int i = 0; i < 40; ++i) {
@@ -148,7 +148,7 @@ TEST_F(Sizes, StoppingTakesAMomentAndKeepsWhatIsKnown)
 {
     Open(MakeLargeFolder());
     ASSERT_TRUE(ComesToRest());
-    // On a busy machine the worker may be done before the window has heard of it once.
+    // On a busy machine the worker may finish before the window has received an event.
     ASSERT_TRUE(PumpUntil([&] {
         if (!Row().IsRunning())
             Row().Start(memory.Path());

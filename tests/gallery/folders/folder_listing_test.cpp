@@ -18,7 +18,7 @@ namespace {
 using namespace gallery;
 namespace fs = std::filesystem;
 
-/// The entry @a name; an empty one, and a failed test, when there is none.
+/// Returns the entry @a name; fails the test when there is none.
 Entry Find(const Listing& listing, const std::string& name)
 {
     for (const Entry& entry : listing.entries) {

@@ -18,7 +18,7 @@ namespace {
 using namespace gallery;
 namespace fs = std::filesystem;
 
-/// Writes down what it is told.
+/// Records the reports of progress.
 class Notes : public SizeObserver
 {
 public:
@@ -36,7 +36,7 @@ public:
     std::map<std::string, FolderSum> subfolders;
     double last = 0;
     int calls = 0;
-    std::uint64_t most = UINT64_MAX;  ///< After so many items the walk is to end.
+    std::uint64_t most = UINT64_MAX;  ///< Ends the walk after so many items.
 };
 
 FolderSum Sum(const std::string& path)
@@ -52,7 +52,7 @@ std::uint64_t OwnSize(const std::string& path)
     return static_cast<std::uint64_t>(status.st_size);
 }
 
-/// A chain of folders named "d" below @a path, longer than a path can be; each holds a file of one byte.
+/// Makes a chain of folders named "d" below @a path, deeper than a path can be long; each holds a file of one byte.
 void MakeChain(const std::string& path, int levels)
 {
     int folder = open(path.c_str(), O_RDONLY | O_DIRECTORY);
@@ -176,7 +176,7 @@ TEST(SumFolder, CountsWhatCannotBeRead)
     Notes notes;
     const FolderSum sum = SumFolder(folder.Path(), notes);
     EXPECT_EQ(sum.unreadable, 2u);
-    EXPECT_EQ(sum.items, 5u);  // "in" behind its name only
+    EXPECT_EQ(sum.items, 5u);  // of "in" only the name
     EXPECT_EQ(sum.bytes, 5 + OwnSize(folder.Path()) + OwnSize(folder / "closed") + OwnSize(folder / "names-only"));
     EXPECT_EQ(notes.subfolders["closed"].unreadable, 1u);
     EXPECT_EQ(notes.subfolders["names-only"].unreadable, 1u);
@@ -223,7 +223,7 @@ TEST(SumFolder, ComesBackToEveryFolderOnTheWayUp)
     EXPECT_EQ(sum.bytes, ListedSize(folder.Path()));
 }
 
-/// Moves a part of the chain away while the walk is at its end.
+/// Moves a part of the chain away when the walk has reached its end.
 class Mover : public Notes
 {
 public:

@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <string>
 
-/// The sizes of a folder and of everything below it, added up from what find lists: a file with several names once.
-/// du is no measure of it: whether its apparent size has the folders' own sizes in it depends on its version.
+/// The sum of the sizes of a folder and everything below it, from the output of find; a file with several names counts
+/// once. The command du cannot be used: its versions differ in whether folders' own sizes count.
 std::uint64_t ListedSize(const std::string& path);
 
 #endif

@@ -105,7 +105,7 @@ TEST(NamesSort, WithUndecodableOnesToo)
     EXPECT_EQ(SortedNames({"b", "\xFF", "A\xFF", "a"}), (Strings{"a", "A\xFF", "b", "\xFF"}));
 }
 
-// The figure is a limit for slow machines under a sanitizer; a plain build takes a twentieth of it.
+// The limit is for slow machines under a sanitizer; a plain build takes a twentieth of it.
 TEST(SortedPositions, TakeAHundredThousandEntriesInAMoment)
 {
     std::mt19937 random(1);
