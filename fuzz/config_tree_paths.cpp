@@ -1,0 +1,103 @@
+// What a persistent tree remembers, by path: any text is read as what can have been written or as none, restoring it
+// asserts nothing, and what is saved afterwards brings a tree of the same items to the same state.
+
+#include <cstdint>
+#include <numeric>
+#include <string>
+#include <vector>
+
+#include <fuzzer/FuzzedDataProvider.h>
+
+#include <wx/frame.h>
+
+#include <fittings/config/persistence.h>
+#include <fittings/config/persistent/tree_paths.h>
+#include <fittings/platform/local_reg_store.h>
+#include <fuzz/check.h>
+#include <fuzz/toolkit.h>
+
+namespace {
+
+constexpr const wchar_t* kLabels[] = {L"", L"a", L"b", L"a|b", L"\\", L"\\0", L"1+:a|", L"\u3042", L"\U0001F600"};
+constexpr long kStyles[] = {wxTR_DEFAULT_STYLE, wxTR_DEFAULT_STYLE | wxTR_MULTIPLE,
+                            wxTR_DEFAULT_STYLE | wxTR_HIDE_ROOT};
+constexpr std::size_t kMostItems = 40;
+
+/// Where each item but the root goes, and what it is called.
+struct Item
+{
+    std::size_t parent;
+    const wchar_t* label;
+};
+
+std::vector<Item> ConsumeItems(FuzzedDataProvider& bytes)
+{
+    std::vector<Item> items;
+    const std::size_t count = bytes.ConsumeIntegralInRange<std::size_t>(0, kMostItems);
+    while (items.size() < count)
+        items.push_back({bytes.ConsumeIntegralInRange<std::size_t>(0, items.size()), bytes.PickValueInArray(kLabels)});
+    return items;
+}
+
+/// What is expanded and selected, by whole paths. What is first in view counts only for trees that are shown.
+std::vector<std::wstring> Marked(const std::wstring& text)
+{
+    std::vector<std::wstring> marked;
+    std::vector<std::wstring> path;
+    const auto steps = fittings::FromText(text);
+    Check(steps.has_value(), "what is saved can be read");
+    for (fittings::TreeStep step : *steps) {
+        const std::wstring marks = std::wstring(step.isExpanded ? L"+" : L"") + (step.isSelected ? L"*" : L"");
+        step.isExpanded = step.isSelected = step.isFirstInView = false;
+        path.resize(step.level);
+        path.push_back(fittings::ToText({step}));
+        if (!marks.empty())
+            marked.push_back(std::accumulate(path.begin(), path.end(), marks));
+    }
+    return marked;
+}
+
+/// Shows a new tree what is stored, and returns what it stores then. False in @a isRestored when that counted as none.
+std::wstring SavedAfterRestoring(const std::wstring& text, const std::vector<Item>& items, long style, bool& isRestored)
+{
+    Check(CLocalRegStore::WriteString("Persistent_Options/Tree/tree", "Items", text), "it can be stored");
+    {
+        wxFrame frame(nullptr, wxID_ANY, "fuzz");
+        auto* const tree = new wxTreeCtrl(&frame, wxID_ANY, wxDefaultPosition, wxDefaultSize, style);
+        std::vector<wxTreeItemId> made{tree->AddRoot("root")};
+        for (const Item& item : items)
+            made.push_back(tree->AppendItem(made[item.parent], item.label));
+        isRestored = wxPersistentRegisterAndRestore(tree, "tree");
+        if (!isRestored) {
+            for (const wxTreeItemId& item : made)
+                Check(!tree->IsExpanded(item) || (style & wxTR_HIDE_ROOT) != 0, "what counts as none changes nothing");
+        }
+    }
+    Check(wxStorePersistenceManager::Install().Flush(), "it is saved");
+    return CLocalRegStore::GetString(L"Persistent_Options/Tree/tree", L"Items", L"(none)");
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    StartToolkit();
+    wxStorePersistenceManager::Install();
+    FuzzedDataProvider bytes(data, size);
+    const long style = bytes.PickValueInArray(kStyles);
+    const std::vector<Item> items = ConsumeItems(bytes);
+    const std::wstring text = ConsumeWideText(bytes);
+
+    const auto steps = fittings::FromText(text);
+    if (steps) {
+        const auto again = fittings::FromText(fittings::ToText(*steps));
+        Check(again && fittings::ToText(*again) == fittings::ToText(*steps), "what is written is read as it was");
+    }
+
+    bool isRestored = false;
+    const std::wstring saved = SavedAfterRestoring(text, items, style, isRestored);
+    Check(isRestored == steps.has_value(), "a text that is none restores nothing");
+    Check(Marked(SavedAfterRestoring(saved, items, style, isRestored)) == Marked(saved), "the state comes back");
+    Check(isRestored, "what was saved is restored");
+    return 0;
+}
