@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include <fittings/platform/embedded/ini_codec.h>
+#include <fittings/platform/file_util_ex.h>
 
 using fittings::IniText;
 
@@ -67,6 +68,18 @@ bool CIniFile::Refresh(const std::string& path, const std::vector<Change>& chang
     now.m_revision = revision;
     *this = std::move(now);
     return !isSame;
+}
+
+bool CIniFile::Refresh(std::wstring_view path)
+{
+    auto asked = std::exchange(m_asked, {});
+    if (asked.path != path) {
+        asked.path = path;
+        asked.inUtf8 = file_util_ex::ConvertToUTF8(asked.path);
+    }
+    const bool isOther = Refresh(asked.inUtf8);
+    m_asked = std::move(asked);
+    return isOther;
 }
 
 bool CIniFile::IsFresh() const

@@ -28,6 +28,9 @@ public:
     bool Refresh(const std::string& path, const std::vector<fittings::SettingsChange>& changes = {},
                  std::uint64_t revision = 0);
 
+    /// The same for a path in wide text. The path of the last call is not converted again.
+    bool Refresh(std::wstring_view path);
+
     /// Takes @a text in place of what the object held. False when it holds no settings but bytes that are no text.
     bool Parse(std::string text);
 
@@ -85,6 +88,13 @@ private:
     fittings::FileContent m_content = {fittings::ReadResult::Missing, std::nullopt};
     bool m_isNoText = false;
     std::uint64_t m_revision = 0;
+
+    /// What the Refresh() of wide text was asked for last.
+    struct
+    {
+        std::wstring path;
+        std::string inUtf8;
+    } m_asked;
 };
 
 #endif

@@ -134,7 +134,7 @@ std::vector<CLocalRegStore::Entry> CLocalRegStore::GetEntries(const CIniFile& in
 
 bool CLocalRegStore::Refresh(CIniFile& ini, const wchar_t* path)
 {
-    return ini.Refresh(SystemPath(path));
+    return ini.Refresh(View(path));
 }
 
 void CLocalRegStore::ApplyChanges(CIniFile& ini, const std::vector<Change>& changes)

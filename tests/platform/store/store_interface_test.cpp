@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <string>
 #include <type_traits>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -33,6 +34,22 @@ TEST(NewIniFile, IsEmpty)
     const Ini ini;
     EXPECT_EQ(ini.Get(L"s", L"k", L"default"), L"default");
     EXPECT_EQ(ini.Get(L"", L"", L""), L"");
+}
+
+TEST(RefreshedIniFile, HoldsTheFileThatItWasRefreshedFromLast)
+{
+    const TempFolder folder;
+    const std::string one = folder / "one.ini";
+    const std::string two = folder / "two.ini";
+    ASSERT_TRUE(CLocalRegStore::SaveChanges(one, {{L"s", L"number", L"1"}}));
+    ASSERT_TRUE(CLocalRegStore::SaveChanges(two, {{L"s", L"number", L"2"}}));
+    CIniFile* const ini = CLocalRegStore::CreateInitFile(false);
+    for (const auto& [path, number] :
+         {std::pair(one, L"1"), std::pair(two, L"2"), std::pair(two, L"2"), std::pair(one, L"1")}) {
+        CLocalRegStore::Refresh(*ini, path);
+        EXPECT_EQ(CLocalRegStore::GetString(*ini, L"s", L"number", L""), number);
+    }
+    CLocalRegStore::DestroyIniFile(ini);
 }
 
 TEST(NewIniFile, IsAnotherOneEachTime)
