@@ -6,6 +6,7 @@
 #include <gtk/gtk.h>
 #include <unistd.h>
 #include <wx/button.h>
+#include <wx/menu.h>
 #include <wx/textctrl.h>
 #include <wx/timer.h>
 
@@ -155,6 +156,7 @@ bool Tour::Run()
         {"save a report", &Tour::SaveReport},
         {"choose a folder in the dialog", &Tour::ChooseFolder},
         {"cancel the dialog", &Tour::CancelFolder},
+        {"open a recent folder", &Tour::OpenRecentFolder},
         {"format a number as it is typed", &Tour::TypeNumber},
         {"choose a colour", &Tour::ChooseColour},
         {"find the window again", &Tour::RememberWindow},
@@ -338,6 +340,27 @@ bool Tour::CancelFolder()
                            return Waits([] { return !FindFileDialog(); }, "Escape cancels");
                        }) &&
            IsTrue(State(*m_frame) == before, "a cancelled dialog changes nothing");
+}
+
+bool Tour::OpenRecentFolder()
+{
+    const State before(*m_frame);
+    const std::string other = before.selected != before.root ? before.selected : m_demo.Path();
+    m_frame->Start(other);
+    const wxMenu* const file = m_frame->GetMenuBar()->GetMenu(0);
+    const wxMenuItem* const second = m_frame->GetMenuBar()->FindItem(wxID_FILE2);
+    if (!Waits([&] { return State(*m_frame).root == other; }, "another folder opens") ||
+        !IsTrue(second && second->GetItemLabelText().AfterFirst(' ').utf8_string() == before.root,
+                "the folder before is second in the menu"))
+        return false;
+    Press('F', wxMOD_ALT);
+    if (!Waits([&] { return gtk_widget_get_mapped(file->m_menu) != 0; }, "Alt+F opens the menu"))
+        return false;
+    Press('F');
+    if (!Waits([&] { return gtk_widget_get_mapped(second->GetMenu()->m_menu) != 0; }, "F shows the recent folders"))
+        return false;
+    Press('2');
+    return Waits([&] { return State(*m_frame) == before; }, "a recent folder looks as it was left");
 }
 
 bool Tour::RememberWindow()

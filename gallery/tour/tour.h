@@ -35,6 +35,7 @@ private:
     bool SaveReport();
     bool ChooseFolder();
     bool CancelFolder();
+    bool OpenRecentFolder();
     bool ColourFolder();
     bool TypeNumber();
     bool ChooseColour();
