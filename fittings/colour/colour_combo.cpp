@@ -35,11 +35,11 @@ wxBitmap CopyOfScreen(const wxRect& rect)
     return bitmap;
 }
 
-// Whether the window, or one that it goes with, is deleted as soon as no event is under way.
-bool IsGoing(wxWindow* window)
+// True when the window or one of its parents is deleted as soon as no event is being handled.
+bool IsScheduledForDeletion(wxWindow* window)
 {
-    return window &&
-           (window->IsBeingDeleted() || wxTheApp->IsScheduledForDestruction(window) || IsGoing(window->GetParent()));
+    return window && (window->IsBeingDeleted() || wxTheApp->IsScheduledForDestruction(window) ||
+                      IsScheduledForDeletion(window->GetParent()));
 }
 
 }  // namespace
@@ -137,7 +137,7 @@ void wxColourCombo::ShowPopup()
 void wxColourCombo::HidePopup(bool generateEvent)
 {
     // The next step of the animation shows it, and it has its end when it closes then.
-    if (m_animTimer.IsRunning() && !IsGoing(this))
+    if (m_animTimer.IsRunning() && !IsScheduledForDeletion(this))
         m_popupWinState = Hidden;
     else
         wxComboCtrl::HidePopup(generateEvent);
@@ -266,7 +266,7 @@ void wxColourCombo::EndAnimation(wxWindow& popup)
         m_popupWinState = Animating;
         m_winPopup->Enable();
     }
-    if (!IsGoing(this))
+    if (!IsScheduledForDeletion(this))
         DoShowPopup(m_animRect, m_animFlags);
 }
 

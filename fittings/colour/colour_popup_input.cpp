@@ -18,18 +18,18 @@ namespace {
 // Expired when the popup is gone: a listener may destroy the control, and the popup with it.
 using Life = std::weak_ptr<const bool>;
 
-// Raises a flag of the popup and takes it down again, also after an exception of the listener's.
-class Raised
+// Sets a flag of the popup and clears it at the end of the scope, also after an exception of the listener.
+class ScopedFlag
 {
 public:
-    Raised(Life life, bool& flag) : m_life(std::move(life)), m_flag(flag) { m_flag = true; }
-    ~Raised()
+    ScopedFlag(Life life, bool& flag) : m_life(std::move(life)), m_flag(flag) { m_flag = true; }
+    ~ScopedFlag()
     {
         if (!m_life.expired())
             m_flag = false;
     }
-    Raised(const Raised&) = delete;
-    Raised& operator=(const Raised&) = delete;
+    ScopedFlag(const ScopedFlag&) = delete;
+    ScopedFlag& operator=(const ScopedFlag&) = delete;
 
 private:
     const Life m_life;
@@ -254,7 +254,7 @@ void wxColourPopup::DoEndSel(bool ok)
     if (life.expired() || !m_combo)
         return;
     if (m_combo->IsPopupShown()) {
-        std::optional<Raised> handsValueBack;
+        std::optional<ScopedFlag> handsValueBack;
         if (m_valueWhenShown)
             handsValueBack.emplace(m_life, m_handsValueBack);
         if (!HideCombo())
@@ -271,7 +271,7 @@ void wxColourPopup::DoEndSel(bool ok)
 void wxColourPopup::TellOfTheEnd(bool ok)
 {
     const Life life(m_life);
-    const Raised ending(m_life, m_ending);
+    const ScopedFlag ending(m_life, m_ending);
     const bool cancelled = std::exchange(m_dialogCancelled, false) || !ok;
     if (ok) {
         m_crInitialColour = m_crColour;
@@ -293,7 +293,7 @@ void wxColourPopup::TellOfTheEnd(bool ok)
 bool wxColourPopup::HideCombo()
 {
     const Life life(m_life);
-    const Raised hiding(m_life, m_bInternalHide);
+    const ScopedFlag hiding(m_life, m_bInternalHide);
     if (m_combo)
         m_combo->HidePopup(false);
     return !life.expired();
@@ -307,7 +307,7 @@ void wxColourPopup::RestoreValue()
     if (!m_combo || !kept || m_combo->GetValue() == *kept)
         return;
     const wxString& value = *kept;
-    const Raised restoring(m_life, m_bInternalHide);
+    const ScopedFlag restoring(m_life, m_bInternalHide);
     m_combo->SetValueByUser(value);
 }
 
