@@ -7,6 +7,8 @@
 
 wxColourValidator::wxColourValidator(wxColour* colour) : m_colour(colour) {}
 
+// A copy is set on a window of its own.
+// NOLINTNEXTLINE(bugprone-copy-constructor-init)
 wxColourValidator::wxColourValidator(const wxColourValidator& other) : wxValidator(), m_colour(other.m_colour) {}
 
 wxColourValidator::~wxColourValidator() = default;
