@@ -4,25 +4,13 @@
 #include <gtest/gtest.h>
 
 #include <tests/tree/tree_in_use.h>
+#include <tests/tree/tree_types.h>
 
 namespace {
 
 template <typename Tree>
 class AsTreeCtrl : public TreeInUse<Tree>
 {
-};
-
-using Trees = testing::Types<wxTreeCtrl, wxTreeCtrlEx, wxHandyTreeCtrl>;
-
-struct TreeName
-{
-    template <typename Tree>
-    static std::string GetName(int)
-    {
-        if (std::is_same_v<Tree, wxTreeCtrl>)
-            return "Toolkit";
-        return std::is_same_v<Tree, wxTreeCtrlEx> ? "Ex" : "Handy";
-    }
 };
 
 TYPED_TEST_SUITE(AsTreeCtrl, Trees, TreeName);

@@ -13,6 +13,7 @@
 
 #include <fittings/tree/handy_tree_ctrl.h>
 #include <tests/support/gui.h>
+#include <tests/tree/tree_types.h>
 
 namespace {
 
@@ -37,8 +38,7 @@ protected:
     const wxTreeItemId moon = tree->AppendItem(planet, "Moon");
 };
 
-using Trees = testing::Types<wxTreeCtrl, wxTreeCtrlEx, wxHandyTreeCtrl>;
-TYPED_TEST_SUITE(TreeLines, Trees);
+TYPED_TEST_SUITE(TreeLines, Trees, TreeName);
 
 TYPED_TEST(TreeLines, MakeTheControlInOneStep)
 {

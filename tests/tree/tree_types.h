@@ -1,0 +1,26 @@
+#ifndef FITTINGS_TESTS_TREE_TREE_TYPES_H_
+#define FITTINGS_TESTS_TREE_TREE_TYPES_H_
+
+#include <string>
+#include <type_traits>
+
+#include <gtest/gtest.h>
+
+#include <fittings/tree/handy_tree_ctrl.h>
+
+/// The toolkit's tree control, and the controls of this library that do the same.
+using Trees = testing::Types<wxTreeCtrl, wxTreeCtrlEx, wxHandyTreeCtrl>;
+
+/// The names of the tests with Trees.
+struct TreeName
+{
+    template <typename Tree>
+    static std::string GetName(int)
+    {
+        if (std::is_same_v<Tree, wxTreeCtrl>)
+            return "Toolkit";
+        return std::is_same_v<Tree, wxTreeCtrlEx> ? "Ex" : "Handy";
+    }
+};
+
+#endif
