@@ -7,6 +7,7 @@
 #include <wx/textctrl.h>
 
 #include <fittings/numedit/num_validator.h>
+#include <fittings/numedit/number_ctrl.h>
 #include <fittings/numedit/number_edit_utils.h>
 
 #include <gallery/numbers/number_format_fields.h>
@@ -25,12 +26,17 @@ enum Result { WhileTyping, Whole, Trimmed, Grouped, Shown };
 constexpr const char* kResultNames[] = {"ValidateInput", "ValidateString", "CutZeros", "GroupDigits",
                                         "FormatControlText"};
 
-void ShowVerdict(wxStaticText* label, bool accepted)
+void ShowVerdict(wxStaticText* label, bool accepted, const wxString& text)
 {
     const wxColour green(0x26, 0xA2, 0x69);
     const wxColour red(0xE0, 0x1B, 0x24);
     label->SetForegroundColour(ReadableOn(label->GetBackgroundColour(), accepted ? green : red));
-    label->SetLabelText(accepted ? L"\u2713 accepted" : L"\u2717 refused");
+    label->SetLabelText((accepted ? L"\u2713 " : L"\u2717 ") + text);
+}
+
+void ShowVerdict(wxStaticText* label, bool accepted)
+{
+    ShowVerdict(label, accepted, accepted ? "accepted" : "refused");
 }
 
 }  // namespace
@@ -42,9 +48,11 @@ NumbersPage::NumbersPage(wxWindow* parent) : wxScrolledWindow(parent)
     const wxSizerFlags block = wxSizerFlags().Border(wxRIGHT | wxBOTTOM, FromDIP(kColumnGap));
     m_columns->Add(MakeTrial(), block);
     m_columns->Add(MakeResults(), block);
+    wxSizer* control = MakeControl();
     m_fields = new NumberFormatFields(this);
     auto* rows = new wxBoxSizer(wxVERTICAL);
     rows->Add(m_columns, wxSizerFlags().Expand().Border(wxLEFT | wxTOP, FromDIP(kMargin)));
+    rows->Add(control, wxSizerFlags().Expand().Border(wxLEFT, FromDIP(kMargin)));
     rows->Add(m_fields, wxSizerFlags().Expand().Border(wxLEFT, FromDIP(kMargin)));
     SetSizer(rows);
     SetScrollRate(0, FromDIP(10));
@@ -58,6 +66,9 @@ NumbersPage::NumbersPage(wxWindow* parent) : wxScrolledWindow(parent)
     m_fields->Bind(EVT_FORMAT_CHANGED, [this](wxCommandEvent&) { UseFormat(); });
     m_validates->Bind(wxEVT_CHECKBOX, [this](wxCommandEvent&) { UseFormat(); });
     m_number->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { ShowResults(); });
+    // A text that is no number changes without the number.
+    for (const auto& event : {wxEVT_NUMBER_CHANGED, wxEVT_TEXT})
+        m_control->Bind(event, [this](wxCommandEvent&) { ShowControlNumber(); });
     m_keep->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { OnKeep(); });
     m_bringBack->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { OnBringBack(); });
     UseFormat();
@@ -68,6 +79,7 @@ void NumbersPage::SaveSettings() const
     m_fields->SaveSettings();
     kNumberSettings.Save("Typed", m_number->GetValue());
     kNumberSettings.Save("Kept", m_kept);
+    kNumberSettings.Save("InControl", m_control->GetDecimal());
     kNumberSettings.SaveFlag("Validates", m_validates->GetValue());
 }
 
@@ -76,6 +88,7 @@ void NumbersPage::LoadSettings()
     // The field may be empty.
     const bool isFirstSession = kNumberSettings.Load("Validates").empty();
     m_number->ChangeValue(isFirstSession ? wxString(kFirstNumber) : kNumberSettings.Load("Typed"));
+    m_control->SetDecimal(isFirstSession ? wxString(kFirstNumber) : kNumberSettings.Load("InControl"));
     m_kept = kNumberSettings.Load("Kept");
     m_keptText->SetLabelText(m_kept.empty() ? wxString("Nothing kept yet.") : "Kept: " + m_kept);
     m_validates->SetValue(kNumberSettings.LoadFlag("Validates", true));
@@ -134,25 +147,53 @@ wxSizer* NumbersPage::MakeResults()
     return rows;
 }
 
+/// Makes the wxNumberCtrl, and the line that shows its number.
+wxSizer* NumbersPage::MakeControl()
+{
+    wxStaticText* label = MakeHeading(this, "In &a wxNumberCtrl");
+    m_control = new wxNumberCtrl(this, wxID_ANY, CNumberFormat(eFixedFormat), wxDefaultPosition,
+                                 FromDIP(wxSize(kColumnWidth, -1)));
+    m_control->SetName("NumberCtrl");
+    m_control->SetFont(m_control->GetFont().Scaled(1.4F));
+    m_controlNumber = new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, FromDIP(wxSize(kColumnWidth, -1)),
+                                       wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END);
+    m_controlNumber->SetName("NumberCtrlNumber");
+    BeginAtTheStart(m_controlNumber);
+
+    m_controlColumns = new wxBoxSizer(wxHORIZONTAL);
+    m_controlColumns->Add(m_control, wxSizerFlags().Border(wxRIGHT, FromDIP(kColumnGap)));
+    m_controlColumns->Add(m_controlNumber, wxSizerFlags(1).CentreVertical());
+    auto* rows = new wxBoxSizer(wxVERTICAL);
+    rows->Add(label, wxSizerFlags().Border(wxBOTTOM, FromDIP(kGap)));
+    rows->Add(m_controlColumns, wxSizerFlags().Expand().Border(wxBOTTOM, FromDIP(kColumnGap)));
+    return rows;
+}
+
 /// Arranges the page for its width. The page scrolls when its contents are higher.
 void NumbersPage::Arrange()
 {
     const int width = GetClientSize().x - FromDIP(kMargin);
     ArrangeColumns(m_columns, width);
+    ArrangeColumns(m_controlColumns, width);
     m_fields->Arrange(width);
 }
 
-/// Gives the number's field a validator with the present format, or none.
+/// Gives the present format to the control, and to the validator of the number's field, where it has one.
 void NumbersPage::UseFormat()
 {
+    const CNumberFormat format = m_fields->GetFormat();
     const bool validates = m_validates->GetValue();
     if (validates)
-        m_number->SetValidator(wxNumValidator(m_fields->GetFormat(), &m_kept));
+        m_number->SetValidator(wxNumValidator(format, &m_kept));
     else
         m_number->SetValidator(wxDefaultValidator);
     m_keep->Enable(validates);
     m_bringBack->Enable(validates);
     ShowResults();
+    // While the user replaces the point there is none, and 1.5 would no longer be a number.
+    if (format.m_chDecimalPoint != 0)
+        m_control->SetFormat(format);
+    ShowControlNumber();
 }
 
 void NumbersPage::ShowResults()
@@ -168,6 +209,16 @@ void NumbersPage::ShowResults()
     CNumberEditUtils::GroupDigits(text, format);
     m_results[Grouped]->SetLabelText(text);
     m_results[Shown]->SetLabelText(CNumberEditUtils::FormatControlText(typed.wc_str(), format));
+}
+
+void NumbersPage::ShowControlNumber()
+{
+    const wxString problem = m_control->GetProblem();
+    const wxString number = m_control->GetDecimal();
+    if (problem.empty() && number.empty())
+        m_controlNumber->SetLabelText("");
+    else
+        ShowVerdict(m_controlNumber, problem.empty(), problem.empty() ? number : problem);
 }
 
 /// Validates and transfers the number, as a dialog does on OK.

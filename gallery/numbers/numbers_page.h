@@ -9,6 +9,7 @@
 class wxBoxSizer;
 class wxButton;
 class wxCheckBox;
+class wxNumberCtrl;
 class wxSizer;
 class wxStaticText;
 class wxTextCtrl;
@@ -17,9 +18,9 @@ namespace gallery {
 
 class NumberFormatFields;
 
-/// A field for a number, its format, and the results of both.
+/// A field for a number, its format, and the results of both; and a wxNumberCtrl with the same format.
 ///
-/// Number and format come back as they were when SaveSettings() was last called.
+/// Numbers and format come back as they were when SaveSettings() was last called.
 class NumbersPage : public wxScrolledWindow
 {
 public:
@@ -36,13 +37,16 @@ private:
     void LoadSettings();
     wxSizer* MakeTrial();
     wxSizer* MakeResults();
+    wxSizer* MakeControl();
     void Arrange();
     void UseFormat();
     void ShowResults();
+    void ShowControlNumber();
     void OnKeep();
     void OnBringBack();
 
     wxBoxSizer* m_columns = nullptr;
+    wxBoxSizer* m_controlColumns = nullptr;
     NumberFormatFields* m_fields = nullptr;
     wxTextCtrl* m_number = nullptr;
     wxCheckBox* m_validates = nullptr;
@@ -50,6 +54,8 @@ private:
     wxButton* m_bringBack = nullptr;
     wxStaticText* m_keptText = nullptr;
     std::vector<wxStaticText*> m_results;
+    wxNumberCtrl* m_control = nullptr;
+    wxStaticText* m_controlNumber = nullptr;
     wxString m_kept;
 };
 

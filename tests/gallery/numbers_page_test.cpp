@@ -10,6 +10,7 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
+#include <fittings/numedit/number_ctrl.h>
 #include <gallery/numbers/number_format_fields.h>
 #include <gallery/numbers/numbers_page.h>
 #include <tests/gallery/browser/browser_fixture.h>
@@ -330,6 +331,47 @@ TEST_F(NumbersPageTest, WithoutValidatorAnythingIsTypedAndJudged)
     EXPECT_EQ(Number().GetValue(), "3");
 }
 
+TEST_F(NumbersPageTest, TheControlTellsItsNumberAtEachKey)
+{
+    const wxNumberCtrl& control = Get<wxNumberCtrl>("NumberCtrl");
+    EXPECT_EQ(Label("NumberCtrlNumber"), L"\u2713 1234.5");
+    Press('A', wxMOD_ALT);
+    ASSERT_TRUE(FocusComesTo("NumberCtrl"));
+    Press('A', wxMOD_CONTROL);
+    Type("-12x345.67");
+    EXPECT_TRUE(PumpUntil([&] { return Label("NumberCtrlNumber") == L"\u2713 -12345.67"; }));
+    // It follows the format.
+    Press('P', wxMOD_ALT);
+    ASSERT_TRUE(FocusComesTo("DecimalPoint"));
+    Type(",");
+    EXPECT_TRUE(PumpUntil([&] { return control.GetValue() == "12,345,67-"; })) << control.GetValue();
+    EXPECT_EQ(Label("NumberCtrlNumber"), L"\u2713 -12345.67");
+    OpenNextSession();
+    EXPECT_EQ(Label("NumberCtrlNumber"), L"\u2713 -12345.67");
+}
+
+TEST_F(NumbersPageTest, TheControlTellsWhyANumberIsBeyondTheBounds)
+{
+    Press('U', wxMOD_ALT);
+    ASSERT_TRUE(PumpUntil([&] { return Get<wxTextCtrl>("Max").IsEnabled(); }));
+    Press(WXK_TAB);
+    ASSERT_TRUE(FocusComesTo("Max"));
+    Type("20");
+    EXPECT_TRUE(PumpUntil([&] {
+        return Label("NumberCtrlNumber") == L"\u2717 The number is too high: the highest is 20.00.";
+    })) << Label("NumberCtrlNumber");
+    Press('A', wxMOD_ALT);
+    ASSERT_TRUE(FocusComesTo("NumberCtrl"));
+    Press('A', wxMOD_CONTROL);
+    Press(WXK_BACK);
+    EXPECT_TRUE(PumpUntil([&] { return Label("NumberCtrlNumber").empty(); })) << Label("NumberCtrlNumber");
+    Type("-");
+    EXPECT_TRUE(PumpUntil([&] { return Label("NumberCtrlNumber") == L"\u2717 The number is not complete."; }))
+        << Label("NumberCtrlNumber");
+    Type("\b19");
+    EXPECT_TRUE(PumpUntil([&] { return Label("NumberCtrlNumber") == L"\u2713 19"; })) << Label("NumberCtrlNumber");
+}
+
 TEST_F(NumbersPageTest, TabGoesFromTheTopToTheBottom)
 {
     std::vector<std::string> names;
@@ -341,12 +383,12 @@ TEST_F(NumbersPageTest, TabGoesFromTheTopToTheBottom)
         if (!FocusName().empty())
             names.emplace_back(FocusName());
     }
-    EXPECT_EQ(names, (std::vector<std::string>{"Validates",     "Keep",        "BringBack",     "eLocaleFormat",
-                                               "eFixedFormat",  "AllowSign",   "AllowExponent", "DecimalPoint",
-                                               "ThousandsSep",  "HasDecimals", "Decimals",      "HasMaxIntDigits",
-                                               "MaxIntDigits",  "HasMin",      "HasMax",        "PadDecimals",
-                                               "RoundDecimals", "GroupDigits", "TrailingMinus", "Template",
-                                               "Number"}));
+    EXPECT_EQ(names, (std::vector<std::string>{"Validates",       "Keep",          "BringBack",   "NumberCtrl",
+                                               "eLocaleFormat",   "eFixedFormat",  "AllowSign",   "AllowExponent",
+                                               "DecimalPoint",    "ThousandsSep",  "HasDecimals", "Decimals",
+                                               "HasMaxIntDigits", "MaxIntDigits",  "HasMin",      "HasMax",
+                                               "PadDecimals",     "RoundDecimals", "GroupDigits", "TrailingMinus",
+                                               "Template",        "Number"}));
 }
 
 TEST_F(NumbersPageTest, EverythingComesBack)
