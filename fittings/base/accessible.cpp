@@ -23,7 +23,7 @@ AtkRole RoleOf(AccessibleRole role)
     return ATK_ROLE_TEXT;
 }
 
-/// Of a scrolled window the part that is scrolled.
+/// The widget that takes the focus: in a scrolled window, the part that is scrolled.
 GtkWidget* FocusedPart(const wxWindow& window)
 {
     return window.m_wxwindow ? window.m_wxwindow : window.m_widget;
@@ -50,7 +50,7 @@ void Describe(wxWindow& window, AccessibleRole role, const wxString& label, cons
     const wxScopedCharBuffer name = (value.empty() ? label : value).utf8_str();
     Name(object, name);
     Name(gtk_widget_get_accessible(window.m_widget), name);
-    // Where there is none, GTK describes the window by its tooltip.
+    // Without a description, GTK describes the window by its tooltip.
     const wxScopedCharBuffer description = label.utf8_str();
     if (!label.empty() && !value.empty() && Differ(atk_object_get_description(object), description))
         atk_object_set_description(object, description);

@@ -8,15 +8,14 @@ namespace fittings {
 
 enum class AccessibleRole { ComboBox, Grid, Text, Tree };
 
-/// Tells assistive technologies what a window is. Cheap when nothing has changed, so that it may be called on each
-/// idle.
+/// Tells assistive technologies what a window is. A call that changes nothing is cheap, so call it on every idle event.
 ///
-/// Its name is @a value, what is chosen in it, as that of GTK's own combo boxes is; @a label describes it then, and is
-/// its name else.
+/// The accessible name is @a value, the current choice, as for GTK's own combo boxes; @a label is then the description.
+/// When @a value is empty, @a label is the name.
 void Describe(wxWindow& window, AccessibleRole role, const wxString& label, const wxString& value);
 
-/// Lets the static texts that label a window, and their mnemonics, lead to the part of it that takes the focus. The
-/// toolkit gives them the window itself, each time that the order of Tab changes.
+/// Makes the static texts that label a window, and their mnemonics, point to the part of the window that takes the
+/// focus. The toolkit points them to the window itself each time the Tab order changes, so call this again then.
 void LabelPart(wxWindow& window, wxWindow& part);
 
 }  // namespace fittings

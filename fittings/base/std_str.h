@@ -4,8 +4,7 @@
 #include <string>
 #include <utility>
 
-/// A standard string that takes a null pointer for the empty text, and is made of all that a standard string is made
-/// of.
+/// A standard string that treats a null pointer as the empty text. It has all the constructors of a standard string.
 ///
 /// Assigning from a pointer into its own buffer is safe, as with the standard string it derives from.
 /// Like that one it has no virtual destructor: use it by value.
@@ -15,14 +14,14 @@ class CStdStr : public std::basic_string<CharT>
 public:
     using Base = std::basic_string<CharT>;  ///< The standard string.
 
-    using Base::Base;  // what stands below comes before an inherited constructor of the same text
+    using Base::Base;  // the constructors below hide inherited ones with the same parameters
 
     CStdStr() = default;
-    CStdStr(const CharT* text) : Base(text ? Base(text) : Base()) {}  ///< Copies the text; of null, an empty one.
+    CStdStr(const CharT* text) : Base(text ? Base(text) : Base()) {}  ///< Copies the text; null gives an empty one.
     CStdStr(const Base& text) : Base(text) {}                         ///< Copies the text.
     CStdStr(Base&& text) noexcept : Base(std::move(text)) {}          ///< Takes the text over.
 
-    /// Copies the text; of null, an empty one.
+    /// Copies the text; null gives an empty one.
     CStdStr& operator=(const CharT* text)
     {
         if (text)
