@@ -16,7 +16,7 @@ wxColourComboXmlHandler::wxColourComboXmlHandler()
 
 wxColourComboXmlHandler::~wxColourComboXmlHandler() = default;
 
-// By the name that stands in the resource: the class has no entry among those that the toolkit makes by name.
+// Compare the class name in the resource: wxColourCombo is not registered for creation by name.
 bool wxColourComboXmlHandler::CanHandle(wxXmlNode* node)
 {
     return IsOfClass(node, "wxColourCombo");
@@ -24,7 +24,7 @@ bool wxColourComboXmlHandler::CanHandle(wxXmlNode* node)
 
 namespace {
 
-// As wxColourPickerCtrl's handler reads it; the text of a field that is the name of a colour stays a text.
+// Accepts the notations that wxColourPickerCtrl's handler accepts. The name of a colour is the text of the field.
 bool IsColour(const wxString& value)
 {
     return (value.StartsWith("#") || value.StartsWith("rgb")) && wxColour(value).IsOk();
@@ -67,7 +67,7 @@ wxColourPopup* wxColourComboXmlHandler::MakePopup()
         popup->SetAutomaticText(GetNodeText(GetParamNode("automatic-text"), wxXRC_TEXT_NO_ESCAPE));
     if (HasParam("more-colours-text"))
         popup->SetMoreColoursText(GetNodeText(GetParamNode("more-colours-text"), wxXRC_TEXT_NO_ESCAPE));
-    // The toolkit takes any text but "1" for no.
+    // The toolkit reads every text but "1" as false, also an invalid one.
     const wxString refresh = GetParamValue("refresh-combo");
     if (!refresh.empty() && refresh != "0" && refresh != "1")
         ReportParamError("refresh-combo", wxString::Format("\"%s\" is neither 0 nor 1", refresh));

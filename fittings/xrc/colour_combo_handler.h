@@ -26,26 +26,24 @@ class wxColourPopup;
 /// line->Bind(wxEVT_COLOURPICKER_CHANGED, [this](wxColourPickerEvent& event) { Draw(event.GetColour()); });
 /// @endcode
 ///
-/// | Property | Type | Meaning, and what is taken without it |
+/// | Property | Type | Meaning; default |
 /// | --- | --- | --- |
-/// | `style` | style | those of wxComboCtrl and of every window; none, which gives a text field |
+/// | `style` | style | styles of wxComboCtrl and of every window; none, which gives a text field |
 /// | `colour` | colour | wxColourCombo::SetColour(); none |
-/// | `value` | text or colour | of the text field; "#FF0000" and "rgb(255, 0, 0)" are taken as `colour`, as with a
-/// wxColourPickerCtrl; empty |
-/// | `buttonsize` | size | of the drop-down button; what the toolkit takes |
-/// | `initial-colour` | colour | wxColourPopup::SetInitialColour(), which leaves the text of the field as it is; black
-/// |
+/// | `value` | text or colour | of the text field, or as `colour` if it is like "#FF0000" or "rgb(255, 0, 0)"; empty |
+/// | `buttonsize` | size | of the drop-down button; the toolkit's default |
+/// | `initial-colour` | colour | wxColourPopup::SetInitialColour(), which does not change the text; black |
 /// | `default-colour` | colour | wxColourPopup::SetDefaultColour(); black |
-/// | `automatic-text` | text | wxColourPopup::SetAutomaticText(), an empty one takes the box away; "Automatic" |
-/// | `more-colours-text` | text | wxColourPopup::SetMoreColoursText(), likewise; "More Colours..." |
+/// | `automatic-text` | text | wxColourPopup::SetAutomaticText(), with an empty text no box; "Automatic" |
+/// | `more-colours-text` | text | wxColourPopup::SetMoreColoursText(), with an empty text no box; "More Colours..." |
 /// | `refresh-combo` | boolean | wxColourPopup::SetRefreshCombo(); 0 |
 ///
-/// And those of every window: `pos`, `size`, `tooltip`, `enabled`, `hidden`, `font` and the rest. The texts are
-/// translated as any text of a resource is. In those of the two boxes no character stands for another, as "_" does in a
-/// label.
+/// The properties of every window work too: `pos`, `size`, `tooltip`, `enabled`, `hidden`, `font` and the rest. The
+/// texts are translated like every text of a resource. The texts of the two boxes are taken literally: "_" does not
+/// mark a mnemonic as it does in a label.
 ///
-/// A value that cannot be understood is reported, as wxXmlResource::ReportError() does, and taken for absent. So is a
-/// `subclass` that is no wxColourCombo: the control is a plain one then. Host classes that are named by `subclass` say
+/// An invalid value is reported through wxXmlResource::ReportError() and ignored. The same holds for a `subclass` that
+/// is not a wxColourCombo: the control is then a plain wxColourCombo. A host class that `subclass` names must use
 /// wxDECLARE_DYNAMIC_CLASS().
 ///
 /// GUI thread only.
@@ -55,7 +53,7 @@ public:
     wxColourComboXmlHandler();
     ~wxColourComboXmlHandler() override;
 
-    /// Whether @a node is an object of that class.
+    /// Whether @a node is an object of class "wxColourCombo".
     bool CanHandle(wxXmlNode* node) override;
 
 protected:

@@ -4,7 +4,7 @@
 
 namespace {
 
-/// Whether a printf format takes one text and nothing else. Another one could read memory that it should not.
+/// Whether a printf format has one `%s` and no other conversion. Any other format could read beyond its arguments.
 bool TakesOneText(const wxString& format)
 {
     wxString rest = format;
@@ -27,7 +27,7 @@ wxNumberCtrlXmlHandler::wxNumberCtrlXmlHandler()
 
 wxNumberCtrlXmlHandler::~wxNumberCtrlXmlHandler() = default;
 
-// By the name that stands in the resource, so that a subclass that the resource names is handled too.
+// Compare the class name in the resource, so that objects with a `subclass` are handled too.
 bool wxNumberCtrlXmlHandler::CanHandle(wxXmlNode* node)
 {
     return IsOfClass(node, "wxNumberCtrl");

@@ -18,21 +18,21 @@
 /// </object>
 /// @endcode
 ///
-/// | Property | Type | Meaning, and what is taken without it |
+/// | Property | Type | Meaning; default |
 /// | --- | --- | --- |
-/// | `style` | style | those of wxTextCtrl for one line, and of every window; none |
+/// | `style` | style | styles of a single-line wxTextCtrl and of every window; none |
 /// | `value` | decimal text with a dot as its point, never translated | wxNumberCtrl::SetDecimal(); an empty field |
 /// | `min`, `max` | the same | wxNumberCtrl::SetRange(); no bound |
 /// | `inc` | the same | wxNumberCtrl::SetIncrement(); 1 |
 /// | `decimals` | integer | of wxNumberCtrl::FromLocale(); 2 |
 /// | `template` | text, with one `%s` | CNumberFormat::m_strTemplate; `%s` |
 ///
-/// And those of every window: `pos`, `size`, `tooltip`, `enabled`, `hidden`, `font` and the rest. The format is the
-/// user's own: wxNumberCtrl::SetFormat() gives another one.
+/// The properties of every window work too: `pos`, `size`, `tooltip`, `enabled`, `hidden`, `font` and the rest. The
+/// format follows the user's settings; wxNumberCtrl::SetFormat() sets another one.
 ///
-/// A value that cannot be understood is reported, as wxXmlResource::ReportError() does, and taken for absent: so is a
-/// template that has not exactly one `%s`, and no other `%` but `%%`. So is a `subclass` that is no wxNumberCtrl: the
-/// control is a plain one then. Host classes that are named by `subclass` say wxDECLARE_DYNAMIC_CLASS().
+/// An invalid value is reported through wxXmlResource::ReportError() and ignored. A template is valid if it has exactly
+/// one `%s` and no other `%` than `%%`. A `subclass` that is not a wxNumberCtrl is reported and ignored too: the
+/// control is then a plain wxNumberCtrl. A host class that `subclass` names must use wxDECLARE_DYNAMIC_CLASS().
 ///
 /// GUI thread only.
 class FITTINGS_API wxNumberCtrlXmlHandler : public wxXmlResourceHandler
@@ -41,7 +41,7 @@ public:
     wxNumberCtrlXmlHandler();
     ~wxNumberCtrlXmlHandler() override;
 
-    /// Whether @a node is an object of that class.
+    /// Whether @a node is an object of class "wxNumberCtrl".
     bool CanHandle(wxXmlNode* node) override;
 
 protected:

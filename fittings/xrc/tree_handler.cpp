@@ -27,7 +27,7 @@ wxHandyTreeCtrlXmlHandler::wxHandyTreeCtrlXmlHandler()
 
 wxHandyTreeCtrlXmlHandler::~wxHandyTreeCtrlXmlHandler() = default;
 
-// By the name that stands in the resource: the class has no entry among those that the toolkit makes by name.
+// Compare the class name in the resource: wxHandyTreeCtrl is not registered for creation by name.
 bool wxHandyTreeCtrlXmlHandler::CanHandle(wxXmlNode* node)
 {
     return IsOfClass(node, "wxHandyTreeCtrl");
@@ -43,7 +43,7 @@ wxObject* wxHandyTreeCtrlXmlHandler::DoCreateResource()
     tree->Create(m_parentAsWindow, GetID(), GetPosition(), GetSize(),
                  GetStyle("style", wxTR_HAS_BUTTONS | wxTR_NO_LINES), wxDefaultValidator, GetName());
     std::unique_ptr<wxImageList> images(GetImageList());
-    // Without a size in the resource it is that of the first bitmap, which may not have been found.
+    // Without a size in the resource, the images have the size of the first bitmap, which may be missing.
     if (images && images->GetSize() != wxSize(0, 0))
         tree->AssignImageList(images.release());
     else

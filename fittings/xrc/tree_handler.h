@@ -26,19 +26,18 @@
 /// folders->LoadState(root);
 /// @endcode
 ///
-/// | Property | Type | Meaning, and what is taken without it |
+/// | Property | Type | Meaning; default |
 /// | --- | --- | --- |
-/// | `style` | style | those of wxTreeCtrl and of every window; those of wxHandyTreeCtrl::Create() |
-/// | `imagelist` | image list | of the size that its bitmaps have; the empty one of wxHandyTreeCtrl::CreateImageList()
-/// |
+/// | `style` | style | styles of wxTreeCtrl and of every window; those of wxHandyTreeCtrl::Create() |
+/// | `imagelist` | image list | of the size of its bitmaps; the empty list of wxHandyTreeCtrl::CreateImageList() |
 /// | `profile` | text, never translated | wxHandyTreeCtrl::SetProfile(); empty |
 ///
-/// And those of every window: `pos`, `size`, `tooltip`, `enabled`, `hidden`, `font` and the rest. The items are the
-/// program's to add.
+/// The properties of every window work too: `pos`, `size`, `tooltip`, `enabled`, `hidden`, `font` and the rest. The
+/// program adds the items.
 ///
-/// A value that cannot be understood is reported, as wxXmlResource::ReportError() does, and taken for absent. So is a
-/// `subclass` that is no wxHandyTreeCtrl: the control is a plain one then. Host classes that are named by `subclass`
-/// say wxDECLARE_DYNAMIC_CLASS().
+/// An invalid value is reported through wxXmlResource::ReportError() and ignored. The same holds for a `subclass` that
+/// is not a wxHandyTreeCtrl: the control is then a plain wxHandyTreeCtrl. A host class that `subclass` names must use
+/// wxDECLARE_DYNAMIC_CLASS().
 ///
 /// GUI thread only.
 class FITTINGS_API wxHandyTreeCtrlXmlHandler : public wxXmlResourceHandler
@@ -47,7 +46,7 @@ public:
     wxHandyTreeCtrlXmlHandler();
     ~wxHandyTreeCtrlXmlHandler() override;
 
-    /// Whether @a node is an object of that class.
+    /// Whether @a node is an object of class "wxHandyTreeCtrl".
     bool CanHandle(wxXmlNode* node) override;
 
 protected:
