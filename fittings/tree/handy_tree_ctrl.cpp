@@ -13,10 +13,10 @@ namespace {
 
 constexpr wchar_t kStateSection[] = L"TreeControlState";
 
-/// Lower than any text: the toolkit raises the row height to that of the highest item that it measures.
+/// Less than the height of any text: the toolkit raises the row height to that of the highest item that it measures.
 constexpr int kLeastRowHeight = 10;
 
-// For the whole application, not only for this control: nothing else answers while a tree is filled.
+// Shows the busy cursor in the whole application: no window responds while a tree is filled.
 class BusyCursor
 {
 public:
@@ -63,7 +63,7 @@ void wxHandyTreeCtrl::CreateImageList()
     SetImageList(m_imageList);
 }
 
-// The toolkit would keep the row height that the images needed. Make it measure the items again.
+// The toolkit would keep the row height that the earlier images needed. Make it measure the items again.
 void wxHandyTreeCtrl::SetImageList(wxImageList* images)
 {
     wxTreeCtrlEx::SetImageList(images);

@@ -8,7 +8,8 @@
 
 class wxImageList;
 
-/// A browsing tree: filled as it is expanded, under a busy cursor, and able to remember which items were expanded.
+/// A tree for browsing. It fills an item when the item is expanded, shows a busy cursor meanwhile, and can remember
+/// which items were expanded.
 ///
 /// @code
 /// class FolderTree : public wxHandyTreeCtrl
@@ -31,18 +32,18 @@ class wxImageList;
 /// tree->LoadState(root);
 /// @endcode
 ///
-/// The state is the set of the labels of expanded items, not of their paths: of several items with one label, the last
-/// one in the tree decides whether it is saved, and loading expands all of them. A label with a "|" in it is taken for
-/// two. The state is kept in the default store, section "TreeControlState".
+/// The state is the set of the labels of expanded items, not of their paths. If several items have the same label, the
+/// last one in the tree decides whether the label is saved, and loading expands all of them. A label that contains "|"
+/// counts as two labels. The state is kept in the default store, section "TreeControlState".
 ///
-/// A screen reader says the label of the item that the keyboard moves to, and with it the static text that is made
-/// before the control, or what SetLabel() gives it.
+/// A screen reader says the label of the item that has the focus. It also says the label of the control: the static
+/// text that is created just before the control, or the text of SetLabel().
 ///
 /// GUI thread only.
 class FITTINGS_API wxHandyTreeCtrl : public wxTreeCtrlEx
 {
 public:
-    /// Makes the object; the control itself comes with Create().
+    /// Makes the object; Create() makes the control.
     wxHandyTreeCtrl();
 
     /// Makes the object and the control, as the toolkit's constructor does: without an image list.
@@ -63,15 +64,15 @@ public:
                 const wxValidator& validator = wxDefaultValidator,
                 const wxString& name = wxString::FromAscii(wxTreeCtrlNameStr));
 
-    /// Gives the control an empty list of 16 × 16 images, which this object owns.
+    /// Gives the control an empty list for 16 × 16 images. This object owns the list.
     ///
-    /// The size is in the toolkit's pixels: bitmaps that wxBitmapBundle::GetBitmapFor() makes for this control have
-    /// more where its screen has more, and look sharp there. Create() with the parent alone gives the list already. One
-    /// from an earlier call is not released: call DetroyImageList() first.
+    /// The size is in logical pixels: on a high-density screen, bitmaps from wxBitmapBundle::GetBitmapFor() for this
+    /// control have more physical pixels and look sharp. Create() with only a parent calls this. The list of an earlier
+    /// call is not released: call DetroyImageList() first.
     void CreateImageList();
 
-    /// Shows the images of another list, which this object does not own. Without one the rows become as low as their
-    /// text.
+    /// Shows the images of another list, which this object does not own. With null, the row height shrinks to the
+    /// height of the text.
     void SetImageList(wxImageList* images) override;
 
     /// Deletes the image list, if there is one. The control must not be drawn with its images afterwards.
@@ -82,50 +83,50 @@ public:
 
     /// Selects the root and gives the control the focus; returns false when there is no root.
     ///
-    /// Where several may be selected (wxTR_MULTIPLE) the others stay so. A host may veto the selection by
-    /// wxEVT_TREE_SEL_CHANGING; the result is true all the same.
+    /// With wxTR_MULTIPLE, the other selected items stay selected. If a host vetoes the selection in
+    /// wxEVT_TREE_SEL_CHANGING, the result is still true.
     bool SelectRootItem();
 
     /// @name Expanded items
     ///
-    /// From @a start downwards; its siblings are not looked at. Both take time in proportion to the number of items,
-    /// and neither is bounded by the depth of the tree.
+    /// The operations work on @a start and the items below it, not on its siblings. They take time in proportion to the
+    /// number of items. The depth of the tree is not limited.
     /// @{
 
-    /// Stores which items are expanded, collapsed levels included.
+    /// Stores which items are expanded, also items below a collapsed one.
     void SaveState(const wxString& name, wxTreeCursor& start);
     void SaveState(const wxString& name, const wxTreeCursor& start);  ///< For a constant cursor.
 
-    /// Stores them under the name of SetProfile().
+    /// Stores the expanded items under the name of SetProfile().
     void SaveState(wxTreeCursor& start);
     void SaveState(const wxTreeCursor& start);  ///< For a constant cursor.
 
-    /// Expands the items whose labels were stored, parents first, so that children made by OnItemExpanding() are
-    /// restored too. Nothing is collapsed.
+    /// Expands the items whose labels were stored. Parents come first, so that children that OnItemExpanding() adds are
+    /// restored too. No item is collapsed.
     void LoadState(const wxString& name, wxTreeCursor& start);
     void LoadState(const wxString& name, const wxTreeCursor& start);  ///< For a constant cursor.
 
-    /// Expands those stored under the name of SetProfile().
+    /// Expands the items stored under the name of SetProfile().
     void LoadState(wxTreeCursor& start);
     void LoadState(const wxTreeCursor& start);  ///< For a constant cursor.
 
     /// @}
 
-    /// Shows the busy cursor around OnItemExpanding(), in all of the application, and the usual one afterwards,
-    /// whatever the host had set before. Bound to wxEVT_TREE_ITEM_EXPANDING by the constructor.
+    /// Calls OnItemExpanding() and shows the busy cursor in the whole application meanwhile. Afterwards the default
+    /// cursor is shown, even if the host had set another. The constructor binds this to wxEVT_TREE_ITEM_EXPANDING.
     ///
-    /// The event ends here: neither the event table of a derived class nor a parent window hears of it. A host that
-    /// wants to, to veto it for example, calls Bind() on the control, is asked first, and skips the event if the item
-    /// is to be filled.
+    /// The event is not passed on, neither to the event table of a derived class nor to a parent window. A host that
+    /// needs the event, for example to veto it, calls Bind() on the control: its handler is called first. The handler
+    /// must skip the event if the item is to be filled.
     void OnEvtItemExpanding(wxTreeEvent& event);
 
     /// Tells assistive technologies of the item that has the focus in the tree.
     void OnInternalIdle() override;
 
-    /// Called each time an item is about to expand, for the children to be filled in. Does nothing here.
+    /// Called each time an item is about to expand. Override it to add the children. The default does nothing.
     ///
-    /// It must not delete @a item, which expands afterwards. A handler of wxEVT_TREE_ITEM_EXPANDED may, and so may one
-    /// that vetoes.
+    /// It must not delete @a item, because the item expands afterwards. A handler of wxEVT_TREE_ITEM_EXPANDED may
+    /// delete it, and so may a handler that vetoes the expansion.
     virtual void OnItemExpanding(const wxTreeCursor& item);
 
 private:

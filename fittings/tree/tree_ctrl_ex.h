@@ -6,20 +6,20 @@
 #include <fittings/base/export.h>
 #include <fittings/tree/tree_cursor.h>
 
-/// The toolkit's tree control, with a few entry points that speak in cursors.
+/// The toolkit's tree control, with a few operations that take and return cursors.
 ///
-/// The base's operations of the same name stay: wxTreeCtrl::GetSelection() for a constant control or by its full name,
-/// AddRoot() with an image.
+/// The operations of the base class with the same names remain available: wxTreeCtrl::GetSelection() for a constant
+/// control or by its qualified name, and AddRoot() with an image.
 ///
-/// The toolkit's class queries take it, and wxHandyTreeCtrl, for a wxTreeCtrl: wxDynamicCast() to either of them would
-/// succeed for every tree control. Use dynamic_cast, or query for a class of the host's own that is derived from it and
-/// declared by wxDECLARE_DYNAMIC_CLASS().
+/// The toolkit's class information does not distinguish this class and wxHandyTreeCtrl from wxTreeCtrl: wxDynamicCast()
+/// to either of them would succeed for every tree control. Use dynamic_cast, or use wxDynamicCast() with a derived
+/// class of the host's own that has wxDECLARE_DYNAMIC_CLASS().
 ///
 /// GUI thread only.
 class FITTINGS_API wxTreeCtrlEx : public wxTreeCtrl
 {
 public:
-    /// Makes the object; the control itself comes with Create(), which takes what the toolkit's does.
+    /// Makes the object; Create() makes the control, with the parameters of wxTreeCtrl::Create().
     wxTreeCtrlEx();
 
     /// Makes the object and the control, as the toolkit's constructor does.
@@ -30,13 +30,13 @@ public:
 
     ~wxTreeCtrlEx() override;
 
-    /// Returns the selected item; invalid, with this control as its tree, when nothing is selected.
+    /// Returns the selected item. When nothing is selected, the cursor is invalid and has this control as its tree.
     ///
-    /// Where several may be selected (wxTR_MULTIPLE) asserts, as the toolkit's does: GetSelections() tells all.
+    /// Asserts with wxTR_MULTIPLE, as wxTreeCtrl::GetSelection() does: use GetSelections() there.
     wxTreeCursor GetSelection();
     using wxTreeCtrl::GetSelection;
 
-    /// Deletes the item from the tree that the cursor names, which may be another than this one.
+    /// Deletes the item from the cursor's tree, which may be another control than this one.
     void DeleteItem(const wxTreeCursor& item);
 
     /// Adds the root item, without images and data.

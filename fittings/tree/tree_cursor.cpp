@@ -4,8 +4,8 @@
 
 #include <wx/imaglist.h>
 
-// The check for operations without an item. The toolkit's own checks would do for most operations, but Delete() has
-// none, and AppendItem() would make a root.
+// Checks that there is an item. The toolkit's own checks suffice for most operations, but Delete() has no check and
+// AppendItem() would make a root.
 #define CHECK_ITEM_MSG(result) wxCHECK_MSG(tree&& item.IsOk(), result, "invalid tree item")
 #define CHECK_ITEM_RET() wxCHECK_RET(tree&& item.IsOk(), "invalid tree item")
 

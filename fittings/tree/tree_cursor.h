@@ -20,19 +20,19 @@ private:
     int m_value;
 };
 
-/// One item of one tree control, with the item's operations as its own. A small value: copy it freely.
+/// One item of one tree control, with the operations on that item. Copying a cursor is cheap.
 ///
-/// It owns nothing and does not notice when its item is deleted. The children of a cursor are visited by GetChild() and
-/// then GetNextSibling() until the cursor is invalid:
+/// A cursor owns nothing and does not notice when its item is deleted. To visit the children, call GetChild() and then
+/// GetNextSibling() until the cursor is invalid:
 ///
 /// @code
 /// for (wxTreeCursor child = parent.GetChild(); child.IsOk(); child = child.GetNextSibling())
 ///     child.SetTextColour(0x0000FF);  // red
 /// @endcode
 ///
-/// Each step of that loop searches from the first sibling, as the toolkit's own does: over many thousands of siblings
-/// walk with wxTreeCtrl::GetNextChild(). An operation on an invalid cursor asserts, as the toolkit's do, and returns a
-/// default. GUI thread only.
+/// Each step of that loop searches from the first sibling, as wxTreeCtrl::GetNextSibling() does. For many thousands of
+/// siblings, use wxTreeCtrl::GetNextChild(). An operation on an invalid cursor asserts, as in the toolkit, and returns
+/// a default value. GUI thread only.
 class FITTINGS_API wxTreeCursor
 {
 public:
@@ -54,7 +54,7 @@ public:
     /// True when there is an item.
     explicit operator bool() const { return IsOk(); }
 
-    /// The item, so that the toolkit's operations take a cursor: tree->EnsureVisible(tree->GetSelection()).
+    /// Returns the item. It lets the toolkit's operations take a cursor: tree->EnsureVisible(tree->GetSelection()).
     operator wxTreeItemId() const { return item; }
 
     /// The item's number in the toolkit; null when there is no item.
@@ -70,10 +70,10 @@ public:
     friend bool operator!=(const wxTreeItemId& left, const wxTreeCursor& right) { return !(left == right); }
     /// @endcond
 
-    /// Whether both stand on the same item, or on none. Either may be the toolkit's wxTreeItemId.
+    /// Whether both have the same item, or both have none. Either may be the toolkit's wxTreeItemId.
     friend bool operator==(const wxTreeCursor& left, const wxTreeCursor& right) { return left.item == right.item; }
 
-    /// Whether they stand on different items. Either may be the toolkit's wxTreeItemId.
+    /// Whether they have different items. Either may be the toolkit's wxTreeItemId.
     friend bool operator!=(const wxTreeCursor& left, const wxTreeCursor& right) { return !(left == right); }
 
     /// @}
@@ -89,16 +89,16 @@ public:
 
     /// Adds @a bitmap to the tree's normal image list, which must exist, and shows it as the item's image.
     ///
-    /// Returns @a which, not the index of the image: GetImage() tells that.
+    /// Returns @a which, not the index of the image; GetImage() returns the index.
     int SetImage(const wxBitmap& bitmap, const wxColour& mask, wxTreeItemIcon which);
 
-    /// Attaches an integer to the item in place of its earlier data object, which is deleted.
+    /// Attaches an integer to the item. Deletes the item's earlier data object.
     void SetData(int value);
 
     /// Returns the integer of SetData(); -1 when the item has none, or data of another class.
     int GetData() const;
 
-    /// Shows or hides the expand button, also while the item has no children yet.
+    /// Shows or hides the expand button, even if the item has no children yet.
     void SetChildren(bool has);
 
     /// Appends a child without image and data, and returns it.
@@ -116,11 +116,11 @@ public:
     /// Returns the parent; invalid for the root.
     wxTreeCursor GetParent() const;
 
-    /// Returns the first child. Of an item without children both members of the result are null; of one that only
-    /// says that it has children (SetChildren()) the tree is kept.
+    /// Returns the first child. For an item without children, both members of the result are null. If SetChildren() has
+    /// announced children but none exist, the result is invalid and keeps the tree.
     wxTreeCursor GetChild() const;
 
-    /// Returns the next sibling; invalid, with the tree kept, after the last one.
+    /// Returns the next sibling. After the last one, the result is invalid and keeps the tree.
     wxTreeCursor GetNextSibling() const;
 
     /// Sets the colour of the text: 0x00BBGGRR, higher bits ignored.

@@ -21,12 +21,11 @@ std::wstring_view View(const wxString& text)
     return std::wstring_view(text.wc_str(), text.length());
 }
 
-// A place among the children of an item. A step takes constant time, unlike GetNextSibling(), which searches for its
-// item.
+// A place among the children of an item. A step takes constant time; GetNextSibling() would search for its item.
 class ChildCursor
 {
 public:
-    // Returns the child at this place, or null after the last one, and moves on to the next place.
+    // Returns the child at this place, or an invalid item after the last one, and moves to the next place.
     wxTreeItemId Next(const wxTreeCtrl& tree, const wxTreeItemId& parent)
     {
         return std::exchange(m_first, false) ? tree.GetFirstChild(parent, m_cookie)
@@ -38,8 +37,8 @@ private:
     wxTreeItemIdValue m_cookie = nullptr;
 };
 
-// Walks a subtree and expands items on the way. The handlers of the expansions may change the tree anywhere: the walk
-// still visits the items that GetChild() and GetNextSibling() would give, and does not use a deleted item.
+// Walks a subtree and expands items on the way. Event handlers may change the tree anywhere during an expansion. The
+// walk still visits the items that GetChild() and GetNextSibling() would return, and never uses a deleted item.
 class ExpandingWalk
 {
 public:
@@ -64,7 +63,7 @@ public:
 private:
     struct VisitedItem
     {
-        wxTreeItemId item;  // null once it is deleted
+        wxTreeItemId item;  // Invalid after it was deleted.
         ChildCursor here;   // Where the item was among its siblings when it was found.
         ChildCursor next;
     };
@@ -76,13 +75,13 @@ private:
             m_tree.Expand(item);
     }
 
-    // The toolkit keeps a hidden root expanded, and asserts when it is to be expanded again.
+    // A hidden root is always expanded, and the toolkit asserts when it is expanded again.
     bool IsHiddenRoot(const wxTreeItemId& item) const
     {
         return m_tree.HasFlag(wxTR_HIDE_ROOT) && item == m_tree.GetRootItem();
     }
 
-    // Goes on to the first child of the last item of the path, if it has one.
+    // Moves to the first child of the last item of the path. False when it has none.
     bool Descend()
     {
         const wxTreeItemId parent = m_path.back().item;
@@ -96,7 +95,7 @@ private:
         return true;
     }
 
-    // Goes on to the next sibling of the last item of the path that has one.
+    // Moves to the next sibling of the last item of the path that has one. False when none has.
     bool Advance()
     {
         for (; m_path.size() > 1; m_path.pop_back()) {
@@ -111,8 +110,8 @@ private:
         return false;
     }
 
-    // Corrects the places of an item whose siblings have changed. When the item is deleted, its next sibling has
-    // its place now.
+    // Corrects the places of an item whose siblings have changed. If the item was deleted, its next sibling is at its
+    // place now.
     void FindAgain(VisitedItem& visited, const wxTreeItemId& parent) const
     {
         ChildCursor same = visited.here;
@@ -145,11 +144,12 @@ private:
         m_path;  // From the start to the item being visited: a deep tree must not use up the stack.
 };
 
-// What follows the last separator is no label.
+// Ignores the text after the last separator.
 Labels SplitLabels(std::wstring_view text)
 {
     Labels labels;
-    // Most labels of a tree are looked up in vain, which an empty bucket answers at once.
+    // Most labels of a tree are not in the set. With few entries per bucket, such a look-up usually meets an empty
+    // bucket.
     labels.max_load_factor(0.25F);
     for (std::size_t end = text.find(kSeparator); end != text.npos; end = text.find(kSeparator)) {
         labels.insert(text.substr(0, end));
@@ -164,7 +164,8 @@ struct Item
     bool isExpanded;
 };
 
-// Each label once, in ascending order. Of several items with one label the last one decides.
+// Joins the labels of expanded items, each once, in ascending order. If several items have the same label, the last one
+// decides.
 std::wstring JoinExpanded(std::vector<Item> items)
 {
     std::stable_sort(items.begin(), items.end(), [](const Item& a, const Item& b) { return a.label < b.label; });
@@ -213,7 +214,8 @@ void ExpandLabels(const std::wstring& text, const wxTreeCursor& start)
 {
     wxCHECK_RET(start.tree && start.IsOk(), "invalid tree item");
     const Labels labels = SplitLabels(text);
-    // Each expansion alone would lay out the whole tree again. A control that is not created cannot be frozen.
+    // Freeze the tree: each expansion would otherwise lay out the whole tree again. A control that is not created
+    // cannot be frozen.
     wxWindowUpdateLocker frozen;
     if (start.tree->GetHandle())
         frozen.Lock(start.tree);
