@@ -28,10 +28,10 @@ int ClickWatch::FilterEvent(wxEvent& event)
         return Event_Skip;
     if (mouse->GetButton() == wxMOUSE_BTN_LEFT) {
         const wxMouseEvent click(*mouse);
-        // What is called may end the watch, and its owner may go.
+        // Call a copy: the callback may stop the watch and destroy its owner.
         const std::function<void()> onClick = m_onClick;
         onClick();
-        // The toolkit passes the click that dismisses a popup on in this way, too.
+        // Pass the click on, as the toolkit does with a click that dismisses a popup.
         if (clicked)
             wxPostEvent(clicked->GetEventHandler(), click);
     }

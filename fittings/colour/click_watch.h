@@ -10,11 +10,11 @@ class wxWindow;
 
 namespace fittings {
 
-/// Sees the clicks on the program's other windows, as an open popup does by its grab of the pointer.
+/// Watches for clicks on the program's other windows. An open popup gets them by grabbing the pointer.
 class ClickWatch : public wxEventFilter
 {
 public:
-    /// @a onClick is called at a left click on any window but @a owner; the window gets the click afterwards.
+    /// Calls @a onClick at a left click on any window but @a owner. That window gets the click afterwards.
     ClickWatch(const wxWindow& owner, std::function<void()> onClick) : m_owner(owner), m_onClick(std::move(onClick)) {}
     ~ClickWatch() override { Stop(); }
 
@@ -24,7 +24,7 @@ public:
     void Start();
     void Stop();
 
-    /// Takes the clicks on other windows; those of the other buttons are lost.
+    /// Handles the clicks on other windows. Clicks of other buttons than the left one are dropped.
     int FilterEvent(wxEvent& event) override;
 
 private:

@@ -25,7 +25,7 @@ constexpr int kFocusInset = 3;
 wxBitmap CopyOfScreen(const wxRect& rect)
 {
     wxScreenDC screen;
-    // Cairo knows only its own changes of the screen, and copies what it saw the last time where there are others.
+    // Cairo misses other programs' drawing and would copy stale pixels.
     if (void* const context = screen.GetImpl()->GetCairoContext())
         cairo_surface_mark_dirty(cairo_get_target(static_cast<cairo_t*>(context)));
     wxBitmap bitmap(rect.GetSize());
@@ -35,7 +35,7 @@ wxBitmap CopyOfScreen(const wxRect& rect)
     return bitmap;
 }
 
-// True when the window or one of its parents is deleted as soon as no event is being handled.
+// Whether the window or one of its parents will be deleted as soon as no event is being handled.
 bool IsScheduledForDeletion(wxWindow* window)
 {
     return window && (window->IsBeingDeleted() || wxTheApp->IsScheduledForDestruction(window) ||
@@ -44,13 +44,13 @@ bool IsScheduledForDeletion(wxWindow* window)
 
 }  // namespace
 
-// Without entries: the tables of derived classes refer to it.
+// The table has no entries, but the tables of derived classes refer to it.
 wxBEGIN_EVENT_TABLE(wxColourCombo, wxComboCtrl)
 wxEND_EVENT_TABLE()
 
 wxColourCombo::wxColourCombo() : m_clicks(std::make_unique<fittings::ClickWatch>(*this, [this] { DismissOpening(); }))
 {
-    // Keys are the popup's as soon as the user has opened it, and a dialog must not be closed by them meanwhile.
+    // Drop keys during the animation: they belong to the opening popup and must not close a dialog around it.
     Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) { event.Skip(!m_animTimer.IsRunning()); });
 }
 
@@ -73,13 +73,14 @@ bool wxColourCombo::CreateWithColour(wxWindow* parent, wxWindowID id, const wxCo
 
 wxColourCombo::~wxColourCombo()
 {
-    // A popup that was closed while it opened is shown no more, and its end has not been told.
+    // A popup that was closed during the animation has not reported its end. Mark it as opening, so that HidePopup()
+    // does.
     if (m_animTimer.IsRunning() && IsPopupWindowState(Hidden))
         m_popupWinState = Animating;
     m_animTimer.Stop();
     m_clicks->Stop();
-    // The popup is closed here and not by the base, so that a listener that now wants the control destroyed finds that
-    // it is being so.
+    // Announce the destruction and close the popup here, not in the base: a listener may call Destroy() now, and it
+    // must find that the control is already being deleted.
     SendDestroyEvent();
     wxColourCombo::HidePopup(true);
 }
@@ -129,14 +130,15 @@ void wxColourCombo::ShowPopup()
 {
     if (!GetPopupControl() || m_animTimer.IsRunning())
         return;
-    // What was typed is the control's value: with an old one, setting that would seem to change nothing.
+    // Take over the typed text as the value. Otherwise setting the old value again would seem to change nothing.
     m_valueString = GetValue();
     wxComboCtrl::ShowPopup();
 }
 
 void wxColourCombo::HidePopup(bool generateEvent)
 {
-    // The next step of the animation shows it, and it has its end when it closes then.
+    // During the animation, only mark the popup as hidden: the next step shows it, and it reports its end when it
+    // closes.
     if (m_animTimer.IsRunning() && !IsScheduledForDeletion(this))
         m_popupWinState = Hidden;
     else
@@ -167,7 +169,7 @@ void wxColourCombo::OnInternalIdle()
     wxComboCtrl::OnInternalIdle();
     const wxString label = GetLabelText();
     const wxColourPopup* const colours = GetPopup();
-    // The focus stays here while the popup is open, and what is said of it is of the hot cell.
+    // The focus stays on this control while the popup is open, so describe the hot cell here.
     fittings::Describe(*this, fittings::AccessibleRole::ComboBox, label,
                        colours ? fittings::SpokenText(*colours) : GetValue());
     wxTextCtrl* const text = GetTextCtrl();
@@ -206,7 +208,7 @@ void wxColourCombo::OnTimerEvent(wxTimerEvent& /*event*/)
     }
     const wxLongLong now = wxGetLocalTimeMillis();
     auto elapsed = static_cast<std::int32_t>((now - m_animStart).GetValue());
-    // The clock was set back: without a new start the outline would wait until the time comes again.
+    // If the clock was set back, start again. Otherwise the animation would wait until the clock reaches the old time.
     if (elapsed < 0) {
         m_animStart = now;
         elapsed = 0;
@@ -217,7 +219,7 @@ void wxColourCombo::OnTimerEvent(wxTimerEvent& /*event*/)
         EndAnimation(*popup->GetControl());
 }
 
-// Before any handler: a host may bind one for timers of its own on the control, and not skip the event.
+// Runs before all handlers: a host may bind a handler for its own timers to the control and not skip the event.
 bool wxColourCombo::TryBefore(wxEvent& event)
 {
     auto* const tick = dynamic_cast<wxTimerEvent*>(&event);
@@ -245,14 +247,14 @@ void wxColourCombo::DrawStep(int elapsed)
     if (m_animBitmap.IsOk())
         screen.DrawBitmap(m_animBitmap, m_animRect.GetPosition());
     screen.DrawRectangle(outline);
-    // What is drawn on the screen itself lies below all windows.
+    // A drawing on the screen itself lies below all windows, so a window shows the outline too.
     if (m_outline)
         m_outline->ShowOutline(m_animRect, outline);
 }
 
 void wxColourCombo::EndAnimation(wxWindow& popup)
 {
-    // Before the background is drawn, so that nothing of the outline can come back over it.
+    // Hide the outline before the background is drawn, so that no part of it remains.
     if (m_outline)
         m_outline->Hide();
     if (m_animBitmap.IsOk())
@@ -270,7 +272,7 @@ void wxColourCombo::EndAnimation(wxWindow& popup)
         DoShowPopup(m_animRect, m_animFlags);
 }
 
-// The click would have dismissed an open popup. It does so with this one, which is shown first like every popup.
+// Dismisses a popup that is still opening, as a click dismisses an open one. It is shown first, like every popup.
 void wxColourCombo::DismissOpening()
 {
     EndAnimation(*GetPopupControl()->GetControl());

@@ -24,7 +24,7 @@ constexpr int kBoxSize = 18;
 constexpr int kSmallestSwatch = 7;
 constexpr int kMarginWhereUnknown = 2;
 
-// What the window is made with, until it is laid out.
+// The size of the window until it is laid out.
 constexpr int kFirstSize = 100;
 
 bool IsOpen(const wxComboCtrlBase& combo)
@@ -43,13 +43,13 @@ wxSize TextExtent(wxDC& dc, const wxString& text)
     return text.empty() ? wxSize(0, 0) : dc.GetTextExtent(text);
 }
 
-// Shifts the popup in from the right, or puts it above the control that it would drop from.
+// Moves the popup left until it fits on the screen, or puts it above the control if there is no room below.
 wxPoint FitToScreen(wxPoint at, const wxSize& size, const wxWindow& parent)
 {
     int screenWidth = 0;
     int screenHeight = 0;
     wxDisplaySize(&screenWidth, &screenHeight);
-    // The first column past the screen counts as on it.
+    // The first column beyond the screen counts as on it.
     if (at.x + size.x - 1 > screenWidth)
         at.x = screenWidth - size.x + 1;
     at.x = std::max(at.x, 0);
@@ -128,7 +128,7 @@ bool wxColourPopup::SetColour(const wxColour& colour)
     if (!m_combo)
         return true;
     const wxString name = TextOf(m_nChosenColourSel);
-    // Closing makes the hot cell's name the value, and this one takes its place.
+    // Closing makes the hot cell's name the value. Keep this name, so that it replaces the other one then.
     if (m_valueWhenShown || m_ending)
         m_valueWhenShown = name;
     if (m_combo->GetValue() != name)
@@ -189,7 +189,7 @@ int wxColourPopup::GetRow(int index) const
 
 int wxColourPopup::GetColumn(int index) const
 {
-    // What is not in the grid has no column beside its row.
+    // Outside the grid, the column is the same as the row.
     const int row = GetRow(index);
     return row >= 0 ? index % m_nNumColumns : row;
 }
@@ -224,7 +224,7 @@ void wxColourPopup::FindCellFromColour(const wxColour& colour)
 
 wxString wxColourPopup::GetStringValue() const
 {
-    // A text field would tell of the name of a colour that was not chosen, and at once of its old text again.
+    // With the name of the hot cell, a text field would report a colour that was not chosen, and then its old text.
     if (m_handsValueBack && m_valueWhenShown)
         return *m_valueWhenShown;
     return TextOf(m_nCurrentSel);
@@ -245,18 +245,18 @@ void wxColourPopup::SetStringValue(const wxString& value)
 {
     if (m_bInternalHide || m_ending)
         return;
-    // Not what the combo hands over while it closes the popup, nor while it opens it.
+    // Ignore the values that the combo passes while it opens or closes the popup.
     if (m_valueWhenShown && m_combo && IsOpen(*m_combo))
         m_valueWhenShown = m_combo->GetValue();
     const std::weak_ptr<const bool> life(m_life);
     for (int i = 0; i < fittings::kColourCount; ++i) {
         const wchar_t* const name = GetColourName(i);
         if (name && value == name) {
-            // A combo whose popup is dismissed hands back the name of the cell that is hot already.
+            // A combo whose popup is dismissed passes the name of the hot cell, which is then already current.
             if (i != m_nCurrentSel || !m_valueWhenShown || m_crColour != GetColour(i))
                 ChangeSelection(i);
-            // A combo with a text hands it over while it opens the popup, wherever the pointer is. A listener may have
-            // destroyed the popup by now.
+            // A combo with a text passes it while it opens the popup, and the pointer may be elsewhere: show no name
+            // there. A listener may have destroyed the popup by now.
             if (!life.expired() && m_valueWhenShown && m_combo && !m_combo->IsPopupShown())
                 ShowNameAtPointer("");
             return;
@@ -289,7 +289,7 @@ void wxColourPopup::SetWindowSize(const wxRect& rect)
     const int margin = m_nMargin;
     m_nNumRows = (m_nNumColours + m_nNumColumns - 1) / m_nNumColumns;
     const wxSize text = MeasureTexts();
-    // The wider of the two texts sets the width, whichever box it stands in.
+    // The wider of the two texts determines the width.
     const int width = std::max(m_nNumColumns * m_nBoxSize + 2 * margin, text.x);
     int height = m_nNumRows * m_nBoxSize + 2 * margin;
     m_rectAutomatic = {};

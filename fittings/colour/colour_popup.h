@@ -15,28 +15,28 @@
 #include <fittings/base/export.h>
 #include <fittings/colour/colour_table.h>
 
-/// Hears what the user does in a wxColourPopup. A host overrides what it needs.
+/// Is told what the user does in a wxColourPopup. A host overrides the functions that it needs.
 class FITTINGS_API wxColorPopupListener
 {
 public:
-    /// The popup is about to be shown. Where the combo's value names a colour, that one becomes hot next.
+    /// The popup is about to be shown. If the combo's value names a colour of the palette, its cell becomes hot next.
     virtual void OnColourPopup();
 
-    /// Another cell became hot; @a colour is that cell's.
+    /// Another cell became hot; @a colour is the colour of that cell.
     virtual void OnColourSelChange(const wxColour& colour);
 
-    /// @a colour was chosen. It is the one already in effect when no cell was hot, or when the dialog of "More
-    /// Colours..." was cancelled.
+    /// @a colour was chosen. If no cell was hot, or the dialog of "More Colours..." was cancelled, it is the colour
+    /// that was already in effect.
     virtual void OnColourSelEnd(const wxColour& colour);
 
-    /// Nothing was chosen; @a colour is the one that stays in effect.
+    /// Nothing was chosen; @a colour stays in effect.
     virtual void OnColourSelCancel(const wxColour& colour);
 
     virtual ~wxColorPopupListener();
 };
 
-/// The drop-down of a colour combo: a palette of 40 named colours, with a box "Automatic" above and a box
-/// "More Colours..." below it.
+/// The popup of a colour combo: a palette of 40 named colours, a box "Automatic" above it and a box "More Colours..."
+/// below it.
 ///
 /// @code
 /// auto* combo = new wxColourCombo(this, wxID_ANY, m_lineColour);
@@ -44,18 +44,18 @@ public:
 /// combo->GetPopup()->SetColorListener(this);
 /// @endcode
 ///
-/// A host that derives a class from this one gives it to a combo by wxComboCtrl::SetPopupControl().
+/// To use a class that is derived from this one, pass an object to wxComboCtrl::SetPopupControl().
 ///
-/// The other settings than the colour are made before the popup is shown. The colour that the user chose reaches the
-/// listener and the combo's wxEVT_COLOURPICKER_CHANGED, and is from then on the initial colour. A cell is named by its
-/// index: 0 to 39 for a colour of the palette, else one of the constants CELL_NONE, CELL_MORE_COLOURS and
-/// CELL_AUTOMATIC. The *hot* cell is the one under the pointer or reached by the keyboard; the *chosen* cell is the one
-/// of the colour in effect.
+/// Make all settings but the colour before the popup is shown. The colour that the user chooses becomes the initial
+/// colour; the listener and the combo's wxEVT_COLOURPICKER_CHANGED report it. A cell is identified by its index: 0 to
+/// 39 for a colour of the palette, otherwise CELL_NONE, CELL_MORE_COLOURS or CELL_AUTOMATIC. The *hot* cell is the one
+/// under the pointer or reached by the keyboard. The *chosen* cell is the cell of the colour in effect.
 ///
-/// The texts are in the language that is set when the popup is made, the colours' names in the one that is set when the
-/// first popup of the process is made.
+/// The texts are in the language that is set when the popup is made. The names of the colours are in the language that
+/// is set when the first popup of the process is made.
 ///
-/// While it is open, the keys that it knows are its own: no dialog around it is closed by its Escape.
+/// While the popup is open, it takes the keys that it knows before a dialog does: Escape closes the popup and not the
+/// dialog.
 ///
 /// The combo owns the popup from SetPopupControl() on. GUI thread only.
 class FITTINGS_API wxColourPopup : public wxWindow, public wxComboPopup
@@ -67,109 +67,112 @@ public:
     /// @name Settings
     /// @{
 
-    /// The colour in effect: what the combo's face and the "More Colours..." cell show. Black at first. An invalid
-    /// colour asserts and is not taken.
+    /// Sets the colour in effect, which the combo's face and the "More Colours..." cell show. Black at first. An
+    /// invalid colour asserts and changes nothing.
     ///
-    /// The combo is redrawn, and no more: set it before the combo takes the popup, which marks "Automatic" then if this
-    /// is the default colour, and that mark stays. Later, SetColour() is what moves the mark.
+    /// This only redraws the combo. Call it before wxComboCtrl::SetPopupControl(). The combo then marks "Automatic" if
+    /// this is the default colour, and that mark stays. To move the mark later, call SetColour().
     void SetInitialColour(const wxColour& colour);
 
-    /// Makes @a colour the one in effect, with the combo's face and value, the chosen cell and the mark of "Automatic".
-    /// The listener hears nothing of it, and no event is sent. False, and nothing changes, for an invalid colour.
+    /// Makes @a colour the colour in effect and updates the combo's face and value, the chosen cell and the mark of
+    /// "Automatic". The listener is not called, and no event is sent. Returns false and changes nothing for an invalid
+    /// colour.
     ///
-    /// It may be called at any time. While the popup is open, the colour stays in effect if nothing is chosen; while
-    /// the listener or an event hears of the colour that was chosen, it takes its place.
+    /// It may be called at any time. While the popup is open, @a colour stays in effect if the user chooses nothing. In
+    /// the listener or an event handler that is told of a chosen colour, @a colour replaces that colour.
     bool SetColour(const wxColour& colour);
 
     /// The colour in effect.
     const wxColour& GetInitialColour() const { return m_crInitialColour; }
 
-    /// The colour that "Automatic" stands for. Black at first. An invalid colour asserts and is not taken.
+    /// Sets the colour that "Automatic" stands for. Black at first. An invalid colour asserts and changes nothing.
     void SetDefaultColour(const wxColour& colour);
 
     /// The colour that "Automatic" stands for.
     const wxColour& GetDefaultColour() const { return m_crDefaultColour; }
 
-    /// Whether the combo is redrawn each time another cell becomes hot. False at first.
+    /// Sets whether the combo is redrawn each time another cell becomes hot. False at first.
     void SetRefreshCombo(bool refresh) { m_bRefreshCombo = refresh; }
 
     /// Whether the combo is redrawn each time another cell becomes hot.
     bool GetRefreshCombo() const { return m_bRefreshCombo; }
 
-    /// The text of the upper box; the box is absent when it is empty.
+    /// Sets the text of the upper box. With an empty text there is no such box.
     void SetAutomaticText(const wxString& text);
 
-    /// The text of the lower box; the box is absent when it is empty.
+    /// Sets the text of the lower box. With an empty text there is no such box.
     void SetMoreColoursText(const wxString& text);
 
-    /// The listener, not owned, is to outlive the popup or be replaced by null.
+    /// Sets the listener, which is not owned. It must outlive the popup or be replaced by null.
     void SetColorListener(wxColorPopupListener* listener) { m_pListener = listener; }
 
-    /// The window that the dialog of "More Colours..." belongs to and is centred on; not owned. With null it belongs to
-    /// the combo. The popup itself is not moved.
+    /// Sets the parent of the dialog of "More Colours...", which is centred on it; not owned. With null the combo is
+    /// the parent. The popup itself is not moved.
     void SetCenterOn(wxWindow* window) { m_pCenterOn = window; }
 
-    /// Brings every setting, the listener included, to its initial value. The constructor does it. A window that
-    /// exists has to be laid out again by SetWindowSize().
+    /// Resets every setting, the listener included, to its initial value. The constructor calls it. If the window
+    /// exists, call SetWindowSize() afterwards.
     void Initialise();
     /// @}
 
     /// @name Cells and colours
     /// @{
 
-    /// The colour of a cell of the palette, of CELL_MORE_COLOURS (the initial colour) or of CELL_AUTOMATIC (the default
-    /// colour). Any other index is not checked, and must not be passed.
+    /// Returns the colour of a cell of the palette, of CELL_MORE_COLOURS (the initial colour) or of CELL_AUTOMATIC (the
+    /// default colour). Do not pass any other index: it is not checked.
     wxColour GetColour(int index) const;
 
-    /// The row of a cell in the grid. A box is its own row: the result is @a index itself. -1 for a box that is absent
-    /// and for any other index.
+    /// Returns the row of a cell in the grid. For a box, the result is @a index itself. It is -1 for an absent box and
+    /// for any other index.
     int GetRow(int index) const;
 
-    /// The column of a cell in the grid, with the same answers as GetRow() for what is not in it.
+    /// Returns the column of a cell in the grid. For an index outside the grid, the result is that of GetRow().
     int GetColumn(int index) const;
 
-    /// The cell at a place of the grid. A row or a column that stands for a box names that box where it is present, the
-    /// other coordinate whatever it is. CELL_NONE where there is no cell.
+    /// Returns the cell at a place of the grid; CELL_NONE if there is no cell. If either @a row or @a col is the index
+    /// of a box that is present, the result is that box, whatever the other coordinate is.
     int GetIndex(int row, int col) const;
 
-    /// Marks the cell of @a colour as chosen: the first of the palette that has exactly this colour and opacity, else
-    /// "More Colours...", else none.
+    /// Marks the cell of @a colour as chosen: the first cell of the palette with exactly this colour and opacity,
+    /// otherwise "More Colours...". Marks none if that box is absent.
     ///
-    /// "Automatic" is chosen when nothing was and the colour is the default colour, and stays chosen whatever
-    /// @a colour is: who chose it finds it marked again.
+    /// If no cell was chosen and @a colour is the default colour, "Automatic" becomes chosen. If "Automatic" was
+    /// chosen, it stays chosen whatever @a colour is, so a user who chose it finds it marked again.
     void FindCellFromColour(const wxColour& colour);
 
-    /// The text of the hot cell; empty when none is hot. While a cancelled selection closes the popup, or one whose
-    /// colour SetColour() has replaced, the combo's value.
+    /// Returns the text of the hot cell; empty when no cell is hot. While the popup closes after a cancelled selection,
+    /// or after one whose colour SetColour() has replaced, the result is the combo's value.
     wxString GetStringValue() const override;
 
-    /// Makes the colour of that name hot, in the language and the letter case that the table has it in. Any other text,
-    /// those of the boxes included, changes nothing. Neither does the name of the hot cell while the popup is
-    /// open, nor any while the popup hides itself: what the combo then hands back is no choice of the user's.
+    /// Makes the cell with the name @a value hot. The language and the letter case must be those of the table. Any
+    /// other text changes nothing, also the text of a box. The name of the hot cell changes nothing while the popup is
+    /// open. No name changes anything while the popup hides itself, because the combo then passes back a value that the
+    /// user did not choose.
     ///
-    /// A value that the host sets while the popup is open stays the combo's if nothing is chosen.
+    /// A value that the host sets while the popup is open stays the combo's value if the user chooses nothing.
     void SetStringValue(const wxString& value) override;
     /// @}
 
     /// @name Size and layout, in pixels
     /// @{
 
-    /// Creates the window; called by the combo.
+    /// Creates the window. The combo calls it.
     bool Create(wxWindow* parent) override;
 
-    /// Lays out the popup and moves the window to the position of @a rect, or where it fits on the screen. Of the size
-    /// nothing is used. Does nothing before Create().
+    /// Lays out the popup and moves the window to the position of @a rect, or to one where it fits on the screen. The
+    /// size of @a rect is ignored. Does nothing before Create().
     void SetWindowSize(const wxRect& rect);
 
-    /// Gives the rectangle of a cell and true. False, and @a rect as it was, when there is no such cell.
+    /// Stores the rectangle of a cell in @a rect and returns true. If there is no such cell, returns false and leaves
+    /// @a rect as it is.
     ///
-    /// A box always has one: that of the last layout, empty where the box was absent then.
+    /// A box always has a rectangle: the one of the last layout, which is empty if the box was absent then.
     bool GetCellRect(int index, wxRect& rect) const;
 
-    /// The popup's own size, whatever the combo would like.
+    /// Returns the size of the popup; the parameters are ignored.
     wxSize GetAdjustedSize(int minWidth, int prefHeight, int maxHeight) override;
 
-    /// The popup itself, for the combo.
+    /// Returns the popup itself, for the combo.
     wxWindow* GetControl() override { return this; }
     /// @}
 
@@ -179,16 +182,16 @@ public:
     /// @name Drawing
     /// @{
 
-    /// Draws the popup when the screen has to be painted.
+    /// Paints the window.
     void OnPaint(wxPaintEvent& event);
 
-    /// Draws the cells, the boxes and the frame. What is between them is left as it is.
+    /// Draws the cells, the boxes and the frame, but not the background between them.
     void DoDrawControl(wxDC* dc);
 
-    /// Draws one cell as it is now: plain, chosen or hot.
+    /// Draws one cell in its present state: plain, chosen or hot.
     void DrawCell(wxDC* dc, int index);
 
-    /// Draws a cell of the palette into @a rect, which shrinks to the rectangle of the colour itself.
+    /// Draws a cell of the palette into @a rect, and then shrinks @a rect to the area of the colour itself.
     void DrawCellRect(wxDC* dc, wxRect& rect, int index);
 
     /// Draws the frame of the popup.
@@ -201,57 +204,61 @@ public:
     /// @name Mouse and keyboard
     /// @{
 
-    /// The combo shows the popup: nothing is hot yet and no name is shown at the pointer, the cell of the colour in
-    /// effect is chosen, and the listener hears of it.
+    /// Called when the combo shows the popup. No cell is hot and no name is shown at the pointer. The cell of the
+    /// colour in effect is chosen, and the listener is told.
     void OnPopup() override;
 
-    /// The combo hides the popup. Unless the popup does that itself, the listener hears that nothing was chosen.
+    /// Called when the combo hides the popup. Unless the popup hides itself, the listener is told that nothing was
+    /// chosen.
     void OnDismiss() override;
 
-    /// Makes a cell hot, draws it so and tells the listener. An index above the number of the palette's cells counts as
-    /// CELL_MORE_COLOURS; any other that names no cell is kept, none looks hot, and the colour is the one in effect.
+    /// Makes a cell hot, redraws it and tells the listener. An index above the number of the palette's cells counts as
+    /// CELL_MORE_COLOURS. Any other index that is not a cell is kept; no cell looks hot then, and the reported colour
+    /// is the one in effect.
     void ChangeSelection(int index);
 
-    /// Tells the listener, and the combo where SetRefreshCombo() says so, of the hot cell's colour.
+    /// Tells the listener the colour of the hot cell, and redraws the combo if SetRefreshCombo() says so.
     void DoSelChange();
 
-    /// Ends the selection: with the hot cell's colour, asked for in the dialog where that is CELL_MORE_COLOURS, or,
-    /// unless
-    /// @a ok, with the one that was in effect.
+    /// Ends the selection. If @a ok, the colour of the hot cell is chosen; for CELL_MORE_COLOURS, the dialog asks for
+    /// the colour. Otherwise the colour in effect stays.
     void EndSelection(bool ok);
 
-    /// Tells the listener of the end, and makes a colour that was chosen the initial one.
+    /// Tells the listener of the end. A chosen colour becomes the initial colour.
     void DoEndSel(bool ok);
 
-    /// Asks for a colour in the toolkit's dialog, which begins with the one in effect. Its answer takes effect; a
-    /// cancelled dialog leaves the colour as it was.
+    /// Asks for a colour in the toolkit's dialog, which starts with the colour in effect. The colour of the dialog
+    /// becomes the one in effect, unless the dialog is cancelled.
     void DoShowColorDlg();
 
-    /// Makes the cell under the pointer hot; where there is none, what was hot stays so.
+    /// Makes the cell under the pointer hot. If there is none, the hot cell does not change.
     ///
-    /// The boxes are taken to lie one margin lower and further right than they are drawn, and the palette below an
-    /// "Automatic" box one margin higher: the lowest rows of pixels of each of its cells stand for the cell below.
+    /// The areas differ from the drawn ones: those of the boxes lie one margin lower and further right, and the palette
+    /// below an "Automatic" box lies one margin higher, so the lowest rows of pixels of each cell belong to the cell
+    /// below.
     void OnMouseMove(wxMouseEvent& event);
 
-    /// Ends the selection: with the hot cell's colour within the popup, between its cells too, and outside as a cancel.
+    /// Ends the selection. Within the popup, also between cells, the colour of the hot cell is chosen. Outside, the
+    /// selection is cancelled.
     void OnLButtonUp(wxMouseEvent& event);
 
-    /// The arrows move the hot cell, Enter and the space bar choose it, Escape cancels. Other keys are skipped.
+    /// The arrow keys move the hot cell, Enter and the space bar choose it, and Escape cancels. Other keys are skipped.
     ///
-    /// The cells follow one another in a circle: "Automatic", the palette row by row, "More Colours...". While none is
-    /// hot, Down and Right begin with "More Colours...", Up and Left with "Automatic".
+    /// The cells form a circle: "Automatic", the palette row by row, "More Colours...". While no cell is hot, Down and
+    /// Right begin with "More Colours...", and Up and Left with "Automatic".
     void OnKeyDown(wxKeyEvent& event);
 
-    /// A key of the combo that has the focus while the popup is closed. With wxCB_READONLY, Up chooses the colour
-    /// before the one in effect and Down the one after: the listener hears of the choice, and the combo sends its
-    /// event. They do nothing at the first and the last cell, and do not move the focus. Other keys are skipped.
+    /// Handles a key of the combo while the popup is closed and the combo has the focus. With wxCB_READONLY, Up chooses
+    /// the colour before the one in effect and Down the one after it. The listener is told of the choice, and the combo
+    /// sends its event. Up does nothing at the first cell and Down nothing at the last one; neither moves the focus.
+    /// Other keys are skipped.
     void OnComboKeyEvent(wxKeyEvent& event) override;
     /// @}
 
 protected:
     wxString m_strMoreColours;          ///< The text of the lower box.
     wxString m_strAutomatic;            ///< The text of the upper box.
-    wxPalette m_palette;                ///< The table's colours, selected where cells are drawn.
+    wxPalette m_palette;                ///< The table's colours, selected for drawing cells.
     wxRect m_rectMoreColours;           ///< The lower box.
     wxRect m_rectAutomatic;             ///< The upper box.
     wxRect m_rectWindow;                ///< The popup itself.
@@ -262,13 +269,13 @@ protected:
     int m_nMargin;                      ///< The unit of all distances.
     int m_nChosenColourSel;             ///< The chosen cell.
     int m_nCurrentSel;                  ///< The hot cell.
-    wxFont m_font;                      ///< Of the boxes.
-    wxColour m_crColour;                ///< Of the hot cell.
-    wxColour m_crInitialColour;         ///< In effect.
+    wxFont m_font;                      ///< The font of the boxes.
+    wxColour m_crColour;                ///< The colour of the hot cell.
+    wxColour m_crInitialColour;         ///< The colour in effect.
     wxColour m_crDefaultColour;         ///< What "Automatic" stands for.
     wxColorPopupListener* m_pListener;  ///< Not owned.
     bool m_bRefreshCombo;               ///< Whether the combo is redrawn with each hot cell.
-    bool m_bInternalHide;               ///< While the popup hides itself.
+    bool m_bInternalHide;               ///< True while the popup hides itself.
     wxWindow* m_pCenterOn;              ///< Not owned.
     wxString m_strToolTip;              ///< The name that is shown at the pointer.
 
@@ -290,11 +297,11 @@ private:
     void ChooseClosed(int index);
     bool Send(wxEventType type, const wxColour& colour);
 
-    bool m_ending = false;                     ///< While the listener hears of an end.
-    bool m_handsValueBack = false;             ///< While a cancelled selection closes the popup.
-    bool m_dialogCancelled = false;            ///< From the end of the dialog to that of the selection.
-    std::optional<wxString> m_valueWhenShown;  ///< Of the combo, while the popup is open.
-    const std::shared_ptr<const bool> m_life = std::make_shared<const bool>(true);  ///< Ends with the popup.
+    bool m_ending = false;                     ///< True while the listener is told of an end.
+    bool m_handsValueBack = false;             ///< True while a cancelled selection closes the popup.
+    bool m_dialogCancelled = false;            ///< True from a cancelled dialog to the end of the selection.
+    std::optional<wxString> m_valueWhenShown;  ///< The combo's value, while the popup is open.
+    const std::shared_ptr<const bool> m_life = std::make_shared<const bool>(true);  ///< Expires with the popup.
 
     wxDECLARE_EVENT_TABLE();
 };

@@ -63,7 +63,7 @@ void DrawRaisedEdge(wxDC& dc, const wxRect& rect)
     DrawRightBottom(dc, inner, Shadow());
 }
 
-// Light falls in: the outermost lines are on the left and top alone.
+// Draws a sunken edge: only the left and the top have the outermost lines.
 void DrawSunkenEdge(wxDC& dc, const wxRect& rect)
 {
     DrawLeftTop(dc, rect, Shadow());
@@ -155,7 +155,7 @@ void wxColourPopup::DrawAutomatic(wxDC& dc)
     DrawEdge(dc, base, CELL_AUTOMATIC);
     DrawCentredText(dc, base, m_font, m_strAutomatic);
 
-    // The swatch fills its square: a cell's inset is one more than the margin.
+    // Enlarge the swatch so that it fills its square: a cell's inset is one pixel more than the margin.
     const int side = box.height / 3;
     const int inset = (box.height - side) / 2;
     wxRect swatch(box.x + inset, box.y + inset, side, side);

@@ -15,10 +15,10 @@
 
 namespace {
 
-// Expired when the popup is gone: a listener may destroy the control, and the popup with it.
+// Expires when the popup is destroyed: a listener may destroy the control and with it the popup.
 using Life = std::weak_ptr<const bool>;
 
-// Sets a flag of the popup and clears it at the end of the scope, also after an exception of the listener.
+// Sets a flag of the popup and clears it at the end of the scope, even if the listener throws.
 class ScopedFlag
 {
 public:
@@ -36,7 +36,7 @@ private:
     bool& m_flag;
 };
 
-// The frame is drawn in the second and third of the window's outermost pixels.
+// The frame is drawn in the second and the third pixel from each edge of the window.
 constexpr int kFrameWidth = 3;
 
 bool IsOwnKey(int key)
@@ -75,7 +75,7 @@ int FirstPresent(std::initializer_list<int> cells)
     return CELL_NONE;
 }
 
-// Of a window within another one, the toolkit's Centre() takes the outermost.
+// Centres the dialog on the window itself; the toolkit's Centre() would use its top-level window.
 void CentreOn(const wxWindow& window, wxDialog& dialog)
 {
     dialog.Centre(wxBOTH);
@@ -110,9 +110,9 @@ void wxColourPopup::OnPopup()
 {
     FindCellFromColour(m_crInitialColour);
     m_nCurrentSel = CELL_NONE;
-    // The pointer may be over another cell than the one that was hot when the popup closed.
+    // Remove the old name: the pointer may now be over another cell than the one that was hot when the popup closed.
     ShowNameAtPointer("");
-    // What is chosen while no cell is hot is the colour in effect.
+    // While no cell is hot, a choice gives the colour in effect.
     m_crColour = m_crInitialColour;
     if (m_combo)
         m_valueWhenShown = m_combo->GetValue();
@@ -123,7 +123,7 @@ void wxColourPopup::OnPopup()
 
 void wxColourPopup::OnDismiss()
 {
-    // A listener that closes the popup when it hears of an end needs not hear of another.
+    // A listener may close the popup while it is told of an end. Do not report a second end.
     if (m_bInternalHide || m_ending)
         return;
     const Life life(m_life);
@@ -132,18 +132,18 @@ void wxColourPopup::OnDismiss()
         return;
     if (m_pListener) {
         m_crColour = m_crInitialColour;
-        // A copy, here and below: the popup may go during the call, and its members with it.
+        // Pass a copy, here and below: the listener may destroy the popup.
         m_pListener->OnColourSelCancel(wxColour(m_crColour));
     }
     if (!life.expired())
         Send(wxEVT_COLOURPICKER_DIALOG_CANCELLED, m_crInitialColour);
 }
 
-// False when the popup is gone afterwards.
+// Sends an event of the combo. Returns false if a handler has destroyed the popup.
 bool wxColourPopup::Send(wxEventType type, const wxColour& colour)
 {
     const Life life(m_life);
-    // What the handlers belong to may be half gone when the combo goes.
+    // When the combo is being deleted, the objects of the handlers may be partly destroyed.
     if (m_combo && !m_combo->IsBeingDeleted()) {
         wxColourPickerEvent event(m_combo, m_combo->GetId(), colour, type);
         m_combo->HandleWindowEvent(event);
@@ -176,7 +176,8 @@ void wxColourPopup::ShowNameAtPointer(const wxString& name)
         SetToolTip(m_strToolTip);
 }
 
-// The cell that was hot, the one that is, and the frame over both: not the whole popup, for each move of the pointer.
+// Redraws the old and the new hot cell and the frame over both. Redrawing the whole popup on each move of the pointer
+// would be slow.
 void wxColourPopup::RedrawHotCells(int old)
 {
     wxClientDC dc(this);
@@ -190,7 +191,7 @@ void wxColourPopup::RedrawHotCells(int old)
         wxRect rect;
         if (!GetCellRect(cell, rect))
             continue;
-        // This box is drawn with a separator above it, and lower by as much.
+        // A separator is drawn above this box, so the box is drawn lower by its height.
         if (cell == CELL_MORE_COLOURS)
             rect.height += 2 * m_nMargin;
         RefreshRect(rect);
@@ -260,7 +261,7 @@ void wxColourPopup::DoEndSel(bool ok)
         if (!HideCombo())
             return;
     }
-    // Where the listener has closed the popup, the combo has taken the hot cell's name for its value.
+    // If the listener has closed the popup, the combo's value is now the name of the hot cell.
     RestoreValue();
     if (life.expired())
         return;
@@ -289,7 +290,7 @@ void wxColourPopup::TellOfTheEnd(bool ok)
         Send(cancelled ? wxEVT_COLOURPICKER_DIALOG_CANCELLED : wxEVT_COLOURPICKER_CHANGED, m_crInitialColour);
 }
 
-// Closes the popup without a report to the listener; false when the popup is gone afterwards.
+// Closes the popup without telling the listener. Returns false if that has destroyed the popup.
 bool wxColourPopup::HideCombo()
 {
     const Life life(m_life);
@@ -299,8 +300,8 @@ bool wxColourPopup::HideCombo()
     return !life.expired();
 }
 
-// Closing makes the hot cell's name the combo's value, which is handed back when the popup is opened again: a plain
-// Enter would then choose the colour that was not chosen now.
+// Restores the combo's value. Closing sets it to the name of the hot cell, and the combo passes its value when the
+// popup opens again: Enter would then choose a colour that was not chosen now.
 void wxColourPopup::RestoreValue()
 {
     const std::optional<wxString> kept = std::exchange(m_valueWhenShown, std::nullopt);
@@ -313,7 +314,7 @@ void wxColourPopup::RestoreValue()
 
 void wxColourPopup::OnMouseMove(wxMouseEvent& event)
 {
-    // The point is moved by one margin, but for the boxes too, and not by the one below "Automatic".
+    // The point is shifted by one margin, for the boxes too, but not by the margin below "Automatic".
     wxPoint point(event.GetX() - m_nMargin, event.GetY() - m_nMargin);
     int target = CELL_NONE;
     if (!m_strMoreColours.empty() && m_rectMoreColours.Contains(point)) {
@@ -330,7 +331,7 @@ void wxColourPopup::OnMouseMove(wxMouseEvent& event)
     if (target != m_nCurrentSel)
         ChangeSelection(target);
     else
-        ShowNameAtPointer(NameOf(target));  // of a cell that was hot when the popup opened
+        ShowNameAtPointer(NameOf(target));  // The cell became hot when the popup opened.
 }
 
 void wxColourPopup::OnLButtonUp(wxMouseEvent& event)
@@ -338,7 +339,7 @@ void wxColourPopup::OnLButtonUp(wxMouseEvent& event)
     EndSelection(wxRect(GetClientAreaOrigin(), GetClientSize()).Contains(event.GetPosition()));
 }
 
-// A dialog would take Escape for its own Cancel, and a host might take any key, before the popup sees it.
+// Takes keys before they reach a dialog, which would treat Escape as Cancel, or a host, which might take any key.
 void wxColourPopup::OnCharHook(wxKeyEvent& event)
 {
     if (IsOwnKey(event.GetKeyCode()))
@@ -373,19 +374,21 @@ void wxColourPopup::OnComboKeyEvent(wxKeyEvent& event)
     const int key = event.GetKeyCode();
     const bool isDown = key == WXK_DOWN || key == WXK_NUMPAD_DOWN;
     const bool isUp = key == WXK_UP || key == WXK_NUMPAD_UP;
-    // The toolkit turns a wheel over any combo into these keys; one without the focus leaves it to the page.
+    // The toolkit turns the mouse wheel over a combo into these keys. A combo without the focus skips them, so that the
+    // page scrolls.
     if ((!isDown && !isUp) || event.HasAnyModifiers() || m_valueWhenShown || !m_combo->HasFocus()) {
         event.Skip();
         return;
     }
-    // Not skipped with a text field, either: GTK would move the focus.
+    // With a text field too, do not skip the key: GTK would move the focus.
     if (!m_combo->HasFlag(wxCB_READONLY))
         return;
     FindCellFromColour(m_crInitialColour);
     ChooseClosed(CellBeside(isDown ? 1 : -1));
 }
 
-// The cell before or after the chosen one as a list would have them; none before the first and after the last.
+// Returns the cell before or after the chosen one in the order of a list; CELL_NONE before the first and after the
+// last.
 int wxColourPopup::CellBeside(int step) const
 {
     const int automatic = GetIndex(CELL_AUTOMATIC, CELL_AUTOMATIC);
@@ -406,7 +409,7 @@ int wxColourPopup::CellBeside(int step) const
     return beside <= last ? beside : CELL_NONE;
 }
 
-// Ends a selection that no popup was opened for.
+// Chooses a cell while the popup is closed.
 void wxColourPopup::ChooseClosed(int index)
 {
     if (index == CELL_NONE)
@@ -422,10 +425,10 @@ void wxColourPopup::ChooseClosed(int index)
     m_combo->Refresh();
 }
 
-// The cells follow one another in a circle: "Automatic", the grid row by row, "More Colours...".
+// Returns the next hot cell. The cells form a circle: "Automatic", the grid row by row, "More Colours...".
 int wxColourPopup::CellTowards(int key) const
 {
-    // A box that is absent is no cell here.
+    // An absent box gives CELL_NONE.
     const int automatic = GetIndex(CELL_AUTOMATIC, CELL_AUTOMATIC);
     const int more = GetIndex(CELL_MORE_COLOURS, CELL_MORE_COLOURS);
     const int first = GetIndex(0, 0);

@@ -8,15 +8,15 @@
 /// @file
 /// The palette of wxColourPopup: its colours, their names, and the indices of its cells.
 
-/// @name Cells of the colour popup
-/// 0 to 39 are the colours of the palette, row by row. These are the others.
+/// @name Cells of the colour popup 0 to 39 are the colours of the palette, row by row. The other cells have these
+/// constants.
 /// @{
 inline constexpr int CELL_NONE = -1;          ///< No cell.
 inline constexpr int CELL_MORE_COLOURS = -2;  ///< The box "More Colours..." below the palette.
 inline constexpr int CELL_AUTOMATIC = -3;     ///< The box "Automatic" above the palette.
 /// @}
 
-/// What the library has besides the names that carry a prefix.
+/// The library's names that carry no prefix.
 namespace fittings {
 
 /// How many colours the palette has.
@@ -38,9 +38,10 @@ struct ColourTableEntry
 ///     list->Append(GetColourTable()[i].szName);
 /// @endcode
 ///
-/// The names are looked up in the language that is set at the first call, and stay: set the language first. Whichever
-/// thread calls first, they are looked up once; the look-up itself belongs on the GUI thread. What it throws reaches
-/// the caller, and the next call tries again. The table and its names last until the process ends.
+/// The first call looks up the names in the language that is set then, and later calls return the same names. So set
+/// the language first, and make the first call on the GUI thread. Concurrent first calls look up the names only once.
+/// An exception of the look-up reaches the caller, and the next call tries again. The table and its names are valid
+/// until the process ends.
 FITTINGS_API const ColourTableEntry* GetColourTable();
 
 /// Returns the name of the palette's colour @a index, from 0 to 39. The index is not checked.

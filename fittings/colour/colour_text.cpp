@@ -11,7 +11,7 @@ namespace fittings {
 
 namespace {
 
-// The name that the palette has for a colour, else its number, as "#0000FE".
+// Returns the name of a colour in the palette, otherwise its number, such as "#0000FE".
 wxString ColourName(const wxColour& colour)
 {
     for (int i = 0; i < kColourCount; ++i) {

@@ -7,8 +7,7 @@
 
 wxColourValidator::wxColourValidator(wxColour* colour) : m_colour(colour) {}
 
-// A copy is set on a window of its own.
-// NOLINTNEXTLINE(bugprone-copy-constructor-init)
+// The window is not copied: each validator is set on its own window. NOLINTNEXTLINE(bugprone-copy-constructor-init)
 wxColourValidator::wxColourValidator(const wxColourValidator& other) : wxValidator(), m_colour(other.m_colour) {}
 
 wxColourValidator::~wxColourValidator() = default;

@@ -7,8 +7,8 @@
 
 class wxColour;
 
-/// Carries a colour between the host's variable and a wxColourCombo, as wxGenericValidator does for the toolkit's
-/// controls. It takes a wxColourPickerCtrl as well.
+/// Transfers a colour between the host's variable and a wxColourCombo, as wxGenericValidator does for the toolkit's
+/// controls. It works on a wxColourPickerCtrl as well.
 ///
 /// @code
 /// wxColour line = *wxBLUE;
@@ -19,16 +19,17 @@ class wxColour;
 ///     Draw(line);
 /// @endcode
 ///
-/// Every colour is valid. The toolkit's class queries take this class for a wxValidator: use dynamic_cast. A derived
-/// class overrides Clone(), or the control keeps a wxColourValidator. GUI thread only.
+/// Every colour is valid. The toolkit's class information does not distinguish this class from wxValidator: use
+/// dynamic_cast. A derived class must override Clone(); otherwise the control gets a wxColourValidator. GUI thread
+/// only.
 class FITTINGS_API wxColourValidator : public wxValidator
 {
 public:
-    /// @a colour is not owned and must outlive the validator and each control that it was set on; with a null one
+    /// @a colour is not owned and must outlive the validator and each control that it was set on. If it is null,
     /// nothing is transferred.
     explicit wxColourValidator(wxColour* colour);
 
-    /// Copies the pointer to the colour, and not the window.
+    /// Copies the pointer to the colour, but not the window.
     wxColourValidator(const wxColourValidator& other);
 
     ~wxColourValidator() override;
@@ -39,16 +40,16 @@ public:
     /// Returns true. @a parent is not used.
     bool Validate(wxWindow* parent) override;
 
-    /// Shows the host's colour in the control, which sends no event. False, and nothing changes, for an invalid colour
-    /// and for a control of another class.
+    /// Shows the host's colour in the control, which sends no event. Returns false and changes nothing for an invalid
+    /// colour and for a control of another class.
     bool TransferToWindow() override;
 
-    /// Copies the control's colour to the host's. False, and nothing changes, for a control of another class, and for
-    /// one that has no colour.
+    /// Copies the control's colour to the host's variable. Returns false and changes nothing for a control of another
+    /// class and for one that has no colour.
     bool TransferFromWindow() override;
 
 protected:
-    wxColour* m_colour;  ///< The host's, not owned; may be null.
+    wxColour* m_colour;  ///< The host's variable, not owned; may be null.
 };
 
 #endif

@@ -8,7 +8,7 @@ namespace fittings {
 OutlineWindow::OutlineWindow(wxWindow* parent) : wxPopupWindow(parent, wxBORDER_NONE | wxFRAME_SHAPED)
 {
     SetBackgroundColour(*wxBLACK);
-    // Nothing of the window takes input.
+    // No part of the window takes input.
     cairo_region_t* const nothing = cairo_region_create();
     gtk_widget_input_shape_combine_region(GetHandle(), nothing);
     cairo_region_destroy(nothing);
@@ -16,7 +16,7 @@ OutlineWindow::OutlineWindow(wxWindow* parent) : wxPopupWindow(parent, wxBORDER_
 
 void OutlineWindow::ShowOutline(const wxRect& area, const wxRect& outline)
 {
-    // To the toolkit an empty shape is no shape: the whole area would turn black.
+    // The toolkit treats an empty shape as no shape: the whole area would turn black.
     if (outline.IsEmpty()) {
         Hide();
         return;

@@ -5,14 +5,15 @@
 
 namespace fittings {
 
-/// A black outline above all windows of the screen, one pixel wide. It lets every click through.
+/// A black outline above all windows of the screen, one pixel wide. Clicks pass through it.
 class OutlineWindow : public wxPopupWindow
 {
 public:
-    /// @a parent owns the window; it is hidden at first.
+    /// @a parent owns the window. It is hidden at first.
     explicit OutlineWindow(wxWindow* parent);
 
-    /// Shows the outline @a outline, a part of @a area, both in screen coordinates. An empty outline is none.
+    /// Shows the rectangle @a outline, a part of @a area, both in screen coordinates. An empty @a outline shows
+    /// nothing.
     void ShowOutline(const wxRect& area, const wxRect& outline);
 };
 
