@@ -1,5 +1,5 @@
-// colour_combo_probe ENDS: shows a frame with a colour combo, on whatever display there is, and prints what becomes of
-// it, for a test that sends it input. It ends after so many selections have.
+// colour_combo_probe ENDS: shows a frame with a colour combo on the current display and prints what happens to it, for
+// a test that sends it input. It exits after ENDS selections have ended.
 //
 //   display x11|wayland
 //   combo X Y WIDTH HEIGHT     in the frame's client area
@@ -11,9 +11,8 @@
 //   repaints all               all of it is
 //   change|end|cancel #RRGGBB  what the listener hears
 //   over combo                 the pointer moves over the combo
-//   dialog ACTIVE FOCUS #RRGGBB    at every change: whether the colour dialog has the input focus, the kind of widget
-//   that
-//                              has it in the dialog, and the dialog's colour
+//   dialog ACTIVE FOCUS #RRGGBB  a change of the colour dialog: whether it is active, the type of its focused
+//                              widget, and its colour
 //   value TEXT                 the combo's value at the end
 
 #include <cstdio>

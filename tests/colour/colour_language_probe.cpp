@@ -1,5 +1,5 @@
 // colour_language_probe CATALOGUES LANGUAGE: creates a colour popup in a host of that language, with a large font, and
-// prints, in UTF-8,
+// prints in UTF-8:
 //
 //   name I TEXT           the name of each colour
 //   automatic TEXT        the text of a box, and the size of its text in the popup's font
@@ -7,7 +7,7 @@
 //   more TEXT
 //   more-size W H
 //   window W H            the size of the popup
-//   hot I TEXT            the cell that becomes hot by the name of colour 16, and the combo's text and the hint then
+//   hot I TEXT            the cell that becomes hot for the name of colour 16, and the combo's text and hint then
 //   hint TEXT
 
 #include <cstdio>

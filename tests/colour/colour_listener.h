@@ -8,10 +8,10 @@
 
 #include <fittings/colour/colour_popup.h>
 
-/// The calls that ColourListener notes.
+/// The calls that ColourListener records.
 using ColourCalls = std::vector<std::string>;
 
-/// Notes each call with its colour, as "change #RRGGBB".
+/// Records each call with its colour, as "change #RRGGBB".
 class ColourListener : public wxColorPopupListener
 {
 public:
@@ -20,10 +20,10 @@ public:
     void OnColourSelEnd(const wxColour& colour) override { Note("end", &colour); }
     void OnColourSelCancel(const wxColour& colour) override { Note("cancel", &colour); }
 
-    /// Returns the calls since the last time.
+    /// Returns the calls since the last Take().
     ColourCalls Take() { return std::exchange(m_calls, {}); }
 
-    std::function<void(const std::string& call)> during;  ///< Called within each call, with its note.
+    std::function<void(const std::string& call)> during;  ///< Called within each call, with its record.
 
 private:
     void Note(std::string call, const wxColour* colour = nullptr)
@@ -32,7 +32,7 @@ private:
         m_calls.push_back(call);
         if (during)
             during(call);
-        // The colour is read after what a host may do in the call, and must then still be there.
+        // Read the colour only after the callback, to check that it still exists then.
         if (colour)
             m_calls.at(index) += " " + colour->GetAsString(wxC2S_HTML_SYNTAX).ToStdString();
     }

@@ -14,7 +14,7 @@ struct Colour
     unsigned blue;
 };
 
-// Without translations a name is its key.
+// Without translations each name equals its key.
 constexpr Colour kExpected[] = {
     {L"Black", 0, 0, 0},
     {L"Brown", 165, 42, 0},

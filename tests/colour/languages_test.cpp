@@ -1,4 +1,4 @@
-// The popup in another language. The table is built once a process, so each language has a process of its own.
+// The popup in other languages. The table is built once in a process, so each language needs its own process.
 
 #include <algorithm>
 #include <array>
@@ -14,7 +14,7 @@ namespace {
 
 using Lines = std::map<std::string, std::string>;
 
-// What the probe prints in the language, by the line's first word, or its first two for a numbered line.
+// The probe's output in that language. The key is the first word of a line, or the first two of a numbered line.
 Lines PopupIn(const std::string& language)
 {
     std::istringstream output(RunChild({COLOUR_LANGUAGE_PROBE, LIBRARY_LOCALE_DIR, language}));
@@ -48,7 +48,7 @@ void ExpectNames(const Lines& lines, const std::array<const char*, 40>& names)
         EXPECT_EQ(lines.at("name " + std::to_string(i)), names.at(i)) << i;
 }
 
-// As wide as the wider text, and two boxes as high as the higher one.
+// The width is that of the wider text. The height is that of two boxes with the higher text.
 void ExpectSizeOfTexts(const Lines& lines)
 {
     const Size automatic = SizeIn(lines, "automatic-size");
@@ -127,7 +127,7 @@ TEST(ColourLanguage, Japanese)
     ExpectSizeOfTexts(lines);
 }
 
-// English is what a language without a catalogue falls back to.
+// Without a catalogue for the language, the names are English.
 TEST(ColourLanguage, Finnish)
 {
     const Lines lines = PopupIn("fi");

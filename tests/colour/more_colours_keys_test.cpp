@@ -1,4 +1,4 @@
-// "More Colours..." as a user meets it: the real dialog, in a program of its own, that is sent keys.
+// "More Colours..." as a user opens it: the real dialog, in a separate program, operated by keys.
 
 #include <string>
 
@@ -11,7 +11,7 @@ namespace {
 class MoreColoursByKeys : public testing::Test
 {
 protected:
-    // Opens the popup and goes up from "Automatic" to "More Colours...".
+    // Opens the popup and moves up from "Automatic" to "More Colours...".
     void OpenDialog()
     {
         Xdotool({"key", kF4});

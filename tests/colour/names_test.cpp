@@ -1,4 +1,4 @@
-// How the names are looked up: by a platform of the test's own, which counts, throws and answers null.
+// The lookup of names, on a test platform that counts calls, throws and returns null.
 
 #include <array>
 #include <atomic>
@@ -37,7 +37,7 @@ const wchar_t* Translated(const wchar_t* key)
         return nullptr;
     if (text == L"Plum")
         return L"Zwetschge";
-    // Two colours by one name.
+    // Two colours have the same name.
     if (text == L"Rose" || text == L"Pink")
         return L"Rosa";
     return key;
@@ -45,10 +45,10 @@ const wchar_t* Translated(const wchar_t* key)
 
 }  // namespace
 
-// Takes the place of the platform library's.
+// Replaces the platform library's function.
 const wchar_t* lng_util_internal::DoGetResourceString(const wchar_t* key, CLanguageDomain* domain)
 {
-    // Time for another thread to come in.
+    // Let another thread run meanwhile.
     if (g_slow)
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
     const std::lock_guard lock(g_mutex);
@@ -60,7 +60,7 @@ const wchar_t* lng_util_internal::DoGetResourceString(const wchar_t* key, CLangu
 
 namespace {
 
-// The table is built once a process, so all is seen on the one way there.
+// A process builds the table only once, so the suite's setup records everything that happens on the way.
 class ColourNames : public testing::Test
 {
 protected:
@@ -113,7 +113,7 @@ TEST_F(ColourNames, AreLookedUpAgainAfterAFailure)
 {
     ASSERT_EQ(s_failed.size(), 3U);
     for (const auto& lookUps : s_failed) {
-        // Each starts from the beginning and ends at the one that throws.
+        // Each lookup starts from the beginning and ends at the name that throws.
         ASSERT_EQ(lookUps.size(), 10U);
         EXPECT_EQ(lookUps.front().key, L"Black");
         EXPECT_EQ(lookUps.back().key, L"Orange");

@@ -4,8 +4,8 @@
 #include <wx/gdicmn.h>
 #include <wx/image.h>
 
-/// What a user sees in that part of the screen, read from the X server over a connection of its own: the toolkit's own
-/// screen DC answers from a copy.
+/// Returns what the user sees in that part of the screen. Reads it from the X server over a separate connection,
+/// because the toolkit's screen DC answers from a copy.
 wxImage GrabScreen(const wxRect& rect);
 
 #endif

@@ -1,5 +1,5 @@
-// The combo on Wayland, where no program can copy the screen, place its windows or draw between paint events: in a
-// compositor that runs in a window of the X display, and gets its input from there.
+// The combo on Wayland, where no program can copy the screen, place its windows or draw between paint events. The
+// compositor runs in a window of the X display and gets its input from there.
 
 #include <algorithm>
 #include <chrono>
@@ -25,7 +25,7 @@ namespace {
 
 constexpr const char* kSocket = "wayland-of-the-test";
 
-// Where the compositor's window is on the X screen.
+// The position of the compositor's window on the X screen.
 wxPoint CompositorsPlace()
 {
     const std::unique_ptr<Display, int (*)(Display*)> display(XOpenDisplay(nullptr), XCloseDisplay);
@@ -59,7 +59,7 @@ wxPoint CompositorsPlace()
 class ColourOnWayland : public testing::Test
 {
 protected:
-    // The compositor's window is given to the one program that it has.
+    // The compositor gives its whole window to its only program.
     ColourOnWayland()
         : compositor({"weston", "--backend=x11-backend.so", "--use-pixman", "--width=900", "--height=600",
                       "--shell=kiosk-shell.so", "--no-config", "--idle-time=0", std::string("--socket=") + kSocket},
@@ -83,7 +83,7 @@ protected:
         return seen.GetRed(0, 0) << 16 | seen.GetGreen(0, 0) << 8 | seen.GetBlue(0, 0);
     }
 
-    // Where the combo is on the X screen.
+    // The position of the combo on the X screen.
     static wxRect Combo(const WatchedProbe& probe)
     {
         const std::vector<int> numbers = probe.Numbers("combo ");
@@ -93,7 +93,7 @@ protected:
                                    : wxRect();
     }
 
-    // The middle of a cell, in the popup.
+    // The middle of a cell, relative to the popup.
     static wxPoint Cell(const WatchedProbe& probe, int index)
     {
         const std::vector<int> numbers = probe.Numbers("cell " + std::to_string(index) + " ");
@@ -104,8 +104,8 @@ protected:
     // A hot cell has a dark line at its right, two pixels from its edge.
     static bool IsHot(const wxPoint& middle) { return Pixel(middle + wxPoint(7, 0)) == 0; }
 
-    // What cell 1 has repainted when it follows cell 0: the two cells and the sides of the frame, and never all of the
-    // popup but when it opens.
+    // Moving from cell 0 to cell 1 repaints the two cells and the sides of the frame. The whole popup is repainted only
+    // when it opens.
     static void ExpectLastRepaint(const WatchedProbe& probe)
     {
         const std::vector<std::string> parts = probe.Lines("repaints ");
@@ -127,12 +127,12 @@ protected:
         EXPECT_EQ(part(last + 3), wxRect(0, height - 3, 148, 3));
         EXPECT_EQ(part(last + 4), wxRect(0, 0, 3, height));
         EXPECT_EQ(part(last + 5), wxRect(145, 0, 3, height));
-        // The first one was of "More Colours...", down to the end.
+        // The first repaint was of "More Colours..." and reaches the bottom.
         EXPECT_EQ(part(1).GetBottom(), height - 1);
     }
 
-    // Moves the pointer to a place until a program has heard of it. The compositor believes the pointer's place only
-    // when it comes into its window, and does not always tell of a single move.
+    // Moves the pointer to a place until the program reports it. The compositor trusts the pointer's position only when
+    // the pointer enters its window, and does not always report a single move.
     static void Move(const wxPoint& at, const std::function<bool()>& done)
     {
         const auto deadline = std::chrono::steady_clock::now() + Patience() * std::chrono::seconds(15);
@@ -157,7 +157,7 @@ TEST_F(ColourOnWayland, IsUsedByKeyboard)
     Xdotool({"key", kF4});
     ASSERT_TRUE(probe.Waits("popup "));
     EXPECT_EQ(probe.Lines("opens "), std::vector<std::string>{"at once"});
-    // Down leads to "More Colours...", "Automatic" and the first cell.
+    // The three keys move to "More Colours...", "Automatic" and the first cell.
     Xdotool({"key", "Down", "Down", "Down"});
     ASSERT_TRUE(probe.Waits("change ", 3));
     const wxPoint first = combo.GetBottomLeft() + wxPoint(0, 1) + Cell(probe, 0);

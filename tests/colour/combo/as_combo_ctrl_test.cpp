@@ -1,4 +1,4 @@
-// What users of the toolkit's combo control know of it holds for the colour combo, with or without a text field.
+// The colour combo behaves as the toolkit's combo control does, with or without a text field.
 
 #include <functional>
 #include <string>
@@ -20,7 +20,7 @@ namespace {
 
 using Notes = std::vector<std::string>;
 
-// Notes the control's events and the calls of its popup's listener in the order in which they come.
+// Records the control's events and its listener's calls in their order.
 class ComboLog
 {
 public:
@@ -137,14 +137,14 @@ TEST_P(AsComboCtrl, TellsOnceThatItOpensAndThatItIsDismissed)
     combo.Popup();
     EXPECT_TRUE(combo.IsPopupShown());
     EXPECT_EQ(log.Take(), (Notes{"dropdown", "popup"}));
-    Open();  // Is open already.
+    Open();  // It is open already.
     EXPECT_EQ(log.Take(), Notes());
     ClickButton();
     ExpectClosed();
     EXPECT_EQ(log.Take().back(), "closeup");
 }
 
-// The popup closes itself without the event; the listener is who hears of it.
+// When the popup closes itself, only the listener hears of it; no event is sent.
 TEST_P(AsComboCtrl, TellsTheListenerAloneThatThePopupClosedItself)
 {
     for (const int key : {int(WXK_RETURN), int(WXK_SPACE), int(WXK_ESCAPE)}) {
@@ -195,7 +195,7 @@ TEST_P(AsComboCtrl, DoesNotTellOfTheNameOfAColourThatIsNotChosen)
     EXPECT_EQ(on.popup->GetStringValue(), "Red");
     Press(WXK_ESCAPE);
     ExpectClosed();
-    // As the toolkit's own popups do, it hands back the value it was opened with.
+    // Like the toolkit's own popups, it returns the value it was opened with.
     EXPECT_EQ(log.Take(),
               hasField ? (Notes{"dropdown", "popup", "cancel", "text Lime"}) : (Notes{"dropdown", "popup", "cancel"}));
     EXPECT_EQ(combo.GetValue(), "Lime");

@@ -52,7 +52,7 @@ TEST(ColourOutline, GrowsFromTheMiddle)
                                                 {200, wxRect(100, 200, 148, 162)}});
 }
 
-// Each half is truncated for itself.
+// Each half is truncated separately.
 TEST(ColourOutline, HasItsMiddleInWholePixels)
 {
     ExpectOutlines(wxRect(11, 21, 149, 95),
@@ -87,7 +87,7 @@ TEST(ColourOutline, IsNoneInAnEmptyPlace)
 class ColourAnimation : public testing::Test
 {
 protected:
-    // The animation lasts until a test says otherwise, however slow the machine is.
+    // The animation runs until a test ends it, however slow the machine is.
     ColourAnimation()
     {
         EXPECT_EQ(on.combo->m_animDuration, 200);
@@ -101,7 +101,7 @@ protected:
         EXPECT_TRUE(PumpUntil([&] { return on.combo->IsPopupShown(); }));
     }
 
-    // Lets the animation stand still at half its time, at which the outline is at (37, 41) and 74 pixels wide, 81 high.
+    // Stops the animation at half of its time. The outline is then at (37, 41) and 74 x 81 pixels.
     void StandStill() { on.combo->m_animStart = wxGetLocalTimeMillis() - 1000500; }
 
     void Step()
@@ -165,7 +165,7 @@ TEST_F(ColourAnimation, TakesItsFirstStepAtOnce)
     on.combo->Dismiss();
 }
 
-// Each time anew, whatever others have drawn there since the last time.
+// Each animation takes a new copy, even if another program has drawn there since the last one.
 TEST_F(ColourAnimation, CopiesTheScreenWhereThePopupWillBe)
 {
     auto* const below = new wxWindow(on.panel, wxID_ANY, wxPoint(20, 100), wxSize(400, 250));
@@ -182,7 +182,7 @@ TEST_F(ColourAnimation, CopiesTheScreenWhereThePopupWillBe)
         EXPECT_EQ(std::memcmp(copy.GetData(), seen.GetData(), std::size_t(3) * rect.width * rect.height), 0);
         ExpectShown();
         on.combo->Dismiss();
-        // To a place where nothing has been drawn in the course of it.
+        // Move to a place where the animation has not drawn.
         on.combo->Move(wxPoint(250, 60));
     }
 }
@@ -280,7 +280,7 @@ TEST_F(ColourAnimation, LetsClicksThrough)
     on.combo->Dismiss();
 }
 
-// The screen's own picture shows where no window is: there the earlier outline is wiped out by what was there before.
+// Where no window covers the screen, the old outline is removed by restoring what was there before.
 class ColourAnimationOnTheScreen : public ColourAnimation
 {
 protected:
@@ -292,7 +292,7 @@ protected:
 
     ColourAnimationOnTheScreen()
     {
-        // The combo has made no outline window yet, and so the screen itself is seen.
+        // The combo has no outline window yet, so the outline is drawn on the screen itself.
         combo = new SteppedCombo;
         combo->Create(on.panel, wxID_ANY, "", wxPoint(20, 200), wxSize(150, -1), wxCB_READONLY);
         combo->SetPopupControl(new OpenPopup);
@@ -396,7 +396,7 @@ TEST_F(ColourAnimation, EndsAtTheNextStepWhenThePopupIsClosedAndShowsItAllTheSam
     EXPECT_EQ(on.combo->GetValue(), "");
 }
 
-// A clock that is set back must not hold the popup up until the time comes again.
+// Setting the clock back must not delay the popup.
 TEST_F(ColourAnimation, StartsAnewWhenTheClockIsSetBack)
 {
     on.combo->Popup();
@@ -408,7 +408,7 @@ TEST_F(ColourAnimation, StartsAnewWhenTheClockIsSetBack)
     on.combo->Dismiss();
 }
 
-// The time is counted in 32 bits.
+// The time is stored in 32 bits.
 TEST_F(ColourAnimation, CountsItsTimeModulo32Bits)
 {
     on.combo->Popup();
@@ -444,7 +444,7 @@ TEST_F(ColourAnimation, WorksAtAndBeyondTheScreensEdge)
     }
 }
 
-// A timer of the host's that has the combo for its owner shows no popup.
+// A host's own timer whose owner is the combo does not open the popup.
 TEST_F(ColourAnimation, IsNotStartedByAnotherTimer)
 {
     int ticks = 0;
@@ -474,7 +474,7 @@ TEST_F(ColourAnimation, IsNotGoneThroughAgainByAnotherTimer)
     EXPECT_EQ(on.combo->shown.size(), shown);
 }
 
-// A host may handle the ticks of its own timers and skip none.
+// A host may handle timer events without skipping them.
 TEST_F(ColourAnimation, EndsWhateverTheHostBinds)
 {
     int ticks = 0;

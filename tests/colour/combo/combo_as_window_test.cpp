@@ -1,4 +1,4 @@
-// What users of the toolkit's combo control know of it as a window among others holds for the colour combo.
+// The colour combo behaves among other windows as the toolkit's combo control does.
 
 #include <string>
 
@@ -35,7 +35,7 @@ TEST(ColourComboCreate, TakesAllThatTheToolkitsTakes)
     PumpPending();
 }
 
-// Neither class has a record of its own: the toolkit takes every combo control, and every window, for one.
+// Neither class has class information of its own: the toolkit sees a wxComboCtrl and a wxWindow.
 TEST(ColourComboClass, IsTheToolkits)
 {
     const ComboOnScreen<> on;
@@ -48,7 +48,7 @@ TEST(ColourComboClass, IsTheToolkits)
 
 }  // namespace
 
-// A host's class, which the toolkit knows by its name.
+// A host's class that is registered with the toolkit by name.
 class RecordedCombo : public wxColourCombo
 {
     wxDECLARE_DYNAMIC_CLASS(RecordedCombo);
@@ -70,7 +70,7 @@ TEST(ColourComboClass, MayBeTheHosts)
     EXPECT_FALSE(on.combo->IsKindOf(wxCLASSINFO(RecordedCombo)));
 }
 
-// The toolkit's combo control and the colour combo, with a popup each.
+// The toolkit's combo control and the colour combo, each with a popup.
 class BesideTheToolkits : public testing::TestWithParam<long>
 {
 protected:
@@ -116,7 +116,7 @@ TEST_P(BesideTheToolkits, KeepsColoursAndFont)
         EXPECT_EQ(combo->GetBackgroundColour(), *wxYELLOW);
         EXPECT_EQ(combo->GetFont(), font);
     }
-    // They are the control's, not the popup's.
+    // The colours belong to the control, not to the popup.
     EXPECT_NE(on.popup->GetBackgroundColour(), *wxYELLOW);
     on.combo->EnablePopupAnimation(false);
     on.combo->Popup();
@@ -183,7 +183,7 @@ TEST_P(BesideTheToolkits, OpensAgainAfterBeingFrozen)
     EXPECT_EQ(on.combo->GetValue(), "Red");
 }
 
-// The popup is as large as its cells, whatever the host would like.
+// The popup is as large as its cells; the host's sizes do not change it.
 TEST_P(BesideTheToolkits, HasAPopupOfItsOwnSize)
 {
     on.combo->SetPopupMinWidth(400);

@@ -1,4 +1,4 @@
-// The control in a dialog, whose buttons have keys of their own.
+// The control in a dialog whose buttons react to the same keys.
 
 #include <string>
 #include <vector>

@@ -1,4 +1,4 @@
-// The control in a window on the screen, used by mouse and keyboard.
+// The control in a window on the screen, operated by mouse and keyboard.
 
 #include <string>
 #include <vector>
@@ -17,7 +17,7 @@
 
 namespace {
 
-// A button, the combo and another button, in the order of Tab.
+// A button, the combo and another button, in tab order.
 class ColourComboInUse : public testing::Test
 {
 protected:
@@ -45,7 +45,7 @@ protected:
 
     void Press(int key, int modifiers = 0) { m_user.Char(key, modifiers); }
 
-    // On the combo's button.
+    // Clicks the combo's button.
     void ClickButton()
     {
         PointTo(combo->ClientToScreen(wxPoint(combo->GetClientSize().x - 10, combo->GetClientSize().y / 2)));
@@ -70,7 +70,7 @@ protected:
     void ExpectShown()
     {
         EXPECT_TRUE(PumpUntil([&] { return combo->IsPopupShown(); })) << "the popup is not shown";
-        // The button that opened it is let go before the popup heeds the mouse.
+        // Let the release of the mouse button be handled before the popup reacts to the mouse.
         PumpPending();
     }
 
@@ -155,7 +155,7 @@ TEST_F(ColourComboInUse, IsCancelledByAClickOutside)
 
 TEST_F(ColourComboInUse, IsClosedByAClickOnItsButton)
 {
-    // A second click there could count as a double one.
+    // Open it by key: a second click on the button could count as a double click.
     combo->SetFocus();
     Press(WXK_F4);
     ExpectShown();
@@ -173,7 +173,7 @@ TEST_F(ColourComboInUse, ChoosesTheHotCellByAClickBetweenTheCells)
     ExpectShown();
     PointToCell(16);
     ExpectCalls({"popup", "change #FF0000"});
-    // In the margin at the popup's left edge, below the grid.
+    // A point in the margin at the popup's left edge, below the grid.
     wxRect more;
     popup->GetCellRect(CELL_MORE_COLOURS, more);
     PointTo(popup->ClientToScreen(wxPoint(1, more.y + 10)));
@@ -229,7 +229,7 @@ TEST_P(ColourComboByKeys, IsReachedByTheMnemonicOfItsLabel)
     EXPECT_TRUE(PumpUntil([&] { return before->HasFocus(); }));
     Press('L', wxMOD_ALT);
     EXPECT_TRUE(PumpUntil([&] { return HasFocus(); }));
-    // The toolkit leads the label to the control itself then.
+    // In this order the toolkit gives the focus to the control itself.
     after->MoveBeforeInTabOrder(before);
     after->SetFocus();
     EXPECT_TRUE(PumpUntil([&] { return after->HasFocus(); }));
@@ -253,7 +253,7 @@ TEST_P(ColourComboByKeys, OpensByF4AndGivesTheColourOfReturn)
     EXPECT_EQ(combo->GetValue(), "Grey - 40");
 }
 
-// The pointer may be over another cell then.
+// The pointer may be over another cell when the popup opens again.
 TEST_P(ColourComboByKeys, ForgetsTheNameAtThePointerWhenItOpensAgain)
 {
     PointTo(frame->GetScreenRect().GetTopRight() + wxPoint(50, 0));
@@ -322,7 +322,7 @@ INSTANTIATE_TEST_SUITE_P(, ColourComboByKeys, testing::Values(wxCB_READONLY, 0),
     return std::string(info.param == wxCB_READONLY ? "ReadOnly" : "WithText");
 });
 
-// The face is all colour, and so the button is where the focus is seen.
+// The face is filled with the colour, so the focus is shown on the button.
 TEST_F(ColourComboInUse, ShowsOnItsButtonThatItHasTheFocus)
 {
     const wxSize size = combo->GetClientSize();

@@ -1,4 +1,4 @@
-// What a host may do to the control and its popup at unusual moments.
+// The host may destroy, change or close the control and its popup at unusual moments.
 
 #include <functional>
 #include <memory>
@@ -23,7 +23,7 @@ void Press(wxWindow& window, int key)
     window.ProcessWindowEvent(event);
 }
 
-// Owned by its parent alone, which a test may destroy.
+// The parent owns the control. A test may destroy it.
 struct Control
 {
     explicit Control(bool animated = false)
@@ -71,8 +71,8 @@ struct Moment
     const char* name;
     const char* call;
     std::function<void(Control&)> act;
-    ColourCalls calls;  // All of them: a selection that has not ended is cancelled when the control goes.
-    bool inTheToolkit;  // The toolkit goes on with the control after the call.
+    ColourCalls calls;  // all calls; if the selection has not ended, destroying the control cancels it
+    bool inTheToolkit;  // the toolkit still uses the control after the call
 };
 
 const Removal kRemovals[] = {
@@ -130,7 +130,7 @@ std::vector<std::pair<Removal, Moment>> RemovalsInCalls()
     std::vector<std::pair<Removal, Moment>> all;
     for (const Removal& removal : kRemovals) {
         for (const Moment& moment : kMoments) {
-            // No window may be deleted within one of its own events.
+            // A window must not be deleted within one of its own events.
             if (!removal.atOnce || !moment.inTheToolkit)
                 all.emplace_back(removal, moment);
         }
@@ -209,7 +209,7 @@ TEST(ColourListenerInItsCalls, MayChooseAnotherColour)
     EXPECT_EQ(control.popup->m_crInitialColour, *wxGREEN);
 }
 
-// No other cell becomes hot by it, and the name of the colour has the last word.
+// The new value makes no other cell hot, and the combo ends with the name of the chosen colour.
 TEST(ColourListenerInItsCalls, MaySetTheValueOfTheCombo)
 {
     Control control;
@@ -264,7 +264,7 @@ TEST(ColourListenerInItsCalls, MayCloseThePopup)
     EXPECT_EQ(control.listener.Take(), (ColourCalls{"popup", "cancel #FF0000"}));
 }
 
-// Then the popup is closed by the listener, not by itself, and the name of the hot cell must not stay all the same.
+// Here the listener closes the popup. The combo must still lose the name of the hot cell.
 TEST(ColourListenerInItsCalls, MayCloseThePopupOfACancelledSelection)
 {
     Control control;
@@ -281,7 +281,7 @@ TEST(ColourListenerInItsCalls, MayCloseThePopupOfACancelledSelection)
     EXPECT_EQ(control.combo->GetValue(), "Teal");
 }
 
-// A host that closes its editor when the selection is cancelled also gets that call when it closes the editor itself.
+// A host that destroys its editor on "cancel" also gets this call while it destroys the editor itself.
 TEST(ColourListenerInItsCalls, MayDestroyWhatIsBeingDestroyed)
 {
     for (const bool deleted : {true, false}) {
@@ -350,7 +350,7 @@ TEST(ColourComboDestroy, HidesItAtOnce)
     EXPECT_FALSE(control.combo);
 }
 
-// The last step of the animation may come between the call and the time when the windows really go.
+// The last step of the animation may come between Destroy() and the deletion of the windows.
 TEST(ColourComboDestroy, KeepsThePopupFromBeingShown)
 {
     for (const bool withFrame : {false, true}) {

@@ -14,7 +14,8 @@
 #include <tests/colour/popup/open_popup.h>
 #include <tests/support/gui.h>
 
-/// A combo whose animation can be seen and set. It notes each call to show its popup, as "x;y;width;height flags".
+/// A combo whose animation a test can read and set. It records each call that shows its popup, as "x;y;width;height
+/// flags".
 class OpenCombo : public wxColourCombo
 {
 public:
@@ -51,19 +52,19 @@ public:
     int refreshes = 0;
 };
 
-/// Opens a combo's popup as its button does; false when it is not shown before long.
+/// Opens a combo's popup as its button does. Returns false if it is not shown in time.
 inline bool Opens(wxComboCtrl& combo)
 {
     combo.Popup();
     return PumpUntil([&] { return combo.IsPopupShown(); });
 }
 
-/// A frame with a combo of the given class and its popup, all gone when the object is.
+/// A frame with a combo of the given class and its popup. The destructor destroys all three.
 template <typename Combo = OpenCombo, typename Popup = OpenPopup>
 class ComboOnScreen
 {
 public:
-    /// @a prepare sees the popup before the combo takes it over.
+    /// @a prepare gets the popup before the combo owns it.
     explicit ComboOnScreen(long style = wxCB_READONLY, const std::function<void(Popup&)>& prepare = {})
         : frame(new wxFrame(nullptr, wxID_ANY, "combo", wxPoint(200, 150), wxSize(500, 400))),
           panel(new wxPanel(frame)), combo(new Combo), popup(new Popup)

@@ -1,4 +1,4 @@
-// Clicks while the popup opens: as long as the animation runs, no popup is there that could hold the pointer.
+// Clicks while the popup opens: during the animation no popup exists yet that could grab the pointer.
 
 #include <string>
 #include <utility>
@@ -47,7 +47,7 @@ protected:
 
     void TearDown() override
     {
-        // The listener goes before the popup does.
+        // The listener is destroyed before the popup.
         if (popup)
             popup->SetColorListener(nullptr);
     }
@@ -112,7 +112,7 @@ TEST_P(ColourComboOpening, IsDismissedByAClickOutside)
     EXPECT_TRUE(PumpUntil([&] { return HasFocus(); }));
 }
 
-// As with an open popup, which holds the pointer: the click is not the button's.
+// The click does not reach the button, as with an open popup, which grabs the pointer.
 TEST_P(ColourComboOpening, IsDismissedByAClickOnAButton)
 {
     int presses = 0;
@@ -128,7 +128,7 @@ TEST_P(ColourComboOpening, IsDismissedByAClickOnAButton)
 TEST_P(ColourComboOpening, IsDismissedByAClickInItsTextFieldWhichKeepsTheFocus)
 {
     if (GetParam() == wxCB_READONLY) {
-        // The face is the control itself: a click there opens it, and another one does nothing more.
+        // The face is the control itself. The first click opens the popup, and a second one has no effect.
         Click(combo.ClientToScreen(wxPoint(20, combo.GetClientSize().y / 2)));
         PumpPending();
         EXPECT_TRUE(combo.m_animTimer.IsRunning());
@@ -289,7 +289,7 @@ protected:
 
     void TearDown() override
     {
-        // The listener goes before the popup does.
+        // The listener is destroyed before the popup.
         if (popup)
             popup->SetColorListener(nullptr);
     }
@@ -300,7 +300,7 @@ protected:
         return focus && (focus == on.combo || focus->GetParent() == on.combo);
     }
 
-    // Each key is handled when the last one, which tells of itself, is.
+    // Waits until the key is handled, so that the next one comes after it.
     void Press(int key)
     {
         int seen = 0;
@@ -409,7 +409,7 @@ TEST_P(ClosedReadOnlyCombo, GoesOnFromTheColourInEffectAfterACancel)
     EXPECT_EQ(on.popup->m_nChosenColourSel, 19);
 }
 
-// A page is scrolled over a combo that does not have the focus.
+// The wheel then scrolls the page, because the combo does not have the focus.
 TEST_P(ClosedReadOnlyCombo, ChangesItsColourByTheWheelWithTheFocusAlone)
 {
     on.popup->SetColour(wxColour(0, 0, 0));

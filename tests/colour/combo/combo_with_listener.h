@@ -6,8 +6,7 @@
 #include <tests/colour/colour_listener.h>
 #include <tests/colour/combo/combo_on_screen.h>
 
-/// A combo on the screen that shows a colour, and whose popup opens without animation. Its listener has heard nothing
-/// yet.
+/// A combo on the screen that shows a colour. Its popup opens without animation, and its listener has no calls yet.
 class ComboWithListener
 {
 protected:

@@ -1,4 +1,4 @@
-// The control that makes its own popup: construction, the colour that the host sets, and the events.
+// The control that makes its own popup: construction, the colour that the host sets, and events.
 
 #include <algorithm>
 #include <functional>
@@ -35,7 +35,7 @@ wxFrame* MakeFrame()
     return new wxFrame(nullptr, wxID_ANY, "combo", wxPoint(200, 150), wxSize(500, 400));
 }
 
-// A combo of one step in a window on the screen, and the events that the window hears.
+// A combo made in one step, in a window on the screen, and the events that the window receives.
 struct OneStep
 {
     explicit OneStep(const wxColour& colour = *wxBLUE, long style = wxCB_READONLY)
@@ -62,7 +62,7 @@ struct OneStep
         return seen.GetRed(0, 0) << 16 | seen.GetGreen(0, 0) << 8 | seen.GetBlue(0, 0);
     }
 
-    // The popup is of the library's own class; a derived one may name its members.
+    // The popup is of the library's own class. A derived class can read its members.
     int Chosen() const
     {
         struct Seen : wxColourPopup
@@ -81,7 +81,7 @@ struct OneStep
                 notes.push_back(name + Html(event.GetColour()));
             };
         };
-        // As a host does that has several controls.
+        // Bind to the frame, as a host with several controls does.
         frame->Bind(wxEVT_COLOURPICKER_CURRENT_CHANGED, note("current "));
         frame->Bind(wxEVT_COLOURPICKER_CHANGED, note("changed "));
         frame->Bind(wxEVT_COLOURPICKER_DIALOG_CANCELLED, note("cancelled "));
@@ -176,7 +176,7 @@ TEST(ColourComboInOneStep, MayBeCreatedLater)
     PumpPending();
 }
 
-// What compiled before there was a Create() with a colour is the toolkit's.
+// Calls that compiled before Create() with a colour existed still call the toolkit's Create().
 TEST(ColourComboInOneStep, LeavesTheOldCreateAsItIs)
 {
     wxFrame* const frame = MakeFrame();
@@ -379,7 +379,7 @@ TEST(ColourComboEvents, ComeBesideTheListenersCalls)
     on.combo->GetPopup()->SetColorListener(nullptr);
 }
 
-// What the program sets is no choice of the user's.
+// A value that the program sets is not the user's choice.
 TEST(ColourComboEvents, DoNotComeForValuesThatAreSetWhileThePopupIsClosed)
 {
     OneStep on(*wxBLUE);

@@ -1,4 +1,4 @@
-// The last thing seen of the outline: its window is gone before the background is drawn back.
+// The end of the outline: its window is hidden before the background is restored.
 
 #include <vector>
 
@@ -18,7 +18,7 @@ constexpr int kLong = 2000000;
 
 const wxWindow* g_outline = nullptr;
 
-/// Whether the outline window was shown, at each drawing of a picture on the screen itself.
+/// Whether the outline window was shown, for each time that a picture was drawn on the screen itself.
 std::vector<bool> g_wasShown;
 
 bool DrawsOnTheScreen(cairo_t* context)
@@ -30,7 +30,7 @@ bool DrawsOnTheScreen(cairo_t* context)
 
 }  // namespace
 
-// In place of cairo's, which does the same.
+// Replaces cairo's function and calls it.
 void cairo_paint(cairo_t* context)
 {
     static const auto original = ReplacedFunction<decltype(cairo_paint)>("cairo_paint");

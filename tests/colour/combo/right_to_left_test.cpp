@@ -1,4 +1,4 @@
-// The control in a program whose language is read from right to left: what is chosen is what was seen at that place.
+// The control in a right-to-left program: a click chooses the colour that is shown at that place.
 
 #include <vector>
 
@@ -18,7 +18,7 @@ void PointTo(const wxPoint& place)
     EXPECT_TRUE(PumpUntil([&] { return wxGetMousePosition() == place; }));
 }
 
-/// A place of @a colour on the screen, well inside of what has it.
+/// A point of the screen inside an area of @a colour.
 wxPoint PlaceOf(const wxColour& colour)
 {
     const wxRect where(wxGetDisplaySize());
@@ -58,7 +58,7 @@ TEST(RightToLeft, TheColourClickedIsTheOneSeenThere)
         wxUIActionSimulator().MouseClick();
         EXPECT_TRUE(PumpUntil([&] { return !screen.combo->IsPopupShown(); }));
         EXPECT_EQ(screen.combo->GetValue(), GetColourName(index));
-        // And it is seen on the face.
+        // The face shows it, too.
         PointTo(wxPoint(5, 5));
         EXPECT_NE(PlaceOf(colour), wxDefaultPosition);
     }

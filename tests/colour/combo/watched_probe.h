@@ -13,7 +13,7 @@
 #include <tests/support/process/child_process.h>
 #include <tests/support/xdotool.h>
 
-/// colour_combo_probe at work.
+/// A running colour_combo_probe and the lines that it prints.
 class WatchedProbe
 {
 public:
@@ -23,7 +23,7 @@ public:
         EXPECT_TRUE(Waits("combo ")) << "does not start";
     }
 
-    /// Waits for a line with that beginning, @a count of them at least.
+    /// Waits for at least @a count lines that begin with @a start.
     bool Waits(const std::string& start, int count = 1)
     {
         const bool came = Becomes([&] { return !m_child.IsRunning() || Lines(start).size() >= std::size_t(count); }) &&
@@ -33,7 +33,7 @@ public:
         return came;
     }
 
-    /// What follows the beginning in all such lines.
+    /// The rest of each line that begins with @a start.
     std::vector<std::string> Lines(const std::string& start) const
     {
         std::istringstream output(m_child.Output());
@@ -45,7 +45,7 @@ public:
         return lines;
     }
 
-    /// The numbers in the last such line.
+    /// The numbers in the last line that begins with @a start.
     std::vector<int> Numbers(const std::string& start) const
     {
         std::vector<int> numbers;
@@ -56,7 +56,7 @@ public:
         return numbers;
     }
 
-    /// Waits for its end, and expects it to be a good one.
+    /// Waits for the program to end, and expects success.
     void ExpectEnd()
     {
         EXPECT_TRUE(m_child.WaitForEnd()) << m_child.Output();

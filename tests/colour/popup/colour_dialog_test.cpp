@@ -1,4 +1,4 @@
-// "More Colours...": the toolkit's colour dialog, answered by a hook.
+// "More Colours..." opens the toolkit's colour dialog, which a hook answers.
 
 #include <functional>
 #include <string>
@@ -22,7 +22,7 @@ std::vector<int> g_centred;
 
 }  // namespace
 
-// Takes the place of the toolkit's, which leaves the place of a dialog of GTK's own to the window manager.
+// Replaces the toolkit's function, which leaves the position of a native GTK dialog to the window manager.
 void wxTopLevelWindowBase::DoCentre(int directions)
 {
     if (dynamic_cast<wxColourDialog*>(this))
@@ -31,7 +31,7 @@ void wxTopLevelWindowBase::DoCentre(int directions)
 
 namespace {
 
-// Answers the colour dialog, and notes what it was opened with.
+// Answers the colour dialog, and records the data that it opens with.
 class Answer : public wxModalDialogHook
 {
 public:
@@ -43,7 +43,7 @@ public:
     wxColour proposed;
     bool full = false;
     wxWindow* parent = nullptr;
-    std::vector<int> centred;  ///< How the dialog has been centred until it opens.
+    std::vector<int> centred;  ///< The directions of each centring before the dialog opens.
 
 protected:
     int Enter(wxDialog* shown) override
@@ -59,7 +59,7 @@ protected:
             during();
         if (duringDialog)
             duringDialog(dialog->GetHandle());
-        // The dialog reads the widget after this.
+        // The dialog reads its colour from the widget afterwards.
         const GdkRGBA rgba{m_colour.Red() / 255.0, m_colour.Green() / 255.0, m_colour.Blue() / 255.0, 1};
         G_GNUC_BEGIN_IGNORE_DEPRECATIONS
         auto* const selection =
@@ -114,7 +114,7 @@ TEST_F(MoreColours, GivesTheColourOfTheDialog)
     EXPECT_EQ(on.combo->hidden.size(), 1u) << "the popup that is hidden is not hidden again";
 }
 
-// The listener hears of the colour in effect as chosen then; the event says what the user did.
+// After a cancelled dialog the listener hears that the current colour is chosen; the event reports the cancel.
 TEST_F(MoreColours, SendsAnEventOfItsCancelAndNoneOfAChoice)
 {
     const Answer answer(wxID_CANCEL, wxColour(10, 200, 30));
@@ -137,7 +137,7 @@ TEST_F(MoreColours, SendsAnEventOfItsCancelAndNoneOfAChoice)
     EXPECT_EQ(events, std::vector<std::string>{"changed #FF0000"}) << "the cancel before is forgotten";
 }
 
-// A cancelled dialog chooses the colour in effect.
+// A cancelled dialog chooses the current colour.
 TEST_F(MoreColours, KeepsTheColourInEffectWhenTheDialogIsCancelled)
 {
     Answer answer(wxID_CANCEL, wxColour(10, 200, 30));

@@ -1,4 +1,4 @@
-// What is drawn, call by call, with the colours of a theme of the tests' own.
+// What the popup draws, call by call, with the colours of a test theme.
 
 #include <optional>
 #include <utility>
@@ -23,7 +23,7 @@ protected:
         popup->m_nChosenColourSel = CELL_NONE;
     }
 
-    // Gives the popup boxes whose numbers are all different.
+    // Gives the popup boxes with distinct coordinates and sizes.
     void AddBoxes()
     {
         popup->m_strAutomatic = "Auto";
@@ -143,7 +143,7 @@ TEST_F(ColourDrawing, OfNoCellIsNothing)
     EXPECT_EQ(DrawnCell(-4), Calls{});
 }
 
-// Its rectangle is that of the last layout, as long as nobody lays out again.
+// Until the next layout its rectangle stays the old one.
 TEST_F(ColourDrawing, OfABoxWithoutTextIsThatOfACell)
 {
     popup->m_rectMoreColours = wxRect(10, 20, 30, 40);
@@ -157,7 +157,7 @@ TEST_F(ColourDrawing, OfABoxWithoutTextIsThatOfACell)
 TEST_F(ColourDrawing, OfMoreColoursIsASeparatorAndAText)
 {
     AddBoxes();
-    // Both remainders are odd: a half is dropped.
+    // Both sizes leave an odd remainder; its half is rounded down.
     dc.Record().textSize = wxSize(60, 10);
     EXPECT_EQ(DrawnCell(CELL_MORE_COLOURS), (Calls{
                                                 "rect 4,134 141x37 FACE FACE",
@@ -318,7 +318,7 @@ TEST_F(ColourDrawing, OfAutomaticFollowsTheMargin)
     EXPECT_EQ(popup->m_nMargin, 6);
 }
 
-// The remainder of a division by three and of one by two is dropped.
+// Divisions by three and by two round down.
 TEST_F(ColourDrawing, OfTheAutomaticColourIsCentredInTheLeftSquare)
 {
     AddBoxes();
@@ -330,7 +330,7 @@ TEST_F(ColourDrawing, OfTheAutomaticColourIsCentredInTheLeftSquare)
     EXPECT_EQ(DrawnCell(CELL_AUTOMATIC).back(), "rect 12,13 9x9 SHADOW #040506");
 }
 
-// Halves are cut toward zero, whichever side the text stands out on.
+// Halves round toward zero, also when the text is larger than the box.
 TEST_F(ColourDrawing, OfATextLargerThanItsBoxStandsOutOnBothSides)
 {
     AddBoxes();
@@ -399,7 +399,7 @@ TEST_F(ColourDrawing, OfTheFrameIsRaised)
                                  }));
 }
 
-// Nothing is kept from one drawing to the next.
+// The popup caches nothing between two drawings.
 TEST_F(ColourDrawing, FollowsTheThemeAtOnce)
 {
     AddBoxes();

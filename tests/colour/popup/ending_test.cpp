@@ -1,4 +1,4 @@
-// How a selection ends, what the listener hears of it, and what the combo is left with.
+// How a selection ends, which calls the listener gets, and what the combo shows afterwards.
 
 #include <cstddef>
 #include <cstring>
@@ -162,7 +162,7 @@ TEST_F(ColourEnding, TellsTheListenerBeforeThePopupCloses)
     EXPECT_GT(on.combo->refreshes, 0);
 }
 
-// Whoever ends a selection while the popup is not shown gets the combo redrawn, and nothing hidden.
+// Ending a selection while the popup is not shown redraws the combo and hides nothing.
 TEST_F(ColourEnding, RefreshesTheComboOfAHiddenPopup)
 {
     for (const bool ok : {true, false}) {
@@ -227,13 +227,13 @@ TEST_F(ColourEnding, LeavesTheColourOfTheHotCellToAPopupWithoutListener)
     on.popup->m_crColour = *wxRED;
     on.popup->OnDismiss();
     EXPECT_EQ(on.popup->m_crColour, *wxRED);
-    // It is not chosen by a plain Enter the next time all the same.
+    // A later Enter does not choose that colour.
     Open();
     on.popup->EndSelection(true);
     EXPECT_EQ(on.popup->m_crInitialColour, *wxBLUE);
 }
 
-// A value that the host sets while no popup is open is not touched by a late report of a dismissal.
+// A dismissal that is reported late does not change a value that the host has set while no popup was open.
 TEST_F(ColourEnding, LeavesAValueAloneThatWasSetAfterAChoice)
 {
     Open();
@@ -301,7 +301,7 @@ TEST_F(ColourEndingWithText, HasTheEarlierTextAfterADismissal)
     EXPECT_EQ(on.popup->m_crColour, *wxBLUE);
 }
 
-// The text is handed back when the popup opens again: Enter must not choose what was cancelled before.
+// When the popup opens again, it gets the combo's text back. Enter must not choose the colour that was cancelled.
 TEST_F(ColourEndingWithText, DoesNotChooseACancelledColourTheNextTime)
 {
     for (const bool dismissed : {false, true}) {
@@ -443,7 +443,7 @@ TEST(ColourPopupAlone, WorksWithoutAWindow)
               (ColourCalls{"change #FF0000", "end #FF0000", "change #32CD32", "cancel #FF0000", "cancel #FF0000"}));
 }
 
-// The place of a function in the table of its class's virtual functions.
+// Returns the index of a function in its class's virtual table.
 template <typename Function>
 int SlotOf(Function function)
 {

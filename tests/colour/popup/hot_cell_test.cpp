@@ -1,4 +1,4 @@
-// What a change of the hot cell does.
+// The effects of changing the hot cell.
 
 #include <functional>
 #include <vector>
@@ -36,7 +36,7 @@ TEST(ColourHotCell, BringsItsColour)
     EXPECT_EQ(popup->m_crInitialColour, *wxBLUE);
 }
 
-// The chosen cell is what the window was created with: the initial black is what "Automatic" stands for.
+// The chosen cell is still the one from creation: the initial black is the colour of "Automatic".
 TEST(ColourHotCell, IsNotTheChosenOneYet)
 {
     const PopupInFrame popup;
@@ -102,7 +102,7 @@ TEST(ColourHotCell, CanBeSetBeforeTheWindowIsCreated)
     EXPECT_EQ(popup.m_nCurrentSel, 16);
     EXPECT_EQ(popup.m_strToolTip, "Red");
     EXPECT_EQ(listener.Take(), ColourCalls{"change #FF0000"});
-    // There are no rows yet, and so no cells that a key could lead to.
+    // There are no rows yet, so no key can reach a cell.
     wxKeyEvent down(wxEVT_KEY_DOWN);
     down.m_keyCode = WXK_DOWN;
     popup.SetAutomaticText("");
@@ -188,7 +188,7 @@ TEST(ColourPreview, IsOffAtFirst)
 
 // --- What is redrawn -------------------------------------------------------------------------------------------------
 
-// The drawing on windows that is counted.
+// Counts the drawing on windows.
 struct Drawn
 {
     int rectangles = 0;
@@ -205,7 +205,7 @@ void DrawByToolkit(const char* name, wxGCDCImpl* dc, Arguments... arguments)
 
 }  // namespace
 
-// These take the place of the toolkit's.
+// These replace the toolkit's functions.
 
 void wxGCDCImpl::DoDrawRectangle(int x, int y, int width, int height)
 {
@@ -229,7 +229,7 @@ int PixelOf(const wxImage& image, int x, int y)
     return image.GetRed(x, y) << 16 | image.GetGreen(x, y) << 8 | image.GetBlue(x, y);
 }
 
-// The popup in a window on the screen, painted over, so that what is drawn from then on can be told.
+// A popup in a window on the screen. The tests paint over it, so that new drawing can be recognised.
 class HotCellOnScreen : public testing::Test
 {
 protected:
@@ -259,7 +259,7 @@ protected:
 
     bool Untouched(int x, int y) const { return Pixel(x, y) == kUntouched; }
 
-    // Whether exactly the cells' rectangles and the frame have been drawn, as far as pixels tell.
+    // Expects, as far as pixels show it, that exactly the cells' rectangles and the frame were drawn.
     void ExpectDrawn(const std::vector<wxRect>& cells) const
     {
         const wxSize size = popup->GetClientSize();
@@ -284,7 +284,7 @@ protected:
             }
         }
         EXPECT_EQ(wrong, 0);
-        // The frame: its lines are in the second and third pixels from the edge.
+        // The lines of the frame are the second and third pixels from the edge.
         EXPECT_FALSE(Untouched(1, size.y / 2));
         EXPECT_FALSE(Untouched(size.x - 2, size.y / 2));
         EXPECT_FALSE(Untouched(size.x / 2, 1));
@@ -312,7 +312,7 @@ TEST_F(HotCellOnScreen, RedrawsTheOldAndTheNewCellAndTheFrame)
     EXPECT_EQ(paints, 0);
 }
 
-// A cell is two rectangles, the hot one and the frame have eight lines each. The whole popup is 89 rectangles.
+// A cell has two rectangles; the hot cell and the frame have eight lines each. The whole popup has 89 rectangles.
 TEST_F(HotCellOnScreen, DrawsNoMoreThanTwoCellsAndTheFrame)
 {
     popup->m_nChosenColourSel = CELL_NONE;
@@ -357,7 +357,7 @@ TEST_F(HotCellOnScreen, RedrawsTheBoxes)
     PaintOver();
     popup->ChangeSelection(M);
     PumpPending();
-    // The lower box stands two margins below its rectangle; what is above the separator's two lines is not drawn.
+    // The lower box is two margins below its rectangle. The area above the two lines of the separator is not drawn.
     wxRect more = Cell(M);
     more.y += 4;
     wxRect separator(more.x + 4, Cell(M).y, more.width - 8, 2);
@@ -378,7 +378,7 @@ TEST_F(HotCellOnScreen, TakesTheHotLookFromTheOldCell)
     popup->m_nChosenColourSel = CELL_NONE;
     const wxRect rect = Cell(10);
     popup->ChangeSelection(10);
-    // A raised cell has a dark line at its right and bottom, one pixel inside its rectangle.
+    // A raised cell has a dark line at its right and bottom edge, one pixel inside its rectangle.
     const wxPoint edge(rect.GetRight() - 1, rect.y + 9);
     EXPECT_TRUE(PumpUntil([&] { return Pixel(edge.x, edge.y) == 0; }));
     popup->ChangeSelection(11);

@@ -1,4 +1,4 @@
-// Where each key leads from each cell, and what it ends.
+// For each cell and key: which cell becomes hot, and whether the selection ends.
 
 #include <ostream>
 #include <string>
@@ -16,7 +16,7 @@ constexpr int A = CELL_AUTOMATIC;
 constexpr int M = CELL_MORE_COLOURS;
 constexpr int N = CELL_NONE;
 
-// Whether the popup went on with the event.
+// Returns whether the popup skipped the event.
 bool Press(wxWindow& window, int key)
 {
     wxKeyEvent event(wxEVT_KEY_DOWN);

@@ -1,4 +1,4 @@
-// The size of the popup and where its cells are, by arithmetic.
+// The size of the popup and the rectangles of its cells, as calculated.
 
 #include <gtest/gtest.h>
 #include <wx/dcclient.h>
@@ -222,7 +222,7 @@ TEST(ColourLayout, HasTheLowerBoxAlone)
     EXPECT_EQ(popup->GetSize(), wxSize(148, text + 111));
 }
 
-// The numbers of a cell follow from the margin, and its side from the system's edge.
+// A wide edge of the system makes the margin wider and the cells larger.
 TEST(ColourLayout, GrowsWithTheMargin)
 {
     const PinnedEdge edge(6);
@@ -247,7 +247,7 @@ class ColourMargin : public testing::TestWithParam<Edge>
 {
 };
 
-// A cell keeps a colour of seven pixels.
+// A cell leaves at least seven pixels for its colour.
 TEST_P(ColourMargin, IsTheSystemsEdge)
 {
     const PinnedEdge edge(GetParam().reported);
@@ -307,7 +307,7 @@ TEST(ColourLayout, IsAsWideAsTheWiderText)
     }
 }
 
-// A line more makes a text higher.
+// Text with one more line is higher.
 TEST(ColourLayout, HasBoxesAsHighAsTheHigherText)
 {
     for (const bool upper : {true, false}) {
@@ -357,7 +357,7 @@ TEST(ColourLayout, LeavesTheRectangleOfNoCellAlone)
     }
 }
 
-// The rectangle of a box is that of the last layout.
+// The rectangle of a box is the one of the last layout.
 TEST(ColourLayout, GivesTheRectangleOfABoxWithoutText)
 {
     const PopupInFrame popup;
@@ -399,7 +399,7 @@ TEST(ColourLayout, FollowsATextSetLater)
     EXPECT_EQ(popup->GetPosition(), wxPoint(11, 12));
 }
 
-// A box that goes takes its marks along, so that the next opening marks the colour's own cell.
+// Removing a box also removes its marks, so that the next opening marks the colour's own cell.
 TEST(ColourLayout, UnmarksABoxThatGoes)
 {
     const PopupInFrame popup;

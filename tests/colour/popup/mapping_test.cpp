@@ -1,4 +1,4 @@
-// Which cell has which index, row, column, colour and name.
+// The index, row, column, colour and name of each cell.
 
 #include <gtest/gtest.h>
 
@@ -144,7 +144,7 @@ TEST(ColourIndex, IsNoneBeforeThereAreRows)
     EXPECT_EQ(popup.GetIndex(0, 0), -1);
 }
 
-// One coordinate is enough, the lower box goes first.
+// One coordinate is enough. If the two name different boxes, the lower box wins.
 TEST(ColourIndex, IsTheBoxThatEitherCoordinateNames)
 {
     const PopupInFrame popup;
@@ -170,7 +170,7 @@ TEST(ColourIndex, IsNoneBesideAPartialLastRow)
 class ChosenCell : public testing::Test
 {
 protected:
-    // The cell that is chosen for the colour after @a before was.
+    // Returns the cell that is chosen for the colour if @a before was chosen.
     int For(const wxColour& colour, int before = CELL_NONE)
     {
         popup->m_nChosenColourSel = before;
@@ -228,7 +228,7 @@ TEST_F(ChosenCell, IsThePalettesForTheDefaultColourWithoutThatBox)
     EXPECT_EQ(For(wxColour(0, 0, 0)), 0);
 }
 
-// Who chose "Automatic" finds it marked again.
+// A user who has chosen "Automatic" finds it marked again.
 TEST_F(ChosenCell, StaysAutomatic)
 {
     EXPECT_EQ(For(wxColour(255, 0, 0), -3), -3);
@@ -313,7 +313,7 @@ TEST_F(ColourByName, StaysWhatItWasForAnyOtherText)
     EXPECT_EQ(HotAfter("#FF0000"), 3);
 }
 
-// The combo hands back its text when the popup goes.
+// The combo sets its text on the popup while the popup hides.
 TEST_F(ColourByName, StaysWhatItWasWhileThePopupHidesItself)
 {
     popup->m_bInternalHide = true;
@@ -322,7 +322,7 @@ TEST_F(ColourByName, StaysWhatItWasWhileThePopupHidesItself)
     EXPECT_EQ(HotAfter("Black"), 0);
 }
 
-// What is compared are the colours of the palette, however many the popup shows.
+// The search covers the whole palette, even if the popup shows fewer colours.
 TEST_F(ColourByName, IsFoundAmongAllOfThePalette)
 {
     popup->m_nNumColours = 8;

@@ -8,7 +8,7 @@
 #include <fittings/colour/colour_popup.h>
 #include <tests/support/gui.h>
 
-/// A popup whose state can be seen and set.
+/// A popup whose state a test can read and set.
 class OpenPopup : public wxColourPopup
 {
 public:
@@ -36,11 +36,11 @@ public:
     using wxColourPopup::m_strToolTip;
 };
 
-/// A popup in a window of its own, without a combo. Both go with the object.
+/// A popup in a window, without a combo. The destructor destroys both.
 class PopupInFrame
 {
 public:
-    /// @a prepare sees the popup before its window is created.
+    /// @a prepare gets the popup before its window is created.
     explicit PopupInFrame(const std::function<void(OpenPopup&)>& prepare = {})
         : frame(new wxFrame(nullptr, wxID_ANY, "colours", wxPoint(100, 100), wxSize(300, 260))), popup(new OpenPopup)
     {
@@ -64,7 +64,7 @@ public:
     OpenPopup* popup;
 };
 
-/// Leaves out both boxes.
+/// Removes both boxes.
 inline void WithoutBoxes(OpenPopup& popup)
 {
     popup.m_strAutomatic.clear();

@@ -1,4 +1,4 @@
-// What is seen, pixel by pixel. The ends of lines and the corners are left out: the toolkit smooths them.
+// What is seen, pixel by pixel. The ends of lines and the corners are excluded, because the toolkit smooths them.
 
 #include <functional>
 #include <map>
@@ -27,8 +27,8 @@ char LetterOf(const wxColour& colour)
     return '?';
 }
 
-// The pixels of a row or column as runs of equal ones: "3. 1H 14f" are three of the background, one highlighted and so
-// on.
+// Writes the pixels of a row or column as runs of equal pixels: "3. 1H 14f" is three pixels of background, one of
+// highlight and 14 of face.
 std::string Runs(const std::function<wxColour(int)>& at, int count)
 {
     std::string runs;
@@ -59,7 +59,7 @@ protected:
         return Runs([&](int y) { return picture.At(x, y); }, height);
     }
 
-    // The middle row of a black cell of 18 pixels at (3, 3).
+    // The row crosses the middle of a black cell of 18 pixels at (3, 3).
     void DrawBlack()
     {
         wxRect rect(3, 3, 18, 18);
@@ -83,7 +83,7 @@ TEST_F(ColourPixels, OfACell)
     EXPECT_EQ(Column(12, 24), "3. 3f 1s 10# 1s 3f 3.");
 }
 
-// From the outside: face, light over dark, face over shadow, and the outline of the colour.
+// From outside to inside: face, light over dark, face over shadow, and the outline of the colour.
 TEST_F(ColourPixels, OfTheHotCell)
 {
     popup->m_nCurrentSel = 0;
@@ -92,7 +92,7 @@ TEST_F(ColourPixels, OfTheHotCell)
     EXPECT_EQ(Column(12, 24), "3. 1f 1H 1f 1s 10# 2s 1D 1f 3.");
 }
 
-// From the outside: shadow on the left and top alone, dark over light, light over face, and the outline.
+// From outside to inside: shadow on the left and top only, dark over light, light over face, and the outline.
 TEST_F(ColourPixels, OfTheChosenCell)
 {
     popup->m_nChosenColourSel = 0;
@@ -113,7 +113,7 @@ TEST_F(ColourPixels, OfTheGrid)
 {
     popup->m_nChosenColourSel = 5;
     popup->DoDrawControl(&picture.dc);
-    // Through the row of the blacks; the seven other colours have no letter.
+    // A row through the black cells. The other seven colours have no letter.
     EXPECT_EQ(Row(11), "1. 1H 3f 1s 10# 1s 6f 1s 10? 1s 6f 1s 10? 1s 6f 1s 10? 1s 6f 1s 10? 1s 3f "
                        "1s 1D 1H 1s 10? 1s 1f 2H 3f 1s 10? 1s 6f 1s 10? 1s 2f 1s 1D 1.");
     EXPECT_EQ(Column(11, 94), "1. 1H 3f 1s 10# 1s 6f 1s 10? 1s 6f 1s 10? 1s 6f 1s 10? 1s 6f 1s 10? 1s 2f 1s 1D 1.");
@@ -122,7 +122,7 @@ TEST_F(ColourPixels, OfTheGrid)
     EXPECT_EQ(picture.At(11, 29), wxColour(139, 0, 0));
 }
 
-// The text is a blank, which leaves the face as it is.
+// The text is a blank, so the box shows only its face.
 TEST_F(ColourPixels, OfTheBoxes)
 {
     popup->m_strAutomatic = " ";
@@ -131,8 +131,8 @@ TEST_F(ColourPixels, OfTheBoxes)
     popup->m_rectMoreColours = wxRect(2, 128, 145, 30);
     popup->SetSize(148, 162);
     popup->DoDrawControl(&picture.dc);
-    // Between two colours: the frame, the upper box and its line, a gap, the grid, a gap, the separator, a gap, the
-    // lower box and the frame.
+    // A column between two colours: the frame, the upper box and its line, a gap, the grid, a gap, the separator, a
+    // gap, the lower box and the frame.
     EXPECT_EQ(Column(75, 162), "1. 1H 5f 1s 18f 1s 5f 2. 90f 4. 1s 1H 2. 27f 1s 1D 1f");
     EXPECT_EQ(Row(10), "1. 1H 5f 1s 133f 1s 3f 1s 1D 1.");
     // The automatic colour is black.
@@ -164,7 +164,7 @@ TEST_F(ColourPixels, OfTheCombosFace)
 TEST(ColourWindow, ShowsItsCellsAndFrame)
 {
     const PopupInFrame popup;
-    // So that the frame does not stretch its only child.
+    // A second child keeps the frame from resizing the popup.
     new wxWindow(popup.frame, wxID_ANY);
     popup->Move(20, 20);
     ASSERT_TRUE(ShowAndSettle(popup.frame));

@@ -1,5 +1,5 @@
-// Which cell the pointer makes hot. The boxes and rows are compared with a point that is moved up and left by one
-// margin, and the margin below "Automatic" is not counted: this is how the popup has always been.
+// Which cell the pointer makes hot. The popup moves the point up and left by one margin before it searches the boxes
+// and rows, and ignores the margin below "Automatic". The popup has always done so.
 
 #include <string>
 #include <vector>
@@ -14,7 +14,7 @@ namespace {
 
 constexpr int A = CELL_AUTOMATIC;
 constexpr int M = CELL_MORE_COLOURS;
-// The hot cell before each move; one that no place in the tests below leads to.
+// The hot cell before each move. No position in the tests below is in this cell.
 constexpr int kBefore = 30;
 
 void Send(wxWindow& window, wxEventType type, int x, int y)
@@ -42,7 +42,7 @@ void ExpectCells(const PopupInFrame& popup, const std::vector<Place>& places)
     }
 }
 
-// The same layout whatever the font: margin 2, cells of 18 pixels.
+// Makes the layout independent of the font: margin 2, cells of 18 pixels.
 void SetBoxes(const PopupInFrame& popup)
 {
     popup->m_nMargin = 2;
@@ -56,7 +56,8 @@ TEST(ColourPointer, FindsTheCellsBetweenBothBoxes)
     const PopupInFrame popup;
     SetBoxes(popup);
     ExpectCells(popup, {
-                           // "Automatic", whose rectangle is (2, 2) to (146, 31), one margin lower and to the right.
+                           // "Automatic" has the rectangle (2, 2) to (146, 31). It reacts one margin lower and to the
+                           // right.
                            {4, 4, A},
                            {148, 4, A},
                            {4, 33, A},
@@ -78,7 +79,7 @@ TEST(ColourPointer, FindsTheCellsBetweenBothBoxes)
                            {4, 121, 32},
                            {145, 121, 39},
                            {4, 122, kBefore},
-                           // "More Colours...", (2, 128) to (146, 152).
+                           // "More Colours..." has the rectangle (2, 128) to (146, 152).
                            {4, 129, kBefore},
                            {4, 130, M},
                            {148, 154, M},
@@ -88,7 +89,7 @@ TEST(ColourPointer, FindsTheCellsBetweenBothBoxes)
                        });
 }
 
-// Division truncates towards zero: a margin's width left of the grid, and less than a row above, count as in it.
+// Division truncates toward zero. So points in the margin left of the grid, and less than a row above it, are in it.
 TEST(ColourPointer, FindsTheFirstColumnInTheMarginBesideIt)
 {
     const PopupInFrame popup;

@@ -13,15 +13,15 @@
 
 using Calls = std::vector<std::string>;
 
-/// Writes down what is drawn, a line a call:
+/// Records what is drawn, one call a line:
 ///
 ///   palette                            the palette is set
 ///   rect 2,2 18x18 FACE FACE           position, size, colour of the outline and of the inside
 ///   line 3,3-3,18 DARK
 ///   text 'Automatic' 10,5 transparent
 ///
-/// and draws it on a picture. A pen other than a solid one of one pixel is told apart. Text is as large as it is told
-/// to be.
+/// and also draws it on a picture. The record names any pen that is not solid and one pixel wide. Text has the size
+/// that the test sets.
 class RecordingDCImpl : public wxMirrorDCImpl
 {
 public:
@@ -127,7 +127,7 @@ public:
     RecordingDCImpl& Record() { return *static_cast<RecordingDCImpl*>(m_pimpl); }
 };
 
-/// A picture of one colour to draw on, whose pixels can be asked for once it is drawn.
+/// A picture of one colour to draw on. Its pixels can be read after drawing.
 class Picture
 {
 public:

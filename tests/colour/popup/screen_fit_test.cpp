@@ -1,4 +1,4 @@
-// Where the popup is put on the screen of the tests, which is 1280 x 1024.
+// The position of the popup on the test screen of 1280 x 1024 pixels.
 
 #include <gtest/gtest.h>
 
@@ -61,7 +61,7 @@ TEST_F(ColourScreenFit, FlipsAboveTheParent)
     EXPECT_EQ(Placed(10, 931), wxPoint(10, 931));
     EXPECT_EQ(Placed(10, 932), wxPoint(10, 932 - 77 - 94));
     EXPECT_EQ(Placed(1200, 1000), wxPoint(1133, 1000 - 77 - 94));
-    // Above the screen it stays: it would not be seen whole below either.
+    // It stays above the parent even if it is not on the screen there, because it does not fit below either.
     EXPECT_EQ(Placed(10, 5000), wxPoint(10, 5000 - 77 - 94));
 }
 

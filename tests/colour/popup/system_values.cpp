@@ -30,7 +30,7 @@ PinnedEdge::~PinnedEdge()
     g_edge.reset();
 }
 
-// These take the place of the toolkit's.
+// These replace the toolkit's functions.
 
 wxColour wxSystemSettingsNative::GetColour(wxSystemColour index)
 {

@@ -5,7 +5,7 @@
 
 #include <wx/colour.h>
 
-/// The colours of the tests' own theme, no two alike. They take the place of the desktop's while a PinnedTheme lives.
+/// The colours of the test theme, no two alike. They replace the desktop's while a PinnedTheme exists.
 inline const wxColour kFace(201, 202, 203);
 inline const wxColour kShadow(121, 122, 123);
 inline const wxColour kHighlight(251, 252, 253);
@@ -20,7 +20,7 @@ public:
     PinnedTheme& operator=(const PinnedTheme&) = delete;
 };
 
-/// The width of an edge that the system reports while the object lives.
+/// Sets the width of an edge that the system reports while the object exists.
 class PinnedEdge
 {
 public:
