@@ -113,10 +113,10 @@ TEST(FormatControlText, RoundsHalfUp)
     EXPECT_EQ(Rounded(L"0.000000015", 8), L"0.00000002");
     EXPECT_EQ(Rounded(L"0.05", 1), L"0.1");
     EXPECT_EQ(Rounded(L"0.04", 1), L"0.0");
-    // A minus stays where nothing else does.
+    // Rounding to zero keeps the minus.
     EXPECT_EQ(Rounded(L"-0.001", 2), L"-0.00");
     EXPECT_EQ(Rounded(L"-0.4", 0), L"-0");
-    // Each digit counts, where a double would have none left.
+    // Digits count that a double cannot hold.
     EXPECT_EQ(Rounded(L"12345678901234567890.12345678901234567895", 19), L"12345678901234567890.1234567890123456790");
 }
 
@@ -145,14 +145,14 @@ TEST(FormatControlText, RoundsToAnInteger)
     EXPECT_EQ(Rounded(L"2.", 0), L"2");
     EXPECT_EQ(Rounded(L"5.", 0), L"5");
     EXPECT_EQ(Rounded(L"5", 0), L"5");
-    // No digit in front of the point: the carry is the number, and without one nothing is left.
+    // Without a digit in front of the point, the result is only the carry; without a carry no digit is left.
     EXPECT_EQ(Rounded(L"-.5", 0), L"-1");
     EXPECT_EQ(Rounded(L"-.4", 0), L"-");
     EXPECT_EQ(Rounded(L"+.9", 0), L"1");
     EXPECT_EQ(Rounded(L"+.4", 0), L"");
 }
 
-// Trimming has not taken a point that something stands behind.
+// Trimming keeps a point if text follows it.
 TEST(FormatControlText, DropsThePointOfAnIntegerBeforeJunk)
 {
     EXPECT_EQ(Rounded(L"5.x", 0), L"5");
@@ -316,7 +316,7 @@ TEST(FormatControlText, TakesAnyCharacterForThePoint)
     format.m_chDecimalPoint = L'e';
     EXPECT_EQ(Shown(L"1.50", format), L"1e50");
     EXPECT_EQ(Shown(L"1.5e3", format), L"1e5e3");
-    // Each of the locale's points is replaced, and here the second one begins an exponent.
+    // Each of the locale's points is replaced. Here the second one begins an exponent.
     EXPECT_EQ(Shown(L"1.5.3", format), L"1e5e3");
     format.m_chDecimalPoint = L'-';
     EXPECT_EQ(Shown(L".5", format), L"0-5");
@@ -353,7 +353,7 @@ TEST(FormatControlText, LosesTheNumberInATemplateWithoutPlaceForIt)
     EXPECT_EQ(Shown(L"3", format), L"100%");
 }
 
-// The number is an argument of printf(), never a format.
+// printf() gets the number as an argument, never as the format.
 TEST(FormatControlText, ShowsPercentSignsOfTheSeparators)
 {
     CNumberFormat format(eFixedFormat);

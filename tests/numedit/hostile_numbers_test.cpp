@@ -16,7 +16,7 @@ std::wstring Many(wchar_t c, std::size_t count = kLong)
     return std::wstring(count, c);
 }
 
-/// Accepts digits without end, a fraction and an exponent.
+/// Accepts any number of digits, a fraction and an exponent.
 CNumberFormat Endless()
 {
     CNumberFormat format(eLocaleFormat);
@@ -28,8 +28,8 @@ CNumberFormat Endless()
     return format;
 }
 
-// gtest prints a failure in full, and so these compare by EXPECT_TRUE. Work that grows with the square of a text would
-// run into the time limit.
+// gtest prints both texts of a failed EXPECT_EQ in full, so these tests compare with EXPECT_TRUE. Work that grows with
+// the square of the length would exceed the time limit.
 
 TEST(LongTexts, AreTrimmed)
 {
@@ -47,7 +47,7 @@ TEST(LongTexts, AreTrimmed)
 TEST(LongTexts, AreGrouped)
 {
     const std::wstring grouped = Group(Many(L'7'));
-    // 1,048,576 digits: one, and then 349,525 groups of three.
+    // 1,048,576 digits: one digit, and then 349,525 groups of three.
     EXPECT_EQ(grouped.size(), 1048576u + 349525u);
     EXPECT_EQ(grouped.substr(0, 6), L"7,777,");
     EXPECT_EQ(grouped.substr(grouped.size() - 5), L"7,777");
@@ -149,7 +149,7 @@ TEST(UnusualCharacters, AreSeparators)
 {
     CNumberFormat format(eFixedFormat);
     for (const wchar_t c : {wchar_t{0xD800}, wchar_t{0x110000}, wchar_t{0x7FFFFFFF}, static_cast<wchar_t>(-1)}) {
-        // As "1,234,50" and "1,50" with every comma replaced.
+        // "1,234,50" and "1,50" with the character in the place of each comma.
         const std::wstring grouped{L'1', c, L'2', L'3', L'4', c, L'5', L'0'};
         const std::wstring plain{L'1', c, L'5', L'0'};
         format.m_chThousandsSep = c;
@@ -162,7 +162,7 @@ TEST(UnusualCharacters, AreSeparators)
     }
 }
 
-/// The fields of formatting from the bits of @a flags, the limits of validation from higher ones.
+/// Makes a format: the low bits of @a flags set the fields for formatting, the higher bits the limits for validation.
 CNumberFormat FromBits(unsigned flags)
 {
     CNumberFormat format(eLocaleFormat);
@@ -176,8 +176,8 @@ CNumberFormat FromBits(unsigned flags)
     return format;
 }
 
-// Whatever the separators and the flags are, a shown number is a text that ends nowhere early, and what is typed is
-// judged. What each gives is the business of the other tests, and of the sanitizers what it touches.
+// With any separators and flags, a formatted number is a text without an early end, and each text is either accepted or
+// refused. Other tests check the results, and the sanitizers check the memory.
 TEST(UnusualFormats, BreakNothing)
 {
     const std::wstring separators(L"\000059eE+-., %x\u066b", 14);

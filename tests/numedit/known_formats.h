@@ -3,16 +3,16 @@
 
 #include <fittings/numedit/number_format.h>
 
-/// The locale's preset with every field changed.
+/// Returns the locale's preset with every field changed.
 CNumberFormat UnusualFormat();
 
-/// The fixed preset with every flag one way, tight limits and a template.
+/// Returns the fixed preset with every flag set to @a flag, tight limits and a template.
 CNumberFormat FormatWithFlags(bool flag);
 
-/// Expects every field to be as in UnusualFormat().
+/// Expects every field to equal that of UnusualFormat().
 void ExpectUnusual(const CNumberFormat& format);
 
-/// Expects every field to be as the fixed preset has it.
+/// Expects every field to equal that of the fixed preset.
 void ExpectFixed(const CNumberFormat& format);
 
 #endif

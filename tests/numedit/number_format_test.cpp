@@ -120,7 +120,7 @@ TEST(NumberFormat, AssignsEveryField)
     ExpectFixed(locale);
 }
 
-// A field that took another one's value would be seen here.
+// The test notices a field that gets another field's value.
 TEST(NumberFormat, AssignsEachFlagByItself)
 {
     bool CNumberFormat::*const flags[] = {&CNumberFormat::m_bPadDecimals,   &CNumberFormat::m_bRoundDecimals,

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// The locale's separators in a format of two decimals and groups.
+/// Returns a format with the locale's separators, two decimals and groups.
 CNumberFormat Amount()
 {
     CNumberFormat format(eLocaleFormat);
@@ -33,7 +33,7 @@ CNumberFormat Between(double min, double max)
     return format;
 }
 
-/// Makes the toolkit's current conversion another one for as long as the object lives.
+/// Replaces the toolkit's current conversion while the object exists.
 class ScopedConversion
 {
 public:
@@ -77,7 +77,7 @@ TEST(GermanLocale, IsReadOnceByAFormat)
     EXPECT_EQ(german.m_chThousandsSep, L'.');
 }
 
-// "1.5" and "1,5" mean the same to it, whichever point the format has.
+// A format with the point "." also accepts the locale's point: "1.5" and "1,5" are the same number.
 TEST(GermanLocale, ReadsTheFormatsPointAndItsOwn)
 {
     const ScopedLocale german("de_DE.UTF-8");
@@ -120,7 +120,7 @@ TEST(GermanLocale, DoesNotChangeTheZerosOnTheWay)
     EXPECT_FALSE(CNumberEditUtils::ValidateInput(L"0,0", format));
 }
 
-// A format stays as it was made, and the locale's point is read anew.
+// A format keeps its separators. The locale's point is read at each call.
 TEST(GermanLocale, IsFollowedWhenItComesAndGoes)
 {
     CNumberFormat format(eFixedFormat);
@@ -180,7 +180,7 @@ TEST(PashtoLocale, ChecksBoundsOfTheFraction)
     EXPECT_FALSE(Valid(L"1.76", format));
 }
 
-// Its digits are not ASCII either, and no digits here.
+// Its digits are not ASCII, and are not accepted as digits.
 TEST(PashtoLocale, TakesAsciiDigitsAlone)
 {
     const ScopedLocale pashto("ps_AF.UTF-8");
@@ -227,8 +227,7 @@ TEST(CurrentConversion, ReadsSeparatorsBeyondAscii)
     EXPECT_EQ(Shown(L"1٫5", CNumberFormat(eFixedFormat)), L"1.50");
 }
 
-// Only the first character of a point counts in the grammar and in the format, the whole of it where one replaces the
-// other.
+// The grammar and the format use only the first character of a point. A replacement of the point replaces all of it.
 TEST(CurrentConversion, MayMakeSeveralCharactersOfThePoint)
 {
     const ScopedLocale pashto("ps_AF.UTF-8");
@@ -240,7 +239,7 @@ TEST(CurrentConversion, MayMakeSeveralCharactersOfThePoint)
     EXPECT_EQ(Shown(L"1234\u00d95", fixed), L"1,234");
     EXPECT_FALSE(Valid(L"1.5", fixed));
     EXPECT_TRUE(Valid(L"1\u00d95", fixed));
-    // A format whose point is the first of them is no exception.
+    // This also holds for a format whose point is that first character.
     EXPECT_FALSE(Valid(L"1\u00d95", Amount()));
     EXPECT_EQ(Shown(L"1\u00d9\u00ab5", Amount()), L"1\u00d950");
 }
@@ -266,7 +265,7 @@ TEST(BlanksOfTheLocale, AreCut)
     EXPECT_EQ(Cut(emSpaces), L"1.5");
     EXPECT_EQ(Cut(L"\u3000\u2028"), L"0");
     EXPECT_EQ(Shown(emSpaces, CNumberFormat(eFixedFormat)), L"1.50");
-    // A space that does not break a line is none.
+    // A no-break space is not a blank.
     EXPECT_EQ(Cut(L"\u00a01.50"), L"\u00a01.5");
 }
 

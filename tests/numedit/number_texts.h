@@ -5,7 +5,7 @@
 
 #include <fittings/numedit/number_edit_utils.h>
 
-/// A row of a table of texts and what becomes of them.
+/// A row in a table of texts and expected results.
 struct TextCase
 {
     const char* name;
@@ -13,7 +13,7 @@ struct TextCase
     const wchar_t* expected;
 };
 
-/// @name What the operations on texts make of one
+/// @name The operations on texts, each applied to one text
 /// @{
 inline std::wstring Cut(const std::wstring& text, const CNumberFormat& format = CNumberFormat(eFixedFormat))
 {

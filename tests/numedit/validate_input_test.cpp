@@ -11,7 +11,7 @@ bool Accepted(const wchar_t* text, const CNumberFormat& format)
     return CNumberEditUtils::ValidateInput(text, format);
 }
 
-/// Nothing but 1 and above, with two decimals.
+/// Accepts only numbers of at least 1, with two decimals.
 CNumberFormat FromOne()
 {
     CNumberFormat format(eFixedFormat);
@@ -75,14 +75,14 @@ TEST(ValidateInput, AcceptsAsManyZerosAsThereAreDecimals)
     format.m_nDecimals = UINT64_MAX;
     EXPECT_TRUE(Accepted((L"0." + std::wstring(1000, L'0')).c_str(), format));
     EXPECT_FALSE(Accepted((L"0." + std::wstring(1000, L'0') + L"1").c_str(), format));
-    // Of 64 bits.
+    // The number of decimals has 64 bits.
     format.m_nDecimals = std::uint64_t{1} << 32;
     EXPECT_TRUE(Accepted(L"0.", format));
     EXPECT_TRUE(Accepted(L"0.000", format));
     EXPECT_FALSE(Accepted(L"0.001", format));
 }
 
-// "0" has one digit too many, and is accepted on the way all the same.
+// "0" has one digit too many, but is accepted as the beginning of a number.
 TEST(ValidateInput, AcceptsTheZeroWhateverTheIntegerDigits)
 {
     CNumberFormat format(eFixedFormat);
@@ -100,7 +100,7 @@ TEST(ValidateInput, KnowsTheFormatsPointInTheZeros)
     EXPECT_TRUE(Accepted(L",", format));
     EXPECT_TRUE(Accepted(L"0,", format));
     EXPECT_TRUE(Accepted(L"0,00", format));
-    // The locale's point is read as one too, but not on the way.
+    // A complete number may have the locale's point. The beginning of a number may not.
     EXPECT_FALSE(Accepted(L".", format));
     EXPECT_FALSE(Accepted(L"0.", format));
     EXPECT_FALSE(Accepted(L"0.0", format));

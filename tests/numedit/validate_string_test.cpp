@@ -101,7 +101,7 @@ TEST(ValidateString, CountsIntegerDigitsWithoutTheSign)
 
     format.m_nMaxIntDigits = UINT64_MAX;
     EXPECT_TRUE(Valid(L"123456789012345678901234567890", format));
-    // Of 64 bits.
+    // The number of digits has 64 bits.
     format.m_nMaxIntDigits = std::uint64_t{1} << 32;
     EXPECT_TRUE(Valid(L"1234", format));
 }
@@ -223,12 +223,12 @@ TEST(ValidateString, ChecksBoundsOfTheExponentToo)
     EXPECT_TRUE(Valid(L"1e3", format));
     EXPECT_FALSE(Valid(L"1e4", format));
     EXPECT_TRUE(Valid(L"1e-4", format));
-    // Without its letter an exponent is accepted, and not read as one.
+    // An exponent without its letter is accepted, but not read as an exponent.
     EXPECT_TRUE(Valid(L"1+4", format));
     EXPECT_FALSE(Valid(L"1e999999999999", format));
 }
 
-// What follows the number that a text begins with is the business of the grammar.
+// The bounds apply to the number at the beginning of the text. The grammar checks the rest.
 TEST(ValidateString, ChecksBoundsOfTheLongestNumberThatTheTextBeginsWith)
 {
     CNumberFormat format = WithMin(10);
@@ -252,7 +252,7 @@ TEST(ValidateString, ComparesBoundsAsDoubles)
     EXPECT_TRUE(Valid(L"16777216", WithMax(16777216)));
     EXPECT_FALSE(Valid(L"16777217", WithMax(16777216)));
     EXPECT_FALSE(Valid(L"16777217", WithMin(16777218)));
-    // The nearest double of this one is 2^53.
+    // The nearest double is 2^53.
     EXPECT_TRUE(Valid(L"9007199254740993", WithMax(9007199254740992)));
     EXPECT_FALSE(Valid(L"9007199254740994", WithMax(9007199254740992)));
 }

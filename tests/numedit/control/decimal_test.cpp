@@ -1,4 +1,4 @@
-// Numbers of any length in decimal digits.
+// Decimal numbers of any length.
 
 #include <fittings/numedit/decimal.h>
 

@@ -11,7 +11,7 @@
 
 #include <tests/numedit/validator/number_dialog.h>
 
-/// A dialog on the screen with a plain text field, a wxNumberCtrl, and OK and Cancel. The number has the focus.
+/// A dialog on the screen with a plain text field, a wxNumberCtrl, OK and Cancel. The number control has the focus.
 class NumberCtrlDialog
 {
 public:
@@ -23,13 +23,13 @@ public:
 
     void Show();
 
-    /// Gives the focus away from the number, or to it.
+    /// Moves the focus away from the number control, or to it.
     /// @{
     void Leave();
     void Enter();
     /// @}
 
-    /// Shows a number with the caret behind it, and forgets what was counted.
+    /// Shows a number with the caret behind it, and resets the counters.
     void Restart(const wxString& decimal);
 
     void Type(const std::string& characters);
@@ -46,8 +46,8 @@ public:
     wxDialog* dialog;
     wxTextCtrl* first;
     wxNumberCtrl* number;
-    int textEvents = 0;                ///< wxEVT_TEXT of the number
-    std::vector<std::string> numbers;  ///< what each wxEVT_NUMBER_CHANGED said
+    int textEvents = 0;                ///< wxEVT_TEXT of the number control
+    std::vector<std::string> numbers;  ///< the values of the wxEVT_NUMBER_CHANGED events
     KeyLog keys;
 
 private:

@@ -1,4 +1,4 @@
-// Stepping, and texts that are no number within the bounds.
+// Stepping, and texts that are not a number within the bounds.
 
 #include <fittings/numedit/number_ctrl.h>
 

@@ -1,4 +1,4 @@
-// What can be typed and pasted into a wxNumberCtrl, with real keys.
+// Typing and pasting into a wxNumberCtrl, with real keys.
 
 #include <fittings/numedit/number_ctrl.h>
 
@@ -183,7 +183,7 @@ TEST_F(NumberTyping, RefusesOtherPastedTextWhole)
     }
 }
 
-/// Text that comes without a key of the control's: the selection of another field, by the middle button.
+/// Text that the control gets without a key: the middle button pastes the selection of another field.
 class PasteOfASelection : public NumberTyping
 {
 protected:
@@ -217,7 +217,7 @@ TEST_F(PasteOfASelection, IsRefusedWholeWhereItIsNone)
     EXPECT_EQ(screen.textEvents, 0);
 }
 
-// As an input method does that works in a process of its own: no key is on its way.
+// An input method in another process inserts its text in this way, without a key event.
 TEST_F(NumberTyping, PutsASelectionBackThatATextWithoutAKeyWasToReplace)
 {
     screen.Restart("12345");
@@ -238,7 +238,7 @@ TEST_F(NumberTyping, PutsASelectionBackThatATextWithoutAKeyWasToReplace)
     EXPECT_EQ(screen.BellsRung(), 1);
 }
 
-// A dead key and a letter commit a character that no single key stands for.
+// A dead key and a letter commit a character that has no key.
 TEST_F(NumberTyping, RefusesWhatAComposingLayoutMakes)
 {
     screen.Restart("12345");

@@ -1,4 +1,4 @@
-// Numbers that go into a wxNumberCtrl and come out of it, and how they are shown.
+// Setting and reading the numbers of a wxNumberCtrl, and how it shows them.
 
 #include <fittings/numedit/number_ctrl.h>
 
@@ -174,7 +174,7 @@ TEST_F(NumberValue, IsClickedAtTheDigitThatIsSeen)
     screen.Leave();
     ASSERT_EQ(screen.Text(), L"12,345.00");
     wxUIActionSimulator mouse;
-    // Behind everything.
+    // A click behind the last character.
     const wxSize size = screen.number->GetSize();
     mouse.MouseMove(screen.number->ClientToScreen(wxPoint(size.x - 14, size.y / 2)));
     mouse.MouseClick();
@@ -202,7 +202,7 @@ TEST_F(NumberValue, KeepsTheSelectionWhileAnotherWindowIsActive)
     EXPECT_EQ(screen.Selection(), "234");
 }
 
-/// The user's settings for as long as the object lives. The process stays in the C locale.
+/// Sets the user's locale while the object exists. The process stays in the C locale.
 class UsersLocale
 {
 public:

@@ -1,4 +1,4 @@
-// 100,000 sequences of random keys, against all numbers within the bounds written out.
+// Compares 100,000 sequences of random keys with a list of all numbers within the bounds.
 
 #include <fittings/numedit/number_rules.h>
 
@@ -13,7 +13,7 @@
 
 namespace {
 
-/// What a field accepts. The bounds are in hundredths.
+/// The numbers that a field accepts. The bounds are in hundredths.
 struct Field
 {
     int integers;
@@ -27,7 +27,7 @@ struct Field
 
 constexpr std::int64_t kPowers[] = {1, 10, 100, 1000, 10000};
 
-/// Every text of @a digits digits or less, the empty one among them.
+/// Returns every text of at most @a digits digits, with the empty text.
 std::vector<std::string> DigitTexts(int digits)
 {
     std::vector<std::string> texts = {""};
@@ -43,8 +43,8 @@ std::vector<std::string> DigitTexts(int digits)
     return texts;
 }
 
-/// Writes every number within the bounds of a field, and keeps what each begins with. A number with a minus counts only
-/// where it is below 0.
+/// Writes every number within the bounds of a field and stores each beginning of it. A number with a minus counts only
+/// if it is below 0.
 class Beginnings
 {
 public:
@@ -105,14 +105,14 @@ private:
         }
     }
 
-    /// Whether @a value with that many zeros more, or digits less, is less than @a bound. Both are of a few digits.
+    /// Returns whether @a value times 10 to the power @a power is less than @a bound. Both numbers have few digits.
     static bool IsLess(std::int64_t value, int power, std::int64_t bound)
     {
         for (; power > 0 && std::abs(value) < 1'000'000'000; --power)
             value *= 10;
         for (; power < 0 && std::abs(bound) < 1'000'000'000'000; ++power)
             bound *= 10;
-        // Where the bound is 0 it stays so, and the sign decides.
+        // A bound of 0 does not change, so the sign decides.
         return value < bound;
     }
 
@@ -164,7 +164,7 @@ private:
     std::mt19937 m_random{17};
 };
 
-/// How many digits the exponent of a text has.
+/// Returns the number of digits in the exponent of a text.
 std::size_t ExponentDigits(const std::string& text)
 {
     const std::size_t letter = text.find('e');
@@ -177,7 +177,7 @@ std::size_t ExponentDigits(const std::string& text)
 int g_accepted = 0;
 int g_refused = 0;
 
-/// Types keys at random places, over selections at times, and compares what is accepted.
+/// Types keys at random places, sometimes over a selection, and compares the texts that are accepted.
 void TypeAndCompare(Keys& keys, const Field& field, const Beginnings& beginnings, const fittings::NumberRules& rules)
 {
     std::string text;
@@ -187,7 +187,7 @@ void TypeAndCompare(Keys& keys, const Field& field, const Beginnings& beginnings
             inside ? static_cast<std::size_t>(keys.Below(static_cast<int>(text.size()) + 1)) : text.size();
         std::string typed = text;
         typed.replace(at, inside ? static_cast<std::size_t>(keys.Below(3)) : 0, 1, keys.Next(field.exponent));
-        // The numbers written out have no more than three digits there.
+        // The listed exponents have at most three digits, so the test compares only texts with shorter ones.
         if (ExponentDigits(typed) > 2)
             continue;
         const bool accepted = fittings::CanBeTyped(std::wstring(typed.begin(), typed.end()), rules);

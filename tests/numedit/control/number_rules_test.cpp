@@ -1,4 +1,4 @@
-// What is a number of a format, or the beginning of one, and which pasted texts can be read as one.
+// Which texts are numbers of a format, which are beginnings of one, and which pasted texts are read as one.
 
 #include <fittings/numedit/number_rules.h>
 
@@ -54,7 +54,7 @@ INSTANTIATE_TEST_SUITE_P(, Beginning,
                                          Case{"1000", "1999", 0, L"1", true}, Case{"1000", "1999", 0, L"2", false},
                                          Case{"1000", "1999", 0, L"", true}));
 
-// 0.3 is no number that a double can hold.
+// A double cannot represent 0.3 exactly.
 TEST(ABoundOfAFormat, IsTheDecimalNumberThatItsDoubleIsWrittenAs)
 {
     CNumberFormat format(eFixedFormat);
@@ -79,7 +79,7 @@ TEST(ABoundOfAFormat, IsNoneWhereItIsNoFiniteNumber)
     EXPECT_FALSE(rules.max);
 }
 
-// As doubles all of them would be the same.
+// As doubles they would all be equal.
 TEST(BoundsOfManyDigits, AreCompared)
 {
     const std::string low = "1" + std::string(998, '0') + "3";
@@ -130,7 +130,7 @@ TEST(ATextThatIsNoNumber, SaysWhy)
 struct Pasted
 {
     const wchar_t* text;
-    const wchar_t* plain;  ///< null where it is refused
+    const wchar_t* plain;  ///< null if it is refused
 };
 
 class PastedText : public testing::TestWithParam<Pasted>
@@ -177,7 +177,7 @@ TEST(PastedTextOfOtherFormats, IsReadToo)
     unsigned_.m_bAllowSign = false;
     EXPECT_FALSE(fittings::PlainTextOf(L"5-", unsigned_));
 
-    // The C locale's separator.
+    // In the C locale the separator is zero.
     CNumberFormat plain(eFixedFormat);
     plain.m_chThousandsSep = 0;
     EXPECT_EQ(fittings::PlainTextOf(L"1234", plain), L"1234");

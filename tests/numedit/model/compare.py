@@ -16,7 +16,7 @@ from library import Answers, Case
 from number_cases import random_case
 from number_model import NumberFormat
 
-# So few that a driver that dies is not far behind, so many that its start takes no time.
+# Small enough to find the case that kills a driver, and large enough to make the driver's start cheap.
 BATCH = 5000
 
 

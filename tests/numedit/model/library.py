@@ -11,7 +11,7 @@ from number_model import NumberFormat
 class Case:
     number_format: NumberFormat
     text: str
-    # Whether the library gets a null pointer in the place of the text, which is empty then.
+    # Whether the library gets a null pointer instead of a text, which is then empty.
     is_null: bool = False
 
 
@@ -72,5 +72,5 @@ def _unpacked_text(data):
     return str(data[4:end], _WIDE, "surrogatepass"), data[end:]
 
 
-# Like wchar_t.
+# The width of a wchar_t.
 _WIDE = "utf-32-le" if struct.pack("=H", 1) == struct.pack("<H", 1) else "utf-32-be"

@@ -1,7 +1,7 @@
-// Puts cases from the standard input through the library: number_driver LOCALE [NUMERIC_LOCALE].
+// number_driver LOCALE [NUMERIC_LOCALE]: passes cases from the standard input to the library.
 //
-// Input and output are binary, in the machine's own byte order: the driver's other end is a script on the same machine.
-// library.py has the layout.
+// Input and output are binary in the machine's byte order, because a script on the same machine uses the driver.
+// library.py describes the layout.
 
 #include <fittings/numedit/number_edit_utils.h>
 
@@ -92,7 +92,7 @@ void RunCase()
     WriteFlag(CNumberEditUtils::ValidateString(pointer, format));
     WriteFlag(CNumberEditUtils::ValidateInput(pointer, format));
     WriteText(CNumberEditUtils::FormatControlText(pointer, format));
-    // Should the next case end the process, the other end knows which one it was.
+    // If the next case ends the process, the script then knows which case it was.
     std::fflush(stdout);
 }
 

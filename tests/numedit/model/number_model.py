@@ -12,7 +12,7 @@ DIGITS = "0123456789"
 SIGNS = ("+", "-")
 EXPONENT_LETTERS = ("e", "E")
 
-# No text can ask for more zeros behind the point.
+# No format pads more zeros behind the point.
 MOST_PADDING = 1_000_000
 
 
@@ -87,7 +87,7 @@ def cut_zeros(text, number_format, locale):
     start = 0
     while start < len(text) and locale.is_blank(text[start]):
         start += 1
-    # The last character is kept, be it a zero. A sign is no zero: behind it nothing is cut.
+    # The last character stays, even if it is a zero. No zeros are cut behind a sign.
     while start < len(text) - 1 and text[start] == "0":
         start += 1
     end = len(text)
@@ -125,14 +125,14 @@ def validate_string(text, number_format, locale):
     if locale_point:
         text = text.replace(number_format.decimal_point, locale_point)
 
-    # Bounds come first. Every comparison with NaN is false, so that NaN passes.
+    # The bounds are checked first. Every comparison with NaN is false, so NaN passes.
     value = locale.to_number(text)
     if number_format.has_max and value > number_format.max:
         return False
     if number_format.has_min and number_format.min > value:
         return False
 
-    # Every way to run out of characters from here on is fine: the user may still be typing.
+    # From here on, a text that ends early is accepted, because the user may still be typing.
     rest = text
     if number_format.allow_sign and rest[:1] in SIGNS:
         rest = rest[1:]
@@ -155,7 +155,7 @@ def validate_string(text, number_format, locale):
         return True
     if rest == unsigned or not number_format.allow_exponent:
         return False
-    # The letter may be left out: 12-5 is 12e-5.
+    # The letter is optional: 12-5 means 12e-5.
     if rest[:1] in EXPONENT_LETTERS:
         rest = rest[1:]
     if rest[:1] in SIGNS:
@@ -194,20 +194,20 @@ def format_control_text(text, number_format, locale):
             integer, fraction = _round_half_up(integer, typed_fraction, decimals)
     shows_point = has_point and not (number_format.round_decimals and decimals == 0)
 
-    # Padding goes by the fraction that was typed, and is for numbers that end with it.
+    # Padding counts the typed fraction. It applies only if the number ends there.
     if number_format.pad_decimals and decimals and not rest:
         missing = decimals - len(typed_fraction) if has_point else decimals
         fraction += "0" * min(missing, MOST_PADDING)
         shows_point = True
 
-    # Where the point is U+0000, the number ends at it.
+    # If the point is U+0000, the number ends at it.
     number = _up_to_first_zero(integer + (point if shows_point else "") + fraction)
     if number_format.group_digits:
         number = group_digits(number, number_format)
     if sign == "-":
         number = number + "-" if number_format.trailing_minus else "-" + number
 
-    # Behind a trailing minus too: -1.5e3 becomes 1.5-e3. What follows the exponent's digits is dropped.
+    # The exponent follows even a trailing minus: -1.5e3 becomes 1.5-e3. Text after the exponent's digits is dropped.
     if rest and rest[0] in EXPONENT_LETTERS:
         exponent_sign = rest[1:2] if rest[1:2] in SIGNS else ""
         exponent_digits, _ = _split_digits(rest[1 + len(exponent_sign):])
@@ -221,7 +221,7 @@ def _round_half_up(integer, fraction, decimals):
         return integer, fraction
     digits = integer + fraction[:decimals]
     if fraction[decimals] >= "5":
-        # A row of nines at the end turns to zeros, and the digit before them goes up.
+        # Nines at the end become zeros, and the digit before them is raised.
         before_nines = digits.rstrip("9")
         nines = len(digits) - len(before_nines)
         raised = before_nines[:-1] + str(int(before_nines[-1]) + 1) if before_nines else "1"

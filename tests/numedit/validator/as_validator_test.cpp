@@ -1,4 +1,4 @@
-// What users of the toolkit's validators know of them holds for the numeric one.
+// The numeric validator behaves as the toolkit's validators do.
 
 #include <fittings/numedit/num_validator.h>
 
@@ -20,7 +20,7 @@
 
 namespace {
 
-// Three numbers in a row, in a panel of a dialog.
+// Three number fields in a row, in a panel of a dialog.
 class Numbers : public testing::Test
 {
 protected:
@@ -91,7 +91,7 @@ TEST_F(Numbers, AreAskedInOrderAsFarAsTheFirstBadOne)
     fields[1]->ChangeValue("2");
     EXPECT_FALSE(dialog->Validate());
     EXPECT_TRUE(PumpUntil([&] { return fields[2]->HasFocus(); }));
-    // Has the focus already.
+    // The field already has the focus.
     EXPECT_FALSE(dialog->Validate());
     PumpPending();
     fields[2]->ChangeValue("3");
@@ -255,7 +255,7 @@ TEST_F(Numbers, GiveWayToAnotherValidator)
     EXPECT_TRUE(dialog->Validate());
 }
 
-// The keypad's point is written by the validator itself, which the host then replaces.
+// The validator itself writes the keypad's point, and the host replaces the validator during that.
 TEST_F(Numbers, MayBeReplacedWhileTheyTakeAKey)
 {
     Show();
@@ -346,7 +346,7 @@ TEST_F(Numbers, MayBeCheckedByAHostsClassToo)
     EXPECT_FALSE(dialog->Validate());
 }
 
-// As with the toolkit's own: the control keeps a clone.
+// As with the toolkit's validators, the control keeps a clone.
 TEST_F(Numbers, AreOfTheClassThatClonesThem)
 {
     class Forgetful : public wxNumValidator

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-/// The keys' numbers on a PC's keyboard, whatever the layout makes of them.
+/// The key codes of a PC keyboard, independent of the layout.
 /// @{
 constexpr unsigned kKey1 = 10;
 constexpr unsigned kKey2 = 11;
@@ -16,22 +16,22 @@ constexpr unsigned kKeypad1 = 87;
 constexpr unsigned kKeypadDecimal = 91;
 /// @}
 
-/// Gives the display a keyboard layout for as long as the object lives, and the US one again afterwards.
+/// Sets a keyboard layout while the object exists, and restores the US layout afterwards.
 class Layout
 {
 public:
-    /// @a arguments are those of setxkbmap. Returns once this program has noticed that @a key has got the symbol of the
-    /// given name on @a level.
+    /// @a arguments are those of setxkbmap. Returns when this program sees that @a key has the given symbol on @a
+    /// level.
     Layout(const std::vector<std::string>& arguments, unsigned key, unsigned level, const std::string& symbol);
     ~Layout();
     Layout(const Layout&) = delete;
     Layout& operator=(const Layout&) = delete;
 };
 
-/// Puts a character on a key of the present layout; ends with it.
+/// Puts a character on a key of the current layout. A change of the layout removes it.
 void RemapKey(unsigned key, wchar_t character);
 
-/// Turns NumLock on for as long as the object lives.
+/// Turns NumLock on while the object exists.
 class NumLock
 {
 public:

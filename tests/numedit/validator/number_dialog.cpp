@@ -17,7 +17,7 @@ int g_bells = 0;
 
 }  // namespace
 
-// Takes the place of the toolkit's, in the library as well.
+// Replaces the toolkit's function, for the library too.
 void wxBell()
 {
     ++g_bells;

@@ -12,10 +12,10 @@
 
 #include <fittings/numedit/num_validator.h>
 
-/// How often the toolkit's bell has rung. This program's wxBell() counts, and stays silent.
+/// Returns how often the toolkit's bell has rung. This program's wxBell() only counts.
 int Bells();
 
-/// A validator whose members are seen from outside.
+/// A validator whose members a test can read.
 class OpenValidator : public wxNumValidator
 {
 public:
@@ -26,10 +26,10 @@ public:
     using wxNumValidator::wxNumValidator;
 };
 
-/// Two decimals, five integer digits, and the given decimal point.
+/// Returns a format with two decimals, five integer digits and the given decimal point.
 CNumberFormat FixedFormat(wchar_t point = L'.');
 
-/// Notes each key that reaches the program, in whichever window.
+/// Records each key that reaches any window of the program.
 class KeyLog : public wxEventFilter
 {
 public:
@@ -40,11 +40,11 @@ public:
 
     int FilterEvent(wxEvent& event) override;
 
-    /// Performs some input, and waits until a key has gone down and all are up again.
+    /// Calls @a input, and waits until a key was pressed and all keys are released.
     void WaitForKeys(const std::function<void()>& input);
 
     std::vector<int> down;   ///< The codes of the keys that went down.
-    std::vector<int> chars;  ///< The codes of the characters: 0 for those that the toolkit gives none.
+    std::vector<int> chars;  ///< The codes of the characters; 0 if the toolkit has no code for one.
     std::wstring characters;
 
 private:
@@ -52,7 +52,7 @@ private:
     bool m_wentDown = false;
 };
 
-/// A dialog on the screen with two text controls, the second one under a validator, and OK and Cancel.
+/// A dialog on the screen with two text controls, OK and Cancel. The second control has a validator.
 class NumberDialog
 {
 public:
@@ -61,19 +61,19 @@ public:
     NumberDialog(const NumberDialog&) = delete;
     NumberDialog& operator=(const NumberDialog&) = delete;
 
-    /// Shows the dialog with the caret behind @a text in the number's control.
+    /// Shows the dialog with @a text in the number's control and the caret behind it.
     void Show(const wxString& text = wxString());
 
-    /// The same again in a dialog that is on the screen already. Forgets what was counted.
+    /// Does the same in a dialog that is already shown, and resets the counters.
     void Restart(const wxString& text, long caret);
 
-    /// Types on the keyboard, one key after the other. ASCII only.
+    /// Types ASCII text on the keyboard, one key after the other.
     void Type(const std::string& characters);
 
-    /// Presses a key of the toolkit's code.
+    /// Presses a key with the given code of the toolkit.
     void Press(int keyCode, int modifiers = wxMOD_NONE);
 
-    /// Presses a key as xdotool names it, or by its number on the keyboard.
+    /// Presses a key that is given by its xdotool name or by its number on the keyboard.
     void PressRaw(const std::string& key);
 
     std::wstring Text() const { return number->GetValue().ToStdWstring(); }
@@ -89,7 +89,7 @@ private:
     int m_bellsBefore;
 };
 
-/// Turns the bells of all validators off for as long as it lives.
+/// Turns the bells of all validators off while the object exists.
 class SilentValidators
 {
 public:

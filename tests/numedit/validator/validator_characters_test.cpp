@@ -1,4 +1,4 @@
-// Characters beyond ASCII, from keyboards that have them.
+// Characters beyond ASCII, from keyboards that have keys for them.
 
 #include <fittings/numedit/num_validator.h>
 
@@ -12,7 +12,7 @@ namespace {
 
 using Codes = std::vector<int>;
 
-// Newer toolkits give it no key code.
+// Newer toolkits report no key code for the letter.
 TEST(LatinLetter, IsRefused)
 {
     const Layout french({"fr"}, kKey2, 0, "eacute");
@@ -47,7 +47,7 @@ protected:
         EXPECT_EQ(screen.keys.chars, Codes{0});
     }
 
-    // Gives the key its letter again at the end.
+    // The destructor restores the key's letter.
     Layout layout{{"us"}, kKeyA, 0, "a"};
 };
 
@@ -123,7 +123,7 @@ TEST_F(DeadAccent, OnALetterIsRefusedOnce)
     EXPECT_EQ(screen.BellsRung(), 1);
 }
 
-// The control gets both characters at once, and drops them together when one is refused.
+// The control gets both characters at once. If one is refused, both are dropped.
 TEST_F(DeadAccent, BeforeADigitIsRefusedWithTheDigit)
 {
     screen.PressRaw(std::to_string(kKey1));

@@ -1,4 +1,4 @@
-// The value between the host and the control, and a dialog that is asked to close.
+// The transfer of the value between the host and the control, and the check when a dialog closes.
 
 #include <fittings/numedit/num_validator.h>
 
@@ -117,7 +117,7 @@ TEST_F(Transfer, FromTheWindowLeavesTheValueForABadText)
     EXPECT_EQ(Bells(), bellsBefore);
 }
 
-// Of what may be typed on the way to a number, not all is one.
+// Not every text that may be typed on the way is a number.
 TEST_F(Transfer, FromTheWindowChecksTheCompleteNumber)
 {
     CNumberFormat format = FixedFormat();
@@ -264,7 +264,7 @@ TEST_F(Validation, OfATransferAloneLeavesTheFocus)
 class ModalDialog : public testing::Test
 {
 protected:
-    /// Shows the dialog, does something in it, and returns how it was closed; wxID_ABORT when it had to be.
+    /// Shows the dialog, calls @a act in it, and returns its result; wxID_ABORT if the test had to close it.
     int ShowModal(const std::function<void()>& act)
     {
         screen.dialog->CallAfter([this, act] {
@@ -278,7 +278,7 @@ protected:
 
     bool Closed() const { return !screen.dialog->IsShown(); }
 
-    /// Enter closes the dialog before the key is up again.
+    /// Enter closes the dialog before the key is released.
     void PressEnter()
     {
         wxUIActionSimulator keyboard;

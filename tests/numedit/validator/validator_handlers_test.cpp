@@ -1,4 +1,4 @@
-// The two handlers, given one event each.
+// Tests of the two handlers, with one event each.
 
 #include <fittings/numedit/num_validator.h>
 
@@ -25,7 +25,7 @@ wxKeyEvent Key(wxEventType type, long code, wchar_t unicode = 0)
     return event;
 }
 
-// A control that is asked for more than its text, where it says so.
+// A control whose caret and selection a test can set independently of its text.
 class OddTextCtrl : public wxTextCtrl
 {
 public:
@@ -64,7 +64,7 @@ protected:
         textEvents = 0;
     }
 
-    /// Whether the character is left to the control.
+    /// Returns whether the handler passes the character to the control.
     bool CharPasses(long code, wchar_t unicode = 0)
     {
         wxKeyEvent event = Key(wxEVT_CHAR, code, unicode);
@@ -98,7 +98,7 @@ class HandlerForCode : public Handlers, public testing::WithParamInterface<Code>
 {
 };
 
-// Nothing can be added to the text, so a code passes only if it is not checked.
+// The text is full, so a code passes only if the handler does not check it.
 TEST_P(HandlerForCode, ChecksCharactersOnly)
 {
     Start("12345,67", 8);
@@ -146,7 +146,7 @@ TEST_F(Handlers, JudgeTheUnicodeCharacterWhereThereIsNoCode)
     EXPECT_EQ(BellsRung(), 2);
 }
 
-// A text ends at its first zero, so what stands before it is judged.
+// The new text ends at the zero character, so the validator checks only the text before it.
 TEST_F(Handlers, JudgeWhatStandsBeforeAKeyWithoutAnyCharacter)
 {
     Start("1x", 1);
@@ -207,7 +207,7 @@ TEST_F(Handlers, TakeAsManyCharactersAwayAsAreSelected)
     EXPECT_FALSE(CharPasses(',')) << ",456";
     control->selection = "wxyz";
     EXPECT_TRUE(CharPasses(',')) << ",56";
-    // Characters, however many bytes they have.
+    // The selection is counted in characters, not in bytes.
     Start("12,45", 0);
     control->selection = L"\u20ac\u20ac";
     EXPECT_FALSE(CharPasses(',')) << ",,45";

@@ -1,4 +1,4 @@
-// The keypad's decimal key under real keyboard layouts.
+// The keypad's decimal key with real keyboard layouts.
 
 #include <fittings/numedit/num_validator.h>
 
@@ -143,7 +143,7 @@ TEST_F(Keypad, TypesDigits)
     EXPECT_EQ(screen.BellsRung(), 1);
 }
 
-// The key of the main keyboard is no keypad key, even when it types the same character.
+// The point of the main keyboard is not a keypad key, even if it types the same character.
 TEST_F(Keypad, IsNotTheMainKeyboardsPoint)
 {
     NumberDialog screen{FixedFormat(L',')};
@@ -175,7 +175,7 @@ TEST(KeypadWithoutNumLock, MovesTheCaret)
     EXPECT_EQ(screen.BellsRung(), 0);
 }
 
-// This layout gives the key a comma and another code, so it is a character like any other.
+// This layout gives the key a comma and another code, so the key counts as a normal character.
 class GermanKeypad : public testing::Test
 {
 protected:
@@ -223,7 +223,7 @@ TEST_F(Keypad, TypesTheLocalesPoint)
     EXPECT_EQ(screen.BellsRung(), 1);
 }
 
-// A French keypad types a point, and the format wants a comma.
+// The French keypad types a point, but the format needs a comma.
 TEST(FrenchKeypad, TypesTheFormatsComma)
 {
     const Layout french({"fr"}, kKey2, 0, "eacute");

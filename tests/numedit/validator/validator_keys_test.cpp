@@ -1,4 +1,4 @@
-// Keys that are no characters do their work whatever they leave behind.
+// Keys that type no character always work, whatever text they leave.
 
 #include <fittings/numedit/num_validator.h>
 
@@ -15,7 +15,7 @@
 
 namespace {
 
-// No digit can be added to any of these texts, nor to what the keys make of them.
+// No digit can be added to any of these texts, neither before nor after the key.
 struct EditingKey
 {
     const char* name;
@@ -123,7 +123,7 @@ TEST_F(DialogKeys, EscapeReachesCancel)
     EXPECT_EQ(screen.BellsRung(), 0);
 }
 
-// What is typed there is not the validator's.
+// The validator does not check the text of a combo box.
 TEST(KeysInAComboBox, TypeAnything)
 {
     NumberDialog screen{FixedFormat()};
@@ -151,8 +151,8 @@ protected:
         ASSERT_TRUE(wxTheClipboard->SetData(new wxTextDataObject("pasted")));
     }
 
-    // Where the program owns the clipboard, GTK 3.24.52 sets the same data source on Wayland again, and weston 16
-    // cancels it: the clipboard would then be empty. GTK 3.24.38 makes a new one.
+    // If the program owns the clipboard, GTK 3.24.52 sets the same data source on Wayland again, and weston 16 cancels
+    // it. The clipboard would then be empty. GTK 3.24.38 makes a new source.
     void TearDown() override
     {
         const wxClipboardLocker clipboard;
@@ -230,13 +230,13 @@ class Chords : public testing::TestWithParam<Chord>
 {
 };
 
-// With Control a letter is a control character, everything else is what it is without.
+// Control changes a letter to a control character. Other keys keep their code.
 TEST_P(Chords, AreCheckedByTheirCodeAlone)
 {
     NumberDialog screen{FixedFormat()};
     screen.Show("12345");
     screen.Press(GetParam().key, GetParam().modifiers);
-    // Newer toolkits report no character for Control and a digit, so there is none to refuse.
+    // Newer toolkits report no character for Control and a digit, so the validator has none to refuse.
     const bool isReported = std::string(GetParam().name) != "ControlDigit" || !screen.keys.chars.empty();
     EXPECT_EQ(screen.keys.chars, std::vector<int>(isReported ? 1 : 0, GetParam().code));
     EXPECT_EQ(screen.Text(), L"12345");

@@ -1,4 +1,4 @@
-// What a validator is made of, and what its copies keep.
+// The members of a validator, and which of them its copies keep.
 
 #include <fittings/numedit/num_validator.h>
 
@@ -40,7 +40,7 @@ TEST(Validator, OwnsItsFormat)
     ExpectUnusual(copy->GetFormat());
 }
 
-// As every assignment of a format: the template is taken over as far as its first zero.
+// As in every assignment of a format, the template is copied up to its first zero character.
 TEST(Validator, AssignsItsFormat)
 {
     CNumberFormat format(eFixedFormat);

@@ -1,5 +1,5 @@
-// A key that is refused changes nothing, as far as anybody can see: the text, what is selected in it, and what the
-// program hears of it. With the keys of a real keyboard.
+// A refused key of a real keyboard has no visible effect: the text and its selection stay, and the program gets no
+// event.
 
 #include <fittings/numedit/num_validator.h>
 
@@ -23,7 +23,7 @@ protected:
         screen.number->DiscardEdits();
     }
 
-    /// "12345" with some of it selected, and the caret at the beginning or the end of that.
+    /// Selects part of "12345", with the caret at the beginning or the end of the selection.
     void Select(long from, long to, bool caretAtEnd = false)
     {
         if (caretAtEnd) {
@@ -111,7 +111,7 @@ TEST_F(RefusedKey, LeavesTheSelectionToTheDeleteKey)
     EXPECT_EQ(screen.textEvents, 1);
 }
 
-// What an earlier key has deleted stays so.
+// Text that an earlier key has deleted stays deleted.
 TEST_F(RefusedKey, BringsNothingBackThatADeleteKeyHasTaken)
 {
     Select(1, 3);
@@ -151,7 +151,7 @@ TEST_F(RefusedKey, LeavesAModifiedTextModified)
     EXPECT_TRUE(screen.number->IsModified());
 }
 
-// The character that it would replace is deleted before it, too.
+// In overwrite mode, the key would first delete the character that it replaces.
 TEST_F(RefusedKey, LeavesTheTextWhereKeysReplaceWhatIsThere)
 {
     screen.Press(WXK_INSERT);
@@ -162,7 +162,7 @@ TEST_F(RefusedKey, LeavesTheTextWhereKeysReplaceWhatIsThere)
     EXPECT_EQ(screen.Text(), L"92345");
 }
 
-// Control, Shift and U begin a character by its number, 78 for "x", and the blank ends it.
+// Control+Shift+U begins the input of a character by its code, here 78 for "x". The space ends it.
 TEST_F(RefusedKey, OfAnInputMethodLeavesTheSelection)
 {
     Select(1, 3);

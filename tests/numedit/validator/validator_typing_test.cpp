@@ -1,4 +1,4 @@
-// What can be typed into a number's control, with the keys of a real keyboard.
+// Typing into a number's control with the keys of a real keyboard.
 
 #include <fittings/numedit/num_validator.h>
 
@@ -258,7 +258,7 @@ TEST_F(Typing, RingsAgainWhenValidatorsAreNoLongerSilent)
     EXPECT_EQ(screen.BellsRung(), 1);
 }
 
-// Such a control reports no characters, so none is refused either.
+// A read-only control reports no characters, so the validator refuses none.
 TEST(TypingIntoAReadOnlyControl, ChangesNothing)
 {
     NumberDialog screen(FixedFormat(), nullptr, wxTE_READONLY);
