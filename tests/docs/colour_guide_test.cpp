@@ -1,4 +1,4 @@
-// The code for colours that docs/guides shows, word for word.
+// The examples of docs/guides for colours, word for word.
 
 #include <gtest/gtest.h>
 

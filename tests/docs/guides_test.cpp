@@ -1,4 +1,4 @@
-// The code that docs/guides shows, word for word.
+// The examples of docs/guides, word for word.
 
 #include <algorithm>
 #include <charconv>
@@ -236,7 +236,7 @@ void UseLanguage(wxLanguage language)
     translations->AddCatalog("planets");
 }
 
-// A configuration of the toolkit's in memory, as the one in force, and a user data directory for the store.
+// A configuration of the toolkit in memory, set as the current one, and a user data directory for the store.
 class Guide : public testing::Test
 {
 protected:

@@ -1,5 +1,5 @@
-// The examples in the comments of the public headers, word for word, each in what it needs around it. Those that do
-// something by themselves are run.
+// The examples in the comments of the public headers, word for word, each in the code that it needs. The tests run
+// those that work alone.
 
 #include <cstdint>
 #include <memory>
@@ -33,7 +33,7 @@
 #include <tests/support/gui.h>
 #include <tests/support/temp_folder.h>
 
-// What the examples leave to the program.
+// The parts that the examples leave to the program.
 namespace header_examples {
 
 using Bytes = std::vector<unsigned char>;
@@ -345,7 +345,7 @@ TEST(HeaderExamples, LetAColourBeChosen)
     frame->Destroy();
 }
 
-// Ends a dialog as OK would.
+// Ends a dialog as OK does.
 class EndDialogs : public wxModalDialogHook
 {
 public:
@@ -382,7 +382,7 @@ TEST(HeaderExamples, ListTheColours)
     EXPECT_EQ(list->GetCount(), 40U);
 }
 
-// Dialogs and resources are built only: the tests of the samples use them.
+// Examples with dialogs or resources are only built here. The tests of the samples run such code.
 class DialogsFrame : public wxFrame
 {
 public:

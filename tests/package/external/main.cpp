@@ -1,4 +1,4 @@
-// Stores and reads back through the library, then prints what its own platform was given to keep.
+// Stores values and reads them back through the library, then prints what its own platform has stored.
 
 #include <cstdio>
 

@@ -1,4 +1,4 @@
-// The platform interfaces over a map. Nothing outlives the process.
+// Implements the platform interfaces with a map. Nothing is kept after the process ends.
 
 #include "memory_platform.h"
 
@@ -27,7 +27,7 @@ std::wstring Text(const wchar_t* text)
     return text ? text : L"";
 }
 
-// The texts of this host are ASCII.
+// This host's texts are ASCII.
 std::wstring Widened(const char* text)
 {
     return text ? std::wstring(text, text + std::char_traits<char>::length(text)) : std::wstring();
@@ -114,14 +114,14 @@ std::vector<CLocalRegStore::Entry> CLocalRegStore::GetEntries(const CIniFile& in
     return entries;
 }
 
-// Reading costs nothing here, so that the file always counts as another.
+// Reading is cheap here, so the file always counts as changed.
 bool CLocalRegStore::Refresh(CIniFile& ini, const wchar_t* path)
 {
     Load(ini, path);
     return true;
 }
 
-// A section is here for its keys alone.
+// A section exists only while it has keys.
 void CLocalRegStore::ApplyChanges(CIniFile& ini, const std::vector<Change>& changes)
 {
     for (const Change& change : changes) {
@@ -190,7 +190,7 @@ bool CLocalRegStore::WriteProfileInt(const wchar_t* section, const wchar_t* key,
     return WriteString(section, key, std::to_wstring(value).c_str());
 }
 
-// The default store is the file without a name.
+// The default store is the file with an empty name.
 std::vector<std::wstring> CLocalRegStore::GetSectionNames()
 {
     CIniFile defaultStore;

@@ -7,7 +7,7 @@
 
 #include <fittings/base/export.h>
 
-/// Every value that is stored, by file, section and key. The default store has no file name.
+/// All stored values, by file, section and key. The default store has an empty file name.
 using MemoryStore = std::map<std::tuple<std::wstring, std::wstring, std::wstring>, std::wstring>;
 
 FITTINGS_API const MemoryStore& GetMemoryStore();

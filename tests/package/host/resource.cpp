@@ -1,4 +1,4 @@
-// Makes the controls from the XML resource that the command line names, and prints a word of each.
+// Creates the controls from the XML resource given on the command line, and prints a word about each.
 
 #include <wx/app.h>
 #include <wx/crt.h>
