@@ -9,7 +9,7 @@
 
 namespace {
 
-// Of the display that the tests run on.
+// The width of the tests' display.
 constexpr int kScreenWidth = 1280;
 
 std::string FirstLine(const std::string& text)
@@ -17,15 +17,15 @@ std::string FirstLine(const std::string& text)
     return text.substr(0, text.find('\n'));
 }
 
-// A program may complain of the same thing again and again.
+// Cuts a long text, because a program may report the same problem many times.
 std::string Shortened(const std::string& text)
 {
     constexpr std::size_t kMost = 4000;
     return text.size() <= kMost ? text : text.substr(0, kMost) + " [and more]";
 }
 
-// Runs a program and returns what it prints. One that fails ends the test: it may be asked a thousand times over, and
-// would fail each time.
+// Runs a program and returns its output. A failure ends the test, because the caller may repeat the call a thousand
+// times and each would fail.
 std::string Run(const std::vector<std::string>& command)
 {
     const TempFolder folder;
@@ -56,7 +56,7 @@ SampleInUse::SampleInUse(const std::string& sample, const std::string& title, co
                  {"XDG_CACHE_HOME", person.data.Path()}},
                 m_folder / "errors")
 {
-    // Finding none counts as a failure of the search.
+    // xdotool also fails if it finds nothing.
     const std::vector<std::string> search = {"xdotool", "search", "--onlyvisible", "--name", "^" + title + "$"};
     const bool isOver = Becomes([&] {
         ChildProcess found(search, {}, m_folder / "search-errors");

@@ -14,13 +14,13 @@ struct ScreenPoint
     int y;
 };
 
-/// The home folder and the settings of the person in front of a sample, kept from one start to the next.
+/// A user's home folder and settings, which stay between two starts of a sample.
 struct Person
 {
     TempFolder home;
     TempFolder data;
 
-    /// The path of a file that the sample keeps, such as settings.ini.
+    /// Returns the path of a file that the sample stores, such as settings.ini.
     std::string PathOf(const std::string& sample, const std::string& file) const
     {
         return data / ("sample-" + sample + "/" + file);
@@ -31,12 +31,12 @@ struct Person
     }
 };
 
-/// One run of a sample, and the person who uses its window with mouse and keyboard. What cannot be done, as with a
-/// window that is gone, ends the test by an exception.
+/// One run of a sample, whose window the test uses by mouse and keyboard. An action that is impossible, for example on
+/// a closed window, throws and so ends the test.
 class SampleInUse
 {
 public:
-    /// Starts it, and returns when its window, found by its title, has the input focus.
+    /// Starts the sample, finds its window by the title, and returns when the window has the input focus.
     SampleInUse(const std::string& sample, const std::string& title, const Person& person);
 
     static void Press(const std::string& keys);
@@ -45,26 +45,26 @@ public:
     static void Click();
     static void Drag(ScreenPoint from, ScreenPoint to);
 
-    /// The middle of all that the screen shows in a colour, given as "#RRGGBB"; none when the colour is not there.
+    /// Returns the centre of all pixels of the screen with a colour, given as "#RRGGBB"; nothing if no pixel has it.
     static std::optional<ScreenPoint> Find(const std::string& colour);
 
     void Resize(int width, int height) const;
     void Move(int x, int y) const;
 
-    /// The window without its decorations on the screen: "x y width height".
+    /// Returns the screen geometry of the window without its decorations: "x y width height".
     std::string Geometry() const;
     bool IsMaximised() const;
     std::string Title() const;
     void WaitForTitle(const std::string& title) const;
 
-    /// The colour of a pixel of the window, counted from its top left corner, as "#RRGGBB".
+    /// Returns the colour of a pixel of the window as "#RRGGBB". The position is relative to its top left corner.
     std::string ColourAt(int x, int y) const;
 
-    /// Closes the window by the window manager, and expects the program to end well.
+    /// Closes the window through the window manager, and expects the program to succeed.
     void Close();
 
 private:
-    /// What the sample has said of errors, when that is long the beginning.
+    /// Returns the sample's error output, or the beginning of a long one.
     std::string Complaints() const;
 
     TempFolder m_folder;

@@ -1,4 +1,4 @@
-// Each sample as the person in front of it uses it.
+// Each sample, used as a user does.
 
 #include <filesystem>
 #include <functional>
@@ -126,7 +126,7 @@ TEST(PersistenceSample, ComesBackAsItWasLeft)
     EXPECT_NE(left.find("[Persistent_Options/Book/Planets/notebook]\nSelection=1\n"), std::string::npos) << left;
     EXPECT_NE(left.find("[Persistent_Options/List/Planets/listCtrl]\nWidths="), std::string::npos) << left;
 
-    // What it stores then is what it shows.
+    // It shows the restored state, and stores that again.
     SampleInUse planets("persistence", "Planets", person);
     EXPECT_TRUE(Becomes([&] { return planets.Geometry() == geometry; })) << planets.Geometry() << " not " << geometry;
     planets.Close();
@@ -161,11 +161,11 @@ TEST(TreeSample, OpensAgainWhatWasOpen)
     folders.Close();
 }
 
-// Colours of the palette, each of which the screen shows nowhere else.
+// Colours of the palette that appear nowhere else on the screen.
 constexpr const char* kOrange = "#FF6820";
 constexpr const char* kLime = "#32CD32";
 
-// Opens the drop-down and moves over one of its colours until the sheet shows it.
+// Opens the drop-down and moves the pointer over a colour until the sheet shows it.
 void PointAtColour(const SampleInUse& sheet, const char* colour)
 {
     SampleInUse::Press(kF4);
@@ -198,7 +198,7 @@ TEST(ColourSample, ShowsTheColourPointedAtAndKeepsTheOneClicked)
     sheet.Close();
 }
 
-// Types a text into the field that has the focus, and waits for what the window makes of it.
+// Types a text into the focused field, presses Return, and waits for the title.
 void EnterAndWait(const SampleInUse& sample, const std::string& text, const std::string& title)
 {
     SampleInUse::Type(text);
@@ -217,7 +217,7 @@ TEST(NumeditSample, TakesOnlyAnAmountAndShowsItInGroups)
     payments.Close();
 }
 
-// For a dialog that reads folders in the background, and loses the key that comes too early.
+// Repeats the key: a dialog that reads folders in the background loses a key that comes too early.
 void PressUntil(const std::string& key, const std::function<bool()>& isDone)
 {
     bool done = false;

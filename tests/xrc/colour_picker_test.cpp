@@ -1,4 +1,4 @@
-// Code for a wxColourPickerCtrl, compiled and run with that class and with wxColourCombo.
+// Code written for wxColourPickerCtrl, compiled and run with that class and with wxColourCombo.
 
 #include <string>
 #include <utility>
@@ -35,7 +35,7 @@ struct User<wxColourPickerCtrl>
     static constexpr const char* kName = "Picker";
     static constexpr const char* kResource = "picker";
 
-    // Does what GTK's dialog does at OK.
+    // Has the effect of OK in GTK's dialog.
     static wxColour Choose(wxColourPickerCtrl& control)
     {
         GtkWidget* const button = control.GetPickerCtrl()->GetHandle();

@@ -8,21 +8,21 @@
 #include <wx/panel.h>
 #include <wx/xrc/xmlres.h>
 
-/// Loads controls.xrc with the toolkit's handlers and ours, and makes a frame or a panel from it, which is destroyed
-/// with this object.
+/// Loads controls.xrc with the toolkit's handlers and ours, and creates a frame or a panel from it. The destructor
+/// destroys that window.
 class LoadedResource : public wxXmlResource
 {
 public:
     LoadedResource();
     ~LoadedResource() override;
 
-    /// The frame of that name.
+    /// Creates the frame with that name.
     wxFrame* MakeFrame(const std::string& name);
 
-    /// The panel of that name, in a frame of its own.
+    /// Creates the panel with that name in a new frame.
     wxPanel* MakePanel(const std::string& name);
 
-    /// The reported errors, one message a line.
+    /// Returns the reported errors, one message a line.
     std::vector<std::string> errors;
 
 protected:
@@ -32,7 +32,7 @@ private:
     wxFrame* m_frame = nullptr;
 };
 
-/// Not a control, though the resource names it as a subclass of one. Nobody owns the objects in `made`.
+/// This class is not a control, though the resource uses it as a subclass of one. Nobody owns the objects in `made`.
 class StrayObject : public wxObject
 {
 public:

@@ -11,7 +11,7 @@
 #include <tests/support/gui.h>
 #include <tests/xrc/loaded_resource.h>
 
-/// A host's class, made by its name in the resource.
+/// A host's class that the resource names.
 class OwnNumber : public wxNumberCtrl
 {
     wxDECLARE_DYNAMIC_CLASS(OwnNumber);

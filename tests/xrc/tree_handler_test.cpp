@@ -92,7 +92,7 @@ TEST(HandyTreeXmlHandler, MakesTheSubclassThatTheResourceNames)
 TEST(HandyTreeXmlHandler, ReportsWhatItCannotUnderstandAndTakesWhatIsUsual)
 {
     LoadedResource resource;
-    const ExpectAssertions ofTheToolkit;  // it asserts on the invalid bitmap and goes on
+    const ExpectAssertions ofTheToolkit;  // the toolkit asserts on the invalid bitmap and goes on
     wxPanel* const panel = resource.MakePanel("bad-tree");
     ASSERT_NE(panel, nullptr);
     EXPECT_THAT(resource.errors, Contains(HasSubstr("wxTR_NO_ROOTS")).Times(1));
