@@ -51,7 +51,7 @@ std::vector<Accessible> ReadAccessibles()
 {
     PumpPending();
     ChildProcess reader({READ_ACCESSIBLES, std::to_string(getpid())});
-    // This process answers the questions meanwhile.
+    // Meanwhile this process answers the reader's requests.
     EXPECT_TRUE(PumpUntil([&] { return !reader.IsRunning(); })) << "the reader waits";
     EXPECT_EQ(reader.ExitCode(), 0) << reader.Output();
     std::istringstream lines(reader.Output());

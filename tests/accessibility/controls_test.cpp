@@ -78,7 +78,7 @@ TEST_F(WhatAScreenReaderSays, IsTheColourOfACombo)
     EXPECT_EQ(said.label, "Line:");
     EXPECT_TRUE(said.showing && said.focusable);
 
-    // Of a colour that has no name the number, of one whose key ends with a blank no blank.
+    // A colour without a name is read by its number. A name has no blank at its end, even if its key has one.
     popup->SetInitialColour(wxColour(1, 2, 254));
     EXPECT_EQ(ReadFocused().name, "#0102FE");
     popup->SetInitialColour(wxColour(152, 251, 152));

@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Reads what is told of a dialog that opens, and cancels it.
+/// Reads the accessible description of a dialog that opens, and cancels the dialog.
 class CancellingReader : public wxModalDialogHook, public wxTimer
 {
 public:
@@ -30,7 +30,7 @@ protected:
 
     void Notify() override
     {
-        // A file dialog handles events before it is modal.
+        // A file dialog handles events before it becomes modal.
         if (!m_dialog->IsModal())
             return;
         Stop();

@@ -36,7 +36,7 @@ protected:
         EXPECT_TRUE(PumpUntil([&] { return frame->GetPages()->GetSelection() == GetParam(); }));
     }
 
-    /// What has the focus.
+    /// Returns the part that has the focus.
     Accessible FocusedPart() const
     {
         GtkWidget* const widget = gtk_window_get_focus(GTK_WINDOW(frame->GetHandle()));
@@ -50,7 +50,7 @@ protected:
         return focused;
     }
 
-    /// "check box Round"
+    /// Returns a text such as "check box Round".
     static std::string Said(const Accessible& accessible)
     {
         return accessible.role + " " + (accessible.label.empty() ? accessible.name : accessible.label);
@@ -75,8 +75,8 @@ TEST_P(ScreenReaderInTheGallery, HasANameForAllThatTakesTheFocus)
     EXPECT_THAT(said, IsSupersetOf(names[GetParam()]));
 }
 
-// What is in the tool bar has keys of its own, which its description tells. What is scrolled takes the focus itself,
-// and a choice has it in a part that is not told of.
+// Tool bar buttons have keys, which their descriptions name, so Tab skips them. In a scroll pane its content takes the
+// focus. In a choice, a part that is not accessible takes it.
 TEST_P(ScreenReaderInTheGallery, IsLedByTabToAllThatTakesTheFocus)
 {
     std::set<std::string> expected;

@@ -1,9 +1,9 @@
-// read-accessibles PID: prints what an assistive technology is told of what that process shows, as lines
+// read-accessibles PID: prints the accessible objects of a process, one a line:
 //
 //   <depth> <role>|<name>|<description>|<label>|<states>
 //
-// with the names of what labels the object, and the states among "showing", "sensitive", "focusable" and "focused". The
-// items of menus and tables are left out.
+// The label is the names of the objects that label it. The states are those of "showing", "sensitive", "focusable" and
+// "focused" that it has. The items of menus and tables are left out.
 
 #include <cstdio>
 #include <cstdlib>

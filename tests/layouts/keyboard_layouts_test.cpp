@@ -1,4 +1,4 @@
-// The same keys on the keyboards of four countries.
+// The same key presses with the keyboard layouts of four countries.
 
 #include <ostream>
 #include <string>
@@ -18,7 +18,7 @@
 
 namespace {
 
-/// A key by its number, with the modifier held: "shift+61".
+/// A key by its number, with a modifier: "shift+61".
 using Key = std::string;
 
 struct Keyboard
@@ -28,13 +28,13 @@ struct Keyboard
     unsigned key;
     unsigned level;
     const char* symbol;
-    /// The keys of the characters.
+    /// The keys that type the characters.
     Key point;
     Key comma;
     Key plus;
     Key minus;
     Key asterisk;
-    /// The code of the keypad's decimal key in a program, and the character that it types.
+    /// The key code that a program gets for the keypad's decimal key, and the character that the key types.
     int keypadCode;
     wchar_t keypadCharacter;
 
@@ -104,7 +104,7 @@ TEST_P(KeyboardLayouts, LeadThroughTheColourPopup)
         const char* key;
         int cell;
     };
-    // Down through "More Colours...", "Automatic" and the first cell: once around.
+    // The keys move down over "More Colours...", "Automatic" and the first cell, once around the popup.
     for (const Step& step : {Step{"116", -2}, Step{"116", -3}, Step{"116", 0}, Step{"114", 1}, Step{"116", 9},
                              Step{"113", 8}, Step{"111", 0}, Step{"114", 1}}) {
         Press(step.key);

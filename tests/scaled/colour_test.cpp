@@ -54,7 +54,8 @@ TEST_F(ColoursOnAScaledScreen, AreBelowTheirControl)
     on.combo->Dismiss();
 }
 
-// Across each cell, as corners are rounded. Letters are finer: the popup is not drawn small and made larger.
+// The test looks along the middle of each cell, because its corners are rounded. Letters are finer than the toolkit's
+// pixels, which shows that the popup is not enlarged.
 TEST_F(ColoursOnAScaledScreen, AreSharp)
 {
     Open();
@@ -80,7 +81,7 @@ TEST_F(ColoursOnAScaledScreen, AreChosenByAClickWhereTheyAreSeen)
     EXPECT_TRUE(PumpUntil([&] { return PixelAt(face.GetPosition() + wxPoint(20, face.height / 2)) == kRed; }));
 }
 
-// At half of its time the outline is at (37, 41), and 74 pixels wide and 81 high.
+// At half of its time the outline is at (37, 41) and 74 x 81 pixels.
 TEST_F(ColoursOnAScaledScreen, OpenWithAnOutlineThatGrowsWhereTheyWillBe)
 {
     on.combo->m_animDuration = 2000000;
@@ -97,7 +98,7 @@ TEST_F(ColoursOnAScaledScreen, OpenWithAnOutlineThatGrowsWhereTheyWillBe)
     on.combo->Dismiss();
 }
 
-// Beside all windows, where the animation draws on the screen itself: dots of a pixel of it each.
+// No window is below, so the animation draws on the screen itself. The pattern has dots of one screen pixel.
 TEST_F(ColoursOnAScaledScreen, LeaveTheScreenAsItWas)
 {
     RunChild({"xsetroot", "-mod", "3", "3"});

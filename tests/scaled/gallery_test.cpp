@@ -11,7 +11,7 @@ namespace {
 namespace fs = std::filesystem;
 using namespace gallery::simulated_user;
 
-/// Whether each of the image's columns is like one beside it: it had half as many, or fewer.
+/// Returns whether each column of the image equals a column beside it, as in an enlarged image.
 bool WasMadeLarger(const wxImage& image)
 {
     const auto areAlike = [&](int x, int other) {
@@ -31,7 +31,7 @@ bool WasMadeLarger(const wxImage& image)
 class GalleryOnAScaledScreen : public BrowserTest
 {
 protected:
-    /// The image left of an item's label.
+    /// Returns the rectangle of the image to the left of an item's label.
     wxRect ImageOf(const std::string& path)
     {
         const wxRect label = LabelRect(Tree(), Item(path));
@@ -45,7 +45,7 @@ TEST_F(GalleryOnAScaledScreen, HasSharpImagesInTheTree)
     fs::create_directory(temp / "b");
     Open(root);
     Tree().Expand(Tree().GetRootItem());
-    // Finer than the toolkit's pixels, and so not one that was made larger.
+    // The image has details finer than the toolkit's pixels, so it was not enlarged.
     EXPECT_TRUE(PumpUntil([&] { return !IsOfWholePixels(GrabScaled(ImageOf("a"))); }));
     for (int image = 0; image < Tree().GetImageList()->GetImageCount(); ++image)
         EXPECT_EQ(Tree().GetImageList()->GetBitmap(image).GetScaleFactor(), 2) << image;

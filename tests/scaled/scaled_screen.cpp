@@ -6,7 +6,7 @@
 
 namespace {
 
-/// The first whole one begins at @a left and @a top.
+/// The first whole pixel of the toolkit is at (@a left, @a top).
 bool IsOfWholePixels(const wxImage& scaled, int left, int top)
 {
     const unsigned char* const data = scaled.GetData();

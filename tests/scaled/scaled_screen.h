@@ -4,14 +4,14 @@
 #include <wx/gdicmn.h>
 #include <wx/image.h>
 
-/// What the screen shows there, two of its pixels in each direction for each of the toolkit's.
+/// Returns a part of the screen, with two screen pixels in each direction for each of the toolkit's pixels.
 wxImage GrabScaled(const wxRect& rect);
 
-/// The screen's pixel, as 0xRRGGBB, in the middle of that one of the toolkit's.
+/// Returns the screen pixel in the middle of one of the toolkit's pixels, as 0xRRGGBB.
 int PixelAt(const wxPoint& place);
 
-/// Whether each of the toolkit's pixels is one colour, wherever the first one begins: nothing is blurred, and nothing
-/// drawn finer.
+/// Returns whether each of the toolkit's pixels has one colour, at any offset of the first one. False for a blurred or
+/// finer image.
 bool IsOfWholePixels(const wxImage& scaled);
 
 #endif
