@@ -1,5 +1,5 @@
-// A home folder that cannot be written to: earlier settings are read, a write that fails breaks nothing else, and all
-// is stored again when the folder becomes writable.
+// A home folder that cannot be written: earlier settings are still read, a failed write does not break anything else,
+// and everything is stored again when the folder becomes writable.
 
 #include <cerrno>
 #include <cstdlib>
@@ -34,7 +34,7 @@ struct Trouble
     const char* name;
     void (*begin)();
     void (*end)();
-    int error;  ///< The error that writing gives there.
+    int error;  ///< The error of a write during the trouble.
 
     friend void PrintTo(const Trouble& trouble, std::ostream* stream) { *stream << trouble.name; }
 };
@@ -44,7 +44,7 @@ std::string DataFolder()
     return HomeFolder() + "/.local/share/fittings-test";
 }
 
-/// The contents of every file below the data folder, by its relative path.
+/// Returns the contents of every file in the data folder, by relative path.
 std::map<std::string, std::string> Files()
 {
     std::map<std::string, std::string> files;
@@ -65,7 +65,7 @@ protected:
         if (!own_home::IsThere())
             GTEST_SKIP() << "no right to mount a disk";
         EXPECT_EQ(std_file_paths::GetUserDataDir(), file_util_ex::ConvertFromUTF8W(DataFolder()));
-        // The settings of an application that was used before.
+        // Settings from an earlier run of the application.
         ASSERT_TRUE(CLocalRegStore::WriteString(L"Application", L"Before", L"kept"));
         ui_config_mgr::WriteConfigString(L"application.ini", L"Application", L"Before", L"kept too");
     }
@@ -91,7 +91,7 @@ protected:
         EXPECT_EQ(errno, GetParam().error);
     }
 
-    /// All files are as they were when the fault began.
+    /// Expects all files to be as they were before the fault.
     void ExpectAllKept() const
     {
         EXPECT_EQ(Files(), m_before);
@@ -234,7 +234,7 @@ TEST_P(BadHome, GivesTheSaveDialogTheLastFile)
     CQVFileDialogI::SetRegEntry("");
 }
 
-// In a program of its own with the same home folder.
+// A separate program with the same home folder.
 std::string Chosen(const std::string& startFolder)
 {
     DrivenDialog dialog({FOLDER_DIALOG_PROBE, DataFolder(), "reg", "Choose one", "Import"}, "Choose one");

@@ -1,4 +1,4 @@
-// The machine's clock is set while the program runs: every wait ends in time, and no change of a file is missed.
+// The system clock is set while the program runs: every wait ends in time, and no file change is missed.
 
 #include <chrono>
 #include <filesystem>
@@ -29,7 +29,7 @@ using Clock = std::chrono::steady_clock;
 constexpr long kHour = 3600;
 constexpr long kYear = 365 * 24 * kHour;
 
-/// The parameter is how far the clock jumps, in seconds.
+/// The parameter is the jump of the clock in seconds.
 class ClockJumps : public testing::TestWithParam<long>
 {
 protected:
@@ -64,7 +64,7 @@ TEST_P(ClockJumps, DoNotKeepTheColourPopup)
     EXPECT_FALSE(screen.combo->m_animTimer.IsRunning());
     screen.combo->Dismiss();
     EXPECT_TRUE(PumpUntil([&] { return !screen.combo->IsPopupShown(); }));
-    // The next wait takes as long as usual.
+    // The next wait takes its usual time.
     const auto again = Clock::now();
     EXPECT_TRUE(Opens(*screen.combo));
     EXPECT_GE(Clock::now() - again, std::chrono::milliseconds(390));
@@ -140,7 +140,7 @@ TEST_P(ClockJumps, DoNotDisturbATreeThatIsFilledWhileItIsLoaded)
 
 // --- Files -----------------------------------------------------------------------------------------------------------
 
-/// Sets the time of a file's last change to so many seconds from now.
+/// Sets the modification time of a file to @a seconds from now.
 void SetTime(const std::string& path, long seconds)
 {
     timespec now = {};
@@ -168,7 +168,7 @@ TEST_P(ClockJumps, HideNoChangeByAnotherProcess)
         clock.Jump(ahead);
         const std::wstring value = std::to_wstring(i);
         InChild([&] { EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", value.c_str())); });
-        // The timestamp of a clock that has jumped.
+        // The file gets the time of the changed clock.
         SetTime(path, 0);
         EXPECT_EQ(Stored(L"s", L"k"), value);
         EXPECT_EQ(Stored(L"s", L"k"), value);
@@ -178,7 +178,7 @@ TEST_P(ClockJumps, HideNoChangeByAnotherProcess)
     EXPECT_EQ(NamesIn(data.Path()), (std::vector<std::string>{"settings.ini", "settings.ini.lock"}));
 }
 
-// Overwrites the same file with as many bytes, and with the same time of the last change or that of the jumped clock.
+// Overwrites the file with the same number of bytes. The modification time is the old one or that of the changed clock.
 TEST_P(ClockJumps, HideNoChangeInPlace)
 {
     TempUserData data;
@@ -226,7 +226,7 @@ std::string NameOf(const testing::TestParamInfo<long>& info)
 INSTANTIATE_TEST_SUITE_P(, ClockJumps, testing::Values(-kYear, -1, 1, kYear), NameOf);
 INSTANTIATE_TEST_SUITE_P(, ClockJumpsByAnHour, testing::Values(-kHour, kHour), NameOf);
 
-// A temporary file from the future: its process may still be writing it.
+// A temporary file with a timestamp in the future: its process may still be writing it.
 TEST(AFileFromTheFuture, IsClearedAwayOnceItsTimeIsPast)
 {
     TempUserData data;

@@ -1,6 +1,6 @@
 // home_probe REGISTERED [store]: prints the user data directory and the folder "Samples" of the application's
-// documents, a line each, for a user whose home folder in the password database is REGISTERED, or who is not in it when
-// that is "none". With "store" it first stores a value, and ends with 1 when that fails.
+// documents, one a line. The user's home folder in the password database is REGISTERED; with "none" the user is not in
+// the database. With "store" it first stores a value, and exits with 1 if that fails.
 
 #include <cerrno>
 #include <cstdio>
@@ -29,7 +29,7 @@ int getpwuid_r(uid_t user, passwd* entry, char* texts, std::size_t size, passwd*
     *found = nullptr;
     if (g_registered == "none")
         return 0;
-    // As for a long entry: a caller with a small buffer has to ask again.
+    // Behaves as for a long entry: the caller has to ask again with a larger buffer.
     if (size < g_registered.size() + 3000)
         return ERANGE;
     std::strcpy(texts, g_registered.c_str());

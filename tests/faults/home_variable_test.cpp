@@ -1,4 +1,4 @@
-// A HOME that names no folder: nothing is stored in the current folder.
+// If HOME does not name a folder, nothing is stored in the current folder.
 
 #include <filesystem>
 #include <optional>
@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Runs a program with this HOME in @a folder, and returns what it prints.
+/// Runs the probe with this HOME in @a folder, and returns its output.
 std::string SeenIn(const std::string& folder, const std::optional<std::string>& home, const std::string& registered,
                    const std::string& more = "", const std::optional<std::string>& dataHome = {})
 {
@@ -60,7 +60,7 @@ TEST_P(HomeThatIsNoFolder, GivesWayUnderARelativeDataHomeToo)
     EXPECT_EQ(SeenIn(here.Path(), GetParam(), "/home/ann", "", "data"), Below("/home/ann"));
 }
 
-// The file that names the folder of documents is in the home folder, too.
+// The file that names the documents folder is in the home folder too, so it is not found.
 TEST_P(HomeThatIsNoFolder, HasNoDocuments)
 {
     const TempFolder here;

@@ -1,8 +1,8 @@
 #ifndef FITTINGS_TESTS_FAULTS_JUMPING_CLOCK_H_
 #define FITTINGS_TESTS_FAULTS_JUMPING_CLOCK_H_
 
-/// Sets this process's time of day so many seconds ahead of the true one, or behind it, as long as the object lives, as
-/// when somebody sets the machine's clock. The monotonic clock does not change.
+/// Sets this process's time of day ahead of the true time by a number of seconds, or behind it, while the object
+/// exists. It works like setting the system clock. The monotonic clock does not change.
 class JumpingClock
 {
 public:
@@ -11,7 +11,7 @@ public:
     JumpingClock(const JumpingClock&) = delete;
     JumpingClock& operator=(const JumpingClock&) = delete;
 
-    /// Sets another offset.
+    /// Sets a new offset.
     void Jump(long secondsAhead);
 };
 

@@ -19,14 +19,14 @@ std::string Home()
     return home ? home : "/nonexistent";
 }
 
-// Where the system has no cache of its fonts, each program makes one, which would fill the small disk.
+// If the system has no font cache, each program writes its own, which would fill the small disk.
 bool MountCaches()
 {
     const std::string caches = Home() + "/.cache";
     return mkdir(caches.c_str(), 0700) == 0 && MountDisk(caches);
 }
 
-// A process can leave its user namespace only while it has one thread.
+// A process can enter a new user namespace only while it has one thread, so this runs before main().
 const bool g_isThere = EnterOwnMounts() && MountSmallDisk(Home()) && MountCaches();
 
 }  // namespace

@@ -3,16 +3,16 @@
 
 #include <string>
 
-/// The home folder of this process and its children: from before main() on a disk of 64 KiB, where the system allows
-/// one. Without one these functions do nothing.
+/// Before main(), gives this process and its children a home folder on a disk of 64 KiB. If the system does not allow
+/// that, these functions do nothing.
 namespace own_home {
 
 bool IsThere();
 
-/// Makes the disk refuse every change, as a mount that is read only, or has become so after an error.
+/// Makes the disk refuse every change, like a mount that is read-only or became so after an error.
 void MakeReadOnly(bool isReadOnly);
 
-/// Fills the disk to the last byte.
+/// Fills the disk completely.
 void Fill(bool isFull);
 
 }  // namespace own_home
