@@ -1,4 +1,4 @@
-// Runs every benchmark beside its peer, in turns, and prints one table of the ratios of their medians.
+// Runs each benchmark in turns with its peer, and prints a table with the ratios of their medians.
 //
 //     fittings-bench [--json=FILE] [--benchmark_filter=REGEX] [other Google Benchmark flags]
 
@@ -153,12 +153,12 @@ public:
 
 int main(int argc, char** argv)
 {
-    // Otherwise it depends on what lies at the end of the heap whether each round gives its memory back to the system
-    // and gets it anew: one row took 6 ms or 9, without a change to the program.
+    // By default the state of the heap's end decides whether each round returns its memory to the system. This changed
+    // the time of one row from 6 ms to 9 ms, without a change to the program.
     mallopt(M_MMAP_THRESHOLD, 32 << 20);
     mallopt(M_TRIM_THRESHOLD, INT_MAX);
 
-    // The caller's arguments come last and win.
+    // The caller's arguments come last, so they override these.
     std::vector<char*> arguments{argv[0]};
     std::string defaults[] = {"--benchmark_repetitions=9", "--benchmark_enable_random_interleaving=true",
                               "--benchmark_report_aggregates_only=true", "--benchmark_min_time=0.05"};

@@ -1,12 +1,12 @@
 #ifndef FITTINGS_BENCH_BUDGETS_H_
 #define FITTINGS_BENCH_BUDGETS_H_
 
-/// A row of the table: the benchmark @a row is compared with the benchmark "<row>/peer".
+/// A row of the table. It compares the benchmark @a row with the benchmark "<row>/peer".
 struct Budget
 {
     const char* row;
     const char* peer;
-    double most;  ///< the budget: the largest allowed ratio of ours to the peer's
+    double most;  ///< the budget: the largest allowed ratio of our time to the peer's
 };
 
 constexpr Budget kBudgets[] = {
@@ -33,7 +33,7 @@ constexpr Budget kBudgets[] = {
     {"gallery/sum-usr", "du -s", 1.5},
 };
 
-/// A row whose time may exceed its peer's by no more than a fixed time.
+/// A row that may be slower than its peer by a fixed time only.
 struct Extra
 {
     const char* row;
@@ -45,7 +45,7 @@ constexpr Extra kExtras[] = {
     {"library/load", "dlopen of a library of the same size that does nothing", 1e6},
 };
 
-/// Cost must grow in proportion to size: compares the time for one item of @a large with that of @a small.
+/// The cost must grow in proportion to the size. Compares the time for one item of @a large with that of @a small.
 struct Growth
 {
     const char* large;

@@ -1,5 +1,5 @@
-// Painting the whole colour popup, compared with the same rectangles, lines and texts with pens and brushes made
-// beforehand.
+// Painting the whole colour popup, compared with painting the same rectangles, lines and texts with prepared pens and
+// brushes.
 
 #include <array>
 #include <cstddef>
@@ -25,7 +25,7 @@ class Popup
 public:
     Popup() : m_frame(new wxFrame(nullptr, wxID_ANY, "bench")), popup(*new wxColourPopup)
     {
-        // Otherwise "Automatic" would be the chosen cell.
+        // With these colours, "Automatic" is not the chosen cell.
         popup.SetDefaultColour(wxColour(1, 2, 3));
         popup.SetInitialColour(wxColour(4, 5, 6));
         popup.SetMoreColoursText("");
@@ -46,7 +46,7 @@ public:
     wxMemoryDC dc;
 };
 
-// Draws the popup as it is without a hot or chosen cell, with everything made once.
+// Draws the popup without a hot or chosen cell, with prepared objects.
 class Primitives
 {
 public:
@@ -71,7 +71,7 @@ public:
     }
 
 private:
-    // The display of the benchmarks has no width of an edge.
+    // The benchmarks' display does not report the width of an edge.
     static constexpr int kMargin = 2;
 
     struct Cell
@@ -172,7 +172,7 @@ wxImage PictureOf(Popup& shown)
     return shown.bitmap.ConvertToImage();
 }
 
-// True when both draw exactly the same.
+// Returns whether both draw exactly the same.
 bool AreAlike()
 {
     Popup ours;

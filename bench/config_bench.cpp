@@ -1,4 +1,4 @@
-// wxStoreConfig over a named file beside wxFileConfig over one with the same entries.
+// Compares wxStoreConfig on a named file with wxFileConfig on a file with the same entries.
 
 #include <cstdlib>
 #include <filesystem>
@@ -18,7 +18,7 @@ namespace {
 
 constexpr int kGroups = 20;
 
-/// A temporary folder with a file of so many entries for each of the two.
+/// A temporary folder with one file for each of the two, with the given number of entries.
 class Entries
 {
 public:
@@ -90,7 +90,7 @@ void Expect(benchmark::State& state, bool holds)
         state.SkipWithError("a wrong result");
 }
 
-// Until the first value is read.
+// Measures from opening the file to reading the first value.
 void Load(benchmark::State& state, Open open, int count)
 {
     const Entries entries(count);
@@ -117,7 +117,8 @@ void Write(benchmark::State& state, Open open, int count)
     config->Flush();
 }
 
-// All entries have changed. Without a budget: the peer neither reads what others have stored nor waits for the disk.
+// All entries have changed. This row has no budget, because the peer neither reads the changes of others nor waits for
+// the disk.
 void Flush(benchmark::State& state, Open open, int count)
 {
     const Entries entries(count);
@@ -131,7 +132,7 @@ void Flush(benchmark::State& state, Open open, int count)
     }
 }
 
-// All that a program does with its settings in one run.
+// Everything that a program does with its settings in one run.
 void All(benchmark::State& state, Open open, int count)
 {
     const Entries entries(count);

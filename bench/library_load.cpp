@@ -1,6 +1,6 @@
-// library-load LIBRARY: prints how many nanoseconds its dlopen() takes in a program that has loaded the toolkit.
+// library-load LIBRARY: prints the nanoseconds of its dlopen() in a program that has loaded the toolkit.
 //
-// One process for each measurement: a library is loaded only once in a process.
+// Each measurement needs its own process, because a process loads a library only once.
 
 #include <chrono>
 #include <cstdio>

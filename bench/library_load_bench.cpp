@@ -1,4 +1,4 @@
-// Loading the library, compared with loading one of the same size that does nothing, each time in a new process.
+// Loading the library, compared with loading an empty library of the same size, each time in a new process.
 
 #include <benchmark/benchmark.h>
 

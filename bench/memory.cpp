@@ -1,5 +1,5 @@
-// fittings-memory: the peak memory for a hundred thousand items while the library works with them, compared with that
-// of a peer.
+// fittings-memory: the peak memory of the library while it works with a hundred thousand items, compared with that of a
+// peer.
 
 #include <cstdio>
 #include <cstdlib>
@@ -26,7 +26,7 @@ namespace {
 
 constexpr int kItems = 100'000;
 
-/// A line of /proc/self/status, in bytes.
+/// Returns a line of /proc/self/status in bytes.
 double Status(const std::string& name)
 {
     std::ifstream status("/proc/self/status");
@@ -38,7 +38,7 @@ double Status(const std::string& name)
     return kilobytes * 1024;
 }
 
-/// Returns the peak of the memory that @a work takes in addition, divided by the number of items.
+/// Returns the peak of the additional memory during @a work, divided by the number of items.
 double PeakOf(const std::function<void()>& work)
 {
     malloc_trim(0);

@@ -1,5 +1,5 @@
-# cmake -D LIBRARY=FILE -D SOURCE=FILE -P same_size_library.cmake: writes the source of a library that is as large and
-# does nothing.
+# cmake -D LIBRARY=FILE -D SOURCE=FILE -P same_size_library.cmake: writes the source of an empty library that has the
+# size of LIBRARY.
 file(SIZE ${LIBRARY} size)
 file(CONFIGURE OUTPUT ${SOURCE} CONTENT [[
 // As large as the library it is held against, without anything in it.

@@ -1,4 +1,4 @@
-// The settings store, compared with the bare cost of its parts.
+// The settings store, compared with the cost of its steps alone.
 
 #include <cstdlib>
 #include <filesystem>
@@ -20,7 +20,7 @@ namespace {
 
 constexpr int kSections = 20;
 
-/// A temporary user data directory with settings of so many keys.
+/// A temporary user data directory whose settings have the given number of keys.
 class Settings
 {
 public:
@@ -231,7 +231,7 @@ BENCHMARK(GetWarm)->Name("store/get-warm");
 BENCHMARK(GetWarmPeer)->Name("store/get-warm/peer");
 BENCHMARK(FileGet)->Name("store/file-get");
 BENCHMARK(FileGetPeer)->Name("store/file-get/peer");
-// These four mostly wait for the disk.
+// These four benchmarks mostly wait for the disk.
 BENCHMARK(FileSet)->Name("store/file-set")->UseRealTime();
 BENCHMARK(FileSetPeer)->Name("store/file-set/peer")->UseRealTime();
 BENCHMARK(CloseWindow)->Name("store/close-window")->UseRealTime();

@@ -1,4 +1,4 @@
-// The cost of a worker's thread and of its events, compared with the toolkit's thread and events used directly.
+// The cost of a worker's thread and of its events, compared with direct use of the toolkit's thread and events.
 
 #include <atomic>
 
@@ -22,7 +22,7 @@ wxThread::ExitCode Result()
     return &result;
 }
 
-// Makes a text of each event, as the least that an application does with one, and leaves the event loop with the last.
+// Makes a text of each event, which is the least that an application does, and leaves the event loop after the last.
 class Receiver : public wxEvtHandler
 {
 public:
@@ -84,8 +84,8 @@ private:
     const int m_count;
 };
 
-// What an event costs from the worker to the end of its handler. First all are posted and then all delivered: when both
-// go on at once, the toolkit's locks decide by chance how often one thread sleeps for the other.
+// Measures an event from the worker to the end of its handler. All events are posted before the first is delivered.
+// Otherwise the toolkit's locks decide by chance how often one thread waits for the other.
 template <typename Worker>
 void Post(benchmark::State& state, int count)
 {
@@ -122,7 +122,7 @@ struct End
     wxThread::ExitCode exitCode = nullptr;
 };
 
-// Counts the threads that are not yet over: the program must not end before they are, or the toolkit crashes.
+// Counts the threads that still run. The program must not end before them, or the toolkit crashes.
 class Alive
 {
 public:

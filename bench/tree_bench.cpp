@@ -1,4 +1,4 @@
-// Saving and restoring the expanded items of a large tree, compared with the least work in the toolkit for the same.
+// Saving and restoring the expanded items of a large tree, compared with the minimal work in the toolkit.
 
 #include <ctime>
 #include <memory>
@@ -15,7 +15,7 @@
 
 namespace {
 
-// A root with @a count children in a shown frame, each @a step-th of them expanded or to be expanded.
+// A root with @a count children in a shown frame. Every @a step-th child is expanded, or will be.
 class Siblings
 {
 public:
@@ -41,7 +41,8 @@ public:
             m_tree->Expand(item);
     }
 
-    // Not visible: the toolkit lays out all visible items again after each change, frozen or not.
+    // Collapses while nothing is visible, because the toolkit lays out all visible items after each change, even when
+    // frozen.
     void Collapse()
     {
         const wxWindowUpdateLocker frozen(m_tree);
@@ -98,7 +99,7 @@ void CopyEveryLabel(benchmark::State& state, int count)
     }
 }
 
-// The processor's time in seconds. Nothing here waits, so that this is the time on an idle machine.
+// Returns the processor time in seconds. The work does not wait, so an idle machine takes this time.
 template <typename Work>
 double ProcessorTime(Work work)
 {
@@ -107,8 +108,7 @@ double ProcessorTime(Work work)
     return static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
 }
 
-// Loading and its peer take turns on the same tree: wherever its items lie and whatever else the machine does, both
-// meet the same.
+// Loading and its peer take turns on the same tree, so that the memory layout and the machine's load affect both alike.
 void Load(benchmark::State& state, int count)
 {
     Siblings siblings(count, 10);
