@@ -1,5 +1,5 @@
-// What a persistent tree remembers, by path: any text is read as what can have been written or as none, restoring it
-// asserts nothing, and what is saved afterwards brings a tree of the same items to the same state.
+// The paths that a persistent tree stores. Any text is read like a saved one or rejected. Restoring it causes no
+// assertion, and the text that is saved afterwards gives the same state to a tree with the same items.
 
 #include <cstdint>
 #include <numeric>
@@ -23,7 +23,7 @@ constexpr long kStyles[] = {wxTR_DEFAULT_STYLE, wxTR_DEFAULT_STYLE | wxTR_MULTIP
                             wxTR_DEFAULT_STYLE | wxTR_HIDE_ROOT};
 constexpr std::size_t kMostItems = 40;
 
-/// Where each item but the root goes, and what it is called.
+/// The parent and the label of each item except the root.
 struct Item
 {
     std::size_t parent;
@@ -39,7 +39,7 @@ std::vector<Item> ConsumeItems(FuzzedDataProvider& bytes)
     return items;
 }
 
-/// What is expanded and selected, by whole paths. What is first in view counts only for trees that are shown.
+/// Returns the full paths of expanded and selected items. The first visible item counts only in trees that are shown.
 std::vector<std::wstring> Marked(const std::wstring& text)
 {
     std::vector<std::wstring> marked;
@@ -57,7 +57,8 @@ std::vector<std::wstring> Marked(const std::wstring& text)
     return marked;
 }
 
-/// Shows a new tree what is stored, and returns what it stores then. False in @a isRestored when that counted as none.
+/// Restores the text in a new tree, and returns what the tree saves then. @a isRestored is false if the text was
+/// rejected.
 std::wstring SavedAfterRestoring(const std::wstring& text, const std::vector<Item>& items, long style, bool& isRestored)
 {
     Check(CLocalRegStore::WriteString("Persistent_Options/Tree/tree", "Items", text), "it can be stored");

@@ -17,8 +17,8 @@ struct NumberShape
     std::uint64_t maxDecimals = std::numeric_limits<std::uint64_t>::max();
 };
 
-/// Whether @a text begins a number of that shape or is one: the automaton of
-/// `[+-]? [0-9]* (P [0-9]*)?` and, behind at least one digit or point, `[eE]? [+-]? [0-9]*`.
+/// Returns whether @a text is a number of that shape, or the beginning of one. The automaton accepts `[+-]? [0-9]* (P
+/// [0-9]*)?` and, behind at least one digit or point, `[eE]? [+-]? [0-9]*`.
 bool HasShape(const std::wstring& text, const NumberShape& shape);
 
 /// True when nothing else in a number can be mistaken for this point.

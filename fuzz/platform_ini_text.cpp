@@ -1,4 +1,4 @@
-// The grammar of INI files: what GKeyFile reads is read as the same, and nothing more of it.
+// The grammar of INI files: our reader finds everything that GKeyFile finds, with the same values, and nothing else.
 
 #include <cstdint>
 #include <memory>
@@ -38,7 +38,7 @@ std::vector<std::string> Taken(gchar** names)
     return taken;
 }
 
-// Of a name that means the same as another one, one alone is found.
+// If two names mean the same, only one of them is found.
 bool IsOwnName(const std::string& name)
 {
     return fittings::EncodeName(fittings::DecodeName(name)) == name;
@@ -59,8 +59,7 @@ std::optional<std::string> ValueOf(const KeyFile& file, const std::string& secti
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string bytes(reinterpret_cast<const char*>(data), size);
-    // GKeyFile ends a line at a null character, and steps over some bytes that are not UTF-8. The validation finds
-    // both.
+    // GKeyFile ends a line at a null character and skips some bytes that are not UTF-8. The validation rejects both.
     const KeyFile file = g_utf8_validate_len(bytes.data(), bytes.size(), nullptr) ? Load(bytes) : nullptr;
     if (!file)
         return 0;
