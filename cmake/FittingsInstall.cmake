@@ -1,8 +1,8 @@
-# What is installed, in three components: what a program needs to run (fittings_runtime), what a host needs to build
-# (fittings_development), and the gallery (fittings_gallery).
+# The three installed components: the files that a program needs to run (fittings_runtime), those that a host needs to
+# build (fittings_development), and the gallery (fittings_gallery).
 include(CMakePackageConfigHelpers)
 
-# gzip_into FILE INPUT: without a name and a time in it, so that the same input gives the same file.
+# gzip_into FILE INPUT: stores no name and no time, so that the same input gives the same file.
 function(gzip_into file input)
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${input})
   execute_process(COMMAND gzip -9nc ${input} OUTPUT_FILE ${file} COMMAND_ERROR_IS_FATAL ANY)
@@ -25,7 +25,7 @@ if(TARGET fittings-gallery)
 endif()
 
 if(FITTINGS_PLATFORM STREQUAL external)
-  # A library built on a host's own platform is part of that host: it goes where the host's programs find it, and only
+  # A library on a host's own platform is part of that host. It is installed where the host's programs find it, and only
   # the host's build links to it.
   install(TARGETS fittings LIBRARY COMPONENT fittings_runtime NAMELINK_SKIP)
   if(TARGET fittings-xrc)
@@ -39,7 +39,7 @@ install(TARGETS fittings fittings-platform fittings-platform-headers EXPORT fitt
   FILE_SET HEADERS COMPONENT fittings_development
   FILE_SET generated COMPONENT fittings_development)
 
-# For CMake hosts. Until 1.0 a minor version may change the interface.
+# Files for CMake hosts. Until 1.0 a minor version may change the interface.
 set(config_folder ${CMAKE_INSTALL_LIBDIR}/cmake/fittings)
 install(EXPORT fittings-targets NAMESPACE fittings:: DESTINATION ${config_folder} COMPONENT fittings_development)
 if(TARGET fittings-xrc)
@@ -56,7 +56,7 @@ install(FILES
   ${PROJECT_BINARY_DIR}/fittings-config-version.cmake
   DESTINATION ${config_folder} COMPONENT fittings_development)
 
-# For all others. The toolkit has no .pc file to require, so its flags stand in ours.
+# Files for other hosts. The toolkit has no .pc file, so ours contains its flags.
 get_target_property(pc_include_folders fittings::wx INTERFACE_INCLUDE_DIRECTORIES)
 get_target_property(pc_definitions fittings::wx INTERFACE_COMPILE_DEFINITIONS)
 get_target_property(pc_options fittings::wx INTERFACE_COMPILE_OPTIONS)

@@ -1,8 +1,9 @@
-# The toolkit as imported targets, fittings::wx and, with its resources, fittings::wx-xrc: CMake's own finder gives
-# variables only. What is not found gets no target. Used by the build and, installed, by fittings-config.cmake.
+# The toolkit as imported targets: fittings::wx and, with its resources, fittings::wx-xrc. CMake's own finder gives only
+# variables. A target exists only if its components are found. The build uses this file, and so does the installed
+# fittings-config.cmake.
 
 # fittings_import_wx(target component...)
-# A function, so that the wxWidgets_... variables of a host that found other components stay as they are.
+# This is a function, so that it keeps the wxWidgets_... variables of a host that found other components.
 function(fittings_import_wx target)
   if(TARGET ${target})
     return()
@@ -11,9 +12,9 @@ function(fittings_import_wx target)
   if(NOT wxWidgets_FOUND)
     return()
   endif()
-  # Global: a host that adds this library by add_subdirectory() links to it from its own folders.
+  # The targets are global, because a host that uses add_subdirectory() links to the library from its own folders.
   add_library(${target} INTERFACE IMPORTED GLOBAL)
-  # The finder repeats -pthread among the flags; the directories and definitions say the rest.
+  # The finder repeats -pthread among the flags; the directories and definitions contain the rest.
   target_include_directories(${target} SYSTEM INTERFACE ${wxWidgets_INCLUDE_DIRS})
   target_compile_definitions(${target} INTERFACE ${wxWidgets_DEFINITIONS})
   target_compile_options(${target} INTERFACE -pthread)

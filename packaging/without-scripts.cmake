@@ -1,5 +1,5 @@
-# After CPack: takes the scripts away that it gives every package of shared libraries. All they do is to call ldconfig,
-# which the package's trigger lets dpkg do once for all packages together.
+# Runs after CPack. Removes the scripts that CPack adds to packages with shared libraries. They only call ldconfig, and
+# the package's trigger makes dpkg do that once for all packages.
 foreach(package IN LISTS CPACK_PACKAGE_FILES)
   set(folder ${package}-unpacked)
   execute_process(COMMAND dpkg-deb --raw-extract ${package} ${folder} COMMAND_ERROR_IS_FATAL ANY)
