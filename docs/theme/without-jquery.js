@@ -1,4 +1,4 @@
-// The scripts of the theme call these three functions of jQuery. Newer versions of Doxygen do not bring it along.
+// The theme's scripts call these three functions of jQuery, which newer versions of Doxygen do not include.
 if (typeof $ === "undefined") {
   const whenReady = (action) => document.readyState === "loading" ?
     document.addEventListener("DOMContentLoaded", () => action()) : action();
