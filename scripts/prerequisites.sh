@@ -1,5 +1,5 @@
-# What the scripts share: the packages that each job needs, and how a preset is built.
-# Sourced with the project's folder as the current one. "one|other" is the first of them that the release has.
+# The parts that several scripts share: the packages for each job, and how a preset is built. Source it in the project's
+# folder. "one|other" means the first of the packages that the release has.
 
 build_packages=(g++ cmake ninja-build pkg-config gettext libwxgtk3.2-dev libglib2.0-dev libgtk-3-dev)
 display_packages=(xvfb xauth openbox x11-utils x11-xkb-utils librsvg2-common 'adwaita-icon-theme-legacy|adwaita-icon-theme')
@@ -25,7 +25,7 @@ is_installed() {
   dpkg-query -W -f '${Status}\n' "$1" 2>/dev/null | grep -q '^install ok installed'
 }
 
-# first_known NAME|...: of several names the first one that is known, and the last one where none is.
+# first_known NAME|...: prints the first of these names that the release has, or the last one if it has none.
 first_known() {
   local name
   for name in ${1//|/ }; do
@@ -36,7 +36,7 @@ first_known() {
   done
 }
 
-# find_missing PACKAGE...: sets missing to those that are not installed.
+# find_missing PACKAGE...: puts the packages that are not installed into the array missing.
 find_missing() {
   local package name
   missing=()
@@ -46,7 +46,8 @@ find_missing() {
   done
 }
 
-# install_missing PACKAGE...: says which of them are not installed yet, and installs those, with sudo when not root.
+# install_missing PACKAGE...: names the packages that are not installed, and installs them, with sudo for an ordinary
+# user.
 install_missing() {
   local missing
   find_missing "$@"
@@ -65,7 +66,8 @@ install_missing() {
   [ "$(id -u)" -eq 0 ] || sudo=" with sudo"
   echo "Installing these packages$sudo, which may take some minutes: ${missing[*]}"
   log=$(mktemp)
-  # The index may be missing or old: refresh it only when the first attempt fails. It may know other names.
+  # The package index may be missing or old, so refresh it if the first attempt fails. Then the first known name may
+  # differ.
   if ! apt_install >"$log" 2>&1 &&
     ! { as_root apt-get update && find_missing "$@" && apt_install; } >"$log" 2>&1; then
     tail -n 5 "$log" >&2
@@ -76,12 +78,12 @@ install_missing() {
   rm -f "$log"
 }
 
-# Reads install_missing's variables.
+# Uses the variables of install_missing.
 apt_install() {
   as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${missing[@]}"
 }
 
-# configure_and_build PRESET TARGET...: into build/PRESET; no target means all of them.
+# configure_and_build PRESET TARGET...: builds the targets, or all of them if none is given, in build/PRESET.
 configure_and_build() {
   local preset=$1 target targets=()
   shift
