@@ -34,7 +34,7 @@ bool TakeSign(std::string_view& text)
     return negative;
 }
 
-/// The value of an exponent's digits.
+/// Returns the value of an exponent's digits.
 std::int64_t ExponentOf(std::string_view digits)
 {
     std::int64_t value = 0;
@@ -43,7 +43,7 @@ std::int64_t ExponentOf(std::string_view digits)
     return value;
 }
 
-/// Adds one to the last digit; a carry beyond the first one puts a 1 before it.
+/// Adds one to the last digit. A carry out of the first digit puts a 1 before it.
 bool Increment(std::string& digits)
 {
     for (auto at = digits.rbegin(); at != digits.rend(); ++at) {
@@ -57,14 +57,13 @@ bool Increment(std::string& digits)
     return true;
 }
 
-/// How many of a number's digits stand before the place of so many decimals, or behind the last one where positive
-/// zeros are to be added.
+/// Returns how many digits a number has with @a decimals decimals. It may be more than the number has, or less than 0.
 std::int64_t DigitsKept(const Decimal& number, std::int64_t decimals)
 {
     return number.point + std::clamp(decimals, -kMostExponent, kMostExponent);
 }
 
-/// The digits between the places @a top and @a bottom, counted from the decimal point to the left.
+/// Returns the digits between the places @a top and @a bottom, which are counted from the decimal point to the left.
 std::string DigitsBetween(const Decimal& number, std::int64_t top, std::int64_t bottom)
 {
     std::string result(static_cast<std::size_t>(top - bottom), '0');
@@ -77,7 +76,7 @@ std::int64_t LowestPlace(const Decimal& number)
     return number.point - static_cast<std::int64_t>(number.digits.size());
 }
 
-/// The first digits less the second ones, which are as many and not more.
+/// Subtracts @a less from @a digits. Both have the same length, and @a less is not the larger one.
 std::string Difference(std::string digits, const std::string& less)
 {
     int borrowed = 0;
@@ -213,7 +212,7 @@ std::optional<Decimal> Sum(const Decimal& left, const Decimal& right)
 {
     if (left.IsZero() || right.IsZero())
         return left.IsZero() ? right : left;
-    // One place more at the top, for a carry.
+    // Add one place at the top for a carry.
     const std::int64_t top = std::max(left.point, right.point) + 1;
     const std::int64_t bottom = std::min(LowestPlace(left), LowestPlace(right));
     if (top - bottom > kMostDigits)

@@ -14,7 +14,8 @@ namespace {
 
 using fittings::Decimal;
 
-/// The decimal text of a field, empty where it is; nothing where the field has no number that is accepted.
+/// Returns the decimal text of a field; empty for an empty field. Returns nothing if the field has no acceptable
+/// number.
 std::optional<std::string> DecimalIn(wxWindow* window, const CNumberFormat& format)
 {
     if (const auto* const control = dynamic_cast<const wxNumberCtrl*>(window))
@@ -31,7 +32,7 @@ std::optional<std::string> DecimalIn(wxWindow* window, const CNumberFormat& form
     return fittings::DecimalTextOf(*plain, format.m_chDecimalPoint);
 }
 
-/// What to show for a variable; nothing where it is no number.
+/// Returns the text to show for a variable; nothing if it has no number.
 /// @{
 std::optional<std::string> TextOf(const std::monostate&)
 {
@@ -56,7 +57,7 @@ std::optional<std::string> TextOf(const wxString* value)
 }
 /// @}
 
-/// Puts a number into a variable, if it is there, fits and is to be stored.
+/// Checks whether a number fits a variable, and stores it there on request.
 /// @{
 bool Take(const std::string&, std::monostate, bool)
 {
@@ -113,8 +114,7 @@ wxDecimalValidator::wxDecimalValidator(wxString* value, const CNumberFormat& for
 {
 }
 
-// The window is each copy's own.
-// NOLINTNEXTLINE(bugprone-copy-constructor-init)
+// The window is not copied: each validator is set on its own window. NOLINTNEXTLINE(bugprone-copy-constructor-init)
 wxDecimalValidator::wxDecimalValidator(const wxDecimalValidator& other)
     : wxValidator(), m_format(other.m_format), m_variable(other.m_variable)
 {

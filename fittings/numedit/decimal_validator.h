@@ -12,45 +12,47 @@
 
 class wxTextEntry;
 
-/// Moves a number between a field and a variable of the program: a `double`, a `std::int64_t`, or a wxString with its
-/// decimal digits, of any length and with a dot as the point.
+/// Transfers a number between a field and a variable of the program. The variable is a `double`, a `std::int64_t`, or a
+/// wxString with decimal digits of any length and a dot as the point.
 ///
 /// @code
 /// new wxNumberCtrl(&dialog, wxID_ANY, wxNumberCtrl::FromLocale(), wxDefaultPosition, wxDefaultSize, 0,
 ///                  wxDecimalValidator(&m_price));
 /// @endcode
 ///
-/// On a wxNumberCtrl, it goes by that control's format and bounds. On any other wxTextEntry, a wxComboBox for example,
-/// by its own: there it reads groups and the template too, and leaves typing alone.
+/// On a wxNumberCtrl, it uses that control's format and bounds. On any other wxTextEntry, such as a wxComboBox, it uses
+/// its own format. There it also reads groups and the template, and does not check typing.
 ///
-/// An empty field has no number. It is accepted, and moves as the empty text, where the variable is a wxString or there
-/// is none; a `double` or an integer cannot say so, and the field is refused. A number that its variable cannot hold
-/// exactly, as an integer one with a fraction, is refused; a `double` takes the nearest.
+/// An empty field has no number. With a wxString it is accepted and transferred as the empty text; without a variable
+/// it is accepted too. With a `double` or an integer it is refused, because these cannot express that there is no
+/// number. An integer also refuses a number with a fraction or one that does not fit. A `double` takes the nearest
+/// value.
 ///
-/// A derived class overrides Clone(). The toolkit's class queries take this class for a wxValidator: use dynamic_cast.
-/// GUI thread only.
+/// A derived class must override Clone(). The toolkit's class information does not distinguish this class from
+/// wxValidator: use dynamic_cast. GUI thread only.
 class FITTINGS_API wxDecimalValidator : public wxValidator
 {
 public:
-    /// Checks the field and moves nothing. The format is for other fields than a wxNumberCtrl.
+    /// Checks the field and transfers nothing. The format applies to fields other than a wxNumberCtrl.
     wxDecimalValidator();
 
-    /// Moves a `double`. The variable is not owned and outlives the validator and each window that it was set on.
+    /// Transfers a `double`. The variable is not owned and must outlive the validator and each window that it was set
+    /// on.
     explicit wxDecimalValidator(double* value);
 
-    /// Moves a `double`, by @a format on other fields than a wxNumberCtrl.
+    /// Transfers a `double`. @a format applies to fields other than a wxNumberCtrl.
     wxDecimalValidator(double* value, const CNumberFormat& format);
 
-    /// Moves a whole number.
+    /// Transfers a whole number.
     explicit wxDecimalValidator(std::int64_t* value);
 
-    /// Moves a whole number, by @a format on other fields than a wxNumberCtrl.
+    /// Transfers a whole number. @a format applies to fields other than a wxNumberCtrl.
     wxDecimalValidator(std::int64_t* value, const CNumberFormat& format);
 
-    /// Moves decimal text.
+    /// Transfers decimal text.
     explicit wxDecimalValidator(wxString* value);
 
-    /// Moves decimal text, by @a format on other fields than a wxNumberCtrl.
+    /// Transfers decimal text. @a format applies to fields other than a wxNumberCtrl.
     wxDecimalValidator(wxString* value, const CNumberFormat& format);
 
     /// Copies the format and the pointer to the variable.
@@ -61,15 +63,15 @@ public:
     /// Returns a new validator made by the copy constructor; the caller owns it.
     wxObject* Clone() const override;
 
-    /// Whether the field has a number that the format accepts and the variable can hold; it takes the focus where not.
-    /// A disabled field is always valid. False on a window that is no wxTextEntry.
+    /// Whether the field has a number that the format accepts and the variable can hold. If not, the field gets the
+    /// focus. A disabled field is always valid. False on a window that is not a wxTextEntry.
     bool Validate(wxWindow* parent) override;
 
-    /// Shows the variable's number. False where it is none, or the window is no wxTextEntry.
+    /// Shows the variable's number. False if the variable has no number or the window is not a wxTextEntry.
     bool TransferToWindow() override;
 
-    /// Gives the variable the field's number. False, and it is left alone, where Validate() would refuse the field,
-    /// were it enabled.
+    /// Stores the field's number in the variable. Returns false and leaves the variable alone if Validate() would
+    /// refuse the field when it is enabled.
     bool TransferFromWindow() override;
 
 private:

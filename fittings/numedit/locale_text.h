@@ -6,13 +6,14 @@
 #include <wx/strconv.h>
 #include <wx/string.h>
 
-// The texts of localeconv() as wide ones. Private to the library.
+// Converts the texts of localeconv() to wide text. Private to the library.
 
 namespace fittings {
 
-/// Widens a text of localeconv(); empty when the toolkit's current conversion cannot.
+/// Converts a text of localeconv() to wide text. Returns an empty text when the toolkit's current conversion fails.
 ///
-/// A converting wxString costs more than checking a number, and nearly every locale's text is one ASCII character.
+/// Nearly every text is one ASCII character, which needs no conversion. A conversion by wxString costs more than
+/// checking a number.
 inline std::wstring FromLocale(const char* text)
 {
     if (text[0] == '\0')

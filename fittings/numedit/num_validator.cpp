@@ -10,7 +10,7 @@
 
 namespace {
 
-// A character that has no key code of its own comes with code 0 and its Unicode value.
+// A character without a key code comes with code 0 and its Unicode value.
 bool IsCharacter(int keyCode)
 {
     if (keyCode == WXK_DELETE || keyCode < WXK_SPACE)
@@ -18,7 +18,8 @@ bool IsCharacter(int keyCode)
     return keyCode <= WXK_START;
 }
 
-// What the control will hold if it takes the character. erase() also rejects an insertion point beyond the text.
+// Returns the text that the control would hold with the character. erase() throws if the insertion point is beyond the
+// text.
 std::wstring TextWith(wchar_t character, const wxTextCtrl& control)
 {
     std::wstring text = control.GetValue().ToStdWstring();
@@ -28,7 +29,7 @@ std::wstring TextWith(wchar_t character, const wxTextCtrl& control)
     return text;
 }
 
-// Says in a debug build what a program is to mend: on another control the number is lost without a word.
+// Asserts that the validator is on a text control: on any other control the number would be lost silently.
 bool HasTextControl(const wxNumValidator& validator)
 {
     const bool hasTextControl = validator.CheckValidator();
@@ -48,7 +49,7 @@ wxNumValidator::wxNumValidator(const CNumberFormat& format, wxString* value) : m
     m_format = format;
 }
 
-// A copy is set on a window of its own, and follows the keys of that window.
+// The window and the state of the keypad key are not copied: each validator is set on its own window.
 // NOLINTNEXTLINE(bugprone-copy-constructor-init)
 wxNumValidator::wxNumValidator(const wxNumValidator& other)
     : wxValidator(), m_format(eLocaleFormat), m_pString(other.m_pString)
@@ -127,7 +128,7 @@ void wxNumValidator::OnChar(wxKeyEvent& event)
             wxBell();
         return;
     }
-    // What the layout made of the keypad's key is dropped in favour of the format's own point.
+    // Replace the layout's character of the keypad key by the format's point.
     if (m_bNumpadDecimal)
         control->WriteText(wxString(character));
     else

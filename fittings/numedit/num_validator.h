@@ -8,7 +8,7 @@
 #include <fittings/base/export.h>
 #include <fittings/numedit/number_format.h>
 
-/// Lets only a number be typed into a wxTextCtrl, checks it, and carries it to and from the host's text.
+/// Lets the user type only a number into a wxTextCtrl, checks it, and transfers it to and from the host's text.
 ///
 /// @code
 /// wxString price = "9.95";
@@ -17,39 +17,39 @@
 ///     Buy(price);
 /// @endcode
 ///
-/// While the user types, a character that would leave something else than a number or the beginning of one is refused
-/// with a bell. Bounds are checked at each character too: with a lowest value of 10, "1" is refused, and so "12" cannot
-/// be typed. CNumberFormat says with which bounds every number within them can be. A refused key changes nothing: what
-/// was selected is there again and selected, and no event tells of it. Keys that are no characters (Backspace, Delete,
-/// Tab, Enter, arrows, Control with a letter from A to Z) are never refused, whatever text they leave behind. The text
-/// is never formatted: CNumberEditUtils::FormatControlText() does.
+/// While the user types, a character is refused with a bell if the text would no longer be a number or the beginning of
+/// one. Bounds are checked at each character too: with a lowest value of 10, "1" is refused, so "12" cannot be typed.
+/// CNumberFormat lists the bounds with which every number within them can be typed. A refused key changes nothing: the
+/// selected text stays selected, and no event is sent. Keys that are not characters (Backspace, Delete, Tab, Enter,
+/// arrows, Control with a letter from A to Z) are never refused, whatever text results. The validator never formats the
+/// text; CNumberEditUtils::FormatControlText() does that.
 ///
-/// A pasted or dropped text, what an input method brings in without a key of the control's, and what the program sets
-/// go in unchecked. Validate() and TransferFromWindow() see to it that no dialog ends with a text that the format does
-/// not accept.
+/// Pasted or dropped text, text that an input method inserts without a key event, and text that the program sets are
+/// not checked on the way in. Validate() and TransferFromWindow() check them, so that no dialog ends with a text that
+/// the format does not accept.
 ///
-/// They accept what CNumberEditUtils::ValidateString() accepts, and so the beginning of a number, too: the empty text,
-/// "-", "+", "." where decimals are accepted, "1." and "1e-". A program that needs a value looks whether the text has
-/// one, by wxString::ToCDouble() for example.
+/// They accept what CNumberEditUtils::ValidateString() accepts, so also the beginning of a number: the empty text, "-",
+/// "+", "." if decimals are accepted, "1." and "1e-". A program that needs a value must check for one, for example with
+/// wxString::ToCDouble().
 ///
-/// The keypad's decimal key types the format's decimal point, whatever the keyboard layout would make of it, where the
-/// key is reported as WXK_NUMPAD_DECIMAL. Where the layout gives the key another code (the German one, for example,
-/// WXK_NUMPAD_SEPARATOR), it types the layout's own character, which is judged like any other.
+/// If the keypad's decimal key is reported as WXK_NUMPAD_DECIMAL, it types the format's decimal point and not the
+/// layout's character. If the layout gives the key another code, such as WXK_NUMPAD_SEPARATOR in the German layout, it
+/// types the layout's character, which is checked like any other.
 ///
-/// wxNumberCtrl can what this validator cannot: it takes the beginning of each number within any bounds, judges what is
-/// pasted, formats, steps, and gives a `double`. wxDecimalValidator works on every wxTextEntry.
+/// wxNumberCtrl does more than this validator: it accepts the beginning of each number within any bounds, checks pasted
+/// text, formats, steps, and returns a `double`. wxDecimalValidator works on every wxTextEntry.
 ///
-/// A derived class overrides Clone(), or the control keeps a wxNumValidator. The toolkit's class queries take this
-/// class for a wxValidator: use dynamic_cast. The host may set another validator on the control while this one takes a
-/// key.
+/// A derived class must override Clone(); otherwise the control gets a wxNumValidator. The toolkit's class information
+/// does not distinguish this class from wxValidator: use dynamic_cast. The host may set another validator on the
+/// control while this one handles a key.
 ///
-/// For single-line wxTextCtrl controls. On any other window, a wxComboBox too, Validate() and both transfers assert and
-/// return false, and typing is left alone. GUI thread only.
+/// For single-line wxTextCtrl controls. On any other window, also on a wxComboBox, Validate() and both transfers assert
+/// and return false, and typing is not checked. GUI thread only.
 class FITTINGS_API wxNumValidator : public wxValidator
 {
 public:
-    /// Copies @a format. @a value is not owned and must outlive the validator and each control that it was set on; with
-    /// a null one nothing is transferred.
+    /// Copies @a format. @a value is not owned and must outlive the validator and each control that it was set on. If
+    /// it is null, nothing is transferred.
     wxNumValidator(const CNumberFormat& format, wxString* value);
 
     /// Copies the format and the pointer to the value, but neither the window nor the state of the keypad key.
@@ -60,42 +60,43 @@ public:
     /// Returns a new validator made by the copy constructor; the caller owns it. wxWindow::SetValidator() calls this.
     wxObject* Clone() const override;
 
-    /// The validator's own copy of the format that it was made with.
+    /// Returns the validator's own copy of its format.
     const CNumberFormat& GetFormat() const;
 
     /// Whether the validator is set on a wxTextCtrl.
     bool CheckValidator() const;
 
-    /// Whether the format accepts the whole text, as a number or as the beginning of one, the empty text, "-" and "."
-    /// among these; the control takes the focus when it does not.
+    /// Whether the format accepts the whole text as a number or as the beginning of one, such as the empty text, "-"
+    /// and ".". If not, the control gets the focus.
     ///
     /// A disabled control is always valid. Shows no message and rings no bell. @a parent is not used.
     bool Validate(wxWindow* parent) override;
 
-    /// Puts the host's text into the control as it is, neither checked nor formatted. The control sends its wxEVT_TEXT.
+    /// Puts the host's text into the control without checking or formatting it. The control sends wxEVT_TEXT.
     ///
-    /// With a null value does nothing and returns true; otherwise returns CheckValidator().
+    /// With a null value, it does nothing and returns true. Otherwise it returns CheckValidator().
     bool TransferToWindow() override;
 
-    /// Copies the control's text to the host's if the format accepts it; if not, leaves the host's text and returns
-    /// false.
+    /// Copies the control's text to the host's text if the format accepts it. Otherwise leaves the host's text and
+    /// returns false.
     ///
-    /// Unlike Validate() checks a disabled control too. With a null value does nothing and returns true.
+    /// Unlike Validate(), it checks a disabled control too. With a null value, it does nothing and returns true.
     bool TransferFromWindow() override;
 
-    /// Refuses a character that would not leave a number or the beginning of one, with a bell unless
-    /// wxValidator::IsSilent(), and puts back what the control has deleted for it. Bound to wxEVT_CHAR.
+    /// Refuses a character if the text would no longer be a number or the beginning of one. It rings the bell unless
+    /// wxValidator::IsSilent(), and restores the selection that the control has deleted for the character. Bound to
+    /// wxEVT_CHAR.
     ///
-    /// Checked are key codes 32 to 300 except WXK_DELETE, and characters known by their Unicode value alone, whatever
-    /// the modifiers: Alt with a letter that neither menu nor label takes is refused too. A selection counts as
-    /// beginning at the insertion point.
+    /// It checks key codes 32 to 300 except WXK_DELETE, and characters that have only a Unicode value. Modifiers do not
+    /// matter: Alt with a letter is refused too if no menu or label takes it. A selection counts as beginning at the
+    /// insertion point.
     ///
     /// @throws std::out_of_range  The control, or a class derived from it, says that its insertion point lies beyond
     /// the
     ///                            text.
     void OnChar(wxKeyEvent& event);
 
-    /// Notes whether the key is the keypad's decimal key, for the characters that follow. Bound to wxEVT_KEY_DOWN.
+    /// Records whether the key is the keypad's decimal key, for the characters that follow. Bound to wxEVT_KEY_DOWN.
     void OnKeyDown(wxKeyEvent& event);
 
 protected:

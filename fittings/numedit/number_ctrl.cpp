@@ -29,7 +29,7 @@ wxEND_EVENT_TABLE()
 
 namespace {
 
-/// The locale that the user has chosen for numbers.
+/// Returns the locale that the user has chosen for numbers.
 wxUILocale NumbersLocale()
 {
     for (const char* const name : {"LC_ALL", "LC_NUMERIC"}) {
@@ -48,8 +48,7 @@ wchar_t FirstCharacter(const wxString& text)
     return text.empty() ? L'\0' : static_cast<wchar_t>(text[0].GetValue());
 }
 
-/// A bound as a text says it; nothing in the first where it is no number, nothing in the second where there is no
-/// bound.
+/// Reads a bound. The outer optional is empty if the text is not a number, the inner one if there is no bound.
 std::optional<std::optional<Decimal>> ParsedBound(const wxString& text)
 {
     if (text.empty())
@@ -78,7 +77,7 @@ bool wxNumberCtrl::Create(wxWindow* parent, wxWindowID id, const CNumberFormat& 
     if (!wxTextCtrl::Create(parent, id, wxString(), pos, size, style & ~wxTE_MULTILINE, validator, name))
         return false;
     m_field = std::make_unique<NumberField>(format);
-    // The data of its handlers, by which they are told from others.
+    // The user data that identifies the toolkit's own signal handlers.
     wxTextEntry* const toolkit = this;
     m_field->entry = std::make_unique<NumberEntry>(
         GTK_ENTRY(m_widget), toolkit,
@@ -87,7 +86,7 @@ bool wxNumberCtrl::Create(wxWindow* parent, wxWindowID id, const CNumberFormat& 
             if (!wxValidator::IsSilent())
                 wxBell();
         });
-    // A text control leaves the wheel to its parent.
+    // By default, a text control leaves the wheel to its parent.
     gtk_widget_add_events(m_widget, GDK_SCROLL_MASK);
     if (!GetValidator())
         SetValidator(wxDecimalValidator());
@@ -246,7 +245,7 @@ int wxNumberCtrl::GTKIMFilterKeypress(GdkEventKey* event) const
 
 void wxNumberCtrl::GTKOnTextChanged()
 {
-    // A handler may end the window.
+    // A handler may destroy the window.
     const wxWeakRef<wxWindow> self(this);
     if (m_field)
         TellProblem();
@@ -293,7 +292,8 @@ void wxNumberCtrl::OnSetFocus(wxFocusEvent& event)
     event.Skip();
     if (!m_field || m_field->showsPlain)
         return;
-    // GTK looks up the place of a click before it gives the focus, and puts the caret there afterwards.
+    // On a click, GTK finds the place of the caret before it sets the focus, and moves the caret there afterwards.
+    // Change the text only after that.
     GdkEvent* const present = gtk_get_current_event();
     const bool clicked = present && present->type == GDK_BUTTON_PRESS;
     if (present)
@@ -387,7 +387,7 @@ void wxNumberCtrl::ShowFormatted()
     ShowText(m_field->shown, m_field->mapped);
 }
 
-/// Changes what the text looks like, not what it says: without an event, and without making it modified.
+/// Shows the number in another form. No event is sent, and the modified state does not change.
 void wxNumberCtrl::ShowText(const std::wstring& text, const std::pair<long, long>& selection)
 {
     if (wxTextCtrl::DoGetValue() == text)
@@ -401,7 +401,7 @@ void wxNumberCtrl::ShowText(const std::wstring& text, const std::pair<long, long
     SetSelection(selection.first, selection.second);
 }
 
-/// Puts a number in, for the program or as a user's step.
+/// Sets the number, for the program or for a step of the user.
 void wxNumberCtrl::SetPlain(const std::wstring& plain, bool byUser)
 {
     const wxWeakRef<wxWindow> self(this);
@@ -446,7 +446,7 @@ void wxNumberCtrl::TellNumber()
     HandleWindowEvent(event);
 }
 
-/// Shows what is wrong with the text, or that nothing is.
+/// Shows the problem of the text, or removes the sign of an earlier one.
 void wxNumberCtrl::TellProblem()
 {
     const wxString problem = GetProblem();
@@ -454,7 +454,7 @@ void wxNumberCtrl::TellProblem()
         return;
     GtkStyleContext* const style = gtk_widget_get_style_context(m_widget);
     AtkObject* const accessible = gtk_widget_get_accessible(m_widget);
-    // What the program has set meanwhile stays.
+    // Keep a tooltip or a description that the program has set meanwhile.
     const bool hasOurTip = !m_field->problem.empty() && GetToolTipText() == m_field->problem;
     const bool hasOurDescription = !m_field->problem.empty() && accessible->description &&
                                    wxString::FromUTF8(accessible->description) == m_field->problem;

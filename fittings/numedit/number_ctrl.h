@@ -16,19 +16,19 @@
 /// @file
 /// A text field for one number: wxNumberCtrl and its event.
 
-/// Sent by a wxNumberCtrl, besides wxEVT_TEXT and after it, when its number has become another one, or the field has
-/// got or lost a number. GetString() is wxNumberCtrl::GetDecimal(). Not sent where the text alone has changed: 1.5 and
-/// 1.50 are the same number.
+/// A wxNumberCtrl sends this after wxEVT_TEXT when its number has changed, or when the field has got or lost a number.
+/// GetString() is wxNumberCtrl::GetDecimal(). It is not sent if only the text has changed: 1.5 and 1.50 are the same
+/// number.
 extern const FITTINGS_API wxEventTypeTag<wxCommandEvent> wxEVT_NUMBER_CHANGED;
 
-/// The name of a wxNumberCtrl that is given none.
+/// The default name of a wxNumberCtrl.
 #define wxNumberCtrlNameStr "numberCtrl"
 
 namespace fittings {
 class NumberField;
 }
 
-/// A wxTextCtrl for one number, of any length, with the look of a CNumberFormat and within its bounds.
+/// A wxTextCtrl for one number of any length. A CNumberFormat sets the look of the number and its bounds.
 ///
 /// @code
 /// auto* const weight = new wxNumberCtrl(this, wxID_ANY, wxNumberCtrl::FromLocale(3));
@@ -37,10 +37,10 @@ class NumberField;
 /// weight->Bind(wxEVT_NUMBER_CHANGED, [this](wxCommandEvent&) { ShowWeight(); });
 /// @endcode
 ///
-/// With the focus the field shows the number as it is typed, without it as CNumberEditUtils::FormatControlText() does:
-/// `1234.5` and `1,234.50 kg`. What comes in by keyboard, input method, clipboard or mouse is taken where the field
-/// then holds a number within the bounds or the beginning of one, and refused whole otherwise, with a bell unless
-/// wxValidator::IsSilent(). A refusal changes nothing: what was selected stays so.
+/// With the focus, the field shows the number as it is typed, such as `1234.5`. Without the focus, it shows the number
+/// as CNumberEditUtils::FormatControlText() does, such as `1,234.50 kg`. Input by keyboard, input method, clipboard or
+/// mouse is accepted if the field then holds a number within the bounds or the beginning of one. Otherwise all of the
+/// input is refused, with a bell unless wxValidator::IsSilent(). A refusal changes nothing: the selection stays.
 ///
 /// | Input | What it does |
 /// | --- | --- |
@@ -50,23 +50,25 @@ class NumberField;
 /// | Up and Down, the wheel | step by SetIncrement(), held to the bounds |
 /// | Page Up and Page Down | step ten times as far |
 ///
-/// Deleting is never refused, and neither is what the program sets. A text that is no number within the bounds is
-/// shown as such: in the theme's colour for errors, with the reason as tooltip and as accessible description, in place
-/// of the program's own. The validator refuses it. It is never changed by the control. An empty field has no number,
-/// which is no error.
+/// Deleting is never refused, and neither is a text that the program sets. A text that is not a number within the
+/// bounds is shown in the theme's colour for errors. The reason replaces the program's tooltip and accessible
+/// description meanwhile. The validator refuses such a text, but the control never changes it. An empty field has no
+/// number, which is not an error.
 ///
-/// All else is a text control's: SetValue() takes any text, and GetValue() returns what is shown. SetNumber() and
-/// SetDecimal() send no event.
+/// Everything else works as in a text control: SetValue() takes any text, and GetValue() returns the shown text.
+/// SetNumber() and SetDecimal() send no event.
 ///
-/// A handler for wxEVT_SET_FOCUS or wxEVT_KILL_FOCUS that does not skip the event leaves the text as it is shown. For
-/// single-line fields: wxTE_MULTILINE has no effect. The format's point and separator are no digits. GUI thread only.
+/// If a handler for wxEVT_SET_FOCUS or wxEVT_KILL_FOCUS does not skip the event, the shown text does not change. For
+/// single-line fields: wxTE_MULTILINE has no effect. The format's point and separator must not be digits. GUI thread
+/// only.
 class FITTINGS_API wxNumberCtrl : public wxTextCtrl
 {
 public:
-    /// To be followed by Create().
+    /// Makes the object; Create() makes the control.
     wxNumberCtrl();
 
-    /// An empty field. Without a @a validator it gets one that refuses a text that is no number within the bounds.
+    /// Makes an empty field. Without a @a validator, it gets one that refuses a text that is not a number within the
+    /// bounds.
     explicit wxNumberCtrl(wxWindow* parent, wxWindowID id = wxID_ANY, const CNumberFormat& format = FromLocale(),
                           const wxPoint& pos = wxDefaultPosition, const wxSize& size = wxDefaultSize, long style = 0,
                           const wxValidator& validator = wxDefaultValidator,
@@ -74,26 +76,26 @@ public:
 
     ~wxNumberCtrl() override;
 
-    /// Makes the window of a control that was made without a parent, as that constructor does.
+    /// Makes the control as the constructor with a parent does, for an object of the default constructor.
     bool Create(wxWindow* parent, wxWindowID id = wxID_ANY, const CNumberFormat& format = FromLocale(),
                 const wxPoint& pos = wxDefaultPosition, const wxSize& size = wxDefaultSize, long style = 0,
                 const wxValidator& validator = wxDefaultValidator, const wxString& name = wxNumberCtrlNameStr);
 
-    /// A format with the point and the groups that the user's settings have for numbers, whatever the process's locale
-    /// is, and @a decimals decimals, which are shown filled with zeros.
+    /// Returns a format with @a decimals decimals, filled with zeros. The point and the groups follow the user's
+    /// settings for numbers, whatever the process's locale is.
     static CNumberFormat FromLocale(std::uint64_t decimals);
 
-    /// The same with two decimals.
+    /// Returns the same format with two decimals.
     static CNumberFormat FromLocale();
 
-    /// The control's own copy of the format.
+    /// Returns the control's own copy of the format.
     const CNumberFormat& GetFormat() const;
 
-    /// Shows the number in another format, and takes its bounds. The number stays.
+    /// Sets another format with its bounds, and shows the number in it. The number does not change.
     void SetFormat(const CNumberFormat& format);
 
-    /// Shows the shortest decimal number that is read as @a value. False, and nothing is changed, where it is infinite
-    /// or no number.
+    /// Shows the shortest decimal number that reads as @a value. Returns false and changes nothing for an infinity and
+    /// NaN.
     ///
     /// Digits beyond the format's decimals stay until the user changes the text.
     bool SetNumber(double value);
@@ -105,42 +107,43 @@ public:
         return SetDecimal(wxString(std::to_string(value)));
     }
 
-    /// Shows a number of any length, with a dot as its point. False, and nothing is changed, where @a text is no
-    /// number; the empty text empties the field.
+    /// Shows a number of any length, with a dot as its point. The empty text empties the field. Returns false and
+    /// changes nothing if @a text is not a number.
     bool SetDecimal(const wxString& text);
 
-    /// The number as the nearest double. False, and @a value is left alone, where the field has no number or one that
-    /// would be infinite. The number may be out of bounds: see IsAcceptable().
+    /// Stores the number in @a value as the nearest double. Returns false and leaves @a value alone if the field has no
+    /// number or the double would be infinite. The number may be out of bounds: see IsAcceptable().
     bool GetNumber(double* value) const;
 
-    /// The number as a whole one. False, and @a value is left alone, where the field has none, one with a fraction or
-    /// one that does not fit.
+    /// Stores the number in @a value as an integer. Returns false and leaves @a value alone if the field has no number,
+    /// or if the number has a fraction or does not fit.
     bool GetNumber(std::int64_t* value) const;
 
-    /// The number with all its digits and a dot as its point; empty where the field has none.
+    /// Returns the number with all its digits and a dot as its point; empty if the field has no number.
     wxString GetDecimal() const;
 
     /// Whether the field is empty or has a number within the bounds.
     bool IsAcceptable() const;
 
-    /// Why the field is not acceptable, in the user's language; empty where it is.
+    /// Returns why the field is not acceptable, in the user's language; empty if it is acceptable.
     wxString GetProblem() const;
 
-    /// Replaces the bounds by those, of any length and with a dot as the point; an empty one is none. False, and
-    /// nothing is changed, where one is no number or the lowest is above the highest.
+    /// Sets the bounds, which are numbers of any length with a dot as the point. An empty text means no bound. Returns
+    /// false and changes nothing if one is not a number or @a min is above @a max.
     bool SetRange(const wxString& min, const wxString& max);
 
-    /// Replaces the bounds by the shortest decimal numbers that are read as those. An infinite one is none.
+    /// Sets the bounds to the shortest decimal numbers that read as @a min and @a max. An infinite value means no
+    /// bound.
     bool SetRange(double min, double max);
 
-    /// How far Up, Down and the wheel step; 1 unless set. False, and nothing is changed, unless it is a number above 0
-    /// with no more decimals than the format has.
+    /// Sets how far Up, Down and the wheel step; 1 at first. Returns false and changes nothing unless @a increment is a
+    /// number above 0 with no more decimals than the format has.
     bool SetIncrement(const wxString& increment);
 
-    /// How far Up, Down and the wheel step, as the shortest decimal number that is read as @a increment.
+    /// Sets how far Up, Down and the wheel step, to the shortest decimal number that reads as @a increment.
     bool SetIncrement(double increment);
 
-    /// IsAcceptable(), and what the validator says.
+    /// Whether IsAcceptable() is true and the validator accepts the field.
     bool Validate() override;
 
     /// @cond

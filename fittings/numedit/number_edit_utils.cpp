@@ -20,7 +20,7 @@ std::wstring LocalePoint()
 
 constexpr std::uint64_t kMostPadding = 1000000;
 
-// What iswdigit() answers in every locale of the C library, without a call for each digit.
+// Gives the same result as iswdigit() in every locale of the C library, without a call for each digit.
 bool IsDigit(wchar_t c)
 {
     return c >= L'0' && c <= L'9';
@@ -36,7 +36,7 @@ bool IsExponentLetter(wchar_t c)
     return c == L'e' || c == L'E';
 }
 
-/// Behind the digits that @a text begins with.
+/// Returns the end of the digits that @a text begins with.
 const wchar_t* AfterDigits(const wchar_t* text)
 {
     while (IsDigit(*text))
@@ -44,10 +44,10 @@ const wchar_t* AfterDigits(const wchar_t* text)
     return text;
 }
 
-/// Makes @a result of @a text by putting one point in place of the other. False where nothing is to be replaced.
+/// Stores @a text in @a result with @a from replaced by @a to. Returns false if there is nothing to replace.
 ///
-/// An empty point is one of the locale's that cannot be converted. That both are the same character is the usual case,
-/// and found without a call.
+/// An empty point means that the locale's point cannot be converted. Usually both points are the same character, which
+/// is found without a call.
 bool ReplacePoint(std::wstring& result, const wchar_t* text, std::wstring_view from, std::wstring_view to)
 {
     if (from.empty() || to.empty() || (from.size() == 1 && to.size() == 1 && from[0] == to[0]))
@@ -95,7 +95,7 @@ void AppendWithoutZeros(std::wstring& result, std::wstring_view text, wchar_t po
     result.append(mantissa).append(text, exponent, text.npos);
 }
 
-/// Groups the number that @a text has from @a begin to @a end, and returns its new end.
+/// Groups the digits of the number in @a text from @a begin to @a end, and returns the new end.
 std::size_t Group(std::wstring& text, std::size_t begin, std::size_t end, const CNumberFormat& format)
 {
     const std::wstring_view number = std::wstring_view(text).substr(begin, end - begin);
@@ -104,7 +104,7 @@ std::size_t Group(std::wstring& text, std::size_t begin, std::size_t end, const 
         const std::size_t separators = (integers - 1) / 3;
         text.insert(begin + integers, separators, format.m_chThousandsSep);
         end += separators;
-        // The last group moves all the way, each one before it by one character less.
+        // The last group moves furthest; each group before it moves one character less.
         wchar_t* from = &text[begin + integers];
         for (wchar_t* to = from + separators; to != from; --to) {
             from -= 3;
@@ -115,8 +115,7 @@ std::size_t Group(std::wstring& text, std::size_t begin, std::size_t end, const 
     return end;
 }
 
-/// Cuts what the number that @a text has from @a begin to @a end has from its first zero character on, and returns its
-/// new end.
+/// Cuts the number in @a text from @a begin to @a end at its first zero character, and returns the new end.
 std::size_t CutAtZeroCharacter(std::wstring& text, std::size_t begin, std::size_t end)
 {
     const std::size_t zero = text.find(L'\0', begin);
@@ -131,7 +130,7 @@ bool IsWithinBounds(const wchar_t* text, const CNumberFormat& format)
     if (!format.m_bHasMax && !format.m_bHasMin)
         return true;
     const double value = std::wcstod(text, nullptr);
-    // Asked this way round, a bound or a value that is no number refuses nothing.
+    // With these comparisons, NaN as a bound or as the value refuses nothing.
     return !(format.m_bHasMax && value > format.m_dMax) && !(format.m_bHasMin && format.m_dMin > value);
 }
 
@@ -144,13 +143,13 @@ bool IsExponent(const wchar_t* text)
 {
     if (IsExponentLetter(*text))
         ++text;
-    // The letter is not needed: 12-5 is accepted like 12e-5.
+    // The letter may be missing: 12-5 is accepted like 12e-5.
     if (IsSign(*text))
         ++text;
     return *AfterDigits(text) == L'\0';
 }
 
-/// Whether @a text, whose decimal point is @a point, is a number as far as it goes, whatever its value.
+/// Whether @a text, with @a point as its decimal point, is a number or the beginning of one, whatever its value.
 bool IsNumber(const wchar_t* text, wchar_t point, const CNumberFormat& format)
 {
     const wchar_t* const begin = format.m_bAllowSign && IsSign(*text) ? text + 1 : text;
@@ -174,7 +173,7 @@ bool IsNumber(const wchar_t* text, wchar_t point, const CNumberFormat& format)
     return at != begin && format.m_bAllowExponent && IsExponent(at);
 }
 
-/// Adds one to the last digit of a number and says whether that leaves a one to be put before it.
+/// Adds one to the last digit of a number. Returns whether the carry needs another digit in front.
 bool CarriesOver(wchar_t* begin, wchar_t* end)
 {
     while (end != begin) {
@@ -190,7 +189,7 @@ bool CarriesOver(wchar_t* begin, wchar_t* end)
     return true;
 }
 
-/// A number on its way from the typed to the shown text, all in one piece of memory.
+/// Converts the typed text of a number to the shown text, in a single buffer.
 class ShownNumber
 {
 public:
@@ -204,20 +203,20 @@ private:
     void Pad(bool hasPoint, std::size_t decimals);
     void KeepExponentAlone();
     void PutMinus();
-    /// The index behind the digits from @a at on.
+    /// Returns the index behind the digits that begin at @a at.
     std::size_t DigitsEnd(std::size_t at) const { return AfterDigits(m_text.c_str() + at) - m_text.c_str(); }
 
     const CNumberFormat& m_format;
     std::wstring m_text;
-    std::size_t m_begin;     ///< of the mantissa without its sign
-    std::size_t m_end = 0;   ///< of the mantissa as far as it is shown
+    std::size_t m_begin;     ///< the beginning of the mantissa, without its sign
+    std::size_t m_end = 0;   ///< the end of the shown part of the mantissa
     std::size_t m_read = 0;  ///< the end of the mantissa
 };
 
 ShownNumber::ShownNumber(std::wstring_view typed, const CNumberFormat& format) : m_format(format)
 {
     m_text.reserve(typed.size() + typed.size() / 3 + 10);
-    // A place for a carry, and for the minus sign when the carry has taken the sign's own.
+    // Reserve one character for a carry, or for the minus sign if the carry takes the place of the sign.
     m_text = L'0';
     AppendWithoutZeros(m_text, typed, format.m_chDecimalPoint);
     const wchar_t first = m_text[1];
@@ -249,7 +248,7 @@ void ShownNumber::ReadMantissa()
         Pad(hasPoint, decimals);
 }
 
-/// Shows of the fraction, which begins at @a fraction, no more than the decimals asked for.
+/// Rounds the fraction, which begins at @a fraction, to the decimals of the format.
 void ShownNumber::Round(std::size_t fraction)
 {
     m_end = fraction + std::min<std::uint64_t>(m_read - fraction, m_format.m_nDecimals);
@@ -259,7 +258,7 @@ void ShownNumber::Round(std::size_t fraction)
         --m_end;
 }
 
-/// Appends to a number that the text ends with.
+/// Appends zeros to a number at the end of the text.
 void ShownNumber::Pad(bool hasPoint, std::size_t decimals)
 {
     if (!hasPoint)
@@ -268,7 +267,7 @@ void ShownNumber::Pad(bool hasPoint, std::size_t decimals)
     m_end = m_read = m_text.size();
 }
 
-/// Removes all that stands behind the mantissa as it is shown, but for an exponent.
+/// Removes everything behind the shown mantissa except an exponent.
 void ShownNumber::KeepExponentAlone()
 {
     std::size_t end = m_read;
@@ -282,7 +281,7 @@ void ShownNumber::KeepExponentAlone()
     m_text.erase(m_end, m_read - m_end);
 }
 
-// The sign belongs to the mantissa: a trailing one stands before the exponent.
+// Inserts the minus sign. It belongs to the mantissa: a trailing one stands before the exponent.
 void ShownNumber::PutMinus()
 {
     if (m_format.m_bTrailingMinus)

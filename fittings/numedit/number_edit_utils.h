@@ -6,8 +6,8 @@
 #include <fittings/base/export.h>
 #include <fittings/numedit/number_format.h>
 
-/// Checks, tidies and shows the text of a number as a CNumberFormat says. What is shown was never a `double`: of
-/// thousands of digits each stays.
+/// Checks, cleans up and formats the text of a number as a CNumberFormat says. The text is never converted to a
+/// `double` for display, so even thousands of digits all stay.
 ///
 /// @code
 /// const CNumberFormat format(eFixedFormat);
@@ -15,67 +15,69 @@
 ///     label->SetLabel(CNumberEditUtils::FormatControlText(typed.wc_str(), format));  // 1234.5 as 1,234.50
 /// @endcode
 ///
-/// A null text counts as the empty one, and no text is too odd: each operation leaves or returns a valid text, or
-/// answers false. The time taken grows in proportion to the text. Digits are `0` to `9`; blanks are what iswspace()
-/// calls so in the process's locale, whose decimal point is read anew by every call. Call on the GUI thread, as
-/// localeconv() and the toolkit's current conversion demand.
+/// A null text counts as empty. For any text, each operation stores or returns a valid text, or returns false. The time
+/// grows in proportion to the length of the text. Digits are `0` to `9`. Blanks are the characters for which iswspace()
+/// is true in the process's locale. Every call reads the decimal point of that locale again. Call on the GUI thread:
+/// localeconv() and the toolkit's current conversion require it.
 class FITTINGS_API CNumberEditUtils
 {
 public:
-    /// Removes the blanks around a number and the zeros that say nothing: " 000.500 " becomes "0.5", "1.500e10"
-    /// becomes "1.5e10", "1.0" becomes "1", and "." and "" become "0".
+    /// Removes the blanks around a number and needless zeros: " 000.500 " becomes "0.5", "1.500e10" becomes "1.5e10",
+    /// "1.0" becomes "1", and "." and "" become "0".
     ///
-    /// A sign stops the trimming in front, so "-007" keeps its zeros and "-.5" stays. Zeros behind the decimal point
-    /// go, others stay: "10" is "10". The exponent stays as it is. Reads only the format's decimal point.
+    /// A sign stops the trimming at the front, so "-007" keeps its zeros and "-.5" stays. At the end, only zeros behind
+    /// the decimal point are removed: "10" stays "10". The exponent stays as it is. Of the format, only the decimal
+    /// point is read.
     static void CutZeros(wxString& text, const CNumberFormat& format);
 
-    /// Puts the format's thousands separator between each three characters before the decimal point, counted from
-    /// there: "1234567.891" becomes "1,234,567.891".
+    /// Inserts the format's thousands separator after every three characters, counted from the decimal point to the
+    /// left: "1234567.891" becomes "1,234,567.891".
     ///
-    /// Give it bare digits: every character before the point counts, so "-123" becomes "-,123". The text ends at its
-    /// first zero character, and so a separator of 0 leaves the first group alone: 1234 becomes 1. Reads only the
-    /// format's decimal point and thousands separator.
+    /// Pass digits without a sign: every character before the point counts, so "-123" becomes "-,123". The text ends at
+    /// its first zero character, so with a separator of 0 only the first group remains: 1234 becomes 1. Of the format,
+    /// only the decimal point and the thousands separator are read.
     static void GroupDigits(wxString& text, const CNumberFormat& format);
 
     /// Whether @a text is a number that the format accepts.
     ///
-    /// Accepted is a sign, digits, a point and digits, and then an exponent, each as far as the format allows it.
-    /// Whatever begins such a number is accepted too: the empty text, a lone sign, a lone point, "1." and "1e-". The
-    /// exponent's letter may be left out, as in "12-5". Group separators, blanks and a trailing minus are not accepted,
-    /// and so not everything that FormatControlText() shows.
+    /// It accepts a sign, digits, a point and digits, and then an exponent, each if the format allows it. It also
+    /// accepts the beginning of such a number: the empty text, a lone sign, a lone point, "1." and "1e-". The
+    /// exponent's letter may be missing, as in "12-5". It does not accept group separators, blanks and a trailing
+    /// minus, so it refuses some results of FormatControlText().
     ///
-    /// The point is the format's or the locale's; none is accepted where the toolkit's current conversion cannot read
-    /// the locale's. A digit as the format's point stands for the point wherever it is typed.
+    /// The point is the format's or the locale's. If the toolkit's current conversion cannot read the locale's point,
+    /// no point is accepted. If the format's point is a digit, that digit always counts as the point.
     ///
-    /// Bounds are checked against what wcstod() reads, which is 0 of a text that is no number yet: with a lowest value
-    /// above 0 or a highest one below 0, the empty text and a lone sign are refused. Where the lowest value is above
-    /// the highest, every text is.
+    /// Bounds are compared with the value that wcstod() reads, which is 0 for a text that is not a number yet. So with
+    /// a lowest value above 0 or a highest value below 0, the empty text and a lone sign are refused. If the lowest
+    /// value is above the highest, every text is refused.
     static bool ValidateString(const wchar_t* text, const CNumberFormat& format);
 
     /// Whether @a text may stand in a field while a user types.
     ///
-    /// Besides what ValidateString() accepts, and whatever the bounds, that is the lone point, "0", "0." and up to
-    /// m_nDecimals zeros behind it, where decimals are accepted. So 0.05 can be typed where the lowest value is 0.01.
+    /// It accepts what ValidateString() accepts. If decimals are accepted, it also accepts, whatever the bounds, the
+    /// lone point, "0", "0." and up to m_nDecimals zeros behind the point. So 0.05 can be typed if the lowest value is
+    /// 0.01.
     ///
-    /// Other beginnings are checked against the bounds as they are. With a lowest value of 10, "1" is refused, although
-    /// "12" is accepted; with a highest value below 0, "-" is refused, as it counts as 0.
+    /// Other beginnings must be within the bounds themselves. With a lowest value of 10, "1" is refused, although "12"
+    /// is accepted. With a highest value below 0, "-" is refused, because it counts as 0.
     static bool ValidateInput(const wchar_t* text, const CNumberFormat& format);
 
-    /// Returns @a text as it is to be shown: without needless zeros, its fraction rounded or padded, its digits
-    /// grouped, the minus sign in its place, and all this put into the format's template.
+    /// Returns @a text formatted for display: without needless zeros, with a rounded or padded fraction, grouped digits
+    /// and the minus sign in its place, and put into the format's template.
     ///
-    /// Under eFixedFormat, "1234.5" gives "1,234.50", "-1234.567" gives "1,234.567-", ".5" gives "0.50" and "" gives
-    /// "", without the template. The text's point may be the format's or the locale's. Nothing is refused: what
-    /// follows the number is dropped, so "12abc" gives "12" and the group separator in "1,234" leaves "1". A plus sign
-    /// is dropped as well. A fraction before an exponent or before something dropped is not padded. A trailing minus
-    /// stands before an exponent: "-1.5e3" gives "1.5-e3".
+    /// With eFixedFormat, "1234.5" gives "1,234.50", "-1234.567" gives "1,234.567-", ".5" gives "0.50" and "" gives "",
+    /// without the template. The text's point may be the format's or the locale's. No text is refused: everything after
+    /// the number is dropped, so "12abc" gives "12" and "1,234" gives "1". A plus sign is dropped too. A fraction is
+    /// not padded if an exponent or a dropped text follows it. A trailing minus stands before an exponent: "-1.5e3"
+    /// gives "1.5-e3".
     ///
-    /// An m_nDecimals too large for any text cannot ask for one: no more than 1,000,000 zeros are appended. Where the
-    /// decimal point is 0, the shown number ends at it.
+    /// At most 1,000,000 zeros are appended, even if m_nDecimals is larger. If the decimal point is 0, the shown number
+    /// ends at the point.
     ///
-    /// The template must have exactly one `%s`. Without any it is returned with its `%%` made `%`, and the number is
-    /// not seen; an empty one gives the empty text. With a second conversion or one of another type the behaviour is
-    /// undefined, as with printf().
+    /// The template must have exactly one `%s`. Without any, the result is the template with `%` for each `%%`, and
+    /// without the number; an empty template gives the empty text. With a second conversion or one of another type, the
+    /// behaviour is undefined, as with printf().
     static wxString FormatControlText(const wchar_t* text, const CNumberFormat& format);
 };
 

@@ -14,7 +14,7 @@ std::wstring Wide(const char* text, std::size_t length)
     return wxString::FromUTF8(text, length).ToStdWstring();
 }
 
-/// Keeps a signal from the toolkit. GTK's own handlers, those for assistive technologies among them, are still called.
+/// Hides a signal from the toolkit. GTK's own handlers, for example for assistive technologies, are still called.
 class KeptFromToolkit
 {
 public:
@@ -56,14 +56,14 @@ int NumberEntry::Filter(const GdkEventKey* key, const std::function<int()>& filt
     const Selection selected = Selected();
     m_filtering = true;
     m_hasRefused = false;
-    // The German layout has the second one, the US layout the first one.
+    // The US layout has the first key, the German layout the second.
     m_keypadPoint = key->keyval == GDK_KEY_KP_Decimal || key->keyval == GDK_KEY_KP_Separator;
     const int result = filter();
     m_filtering = m_keypadPoint = false;
     if (m_hasRefused) {
         Select(selected);
     } else if (m_waiting) {
-        // Nothing followed: an input method has deleted text around the caret.
+        // No insertion followed: an input method has deleted text around the caret.
         const auto [begin, end] = *m_waiting;
         const Free free(this);
         gtk_editable_delete_text(GTK_EDITABLE(m_entry), begin, end);
@@ -124,7 +124,7 @@ void NumberEntry::OnDelete(GtkEditable* entry, int begin, int end, NumberEntry* 
     self->Deleting(begin, end);
 }
 
-/// Keeps what is deleted until the next input, for the case that it makes room for something that is refused.
+/// Keeps the deleted text until the next input: if an insertion replaces it and is refused, it is restored.
 void NumberEntry::Deleting(int begin, int end)
 {
     const std::wstring text = Text();
@@ -162,7 +162,7 @@ void NumberEntry::Inserting(const std::wstring& text, int& position)
     Insert(*accepted, position);
 }
 
-/// Takes back what was deleted just before a refusal.
+/// Restores the text that was deleted just before a refusal.
 void NumberEntry::PutBack()
 {
     if (m_filtering || !m_deleted)
@@ -170,11 +170,11 @@ void NumberEntry::PutBack()
     const Deleted deleted = *std::exchange(m_deleted, std::nullopt);
     int position = deleted.begin;
     Insert(deleted.text, position);
-    // GTK sets the caret when it is back from here.
+    // GTK moves the caret after this handler returns, so restore the selection later.
     Soon([this, selection = deleted.selection] { Select(selection); });
 }
 
-/// Deletes without telling anyone: the insertion does.
+/// Deletes without a report to the toolkit: the insertion that follows is reported.
 void NumberEntry::Replace(int begin, int end)
 {
     if (begin == end)
@@ -188,7 +188,7 @@ void NumberEntry::Insert(const std::wstring& text, int& position)
 {
     const std::string utf8 = wxString(text).utf8_string();
     const Free free(this);
-    // The toolkit has reported the character already.
+    // The toolkit has already reported the character.
     const KeptFromToolkit silent(m_entry, m_toolkit, "insert-text");
     gtk_editable_insert_text(GTK_EDITABLE(m_entry), utf8.data(), static_cast<int>(utf8.length()), &position);
 }

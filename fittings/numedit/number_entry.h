@@ -12,11 +12,11 @@
 
 namespace fittings {
 
-/// Judges what goes into a GtkEntry, by keyboard, input method, clipboard and mouse, before it is there.
+/// Checks what keyboard, input method, clipboard and mouse insert into a GtkEntry, before it is inserted.
 ///
-/// GTK deletes a selection before it inserts what takes its place. While a key is on its way, that deletion waits for
-/// the verdict, and so a refused key has changed nothing. What an input method or a drop brings later comes without
-/// such a frame: there the selection is put back.
+/// GTK deletes a selection before it inserts the text that replaces it. While a key is being handled, that deletion
+/// waits until the insertion is accepted, so a refused key changes nothing. A text that an input method or a drop
+/// inserts later does not come with a key: there the deleted selection is restored after a refusal.
 class NumberEntry
 {
 public:
@@ -26,27 +26,27 @@ public:
         std::wstring before;
         std::wstring text;
         std::wstring behind;
-        bool typed;        ///< One character, or on its way from a key.
-        bool keypadPoint;  ///< By the keypad's decimal key.
+        bool typed;        ///< True for one character and for text from a key.
+        bool keypadPoint;  ///< True for the keypad's decimal key.
     };
 
-    /// What goes in instead of the text; nothing where it is refused.
+    /// Returns the text to insert instead; nothing to refuse the insertion.
     using Judge = std::function<std::optional<std::wstring>(const Insertion&)>;
 
-    /// @a entry outlives the object. @a toolkit is what the toolkit's own handlers of the entry's signals have as their
-    /// data. @a refused is called for each refusal.
+    /// @a entry must outlive the object. @a toolkit is the user data of the toolkit's own signal handlers on the entry.
+    /// @a refused is called for each refusal.
     NumberEntry(GtkEntry* entry, void* toolkit, Judge judge, std::function<void()> refused);
     ~NumberEntry();
     NumberEntry(const NumberEntry&) = delete;
     NumberEntry& operator=(const NumberEntry&) = delete;
 
-    /// Frames the handling of a key by GTK's input method: @a filter hands it on, and its result is returned.
+    /// Surrounds the handling of a key by GTK's input method. @a filter passes the key on, and its result is returned.
     int Filter(const GdkEventKey* key, const std::function<int()>& filter);
 
-    /// Puts a text in place of the selection, as if it were pasted.
+    /// Replaces the selection by a text as if it were pasted.
     void Take(const std::wstring& text);
 
-    /// What the program does while the object lives is not judged.
+    /// Changes by the program are not checked while the object lives.
     class Free
     {
     public:
@@ -59,7 +59,7 @@ public:
         NumberEntry* m_entry;
     };
 
-    /// Calls @a action when what is going on has ended, and before any other input.
+    /// Calls @a action after the present event, before any other input.
     void Soon(std::function<void()> action);
 
 private:
@@ -97,8 +97,8 @@ private:
     bool m_filtering = false;
     bool m_keypadPoint = false;
     bool m_hasRefused = false;
-    std::optional<std::pair<int, int>> m_waiting;  ///< The deletion that waits for a verdict.
-    std::optional<Deleted> m_deleted;              ///< What was deleted just now.
+    std::optional<std::pair<int, int>> m_waiting;  ///< The deletion that waits until an insertion is accepted.
+    std::optional<Deleted> m_deleted;              ///< The last deletion, until the next input.
     std::function<void()> m_soon;
     unsigned m_source = 0;
 };

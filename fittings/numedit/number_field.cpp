@@ -19,7 +19,7 @@ wxString Translated(const wchar_t* key)
     return lng_util_internal::DoGetResourceString(key, &everyCatalogue);
 }
 
-// The texts have one %s, where the number or the bound goes.
+// Each text has one %s for the number or the bound.
 wxString Translated(const wchar_t* key, const wxString& number)
 {
     wxString text = Translated(key);
@@ -32,7 +32,7 @@ bool IsDigit(wchar_t c)
     return c >= L'0' && c <= L'9';
 }
 
-/// How many digits follow the point.
+/// Returns how many digits follow the point.
 std::int64_t DecimalsIn(const std::wstring& text, wchar_t point)
 {
     const std::size_t found = text.find(point);
@@ -42,14 +42,14 @@ std::int64_t DecimalsIn(const std::wstring& text, wchar_t point)
     return std::find_if_not(begin, text.end(), IsDigit) - begin;
 }
 
-/// A place in a number, by the digits between it and the decimal point.
+/// A place in a number, given by the number of digits between it and the decimal point.
 struct Offset
 {
     bool inFraction;
     long digits;
 };
 
-/// Where the decimal point of a number is in a text, or would be.
+/// Returns the place of the decimal point in a text, or the place where it would be.
 std::size_t PointIn(const std::wstring& text, wchar_t point)
 {
     const std::size_t found = text.find(point);

@@ -6,7 +6,7 @@
 
 namespace {
 
-/// The first character of one of the locale's texts; 0 of an empty one.
+/// Returns the first character of a text of the locale; 0 for an empty text.
 wchar_t FirstCharacter(const char* text)
 {
     const std::wstring wide = fittings::FromLocale(text);
@@ -32,7 +32,7 @@ CNumberFormat::CNumberFormat(EGeneralFormat format)
     m_nMaxIntDigits = 5;
 }
 
-// Member by member, but for the template, which ends at its first zero character.
+// Copies each member. The template is copied up to its first zero character.
 CNumberFormat& CNumberFormat::operator=(const CNumberFormat& other)
 {
     m_bPadDecimals = other.m_bPadDecimals;

@@ -29,9 +29,9 @@ enum EGeneralFormat : int {
 /// wxString shown = CNumberEditUtils::FormatControlText(L"1234.5", weight);  // "1,234.500 kg"
 /// @endcode
 ///
-/// The locale is read once, by the constructor: a format made before the host calls setlocale() keeps the separators
-/// it was made with. Every field takes every value; what unusual ones give stands beside the operation that reads
-/// them. Make and change a format on the GUI thread.
+/// The constructor reads the locale once. A format that was made before the host calls setlocale() keeps its
+/// separators. Every field takes every value; the operations that read a field describe the effect of unusual values.
+/// Make and change a format on the GUI thread.
 class FITTINGS_API CNumberFormat
 {
 public:
@@ -43,7 +43,7 @@ public:
     /// | m_chDecimalPoint, m_chThousandsSep | the locale's | `.` and `,` |
     /// | m_nDecimals, m_nMaxIntDigits | not in force | 2 and 5 |
     ///
-    /// The others are as they stand below.
+    /// The other fields have the values below.
     CNumberFormat(EGeneralFormat format);
 
     /// Copies every field.
@@ -52,32 +52,33 @@ public:
     /// Copies every field; assigning a format to itself changes nothing.
     CNumberFormat& operator=(const CNumberFormat& other);
 
-    bool m_bPadDecimals = false;      ///< Show m_nDecimals decimals: fill the fraction with zeros.
-    bool m_bRoundDecimals = false;    ///< Show no more than m_nDecimals decimals: round half up, away from zero.
+    bool m_bPadDecimals = false;      ///< Show at least m_nDecimals decimals: fill with zeros.
+    bool m_bRoundDecimals = false;    ///< Show at most m_nDecimals decimals: round half away from zero.
     bool m_bAllowSign = true;         ///< Accept one leading `+` or `-`.
     bool m_bGroupDigits = false;      ///< Show m_chThousandsSep between groups of three integer digits.
     bool m_bTrailingMinus = false;    ///< Show the minus sign behind the number.
     bool m_bAllowExponent = false;    ///< Accept an exponent, such as the `e-3` of 1.5e-3.
-    wchar_t m_chDecimalPoint = L'.';  ///< 0 where the locale's cannot be converted.
-    wchar_t m_chThousandsSep = L',';  ///< 0 where the locale groups nothing: then leave m_bGroupDigits off.
+    wchar_t m_chDecimalPoint = L'.';  ///< 0 if the locale's cannot be converted.
+    wchar_t m_chThousandsSep = L',';  ///< 0 if the locale has no groups: then leave m_bGroupDigits off.
 
-    /// A printf format with exactly one `%s`, which the shown number takes the place of; a percent sign is `%%`.
+    /// A printf format with exactly one `%s`, which the shown number replaces; a percent sign is `%%`.
     ///
-    /// Use texts of the program alone, never one that a user can change: like every printf format it could read
-    /// memory that it should not.
+    /// Use only texts of the program, never one that a user can change: as with every printf format, a wrong one reads
+    /// memory beyond its arguments.
     CStdStr<wchar_t> m_strTemplate = L"%s";
 
     /// @name Limits, each in force only while its flag is set
     /// A limit that is not in force is never read.
     ///
-    /// Bounds are checked while the user types, too, against the number as far as it is typed. A number within them
-    /// that has no exponent can be typed where the lowest value is 0 or less and the highest 0 or more. With a lowest
-    /// value of 1, 0.1, 0.01 and so on it can be typed as well, without a plus sign, and a fraction with "0." at its
-    /// beginning. Other bounds refuse the beginning of numbers that they accept: a lowest value of 10 refuses the "1"
-    /// of "12", a highest value below 0 refuses each "-". Leave such a bound out, and check it when the dialog ends.
+    /// While the user types, the part of the number that is typed so far is checked against the bounds. If the lowest
+    /// value is 0 or less and the highest is 0 or more, every number within the bounds that has no exponent can be
+    /// typed. The same holds for a lowest value of 1, 0.1, 0.01 and so on, without a plus sign and with "0." at the
+    /// beginning of a fraction. Other bounds refuse the beginning of numbers that they accept: a lowest value of 10
+    /// refuses the "1" of "12", and a highest value below 0 refuses each "-". Leave such a bound out, and check it when
+    /// the dialog ends.
     /// @{
 
-    /// Where false, no decimals are accepted, and those of a shown number are left as they are.
+    /// If false, no decimals are accepted, and the decimals of a shown number stay as they are.
     bool m_bHasDecimals = false;
     std::uint64_t m_nDecimals = 0;      ///< Most decimals.
     bool m_bHasMaxIntDigits = false;    ///< Whether m_nMaxIntDigits is in force.

@@ -14,7 +14,7 @@ bool IsDigit(wchar_t c)
     return c >= L'0' && c <= L'9';
 }
 
-/// The no-break spaces are no blanks to iswspace(), but group digits in many languages.
+/// iswspace() does not accept no-break spaces, but they group digits in many languages.
 bool IsBlank(wchar_t c)
 {
     return std::iswspace(static_cast<std::wint_t>(c)) || c == L'\u00A0' || c == L'\u2007' || c == L'\u202F';
@@ -29,7 +29,7 @@ std::wstring_view Trimmed(std::wstring_view text)
     return text;
 }
 
-/// What a template has before its %s and behind it, without blanks at the ends.
+/// The text of a template before and behind its %s, without blanks at the ends.
 struct Around
 {
     std::wstring before;
@@ -65,7 +65,7 @@ std::wstring_view WithoutTemplate(std::wstring_view text, const CNumberFormat& f
     return text;
 }
 
-/// The minus of the mantissa in front, if it stands behind.
+/// Moves a minus sign behind the mantissa to the front.
 std::wstring WithMinusInFront(std::wstring_view text)
 {
     std::wstring result(text);
@@ -83,7 +83,7 @@ bool IsSeparator(wchar_t c, wchar_t separator)
     return separator != 0 && (c == separator || (IsBlank(c) && IsBlank(separator)));
 }
 
-/// Takes the separators away. False where one does not stand behind a digit and before a whole group.
+/// Removes the separators. Returns false if one does not stand behind a digit and before a whole group.
 bool Ungroup(std::wstring& text, const CNumberFormat& format)
 {
     const wchar_t separator = format.m_chThousandsSep;
@@ -92,7 +92,7 @@ bool Ungroup(std::wstring& text, const CNumberFormat& format)
     const std::size_t end =
         std::min(text.find(format.m_chDecimalPoint), std::min(text.find_first_of(L"eE"), text.size()));
     std::wstring result;
-    std::size_t digits = 0;  // of the present group
+    std::size_t digits = 0;  // in the present group
     bool grouped = false;
     for (std::size_t at = 0; at < end; ++at) {
         if (IsSeparator(text[at], separator)) {

@@ -17,7 +17,7 @@ bool IsSign(wchar_t c)
     return c == L'-' || c == L'+';
 }
 
-/// A number as far as it is typed.
+/// The parts of a number that are typed so far.
 struct Typed
 {
     wchar_t sign = 0;
@@ -86,7 +86,7 @@ std::optional<Decimal> ValueOf(const Typed& typed)
     return ParseDecimal(text);
 }
 
-/// Which magnitudes are within the bounds, of the numbers of one sign.
+/// The magnitudes within the bounds, for the numbers of one sign.
 struct Span
 {
     Decimal low;
@@ -112,7 +112,7 @@ std::optional<Span> SpanOf(bool negative, const NumberRules& rules)
     return span;
 }
 
-/// Whether a number from @a begin up to, but not, @a end is within the span and has so many decimals.
+/// Whether the span has a number from @a begin up to, but not including, @a end with at most @a decimals decimals.
 bool Meets(const Decimal& begin, const std::optional<Decimal>& end, const Span& span, std::int64_t decimals)
 {
     Decimal low = RoundedUp(span.low, decimals);
@@ -126,7 +126,7 @@ bool Meets(const Decimal& begin, const std::optional<Decimal>& end, const Span& 
     return Compare(low, high) <= 0 && Compare(begin, high) <= 0;
 }
 
-/// Whether more digits make a number within the span of one that will have no exponent.
+/// Whether more digits can bring a number without an exponent into the span.
 bool GrowsInto(const Span& span, const Typed& typed, const NumberRules& rules)
 {
     if (typed.hasPoint) {
@@ -137,7 +137,8 @@ bool GrowsInto(const Span& span, const Typed& typed, const NumberRules& rules)
     const Decimal begin = MakeDecimal(typed.integers, typed.Integers());
     if (begin.IsZero())
         return Meets(begin, MakeDecimal("1", more + 1), span, rules.mostDecimals);
-    // With fewer digits more it stays below the span, with more of them it is above where the span begins.
+    // With fewer additional digits the number stays below the span; with many more it is above the beginning of the
+    // span.
     const std::int64_t least = std::max<std::int64_t>(span.low.point - begin.point - 1, 0);
     for (std::int64_t digits = least; digits <= std::min(least + 3, more); ++digits) {
         if (Meets(MakeDecimal(typed.integers, typed.Integers() + digits),
@@ -147,8 +148,8 @@ bool GrowsInto(const Span& span, const Typed& typed, const NumberRules& rules)
     return false;
 }
 
-/// Whether a number within the span begins with @a digits, the first of which is no zero, has no more than @a more
-/// others behind them, and its point anywhere.
+/// Whether the span has a number that begins with @a digits, has at most @a more digits behind them, and has its point
+/// at any place. The first of @a digits is not a zero.
 bool HasWithDigits(const Span& span, const std::string& digits, std::int64_t more)
 {
     if (span.high && span.high->IsZero())
@@ -163,7 +164,7 @@ bool HasWithDigits(const Span& span, const std::string& digits, std::int64_t mor
     return false;
 }
 
-/// Whether more digits and an exponent make a number within the span of one that has no exponent yet.
+/// Whether more digits and an exponent can bring a number that has no exponent yet into the span.
 bool ScalesInto(const Span& span, const Typed& typed, const NumberRules& rules)
 {
     const std::int64_t more =
@@ -181,7 +182,7 @@ bool ScalesInto(const Span& span, const Typed& typed, const NumberRules& rules)
     return false;
 }
 
-/// Whether an exponent that begins as it is typed brings the number into the span.
+/// Whether an exponent that begins with the typed one can bring the number into the span.
 bool ExponentLeadsInto(const Span& span, const Typed& typed)
 {
     const Decimal number = MakeDecimal(typed.Digits(), typed.Integers());

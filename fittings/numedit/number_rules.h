@@ -9,11 +9,12 @@
 #include <fittings/numedit/decimal.h>
 #include <fittings/numedit/number_format.h>
 
-// Which texts are a number of a format, or the beginning of one, within bounds of any length. Private to the library.
+// Decides which texts are a number of a format, or the beginning of one, within bounds of any length. Private to the
+// library.
 
 namespace fittings {
 
-/// What may stand in a field for one number.
+/// The rules for the text of a field for one number.
 struct NumberRules
 {
     wchar_t point = L'.';
@@ -25,7 +26,7 @@ struct NumberRules
     std::optional<Decimal> max;
 };
 
-/// The rules of a format, with its bounds as the shortest decimal texts that are read as them: 0.3 is 0.3.
+/// Returns the rules of a format. Its bounds become the shortest decimal numbers that read as them: 0.3 stays 0.3.
 NumberRules RulesOf(const CNumberFormat& format);
 
 enum class NumberState {
@@ -39,27 +40,27 @@ enum class NumberState {
     TooHigh
 };
 
-/// What @a text is. It is plain text: no groups, no blanks, the sign in front.
+/// Returns the state of @a text, which is plain text: no groups, no blanks, the sign in front.
 NumberState Judge(std::wstring_view text, const NumberRules& rules);
 
 /// Whether @a text is empty, a number within the bounds, or the beginning of one.
 ///
-/// Zeros in front are no other number: "007" is 7. A minus needs a number below 0 that begins so: with a lowest value
-/// of 0, "-0" is a number within the bounds and "-" is refused all the same.
+/// Zeros in front do not matter: "007" is 7. A minus sign is only accepted if numbers below 0 are within the bounds:
+/// with a lowest value of 0, "-" is refused, although "-0" is a number within the bounds.
 bool CanBeTyped(std::wstring_view text, const NumberRules& rules);
 
-/// The number that plain text is, whatever the bounds and how many digits are allowed.
+/// Returns the number in plain text, whatever the bounds and the allowed numbers of digits are.
 std::optional<Decimal> NumberIn(std::wstring_view text, wchar_t point);
 
-/// The plain text of a text that CNumberEditUtils::FormatControlText() may have made: with blanks around it, in the
-/// template or without it, with groups of three digits, and with the minus in front or behind. Nothing where the text
-/// is no number, or one of more digits than are allowed.
+/// Returns the plain text for a text as CNumberEditUtils::FormatControlText() formats it. The text may have blanks
+/// around it, the template, groups of three digits, and the minus in front or behind. Returns nothing if the text is
+/// not a number or has more digits than are allowed.
 std::optional<std::wstring> PlainTextOf(std::wstring_view text, const CNumberFormat& format);
 
-/// The same number with `.` as its point, as programs read it: "+5." is "5"; empty where there is none.
+/// Returns the number with `.` as its point, as programs read it: "+5." gives "5". Empty if there is no number.
 std::string DecimalTextOf(std::wstring_view plain, wchar_t point);
 
-/// A decimal text as plain text with that point.
+/// Returns a decimal text as plain text with @a point as its point.
 std::wstring WithPoint(std::string_view decimal, wchar_t point);
 
 }  // namespace fittings

@@ -11,7 +11,7 @@
 
 namespace {
 
-// In characters, as GTK counts them.
+// Offsets in characters, as GTK counts them.
 struct Range
 {
     int begin;
@@ -26,12 +26,12 @@ struct Deletion
     std::string text;  // in UTF-8
 };
 
-/// What a control has lost during the present key. Belongs to its GtkEntry.
+/// The text that a control has lost during the present key. Its GtkEntry owns this.
 struct Key
 {
     wxTextCtrl& control;
     std::unique_ptr<Deletion> deletion;
-    std::unique_ptr<wxEventBlocker> quiet;  // from the restoring to the end of the key
+    std::unique_ptr<wxEventBlocker> quiet;  // set from the restoration to the end of the key
     bool wasModified = false;
     gulong selecting = 0;
 };
@@ -67,7 +67,7 @@ void OnInserted(GtkEditable*, const char*, int, int*, Key* key)
     key->deletion.reset();
 }
 
-// GTK sets the caret behind what it takes for inserted, and that ends the selection.
+// Restores the selection: GTK moves the caret behind the text that it believes inserted, which ends the selection.
 void OnSelectionEnded(GtkEditable* editable, GParamSpec*, Key* key)
 {
     g_signal_handler_disconnect(editable, std::exchange(key->selecting, 0));
@@ -75,7 +75,7 @@ void OnSelectionEnded(GtkEditable* editable, GParamSpec*, Key* key)
         gtk_editable_select_region(editable, key->deletion->anchor, key->deletion->caret);
 }
 
-// The toolkit has sent its event by now, or would have.
+// Runs after the key event, when the toolkit has sent its own event or was kept from it.
 void OnKeyEnd(GtkWidget* entry, GdkEvent*, Key* key)
 {
     if (!key->quiet)
@@ -128,7 +128,7 @@ void fittings::UndoKey(wxTextCtrl& control)
     key->wasModified = control.IsModified();
     const std::unique_ptr<Deletion> lost = std::move(key->deletion);
 
-    // The toolkit would take it for typed, and report it as characters.
+    // Block the toolkit's handler: it would report the restored text as typed characters.
     const guint inserting = g_signal_lookup("insert-text", GTK_TYPE_EDITABLE);
     const auto toolkit = static_cast<GSignalMatchType>(G_SIGNAL_MATCH_ID | G_SIGNAL_MATCH_DATA);
     auto* const receiver = static_cast<wxTextEntry*>(&control);

@@ -7,12 +7,12 @@ class wxTextCtrl;
 
 namespace fittings {
 
-/// Says that a key has gone down in a single-line control: from now on, what GTK deletes to make place for a character
-/// is kept.
+/// Call this when a key goes down in a single-line control. From now on, the text that GTK deletes before it inserts a
+/// character is kept.
 void BeginKey(wxTextCtrl& control);
 
-/// Puts back what the present key has deleted, with caret and selection as they were. No event tells of it, and the
-/// control is as unmodified as before. Does nothing where nothing was deleted.
+/// Restores the text that the present key has deleted, with the caret and the selection. No event is sent, and the
+/// modified state does not change. Does nothing if nothing was deleted.
 void UndoKey(wxTextCtrl& control);
 
 }  // namespace fittings
