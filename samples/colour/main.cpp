@@ -1,5 +1,5 @@
-// A sheet whose colour the user chooses from a drop-down. The sheet shows each colour already while the pointer or the
-// arrow keys move over it.
+// A sheet whose colour the user chooses from a drop-down. While the pointer or the arrow keys move over a colour, the
+// sheet already shows it.
 
 #include <wx/wx.h>
 

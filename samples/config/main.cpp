@@ -1,5 +1,5 @@
-// A window that comes back as it was left: its place and size, whether it was maximised, how large its panes are, and
-// the text and the number in them.
+// A window that restores its position, size and maximised state, the sizes of its panes, and the text and the number in
+// them.
 
 #include <stdexcept>
 
@@ -19,7 +19,7 @@ public:
         try {
             m_copies->SetValue(ui_config_mgr::GetConfigInt(L"notes.ini", L"Notes", L"Copies"));
         } catch (const std::logic_error&) {
-            m_copies->SetValue(1);  // somebody has edited the file: what stands there is no number
+            m_copies->SetValue(1);  // the user has edited the file, and the value is not a number
         }
         m_panes.AddPane(m_text, wxAuiPaneInfo().Name("text").CenterPane());
         m_panes.AddPane(m_copies,

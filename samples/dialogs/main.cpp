@@ -1,4 +1,4 @@
-// Lists the files of a folder, and saves the list. Both dialogs start where they were last.
+// Lists the files of a folder, and saves the list. Each dialog starts in the folder where it was last used.
 
 #include <wx/dir.h>
 #include <wx/file.h>

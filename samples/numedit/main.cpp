@@ -1,4 +1,4 @@
-// Amounts of money: only such can be typed, and each one paid is shown the way amounts are read best.
+// Payments: the field accepts only amounts of money, and the window shows each payment with groups and two decimals.
 
 #include <wx/wx.h>
 

@@ -1,4 +1,4 @@
-// A window that comes back as it was left: place, split, page and columns, and what is open in the tree.
+// A window that restores its geometry, splitter, page and columns, and the expanded items of the tree.
 
 #include <wx/notebook.h>
 #include <wx/splitter.h>

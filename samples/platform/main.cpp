@@ -1,5 +1,4 @@
-// A search that remembers the text and the choice made last, in the store that all windows and
-// processes of the program share.
+// A search that remembers the last text and choice in the store that all windows and processes of the program share.
 
 #include <wx/srchctrl.h>
 #include <wx/wx.h>

@@ -1,4 +1,4 @@
-// Shows texts and saves them. To open and to save, it starts at the file chosen last, in each of the two.
+// Shows texts and saves them. The open dialog and the save dialog each start at the last file that was chosen in them.
 
 #include <wx/wx.h>
 

@@ -1,4 +1,4 @@
-// Adds up all numbers to the one in the field, on a thread that each change of the field stops and starts anew.
+// Adds up all numbers up to the one in the field, on a thread that restarts at each change of the field.
 
 #include <memory>
 
@@ -41,7 +41,7 @@ public:
             SetTitle(m_adder->RunThread() == wxTHREAD_NO_ERROR ? "Adding up" : "No thread to add up on");
         });
         Bind(EVT_ADDED_UP, [this](wxCommandEvent& event) {
-            if (event.GetInt() == m_adder->GetRunNumber())  // else of one that had sent its result when it was stopped
+            if (event.GetInt() == m_adder->GetRunNumber())  // other results come from stopped workers
                 SetTitle(wxString::Format("The sum is %ld", event.GetExtraLong()));
         });
     }

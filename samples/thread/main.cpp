@@ -1,4 +1,4 @@
-// Counts primes on a thread of its own. The window shows how far the count is, and can be closed at any time.
+// Counts primes on a thread. The window shows the progress, and can be closed at any time.
 
 #include <wx/wx.h>
 

@@ -1,5 +1,5 @@
-// The folders of the user, read as they are opened. Those that were open when the window was closed are opened again at
-// the next start; hidden ones are grey.
+// The user's folders, which are read when they are expanded. The folders that were expanded when the window was closed
+// are expanded again at the next start. Hidden folders are grey.
 
 #include <wx/dir.h>
 #include <wx/wx.h>

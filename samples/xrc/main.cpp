@@ -1,5 +1,5 @@
-// Planets whose colours the user chooses. The window, with its tree and its drop-down for colours, is described by
-// planets.xrc, which lies beside the program.
+// Planets whose colours the user chooses. The file planets.xrc beside the program describes the window with its tree
+// and its drop-down for colours.
 
 #include <wx/filename.h>
 #include <wx/stdpaths.h>
