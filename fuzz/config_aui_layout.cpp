@@ -1,5 +1,5 @@
-// AUI layouts: every layout that the toolkit writes is loaded again, any other text is loaded at once or not at all,
-// and none brings up an assertion of the toolkit's.
+// AUI layouts: every layout that the toolkit writes can be loaded. Other text is loaded, or leaves the panes unchanged, and
+// no text causes an assertion of the toolkit.
 
 #include <array>
 #include <cstdint>
@@ -87,7 +87,7 @@ std::wstring Damage(std::wstring layout, FuzzedDataProvider& bytes)
     return layout;
 }
 
-/// True when the toolkit asserts on its own text: it does not read back the ";" of a caption.
+/// True if the toolkit asserts on its own text: it cannot read the ";" of a caption.
 bool HasDelimiterInText(const std::wstring& layout)
 {
     return layout.find(L"\\;") != layout.npos || layout.find(L'\b') != layout.npos;
