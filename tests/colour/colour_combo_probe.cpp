@@ -98,7 +98,7 @@ private:
     bool m_inCall = false;
 };
 
-// GTK's colour selection is deprecated, but is what the toolkit's dialog is.
+// The toolkit's dialog uses GTK's colour selection, which is deprecated.
 G_GNUC_BEGIN_IGNORE_DEPRECATIONS
 std::string StateOf(GtkWindow* dialog)
 {
