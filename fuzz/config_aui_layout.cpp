@@ -1,5 +1,5 @@
-// AUI layouts: every layout that the toolkit writes can be loaded. Other text is loaded, or leaves the panes unchanged, and
-// no text causes an assertion of the toolkit.
+// AUI layouts: every layout that the toolkit writes can be loaded. Other text is loaded, or leaves the panes unchanged,
+// and no text causes an assertion of the toolkit.
 
 #include <array>
 #include <cstdint>
