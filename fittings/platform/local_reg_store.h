@@ -21,38 +21,39 @@ struct SettingsEntry
 /// One of several changes of settings that are saved together.
 struct SettingsChange
 {
-    std::wstring section;               ///< Any text without a null character, as the two that follow.
-    std::wstring key;                   ///< Of a value.
-    std::optional<std::wstring> value;  ///< None removes the key.
+    std::wstring section;               ///< Any text without a null character, like the key and the value.
+    std::wstring key;                   ///< The key of the value.
+    std::optional<std::wstring> value;  ///< No value removes the key.
 
-    /// The change is of the section itself, and the key counts for nothing: with a value the section is made, though it
-    /// may have no keys; with none it is removed, unless it has a key when all keys are changed.
+    /// Changes the section itself and ignores the key. With a value, the section is made, even without keys. Without a
+    /// value, the section is removed, unless it still has a key after all changes of keys.
     bool isOfSection = false;
 };
 
 }  // namespace fittings
 
-/// One INI file in memory. Opaque: made, used and released through CLocalRegStore only.
+/// One INI file in memory. Only CLocalRegStore makes, uses and releases it.
 class CIniFile;
 
-/// The settings store: INI files one at a time, and the default store that all of an application shares.
+/// The settings store: single INI files, and the default store that a whole application shares.
 ///
-/// Every text may hold any character, line breaks and lone surrogates included, and comes back exactly; null counts as
-/// empty. Sections, keys and values are told apart by their exact characters, upper and lower case included.
+/// A text may contain any character, also line breaks and lone surrogates, and is read back exactly. Null counts as
+/// empty. Names of sections and keys are compared exactly, including upper and lower case.
 ///
-/// Each text may be given as any kind, wxString, std::string, std::wstring, or a wide or narrow literal, and each as
-/// another: fittings::TextArgument.
+/// Each text may be a wxString, a std::string, a std::wstring, or a wide or narrow literal. One call may mix them: see
+/// fittings::TextArgument.
 ///
-/// The default store is the file settings.ini in std_file_paths::GetUserDataDir(), shared by all processes of one
-/// application. A write re-reads it, changes its own keys alone, and is on the disk when it returns true; a write by
-/// another process at the same time is kept too. A write waits two seconds at most for another process that is stuck, a
-/// read for none. On file systems that cannot exchange two files in one step, such as NFS, two writes within the same
-/// few microseconds can still lose one of them, but only if the lock file settings.ini.lock cannot be used either.
+/// The default store is the file settings.ini in std_file_paths::GetUserDataDir(). All processes of one application
+/// share it. A write reads the file again, changes only its own keys, and is on the disk when it returns true. Writes
+/// by other processes at the same time are kept too. A write waits at most two seconds for another process that is
+/// stuck; a read never waits. On file systems that cannot exchange two files in one step, such as NFS, one of two
+/// writes within the same few microseconds can be lost, but only if the lock file settings.ini.lock cannot be used
+/// either.
 ///
-/// A file of more than 64 MiB or of a million lines is not a settings file: it is not read, and nothing is stored that
-/// would make one.
+/// A file of more than 64 MiB or of more than a million lines does not count as a settings file: it is not read. A
+/// write that would make such a file fails.
 ///
-/// The default store may be used from any thread, and until the process ends; a CIniFile from one thread at a time.
+/// Any thread may use the default store, until the process ends. Only one thread at a time may use a CIniFile.
 ///
 /// @code
 /// CLocalRegStore::WriteString(L"Search", L"LastText", field->GetValue());
@@ -64,50 +65,50 @@ public:
     /// @name One INI file
     /// @{
 
-    /// Returns a new, empty file object, to be released with DestroyIniFile(). The argument is reserved: pass false.
+    /// Returns a new, empty file object. Release it with DestroyIniFile(). The argument is reserved: pass false.
     static CIniFile* CreateInitFile(bool reserved);
 
     /// Reads the file at @a path into @a ini, in place of what it held.
     ///
-    /// Returns false when the file could not be read; @a ini is then empty and usable. When the reason is another than
-    /// that there is no such file, a later Save() to the same path fails rather than replace what could not be read.
-    /// A file that was read but holds no settings and no text, such as one of zeros only or one in UTF-16, also gives
-    /// false; saving changes then first gives it another name, with ".unreadable" at its end.
+    /// Returns false when the file could not be read; @a ini is then empty and usable. If the file exists but could not
+    /// be read, a later Save() to the same path fails, so that the file is not lost. The result is also false for a
+    /// file that was read but contains neither settings nor text, such as one of zeros only or one in UTF-16. Saving
+    /// changes then first renames that file, with ".unreadable" at its end.
     static bool Load(CIniFile& ini, const wchar_t* path);
 
     /// Returns the value of @a key in @a section, or @a defaultValue when there is none.
     static std::wstring GetString(const CIniFile& ini, const wchar_t* section, const wchar_t* key,
                                   const wchar_t* defaultValue);
 
-    /// Sets a value, creating section and key as needed. Only in memory: Save() makes it last.
+    /// Sets a value in memory and creates section and key as needed. Save() stores it in a file.
     static void WriteString(CIniFile& ini, const wchar_t* section, const wchar_t* key, const wchar_t* value);
 
-    /// Removes a key. Only in memory, as WriteString() is. True when there was such a key.
+    /// Removes a key in memory. Returns true when there was such a key.
     static bool DeleteKey(CIniFile& ini, const wchar_t* section, const wchar_t* key);
 
-    /// Returns the names of all sections, each once, in the order of the file; those written since come last. The keys
-    /// before the first section belong to none.
+    /// Returns the names of all sections, each once, in the order of the file; new ones come last. The keys before the
+    /// first section belong to no section.
     static std::vector<std::wstring> GetSectionNames(const CIniFile& ini);
 
-    /// Returns the names of the keys of @a section, each once, in the order of the file; those written since come last.
-    /// Empty when there is no such section.
+    /// Returns the names of the keys of @a section, each once, in the order of the file; new ones come last. Empty when
+    /// there is no such section.
     static std::vector<std::wstring> GetKeyNames(const CIniFile& ini, const wchar_t* section);
 
     using Entry = fittings::SettingsEntry;  ///< A key and its value.
 
-    /// Returns the keys of @a section with their values, in the order of GetKeyNames(), in a time in proportion to
-    /// their number. Those of the section of the empty name come after the keys before the first section, as
-    /// wxFileConfig writes them.
+    /// Returns the keys of @a section with their values, in the order of GetKeyNames(). The time is in proportion to
+    /// their number. For the section with the empty name, the result begins with the keys before the first section,
+    /// because wxFileConfig writes them there.
     static std::vector<Entry> GetEntries(const CIniFile& ini, const wchar_t* section);
 
-    /// Writes the whole object to @a path, creating or replacing the file in one step.
+    /// Writes the whole object to @a path. The file is created or replaced in one step.
     ///
-    /// What was read from a file and not changed since is written as it was read: comments, blank lines, lines that
-    /// mean nothing, their order and their line ends.
+    /// Everything that was read from a file and not changed since is written as it was read: comments, blank lines,
+    /// meaningless lines, their order and their line ends.
     ///
-    /// A symbolic link is followed and kept, as is the mode of the file; a new file has mode 0600. Other hard links to
-    /// the file keep what it held. A file that already holds the same bytes is left untouched. Returns false on any
-    /// error; the old file then stands whole.
+    /// A symbolic link is followed and kept. The mode of the file is kept; a new file has mode 0600. Other hard links
+    /// to the file keep the old content. A file that already has the same bytes is not touched. Returns false on any
+    /// error; the old file is then unchanged.
     static bool Save(const CIniFile& ini, const wchar_t* path);
 
     /// Releases @a ini, which may be null.
@@ -119,21 +120,21 @@ public:
 
     using Change = fittings::SettingsChange;  ///< One of several changes that are saved together.
 
-    /// Reads the file at @a path into @a ini in place of what it held, unless the file is as it was when this read it
-    /// last.
+    /// Reads the file at @a path into @a ini in place of what it held, unless the file has not changed since the last
+    /// call.
     ///
-    /// Returns false when @a ini was left as it is, changes that were made in it meanwhile included. A file that cannot
-    /// be read counts as empty. @a ini is for reading: do not hand it to Save().
+    /// Returns false when @a ini was left as it is, with any changes that were made in it meanwhile. A file that cannot
+    /// be read counts as empty. Use @a ini only for reading: do not pass it to Save().
     static bool Refresh(CIniFile& ini, const wchar_t* path);
 
-    /// Makes the changes in @a ini: those of keys, and then those of sections.
+    /// Makes the changes in @a ini: first the changes of keys, then those of sections.
     static void ApplyChanges(CIniFile& ini, const std::vector<Change>& changes);
 
-    /// Makes the changes in what the file at @a path holds now, by one save, as WriteString() does it in the default
-    /// store: what other processes and threads store by this operation at the same time is kept. The lock file has
-    /// ".lock" at its end.
+    /// Reads the file at @a path, makes the changes and saves it once, as WriteString() does with the default store.
+    /// Changes that other processes and threads store with this operation at the same time are kept. The lock file is
+    /// @a path followed by ".lock".
     ///
-    /// Returns false when they could not be saved; none of them is then made.
+    /// Returns false when the changes could not be saved; none of them is then stored.
     static bool SaveChanges(const wchar_t* path, const std::vector<Change>& changes);
 
     /// @}
@@ -143,7 +144,7 @@ public:
     /// Returns the stored value, or @a defaultValue when there is none.
     static std::wstring GetString(const wchar_t* section, const wchar_t* key, const wchar_t* defaultValue);
 
-    /// Stores a value for good. Returns false when it could not be saved; the earlier value then stands.
+    /// Stores a value. Returns false when it could not be saved; the earlier value then remains.
     static bool WriteString(const wchar_t* section, const wchar_t* key, const wchar_t* value);
 
     /// Returns a stored boolean, or @a defaultValue when there is none or the stored text is not a boolean.
@@ -162,10 +163,10 @@ public:
     /// Removes a key. Returns false when the store could not be saved; true also when there was no such key.
     static bool DeleteProfile(const wchar_t* section, const wchar_t* key);
 
-    /// Makes several changes by one save. Returns as WriteString() does, and does it as one.
+    /// Makes several changes with one save. Returns false when they could not be saved; none of them is then stored.
     static bool SaveChanges(const std::vector<Change>& changes);
 
-    /// Reads the default store into @a ini as the operation of the same name reads a file, with what this thread's
+    /// Reads the default store into @a ini as the operation with a path reads a file. It includes what this thread's
     /// Batch has collected.
     static bool Refresh(CIniFile& ini);
 
@@ -181,35 +182,35 @@ public:
     /// @}
     /// @name The default store, narrow text
     ///
-    /// The same values as through the wide operations: narrow text is taken as UTF-8, and bytes that are not UTF-8
-    /// come back as they were written. A wxString of what these return is wxString::FromUTF8().
+    /// These operations access the same values as the wide ones. Narrow text is UTF-8; bytes that are not UTF-8 are
+    /// read back as they were written. To convert a result to wxString, use wxString::FromUTF8().
     /// @{
 
     /// Returns the stored value, or @a defaultValue when there is none.
     static std::string GetString(const char* section, const char* key, const char* defaultValue);
 
-    /// Stores a value for good. Returns as the wide operation does.
+    /// Stores a value. Returns as the wide operation does.
     static bool WriteString(const char* section, const char* key, const char* value);
 
     /// @}
     /// @name With texts of any kind
     /// @{
 
-    /// As the operation of wide text.
+    /// Does the same as the operation for wide text.
     template <typename Path, fittings::IfTexts<1, Path> = 0>
     static bool Load(CIniFile& ini, const Path& path)
     {
         return Load(ini, fittings::TextArgument(path));
     }
 
-    /// As the operation of wide text: section, key, default value.
+    /// Does the same as the operation for wide text. The texts are section, key and default value.
     template <typename... Texts, fittings::IfTexts<3, Texts...> = 0>
     static std::wstring GetString(const CIniFile& ini, const Texts&... texts)
     {
         return GetString(ini, fittings::TextArgument(texts)...);
     }
 
-    /// As the operation of wide text: section, key, value.
+    /// Does the same as the operation for wide text. The texts are section, key and value.
     template <typename... Texts, fittings::IfTexts<3, Texts...> = 0>
     static void WriteString(CIniFile& ini, const Texts&... texts)
     {
@@ -223,43 +224,43 @@ public:
         return DeleteKey(ini, fittings::TextArgument(texts)...);
     }
 
-    /// As the operation of wide text.
+    /// Does the same as the operation for wide text.
     template <typename Section, fittings::IfTexts<1, Section> = 0>
     static std::vector<std::wstring> GetKeyNames(const CIniFile& ini, const Section& section)
     {
         return GetKeyNames(ini, fittings::TextArgument(section));
     }
 
-    /// As the operation of wide text.
+    /// Does the same as the operation for wide text.
     template <typename Section, fittings::IfTexts<1, Section> = 0>
     static std::vector<Entry> GetEntries(const CIniFile& ini, const Section& section)
     {
         return GetEntries(ini, fittings::TextArgument(section));
     }
 
-    /// As the operation of wide text.
+    /// Does the same as the operation for wide text.
     template <typename Path, fittings::IfTexts<1, Path> = 0>
     static bool Save(const CIniFile& ini, const Path& path)
     {
         return Save(ini, fittings::TextArgument(path));
     }
 
-    /// As the operation of wide text.
+    /// Does the same as the operation for wide text.
     template <typename Path, fittings::IfTexts<1, Path> = 0>
     static bool Refresh(CIniFile& ini, const Path& path)
     {
         return Refresh(ini, fittings::TextArgument(path));
     }
 
-    /// As the operation of wide text.
+    /// Does the same as the operation for wide text.
     template <typename Path, fittings::IfTexts<1, Path> = 0>
     static bool SaveChanges(const Path& path, const std::vector<Change>& changes)
     {
         return SaveChanges(fittings::TextArgument(path), changes);
     }
 
-    /// As the operation of wide text. Given a narrow text, and none that is wide alone, as the operation of narrow
-    /// text, which returns a std::string.
+    /// Does the same as the operation for wide text. If one text is narrow and none is only wide, it does the same as
+    /// the operation for narrow text, which returns a std::string.
     template <typename Section, typename Key, typename Default, fittings::IfMixedTexts<Section, Key, Default> = 0>
     static auto GetString(const Section& section, const Key& key, const Default& defaultValue)
     {
@@ -271,7 +272,7 @@ public:
                              fittings::TextArgument(defaultValue));
     }
 
-    /// As the operation of wide text, or of narrow text.
+    /// Does the same as the operation for wide text or for narrow text.
     template <typename Section, typename Key, typename Value, fittings::IfMixedTexts<Section, Key, Value> = 0>
     static bool WriteString(const Section& section, const Key& key, const Value& value)
     {
@@ -283,28 +284,28 @@ public:
                                fittings::TextArgument(value));
     }
 
-    /// As the operation of wide text.
+    /// Does the same as the operation for wide text.
     template <typename Section, typename Key, fittings::IfTexts<2, Section, Key> = 0>
     static bool GetProfileBool(const Section& section, const Key& key, bool defaultValue)
     {
         return GetProfileBool(fittings::TextArgument(section), fittings::TextArgument(key), defaultValue);
     }
 
-    /// As the operation of wide text.
+    /// Does the same as the operation for wide text.
     template <typename Section, typename Key, fittings::IfTexts<2, Section, Key> = 0>
     static bool WriteProfileBool(const Section& section, const Key& key, bool value)
     {
         return WriteProfileBool(fittings::TextArgument(section), fittings::TextArgument(key), value);
     }
 
-    /// As the operation of wide text.
+    /// Does the same as the operation for wide text.
     template <typename Section, typename Key, fittings::IfTexts<2, Section, Key> = 0>
     static int GetProfileInt(const Section& section, const Key& key, int defaultValue)
     {
         return GetProfileInt(fittings::TextArgument(section), fittings::TextArgument(key), defaultValue);
     }
 
-    /// As the operation of wide text.
+    /// Does the same as the operation for wide text.
     template <typename Section, typename Key, fittings::IfTexts<2, Section, Key> = 0>
     static bool WriteProfileInt(const Section& section, const Key& key, int value)
     {
@@ -318,7 +319,7 @@ public:
         return DeleteProfile(fittings::TextArgument(texts)...);
     }
 
-    /// As the operation of wide text.
+    /// Does the same as the operation for wide text.
     template <typename Section, fittings::IfTexts<1, Section> = 0>
     static std::vector<std::wstring> GetKeyNames(const Section& section)
     {
@@ -328,11 +329,12 @@ public:
     /// @}
 };
 
-/// Collects what its thread stores in the default store, and saves it as one: for all that a closing window remembers.
+/// Collects everything that its thread stores in the default store, and saves it at once. Use it, for example, for all
+/// settings of a window that closes.
 ///
-/// While an object lives, each write of its thread to the default store answers true and is seen by that thread's
-/// reads; other threads and processes see it from the save on. Objects may be nested; the outermost saves when it ends.
-/// To be destroyed by the thread that made it, in the reverse order.
+/// While an object lives, each write of its thread to the default store returns true, and that thread's reads return
+/// the new value. Other threads and processes see it after the save. Objects may be nested; the destructor of the
+/// outermost object saves. Destroy each object in the thread that made it, in the reverse order.
 ///
 /// @code
 /// CLocalRegStore::Batch batch;
@@ -344,20 +346,22 @@ class FITTINGS_API CLocalRegStore::Batch
 public:
     Batch();
 
-    /// Saves what has not been saved yet when this is the outermost object. Call Save() to learn whether that succeeds.
+    /// Saves everything that is not saved yet, if this is the outermost object. Call Save() to learn whether saving
+    /// succeeds.
     ~Batch();
 
     Batch(const Batch&) = delete;
     Batch& operator=(const Batch&) = delete;
 
-    /// Saves what this thread has collected so far, by the objects around this one too: all of it or nothing. Returns
-    /// false when it could not be saved; it is then still collected, and the outermost object tries again.
+    /// Saves everything that this thread has collected so far, also for the objects around this one: all of it or
+    /// nothing. Returns false when it could not be saved. It then stays collected, and the outermost object tries
+    /// again.
     bool Save();
 
 private:
     struct Collected;
 
-    std::unique_ptr<Collected> m_collected;  ///< Of the outermost object.
+    std::unique_ptr<Collected> m_collected;  ///< Set in the outermost object only.
 };
 
 #endif

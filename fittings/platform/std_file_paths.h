@@ -6,27 +6,27 @@
 #include <fittings/base/export.h>
 #include <fittings/base/std_str.h>
 
-/// Where an application's files live. Any thread, as long as none renames the application meanwhile.
+/// The folders of an application's files. Callable from any thread while no thread renames the application.
 ///
-/// `<application>` is wxTheApp->GetAppName(), or the program's name where there is none, made safe as a file name: '/'
-/// and control characters become '_', so do the names "." and "..", and what a file name cannot hold is cut off.
+/// `<application>` is wxTheApp->GetAppName(), or the program's name without wxTheApp, made safe as a file name: '/' and
+/// control characters become '_', and so do the names "." and "..". A name that is too long is cut off.
 namespace std_file_paths {
 
 /// Returns the folder for this user's settings, without a separator at its end.
 ///
-/// `$XDG_DATA_HOME/<application>`, by default `~/.local/share/<application>`, as the XDG Base Directory Specification
-/// has it: an empty or relative XDG_DATA_HOME is ignored. The folder is created when something is first stored in it.
+/// The folder is `$XDG_DATA_HOME/<application>`, by default `~/.local/share/<application>`, as in the XDG Base
+/// Directory Specification: an empty or relative XDG_DATA_HOME is ignored. The first write to the folder creates it.
 /// The environment is read once, at first use.
 ///
-/// The home folder is what HOME says, or the password database where HOME is unset, empty or relative. Where neither
-/// names an absolute folder it is "/", in which only root can store anything: the path is absolute, whatever happens.
+/// The home folder is taken from HOME, or from the password database if HOME is unset, empty or relative. If neither
+/// names an absolute folder, it is "/", where only root can store files. So the path is always absolute.
 FITTINGS_API std::wstring GetUserDataDir();
 
 /// Makes GetUserDataDir() return @a path from now on; an empty path restores the default. Nothing is moved.
 FITTINGS_API void SetUserDataDir(const CStdStr<wchar_t>& path);
 
-/// Returns `<documents>/<application>/`@a name. The folder may not exist. Where the user has no documents folder (none
-/// in user-dirs.dirs, as xdg-user-dirs keeps it), the home folder takes its place, as GetUserDataDir() has it.
+/// Returns `<documents>/<application>/`@a name. The folder may not exist. If the user has no documents folder (no entry
+/// in the user-dirs.dirs file of xdg-user-dirs), the home folder of GetUserDataDir() replaces it.
 FITTINGS_API std::wstring GetAppFolderPath(const wchar_t* name);
 
 }  // namespace std_file_paths

@@ -9,25 +9,25 @@
 
 namespace fittings {
 
-/// Whether a type is wide text: wchar_t pointers and literals, std::wstring, wxString, and what else converts to these.
+/// Whether a type is wide text: wchar_t pointers and literals, std::wstring, wxString, and types that convert to these.
 template <typename Text>
 constexpr bool kIsWideText =
     std::is_convertible_v<const Text&, const wchar_t*> || std::is_convertible_v<const Text&, std::wstring>;
 
-/// Whether a type is narrow text: char pointers and literals, std::string, and what else converts to these. The
-/// toolkit's texts are wide, and narrow too where it converts them to `const char*` unasked.
+/// Whether a type is narrow text: char pointers and literals, std::string, and types that convert to these. The
+/// toolkit's texts are wide; they are narrow too if they convert to `const char*` implicitly.
 template <typename Text>
 constexpr bool kIsNarrowText =
     std::is_convertible_v<const Text&, const char*> || std::is_convertible_v<const Text&, std::string>;
 
-/// Whether all texts can be narrow, and one is nothing else.
+/// Whether all texts can be narrow and at least one is only narrow.
 template <typename... Texts>
 constexpr bool kAreNarrowTexts = (kIsNarrowText<Texts> && ...) && !(kIsWideText<Texts> && ...);
 
-/// A text of any kind, as a function that takes a `const wchar_t*` is given it: for the length of that call.
+/// Passes a text of any kind to a function that takes a `const wchar_t*`. It is valid during that call.
 ///
-/// Narrow text is taken as UTF-8, whatever the locale, as file_util_ex::ConvertFromUTF8W() reads it. A text ends at its
-/// first null character, as behind a pointer; a null pointer stays one.
+/// file_util_ex::ConvertFromUTF8W() converts narrow text, which is UTF-8 whatever the locale. A text ends at its first
+/// null character. A null pointer stays null.
 class TextArgument
 {
 public:
@@ -63,7 +63,7 @@ private:
     const wchar_t* m_text = nullptr;
 };
 
-/// Returns a text of any kind in UTF-8, and narrow text as it is; a null pointer gives an empty one.
+/// Returns wide text in UTF-8 and narrow text as it is. A null pointer gives an empty text.
 template <typename Text>
 std::string NarrowText(const Text& text)
 {
@@ -78,19 +78,20 @@ std::string NarrowText(const Text& text)
     }
 }
 
-/// Chooses a function for @a count texts of any kind, where the function of `const wchar_t*` beside it cannot be
-/// called: all calls that compile without the chosen one mean what they mean without it.
+/// Enables a function for @a count texts of any kind if the overload for `const wchar_t*` cannot be called. So every
+/// call that compiles without the enabled function keeps its meaning.
 template <std::size_t count, typename... Texts>
 using IfTexts = std::enable_if_t<sizeof...(Texts) == count && ((kIsWideText<Texts> || kIsNarrowText<Texts>)&&...) &&
                                      !(std::is_convertible_v<const Texts&, const wchar_t*> && ...),
                                  int>;
 
-/// Chooses a function for a text of any kind, where the function of @a Taken beside it cannot be called.
+/// Enables a function for a text of any kind if the overload for @a Taken cannot be called.
 template <typename Taken, typename Text>
 using IfNot =
     std::enable_if_t<(kIsWideText<Text> || kIsNarrowText<Text>)&&!std::is_convertible_v<const Text&, Taken>, int>;
 
-/// As IfTexts, where there is a function of `const char*` too: chooses for mixed texts, and for those that suit both.
+/// Like IfTexts, with an overload for `const char*` too: enables a function for mixed texts and for texts that suit
+/// both overloads.
 template <typename... Texts>
 using IfMixedTexts =
     std::enable_if_t<((kIsWideText<Texts> || kIsNarrowText<Texts>)&&...) &&

@@ -13,14 +13,14 @@
 
 namespace fittings {
 
-/// What a thread stores in the default store while the object lives, to be saved as one.
+/// Collects the changes that a thread makes in the default store while the object lives, to save them at once.
 class CollectedSettings
 {
 public:
-    /// What collects for this thread, or null.
+    /// Returns the object that collects for this thread, or null.
     static CollectedSettings* OfThread();
 
-    /// Collects for this thread, which has none yet.
+    /// Starts to collect for this thread, which must have no other object.
     CollectedSettings();
     ~CollectedSettings();
     CollectedSettings(const CollectedSettings&) = delete;
@@ -28,19 +28,19 @@ public:
 
     void Put(SettingsChange change);
 
-    /// Null when nothing was collected for that key.
+    /// Returns the collected change of a key, or null.
     const SettingsChange* Find(std::wstring_view section, std::wstring_view key) const;
 
-    /// What was collected, in the order of the first change of each key.
+    /// Returns the collected changes, in the order of the first change of each key.
     const std::vector<SettingsChange>& Changes() const { return m_changes; }
 
-    /// Another number, and never 0, whenever Changes() are others, those of an earlier object included.
+    /// Returns a number that changes whenever Changes() does. It is never 0 and differs from those of earlier objects.
     std::uint64_t Revision() const { return m_revision; }
 
-    /// The default store as it will be.
+    /// Returns the default store with the collected changes.
     const CIniFile& Preview();
 
-    /// What could not be saved stays collected.
+    /// Saves the changes. Returns false when they could not be saved; they then stay collected.
     bool Save();
 
 private:

@@ -9,7 +9,7 @@ namespace fittings {
 
 DefaultStore& DefaultStore::Instance()
 {
-    // Never destroyed: an application's own objects may store something when the process ends.
+    // Never destroyed: an application's own objects may store settings while the process ends.
     static auto& store = *new DefaultStore;
     return store;
 }

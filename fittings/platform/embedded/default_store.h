@@ -12,27 +12,27 @@
 
 namespace fittings {
 
-/// The settings that all processes of the application share. Any thread.
+/// The settings that all processes of the application share. Callable from any thread.
 class DefaultStore
 {
 public:
     static DefaultStore& Instance();
 
-    /// The path of the file, which is another when the user data directory is.
+    /// Returns the path of the file in the present user data directory.
     std::string Path();
 
     std::optional<std::wstring> Get(std::wstring_view section, std::wstring_view key);
     std::vector<std::wstring> SectionNames();
     std::vector<std::wstring> KeyNames(std::wstring_view section);
 
-    /// Makes all of the changes by one save, or none of them. False when they could not be saved.
+    /// Makes all changes with one save. Returns false when they could not be saved; none is then stored.
     bool Store(const std::vector<SettingsChange>& changes);
 
 private:
     void Locate();
     const CIniFile& Refreshed();
 
-    std::mutex m_mutex;  ///< Guards all that follows.
+    std::mutex m_mutex;  ///< Guards the members below.
     std::wstring m_folder;
     SharedFile* m_shared = nullptr;
     CIniFile m_file;

@@ -28,7 +28,7 @@ constexpr std::chrono::milliseconds kTimeToFillAFile(500);
 constexpr std::chrono::milliseconds kTimeToExchange(500);
 constexpr std::chrono::milliseconds kPause(1);
 
-// How often a change that came at the very moment of an exchange is merged. Each time takes another one.
+// The number of merges in one save. Each merge needs another change at the very moment of an exchange.
 constexpr int kMaxMerges = 100;
 
 bool IsBefore(const timespec& a, const timespec& b)
@@ -68,8 +68,8 @@ bool ReadAll(int fd, std::size_t expected, std::string& bytes)
     }
 }
 
-// The path behind the links at the end of @a path, also where there is no file yet. None on an error. A circle gives a
-// path that cannot be opened.
+// Returns the path that the links at the end of @a path lead to, even if there is no file yet. Returns nothing on an
+// error. For a circle of links, returns a path that cannot be opened.
 std::optional<std::string> FollowLinks(std::string path)
 {
     for (int links = 0; links < 40; ++links) {
@@ -101,7 +101,7 @@ void SyncFolder(const std::string& folder)
         fsync(descriptor.Get());
 }
 
-// Half a second for a program that has emptied a file in place to fill it.
+// Waits at most half a second for a program that has emptied the file in place to fill it.
 FileContent ReadFilledBytes(const std::string& path, std::string& bytes)
 {
     for (;;) {
@@ -113,8 +113,8 @@ FileContent ReadFilledBytes(const std::string& path, std::string& bytes)
     }
 }
 
-// What an exchange has displaced. Another process may take its new name for a leftover and remove it: then it is the
-// file that was open before, as any other is too new for that.
+// Returns the content of the displaced file. Another process may remove that file as a leftover. Then it is the file
+// that was opened before the exchange, because any other file is too new to be a leftover.
 std::optional<std::string> ReadDisplaced(const StagedFile& staged, int before)
 {
     std::string bytes;
@@ -128,14 +128,14 @@ std::optional<std::string> ReadDisplaced(const StagedFile& staged, int before)
     return std::nullopt;
 }
 
-// The target of an update, and what is known of it.
+// The target of an update and its state.
 struct Target
 {
     std::string path;
     std::optional<struct stat> old;  ///< None when there is no file.
 };
 
-// None when the file cannot be replaced.
+// Returns nothing when the file cannot be replaced.
 std::optional<Target> PrepareTarget(const std::string& path)
 {
     const auto target = FollowLinks(path);
@@ -143,7 +143,7 @@ std::optional<Target> PrepareTarget(const std::string& path)
         return std::nullopt;
     struct stat old;
     if (lstat(target->c_str(), &old) == 0) {
-        // Renaming to the place of a folder fails by itself; a device or a pipe would be replaced.
+        // Renaming over a folder fails anyway, but renaming would replace a device or a pipe.
         if (!S_ISREG(old.st_mode))
             return std::nullopt;
         return Target{*target, old};
@@ -172,8 +172,8 @@ UpdateResult ResultOf(PlaceResult placed)
     return UpdateResult::Failed;
 }
 
-// After an exchange: looks at what was displaced, and puts that and our change together as long as it is another than
-// what was expected there. Whoever changes the file meanwhile is displaced in turn, and merged in turn.
+// Called after an exchange. If the displaced content is not the expected one, merges it with our change and exchanges
+// again. A change that somebody makes meanwhile is displaced and merged in turn.
 UpdateResult MergeDisplaced(const Target& target, StagedFile& staged, int before, std::string_view expected,
                             std::string_view put, const FileUpdate& update, int merges)
 {
@@ -188,12 +188,12 @@ UpdateResult MergeDisplaced(const Target& target, StagedFile& staged, int before
         if (next.IsWritten() && next.Exchange() == PlaceResult::Done)
             return MergeDisplaced(target, next, ours.Get(), put, *merged, update, merges + 1);
     }
-    // What was displaced goes back. If not even that can be done, ours stays.
+    // Put the displaced file back. If that fails too, our file stays.
     return staged.Exchange() == PlaceResult::Done ? UpdateResult::Failed : UpdateResult::Saved;
 }
 
-// Of all who keep to it, only the one that has this lock of the folder exchanges a file there. It is held for the
-// microseconds between the last look at the file and the exchange, and cannot be removed or belong to somebody else.
+// A lock of the folder: only its holder exchanges a file there. It is held for the microseconds between the last check
+// of the file and the exchange. Unlike a lock file, nobody can remove it.
 class ExchangeLock
 {
 public:
@@ -203,14 +203,14 @@ public:
     }
     ~ExchangeLock()
     {
-        // Closing would leave the lock with a child that was forked meanwhile.
+        // Unlock explicitly: after closing, a child that was forked meanwhile would still hold the lock.
         if (m_isHeld)
             flock(m_folder.Get(), LOCK_UN);
     }
     ExchangeLock(const ExchangeLock&) = delete;
     ExchangeLock& operator=(const ExchangeLock&) = delete;
 
-    // Waits as long as the file is as it was, but not for a process that was stopped just then.
+    // Waits for the lock while the file is unchanged. Gives up after a short time, because the holder may be stopped.
     void WaitWhile(const std::function<bool()>& isAsItWas)
     {
         const auto deadline = std::chrono::steady_clock::now() + kTimeToExchange;
@@ -273,7 +273,7 @@ FileContent ReadFileBytes(const std::string& path, std::string& bytes)
 {
     timespec now;
     clock_gettime(CLOCK_REALTIME_COARSE, &now);
-    // A pipe in the file's place must not make the program wait for a writer.
+    // Do not block: if the path is a pipe, open() would wait for a writer.
     const FileDescriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
     if (file.Get() < 0)
         return {errno == ENOENT ? ReadResult::Missing : ReadResult::Failed, std::nullopt};
@@ -357,7 +357,7 @@ void GiveToOwnerOfFolder(const std::string& path, const std::string& folder)
     struct stat file;
     if (geteuid() != 0 || stat(folder.c_str(), &owner) != 0 || owner.st_uid == 0)
         return;
-    // Another name of the file could be in a folder of root's.
+    // Skip a file with several names: another name could be in a folder of root.
     if (lstat(path.c_str(), &file) == 0 && S_ISREG(file.st_mode) && file.st_uid == 0 && file.st_nlink == 1)
         static_cast<void>(!lchown(path.c_str(), owner.st_uid, owner.st_gid));
 }

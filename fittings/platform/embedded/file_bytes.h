@@ -11,10 +11,10 @@
 
 struct stat;
 
-/// Whole files: read, and replaced in one step. Paths are in the system's encoding.
+/// Reads whole files and replaces them in one step. Paths are in the system's encoding.
 namespace fittings {
 
-/// Tells one state of a file from another.
+/// Identifies one state of a file.
 struct FileIdentity
 {
     dev_t device = 0;
@@ -27,7 +27,7 @@ struct FileIdentity
     bool operator==(const FileIdentity& other) const;
 };
 
-/// The state of the file at @a path, links followed. None when there is no file; errno tells why.
+/// Returns the state of the file at @a path and follows links. Returns nothing when there is no file; errno tells why.
 std::optional<FileIdentity> IdentityOf(const std::string& path);
 
 enum class ReadResult { Read, Missing, Failed };
@@ -36,55 +36,55 @@ struct FileContent
 {
     ReadResult result;
     std::optional<FileIdentity> identity;
-    /// A later change of the file cannot leave its identity as it is. Not so when the file was changed within the
-    /// same tick of the clock that stamps files.
+    /// Whether every later change of the file changes its identity. False when the file was changed within the present
+    /// tick of the clock that sets file timestamps.
     bool isSettled = false;
 
-    /// The file is empty and was changed less than half a second ago: a program that writes files in place may be about
-    /// to fill it.
+    /// Whether the file is empty and was changed less than half a second ago: a program that writes files in place may
+    /// be about to fill it.
     bool IsEmptyForNow() const;
 };
 
 /// Appends the bytes of the file at @a path to @a bytes. A file of more than kMaxFileSize bytes fails.
 FileContent ReadFileBytes(const std::string& path, std::string& bytes);
 
-/// Larger files are not read and not written: they hold no settings, and their keys would take all memory.
+/// Larger files are neither read nor written: they are not settings files, and their keys would need too much memory.
 inline constexpr off_t kMaxFileSize = off_t{64} << 20;
 
-/// Makes the file at @a path, links followed, hold exactly @a bytes, and makes its folder when there is none.
+/// Writes @a bytes to the file at @a path in place of its content. Follows links and makes a missing folder.
 ///
-/// The file keeps its mode; a new one has 0600. One that already holds the bytes is not touched. False on any error;
-/// the old file then stands whole.
+/// The file keeps its mode; a new one has 0600. A file that already has the bytes is not touched. Returns false on any
+/// error; the old file is then unchanged.
 bool ReplaceFileBytes(const std::string& path, std::string_view bytes);
 
 enum class UpdateResult { Saved, Failed, Outdated };
 
-/// What a reader found in a file, and what is to stand there instead.
+/// The content that a reader found in a file, and the new content.
 struct FileUpdate
 {
     const FileContent& found;
     std::string_view foundBytes;
     std::string newBytes;
 
-    /// Returns what the file should hold when it held @a displaced, and not @a expected, as @a put took its place. None
-    /// when @a displaced holds no settings.
+    /// Returns the merged content if the file held @a displaced, and not @a expected, when @a put replaced it. Returns
+    /// nothing when @a displaced is not a settings file.
     using Merge = std::function<std::optional<std::string>(std::string_view expected, std::string_view put,
                                                            std::string_view displaced)>;
     Merge merge;
 };
 
-/// Like ReplaceFileBytes(), but never undoes what somebody else has stored since the file was read.
+/// Like ReplaceFileBytes(), but keeps every change that others have stored since the file was read.
 ///
-/// Outdated when the file is not as it was found any more; it was not touched then. A change that comes between that
-/// look and the exchange of the two files is merged. File systems that cannot exchange two files in one step, such as
-/// NFS, leave those few microseconds open.
+/// Returns Outdated and does not touch the file if the file has changed since it was read. A change between this check
+/// and the exchange of the two files is merged. On file systems that cannot exchange two files in one step, such as
+/// NFS, a change within those few microseconds can be lost.
 UpdateResult UpdateFileBytes(const std::string& path, const FileUpdate& update);
 
-/// Gives the file at @a path, links followed, a second name that is new: with ".unreadable" behind its own, or
-/// ".unreadable.2" and so on. Returns it, or an empty text on any error.
+/// Gives the file at @a path a second name that does not exist yet: its own name followed by ".unreadable", or
+/// ".unreadable.2" and so on. Follows links. Returns the second name, or an empty text on any error.
 std::string KeepUnderOtherName(const std::string& path);
 
-/// Root gives a file that it makes in the folder of another user to that user, who could not use it otherwise.
+/// If root has made the file in the folder of another user, makes that user its owner, who could not use it otherwise.
 void GiveToOwnerOfFolder(const std::string& path, const std::string& folder);
 
 /// Returns the folder that the file at @a path is in.

@@ -5,7 +5,7 @@
 
 namespace fittings {
 
-/// Closes an open file at the end of its life. Negative when the file could not be opened.
+/// Closes an open file in its destructor. The descriptor is negative when the file could not be opened.
 class FileDescriptor
 {
 public:

@@ -13,12 +13,12 @@ namespace {
 
 constexpr std::chrono::milliseconds kPause(1);
 
-// For this long the lock may stay free although somebody has the turn to take it. A process that was stopped while it
-// waited would keep all others waiting otherwise.
+// The longest time that the lock may be free while another process has the turn to take it. Without this limit, a
+// process that was stopped while it had the turn would block all others.
 constexpr std::chrono::milliseconds kTimeToUseTheTurn(25);
 
-// The lock itself, and the turn to be the next who gets it: without the turn, a process that stores in a loop would
-// take the lock again before those who wait look at it.
+// The lock itself, and the turn to get it next. Without the turn, a process that stores in a loop would take the lock
+// again before the waiting processes try.
 constexpr off_t kLockByte = 0;
 constexpr off_t kTurnByte = 1;
 
@@ -54,7 +54,7 @@ bool IsFree(int fd, off_t byte)
     return fcntl(fd, F_OFD_GETLK, &request) == 0 && request.l_type == F_UNLCK;
 }
 
-// Waits for the turn. Ends without it at the deadline, or when whoever has it seems to be stuck.
+// Waits for the turn. Gives up at the deadline, or when the process that has the turn seems to be stuck.
 Attempt WaitForTurn(int fd, FileLock::Clock::time_point deadline)
 {
     auto lastTaken = FileLock::Clock::now();
@@ -100,7 +100,7 @@ FileLock::FileLock(const std::string& path, Clock::time_point deadline)
 
 FileLock::~FileLock()
 {
-    // Closing would leave the lock with a child that was forked meanwhile.
+    // Unlock explicitly: after closing, a child that was forked meanwhile would still hold the lock.
     if (m_isHeld)
         Unlock(m_file.Get(), kLockByte);
 }

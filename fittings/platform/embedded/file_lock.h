@@ -8,10 +8,10 @@
 
 namespace fittings {
 
-/// Keeps other processes and threads that take the same lock waiting for as long as the object lives.
+/// While the object lives, other processes and threads that take the same lock wait.
 ///
-/// A courtesy: who cannot have the lock goes on without it. The lock file is made when missing and never removed:
-/// another process may be waiting for that very file.
+/// The lock is advisory: a caller that cannot get it continues without it. The lock file is made when missing and never
+/// removed, because another process may be waiting for it.
 class FileLock
 {
 public:

@@ -12,7 +12,7 @@ namespace fittings {
 
 namespace {
 
-// Bytes that are not UTF-8 are the characters from here on, one for each of 0x80 to 0xFF.
+// A byte that is not UTF-8, from 0x80 to 0xFF, is represented by this character plus the byte.
 constexpr char32_t kByteBase = 0xDC00;
 
 bool IsByte(char32_t code)
@@ -54,8 +54,8 @@ void AppendHex(std::string& out, char32_t code, int minDigits)
         out += "0123456789ABCDEF"[(code >> (4 * digits)) & 0xF];
 }
 
-// Appends what stands for one character after the mark of an escape: two hexadecimal digits, of a byte or an ASCII
-// character, or a number in braces after a 'u'.
+// Appends an escaped character: after @a byteMark two hexadecimal digits for a byte or an ASCII character, or after @a
+// codeMark a number and a closing brace.
 void AppendNumber(std::string& out, char32_t code, std::string_view byteMark, std::string_view codeMark)
 {
     if (code < 0x80 || IsByte(code)) {
@@ -68,7 +68,7 @@ void AppendNumber(std::string& out, char32_t code, std::string_view byteMark, st
     }
 }
 
-// Reads 1 to 8 hexadecimal digits that fill @a digits. No text of the store holds a NUL.
+// Reads a number if @a digits is 1 to 8 hexadecimal digits. Refuses 0, because no text of the store contains a NUL.
 std::optional<char32_t> ReadHex(std::string_view digits)
 {
     if (digits.empty() || digits.size() > 8)
@@ -85,7 +85,8 @@ std::optional<char32_t> ReadHex(std::string_view digits)
     return code;
 }
 
-// The reverse of AppendNumber() for the two forms' digits: HH, which @a text begins with, or {digits}.
+// Reverses AppendNumber(). ReadByteDigits() reads the form HH at the beginning of @a text, ReadBraces() the form
+// {digits}.
 std::optional<Decoded> ReadByteDigits(std::string_view text)
 {
     if (text.size() < 2)
@@ -185,7 +186,7 @@ bool IsQuoted(std::string_view value)
     return value.size() >= 2 && value.front() == '"' && value.back() == '"';
 }
 
-// The text between the quotes of a value, where it is well formed.
+// Returns the text between the quotes of a value; nothing if it is not well formed.
 std::optional<std::wstring> Unquoted(std::string_view inner)
 {
     std::wstring text;
@@ -264,7 +265,7 @@ std::string EncodeValue(std::wstring_view text)
 
 std::wstring DecodeValue(std::string_view value)
 {
-    value = WithoutBlanksAtEnd(value);  // those before it are no part of it
+    value = WithoutBlanksAtEnd(value);  // blanks before a value are not part of it
     if (IsQuoted(value)) {
         if (auto text = Unquoted(value.substr(1, value.size() - 2)))
             return *std::move(text);

@@ -4,35 +4,36 @@
 #include <string>
 #include <string_view>
 
-/// Text to and from what stands in an INI file.
+/// Converts text to and from its form in an INI file.
 ///
-/// A byte that is not UTF-8 is the character U+DC00 plus the byte, in wide text, so that both forms of text carry it.
+/// In wide text, a byte that is not UTF-8 is the character U+DC00 plus the byte, so that wide and narrow text both keep
+/// it.
 namespace fittings {
 
-/// Returns @a text as the name of a section or key: percent-encoded where a file could not hold it otherwise, and
-/// "%" when empty. Different texts have different names.
+/// Returns @a text as the name of a section or key. Characters that a name cannot contain are percent-encoded; the
+/// empty text is "%". Different texts have different names.
 std::string EncodeName(std::wstring_view text);
 
-/// Returns the text that a name in a file stands for, whoever wrote it.
+/// Returns the text that a name in a file stands for, even if another program or a person wrote it.
 std::wstring DecodeName(std::string_view name);
 
-/// True for a byte that every name may hold as it is, at any place.
+/// Whether a byte may stand unencoded at any place of every name.
 bool IsPlainInName(char byte);
 
-/// Returns @a text as a value: as it is where that comes back exactly, else in quotes.
+/// Returns @a text as a value: unchanged if it is then read back exactly, otherwise in quotes.
 std::string EncodeValue(std::wstring_view text);
 
-/// Returns the text of a value, which does not begin with a blank. One in quotes that are not well formed is taken
-/// literally, quotes included.
+/// Returns the text of a value, which must not begin with a blank. If the quotes are not well formed, the value is
+/// taken literally, with its quotes.
 std::wstring DecodeValue(std::string_view value);
 
-/// True when DecodeValue() returns @a text for @a value. A difference is found without decoding what follows it.
+/// Whether DecodeValue() returns @a text for @a value. Stops decoding at the first difference.
 bool DecodesTo(std::string_view value, std::wstring_view text);
 
 std::wstring NarrowToWide(std::string_view text);
 
-/// The reverse of NarrowToWide(). A character that has no bytes, such as the surrogate U+D800, gets those that UTF-8
-/// would have for it.
+/// Reverses NarrowToWide(). A character without a UTF-8 form, such as the surrogate U+D800, gets the bytes that the
+/// scheme of UTF-8 gives it.
 std::string WideToNarrow(std::wstring_view text);
 
 }  // namespace fittings

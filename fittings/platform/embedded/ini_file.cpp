@@ -15,7 +15,7 @@ using fittings::IniText;
 
 namespace {
 
-// A file of more lines holds no settings, and its keys would take all memory.
+// A file with more lines is not a settings file, and its keys would need too much memory.
 constexpr std::ptrdiff_t kMaxLines = 1'000'000;
 
 bool HasTooManyLines(std::string_view text)
@@ -57,7 +57,7 @@ bool CIniFile::Refresh(const std::string& path, const std::vector<Change>& chang
         return false;
     CIniFile now;
     now.Load(path);
-    // A read does not wait for the file to be filled: what stood there a moment ago still holds.
+    // A read does not wait until the file is filled: it keeps the content of a moment ago.
     if (isSameStore && now.m_content.IsEmptyForNow() && m_content.result == fittings::ReadResult::Read)
         return false;
     if (isSameStore && now.HasFailed() && HasFailed())
@@ -105,7 +105,7 @@ bool CIniFile::Save(const std::string& path) const
         return false;
     if (!m_isNoText)
         return SaveText(path, m_text->Changed());
-    // What could not be read goes to another name, unless somebody has put a new file in its place.
+    // Keep the unreadable file under another name, unless somebody has put a new file in its place.
     const auto identity = fittings::IdentityOf(path);
     if (!identity && errno != ENOENT)
         return false;
@@ -232,7 +232,8 @@ bool CIniFile::HasEarlyKey(std::wstring_view key) const
     return m_text->Find(IniText::kEarlyKeys, fittings::EncodeName(key)).has_value();
 }
 
-// The keys before the first section come first, with the values that the section of the empty name has for them.
+// Returns the keys before the first section, followed by @a keys of the section with the empty name. For a key in both,
+// the value of that section counts.
 std::vector<IniText::Key> CIniFile::WithEarlyKeys(const std::vector<IniText::Key>& keys) const
 {
     std::vector<IniText::Key> all = m_text->Keys(IniText::kEarlyKeys);
@@ -248,9 +249,10 @@ std::vector<IniText::Key> CIniFile::WithEarlyKeys(const std::vector<IniText::Key
     return all;
 }
 
-// What stood in the file, with what was put there changed in it as against what was expected there. Where both changed
-// a key, the change of this object counts, else the one that was displaced, which is newer than what else was put. Only
-// this object removes a key: that it is missing elsewhere may mean that another process has not merged it yet.
+// Merges three ways: applies the changes from @a expected to @a put to the content @a displaced. If both changed a key,
+// the change of this object counts. Otherwise the value in @a displaced counts, because it is newer than the other
+// content of @a put. Only a change of this object removes a key: if a key is missing elsewhere, another process may not
+// have merged it yet.
 std::optional<std::string> CIniFile::Merged(std::string_view expected, std::string_view put,
                                             std::string_view displaced) const
 {

@@ -14,64 +14,63 @@
 
 /// An INI file in wide text.
 ///
-/// What is saved is the text that was read, with the changed keys changed in it, so that all else stays as it was to
-/// the byte.
+/// Saving writes the text that was read, with only the changed keys changed. Every other byte stays as it was.
 class CIniFile
 {
 public:
-    /// Reads the file in place of what the object held. False when it could not be read or holds no settings but
-    /// bytes that are no text.
+    /// Reads the file in place of the present content. Returns false when the file could not be read, or when it has no
+    /// settings and is not text.
     bool Load(const std::string& path);
 
-    /// Loads the file and makes the changes in it, unless the file is known to be as it was when it was loaded last and
-    /// the revision of the changes is the same. True when the object may hold something else than before.
+    /// Loads the file and makes the changes in it, unless the file has certainly not changed since the last load and
+    /// the revision of the changes is the same. Returns true when the content of the object may have changed.
     bool Refresh(const std::string& path, const std::vector<fittings::SettingsChange>& changes = {},
                  std::uint64_t revision = 0);
 
-    /// The same for a path in wide text. The path of the last call is not converted again.
+    /// Does the same for a path in wide text. The path of the last call is not converted again.
     bool Refresh(std::wstring_view path);
 
-    /// Takes @a text in place of what the object held. False when it holds no settings but bytes that are no text.
+    /// Reads @a text in place of the present content. Returns false when it has no settings and is not text.
     bool Parse(std::string text);
 
-    /// Writes the file anew where its bytes change.
+    /// Writes the file if its bytes change.
     bool Save(const std::string& path) const;
 
-    /// Writes the file that was loaded last anew where its bytes change, unless it has changed since: what others store
-    /// at the same time is kept.
+    /// Writes the file that was loaded last if its bytes change, unless the file has changed since. Changes that others
+    /// store at the same time are kept.
     fittings::UpdateResult Update() const;
 
     std::optional<std::wstring> Get(std::wstring_view section, std::wstring_view key) const;
 
-    /// True when Get() returns @a text.
+    /// Whether Get() returns @a text.
     bool Has(std::wstring_view section, std::wstring_view key, std::optional<std::wstring_view> text) const;
 
     void Set(std::wstring_view section, std::wstring_view key, std::wstring_view value);
-    /// Of the section of the empty name it removes the keys before the first section, too.
+    /// In the section with the empty name, removes the key before the first section too.
     void Delete(std::wstring_view section, std::wstring_view key);
 
     using Change = fittings::SettingsChange;
 
-    /// Makes the changes: those of keys, and then those of sections.
+    /// Makes the changes: first those of keys, then those of sections.
     void Apply(const std::vector<Change>& changes);
 
-    /// True when Apply() would change nothing.
+    /// Whether Apply() would change nothing.
     bool HoldsAll(const std::vector<Change>& changes) const;
 
-    /// The names of all sections, each once, in the order of the file. New ones come last.
+    /// Returns the names of all sections, each once, in the order of the file. New ones come last.
     std::vector<std::wstring> SectionNames() const;
 
-    /// The names of a section's keys, each once, in the order of the file. New ones come last.
+    /// Returns the names of a section's keys, each once, in the order of the file. New ones come last.
     std::vector<std::wstring> KeyNames(std::wstring_view section) const;
 
-    /// What KeyNames() names, with its values. Those of the section of the empty name come after the keys before the
-    /// first section that are not in it, too.
+    /// Returns the keys of KeyNames() with their values. For the section with the empty name, the keys before the first
+    /// section come first.
     std::vector<fittings::SettingsEntry> Entries(std::wstring_view section) const;
 
-    /// The last Load() met a file that is there but could not be read.
+    /// Whether the last Load() found a file that it could not read.
     bool HasFailed() const { return m_content.result == fittings::ReadResult::Failed; }
 
-    /// What the last Load() found.
+    /// Returns what the last Load() found.
     const fittings::FileContent& Content() const { return m_content; }
 
 private:
@@ -89,7 +88,7 @@ private:
     bool m_isNoText = false;
     std::uint64_t m_revision = 0;
 
-    /// What the Refresh() of wide text was asked for last.
+    /// The path of the last Refresh() for wide text.
     struct
     {
         std::wstring path;

@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
-// Every load asks about every character of every name.
+// A table, because every load checks every character of every name.
 const std::array<bool, 256> kPlainCharacters = [] {
     std::array<bool, 256> plain = {};
     for (std::size_t byte = 0; byte < plain.size(); ++byte)
@@ -29,7 +29,8 @@ std::size_t PlainLength(std::string_view text)
     return length;
 }
 
-// The brackets of a key such as Name[de]: letters, digits and a few marks, and nothing behind them.
+// Whether the suffix is like that of the key Name[de]: letters, digits and a few marks in brackets, with nothing behind
+// them.
 bool IsLocaleSuffix(std::string_view suffix)
 {
     if (suffix.size() < 2 || suffix.back() != ']')
@@ -114,7 +115,7 @@ IniLineKind IniLines::ClassifyKey(IniLine& line, std::string_view text) const
     const std::size_t equals = text.find('=', plainLength);
     if (equals == std::string_view::npos || equals == 0)
         return IniLineKind::Unknown;
-    // What stands in a line with a NUL was cut or overwritten: it is no setting that anybody made.
+    // A line with a NUL was cut or overwritten, so it is not a setting.
     if (m_hasNul && text.find('\0') != std::string_view::npos)
         return IniLineKind::Unknown;
     line.name = text.substr(0, equals);

@@ -12,8 +12,8 @@ enum class IniLineKind {
     Section,        ///< [name]
     Key,            ///< name=value below a section.
     EarlyKey,       ///< name=value before the first section.
-    BrokenSection,  ///< Starts with '[' but is no section line. Keys below it belong to no section.
-    Unknown,        ///< All else, lines that start with ';' among them.
+    BrokenSection,  ///< Starts with '[' but is not a section line. Keys below it belong to no section.
+    Unknown,        ///< Every other line, for example one that starts with ';'.
 };
 
 /// One line: offsets into the text.
@@ -24,11 +24,11 @@ struct IniLine
     std::size_t end;   ///< Before the line end.
     std::size_t next;  ///< Where the next line begins.
     std::string_view name;
-    bool isPlainName;   ///< The name is certain to be as EncodeName() writes it.
-    std::size_t value;  ///< Where a key's value begins.
+    bool isPlainName;   ///< True if the name is certainly as EncodeName() writes it.
+    std::size_t value;  ///< The beginning of a key's value.
 };
 
-/// Walks through a text line by line. What GKeyFile takes as a section or a key is one here, too.
+/// Walks through a text line by line. It recognises every section and key that GKeyFile does.
 class IniLines
 {
 public:

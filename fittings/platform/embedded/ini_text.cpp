@@ -41,7 +41,7 @@ IniText::IniText(std::string text) : m_text(std::move(text))
     m_isSettings = m_sections.size() > 1 || !(lines.HasNul() || IsUtf16(m_text));
 }
 
-// As EncodeName() writes it.
+// Returns the name of a line as EncodeName() writes it.
 std::string_view IniText::NameOf(const IniLine& line)
 {
     if (line.isPlainName)
@@ -237,7 +237,7 @@ void IniText::AppendNewKeys(std::string& text, const Section& section) const
     for (const Entry& entry : section.entries) {
         if (entry.line != kNone || entry.state != State::Set)
             continue;
-        // The last line of a file may lack its end.
+        // The last line of a file may have no line end.
         if (text.back() != '\n')
             text += LineEnd();
         text.append(entry.name).append("=").append(entry.value).append(LineEnd());
@@ -264,7 +264,7 @@ void IniText::AppendNewSections(std::string& text) const
     }
 }
 
-// That of the first line.
+// Returns the line end of the first line.
 const char* IniText::LineEnd() const
 {
     const std::size_t first = m_text.find('\n');

@@ -16,8 +16,8 @@ namespace fittings {
 /// The text of an INI file, an index of its sections and keys, and the changes made in it.
 ///
 /// Names and values are as EncodeName() and EncodeValue() write them. A person may have written a name in another way;
-/// it is found by what it means. Of several lines with one key the last counts, but one whose section and key are
-/// written as EncodeName() does counts before all others.
+/// it is found by its meaning. If several lines have the same key, the last one counts. A line whose section and key
+/// are written as EncodeName() does takes precedence over the others.
 class IniText
 {
 public:
@@ -28,18 +28,18 @@ public:
     IniText(const IniText&) = delete;
     IniText& operator=(const IniText&) = delete;
 
-    /// False when nothing in the text can have been meant as settings.
+    /// Whether any part of the text can be meant as settings.
     bool IsSettings() const { return m_isSettings; }
 
     bool IsChanged() const { return m_isChanged; }
 
-    /// The text without the changes.
+    /// Returns the text without the changes.
     const std::string& Original() const { return m_text; }
 
-    /// The text with the changes.
+    /// Returns the text with the changes.
     ///
-    /// A value is replaced in its line. New keys come after the last key of their section, new sections after a blank
-    /// line at the end. Every other byte stays as it is, comments in a removed section included.
+    /// A value is replaced in its line. New keys follow the last key of their section. New sections follow a blank line
+    /// at the end. Every other byte stays as it is, also a comment in a removed section.
     std::string Changed() const;
 
     std::optional<std::string_view> Find(std::string_view section, std::string_view key) const;
@@ -47,7 +47,7 @@ public:
     void Remove(std::string_view section, std::string_view key);
 
     bool HasSection(std::string_view section) const { return m_sectionIndices.count(section) != 0; }
-    /// Makes a section, which may stay without keys.
+    /// Makes a section, which may have no keys.
     void AddSection(const std::string& section);
     /// Removes a section and all its keys.
     void RemoveSection(std::string_view section);
@@ -58,20 +58,20 @@ public:
         std::string_view value;
     };
 
-    /// All sections but the early keys, in the order of the text. New ones come last.
+    /// Returns all sections except the early keys, in the order of the text. New ones come last.
     std::vector<std::string_view> Sections() const;
 
-    /// The keys of a section, in the order of the text. New ones come last.
+    /// Returns the keys of a section, in the order of the text. New ones come last.
     std::vector<Key> Keys(std::string_view section) const;
 
     struct Change
     {
         std::string_view section;
-        std::string_view key;                   ///< Empty where the section itself was made or removed.
+        std::string_view key;                   ///< Empty if the section itself was made or removed.
         std::optional<std::string_view> value;  ///< None when the key or the section was removed.
     };
 
-    /// All changes, each key and each section once.
+    /// Returns all changes, each key and each section once.
     std::vector<Change> Changes() const;
 
 private:
@@ -82,20 +82,20 @@ private:
     struct Entry
     {
         std::string_view name;
-        std::size_t line = kNone;  ///< The one that counts. None: the key is new.
+        std::size_t line = kNone;  ///< The line that counts. kNone: the key is new.
         bool hasOwnName = false;   ///< Section and key stand in the line as EncodeName() writes them.
         State state = State::AsRead;
-        std::string value = {};  ///< That was set.
+        std::string value = {};  ///< The value that was set.
     };
 
     struct Section
     {
         std::string_view name;
         std::vector<Entry> entries = {};
-        std::unordered_map<std::string_view, std::size_t> indices = {};  ///< Of the entries, by name.
-        std::size_t lastLine = kNone;  ///< Where new keys go. None: the section is new.
-        bool hasOwnName = false;       ///< The last line is below a section line as EncodeName() writes it.
-        bool isMade = false;           ///< By AddSection().
+        std::unordered_map<std::string_view, std::size_t> indices = {};  ///< Indices of the entries, by name.
+        std::size_t lastLine = kNone;  ///< New keys go behind it. kNone: the section is new.
+        bool hasOwnName = false;       ///< True if the last line is below a section line as EncodeName() writes it.
+        bool isMade = false;           ///< True after AddSection().
         bool isRemoved = false;
     };
 
@@ -107,7 +107,7 @@ private:
         std::size_t end;   ///< Before the line end.
         std::size_t next;  ///< Where the next line begins.
         std::size_t section;
-        std::size_t entry;  ///< None: the line of the section itself.
+        std::size_t entry;  ///< kNone: the line of the section itself.
     };
 
     struct Place
@@ -126,7 +126,7 @@ private:
     const char* LineEnd() const;
 
     const std::string m_text;
-    std::deque<std::string> m_names;  ///< Those that do not stand in the text.
+    std::deque<std::string> m_names;  ///< Names that do not stand in the text.
     std::deque<Section> m_sections;   ///< Removed ones included. The first has the early keys.
     std::unordered_map<std::string_view, std::size_t> m_sectionIndices;  ///< Without removed ones.
     std::vector<Line> m_lines;

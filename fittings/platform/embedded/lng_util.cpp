@@ -13,14 +13,15 @@ namespace {
 
 const char* const kLibraryDomain = "fittings";
 
-// Never destroyed: the texts handed out stay valid until the process ends.
+// Never destroyed: the returned texts stay valid until the process ends.
 const wchar_t* Intern(const std::wstring& text)
 {
     static auto& texts = *new std::unordered_set<std::wstring>;
     return texts.insert(text).first->c_str();
 }
 
-// The installed catalogues, from where this library stands: the prefix may have been moved. Empty when that is unknown.
+// Returns the folder of the installed catalogues, found from the path of this library, because the prefix may have been
+// moved. Empty when the path is unknown.
 wxString CatalogueFolder()
 {
     Dl_info library;
@@ -33,7 +34,7 @@ wxString CatalogueFolder()
     return wxString((file.parent_path() / FITTINGS_LOCALE_DIR).lexically_normal().c_str(), *wxConvFileName);
 }
 
-// The host may replace its translations at any time, so whether ours are among them is asked for at every look-up.
+// Called at every look-up, because the host may replace its translations at any time.
 void LoadOwnCatalogue(wxTranslations& translations)
 {
     if (translations.IsLoaded(kLibraryDomain))

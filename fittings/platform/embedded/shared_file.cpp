@@ -13,11 +13,11 @@ namespace {
 
 using Clock = FileLock::Clock;
 
-// How long a write waits for others in all.
+// How long a write waits for other writes in total.
 constexpr std::chrono::milliseconds kPatience(1900);
 constexpr std::chrono::milliseconds kPause(1);
 
-// Each time that another process was faster takes a new attempt.
+// Each time that another process saves first, a new attempt is needed.
 constexpr int kMaxAttempts = 100;
 
 // Waits for a program that has emptied the file in place, such as an editor, to fill it.
@@ -35,7 +35,7 @@ void LoadFilled(CIniFile& file, const std::string& path)
 
 SharedFile& SharedFile::At(const std::string& path)
 {
-    // Never destroyed: an application's own objects may store something when the process ends.
+    // Never destroyed: an application's own objects may store settings while the process ends.
     static auto& mutex = *new std::mutex;
     static auto& files = *new std::map<std::string, std::unique_ptr<SharedFile>>;
     const std::lock_guard<std::mutex> lock(mutex);
@@ -55,7 +55,7 @@ bool SharedFile::Store(const std::vector<SettingsChange>& changes)
         const UpdateResult result = StoreOnce(changes, deadline);
         if (result != UpdateResult::Outdated)
             return result == UpdateResult::Saved;
-        // Somebody else has saved, so nobody is stuck.
+        // Another process has saved, so the holder of the lock is not stuck.
         deadline = Clock::now() + kPatience;
     }
     return false;
@@ -63,11 +63,11 @@ bool SharedFile::Store(const std::vector<SettingsChange>& changes)
 
 UpdateResult SharedFile::StoreOnce(const std::vector<SettingsChange>& changes, Clock::time_point deadline)
 {
-    // Who holds the lock is stuck when an earlier wait for it was in vain, and nobody else has saved since.
+    // The holder of the lock is stuck if an earlier wait for the lock failed and no other process has saved since.
     const bool isStuck = m_hasWaitedInVain && m_savedAfterThat == IdentityOf(m_path);
     const FileLock lock(m_path + ".lock", isStuck ? Clock::now() : deadline);
 
-    // What other processes have stored since is read now, and only the given settings of it change.
+    // Read what other processes have stored, and change only the given settings.
     CIniFile file;
     LoadFilled(file, m_path);
     file.Apply(changes);

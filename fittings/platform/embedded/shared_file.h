@@ -11,18 +11,18 @@
 
 namespace fittings {
 
-/// A settings file that several processes and threads change. Any thread.
+/// A settings file that several processes and threads change. Callable from any thread.
 class SharedFile
 {
 public:
-    /// The file at @a path, made when it is asked for first and never destroyed.
+    /// Returns the object for the file at @a path. The first call makes it, and it is never destroyed.
     static SharedFile& At(const std::string& path);
 
     explicit SharedFile(std::string path) : m_path(std::move(path)) {}
 
     const std::string& Path() const { return m_path; }
 
-    /// Makes all of the changes by one save, or none of them. False when they could not be saved.
+    /// Makes all changes with one save. Returns false when they could not be saved; none is then stored.
     bool Store(const std::vector<SettingsChange>& changes);
 
 private:
@@ -30,7 +30,7 @@ private:
 
     const std::string m_path;
 
-    std::mutex m_writing;  ///< Guards the two that follow.
+    std::mutex m_writing;  ///< Guards the two members below.
     bool m_hasWaitedInVain = false;
     std::optional<FileIdentity> m_savedAfterThat;
 };

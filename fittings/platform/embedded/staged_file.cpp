@@ -23,10 +23,10 @@ using GText = std::unique_ptr<char, decltype(&g_free)>;
 
 constexpr std::string_view kPrefix = ".fittings-save-";
 
-// What is older was left behind by a process that was killed while it saved.
+// Older temporary files were left by processes that were killed while they saved.
 constexpr time_t kLifetimeSeconds = 60;
 
-// Makes an empty file whose name no person gives. Empty on any error.
+// Makes an empty file with a name that no person would choose. Returns an empty text on any error.
 std::string MakeFile(const std::string& folder)
 {
     for (int attempt = 0; attempt < 1000; ++attempt) {
@@ -35,7 +35,7 @@ std::string MakeFile(const std::string& folder)
         const FileDescriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOCTTY, 0600));
         if (file.Get() >= 0)
             return path;
-        // A forked process draws the same random numbers as its parent.
+        // Try again: a forked process gets the same random numbers as its parent.
         if (errno != EEXIST)
             break;
     }
@@ -64,7 +64,7 @@ void RemoveLeftovers(const std::string& folder)
     g_dir_close(dir);
 }
 
-// The bytes are on the disk when this returns.
+// When this returns true, the bytes are on the disk.
 bool WriteDurably(const std::string& path, std::string_view bytes)
 {
     return g_file_set_contents_full(path.c_str(), bytes.data(), static_cast<gssize>(bytes.size()),
@@ -73,7 +73,7 @@ bool WriteDurably(const std::string& path, std::string_view bytes)
 
 void KeepOwnerAndMode(const std::string& path, const struct stat& old)
 {
-    // Where they cannot be kept, as on a file system without owners, saving matters more.
+    // Ignore an error, for example on a file system without owners: saving is more important.
     if (old.st_uid != geteuid() || old.st_gid != getegid())
         static_cast<void>(!chown(path.c_str(), old.st_uid, old.st_gid));
     static_cast<void>(!chmod(path.c_str(), old.st_mode & 07777));

@@ -15,13 +15,13 @@ enum class PlaceResult {
     Unsupported,    ///< The file system cannot do this in one step.
 };
 
-/// Bytes on the disk beside the file whose place they will take, under a name of their own until then. What stands
-/// under that name goes with the object.
+/// New content on the disk beside the file that it will replace, under a temporary name. The destructor removes the
+/// file with the temporary name.
 class StagedFile
 {
 public:
-    /// Writes @a bytes for the file at @a target, which is no link. @a old has that file's mode and owner, and is null
-    /// when there is none. Removes what killed processes have left in the folder.
+    /// Writes @a bytes for the file at @a target, which must not be a link. @a old has that file's mode and owner; it
+    /// is null when there is no file. Removes the temporary files that killed processes have left in the folder.
     StagedFile(std::string target, std::string_view bytes, const struct stat* old);
     ~StagedFile();
     StagedFile(const StagedFile&) = delete;
@@ -30,16 +30,16 @@ public:
     /// False when the bytes could not be written.
     bool IsWritten() const { return m_isWritten; }
 
-    /// Takes the place of whatever file is there.
+    /// Replaces the target, whether there is a file or not.
     PlaceResult Replace();
 
-    /// Takes the place where no file is.
+    /// Puts the new file at the target, where no file must be.
     PlaceResult PutNew();
 
-    /// Takes the file's place and gives it its own. A second call undoes the first.
+    /// Exchanges the new file and the target. A second call undoes the first.
     PlaceResult Exchange();
 
-    /// The name of its own.
+    /// Returns the temporary name.
     const std::string& Path() const { return m_path; }
 
 private:

@@ -18,7 +18,7 @@
 
 namespace {
 
-// What the kernel takes for one file name, in bytes.
+// The longest file name that the kernel accepts, in bytes.
 constexpr std::size_t kMaxNameBytes = 255;
 
 struct DataDir
@@ -32,15 +32,16 @@ struct DataDir
 
 DataDir& TheDataDir()
 {
-    // Never destroyed, as the default store, which lies there, is not.
+    // Never destroyed, because the default store is in this folder and is never destroyed.
     static auto& dataDir = *new DataDir;
     return dataDir;
 }
 
-// The name as one component of a path: what a file name cannot hold, or should not, becomes an underscore.
+// Returns the name as one component of a path. Each character that a file name cannot or should not contain becomes an
+// underscore.
 std::wstring SafeFileName(const std::wstring& text)
 {
-    // What is no Unicode character cannot come back from the disk.
+    // A code that is not a Unicode character cannot be read back from the disk.
     std::wstring name = file_util_ex::ConvertFromUTF8W(file_util_ex::ConvertToUTF8(text));
     for (wchar_t& character : name) {
         if (character == L'/' || fittings::IsControl(static_cast<char32_t>(character)))
@@ -68,7 +69,7 @@ std::wstring ApplicationFolderName(const wxString& applicationName)
     return name.empty() ? L"application" : name;
 }
 
-// What the password database has for the user's home folder; empty where it has none.
+// Returns the user's home folder in the password database; empty if it has none.
 std::string RegisteredHome()
 {
     constexpr std::size_t kMostBytes = std::size_t{1} << 20;
@@ -80,8 +81,8 @@ std::string RegisteredHome()
     return found && found->pw_dir ? found->pw_dir : "";
 }
 
-// Always absolute: GLib hands on what HOME says, and in a relative folder, or an empty one, settings would be stored
-// wherever the program happens to run.
+// Returns the home folder, always as an absolute path. GLib returns HOME as it is. With a relative or empty HOME,
+// settings would be stored in the current folder.
 std::wstring Home()
 {
     std::string home = g_get_home_dir();
@@ -93,7 +94,7 @@ std::wstring Home()
 std::wstring BaseDataDir()
 {
     const char* base = g_get_user_data_dir();
-    // The XDG Base Directory Specification has a relative path ignored; GLib hands it on.
+    // The XDG Base Directory Specification says to ignore a relative path; GLib returns it.
     if (g_path_is_absolute(base))
         return file_util_ex::ConvertFromUTF8W(base);
     return file_util_ex::MakePath(Home(), L".local/share");
@@ -109,7 +110,7 @@ std::wstring GetUserDataDir()
     const std::lock_guard<std::mutex> lock(dataDir.mutex);
     if (!dataDir.chosen.empty())
         return dataDir.chosen;
-    // Asked for at every access to the settings, so it is worked out anew only when the application's name changes.
+    // Called at every access to the settings, so compute the path again only when the application's name changes.
     const wxString name = ApplicationName();
     if (!dataDir.known || name != dataDir.applicationName) {
         dataDir.path = file_util_ex::MakePath(BaseDataDir(), ApplicationFolderName(name));
@@ -128,7 +129,7 @@ void SetUserDataDir(const CStdStr<wchar_t>& path)
 
 std::wstring GetAppFolderPath(const wchar_t* name)
 {
-    // Where the documents are is read from the home folder, and said relative to it.
+    // The documents folder is configured in a file in the home folder and is relative to the home folder.
     const bool hasHome = g_path_is_absolute(g_get_home_dir());
     const char* documents = hasHome ? g_get_user_special_dir(G_USER_DIRECTORY_DOCUMENTS) : nullptr;
     const std::wstring base = documents ? file_util_ex::ConvertFromUTF8W(documents) : Home();

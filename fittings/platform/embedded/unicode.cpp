@@ -12,7 +12,7 @@ DecodedUtf8 DecodeUtf8(std::string_view text)
         return {lead, 1};
     std::size_t length = 0;
     char32_t code = 0;
-    // Bounds of the second byte: they leave out overlong forms, surrogates and what is above U+10FFFF.
+    // Bounds of the second byte: they exclude overlong forms, surrogates and codes above U+10FFFF.
     unsigned char low = 0x80;
     unsigned char high = 0xBF;
     if (lead >= 0xC2 && lead <= 0xDF) {
