@@ -8,7 +8,8 @@ namespace fittings {
 
 enum class AccessibleRole { ComboBox, Grid, Text, Tree };
 
-/// Tells assistive technologies what a window is. A call that changes nothing is cheap, so call it on every idle event.
+/// Tells assistive technologies what a window is. A call that changes nothing is cheap, so it may be called on every
+/// idle event.
 ///
 /// The accessible name is @a value, the current choice, as for GTK's own combo boxes; @a label is then the description.
 /// When @a value is empty, @a label is the name.

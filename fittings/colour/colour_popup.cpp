@@ -128,7 +128,7 @@ bool wxColourPopup::SetColour(const wxColour& colour)
     if (!m_combo)
         return true;
     const wxString name = TextOf(m_nChosenColourSel);
-    // Closing makes the hot cell's name the value. Keep this name, so that it replaces the other one then.
+    // Closing makes the hot cell's name the value. Remember this name to restore it then.
     if (m_valueWhenShown || m_ending)
         m_valueWhenShown = name;
     if (m_combo->GetValue() != name)

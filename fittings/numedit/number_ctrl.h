@@ -44,10 +44,10 @@ class NumberField;
 ///
 /// | Input | What it does |
 /// | --- | --- |
-/// | a character | goes in where a number within the bounds begins so: with 10 to 20, "1" does and "3" does not |
+/// | a character | is accepted if a number within the bounds can begin so: with 10 to 20, "1" but not "3" |
 /// | the keypad's decimal key | types the format's point under every keyboard layout |
-/// | pasted or dropped text | is read with its groups, its template and its minus behind |
-/// | Up and Down, the wheel | step by SetIncrement(), held to the bounds |
+/// | pasted or dropped text | may have groups, the template and a trailing minus |
+/// | Up and Down, the wheel | step by SetIncrement() within the bounds |
 /// | Page Up and Page Down | step ten times as far |
 ///
 /// Deleting is never refused, and neither is a text that the program sets. A text that is not a number within the

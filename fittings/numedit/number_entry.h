@@ -20,7 +20,7 @@ namespace fittings {
 class NumberEntry
 {
 public:
-    /// A text on its way into the control.
+    /// A text that is to be inserted into the control.
     struct Insertion
     {
         std::wstring before;

@@ -58,7 +58,7 @@ bool StoreChanges(const std::vector<fittings::SettingsChange>& changes)
     return true;
 }
 
-// Without a value the key is removed.
+// Stores a value. Without a value, removes the key.
 bool StoreSetting(std::wstring_view section, std::wstring_view key, std::optional<std::wstring_view> value)
 {
     return StoreChanges({{std::wstring(section), std::wstring(key), std::optional<std::wstring>(value)}});
