@@ -151,6 +151,7 @@ Labels SplitLabels(std::wstring_view text)
     // Most labels of a tree are not in the set. With few entries per bucket, such a look-up usually meets an empty
     // bucket.
     labels.max_load_factor(0.25F);
+    labels.reserve(static_cast<std::size_t>(std::count(text.begin(), text.end(), kSeparator)));
     for (std::size_t end = text.find(kSeparator); end != text.npos; end = text.find(kSeparator)) {
         labels.insert(text.substr(0, end));
         text.remove_prefix(end + 1);
@@ -168,7 +169,12 @@ struct Item
 // decides.
 std::wstring JoinExpanded(std::vector<Item> items)
 {
-    std::stable_sort(items.begin(), items.end(), [](const Item& a, const Item& b) { return a.label < b.label; });
+    const auto isBefore = [](const Item& a, const Item& b) { return a.label < b.label; };
+    // Siblings usually are in order. The item that the walk starts with comes before them.
+    const auto second = items.begin() + (items.empty() ? 0 : 1);
+    if (!std::is_sorted(second, items.end(), isBefore))
+        std::stable_sort(second, items.end(), isBefore);
+    std::inplace_merge(items.begin(), second, items.end(), isBefore);
     std::wstring text;
     for (auto item = items.begin(); item != items.end(); ++item) {
         const auto next = std::next(item);
