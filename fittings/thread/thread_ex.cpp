@@ -2,7 +2,10 @@
 
 #include <algorithm>
 #include <chrono>
+#include <climits>
 #include <cstdint>
+
+#include <pthread.h>
 
 #include <wx/evtloop.h>
 
@@ -33,39 +36,64 @@ public:
 
 private:
     // Tells the owner that the thread is over, also after an exception: Wait() must not hang.
+    //
+    // The C library first destroys a thread's thread-local objects, as this one, and then the values of its keys, in
+    // rounds. The toolkit's own values go in the first round, so the owner is told in the second: a program that ends
+    // right after Wait() would otherwise shut down the toolkit while the thread still uses it.
     struct End
     {
         explicit End(wxThreadEx* threadOwner) : owner(threadOwner) {}
-        ~End()
-        {
-            // Signal under the lock: once it is free, the owner may destroy the condition and the mutex.
-            const wxMutexLocker lock(owner->m_mutex);
-            owner->m_exitCode = exitCode;
-            owner->m_finished = true;
-            if (owner->m_atEnd)
-                owner->m_atEnd(exitCode);
-            owner->m_condition.Signal();
-        }
+        ~End() { TellInNextRound(owner); }
         End(const End&) = delete;
         End& operator=(const End&) = delete;
 
+        static void TellInNextRound(wxThreadEx* owner)
+        {
+            static const pthread_key_t key = NewKey();
+            if (pthread_setspecific(key, owner) != 0)
+                Tell(owner);
+        }
+
+        static pthread_key_t NewKey()
+        {
+            pthread_key_t key = PTHREAD_KEYS_MAX;  // no key, if there is no room for another
+            pthread_key_create(&key, [](void* owner) {
+                static thread_local int round = 0;
+                if (++round < 2)
+                    TellInNextRound(static_cast<wxThreadEx*>(owner));
+                else
+                    Tell(static_cast<wxThreadEx*>(owner));
+            });
+            return key;
+        }
+
+        static void Tell(wxThreadEx* owner)
+        {
+            // Signal under the lock: once it is free, the owner may destroy the condition and the mutex.
+            const wxMutexLocker lock(owner->m_mutex);
+            owner->m_finished = true;
+            if (owner->m_atEnd)
+                owner->m_atEnd(owner->m_exitCode);
+            owner->m_condition.Signal();
+        }
+
         wxThreadEx* const owner;
-        ExitCode exitCode = kNoExitCode;
     };
 
     ExitCode Entry() override
     {
-        // Thread-local, so that it is destroyed after the toolkit's last use of the thread. Otherwise a program that
-        // ends right after Wait() would shut down the toolkit while the thread still uses it, and crash.
-        static thread_local End end(m_owner);
-        end.exitCode = m_owner->Entry();
+        static thread_local const End end(m_owner);
+        m_owner->m_exitCode = m_owner->Entry();
         return nullptr;
     }
 
     wxThreadEx* const m_owner;
 };
 
-wxThreadEx::wxThreadEx(wxThreadKind kind) : m_detached(kind == wxTHREAD_DETACHED), m_impl(new wxThreadExImpl(this)) {}
+wxThreadEx::wxThreadEx(wxThreadKind kind)
+    : m_detached(kind == wxTHREAD_DETACHED), m_impl(new wxThreadExImpl(this)), m_exitCode(kNoExitCode)
+{
+}
 
 // The toolkit deletes the implementation at the end of its thread.
 wxThreadEx::~wxThreadEx()

@@ -72,7 +72,8 @@ public:
     ///         wxTHREAD_RUNNING, and nothing happens, when the object has run before.
     wxThreadError Run();
 
-    /// Waits until Entry() has returned and the thread is over, its thread-local objects included.
+    /// Waits until Entry() has returned and the thread is over: its thread-local objects are destroyed, and the toolkit
+    /// uses it no more.
     ///
     /// May be called again and gives the same exit code. Only one thread at a time may be waiting: one is woken. No
     /// events are handled meanwhile, so an Entry() that waits for the GUI thread never returns, and neither does one
@@ -105,7 +106,7 @@ private:
     bool m_running = false;
     bool m_finished = false;
     wxThreadExImpl* const m_impl;
-    wxThread::ExitCode m_exitCode = nullptr;
+    wxThread::ExitCode m_exitCode;
 
 protected:
     /// Called on the thread when Entry() has returned, with the exit code. It must not call HasEnded() or Wait(), which

@@ -94,21 +94,10 @@ TEST(Wait, IsRefusedBeforeRun)
     EXPECT_EQ(constructed.Wait(), Code(42));
 }
 
-// A program may end right after Wait().
-TEST(Wait, BlocksUntilTheThreadIsOver)
+// A program may end right after Wait(), so nothing may be left to do on the thread.
+void ExpectWaitBlocksUntil(Signal& over, Thread::Work work)
 {
-    static Signal over;
-    struct Last
-    {
-        ~Last() { go.Wait(); }
-        Signal& go;
-    };
-    Thread thread(
-        [](Thread&) {
-            static thread_local const Last last{over};
-            return Code(42);
-        },
-        wxTHREAD_JOINABLE);
+    Thread thread(std::move(work), wxTHREAD_JOINABLE);
     thread.Create(0);
     thread.Run();
     wxThread::ExitCode code = nullptr;
@@ -118,6 +107,32 @@ TEST(Wait, BlocksUntilTheThreadIsOver)
     over.Set();
     EXPECT_TRUE(waiter.Ends());
     EXPECT_EQ(code, Code(42));
+}
+
+TEST(Wait, BlocksUntilThreadLocalObjectsAreDestroyed)
+{
+    static Signal over;
+    struct Last
+    {
+        ~Last() { over.Wait(); }
+    };
+    ExpectWaitBlocksUntil(over, [](Thread&) {
+        static thread_local const Last last;
+        return Code(42);
+    });
+}
+
+// The toolkit keeps its data of a thread in such values.
+TEST(Wait, BlocksUntilTheValuesOfKeysAreDestroyed)
+{
+    static Signal over;
+    static pthread_key_t key;
+    ASSERT_EQ(pthread_key_create(&key, [](void*) { over.Wait(); }), 0);
+    ExpectWaitBlocksUntil(over, [](Thread&) {
+        pthread_setspecific(key, &over);
+        return Code(42);
+    });
+    pthread_key_delete(key);
 }
 
 // No call tells when a detached object may be destroyed, so these are never destroyed.
