@@ -7,7 +7,7 @@
 
 #include <fuzzer/FuzzedDataProvider.h>
 
-#include <fittings/platform/embedded/ini_codec.h>
+#include <fittings/platform/embedded/text/ini_codec.h>
 #include <fuzz/check.h>
 
 namespace {

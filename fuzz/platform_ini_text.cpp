@@ -9,8 +9,8 @@
 
 #include <glib.h>
 
-#include <fittings/platform/embedded/ini_codec.h>
-#include <fittings/platform/embedded/ini_text.h>
+#include <fittings/platform/embedded/text/ini_codec.h>
+#include <fittings/platform/embedded/text/ini_text.h>
 #include <fuzz/check.h>
 
 namespace {

@@ -6,7 +6,7 @@
 #include <glib.h>
 #include <glib/gstdio.h>
 
-#include <fittings/platform/embedded/unicode.h>
+#include <fittings/platform/embedded/text/unicode.h>
 
 namespace {
 

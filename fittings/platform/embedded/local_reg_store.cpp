@@ -10,11 +10,11 @@
 
 #include <glib.h>
 
-#include <fittings/platform/embedded/collected_settings.h>
-#include <fittings/platform/embedded/default_store.h>
-#include <fittings/platform/embedded/ini_codec.h>
-#include <fittings/platform/embedded/ini_file.h>
-#include <fittings/platform/embedded/shared_file.h>
+#include <fittings/platform/embedded/store/collected_settings.h>
+#include <fittings/platform/embedded/store/default_store.h>
+#include <fittings/platform/embedded/store/ini_file.h>
+#include <fittings/platform/embedded/store/shared_file.h>
+#include <fittings/platform/embedded/text/ini_codec.h>
 #include <fittings/platform/file_util_ex.h>
 
 using fittings::CollectedSettings;

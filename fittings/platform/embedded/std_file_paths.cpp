@@ -13,7 +13,7 @@
 #include <wx/app.h>
 #include <wx/string.h>
 
-#include <fittings/platform/embedded/unicode.h>
+#include <fittings/platform/embedded/text/unicode.h>
 #include <fittings/platform/file_util_ex.h>
 
 namespace {

@@ -1,5 +1,5 @@
-#ifndef FITTINGS_PLATFORM_EMBEDDED_INI_FILE_H_
-#define FITTINGS_PLATFORM_EMBEDDED_INI_FILE_H_
+#ifndef FITTINGS_PLATFORM_EMBEDDED_STORE_INI_FILE_H_
+#define FITTINGS_PLATFORM_EMBEDDED_STORE_INI_FILE_H_
 
 #include <cstdint>
 #include <memory>
@@ -8,8 +8,8 @@
 #include <string_view>
 #include <vector>
 
-#include <fittings/platform/embedded/file_bytes.h>
-#include <fittings/platform/embedded/ini_text.h>
+#include <fittings/platform/embedded/file/file_bytes.h>
+#include <fittings/platform/embedded/text/ini_text.h>
 #include <fittings/platform/local_reg_store.h>
 
 /// An INI file in wide text.

@@ -1,4 +1,4 @@
-#include <fittings/platform/embedded/ini_file.h>
+#include <fittings/platform/embedded/store/ini_file.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -8,7 +8,7 @@
 
 #include <unistd.h>
 
-#include <fittings/platform/embedded/ini_codec.h>
+#include <fittings/platform/embedded/text/ini_codec.h>
 #include <fittings/platform/file_util_ex.h>
 
 using fittings::IniText;

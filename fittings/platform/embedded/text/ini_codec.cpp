@@ -1,4 +1,4 @@
-#include <fittings/platform/embedded/ini_codec.h>
+#include <fittings/platform/embedded/text/ini_codec.h>
 
 #include <algorithm>
 #include <cstddef>
@@ -6,7 +6,7 @@
 
 #include <glib.h>
 
-#include <fittings/platform/embedded/unicode.h>
+#include <fittings/platform/embedded/text/unicode.h>
 
 namespace fittings {
 

@@ -1,4 +1,4 @@
-#include <fittings/platform/embedded/default_store.h>
+#include <fittings/platform/embedded/store/default_store.h>
 
 #include <utility>
 

@@ -1,5 +1,5 @@
-#ifndef FITTINGS_PLATFORM_EMBEDDED_COLLECTED_SETTINGS_H_
-#define FITTINGS_PLATFORM_EMBEDDED_COLLECTED_SETTINGS_H_
+#ifndef FITTINGS_PLATFORM_EMBEDDED_STORE_COLLECTED_SETTINGS_H_
+#define FITTINGS_PLATFORM_EMBEDDED_STORE_COLLECTED_SETTINGS_H_
 
 #include <cstddef>
 #include <cstdint>
@@ -9,7 +9,7 @@
 #include <tuple>
 #include <vector>
 
-#include <fittings/platform/embedded/ini_file.h>
+#include <fittings/platform/embedded/store/ini_file.h>
 
 namespace fittings {
 

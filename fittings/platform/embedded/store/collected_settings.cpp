@@ -1,9 +1,9 @@
-#include <fittings/platform/embedded/collected_settings.h>
+#include <fittings/platform/embedded/store/collected_settings.h>
 
 #include <atomic>
 #include <utility>
 
-#include <fittings/platform/embedded/default_store.h>
+#include <fittings/platform/embedded/store/default_store.h>
 
 namespace fittings {
 

@@ -1,13 +1,13 @@
-#ifndef FITTINGS_PLATFORM_EMBEDDED_SHARED_FILE_H_
-#define FITTINGS_PLATFORM_EMBEDDED_SHARED_FILE_H_
+#ifndef FITTINGS_PLATFORM_EMBEDDED_STORE_SHARED_FILE_H_
+#define FITTINGS_PLATFORM_EMBEDDED_STORE_SHARED_FILE_H_
 
 #include <mutex>
 #include <optional>
 #include <string>
 #include <vector>
 
-#include <fittings/platform/embedded/file_lock.h>
-#include <fittings/platform/embedded/ini_file.h>
+#include <fittings/platform/embedded/file/file_lock.h>
+#include <fittings/platform/embedded/store/ini_file.h>
 
 namespace fittings {
 

@@ -1,4 +1,4 @@
-#include <fittings/platform/embedded/shared_file.h>
+#include <fittings/platform/embedded/store/shared_file.h>
 
 #include <chrono>
 #include <map>

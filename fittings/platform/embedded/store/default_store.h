@@ -1,5 +1,5 @@
-#ifndef FITTINGS_PLATFORM_EMBEDDED_DEFAULT_STORE_H_
-#define FITTINGS_PLATFORM_EMBEDDED_DEFAULT_STORE_H_
+#ifndef FITTINGS_PLATFORM_EMBEDDED_STORE_DEFAULT_STORE_H_
+#define FITTINGS_PLATFORM_EMBEDDED_STORE_DEFAULT_STORE_H_
 
 #include <mutex>
 #include <optional>
@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
-#include <fittings/platform/embedded/ini_file.h>
-#include <fittings/platform/embedded/shared_file.h>
+#include <fittings/platform/embedded/store/ini_file.h>
+#include <fittings/platform/embedded/store/shared_file.h>
 
 namespace fittings {
 

@@ -1,11 +1,11 @@
-#include <fittings/platform/embedded/ini_lines.h>
+#include <fittings/platform/embedded/text/ini_lines.h>
 
 #include <algorithm>
 #include <array>
 
 #include <glib.h>
 
-#include <fittings/platform/embedded/ini_codec.h>
+#include <fittings/platform/embedded/text/ini_codec.h>
 
 namespace fittings {
 

@@ -1,4 +1,4 @@
-#include <fittings/platform/embedded/unicode.h>
+#include <fittings/platform/embedded/text/unicode.h>
 
 #include <cstdint>
 

@@ -1,5 +1,5 @@
-#ifndef FITTINGS_PLATFORM_EMBEDDED_INI_TEXT_H_
-#define FITTINGS_PLATFORM_EMBEDDED_INI_TEXT_H_
+#ifndef FITTINGS_PLATFORM_EMBEDDED_TEXT_INI_TEXT_H_
+#define FITTINGS_PLATFORM_EMBEDDED_TEXT_INI_TEXT_H_
 
 #include <cstddef>
 #include <deque>
@@ -9,7 +9,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include <fittings/platform/embedded/ini_lines.h>
+#include <fittings/platform/embedded/text/ini_lines.h>
 
 namespace fittings {
 

@@ -1,10 +1,10 @@
-#ifndef FITTINGS_PLATFORM_EMBEDDED_FILE_LOCK_H_
-#define FITTINGS_PLATFORM_EMBEDDED_FILE_LOCK_H_
+#ifndef FITTINGS_PLATFORM_EMBEDDED_FILE_FILE_LOCK_H_
+#define FITTINGS_PLATFORM_EMBEDDED_FILE_FILE_LOCK_H_
 
 #include <chrono>
 #include <string>
 
-#include <fittings/platform/embedded/file_descriptor.h>
+#include <fittings/platform/embedded/file/file_descriptor.h>
 
 namespace fittings {
 

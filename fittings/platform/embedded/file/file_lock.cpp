@@ -1,11 +1,11 @@
-#include <fittings/platform/embedded/file_lock.h>
+#include <fittings/platform/embedded/file/file_lock.h>
 
 #include <cerrno>
 #include <thread>
 
 #include <fcntl.h>
 
-#include <fittings/platform/embedded/file_bytes.h>
+#include <fittings/platform/embedded/file/file_bytes.h>
 
 namespace fittings {
 

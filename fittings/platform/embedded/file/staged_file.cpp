@@ -1,4 +1,4 @@
-#include <fittings/platform/embedded/staged_file.h>
+#include <fittings/platform/embedded/file/staged_file.h>
 
 #include <cerrno>
 #include <cstdio>
@@ -12,8 +12,8 @@
 
 #include <glib.h>
 
-#include <fittings/platform/embedded/file_bytes.h>
-#include <fittings/platform/embedded/file_descriptor.h>
+#include <fittings/platform/embedded/file/file_bytes.h>
+#include <fittings/platform/embedded/file/file_descriptor.h>
 
 namespace fittings {
 

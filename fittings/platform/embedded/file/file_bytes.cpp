@@ -1,4 +1,4 @@
-#include <fittings/platform/embedded/file_bytes.h>
+#include <fittings/platform/embedded/file/file_bytes.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -15,8 +15,8 @@
 #include <glib.h>
 #include <glib/gstdio.h>
 
-#include <fittings/platform/embedded/file_descriptor.h>
-#include <fittings/platform/embedded/staged_file.h>
+#include <fittings/platform/embedded/file/file_descriptor.h>
+#include <fittings/platform/embedded/file/staged_file.h>
 
 namespace fittings {
 

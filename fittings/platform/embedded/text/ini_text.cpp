@@ -1,8 +1,8 @@
-#include <fittings/platform/embedded/ini_text.h>
+#include <fittings/platform/embedded/text/ini_text.h>
 
 #include <utility>
 
-#include <fittings/platform/embedded/ini_codec.h>
+#include <fittings/platform/embedded/text/ini_codec.h>
 
 namespace fittings {
 
