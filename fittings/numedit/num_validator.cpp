@@ -5,8 +5,8 @@
 #include <wx/textctrl.h>
 #include <wx/utils.h>
 
+#include <fittings/numedit/entry/refused_key.h>
 #include <fittings/numedit/number_edit_utils.h>
-#include <fittings/numedit/refused_key.h>
 
 namespace {
 

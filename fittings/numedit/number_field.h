@@ -8,7 +8,7 @@
 
 #include <wx/string.h>
 
-#include <fittings/numedit/number_entry.h>
+#include <fittings/numedit/entry/number_entry.h>
 #include <fittings/numedit/number_format.h>
 #include <fittings/numedit/number_rules.h>
 

@@ -1,4 +1,4 @@
-#include <fittings/numedit/refused_key.h>
+#include <fittings/numedit/entry/refused_key.h>
 
 #include <memory>
 #include <string>

@@ -1,4 +1,4 @@
-#include <fittings/numedit/number_entry.h>
+#include <fittings/numedit/entry/number_entry.h>
 
 #include <algorithm>
 #include <utility>
