@@ -13,8 +13,8 @@
 
 #include <fittings/config/ui_config_mgr.h>
 #include <fittings/config/wx_window_state.h>
-#include <fuzz/check.h>
-#include <fuzz/toolkit.h>
+#include <fuzz/support/check.h>
+#include <fuzz/support/toolkit.h>
 
 namespace {
 

@@ -13,8 +13,8 @@
 #include <fittings/config/persistence.h>
 #include <fittings/config/persistent/tree_paths.h>
 #include <fittings/platform/local_reg_store.h>
-#include <fuzz/check.h>
-#include <fuzz/toolkit.h>
+#include <fuzz/support/check.h>
+#include <fuzz/support/toolkit.h>
 
 namespace {
 

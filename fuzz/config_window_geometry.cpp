@@ -11,8 +11,8 @@
 
 #include <fittings/config/wx_window_state.h>
 #include <fittings/platform/local_reg_store.h>
-#include <fuzz/check.h>
-#include <fuzz/toolkit.h>
+#include <fuzz/support/check.h>
+#include <fuzz/support/toolkit.h>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

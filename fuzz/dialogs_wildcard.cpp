@@ -11,8 +11,8 @@
 
 #include <fittings/dialogs/file_dialog.h>
 #include <fittings/platform/local_reg_store.h>
-#include <fuzz/check.h>
-#include <fuzz/toolkit.h>
+#include <fuzz/support/check.h>
+#include <fuzz/support/toolkit.h>
 
 namespace {
 

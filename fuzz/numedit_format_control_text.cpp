@@ -4,9 +4,9 @@
 #include <cmath>
 
 #include <fittings/numedit/number_edit_utils.h>
-#include <fuzz/check.h>
-#include <fuzz/number_input.h>
-#include <fuzz/number_shape.h>
+#include <fuzz/support/check.h>
+#include <fuzz/support/number_input.h>
+#include <fuzz/support/number_shape.h>
 
 namespace {
 

@@ -1,9 +1,9 @@
 // GroupDigits(): without the separators the result is the text, and the separators are in the right places.
 
 #include <fittings/numedit/number_edit_utils.h>
-#include <fuzz/check.h>
-#include <fuzz/number_input.h>
-#include <fuzz/number_shape.h>
+#include <fuzz/support/check.h>
+#include <fuzz/support/number_input.h>
+#include <fuzz/support/number_shape.h>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include <fittings/numedit/number_edit_utils.h>
-#include <fuzz/check.h>
-#include <fuzz/number_input.h>
+#include <fuzz/support/check.h>
+#include <fuzz/support/number_input.h>
 
 namespace {
 

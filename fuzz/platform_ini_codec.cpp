@@ -8,7 +8,7 @@
 #include <fuzzer/FuzzedDataProvider.h>
 
 #include <fittings/platform/embedded/text/ini_codec.h>
-#include <fuzz/check.h>
+#include <fuzz/support/check.h>
 
 namespace {
 

@@ -11,7 +11,7 @@
 #include <vector>
 
 #include <fittings/platform/local_reg_store.h>
-#include <fuzz/check.h>
+#include <fuzz/support/check.h>
 #include <fuzzer/FuzzedDataProvider.h>
 #include <unistd.h>
 

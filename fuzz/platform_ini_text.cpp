@@ -11,7 +11,7 @@
 
 #include <fittings/platform/embedded/text/ini_codec.h>
 #include <fittings/platform/embedded/text/ini_text.h>
-#include <fuzz/check.h>
+#include <fuzz/support/check.h>
 
 namespace {
 

@@ -14,8 +14,8 @@
 
 #include <fittings/platform/local_reg_store.h>
 #include <fittings/tree/handy_tree_ctrl.h>
-#include <fuzz/check.h>
-#include <fuzz/toolkit.h>
+#include <fuzz/support/check.h>
+#include <fuzz/support/toolkit.h>
 
 namespace {
 

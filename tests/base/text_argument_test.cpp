@@ -18,7 +18,7 @@
 #include <fittings/platform/local_reg_store.h>
 #include <fittings/tree/handy_tree_ctrl.h>
 #include <tests/platform/store/store_support.h>
-#include <tests/support/scoped_locale.h>
+#include <tests/support/locale/scoped_locale.h>
 
 namespace {
 

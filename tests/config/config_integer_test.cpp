@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include <tests/support/scoped_locale.h>
+#include <tests/support/locale/scoped_locale.h>
 #include <tests/support/temp_folder.h>
 
 namespace {

@@ -24,7 +24,7 @@
 #include <fittings/platform/lng_util.h>
 #include <fittings/platform/local_reg_store.h>
 #include <tests/support/gui.h>
-#include <tests/support/scoped_locale.h>
+#include <tests/support/locale/scoped_locale.h>
 #include <tests/support/temp_folder.h>
 
 namespace {

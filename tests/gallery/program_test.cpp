@@ -14,8 +14,8 @@
 #include <gtest/gtest.h>
 
 #include <tests/support/becomes.h>
+#include <tests/support/locale/scoped_locale.h>
 #include <tests/support/process/child_process.h>
-#include <tests/support/scoped_locale.h>
 #include <tests/support/temp_folder.h>
 
 namespace {

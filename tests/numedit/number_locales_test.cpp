@@ -7,7 +7,7 @@
 #include <wx/strconv.h>
 
 #include <tests/numedit/number_texts.h>
-#include <tests/support/scoped_locale.h>
+#include <tests/support/locale/scoped_locale.h>
 
 namespace {
 

@@ -14,7 +14,7 @@
 
 #include <tests/numedit/control/number_ctrl_dialog.h>
 #include <tests/support/gui.h>
-#include <tests/support/scoped_locale.h>
+#include <tests/support/locale/scoped_locale.h>
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include <tests/numedit/validator/keyboard.h>
 #include <tests/numedit/validator/number_dialog.h>
 #include <tests/support/gui.h>
-#include <tests/support/scoped_locale.h>
+#include <tests/support/locale/scoped_locale.h>
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include <tests/support/scoped_locale.h>
+#include <tests/support/locale/scoped_locale.h>
 
 #include <cstdlib>
 

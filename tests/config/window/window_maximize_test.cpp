@@ -8,7 +8,7 @@
 #include <wx/frame.h>
 
 #include <fittings/platform/local_reg_store.h>
-#include <tests/config/stored_geometry.h>
+#include <tests/config/window/stored_geometry.h>
 #include <tests/support/gui.h>
 #include <tests/support/replaced_function.h>
 #include <tests/support/temp_folder.h>

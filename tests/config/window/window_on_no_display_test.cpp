@@ -8,7 +8,7 @@
 #include <wx/display.h>
 
 #include <fittings/platform/local_reg_store.h>
-#include <tests/config/spy_window.h>
+#include <tests/config/window/spy_window.h>
 #include <tests/support/gui.h>
 #include <tests/support/replaced_function.h>
 #include <tests/support/temp_folder.h>

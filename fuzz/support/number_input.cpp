@@ -1,4 +1,4 @@
-#include <fuzz/number_input.h>
+#include <fuzz/support/number_input.h>
 
 #include <clocale>
 #include <cmath>
@@ -7,7 +7,7 @@
 #include <limits>
 #include <string>
 
-#include <fuzz/check.h>
+#include <fuzz/support/check.h>
 #include <fuzzer/FuzzedDataProvider.h>
 #include <locale.h>
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <tests/config/spy_window.h>
+#include <tests/config/window/spy_window.h>
 #include <tests/support/gui.h>
 
 namespace {

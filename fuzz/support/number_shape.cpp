@@ -1,4 +1,4 @@
-#include <fuzz/number_shape.h>
+#include <fuzz/support/number_shape.h>
 
 #include <algorithm>
 #include <cwchar>

@@ -10,8 +10,8 @@
 #include <wx/utils.h>
 
 #include <fittings/platform/local_reg_store.h>
-#include <tests/config/spy_window.h>
-#include <tests/config/stored_geometry.h>
+#include <tests/config/window/spy_window.h>
+#include <tests/config/window/stored_geometry.h>
 #include <tests/support/gui.h>
 #include <tests/support/temp_folder.h>
 

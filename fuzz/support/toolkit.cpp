@@ -1,4 +1,4 @@
-#include <fuzz/toolkit.h>
+#include <fuzz/support/toolkit.h>
 
 #include <cstdlib>
 #include <filesystem>
@@ -11,7 +11,7 @@
 #include <wx/init.h>
 
 #include <fittings/platform/std_file_paths.h>
-#include <fuzz/check.h>
+#include <fuzz/support/check.h>
 
 namespace {
 

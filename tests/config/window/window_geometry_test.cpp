@@ -10,10 +10,10 @@
 
 #include <fittings/platform/local_reg_store.h>
 #include <fittings/platform/std_file_paths.h>
-#include <tests/config/spy_window.h>
-#include <tests/config/stored_geometry.h>
+#include <tests/config/window/spy_window.h>
+#include <tests/config/window/stored_geometry.h>
 #include <tests/support/gui.h>
-#include <tests/support/scoped_locale.h>
+#include <tests/support/locale/scoped_locale.h>
 #include <tests/support/temp_folder.h>
 
 namespace {
