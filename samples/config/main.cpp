@@ -15,9 +15,9 @@ class NotesFrame : public wxFrame
 public:
     NotesFrame() : wxFrame(nullptr, wxID_ANY, "Notes"), m_panes(this)
     {
-        m_text->SetValue(ui_config_mgr::GetConfigString(L"notes.ini", L"Notes", L"Text"));
+        m_text->SetValue(ui_config_mgr::GetConfigString("notes.ini", "Notes", "Text"));
         try {
-            m_copies->SetValue(ui_config_mgr::GetConfigInt(L"notes.ini", L"Notes", L"Copies"));
+            m_copies->SetValue(ui_config_mgr::GetConfigInt("notes.ini", "Notes", "Copies"));
         } catch (const std::logic_error&) {
             m_copies->SetValue(1);  // the user has edited the file, and the value is not a number
         }
@@ -25,13 +25,13 @@ public:
         m_panes.AddPane(m_copies,
                         wxAuiPaneInfo().Name("copies").Caption("Copies").Bottom().CloseButton(false).Floatable(false));
         m_panes.Update();
-        wx_window_state::LoadAuiManagerState(&m_panes, L"Notes");
-        wx_window_state::LoadState(this, L"Notes");
+        wx_window_state::LoadAuiManagerState(&m_panes, "Notes");
+        wx_window_state::LoadState(this, "Notes");
         Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent& event) {
-            ui_config_mgr::WriteConfigString(L"notes.ini", L"Notes", L"Text", m_text->GetValue());
-            ui_config_mgr::WriteConfigInt(L"notes.ini", L"Notes", L"Copies", m_copies->GetValue());
-            wx_window_state::SaveAuiManagerState(&m_panes, L"Notes");
-            wx_window_state::SaveState(this, L"Notes");
+            ui_config_mgr::WriteConfigString("notes.ini", "Notes", "Text", m_text->GetValue());
+            ui_config_mgr::WriteConfigInt("notes.ini", "Notes", "Copies", m_copies->GetValue());
+            wx_window_state::SaveAuiManagerState(&m_panes, "Notes");
+            wx_window_state::SaveState(this, "Notes");
             event.Skip();
         });
     }
@@ -45,10 +45,6 @@ private:
 
 class NotesApp : public wxApp
 {
-    bool OnInit() override
-    {
-        (new NotesFrame)->Show();
-        return true;
-    }
+    bool OnInit() override { return (new NotesFrame)->Show(); }
 };
 wxIMPLEMENT_APP(NotesApp);

@@ -1,7 +1,6 @@
 // Lists the files of a folder, and saves the list. Each dialog starts in the folder where it was last used.
 
 #include <wx/dir.h>
-#include <wx/file.h>
 #include <wx/wx.h>
 
 #include <fittings/dialogs/file_dialog.h>
@@ -18,14 +17,12 @@ public:
         auto* bar = new wxMenuBar;
         bar->Append(menu, "&File");
         SetMenuBar(bar);
-        Bind(
-            wxEVT_MENU, [this](wxCommandEvent&) { Open(); }, wxID_OPEN);
-        Bind(
-            wxEVT_MENU, [this](wxCommandEvent&) { Save(); }, wxID_SAVE);
+        Bind(wxEVT_MENU, &ListFrame::OnOpen, this, wxID_OPEN);
+        Bind(wxEVT_MENU, &ListFrame::OnSave, this, wxID_SAVE);
     }
 
 private:
-    void Open()
+    void OnOpen(wxCommandEvent&)
     {
         const wxString folder = wxFolderDlg::DoModalReg(this, "ListedFolder", "List the files of");
         if (folder.empty())
@@ -37,13 +34,13 @@ private:
         SetTitle(wxString::Format("%zu files in %s", files.size(), folder));
     }
 
-    void Save()
+    void OnSave(wxCommandEvent&)
     {
         const std::string earlier = CQVFileDialogI::SetRegEntry("SavedList");
         const wxString path =
             CQVFileDialogI::LaunchSaveDialog(this, "txt", "Texts (*.txt)|*.txt|All files|*", "Save the list", "", "");
         CQVFileDialogI::SetRegEntry(earlier);
-        if (!path.empty() && wxFile(path, wxFile::write).Write(m_list->GetValue()))
+        if (!path.empty() && m_list->SaveFile(path))
             SetTitle("Saved in " + path);
     }
 

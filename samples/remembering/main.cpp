@@ -15,16 +15,14 @@ public:
         auto* bar = new wxMenuBar;
         bar->Append(menu, "&File");
         SetMenuBar(bar);
-        Bind(
-            wxEVT_MENU, [this](wxCommandEvent&) { Open(); }, wxID_OPEN);
-        Bind(
-            wxEVT_MENU, [this](wxCommandEvent&) { Save(); }, wxID_SAVEAS);
+        Bind(wxEVT_MENU, &TextFrame::OnOpen, this, wxID_OPEN);
+        Bind(wxEVT_MENU, &TextFrame::OnSave, this, wxID_SAVEAS);
     }
 
 private:
     static constexpr const char* kFiles = "Texts (*.txt)|*.txt|All files|*";
 
-    void Open()
+    void OnOpen(wxCommandEvent&)
     {
         wxRememberingFileDialog dialog(this, "OpenedText", "Open texts", kFiles,
                                        wxFD_OPEN | wxFD_FILE_MUST_EXIST | wxFD_MULTIPLE);
@@ -37,7 +35,7 @@ private:
         SetTitle(wxString::Format("%zu opened, %s shown", paths.size(), paths.back()));
     }
 
-    void Save()
+    void OnSave(wxCommandEvent&)
     {
         wxRememberingFileDialog dialog(this, "SavedText", "Save the text", kFiles, wxFD_SAVE | wxFD_OVERWRITE_PROMPT);
         if (dialog.ShowModal() == wxID_OK && m_text->SaveFile(dialog.GetPath()))

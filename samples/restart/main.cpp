@@ -1,6 +1,6 @@
 // Adds up all numbers up to the one in the field, on a thread that restarts at each change of the field.
 
-#include <memory>
+#include <optional>
 
 #include <wx/wx.h>
 
@@ -36,8 +36,7 @@ public:
     SumFrame() : wxFrame(nullptr, wxID_ANY, "Sum")
     {
         (new wxTextCtrl(this, wxID_ANY))->Bind(wxEVT_TEXT, [this](wxCommandEvent& event) {
-            m_adder.reset();  // stops
-            m_adder = std::make_unique<Adder>(this, wxAtol(event.GetString()));
+            m_adder.emplace(this, wxAtol(event.GetString()));  // stops the one before
             SetTitle(m_adder->RunThread() == wxTHREAD_NO_ERROR ? "Adding up" : "No thread to add up on");
         });
         Bind(EVT_ADDED_UP, [this](wxCommandEvent& event) {
@@ -47,7 +46,7 @@ public:
     }
 
 private:
-    std::unique_ptr<Adder> m_adder;
+    std::optional<Adder> m_adder;
 };
 
 class SumApp : public wxApp

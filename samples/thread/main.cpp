@@ -16,7 +16,6 @@ static bool IsPrime(int n)
 
 class PrimeCounter : public wxGUIThreadEx
 {
-public:
     using wxGUIThreadEx::wxGUIThreadEx;
     wxThread::ExitCode Entry() override
     {

@@ -6,18 +6,16 @@
 
 #include <fittings/tree/handy_tree_ctrl.h>
 
+static wxString PathOf(const wxTreeCursor& item)
+{
+    const wxTreeCursor parent = item.GetParent();
+    return parent.IsOk() ? PathOf(parent) + "/" + item.GetText() : wxString(item.GetText());
+}
+
 class FolderTree : public wxHandyTreeCtrl
 {
 public:
     using wxHandyTreeCtrl::wxHandyTreeCtrl;
-
-    static wxString PathOf(const wxTreeCursor& item)
-    {
-        const wxTreeCursor parent = item.GetParent();
-        return parent.IsOk() ? PathOf(parent) + "/" + item.GetText() : wxString(item.GetText());
-    }
-
-private:
     void OnItemExpanding(const wxTreeCursor& item) override
     {
         wxLogNull noMessages;  // about a folder that the user may not read
@@ -46,8 +44,7 @@ class FoldersApp : public wxApp
         root.SetChildren(true);
         tree->LoadState(root);
         tree->SelectRootItem();
-        tree->Bind(wxEVT_TREE_SEL_CHANGED,
-                   [=](wxTreeEvent&) { frame->SetTitle(FolderTree::PathOf(tree->GetSelection())); });
+        tree->Bind(wxEVT_TREE_SEL_CHANGED, [=](wxTreeEvent&) { frame->SetTitle(PathOf(tree->GetSelection())); });
         frame->Bind(wxEVT_CLOSE_WINDOW, [=](wxCloseEvent& event) {
             tree->SaveState(root);
             event.Skip();
