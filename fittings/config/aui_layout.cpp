@@ -11,22 +11,22 @@ namespace {
 
 constexpr std::wstring_view kStart = L"layout2|";
 
-// The toolkit copies the rest of the text once for each pane and dock in it.
+// For each pane and dock the toolkit copies the rest of the text, so a longer text would take too long.
 constexpr std::size_t kLongest = 1'000'000;
 constexpr int kMostParts = 2000;
 
-// For each layout the toolkit searches every row of every layer for every dock, several times.
+// The toolkit searches every row of every layer several times for each dock. More of them would take too long.
 constexpr std::int64_t kMostSteps = 10'000'000;
 constexpr std::int64_t kMostRows = 10'000;
 
-// The same for text in a caption that the toolkit takes for a number.
+// The largest number in a caption that the toolkit would read as a field.
 constexpr long kMostInText = 100;
 
-// In pixels: the sum over all possible parts does not overflow.
+// In pixels. The sum over all possible parts does not overflow.
 constexpr std::int64_t kFarthest = 1'000'000;
 
 constexpr std::int64_t kLastDirection = 5;                   // wxAUI_DOCK_CENTER
-constexpr std::int64_t kActionPane = std::int64_t{1} << 31;  // wxAuiPaneInfo::actionPane: the one that is being dragged
+constexpr std::int64_t kActionPane = std::int64_t{1} << 31;  // wxAuiPaneInfo::actionPane: the pane being dragged
 
 /// Parses a text from its start. After the first unexpected character, everything fails.
 class Scanner
@@ -139,10 +139,11 @@ bool AreTexts(std::wstring_view texts)
            texts.substr(separator, kCaption.size()) == kCaption;
 }
 
-/// True when the texts hold nothing that the toolkit would take for a number that it cannot use.
+/// Whether the texts contain no number that the toolkit would read and cannot use.
 ///
-/// The toolkit does not read back the ";" of a text, but takes the rest for the next field: "a;row=99999999;" in a
-/// caption becomes a row, and the empty field after it the end of the pane. "\b" is its placeholder for a ";".
+/// The toolkit does not read an escaped ";" as a part of the text, but what follows as the next field. With
+/// "a;row=99999999;" in a caption it reads a row, and takes the empty field behind it for the end of the pane. "\b" is
+/// its placeholder for an escaped ";".
 bool AreReadAtOnce(std::wstring_view texts)
 {
     for (std::size_t at = texts.find_first_of(L";\b"); at != texts.npos; at = texts.find_first_of(L";\b", at + 1)) {

@@ -5,12 +5,12 @@
 
 namespace fittings {
 
-/// Whether wxAuiManager::SavePerspective() can have written the text, and LoadPerspective() lays it out at once.
+/// Whether wxAuiManager::SavePerspective() can have written the text and LoadPerspective() can lay it out quickly.
 ///
-/// False for a text that is cut, lacks a field or has a wrong number in one; and for a damaged text for which the
-/// toolkit would count rows for minutes, or divide by zero.
+/// False for a text that is cut off, lacks a field or has an invalid number. Also false for a text with which the
+/// toolkit would count rows for minutes or divide by zero.
 ///
-/// A ";" in a caption is fine here, but LoadPerspective() asserts on it and cuts the caption.
+/// A caption with a ";" is accepted, although LoadPerspective() asserts on it and cuts the caption.
 bool IsAuiLayout(std::wstring_view text);
 
 }  // namespace fittings

@@ -12,7 +12,7 @@ namespace fittings {
 /// sizes. Other window managers never announce them, and the decorations enlarge the window. So the window is shown
 /// before the answer, and the toolkit subtracts the decorations from its size when they are known.
 ///
-/// Does nothing for a window that is shown already, nor on Wayland.
+/// Does nothing for a window that is already shown, and nothing on Wayland.
 void ShowWithoutDelay(wxTopLevelWindow& window);
 
 /// Makes a window appear at its present position. By itself the toolkit leaves the place to the window manager when the

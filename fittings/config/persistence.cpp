@@ -91,8 +91,8 @@ public:
         return found == m_records.end() ? nullptr : found->second.lock().get();
     }
 
-    /// Schedules a save of the values that are being stored: on the next turn of the event loop at the latest, or with
-    /// the window when the program ends before that.
+    /// Saves the values that are being stored on the next turn of the event loop at the latest. If the program ends
+    /// first, they are saved with the window.
     void SaveSoon(const wxPersistentObject& who)
     {
         // Use the outermost one: a window that is being destroyed may be partly gone.
@@ -160,7 +160,7 @@ bool wxStorePersistenceManager::SaveValue(const wxPersistentObject& who, const w
         if (name == kMaximized)
             value = record.IsMaximized(*window);
         if (Field(wxRect(), name) && record.IsOutOfItsPlace(*window)) {
-            // When the normal place is not known, the stored one stays.
+            // If the normal place is unknown, keep the stored one.
             if (!record.NormalRect())
                 return true;
             value = *Field(*record.NormalRect(), name);
@@ -199,7 +199,7 @@ bool wxStorePersistenceManager::RestoreValue(const wxPersistentObject& who, cons
             *value = window->GetPosition().x;
             return isRestored;
         }
-        // The whole place is restored here; the toolkit must not change it.
+        // The place was restored with x. Give the toolkit nothing that changes it.
         if (name == kY) {
             *value = window->GetPosition().y;
             return true;

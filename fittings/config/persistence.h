@@ -18,14 +18,14 @@
 #include <fittings/base/export.h>
 
 /// @file
-/// Windows that remember what their user has arranged, through the toolkit's persistence.
+/// Windows that remember how their user arranged them, through the toolkit's persistence.
 
 namespace fittings {
 class AncestorWatch;
 }
 
-/// Makes the toolkit's persistence keep its values in the default store: of frames, dialogs, splitters, books
-/// and data views, and of the trees, lists and AUI layouts below.
+/// Makes the toolkit's persistence keep its values in the default store: those of frames, dialogs, splitters, books and
+/// data views, and those of the trees, lists and AUI layouts below.
 ///
 /// @code
 /// wxStorePersistenceManager::Install();
@@ -34,29 +34,30 @@ class AncestorWatch;
 /// return frame->Show();
 /// @endcode
 ///
-/// Register a window once it has all its children, items and columns, and before it is shown: with all that is in it,
-/// as above, or alone, by wxPersistentRegisterAndRestore().
+/// Register a window when it has all its children, items and columns, and before it is shown.
+/// wxPersistentRegisterAndRestoreAll() registers it with everything in it, wxPersistentRegisterAndRestore() registers
+/// it alone.
 ///
-/// A frame or dialog comes back as by wx_window_state::LoadState(): on a display that is still there, within its work
-/// area, and in its place even if it is the first window of the process. One that was maximised comes back maximised,
-/// and when the user restores it, it has the place and size that it had before; the same for full screen and iconised.
-/// These are known from wxPersistentRegisterAndRestore() on.
+/// A frame or dialog is restored as by wx_window_state::LoadState(): on a display that still exists, within its work
+/// area, and in its place even if it is the first window of the process. A window that was maximised is maximised
+/// again. When the user restores it, it gets the place and size that it had before. The same holds for full screen and
+/// iconised windows. Their states are recorded from wxPersistentRegisterAndRestore() on.
 ///
-/// What a window and the controls in it store is collected and saved as one when the window is gone; what is stored by
-/// a control that goes alone, on the next turn of the event loop.
+/// The values of a window and of the controls in it are collected, and saved together when the window is destroyed. The
+/// values of a control that is destroyed alone are saved on the next turn of the event loop.
 ///
-/// The values are those of the toolkit's classes, sections "Persistent_Options/Window/Browser" and the like. A value
-/// that is damaged counts as none. GUI thread only.
+/// The toolkit's classes define the values and the sections, such as "Persistent_Options/Window/Browser". A damaged
+/// value counts as missing. GUI thread only.
 class FITTINGS_API wxStorePersistenceManager : public wxPersistenceManager
 {
 public:
     ~wxStorePersistenceManager() override;
 
-    /// Makes wxPersistenceManager::Get() return the one object of this class, which is never destroyed. To be called
-    /// before the first window is registered, as in wxApp::OnInit(). More calls do nothing.
+    /// Makes wxPersistenceManager::Get() return the one object of this class, which is never destroyed. Call this
+    /// before the first window is registered, for example in wxApp::OnInit(). Further calls do nothing.
     static wxStorePersistenceManager& Install();
 
-    /// Saves what has been collected. Returns false when it could not be saved; it is then still collected.
+    /// Saves what was collected. Returns false when that failed; the values then stay collected.
     bool Flush();
 
     /// @name For the persistent objects
@@ -65,13 +66,13 @@ public:
     bool SaveValue(const wxPersistentObject& who, const wxString& name, int value) override;       ///< Collects it.
     bool SaveValue(const wxPersistentObject& who, const wxString& name, long value) override;      ///< Collects it.
     bool SaveValue(const wxPersistentObject& who, const wxString& name, wxString value) override;  ///< Collects it.
-    /// False for what is neither 0 nor 1.
+    /// Returns false if the stored value is neither 0 nor 1.
     bool RestoreValue(const wxPersistentObject& who, const wxString& name, bool* value) override;
-    /// False for what is no int, or no place and size that a window can have.
+    /// Returns false if the stored value is not an int, or not a place or size that a window can have.
     bool RestoreValue(const wxPersistentObject& who, const wxString& name, int* value) override;
-    /// False for what is no number.
+    /// Returns false if the stored value is not a number.
     bool RestoreValue(const wxPersistentObject& who, const wxString& name, long* value) override;
-    /// False where there is none.
+    /// Returns false if no value is stored.
     bool RestoreValue(const wxPersistentObject& who, const wxString& name, wxString* value) override;
     /// @}
 
@@ -90,14 +91,15 @@ private:
     std::unique_ptr<Windows> m_windows;
 };
 
-/// Remembers of a tree which items are expanded, which are selected, and which is the first in view.
+/// Remembers which items of a tree are expanded, which are selected, and which is the first in view.
 ///
-/// Items are known by their paths, whose steps may hold any text; siblings with one label are told apart by their
-/// number. The label of the root does not matter. Restoring expands parents first, so that levels which are filled as
-/// they are expanded open on the way; it collapses nothing, and fills no level that was collapsed. Selecting sends the
-/// toolkit's events, as if the user did it. Items that are gone are left out.
+/// An item is identified by the labels on the path to it, which may be any text. Siblings with the same label are told
+/// apart by their number. The label of the root does not matter. Restoring expands parents first, so that items that
+/// are filled when they expand are filled on the way. It collapses no item, and does not fill items that were
+/// collapsed. Selecting sends the toolkit's events, as if the user had selected the item. Items that no longer exist
+/// are left out.
 ///
-/// Deeper than 10,000 levels nothing is remembered: the toolkit does not bear expanded trees that are much deeper.
+/// Levels beyond 10,000 are not remembered: the toolkit cannot handle expanded trees that are much deeper.
 class FITTINGS_API wxPersistentTreeCtrl : public wxPersistentWindow<wxTreeCtrl>
 {
 public:
@@ -105,20 +107,20 @@ public:
     ~wxPersistentTreeCtrl() override;
 
     void Save() const override;         ///< Stores the state.
-    bool Restore() override;            ///< False when there is none.
+    bool Restore() override;            ///< False when no state is stored.
     wxString GetKind() const override;  ///< Part of the section's name.
 
 private:
     void OnIdle(wxIdleEvent& event);
     void ForgetFirstInView();
 
-    wxString m_scrollTo;              ///< What was restored, until its first item in view has been scrolled to.
-    std::optional<wxString> m_state;  ///< As it is when a window around the tree begins to go.
+    wxString m_scrollTo;              ///< The restored state, until its first item in view is scrolled to.
+    std::optional<wxString> m_state;  ///< The state when the destruction of an ancestor began.
     std::unique_ptr<fittings::AncestorWatch> m_watch;
 };
 
-/// Remembers the widths of a report's columns, and their order where the toolkit lets the user change it. Widths of
-/// another number of columns than there are now count as none.
+/// Remembers the widths of a report's columns, and their order if the toolkit lets the user change it. Widths for
+/// another number of columns than the list has count as missing.
 class FITTINGS_API wxPersistentListCtrl : public wxPersistentWindow<wxListCtrl>
 {
 public:
@@ -126,7 +128,7 @@ public:
     ~wxPersistentListCtrl() override;
 
     void Save() const override;         ///< Stores the state.
-    bool Restore() override;            ///< False when there is none.
+    bool Restore() override;            ///< False when no state is stored.
     wxString GetKind() const override;  ///< Part of the section's name.
 
 private:
@@ -140,29 +142,29 @@ private:
 
     std::optional<State> GetState() const;
 
-    std::optional<State> m_state;  ///< As it is when a window around the list begins to go.
+    std::optional<State> m_state;  ///< The state when the destruction of an ancestor began.
     std::unique_ptr<fittings::AncestorWatch> m_watch;
 };
 
-/// Remembers the layout of an AUI manager's panes, until the manager or the window that it manages goes, whichever is
-/// first.
+/// Remembers the layout of an AUI manager's panes, until the manager or its window is destroyed, whichever is first.
 ///
-/// Register the manager when it has all its panes. A stored layout that the toolkit cannot have written counts as none,
-/// as for wx_window_state::LoadAuiManagerState(); what is said there of captions and floating panes holds here too.
+/// Register the manager when it has all its panes. A stored layout that the toolkit cannot have written counts as
+/// missing, as in wx_window_state::LoadAuiManagerState(). What is said there about captions and floating panes holds
+/// here too.
 class FITTINGS_API wxPersistentAui : public wxPersistentObject
 {
 public:
-    /// @param manager Manages a window already.
-    /// @param name The name of that window when empty.
+    /// @param manager  must already manage a window.
+    /// @param name  empty: the name of that window.
     explicit wxPersistentAui(wxAuiManager* manager, const wxString& name = wxString());
     ~wxPersistentAui() override;
 
     void Save() const override;         ///< Stores the state.
-    bool Restore() override;            ///< False when there is none.
+    bool Restore() override;            ///< False when no state is stored.
     wxString GetKind() const override;  ///< Part of the section's name.
-    wxString GetName() const override;  ///< The name given, or the window's.
+    wxString GetName() const override;  ///< The given name, or the window's.
 
-    /// The manager; null once it has begun to go.
+    /// Returns the manager; null once its destruction has begun.
     wxAuiManager* Get() const;
 
 private:
@@ -172,44 +174,45 @@ private:
     wxString m_name;
 };
 
-/// @name What wxPersistentRegisterAndRestore() finds
+/// @name Functions that wxPersistentRegisterAndRestore() calls
 /// @{
 
-/// Makes the object, which the toolkit takes over.
+/// Makes the object; the toolkit takes ownership.
 inline wxPersistentObject* wxCreatePersistentObject(wxTreeCtrl* tree)
 {
     return new wxPersistentTreeCtrl(tree);
 }
 
-/// Makes the object, which the toolkit takes over.
+/// Makes the object; the toolkit takes ownership.
 inline wxPersistentObject* wxCreatePersistentObject(wxListCtrl* list)
 {
     return new wxPersistentListCtrl(list);
 }
 
-/// Makes the object, which the toolkit takes over.
+/// Makes the object; the toolkit takes ownership.
 inline wxPersistentObject* wxCreatePersistentObject(wxAuiManager* manager)
 {
     return new wxPersistentAui(manager);
 }
 
-/// As the toolkit's function does for windows; a manager has no SetName(). For a class derived from wxAuiManager,
-/// convert the pointer.
+/// Does the same as the toolkit's function for windows. The name is a parameter because a manager has no SetName(). For
+/// a class derived from wxAuiManager, convert the pointer.
 inline bool wxPersistentRegisterAndRestore(wxAuiManager* manager, const wxString& name)
 {
     return wxPersistenceManager::Get().RegisterAndRestore(manager, new wxPersistentAui(manager, name));
 }
 /// @}
 
-/// Registers and restores a window, under @a name, and each window in it that can remember something: splitters, books,
-/// data views, trees and reports. True when something was restored.
+/// Registers and restores a window under @a name, and each window in it that can remember something: splitters, books,
+/// data views, trees and reports. Returns true when something was restored.
 ///
-/// A window in it goes by its own name behind that of the outer one, "Planets/treeCtrl" where it was given none. Of
-/// several with one name, the second one has " 2" at its end, and so on in the order in which they were made: give a
-/// name to those that later versions of the program may put in another order. No window's name changes.
+/// A window in it is registered under its own name behind that of the outer window, such as "Planets/treeCtrl" for a
+/// tree without a name of its own. If several have the same name, the second one gets " 2" at its end, and so on in the
+/// order of their creation. Give a name to each window whose place in this order may change in a later version of the
+/// program. The windows' own names do not change.
 ///
-/// Left out are windows that were registered before, other frames and dialogs, data views that are a page of a book
-/// themselves, and AUI managers.
+/// Not registered are windows that were registered before, other frames and dialogs, data views that are a page of a
+/// book, and AUI managers.
 FITTINGS_API bool wxPersistentRegisterAndRestoreAll(wxWindow* window, const wxString& name);
 
 #endif

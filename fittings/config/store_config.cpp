@@ -314,7 +314,7 @@ bool wxStoreConfig::DoWriteString(const wxString& path, const wxString& value)
     const EntryPath entry(pathText);
     if (!CanBeStored(pathText) || !CanBeStored(text))
         return false;
-    // Refresh only when there may be nothing to change.
+    // Refresh if the text seems to be stored already: another process may have changed it.
     if (!m_model->IsLoaded() || HasText(*m_model, entry, text))
         m_model->Refresh();
     StoreGroup* group = m_model->Find(entry.group);

@@ -12,25 +12,26 @@ namespace fittings {
 class StoreModel;
 }
 
-/// The settings store as the toolkit's wxConfigBase: for wxFileHistory, wxPersistenceManager and all that asks for one.
+/// The settings store as a wxConfigBase, for wxFileHistory, wxPersistenceManager and everything else that uses one.
 ///
-/// The group "A/B" is the section `A/B` of the store and an entry its key, so that `/LastFiles/Report` reads what
-/// CQVFileDialogI has stored. Entries of the root stand in the section of the empty name, `[%]` in the file.
+/// The group "A/B" is the section `A/B` of the store, and its entries are the keys of that section. So
+/// `/LastFiles/Report` is the value that CQVFileDialogI stores. Entries of the root are in the section with the empty
+/// name, `[%]` in the file.
 ///
-/// Reads see own changes over what the store holds at that moment, whoever has stored it. Changes are collected;
-/// Flush() and the destructor save the changed entries alone, by one save that loses nothing of what other processes
+/// Reads return what the store holds at that moment, whoever stored it, with the changes of this object. Changes are
+/// collected. Flush() and the destructor save only the changed entries, with one save that keeps what other processes
 /// have stored meanwhile. While the thread has a CLocalRegStore::Batch, the default store is saved with that.
 ///
-/// What is as in wxFileConfig: paths, "..", groups without entries, the texts of numbers and binary data. What is not:
-/// - Names are told apart by their exact characters, upper and lower case included.
+/// Paths, "..", groups without entries, the texts of numbers, and binary data are as in wxFileConfig. What differs:
+/// - Names are compared exactly, including upper and lower case.
 /// - Groups and entries are enumerated in the order of the file; new and renamed ones come last.
-/// - A '!' at the beginning of a name is a character like any other; there are no immutable entries.
-/// - To read an entry makes no group, and a failure to save is not logged but returned by Flush().
+/// - A '!' at the beginning of a name has no meaning; there are no immutable entries.
+/// - Reading an entry makes no group. A failure to save is not logged: Flush() returns it.
 /// - DeleteAll() is collected, too. In the default store it removes the settings of all components.
 ///
-/// A name or value with a null character, and a path of more than 100 groups, cannot be stored: the write returns
-/// false. A section whose name is no path of groups, such as `A//B`, is kept and cannot be reached. One thread at a
-/// time.
+/// A name or value with a null character cannot be stored, and neither can a path of more than 100 groups: the write
+/// returns false. A section whose name is not a path of groups, such as `A//B`, is kept but cannot be reached. Only one
+/// thread at a time may use an object.
 ///
 /// @code
 /// wxConfigBase::Set(new wxStoreConfig);  // the toolkit deletes it when the program ends
@@ -38,10 +39,10 @@ class StoreModel;
 class FITTINGS_API wxStoreConfig : public wxConfigBase
 {
 public:
-    /// The default store of CLocalRegStore.
+    /// Opens the default store of CLocalRegStore.
     wxStoreConfig();
 
-    /// A named file, as ui_config_mgr names it: in the folder "ui_config" of what is the user data directory now.
+    /// Opens a named file as ui_config_mgr does: in the folder "ui_config" of the present user data directory.
     explicit wxStoreConfig(const wxString& file);
 
     /// Saves what has not been saved yet. Call Flush() to learn whether that succeeds.
@@ -50,55 +51,55 @@ public:
     wxStoreConfig(const wxStoreConfig&) = delete;
     wxStoreConfig& operator=(const wxStoreConfig&) = delete;
 
-    /// Takes over all groups and entries of @a old, once: a later call changes nothing, also in a later run of the
-    /// program and with another @a old. An entry that is there already keeps its value. Texts are taken as they stand,
-    /// with no environment variable expanded, and @a old keeps its path and options.
+    /// Takes over all groups and entries of @a old once. A later call changes nothing, also in a later run of the
+    /// program and with another @a old. An entry that already exists keeps its value. Texts are taken literally:
+    /// environment variables are not expanded. @a old keeps its path and options.
     ///
-    /// Saves at once, with all that was collected. Returns false when that failed; the next call then tries again.
+    /// Saves at once, with everything that was collected. Returns false when that failed; the next call then tries
+    /// again.
     bool ImportFrom(wxConfigBase& old);
 
     /// @name The current group
     /// @{
 
-    /// Makes the group at @a path, which may be relative and have "..", current. A group that is not there is made, and
-    /// stored with its first entry.
+    /// Makes the group at @a path current. The path may be relative and contain "..". A group that does not exist is
+    /// made, and is stored with its first entry.
     void SetPath(const wxString& path) override;
 
-    /// The path of the current group, absolute and without a separator at its end: empty for the root.
+    /// Returns the path of the current group: absolute, without a separator at its end, empty for the root.
     const wxString& GetPath() const override;
 
     bool GetFirstGroup(wxString& name,
-                       long& place) const override;  ///< The first group in it; false when there is none.
-    bool GetNextGroup(wxString& name, long& place) const override;  ///< The one after it; false at the end.
+                       long& place) const override;  ///< Gets the first group in it; false when there is none.
+    bool GetNextGroup(wxString& name, long& place) const override;  ///< Gets the one after it; false at the end.
     bool GetFirstEntry(wxString& name,
-                       long& place) const override;  ///< The first entry in it; false when there is none.
-    bool GetNextEntry(wxString& name, long& place) const override;  ///< The one after it; false at the end.
-    size_t
-    GetNumberOfEntries(bool recursive = false) const override;        ///< With those of all groups below, if asked for.
-    size_t GetNumberOfGroups(bool recursive = false) const override;  ///< With those of all groups below, if asked for.
+                       long& place) const override;  ///< Gets the first entry in it; false when there is none.
+    bool GetNextEntry(wxString& name, long& place) const override;     ///< Gets the one after it; false at the end.
+    size_t GetNumberOfEntries(bool recursive = false) const override;  ///< Counts all levels if @a recursive.
+    size_t GetNumberOfGroups(bool recursive = false) const override;   ///< Counts all levels if @a recursive.
 
-    /// Gives an entry of the current group another name. False when there is none of the old name, or one of the new.
+    /// Renames an entry of the current group. Returns false when the old name does not exist or the new one does.
     bool RenameEntry(const wxString& oldName, const wxString& newName) override;
 
-    /// Gives a group in the current one another name. False when there is none of the old name, or one of the new.
+    /// Renames a group in the current group. Returns false when the old name does not exist or the new one does.
     bool RenameGroup(const wxString& oldName, const wxString& newName) override;
     /// @}
 
     bool HasGroup(const wxString& path) const override;  ///< True when there is such a group; false for an empty path.
     bool HasEntry(const wxString& path) const override;  ///< True when there is such an entry.
 
-    /// Removes an entry, and its group when that is empty then. False when there is no such entry.
+    /// Removes an entry, and its group if that is then empty. Returns false when there is no such entry.
     bool DeleteEntry(const wxString& path, bool deleteGroupIfEmpty = true) override;
 
-    /// Removes a group with all in it; the current group is then the nearest one that is left. False when there is no
-    /// such group.
+    /// Removes a group with its contents. If the current group is removed, the nearest remaining one becomes current.
+    /// Returns false when there is no such group.
     bool DeleteGroup(const wxString& path) override;
 
-    /// Removes all groups and entries, and the sections that are no groups. True.
+    /// Removes all groups and entries, and the sections that are not groups. Returns true.
     bool DeleteAll() override;
 
-    /// Saves what was changed since the last time, in all groups. Returns false when it could not be saved: it is then
-    /// still there, and saved by the next call.
+    /// Saves the changes since the last save, in all groups. Returns false when that failed; the changes are then kept
+    /// for the next call.
     bool Flush(bool currentOnly = false) override;
 
 protected:

@@ -283,7 +283,7 @@ bool StoreModel::Save()
         return false;
     if (!m_hasChanges)
         return true;
-    // The next time the file is read, it may hold the earlier values again.
+    // Read the whole file next time: it may then hold the earlier values again.
     m_ini.reset(CLocalRegStore::CreateInitFile(false));
     ForgetChanges(*m_root);
     m_removed.clear();

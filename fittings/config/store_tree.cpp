@@ -72,7 +72,7 @@ StorePath FollowedPath(const StorePath& current, std::wstring_view text)
         }
     }
     if (leavesRoot) {
-        // The toolkit says what is wrong with it.
+        // Let the toolkit report the error.
         wxArrayString ignored;
         wxSplitPath(ignored, kSeparator + SectionOf(current) + kSeparator + wxString(std::wstring(whole)));
     }

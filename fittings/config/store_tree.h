@@ -76,7 +76,7 @@ private:
     }
 
     std::deque<Item> m_items;
-    long m_first = 0;  ///< The place of the first one.
+    long m_first = 0;  ///< The place of the first item.
     std::unordered_map<std::wstring_view, long> m_places;
 };
 
@@ -84,7 +84,7 @@ private:
 struct StoreEntry
 {
     std::wstring text;
-    bool isChanged = false;  ///< It is not saved yet.
+    bool isChanged = false;  ///< True while the change is not saved.
 };
 
 /// A group of entries and groups.
@@ -99,13 +99,13 @@ struct StoreGroup
 
     StoreGroup* const parent;  ///< Null for the root.
     const std::wstring name;
-    bool isSection = false;  ///< The store has the section, or will have it.
-    bool isMade = false;     ///< The store will have it even without entries.
+    bool isSection = false;  ///< True if the store has the section or will have it.
+    bool isMade = false;     ///< True if the section is stored even without entries.
     NamedList<StoreEntry> entries;
     NamedList<std::unique_ptr<StoreGroup>> groups;
 };
 
-/// A group's names, from the root on.
+/// The names of a group and of those around it, from the root on.
 using StorePath = std::vector<std::wstring>;
 
 /// The greatest depth of nested groups.
@@ -117,14 +117,14 @@ std::wstring SectionOf(const StorePath& path);
 /// Returns the path of the group for a section; none when its name is not a path of groups.
 std::optional<StorePath> PathOfSection(std::wstring_view section);
 
-/// Resolves @a text as the toolkit does, from the root when it begins with the separator, else from @a current. Empty
-/// steps and "." stay, ".." goes up.
+/// Resolves @a text as the toolkit does, from the root when it begins with the separator, otherwise from @a current.
+/// Empty steps and "." are skipped, ".." goes up.
 StorePath FollowedPath(const StorePath& current, std::wstring_view text);
 
-/// Null when there is no such group.
+/// Returns null when there is no such group.
 StoreGroup* FindStoreGroup(StoreGroup& root, const StorePath& path);
 
-/// Makes the groups that are missing.
+/// Makes the groups that are missing, and returns the last one.
 StoreGroup& MakeStoreGroup(StoreGroup& root, const StorePath& path);
 
 }  // namespace fittings

@@ -8,15 +8,15 @@
 
 /// Text and integers in named INI files below the folder "ui_config" of the user data directory.
 ///
-/// Every call opens the one file, reads or changes one value, saves what changed and closes it: nothing is cached and
-/// no lock is taken, so of two processes that write one file at the same moment the later one wins. The folder is
-/// made by the first call of any kind. Null texts count as empty. GUI thread only.
+/// Every call opens its file, reads or changes one value, saves the change and closes the file. Nothing is cached and
+/// no lock is taken: if two processes write one file at the same moment, the later one wins. The first call of any kind
+/// makes the folder. Null texts count as empty. GUI thread only.
 ///
-/// Each text may be of any kind, wxString, std::string, std::wstring, or a wide or narrow literal, and each of another:
+/// Each text may be a wxString, a std::string, a std::wstring, or a wide or narrow literal. One call may mix them: see
 /// fittings::TextArgument.
 ///
-/// A file name is joined to the folder as it is, and not checked: "../x.ini" is a file outside of the folder, and a
-/// name with a folder in it needs that folder. Take names of the program's own, never one that a user can choose.
+/// A file name is appended to the folder and not checked. "../x.ini" is a file outside the folder, and a name that
+/// contains a folder needs that folder to exist. Use names of the program, never one that a user can choose.
 ///
 /// @code
 /// ui_config_mgr::WriteConfigInt(L"search.ini", L"Results", L"PageSize", 50);
@@ -24,24 +24,24 @@
 /// @endcode
 namespace ui_config_mgr {
 
-/// Stores a text, creating file, section and key as needed. A failure to save is not reported; the file then stays
-/// as it was.
+/// Stores a text, and makes file, section and key as needed. A failure to save is not reported; the file is then
+/// unchanged.
 FITTINGS_API void WriteConfigString(const wchar_t* file, const wchar_t* section, const wchar_t* key,
                                     const wchar_t* value);
 
 /// Returns the stored text; empty when the file, the section or the key is missing, or the text itself is empty.
 FITTINGS_API std::wstring GetConfigString(const wchar_t* file, const wchar_t* section, const wchar_t* key);
 
-/// Removes the key from the *default store*, CLocalRegStore::DeleteProfile().
+/// Removes the key from the *default store*, as CLocalRegStore::DeleteProfile() does.
 ///
-/// The named file keeps its key: it is only loaded and saved unchanged, and created empty when there was none.
+/// The named file keeps its key: it is only loaded and saved unchanged, or made empty when it does not exist.
 FITTINGS_API void DeleteConfig(const wchar_t* file, const wchar_t* section, const wchar_t* key);
 
-/// Returns the stored text as an integer, as std::stoi reads it in base 10: blanks before and anything after the
-/// digits are ignored. A missing or empty text gives 0.
+/// Returns the stored text as an integer, as std::stoi reads it in base 10: blanks before the digits and everything
+/// behind them are ignored. A missing or empty text gives 0.
 ///
 /// @throws std::invalid_argument when the text does not begin with a number.
-/// @throws std::out_of_range when the number is no `int`.
+/// @throws std::out_of_range when the number does not fit an `int`.
 FITTINGS_API int GetConfigInt(const wchar_t* file, const wchar_t* section, const wchar_t* key);
 
 /// Stores @a value as decimal text.
@@ -50,35 +50,35 @@ FITTINGS_API void WriteConfigInt(const wchar_t* file, const wchar_t* section, co
 /// @name With texts of any kind
 /// @{
 
-/// As the function of wide text: file, section, key, value.
+/// Does the same as the function for wide text. The texts are file, section, key and value.
 template <typename... Texts, fittings::IfTexts<4, Texts...> = 0>
 void WriteConfigString(const Texts&... texts)
 {
     WriteConfigString(fittings::TextArgument(texts)...);
 }
 
-/// As the function of wide text: file, section, key.
+/// Does the same as the function for wide text. The texts are file, section and key.
 template <typename... Texts, fittings::IfTexts<3, Texts...> = 0>
 std::wstring GetConfigString(const Texts&... texts)
 {
     return GetConfigString(fittings::TextArgument(texts)...);
 }
 
-/// As the function of wide text: file, section, key.
+/// Does the same as the function for wide text. The texts are file, section and key.
 template <typename... Texts, fittings::IfTexts<3, Texts...> = 0>
 void DeleteConfig(const Texts&... texts)
 {
     DeleteConfig(fittings::TextArgument(texts)...);
 }
 
-/// As the function of wide text: file, section, key.
+/// Does the same as the function for wide text. The texts are file, section and key.
 template <typename... Texts, fittings::IfTexts<3, Texts...> = 0>
 int GetConfigInt(const Texts&... texts)
 {
     return GetConfigInt(fittings::TextArgument(texts)...);
 }
 
-/// As the function of wide text.
+/// Does the same as the function for wide text.
 template <typename File, typename Section, typename Key, fittings::IfTexts<3, File, Section, Key> = 0>
 void WriteConfigInt(const File& file, const Section& section, const Key& key, int value)
 {

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Stored sizes up to this one, in either direction, are not applied.
+/// A stored geometry with a width or height up to this is not applied.
 constexpr int kTooSmall = 10;
 
 /// Coordinates and sizes on an X display are 16 bits wide. Larger numbers have no meaning there, and sums of them could
@@ -53,8 +53,7 @@ int DisplayOf(wxWindow& window)
 }
 
 /// Returns the part of @a rect that lies in @a area. A rectangle wholly outside, for example under a panel, is moved
-/// into
-/// @a area instead.
+/// into it.
 wxRect FitInto(const wxRect& area, const wxRect& rect)
 {
     const wxRect common = area.Intersect(rect);
@@ -96,7 +95,7 @@ bool fittings::RestoreGeometry(wxWindow& window, const wxRect& stored)
 {
     if (stored.width > kTooSmall && stored.height > kTooSmall) {
         window.SetSize(stored, wxSIZE_ALLOW_MINUS_ONE);
-        // A change of its size may have moved the window.
+        // The window may have moved when its size changed.
         window.SetSize(stored.x, stored.y, -1, -1, wxSIZE_USE_EXISTING);
         if (auto* const topLevel = dynamic_cast<wxTopLevelWindow*>(&window))
             KeepPlace(*topLevel);

@@ -22,7 +22,7 @@ public:
 
 private:
     std::shared_ptr<std::function<void()>>
-        m_isGoing;  // Shared with the windows around; empty once this object is gone.
+        m_isGoing;  // Shared with the handlers of the ancestors; empty once this object is destroyed.
 };
 
 }  // namespace fittings

@@ -36,7 +36,7 @@ public:
         if (window)
             window->Bind(wxEVT_DESTROY, end);
 
-        // The handlers of a manager are destroyed last.
+        // The manager destroys its handlers last, so this object notices when the manager is destroyed.
         struct Guard
         {
             explicit Guard(std::shared_ptr<Watch> toEnd) : watch(std::move(toEnd)) {}

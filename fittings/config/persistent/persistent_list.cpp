@@ -44,7 +44,7 @@ bool HasEachOnce(std::vector<int> order)
     return order == all;
 }
 
-/// The list; null when only the window below it is left, because it was deleted without Destroy().
+/// Returns the list; null if the list was deleted without Destroy(), which leaves only its base class.
 wxListCtrl* ListOf(wxWindow* window)
 {
     return dynamic_cast<wxListCtrl*>(window);

@@ -5,7 +5,7 @@
 
 namespace {
 
-/// The tree; null when only the window below it is left, because it was deleted without Destroy().
+/// Returns the tree; null if the tree was deleted without Destroy(), which leaves only its base class.
 wxTreeCtrl* TreeOf(wxWindow* window)
 {
     return dynamic_cast<wxTreeCtrl*>(window);

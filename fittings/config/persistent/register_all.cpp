@@ -7,7 +7,7 @@
 
 namespace {
 
-/// An object with a name of its own, so that the window keeps the one by which its program finds it.
+/// A persistent object with its own name. The window keeps the name by which the program finds it.
 template <typename Persistent>
 class Named : public Persistent
 {
@@ -23,7 +23,7 @@ private:
     const wxString m_name;
 };
 
-/// Makes the object for a window of the class; null for another window.
+/// Makes the object if the window is of the class; otherwise returns null.
 template <typename Persistent, typename Window>
 std::unique_ptr<wxPersistentObject> MakeFor(wxWindow& window, const wxString& name)
 {
@@ -31,12 +31,12 @@ std::unique_ptr<wxPersistentObject> MakeFor(wxWindow& window, const wxString& na
     return found ? std::make_unique<Named<Persistent>>(found, name) : nullptr;
 }
 
-/// Whether the toolkit has persistence for the class, and this window bears it.
+/// Whether the toolkit has persistence for the window's class, and it works for this window.
 bool CanRemember(wxWindow& window)
 {
     if (auto* const list = dynamic_cast<wxListCtrl*>(&window))
         return list->InReportView();
-    // The toolkit asserts when such a page goes.
+    // The toolkit asserts when a data view that is a page of a book is destroyed.
     if (dynamic_cast<wxDataViewCtrl*>(&window))
         return !dynamic_cast<wxBookCtrlBase*>(window.GetParent());
     return dynamic_cast<wxTopLevelWindow*>(&window) || dynamic_cast<wxSplitterWindow*>(&window) ||
@@ -46,7 +46,7 @@ bool CanRemember(wxWindow& window)
 std::unique_ptr<wxPersistentObject> Make(wxWindow& window, const wxString& name)
 {
     using Maker = std::unique_ptr<wxPersistentObject> (*)(wxWindow&, const wxString&);
-    // A wxTreebook is a book, too.
+    // wxTreebook comes first because it is derived from wxBookCtrlBase.
     for (const Maker make :
          {Maker(MakeFor<wxPersistentTLW, wxTopLevelWindow>), Maker(MakeFor<wxPersistentSplitter, wxSplitterWindow>),
           Maker(MakeFor<wxPersistentTreeBookCtrl, wxTreebook>), Maker(MakeFor<wxPersistentBookCtrl, wxBookCtrlBase>),
@@ -58,7 +58,7 @@ std::unique_ptr<wxPersistentObject> Make(wxWindow& window, const wxString& name)
     return nullptr;
 }
 
-/// Registers a window and those in it, from the outside inwards.
+/// Registers a window first and then the windows in it.
 class Registration
 {
 public:
@@ -91,7 +91,7 @@ private:
     bool RegisterInside(wxWindow& window)
     {
         bool isRestored = false;
-        // The control by which the user chooses a page is the book's own.
+        // Register only the pages: the control that selects a page is a part of the book.
         if (const auto* const book = dynamic_cast<wxBookCtrlBase*>(&window)) {
             for (std::size_t page = 0; page < book->GetPageCount(); ++page) {
                 if (wxWindow* const shown = book->GetPage(page))
@@ -105,7 +105,7 @@ private:
     }
 
     const wxString m_name;
-    std::map<wxString, int> m_numbers;  // How many there are of a name.
+    std::map<wxString, int> m_numbers;  // The number of windows with each name.
 };
 
 }  // namespace

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// The most levels. The toolkit's recursion overflows the stack with many times more expanded levels.
+/// The largest number of levels. With many times more expanded levels, the toolkit's recursion overflows the stack.
 constexpr std::size_t kDeepest = 10'000;
 
 /// A place among the children of an item. Each step takes constant time.
@@ -88,7 +88,7 @@ private:
         wxTreeItemId item;
         Children children;
         bool isNoted;
-        // To number equal labels: the counts up to the child that was recorded last.
+        // For the numbers of equal labels: the counts up to the child that was recorded last.
         Children counting;
         std::unordered_map<std::wstring, std::size_t> counts;
     };
@@ -146,7 +146,7 @@ private:
     fittings::TreeSteps m_steps;
 };
 
-/// Reads a number of at most nine digits without a needless zero.
+/// Reads a number of at most nine digits without leading zeros.
 std::optional<std::size_t> TakeNumber(std::wstring_view& text)
 {
     const std::size_t length = std::min(text.find_first_not_of(L"0123456789"), text.size());

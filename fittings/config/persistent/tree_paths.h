@@ -30,12 +30,12 @@ using TreeSteps = std::vector<TreeStep>;
 /// order of the tree. Includes items inside collapsed levels.
 TreeSteps StepsOf(const wxTreeCtrl& tree);
 
-/// Returns the steps as a text, such as "0+:|1+:Sun|2*:Earth|2#2:Earth|3^:Moon|": the level; "+" when expanded, "*"
-/// when selected, "^" when the first in view; "#" and the number from 2 on; and the label, with a "\" before each "|"
-/// and "\", and "\0" for a null.
+/// Returns the steps as a text, such as "0+:|1+:Sun|2*:Earth|2#2:Earth|3^:Moon|". A step is its level; "+" if expanded,
+/// "*" if selected, "^" if it is the first in view; "#" and the number if that is not 1; and the label. In the label,
+/// "|" and "\" have a "\" before them, and a null is "\0".
 std::wstring ToText(const TreeSteps& steps);
 
-/// Reads such a text; returns none when ToText() cannot have written it.
+/// Reads the result of ToText(); returns none for a text that ToText() cannot have written.
 std::optional<TreeSteps> FromText(std::wstring_view text);
 
 /// Expands the items that were expanded, and then selects those that were selected. Handlers of the expansions may add

@@ -7,8 +7,7 @@
 
 namespace {
 
-/// Follows steps down a tree. Handlers of the events on the way may change the tree: a deleted item is not used any
-/// more.
+/// Follows paths down a tree. Event handlers may change the tree meanwhile; deleted items are not used.
 class Descent
 {
 public:
@@ -25,7 +24,7 @@ public:
     /// Returns the item that the next step leads to; null when there is none.
     wxTreeItemId Go(const fittings::TreeStep& step)
     {
-        // Below a level that was not found, nothing is found.
+        // The step's parent was not found.
         if (step.level > m_levels.size())
             return {};
         m_levels.erase(m_levels.begin() + static_cast<std::ptrdiff_t>(step.level), m_levels.end());
@@ -35,10 +34,10 @@ public:
         return item;
     }
 
-    /// Keeps items until they are taken; drops those that are deleted.
+    /// Keeps an item until it is taken or deleted.
     void Keep(const wxTreeItemId& item) { m_kept.push_back(item); }
 
-    /// Takes the item that was kept first and is still there; null when there is none.
+    /// Takes the first kept item that still exists; returns null when there is none.
     wxTreeItemId TakeKept()
     {
         while (m_taken < m_kept.size()) {
@@ -103,7 +102,7 @@ void RestoreSteps(wxTreeCtrl& tree, const TreeSteps& steps)
 {
     Descent descent(tree);
     {
-        // Each expansion alone would lay out the whole tree again.
+        // Otherwise each expansion would lay out the whole tree again.
         const wxWindowUpdateLocker frozen(&tree);
         for (const TreeStep& step : steps) {
             const wxTreeItemId item = descent.Go(step);

@@ -26,16 +26,16 @@ public:
     WindowRecord(const WindowRecord&) = delete;
     WindowRecord& operator=(const WindowRecord&) = delete;
 
-    /// Records the window's place while it is neither maximised, nor on the full screen, nor iconised.
+    /// Records the window's place while it is neither maximised, full screen nor iconised.
     void Follow(wxTopLevelWindow& window);
 
-    /// True when the window is maximised, or was when it was hidden: the system forgets that for hidden windows.
+    /// True when the window is maximised, or was when it was hidden: the system forgets this state of a hidden window.
     bool IsMaximized(const wxTopLevelWindow& window) const;
 
-    /// True when the window has a normal place and size, NormalRect().
+    /// True when the window is maximised, full screen or iconised.
     bool IsOutOfItsPlace(const wxTopLevelWindow& window) const;
 
-    /// The last normal place and size; none before Follow().
+    /// Returns the last normal place and size; none before Follow().
     const std::optional<wxRect>& NormalRect() const { return m_normal; }
 
 private:
