@@ -9,40 +9,41 @@
 
 class wxWindow;
 
-// What stands behind CQVFileDialogI, and the open dialog, which is not offered to hosts. Private to the library.
+// The functions behind CQVFileDialogI, and the open dialog, which hosts cannot use. Private to the library.
 
 namespace fittings {
 
-/// The section of the default store in which the last files are kept, by registry entry.
+/// The section of the default store that holds the last file of each registry entry.
 inline constexpr char kLastFilesSection[] = "LastFiles";
-/// The application's folder that is proposed while nothing is remembered.
+/// The application's folder that is proposed while no file is remembered.
 inline constexpr wchar_t kSamplesFolder[] = L"Samples";
-/// What makes a wildcard of a bare extension.
+/// Makes a wildcard of an extension.
 inline constexpr wchar_t kWildcardPrefix[] = L"*.";
 /// The registry entry of an application's projects.
 inline constexpr char kLastProjectSave[] = "LastProjectSave";
 
 std::string GetRegEntry();
 
-/// As CQVFileDialogI::LaunchSaveDialog(), for a file that exists. Unlike there, an empty @a folderSwitch has the dialog
-/// start where the toolkit likes, and any other text has it start at the file remembered, whatever it says. Never null.
+/// Like CQVFileDialogI::LaunchSaveDialog(), but opens an existing file and uses the folder differently. With an empty
+/// @a folderSwitch the toolkit chooses where the dialog starts. With any other text, the dialog starts at the
+/// remembered file. @a folderSwitch must not be null.
 CStdStr<wchar_t> LaunchOpenDialog(wxWindow* parent, const wchar_t* defaultExtension, const wchar_t* wildcard,
                                   const wchar_t* title, const wchar_t* folderSwitch);
 
-/// Shows a file dialog with a wxFileDialog's @a style and returns the path chosen, empty when the user cancelled.
+/// Shows a file dialog with a @a style of wxFileDialog and returns the chosen path; empty when the user cancelled.
 wxString FileSelector(const wchar_t* title, const wchar_t* defaultDir, const wchar_t* defaultFile,
                       const wchar_t* defaultExt, const wchar_t* wildcard, long style, wxWindow* parent, int x, int y);
 
-/// The folder @a path, or the nearest above it, that is there and can be read.
+/// Returns the nearest folder that exists and can be read, beginning with @a path and going up.
 wxString NearestThatCanBeShown(const wxString& path);
 
-/// The file remembered under @a entry; empty when there is none, and for an empty entry.
+/// Returns the file remembered under @a entry; empty when there is none or @a entry is empty.
 std::wstring LoadLastFile(const char* entry);
 
-/// The file remembered under @a entry, or else the application's folder of samples; empty for an empty entry.
+/// Returns the file remembered under @a entry, or else the application's folder of samples; empty for an empty entry.
 std::wstring LoadLastPath(const char* entry);
 
-/// Remembers @a path, exactly as it is, unless one of the two is empty.
+/// Remembers @a path exactly as it is, unless @a path or @a entry is empty.
 void SaveLastPath(const wchar_t* path, const char* entry);
 
 }  // namespace fittings

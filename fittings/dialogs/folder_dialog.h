@@ -16,29 +16,29 @@ class wxWindow;
 ///     Import(folder);
 /// @endcode
 ///
-/// Folders are neither checked, made nor changed: a remembered folder that is gone is handed to the dialog as it is.
-/// Given no folder, or one that is gone, the dialog shows the home folder. Each text may be of any kind:
-/// fittings::TextArgument.
+/// Folders are neither checked, made nor changed. A remembered folder that no longer exists is passed to the dialog as
+/// it is. Without a folder, or with one that does not exist, the dialog shows the home folder. Each text may be of any
+/// kind: see fittings::TextArgument.
 class FITTINGS_API wxFolderDlg
 {
 public:
-    /// Starts in @a initialFolder (null or empty: the home folder) and returns the chosen folder, empty when
-    /// the user cancelled. A null @a message shows "Current folder is:" in the language of the host; an empty one
-    /// shows none.
+    /// Starts in @a initialFolder and returns the chosen folder; empty when the user cancelled. With a null or empty @a
+    /// initialFolder it starts in the home folder. A null @a message shows "Current folder is:" in the language of the
+    /// host; an empty one shows nothing.
     static wxString DoModal(wxWindow* parent, const wchar_t* initialFolder, const wchar_t* message);
 
-    /// As DoModal(), starting in the folder chosen last under @a section and remembering the new choice: in the
-    /// default store, key "Path" of that section. A cancelled dialog leaves it as it was.
+    /// Does the same as DoModal(), but starts in the folder that was chosen last under @a section, and remembers the
+    /// new choice: in the default store, key "Path" of that section. A cancelled dialog does not change it.
     static wxString DoModalReg(wxWindow* parent, const wchar_t* section, const wchar_t* message);
 
-    /// As the function of wide text.
+    /// Does the same as the function for wide text.
     template <typename Folder, typename Message, fittings::IfTexts<2, Folder, Message> = 0>
     static wxString DoModal(wxWindow* parent, const Folder& initialFolder, const Message& message)
     {
         return DoModal(parent, fittings::TextArgument(initialFolder), fittings::TextArgument(message));
     }
 
-    /// As the function of wide text.
+    /// Does the same as the function for wide text.
     template <typename Section, typename Message, fittings::IfTexts<2, Section, Message> = 0>
     static wxString DoModalReg(wxWindow* parent, const Section& section, const Message& message)
     {

@@ -3,14 +3,14 @@
 
 #include <string>
 
-// What wxFolderDlg remembers. Private to the library.
+// The folder that wxFolderDlg remembers. Private to the library.
 
 namespace fittings {
 
-/// The folder remembered in @a section; empty when there is none.
+/// Returns the folder remembered in @a section; empty when there is none.
 std::wstring LoadLastFolder(const wchar_t* section);
 
-/// Remembers @a folder, exactly as it is, unless it is empty.
+/// Remembers @a folder exactly as it is, unless it is empty.
 void SaveLastFolder(const wchar_t* section, const wchar_t* folder);
 
 }  // namespace fittings

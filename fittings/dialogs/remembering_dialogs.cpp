@@ -23,7 +23,7 @@ wxString StartFolder(const wxString& remembered)
 {
     if (remembered.StartsWith("/"))
         return fittings::NearestThatCanBeShown(remembered);
-    // The application's own folder lies in them.
+    // The application's own folder is in this folder.
     wxFileName documents = wxFileName::DirName(std_file_paths::GetAppFolderPath(L""));
     documents.RemoveLastDir();
     return fittings::NearestThatCanBeShown(documents.GetPath());
