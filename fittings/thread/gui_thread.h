@@ -9,7 +9,8 @@
 
 /// A worker that reports to the GUI by posting command events to one handler, until it is asked to stop.
 ///
-/// Entry() works and calls PostEvent(); a false from it means that it was asked to stop and should return.
+/// Entry() does the work and calls PostEvent(). If that returns false, the worker was asked to stop: Entry() should
+/// return.
 ///
 /// @code
 /// wxDEFINE_EVENT(EVT_PRIME, wxCommandEvent);
@@ -39,8 +40,8 @@
 ///     ~PrimesFrame() override
 ///     {
 ///         m_primes->StartKill();  // 1. ask it to stop
-///         m_primes->Wait();       // 2. wait until it has
-///         m_primes.reset();       // 3. destroy it; only then the handler may go
+///         m_primes->Wait();       // 2. wait until it has ended
+///         m_primes.reset();       // 3. destroy it before its handler
 ///     }
 ///
 /// private:
@@ -48,71 +49,71 @@
 /// };
 /// @endcode
 ///
-/// That order of shutting down is the owner's to keep: StartKill(), Wait(), destroy. Destroying a worker that still
-/// runs is not allowed. Its destructor neither stops it nor waits in time: the mutexes that PostEvent() uses are gone
-/// when the base class waits.
+/// The owner must shut down in that order: StartKill(), Wait(), destroy. Do not destroy a worker that still runs. Its
+/// destructor does not stop it and waits too late: the mutexes that PostEvent() uses are destroyed before the base
+/// class waits.
 ///
-/// The handler is not owned and must live until Wait() has returned. Destroying it then is safe with events still
-/// queued: the toolkit drops them. The owner's thread makes, runs, stops, waits for and destroys the object;
-/// DoContinue() and PostEvent() may be called by any thread.
+/// The handler is not owned and must live until Wait() has returned. It may then be destroyed even if events are still
+/// queued: the toolkit drops them. The owner's thread makes, runs, stops, waits for and destroys the object. Any thread
+/// may call DoContinue() and PostEvent().
 class FITTINGS_API wxGUIThread : public wxThreadEx
 {
 public:
     /// Makes a worker that can be waited for.
     ///
-    /// @param handler receives the events, on the GUI thread. Null: events are dropped, and the worker works on.
+    /// @param handler  receives the events, on the GUI thread. Null: the worker runs, and its events are dropped.
     explicit wxGUIThread(wxEvtHandler* handler);
 
-    /// The worker must have ended, see above.
+    /// The worker must have ended before this.
     ~wxGUIThread() override;
 
-    /// Creates the thread and runs it; returns the result of Run(). In place of Create() and Run(), not after them.
+    /// Makes the thread and runs it, and returns the result of Run(). Call this instead of Create() and Run().
     wxThreadError RunThread();
 
-    /// Returns false from StartKill() on.
+    /// Returns true until StartKill() is called.
     bool DoContinue();
 
-    /// Asks the worker to stop. Returns at once, does not wait, and cannot be taken back.
-    ///
-    /// Events that are queued already still arrive.
+    /// Asks the worker to stop, which cannot be taken back, and returns at once. Events that are already queued still
+    /// arrive.
     void StartKill();
 
-    /// Has the handler told by one event of that type when Entry() has returned, whatever ended it: its work done,
-    /// StartKill(), an exception. To be called before RunThread(). No event at first.
+    /// Makes the worker post one event of that type to the handler when Entry() has returned, whether the work was
+    /// done, StartKill() was called or an exception was thrown. Call this before RunThread(). Without a call there is
+    /// no such event.
     ///
-    /// The event is a wxCommandEvent whose int is GetRunNumber() and whose client data is what Entry() returned.
-    /// HasEnded() is true when it arrives, and Wait() returns at once.
+    /// The event is a wxCommandEvent. Its int is GetRunNumber(), and its client data is the result of Entry(). When it
+    /// arrives, HasEnded() is true and Wait() returns at once.
     void SetEndEvent(int eventType);
 
-    /// A number that no other worker of the process has, larger than those of the workers made before. Events that tell
-    /// it are told apart from those that an earlier worker has left queued.
+    /// Returns a number that no other worker of the process has. It is larger than those of the workers made before.
+    /// With this number in its events, a handler can ignore events that an earlier worker has left queued.
     int GetRunNumber() const { return m_runNumber; }
 
     /// @name Posting
     ///
-    /// The handler gets a copy of the event, on the GUI thread, by the toolkit's pending events. Each overload returns
-    /// true when the worker may go on: the event was queued, or dropped for want of a handler. It returns false when
-    /// the worker was asked to stop; then nothing is queued.
+    /// The handler gets a copy of the event on the GUI thread, as a pending event of the toolkit. Each overload returns
+    /// true when the worker may go on: the event was queued, or it was dropped because there is no handler. It returns
+    /// false when the worker was asked to stop; nothing is queued then.
     ///
-    /// Nothing slows a worker down that posts faster than the GUI thread handles: its events fill the memory and keep
-    /// the GUI from everything else. Report results at intervals, not each by itself.
+    /// A worker that posts faster than the GUI thread handles is not slowed down: its events fill the memory and block
+    /// the GUI. Report results at intervals, not one by one.
     ///
-    /// Client data is passed through as it is and never owned. An event that is dropped, or still queued when its
-    /// handler is destroyed, frees nothing.
+    /// Client data is passed on as it is and never owned. If an event is dropped, or is still queued when its handler
+    /// is destroyed, its data is not freed.
     ///
-    /// The compiler cannot choose for PostEvent(type, value, 0): write 0L or nullptr.
+    /// A call PostEvent(type, value, 0) is ambiguous: write 0L or nullptr.
     /// @{
 
-    /// Sets the event's int to @a value and posts a copy. The event stays the caller's; after StartKill() it is left as
-    /// it was.
+    /// Sets the event's int to @a value and posts a copy. The caller keeps the event. After StartKill() the event is
+    /// not changed.
     bool PostEvent(wxCommandEvent& event, int value);
 
-    /// Posts a wxCommandEvent of that type and int, with id 0; everything else is empty.
+    /// Posts a wxCommandEvent with that type and int and with id 0. Everything else in it is empty.
     bool PostEvent(int eventType, int value);
-    bool PostEvent(int eventType, int value, long extra);  ///< As above, with an extra long.
-    bool PostEvent(int eventType, int value, void* data);  ///< As above, with client data.
+    bool PostEvent(int eventType, int value, long extra);  ///< Does the same with an extra long.
+    bool PostEvent(int eventType, int value, void* data);  ///< Does the same with client data.
 
-    /// Posts a copy of the event as it is, also after StartKill(): a last result, which a stopped worker hands over.
+    /// Posts a copy of the event as it is, also after StartKill(), so that a stopped worker can report a last result.
     /// Returns false when there is no handler.
     bool PostResult(const wxCommandEvent& event);
 
@@ -120,23 +121,23 @@ public:
 
 protected:
     wxEvtHandler* const m_handler;  ///< Receives the events; not owned.
-    bool m_continue = true;         ///< Until StartKill().
+    bool m_continue = true;         ///< True until StartKill().
 
-    /// Guards m_continue. Recursive: a derived class may hold it over calls of this class that must not be parted by
-    /// StartKill().
+    /// Guards m_continue. It is recursive: a derived class may hold it during several calls of this class, so that no
+    /// StartKill() comes between them.
     wxMutex m_continueMutex{wxMUTEX_RECURSIVE};
 
-    /// One event at a time is made and posted. Taken before m_continueMutex, never after it.
+    /// Held while an event is made and posted. Lock it before m_continueMutex, never after it.
     wxMutex m_postMutex{wxMUTEX_DEFAULT};
 
 private:
     const int m_runNumber;
 };
 
-/// A wxGUIThread whose events are all of one type, named once.
+/// A wxGUIThread whose events all have one type, which the constructor gets.
 ///
-/// Its PostEvent() takes the place of the base's, which would otherwise be chosen for PostEvent(value, number):
-/// write wxGUIThread::PostEvent(...) for an event of another type or of one's own making.
+/// Its PostEvent() hides that of the base class. Otherwise the compiler would choose an overload of the base class for
+/// PostEvent(value, number). For another event, call wxGUIThread::PostEvent(...).
 ///
 /// @code
 /// class Lines : public wxGUIThreadEx
@@ -154,13 +155,13 @@ private:
 ///     }
 ///
 /// private:
-///     const std::vector<wxString>& m_lines;  // the handler's, which changes none until Wait() has returned
+///     const std::vector<wxString>& m_lines;  // owned by the handler, unchanged until Wait() has returned
 /// };
 /// @endcode
 ///
-/// Events may arrive after the worker is gone, where its handler lives on. What an event leads to, as the line of that
-/// number here, must be the handler's therefore, or live as long as it. Client data that points into the worker does
-/// not.
+/// If the handler outlives the worker, events may arrive after the worker is destroyed. So what an event refers to must
+/// belong to the handler or live as long as it, like the line with that number here. Do not post client data that
+/// points into the worker.
 class FITTINGS_API wxGUIThreadEx : public wxGUIThread
 {
 public:
@@ -168,13 +169,13 @@ public:
     /// @param eventType the type of every event, for example from wxNewEventType().
     wxGUIThreadEx(wxEvtHandler* handler, int eventType);
 
-    /// The worker must have ended, see wxGUIThread.
+    /// The worker must have ended before this.
     ~wxGUIThreadEx() override;
 
     /// @name Posting
     ///
-    /// As wxGUIThread::PostEvent() of the type named at construction, which says what is returned and who owns the
-    /// data. The compiler cannot choose for PostEvent(value, 0): write 0L or nullptr.
+    /// Does the same as wxGUIThread::PostEvent() with the type that the constructor got. The results and the ownership
+    /// of the data are described there. A call PostEvent(value, 0) is ambiguous: write 0L or nullptr.
     /// @{
     bool PostEvent(int value);              ///< Posts an event with that int.
     bool PostEvent(int value, long extra);  ///< Posts an event with that int and extra long.
@@ -182,7 +183,7 @@ public:
     /// @}
 
 protected:
-    const int m_eventType;  ///< Of every event.
+    const int m_eventType;  ///< The type of every event.
 };
 
 #endif

@@ -23,7 +23,7 @@ void PaintWindows()
         loop->YieldFor(wxEVT_CATEGORY_UI);
 }
 
-// The toolkit's exit codes are pointers that need not point. NOLINTNEXTLINE(performance-no-int-to-ptr)
+// The toolkit's exit codes are numbers stored in pointers. NOLINTNEXTLINE(performance-no-int-to-ptr)
 const auto kNoExitCode = reinterpret_cast<wxThread::ExitCode>(std::intptr_t{-1});
 
 }  // namespace

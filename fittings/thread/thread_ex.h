@@ -11,14 +11,14 @@ class wxThreadExImpl;
 
 /// Work on a thread of its own, in an object that its owner makes, waits for and destroys.
 ///
-/// Derive from it and do the work in Entry(); what Entry() returns is the exit code that Wait() gives.
+/// Derive from it and do the work in Entry(). The result of Entry() is the exit code that Wait() returns.
 ///
 /// @code
 /// class Checksum : public wxThreadEx
 /// {
 /// public:
 ///     explicit Checksum(const Bytes& bytes) : wxThreadEx(wxTHREAD_JOINABLE), m_bytes(bytes) {}
-///     ~Checksum() override { Wait(); }  // Entry() uses m_bytes, which are gone when the base's destructor waits
+///     ~Checksum() override { Wait(); }  // the base would wait after m_bytes is destroyed
 ///
 ///     wxThread::ExitCode Entry() override { return reinterpret_cast<wxThread::ExitCode>(Adler32(m_bytes)); }
 ///
@@ -32,21 +32,21 @@ class wxThreadExImpl;
 ///     Compare(reinterpret_cast<std::uintptr_t>(checksum.Wait()));
 /// @endcode
 ///
-/// Construct, Create(), Run(), Wait(), destroy: all of them on one thread, the owner's, once the toolkit is
-/// initialised. An object runs once. Where Create() or Run() has failed, it is of no more use: make another one to try
-/// again.
+/// The owner's thread makes the object, calls Create(), Run() and Wait(), and destroys the object, in this order. The
+/// toolkit must be initialised before. An object runs once. If Create() or Run() fails, the object cannot be used
+/// again: make another one.
 ///
-/// - Nothing here pauses the work or ends it early. Entry() may ask wxThread::This(), the toolkit's detached thread,
-///   for its id or TestDestroy(); whether anyone calls that thread's Pause() or Delete() is the host's to see to.
-/// - The destructor waits, but only after the derived class's members are gone, and a thread that begins as late as
-///   that finds no Entry() to call and aborts the process. So Wait() is to be called before, by the owner or by the
-///   destructor of the most derived class.
+/// - The class does not pause the work or end it early. Entry() may ask wxThread::This(), the toolkit's detached
+///   thread, for its id or TestDestroy(). The host must know whether anyone calls that thread's Pause() or Delete().
+/// - The destructor waits, but only after the members of the derived class are destroyed. A thread that begins only
+///   then finds no Entry() to call and aborts the process. So call Wait() before, in the owner or in the destructor of
+///   the most derived class.
 /// - A detached object must outlive its Entry(): the thread writes into the object when Entry() has returned, and
-///   neither Wait() nor the destructor waits for that. No call tells when it is safe, so keep such an object for as
-///   long as the process lives. While its thread runs, the toolkit must not be shut down.
-/// - The toolkit's thread object behind this one is freed by its own thread when that ends. An object that never ran,
-///   or whose Run() failed, leaves it behind for as long as the process lives. After Create() that is a waiting thread,
-///   too, which the toolkit may trip over when it shuts down: only create what you run.
+///   neither Wait() nor the destructor waits for that. No call tells when the thread is done, so keep such an object
+///   until the process ends. Do not shut the toolkit down while its thread runs.
+/// - The thread itself frees the toolkit's thread object behind this one when it ends. An object that never ran, or
+///   whose Run() failed, leaves that object allocated until the process ends. After Create() it also leaves a waiting
+///   thread, which may disturb the toolkit's shutdown. So call Create() only if you call Run().
 class FITTINGS_API wxThreadEx
 {
 public:
@@ -62,39 +62,38 @@ public:
     /// Makes the thread, which then waits for Run().
     ///
     /// @param stackSize is not used: every thread has the toolkit's default stack.
-    /// @return what the toolkit's Create() says: wxTHREAD_NO_ERROR, or wxTHREAD_NO_RESOURCE when the system has no room
-    ///         for a thread. wxTHREAD_RUNNING, and nothing happens, when the thread exists already.
+    /// @return the result of the toolkit's Create(): wxTHREAD_NO_ERROR, or wxTHREAD_NO_RESOURCE when the system cannot
+    ///         make another thread. wxTHREAD_RUNNING when the thread already exists; nothing happens then.
     wxThreadError Create(unsigned int stackSize);
 
-    /// Lets the thread begin with Entry(), which may have returned when this does.
+    /// Starts Entry() on the thread. Entry() may have returned before this does.
     ///
-    /// @return what the toolkit's Run() says: wxTHREAD_NO_ERROR, or another value, and nothing runs.
-    ///         wxTHREAD_RUNNING, and nothing happens, when the object has run before.
+    /// @return the result of the toolkit's Run(): wxTHREAD_NO_ERROR, or another value when nothing runs.
+    ///         wxTHREAD_RUNNING when the object has run before; nothing happens then.
     wxThreadError Run();
 
     /// Waits until Entry() has returned and the thread is over: its thread-local objects are destroyed, and the toolkit
-    /// uses it no more.
+    /// no longer uses the thread.
     ///
-    /// May be called again and gives the same exit code. Only one thread at a time may be waiting: one is woken. No
-    /// events are handled meanwhile, so an Entry() that waits for the GUI thread never returns, and neither does one
-    /// that calls Wait() itself.
+    /// Another call gives the same exit code. Only one thread at a time may wait, because only one is woken. No events
+    /// are handled meanwhile: if Entry() waits for the GUI thread or calls Wait() itself, this call never returns.
     ///
-    /// @return what Entry() returned; (wxThread::ExitCode)-1 at once when the object is detached, or has not run.
+    /// @return the result of Entry(). (wxThread::ExitCode)-1 at once when the object is detached or has not run.
     wxThread::ExitCode Wait();
 
-    /// Waits as Wait() does, but at most so long. On the GUI thread windows are painted meanwhile and timers run; what
-    /// a user does and what workers post is handled afterwards.
+    /// Waits as Wait() does, but at most @a milliseconds. On the GUI thread, windows are painted and timers run
+    /// meanwhile. The user's input and the events of workers are handled afterwards.
     ///
     /// @return HasEnded(); false at once when the object has not run.
     bool WaitFor(unsigned long milliseconds);
 
-    /// True once Entry() has returned, or an exception has left it; Wait() then returns at once. Any thread may ask.
+    /// Whether Entry() has returned or thrown an exception. Wait() then returns at once. Any thread may call this.
     bool HasEnded() const;
 
-    /// The work. Called once, on the new thread; its result is the exit code.
+    /// Does the work. It is called once, on the new thread; its result is the exit code.
     ///
-    /// No exception may leave it. One that does goes to the toolkit's wxApp::OnUnhandledException(), the work counts as
-    /// finished, and the exit code is (wxThread::ExitCode)-1.
+    /// No exception may leave it. If one does, the toolkit's wxApp::OnUnhandledException() is called, the work counts
+    /// as finished, and the exit code is (wxThread::ExitCode)-1.
     virtual wxThread::ExitCode Entry() = 0;
 
 private:
@@ -109,8 +108,8 @@ private:
     wxThread::ExitCode m_exitCode;
 
 protected:
-    /// Called on the thread when Entry() has returned, with the exit code. It must not call HasEnded() or Wait(), which
-    /// wait for it. To be set before Run().
+    /// Called on the thread with the exit code when Entry() has returned. It must not call HasEnded() or Wait(), which
+    /// wait for it. Set it before Run().
     std::function<void(wxThread::ExitCode)> m_atEnd;
 };
 

@@ -212,7 +212,7 @@ TEST(HeaderExamples, WorkOnAThread)
     {
     public:
         explicit Checksum(const Bytes& bytes) : wxThreadEx(wxTHREAD_JOINABLE), m_bytes(bytes) {}
-        ~Checksum() override { Wait(); }  // Entry() uses m_bytes, which are gone when the base's destructor waits
+        ~Checksum() override { Wait(); }  // the base would wait after m_bytes is destroyed
 
         wxThread::ExitCode Entry() override { return reinterpret_cast<wxThread::ExitCode>(Adler32(m_bytes)); }
 
@@ -254,8 +254,8 @@ public:
     ~PrimesFrame() override
     {
         m_primes->StartKill();  // 1. ask it to stop
-        m_primes->Wait();       // 2. wait until it has
-        m_primes.reset();       // 3. destroy it; only then the handler may go
+        m_primes->Wait();       // 2. wait until it has ended
+        m_primes.reset();       // 3. destroy it before its handler
     }
 
 private:
@@ -288,7 +288,7 @@ public:
     }
 
 private:
-    const std::vector<wxString>& m_lines;  // the handler's, which changes none until Wait() has returned
+    const std::vector<wxString>& m_lines;  // owned by the handler, unchanged until Wait() has returned
 };
 
 TEST(HeaderExamples, ReportAfterTheWorkerIsGone)
