@@ -8,8 +8,9 @@
 /// @file
 /// The palette of wxColourPopup: its colours, their names, and the indices of its cells.
 
-/// @name Cells of the colour popup 0 to 39 are the colours of the palette, row by row. The other cells have these
-/// constants.
+/// @name Cells of the colour popup
+///
+/// Cells 0 to 39 are the colours of the palette, row by row. The other cells have these constants.
 /// @{
 inline constexpr int CELL_NONE = -1;          ///< No cell.
 inline constexpr int CELL_MORE_COLOURS = -2;  ///< The box "More Colours..." below the palette.

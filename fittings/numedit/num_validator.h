@@ -91,9 +91,7 @@ public:
     /// matter: Alt with a letter is refused too if no menu or label takes it. A selection counts as beginning at the
     /// insertion point.
     ///
-    /// @throws std::out_of_range  The control, or a class derived from it, says that its insertion point lies beyond
-    /// the
-    ///                            text.
+    /// @throws std::out_of_range  The control, or a class derived from it, returns an insertion point beyond the text.
     void OnChar(wxKeyEvent& event);
 
     /// Records whether the key is the keypad's decimal key, for the characters that follow. Bound to wxEVT_KEY_DOWN.

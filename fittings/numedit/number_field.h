@@ -30,7 +30,7 @@ public:
     /// Returns a plain text as it is shown without the focus. A text that is not a number stays as it is.
     std::wstring Shown(const std::wstring& plain) const;
 
-    /// Returns what is wrong with a plain text, in the user's language.
+    /// Returns the problem of a plain text, in the user's language; empty if there is none.
     wxString Problem(const std::wstring& plain) const;
 
     NumberState State(const std::wstring& plain) const;

@@ -92,7 +92,7 @@ bool Ungroup(std::wstring& text, const CNumberFormat& format)
     const std::size_t end =
         std::min(text.find(format.m_chDecimalPoint), std::min(text.find_first_of(L"eE"), text.size()));
     std::wstring result;
-    std::size_t digits = 0;  // in the present group
+    std::size_t digits = 0;  // digits of the present group so far
     bool grouped = false;
     for (std::size_t at = 0; at < end; ++at) {
         if (IsSeparator(text[at], separator)) {

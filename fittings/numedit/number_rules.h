@@ -21,7 +21,7 @@ struct NumberRules
     bool allowsSign = true;
     bool allowsExponent = false;
     std::int64_t mostIntegers = kMostExponent;  ///< digits before the point
-    std::int64_t mostDecimals = 0;              ///< digits behind it
+    std::int64_t mostDecimals = 0;              ///< digits behind the point
     std::optional<Decimal> min;
     std::optional<Decimal> max;
 };

@@ -217,7 +217,7 @@ public:
         WriteString(ini, fittings::TextArgument(texts)...);
     }
 
-    /// As the operation of wide text: section, key.
+    /// Does the same as the operation for wide text. The texts are section and key.
     template <typename... Texts, fittings::IfTexts<2, Texts...> = 0>
     static bool DeleteKey(CIniFile& ini, const Texts&... texts)
     {
@@ -312,7 +312,7 @@ public:
         return WriteProfileInt(fittings::TextArgument(section), fittings::TextArgument(key), value);
     }
 
-    /// As the operation of wide text: section, key.
+    /// Does the same as the operation for wide text. The texts are section and key.
     template <typename... Texts, fittings::IfTexts<2, Texts...> = 0>
     static bool DeleteProfile(const Texts&... texts)
     {

@@ -75,7 +75,7 @@ void OnSelectionEnded(GtkEditable* editable, GParamSpec*, Key* key)
         gtk_editable_select_region(editable, key->deletion->anchor, key->deletion->caret);
 }
 
-// Runs after the key event, when the toolkit has sent its own event or was kept from it.
+// Runs after the key event. By then the toolkit has sent its own event, or was prevented from sending it.
 void OnKeyEnd(GtkWidget* entry, GdkEvent*, Key* key)
 {
     if (!key->quiet)

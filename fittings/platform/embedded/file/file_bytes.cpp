@@ -36,8 +36,8 @@ bool IsBefore(const timespec& a, const timespec& b)
     return a.tv_sec != b.tv_sec ? a.tv_sec < b.tv_sec : a.tv_nsec < b.tv_nsec;
 }
 
-// Later than the file's timestamp can resolve: a file that changes from now on gets another stamp. Stamps without a
-// fraction come from file systems that keep whole seconds, some every second one only.
+// Later than the file's timestamp can resolve: a file that changes from now on gets another timestamp. Some file
+// systems keep only whole seconds, and some only every second one of them.
 bool IsPastTick(const timespec& stamp, const timespec& now)
 {
     return stamp.tv_nsec == 0 ? stamp.tv_sec + 2 <= now.tv_sec : IsBefore(stamp, now);
@@ -113,8 +113,8 @@ FileContent ReadFilledBytes(const std::string& path, std::string& bytes)
     }
 }
 
-// Returns the content of the displaced file. Another process may remove that file as a leftover. Then it is the file
-// that was opened before the exchange, because any other file is too new to be a leftover.
+// Returns the content of the displaced file. If another process has removed that file as a leftover, it is the file
+// that was opened before the exchange: every other file is too new to be a leftover.
 std::optional<std::string> ReadDisplaced(const StagedFile& staged, int before)
 {
     std::string bytes;

@@ -17,7 +17,7 @@ using Clock = FileLock::Clock;
 constexpr std::chrono::milliseconds kPatience(1900);
 constexpr std::chrono::milliseconds kPause(1);
 
-// Each time that another process saves first, a new attempt is needed.
+// A save needs another attempt each time that another process saves first.
 constexpr int kMaxAttempts = 100;
 
 // Waits for a program that has emptied the file in place, such as an editor, to fill it.
