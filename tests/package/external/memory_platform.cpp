@@ -40,7 +40,7 @@ const MemoryStore& GetMemoryStore()
     return g_store;
 }
 
-// Nothing is saved here, so there is nothing to save as one.
+// Nothing is saved here, so a batch does nothing.
 struct CLocalRegStore::Batch::Collected
 {
 };

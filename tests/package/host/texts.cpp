@@ -1,4 +1,4 @@
-// Prints a text of the library's in German, without a display.
+// Prints a text of the library in German, without a display.
 
 #include <wx/init.h>
 #include <wx/translation.h>
