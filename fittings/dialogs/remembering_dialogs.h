@@ -48,7 +48,6 @@ public:
     ///   if it exists and the filter shows it.
     ///
     /// @param parent  may be null.
-    /// @param parent  may be null.
     /// @param entry  any text.
     /// @param message  the title.
     /// @param wildcard  as in wxFileDialog: "Tables (*.csv)|*.csv|All files|*".
