@@ -45,7 +45,7 @@ wxString ReasonText(int error)
     return wxString::FromUTF8(g_strerror(error));
 }
 
-/// "12 items, 1.2 MB (1234567 bytes) in 9 files"
+/// Returns a text such as "12 items, 1.2 MB (1234567 bytes) in 9 files".
 wxString Summary(const std::vector<Entry>& entries)
 {
     std::size_t files = 0;
@@ -64,8 +64,8 @@ wxString Summary(const std::vector<Entry>& entries)
     return text;
 }
 
-/// Where a window is, according to X. When the window manager is slow to frame a new window, the toolkit may believe
-/// the window is in the corner of the screen.
+/// Returns where a window is according to X. Until the window manager has framed a new window, the toolkit may believe
+/// that the window is in the corner of the screen.
 wxPoint PlaceOf(const wxFrame& window)
 {
     return FrameRect(window.GetHandle()).GetPosition();

@@ -34,9 +34,9 @@ public:
     explicit BrowserPage(wxWindow* parent);
     ~BrowserPage() override;
 
-    /// Opens @a folder; when it is empty, the folder of the last session, and in the first session the home folder.
+    /// Opens @a folder. If it is empty, opens the folder of the last session, or the home folder in the first session.
     ///
-    /// When it is not a folder, opens another one; the page shows the reason, and the returned text is the same.
+    /// If it is not a folder, opens another one. The page then shows the reason, which is also the result.
     wxString Start(const std::string& folder);
 
     FolderTree* GetTree() const { return m_tree; }
@@ -65,7 +65,7 @@ public:
     wxString GetSelectionText() const;
     /// @}
 
-    /// Opens a folder. When it cannot be read, shows that in the page and returns false.
+    /// Opens a folder. If it cannot be read, the page says so and the result is false.
     bool Open(const std::string& folder);
 
     /// @name Commands
@@ -81,7 +81,7 @@ public:
     /// Asks for a file and writes the entries of the list into it.
     void SaveReport();
 
-    /// Puts the panes back to their first places.
+    /// Puts the panes back to their initial places.
     void ResetLayout();
     /// @}
 
@@ -101,7 +101,7 @@ private:
     wxAuiManager m_layout;
     wxString m_firstLayout;
     bool m_layoutLoaded = false;
-    wxPoint m_floatingPlace = wxDefaultPosition;  ///< Of the folders, when they were last hidden with their page.
+    wxPoint m_floatingPlace = wxDefaultPosition;  ///< The place of the folders' pane when the page was last hidden.
     FolderTree* m_tree = nullptr;
     ContentsList* m_list = nullptr;
     FolderColourCombo* m_colour = nullptr;

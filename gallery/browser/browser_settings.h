@@ -21,7 +21,7 @@ void SavePage(const wxString& name);
 /// The roots of earlier sessions, the latest first.
 std::vector<std::string> LoadRootFolders();
 
-/// Stores a root. The last 50 are kept: returns the one that is removed in exchange, with its settings here, or an
+/// Stores a root. Only the last 50 are kept: returns the one that was removed for it, with its settings here, or an
 /// empty path.
 std::string SaveRootFolder(const std::string& path);
 

@@ -81,7 +81,7 @@ public:
             RowsDeleted(rows);
     }
 
-    /// Sets a size; it is drawn when its row is drawn next.
+    /// Sets a size. It appears when its row is drawn again.
     void SetFolderSize(const std::string& name, std::uint64_t size)
     {
         if (m_folders.empty()) {
@@ -97,7 +97,7 @@ public:
         }
     }
 
-    /// Changes only the order of the rows; the caller has them drawn again.
+    /// Changes only the order of the rows. The caller must redraw them.
     void Sort(SortOrder order)
     {
         m_sorted = SortedPositions(m_entries, order);
@@ -329,7 +329,7 @@ void ContentsList::SetColumnWidths(const std::vector<int>& widths)
 void ContentsList::RememberColumns()
 {
     wxPersistentRegisterAndRestore(this, GetName());
-    // The width that it had in a larger window would now be its minimum.
+    // A width that was stored in a larger window would be the column's minimum.
     GetColumn(IndexOf(SortColumn::Name))->SetWidth(kNameCharacters * GetCharWidth());
     SortByColumn(GetSortingColumn());
 }

@@ -7,7 +7,7 @@ namespace gallery {
 class FolderColourCombo::ColourPopup : public wxColourPopup
 {
 public:
-    /// The colour that the hot cell gives the folder; @a own is its present one.
+    /// Returns the colour that the hot cell gives the folder. @a own is the folder's present colour.
     wxColour FolderColour(const wxColour& colour, const wxColour& own) const
     {
         if (m_nCurrentSel == CELL_AUTOMATIC)
@@ -40,7 +40,7 @@ FolderColourCombo::FolderColourCombo(wxWindow* parent, Handler onLook, Handler o
 
 FolderColourCombo::~FolderColourCombo()
 {
-    // An open popup closes with the window, when its listener may be gone already.
+    // An open popup is closed with the window. Its listener may be destroyed by then.
     m_colours->SetColorListener(nullptr);
 }
 

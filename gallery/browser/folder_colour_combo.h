@@ -14,8 +14,8 @@ class FolderColourCombo : public wxColourCombo, private wxColorPopupListener
 public:
     using Handler = std::function<void(const wxColour&)>;
 
-    /// @a onLook gets each colour that is pointed at, and finally the colour in effect; @a onChoose gets the chosen
-    /// one.
+    /// @a onLook gets each colour that becomes hot, and finally the colour in effect. @a onChoose gets the chosen
+    /// colour.
     FolderColourCombo(wxWindow* parent, Handler onLook, Handler onChoose);
 
     ~FolderColourCombo() override;
@@ -35,7 +35,7 @@ private:
     Handler m_onLook;
     Handler m_onChoose;
     ColourPopup* m_colours;
-    wxColour m_colour;  ///< Of the folder; invalid for none.
+    wxColour m_colour;  ///< The folder's colour; invalid for none.
 };
 
 }  // namespace gallery

@@ -234,7 +234,7 @@ void FolderTree::Refill(const wxTreeItemId& item)
     SetItemHasChildren(item, !subfolders.empty());
 }
 
-/// Sets everything of an item that belongs to its folder, except the label.
+/// Sets what an item shows of its folder, except the label.
 void FolderTree::Dress(const wxTreeItemId& item, const Subfolder& folder)
 {
     wxTreeCursor cursor(this, item);

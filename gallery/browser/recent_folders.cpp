@@ -38,7 +38,7 @@ RecentFolders::RecentFolders()
     m_history.Load(config);
     if (m_history.GetCount() > 0)
         return;
-    // From a version without this menu.
+    // Take over the roots that a version without this menu has stored.
     const std::vector<std::string> roots = browser_settings::LoadRootFolders();
     for (auto root = roots.rbegin(); root != roots.rend(); ++root)
         Add(*root);

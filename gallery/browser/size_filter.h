@@ -22,7 +22,7 @@ public:
     /// The size in bytes; 0 when the field is empty or does not hold a number.
     std::uint64_t GetMinimum() const;
 
-    /// "1,234.5 MB", as the locale writes it.
+    /// Returns a text such as "1,234.5 MB", in the locale's form.
     wxString GetText() const;
 
     /// @name The number as it was typed, with a full stop as the decimal point in any locale

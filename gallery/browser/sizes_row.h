@@ -23,7 +23,7 @@ public:
     /// @a onNews gets each sum when it is ready.
     SizesRow(wxWindow* parent, std::function<void(const SizeNews&)> onNews);
 
-    /// Adds up @a folder; stops the work on another one.
+    /// Adds up @a folder. Stops the work on another one.
     void Start(const std::string& folder);
 
     /// Stops the worker and waits for it, at most as long as its present call to the file system takes. All sums found
@@ -53,7 +53,7 @@ private:
     wxButton* m_button;
     std::string m_folder;
     std::unique_ptr<SizeWorker> m_worker;
-    int m_number = 0;  ///< Of the present worker: events of earlier ones may still arrive.
+    int m_number = 0;  ///< The number of the present worker. Events of earlier ones may still arrive.
     Clock::time_point m_start;
 };
 

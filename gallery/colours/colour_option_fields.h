@@ -26,12 +26,12 @@ class ColourOptionFields : public wxPanel
 public:
     explicit ColourOptionFields(wxWindow* parent);
 
-    /// The options as the controls have them.
+    /// Returns the options that the controls show.
     ColourOptions GetOptions() const;
 
     void SaveSettings() const;
 
-    /// Arranges the controls for a width of @a width pixels.
+    /// Arranges the controls for a width in pixels.
     void Arrange(int width);
 
 private:

@@ -14,8 +14,8 @@ struct ColourOptions
 {
     bool hasAutomatic = true;
     bool hasMore = true;
-    wxString automatic;  ///< Empty for the popup's own text, in the user's language.
-    wxString more;       ///< The same.
+    wxString automatic;  ///< Empty: the popup's own text, in the user's language.
+    wxString more;       ///< Empty: the popup's own text, in the user's language.
     wxColour defaultColour{0, 0, 0};
 
     /// @name For a host with a popup of its own class

@@ -33,7 +33,7 @@ constexpr int kMostEvents = 500;
 
 const wxColour kFirstColour(0, 0, 255);
 
-/// "Blue #0000FF"; only the number for a colour without a name.
+/// Returns a text such as "Blue #0000FF"; only the number for a colour without a name.
 wxString NameOf(const wxColour& colour, const wxString& separator)
 {
     const wxString number = colour.GetAsString(wxC2S_HTML_SYNTAX);
@@ -44,7 +44,8 @@ wxString NameOf(const wxColour& colour, const wxString& separator)
     return number;
 }
 
-/// For an invalid colour, a transparent picture: GTK leaves no room for pictures when the first row has none.
+/// Returns a square of the colour. For an invalid colour it is transparent, because GTK leaves no room for pictures if
+/// the first row has none.
 wxBitmap SwatchOf(const wxColour& colour, int size)
 {
     wxImage swatch(size, size);
@@ -58,7 +59,7 @@ wxBitmap SwatchOf(const wxColour& colour, int size)
     return wxBitmap(swatch);
 }
 
-/// A row for a heading, as high as the one with the button beside it.
+/// Makes the row of a heading, as high as the row with the button beside it.
 wxSizer* MakeHeader(wxStaticText* heading)
 {
     auto* header = new wxBoxSizer(wxHORIZONTAL);
@@ -99,7 +100,7 @@ ColoursPage::ColoursPage(wxWindow* parent)
 
 ColoursPage::~ColoursPage()
 {
-    // Otherwise an open popup would call a page that is gone.
+    // Otherwise an open popup would call the destroyed page.
     m_combo->HidePopup(false);
 }
 

@@ -13,13 +13,13 @@ enum class EntryKind { Folder, File, Link, Pipe, Socket, Device, Unknown };
 struct Entry
 {
     std::string name;     ///< The bytes, in no particular encoding.
-    std::string sortKey;  ///< Byte order of the keys is the order for people.
+    std::string sortKey;  ///< Sorting by the bytes of the keys gives the order for people.
     std::string type;     ///< For people: "Folder", "PNG file".
     std::string target;   ///< Where a link points.
     EntryKind kind = EntryKind::Unknown;
     bool known = false;         ///< Size and time could be read.
     bool summed = false;        ///< The size is that of everything in the folder.
-    std::uint64_t size = 0;     ///< Of a file or a summed folder, in bytes; 0 for everything else.
+    std::uint64_t size = 0;     ///< In bytes, for a file or a summed folder; otherwise 0.
     std::int64_t modified = 0;  ///< Seconds since the epoch.
 
     bool HasSize() const { return summed || (known && kind == EntryKind::File); }
@@ -44,8 +44,8 @@ struct Subfolder
 
 /// Reads the folders in a folder, sorted by name. Links to folders are not among them.
 ///
-/// Looks into each of them for subfolders, for at most a twentieth of a second in all. Folders that it did not get to
-/// count as if they had some.
+/// Looks for subfolders in each of them, but stops after a twentieth of a second. The remaining folders count as having
+/// subfolders.
 std::vector<Subfolder> ReadSubfolders(const std::string& path);
 
 /// Returns the key of a name: case and accents do not count, and numbers count by their value.

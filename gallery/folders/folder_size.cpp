@@ -36,7 +36,7 @@ struct HashFileId
 struct Pending
 {
     std::string name;
-    std::uint64_t bytes;  ///< Of the folder itself, without its contents.
+    std::uint64_t bytes;  ///< The size of the folder itself, without its contents.
 };
 
 /// A folder on the path from the top to the present one.

@@ -32,22 +32,22 @@ std::string PathFromDialog(const wxString& path);
 /// @name Numbers for people, in the current locale
 /// @{
 
-/// "1.2 kB"
+/// Returns a text such as "1.2 kB".
 wxString HumanSize(std::uint64_t bytes);
 
-/// "1.2 kB (1,234 bytes)", or "1 byte" where the short form is exact.
+/// Returns a text such as "1.2 kB (1,234 bytes)", or "1 byte" if the short form is exact.
 wxString ExactSize(std::uint64_t bytes);
 
-/// The locale's format with grouped digits; a no-break space groups them where the locale has no separator.
+/// Returns the locale's format with grouped digits. If the locale has no separator, it is a no-break space.
 CNumberFormat GroupingFormat();
 
-/// "171,661", with the locale's separators, see GroupingFormat().
+/// Returns a text such as "171,661", with the separator of GroupingFormat().
 wxString GroupedNumber(std::uint64_t number);
 
-/// "2026-03-14 09:26" in local time.
+/// Returns a text such as "2026-03-14 09:26", in local time.
 wxString HumanTime(std::int64_t secondsSinceEpoch);
 
-/// "1 folder", "2 folders".
+/// Returns a text such as "1 folder" or "2 folders".
 wxString Counted(std::size_t count, const wxString& one, const wxString& many);
 
 /// @}

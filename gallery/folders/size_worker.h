@@ -51,7 +51,7 @@ private:
 
     wxMutex m_newsMutex;  ///< Guards the members below.
     SizeNews m_news;
-    bool m_told = false;  ///< An event is in the queue.
+    bool m_told = false;  ///< True while an event is in the queue.
 };
 
 }  // namespace gallery

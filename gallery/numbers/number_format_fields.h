@@ -30,7 +30,7 @@ class NumberFormatFields : public wxPanel
 public:
     explicit NumberFormatFields(wxWindow* parent);
 
-    /// The format as the controls have it.
+    /// Returns the format that the controls show.
     CNumberFormat GetFormat() const;
 
     /// Sets the controls to @a format. A limit that is not in force keeps its value; an unknown template becomes the
@@ -39,7 +39,7 @@ public:
 
     void SaveSettings() const;
 
-    /// Arranges the controls for a width of @a width pixels.
+    /// Arranges the controls for a width in pixels.
     void Arrange(int width);
 
 private:

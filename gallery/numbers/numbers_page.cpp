@@ -66,7 +66,7 @@ NumbersPage::NumbersPage(wxWindow* parent) : wxScrolledWindow(parent)
     m_fields->Bind(EVT_FORMAT_CHANGED, [this](wxCommandEvent&) { UseFormat(); });
     m_validates->Bind(wxEVT_CHECKBOX, [this](wxCommandEvent&) { UseFormat(); });
     m_number->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { ShowResults(); });
-    // A text that is no number changes without the number.
+    // A change to a text that is not a number sends no wxEVT_NUMBER_CHANGED.
     for (const auto& event : {wxEVT_NUMBER_CHANGED, wxEVT_TEXT})
         m_control->Bind(event, [this](wxCommandEvent&) { ShowControlNumber(); });
     m_keep->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { OnKeep(); });

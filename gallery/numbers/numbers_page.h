@@ -18,7 +18,7 @@ namespace gallery {
 
 class NumberFormatFields;
 
-/// A field for a number, its format, and the results of both; and a wxNumberCtrl with the same format.
+/// A field for a number, its format, and the results of both. Also a wxNumberCtrl with the same format.
 ///
 /// Numbers and format come back as they were when SaveSettings() was last called.
 class NumbersPage : public wxScrolledWindow

@@ -13,7 +13,7 @@ namespace gallery {
 /// @name Distances in a page, in device-independent pixels
 /// @{
 constexpr int kMargin = 18;        ///< Around a page.
-constexpr int kColumnGap = 24;     ///< After and below a column.
+constexpr int kColumnGap = 24;     ///< Beside and below a column.
 constexpr int kColumnWidth = 260;  ///< The least width of the first column.
 constexpr int kGap = 6;            ///< Between related controls.
 /// @}

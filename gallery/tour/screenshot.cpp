@@ -16,7 +16,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-// Nothing must change for so long before a picture is taken.
+// How long nothing must change before a picture is taken.
 constexpr std::chrono::milliseconds kStill(400);
 
 struct Unref

@@ -44,7 +44,7 @@ GtkWidget* FindFileDialog()
     return dialog;
 }
 
-/// Visits such a dialog from inside the dialog's own event loop, and closes it when the visit has not.
+/// Visits such a dialog from inside the dialog's own event loop. Closes the dialog if the visit has not closed it.
 class DialogVisitor : public wxTimer
 {
 public:
