@@ -36,7 +36,7 @@ public:
     SumFrame() : wxFrame(nullptr, wxID_ANY, "Sum")
     {
         (new wxTextCtrl(this, wxID_ANY))->Bind(wxEVT_TEXT, [this](wxCommandEvent& event) {
-            m_adder.emplace(this, wxAtol(event.GetString()));  // stops the one before
+            m_adder.emplace(this, wxAtol(event.GetString()));  // stops the earlier one
             SetTitle(m_adder->RunThread() == wxTHREAD_NO_ERROR ? "Adding up" : "No thread to add up on");
         });
         Bind(EVT_ADDED_UP, [this](wxCommandEvent& event) {

@@ -44,7 +44,7 @@ public:
     ~PrimesFrame() override
     {
         m_counter.StartKill();  // ask it to stop,
-        m_counter.Wait();       // wait until it has, and only then let it and the window go
+        m_counter.Wait();       // wait until it has, before the window is destroyed
     }
 
 private:

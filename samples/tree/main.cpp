@@ -21,7 +21,7 @@ public:
         wxLogNull noMessages;  // about a folder that the user may not read
         wxDir folder(PathOf(item));
         if (item.GetChild().IsOk() || !folder.IsOpened())
-            return;  // filled before, or nothing to show
+            return;  // already filled, or nothing to show
         wxString name;
         for (bool more = folder.GetFirst(&name, "", wxDIR_DIRS | wxDIR_HIDDEN); more; more = folder.GetNext(&name)) {
             wxTreeCursor child = wxTreeCursor(item).AppendItem(name);

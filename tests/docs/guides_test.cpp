@@ -85,7 +85,7 @@ void TakeOver(wxFrame* frame)
 {
     if (wx_window_state::LoadState(frame, L"Main"))
         return;
-    // The first start of the new version: the geometry is still where the earlier one has left it.
+    // At the first start of the new version, read the geometry that the earlier version has stored.
     const wxConfigBase& earlier = *wxConfigBase::Get();
     const wxString path = "/Persistent_Options/Window/Main/";
     wxRect rect;
@@ -100,7 +100,7 @@ void SaveSearch(const wxString& text, int pageSize)
 {
     // Shared by all windows and processes of the program, and saved when the call returns.
     CLocalRegStore::WriteString(L"Search", L"LastText", text);
-    // In a file of its own, ui_config/search.ini.
+    // In a separate file, ui_config/search.ini.
     ui_config_mgr::WriteConfigInt(L"search.ini", L"Search", L"PageSize", pageSize);
 }
 
@@ -132,9 +132,9 @@ wxString Shown(const wxString& price)
 double ValueOf(const wxString& price)
 {
     wxString number = price;
-    number.Replace(wxLocale::GetInfo(wxLOCALE_DECIMAL_POINT), ".");  // the validator takes the locale's point, too
+    number.Replace(wxLocale::GetInfo(wxLOCALE_DECIMAL_POINT), ".");  // the validator also accepts the locale's point
     double value = 0;
-    return number.ToCDouble(&value) ? value : 0;  // "", "-" and "." are accepted, and are no numbers yet
+    return number.ToCDouble(&value) ? value : 0;  // "", "-" and "." are accepted, but are not numbers
 }
 
 wxString TextOf(double value, const CNumberFormat& format)
@@ -148,7 +148,7 @@ wxString TextOf(double value, const CNumberFormat& format)
 std::optional<double> NumberIn(wxString text, const CNumberFormat& format)
 {
     text.Replace(wxString(format.m_chDecimalPoint), ".");
-    text.Replace(wxLocale::GetInfo(wxLOCALE_DECIMAL_POINT), ".");  // accepted besides the format's
+    text.Replace(wxLocale::GetInfo(wxLOCALE_DECIMAL_POINT), ".");  // the field accepts it too
     double value = 0;
     return text.ToCDouble(&value) ? std::optional(value) : std::nullopt;
 }
@@ -162,12 +162,12 @@ void EditPrice(wxDialog& dialog, wxTextCtrl* field, double& price)
     field->SetValidator(wxNumValidator(format, &text));
     if (dialog.ShowModal() == wxID_OK)
         price = NumberIn(text, format).value_or(price);
-    field->SetValidator(wxDefaultValidator);  // text ends here
+    field->SetValidator(wxDefaultValidator);  // the old one points to text
 }
 
 wxString WithUnit(const wxString& number, wxString unit)
 {
-    unit.Replace("%", "%%");  // what a user types is text, and no format
+    unit.Replace("%", "%%");  // the user's text must not act as a format
     CNumberFormat format(eFixedFormat);
     format.m_strTemplate = ("%s " + unit).wc_str();
     return CNumberEditUtils::FormatControlText(number.wc_str(), format);
@@ -176,7 +176,7 @@ wxString WithUnit(const wxString& number, wxString unit)
 void UseStore(wxConfigBase& earlier)
 {
     auto store = std::make_unique<wxStoreConfig>();
-    // What users have stored, once. If it cannot be saved, the next start tries again.
+    // Takes over what users have stored, once. If saving fails, the next start tries again.
     store->ImportFrom(earlier);
     // The toolkit deletes the new one when the program ends.
     delete wxConfigBase::Set(store.release());
@@ -197,7 +197,7 @@ bool WriteNumber(const wchar_t* section, const wchar_t* key, double value)
 
 void SaveSettings(wxFrame* frame, const wxString& folder, bool whole, int pageSize, double zoom)
 {
-    CLocalRegStore::Batch batch;  // all of it is saved at once
+    CLocalRegStore::Batch batch;  // saves all of it together
     wx_window_state::SaveState(frame, L"Main");
     CLocalRegStore::WriteString(L"Search", L"Folder", folder);
     CLocalRegStore::WriteProfileBool(L"Search", L"WholeWords", whole);
@@ -222,7 +222,7 @@ void TakeOverOnce(wxConfigBase& earlier)
 {
     if (CLocalRegStore::GetProfileBool(L"Settings", L"TakenOver", false))
         return;
-    CLocalRegStore::Batch batch;  // all of it, or nothing
+    CLocalRegStore::Batch batch;  // saves all of it or nothing
     TakeOverGroup(earlier);
     CLocalRegStore::WriteProfileBool(L"Settings", L"TakenOver", true);
 }
@@ -232,7 +232,7 @@ void UseLanguage(wxLanguage language)
     auto* translations = new wxTranslations;
     wxTranslations::Set(translations);
     translations->SetLanguage(language);   // wxLANGUAGE_DEFAULT is the user's
-    translations->AddCatalog("fittings");  // before the program's own, whose words win
+    translations->AddCatalog("fittings");  // before the program's own, which takes precedence
     translations->AddCatalog("planets");
 }
 

@@ -179,7 +179,7 @@ TEST(HeaderExamples, FillATreeAsItIsExpanded)
         void OnItemExpanding(const wxTreeCursor& item) override
         {
             if (item.GetChild().IsOk())
-                return;  // filled before
+                return;  // already filled
             for (const wxString& name : FoldersIn(PathOf(item)))
                 wxTreeCursor(item).AppendItem(name).SetChildren(true);
         }
