@@ -8,10 +8,10 @@
 /// A part of a window as a screen reader sees it.
 struct Accessible
 {
-    std::string role;  ///< As RoleName() gives it.
+    std::string role;  ///< As RoleName() returns it.
     std::string name;
     std::string description;
-    std::string label;  ///< The text that labels it.
+    std::string label;  ///< The text of its label.
     bool showing = false;
     bool focusable = false;  ///< Focusable and enabled.
     bool focused = false;

@@ -75,8 +75,8 @@ TEST_P(ScreenReaderInTheGallery, HasANameForAllThatTakesTheFocus)
     EXPECT_THAT(said, IsSupersetOf(names[GetParam()]));
 }
 
-// Tool bar buttons have keys, which their descriptions name, so Tab skips them. In a scroll pane its content takes the
-// focus. In a choice, a part that is not accessible takes it.
+// Tab skips tool bar buttons, because they have keys, which their descriptions name. In a scroll pane, the content
+// takes the focus. In a choice, a part that is not accessible takes it.
 TEST_P(ScreenReaderInTheGallery, IsLedByTabToAllThatTakesTheFocus)
 {
     std::set<std::string> expected;

@@ -1,4 +1,4 @@
-// Functions of text take text of every kind for each parameter, and what they took before means what it meant.
+// Functions accept text of every kind for each parameter. Calls that compiled before keep their meaning.
 
 #include <fittings/platform/text_argument.h>
 
@@ -49,7 +49,8 @@ void WithEachKindBeside(const Other& other, const Call& call, std::index_sequenc
     (CallWith<position>(call, wxString("a").wc_str(), other, positions), ...);
 }
 
-/// Calls with each kind of text for each of @a count parameters, the others being of each kind in turn. All say "a".
+/// Calls with each kind of text for each of @a count parameters, combined with each kind for the other parameters.
+/// Every text is "a".
 template <std::size_t count, typename Call>
 void WithEachKind(const Call& call)
 {
@@ -130,7 +131,7 @@ TEST(TextsOfAnyKind, ReachAFile)
     std::filesystem::current_path(earlier);
 }
 
-// The kinds come to the right parameters.
+// Each text reaches its own parameter.
 TEST(TextsOfAnyKind, KeepTheirOrder)
 {
     ui_config_mgr::WriteConfigString("file.ini", std::string("section"), std::wstring(L"key"), wxString("value"));
@@ -142,8 +143,7 @@ TEST(TextsOfAnyKind, KeepTheirOrder)
     EXPECT_EQ(Stored(L"section", L"number"), L"3");
 }
 
-// Dialogs and windows are tried with a platform and a display of their own; here it is enough that all of it is
-// compiled.
+// Other tests call these functions, with a platform or a display of their own. Here they only need to compile.
 [[maybe_unused]] void CompilesForDialogsAndWindows(wxFrame* frame, wxAuiManager* panes, wxHandyTreeCtrl& tree)
 {
     WithEachKind<5>([](const auto&... texts) { CQVFileDialogI::LaunchSaveDialog(nullptr, texts...); });
@@ -178,7 +178,7 @@ TEST(TextsOfAnyKind, ReachTheSaveDialogsProperties)
     });
 }
 
-// In the C locale too, where the toolkit reads no such text.
+// This also holds in the C locale, in which the toolkit cannot convert such a text.
 TEST(NarrowTextOfAnyKind, IsUtf8InEachLocale)
 {
     const ScopedLocale plain("C");
@@ -214,7 +214,7 @@ TEST(TextsOfAnyKind, AreEmptyForANullPointer)
     EXPECT_EQ(ui_config_mgr::GetConfigString(L"null.ini", nullptr, 0), L"value");
 }
 
-// The address of a function, where its type is known, and the types of results.
+// The address of a function with a known type, and the types of results.
 [[maybe_unused]] constexpr void (*kWriteText)(Wide, Wide, Wide, Wide) = &ui_config_mgr::WriteConfigString;
 [[maybe_unused]] constexpr bool (*kLoadFrame)(wxFrame*, Wide) = wx_window_state::LoadState;
 [[maybe_unused]] constexpr bool (*kLoadPanes)(wxAuiManager*, Wide) = &wx_window_state::LoadAuiManagerState;

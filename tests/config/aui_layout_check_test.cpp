@@ -1,5 +1,4 @@
-// Which texts count as a stored AUI layout: those that the toolkit writes, and none that it could not read back at
-// once.
+// Which texts count as a stored AUI layout: only those that the toolkit writes and can read back quickly.
 
 #include <fittings/config/aui_layout.h>
 

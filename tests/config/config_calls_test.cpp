@@ -11,7 +11,7 @@
 
 namespace {
 
-// Of the functions of one name, those with these arguments.
+// Selects an overload by its arguments.
 using Text = const wchar_t*;
 [[maybe_unused]] constexpr void (*kWriteText)(Text, Text, Text, Text) = ui_config_mgr::WriteConfigString;
 [[maybe_unused]] constexpr std::wstring (*kGetText)(Text, Text, Text) = ui_config_mgr::GetConfigString;
@@ -51,7 +51,7 @@ TEST_F(ConfigCalls, OfGetConfigString)
                                        L"get [section] [key] []", L"destroy"}));
 }
 
-// A file that could not be read is not asked for values.
+// No value is read from a file that could not be read.
 TEST_F(ConfigCalls, OfGetConfigStringFromAFileThatIsMissing)
 {
     g_platform.folderExists = false;
@@ -119,7 +119,7 @@ TEST_F(ConfigCalls, LeaveNoFileObjectBehindABadNumber)
     EXPECT_EQ(g_platform.calls.back(), L"destroy");
 }
 
-/// An operation of the platform that throws, and a call that comes to it.
+/// An operation of the platform that throws, and a call that uses it.
 struct Failure
 {
     const wchar_t* operation;

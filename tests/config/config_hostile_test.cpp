@@ -14,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Calls every operation once, with one value among them.
+/// Calls every operation once.
 void UseAll(const std::wstring& file)
 {
     ui_config_mgr::WriteConfigString(file.c_str(), L"s", L"k", L"v");
@@ -56,7 +56,7 @@ INSTANTIATE_TEST_SUITE_P(, ImpossibleFileName,
                                          Name{"Megabyte", std::wstring(1 << 20, L'\u20ac')}),
                          [](const auto& info) { return info.param.name; });
 
-/// An odd file name, and the file that it means below the user data folder.
+/// An unusual file name, and the path of its file below the user data folder.
 struct Odd
 {
     const char* name;

@@ -14,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A file or folder of the settings folder, by its path.
+/// Returns the path of a file or folder in the settings folder.
 std::string InConfig(const TempUserData& data, const std::string& name)
 {
     return data / ("ui_config/" + name);

@@ -91,7 +91,7 @@ TEST_F(SaveDialogCalls, OfADialogWithoutAnEntry)
     EXPECT_EQ(g_platform.calls, Calls{L"show"});
 }
 
-// FileAnswer knows the save dialog alone, so this hook and GetPath() answer here.
+// FileAnswer answers only the save dialog, so this hook and GetPath() answer here.
 class RememberingDialogCalls : public testing::Test, private wxModalDialogHook
 {
 protected:

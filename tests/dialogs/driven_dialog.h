@@ -60,7 +60,7 @@ public:
     /// Waits until the dialog has closed, and returns its result.
     std::string Chosen();
 
-    /// Fails the test unless the dialog stands in the middle of its parent.
+    /// Fails the test unless the dialog is centred on its parent.
     void ExpectCentred() const;
 
 private:

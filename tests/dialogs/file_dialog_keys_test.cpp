@@ -1,4 +1,4 @@
-// The save and open dialogs as a user sees them: shown by a program of their own, and driven by keys.
+// The save and open dialogs as a user sees them: shown by a separate program and operated by keys.
 
 #include <fittings/dialogs/file_dialog.h>
 

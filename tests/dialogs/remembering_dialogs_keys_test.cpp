@@ -1,4 +1,4 @@
-// The remembering dialogs as a user sees them: shown by a program of their own, and driven by keys.
+// The remembering dialogs as a user sees them: shown by a separate program and operated by keys.
 
 #include <fittings/dialogs/remembering_dialogs.h>
 

@@ -340,7 +340,7 @@ TEST_F(NumbersPageTest, TheControlTellsItsNumberAtEachKey)
     Press('A', wxMOD_CONTROL);
     Type("-12x345.67");
     EXPECT_TRUE(PumpUntil([&] { return Label("NumberCtrlNumber") == L"\u2713 -12345.67"; }));
-    // It follows the format.
+    // The control follows the format.
     Press('P', wxMOD_ALT);
     ASSERT_TRUE(FocusComesTo("DecimalPoint"));
     Type(",");
@@ -455,7 +455,7 @@ TEST_F(NumbersPageTest, AnEmptyNumberAndNoValidatorComeBackToo)
     EXPECT_EQ(Number().GetValue(), "x");
 }
 
-// Especially not a template: it would be a printf format from outside the program.
+// A stored template is never used: it would be a printf format from outside the program.
 TEST_F(NumbersPageTest, NonsenseInTheSettingsDoesNoHarm)
 {
     Close();

@@ -44,7 +44,7 @@ protected:
 
     bool IsEnabled(int item) { return frame->GetMenuBar()->IsEnabled(item); }
 
-    wxPoint place;  ///< Of the floating pane.
+    wxPoint place;  ///< The place of the floating pane.
 };
 
 TEST_F(Pages, AltWithADigitShowsOne)

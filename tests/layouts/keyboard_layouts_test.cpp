@@ -75,7 +75,7 @@ TEST_P(KeyboardLayouts, TypeAMinus)
     EXPECT_EQ(screen.BellsRung(), 0);
 }
 
-// A key with the code of the keypad's decimal point types the format's; any other key types its own character.
+// A key with the code of the keypad's decimal point types the format's point; any other key types its own character.
 TEST_P(KeyboardLayouts, TypeThePointOfTheKeypad)
 {
     const NumLock numLock;

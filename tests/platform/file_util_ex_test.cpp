@@ -117,7 +117,7 @@ TEST(DoesDirExist, FollowsLinks)
     EXPECT_FALSE(file_util_ex::DoesDirExist(Wide(folder / "dangling")));
 }
 
-// The system ends a path at a null character: a path that contains one must not be taken for its beginning.
+// The system ends a path at a null character. A path that contains one must not be cut there.
 TEST(PathWithNul, NamesNoFolder)
 {
     const TempFolder folder;
@@ -247,7 +247,7 @@ INSTANTIATE_TEST_SUITE_P(, NoCharacter,
                          testing::Values(0xD800L, 0xDBFFL, 0xDC00L, 0xDFFFL, 0x110000L, 0x7FFFFFFFL, -1L,
                                          -2147483647L - 1));
 
-// Wide text has no surrogate pairs here: each surrogate is no character by itself.
+// Wide text has no surrogate pairs here: a surrogate alone is not a character.
 TEST(SurrogatePair, BecomesTwoReplacementCharacters)
 {
     EXPECT_EQ(ConvertToUTF8(std::wstring{static_cast<wchar_t>(0xD83D), static_cast<wchar_t>(0xDCD2)}),

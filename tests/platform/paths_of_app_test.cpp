@@ -13,7 +13,7 @@
 
 namespace {
 
-// Is the application object of this process as long as it lives.
+// The application object of this process while it exists.
 class App
 {
 public:

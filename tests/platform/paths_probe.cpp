@@ -1,5 +1,5 @@
 // paths_probe [--app [NAME]]: prints the user data directory and the folder "Samples" of the application's documents,
-// a line each. With --app it has an application object, named NAME where that is given.
+// one a line. With --app it has an application object, named NAME if that is given.
 
 #include <cstdio>
 #include <string>

@@ -63,7 +63,7 @@ public:
     }
 };
 
-// Members are destroyed in reverse order: the post mutex, which is taken first, goes first.
+// Members are destroyed in reverse order: the post mutex, which is taken first, is destroyed first.
 TEST(WorkerClass, LaysItsMembersOutInOrder)
 {
     const Laid worker;
@@ -226,7 +226,8 @@ TEST(ContinueMutex, IsHeldToReadTheFlag)
     EXPECT_TRUE(asking.Ends());
 }
 
-// A handler that posts again while it queues: the lock fails, the post goes on, and the outer lock stays.
+// A handler posts again while an event is queued for it: the inner lock fails, the post continues, and the outer lock
+// stays.
 TEST(PostMutexThatCannotBeHad, StopsNeitherThePostNorTheLockOutside)
 {
     Interrupted handler;

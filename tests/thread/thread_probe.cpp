@@ -60,7 +60,7 @@ long Number(wxThread::ExitCode code)
     return static_cast<long>(reinterpret_cast<std::intptr_t>(code));
 }
 
-// The limit on processes does not bind root.
+// The limit on processes does not apply to root.
 bool LeaveNoRoomForThreads()
 {
     const rlimit none{0, 0};

@@ -70,7 +70,7 @@ TEST(TreeCtrlClass, IsTheToolkits)
 class RecordedTree : public wxHandyTreeCtrl
 {
 public:
-    // By the last letter.
+    // Sorts by the last letter.
     int OnCompareItems(const wxTreeItemId& left, const wxTreeItemId& right) override
     {
         return GetItemText(left).Last() < GetItemText(right).Last() ? -1 : 1;

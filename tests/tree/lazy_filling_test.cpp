@@ -121,8 +121,8 @@ TEST_F(LazyFilling, HappensByTheRightArrowKey)
     EXPECT_TRUE(PumpUntil([&] { return root.IsExpanded(); }));
     EXPECT_EQ(tree.hooked, (Labels{L"R"}));
 
-    keyboard.Char(WXK_RIGHT);  // To the first child,
-    keyboard.Char(WXK_RIGHT);  // which expands.
+    keyboard.Char(WXK_RIGHT);  // moves to the first child
+    keyboard.Char(WXK_RIGHT);  // expands it
     EXPECT_TRUE(PumpUntil([&] { return root.GetChild().IsExpanded(); }));
     EXPECT_EQ(tree.hooked, (Labels{L"R", L"A"}));
 }

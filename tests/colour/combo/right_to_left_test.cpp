@@ -58,7 +58,7 @@ TEST(RightToLeft, TheColourClickedIsTheOneSeenThere)
         wxUIActionSimulator().MouseClick();
         EXPECT_TRUE(PumpUntil([&] { return !screen.combo->IsPopupShown(); }));
         EXPECT_EQ(screen.combo->GetValue(), GetColourName(index));
-        // The face shows it, too.
+        // The face shows the colour, too.
         PointTo(wxPoint(5, 5));
         EXPECT_NE(PlaceOf(colour), wxDefaultPosition);
     }

@@ -56,7 +56,7 @@ TEST(ColourPointer, FindsTheCellsBetweenBothBoxes)
     const PopupInFrame popup;
     SetBoxes(popup);
     ExpectCells(popup, {
-                           // "Automatic" has the rectangle (2, 2) to (146, 31). It reacts one margin lower and to the
+                           // "Automatic" has the rectangle (2, 2) to (146, 31), and reacts one margin lower and further
                            // right.
                            {4, 4, A},
                            {148, 4, A},

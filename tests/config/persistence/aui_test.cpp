@@ -1,4 +1,4 @@
-// Layouts of AUI panes, stored when the manager or its window goes.
+// Layouts of AUI panes, which are stored when the manager or its window is destroyed.
 
 #include <memory>
 
@@ -23,7 +23,7 @@ bool IsLogAtTheTop(wxAuiManager& manager)
     return manager.GetPane("log").dock_direction == wxAUI_DOCK_TOP;
 }
 
-/// Shows a frame again and says whether the pane is where it was left.
+/// Shows a frame again. Returns whether the pane is where it was left.
 void ExpectLogAtTheTop()
 {
     AuiFrame frame;
@@ -128,7 +128,7 @@ TEST(DamagedLayout, LoadsNothing)
         layout = frame.manager.SavePerspective().ToStdWstring();
     }
     for (std::size_t length = 1; length + 1 < layout.size(); length += 9) {
-        // A text that is cut between two fields is a whole layout.
+        // A text that is cut between two fields is still a whole layout.
         if (layout[length - 1] == L'|')
             continue;
         StoreValue(kKind, L"Layout", layout.substr(0, length));

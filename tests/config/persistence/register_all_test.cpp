@@ -1,4 +1,4 @@
-// One call for a window and all that is in it.
+// One call registers a window and everything in it.
 
 #include <gtest/gtest.h>
 #include <wx/dialog.h>
@@ -117,7 +117,7 @@ TEST(RegisteringAll, LeavesOutWhatIsRegisteredAndOtherTopLevelWindows)
     EXPECT_EQ(StoredOf(L"Window/Twice", L"w"), L"(none)");
 }
 
-// Its list is how the user chooses a page.
+// The user chooses a page with this list.
 TEST(RegisteringAll, LooksIntoThePagesOfABookAlone)
 {
     const TempPersistence data;

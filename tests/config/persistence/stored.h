@@ -7,7 +7,7 @@
 #include <fittings/platform/local_reg_store.h>
 #include <tests/support/temp_folder.h>
 
-/// An empty default store that the toolkit's persistence keeps its values in.
+/// An empty default store in which the toolkit's persistence keeps its values.
 class TempPersistence : public TempUserData
 {
 public:

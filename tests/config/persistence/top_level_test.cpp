@@ -134,7 +134,7 @@ TEST(PersistentFrame, ThatIsClosedMaximizedBeforeAnotherIsRemembered)
     EXPECT_EQ(StoredValue(kKind, L"w"), L"400");
 }
 
-// Nobody has followed the frame, so its earlier size is not known.
+// The frame was not restored, so its earlier size is not known.
 TEST(PersistentFrame, ThatIsMaximizedAndWasNotRestoredLeavesTheStoredPlace)
 {
     const TempPersistence data;

@@ -47,7 +47,7 @@ wxTreeItemId Add(wxTreeCtrl& tree, const wxTreeItemId& parent, const wxString& l
     return tree.AppendItem(parent, label);
 }
 
-/// Returns the child with a number, from 0.
+/// Returns the child with this number, counted from 0.
 wxTreeItemId Child(const wxTreeCtrl& tree, const wxTreeItemId& parent, int number)
 {
     wxTreeItemIdValue cookie = nullptr;
@@ -57,7 +57,7 @@ wxTreeItemId Child(const wxTreeCtrl& tree, const wxTreeItemId& parent, int numbe
     return child;
 }
 
-/// "a" to "c" below the root, each with two children of one label, each with one child.
+/// Adds three items below the root. Each has two children with the same label, and each of these has one child.
 void Fill(wxTreeCtrl& tree)
 {
     const wxTreeItemId root = tree.AddRoot("root");
@@ -172,7 +172,7 @@ TEST(PersistentTree, ScrollsToTheItemThatWasFirstInView)
     }
 }
 
-/// Each item has three children of equal labels, made when it is expanded; the first stands for them until then.
+/// Each item has three children with the same label, which are made when it is expanded. Until then it has one child.
 class LazyTree : public wxHandyTreeCtrl
 {
 public:
@@ -319,7 +319,7 @@ TEST(StoredItems, OfMegabytesAndDeepAreRestoredAtOnce)
         EXPECT_LT(ProcessorSeconds([&] { wxPersistentRegisterAndRestore(frame.tree, "w"); }), 20);
         PumpPending();
     }
-    // A tree without an end: each level is made when it is expanded.
+    // An endless tree: each level is made when it is expanded.
     StoreValue(kKind, L"Items", deep);
     auto* const frame = new wxFrame(nullptr, wxID_ANY, "tree");
     auto* const tree = new LazyTree(frame);

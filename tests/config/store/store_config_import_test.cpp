@@ -1,4 +1,4 @@
-// Settings that an earlier version of a program stored by another configuration class.
+// Settings that an earlier version of a program stored with another configuration class.
 
 #include <fittings/config/store_config.h>
 

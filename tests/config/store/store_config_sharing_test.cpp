@@ -1,4 +1,4 @@
-// Several objects, threads' batches and processes over one store, and a store that cannot be saved.
+// Several objects, batches of threads, and processes that use one store, and a store that cannot be saved.
 
 #include <fittings/config/store_config.h>
 

@@ -46,7 +46,7 @@ inline wxString Dump(wxConfigBase& config)
     return text;
 }
 
-/// A named file with a wxStoreConfig over it.
+/// A named file and a wxStoreConfig that uses it.
 class StoreConfig : public testing::Test
 {
 protected:

@@ -35,8 +35,8 @@ std::string Text(const wxRect& rect)
     return wxString::Format("%d;%d;%d;%d", rect.x, rect.y, rect.width, rect.height).utf8_string();
 }
 
-/// Where the X server has the frame on the screen, with its decorations; empty until the window manager has added
-/// them.
+/// Returns the frame's rectangle on the screen according to the X server, with the decorations; empty until the window
+/// manager has added them.
 wxRect OnScreen(const wxFrame& frame)
 {
     GdkWindow* const window = gtk_widget_get_window(frame.GetHandle());
@@ -74,7 +74,7 @@ void TellOtherDecorations(wxFrame& frame)
 {
     GdkWindow* const window = gtk_widget_get_window(frame.GetHandle());
     Display* const display = GDK_WINDOW_XDISPLAY(window);
-    // Until the ungrab the X server serves nobody else, not even the window manager.
+    // Until the ungrab, the X server serves no other program, not even the window manager.
     XGrabServer(display);
     const long extents[] = {3, 4, 30, 40};
     XChangeProperty(display, GDK_WINDOW_XID(window), XInternAtom(display, "_NET_FRAME_EXTENTS", False), XA_CARDINAL, 32,

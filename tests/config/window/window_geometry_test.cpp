@@ -87,7 +87,7 @@ TEST(SaveState, TakesANullNameForTheEmptyOne)
     EXPECT_EQ(other.GetRect(), wxRect(100, 50, 800, 600));
 }
 
-/// Records the order of the questions to a frame.
+/// Records the order in which a frame is asked about its state.
 class AskedFrame : public wxFrame
 {
 public:

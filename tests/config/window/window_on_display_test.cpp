@@ -23,7 +23,7 @@ TEST(Display, HasTheWorkAreaThatTheseTestsExpect)
     EXPECT_EQ(wxDisplay(0u).GetClientArea(), wxRect(16, 24, 1264, 960));
 }
 
-/// A stored geometry, the calls that restoring it makes, and the geometry of the window then.
+/// A stored geometry, the calls that restoring it makes, and the window's geometry afterwards.
 struct Restored
 {
     const char* name;
@@ -129,7 +129,7 @@ INSTANTIATE_TEST_SUITE_P(, StoredSizeTooSmall,
                                          L"100;100;10;10", L"100;100;0;0", L"100;100;-300;200", L"100;100;300;-200",
                                          L"5000;5000;10;10", L"100;100;-2147483648;2147483647"));
 
-/// Numbers far beyond what a display takes.
+/// Numbers far beyond the size of a display.
 class HugeGeometry : public testing::TestWithParam<const wchar_t*>
 {
 };

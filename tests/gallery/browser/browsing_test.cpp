@@ -37,7 +37,7 @@ TEST_F(Browsing, StartsWithTheFoldersOfTheRoot)
               wxString::FromUTF8("4 items, 3.0\u00A0kB (3\u00A0003 bytes) in 2 files"));
 }
 
-// The locale is that of the process: C.
+// The process is in the C locale.
 TEST_F(Browsing, AllLabelsAreWholeInAnyLocale)
 {
     EXPECT_EQ(frame->GetMenuBar()->FindItem(wxID_OPEN)->GetItemLabelText(), L"Open folder\u2026");
@@ -47,7 +47,7 @@ TEST_F(Browsing, AllLabelsAreWholeInAnyLocale)
 
 TEST_F(Browsing, RightAndLeftKeysExpandAndCollapse)
 {
-    // From right to left the two change places.
+    // In right-to-left direction, the two keys change places.
     const bool isRightToLeft = Tree().GetLayoutDirection() == wxLayout_RightToLeft;
     ClickFolder("docs");
     ASSERT_TRUE(SelectionComesTo("docs"));

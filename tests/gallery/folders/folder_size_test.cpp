@@ -36,7 +36,7 @@ public:
     std::map<std::string, FolderSum> subfolders;
     double last = 0;
     int calls = 0;
-    std::uint64_t most = UINT64_MAX;  ///< Ends the walk after so many items.
+    std::uint64_t most = UINT64_MAX;  ///< The number of items after which the walk ends.
 };
 
 FolderSum Sum(const std::string& path)

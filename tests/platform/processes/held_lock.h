@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-/// The first byte of the lock file is the lock. Its second byte is the queue: who holds that gets the lock next.
+/// The first byte of the lock file is the lock. Its second byte is the queue: its holder gets the lock next.
 inline struct flock BytesOfLock(off_t begin, off_t count)
 {
     struct flock lock = {};
@@ -19,7 +19,7 @@ inline struct flock BytesOfLock(off_t begin, off_t count)
     return lock;
 }
 
-/// True when somebody is next for the lock.
+/// True when a process waits to get the lock next.
 inline bool IsTurnTaken(const std::string& path)
 {
     const int file = open(path.c_str(), O_RDWR | O_CLOEXEC);

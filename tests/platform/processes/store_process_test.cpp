@@ -241,7 +241,7 @@ TEST_F(AKilledWriter, LeavesTheOldOrTheNewValueAndAllOthersInTheDefaultStore)
         KillOnce(
             round, [](const std::wstring& text) { CLocalRegStore::WriteString(L"Kill", L"update", text.c_str()); },
             m_data / "settings.ini");
-        // The next reader sees it too, and a lock never outlives its holder.
+        // The next reader sees the value too, and no lock delays it: a lock never outlives its holder.
         const auto start = Clock::now();
         ASSERT_EQ(Stored(L"Kill", L"update"), UpdateText(m_progress->done));
         ASSERT_LT(Clock::now() - start, std::chrono::milliseconds(1500));

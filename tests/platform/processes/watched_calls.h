@@ -13,7 +13,7 @@ struct WatchedCalls
     std::function<int()> beforeExchange;
 };
 
-/// The one of the process; a forked process has its own.
+/// The actions of this process. A forked process has a copy.
 extern WatchedCalls g_watchedCalls;
 
 #endif

@@ -51,7 +51,7 @@ const std::string& FailingCalls::Failed()
     return g_failed;
 }
 
-// These take the place of the C library's in the whole process.
+// These replace the C library's functions in the whole process.
 
 #define TAKE_PLACE(result, name, parameters, arguments)                                                                \
     extern "C" result name parameters                                                                                  \
@@ -87,7 +87,7 @@ TAKE_PLACE(int, stat64, (const char* path, struct stat64* info) noexcept, (path,
 TAKE_PLACE(int, lstat, (const char* path, struct stat* info) noexcept, (path, info))
 TAKE_PLACE(int, lstat64, (const char* path, struct stat64* info) noexcept, (path, info))
 
-// It is closed all the same, as the system's is.
+// Close the file even if the call is to fail, as the system does.
 extern "C" int close(int fd)
 {
     static auto* const next = ReplacedFunction<int(int)>("close");

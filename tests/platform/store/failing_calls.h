@@ -3,7 +3,7 @@
 
 #include <string>
 
-/// Which of the calls on files that this process makes, counted from 1, fails with which error.
+/// Which call on a file fails, counted from 1 in this process, and with which error.
 struct Fault
 {
     int nth;
@@ -11,7 +11,7 @@ struct Fault
     bool lasts;  ///< whether all later calls fail, too
 };
 
-/// Lets calls on files fail for as long as it lives. Not for processes in which several threads use files.
+/// Makes calls on files fail while the object exists. Not for processes in which several threads use files.
 class FailingCalls
 {
 public:
@@ -20,7 +20,7 @@ public:
     FailingCalls(const FailingCalls&) = delete;
     FailingCalls& operator=(const FailingCalls&) = delete;
 
-    /// The name of the first call that failed; empty when there were not as many.
+    /// The name of the first call that failed; empty when there were fewer calls.
     static const std::string& Failed();
 };
 

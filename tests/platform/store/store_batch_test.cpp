@@ -1,4 +1,4 @@
-// Several settings that are stored by one save.
+// Several settings that are stored with one save.
 
 #include <fittings/platform/local_reg_store.h>
 

@@ -1,4 +1,4 @@
-// Files that a person, another program or a power failure has left in a state of their own.
+// Files in states that the store does not write: left by a person, another program or a power failure.
 
 #include <fittings/platform/local_reg_store.h>
 
@@ -360,7 +360,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Deletion{"AnotherCase", "[s]\nK%25=1\n[S]\nk%25=2\n", "[s]\nK%25=1\n[S]\nk%25=2\n"}),
     [](const auto& info) { return info.param.name; });
 
-// The nth way to write the letter k, 24 times over.
+// The nth of the ways to write a name of 24 letters k.
 std::string NthName(unsigned n)
 {
     std::string name;
@@ -381,7 +381,7 @@ TEST(DeletingAKeyOfManyNames, TakesLinearTimeInTheNamesThatItHas)
     EXPECT_EQ(ReadFile(data / "settings.ini"), "[s]\nl=w\n");
 }
 
-// Between the values that were read and those that come, nothing else may move.
+// Changes and new values move no other line.
 TEST(ManyChanges, GoWhereTheyBelong)
 {
     TempFolder folder;

@@ -22,7 +22,7 @@ std::vector<std::string>* g_calls = nullptr;
 
 }  // namespace
 
-// These take the place of the C library's in the whole process.
+// These replace the C library's functions in the whole process.
 
 extern "C" int fsync(int fd)
 {

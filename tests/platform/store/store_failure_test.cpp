@@ -48,7 +48,7 @@ bool SaveKey(const std::string& path, const wchar_t* value)
 const std::string kOld = "# mine\n[s]\nk=old\nother=1\n";
 const std::string kNew = "# mine\n[s]\nk=new\nother=1\n";
 
-// The old file stays, by both ways to write it, and no other file is left behind.
+// Whichever way a value is written, the old file stays and no other file is left behind.
 void ExpectWritesToFail(const std::string& folder)
 {
     const std::string big(1 << 20, 'x');
@@ -187,7 +187,7 @@ TEST(AFileInTheFoldersPlace, MakesWritingFail)
     EXPECT_EQ(ReadFile(folder / "data"), "precious");
 }
 
-// When the folder cannot be searched, nobody knows whether the file is missing.
+// If the folder cannot be searched, the system does not tell whether the file exists.
 TEST(AFolderThatBecomesAFile, MakesWritingFail)
 {
     TempFolder folder;
@@ -407,7 +407,7 @@ TEST(TheDefaultStore, MakesNothingUntilSomethingIsStored)
     EXPECT_FALSE(fs::exists(data / "new"));
 }
 
-// Staging files have a name that no person gives: a prefix and a UUID.
+// Temporary files have a name that no person would choose: a prefix and a UUID.
 TEST(LeftoversOfAKilledProcess, GoAMinuteLaterAndNothingElseDoes)
 {
     const TempFolder folder;

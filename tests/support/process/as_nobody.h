@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-/// Takes away root's right to read and write every file, as long as the object lives. Other users do not have it.
+/// Takes away root's right to read and write every file while the object exists. Other users do not have it.
 class AsNobody
 {
 public:
