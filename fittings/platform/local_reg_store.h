@@ -329,8 +329,8 @@ public:
     /// @}
 };
 
-/// Collects everything that its thread stores in the default store, and saves it at once. Use it, for example, for all
-/// settings of a window that closes.
+/// Collects everything that its thread stores in the default store, and saves it with one write. Use it, for example,
+/// for all settings of a window that closes.
 ///
 /// While an object lives, each write of its thread to the default store returns true, and that thread's reads return
 /// the new value. Other threads and processes see it after the save. Objects may be nested; the destructor of the

@@ -110,8 +110,8 @@ private:
         return false;
     }
 
-    // Corrects the places of an item whose siblings have changed. If the item was deleted, its next sibling is at its
-    // place now.
+    // Finds the place of an item again after its siblings have changed. If the item was deleted, its next sibling is
+    // now at its old place.
     void FindAgain(VisitedItem& visited, const wxTreeItemId& parent) const
     {
         ChildCursor same = visited.here;

@@ -67,7 +67,8 @@ void OnInserted(GtkEditable*, const char*, int, int*, Key* key)
     key->deletion.reset();
 }
 
-// Restores the selection: GTK moves the caret behind the text that it believes inserted, which ends the selection.
+// Restores the selection: GTK moves the caret behind the text that it believes to be inserted, which ends the
+// selection.
 void OnSelectionEnded(GtkEditable* editable, GParamSpec*, Key* key)
 {
     g_signal_handler_disconnect(editable, std::exchange(key->selecting, 0));

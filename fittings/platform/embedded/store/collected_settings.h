@@ -13,7 +13,7 @@
 
 namespace fittings {
 
-/// Collects the changes that a thread makes in the default store while the object lives, to save them at once.
+/// Collects the changes that a thread makes in the default store while the object exists, to save them together.
 class CollectedSettings
 {
 public:
