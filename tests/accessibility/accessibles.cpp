@@ -52,13 +52,13 @@ std::vector<Accessible> ReadAccessibles()
     PumpPending();
     ChildProcess reader({READ_ACCESSIBLES, std::to_string(getpid())});
     // Meanwhile this process answers the reader's requests.
-    EXPECT_TRUE(PumpUntil([&] { return !reader.IsRunning(); })) << "the reader waits";
+    EXPECT_TRUE(PumpUntil([&] { return !reader.IsRunning(); })) << "the reader does not end";
     EXPECT_EQ(reader.ExitCode(), 0) << reader.Output();
     std::istringstream lines(reader.Output());
     std::vector<Accessible> all;
     for (std::string line; std::getline(lines, line);)
         all.push_back(Parse(line));
-    EXPECT_FALSE(all.empty()) << "nothing is told";
+    EXPECT_FALSE(all.empty()) << "the reader found no object";
     return all;
 }
 

@@ -163,7 +163,8 @@ TEST_F(ColourOnWayland, IsUsedByKeyboard)
     const wxPoint first = combo.GetBottomLeft() + wxPoint(0, 1) + Cell(probe, 0);
     EXPECT_TRUE(Becomes([&] { return IsHot(first); })) << "the hot cell is not seen";
     Xdotool({"key", "Right"});
-    EXPECT_TRUE(Becomes([&] { return IsHot(first + wxPoint(18, 0)) && !IsHot(first); })) << "it is not seen to move";
+    EXPECT_TRUE(Becomes([&] { return IsHot(first + wxPoint(18, 0)) && !IsHot(first); }))
+        << "the hot cell does not move";
     ExpectLastRepaint(probe);
     Xdotool({"key", "Return"});
     ASSERT_TRUE(probe.Waits("end #A52A00"));

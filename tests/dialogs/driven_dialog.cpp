@@ -120,7 +120,7 @@ void DrivenDialog::WaitFor(const std::string& what, const std::function<bool(con
         return isHere || !m_child.IsRunning();
     };
     if (!Becomes(isDecided) || !isHere)
-        ADD_FAILURE() << "does not come: " << what << "\n" << m_child.Output();
+        ADD_FAILURE() << "the state did not appear: " << what << "\n" << m_child.Output();
 }
 
 std::string DrivenDialog::Message()

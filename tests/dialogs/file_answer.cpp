@@ -71,7 +71,7 @@ wxFileDialog::wxFileDialog(wxWindow* parent, const wxString& title, const wxStri
 void wxFileDialog::SetFilterIndex(int index)
 {
     if (!g_made.empty()) {
-        EXPECT_TRUE(CentredDialogs().empty()) << "a filter chosen after the dialog was centred";
+        EXPECT_TRUE(CentredDialogs().empty()) << "the filter was chosen after the dialog was centred";
         g_made.back().filtersSet.push_back(index);
     }
     static const auto original = ReplacedFunction<void(wxFileDialog*, int)>("_ZN12wxFileDialog14SetFilterIndexEi");

@@ -87,7 +87,7 @@ protected:
         errno = 0;
         std::ofstream other(HomeFolder() + "/other");
         other << "x" << std::flush;
-        EXPECT_FALSE(other) << "this is no trouble";
+        EXPECT_FALSE(other) << "the fault has no effect";
         EXPECT_EQ(errno, GetParam().error);
     }
 

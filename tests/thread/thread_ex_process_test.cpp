@@ -43,7 +43,7 @@ TEST(ObjectsThatNeverRan, AreDestroyedWithTheirThreadCreatedToo)
 TEST(Memory, OfObjectsThatNeverRanIsAllThatStays)
 {
     if (std::getenv("FITTINGS_TEST_VALGRIND"))
-        GTEST_SKIP() << "valgrind has an allocator of its own, which does not say what is in use";
+        GTEST_SKIP() << "valgrind's allocator does not tell how much memory is in use";
     EXPECT_EQ(Probe("memory"), "run 0\nposted 0\nrefused 0\nnever run 1\n");
 }
 

@@ -111,7 +111,7 @@ inline wxPoint PointOn(const wxTreeCursor& item, int part)
         if (tree.HitTest(point, flags) == item.item && (flags & part))
             return tree.ClientToScreen(point + wxSize(2, 0));
     }
-    ADD_FAILURE() << "the row has no such part";
+    ADD_FAILURE() << "the row does not have that part";
     return {};
 }
 

@@ -220,7 +220,7 @@ TEST(ColourValidator, MovesNothingWithoutAVariableOrBesideAnotherControl)
     EXPECT_EQ(line, *wxRED);
     auto* const bare = new wxColourCombo;
     bare->Create(frame, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxCB_READONLY, wxColourValidator(&line));
-    EXPECT_FALSE(bare->GetValidator()->TransferToWindow()) << "it has no popup yet";
+    EXPECT_FALSE(bare->GetValidator()->TransferToWindow()) << "a combo without a popup has no colour";
     EXPECT_FALSE(bare->GetValidator()->TransferFromWindow());
     EXPECT_EQ(line, *wxRED);
     bare->SetPopupControl(new wxColourPopup);

@@ -389,7 +389,7 @@ TEST_F(ColourAnimation, EndsAtTheNextStepWhenThePopupIsClosedAndShowsItAllTheSam
     EXPECT_TRUE(on.combo->IsPopupShown());
     EXPECT_FALSE(on.combo->m_animTimer.IsRunning());
     EXPECT_TRUE(on.combo->GetPopupWindow()->IsShown());
-    EXPECT_TRUE(on.combo->GetPopupWindow()->IsEnabled()) << "and it can be used";
+    EXPECT_TRUE(on.combo->GetPopupWindow()->IsEnabled()) << "the popup is disabled";
     EXPECT_EQ(on.combo->shown.size(), 1u);
     on.popup->ChangeSelection(16);
     on.popup->EndSelection(false);

@@ -271,7 +271,7 @@ TEST_P(ColourComboByKeys, ForgetsTheNameAtThePointerWhenItOpensAgain)
     EXPECT_EQ(popup->GetToolTipText(), "");
     EXPECT_EQ(popup->m_strToolTip, "");
     PointToCell(0);
-    EXPECT_TRUE(PumpUntil([&] { return popup->GetToolTipText() == "Black"; })) << "it is said when it is hovered";
+    EXPECT_TRUE(PumpUntil([&] { return popup->GetToolTipText() == "Black"; })) << "a hovered cell shows its name";
     Press(WXK_ESCAPE);
     ExpectHidden();
 }
@@ -343,7 +343,7 @@ TEST_F(ColourComboInUse, ShowsOnItsButtonThatItHasTheFocus)
 
     combo->SetFocus();
     EXPECT_TRUE(PumpUntil([&] { return button() != without; }));
-    EXPECT_TRUE(see(0, face) == colour) << "the face changes";
+    EXPECT_TRUE(see(0, face) == colour) << "the face has changed";
     after->SetFocus();
     EXPECT_TRUE(PumpUntil([&] { return button() == without; }));
 }

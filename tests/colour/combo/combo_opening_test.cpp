@@ -122,7 +122,7 @@ TEST_P(ColourComboOpening, IsDismissedByAClickOnAButton)
     PumpPending();
     EXPECT_EQ(presses, 0);
     Click(button->ClientToScreen(wxPoint(12, 12)));
-    EXPECT_TRUE(PumpUntil([&] { return presses == 1; })) << "and it is pressed by the next one";
+    EXPECT_TRUE(PumpUntil([&] { return presses == 1; })) << "the next click does not press the button";
 }
 
 TEST_P(ColourComboOpening, IsDismissedByAClickInItsTextFieldWhichKeepsTheFocus)
@@ -154,7 +154,7 @@ TEST_P(ColourComboOpening, TakesTheClicksOfOtherMouseButtons)
     ExpectShownAndDismissed();
     EXPECT_EQ(menus, 0);
     Click(place + wxPoint(3, 3), wxMOUSE_BTN_RIGHT);
-    EXPECT_TRUE(PumpUntil([&] { return menus == 1; })) << "the panel has its clicks again";
+    EXPECT_TRUE(PumpUntil([&] { return menus == 1; })) << "the panel gets no clicks";
 }
 
 TEST_P(ColourComboOpening, IsShownWhenItsButtonIsClickedAgainAndHasOneEnd)
@@ -357,7 +357,7 @@ TEST_P(ClosedReadOnlyCombo, ChangesItsColourByUpAndDown)
     EXPECT_EQ(Take(), (Notes{"#000000", "#FF0000"}));
     EXPECT_EQ(on.combo->GetValue(), "Automatic");
     Press(WXK_UP);
-    EXPECT_EQ(Take(), Notes()) << "nothing is above";
+    EXPECT_EQ(Take(), Notes()) << "no cell is above Automatic";
     Press(WXK_DOWN);
     EXPECT_EQ(Take(), Notes{"#000000"});
     EXPECT_TRUE(HasFocus());

@@ -246,7 +246,7 @@ TEST(ColourOfTheCombo, IsShownAtOnceWithoutAnEvent)
         EXPECT_EQ(on.Chosen(), CELL_AUTOMATIC);
         EXPECT_EQ(on.combo->GetValue(), "Automatic");
         EXPECT_TRUE(on.combo->SetColour(wxColour(255, 0, 0)));
-        EXPECT_EQ(on.Chosen(), 16) << "the mark of Automatic does not stay";
+        EXPECT_EQ(on.Chosen(), 16) << "Automatic is still marked";
         PumpPending();
         EXPECT_EQ(on.Take(), Notes());
         EXPECT_EQ(listener.Take(), ColourCalls());

@@ -63,7 +63,7 @@ TEST(ColourOutlineEnd, HidesTheOutlineBeforeItDrawsTheBackground)
     on.combo->m_animDuration = 0;
     step();
     EXPECT_TRUE(on.combo->IsPopupShown());
-    EXPECT_EQ(g_wasShown, std::vector<bool>{false}) << "drawn once, when nothing of the outline is shown";
+    EXPECT_EQ(g_wasShown, std::vector<bool>{false}) << "the background is drawn once, after the outline is hidden";
     g_outline = nullptr;
     on.combo->Dismiss();
 }

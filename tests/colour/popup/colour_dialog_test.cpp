@@ -102,7 +102,7 @@ TEST_F(MoreColours, GivesTheColourOfTheDialog)
     EXPECT_EQ(answer.asked, 1);
     EXPECT_EQ(answer.proposed, wxColour(1, 2, 3));
     EXPECT_TRUE(answer.full);
-    EXPECT_EQ(answer.parent, on.frame) << "the toolkit takes the window that the combo is in";
+    EXPECT_EQ(answer.parent, on.frame) << "the parent is the top-level window of the combo";
     EXPECT_FALSE(shown) << "the popup closes before the dialog opens";
     EXPECT_EQ(hidden, std::vector<bool>{false});
     EXPECT_EQ(calls, (ColourCalls{"popup", "change #010203"}));
@@ -111,7 +111,7 @@ TEST_F(MoreColours, GivesTheColourOfTheDialog)
     EXPECT_EQ(on.popup->m_crInitialColour, wxColour(10, 200, 30));
     EXPECT_EQ(on.popup->m_nChosenColourSel, M);
     EXPECT_FALSE(on.popup->m_bInternalHide);
-    EXPECT_EQ(on.combo->hidden.size(), 1u) << "the popup that is hidden is not hidden again";
+    EXPECT_EQ(on.combo->hidden.size(), 1u) << "the popup is hidden only once";
 }
 
 // After a cancelled dialog the listener hears that the current colour is chosen; the event reports the cancel.
@@ -134,7 +134,7 @@ TEST_F(MoreColours, SendsAnEventOfItsCancelAndNoneOfAChoice)
     ASSERT_TRUE(Opens(*on.combo));
     on.popup->ChangeSelection(16);
     on.popup->EndSelection(true);
-    EXPECT_EQ(events, std::vector<std::string>{"changed #FF0000"}) << "the cancel before is forgotten";
+    EXPECT_EQ(events, std::vector<std::string>{"changed #FF0000"}) << "the earlier cancel has no effect";
 }
 
 // A cancelled dialog chooses the current colour.

@@ -123,7 +123,7 @@ TEST_F(ColourEnding, TakesNothingFromACancelledSelection)
     EXPECT_EQ(on.popup->m_crInitialColour, *wxBLUE);
     EXPECT_EQ(on.popup->m_crColour, *wxBLUE);
     EXPECT_EQ(on.popup->m_nChosenColourSel, -1);
-    EXPECT_EQ(on.popup->m_nCurrentSel, 18) << "the hot cell is kept until the next time";
+    EXPECT_EQ(on.popup->m_nCurrentSel, 18) << "the hot cell stays until the next opening";
     EXPECT_EQ(on.popup->GetStringValue(), "Lime");
     EXPECT_FALSE(on.combo->IsPopupShown());
     EXPECT_FALSE(on.popup->m_bInternalHide);
@@ -284,7 +284,7 @@ TEST_F(ColourEndingWithText, HasTheEarlierTextAfterACancel)
     on.popup->ChangeSelection(18);
     on.popup->EndSelection(false);
     EXPECT_EQ(on.combo->GetTextCtrl()->GetValue(), "my own");
-    EXPECT_EQ(texts.back(), "my own") << "who listens to the text ends with the right one";
+    EXPECT_EQ(texts.back(), "my own") << "the last text event has the right text";
     EXPECT_EQ(listener.Take(), (ColourCalls{"popup", "change #32CD32", "cancel #0000FF"}));
     EXPECT_EQ(on.popup->m_crColour, *wxBLUE);
 }

@@ -148,7 +148,7 @@ TEST(ColourTooltip, IsForgottenWhenThePopupOpens)
 {
     const ComboOnScreen<OpenCombo, TippedPopup> on;
     on.popup->OnPopup();
-    EXPECT_TRUE(on.popup->tips.empty()) << "there was none";
+    EXPECT_TRUE(on.popup->tips.empty()) << "there was no earlier tooltip";
     on.popup->ChangeSelection(16);
     on.popup->OnDismiss();
     EXPECT_EQ(on.popup->m_strToolTip, "Red");

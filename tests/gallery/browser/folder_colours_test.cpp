@@ -242,7 +242,7 @@ TEST_F(FolderColours, ComeBack)
     EXPECT_FALSE(ColourOf("music").IsOk());
     Close();
     Open(root + "/docs");
-    EXPECT_EQ(ColourOf(""), shownRed.inTree) << "the folder is the root now";
+    EXPECT_EQ(ColourOf(""), shownRed.inTree) << "the colour belongs to the folder, also as the root";
     EXPECT_EQ(ColourOf("letters"), shownIndigo.inTree);
     Press(WXK_F5);
     PumpPending();

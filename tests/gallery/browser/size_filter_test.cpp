@@ -116,7 +116,7 @@ TEST_F(SizeFilterTest, GoesDownToAByte)
     EXPECT_TRUE(RowsBecome({"large folder", "small folder", "1.5 MB", "3 MB", "almost"}));
     EXPECT_EQ(frame->GetBrowser()->GetFilter()->GetMinimum(), 1u);
     Press(WXK_BACK);
-    EXPECT_TRUE(RowsBecome(all)) << "zero is no limit";
+    EXPECT_TRUE(RowsBecome(all)) << "a minimum of 0 hides nothing";
 }
 
 TEST_F(SizeFilterTest, RefusesWhatIsNoSize)

@@ -47,13 +47,13 @@ TEST_F(NumberSteps, StayWithinTheBounds)
     EXPECT_EQ(screen.Text(), L"35");
     screen.Press(WXK_UP);
     EXPECT_EQ(screen.Text(), L"35");
-    EXPECT_EQ(screen.textEvents, 1) << "nothing has changed";
+    EXPECT_EQ(screen.textEvents, 1) << "the second key changes nothing";
     screen.Restart("-19.5");
     screen.Press(WXK_DOWN);
     EXPECT_EQ(screen.Text(), L"-20.0");
     screen.Restart("500");
     screen.Press(WXK_UP);
-    EXPECT_EQ(screen.Text(), L"35") << "asked for a step, it goes where steps lead";
+    EXPECT_EQ(screen.Text(), L"35") << "a step leads from beyond the bounds to the bound";
 }
 
 TEST_F(NumberSteps, BeginAtZeroInAnEmptyField)
@@ -71,7 +71,7 @@ TEST_F(NumberSteps, AreAsLongAsTheProgramSays)
     EXPECT_TRUE(screen.number->SetIncrement(0.1));
     screen.Restart("0.2");
     screen.Press(WXK_UP);
-    EXPECT_EQ(screen.Text(), L"0.3") << "in decimal digits";
+    EXPECT_EQ(screen.Text(), L"0.3") << "steps are exact in decimal digits";
     EXPECT_TRUE(screen.number->SetIncrement("0.25"));
     screen.Press(WXK_DOWN);
     EXPECT_EQ(screen.Text(), L"0.05");
@@ -200,7 +200,7 @@ TEST_F(NumberProblem, FollowsTheBounds)
     EXPECT_FALSE(screen.number->IsAcceptable());
     EXPECT_FALSE(screen.number->SetRange("2", "1"));
     EXPECT_FALSE(screen.number->SetRange("x", ""));
-    EXPECT_FALSE(screen.number->IsAcceptable()) << "those have changed nothing";
+    EXPECT_FALSE(screen.number->IsAcceptable()) << "an invalid range changes nothing";
     EXPECT_TRUE(screen.number->SetRange("", ""));
     EXPECT_TRUE(screen.number->IsAcceptable());
 }

@@ -27,7 +27,7 @@ TEST_F(NumberTyping, TellsEachTextAndEachNumber)
     EXPECT_EQ(screen.Text(), L"-1.50");
     EXPECT_EQ(screen.BellsRung(), 0);
     EXPECT_EQ(screen.textEvents, 5);
-    EXPECT_EQ(screen.numbers, (std::vector<std::string>{"-1", "-1.5"})) << "1. and 1.50 are no other numbers";
+    EXPECT_EQ(screen.numbers, (std::vector<std::string>{"-1", "-1.5"})) << "1. and 1.50 do not change the number";
 }
 
 TEST_F(NumberTyping, RefusesWhatCannotBecomeANumber)
@@ -60,7 +60,7 @@ TEST_F(NumberTyping, KeepsTheSelectionWhenAKeyIsRefused)
     EXPECT_EQ(screen.textEvents, 0);
     EXPECT_TRUE(screen.numbers.empty());
     screen.Type("9");
-    EXPECT_EQ(screen.Text(), L"195") << "what is selected is still replaced";
+    EXPECT_EQ(screen.Text(), L"195") << "the key replaces the selection";
 }
 
 TEST_F(NumberTyping, JudgesTheTextWithoutTheSelection)
@@ -99,7 +99,7 @@ TEST(NumberTypingWithinBounds, TakesTheBeginningOfEachNumber)
     NumberCtrlDialog screen(Bounded(10, 20));
     screen.Show();
     screen.Type("32x1");
-    EXPECT_EQ(screen.Text(), L"2") << "2 begins 20";
+    EXPECT_EQ(screen.Text(), L"2") << "2 is the beginning of 20";
     screen.Restart("");
     screen.Type("15");
     EXPECT_EQ(screen.Text(), L"15");

@@ -75,7 +75,7 @@ TEST_F(NumberValue, OfAnIntegerComesBackExactly)
     EXPECT_TRUE(screen.number->SetNumber(5u));
     ASSERT_TRUE(screen.number->SetNumber(std::numeric_limits<std::uint64_t>::max()));
     EXPECT_EQ(screen.number->GetDecimal(), "18446744073709551615");
-    EXPECT_FALSE(screen.number->GetNumber(&whole)) << "it does not fit";
+    EXPECT_FALSE(screen.number->GetNumber(&whole)) << "the number does not fit an integer";
 }
 
 TEST_F(NumberValue, OfAThousandDigitsComesBackExactly)
@@ -85,7 +85,7 @@ TEST_F(NumberValue, OfAThousandDigitsComesBackExactly)
     EXPECT_EQ(screen.number->GetDecimal(), digits);
     screen.Leave();
     EXPECT_EQ(screen.number->GetDecimal(), digits);
-    EXPECT_TRUE(screen.number->GetValue().StartsWith("1,000,000,")) << "the minus stands behind";
+    EXPECT_TRUE(screen.number->GetValue().StartsWith("1,000,000,")) << "the minus follows the digits";
     screen.Enter();
     EXPECT_EQ(screen.Text(), std::wstring(digits.begin(), digits.end()));
 }
@@ -126,8 +126,8 @@ TEST_F(NumberValue, IsShownByTheFormatWithoutTheFocusAndPlainWithIt)
     EXPECT_EQ(screen.number->GetDecimal(), "-1234.5");
     screen.Enter();
     EXPECT_EQ(screen.Text(), L"-1234.5");
-    EXPECT_EQ(screen.textEvents, 7) << "only what was typed";
-    EXPECT_EQ(screen.number->GetStringSelection(), "-1234.5") << "as in any text field";
+    EXPECT_EQ(screen.textEvents, 7) << "only typing sends text events";
+    EXPECT_EQ(screen.number->GetStringSelection(), "-1234.5") << "the focus selects the text, as in every text field";
 }
 
 TEST_F(NumberValue, IsShownByTheFormatWhenItIsSetWithoutTheFocus)
@@ -153,7 +153,7 @@ TEST_F(NumberValue, OfATextThatTheProgramSetsIsReadWithItsGroups)
     EXPECT_EQ(screen.Text(), L"12abc");
     EXPECT_EQ(screen.number->GetDecimal(), "");
     screen.Leave();
-    EXPECT_EQ(screen.Text(), L"12abc") << "what is wrong is not hidden";
+    EXPECT_EQ(screen.Text(), L"12abc") << "an invalid text stays as it is";
 }
 
 TEST_F(NumberValue, IsMarkedAsModifiedByTheUserAlone)
@@ -195,7 +195,7 @@ TEST_F(NumberValue, KeepsTheSelectionWhileAnotherWindowIsActive)
     auto* const other = new wxFrame(nullptr, wxID_ANY, "Other", wxPoint(20, 20));
     ASSERT_TRUE(ShowAndSettle(other));
     ASSERT_TRUE(PumpUntil([&] { return screen.Text() == L"1,234,567.00"; }));
-    EXPECT_EQ(screen.Selection(), "234,") << "the same digits";
+    EXPECT_EQ(screen.Selection(), "234,") << "the same digits stay selected";
     other->Destroy();
     screen.dialog->Raise();
     ASSERT_TRUE(PumpUntil([&] { return screen.number->HasFocus() && screen.Text() == L"1234567"; }));

@@ -304,7 +304,7 @@ TEST_F(Numbers, GoWithTheirControlToAnotherWindow)
     EXPECT_TRUE(other.TransferDataFromWindow());
     EXPECT_EQ(values[0], "4");
     fields[0]->ChangeValue("x");
-    EXPECT_TRUE(dialog->Validate()) << "the dialog that it has left";
+    EXPECT_TRUE(dialog->Validate()) << "the field is no longer in this dialog";
     EXPECT_FALSE(other.Validate());
 }
 

@@ -108,7 +108,7 @@ protected:
         screen.Show("1");
         screen.PressRaw(std::to_string(kKeyApostrophe));
         EXPECT_EQ(screen.Text(), L"1");
-        EXPECT_EQ(screen.BellsRung(), 0) << "no character yet";
+        EXPECT_EQ(screen.BellsRung(), 0) << "a dead key alone types no character";
     }
 
     Layout international{{"-layout", "us", "-variant", "intl"}, kKeyApostrophe, 0, "dead_acute"};

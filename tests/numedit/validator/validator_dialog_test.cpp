@@ -176,7 +176,7 @@ TEST_F(Transfer, FailsWithoutATextControl)
             EXPECT_FALSE(validator.Validate(panel)) << "disabled";
             other->Enable();
         }
-        EXPECT_EQ(assertions.Count(), other ? 5 : 0) << "of each that fails on a window";
+        EXPECT_EQ(assertions.Count(), other ? 5 : 0) << "one for each operation that fails on a window";
     }
     EXPECT_EQ(static_cast<wxComboBox*>(others[3])->GetValue(), "12");
 }

@@ -125,7 +125,7 @@ TEST_F(Handlers, PassAGoodCharacterToTheControl)
 {
     Start("1", 1);
     EXPECT_TRUE(CharPasses('2', L'2'));
-    EXPECT_EQ(control->GetValue(), "1") << "typing it is the control's work";
+    EXPECT_EQ(control->GetValue(), "1") << "the control inserts the character, not the handler";
     EXPECT_EQ(BellsRung(), 0);
 }
 
@@ -247,7 +247,7 @@ TEST_F(Handlers, ThrowForACaretBeyondTheText)
     } catch (const std::out_of_range& error) {
         EXPECT_EQ(std::string(error.what()).substr(0, 19), "basic_string::erase");
     }
-    EXPECT_NO_THROW(CharPasses(WXK_BACK)) << "not checked";
+    EXPECT_NO_THROW(CharPasses(WXK_BACK)) << "this key is not checked";
 }
 
 TEST_F(Handlers, ChangeNothingWhenRefusing)
@@ -284,7 +284,7 @@ TEST_F(Handlers, WriteTheFormatsPointForTheKeypad)
 {
     Start("12", 1);
     KeyDownPasses(WXK_NUMPAD_DECIMAL);
-    EXPECT_FALSE(CharPasses('.', L'.')) << "not a second time by the control";
+    EXPECT_FALSE(CharPasses('.', L'.')) << "the control must not insert the point again";
     EXPECT_EQ(control->GetValue(), "1,2");
     EXPECT_EQ(control->GetInsertionPoint(), 2);
     EXPECT_EQ(textEvents, 1);
@@ -308,7 +308,7 @@ TEST_F(Handlers, KeepTheKeypadsKeyUntilAnotherGoesDown)
     EXPECT_FALSE(CharPasses('.', L'.'));
     EXPECT_TRUE(validator.m_bNumpadDecimal);
     EXPECT_EQ(control->GetValue(), ",");
-    EXPECT_FALSE(CharPasses('7', L'7')) << "still the keypad's key: a second point";
+    EXPECT_FALSE(CharPasses('7', L'7')) << "counts as the keypad's key: a second point";
     EXPECT_TRUE(validator.m_bNumpadDecimal);
     EXPECT_EQ(control->GetValue(), ",");
     EXPECT_EQ(BellsRung(), 1);

@@ -225,7 +225,7 @@ TEST(AStoppedWaiter, DelaysNobodyForLong)
     int status = 0;
     EXPECT_EQ(waitpid(waiter, &status, WUNTRACED), waiter);
     lock.Release();
-    ASSERT_TRUE(WIFSTOPPED(status)) << "the waiter was done already";
+    ASSERT_TRUE(WIFSTOPPED(status)) << "the waiting process ended before it was stopped";
     const auto start = Clock::now();
     for (int update = 0; update < 3; ++update)
         EXPECT_TRUE(CLocalRegStore::WriteString(L"s", Name(L"key", update).c_str(), L"1"));

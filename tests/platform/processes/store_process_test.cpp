@@ -249,7 +249,7 @@ TEST_F(AKilledWriter, LeavesTheOldOrTheNewValueAndAllOthersInTheDefaultStore)
     RecordProperty("old", m_old);
     RecordProperty("new", m_new);
     EXPECT_GT(m_progress->done, 50);
-    EXPECT_GT(m_old, 20) << "hardly a writer was killed while it wrote";
+    EXPECT_GT(m_old, 20) << "too few writers were killed while they wrote";
     ExpectLeftoversToGo({"named.ini", "settings.ini", "settings.ini.lock"});
 }
 
@@ -267,7 +267,7 @@ TEST_F(AKilledWriter, LeavesTheOldOrTheNewValueAndAllOthersInANamedFile)
             path);
     }
     EXPECT_GT(m_progress->done, 50);
-    EXPECT_GT(m_old, 10) << "hardly a writer was killed while it wrote";
+    EXPECT_GT(m_old, 10) << "too few writers were killed while they wrote";
     ExpectLeftoversToGo({"named.ini", "settings.ini", "settings.ini.lock"});
 }
 

@@ -84,7 +84,7 @@ TEST(AFullDisk, LeavesTheOldFile)
 {
     TempUserData data;
     if (!WaitForSuccess(StartChild([&] { ASSERT_TRUE(EnterOwnMounts() && MountSmallDisk(data.Path())); })))
-        GTEST_SKIP() << "no right to mount a small disk; a write that is cut short is tested all the same";
+        GTEST_SKIP() << "no right to mount a small disk; another test covers a write that is cut short";
     InChild([&] {
         ASSERT_TRUE(EnterOwnMounts() && MountSmallDisk(data.Path()));
         WriteFile(data / "settings.ini", kOld);
