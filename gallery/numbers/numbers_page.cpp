@@ -176,6 +176,7 @@ void NumbersPage::Arrange()
     ArrangeColumns(m_columns, width);
     ArrangeColumns(m_controlColumns, width);
     m_fields->Arrange(width);
+    FitInside();  // before the layout, which would otherwise squeeze the fields into a low window
 }
 
 /// Gives the present format to the control, and to the validator of the number's field, where it has one.
