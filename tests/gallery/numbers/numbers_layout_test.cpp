@@ -1,0 +1,53 @@
+// The order of the controls, and a small window.
+
+#include <string>
+#include <vector>
+
+#include <wx/choice.h>
+
+#include <tests/gallery/numbers/numbers_page_fixture.h>
+
+namespace {
+
+using namespace gallery::simulated_user;
+
+TEST_F(NumbersPageTest, TabGoesFromTheTopToTheBottom)
+{
+    std::vector<std::string> names;
+    for (int i = 0; i < 40 && (names.empty() || names.back() != "Number"); ++i) {
+        const wxString before = FocusName();
+        Press(WXK_TAB);
+        // Tab also stops at the notebook's tabs.
+        ASSERT_TRUE(PumpUntil([&] { return FocusName() != before; }));
+        if (!FocusName().empty())
+            names.emplace_back(FocusName());
+    }
+    EXPECT_EQ(names, (std::vector<std::string>{"Validates",       "Keep",          "BringBack",   "NumberCtrl",
+                                               "eLocaleFormat",   "eFixedFormat",  "AllowSign",   "AllowExponent",
+                                               "DecimalPoint",    "ThousandsSep",  "HasDecimals", "Decimals",
+                                               "HasMaxIntDigits", "MaxIntDigits",  "HasMin",      "HasMax",
+                                               "PadDecimals",     "RoundDecimals", "GroupDigits", "TrailingMinus",
+                                               "Template",        "Number"}));
+}
+
+TEST_F(NumbersPageTest, FitsIntoASmallWindow)
+{
+    for (const wxSize size : {wxSize(800, 600), wxSize(632, 480)}) {
+        Resize(size);
+        const wxWindow& page = *frame->GetNumbers();
+        for (const wxWindow* part : page.GetChildren())
+            EXPECT_LE(part->GetRect().GetRight(), page.GetClientSize().x) << part->GetName();
+        for (const wxWindow* part : frame->GetNumbers()->GetFields()->GetChildren()) {
+            EXPECT_GE(WindowRect(*part).GetLeft(), WindowRect(page).GetLeft()) << part->GetName();
+            EXPECT_LE(WindowRect(*part).GetRight(), WindowRect(page).GetRight()) << part->GetName();
+        }
+        // A control below the window's border is scrolled into view when it gets the focus.
+        Press('N', wxMOD_ALT);
+        ASSERT_TRUE(FocusComesTo("Number"));
+        Press('L', wxMOD_ALT);
+        ASSERT_TRUE(FocusComesTo("Template"));
+        EXPECT_TRUE(PumpUntil([&] { return WindowRect(page).Contains(WindowRect(Get<wxChoice>("Template"))); }));
+    }
+}
+
+}  // namespace

@@ -1,0 +1,96 @@
+// What the page restores in the next session.
+
+#include <wx/checkbox.h>
+
+#include <tests/gallery/numbers/numbers_page_fixture.h>
+
+namespace {
+
+using namespace gallery::simulated_user;
+
+TEST_F(NumbersPageTest, EverythingComesBack)
+{
+    for (const char mnemonic : {'S', 'E', 'I', 'M', 'Z', 'R', 'G', 'B'})
+        Press(mnemonic, wxMOD_ALT);
+    Press('M', wxMOD_ALT);
+    Press('M', wxMOD_ALT);
+    Press(WXK_TAB);
+    ASSERT_TRUE(FocusComesTo("Min"));
+    Type("0.125");
+    Press('P', wxMOD_ALT);
+    ASSERT_TRUE(FocusComesTo("DecimalPoint"));
+    Type(",");
+    Press('T', wxMOD_ALT);
+    ASSERT_TRUE(FocusComesTo("ThousandsSep"));
+    Type(" ");
+    Press('D', wxMOD_ALT);
+    Press('D', wxMOD_ALT);
+    Press(WXK_TAB);
+    ASSERT_TRUE(FocusComesTo("Decimals"));
+    Press(WXK_UP);
+    Press('L', wxMOD_ALT);
+    ASSERT_TRUE(FocusComesTo("Template"));
+    Press(WXK_DOWN);
+    Press(WXK_DOWN);
+    TypeNumber("7,5");
+    Press('C', wxMOD_ALT);
+    ASSERT_TRUE(PumpUntil([&] { return frame->GetNumbers()->GetKept() == "7,5"; }));
+    TypeNumber("8");
+    OpenNextSession();
+
+    const CNumberFormat format = Format();
+    EXPECT_FALSE(format.m_bAllowSign);
+    EXPECT_TRUE(format.m_bAllowExponent);
+    EXPECT_FALSE(format.m_bHasMaxIntDigits);
+    EXPECT_TRUE(format.m_bHasMin);
+    EXPECT_EQ(format.m_dMin, 0.125);
+    EXPECT_FALSE(format.m_bPadDecimals);
+    EXPECT_TRUE(format.m_bRoundDecimals);
+    EXPECT_FALSE(format.m_bGroupDigits);
+    EXPECT_FALSE(format.m_bTrailingMinus);
+    EXPECT_EQ(format.m_chDecimalPoint, L',');
+    EXPECT_EQ(format.m_chThousandsSep, L' ');
+    EXPECT_TRUE(format.m_bHasDecimals);
+    EXPECT_EQ(format.m_nDecimals, 3u);
+    EXPECT_EQ(format.m_strTemplate, L"%s \u20AC");
+    EXPECT_EQ(Number().GetValue(), "8");
+    EXPECT_EQ(Result("FormatControlText"), L"8 \u20AC");
+    EXPECT_EQ(Label("Kept"), "Kept: 7,5");
+    EXPECT_TRUE(Get<wxCheckBox>("Validates").GetValue());
+    Press('K', wxMOD_ALT);
+    EXPECT_TRUE(PumpUntil([&] { return Number().GetValue() == "7,5"; }));
+}
+
+TEST_F(NumbersPageTest, AnEmptyNumberAndNoValidatorComeBackToo)
+{
+    Press('W', wxMOD_ALT);
+    TypeNumber("");
+    OpenNextSession();
+    EXPECT_EQ(Number().GetValue(), "");
+    EXPECT_FALSE(Get<wxCheckBox>("Validates").GetValue());
+    TypeNumber("x");
+    EXPECT_EQ(Number().GetValue(), "x");
+}
+
+// A stored template is never used: it would be a printf format from outside the program.
+TEST_F(NumbersPageTest, NonsenseInTheSettingsDoesNoHarm)
+{
+    Close();
+    WriteFile(settings / "ui_config/numbers.ini", "[Format]\nAllowSign=yes\nHasDecimals=\nDecimals=-1\n"
+                                                  "MaxIntDigits=99999999999999999999\nMin=abc\nHasMin=1\n"
+                                                  "DecimalPoint=U+ZZ\nThousandsSep=U+110000\nTemplate=%n%n%s%s\n");
+    Open("");
+    const CNumberFormat format = Format();
+    EXPECT_TRUE(format.m_bAllowSign);
+    EXPECT_TRUE(format.m_bHasDecimals);
+    EXPECT_EQ(format.m_nDecimals, 2u);
+    EXPECT_EQ(format.m_nMaxIntDigits, 5u);
+    EXPECT_TRUE(format.m_bHasMin);
+    EXPECT_EQ(format.m_dMin, 0);
+    EXPECT_EQ(format.m_chDecimalPoint, L'.');
+    EXPECT_EQ(format.m_chThousandsSep, L',');
+    EXPECT_EQ(format.m_strTemplate, L"%s");
+    EXPECT_EQ(Result("FormatControlText"), "1,234.50");
+}
+
+}  // namespace
