@@ -83,7 +83,7 @@ public:
         return TakeNumber(least, most);
     }
 
-    /// Returns where the next pane ends: its texts have a "\" before each "|".
+    /// Returns the end of the next pane, whose texts have a "\" before each "|".
     std::size_t EndOfPane() const
     {
         std::size_t end = m_rest.find(L'|');
@@ -141,7 +141,7 @@ bool AreTexts(std::wstring_view texts)
 
 /// Whether the texts contain no number that the toolkit would read and cannot use.
 ///
-/// The toolkit does not read an escaped ";" as a part of the text, but what follows as the next field. With
+/// The toolkit does not read an escaped ";" as a part of the text: it reads what follows as the next field. With
 /// "a;row=99999999;" in a caption it reads a row, and takes the empty field behind it for the end of the pane. "\b" is
 /// its placeholder for an escaped ";".
 bool AreReadAtOnce(std::wstring_view texts)

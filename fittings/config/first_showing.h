@@ -15,8 +15,8 @@ namespace fittings {
 /// Does nothing for a window that is already shown, and nothing on Wayland.
 void ShowWithoutDelay(wxTopLevelWindow& window);
 
-/// Makes a window appear at its present position. By itself the toolkit leaves the place to the window manager when the
-/// window has had this position from the start.
+/// Makes a window appear at its present position. Without this, the toolkit leaves the place to the window manager if
+/// the window has always had this position.
 void KeepPlace(wxTopLevelWindow& window);
 
 }  // namespace fittings

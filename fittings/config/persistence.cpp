@@ -95,7 +95,7 @@ public:
     /// first, they are saved with the window.
     void SaveSoon(const wxPersistentObject& who)
     {
-        // Use the outermost one: a window that is being destroyed may be partly gone.
+        // Use the outermost parent: a window that is being destroyed may be partly destroyed already.
         wxWindow* outermost = WindowOf(who);
         for (wxWindow* window = outermost; window; window = window->GetParent()) {
             outermost = window;

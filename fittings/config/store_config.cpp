@@ -62,7 +62,7 @@ wxString ShownPath(const StorePath& path)
     return path.empty() ? wxString() : wxString(kSeparator + fittings::SectionOf(path));
 }
 
-// Views a text of the toolkit as a standard one, as long as the toolkit's text lives.
+// Views a text of the toolkit as a standard one. Valid as long as the toolkit's text.
 class TextView
 {
 public:
@@ -99,7 +99,7 @@ const fittings::StoreEntry* FindEntry(StoreModel& model, const wxString& path)
     return group ? group->entries.Find(entry.name) : nullptr;
 }
 
-// True when the model has that value already, provided that nobody else has changed it.
+// True when the model has that value already and no other process has changed it.
 bool HasText(StoreModel& model, const EntryPath& entry, std::wstring_view text)
 {
     StoreGroup* const group = model.Find(entry.group);

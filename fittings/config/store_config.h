@@ -71,10 +71,10 @@ public:
 
     bool GetFirstGroup(wxString& name,
                        long& place) const override;  ///< Gets the first group in it; false when there is none.
-    bool GetNextGroup(wxString& name, long& place) const override;  ///< Gets the one after it; false at the end.
+    bool GetNextGroup(wxString& name, long& place) const override;  ///< Gets the next group; false at the end.
     bool GetFirstEntry(wxString& name,
                        long& place) const override;  ///< Gets the first entry in it; false when there is none.
-    bool GetNextEntry(wxString& name, long& place) const override;     ///< Gets the one after it; false at the end.
+    bool GetNextEntry(wxString& name, long& place) const override;     ///< Gets the next entry; false at the end.
     size_t GetNumberOfEntries(bool recursive = false) const override;  ///< Counts all levels if @a recursive.
     size_t GetNumberOfGroups(bool recursive = false) const override;   ///< Counts all levels if @a recursive.
 

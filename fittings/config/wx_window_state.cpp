@@ -44,8 +44,8 @@ std::optional<wxRect> ParseGeometry(const std::wstring& text)
     return wxRect(fields[0], fields[1], fields[2], fields[3]);
 }
 
-/// Maximises one frame when the event posted for it arrives, and then destroys itself. When the frame is destroyed
-/// first, the handler is never destroyed: nobody owns it.
+/// Maximises one frame when the event posted for it arrives, and then destroys itself. If the frame is destroyed first,
+/// the handler leaks.
 class wxMaximizeEvtHandler : public wxEvtHandler
 {
 public:

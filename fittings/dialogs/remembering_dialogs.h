@@ -63,7 +63,7 @@ public:
     int ShowModal() override;
 
 protected:
-    wxString m_entry;  ///< What is remembered belongs to it.
+    wxString m_entry;  ///< The entry of Create().
 };
 
 /// The toolkit's folder dialog. It starts in the folder that was chosen last. GUI thread only.

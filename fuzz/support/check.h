@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-/// Ends the process, and so the fuzzer with this input as its finding, when @a holds is false.
+/// Ends the process when @a holds is false. The fuzzer then reports its present input as a finding.
 inline void Check(bool holds, const char* what)
 {
     if (holds)

@@ -94,7 +94,7 @@ bool Fill(const fs::path& root)
 
 }  // namespace
 
-// The plain name when it is free, so that pictures show the same path; another name while another tour runs.
+// Use the plain name if it is free, so that pictures show the same path. Use another name while another tour runs.
 DemoFolder::DemoFolder() : m_work((fs::temp_directory_path() / "fittings-tour").native())
 {
     if (mkdir(m_work.c_str(), 0700) != 0) {

@@ -13,7 +13,7 @@
 
 #include <tests/support/temp_folder.h>
 
-/// Answers every dialog before it is shown, as long as this object lives.
+/// Answers every dialog before it is shown, while the object exists.
 class Answer : public wxModalDialogHook
 {
 public:

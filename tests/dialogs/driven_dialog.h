@@ -43,7 +43,7 @@ public:
     /// Opens the location entry and types a path; returns when the dialog shows that path.
     void TypePath(const std::string& path);
 
-    /// Waits for a state; fails the test when it does not come.
+    /// Waits for a state; fails the test when it does not appear.
     void WaitFor(const std::string& what, const std::function<bool(const DialogState&)>& isThere);
 
     /// Waits for a message and returns its text.

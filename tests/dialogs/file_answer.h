@@ -23,13 +23,13 @@ struct AskedFile
     wxSize size;
     wxString name;
 
-    int filterIndex = -1;         // none where there is no wildcard
+    int filterIndex = -1;         // none without a wildcard
     std::vector<int> filtersSet;  // by SetFilterIndex() once it was made
     wxString shownFolder;
     std::vector<int> centred;
 };
 
-/// Answers file dialogs in place of the user as long as it lives; there is one such object at a time. The dialog's
+/// Answers file dialogs in place of the user while it exists. There is only one such object at a time. The dialog's
 /// GetPath() returns this path, whatever GTK's dialog would return.
 class FileAnswer : public wxModalDialogHook
 {

@@ -323,7 +323,7 @@ TEST_F(OpenedFile, IsNotSelectedWhenItIsGone)
     fs::create_directories(m_plain + "/folder.csv");
     StoreFile(m_plain + "/folder.csv");
     EXPECT_EQ(OpenDialog().GetFilename(), "");
-    // The folder is gone: the dialog starts in the nearest folder above it.
+    // If the folder does not exist, the dialog starts in the nearest folder above it.
     StoreFile(m_plain + "/gone/one.csv");
     EXPECT_EQ(FolderOf(OpenDialog()), m_plain);
 }

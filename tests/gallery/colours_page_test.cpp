@@ -110,7 +110,7 @@ protected:
 
     void OpenColours()
     {
-        // Keep the pointer off the cells: one would become hot at once.
+        // Keep the pointer off the popup: otherwise a cell would become hot at once.
         PointAt(frame->GetScreenPosition());
         GoTo('C', "Combo");
         Press(WXK_F4);

@@ -31,7 +31,7 @@ protected:
     }
     ~Translations() override { wxTranslations::Set(nullptr); }
 
-    // Does what a host does to be translated.
+    // Sets up translations as a host does.
     static wxTranslations* SetLanguage(const wxString& language)
     {
         auto* translations = new wxTranslations;

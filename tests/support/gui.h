@@ -18,7 +18,8 @@ void PumpPending();
 /// Shows a window and waits until the window manager has mapped and placed it.
 bool ShowAndSettle(wxTopLevelWindow* window);
 
-/// Expects assertions of the toolkit, and counts them, as long as the object lives. Without one, an assertion fails the
+/// Expects assertions of the toolkit, and counts them, while the object exists. Without such an object, an assertion
+/// fails the test.
 /// test.
 class ExpectAssertions
 {

@@ -19,7 +19,7 @@ struct NotingPlatform
     std::wstring stored = L"stored";  ///< The text that every read returns; ASCII.
     int files = 0;                    ///< File objects alive.
     int batches = 0;                  ///< Batches alive.
-    int savesWithoutBatch = 0;        ///< Writes to the default store that saved at once.
+    int savesWithoutBatch = 0;        ///< Writes to the default store that were saved immediately.
 };
 
 extern NotingPlatform g_platform;

@@ -3,7 +3,8 @@
 
 #include <cstdlib>
 
-/// How many times longer than usual the tests wait: FITTINGS_TEST_PATIENCE where a tool makes everything slow, else 1.
+/// How many times longer than usual the tests wait: FITTINGS_TEST_PATIENCE if a tool makes everything slow, otherwise
+/// 1.
 /// Every deadline is multiplied by it.
 inline int Patience()
 {

@@ -37,7 +37,7 @@ private:
     std::string m_path;
 };
 
-/// A new, empty user data directory for as long as the object lives.
+/// A new, empty user data directory that exists as long as the object.
 class TempUserData : public TempFolder
 {
 public:

@@ -1,4 +1,4 @@
-// What the handler receives, and what PostEvent() answers.
+// What the handler receives, and what PostEvent() returns.
 
 #include <fittings/thread/gui_thread.h>
 
@@ -139,7 +139,7 @@ TEST(PostEvent, DeliversACopyOfTheCallersEvent)
     EXPECT_EQ(handler.events, (Events{{7, 12, &object, L"caf\u00e9", 3, 5, &data, nullptr}}));
 }
 
-// Hosts override it to see what is posted to them.
+// A host may override it to see the posted events.
 TEST(PostEvent, GoesByTheHandlersPendingEvents)
 {
     struct Handler : Recorder

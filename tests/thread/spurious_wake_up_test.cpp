@@ -1,4 +1,4 @@
-// A condition that wakes up without having been signalled, which POSIX allows.
+// A condition that wakes up without a signal, which POSIX allows.
 
 #include <atomic>
 
@@ -13,7 +13,7 @@ std::atomic<int> g_wakeUpsToCome{0};
 
 }  // namespace
 
-// Replaces the toolkit's wait for a condition: does the same, but returns early where a test asks for it.
+// Replaces the toolkit's wait for a condition. It waits as the toolkit does, but returns early if a test asks for it.
 extern "C" wxCondError WaitForCondition(wxCondition* condition) __asm__("_ZN11wxCondition4WaitEv");
 
 extern "C" wxCondError WaitForCondition(wxCondition* condition)

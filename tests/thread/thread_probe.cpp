@@ -151,7 +151,7 @@ void TwoWaiters()
 // The number of allocations that the work leaves behind.
 long AllocationsLeftBy(const std::function<void()>& work)
 {
-    work();  // the toolkit and the system make here what they make once
+    work();  // The toolkit and the system allocate some memory only once, at the first use.
     const long before = g_allocations;
     work();
     return g_allocations - before;

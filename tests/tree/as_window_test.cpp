@@ -404,7 +404,7 @@ TEST_F(HandyTreeInUse, TellsOfTheRootThatItSelects)
     ExpectEvents({});
 }
 
-// The host is asked about a selection that it vetoes.
+// The host gets the event of a selection and vetoes it.
 TEST_F(HandyTreeInUse, LetsTheHostVetoTheRoot)
 {
     tree.SelectItem(b.item);

@@ -163,7 +163,7 @@ TEST_F(LargeTree, OfOneLabelIsSavedAsOne)
     EXPECT_EQ(Stored(), L"");
 }
 
-// So many that some of them have equal 32-bit hashes.
+// With so many labels, some have equal 32-bit hashes.
 TEST_F(LargeTree, TellsAllItsLabelsApart)
 {
     constexpr int kCount = 300'000;

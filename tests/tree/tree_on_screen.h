@@ -51,8 +51,8 @@ class LazyTree : public wxHandyTreeCtrl
 {
 public:
     std::map<std::wstring, Labels> folders;
-    Labels hooked;    ///< The item of each call of the hook.
-    Labels expanded;  ///< The item of each call of Expand().
+    Labels hooked;    ///< The items for which the hook was called.
+    Labels expanded;  ///< The items for which Expand() was called.
     std::function<void(const wxTreeCursor&)> inHook;
 
     void OnItemExpanding(const wxTreeCursor& item) override
@@ -99,7 +99,7 @@ inline Labels ChildrenOf(const wxTreeCursor& parent)
     return labels;
 }
 
-/// A point on the screen in the row of the item, where a hit test answers @a part.
+/// Returns a point on the screen in the row of the item, where a hit test returns @a part.
 inline wxPoint PointOn(const wxTreeCursor& item, int part)
 {
     const wxTreeCtrl& tree = *item.tree;

@@ -31,7 +31,7 @@ void ExpectLogAtTheTop()
     EXPECT_TRUE(IsLogAtTheTop(frame.manager));
 }
 
-// Its destructor calls UnInit() before the frame is gone.
+// The destructor of AuiFrame calls UnInit() before the frame is destroyed.
 TEST(PersistentAui, OfAFrameThatEndsItsManagerIsRemembered)
 {
     const TempPersistence data;

@@ -1,4 +1,4 @@
-// The first window of a process comes back where it was and as large as it was, whatever the window manager.
+// The first window of a process is restored to its place and size under every window manager.
 
 #include <string>
 

@@ -24,7 +24,7 @@ protected:
     /// Opens a window on @a path, or on the last session's folder, and waits until it is shown.
     void Open(const std::string& path);
 
-    /// Closes the window as a person does, and waits until it is gone.
+    /// Closes the window as a person does, and waits until it is destroyed.
     void Close();
 
     /// Resizes the window and waits until the screen shows all of it in the new size.

@@ -15,7 +15,7 @@ using namespace gallery::simulated_user;
 namespace fs = std::filesystem;
 using Strings = std::vector<std::string>;
 
-/// Counts GTK's warnings as long as it lives.
+/// Counts GTK's warnings while the object exists.
 class CriticalMessages
 {
 public:

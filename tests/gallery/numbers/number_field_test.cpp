@@ -1,4 +1,4 @@
-// The field for the number, its buttons and what the page makes of it.
+// The field for the number, its buttons, and the results that the page shows for it.
 
 #include <wx/button.h>
 #include <wx/checkbox.h>

@@ -51,7 +51,7 @@ void SlowDisk(milliseconds perSync)
     g_watchedCalls.beforeSync = [perSync] { std::this_thread::sleep_for(perSync); };
 }
 
-// One process of several: stores a counter that goes up, and a new key each time.
+// One of several processes: stores an increasing counter, and a new key each time.
 void StoreCounterAndKeys(int process, int updates)
 {
     for (int update = 0; update < updates; ++update) {

@@ -3,7 +3,7 @@
 
 #include <functional>
 
-/// Actions before the process makes a call on a file.
+/// Actions that run before this process makes a call on a file.
 struct WatchedCalls
 {
     std::function<void()> beforeSync;

@@ -28,7 +28,7 @@ void ForEveryFault(const std::function<void(const Fault&)>& attempt)
     for (const int error : kErrors)
         for (const bool lasts : {false, true}) {
             if (lasts && error == EINTR)
-                continue;  // a call that is interrupted each time is repeated for ever
+                continue;  // a call that is always interrupted is repeated endlessly
             for (int nth = 1;; ++nth) {
                 attempt({nth, error, lasts});
                 const std::string& failed = FailingCalls::Failed();

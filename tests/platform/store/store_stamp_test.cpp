@@ -100,7 +100,7 @@ TEST_F(AnUnchangedStamp, IsNotTrustedWhenTheClockWasPutBack)
     EXPECT_EQ(ReadAfterChange(), L"2");
 }
 
-// Some file systems keep whole seconds only, and some only even ones.
+// Some file systems keep only whole seconds, and some only even ones.
 TEST_F(AnUnchangedStamp, OfWholeSecondsIsNotTrustedForTwoOfThem)
 {
     ReadOnce({1'700'000'000, 0}, {1'700'000'001, 996'000'000});

@@ -43,7 +43,7 @@ private:
     int m_exitCode = 0;
 };
 
-/// Runs a program to its end and returns what it printed; fails the test when it fails or takes too long.
+/// Runs a program to its end and returns its output; fails the test if the program fails or takes too long.
 std::string RunChild(const std::vector<std::string>& command,
                      const std::map<std::string, std::optional<std::string>>& environment = {});
 

@@ -8,7 +8,7 @@
 
 namespace {
 
-// A user who is not root may mount as the root of a user namespace, where the system allows that.
+// A user who is not root may mount as the root of a user namespace, if the system allows that.
 bool EnterMountNamespace()
 {
     if (unshare(CLONE_NEWNS) == 0)

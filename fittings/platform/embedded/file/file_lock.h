@@ -8,7 +8,7 @@
 
 namespace fittings {
 
-/// While the object lives, other processes and threads that take the same lock wait.
+/// While the object exists, other processes and threads that take the same lock wait.
 ///
 /// The lock is advisory: a caller that cannot get it continues without it. The lock file is made when missing and never
 /// removed, because another process may be waiting for it.

@@ -11,7 +11,7 @@ namespace fittings {
 enum class PlaceResult {
     Done,
     Failed,
-    NotAsExpected,  ///< There is a file where none was expected, or none where one was.
+    NotAsExpected,  ///< A file exists that was not expected, or an expected one is missing.
     Unsupported,    ///< The file system cannot do this in one step.
 };
 
@@ -33,7 +33,7 @@ public:
     /// Replaces the target, whether there is a file or not.
     PlaceResult Replace();
 
-    /// Puts the new file at the target, where no file must be.
+    /// Puts the new file at the target, where no file may exist.
     PlaceResult PutNew();
 
     /// Exchanges the new file and the target. A second call undoes the first.
