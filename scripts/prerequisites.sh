@@ -25,7 +25,7 @@ is_installed() {
   dpkg-query -W -f '${Status}\n' "$1" 2>/dev/null | grep -q '^install ok installed'
 }
 
-# first_known NAME|...: prints the first of these names that the release has, or the last one if it has none.
+# first_known NAME|...: prints the first of these names that the release has. If it has none, prints the last name.
 first_known() {
   local name
   for name in ${1//|/ }; do

@@ -9,7 +9,7 @@ class FuzzedDataProvider;
 /// finding, except those about an invalid wildcard.
 void StartToolkit();
 
-/// Allows assertions of the toolkit as long as the object lives, when @a allowed is true.
+/// Allows assertions of the toolkit while the object exists, if @a allowed is true.
 class AssertionsAllowed
 {
 public:

@@ -197,7 +197,7 @@ void GalleryFrame::ShowState()
     menus->Enable(wxID_RESET, browser);
 }
 
-/// Opens a recent folder; a folder that is gone is removed from the menu.
+/// Opens a recent folder. A folder that no longer exists is removed from the menu.
 void GalleryFrame::OpenRecent(int id)
 {
     ShowPage(m_pages->FindPage(m_browser));

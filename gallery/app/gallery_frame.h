@@ -19,7 +19,7 @@ class NumbersPage;
 
 /// The gallery's window: the disk-usage browser, and a page for each component that is shown by itself.
 ///
-/// The window and its pages come back as they were when the last window was closed.
+/// The window and its pages are restored as they were when the last window was closed.
 class GalleryFrame : public wxFrame
 {
 public:

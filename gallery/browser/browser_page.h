@@ -27,7 +27,7 @@ wxDECLARE_EVENT(EVT_BROWSER_CHANGED, wxCommandEvent);
 
 /// The disk-usage browser: folders to the left, the contents of the selected one to the right.
 ///
-/// Panes, columns and folders come back as they were when SaveSettings() was last called.
+/// Panes, columns and folders are restored as they were when SaveSettings() was last called.
 class BrowserPage : public wxPanel
 {
 public:
@@ -51,7 +51,7 @@ public:
     /// managers keep a floating pane above its window only when the pane appears after the window.
     void LoadLayout();
 
-    /// Shows or hides the floating panes, which do not follow the page by themselves.
+    /// Shows or hides the floating panes. They do not follow the page automatically.
     void ShowFloatingPanes(bool show);
 
     void SaveSettings();

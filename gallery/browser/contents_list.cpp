@@ -218,7 +218,7 @@ void ContentsList::SetFolderSizes(const std::vector<std::pair<std::string, Folde
     for (const auto& [name, sum] : sums)
         m_model->SetFolderSize(name, sum.bytes);
     {
-        // The rows are removed one by one; until all are gone, nothing must be drawn or ask for the selected row.
+        // The rows are removed one by one. Until all are removed, nothing may draw them or ask for the selected row.
         const wxEventBlocker quiet(this, wxEVT_DATAVIEW_SELECTION_CHANGED);
         m_model->RemoveSmallOnes();
     }
@@ -299,7 +299,7 @@ void ContentsList::OnColumnSorted(wxDataViewEvent& event)
     SortByColumn(event.GetDataViewColumn());
 }
 
-/// Takes over the order that the header shows.
+/// Uses the order that the header shows.
 void ContentsList::SortByColumn(const wxDataViewColumn* column)
 {
     if (column)

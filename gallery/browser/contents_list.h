@@ -22,7 +22,7 @@ class ContentsList : public wxDataViewCtrl
 public:
     explicit ContentsList(wxWindow* parent);
 
-    /// @name What changes the rows
+    /// @name Operations that change the rows
     /// None of these sends a selection event, even when the selected row is removed.
     /// @{
     void SetEntries(std::vector<Entry> entries);

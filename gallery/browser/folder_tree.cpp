@@ -23,7 +23,7 @@ wxBitmap Icon(const wxArtID& id, const wxWindow* window)
     return wxArtProvider::GetBitmapBundle(id, wxART_OTHER, wxSize(16, 16)).GetBitmapFor(window);
 }
 
-/// Makes GetItemText() return paths, as long as the object lives.
+/// Makes GetItemText() return paths while the object exists.
 class NamePaths
 {
 public:
@@ -234,7 +234,7 @@ void FolderTree::Refill(const wxTreeItemId& item)
     SetItemHasChildren(item, !subfolders.empty());
 }
 
-/// Sets what an item shows of its folder, except the label.
+/// Shows the properties of a folder in its item, except the label.
 void FolderTree::Dress(const wxTreeItemId& item, const Subfolder& folder)
 {
     wxTreeCursor cursor(this, item);

@@ -19,7 +19,7 @@ class FolderTree : public wxHandyTreeCtrl
 public:
     explicit FolderTree(wxWindow* parent);
 
-    /// Starts anew with one collapsed, selected root.
+    /// Starts again with one collapsed, selected root.
     void SetRootFolder(const std::string& path);
     const std::string& GetRootFolder() const { return m_root; }
 
@@ -30,8 +30,8 @@ public:
     /// Empty when nothing is selected.
     std::string GetSelectedPath();
 
-    /// Selects the folder and shows it, reading the levels above it as needed. When the folder is gone, selects the
-    /// nearest one above it.
+    /// Selects the folder and shows it; reads the levels above it as needed. If the folder no longer exists, selects
+    /// the nearest one above it.
     void SelectPath(const std::string& path);
     /// @}
 
@@ -41,8 +41,8 @@ public:
     /// Selects the parent of the selected folder; false at the root.
     bool SelectParent();
 
-    /// Reads the known folders again: adds new ones and removes those that are gone. The others keep their state. When
-    /// the selected one is gone, selects the nearest one above it that is left.
+    /// Reads the known folders again: adds new ones and removes those that no longer exist. The others keep their
+    /// state. If the selected one no longer exists, selects the nearest one above it that does.
     void Reread();
 
     /// Shows the selected folder in @a colour, or without one when it is invalid. When the folder is read again, it

@@ -27,7 +27,7 @@ public:
     void Start(const std::string& folder);
 
     /// Stops the worker and waits for it, at most as long as its present call to the file system takes. All sums found
-    /// so far have been delivered; none comes later.
+    /// so far have been delivered, and no more follow.
     void Stop();
 
     bool IsRunning() const { return m_worker != nullptr; }

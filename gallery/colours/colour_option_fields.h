@@ -20,7 +20,7 @@ wxDECLARE_EVENT(EVT_COLOUR_OPTIONS_CHANGED, wxCommandEvent);
 
 /// A control for each of the ColourOptions: "HasAutomatic", "Automatic", "CellSize".
 ///
-/// The options come back as they were when SaveSettings() was last called.
+/// The options are restored as they were when SaveSettings() was last called.
 class ColourOptionFields : public wxPanel
 {
 public:

@@ -18,8 +18,8 @@ class ColourOptionFields;
 
 /// A colour combo, controls for its options, a list of its calls and events, and a preview of the colour.
 ///
-/// Options and colour come back as they were when SaveSettings() was last called. A change of the options makes a new
-/// combo, as they must be set before the popup is shown.
+/// Options and colour are restored as they were when SaveSettings() was last called. A change of the options makes a
+/// new combo, because they must be set before the popup is shown.
 class ColoursPage : public wxScrolledWindow
 {
 public:

@@ -174,7 +174,7 @@ Listing ReadFolder(const std::string& path)
         entry.name = found->d_name;
         const int error = Describe(entry, dirfd(folder.get()), *found);
         if (error == ENOENT)
-            continue;  // gone in the meantime
+            continue;  // removed in the meantime
         if (error != 0 && listing.error == 0)
             listing.error = error;
         entry.sortKey = SortKey(entry.name);

@@ -110,7 +110,7 @@ private:
             struct stat status;
             const bool known = fstatat(dirfd(folder.get()), entry->d_name, &status, kLookAtLinks) == 0;
             if (!known && errno == ENOENT)
-                continue;  // gone in the meantime
+                continue;  // removed in the meantime
             Count(known ? &status : nullptr, start);
             if (known && S_ISDIR(status.st_mode))
                 level.subfolders.push_back({entry->d_name, static_cast<std::uint64_t>(status.st_size)});
@@ -134,7 +134,7 @@ private:
         Finish();
     }
 
-    /// Goes on after a finished subfolder.
+    /// Continues after a finished subfolder.
     void Finish()
     {
         Level& level = m_levels.back();

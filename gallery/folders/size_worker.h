@@ -28,7 +28,7 @@ struct SizeNews
 class SizeWorker : public wxGUIThreadEx, private SizeObserver
 {
 public:
-    /// @a handler gets events of @a eventType with the int @a number, which tells workers apart.
+    /// @a handler gets events of @a eventType. Their int is @a number, which identifies the worker.
     SizeWorker(wxEvtHandler* handler, int eventType, int number, std::string folder);
 
     /// Stops the work and waits until it has ended.

@@ -24,7 +24,7 @@ wxDECLARE_EVENT(EVT_FORMAT_CHANGED, wxCommandEvent);
 
 /// A control for every field of a CNumberFormat, named after it: "AllowSign", "HasDecimals", "Decimals".
 ///
-/// The format comes back as it was when SaveSettings() was last called.
+/// The format is restored as it was when SaveSettings() was last called.
 class NumberFormatFields : public wxPanel
 {
 public:

@@ -179,7 +179,7 @@ void NumbersPage::Arrange()
     FitInside();  // before the layout, which would otherwise squeeze the fields into a low window
 }
 
-/// Gives the present format to the control, and to the validator of the number's field, where it has one.
+/// Sets the present format in the control, and in the validator of the number's field if there is one.
 void NumbersPage::UseFormat()
 {
     const CNumberFormat format = m_fields->GetFormat();

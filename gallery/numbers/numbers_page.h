@@ -20,7 +20,7 @@ class NumberFormatFields;
 
 /// A field for a number, its format, and the results of both. Also a wxNumberCtrl with the same format.
 ///
-/// Numbers and format come back as they were when SaveSettings() was last called.
+/// Numbers and format are restored as they were when SaveSettings() was last called.
 class NumbersPage : public wxScrolledWindow
 {
 public:

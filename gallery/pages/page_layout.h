@@ -26,7 +26,7 @@ wxStaticText* MakeHeading(wxWindow* parent, const wxString& text);
 /// alignment, which would put the text on the wrong side.
 void BeginAtTheStart(wxStaticText* label);
 
-/// Puts columns next to each other if @a width pixels are enough, else below each other.
+/// Puts columns next to each other if @a width pixels are enough, otherwise below each other.
 void ArrangeColumns(wxBoxSizer* columns, int width);
 
 /// Scrolls @a page whenever the focus moves, to show all of the focused control. The toolkit does this only for direct

@@ -10,7 +10,7 @@ struct _GtkWidget;
 
 namespace gallery {
 
-/// Gives a control of the toolkit a name for assistive technologies, where no static text stands before it.
+/// Gives a control of the toolkit a name for assistive technologies. For a control without a static text before it.
 void SetAccessibleName(wxWindow* control, const wxString& name);
 
 /// Returns where a top-level window is on the screen, with its decorations.

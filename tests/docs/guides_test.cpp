@@ -148,7 +148,7 @@ wxString TextOf(double value, const CNumberFormat& format)
 std::optional<double> NumberIn(wxString text, const CNumberFormat& format)
 {
     text.Replace(wxString(format.m_chDecimalPoint), ".");
-    text.Replace(wxLocale::GetInfo(wxLOCALE_DECIMAL_POINT), ".");  // the field accepts it too
+    text.Replace(wxLocale::GetInfo(wxLOCALE_DECIMAL_POINT), ".");  // the field accepts this point too
     double value = 0;
     return text.ToCDouble(&value) ? std::optional(value) : std::nullopt;
 }

@@ -18,7 +18,7 @@ namespace fittings {
 class WindowRecord
 {
 public:
-    /// Attaches a new object to @a window. @a atEnd is called when the window and all of its children are gone.
+    /// Attaches a new object to @a window. @a atEnd is called when the window and all of its children are destroyed.
     static std::shared_ptr<WindowRecord> Attach(wxWindow& window, std::function<void()> atEnd);
 
     explicit WindowRecord(std::function<void()> atEnd) : m_atEnd(std::move(atEnd)) {}

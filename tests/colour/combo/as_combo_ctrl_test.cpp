@@ -144,7 +144,7 @@ TEST_P(AsComboCtrl, TellsOnceThatItOpensAndThatItIsDismissed)
     EXPECT_EQ(log.Take().back(), "closeup");
 }
 
-// When the popup closes itself, only the listener hears of it; no event is sent.
+// When the popup closes itself, only the listener is told. No event is sent.
 TEST_P(AsComboCtrl, TellsTheListenerAloneThatThePopupClosedItself)
 {
     for (const int key : {int(WXK_RETURN), int(WXK_SPACE), int(WXK_ESCAPE)}) {

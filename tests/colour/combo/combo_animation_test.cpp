@@ -280,7 +280,7 @@ TEST_F(ColourAnimation, LetsClicksThrough)
     on.combo->Dismiss();
 }
 
-// Where no window covers the screen, the old outline is removed by restoring what was there before.
+// If no window covers the screen there, the old outline is removed by restoring what was there before.
 class ColourAnimationOnTheScreen : public ColourAnimation
 {
 protected:

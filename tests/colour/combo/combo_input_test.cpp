@@ -348,7 +348,7 @@ TEST_F(ColourComboInUse, ShowsOnItsButtonThatItHasTheFocus)
     EXPECT_TRUE(PumpUntil([&] { return button() == without; }));
 }
 
-// --- The host removes the control by the call it hears ---------------------------------------------------------------
+// --- The host removes the control within a call of the listener ------------------------------------------------------
 
 struct Removal
 {

@@ -350,7 +350,7 @@ TEST(ColourComboDestroy, HidesItAtOnce)
     EXPECT_FALSE(control.combo);
 }
 
-// The last step of the animation may come between Destroy() and the deletion of the windows.
+// The last step of the animation may run between Destroy() and the deletion of the windows.
 TEST(ColourComboDestroy, KeepsThePopupFromBeingShown)
 {
     for (const bool withFrame : {false, true}) {

@@ -300,7 +300,7 @@ protected:
         return focus && (focus == on.combo || focus->GetParent() == on.combo);
     }
 
-    // Waits until the key is handled, so that the next one comes after it.
+    // Waits until the key is handled, so that the next key follows it.
     void Press(int key)
     {
         int seen = 0;

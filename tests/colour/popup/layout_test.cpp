@@ -357,7 +357,7 @@ TEST(ColourLayout, LeavesTheRectangleOfNoCellAlone)
     }
 }
 
-// The rectangle of a box is the one of the last layout.
+// The rectangle of a box is that of the last layout.
 TEST(ColourLayout, GivesTheRectangleOfABoxWithoutText)
 {
     const PopupInFrame popup;

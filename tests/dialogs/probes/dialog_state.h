@@ -12,7 +12,7 @@ class wxFrame;
 /// Returns null when the frame does not appear.
 wxFrame* ShowParent();
 
-/// Prints the state of the process's file or folder dialog at every change, as long as this object lives:
+/// Prints the state of the process's file or folder dialog at every change, while this object exists:
 ///
 ///   state ACTIVE FOCUS POPUP ACCEPT FOLDER FILE TEXT MESSAGE
 ///
