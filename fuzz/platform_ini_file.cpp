@@ -19,7 +19,7 @@ namespace {
 
 constexpr const wchar_t* kAbsent = L"<absent>";
 
-// In memory, because saving waits for a disk.
+// The folder is in memory, because saving would wait for a disk.
 struct Folder
 {
     Folder() { Check(mkdtemp(path.data()) != nullptr, "there is a folder to write to"); }
@@ -78,7 +78,7 @@ std::wstring Get(const Ini& ini, const Address& address)
     return CLocalRegStore::GetString(*ini, address.section.c_str(), address.key.c_str(), kAbsent);
 }
 
-// True when the names in the file lead to the key.
+// Whether the file lists the section and the key, each once.
 bool HasName(const Ini& ini, const Address& address)
 {
     const auto contains = [](const std::vector<std::wstring>& names, const std::wstring& name) {
@@ -88,7 +88,7 @@ bool HasName(const Ini& ini, const Address& address)
            contains(CLocalRegStore::GetKeyNames(*ini, address.section.c_str()), address.key);
 }
 
-// A piece of the file, so that names of the file are used; high bytes stand for unusual characters.
+// Returns a part of the file, so that names of the file are used. High bytes become unusual characters.
 std::wstring ConsumeText(FuzzedDataProvider& bytes, const std::string& file)
 {
     constexpr wchar_t kUnusual[] = {0x1, 0x85, 0xA0, 0x2028, 0xD800, 0xDFFF, 0xFEFF, 0x10FFFF, 0x110000};
@@ -110,7 +110,7 @@ Address ConsumeAddress(FuzzedDataProvider& bytes, const std::string& file)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    // The last ten bytes say what to set and to read, the rest is the file.
+    // The last ten bytes choose what to set and to read. The rest is the file.
     constexpr std::size_t kChoices = 10;
     if (size < kChoices)
         return 0;

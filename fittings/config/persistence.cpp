@@ -199,7 +199,7 @@ bool wxStorePersistenceManager::RestoreValue(const wxPersistentObject& who, cons
             *value = window->GetPosition().x;
             return isRestored;
         }
-        // The place was restored with x. Give the toolkit nothing that changes it.
+        // The whole place was restored with x, so return the present value: the toolkit must not change it.
         if (name == kY) {
             *value = window->GetPosition().y;
             return true;

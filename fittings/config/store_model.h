@@ -101,8 +101,8 @@ private:
     /// @name Changes that the groups and entries do not record
     /// @{
     bool m_hasChanges = false;
-    std::map<std::wstring, std::set<std::wstring>> m_removed;  ///< Keys by their sections.
-    std::set<std::wstring> m_dropped;                          ///< Sections.
+    std::map<std::wstring, std::set<std::wstring>> m_removed;  ///< Removed keys, by their sections.
+    std::set<std::wstring> m_dropped;                          ///< Removed sections.
     std::map<std::pair<std::wstring, std::wstring>, std::wstring> m_hidden;
     /// @}
 };

@@ -141,7 +141,7 @@ private:
     wxTreeCtrl& m_tree;
     const Labels& m_labels;
     std::vector<VisitedItem>
-        m_path;  // From the start to the item being visited: a deep tree must not use up the stack.
+        m_path;  // The items from the start to the one being visited. A deep tree must not use up the stack.
 };
 
 // Ignores the text after the last separator.

@@ -14,7 +14,7 @@ namespace gallery::browser_settings {
 namespace {
 
 constexpr const wchar_t* kFile = L"browser.ini";
-// In the default store, because ui_config_mgr cannot remove a key from its files.
+// This is in the default store, because ui_config_mgr cannot remove a key from its files.
 constexpr const wchar_t* kSelectedSection = L"SelectedFolder";
 constexpr const wchar_t* kColourSection = L"FolderColours";
 constexpr std::size_t kRememberedRoots = 50;

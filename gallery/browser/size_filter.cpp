@@ -20,7 +20,7 @@ namespace {
 
 constexpr int kBytesInMegabyte = 1000000;
 
-/// From a byte to a petabyte.
+/// Returns a format for one byte to one petabyte.
 CNumberFormat MegabytesFormat()
 {
     CNumberFormat format = GroupingFormat();

@@ -8,7 +8,7 @@
 /// A part of a window as a screen reader sees it.
 struct Accessible
 {
-    std::string role;  ///< As RoleName() returns it.
+    std::string role;  ///< The name that RoleName() returns.
     std::string name;
     std::string description;
     std::string label;  ///< The text of its label.

@@ -129,7 +129,7 @@ TEST(LoadAuiManagerState, BringsTheWidthOfADraggedPaneBack)
         wxString layout = frame.manager.SavePerspective();
         ASSERT_EQ(layout.Replace("dock_size(4,0,0)=152", "dock_size(4,0,0)=277"), 1u) << layout;
         frame.manager.LoadPerspective(layout);
-        ASSERT_EQ(frame.Pane("tree").rect.width, 275);  // Without its borders.
+        ASSERT_EQ(frame.Pane("tree").rect.width, 275);  // the width without the borders
         wx_window_state::SaveAuiManagerState(&frame.manager, L"Main");
     }
     AuiFrame frame;

@@ -418,7 +418,7 @@ TEST_F(PostedToAWindow, ArrivesInTheLoopOfAModalDialog)
     EXPECT_EQ(last, 5);
 }
 
-// As the Cancel button of a progress window does.
+// Does what the Cancel button of a progress window does.
 TEST_F(PostedToAWindow, MayEndAndDestroyItsWorker)
 {
     std::vector<int> seen;

@@ -90,7 +90,7 @@ inline std::vector<wxTreeCursor> Append(wxTreeCursor parent, const Labels& label
     return items;
 }
 
-/// The labels of the children, as the cursors find them.
+/// Returns the labels of the children that a walk with cursors finds.
 inline Labels ChildrenOf(const wxTreeCursor& parent)
 {
     Labels labels;

@@ -17,7 +17,7 @@ namespace fittings {
 struct TreeStep
 {
     std::size_t level = 0;   ///< 0 for the root.
-    std::size_t number = 1;  ///< Among the siblings with the same label, from 1.
+    std::size_t number = 1;  ///< The position among the siblings with the same label, from 1.
     bool isExpanded = false;
     bool isSelected = false;
     bool isFirstInView = false;

@@ -229,7 +229,7 @@ TEST_P(ColourComboByKeys, IsReachedByTheMnemonicOfItsLabel)
     EXPECT_TRUE(PumpUntil([&] { return before->HasFocus(); }));
     Press('L', wxMOD_ALT);
     EXPECT_TRUE(PumpUntil([&] { return HasFocus(); }));
-    // In this order the toolkit gives the focus to the control itself.
+    // With this order, the toolkit gives the focus to the control itself.
     after->MoveBeforeInTabOrder(before);
     after->SetFocus();
     EXPECT_TRUE(PumpUntil([&] { return after->HasFocus(); }));

@@ -223,7 +223,7 @@ namespace {
 
 constexpr int kUntouched = 0xFF00FF;
 
-// As 0xRRGGBB.
+// Returns the colour of a pixel as 0xRRGGBB.
 int PixelOf(const wxImage& image, int x, int y)
 {
     return image.GetRed(x, y) << 16 | image.GetGreen(x, y) << 8 | image.GetBlue(x, y);

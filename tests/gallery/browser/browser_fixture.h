@@ -51,7 +51,7 @@ protected:
 
     TempUserData settings;
     TempFolder temp;
-    std::string root;  ///< In the browser's spelling.
+    std::string root;  ///< The root folder, as the browser spells its path.
     gallery::GalleryFrame* frame = nullptr;
 };
 

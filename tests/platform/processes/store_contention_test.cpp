@@ -303,7 +303,7 @@ TEST(ALockFileThatCannotBeOpened, LosesNothing)
     Contend(6, 10 * Soak());
 }
 
-// As an editor saves a file: empties it, and fills it a moment later.
+// Saves a file as an editor does: empties it, and fills it a moment later.
 void EditInPlace(const std::string& path, milliseconds pause)
 {
     const std::string text = ReadFile(path);

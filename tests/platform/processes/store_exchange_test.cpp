@@ -49,7 +49,7 @@ class AnExchange : public testing::Test
 protected:
     std::string Now() const { return ReadFile(m_path); }
 
-    // As another process saves: a new file takes the place of the old one.
+    // Saves as another process does: a new file takes the place of the old one.
     void Put(const std::string& text) const
     {
         WriteFile(m_path + ".new", text);

@@ -128,7 +128,7 @@ private:
     const std::string m_text;
     std::deque<std::string> m_names;  ///< Names that do not stand in the text.
     std::deque<Section> m_sections;   ///< Removed ones included. The first has the early keys.
-    std::unordered_map<std::string_view, std::size_t> m_sectionIndices;  ///< Without removed sections.
+    std::unordered_map<std::string_view, std::size_t> m_sectionIndices;  ///< Removed sections are not in it.
     std::vector<Line> m_lines;
     bool m_isSettings = false;
     bool m_isChanged = false;
