@@ -117,7 +117,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     }
 
-    // For large texts only the time matters.
+    // For large texts, check only the time.
     if (typed.size() > kMostChecked || shown.size() > kMostChecked)
         return 0;
 

@@ -169,11 +169,11 @@ protected:
     /// 256 steps.
     wxRect OutlineAt(int elapsed) const;
 
-    wxLongLong m_animStart;    ///< Local time in milliseconds.
-    wxTimer m_animTimer;       ///< Ticks for each step.
+    wxLongLong m_animStart;    ///< When the animation began, in milliseconds of local time.
+    wxTimer m_animTimer;       ///< Ticks once for each step.
     wxRect m_animRect;         ///< Where the popup will be on the screen.
     wxBitmap m_animBitmap;     ///< What the screen showed there.
-    int m_animFlags = 0;       ///< For DoShowPopup().
+    int m_animFlags = 0;       ///< The flags for DoShowPopup().
     int m_animDuration = 200;  ///< Milliseconds.
 
 private:

@@ -17,7 +17,7 @@ inline constexpr int CELL_MORE_COLOURS = -2;  ///< The box "More Colours..." bel
 inline constexpr int CELL_AUTOMATIC = -3;     ///< The box "Automatic" above the palette.
 /// @}
 
-/// The library's names that carry no prefix.
+/// Names of the library that need no prefix.
 namespace fittings {
 
 /// How many colours the palette has.

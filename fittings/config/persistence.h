@@ -62,10 +62,10 @@ public:
 
     /// @name For the persistent objects
     /// @{
-    bool SaveValue(const wxPersistentObject& who, const wxString& name, bool value) override;      ///< Collects it.
-    bool SaveValue(const wxPersistentObject& who, const wxString& name, int value) override;       ///< Collects it.
-    bool SaveValue(const wxPersistentObject& who, const wxString& name, long value) override;      ///< Collects it.
-    bool SaveValue(const wxPersistentObject& who, const wxString& name, wxString value) override;  ///< Collects it.
+    bool SaveValue(const wxPersistentObject& who, const wxString& name, bool value) override;      ///< Saves it later.
+    bool SaveValue(const wxPersistentObject& who, const wxString& name, int value) override;       ///< Saves it later.
+    bool SaveValue(const wxPersistentObject& who, const wxString& name, long value) override;      ///< Saves it later.
+    bool SaveValue(const wxPersistentObject& who, const wxString& name, wxString value) override;  ///< Saves it later.
     /// Returns false if the stored value is neither 0 nor 1.
     bool RestoreValue(const wxPersistentObject& who, const wxString& name, bool* value) override;
     /// Returns false if the stored value is not an int, or not a place or size that a window can have.
@@ -103,7 +103,7 @@ private:
 class FITTINGS_API wxPersistentTreeCtrl : public wxPersistentWindow<wxTreeCtrl>
 {
 public:
-    explicit wxPersistentTreeCtrl(wxTreeCtrl* tree);  ///< For wxCreatePersistentObject().
+    explicit wxPersistentTreeCtrl(wxTreeCtrl* tree);  ///< wxCreatePersistentObject() calls this.
     ~wxPersistentTreeCtrl() override;
 
     void Save() const override;         ///< Stores the state.
@@ -124,7 +124,7 @@ private:
 class FITTINGS_API wxPersistentListCtrl : public wxPersistentWindow<wxListCtrl>
 {
 public:
-    explicit wxPersistentListCtrl(wxListCtrl* list);  ///< For wxCreatePersistentObject().
+    explicit wxPersistentListCtrl(wxListCtrl* list);  ///< wxCreatePersistentObject() calls this.
     ~wxPersistentListCtrl() override;
 
     void Save() const override;         ///< Stores the state.

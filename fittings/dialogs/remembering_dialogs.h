@@ -105,7 +105,7 @@ public:
     int ShowModal() override;
 
 protected:
-    wxString m_entry;  ///< The folder belongs to it.
+    wxString m_entry;  ///< The entry of Create().
 };
 
 #endif

@@ -80,13 +80,13 @@ public:
 
     /// If false, no decimals are accepted, and the decimals of a shown number stay as they are.
     bool m_bHasDecimals = false;
-    std::uint64_t m_nDecimals = 0;      ///< Most decimals.
+    std::uint64_t m_nDecimals = 0;      ///< The largest number of decimals.
     bool m_bHasMaxIntDigits = false;    ///< Whether m_nMaxIntDigits is in force.
-    std::uint64_t m_nMaxIntDigits = 0;  ///< Most digits before the decimal point; the sign does not count.
+    std::uint64_t m_nMaxIntDigits = 0;  ///< The largest number of digits before the point; the sign does not count.
     bool m_bHasMin = false;             ///< Whether m_dMin is in force.
-    double m_dMin = 0;                  ///< Lowest accepted value; NaN accepts every value.
+    double m_dMin = 0;                  ///< The lowest accepted value; NaN accepts every value.
     bool m_bHasMax = false;             ///< Whether m_dMax is in force.
-    double m_dMax = 0;                  ///< Highest accepted value; NaN accepts every value.
+    double m_dMax = 0;                  ///< The highest accepted value; NaN accepts every value.
     /// @}
 };
 

@@ -11,9 +11,9 @@
 class FITTINGS_API wxGenericTreeItemData : public wxTreeItemData
 {
 public:
-    explicit wxGenericTreeItemData(int value) : m_value(value) {}  ///< Keeps the integer.
+    explicit wxGenericTreeItemData(int value) : m_value(value) {}  ///< Stores the integer.
 
-    /// The integer.
+    /// Returns the integer.
     int GetValue() const { return m_value; }
 
 private:

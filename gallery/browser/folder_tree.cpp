@@ -129,7 +129,7 @@ bool FolderTree::SelectSubfolder(const std::string& name)
     const wxTreeItemId selected = GetSelection().item;
     wxTreeItemId subfolder = FindSubfolder(selected, name);
     if (!subfolder.IsOk()) {
-        Refill(selected);  // it may be new
+        Refill(selected);  // the selected folder may be new
         subfolder = FindSubfolder(selected, name);
     }
     if (!subfolder.IsOk())

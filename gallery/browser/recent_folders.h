@@ -20,7 +20,7 @@ public:
     /// are wxID_FILE1 to wxID_FILE9.
     wxMenu* MakeMenu();
 
-    /// Makes a folder the first one.
+    /// Puts a folder at the beginning of the list.
     void Add(const std::string& path);
 
     /// The folder of a menu item.

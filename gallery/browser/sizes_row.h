@@ -32,7 +32,7 @@ public:
 
     bool IsRunning() const { return m_worker != nullptr; }
 
-    /// The numbers as a text.
+    /// Returns the shown numbers as a text.
     wxString GetText() const;
 
     wxButton* GetButton() const { return m_button; }

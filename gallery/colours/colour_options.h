@@ -21,15 +21,15 @@ struct ColourOptions
     /// @name For a host with a popup of its own class
     /// @{
     int columns = 8;
-    int cellSize = 18;  ///< Pixels; a large margin makes a cell larger.
-    int margin = 2;     ///< Pixels.
+    int cellSize = 18;  ///< In pixels; a large margin makes a cell larger.
+    int margin = 2;     ///< In pixels.
     /// @}
 
     bool readOnly = true;
     bool refresh = false;
     bool centre = true;
     bool animate = true;
-    int duration = 200;  ///< Milliseconds.
+    int duration = 200;  ///< In milliseconds.
 };
 
 /// Makes a combo with a popup of these options that shows @a colour.

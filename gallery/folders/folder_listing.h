@@ -14,11 +14,11 @@ struct Entry
 {
     std::string name;     ///< The bytes, in no particular encoding.
     std::string sortKey;  ///< Sorting by the bytes of the keys gives the order for people.
-    std::string type;     ///< For people: "Folder", "PNG file".
+    std::string type;     ///< The shown type, such as "Folder" or "PNG file".
     std::string target;   ///< Where a link points.
     EntryKind kind = EntryKind::Unknown;
-    bool known = false;         ///< Size and time could be read.
-    bool summed = false;        ///< The size is that of everything in the folder.
+    bool known = false;         ///< True if size and time could be read.
+    bool summed = false;        ///< True if the size includes everything in the folder.
     std::uint64_t size = 0;     ///< In bytes, for a file or a summed folder; otherwise 0.
     std::int64_t modified = 0;  ///< Seconds since the epoch.
 

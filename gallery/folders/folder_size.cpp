@@ -43,7 +43,7 @@ struct Pending
 struct Level
 {
     Folder folder;  ///< Null while it is closed to save descriptors.
-    FileId id{};    ///< Set when it is closed.
+    FileId id{};    ///< Identifies the folder while it is closed.
     std::vector<Pending> subfolders;
     std::size_t next = 0;
     double start = 0;  ///< Its share of the whole.

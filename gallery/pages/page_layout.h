@@ -12,10 +12,10 @@ namespace gallery {
 
 /// @name Distances in a page, in device-independent pixels
 /// @{
-constexpr int kMargin = 18;        ///< Around a page.
-constexpr int kColumnGap = 24;     ///< Beside and below a column.
+constexpr int kMargin = 18;        ///< The space around a page.
+constexpr int kColumnGap = 24;     ///< The space beside and below a column.
 constexpr int kColumnWidth = 260;  ///< The least width of the first column.
-constexpr int kGap = 6;            ///< Between related controls.
+constexpr int kGap = 6;            ///< The space between related controls.
 /// @}
 
 /// Makes a heading: a label in bold. @a text is the toolkit's markup; a mnemonic leads to the control that is made

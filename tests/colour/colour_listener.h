@@ -23,7 +23,7 @@ public:
     /// Returns the calls since the last Take().
     ColourCalls Take() { return std::exchange(m_calls, {}); }
 
-    std::function<void(const std::string& call)> during;  ///< Called within each call, with its record.
+    std::function<void(const std::string& call)> during;  ///< Called during each call of the listener, with its record.
 
 private:
     void Note(std::string call, const wxColour* colour = nullptr)

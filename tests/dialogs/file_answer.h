@@ -24,7 +24,7 @@ struct AskedFile
     wxString name;
 
     int filterIndex = -1;         // none without a wildcard
-    std::vector<int> filtersSet;  // by SetFilterIndex() once it was made
+    std::vector<int> filtersSet;  // by SetFilterIndex() after the dialog was made
     wxString shownFolder;
     std::vector<int> centred;
 };

@@ -92,7 +92,7 @@ TEST(SaveDialog, IsNotAffectedByTheExtensionAndFilterThatAreKept)
     CQVFileDialogI::SetFileFilter(L"");
 }
 
-// The toolkit asserts on it more than once.
+// The toolkit asserts more than once on such a wildcard.
 TEST(SaveDialog, BearsAWildcardThatIsCutShort)
 {
     const ExpectAssertions assertions;

@@ -17,8 +17,8 @@ struct NotingPlatform
     bool loads = true;
     bool saves = true;
     std::wstring stored = L"stored";  ///< The text that every read returns; ASCII.
-    int files = 0;                    ///< File objects alive.
-    int batches = 0;                  ///< Batches alive.
+    int files = 0;                    ///< The number of existing file objects.
+    int batches = 0;                  ///< The number of existing batches.
     int savesWithoutBatch = 0;        ///< Writes to the default store that were saved immediately.
 };
 

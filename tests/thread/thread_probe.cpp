@@ -23,7 +23,7 @@ std::atomic<long> g_allocations{0};
 
 }  // namespace
 
-// The toolkit allocates by these too.
+// The toolkit uses these operators too.
 void* operator new(size_t size)
 {
     void* memory = std::malloc(size > 0 ? size : 1);

@@ -52,7 +52,7 @@ private:
     struct Level
     {
         wxTreeItemId item;
-        bool isKnown;  // the children are in the map
+        bool isKnown;  // true if the map has the children
         std::unordered_map<std::wstring, std::vector<wxTreeItemId>> children;
     };
 

@@ -43,7 +43,7 @@ private:
 
     const std::function<void()> m_atEnd;
     std::optional<wxRect> m_normal;
-    bool m_wasMaximized = false;  // when it was hidden
+    bool m_wasMaximized = false;  // The state when it was hidden.
     std::weak_ptr<WindowRecord> m_self;
 };
 

@@ -16,7 +16,7 @@ namespace {
 
 constexpr wchar_t kKind[] = L"Tree";
 
-/// A frame with a tree alone.
+/// A frame that contains only a tree.
 class TreeFrame
 {
 public:

@@ -176,7 +176,7 @@ TEST(SumFolder, CountsWhatCannotBeRead)
     Notes notes;
     const FolderSum sum = SumFolder(folder.Path(), notes);
     EXPECT_EQ(sum.unreadable, 2u);
-    EXPECT_EQ(sum.items, 5u);  // of "in" only the name
+    EXPECT_EQ(sum.items, 5u);  // "in" has a name but no size
     EXPECT_EQ(sum.bytes, 5 + OwnSize(folder.Path()) + OwnSize(folder / "closed") + OwnSize(folder / "names-only"));
     EXPECT_EQ(notes.subfolders["closed"].unreadable, 1u);
     EXPECT_EQ(notes.subfolders["names-only"].unreadable, 1u);

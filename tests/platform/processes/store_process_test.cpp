@@ -316,7 +316,7 @@ TEST(AChangeInPlace, IsSeenWhenItsTimeIsPutBack)
     WriteFile(path, "[s]\nk=1\n");
     struct stat info;
     ASSERT_EQ(stat(path.c_str(), &info), 0);
-    std::this_thread::sleep_for(std::chrono::milliseconds(30));  // past the timestamp's resolution
+    std::this_thread::sleep_for(std::chrono::milliseconds(30));  // later than the timestamp can resolve
     EXPECT_EQ(Stored(L"s", L"k"), L"1");
     WriteFile(path, "[s]\nk=2\n");
     const timespec times[] = {info.st_atim, info.st_mtim};

@@ -132,8 +132,8 @@ PlaceResult StagedFile::Rename(unsigned int flags)
     case EEXIST:
     case ENOENT:
         return PlaceResult::NotAsExpected;
-    case EINVAL:  // the file system
-    case ENOSYS:  // the kernel, or a sandbox
+    case EINVAL:  // the file system cannot do it
+    case ENOSYS:  // the kernel or a sandbox does not allow it
     case EPERM:
         return flags ? PlaceResult::Unsupported : PlaceResult::Failed;
     default:

@@ -21,7 +21,7 @@ struct IniLine
 {
     IniLineKind kind;
     std::size_t begin;
-    std::size_t end;   ///< Before the line end.
+    std::size_t end;   ///< The place of the line end.
     std::size_t next;  ///< Where the next line begins.
     std::string_view name;
     bool isPlainName;   ///< True if the name is certainly as EncodeName() writes it.

@@ -104,7 +104,7 @@ private:
     {
         std::size_t begin;
         std::size_t value;
-        std::size_t end;   ///< Before the line end.
+        std::size_t end;   ///< The place of the line end.
         std::size_t next;  ///< Where the next line begins.
         std::size_t section;
         std::size_t entry;  ///< kNone: the line of the section itself.
@@ -126,7 +126,7 @@ private:
     const char* LineEnd() const;
 
     const std::string m_text;
-    std::deque<std::string> m_names;  ///< Names that do not stand in the text.
+    std::deque<std::string> m_names;  ///< Names that are not in the text.
     std::deque<Section> m_sections;   ///< Removed ones included. The first has the early keys.
     std::unordered_map<std::string_view, std::size_t> m_sectionIndices;  ///< Removed sections are not in it.
     std::vector<Line> m_lines;
