@@ -99,7 +99,7 @@ void CheckLoading(const std::wstring& layout)
     PanesFrame frame;
     const wxString before = frame.manager.SavePerspective();
     if (!wx_window_state::LoadAuiManagerState(&frame.manager, L"panes"))
-        Check(frame.manager.SavePerspective() == before, "the manager is left alone");
+        Check(frame.manager.SavePerspective() == before, "the manager is unchanged");
 }
 
 }  // namespace
@@ -124,7 +124,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const bool isReadBack = !HasDelimiterInText(written);
     const AssertionsAllowed allowed(!isReadBack);
     PanesFrame other;
-    Check(wx_window_state::LoadAuiManagerState(&other.manager, L"panes"), "what the toolkit writes is loaded");
+    Check(wx_window_state::LoadAuiManagerState(&other.manager, L"panes"), "a layout of the toolkit is loaded");
     const std::wstring damaged = Damage(written, bytes);
     if (!HasDelimiterInText(damaged))
         CheckLoading(damaged);

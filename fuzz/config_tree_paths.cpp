@@ -45,7 +45,7 @@ std::vector<std::wstring> Marked(const std::wstring& text)
     std::vector<std::wstring> marked;
     std::vector<std::wstring> path;
     const auto steps = fittings::FromText(text);
-    Check(steps.has_value(), "what is saved can be read");
+    Check(steps.has_value(), "a saved text can be read");
     for (fittings::TreeStep step : *steps) {
         const std::wstring marks = std::wstring(step.isExpanded ? L"+" : L"") + (step.isSelected ? L"*" : L"");
         step.isExpanded = step.isSelected = step.isFirstInView = false;
@@ -61,7 +61,7 @@ std::vector<std::wstring> Marked(const std::wstring& text)
 /// rejected.
 std::wstring SavedAfterRestoring(const std::wstring& text, const std::vector<Item>& items, long style, bool& isRestored)
 {
-    Check(CLocalRegStore::WriteString("Persistent_Options/Tree/tree", "Items", text), "it can be stored");
+    Check(CLocalRegStore::WriteString("Persistent_Options/Tree/tree", "Items", text), "the text can be stored");
     {
         wxFrame frame(nullptr, wxID_ANY, "fuzz");
         auto* const tree = new wxTreeCtrl(&frame, wxID_ANY, wxDefaultPosition, wxDefaultSize, style);
@@ -71,10 +71,10 @@ std::wstring SavedAfterRestoring(const std::wstring& text, const std::vector<Ite
         isRestored = wxPersistentRegisterAndRestore(tree, "tree");
         if (!isRestored) {
             for (const wxTreeItemId& item : made)
-                Check(!tree->IsExpanded(item) || (style & wxTR_HIDE_ROOT) != 0, "what counts as none changes nothing");
+                Check(!tree->IsExpanded(item) || (style & wxTR_HIDE_ROOT) != 0, "a rejected text changes nothing");
         }
     }
-    Check(wxStorePersistenceManager::Install().Flush(), "it is saved");
+    Check(wxStorePersistenceManager::Install().Flush(), "the state is saved");
     return CLocalRegStore::GetString(L"Persistent_Options/Tree/tree", L"Items", L"(none)");
 }
 
@@ -92,13 +92,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto steps = fittings::FromText(text);
     if (steps) {
         const auto again = fittings::FromText(fittings::ToText(*steps));
-        Check(again && fittings::ToText(*again) == fittings::ToText(*steps), "what is written is read as it was");
+        Check(again && fittings::ToText(*again) == fittings::ToText(*steps), "a written text is read back unchanged");
     }
 
     bool isRestored = false;
     const std::wstring saved = SavedAfterRestoring(text, items, style, isRestored);
-    Check(isRestored == steps.has_value(), "a text that is none restores nothing");
-    Check(Marked(SavedAfterRestoring(saved, items, style, isRestored)) == Marked(saved), "the state comes back");
-    Check(isRestored, "what was saved is restored");
+    Check(isRestored == steps.has_value(), "only a valid text is restored");
+    Check(Marked(SavedAfterRestoring(saved, items, style, isRestored)) == Marked(saved), "the state is restored");
+    Check(isRestored, "a saved text is restored");
     return 0;
 }

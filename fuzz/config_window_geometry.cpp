@@ -20,7 +20,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     FuzzedDataProvider bytes(data, size);
     const bool isMaximized = bytes.ConsumeBool();
     const std::wstring text = ConsumeWideText(bytes);
-    Check(CLocalRegStore::WriteString(L"wxWindowState", L"window", text.c_str()), "it can be stored");
+    Check(CLocalRegStore::WriteString(L"wxWindowState", L"window", text.c_str()), "the text can be stored");
     CLocalRegStore::WriteProfileBool(L"wxWindowMaximize", L"window", isMaximized);
 
     wxFrame frame(nullptr, wxID_ANY, "fuzz", wxPoint(100, 100), wxSize(300, 200));
@@ -31,17 +31,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     int fields[4] = {};
     const bool isGeometry =
         std::swscanf(text.c_str(), L"%d;%d;%d;%d", &fields[0], &fields[1], &fields[2], &fields[3]) == 4;
-    Check(isLoaded == isGeometry, "four numbers are loaded, and nothing else is");
+    Check(isLoaded == isGeometry, "only four numbers are loaded");
     if (!isLoaded)
-        Check(after == before, "the window stays as it is");
+        Check(after == before, "the window is unchanged");
     else
-        Check(wxDisplay(0U).GetClientArea().Contains(after), "the window can be seen whole");
+        Check(wxDisplay(0U).GetClientArea().Contains(after), "the whole window is visible");
 
     wx_window_state::SaveState(static_cast<wxWindow*>(&frame), L"window");
     frame.SetSize(before);
-    Check(wx_window_state::LoadState(static_cast<wxWindow*>(&frame), L"window"), "what was saved is loaded");
+    Check(wx_window_state::LoadState(static_cast<wxWindow*>(&frame), L"window"), "a saved geometry is loaded");
     // The visible part of a small window may be too small to be restored.
     if (after.width > 10 && after.height > 10)
-        Check(frame.GetRect() == after, "the window comes back where it was");
+        Check(frame.GetRect() == after, "the window is restored to its place");
     return 0;
 }

@@ -55,7 +55,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Check(CLocalRegStore::GetString("LastFiles", "fuzz", "(none)") == "(none)", "nothing is remembered");
 
     if (wildcard.empty() && !extension.empty())
-        Check(cancel.wildcard == L"*." + extension, "an extension alone is the wildcard");
+        Check(cancel.wildcard == L"*." + extension, "without a wildcard, the extension is used");
     int expected = 0;
     if (!extension.empty() && wildcard.find(L'|') != wildcard.npos) {
         wxArrayString descriptions;

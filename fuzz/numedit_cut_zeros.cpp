@@ -39,18 +39,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const NumberInput input(data, size);
     const wchar_t point = input.format.m_chDecimalPoint;
     const std::wstring cut = Cut(input.text, input.format);
-    Check(!cut.empty(), "something is left");
-    Check(cut.size() <= input.text.size() + 1, "at most a zero is added");
-    Check(Rest(cut, point) == Rest(input.text, point), "only blanks, zeros and points go");
+    Check(!cut.empty(), "the result is not empty");
+    Check(cut.size() <= input.text.size() + 1, "at most one zero is added");
+    Check(Rest(cut, point) == Rest(input.text, point), "only blanks, zeros and points are removed");
 
     const std::wstring number = WithoutBlanks(input.text);
     NumberShape shape{point};
     shape.exponentWithoutLetter = false;
     if (!IsPlainPoint(point) || !HasShape(number, shape))
         return 0;
-    Check(Cut(cut, input.format) == cut, "what was cut is not cut again");
-    Check(!HasNeedlessZero(cut), "no needless zero is left in front");
+    Check(Cut(cut, input.format) == cut, "a second call changes nothing");
+    Check(!HasNeedlessZero(cut), "no unnecessary zero is left in front");
     if (point == input.localePoint)
-        Check(ValueOf(cut) == ValueOf(number), "the value stays");
+        Check(ValueOf(cut) == ValueOf(number), "the value is unchanged");
     return 0;
 }

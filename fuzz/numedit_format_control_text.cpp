@@ -53,7 +53,7 @@ void CheckMinus(const std::wstring& typed, const CNumberFormat& format, const st
         shown = L"-" + shown.erase(minus, 1);
     }
     if (format.m_chDecimalPoint != L'-')
-        Check(shown == bare, "a trailing minus is the leading one in another place");
+        Check(shown == bare, "a trailing minus is the leading minus, moved");
 }
 
 void CheckTemplate(const std::wstring& typed, const CNumberFormat& format, const std::wstring& bare)
@@ -83,19 +83,19 @@ void CheckNumber(const std::wstring& number, const NumberInput& input, const std
     const std::size_t shownDecimals = DecimalsOf(bare, format.m_chDecimalPoint);
 
     if (isRounded)
-        Check(shownDecimals <= decimals, "a rounded number has no more decimals than asked for");
+        Check(shownDecimals <= decimals, "a rounded number has at most the given decimals");
     if (isPadded && !hasExponent)
         Check(shownDecimals >= std::min<std::uint64_t>(decimals, 1'000'000), "a padded number has all its decimals");
     // Removing the plus sign exposes the zeros after it. A rounded number may end in zeros.
     if (number[0] != L'+' && (!isRounded || (isPadded && !hasExponent)))
-        Check(Show(bare, Bare(format)) == bare, "what is shown is shown again as it is");
+        Check(Show(bare, Bare(format)) == bare, "a second call changes nothing");
 
     if (format.m_chDecimalPoint != input.localePoint)
         return;
     const double value = std::fabs(ValueOf(number));
     const double shownValue = std::fabs(ValueOf(bare));
     if (!isRounded) {
-        Check(shownValue == value, "the value stays");
+        Check(shownValue == value, "the value is unchanged");
     } else if (!hasExponent && value < 1e12) {
         const double half = 0.5 * std::pow(10.0, -static_cast<double>(decimals));
         const double tolerance = 1e-12 * std::fmax(value, 1);
@@ -113,7 +113,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const wchar_t point = format.m_chDecimalPoint;
     const std::wstring shown = Show(typed, format);
     if (typed.empty()) {
-        Check(shown.empty(), "nothing is shown as nothing");
+        Check(shown.empty(), "an empty text stays empty");
         return 0;
     }
 

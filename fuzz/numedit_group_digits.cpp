@@ -19,11 +19,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (separator == 0 || input.text.find(L'\0') != std::wstring::npos)
         return 0;
     const std::size_t separators = integer == 0 ? 0 : (integer - 1) / 3;
-    Check(grouped.size() == input.text.size() + separators, "a separator for each three characters");
-    Check(grouped.compare(integer + separators, std::wstring::npos, input.text, integer) == 0, "the fraction stays");
+    Check(grouped.size() == input.text.size() + separators, "there is a separator for every three characters");
+    Check(grouped.compare(integer + separators, std::wstring::npos, input.text, integer) == 0,
+          "the fraction is unchanged");
     for (std::size_t back = 1; back <= separators; ++back)
-        Check(grouped[integer + separators - 4 * back] == separator, "separators count from the point");
+        Check(grouped[integer + separators - 4 * back] == separator, "separators are counted from the point");
     if (input.text.find(separator) == std::wstring::npos)
-        Check(Without(grouped, separator) == input.text, "without the separators it is the text again");
+        Check(Without(grouped, separator) == input.text, "without the separators the text is unchanged");
     return 0;
 }

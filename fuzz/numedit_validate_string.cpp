@@ -41,6 +41,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::replace(typed.begin(), typed.end(), input.format.m_chDecimalPoint, input.localePoint);
     const bool hasShape = HasShape(typed, ShapeOf(input.format, input.localePoint));
     const bool expected = hasShape && IsWithinBounds(ValueOf(typed), input.format);
-    Check(isValid == expected, "what the grammar and the bounds accept is accepted, and nothing else");
+    Check(isValid == expected, "exactly what the grammar and the bounds accept is valid");
     return 0;
 }

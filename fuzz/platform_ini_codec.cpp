@@ -41,22 +41,23 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     file.erase(std::remove(file.begin(), file.end(), '\0'), file.end());
 
     const std::string name = fittings::EncodeName(text);
-    Check(IsOneLine(name) && !name.empty() && name.find_first_of("[]=") == name.npos, "a name is one in a file, too");
-    Check(fittings::DecodeName(name) == text, "a name comes back");
+    Check(IsOneLine(name) && !name.empty() && name.find_first_of("[]=") == name.npos,
+          "an encoded name is a name in a file");
+    Check(fittings::DecodeName(name) == text, "a name is read back");
     Check((fittings::EncodeName(other) == name) == (other == text), "different texts have different names");
 
     const std::string value = fittings::EncodeValue(text);
-    Check(IsOneLine(value), "a value keeps to its line");
-    Check(fittings::DecodeValue(value) == text, "a value comes back");
-    Check(fittings::DecodesTo(value, text), "a value is known again");
-    Check(fittings::DecodesTo(value, other) == (other == text), "and taken for no other");
+    Check(IsOneLine(value), "an encoded value is one line");
+    Check(fittings::DecodeValue(value) == text, "a value is read back");
+    Check(fittings::DecodesTo(value, text), "a value is recognised");
+    Check(fittings::DecodesTo(value, other) == (other == text), "no other value is recognised");
 
-    Check(fittings::WideToNarrow(fittings::NarrowToWide(file)) == file, "every byte comes back");
+    Check(fittings::WideToNarrow(fittings::NarrowToWide(file)) == file, "every byte is read back");
     const std::wstring decoded = fittings::DecodeValue(file);
-    Check(fittings::DecodeValue(fittings::EncodeValue(decoded)) == decoded, "what anybody wrote can be written again");
-    Check(fittings::DecodesTo(file, decoded), "and is known");
-    Check(fittings::DecodesTo(file, text) == (decoded == text), "but taken for nothing else");
+    Check(fittings::DecodeValue(fittings::EncodeValue(decoded)) == decoded, "a decoded value can be encoded");
+    Check(fittings::DecodesTo(file, decoded), "a value in a file is recognised");
+    Check(fittings::DecodesTo(file, text) == (decoded == text), "no other value in a file is recognised");
     const std::wstring decodedName = fittings::DecodeName(file);
-    Check(fittings::DecodeName(fittings::EncodeName(decodedName)) == decodedName, "and so can a name");
+    Check(fittings::DecodeName(fittings::EncodeName(decodedName)) == decodedName, "a decoded name can be encoded");
     return 0;
 }

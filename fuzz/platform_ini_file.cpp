@@ -126,24 +126,24 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const Ini ini = NewIni();
     const bool isLoaded = CLocalRegStore::Load(*ini, file.widePath.c_str());
     if (isLoaded) {
-        Check(CLocalRegStore::Save(*ini, saved.widePath.c_str()), "it can be saved");
-        Check(saved.Bytes() == content, "a file that was not changed is saved as it was");
+        Check(CLocalRegStore::Save(*ini, saved.widePath.c_str()), "the file can be saved");
+        Check(saved.Bytes() == content, "an unchanged file keeps its bytes");
     }
 
     const std::wstring otherValue = Get(ini, other);
     CLocalRegStore::WriteString(*ini, set.section.c_str(), set.key.c_str(), value.c_str());
-    Check(Get(ini, set) == value, "a value that was set is there");
-    Check(set == other || Get(ini, other) == otherValue, "another value stays");
-    Check(HasName(ini, set), "a key that was set is named");
-    Check(HasName(ini, other) == (Get(ini, other) != kAbsent), "a key is named where it has a value");
+    Check(Get(ini, set) == value, "a set value is returned");
+    Check(set == other || Get(ini, other) == otherValue, "another value is unchanged");
+    Check(HasName(ini, set), "a set key is listed");
+    Check(HasName(ini, other) == (Get(ini, other) != kAbsent), "exactly the keys with a value are listed");
 
-    Check(CLocalRegStore::Save(*ini, saved.widePath.c_str()), "what was changed can be saved");
+    Check(CLocalRegStore::Save(*ini, saved.widePath.c_str()), "a changed file can be saved");
     const Ini again = NewIni();
-    Check(CLocalRegStore::Load(*again, saved.widePath.c_str()), "what was saved can be loaded");
-    Check(Get(again, set) == value, "a value that was set comes back");
-    Check(set == other || Get(again, other) == otherValue, "another value comes back");
+    Check(CLocalRegStore::Load(*again, saved.widePath.c_str()), "a saved file can be loaded");
+    Check(Get(again, set) == value, "a set value is read back");
+    Check(set == other || Get(again, other) == otherValue, "another value is read back");
 
-    Check(CLocalRegStore::DeleteKey(*again, set.section.c_str(), set.key.c_str()), "it was there");
-    Check(!HasName(again, set) && Get(again, set) == kAbsent, "a key that was deleted is gone");
+    Check(CLocalRegStore::DeleteKey(*again, set.section.c_str(), set.key.c_str()), "the key to delete exists");
+    Check(!HasName(again, set) && Get(again, set) == kAbsent, "a deleted key does not exist");
     return 0;
 }

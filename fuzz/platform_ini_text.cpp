@@ -64,14 +64,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (!file)
         return 0;
     const fittings::IniText text(bytes);
-    Check(text.IsSettings(), "what GKeyFile reads holds settings");
+    Check(text.IsSettings(), "a text with settings for GKeyFile has settings");
     for (const std::string& section : Taken(g_key_file_get_groups(file.get(), nullptr))) {
         if (!IsOwnName(section))
             continue;
-        Check(text.HasSection(section), "a section is there");
+        Check(text.HasSection(section), "the section exists");
         for (const std::string& key : Taken(g_key_file_get_keys(file.get(), section.c_str(), nullptr, nullptr))) {
             if (IsOwnName(key))
-                Check(text.Find(section, key) == ValueOf(file, section, key), "a value is the same");
+                Check(text.Find(section, key) == ValueOf(file, section, key), "the value is the same");
         }
     }
     for (const std::string_view section : text.Sections()) {
@@ -79,7 +79,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             continue;
         for (const auto& [key, value] : text.Keys(section)) {
             const auto expected = ValueOf(file, std::string(section), std::string(key));
-            Check(!expected || *expected == value, "a value is GKeyFile's");
+            Check(!expected || *expected == value, "the value is that of GKeyFile");
         }
     }
     return 0;

@@ -64,7 +64,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Fill(*tree, bytes);
     const std::wstring text = ConsumeWideText(bytes);
     const std::set<std::wstring> stored = LabelsIn(text);
-    Check(CLocalRegStore::WriteString(L"TreeControlState", L"tree", text.c_str()), "it can be stored");
+    Check(CLocalRegStore::WriteString(L"TreeControlState", L"tree", text.c_str()), "the text can be stored");
 
     wxTreeCursor root(tree, tree->GetRootItem());
     tree->LoadState("tree", root);
@@ -72,7 +72,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     ForEach(*tree, root.item, [&](const wxTreeItemId& item) {
         const std::wstring label = tree->GetItemText(item).ToStdWstring();
         const bool isExpanded = tree->IsExpanded(item);
-        Check(isExpanded == (stored.count(label) != 0 && tree->ItemHasChildren(item)), "what is named is expanded");
+        Check(isExpanded == (stored.count(label) != 0 && tree->ItemHasChildren(item)),
+              "exactly the named items are expanded");
         last[label] = isExpanded;
     });
 

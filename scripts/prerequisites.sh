@@ -54,7 +54,7 @@ install_missing() {
   [ "${#missing[@]}" -gt 0 ] || return 0
 
   if ! command -v apt-get >/dev/null; then
-    echo "There is no apt-get here: should the build fail, install by hand what provides ${missing[*]}" >&2
+    echo "There is no apt-get here. If the build fails, install what provides these packages: ${missing[*]}" >&2
     return 0
   fi
   if [ "$(id -u)" -ne 0 ] && ! command -v sudo >/dev/null; then

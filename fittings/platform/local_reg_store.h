@@ -23,7 +23,7 @@ struct SettingsChange
 {
     std::wstring section;               ///< Any text without a null character, like the key and the value.
     std::wstring key;                   ///< The key of the value.
-    std::optional<std::wstring> value;  ///< No value removes the key.
+    std::optional<std::wstring> value;  ///< Without a value, the key is removed.
 
     /// Changes the section itself and ignores the key. With a value, the section is made, even without keys. Without a
     /// value, the section is removed, unless it still has a key after all changes of keys.

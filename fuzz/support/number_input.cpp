@@ -36,7 +36,7 @@ wchar_t UseLocale(std::size_t index)
 {
     static const auto load = [](const char* name, wchar_t point) {
         setenv("LOCPATH", TEST_LOCALES, 1);
-        Check(std::setlocale(LC_ALL, name) != nullptr, "the locale is there");
+        Check(std::setlocale(LC_ALL, name) != nullptr, "the locale exists");
         return NumberLocale{duplocale(LC_GLOBAL_LOCALE), point};
     };
     static const NumberLocale locales[kLocales] = {load("C", L'.'), load("C.UTF-8", L'.'), load("de_DE.UTF-8", L','),

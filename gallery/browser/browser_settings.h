@@ -33,7 +33,7 @@ void SaveSelectedFolder(const std::string& root, const std::string& path);
 wxColour LoadFolderColour(const std::string& path);
 void SaveFolderColour(const std::string& path, const wxColour& colour);
 
-/// The smallest size listed, as SizeFilter takes it; empty when there is none.
+/// The smallest size that is listed, as a text for SizeFilter; empty when there is none.
 wxString LoadMinimumSize();
 void SaveMinimumSize(const wxString& megabytes);
 

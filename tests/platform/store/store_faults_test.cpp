@@ -56,7 +56,8 @@ bool Under(const Fault& fault, const std::function<bool()>& work)
     return work();
 }
 
-// Only the earlier files, the store's lock, and files that could not be removed; a later save removes those.
+// The folder may only have the earlier files, the store's lock, and files that could not be removed. A later save
+// removes the latter.
 void ExpectNoStrangers(const TempFolder& folder, const std::string& file)
 {
     int leftovers = 0;
