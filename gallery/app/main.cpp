@@ -35,7 +35,7 @@ struct CommandLine
     bool good = true;
 };
 
-/// Arguments stay bytes, because a folder's name need not be valid text.
+/// Keeps the bytes of the arguments, because a folder's name need not be valid text.
 CommandLine Parse(int count, char** arguments)
 {
     CommandLine line;

@@ -58,7 +58,7 @@ TEST(StdStr, TakesTheTextOfAPointer)
     EXPECT_EQ(text, L"second");
 }
 
-// Long enough that the text is not kept inside the object itself.
+// The text is too long to be kept inside the object itself.
 TEST(StdStr, SurvivesAssignmentFromItsOwnBuffer)
 {
     Text text(L"0123456789012345678901234567890123456789");

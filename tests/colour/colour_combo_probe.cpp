@@ -3,13 +3,13 @@
 //
 //   display x11|wayland
 //   combo X Y WIDTH HEIGHT     in the frame's client area
-//   frame X Y WIDTH HEIGHT     its client area on the screen, where the display tells
+//   frame X Y WIDTH HEIGHT     its client area on the screen, if the display reports it
 //   opens at once|later        the popup is being shown: in the call to open it, or at the end of an animation
 //   cell N X Y                 the middle of that cell, in the popup that is shown now
-//   popup X Y                  the popup is shown; its place on the screen, as the toolkit believes
-//   repaints X Y WIDTH HEIGHT  a part of the popup is to be painted anew
-//   repaints all               all of it is
-//   change|end|cancel #RRGGBB  what the listener hears
+//   popup X Y                  the popup is shown; its place on the screen according to the toolkit
+//   repaints X Y WIDTH HEIGHT  a part of the popup is to be painted again
+//   repaints all               the whole popup is to be painted again
+//   change|end|cancel #RRGGBB  a call of the listener
 //   over combo                 the pointer moves over the combo
 //   dialog ACTIVE FOCUS #RRGGBB  a change of the colour dialog: whether it is active, the type of its focused
 //                              widget, and its colour

@@ -91,7 +91,7 @@ protected:
         return call;
     }
 
-    // A call that uses the remembered file.
+    // Makes the dialog use the remembered file.
     Call CallAgain() const
     {
         Call call;

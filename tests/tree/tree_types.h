@@ -11,7 +11,7 @@
 /// The toolkit's tree control, and the controls of this library that do the same.
 using Trees = testing::Types<wxTreeCtrl, wxTreeCtrlEx, wxHandyTreeCtrl>;
 
-/// The names of the tests with Trees.
+/// Names the tests of each type in Trees.
 struct TreeName
 {
     template <typename Tree>
