@@ -103,7 +103,7 @@ TEST(Posting, ReleasesThePostMutexWhenRefused)
     EXPECT_TRUE(IsFree(worker.ContinueMutex()));
 }
 
-// A stop while the event is being queued does not change the answer for that event; the next post is refused.
+// A stop while an event is being queued does not change the result for that event. The next post is refused.
 TEST(Posting, IsAnsweredByTheFlagAsItWasBefore)
 {
     Interrupted handler;

@@ -122,7 +122,7 @@ TEST(Wait, BlocksUntilThreadLocalObjectsAreDestroyed)
     });
 }
 
-// The toolkit keeps its data of a thread in such values.
+// The toolkit keeps its data of a thread in such a value of a key.
 TEST(Wait, BlocksUntilTheValuesOfKeysAreDestroyed)
 {
     static Signal over;

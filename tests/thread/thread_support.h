@@ -30,7 +30,7 @@ inline wxThread::ExitCode Code(std::intptr_t number)
     return reinterpret_cast<wxThread::ExitCode>(number);  // NOLINT(performance-no-int-to-ptr)
 }
 
-/// Something that happens once, and that another thread waits for.
+/// An event that happens once and that another thread can wait for.
 class Signal
 {
 public:
@@ -86,7 +86,7 @@ inline bool HasEnded(pid_t thread)
     return Becomes([&] { return access(TaskFile(thread, "").c_str(), F_OK) != 0; });
 }
 
-/// A thread of the test's own, joined at its end.
+/// A thread of the test. The destructor waits for its end.
 class Helper
 {
 public:

@@ -321,7 +321,7 @@ TEST(TreesInOtherColoursAndFont, LookLikeTheToolkits)
     }
     EXPECT_GT(sizes[0].y, 25);
     EXPECT_EQ(sizes[1], sizes[0]);
-    // The colour of the control is not the item's.
+    // The cursor does not return the colour of the control.
     EXPECT_EQ(root.GetTextColour(), 0u);
     root.SetTextColour(0x00FF0000);
     EXPECT_EQ(handy.tree->GetItemTextColour(root.item), *wxBLUE);

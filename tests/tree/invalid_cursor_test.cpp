@@ -8,7 +8,7 @@
 
 namespace {
 
-// Both kinds: without an item, and without a tree.
+// The two kinds of invalid cursors: without an item, and without a tree.
 class InvalidCursor : public testing::TestWithParam<bool>
 {
 protected:
