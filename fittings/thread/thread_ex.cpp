@@ -37,9 +37,9 @@ public:
 private:
     // Tells the owner that the thread is over, also after an exception: Wait() must not hang.
     //
-    // The C library first destroys a thread's thread-local objects, as this one, and then the values of its keys, in
-    // rounds. The toolkit's own values go in the first round, so the owner is told in the second: a program that ends
-    // right after Wait() would otherwise shut down the toolkit while the thread still uses it.
+    // The C library first destroys a thread's thread-local objects, such as this one, and then the values of its keys,
+    // in rounds. The toolkit's values are destroyed in the first round, so the owner is told in the second. Otherwise a
+    // program that ends right after Wait() would shut down the toolkit while the thread still uses it.
     struct End
     {
         explicit End(wxThreadEx* threadOwner) : owner(threadOwner) {}
