@@ -38,10 +38,10 @@ class AncestorWatch;
 /// wxPersistentRegisterAndRestoreAll() registers it with everything in it, wxPersistentRegisterAndRestore() registers
 /// it alone.
 ///
-/// A frame or dialog is restored as by wx_window_state::LoadState(): on a display that still exists, within its work
-/// area, and in its place even if it is the first window of the process. A window that was maximised is maximised
-/// again. When the user restores it, it gets the place and size that it had before. The same holds for full screen and
-/// iconised windows. Their states are recorded from wxPersistentRegisterAndRestore() on.
+/// A frame or dialog is restored as by wx_window_state::LoadState(): in its place, on a display that still exists, and
+/// within its work area. A window that was maximised is maximised again. When the user restores it, it gets the place
+/// and size that it had before. The same holds for full screen and iconised windows. Their states are recorded from
+/// wxPersistentRegisterAndRestore() on.
 ///
 /// The values of a window and of the controls in it are collected, and saved together when the window is destroyed. The
 /// values of a control that is destroyed alone are saved on the next turn of the event loop.

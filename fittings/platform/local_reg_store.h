@@ -46,9 +46,8 @@ class CIniFile;
 /// The default store is the file settings.ini in std_file_paths::GetUserDataDir(). All processes of one application
 /// share it. A write reads the file again, changes only its own keys, and is on the disk when it returns true. Writes
 /// by other processes at the same time are kept too. A write waits at most two seconds for another process that is
-/// stuck; a read never waits. On file systems that cannot exchange two files in one step, such as NFS, one of two
-/// writes within the same few microseconds can be lost, but only if the lock file settings.ini.lock cannot be used
-/// either.
+/// stuck; a read never waits. Some file systems, such as NFS, cannot exchange two files in one step. If the lock file
+/// settings.ini.lock cannot be used there either, one of two writes within the same few microseconds can be lost.
 ///
 /// A file of more than 64 MiB or of more than a million lines does not count as a settings file: it is not read. A
 /// write that would make such a file fails.
