@@ -233,8 +233,8 @@ public:
 
     /// Makes the cell under the pointer hot. If there is none, the hot cell does not change.
     ///
-    /// The areas differ from the drawn ones. Those of the boxes lie one margin lower and further right. The palette below
-    /// an "Automatic" box lies one margin higher, so the lowest rows of pixels of a cell belong to the cell below.
+    /// The areas differ from the drawn ones. Those of the boxes lie one margin lower and further right. The palette
+    /// below an "Automatic" box lies one margin higher, so the lowest pixels of a cell belong to the cell below.
     void OnMouseMove(wxMouseEvent& event);
 
     /// Ends the selection. Within the popup, also between cells, the colour of the hot cell is chosen. Outside, the

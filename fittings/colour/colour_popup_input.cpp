@@ -300,8 +300,8 @@ bool wxColourPopup::HideCombo()
     return !life.expired();
 }
 
-// Restores the combo's value, because closing sets it to the name of the hot cell. When the popup opens again, the combo
-// passes its value, and Enter would choose that colour although the user has not chosen it.
+// Restores the combo's value, because closing sets it to the name of the hot cell. When the popup opens again, the
+// combo passes its value, and Enter would choose that colour although the user has not chosen it.
 void wxColourPopup::RestoreValue()
 {
     const std::optional<wxString> kept = std::exchange(m_valueWhenShown, std::nullopt);

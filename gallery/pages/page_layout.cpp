@@ -29,7 +29,7 @@ void OnFocus(GtkWindow*, GtkWidget* part, wxScrolledWindow* page)
 wxStaticText* MakeHeading(wxWindow* parent, const wxString& text)
 {
     auto* heading = new wxStaticText(parent, wxID_ANY, "");
-    // Markup, because a font set on the label is measured too late for the layout.
+    // Use markup: a font that is set on the label is measured too late for the layout.
     heading->SetLabelMarkup("<b>" + text + "</b>");
     BeginAtTheStart(heading);
     return heading;
