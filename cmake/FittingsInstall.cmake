@@ -1,12 +1,6 @@
 # The three installed components: the files that a program needs to run (fittings_runtime), those that a host needs to
-# build (fittings_development), and the gallery (fittings_gallery).
+# build (fittings_development), and the gallery (fittings_gallery). debian/*.install gives the same files to packages.
 include(CMakePackageConfigHelpers)
-
-# gzip_into FILE INPUT: stores no name and no time, so that the same input gives the same file.
-function(gzip_into file input)
-  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${input})
-  execute_process(COMMAND gzip -9nc ${input} OUTPUT_FILE ${file} COMMAND_ERROR_IS_FATAL ANY)
-endfunction()
 
 if(TARGET fittings-gallery)
   file(RELATIVE_PATH to_libraries ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
@@ -19,8 +13,7 @@ if(TARGET fittings-gallery)
   install(FILES gallery/fittings-gallery.metainfo.xml
     DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo RENAME io.github.fittings.gallery.metainfo.xml
     COMPONENT fittings_gallery)
-  gzip_into(${PROJECT_BINARY_DIR}/gallery/fittings-gallery.1.gz ${PROJECT_SOURCE_DIR}/gallery/fittings-gallery.1)
-  install(FILES ${PROJECT_BINARY_DIR}/gallery/fittings-gallery.1.gz
+  install(FILES gallery/fittings-gallery.1
     DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT fittings_gallery)
 endif()
 

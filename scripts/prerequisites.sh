@@ -10,7 +10,7 @@ coverage_packages=(gcovr)
 valgrind_packages=(valgrind libc6-dbg)
 bench_packages=(libbenchmark-dev libicu-dev)
 lint_packages=('clang-format-14|clang-format' 'clang-tidy-14|clang-tidy' cppcheck codespell)
-package_packages=(dpkg-dev lintian appstream desktop-file-utils mmdebstrap)
+package_packages=(build-essential dpkg-dev debhelper lintian appstream desktop-file-utils mmdebstrap)
 fuzz_packages=(clang libclang-rt-dev llvm locales)
 
 as_root() {
