@@ -57,7 +57,7 @@ bool CIniFile::Refresh(const std::string& path, const std::vector<Change>& chang
         return false;
     CIniFile now;
     now.Load(path);
-    // A read does not wait until the file is filled: it keeps the content of a moment ago.
+    // A read does not wait until another program has filled the file: it keeps the earlier content.
     if (isSameStore && now.m_content.IsEmptyForNow() && m_content.result == fittings::ReadResult::Read)
         return false;
     if (isSameStore && now.HasFailed() && HasFailed())
