@@ -56,7 +56,7 @@ private:
 
         static pthread_key_t NewKey()
         {
-            pthread_key_t key = PTHREAD_KEYS_MAX;  // not a key; stays so if the system has no more keys
+            pthread_key_t key = PTHREAD_KEYS_MAX;  // an invalid key, for the case that the system has no more keys
             pthread_key_create(&key, [](void* owner) {
                 static thread_local int round = 0;
                 if (++round < 2)

@@ -19,7 +19,7 @@ enum class SortColumn;
 /// Simulates a person at the mouse and the keyboard by real input events. X11 only; a top-level window must exist.
 namespace simulated_user {
 
-/// Runs the event loop until @a done says so; false when it did not within @a milliseconds.
+/// Runs the event loop until @a done returns true. Returns false when that takes more than @a milliseconds.
 bool WaitUntil(const std::function<bool()>& done, int milliseconds = 30000);
 
 /// @name Input, at points of the screen
