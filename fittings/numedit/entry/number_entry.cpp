@@ -1,6 +1,7 @@
 #include <fittings/numedit/entry/number_entry.h>
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 #include <wx/string.h>
@@ -14,27 +15,6 @@ std::wstring Wide(const char* text, std::size_t length)
     return wxString::FromUTF8(text, length).ToStdWstring();
 }
 
-/// Hides a signal from the toolkit. GTK's own handlers, for example for assistive technologies, are still called.
-class KeptFromToolkit
-{
-public:
-    KeptFromToolkit(GtkEntry* entry, void* toolkit, const char* name)
-        : m_entry(entry), m_toolkit(toolkit), m_signal(g_signal_lookup(name, GTK_TYPE_EDITABLE))
-    {
-        g_signal_handlers_block_matched(m_entry, kMatch, m_signal, 0, nullptr, nullptr, m_toolkit);
-    }
-    ~KeptFromToolkit() { g_signal_handlers_unblock_matched(m_entry, kMatch, m_signal, 0, nullptr, nullptr, m_toolkit); }
-    KeptFromToolkit(const KeptFromToolkit&) = delete;
-    KeptFromToolkit& operator=(const KeptFromToolkit&) = delete;
-
-private:
-    static constexpr auto kMatch = static_cast<GSignalMatchType>(G_SIGNAL_MATCH_ID | G_SIGNAL_MATCH_DATA);
-
-    GtkEntry* m_entry;
-    void* m_toolkit;
-    guint m_signal;
-};
-
 }  // namespace
 
 NumberEntry::NumberEntry(GtkEntry* entry, void* toolkit, Judge judge, std::function<void()> refused)
@@ -42,6 +22,7 @@ NumberEntry::NumberEntry(GtkEntry* entry, void* toolkit, Judge judge, std::funct
 {
     g_signal_connect(m_entry, "insert-text", G_CALLBACK(OnInsert), this);
     g_signal_connect(m_entry, "delete-text", G_CALLBACK(OnDelete), this);
+    g_signal_connect(m_entry, "drag-data-received", G_CALLBACK(OnDropped), this);
 }
 
 NumberEntry::~NumberEntry()
@@ -53,7 +34,7 @@ NumberEntry::~NumberEntry()
 
 int NumberEntry::Filter(const GdkEventKey* key, const std::function<int()>& filter)
 {
-    const Selection selected = Selected();
+    const EntrySelection selected = SelectionOf(m_entry);
     m_filtering = true;
     m_hasRefused = false;
     // The US layout has the first key, the German layout the second.
@@ -61,7 +42,7 @@ int NumberEntry::Filter(const GdkEventKey* key, const std::function<int()>& filt
     const int result = filter();
     m_filtering = m_keypadPoint = false;
     if (m_hasRefused) {
-        Select(selected);
+        Select(m_entry, selected);
     } else if (m_waiting) {
         // No insertion followed: an input method has deleted text around the caret.
         const auto [begin, end] = *m_waiting;
@@ -74,14 +55,14 @@ int NumberEntry::Filter(const GdkEventKey* key, const std::function<int()>& filt
 
 void NumberEntry::Take(const std::wstring& text)
 {
-    const Selection selected = Selected();
+    const EntrySelection selected = SelectionOf(m_entry);
     int position = std::min(selected.anchor, selected.caret);
     m_waiting = std::make_pair(position, std::max(selected.anchor, selected.caret));
     m_hasRefused = false;
     Inserting(text, position);
     m_waiting.reset();
     if (m_hasRefused)
-        Select(selected);
+        Select(m_entry, selected);
     else
         gtk_editable_set_position(GTK_EDITABLE(m_entry), position);
 }
@@ -124,13 +105,43 @@ void NumberEntry::OnDelete(GtkEditable* entry, int begin, int end, NumberEntry* 
     self->Deleting(begin, end);
 }
 
+/// Inserts a dropped text as GTK does. GTK tells the source that each text was taken, and then the source deletes a text
+/// that is moved: so it is told here when the text was refused.
+void NumberEntry::OnDropped(GtkWidget* entry, GdkDragContext* drag, int x, int, GtkSelectionData* data, unsigned,
+                            unsigned time, NumberEntry* self)
+{
+    // A drop target of the program's own lists no targets with GTK.
+    if (!gtk_drag_dest_get_target_list(entry))
+        return;
+    g_signal_stop_emission_by_name(entry, "drag-data-received");
+    const std::unique_ptr<guchar, void (*)(void*)> text(gtk_selection_data_get_text(data), g_free);
+    const bool isTaken = text && gtk_editable_get_editable(GTK_EDITABLE(entry)) != 0 &&
+                         self->Dropped(reinterpret_cast<const char*>(text.get()), x);
+    gtk_drag_finish(drag, isTaken, isTaken && gdk_drag_context_get_selected_action(drag) == GDK_ACTION_MOVE, time);
+}
+
+bool NumberEntry::Dropped(const char* text, int x)
+{
+    const std::wstring dropped = Wide(text, std::char_traits<char>::length(text));
+    const EntrySelection selected = SelectionOf(m_entry);
+    const auto [begin, end] = std::minmax(selected.anchor, selected.caret);
+    int position = PlaceAt(m_entry, x);
+    if (begin != end && position >= begin && position <= end) {
+        Take(dropped);
+    } else {
+        m_hasRefused = false;
+        Inserting(dropped, position);
+    }
+    return !m_hasRefused;
+}
+
 /// Keeps the deleted text until the next input: if an insertion replaces it and is refused, it is restored.
 void NumberEntry::Deleting(int begin, int end)
 {
     const std::wstring text = Text();
     const auto from = std::min(static_cast<std::size_t>(begin), text.size());
-    m_deleted =
-        Deleted{text.substr(from, end < 0 ? text.npos : static_cast<std::size_t>(end - begin)), begin, Selected()};
+    m_deleted = Deleted{text.substr(from, end < 0 ? text.npos : static_cast<std::size_t>(end - begin)), begin,
+                        SelectionOf(m_entry)};
     if (m_source == 0)
         m_source = g_idle_add_full(G_PRIORITY_HIGH, OnSoon, this, nullptr);
 }
@@ -171,7 +182,7 @@ void NumberEntry::PutBack()
     int position = deleted.begin;
     Insert(deleted.text, position);
     // GTK moves the caret after this handler returns, so restore the selection later.
-    Soon([this, selection = deleted.selection] { Select(selection); });
+    Soon([this, selection = deleted.selection] { Select(m_entry, selection); });
 }
 
 /// Deletes without a report to the toolkit: the insertion that follows is reported.
@@ -186,33 +197,15 @@ void NumberEntry::Replace(int begin, int end)
 
 void NumberEntry::Insert(const std::wstring& text, int& position)
 {
-    const std::string utf8 = wxString(text).utf8_string();
     const Free free(this);
     // The toolkit has already reported the character.
-    const KeptFromToolkit silent(m_entry, m_toolkit, "insert-text");
-    gtk_editable_insert_text(GTK_EDITABLE(m_entry), utf8.data(), static_cast<int>(utf8.length()), &position);
+    InsertUntyped(m_entry, m_toolkit, wxString(text).utf8_string(), position);
 }
 
 std::wstring NumberEntry::Text() const
 {
     const char* const text = gtk_entry_get_text(m_entry);
     return Wide(text, std::char_traits<char>::length(text));
-}
-
-NumberEntry::Selection NumberEntry::Selected() const
-{
-    Selection selection;
-    selection.caret = gtk_editable_get_position(GTK_EDITABLE(m_entry));
-    int begin = 0;
-    int end = 0;
-    gtk_editable_get_selection_bounds(GTK_EDITABLE(m_entry), &begin, &end);
-    selection.anchor = begin == end ? selection.caret : (selection.caret == begin ? end : begin);
-    return selection;
-}
-
-void NumberEntry::Select(const Selection& selection)
-{
-    gtk_editable_select_region(GTK_EDITABLE(m_entry), selection.anchor, selection.caret);
 }
 
 }  // namespace fittings

@@ -8,6 +8,8 @@
 
 #include <gtk/gtk.h>
 
+#include <fittings/numedit/entry/entry_text.h>
+
 // Private to the library.
 
 namespace fittings {
@@ -15,8 +17,9 @@ namespace fittings {
 /// Checks what keyboard, input method, clipboard and mouse insert into a GtkEntry, before it is inserted.
 ///
 /// GTK deletes a selection before it inserts the text that replaces it. While a key is being handled, that deletion
-/// waits until the insertion is accepted, so a refused key changes nothing. A text that an input method or a drop
-/// inserts later does not come with a key: there the deleted selection is restored after a refusal.
+/// waits until the insertion is accepted, so a refused key changes nothing. A text that an input method inserts later
+/// does not come with a key: there the deleted selection is restored after a refusal. A text that is dropped on the
+/// selection replaces it only if it is accepted.
 class NumberEntry
 {
 public:
@@ -63,31 +66,26 @@ public:
     void Soon(std::function<void()> action);
 
 private:
-    struct Selection
-    {
-        int anchor = 0;
-        int caret = 0;
-    };
-
     struct Deleted
     {
         std::wstring text;
         int begin = 0;
-        Selection selection;
+        EntrySelection selection;
     };
 
     static void OnInsert(GtkEditable*, const char* text, int length, int* position, NumberEntry* self);
     static void OnDelete(GtkEditable*, int begin, int end, NumberEntry* self);
+    static void OnDropped(GtkWidget*, GdkDragContext* drag, int x, int y, GtkSelectionData* data, unsigned info,
+                          unsigned time, NumberEntry* self);
     static int OnSoon(void* self);
 
     void Inserting(const std::wstring& text, int& position);
     void Deleting(int begin, int end);
+    bool Dropped(const char* text, int x);
     void PutBack();
     void Replace(int begin, int end);
     void Insert(const std::wstring& text, int& position);
     std::wstring Text() const;
-    Selection Selected() const;
-    void Select(const Selection& selection);
 
     GtkEntry* m_entry;
     void* m_toolkit;

@@ -9,21 +9,18 @@
 #include <wx/event.h>
 #include <wx/textctrl.h>
 
+#include <fittings/numedit/entry/entry_text.h>
+
 namespace {
 
-// Offsets in characters, as GTK counts them.
-struct Range
-{
-    int begin;
-    int end;
-};
+using fittings::EntrySelection;
+using fittings::SelectionOf;
 
 struct Deletion
 {
-    Range range;
-    int anchor;
-    int caret;
+    int begin;
     std::string text;  // in UTF-8
+    EntrySelection selection;
 };
 
 /// The text that a control has lost during the present key. Its GtkEntry owns this.
@@ -43,22 +40,10 @@ GtkEntry* EntryOf(const wxTextCtrl& control)
     return GTK_IS_ENTRY(control.GetHandle()) ? GTK_ENTRY(control.GetHandle()) : nullptr;
 }
 
-int AnchorOf(GtkEditable* editable)
-{
-    int begin = 0;
-    int end = 0;
-    const int caret = gtk_editable_get_position(editable);
-    if (!gtk_editable_get_selection_bounds(editable, &begin, &end))
-        return caret;
-    return caret == begin ? end : begin;
-}
-
 void OnDelete(GtkEditable* editable, int begin, int end, Key* key)
 {
     char* const text = gtk_editable_get_chars(editable, begin, end);
-    const auto length = static_cast<int>(g_utf8_strlen(text, -1));
-    key->deletion = std::make_unique<Deletion>(
-        Deletion{{begin, begin + length}, AnchorOf(editable), gtk_editable_get_position(editable), text});
+    key->deletion = std::make_unique<Deletion>(Deletion{begin, text, SelectionOf(GTK_ENTRY(editable))});
     g_free(text);
 }
 
@@ -73,7 +58,7 @@ void OnSelectionEnded(GtkEditable* editable, GParamSpec*, Key* key)
 {
     g_signal_handler_disconnect(editable, std::exchange(key->selecting, 0));
     if (key->deletion)
-        gtk_editable_select_region(editable, key->deletion->anchor, key->deletion->caret);
+        Select(GTK_ENTRY(editable), key->deletion->selection);
 }
 
 // Runs after the key event. By then the toolkit has sent its own event, or was prevented from sending it.
@@ -129,16 +114,9 @@ void fittings::UndoKey(wxTextCtrl& control)
     key->wasModified = control.IsModified();
     const std::unique_ptr<Deletion> lost = std::move(key->deletion);
 
-    // Block the toolkit's handler: it would report the restored text as typed characters.
-    const guint inserting = g_signal_lookup("insert-text", GTK_TYPE_EDITABLE);
-    const auto toolkit = static_cast<GSignalMatchType>(G_SIGNAL_MATCH_ID | G_SIGNAL_MATCH_DATA);
-    auto* const receiver = static_cast<wxTextEntry*>(&control);
-    g_signal_handlers_block_matched(entry, toolkit, inserting, 0, nullptr, nullptr, receiver);
-    int position = lost->range.begin;
-    gtk_editable_insert_text(GTK_EDITABLE(entry), lost->text.data(), static_cast<int>(lost->text.size()), &position);
-    g_signal_handlers_unblock_matched(entry, toolkit, inserting, 0, nullptr, nullptr, receiver);
-
-    gtk_editable_select_region(GTK_EDITABLE(entry), lost->anchor, lost->caret);
+    int position = lost->begin;
+    InsertUntyped(entry, static_cast<wxTextEntry*>(&control), lost->text, position);
+    Select(entry, lost->selection);
     key->deletion = std::make_unique<Deletion>(*lost);
     key->selecting = g_signal_connect(entry, "notify::selection-bound", G_CALLBACK(OnSelectionEnded), key);
 }

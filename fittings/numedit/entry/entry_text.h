@@ -1,0 +1,47 @@
+#ifndef FITTINGS_NUMEDIT_ENTRY_ENTRY_TEXT_H_
+#define FITTINGS_NUMEDIT_ENTRY_ENTRY_TEXT_H_
+
+#include <string>
+
+#include <gtk/gtk.h>
+
+// Private to the library. Offsets are in characters, as GTK counts them.
+
+namespace fittings {
+
+/// The caret and the other end of the selection. They are equal if nothing is selected.
+struct EntrySelection
+{
+    int anchor = 0;
+    int caret = 0;
+};
+
+EntrySelection SelectionOf(GtkEntry* entry);
+void Select(GtkEntry* entry, const EntrySelection& selection);
+
+/// Returns the place in the text that is nearest to a horizontal position in the entry.
+int PlaceAt(GtkEntry* entry, int x);
+
+/// While the object exists, a signal of the entry does not reach the toolkit. GTK's own handlers, for example for
+/// assistive technologies, are still called.
+class KeptFromToolkit
+{
+public:
+    /// @a toolkit is the user data of the toolkit's own signal handlers on the entry.
+    KeptFromToolkit(GtkEntry* entry, void* toolkit, const char* signal);
+    ~KeptFromToolkit();
+    KeptFromToolkit(const KeptFromToolkit&) = delete;
+    KeptFromToolkit& operator=(const KeptFromToolkit&) = delete;
+
+private:
+    GtkEntry* m_entry;
+    void* m_toolkit;
+    guint m_signal;
+};
+
+/// Inserts a text in UTF-8, and moves @a position behind it. The toolkit does not take it for typed characters.
+void InsertUntyped(GtkEntry* entry, void* toolkit, const std::string& text, int& position);
+
+}  // namespace fittings
+
+#endif

@@ -1,0 +1,267 @@
+// The context menu of a wxNumberCtrl, and text that is dropped onto it, with a real mouse.
+
+#include <fittings/numedit/number_ctrl.h>
+
+#include <gtest/gtest.h>
+
+#include <gtk/gtk.h>
+#include <wx/clipbrd.h>
+#include <wx/dataobj.h>
+#include <wx/dnd.h>
+#include <wx/uiaction.h>
+
+#include <tests/numedit/control/number_ctrl_dialog.h>
+#include <tests/support/gui.h>
+#include <tests/support/process/child_process.h>
+
+namespace {
+
+wxPoint MiddleOf(const wxWindow& window)
+{
+    return window.ClientToScreen(wxPoint(window.GetSize().x / 2, window.GetSize().y / 2));
+}
+
+class NumberContextMenu : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        screen.Show();
+        g_signal_connect(screen.number->m_widget, "populate-popup", G_CALLBACK(OnPopup), this);
+        screen.Restart("12345");
+        screen.number->SetSelection(1, 4);
+    }
+
+    /// Opens the menu with the mouse, and chooses the command with this mnemonic.
+    void Choose(char mnemonic)
+    {
+        menu = nullptr;
+        wxUIActionSimulator user;
+        user.MouseMove(MiddleOf(*screen.number));
+        user.MouseClick(wxMOUSE_BTN_RIGHT);
+        ASSERT_TRUE(PumpUntil([&] { return menu && gtk_widget_get_mapped(menu); }));
+        EXPECT_EQ(screen.Text(), L"12345") << "the menu must not take the focus from the number";
+        EXPECT_EQ(screen.Selection(), "234");
+        user.Char(mnemonic);
+        ASSERT_TRUE(PumpUntil([&] { return !menu || !gtk_widget_get_mapped(menu); }));
+        PumpPending();
+    }
+
+    static void OnPopup(GtkEntry*, GtkWidget* menu, NumberContextMenu* self)
+    {
+        self->menu = menu;
+        g_object_add_weak_pointer(G_OBJECT(menu), reinterpret_cast<void**>(&self->menu));
+    }
+
+    void TearDown() override
+    {
+        g_signal_handlers_disconnect_by_data(screen.number->m_widget, this);
+        if (menu)
+            g_object_remove_weak_pointer(G_OBJECT(menu), reinterpret_cast<void**>(&menu));
+        wxClipboardLocker clipboard;
+        wxTheClipboard->Clear();
+    }
+
+    static void Hold(const wxString& text)
+    {
+        wxClipboardLocker clipboard;
+        ASSERT_TRUE(wxTheClipboard->SetData(new wxTextDataObject(text)));
+    }
+
+    static std::string Held()
+    {
+        wxClipboardLocker clipboard;
+        wxTextDataObject text;
+        return wxTheClipboard->GetData(text) ? text.GetText().utf8_string() : std::string();
+    }
+
+    NumberCtrlDialog screen{FixedFormat()};
+    GtkWidget* menu = nullptr;
+};
+
+TEST_F(NumberContextMenu, Cuts)
+{
+    Choose('t');
+    EXPECT_TRUE(PumpUntil([&] { return screen.Text() == L"15"; }));
+    EXPECT_EQ(Held(), "234");
+    EXPECT_EQ(screen.numbers, std::vector<std::string>{"15"});
+}
+
+TEST_F(NumberContextMenu, Copies)
+{
+    Hold("");
+    Choose('c');
+    EXPECT_TRUE(PumpUntil([&] { return Held() == "234"; }));
+    EXPECT_EQ(screen.Text(), L"12345");
+    EXPECT_EQ(screen.textEvents, 0);
+}
+
+TEST_F(NumberContextMenu, Deletes)
+{
+    Choose('d');
+    EXPECT_TRUE(PumpUntil([&] { return screen.Text() == L"15"; }));
+    EXPECT_EQ(screen.BellsRung(), 0);
+}
+
+TEST_F(NumberContextMenu, PastesANumber)
+{
+    Hold(" 67\n");
+    Choose('p');
+    EXPECT_TRUE(PumpUntil([&] { return screen.Text() == L"1675"; })) << screen.Text();
+    EXPECT_EQ(screen.textEvents, 1);
+    EXPECT_EQ(screen.BellsRung(), 0);
+}
+
+TEST_F(NumberContextMenu, RefusesToPasteAnotherText)
+{
+    Hold("6x7");
+    Choose('p');
+    EXPECT_TRUE(PumpUntil([&] { return screen.BellsRung() == 1; }));
+    EXPECT_EQ(screen.Text(), L"12345");
+    EXPECT_EQ(screen.Selection(), "234");
+    EXPECT_EQ(screen.textEvents, 0);
+}
+
+/// Drags a selected text with the mouse.
+class NumberDrop : public testing::Test
+{
+protected:
+    void SetUp() override { screen.Show(); }
+
+    /// Drags from a field whose text is selected to another place on the screen.
+    void Drag(wxTextCtrl& from, const wxPoint& grip, const wxPoint& to, bool moves)
+    {
+        GtkWidget* const source = from.m_widget;
+        GtkWidget* const target = screen.number->m_widget;
+        bool begun = false;
+        bool ended = false;
+        g_signal_connect_swapped(source, "drag-begin", G_CALLBACK(Note), &begun);
+        g_signal_connect_swapped(target, "drag-motion", G_CALLBACK(NoteMotion), &over);
+        g_signal_connect_swapped(source, "drag-end", G_CALLBACK(Note), &ended);
+        wxUIActionSimulator mouse;
+        mouse.MouseMove(grip);
+        PumpPending();
+        mouse.MouseDown();
+        PumpPending();
+        mouse.MouseMove(grip + wxPoint(20, 2));
+        EXPECT_TRUE(PumpUntil([&] { return begun; }));
+        if (moves)
+            RunChild({"xdotool", "keydown", "Shift_L"});
+        mouse.MouseMove(to - wxPoint(2, 0));
+        PumpPending();
+        over = false;
+        mouse.MouseMove(to);
+        EXPECT_TRUE(PumpUntil([&] { return over; }));
+        mouse.MouseUp();
+        EXPECT_TRUE(PumpUntil([&] { return ended; }));
+        if (moves)
+            RunChild({"xdotool", "keyup", "Shift_L"});
+        for (bool* const each : {&begun, &over, &ended}) {
+            g_signal_handlers_disconnect_by_data(source, each);
+            g_signal_handlers_disconnect_by_data(target, each);
+        }
+        PumpPending();
+    }
+
+    /// Drags a text from the other field onto the number.
+    void Drop(const wxString& text, bool moves = false)
+    {
+        screen.first->SetValue(text);
+        screen.first->SetFocus();
+        screen.first->SelectAll();
+        ASSERT_TRUE(PumpUntil([&] { return screen.first->HasFocus() && screen.first->GetStringSelection() == text; }));
+        PumpPending();
+        const wxPoint grip = screen.first->ClientToScreen(wxPoint(14, screen.first->GetSize().y / 2));
+        Drag(*screen.first, grip, MiddleOf(*screen.number), moves);
+    }
+
+    static void Note(bool* flag) { *flag = true; }
+    static int NoteMotion(bool* flag)
+    {
+        *flag = true;
+        return FALSE;
+    }
+
+    NumberCtrlDialog screen{FixedFormat()};
+    bool over = false;  ///< True when the mouse has dragged a text over the number.
+};
+
+TEST_F(NumberDrop, TakesANumber)
+{
+    Drop("1,234.50-");
+    EXPECT_TRUE(PumpUntil([&] { return screen.number->GetDecimal() == "-1234.50"; })) << screen.number->GetDecimal();
+    EXPECT_EQ(screen.first->GetValue(), "1,234.50-");
+    EXPECT_EQ(screen.BellsRung(), 0);
+}
+
+TEST_F(NumberDrop, MovesANumber)
+{
+    Drop("1,234.50-", true);
+    EXPECT_TRUE(PumpUntil([&] { return screen.first->GetValue().empty(); }));
+    EXPECT_EQ(screen.number->GetDecimal(), "-1234.50");
+}
+
+TEST_F(NumberDrop, RefusesAnotherTextWhole)
+{
+    for (const bool moves : {false, true}) {
+        screen.Restart("7");
+        Drop("12abc", moves);
+        EXPECT_TRUE(PumpUntil([&] { return screen.BellsRung() == 1; }));
+        EXPECT_EQ(screen.number->GetDecimal(), "7");
+        EXPECT_EQ(screen.first->GetValue(), "12abc") << "a refused text stays where it was";
+        EXPECT_EQ(screen.textEvents, 0);
+        EXPECT_TRUE(screen.numbers.empty());
+    }
+}
+
+TEST_F(NumberDrop, MovesDigitsWithinTheNumber)
+{
+    screen.Restart("123");
+    screen.number->SetSelection(0, 1);
+    const wxPoint middle = MiddleOf(*screen.number);
+    Drag(*screen.number, wxPoint(screen.number->ClientToScreen(wxPoint(12, 0)).x, middle.y), middle, false);
+    EXPECT_TRUE(PumpUntil([&] { return screen.Text() == L"231"; })) << screen.Text();
+    EXPECT_EQ(screen.BellsRung(), 0);
+}
+
+/// What a program does with a text that is dropped.
+class Target : public wxTextDropTarget
+{
+public:
+    Target(bool& over, wxString& dropped) : m_over(over), m_dropped(dropped) {}
+    wxDragResult OnDragOver(wxCoord, wxCoord, wxDragResult) override
+    {
+        m_over = true;
+        return wxDragCopy;
+    }
+    bool OnDropText(wxCoord, wxCoord, const wxString& text) override
+    {
+        m_dropped = text;
+        return true;
+    }
+
+private:
+    bool& m_over;
+    wxString& m_dropped;
+};
+
+TEST_F(NumberDrop, IsLeftToADropTargetOfTheProgram)
+{
+    wxString dropped;
+    screen.number->SetDropTarget(new Target(over, dropped));
+    Drop("1,234.50-");
+    EXPECT_TRUE(PumpUntil([&] { return dropped == "1,234.50-"; }));
+}
+
+// Until the digits have left their old place there are too many of them.
+TEST_F(NumberDrop, LosesNoDigitsThatItRefusesToMove)
+{
+    screen.Restart("12345");
+    screen.number->SetSelection(0, 1);
+    const wxPoint middle = MiddleOf(*screen.number);
+    Drag(*screen.number, wxPoint(screen.number->ClientToScreen(wxPoint(12, 0)).x, middle.y), middle, false);
+    EXPECT_TRUE(PumpUntil([&] { return screen.BellsRung() == 1; }));
+    EXPECT_EQ(screen.Text(), L"12345");
+}
+
+}  // namespace

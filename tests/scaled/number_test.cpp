@@ -1,0 +1,29 @@
+#include <gtest/gtest.h>
+
+#include <wx/frame.h>
+
+#include <fittings/numedit/number_ctrl.h>
+
+#include <tests/scaled/scaled_screen.h>
+#include <tests/support/gui.h>
+
+namespace {
+
+// Letters that are finer than the toolkit's pixels show that the field is not enlarged.
+TEST(ANumberOnAScaledScreen, IsSharpAndAsHighAsATextField)
+{
+    auto* const frame = new wxFrame(nullptr, wxID_ANY, "Number");
+    auto* const number = new wxNumberCtrl(frame, wxID_ANY, CNumberFormat(eFixedFormat));
+    number->SetNumber(12345);
+    auto* const plain = new wxTextCtrl(frame, wxID_ANY);
+    EXPECT_EQ(number->GetBestSize().y, plain->GetBestSize().y);
+    plain->Destroy();
+    ASSERT_TRUE(ShowAndSettle(frame));
+    ASSERT_EQ(number->GetContentScaleFactor(), 2);
+    const wxRect text(number->ClientToScreen(wxPoint(10, 0)), wxSize(50, number->GetSize().y));
+    EXPECT_TRUE(PumpUntil([&] { return !IsOfWholePixels(GrabScaled(text)); }));
+    frame->Destroy();
+    PumpPending();
+}
+
+}  // namespace
