@@ -225,7 +225,7 @@ void wxColourPopup::FindCellFromColour(const wxColour& colour)
 wxString wxColourPopup::GetStringValue() const
 {
     // With the name of the hot cell, a text field would report a colour that was not chosen, and then its old text.
-    if (m_handsValueBack && m_valueWhenShown)
+    if (m_isClosingAfterCancel && m_valueWhenShown)
         return *m_valueWhenShown;
     return TextOf(m_nCurrentSel);
 }

@@ -296,8 +296,8 @@ private:
     void ChooseClosed(int index);
     bool Send(wxEventType type, const wxColour& colour);
 
-    bool m_ending = false;                     ///< True while the listener is told of an end.
-    bool m_handsValueBack = false;             ///< True while a cancelled selection closes the popup.
+    bool m_ending = false;  ///< True while the listener is told of an end.
+    bool m_isClosingAfterCancel = false;
     bool m_dialogCancelled = false;            ///< True from a cancelled dialog to the end of the selection.
     std::optional<wxString> m_valueWhenShown;  ///< The combo's value, while the popup is open.
     const std::shared_ptr<const bool> m_life = std::make_shared<const bool>(true);  ///< Expires with the popup.

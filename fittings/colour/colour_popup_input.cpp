@@ -255,9 +255,9 @@ void wxColourPopup::DoEndSel(bool ok)
     if (life.expired() || !m_combo)
         return;
     if (m_combo->IsPopupShown()) {
-        std::optional<ScopedFlag> handsValueBack;
+        std::optional<ScopedFlag> closing;
         if (m_valueWhenShown)
-            handsValueBack.emplace(m_life, m_handsValueBack);
+            closing.emplace(m_life, m_isClosingAfterCancel);
         if (!HideCombo())
             return;
     }

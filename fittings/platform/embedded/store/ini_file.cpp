@@ -33,7 +33,7 @@ bool SaveText(const std::string& path, const std::string& text)
 void CIniFile::Clear()
 {
     m_text = std::make_unique<IniText>("");
-    m_isNoText = false;
+    m_cannotBeParsed = false;
 }
 
 bool CIniFile::Load(const std::string& path)
@@ -46,8 +46,8 @@ bool CIniFile::Load(const std::string& path)
         m_content.result = fittings::ReadResult::Failed;
     if (m_content.result != fittings::ReadResult::Read)
         return false;
-    m_isNoText = !Parse(std::move(bytes));
-    return !m_isNoText;
+    m_cannotBeParsed = !Parse(std::move(bytes));
+    return !m_cannotBeParsed;
 }
 
 bool CIniFile::Refresh(const std::string& path, const std::vector<Change>& changes, std::uint64_t revision)
@@ -103,7 +103,7 @@ bool CIniFile::Save(const std::string& path) const
 {
     if (path.empty() || (HasFailed() && path == m_path))
         return false;
-    if (!m_isNoText)
+    if (!m_cannotBeParsed)
         return SaveText(path, m_text->Changed());
     // Keep the unreadable file under another name, unless somebody has put a new file in its place.
     const auto identity = fittings::IdentityOf(path);
@@ -125,7 +125,7 @@ bool CIniFile::Save(const std::string& path) const
 fittings::UpdateResult CIniFile::Update() const
 {
     using fittings::UpdateResult;
-    if (m_isNoText || HasFailed())
+    if (m_cannotBeParsed || HasFailed())
         return Save(m_path) ? UpdateResult::Saved : UpdateResult::Failed;
     std::string changed = m_text->Changed();
     if (HasTooManyLines(changed))

@@ -85,7 +85,7 @@ private:
     std::unique_ptr<fittings::IniText> m_text = std::make_unique<fittings::IniText>("");
     std::string m_path;
     fittings::FileContent m_content = {fittings::ReadResult::Missing, std::nullopt};
-    bool m_isNoText = false;
+    bool m_cannotBeParsed = false;
     std::uint64_t m_revision = 0;
 
     /// The path of the last Refresh() for wide text.
