@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
-#include <memory>
+#include <filesystem>
+#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -13,7 +14,6 @@
 #include <unistd.h>
 
 #include <glib.h>
-#include <glib/gstdio.h>
 
 #include <fittings/platform/embedded/file/file_descriptor.h>
 #include <fittings/platform/embedded/file/staged_file.h>
@@ -21,8 +21,6 @@
 namespace fittings {
 
 namespace {
-
-using GText = std::unique_ptr<char, decltype(&g_free)>;
 
 constexpr std::chrono::milliseconds kTimeToFillAFile(500);
 constexpr std::chrono::milliseconds kTimeToExchange(500);
@@ -73,15 +71,13 @@ bool ReadAll(int fd, std::size_t expected, std::string& bytes)
 std::optional<std::string> FollowLinks(std::string path)
 {
     for (int links = 0; links < 40; ++links) {
-        GError* error = nullptr;
-        const GText target(g_file_read_link(path.c_str(), &error), g_free);
-        if (!target) {
-            const bool isNoLink = g_error_matches(error, G_FILE_ERROR, G_FILE_ERROR_INVAL) ||
-                                  g_error_matches(error, G_FILE_ERROR, G_FILE_ERROR_NOENT);
-            g_error_free(error);
-            return isNoLink ? std::optional<std::string>(path) : std::nullopt;
-        }
-        path = g_path_is_absolute(target.get()) ? target.get() : FolderOf(path) + "/" + target.get();
+        std::error_code error;
+        const std::filesystem::path target = std::filesystem::read_symlink(path, error);
+        if (error == std::errc::invalid_argument || error == std::errc::no_such_file_or_directory)
+            return path;  // not a link
+        if (error)
+            return std::nullopt;
+        path = FolderOf(path) / target;
     }
     return path;
 }
@@ -99,18 +95,6 @@ void SyncFolder(const std::string& folder)
     const FileDescriptor descriptor(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (descriptor.Get() >= 0)
         fsync(descriptor.Get());
-}
-
-// Waits at most half a second for a program that has emptied the file in place to fill it.
-FileContent ReadFilledBytes(const std::string& path, std::string& bytes)
-{
-    for (;;) {
-        bytes.clear();
-        const FileContent content = ReadFileBytes(path, bytes);
-        if (!content.IsEmptyForNow())
-            return content;
-        std::this_thread::sleep_for(kPause);
-    }
 }
 
 // Returns the content of the displaced file. If another process has removed that file as a leftover, it is the file
@@ -172,24 +156,33 @@ UpdateResult ResultOf(PlaceResult placed)
     return UpdateResult::Failed;
 }
 
+// An exchange of the target and a staged file.
+struct Exchanged
+{
+    StagedFile& staged;
+    int before;                 ///< The target as it was opened before the exchange.
+    std::string_view expected;  ///< What the target had to contain.
+    std::string_view put;
+};
+
 // Called after an exchange. If the displaced content is not the expected one, merges it with our change and exchanges
 // again. A change that somebody makes meanwhile is displaced and merged in turn.
-UpdateResult MergeDisplaced(const Target& target, StagedFile& staged, int before, std::string_view expected,
-                            std::string_view put, const FileUpdate& update, int merges)
+UpdateResult MergeDisplaced(const Target& target, const Exchanged& done, const FileUpdate& update, int merges = 0)
 {
-    const auto displaced = ReadDisplaced(staged, before);
-    if (displaced && *displaced == expected)
+    const auto displaced = ReadDisplaced(done.staged, done.before);
+    if (displaced && *displaced == done.expected)
         return UpdateResult::Saved;
-    const auto merged =
-        displaced && merges < kMaxMerges ? update.merge(expected, put, *displaced) : std::optional<std::string>();
+    std::optional<std::string> merged;
+    if (displaced && merges < kMaxMerges)
+        merged = update.merge(done.expected, done.put, *displaced);
     if (merged) {
         StagedFile next(target.path, *merged, OldOf(target));
         const FileDescriptor ours(open(target.path.c_str(), O_RDONLY | O_CLOEXEC));
         if (next.IsWritten() && next.Exchange() == PlaceResult::Done)
-            return MergeDisplaced(target, next, ours.Get(), put, *merged, update, merges + 1);
+            return MergeDisplaced(target, {next, ours.Get(), done.put, *merged}, update, merges + 1);
     }
     // Put the displaced file back. If that fails too, our file stays.
-    return staged.Exchange() == PlaceResult::Done ? UpdateResult::Failed : UpdateResult::Saved;
+    return done.staged.Exchange() == PlaceResult::Done ? UpdateResult::Failed : UpdateResult::Saved;
 }
 
 // A lock of the folder: only its holder exchanges a file there. It is held for the microseconds between the last check
@@ -245,7 +238,7 @@ UpdateResult ExchangeAndMerge(const Target& target, StagedFile& staged, const Fi
     }
     if (placed != PlaceResult::Done)
         return ResultOf(placed);
-    return MergeDisplaced(target, staged, before.Get(), update.foundBytes, update.newBytes, update, 0);
+    return MergeDisplaced(target, {staged, before.Get(), update.foundBytes, update.newBytes}, update);
 }
 
 }  // namespace
@@ -282,6 +275,17 @@ FileContent ReadFileBytes(const std::string& path, std::string& bytes)
         !ReadAll(file.Get(), static_cast<std::size_t>(info.st_size), bytes))
         return {ReadResult::Failed, std::nullopt};
     return {ReadResult::Read, FileIdentity(info), IsPastTick(info.st_ctim, now)};
+}
+
+FileContent ReadFilledBytes(const std::string& path, std::string& bytes)
+{
+    for (;;) {
+        bytes.clear();
+        const FileContent content = ReadFileBytes(path, bytes);
+        if (!content.IsEmptyForNow())
+            return content;
+        std::this_thread::sleep_for(kPause);
+    }
 }
 
 bool FileContent::IsEmptyForNow() const
@@ -364,7 +368,8 @@ void GiveToOwnerOfFolder(const std::string& path, const std::string& folder)
 
 std::string FolderOf(const std::string& path)
 {
-    return GText(g_path_get_dirname(path.c_str()), g_free).get();
+    const std::filesystem::path folder = std::filesystem::path(path).parent_path();
+    return folder.empty() ? "." : folder;
 }
 
 }  // namespace fittings

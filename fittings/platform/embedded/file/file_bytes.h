@@ -48,6 +48,10 @@ struct FileContent
 /// Appends the bytes of the file at @a path to @a bytes. A file of more than kMaxFileSize bytes fails.
 FileContent ReadFileBytes(const std::string& path, std::string& bytes);
 
+/// Reads the file like ReadFileBytes(), in place of @a bytes. Waits at most half a second for a program that has
+/// emptied the file in place to fill it.
+FileContent ReadFilledBytes(const std::string& path, std::string& bytes);
+
 /// Larger files are neither read nor written: they are not settings files, and their keys would need too much memory.
 inline constexpr off_t kMaxFileSize = off_t{64} << 20;
 

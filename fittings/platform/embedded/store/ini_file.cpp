@@ -36,12 +36,12 @@ void CIniFile::Clear()
     m_cannotBeParsed = false;
 }
 
-bool CIniFile::Load(const std::string& path)
+bool CIniFile::Load(const std::string& path, Reader* read)
 {
     Clear();
     m_path = path;
     std::string bytes;
-    m_content = fittings::ReadFileBytes(path, bytes);
+    m_content = read(path, bytes);
     if (HasTooManyLines(bytes))
         m_content.result = fittings::ReadResult::Failed;
     if (m_content.result != fittings::ReadResult::Read)

@@ -18,9 +18,11 @@
 class CIniFile
 {
 public:
+    using Reader = decltype(fittings::ReadFileBytes);
+
     /// Reads the file in place of the present content. Returns false when the file could not be read, or when it has no
     /// settings and is not text.
-    bool Load(const std::string& path);
+    bool Load(const std::string& path, Reader* read = fittings::ReadFileBytes);
 
     /// Loads the file and makes the changes in it, unless the file has certainly not changed since the last load and
     /// the revision of the changes is the same. Returns true when the content of the object may have changed.
@@ -69,9 +71,6 @@ public:
 
     /// Whether the last Load() found a file that it could not read.
     bool HasFailed() const { return m_content.result == fittings::ReadResult::Failed; }
-
-    /// Returns what the last Load() found.
-    const fittings::FileContent& Content() const { return m_content; }
 
 private:
     void Clear();

@@ -3,7 +3,6 @@
 #include <chrono>
 #include <map>
 #include <memory>
-#include <thread>
 
 #include <fittings/platform/file_util_ex.h>
 
@@ -15,21 +14,9 @@ using Clock = FileLock::Clock;
 
 // How long a write waits for other writes in total.
 constexpr std::chrono::milliseconds kPatience(1900);
-constexpr std::chrono::milliseconds kPause(1);
 
 // A save needs another attempt each time that another process saves first.
 constexpr int kMaxAttempts = 100;
-
-// Waits for a program that has emptied the file in place, such as an editor, to fill it.
-void LoadFilled(CIniFile& file, const std::string& path)
-{
-    for (;;) {
-        file.Load(path);
-        if (!file.Content().IsEmptyForNow())
-            return;
-        std::this_thread::sleep_for(kPause);
-    }
-}
 
 }  // namespace
 
@@ -69,7 +56,7 @@ UpdateResult SharedFile::StoreOnce(const std::vector<SettingsChange>& changes, C
 
     // Read what other processes have stored, and change only the given settings.
     CIniFile file;
-    LoadFilled(file, m_path);
+    file.Load(m_path, ReadFilledBytes);
     file.Apply(changes);
     const UpdateResult result = file.Update();
     m_hasWaitedInVain = !lock.IsHeld() && result != UpdateResult::Outdated;

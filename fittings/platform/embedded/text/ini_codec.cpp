@@ -40,8 +40,6 @@ struct Decoded
 
 Decoded DecodeNext(std::string_view text)
 {
-    if (const auto byte = static_cast<unsigned char>(text.front()); byte < 0x80)
-        return {byte, 1};
     const DecodedUtf8 next = DecodeUtf8(text);
     return next.code ? Decoded{*next.code, next.bytes}
                      : Decoded{kByteBase + static_cast<unsigned char>(text.front()), 1};

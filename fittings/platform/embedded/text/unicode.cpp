@@ -4,12 +4,10 @@
 
 namespace fittings {
 
-DecodedUtf8 DecodeUtf8(std::string_view text)
+DecodedUtf8 DecodeMultibyte(std::string_view text)
 {
     const auto byteAt = [text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
     const unsigned char lead = byteAt(0);
-    if (lead < 0x80)
-        return {lead, 1};
     std::size_t length = 0;
     char32_t code = 0;
     // Bounds of the second byte: they exclude overlong forms, surrogates and codes above U+10FFFF.

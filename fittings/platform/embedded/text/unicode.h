@@ -26,10 +26,17 @@ struct DecodedUtf8
     std::size_t bytes;             ///< How many bytes it takes.
 };
 
+/// Does the work of DecodeUtf8() for a character that is not ASCII.
+DecodedUtf8 DecodeMultibyte(std::string_view text);
+
 /// Decodes the first character of @a text, which must not be empty. An incomplete or invalid sequence takes the bytes
 /// before its first wrong byte, which may start the next sequence (the "maximal subpart" practice of the Unicode
 /// Standard).
-DecodedUtf8 DecodeUtf8(std::string_view text);
+inline DecodedUtf8 DecodeUtf8(std::string_view text)
+{
+    const auto lead = static_cast<unsigned char>(text.front());
+    return lead < 0x80 ? DecodedUtf8{lead, 1} : DecodeMultibyte(text);
+}
 
 /// Appends @a code in UTF-8. For codes that are not Unicode characters, the scheme of UTF-8 is extended to 32 bits.
 void AppendUtf8(std::string& out, char32_t code);
