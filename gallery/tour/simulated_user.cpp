@@ -1,44 +1,14 @@
 #include <gallery/tour/simulated_user.h>
 
 #include <algorithm>
-#include <chrono>
 
 #include <gtk/gtk.h>
-#include <wx/app.h>
-#include <wx/evtloop.h>
 #include <wx/treectrl.h>
 #include <wx/uiaction.h>
 
 #include <gallery/browser/contents_list.h>
 
 namespace gallery::simulated_user {
-
-namespace {
-
-void HandleEvents()
-{
-    wxEventLoopBase* loop = wxEventLoopBase::GetActive();
-    while (loop->Pending())
-        loop->Dispatch();
-    // Pending() turns off the loop's idle handling, so do it here.
-    wxTheApp->ProcessPendingEvents();
-    loop->ProcessIdle();
-}
-
-}  // namespace
-
-bool WaitUntil(const std::function<bool()>& done, int milliseconds)
-{
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
-    for (;;) {
-        HandleEvents();
-        if (done())
-            return true;
-        if (std::chrono::steady_clock::now() > deadline)
-            return false;
-        wxEventLoopBase::GetActive()->DispatchTimeout(5);
-    }
-}
 
 void Click(const wxPoint& point)
 {

@@ -1,10 +1,10 @@
 #ifndef FITTINGS_GALLERY_TOUR_SIMULATED_USER_H_
 #define FITTINGS_GALLERY_TOUR_SIMULATED_USER_H_
 
-#include <functional>
-
 #include <wx/defs.h>
 #include <wx/gdicmn.h>
+
+#include <gallery/tour/event_pump.h>
 
 struct _GtkWidget;
 class wxTreeCtrl;
@@ -18,9 +18,6 @@ enum class SortColumn;
 
 /// Simulates a person at the mouse and the keyboard by real input events. X11 only; a top-level window must exist.
 namespace simulated_user {
-
-/// Runs the event loop until @a done returns true. Returns false when that takes more than @a milliseconds.
-bool WaitUntil(const std::function<bool()>& done, int milliseconds = 30000);
 
 /// @name Input, at points of the screen
 /// @{

@@ -1,11 +1,8 @@
 #include <tests/support/gui.h>
 
-#include <chrono>
-
-#include <wx/app.h>
-#include <wx/evtloop.h>
 #include <wx/toplevel.h>
 
+#include <gallery/tour/event_pump.h>
 #include <tests/support/patience.h>
 
 namespace {
@@ -16,25 +13,12 @@ ExpectAssertions* g_expected = nullptr;
 
 void PumpPending()
 {
-    wxEventLoopBase* loop = wxEventLoopBase::GetActive();
-    while (loop->Pending())
-        loop->Dispatch();
-    // Pending() drops the idle source: without this, posted events never arrive.
-    wxTheApp->ProcessPendingEvents();
-    loop->ProcessIdle();
+    gallery::simulated_user::HandleEvents();
 }
 
 bool PumpUntil(const std::function<bool()>& done, int milliseconds)
 {
-    const auto deadline = std::chrono::steady_clock::now() + Patience() * std::chrono::milliseconds(milliseconds);
-    for (;;) {
-        PumpPending();
-        if (done())
-            return true;
-        if (std::chrono::steady_clock::now() > deadline)
-            return false;
-        wxEventLoopBase::GetActive()->DispatchTimeout(5);
-    }
+    return gallery::simulated_user::WaitUntil(done, Patience() * milliseconds);
 }
 
 bool ShowAndSettle(wxTopLevelWindow* window)
