@@ -64,7 +64,7 @@ class NumberField;
 class FITTINGS_API wxNumberCtrl : public wxTextCtrl
 {
 public:
-    /// Makes the object; Create() makes the control.
+    /// Makes the object. Call Create() before anything else.
     wxNumberCtrl();
 
     /// Makes an empty field. Without a @a validator, it gets one that refuses a text that is not a number within the

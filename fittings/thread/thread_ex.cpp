@@ -13,6 +13,9 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
+// In milliseconds: some thirty years, which the clock can still add.
+constexpr std::uint64_t kLongestWait = 1'000'000'000'000;
+
 // The longest time that a wait keeps windows from being painted.
 constexpr std::chrono::milliseconds kPaintInterval(20);
 
@@ -135,7 +138,7 @@ bool wxThreadEx::WaitFor(unsigned long milliseconds)
 {
     if (!m_running)
         return false;
-    const auto deadline = Clock::now() + std::chrono::milliseconds(milliseconds);
+    const auto deadline = Clock::now() + std::chrono::milliseconds(std::min<std::uint64_t>(milliseconds, kLongestWait));
     for (;;) {
         {
             const wxMutexLocker lock(m_mutex);

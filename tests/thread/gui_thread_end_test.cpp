@@ -3,6 +3,7 @@
 #include <fittings/thread/gui_thread.h>
 
 #include <atomic>
+#include <climits>
 #include <memory>
 
 #include <gtest/gtest.h>
@@ -215,6 +216,19 @@ TEST(WaitFor, EndsWithTheWork)
     EXPECT_TRUE(held.thread.WaitFor(1'000'000));
     EXPECT_TRUE(held.thread.WaitFor(0));
     EXPECT_EQ(held.thread.Wait(), Code(42));
+}
+
+TEST(WaitFor, WaitsForAsLongAsThereIsANumberFor)
+{
+    for (const unsigned long milliseconds : {ULONG_MAX, ULONG_MAX / 2, ULONG_MAX / 1'000'000}) {
+        HeldThread held;
+        bool hasEnded = false;
+        Helper waiter([&] { hasEnded = held.thread.WaitFor(milliseconds); });
+        EXPECT_TRUE(waiter.IsBlocked()) << milliseconds;
+        held.go.Set();
+        EXPECT_TRUE(waiter.Ends());
+        EXPECT_TRUE(hasEnded) << milliseconds;
+    }
 }
 
 TEST(WaitFor, MayBeCalledByAnotherThread)
