@@ -340,6 +340,16 @@ TEST(AnEmptiedFile, KeepsItsValuesForReadersForAMoment)
     EXPECT_TRUE(Becomes([] { return Stored(L"s", L"k") == L"(none)"; }, 5000));
 }
 
+TEST(AnEmptiedFile, IsGivenTheValueAgainThatIsWritten)
+{
+    const TempUserData data;
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"1"));
+    EXPECT_EQ(Stored(L"s", L"k"), L"1");
+    std::filesystem::resize_file(data / "settings.ini", 0);
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"1"));
+    EXPECT_EQ(ReadFile(data / "settings.ini"), "[s]\nk=1\n");
+}
+
 TEST(RootInTheFolderOfAnotherUser, GivesTheFilesToThatUser)
 {
     if (geteuid() != 0)

@@ -52,14 +52,17 @@ bool CIniFile::Load(const std::string& path, Reader* read)
 
 bool CIniFile::Refresh(const std::string& path, const std::vector<Change>& changes, std::uint64_t revision)
 {
+    m_isEarlierContent = false;
     const bool isSameStore = path == m_path && revision == m_revision;
     if (isSameStore && IsFresh())
         return false;
     CIniFile now;
     now.Load(path);
     // A read does not wait until another program has filled the file: it keeps the earlier content.
-    if (isSameStore && now.m_content.IsEmptyForNow() && m_content.result == fittings::ReadResult::Read)
+    if (isSameStore && now.m_content.IsEmptyForNow() && m_content.result == fittings::ReadResult::Read) {
+        m_isEarlierContent = true;
         return false;
+    }
     if (isSameStore && now.HasFailed() && HasFailed())
         return false;
     const bool isSame = isSameStore && now.HasFailed() == HasFailed() && !m_text->IsChanged() &&

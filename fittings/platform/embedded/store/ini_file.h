@@ -69,6 +69,9 @@ public:
     /// section come first.
     std::vector<fittings::SettingsEntry> Entries(std::wstring_view section) const;
 
+    /// Whether the last Refresh() kept an earlier content because the file was empty for now. The file does not hold it.
+    bool IsEarlierContent() const { return m_isEarlierContent; }
+
     /// Whether the last Load() found a file that it could not read.
     bool HasFailed() const { return m_content.result == fittings::ReadResult::Failed; }
 
@@ -85,6 +88,7 @@ private:
     std::string m_path;
     fittings::FileContent m_content = {fittings::ReadResult::Missing, std::nullopt};
     bool m_cannotBeParsed = false;
+    bool m_isEarlierContent = false;
     std::uint64_t m_revision = 0;
 
     /// The path of the last Refresh() for wide text.
