@@ -8,6 +8,7 @@
 #include <functional>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include <fcntl.h>
@@ -146,6 +147,21 @@ TEST_F(AnExchange, PutsBackWhatIsNoText)
     EXPECT_EQ(Now(), zeros);
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
     EXPECT_EQ(Now(), "[s]\nk=new\n");
+    EXPECT_EQ(ReadFile(m_path + ".unreadable"), zeros);
+}
+
+TEST_F(AnExchange, KeepsTheFileThatTakesThePlaceOfAnUnreadableOne)
+{
+    const std::string zeros(100, '\0');
+    WriteFile(m_path, zeros);
+    bool isFirst = true;
+    g_watchedCalls.beforeSync = [&] {
+        if (std::exchange(isFirst, false))
+            Put("[s]\na=1\n");
+    };
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
+    g_watchedCalls.beforeSync = nullptr;
+    EXPECT_EQ(Now(), "[s]\na=1\nk=new\n");
     EXPECT_EQ(ReadFile(m_path + ".unreadable"), zeros);
 }
 

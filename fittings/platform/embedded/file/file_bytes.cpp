@@ -250,8 +250,12 @@ FileIdentity::FileIdentity(const struct stat& info)
 
 bool FileIdentity::operator==(const FileIdentity& other) const
 {
-    return device == other.device && inode == other.inode && size == other.size && IsSame(modified, other.modified) &&
-           IsSame(changed, other.changed);
+    return HasContentOf(other) && IsSame(changed, other.changed);
+}
+
+bool FileIdentity::HasContentOf(const FileIdentity& other) const
+{
+    return device == other.device && inode == other.inode && size == other.size && IsSame(modified, other.modified);
 }
 
 std::optional<FileIdentity> IdentityOf(const std::string& path)
@@ -351,6 +355,11 @@ std::string KeepUnderOtherName(const std::string& path)
             return other;
         if (errno != EEXIST)
             break;
+        // Another process may have named the file so just now.
+        const auto named = IdentityOf(other);
+        const auto file = IdentityOf(*target);
+        if (named && file && named->HasContentOf(*file))
+            return other;
     }
     return {};
 }

@@ -25,6 +25,9 @@ struct FileIdentity
 
     explicit FileIdentity(const struct stat& info);
     bool operator==(const FileIdentity& other) const;
+
+    /// Whether both are states of one file with the same content. Its names may differ.
+    bool HasContentOf(const FileIdentity& other) const;
 };
 
 /// Returns the state of the file at @a path and follows links. Returns nothing when there is no file; errno tells why.
@@ -85,7 +88,8 @@ struct FileUpdate
 UpdateResult UpdateFileBytes(const std::string& path, const FileUpdate& update);
 
 /// Gives the file at @a path a second name that does not exist yet: its own name followed by ".unreadable", or
-/// ".unreadable.2" and so on. Follows links. Returns the second name, or an empty text on any error.
+/// ".unreadable.2" and so on. A file that has such a name already keeps it. Follows links. Returns the second name, or
+/// an empty text on any error.
 std::string KeepUnderOtherName(const std::string& path);
 
 /// If root has made the file in the folder of another user, makes that user its owner, who could not use it otherwise.

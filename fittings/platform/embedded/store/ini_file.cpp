@@ -34,6 +34,7 @@ void CIniFile::Clear()
 {
     m_text = std::make_unique<IniText>("");
     m_cannotBeParsed = false;
+    m_unreadable.clear();
 }
 
 bool CIniFile::Load(const std::string& path, Reader* read)
@@ -98,7 +99,9 @@ bool CIniFile::Parse(std::string text)
     m_text = std::make_unique<IniText>(std::move(text));
     if (m_text->IsSettings())
         return true;
+    std::string unreadable = m_text->Original();
     Clear();
+    m_unreadable = std::move(unreadable);
     return false;
 }
 
@@ -128,8 +131,10 @@ bool CIniFile::Save(const std::string& path) const
 fittings::UpdateResult CIniFile::Update() const
 {
     using fittings::UpdateResult;
-    if (m_cannotBeParsed || HasFailed())
-        return Save(m_path) ? UpdateResult::Saved : UpdateResult::Failed;
+    if (HasFailed())
+        return UpdateResult::Failed;
+    if (m_cannotBeParsed)
+        return ReplaceUnreadable();
     std::string changed = m_text->Changed();
     if (HasTooManyLines(changed))
         return UpdateResult::Failed;
@@ -138,6 +143,37 @@ fittings::UpdateResult CIniFile::Update() const
         return text && HasTooManyLines(*text) ? std::nullopt : text;
     };
     return fittings::UpdateFileBytes(m_path, {m_content, m_text->Original(), std::move(changed), merge});
+}
+
+// Keeps the unreadable file under another name. If somebody puts a new file in its place meanwhile, that one stays.
+fittings::UpdateResult CIniFile::ReplaceUnreadable() const
+{
+    using fittings::UpdateResult;
+    if (!m_text->IsChanged())
+        return UpdateResult::Saved;
+    if (HasTooManyLines(m_text->Changed()))
+        return UpdateResult::Failed;
+    const auto isUnreadable = [this](const std::optional<fittings::FileIdentity>& identity) {
+        return identity && identity->HasContentOf(*m_content.identity);
+    };
+    if (!isUnreadable(fittings::IdentityOf(m_path)))
+        return UpdateResult::Outdated;
+    const std::string other = fittings::KeepUnderOtherName(m_path);
+    if (other.empty())
+        return UpdateResult::Failed;
+    // The second name has changed the identity.
+    fittings::FileContent found = m_content;
+    found.identity = fittings::IdentityOf(other);
+    const auto keepDisplaced = [](std::string_view, std::string_view, std::string_view) { return std::nullopt; };
+    const UpdateResult result =
+        isUnreadable(found.identity)
+            ? fittings::UpdateFileBytes(m_path, {found, m_unreadable, m_text->Changed(), keepDisplaced})
+            : UpdateResult::Outdated;
+    // Remove the second name only when the file still has the first: another process may have replaced the file, and
+    // rely on this name.
+    if (result != UpdateResult::Saved && fittings::IdentityOf(m_path) == fittings::IdentityOf(other))
+        unlink(other.c_str());
+    return result;
 }
 
 std::optional<std::wstring> CIniFile::Get(std::wstring_view section, std::wstring_view key) const

@@ -77,6 +77,7 @@ public:
 
 private:
     void Clear();
+    fittings::UpdateResult ReplaceUnreadable() const;
     bool IsFresh() const;
     std::optional<std::string_view> Find(std::wstring_view section, std::wstring_view key) const;
     bool HasEarlyKey(std::wstring_view key) const;
@@ -88,6 +89,7 @@ private:
     std::string m_path;
     fittings::FileContent m_content = {fittings::ReadResult::Missing, std::nullopt};
     bool m_cannotBeParsed = false;
+    std::string m_unreadable;  ///< The bytes that cannot be parsed.
     bool m_isEarlierContent = false;
     std::uint64_t m_revision = 0;
 
