@@ -54,9 +54,8 @@ std::vector<Accessible> ReadAccessibles()
     // Meanwhile this process answers the reader's requests.
     EXPECT_TRUE(PumpUntil([&] { return !reader.IsRunning(); })) << "the reader does not end";
     EXPECT_EQ(reader.ExitCode(), 0) << reader.Output();
-    std::istringstream lines(reader.Output());
     std::vector<Accessible> all;
-    for (std::string line; std::getline(lines, line);)
+    for (const std::string& line : reader.Lines())
         all.push_back(Parse(line));
     EXPECT_FALSE(all.empty()) << "the reader found no object";
     return all;

@@ -17,9 +17,8 @@ using Lines = std::map<std::string, std::string>;
 // The probe's output in that language. The key is the first word of a line, or the first two of a numbered line.
 Lines PopupIn(const std::string& language)
 {
-    std::istringstream output(RunChild({COLOUR_LANGUAGE_PROBE, LIBRARY_LOCALE_DIR, language}));
     Lines lines;
-    for (std::string line; std::getline(output, line);) {
+    for (const std::string& line : LinesOf(RunChild({COLOUR_LANGUAGE_PROBE, LIBRARY_LOCALE_DIR, language}))) {
         std::size_t end = line.find(' ');
         const std::string first = line.substr(0, end);
         if (first == "name" || first == "hot")

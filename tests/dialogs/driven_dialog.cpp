@@ -22,8 +22,7 @@ struct Rect
 Rect RectOf(const std::string& window)
 {
     Rect rect;
-    std::istringstream lines(Xdotool({"getwindowgeometry", "--shell", window}));
-    for (std::string line; std::getline(lines, line);) {
+    for (const std::string& line : LinesOf(Xdotool({"getwindowgeometry", "--shell", window}))) {
         const std::size_t sign = line.find('=');
         const std::string name = line.substr(0, sign);
         const int value = std::stoi(line.substr(sign + 1));
@@ -45,16 +44,16 @@ DialogState StateFrom(const std::string& text)
     std::istringstream line(text);
     for (std::string field; std::getline(line, field, '\t');)
         fields.push_back(field);
-    fields.resize(9);
+    fields.resize(8);
     DialogState state;
-    state.isActive = fields[1] == "active";
-    state.focus = fields[2];
-    state.hasPopup = fields[3] == "popup";
-    state.canAccept = fields[4] == "accept";
-    state.folder = fields[5];
-    state.file = fields[6];
-    state.text = fields[7];
-    state.message = fields[8];
+    state.isActive = fields[0] == "active";
+    state.focus = fields[1];
+    state.hasPopup = fields[2] == "popup";
+    state.canAccept = fields[3] == "accept";
+    state.folder = fields[4];
+    state.file = fields[5];
+    state.text = fields[6];
+    state.message = fields[7];
     return state;
 }
 
@@ -138,7 +137,7 @@ void DrivenDialog::WaitForNoMessage()
 
 bool DrivenDialog::HadMessage() const
 {
-    const std::vector<std::string> states = Lines("state\t");
+    const std::vector<std::string> states = m_child.Lines("state\t");
     return std::any_of(states.begin(), states.end(),
                        [](const std::string& line) { return !StateFrom(line).message.empty(); });
 }
@@ -152,16 +151,15 @@ std::string DrivenDialog::Chosen()
 {
     EXPECT_TRUE(m_child.WaitForEnd(15000)) << "still open\n" << m_child.Output();
     EXPECT_EQ(m_child.ExitCode(), 0) << m_child.Output();
-    const std::string line = LastLine("chosen ");
-    return line.empty() ? "(no answer)" : line.substr(7);
+    const std::vector<std::string> chosen = m_child.Lines("chosen ");
+    return chosen.empty() ? "(no answer)" : chosen.back();
 }
 
 void DrivenDialog::ExpectCentred() const
 {
     std::istringstream line(LastLine("frame "));
-    std::string word;
     Rect parent;
-    line >> word >> parent.x >> parent.y >> parent.width >> parent.height;
+    line >> parent.x >> parent.y >> parent.width >> parent.height;
     const Rect window = RectOf(m_window);
     // Twice the distance between the centres, which is always a whole number.
     const int right = 2 * window.x + window.width - 2 * parent.x - parent.width;
@@ -171,20 +169,8 @@ void DrivenDialog::ExpectCentred() const
     EXPECT_NEAR(down, 0, 100);
 }
 
-std::vector<std::string> DrivenDialog::Lines(const std::string& start) const
-{
-    std::vector<std::string> result;
-    std::istringstream lines(m_child.Output());
-    // A last line without a line end is still being written.
-    for (std::string line; std::getline(lines, line) && !lines.eof();) {
-        if (line.compare(0, start.size(), start) == 0)
-            result.push_back(line);
-    }
-    return result;
-}
-
 std::string DrivenDialog::LastLine(const std::string& start) const
 {
-    const std::vector<std::string> lines = Lines(start);
+    const std::vector<std::string> lines = m_child.Lines(start);
     return lines.empty() ? std::string() : lines.back();
 }

@@ -12,7 +12,7 @@
 /// The home folder of the test, shared with the program.
 std::string HomeFolder();
 
-/// The state that the program with the dialog printed last, see StatePrinter.
+/// The state that the program with the dialog printed last, see DialogProbe.
 struct DialogState
 {
     bool isActive = false;
@@ -64,7 +64,6 @@ public:
     void ExpectCentred() const;
 
 private:
-    std::vector<std::string> Lines(const std::string& start) const;
     std::string LastLine(const std::string& start) const;
 
     ChildProcess m_child;

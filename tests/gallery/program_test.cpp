@@ -6,7 +6,6 @@
 #include <filesystem>
 #include <memory>
 #include <set>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -153,11 +152,8 @@ TEST_F(TheProgram, FitsOnTheScreenAtFirst)
 std::string OwnLines(const std::string& errors)
 {
     std::string own;
-    std::istringstream lines(errors);
-    for (std::string line; std::getline(lines, line);) {
-        if (line.rfind("fittings-gallery: ", 0) == 0)
-            own += line + "\n";
-    }
+    for (const std::string& line : LinesOf(errors, "fittings-gallery: "))
+        own += "fittings-gallery: " + line + "\n";
     return own;
 }
 

@@ -1,6 +1,5 @@
 #include <tests/samples/sample_in_use.h>
 
-#include <sstream>
 #include <stdexcept>
 
 #include <gtest/gtest.h>
@@ -135,9 +134,8 @@ void SampleInUse::Move(int x, int y) const
 
 std::string SampleInUse::Geometry() const
 {
-    std::istringstream lines(Run({"xwininfo", "-id", m_window}));
     std::string numbers;
-    for (std::string line; std::getline(lines, line);) {
+    for (const std::string& line : LinesOf(Run({"xwininfo", "-id", m_window}))) {
         for (const char* name : {"Absolute", "  Width", "  Height"}) {
             if (line.find(name) != std::string::npos)
                 numbers += (numbers.empty() ? "" : " ") + line.substr(line.find_last_of(' ') + 1);

@@ -34,16 +34,7 @@ public:
     }
 
     /// The rest of each line that begins with @a start.
-    std::vector<std::string> Lines(const std::string& start) const
-    {
-        std::istringstream output(m_child.Output());
-        std::vector<std::string> lines;
-        for (std::string line; std::getline(output, line);) {
-            if (line.compare(0, start.size(), start) == 0)
-                lines.push_back(line.substr(start.size()));
-        }
-        return lines;
-    }
+    std::vector<std::string> Lines(const std::string& start) const { return m_child.Lines(start); }
 
     /// The numbers in the last line that begins with @a start.
     std::vector<int> Numbers(const std::string& start) const

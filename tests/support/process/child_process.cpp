@@ -1,6 +1,7 @@
 #include <tests/support/process/child_process.h>
 
 #include <csignal>
+#include <sstream>
 
 #include <fcntl.h>
 #include <spawn.h>
@@ -76,6 +77,22 @@ void ChildProcess::Send(int signal)
 bool ChildProcess::WaitForEnd(int milliseconds)
 {
     return Becomes([this] { return !IsRunning(); }, milliseconds);
+}
+
+std::vector<std::string> ChildProcess::Lines(const std::string& start) const
+{
+    return LinesOf(Output(), start);
+}
+
+std::vector<std::string> LinesOf(const std::string& text, const std::string& start)
+{
+    std::vector<std::string> lines;
+    std::istringstream all(text);
+    for (std::string line; std::getline(all, line) && !all.eof();) {
+        if (line.compare(0, start.size(), start) == 0)
+            lines.push_back(line.substr(start.size()));
+    }
+    return lines;
 }
 
 std::string RunChild(const std::vector<std::string>& command,

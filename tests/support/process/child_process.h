@@ -36,12 +36,19 @@ public:
     /// The output so far.
     std::string Output() const { return ReadFile(m_folder / "output"); }
 
+    /// LinesOf() the output so far.
+    std::vector<std::string> Lines(const std::string& start = {}) const;
+
 private:
     TempFolder m_folder;
     pid_t m_pid = 0;
     bool m_ended = false;
     int m_exitCode = 0;
 };
+
+/// Returns each line of @a text that begins with @a start, without that start. Leaves out a last line without a line
+/// end: it may still be being written.
+std::vector<std::string> LinesOf(const std::string& text, const std::string& start = {});
 
 /// Runs a program to its end and returns its output; fails the test if the program fails or takes too long.
 std::string RunChild(const std::vector<std::string>& command,
