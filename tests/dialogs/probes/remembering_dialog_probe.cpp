@@ -1,66 +1,33 @@
-// remembering_dialog_probe SETTINGS save|open|several|folder ENTRY TITLE [WILDCARD]: shows a dialog that remembers over
-// a frame, with the settings in the folder SETTINGS, for a test that sends it keys. Prints the states of the dialog,
-// and at its end
-//
-//   chosen PATH|PATH...
+// remembering_dialog_probe SETTINGS save|open|several|folder ENTRY TITLE [WILDCARD]: a DialogProbe of a dialog that
+// remembers. The chosen paths are separated by "|".
 
 #include <string>
 
-#include <wx/app.h>
-#include <wx/evtloop.h>
-#include <wx/frame.h>
-
 #include <fittings/dialogs/remembering_dialogs.h>
-#include <fittings/platform/file_util_ex.h>
-#include <fittings/platform/std_file_paths.h>
 
-#include <tests/dialogs/probes/dialog_state.h>
+#include <tests/dialogs/probes/dialog_probe.h>
 
 namespace {
 
-class Probe : public wxApp
+class Probe : public DialogProbe
 {
-public:
-    bool OnInit() override
-    {
-        SetAppName("fittings-test");
-        return true;
-    }
-
-    int OnRun() override
-    {
-        wxGUIEventLoop loop;
-        wxEventLoopActivator activate(&loop);
-        wxFrame* const frame = ShowParent();
-        if (!frame)
-            return 1;
-        const StatePrinter printer;
-        std_file_paths::SetUserDataDir(Argument(1).ToStdWstring());
-        PrintLine("chosen " + file_util_ex::ConvertToUTF8(Ask(frame).ToStdWstring()));
-        frame->Destroy();
-        return 0;
-    }
-
-private:
-    wxString Argument(int index) const { return index < argc ? argv[index] : wxString(); }
-
     template <typename Dialog>
-    static wxString PathsOf(Dialog&& dialog)
+    static std::wstring PathsOf(Dialog&& dialog)
     {
         wxArrayString paths;
         if (dialog.ShowModal() == wxID_OK)
             dialog.GetPaths(paths);
-        return wxJoin(paths, '|', '\0');
+        return wxJoin(paths, '|', '\0').ToStdWstring();
     }
 
-    wxString Ask(wxWindow* parent) const
+    std::wstring Ask(wxWindow* parent) override
     {
-        const wxString mode = Argument(2);
-        if (mode == "folder")
+        const std::wstring mode = Argument(2);
+        if (mode == L"folder")
             return PathsOf(wxRememberingDirDialog(parent, Argument(3), Argument(4)));
-        const long style = mode == "save"   ? wxFD_SAVE | wxFD_OVERWRITE_PROMPT
-                           : mode == "open" ? wxFD_OPEN | wxFD_FILE_MUST_EXIST
-                                            : wxFD_OPEN | wxFD_MULTIPLE;
+        const long style = mode == L"save"   ? wxFD_SAVE | wxFD_OVERWRITE_PROMPT
+                           : mode == L"open" ? wxFD_OPEN | wxFD_FILE_MUST_EXIST
+                                             : wxFD_OPEN | wxFD_MULTIPLE;
         return PathsOf(wxRememberingFileDialog(parent, Argument(3), Argument(4), Argument(5), style));
     }
 };

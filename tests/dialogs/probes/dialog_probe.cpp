@@ -1,13 +1,23 @@
-#include <tests/dialogs/probes/dialog_state.h>
+#include <tests/dialogs/probes/dialog_probe.h>
 
 #include <cstdio>
 
 #include <gtk/gtk.h>
+#include <wx/evtloop.h>
 #include <wx/frame.h>
+
+#include <fittings/platform/file_util_ex.h>
+#include <fittings/platform/std_file_paths.h>
 
 #include <tests/support/gui.h>
 
 namespace {
+
+void PrintLine(const std::string& line)
+{
+    std::printf("%s\n", line.c_str());
+    std::fflush(stdout);
+}
 
 // Takes over a text of GLib, which may be null.
 std::string Take(char* text)
@@ -70,8 +80,7 @@ std::string StateOf(const Windows& windows)
     return state;
 }
 
-}  // namespace
-
+// Returns null when the frame does not appear.
 wxFrame* ShowParent()
 {
     auto* const frame = new wxFrame(nullptr, wxID_ANY, "parent", wxPoint(100, 150), wxSize(1000, 700));
@@ -83,28 +92,44 @@ wxFrame* ShowParent()
     return frame;
 }
 
-StatePrinter::StatePrinter() : m_timer(g_timeout_add(10, Print, this)) {}
-
-StatePrinter::~StatePrinter()
-{
-    g_source_remove(m_timer);
-}
-
-int StatePrinter::Print(void* printer)
+int PrintState(void* lastState)
 {
     const Windows windows = MappedWindows();
     if (!windows.dialog)
         return G_SOURCE_CONTINUE;
     const std::string state = StateOf(windows);
-    std::string& last = static_cast<StatePrinter*>(printer)->m_last;
+    std::string& last = *static_cast<std::string*>(lastState);
     if (state != last)
         PrintLine("state\t" + state);
     last = state;
     return G_SOURCE_CONTINUE;
 }
 
-void PrintLine(const std::string& line)
+}  // namespace
+
+bool DialogProbe::OnInit()
 {
-    std::printf("%s\n", line.c_str());
-    std::fflush(stdout);
+    SetAppName("fittings-test");
+    return true;
+}
+
+int DialogProbe::OnRun()
+{
+    wxGUIEventLoop loop;
+    wxEventLoopActivator activate(&loop);
+    wxFrame* const frame = ShowParent();
+    if (!frame)
+        return 1;
+    std_file_paths::SetUserDataDir(Argument(1));
+    std::string lastState;
+    const unsigned timer = g_timeout_add(10, PrintState, &lastState);
+    PrintLine("chosen " + file_util_ex::ConvertToUTF8(Ask(frame)));
+    g_source_remove(timer);
+    frame->Destroy();
+    return 0;
+}
+
+std::wstring DialogProbe::Argument(int index) const
+{
+    return index < argc ? argv[index].ToStdWstring() : std::wstring();
 }
