@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tests/numedit/known_formats.h>
+
 namespace {
 
 bool Accepted(const wchar_t* text, const CNumberFormat& format)
@@ -130,10 +132,10 @@ TEST(ValidateInput, TakesAnyCharacterForThePoint)
 TEST(ValidateInput, LooksAtNoOtherFieldForTheZeros)
 {
     for (const bool flag : {false, true}) {
-        CNumberFormat format = FromOne();
-        format.m_bPadDecimals = format.m_bRoundDecimals = format.m_bAllowSign = flag;
-        format.m_bGroupDigits = format.m_bTrailingMinus = format.m_bAllowExponent = flag;
-        format.m_bHasMax = format.m_bHasMaxIntDigits = flag;
+        CNumberFormat format = FormatWithFlags(flag);
+        format.m_bHasMin = format.m_bHasDecimals = true;
+        format.m_dMin = 1;
+        format.m_nDecimals = 2;
         format.m_dMax = -1;
         format.m_nMaxIntDigits = 0;
         format.m_chThousandsSep = L'0';
