@@ -5,7 +5,6 @@
 #include <wx/stopwatch.h>
 #include <wx/timer.h>
 
-#include <fittings/platform/local_reg_store.h>
 #include <fittings/platform/std_file_paths.h>
 #include <tests/support/gui.h>
 
@@ -85,11 +84,6 @@ int AcceptWhen(wxFileDialog& dialog, const std::function<bool()>& isReady)
 RememberingDialog::RememberingDialog() : m_plain(m_folders / "plain")
 {
     std::filesystem::create_directories(m_plain);
-}
-
-std::string RememberingDialog::Stored(const char* section, const char* key)
-{
-    return CLocalRegStore::GetString(section, key, "(nothing)");
 }
 
 std::string RememberingDialog::Documents()

@@ -58,8 +58,6 @@ class RememberingDialog : public testing::Test
 protected:
     RememberingDialog();
 
-    static std::string Stored(const char* section, const char* key);
-
     /// The folder of the program's documents.
     static std::string Documents();
     std::string Settings() const { return ReadFile(m_settings / "settings.ini"); }

@@ -17,17 +17,11 @@
 
 namespace {
 
-constexpr const wchar_t* kNothing = L"(nothing)";
 constexpr long kStyle = 0x2;
 
 std::wstring SamplesFolder()
 {
     return wxString::FromUTF8(std::getenv("HOME")).ToStdWstring() + L"/fittings-test/Samples/";
-}
-
-std::wstring Stored(const wchar_t* entry)
-{
-    return CLocalRegStore::GetString(L"LastFiles", entry, kNothing);
 }
 
 TEST(FileDialogNames, AreFixed)
@@ -73,7 +67,7 @@ TEST_F(LastPath, IsTheOneSaved)
 {
     for (const wchar_t* const path : {L"/usr/one.prj", L"/usr/folder/", L"/\x5E33/\x1F4D2 \xE4", L"r"}) {
         fittings::SaveLastPath(path, "A");
-        EXPECT_EQ(Stored(L"A"), path);
+        EXPECT_EQ(Stored(L"LastFiles", L"A"), path);
         EXPECT_EQ(fittings::LoadLastPath("A"), path);
     }
 }
@@ -82,21 +76,21 @@ TEST_F(LastPath, IsNotSavedWhenItIsEmpty)
 {
     fittings::SaveLastPath(L"/usr/one", "A");
     fittings::SaveLastPath(L"", "A");
-    EXPECT_EQ(Stored(L"A"), L"/usr/one");
+    EXPECT_EQ(Stored(L"LastFiles", L"A"), L"/usr/one");
     fittings::SaveLastPath(L"", "B");
-    EXPECT_EQ(Stored(L"B"), kNothing);
+    EXPECT_EQ(Stored(L"LastFiles", L"B"), L"(none)");
 }
 
 TEST_F(LastPath, IsNotSavedWithoutAnEntry)
 {
     fittings::SaveLastPath(L"/usr/one", "");
-    EXPECT_EQ(Stored(L""), kNothing);
+    EXPECT_EQ(Stored(L"LastFiles", L""), L"(none)");
 }
 
 TEST_F(LastPath, IsSavedInUtf8)
 {
     fittings::SaveLastPath(L"/\x5E33", "A");
-    EXPECT_EQ(CLocalRegStore::GetString("LastFiles", "A", ""), "/\xE5\xB8\xB3");
+    EXPECT_EQ(Stored("LastFiles", "A"), "/\xE5\xB8\xB3");
     CLocalRegStore::WriteString("LastFiles", "A", "/\xC3\xA4\xFF");
     EXPECT_EQ(fittings::LoadLastPath("A"), L"/\xE4\xFFFD");
 }
@@ -218,14 +212,14 @@ TEST_F(OpenDialog, RemembersWhatWasChosen)
 {
     const FileAnswer ok(wxID_OK, L"/srv/\x5E33.prj");
     EXPECT_EQ(fittings::LaunchOpenDialog(nullptr, nullptr, nullptr, nullptr, L""), L"/srv/\x5E33.prj");
-    EXPECT_EQ(Stored(L"Report"), L"/srv/\x5E33.prj");
+    EXPECT_EQ(Stored(L"LastFiles", L"Report"), L"/srv/\x5E33.prj");
 }
 
 TEST_F(OpenDialog, RemembersNothingWhenCancelled)
 {
     fittings::SaveLastPath(L"/usr/one", "Report");
     Asked(L"x");
-    EXPECT_EQ(Stored(L"Report"), L"/usr/one");
+    EXPECT_EQ(Stored(L"LastFiles", L"Report"), L"/usr/one");
 }
 
 TEST_F(OpenDialog, SharesWhatIsRememberedWithTheSaveDialog)
@@ -247,7 +241,7 @@ TEST_F(OpenDialog, AssertsAndChoosesNothingWithoutASwitch)
     EXPECT_EQ(fittings::LaunchOpenDialog(nullptr, L"", L"", L"", nullptr), L"");
     EXPECT_EQ(assertions.Count(), 1);
     EXPECT_EQ(ok.Shown(), 0);
-    EXPECT_EQ(Stored(L"Report"), kNothing);
+    EXPECT_EQ(Stored(L"LastFiles", L"Report"), L"(none)");
 }
 
 }  // namespace

@@ -99,7 +99,6 @@ protected:
         return call;
     }
 
-    static std::string Stored() { return CLocalRegStore::GetString("LastFiles", "Report", "(nothing)"); }
     static void Store(const std::string& path) { CLocalRegStore::WriteString("LastFiles", "Report", path.c_str()); }
 
     const TempUserData m_settings;
@@ -114,7 +113,7 @@ TEST_F(SaveDialogByKeys, GivesTheNameTyped)
     dialog.TypeName("fresh.csv");
     dialog.Press("Return");
     EXPECT_EQ(dialog.Chosen(), m_plain + "/fresh.csv");
-    EXPECT_EQ(Stored(), m_plain + "/fresh.csv");
+    EXPECT_EQ(Stored("LastFiles", "Report"), m_plain + "/fresh.csv");
     EXPECT_FALSE(fs::exists(m_plain + "/fresh.csv"));
 }
 
@@ -145,7 +144,7 @@ TEST_F(SaveDialogByKeys, GivesNothingAfterEscape)
     dialog.WaitForProposal(m_plain, "report.csv");
     dialog.Press("Escape");
     EXPECT_EQ(dialog.Chosen(), "");
-    EXPECT_EQ(Stored(), "/usr/earlier");
+    EXPECT_EQ(Stored("LastFiles", "Report"), "/usr/earlier");
 }
 
 TEST_F(SaveDialogByKeys, ProposesTheFileChosenLast)
@@ -160,7 +159,7 @@ TEST_F(SaveDialogByKeys, ProposesTheFileChosenLast)
     dialog.WaitForProposal(m_plain, "report");
     dialog.Press("Escape");
     EXPECT_EQ(dialog.Chosen(), "");
-    EXPECT_EQ(Stored(), m_plain + "/report.prj");
+    EXPECT_EQ(Stored("LastFiles", "Report"), m_plain + "/report.prj");
 }
 
 TEST_F(SaveDialogByKeys, ProposesTheExtensionOfThePatternAnew)
@@ -188,7 +187,7 @@ TEST_F(SaveDialogByKeys, KeepsAFileThatIsNotToBeReplaced)
     dialog.Press("Escape");
     EXPECT_EQ(dialog.Chosen(), "");
     EXPECT_EQ(ReadFile(m_plain + "/report.csv"), "precious");
-    EXPECT_EQ(Stored(), "/usr/earlier");
+    EXPECT_EQ(Stored("LastFiles", "Report"), "/usr/earlier");
 }
 
 TEST_F(SaveDialogByKeys, LetsAnotherNameBeTypedForAFileThatIsNotToBeReplaced)
@@ -203,7 +202,7 @@ TEST_F(SaveDialogByKeys, LetsAnotherNameBeTypedForAFileThatIsNotToBeReplaced)
     dialog.TypeName("report2.csv");
     dialog.Press("Return");
     EXPECT_EQ(dialog.Chosen(), m_plain + "/report2.csv");
-    EXPECT_EQ(Stored(), m_plain + "/report2.csv");
+    EXPECT_EQ(Stored("LastFiles", "Report"), m_plain + "/report2.csv");
 }
 
 TEST_F(SaveDialogByKeys, GivesAFileThatIsToBeReplaced)
@@ -215,7 +214,7 @@ TEST_F(SaveDialogByKeys, GivesAFileThatIsToBeReplaced)
     dialog.Message();
     dialog.Press("alt+r");
     EXPECT_EQ(dialog.Chosen(), m_plain + "/report.csv");
-    EXPECT_EQ(Stored(), m_plain + "/report.csv");
+    EXPECT_EQ(Stored("LastFiles", "Report"), m_plain + "/report.csv");
     EXPECT_EQ(ReadFile(m_plain + "/report.csv"), "precious");
 }
 
@@ -228,7 +227,7 @@ TEST_F(SaveDialogByKeys, GivesANameThatIsNotAscii)
         dialog.WaitForProposal(folder, name);
         dialog.Press("Return");
         EXPECT_EQ(dialog.Chosen(), folder + "/" + name);
-        EXPECT_EQ(Stored(), folder + "/" + name);
+        EXPECT_EQ(Stored("LastFiles", "Report"), folder + "/" + name);
     }
     Dialog dialog(m_settings.Path(), CallAgain());
     dialog.WaitForProposal(folder, kNotAscii);
@@ -243,7 +242,7 @@ TEST_F(SaveDialogByKeys, GivesTheLongestName)
     dialog.WaitForProposal(m_plain, name);
     dialog.Press("Return");
     EXPECT_EQ(dialog.Chosen(), m_plain + "/" + name);
-    EXPECT_EQ(Stored(), m_plain + "/" + name);
+    EXPECT_EQ(Stored("LastFiles", "Report"), m_plain + "/" + name);
 }
 
 TEST_F(SaveDialogByKeys, RefusesANameThatIsTooLong)
@@ -354,12 +353,12 @@ TEST_F(SaveDialogByKeys, GivesNothingInAFolderWhoseNameIsNotUtf8)
     const std::string folder = m_plain + "/\xFF";
     fs::create_directories(folder);
     Store(m_plain + "/\xF4\x80\x83\xBF/report.csv");
-    const std::string stored = Stored();
+    const std::string stored = Stored("LastFiles", "Report");
     Dialog dialog(m_settings.Path(), CallAgain());
     dialog.WaitForProposal(folder, "report");
     dialog.Press("Return");
     EXPECT_EQ(dialog.Chosen(), "");
-    EXPECT_EQ(Stored(), stored);
+    EXPECT_EQ(Stored("LastFiles", "Report"), stored);
 }
 
 TEST_F(SaveDialogByKeys, StandsInTheMiddleOfItsParent)
@@ -397,7 +396,7 @@ TEST_F(OpenDialogByKeys, StartsInTheFolderOfTheRememberedFile)
     dialog.TypePath(m_plain + "/two.csv");
     dialog.Press("Return");
     EXPECT_EQ(dialog.Chosen(), m_plain + "/two.csv");
-    EXPECT_EQ(Stored(), m_plain + "/two.csv");
+    EXPECT_EQ(Stored("LastFiles", "Report"), m_plain + "/two.csv");
     EXPECT_FALSE(dialog.HadMessage());
 }
 
@@ -416,7 +415,7 @@ TEST_F(OpenDialogByKeys, GivesNoFileThatIsNotThere)
     dialog.WaitFor("the list", [](const DialogState& state) { return state.focus == "GtkTreeView"; });
     dialog.Press("Escape");
     EXPECT_EQ(dialog.Chosen(), "");
-    EXPECT_EQ(Stored(), m_plain + "/one.csv");
+    EXPECT_EQ(Stored("LastFiles", "Report"), m_plain + "/one.csv");
 }
 
 }  // namespace

@@ -15,13 +15,6 @@
 
 namespace {
 
-constexpr const wchar_t* kNothing = L"(nothing)";
-
-std::wstring Stored(const wchar_t* entry)
-{
-    return CLocalRegStore::GetString(L"LastFiles", entry, kNothing);
-}
-
 std::wstring SaveAs(const wxString& path)
 {
     const FileAnswer ok(wxID_OK, path);
@@ -72,8 +65,8 @@ TEST_F(LastFile, DoesNotMakeTheFolderOfSamples)
 TEST_F(LastFile, IsStoredWithItsFolder)
 {
     EXPECT_EQ(SaveAs("/home/u/a/report.prj"), L"/home/u/a/report.prj");
-    EXPECT_EQ(Stored(L"Report"), L"/home/u/a/report.prj");
-    EXPECT_EQ(CLocalRegStore::GetString("LastFiles", "Report", ""), "/home/u/a/report.prj");
+    EXPECT_EQ(Stored(L"LastFiles", L"Report"), L"/home/u/a/report.prj");
+    EXPECT_EQ(Stored("LastFiles", "Report"), "/home/u/a/report.prj");
 }
 
 TEST_F(LastFile, IsProposedWithoutItsExtension)
@@ -88,7 +81,7 @@ TEST_F(LastFile, IsTheOneChosenLast)
 {
     SaveAs("/usr/one");
     SaveAs("/srv/two");
-    EXPECT_EQ(Stored(L"Report"), L"/srv/two");
+    EXPECT_EQ(Stored(L"LastFiles", L"Report"), L"/srv/two");
     EXPECT_EQ(Proposed().folder, "/srv");
     EXPECT_EQ(Proposed().file, "two");
 }
@@ -98,14 +91,14 @@ TEST_F(LastFile, IsKeptExactly)
     for (const wxString path :
          {L"/usr/folder/", L"/gone/a b ", L"/\x5E33/\x1F4D2 \xE4.\x442", L"/a=b;c#d\n[e]", L"x"}) {
         EXPECT_EQ(SaveAs(path), path.ToStdWstring());
-        EXPECT_EQ(Stored(L"Report"), path.ToStdWstring());
+        EXPECT_EQ(Stored(L"LastFiles", L"Report"), path.ToStdWstring());
     }
 }
 
 TEST_F(LastFile, IsKeptInUtf8)
 {
     SaveAs(L"/\x5E33/\x1F4D2 \xE4");
-    EXPECT_EQ(CLocalRegStore::GetString("LastFiles", "Report", ""), "/\xE5\xB8\xB3/\xF0\x9F\x93\x92 \xC3\xA4");
+    EXPECT_EQ(Stored("LastFiles", "Report"), "/\xE5\xB8\xB3/\xF0\x9F\x93\x92 \xC3\xA4");
     const AskedFile asked = Proposed();
     EXPECT_EQ(asked.folder, L"/\x5E33");
     EXPECT_EQ(asked.file, L"\x1F4D2 \xE4");
@@ -140,20 +133,20 @@ TEST_F(LastFile, IsRememberedFromAFolderGivenToo)
 {
     const FileAnswer ok(wxID_OK, "/data/new.prj");
     CQVFileDialogI::LaunchSaveDialog(nullptr, L"", L"", L"", L"/data/", L"");
-    EXPECT_EQ(Stored(L"Report"), L"/data/new.prj");
+    EXPECT_EQ(Stored(L"LastFiles", L"Report"), L"/data/new.prj");
 }
 
 TEST_F(LastFile, StaysWhenTheDialogIsCancelled)
 {
     SaveAs("/usr/one");
     Cancel();
-    EXPECT_EQ(Stored(L"Report"), L"/usr/one");
+    EXPECT_EQ(Stored(L"LastFiles", L"Report"), L"/usr/one");
 }
 
 TEST_F(LastFile, IsNotMadeByCancelling)
 {
     Cancel();
-    EXPECT_EQ(Stored(L"Report"), kNothing);
+    EXPECT_EQ(Stored(L"LastFiles", L"Report"), L"(none)");
 }
 
 // The toolkit returns an empty path for a file whose name is not UTF-8.
@@ -161,7 +154,7 @@ TEST_F(LastFile, StaysWhenTheDialogGivesNoPath)
 {
     SaveAs("/usr/one");
     EXPECT_EQ(SaveAs(""), L"");
-    EXPECT_EQ(Stored(L"Report"), L"/usr/one");
+    EXPECT_EQ(Stored(L"LastFiles", L"Report"), L"/usr/one");
 }
 
 TEST_F(LastFile, IsGivenAlsoWhereItCannotBeStored)
@@ -169,7 +162,7 @@ TEST_F(LastFile, IsGivenAlsoWhereItCannotBeStored)
     WriteFile(m_settings / "file", "");
     std_file_paths::SetUserDataDir(wxString::FromUTF8(m_settings / "file/folder").ToStdWstring());
     EXPECT_EQ(SaveAs("/usr/one"), L"/usr/one");
-    EXPECT_EQ(Stored(L"Report"), kNothing);
+    EXPECT_EQ(Stored(L"LastFiles", L"Report"), L"(none)");
     EXPECT_EQ(Proposed().folder, SamplesFolder());
 }
 
@@ -179,8 +172,8 @@ TEST_F(LastFile, BelongsToItsEntry)
     EXPECT_EQ(CQVFileDialogI::SetRegEntry("Table]="), "Report");
     EXPECT_EQ(Proposed().folder, SamplesFolder());
     SaveAs("/srv/two");
-    EXPECT_EQ(Stored(L"Report"), L"/usr/one");
-    EXPECT_EQ(Stored(L"Table]="), L"/srv/two");
+    EXPECT_EQ(Stored(L"LastFiles", L"Report"), L"/usr/one");
+    EXPECT_EQ(Stored(L"LastFiles", L"Table]="), L"/srv/two");
     CQVFileDialogI::SetRegEntry("report");
     EXPECT_EQ(Proposed().folder, SamplesFolder());
     CQVFileDialogI::SetRegEntry("Report");
@@ -191,7 +184,7 @@ TEST_F(LastFile, TakesItsEntryInUtf8)
 {
     CQVFileDialogI::SetRegEntry("\xE5\xB8\xB3");
     SaveAs("/usr/one");
-    EXPECT_EQ(Stored(L"\x5E33"), L"/usr/one");
+    EXPECT_EQ(Stored(L"LastFiles", L"\x5E33"), L"/usr/one");
     EXPECT_EQ(Proposed().file, "one");
 }
 
@@ -199,7 +192,7 @@ TEST_F(LastFile, TakesItsEntryUpToANul)
 {
     CQVFileDialogI::SetRegEntry(std::string("Re\0port", 7));
     SaveAs("/usr/one");
-    EXPECT_EQ(Stored(L"Re"), L"/usr/one");
+    EXPECT_EQ(Stored(L"LastFiles", L"Re"), L"/usr/one");
     EXPECT_EQ(Proposed().file, "one");
 }
 
@@ -208,8 +201,8 @@ TEST_F(LastFile, IsStoredUnderTheEntryThatIsSetThen)
     FileAnswer ok(wxID_OK, "/usr/one");
     ok.whileShown = [] { CQVFileDialogI::SetRegEntry("Other"); };
     CQVFileDialogI::LaunchSaveDialog(nullptr, L"", L"", L"", L"", L"");
-    EXPECT_EQ(Stored(L"Report"), kNothing);
-    EXPECT_EQ(Stored(L"Other"), L"/usr/one");
+    EXPECT_EQ(Stored(L"LastFiles", L"Report"), L"(none)");
+    EXPECT_EQ(Stored(L"LastFiles", L"Other"), L"/usr/one");
 }
 
 TEST_F(LastFile, IsReadAnewEachTime)
@@ -233,8 +226,8 @@ TEST_F(LastFile, IsNeitherReadNorKeptWithoutAnEntry)
         EXPECT_EQ(Proposed(L"", L"mine").file, "mine");
         EXPECT_EQ(Proposed(L"/data/out").folder, "/data");
         EXPECT_EQ(SaveAs("/srv/two"), L"/srv/two");
-        EXPECT_EQ(Stored(L""), L"/usr/one");
-        EXPECT_EQ(Stored(L"Report"), kNothing);
+        EXPECT_EQ(Stored(L"LastFiles", L""), L"/usr/one");
+        EXPECT_EQ(Stored(L"LastFiles", L"Report"), L"(none)");
     }
 }
 

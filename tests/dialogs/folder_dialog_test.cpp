@@ -104,11 +104,6 @@ wxString ChosenFor(const wchar_t* section, const wxString& answer)
     return wxFolderDlg::DoModalReg(nullptr, section, L"Choose");
 }
 
-std::wstring Stored(const wchar_t* section)
-{
-    return CLocalRegStore::GetString(section, L"Path", L"(none)");
-}
-
 wxString MessageFor(const wchar_t* message)
 {
     const Answer cancel(wxID_CANCEL, "");
@@ -218,7 +213,7 @@ TEST_F(RememberedFolder, IsEmptyAtFirst)
 TEST_F(RememberedFolder, IsTheOneChosenLast)
 {
     EXPECT_EQ(ChosenFor(L"Import", "/usr"), "/usr");
-    EXPECT_EQ(Stored(L"Import"), L"/usr");
+    EXPECT_EQ(Stored(L"Import", L"Path"), L"/usr");
     EXPECT_EQ(RememberedFor(L"Import"), "/usr");
     EXPECT_EQ(ChosenFor(L"Import", "/usr/share"), "/usr/share");
     EXPECT_EQ(RememberedFor(L"Import"), "/usr/share");
@@ -228,7 +223,7 @@ TEST_F(RememberedFolder, IsKeptExactly)
 {
     for (const wxString folder : {L"/gone/away", L"/usr/", L" /a b ", L"/\x5E33/\x1F4D2", L"a=b;c#d\n[e]"}) {
         EXPECT_EQ(ChosenFor(L"Import", folder), folder);
-        EXPECT_EQ(Stored(L"Import"), folder.ToStdWstring());
+        EXPECT_EQ(Stored(L"Import", L"Path"), folder.ToStdWstring());
         EXPECT_EQ(RememberedFor(L"Import"), folder);
     }
 }
@@ -247,20 +242,20 @@ TEST_F(RememberedFolder, StaysWhenTheDialogIsCancelled)
     ChosenFor(L"Import", "/usr");
     const Answer cancel(wxID_CANCEL, "/srv");
     EXPECT_EQ(wxFolderDlg::DoModalReg(nullptr, L"Import", nullptr), "");
-    EXPECT_EQ(Stored(L"Import"), L"/usr");
+    EXPECT_EQ(Stored(L"Import", L"Path"), L"/usr");
 }
 
 TEST_F(RememberedFolder, IsNotMadeByCancelling)
 {
     RememberedFor(L"Import");
-    EXPECT_EQ(Stored(L"Import"), L"(none)");
+    EXPECT_EQ(Stored(L"Import", L"Path"), L"(none)");
 }
 
 TEST_F(RememberedFolder, StaysWhenNothingWasChosen)
 {
     ChosenFor(L"Import", "/usr");
     EXPECT_EQ(ChosenFor(L"Import", ""), "");
-    EXPECT_EQ(Stored(L"Import"), L"/usr");
+    EXPECT_EQ(Stored(L"Import", L"Path"), L"/usr");
 }
 
 TEST_F(RememberedFolder, IsReadAnewEachTime)
@@ -274,7 +269,7 @@ TEST_F(RememberedFolder, IsReadBeforeTheDialogAndStoredAfterIt)
 {
     ChosenFor(L"Import", "/usr");
     const auto storeAnother = [] {
-        EXPECT_EQ(Stored(L"Import"), L"/usr");
+        EXPECT_EQ(Stored(L"Import", L"Path"), L"/usr");
         CLocalRegStore::WriteString(L"Import", L"Path", L"/another");
     };
     {
@@ -282,13 +277,13 @@ TEST_F(RememberedFolder, IsReadBeforeTheDialogAndStoredAfterIt)
         ok.whileShown = storeAnother;
         EXPECT_EQ(wxFolderDlg::DoModalReg(nullptr, L"Import", nullptr), "/srv");
         EXPECT_EQ(TheOneMade().folder, "/usr");
-        EXPECT_EQ(Stored(L"Import"), L"/srv");
+        EXPECT_EQ(Stored(L"Import", L"Path"), L"/srv");
     }
     ChosenFor(L"Import", "/usr");
     Answer cancel(wxID_CANCEL, "/srv");
     cancel.whileShown = storeAnother;
     EXPECT_EQ(wxFolderDlg::DoModalReg(nullptr, L"Import", nullptr), "");
-    EXPECT_EQ(Stored(L"Import"), L"/another");
+    EXPECT_EQ(Stored(L"Import", L"Path"), L"/another");
 }
 
 // Nobody can make a folder there, not even root.
@@ -296,7 +291,7 @@ TEST_F(RememberedFolder, IsGivenAllTheSameWhereItCannotBeStored)
 {
     std_file_paths::SetUserDataDir(L"/proc/fittings");
     EXPECT_EQ(ChosenFor(L"Import", "/usr"), "/usr");
-    EXPECT_EQ(Stored(L"Import"), L"(none)");
+    EXPECT_EQ(Stored(L"Import", L"Path"), L"(none)");
     EXPECT_EQ(RememberedFor(L"Import"), "");
 }
 

@@ -48,7 +48,6 @@ protected:
         WriteFile(m_plain + "/two.csv", "2");
     }
 
-    static std::string Stored() { return CLocalRegStore::GetString("LastFiles", "Report", "(nothing)"); }
     static void Store(const std::string& path) { CLocalRegStore::WriteString("LastFiles", "Report", path.c_str()); }
 
     const TempUserData m_settings;
@@ -73,7 +72,7 @@ TEST_F(RememberingByKeys, ProposesTheFileChosenLastWithItsExtension)
     dialog.WaitForFile(m_plain + "/fresh.prj");
     dialog.Press("Escape");
     EXPECT_EQ(dialog.Chosen(), "");
-    EXPECT_EQ(Stored(), m_plain + "/fresh.prj");
+    EXPECT_EQ(Stored("LastFiles", "Report"), m_plain + "/fresh.prj");
 }
 
 TEST_F(RememberingByKeys, AsksBeforeItReplacesAFile)
@@ -124,7 +123,7 @@ TEST_F(RememberingByKeys, OpensTheFileChosenLastAgain)
     dialog.WaitForFile(m_plain + "/two.csv");
     dialog.Press("alt+o");
     EXPECT_EQ(dialog.Chosen(), m_plain + "/two.csv");
-    EXPECT_EQ(Stored(), m_plain + "/two.csv");
+    EXPECT_EQ(Stored("LastFiles", "Report"), m_plain + "/two.csv");
 }
 
 TEST_F(RememberingByKeys, OpensSeveralFiles)
@@ -138,7 +137,7 @@ TEST_F(RememberingByKeys, OpensSeveralFiles)
     const std::string chosen = dialog.Chosen();
     EXPECT_NE(chosen.find(m_plain + "/one.csv"), std::string::npos) << chosen;
     EXPECT_NE(chosen.find(m_plain + "/two.csv"), std::string::npos) << chosen;
-    EXPECT_EQ(Stored(), chosen.substr(chosen.find('|') + 1));
+    EXPECT_EQ(Stored("LastFiles", "Report"), chosen.substr(chosen.find('|') + 1));
 }
 
 TEST_F(RememberingByKeys, StartsInTheFolderChosenLast)

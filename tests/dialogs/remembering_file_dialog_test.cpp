@@ -125,7 +125,7 @@ TEST_F(RememberingFileDialog, IsAcceptedWhereNothingCanBeStored)
 {
     std_file_paths::SetUserDataDir(L"/proc/fittings");
     EXPECT_EQ(ShowAndChoose(SaveDialog(), m_plain + "/report.csv"), wxID_OK);
-    EXPECT_EQ(StoredFile(), "(nothing)");
+    EXPECT_EQ(StoredFile(), "(none)");
 }
 
 TEST_F(RememberingFileDialog, CanBeMadeInTwoSteps)

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include <fittings/platform/local_reg_store.h>
+
 /// Makes temporary folders in memory, where the system has a place for that, as long as the object lives. A test that
 /// saves a thousand files would wait long for a disk, and on a busy disk its locks would time out.
 class InMemory
@@ -44,6 +46,16 @@ public:
     TempUserData();
     ~TempUserData();
 };
+
+/// Returns the default store's value of a key, or "(none)".
+inline std::wstring Stored(const wchar_t* section, const wchar_t* key)
+{
+    return CLocalRegStore::GetString(section, key, L"(none)");
+}
+inline std::string Stored(const char* section, const char* key)
+{
+    return CLocalRegStore::GetString(section, key, "(none)");
+}
 
 /// Returns the sorted names of a folder's contents.
 std::vector<std::string> NamesIn(const std::string& folder);

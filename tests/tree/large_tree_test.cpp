@@ -67,8 +67,6 @@ protected:
     CountingTree& tree = *screen.tree;
     wxTreeCursor root = tree.AddRoot("root");
 
-    static std::wstring Stored() { return CLocalRegStore::GetString(L"TreeControlState", L"state", L"(nothing)"); }
-
     /// Makes a root with many children; with a @a step, each @a step-th child is expanded.
     void MakeWide(int step)
     {
@@ -101,7 +99,7 @@ TEST_F(LargeTree, IsSavedByAFixedNumberOfStepsASibling)
     EXPECT_LE(tree.byCookie, 2 * kWidth + 2);
     EXPECT_EQ(tree.labels, kWidth + 1);
 
-    const std::wstring stored = Stored();
+    const std::wstring stored = StoredState(L"state");
     EXPECT_EQ(stored.size(), 50'000u * 7);
     EXPECT_EQ(stored.substr(0, 21), L"000000|000002|000004|");
     EXPECT_EQ(stored.substr(stored.size() - 14), L"099996|099998|");
@@ -157,10 +155,10 @@ TEST_F(LargeTree, OfOneLabelIsSavedAsOne)
         }
     }
     tree.SaveState("state", root);
-    EXPECT_EQ(Stored(), L"same|");
+    EXPECT_EQ(StoredState(L"state"), L"same|");
     root.AppendItem("same");
     tree.SaveState("state", root);
-    EXPECT_EQ(Stored(), L"");
+    EXPECT_EQ(StoredState(L"state"), L"");
 }
 
 // With so many labels, some have equal 32-bit hashes.
@@ -176,7 +174,7 @@ TEST_F(LargeTree, TellsAllItsLabelsApart)
         }
     }
     tree.SaveState("state", root);
-    EXPECT_EQ(Stored().size(), kCount * 7u);
+    EXPECT_EQ(StoredState(L"state").size(), kCount * 7u);
 }
 
 TEST_F(LargeTree, FindsEachLabelAgain)
@@ -184,7 +182,7 @@ TEST_F(LargeTree, FindsEachLabelAgain)
     MakeWide(1);
     MakeWide(0);
     tree.SaveState("state", root);
-    EXPECT_EQ(Stored(), L"");
+    EXPECT_EQ(StoredState(L"state"), L"");
 }
 
 TEST_F(LargeTree, IsSavedInOrderWhateverItsOwn)
@@ -201,7 +199,7 @@ TEST_F(LargeTree, IsSavedInOrderWhateverItsOwn)
     for (int i = 0; i < 1'000; ++i)
         expected += wxString::Format("%03d|", i).ToStdWstring();
     tree.SaveState("state", root);
-    EXPECT_EQ(Stored(), expected);
+    EXPECT_EQ(StoredState(L"state"), expected);
 }
 
 TEST_F(LargeTree, IsSavedAndVisitedWhateverItsDepth)
@@ -211,7 +209,7 @@ TEST_F(LargeTree, IsSavedAndVisitedWhateverItsDepth)
     last.SetChildren(true);
     last.Expand();
     tree.SaveState("state", root);
-    EXPECT_EQ(Stored(), L"099999|");
+    EXPECT_EQ(StoredState(L"state"), L"099999|");
 
     tree.Collapse(last.item);
     tree.ForgetCounts();
@@ -235,9 +233,9 @@ TEST_F(LargeTree, IsRestoredAsDeepAsTheToolkitBears)
 
     // The last item is a leaf and cannot be expanded.
     tree.SaveState("state", root);
-    EXPECT_EQ(Stored().size(), (kDepth - 1) * 7u + 5);
-    EXPECT_EQ(Stored().substr(0, 14), L"000000|000001|");
-    EXPECT_EQ(Stored().substr(Stored().size() - 12), L"019998|root|");
+    EXPECT_EQ(StoredState(L"state").size(), (kDepth - 1) * 7u + 5);
+    EXPECT_EQ(StoredState(L"state").substr(0, 14), L"000000|000001|");
+    EXPECT_EQ(StoredState(L"state").substr(StoredState(L"state").size() - 12), L"019998|root|");
 }
 
 }  // namespace

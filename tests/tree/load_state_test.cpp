@@ -185,7 +185,7 @@ TEST_F(LoadState, ExpandsInTheTreeOfTheCursor)
 TEST_F(LoadState, LeavesWhatIsStoredAsItIs)
 {
     Load(L"gone|R|unfinished");
-    EXPECT_EQ(CLocalRegStore::GetString(L"TreeControlState", L"state", L"(nothing)"), L"gone|R|unfinished");
+    EXPECT_EQ(StoredState(L"state"), L"gone|R|unfinished");
 }
 
 TEST_F(LoadState, FindsUnicodeLabels)
@@ -292,7 +292,7 @@ TEST_F(LoadState, BearsAControlThatIsNotCreated)
     item.AppendItem("A");
     pending.LoadState("state", item);
     pending.SaveState("state", item);
-    EXPECT_EQ(CLocalRegStore::GetString(L"TreeControlState", L"state", L"(nothing)"), L"");
+    EXPECT_EQ(StoredState(L"state"), L"");
 }
 
 }  // namespace

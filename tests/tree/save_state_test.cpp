@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <fittings/platform/local_reg_store.h>
 #include <fittings/platform/std_file_paths.h>
 #include <tests/support/temp_folder.h>
 #include <tests/tree/tree_on_screen.h>
@@ -16,15 +15,10 @@ class SaveState : public testing::Test
 protected:
     SaveState() { root = tree.AddRoot("R"); }
 
-    static std::wstring Stored(const wchar_t* name)
-    {
-        return CLocalRegStore::GetString(L"TreeControlState", name, L"(nothing)");
-    }
-
     std::wstring Saved(wxTreeCursor start)
     {
         tree.SaveState("state", start);
-        return Stored(L"state");
+        return StoredState(L"state");
     }
 
     wxTreeCursor AppendExpanded(wxTreeCursor parent, const wxString& label)
@@ -173,15 +167,15 @@ TEST_F(SaveState, WithoutANameGoesUnderTheProfile)
     AppendExpanded(root, "A");
     tree.SetProfile("profile");
     tree.SaveState(root);
-    EXPECT_EQ(Stored(L"profile"), L"A|");
-    EXPECT_EQ(Stored(L""), L"(nothing)");
+    EXPECT_EQ(StoredState(L"profile"), L"A|");
+    EXPECT_EQ(StoredState(L""), L"(none)");
 }
 
 TEST_F(SaveState, WithoutANameAndProfileGoesUnderTheEmptyKey)
 {
     AppendExpanded(root, "A");
     tree.SaveState(root);
-    EXPECT_EQ(Stored(L""), L"A|");
+    EXPECT_EQ(StoredState(L""), L"A|");
 }
 
 TEST_F(SaveState, KeepsSeveralNamesApart)
@@ -193,8 +187,8 @@ TEST_F(SaveState, KeepsSeveralNamesApart)
     root.Expand();
     tree.SaveState("one", root);
     other.tree->SaveState("two", otherRoot);
-    EXPECT_EQ(Stored(L"one"), L"R|");
-    EXPECT_EQ(Stored(L"two"), L"other|");
+    EXPECT_EQ(StoredState(L"one"), L"R|");
+    EXPECT_EQ(StoredState(L"two"), L"other|");
 }
 
 TEST_F(SaveState, WalksTheTreeOfTheCursor)
@@ -221,7 +215,7 @@ TEST_F(SaveState, IsLostQuietlyWhereNothingCanBeStored)
     std_file_paths::SetUserDataDir(L"/proc/fittings");
     root.AppendItem("A");
     root.Expand();
-    EXPECT_EQ(Saved(root), L"(nothing)");
+    EXPECT_EQ(Saved(root), L"(none)");
     tree.Collapse(root.item);
     tree.LoadState("state", root);
     EXPECT_FALSE(root.IsExpanded());

@@ -12,6 +12,7 @@
 
 #include <fittings/tree/handy_tree_ctrl.h>
 #include <tests/support/gui.h>
+#include <tests/support/temp_folder.h>
 
 using Labels = std::vector<std::wstring>;
 
@@ -72,6 +73,12 @@ public:
         wxHandyTreeCtrl::Expand(item);
     }
 };
+
+/// Returns the stored state of the tree of that name.
+inline std::wstring StoredState(const wchar_t* name)
+{
+    return Stored(L"TreeControlState", name);
+}
 
 /// Adds a root with the has-children flag.
 inline wxTreeCursor AddLazyRoot(wxTreeCtrlEx& tree, const wxString& label)

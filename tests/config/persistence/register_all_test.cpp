@@ -33,7 +33,7 @@ public:
 
 std::wstring StoredOf(const std::wstring& section, const wchar_t* key)
 {
-    return CLocalRegStore::GetString((L"Persistent_Options/" + section).c_str(), key, L"(none)");
+    return Stored((L"Persistent_Options/" + section).c_str(), key);
 }
 
 void DestroyNow(wxWindow* window)

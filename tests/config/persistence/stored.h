@@ -29,7 +29,7 @@ inline void StoreValue(const std::wstring& kind, const wchar_t* key, const std::
 /// Returns what is on the disk for the object "w".
 inline std::wstring StoredValue(const std::wstring& kind, const wchar_t* key)
 {
-    return CLocalRegStore::GetString(StoredSection(kind).c_str(), key, L"(none)");
+    return Stored(StoredSection(kind).c_str(), key);
 }
 
 #endif

@@ -6,6 +6,7 @@
 #include <fittings/config/owned_ini_file.h>
 #include <fittings/platform/file_util_ex.h>
 #include <fittings/platform/local_reg_store.h>
+#include <tests/support/temp_folder.h>
 
 /// One INI file object.
 class Ini
@@ -37,11 +38,5 @@ public:
 private:
     fittings::OwnedIniFile m_file{CLocalRegStore::CreateInitFile(false)};
 };
-
-/// Returns the default store's value of a key, or "(none)".
-inline std::wstring Stored(const wchar_t* section, const wchar_t* key)
-{
-    return CLocalRegStore::GetString(section, key, L"(none)");
-}
 
 #endif
