@@ -16,6 +16,7 @@
 #include <tests/faults/jumping_clock.h>
 #include <tests/platform/processes/held_lock.h>
 #include <tests/platform/store/store_support.h>
+#include <tests/support/file_stamp.h>
 #include <tests/support/patience.h>
 #include <tests/support/process/forked_work.h>
 #include <tests/support/temp_folder.h>
@@ -185,8 +186,7 @@ TEST_P(ClockJumps, HideNoChangeInPlace)
     const std::string path = data / "settings.ini";
     WriteFile(path, "[s]\nk=1\n");
     const timespec first = TimeOf(path);
-    // Later than the file's timestamp can resolve, so that the copy is kept.
-    std::this_thread::sleep_for(std::chrono::milliseconds(30));
+    WaitPastStamp(path);  // so that the copy is kept
     EXPECT_EQ(Stored(L"s", L"k"), L"1");
     clock.Jump(GetParam());
     WriteFile(path, "[s]\nk=2\n");

@@ -28,6 +28,7 @@
 
 #include <fittings/platform/std_file_paths.h>
 #include <tests/platform/store/store_support.h>
+#include <tests/support/file_stamp.h>
 #include <tests/support/patience.h>
 #include <tests/support/process/forked_work.h>
 #include <tests/support/temp_folder.h>
@@ -316,7 +317,7 @@ TEST(AChangeInPlace, IsSeenWhenItsTimeIsPutBack)
     WriteFile(path, "[s]\nk=1\n");
     struct stat info;
     ASSERT_EQ(stat(path.c_str(), &info), 0);
-    std::this_thread::sleep_for(std::chrono::milliseconds(30));  // later than the timestamp can resolve
+    WaitPastStamp(path);
     EXPECT_EQ(Stored(L"s", L"k"), L"1");
     WriteFile(path, "[s]\nk=2\n");
     const timespec times[] = {info.st_atim, info.st_mtim};

@@ -1,0 +1,26 @@
+#ifndef FITTINGS_TESTS_SUPPORT_FILE_STAMP_H_
+#define FITTINGS_TESTS_SUPPORT_FILE_STAMP_H_
+
+#include <ctime>
+#include <string>
+#include <utility>
+
+#include <sys/stat.h>
+
+#include <gtest/gtest.h>
+
+#include <tests/support/becomes.h>
+
+/// Waits until a change of the file would give it another time.
+inline void WaitPastStamp(const std::string& path)
+{
+    struct stat info = {};
+    ASSERT_EQ(stat(path.c_str(), &info), 0);
+    EXPECT_TRUE(Becomes([&] {
+        timespec now = {};
+        clock_gettime(CLOCK_REALTIME_COARSE, &now);  // the clock that the kernel takes a file's times from
+        return std::pair(now.tv_sec, now.tv_nsec) > std::pair(info.st_ctim.tv_sec, info.st_ctim.tv_nsec);
+    }));
+}
+
+#endif
