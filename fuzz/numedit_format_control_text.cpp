@@ -86,7 +86,8 @@ void CheckNumber(const std::wstring& number, const NumberInput& input, const std
         Check(shownDecimals <= decimals, "a rounded number has at most the given decimals");
     if (isPadded && !hasExponent)
         Check(shownDecimals >= std::min<std::uint64_t>(decimals, 1'000'000), "a padded number has all its decimals");
-    // Removing the plus sign exposes the zeros after it. A rounded number may end in zeros.
+    // A second call may change two kinds: a number that lost its plus sign, because its zeros are now trimmed, and a
+    // rounded number that ends in zeros.
     if (number[0] != L'+' && (!isRounded || (isPadded && !hasExponent)))
         Check(Show(bare, Bare(format)) == bare, "a second call changes nothing");
 

@@ -19,7 +19,8 @@
 class FITTINGS_API wxColorPopupListener
 {
 public:
-    /// The popup is about to be shown. If the combo's value names a colour of the palette, its cell becomes hot next.
+    /// The popup is about to be shown. If the combo's value names a colour of the palette, that colour's cell
+    /// becomes hot next.
     virtual void OnColourPopup();
 
     /// Another cell became hot; @a colour is the colour of that cell.

@@ -83,7 +83,7 @@ public:
         return TakeNumber(least, most);
     }
 
-    /// Returns the end of the next pane, whose texts have a "\" before each "|".
+    /// Returns the end of the next pane: the first "|" without a "\" before it.
     std::size_t EndOfPane() const
     {
         std::size_t end = m_rest.find(L'|');

@@ -62,7 +62,7 @@ wxString ShownPath(const StorePath& path)
     return path.empty() ? wxString() : wxString(kSeparator + fittings::SectionOf(path));
 }
 
-// Views a text of the toolkit as a standard one. Valid as long as the toolkit's text.
+// Views a wxString as a std::wstring_view. Valid until the wxString changes.
 class TextView
 {
 public:

@@ -102,7 +102,7 @@ bool wxRememberingFileDialog::Create(wxWindow* parent, const wxString& entry, co
     // GTK's dialog drops the filter when it is told to select a file that the filter hides.
     if (HasFlag(wxFD_SAVE) ? !name.empty() : Shows(pattern, name) && wxFileExists(folder + "/" + name))
         SetFilename(name);
-    // Set the filter after the name: the toolkit chooses a filter for a name to open.
+    // Set the filter last: in a dialog to open, SetFilename() makes the toolkit choose another filter.
     SetFilterIndex(filter);
     return true;
 }

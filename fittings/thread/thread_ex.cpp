@@ -98,7 +98,7 @@ wxThreadEx::wxThreadEx(wxThreadKind kind)
 {
 }
 
-// The toolkit deletes the implementation at the end of its thread.
+// Does not delete m_impl: the toolkit does, when the thread ends.
 wxThreadEx::~wxThreadEx()
 {
     if (!m_detached)

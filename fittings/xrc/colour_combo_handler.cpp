@@ -24,7 +24,8 @@ bool wxColourComboXmlHandler::CanHandle(wxXmlNode* node)
 
 namespace {
 
-// Accepts the notations that wxColourPickerCtrl's handler accepts. The name of a colour is the text of the field.
+// Accepts the notations that wxColourPickerCtrl's handler accepts. The name of a colour is not one of them: it becomes
+// the field's text.
 bool IsColour(const wxString& value)
 {
     return (value.StartsWith("#") || value.StartsWith("rgb")) && wxColour(value).IsOk();

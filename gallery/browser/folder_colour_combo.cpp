@@ -12,8 +12,8 @@ public:
     {
         if (m_nCurrentSel == CELL_AUTOMATIC)
             return {};
-        // Enter without a move, and a cancelled dialog, report the colour that was shown, which may be that of
-        // "Automatic".
+        // If the user presses Enter without moving, or cancels the dialog, the popup reports the shown colour. This may
+        // be the colour of "Automatic".
         const bool ofPalette = m_nCurrentSel >= 0;
         return !ofPalette && colour == (own.IsOk() ? own : GetDefaultColour()) ? own : colour;
     }

@@ -38,7 +38,7 @@ wxString HumanSize(std::uint64_t bytes);
 /// Returns a text such as "1.2 kB (1,234 bytes)", or "1 byte" if the short form is exact.
 wxString ExactSize(std::uint64_t bytes);
 
-/// Returns the locale's format with grouped digits. If the locale has no separator, it is a no-break space.
+/// Returns the locale's format with grouped digits. If the locale has no separator, a no-break space is used.
 CNumberFormat GroupingFormat();
 
 /// Returns a text such as "171,661", with the separator of GroupingFormat().

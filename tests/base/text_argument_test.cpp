@@ -214,7 +214,7 @@ TEST(TextsOfAnyKind, AreEmptyForANullPointer)
     EXPECT_EQ(ui_config_mgr::GetConfigString(L"null.ini", nullptr, 0), L"value");
 }
 
-// The address of a function with a known type, and the types of results.
+// These must compile: the address of an overload is taken by its type, and the types of the results stay.
 [[maybe_unused]] constexpr void (*kWriteText)(Wide, Wide, Wide, Wide) = &ui_config_mgr::WriteConfigString;
 [[maybe_unused]] constexpr bool (*kLoadFrame)(wxFrame*, Wide) = wx_window_state::LoadState;
 [[maybe_unused]] constexpr bool (*kLoadPanes)(wxAuiManager*, Wide) = &wx_window_state::LoadAuiManagerState;

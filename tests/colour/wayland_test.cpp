@@ -59,7 +59,7 @@ wxPoint CompositorsPlace()
 class ColourOnWayland : public testing::Test
 {
 protected:
-    // The compositor gives its whole window to its only program.
+    // The compositor is kiosk-shell: its only program fills the whole window.
     ColourOnWayland()
         : compositor({"weston", "--backend=x11-backend.so", "--use-pixman", "--width=900", "--height=600",
                       "--shell=kiosk-shell.so", "--no-config", "--idle-time=0", std::string("--socket=") + kSocket},

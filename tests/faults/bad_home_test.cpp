@@ -234,7 +234,7 @@ TEST_P(BadHome, GivesTheSaveDialogTheLastFile)
     CQVFileDialogI::SetRegEntry("");
 }
 
-// A separate program with the same home folder.
+// Shows the folder dialog in a separate program with the same home folder, and returns the chosen folder.
 std::string Chosen(const std::string& startFolder)
 {
     DrivenDialog dialog({FOLDER_DIALOG_PROBE, DataFolder(), "reg", "Choose one", "Import"}, "Choose one");

@@ -6,8 +6,8 @@
 
 #include <fittings/platform/local_reg_store.h>
 
-/// Makes temporary folders in memory, where the system has a place for that, as long as the object lives. A test that
-/// saves a thousand files would wait long for a disk, and on a busy disk its locks would time out.
+/// While this object exists, temporary folders are in memory, if the system allows it. On a disk, a test that saves a
+/// thousand files is slow, and on a busy disk its locks time out.
 class InMemory
 {
 public:

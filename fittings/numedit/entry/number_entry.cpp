@@ -105,12 +105,12 @@ void NumberEntry::OnDelete(GtkEditable* entry, int begin, int end, NumberEntry* 
     self->Deleting(begin, end);
 }
 
-/// Inserts a dropped text as GTK does. GTK tells the source that each text was taken, and then the source deletes a text
-/// that is moved: so it is told here when the text was refused.
+/// Inserts a dropped text as GTK does, but tells the source when the text was refused. GTK tells it that each text was
+/// taken, and the source then deletes a text that is moved.
 void NumberEntry::OnDropped(GtkWidget* entry, GdkDragContext* drag, int x, int, GtkSelectionData* data, unsigned,
                             unsigned time, NumberEntry* self)
 {
-    // A drop target of the program's own lists no targets with GTK.
+    // If the program has set its own wxDropTarget, GTK's list is empty: leave the drop to that target.
     if (!gtk_drag_dest_get_target_list(entry))
         return;
     g_signal_stop_emission_by_name(entry, "drag-data-received");

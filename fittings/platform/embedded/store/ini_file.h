@@ -20,8 +20,8 @@ class CIniFile
 public:
     using Reader = decltype(fittings::ReadFileBytes);
 
-    /// Reads the file in place of the present content. Returns false when the file could not be read, or when it has no
-    /// settings and is not text.
+    /// Reads the file in place of the present content. Returns false when the file could not be read, or when its
+    /// bytes have no settings and are not readable text.
     bool Load(const std::string& path, Reader* read = fittings::ReadFileBytes);
 
     /// Loads the file and makes the changes in it, unless the file has certainly not changed since the last load and
@@ -32,7 +32,8 @@ public:
     /// Does the same for a path in wide text. The path of the last call is not converted again.
     bool Refresh(std::wstring_view path);
 
-    /// Reads @a text in place of the present content. Returns false when it has no settings and is not text.
+    /// Reads @a text in place of the present content. Returns false when it has no settings and is not
+    /// readable text.
     bool Parse(std::string text);
 
     /// Writes the file if its bytes change.
