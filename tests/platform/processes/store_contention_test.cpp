@@ -288,6 +288,16 @@ TEST(AFolderInPlaceOfTheLockFile, LosesNothing)
     Contend(6, 10 * Soak());
 }
 
+TEST(ALinkInPlaceOfTheLockFile, IsNotFollowedAndLosesNothing)
+{
+    const InMemory inMemory;
+    const TempUserData data;
+    const TempFolder elsewhere;
+    std::filesystem::create_symlink(elsewhere / "made", data / "settings.ini.lock");
+    Contend(6, 10 * Soak());
+    EXPECT_EQ(NamesIn(elsewhere.Path()), std::vector<std::string>());
+}
+
 TEST(ALockFileThatCannotBeOpened, LosesNothing)
 {
     const InMemory inMemory;
@@ -348,6 +358,37 @@ TEST(AnEmptiedFile, IsGivenTheValueAgainThatIsWritten)
     std::filesystem::resize_file(data / "settings.ini", 0);
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"1"));
     EXPECT_EQ(ReadFile(data / "settings.ini"), "[s]\nk=1\n");
+}
+
+// The folder's owner may put a link in place of the new file while a program of root writes it.
+TEST(ALinkInPlaceOfTheNewFile, ChangesNoOtherFile)
+{
+    const TempUserData data;
+    const TempFolder elsewhere;
+    WriteFile(elsewhere / "secret", "s");
+    ASSERT_EQ(chmod((elsewhere / "secret").c_str(), 0600), 0);
+    WriteFile(data / "settings.ini", "[s]\nk=0\n");
+    ASSERT_EQ(chmod((data / "settings.ini").c_str(), 0666), 0);
+    if (geteuid() == 0) {
+        ASSERT_EQ(chown((data / "settings.ini").c_str(), 65534, 65534), 0);
+    }
+    int replaced = 0;
+    g_watchedCalls.beforeSync = [&] {
+        for (const std::string& name : NamesIn(data.Path()))
+            if (replaced == 0 && name.rfind(".fittings-save-", 0) == 0) {
+                std::filesystem::remove(data / name);
+                std::filesystem::create_symlink(elsewhere / "secret", data / name);
+                ++replaced;
+            }
+    };
+    CLocalRegStore::WriteString(L"s", L"k", L"1");
+    g_watchedCalls.beforeSync = nullptr;
+    EXPECT_EQ(replaced, 1);
+    struct stat info;
+    ASSERT_EQ(stat((elsewhere / "secret").c_str(), &info), 0);
+    EXPECT_EQ(info.st_mode & 07777, 0600U);
+    EXPECT_EQ(info.st_uid, geteuid());
+    EXPECT_EQ(ReadFile(elsewhere / "secret"), "s");
 }
 
 TEST(RootInTheFolderOfAnotherUser, GivesTheFilesToThatUser)

@@ -364,15 +364,11 @@ std::string KeepUnderOtherName(const std::string& path)
     return {};
 }
 
-void GiveToOwnerOfFolder(const std::string& path, const std::string& folder)
+void GiveToOwnerOfFolder(int fd, const std::string& folder)
 {
     struct stat owner;
-    struct stat file;
-    if (geteuid() != 0 || stat(folder.c_str(), &owner) != 0 || owner.st_uid == 0)
-        return;
-    // Skip a file with several names: another name could be in a folder of root.
-    if (lstat(path.c_str(), &file) == 0 && S_ISREG(file.st_mode) && file.st_uid == 0 && file.st_nlink == 1)
-        static_cast<void>(!lchown(path.c_str(), owner.st_uid, owner.st_gid));
+    if (geteuid() == 0 && stat(folder.c_str(), &owner) == 0 && owner.st_uid != 0)
+        static_cast<void>(!fchown(fd, owner.st_uid, owner.st_gid));
 }
 
 std::string FolderOf(const std::string& path)

@@ -92,8 +92,9 @@ UpdateResult UpdateFileBytes(const std::string& path, const FileUpdate& update);
 /// an empty text on any error.
 std::string KeepUnderOtherName(const std::string& path);
 
-/// If root has made the file in the folder of another user, makes that user its owner, who could not use it otherwise.
-void GiveToOwnerOfFolder(const std::string& path, const std::string& folder);
+/// If root has made the open file in the folder of another user, makes that user its owner, who could not use it
+/// otherwise. Only for a file that this process has just made.
+void GiveToOwnerOfFolder(int fd, const std::string& folder);
 
 /// Returns the folder that the file at @a path is in.
 std::string FolderOf(const std::string& path);

@@ -81,15 +81,27 @@ bool WaitForLock(int fd, FileLock::Clock::time_point deadline)
     }
 }
 
+// Does not follow a link: its target could be any file of another user. Returns -1 on any error.
+int OpenLockFile(const std::string& path)
+{
+    constexpr int kFlags = O_RDWR | O_CLOEXEC | O_NONBLOCK | O_NOCTTY | O_NOFOLLOW;
+    const int found = open(path.c_str(), kFlags);
+    if (found >= 0 || errno != ENOENT)
+        return found;
+    const int made = open(path.c_str(), kFlags | O_CREAT | O_EXCL, 0600);
+    if (made >= 0)
+        GiveToOwnerOfFolder(made, FolderOf(path));
+    // Another process may have made it just now.
+    return made < 0 && errno == EEXIST ? open(path.c_str(), kFlags) : made;
+}
+
 }  // namespace
 
-FileLock::FileLock(const std::string& path, Clock::time_point deadline)
-    : m_file(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, 0600))
+FileLock::FileLock(const std::string& path, Clock::time_point deadline) : m_file(OpenLockFile(path))
 {
     const int fd = m_file.Get();
     if (fd < 0)
         return;
-    GiveToOwnerOfFolder(path, FolderOf(path));
     const Attempt turn = WaitForTurn(fd, deadline);
     if (turn == Attempt::Impossible)
         return;

@@ -1,6 +1,7 @@
 #include <fittings/platform/embedded/file/staged_file.h>
 
 #include <cerrno>
+#include <cstddef>
 #include <cstdio>
 #include <ctime>
 #include <memory>
@@ -11,6 +12,7 @@
 #include <unistd.h>
 
 #include <glib.h>
+#include <glib/gstdio.h>
 
 #include <fittings/platform/embedded/file/file_bytes.h>
 #include <fittings/platform/embedded/file/file_descriptor.h>
@@ -26,20 +28,23 @@ constexpr std::string_view kPrefix = ".fittings-save-";
 // Older temporary files were left by processes that were killed while they saved.
 constexpr time_t kLifetimeSeconds = 60;
 
-// Makes an empty file with a name that no person would choose. Returns an empty text on any error.
-std::string MakeFile(const std::string& folder)
+// Makes an empty file with a name that no person would choose, and opens it. Sets @a path only on success. Returns -1 on
+// any error.
+int MakeFile(const std::string& folder, std::string& path)
 {
     for (int attempt = 0; attempt < 1000; ++attempt) {
         const std::string name = std::string(kPrefix) + GText(g_uuid_string_random(), g_free).get();
-        std::string path = folder + "/" + name;
-        const FileDescriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOCTTY, 0600));
-        if (file.Get() >= 0)
-            return path;
+        std::string made = folder + "/" + name;
+        const int file = open(made.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOCTTY, 0600);
+        if (file >= 0) {
+            path = std::move(made);
+            return file;
+        }
         // Try again: a forked process gets the same random numbers as its parent.
         if (errno != EEXIST)
             break;
     }
-    return {};
+    return -1;
 }
 
 bool IsStagingName(std::string_view name)
@@ -65,18 +70,25 @@ void RemoveLeftovers(const std::string& folder)
 }
 
 // When this returns true, the bytes are on the disk.
-bool WriteDurably(const std::string& path, std::string_view bytes)
+bool WriteDurably(int fd, std::string_view bytes)
 {
-    return g_file_set_contents_full(path.c_str(), bytes.data(), static_cast<gssize>(bytes.size()),
-                                    G_FILE_SET_CONTENTS_DURABLE, 0600, nullptr);
+    while (!bytes.empty()) {
+        const ssize_t count = write(fd, bytes.data(), bytes.size());
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0)
+            return false;
+        bytes.remove_prefix(static_cast<std::size_t>(count));
+    }
+    return g_fsync(fd) == 0;
 }
 
-void KeepOwnerAndMode(const std::string& path, const struct stat& old)
+void KeepOwnerAndMode(int fd, const struct stat& old)
 {
     // Ignore an error, for example on a file system without owners: saving is more important.
     if (old.st_uid != geteuid() || old.st_gid != getegid())
-        static_cast<void>(!chown(path.c_str(), old.st_uid, old.st_gid));
-    static_cast<void>(!chmod(path.c_str(), old.st_mode & 07777));
+        static_cast<void>(!fchown(fd, old.st_uid, old.st_gid));
+    static_cast<void>(!fchmod(fd, old.st_mode & 07777));
 }
 
 }  // namespace
@@ -85,14 +97,15 @@ StagedFile::StagedFile(std::string target, std::string_view bytes, const struct 
 {
     const std::string folder = FolderOf(m_target);
     RemoveLeftovers(folder);
-    m_path = MakeFile(folder);
-    if (m_path.empty())
+    // Use the open file and not its name: the folder's owner can put a link to a file of root in its place meanwhile.
+    const FileDescriptor file(MakeFile(folder, m_path));
+    if (file.Get() < 0)
         return;
-    m_isWritten = WriteDurably(m_path, bytes);
+    m_isWritten = WriteDurably(file.Get(), bytes);
     if (old)
-        KeepOwnerAndMode(m_path, *old);
+        KeepOwnerAndMode(file.Get(), *old);
     else
-        GiveToOwnerOfFolder(m_path, folder);
+        GiveToOwnerOfFolder(file.Get(), folder);
 }
 
 StagedFile::~StagedFile()
