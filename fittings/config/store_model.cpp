@@ -113,9 +113,11 @@ void StoreModel::Set(StoreGroup& group, std::wstring_view name, std::wstring_vie
         if (const auto removed = m_removed.find(group.Section()); removed != m_removed.end())
             removed->second.erase(std::wstring(name));
     }
-    if (!group.isSection)
-        m_dropped.erase(group.Section());
-    group.isSection = true;
+    if (!group.isSection) {
+        AddSection(group);
+        // As in wxFileConfig, a group stays when its last entry is deleted alone. The root needs no section.
+        group.isMade = group.parent != nullptr;
+    }
 }
 
 void StoreModel::Remove(StoreGroup& group, std::wstring_view name)
@@ -127,8 +129,7 @@ void StoreModel::Remove(StoreGroup& group, std::wstring_view name)
 
 void StoreModel::AddSection(StoreGroup& group)
 {
-    if (group.isSection)
-        return;
+    // Even if it was stored before: another process may have removed it.
     group.isSection = true;
     group.isMade = true;
     m_dropped.erase(group.Section());

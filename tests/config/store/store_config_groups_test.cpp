@@ -338,6 +338,27 @@ TEST_F(StoreConfig, StoresAGroupWithoutEntries)
     EXPECT_EQ(Saved(), "");
 }
 
+TEST_F(StoreConfig, StoresAGroupThatHasLostItsEntries)
+{
+    EXPECT_TRUE(m_config->Write("/a/k", "1"));
+    EXPECT_TRUE(m_config->DeleteEntry("/a/k", false));
+    EXPECT_TRUE(m_config->Write("/a/", ""));
+    EXPECT_TRUE(m_config->Write("/b/k", "1"));
+    EXPECT_TRUE(m_config->DeleteEntry("/b/k", false));
+    EXPECT_EQ(Saved(), "[a]\n[b]\n");
+}
+
+TEST_F(StoreConfig, StoresAGroupAgainThatAnotherHasDeleted)
+{
+    EXPECT_TRUE(m_config->Write("/a/k", "1"));
+    EXPECT_EQ(Saved(), "[a]\nk=1\n");
+    wxStoreConfig other("test.ini");
+    EXPECT_TRUE(other.DeleteGroup("/a"));
+    EXPECT_TRUE(other.Flush());
+    EXPECT_TRUE(m_config->Write("/a/", ""));
+    EXPECT_EQ(Saved(), "[a]\n");
+}
+
 TEST_F(StoreConfig, FindsNoEntryOfAnotherGroup)
 {
     Open("[%]\ncommunity=censored\n[City1]\nURL=www.fake1.na\n[City1/A1]\n[City1/A1/1]\nIP=192.168.1.66\n"
