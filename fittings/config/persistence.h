@@ -57,7 +57,8 @@ public:
     /// before the first window is registered, for example in wxApp::OnInit(). Further calls do nothing.
     static wxStorePersistenceManager& Install();
 
-    /// Saves what was collected. Returns false when that failed; the values then stay collected.
+    /// Saves what was collected. Returns false when that failed; the values then stay collected. During a
+    /// CLocalRegStore::Batch of the thread, the values pass to the batch as in wxStoreConfig::Flush().
     bool Flush();
 
     /// @name For the persistent objects

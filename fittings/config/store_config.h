@@ -55,8 +55,8 @@ public:
     /// program and with another @a old. An entry that already exists keeps its value. Texts are taken literally:
     /// environment variables are not expanded. @a old keeps its path and options.
     ///
-    /// Saves at once, with everything that was collected. Returns false when that failed; the next call then tries
-    /// again.
+    /// Saves at once as Flush() does, with everything that was collected. Returns false when that failed; the next call
+    /// then tries again.
     bool ImportFrom(wxConfigBase& old);
 
     /// @name The current group
@@ -100,6 +100,10 @@ public:
 
     /// Saves the changes since the last save, in all groups. Returns false when that failed; the changes are then kept
     /// for the next call.
+    ///
+    /// While the thread has a CLocalRegStore::Batch, the changes of the default store pass to the batch, and the result
+    /// is true. This object then keeps them no longer. The batch saves them at its end at the latest; if that fails,
+    /// they are lost. Call CLocalRegStore::Batch::Save() to learn whether they are stored.
     bool Flush(bool currentOnly = false) override;
 
 protected:

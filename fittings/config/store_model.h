@@ -73,7 +73,8 @@ public:
     void SetHidden(const std::wstring& section, const std::wstring& key, const std::wstring& value);
     /// @}
 
-    /// Returns false when saving failed; the changes are then kept for the next call.
+    /// Returns false when saving failed; the changes are then kept for the next call. A batch of the thread takes over
+    /// the changes of the default store, and the result is true.
     bool Save();
 
 private:

@@ -189,6 +189,24 @@ TEST(TheDefaultStoreAsAConfig, IsPartOfTheThreadsBatch)
     EXPECT_EQ(Dump(config), "[h]\nk=4\n");
 }
 
+TEST(TheDefaultStoreAsAConfig, LeavesItsChangesToTheBatchThatSavesThemLater)
+{
+    const TempUserData data;
+    wxStoreConfig config;
+    CLocalRegStore::Batch batch;
+    EXPECT_TRUE(config.Write("g/k", "1"));
+    EXPECT_TRUE(config.Flush());
+    std::filesystem::create_directory(data / "settings.ini");
+    EXPECT_FALSE(batch.Save());
+    EXPECT_EQ(config.Read("g/k"), "1");
+    std::filesystem::remove(data / "settings.ini");
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"g", L"k", L"2"));
+    // The batch has the change and the later one: Flush() does not store the earlier value again.
+    EXPECT_TRUE(config.Flush());
+    EXPECT_TRUE(batch.Save());
+    EXPECT_EQ(ReadFile(data / "settings.ini"), "[g]\nk=2\n");
+}
+
 TEST(TheDefaultStoreAsAConfig, MovesWithTheUserDataDirectory)
 {
     const TempUserData one;
