@@ -42,8 +42,8 @@ FITTINGS_API void SaveState(wxFrame* frame, const wchar_t* name);
 ///
 /// If the stored width or height is 10 or less, the window keeps its own geometry. A window off every display moves to
 /// (0, 0). A window that extends beyond its display's work area is clipped to it. A window that is wholly outside that
-/// area, for example under a panel, moves into it. Numbers that do not fit the 16 bits of an X coordinate are limited to
-/// the nearest that do.
+/// area, for example under a panel, moves into it. Numbers that do not fit the 16 bits of an X coordinate are limited
+/// to the nearest that do.
 ///
 /// A hidden window appears in its place when it is shown. This includes the first window of a process, under any window
 /// manager that lets programs place their windows. The host only needs to call wxWindow::Show().

@@ -70,7 +70,7 @@ public:
     /// section come first.
     std::vector<fittings::SettingsEntry> Entries(std::wstring_view section) const;
 
-    /// Whether the last Refresh() kept an earlier content because the file was empty for now. The file does not hold it.
+    /// Whether the last Refresh() kept an earlier content because the file was empty. The file does not hold it.
     bool IsEarlierContent() const { return m_isEarlierContent; }
 
     /// Whether the last Load() found a file that it could not read.
