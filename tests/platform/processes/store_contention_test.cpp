@@ -391,6 +391,27 @@ TEST(ALinkInPlaceOfTheNewFile, ChangesNoOtherFile)
     EXPECT_EQ(ReadFile(elsewhere / "secret"), "s");
 }
 
+TEST(AFileThatIsEmptiedAllTheTime, DelaysAWriteByTwoSeconds)
+{
+    const InMemory inMemory;
+    const TempUserData data;
+    WriteFile(data / "settings.ini", "");
+    std::atomic<bool> isDone = false;
+    std::thread other([&] {
+        const auto end = Clock::now() + Patience() * milliseconds(20'000);
+        while (!isDone && Clock::now() < end) {
+            const int file = open((data / "settings.ini").c_str(), O_WRONLY | O_TRUNC | O_CLOEXEC);
+            close(file);
+            std::this_thread::sleep_for(milliseconds(50));
+        }
+    });
+    const auto start = Clock::now();
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"1"));
+    EXPECT_LT(Clock::now() - start, Patience() * milliseconds(10'000));
+    isDone = true;
+    other.join();
+}
+
 TEST(RootInTheFolderOfAnotherUser, GivesTheFilesToThatUser)
 {
     if (geteuid() != 0)

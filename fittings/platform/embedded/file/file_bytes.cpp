@@ -98,11 +98,13 @@ void SyncFolder(const std::string& folder)
 }
 
 // Returns the content of the displaced file. If another process has removed that file as a leftover, it is the file
-// that was opened before the exchange: every other file is too new to be a leftover.
-std::optional<std::string> ReadDisplaced(const StagedFile& staged, int before)
+// that was opened before the exchange: every other file is too new to be a leftover. If the file was empty before, the
+// write has waited for its content already.
+std::optional<std::string> ReadDisplaced(const StagedFile& staged, int before, bool wasEmpty)
 {
     std::string bytes;
-    const FileContent content = ReadFilledBytes(staged.Path(), bytes);
+    const auto now = std::chrono::steady_clock::now();
+    const FileContent content = ReadFilledBytes(staged.Path(), bytes, wasEmpty ? now : now + kTimeToFillAFile);
     if (content.result == ReadResult::Read)
         return bytes;
     struct stat info;
@@ -169,7 +171,7 @@ struct Exchanged
 // again. A change that somebody makes meanwhile is displaced and merged in turn.
 UpdateResult MergeDisplaced(const Target& target, const Exchanged& done, const FileUpdate& update, int merges = 0)
 {
-    const auto displaced = ReadDisplaced(done.staged, done.before);
+    const auto displaced = ReadDisplaced(done.staged, done.before, done.expected.empty());
     if (displaced && *displaced == done.expected)
         return UpdateResult::Saved;
     std::optional<std::string> merged;
@@ -281,12 +283,12 @@ FileContent ReadFileBytes(const std::string& path, std::string& bytes)
     return {ReadResult::Read, FileIdentity(info), IsPastTick(info.st_ctim, now)};
 }
 
-FileContent ReadFilledBytes(const std::string& path, std::string& bytes)
+FileContent ReadFilledBytes(const std::string& path, std::string& bytes, std::chrono::steady_clock::time_point deadline)
 {
     for (;;) {
         bytes.clear();
         const FileContent content = ReadFileBytes(path, bytes);
-        if (!content.IsEmptyForNow())
+        if (!content.IsEmptyForNow() || std::chrono::steady_clock::now() >= deadline)
             return content;
         std::this_thread::sleep_for(kPause);
     }

@@ -1,6 +1,7 @@
 #ifndef FITTINGS_PLATFORM_EMBEDDED_FILE_FILE_BYTES_H_
 #define FITTINGS_PLATFORM_EMBEDDED_FILE_FILE_BYTES_H_
 
+#include <chrono>
 #include <functional>
 #include <optional>
 #include <string>
@@ -51,9 +52,10 @@ struct FileContent
 /// Appends the bytes of the file at @a path to @a bytes. A file of more than kMaxFileSize bytes fails.
 FileContent ReadFileBytes(const std::string& path, std::string& bytes);
 
-/// Reads the file like ReadFileBytes(), in place of @a bytes. Waits at most half a second for a program that has
-/// emptied the file in place to fill it.
-FileContent ReadFilledBytes(const std::string& path, std::string& bytes);
+/// Reads the file like ReadFileBytes(), in place of @a bytes. Waits for a program that has emptied the file in place to
+/// fill it: half a second after the last change of the file, and not after @a deadline.
+FileContent ReadFilledBytes(const std::string& path, std::string& bytes,
+                            std::chrono::steady_clock::time_point deadline);
 
 /// Larger files are neither read nor written: they are not settings files, and their keys would need too much memory.
 inline constexpr off_t kMaxFileSize = off_t{64} << 20;

@@ -37,7 +37,7 @@ void CIniFile::Clear()
     m_unreadable.clear();
 }
 
-bool CIniFile::Load(const std::string& path, Reader* read)
+bool CIniFile::Load(const std::string& path, const Reader& read)
 {
     Clear();
     m_path = path;

@@ -2,6 +2,7 @@
 #define FITTINGS_PLATFORM_EMBEDDED_STORE_INI_FILE_H_
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -18,11 +19,11 @@
 class CIniFile
 {
 public:
-    using Reader = decltype(fittings::ReadFileBytes);
+    using Reader = std::function<decltype(fittings::ReadFileBytes)>;
 
     /// Reads the file in place of the present content. Returns false when the file could not be read, or when its
     /// bytes have no settings and are not readable text.
-    bool Load(const std::string& path, Reader* read = fittings::ReadFileBytes);
+    bool Load(const std::string& path, const Reader& read = fittings::ReadFileBytes);
 
     /// Loads the file and makes the changes in it, unless the file has certainly not changed since the last load and
     /// the revision of the changes is the same. Returns true when the content of the object may have changed.

@@ -26,7 +26,14 @@ public:
     bool Store(const std::vector<SettingsChange>& changes);
 
 private:
-    UpdateResult StoreOnce(const std::vector<SettingsChange>& changes, FileLock::Clock::time_point deadline);
+    /// When one write stops to wait.
+    struct Deadlines
+    {
+        FileLock::Clock::time_point lock;
+        FileLock::Clock::time_point filling;  ///< Of a file that another program has emptied.
+    };
+
+    UpdateResult StoreOnce(const std::vector<SettingsChange>& changes, const Deadlines& deadlines);
 
     const std::string m_path;
 
