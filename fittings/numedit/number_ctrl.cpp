@@ -113,11 +113,14 @@ CNumberFormat wxNumberCtrl::FromLocale()
 
 const CNumberFormat& wxNumberCtrl::GetFormat() const
 {
+    static const CNumberFormat none(eFixedFormat);
+    wxCHECK_MSG(m_field, none, "call Create() first");
     return m_field->format;
 }
 
 void wxNumberCtrl::SetFormat(const CNumberFormat& format)
 {
+    wxCHECK_RET(m_field, "call Create() first");
     const wxString number = GetDecimal();
     const std::wstring plain = Plain();
     m_field->SetFormat(format);
@@ -136,6 +139,7 @@ bool wxNumberCtrl::SetNumber(double value)
 
 bool wxNumberCtrl::SetDecimal(const wxString& text)
 {
+    wxCHECK_MSG(m_field, false, "call Create() first");
     std::string decimal = text.utf8_string();
     const std::optional<Decimal> number = fittings::ParseDecimal(decimal);
     if (!number && !decimal.empty())
@@ -154,6 +158,7 @@ bool wxNumberCtrl::SetDecimal(const wxString& text)
 
 bool wxNumberCtrl::GetNumber(double* value) const
 {
+    wxCHECK_MSG(m_field, false, "call Create() first");
     const std::optional<Decimal> number = fittings::NumberIn(Plain(), m_field->rules.point);
     const std::optional<double> result = number ? fittings::DoubleOf(*number) : std::nullopt;
     if (result)
@@ -163,6 +168,7 @@ bool wxNumberCtrl::GetNumber(double* value) const
 
 bool wxNumberCtrl::GetNumber(std::int64_t* value) const
 {
+    wxCHECK_MSG(m_field, false, "call Create() first");
     const std::optional<Decimal> number = fittings::NumberIn(Plain(), m_field->rules.point);
     const std::optional<std::int64_t> result = number ? fittings::IntegerOf(*number) : std::nullopt;
     if (result)
@@ -172,22 +178,26 @@ bool wxNumberCtrl::GetNumber(std::int64_t* value) const
 
 wxString wxNumberCtrl::GetDecimal() const
 {
+    wxCHECK_MSG(m_field, wxString(), "call Create() first");
     return fittings::DecimalTextOf(Plain(), m_field->rules.point);
 }
 
 bool wxNumberCtrl::IsAcceptable() const
 {
+    wxCHECK_MSG(m_field, false, "call Create() first");
     const fittings::NumberState state = m_field->State(Plain());
     return state == fittings::NumberState::Good || state == fittings::NumberState::Empty;
 }
 
 wxString wxNumberCtrl::GetProblem() const
 {
+    wxCHECK_MSG(m_field, wxString(), "call Create() first");
     return m_field->Problem(Plain());
 }
 
 bool wxNumberCtrl::SetRange(const wxString& min, const wxString& max)
 {
+    wxCHECK_MSG(m_field, false, "call Create() first");
     const auto lowest = ParsedBound(min);
     const auto highest = ParsedBound(max);
     if (!lowest || !highest || (*lowest && *highest && fittings::Compare(**lowest, **highest) > 0))
@@ -200,6 +210,7 @@ bool wxNumberCtrl::SetRange(const wxString& min, const wxString& max)
 
 bool wxNumberCtrl::SetRange(double min, double max)
 {
+    wxCHECK_MSG(m_field, false, "call Create() first");
     if (std::isnan(min) || std::isnan(max) || min > max)
         return false;
     m_field->rules.min = fittings::DecimalOf(min);
@@ -210,6 +221,7 @@ bool wxNumberCtrl::SetRange(double min, double max)
 
 bool wxNumberCtrl::SetIncrement(const wxString& increment)
 {
+    wxCHECK_MSG(m_field, false, "call Create() first");
     const std::optional<Decimal> number = fittings::ParseDecimal(increment.utf8_string());
     if (!number || number->negative || number->IsZero() ||
         Compare(RoundedDown(*number, m_field->rules.mostDecimals), *number) != 0)
@@ -336,10 +348,12 @@ void wxNumberCtrl::OnWheel(wxMouseEvent& event)
         event.Skip();
         return;
     }
+    const wxWeakRef<wxWindow> self(this);
     if (!HasFocus())
         SetFocus();
+    if (!self)
+        return;
     m_field->wheel += event.GetWheelRotation();
-    const wxWeakRef<wxWindow> self(this);
     while (self && std::abs(m_field->wheel) >= event.GetWheelDelta()) {
         const bool up = m_field->wheel > 0;
         m_field->wheel -= up ? event.GetWheelDelta() : -event.GetWheelDelta();

@@ -36,7 +36,7 @@ int PlaceAt(GtkEntry* entry, int x)
 }
 
 KeptFromToolkit::KeptFromToolkit(GtkEntry* entry, void* toolkit, const char* signal)
-    : m_entry(entry), m_toolkit(toolkit), m_signal(g_signal_lookup(signal, GTK_TYPE_EDITABLE))
+    : m_entry(GTK_ENTRY(g_object_ref(entry))), m_toolkit(toolkit), m_signal(g_signal_lookup(signal, GTK_TYPE_EDITABLE))
 {
     g_signal_handlers_block_matched(m_entry, kToolkitsHandler, m_signal, 0, nullptr, nullptr, m_toolkit);
 }
@@ -44,6 +44,7 @@ KeptFromToolkit::KeptFromToolkit(GtkEntry* entry, void* toolkit, const char* sig
 KeptFromToolkit::~KeptFromToolkit()
 {
     g_signal_handlers_unblock_matched(m_entry, kToolkitsHandler, m_signal, 0, nullptr, nullptr, m_toolkit);
+    g_object_unref(m_entry);
 }
 
 void InsertUntyped(GtkEntry* entry, void* toolkit, const std::string& text, int& position)

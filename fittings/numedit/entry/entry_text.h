@@ -23,7 +23,7 @@ void Select(GtkEntry* entry, const EntrySelection& selection);
 int PlaceAt(GtkEntry* entry, int x);
 
 /// While the object exists, a signal of the entry does not reach the toolkit. GTK's own handlers, for example for
-/// assistive technologies, are still called.
+/// assistive technologies, are still called. A handler of the signal may destroy the entry.
 class KeptFromToolkit
 {
 public:

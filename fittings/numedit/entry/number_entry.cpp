@@ -53,18 +53,21 @@ int NumberEntry::Filter(const GdkEventKey* key, const std::function<int()>& filt
     return result;
 }
 
-void NumberEntry::Take(const std::wstring& text)
+bool NumberEntry::Take(const std::wstring& text)
 {
+    const wxWeakRef<NumberEntry> self(this);
     const EntrySelection selected = SelectionOf(m_entry);
     int position = std::min(selected.anchor, selected.caret);
     m_waiting = std::make_pair(position, std::max(selected.anchor, selected.caret));
-    m_hasRefused = false;
-    Inserting(text, position);
+    const bool isAccepted = Inserting(text, position);
+    if (!self)
+        return isAccepted;
     m_waiting.reset();
-    if (m_hasRefused)
-        Select(m_entry, selected);
-    else
+    if (isAccepted)
         gtk_editable_set_position(GTK_EDITABLE(m_entry), position);
+    else
+        Select(m_entry, selected);
+    return isAccepted;
 }
 
 void NumberEntry::Soon(std::function<void()> action)
@@ -126,13 +129,8 @@ bool NumberEntry::Dropped(const char* text, int x)
     const EntrySelection selected = SelectionOf(m_entry);
     const auto [begin, end] = std::minmax(selected.anchor, selected.caret);
     int position = PlaceAt(m_entry, x);
-    if (begin != end && position >= begin && position <= end) {
-        Take(dropped);
-    } else {
-        m_hasRefused = false;
-        Inserting(dropped, position);
-    }
-    return !m_hasRefused;
+    const bool isOnSelection = begin != end && position >= begin && position <= end;
+    return isOnSelection ? Take(dropped) : Inserting(dropped, position);
 }
 
 /// Keeps the deleted text until the next input: if an insertion replaces it and is refused, it is restored.
@@ -146,7 +144,8 @@ void NumberEntry::Deleting(int begin, int end)
         m_source = g_idle_add_full(G_PRIORITY_HIGH, OnSoon, this, nullptr);
 }
 
-void NumberEntry::Inserting(const std::wstring& text, int& position)
+/// Returns whether the text was accepted.
+bool NumberEntry::Inserting(const std::wstring& text, int& position)
 {
     const std::wstring all = Text();
     const auto length = static_cast<int>(all.size());
@@ -162,15 +161,16 @@ void NumberEntry::Inserting(const std::wstring& text, int& position)
     const std::optional<std::wstring> accepted = m_judge(insertion);
     if (!accepted) {
         m_hasRefused = true;
-        PutBack();
         m_refused();
-        return;
+        PutBack();
+        return false;
     }
     m_waiting.reset();
     m_deleted.reset();
     Replace(begin, end);
     position = begin;
     Insert(*accepted, position);
+    return true;
 }
 
 /// Restores the text that was deleted just before a refusal.
@@ -180,7 +180,10 @@ void NumberEntry::PutBack()
         return;
     const Deleted deleted = *std::exchange(m_deleted, std::nullopt);
     int position = deleted.begin;
+    const wxWeakRef<NumberEntry> self(this);
     Insert(deleted.text, position);
+    if (!self)
+        return;
     // GTK moves the caret after this handler returns, so restore the selection later.
     Soon([this, selection = deleted.selection] { Select(m_entry, selection); });
 }

@@ -7,6 +7,8 @@
 #include <utility>
 
 #include <gtk/gtk.h>
+#include <wx/tracker.h>
+#include <wx/weakref.h>
 
 #include <fittings/numedit/entry/entry_text.h>
 
@@ -20,7 +22,9 @@ namespace fittings {
 /// waits until the insertion is accepted, so a refused key changes nothing. A text that an input method inserts later
 /// does not come with a key: there the deleted selection is restored after a refusal. A text that is dropped on the
 /// selection replaces it only if it is accepted.
-class NumberEntry
+///
+/// The program is told of an insertion at once, and its handler may destroy the object.
+class NumberEntry : public wxTrackable
 {
 public:
     /// A text that is to be inserted into the control.
@@ -46,21 +50,11 @@ public:
     /// Surrounds the handling of a key by GTK's input method. @a filter passes the key on, and its result is returned.
     int Filter(const GdkEventKey* key, const std::function<int()>& filter);
 
-    /// Replaces the selection by a text as if it were pasted.
-    void Take(const std::wstring& text);
+    /// Replaces the selection by a text as if it were pasted. Returns whether the text was accepted.
+    bool Take(const std::wstring& text);
 
     /// Changes by the program are not checked while the object lives.
-    class Free
-    {
-    public:
-        explicit Free(NumberEntry* entry) : m_entry(entry) { m_entry ? ++m_entry->m_free : 0; }
-        ~Free() { m_entry ? --m_entry->m_free : 0; }
-        Free(const Free&) = delete;
-        Free& operator=(const Free&) = delete;
-
-    private:
-        NumberEntry* m_entry;
-    };
+    class Free;
 
     /// Calls @a action after the present event, before any other input.
     void Soon(std::function<void()> action);
@@ -79,7 +73,7 @@ private:
                           unsigned time, NumberEntry* self);
     static int OnSoon(void* self);
 
-    void Inserting(const std::wstring& text, int& position);
+    bool Inserting(const std::wstring& text, int& position);
     void Deleting(int begin, int end);
     bool Dropped(const char* text, int x);
     void PutBack();
@@ -99,6 +93,18 @@ private:
     std::optional<Deleted> m_deleted;              ///< The last deletion, until the next input.
     std::function<void()> m_soon;
     unsigned m_source = 0;
+};
+
+class NumberEntry::Free
+{
+public:
+    explicit Free(NumberEntry* entry) : m_entry(entry) { m_entry ? ++m_entry->m_free : 0; }
+    ~Free() { m_entry ? --m_entry->m_free : 0; }
+    Free(const Free&) = delete;
+    Free& operator=(const Free&) = delete;
+
+private:
+    const wxWeakRef<NumberEntry> m_entry;
 };
 
 }  // namespace fittings
