@@ -28,8 +28,8 @@ constexpr std::string_view kPrefix = ".fittings-save-";
 // Older temporary files were left by processes that were killed while they saved.
 constexpr time_t kLifetimeSeconds = 60;
 
-// Makes an empty file with a name that no person would choose, and opens it. Sets @a path only on success. Returns -1 on
-// any error.
+// Makes an empty file with a name that no person would choose, and opens it. Sets @a path only on success. Returns -1
+// on any error.
 int MakeFile(const std::string& folder, std::string& path)
 {
     for (int attempt = 0; attempt < 1000; ++attempt) {
