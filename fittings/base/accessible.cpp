@@ -23,7 +23,7 @@ AtkRole RoleOf(AccessibleRole role)
     return ATK_ROLE_TEXT;
 }
 
-/// The widget that takes the focus: in a scrolled window, the part that is scrolled.
+/// Returns the widget that takes the focus; in a scrolled window, the part that is scrolled.
 GtkWidget* FocusedPart(const wxWindow& window)
 {
     return window.m_wxwindow ? window.m_wxwindow : window.m_widget;

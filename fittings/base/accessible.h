@@ -8,11 +8,11 @@ namespace fittings {
 
 enum class AccessibleRole { ComboBox, Grid, Text, Tree };
 
-/// Tells assistive technologies what a window is. A call that changes nothing is cheap, so it may be called on every
-/// idle event.
+/// Tells assistive technologies what a window is. A call that changes nothing is cheap, so the function may be called
+/// on every idle event.
 ///
-/// The accessible name is @a value, the current choice, as for GTK's own combo boxes; @a label is then the description.
-/// When @a value is empty, @a label is the name.
+/// @a value, the current choice, becomes the accessible name, as for GTK's own combo boxes. @a label becomes the
+/// description. If @a value is empty, @a label becomes the name.
 void Describe(wxWindow& window, AccessibleRole role, const wxString& label, const wxString& value);
 
 /// Makes the static texts that label a window, and their mnemonics, point to the part of the window that takes the

@@ -6,8 +6,8 @@
 
 /// A standard string that treats a null pointer as the empty text. It has all the constructors of a standard string.
 ///
-/// Assigning from a pointer into its own buffer is safe, as with the standard string it derives from.
-/// Like that one it has no virtual destructor: use it by value.
+/// Assigning from a pointer into the string's own buffer is safe, as with std::basic_string. The class has no virtual
+/// destructor, so use it by value.
 template <typename CharT>
 class CStdStr : public std::basic_string<CharT>
 {

@@ -28,7 +28,7 @@ int ClickWatch::FilterEvent(wxEvent& event)
         return Event_Skip;
     if (mouse->GetButton() == wxMOUSE_BTN_LEFT) {
         const wxMouseEvent click(*mouse);
-        // Call a copy: the callback may stop the watch and destroy its owner.
+        // Call a copy: the callback may stop the watch and destroy the control that owns the watch.
         const std::function<void()> onClick = m_onClick;
         onClick();
         // Pass the click on, as the toolkit does with a click that dismisses a popup.

@@ -10,11 +10,12 @@ class wxWindow;
 
 namespace fittings {
 
-/// Watches for clicks on the program's other windows. An open popup gets them by grabbing the pointer.
+/// Watches for clicks on other windows of the program while a popup is opening. An open popup needs no watch, because
+/// it grabs the pointer.
 class ClickWatch : public wxEventFilter
 {
 public:
-    /// Calls @a onClick at a left click on any window but @a owner. That window gets the click afterwards.
+    /// Calls @a onClick at a left click on any window but @a owner. The clicked window gets the click afterwards.
     ClickWatch(const wxWindow& owner, std::function<void()> onClick) : m_owner(owner), m_onClick(std::move(onClick)) {}
     ~ClickWatch() override { Stop(); }
 

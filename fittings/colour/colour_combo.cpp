@@ -25,7 +25,7 @@ constexpr int kFocusInset = 3;
 wxBitmap CopyOfScreen(const wxRect& rect)
 {
     wxScreenDC screen;
-    // Cairo misses other programs' drawing and would copy stale pixels.
+    // Cairo does not notice what other programs draw, and would copy stale pixels.
     if (void* const context = screen.GetImpl()->GetCairoContext())
         cairo_surface_mark_dirty(cairo_get_target(static_cast<cairo_t*>(context)));
     wxBitmap bitmap(rect.GetSize());
@@ -73,14 +73,14 @@ bool wxColourCombo::CreateWithColour(wxWindow* parent, wxWindowID id, const wxCo
 
 wxColourCombo::~wxColourCombo()
 {
-    // A popup that was closed during the animation has not reported its end. Mark it as opening, so that HidePopup()
-    // does.
+    // A popup that was closed during the animation has not reported its end. Mark the popup as opening, so that
+    // HidePopup() reports the end.
     if (m_animTimer.IsRunning() && IsPopupWindowState(Hidden))
         m_popupWinState = Animating;
     m_animTimer.Stop();
     m_clicks->Stop();
-    // Announce the destruction and close the popup here, not in the base: a listener may call Destroy() now, and it
-    // must find that the control is already being deleted.
+    // Announce the destruction and close the popup here, not in the base. A listener may call Destroy() now, and
+    // Destroy() must find that the control is already being deleted.
     SendDestroyEvent();
     wxColourCombo::HidePopup(true);
 }
@@ -137,8 +137,8 @@ void wxColourCombo::ShowPopup()
 
 void wxColourCombo::HidePopup(bool generateEvent)
 {
-    // During the animation, only mark the popup as hidden: the next step shows it, and it reports its end when it
-    // closes.
+    // During the animation, only mark the popup as hidden. The next step of the animation shows the popup, and the
+    // popup reports its end when it closes.
     if (m_animTimer.IsRunning() && !IsScheduledForDeletion(this))
         m_popupWinState = Hidden;
     else
@@ -247,7 +247,7 @@ void wxColourCombo::DrawStep(int elapsed)
     if (m_animBitmap.IsOk())
         screen.DrawBitmap(m_animBitmap, m_animRect.GetPosition());
     screen.DrawRectangle(outline);
-    // A drawing on the screen itself lies below all windows, so a window shows the outline too.
+    // What is drawn directly on the screen lies below all windows, so show the outline in a window of its own too.
     if (m_outline)
         m_outline->ShowOutline(m_animRect, outline);
 }
@@ -272,7 +272,7 @@ void wxColourCombo::EndAnimation(wxWindow& popup)
         DoShowPopup(m_animRect, m_animFlags);
 }
 
-// Dismisses a popup that is still opening, as a click dismisses an open one. It is shown first, like every popup.
+// Dismisses a popup that is still opening, as a click dismisses an open popup. Shows the popup first.
 void wxColourCombo::DismissOpening()
 {
     EndAnimation(*GetPopupControl()->GetControl());

@@ -96,7 +96,7 @@ public:
 
     /// Makes the control and its popup as the constructor with a colour does, for an object of the default constructor.
     ///
-    /// It takes only a wxColour: a text is the text of the field, as in the toolkit's Create().
+    /// @a colour must be a wxColour: a text is the text of the field, as in the toolkit's Create().
     template <typename Colour, typename = std::enable_if_t<std::is_base_of_v<wxColour, Colour>>>
     bool Create(wxWindow* parent, wxWindowID id, const Colour& colour, const wxPoint& pos = wxDefaultPosition,
                 const wxSize& size = wxDefaultSize, long style = wxCB_READONLY,
@@ -116,7 +116,7 @@ public:
     /// nothing for an invalid colour and while there is no wxColourPopup.
     bool SetColour(const wxColour& colour);
 
-    /// Sets the colour that "Automatic" stands for; black at first. If it equals the colour in effect, "Automatic"
+    /// Sets the colour that "Automatic" stands for; black at first. If that colour is the one in effect, "Automatic"
     /// becomes marked. The colour in effect does not change.
     ///
     /// Returns false and changes nothing for an invalid colour and while there is no wxColourPopup.
@@ -132,27 +132,27 @@ public:
     /// Sends wxEVT_COMBOBOX_DROPDOWN and opens the popup. Does nothing while the popup opens.
     void Popup() override;
 
-    /// Opens the popup; asserts and does nothing without one.
+    /// Opens the popup. Without a popup, asserts and does nothing.
     void ShowPopup() override;
 
     /// Closes the popup. A popup that is still opening is shown anyway.
     void HidePopup(bool generateEvent = false) override;
 
-    /// Excludes the popup from the children that take the focus for the control: with it, the control would refuse the
+    /// Excludes the popup from the children that take the focus for the control. Otherwise the control would refuse the
     /// focus.
     bool IsClientAreaChild(const wxWindow* child) const override;
 
     /// Tells assistive technologies of the colour in effect.
     void OnInternalIdle() override;
 
-    /// Makes one step of the animation; the last one shows the popup. The event is not used. It is called for the ticks
-    /// of the animation's timer and not for those of other timers. Handlers of the host get the ticks of the
-    /// animation's timer as well.
+    /// Makes one step of the animation; the last step shows the popup. The event is not used. The function is called
+    /// for the ticks of the animation's timer and not for those of other timers. Handlers of the host get the ticks of
+    /// the animation's timer as well.
     void OnTimerEvent(wxTimerEvent& event);
 
 protected:
-    /// Starts the animation and returns false; the popup is shown at its end. Returns true and starts no animation if
-    /// programs cannot draw on the screen or @a rect, in screen coordinates, is empty.
+    /// Starts the animation, whose last step shows the popup, and returns false. Returns true and starts no animation
+    /// if programs cannot draw on the screen or @a rect, in screen coordinates, is empty.
     bool AnimateShow(const wxRect& rect, int flags) override;
 
     /// Takes ownership of @a popup. If the earlier popup is still opening, it is dismissed first.
@@ -165,14 +165,14 @@ protected:
     /// the colour.
     void DrawButton(wxDC& dc, const wxRect& rect, int flags) override;
 
-    /// Returns the outline after @a elapsed milliseconds, from 0 to m_animDuration, in screen coordinates. It grows in
-    /// 256 steps.
+    /// Returns the outline after @a elapsed milliseconds, from 0 to m_animDuration, in screen coordinates. The outline
+    /// grows in 256 steps.
     wxRect OutlineAt(int elapsed) const;
 
     wxLongLong m_animStart;    ///< When the animation began, in milliseconds of local time.
     wxTimer m_animTimer;       ///< Ticks once for each step.
     wxRect m_animRect;         ///< Where the popup will be on the screen.
-    wxBitmap m_animBitmap;     ///< What the screen showed there.
+    wxBitmap m_animBitmap;     ///< What the screen showed in m_animRect.
     int m_animFlags = 0;       ///< The flags for DoShowPopup().
     int m_animDuration = 200;  ///< Milliseconds.
 

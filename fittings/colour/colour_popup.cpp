@@ -43,13 +43,14 @@ wxSize TextExtent(wxDC& dc, const wxString& text)
     return text.empty() ? wxSize(0, 0) : dc.GetTextExtent(text);
 }
 
-// Moves the popup left until it fits on the screen, or puts it above the control if there is no room below.
+// Returns the place for the popup: moved left until the popup fits on the screen, and above the control if there is no
+// room below.
 wxPoint FitToScreen(wxPoint at, const wxSize& size, const wxWindow& parent)
 {
     int screenWidth = 0;
     int screenHeight = 0;
     wxDisplaySize(&screenWidth, &screenHeight);
-    // The first column beyond the screen counts as on it.
+    // The first column beyond the screen counts as part of the screen.
     if (at.x + size.x - 1 > screenWidth)
         at.x = screenWidth - size.x + 1;
     at.x = std::max(at.x, 0);
@@ -128,7 +129,7 @@ bool wxColourPopup::SetColour(const wxColour& colour)
     if (!m_combo)
         return true;
     const wxString name = TextOf(m_nChosenColourSel);
-    // Closing makes the hot cell's name the value. Remember this name to restore it then.
+    // Closing the popup makes the name of the hot cell the combo's value. Remember the new name, to restore it then.
     if (m_valueWhenShown || m_ending)
         m_valueWhenShown = name;
     if (m_combo->GetValue() != name)
@@ -252,11 +253,11 @@ void wxColourPopup::SetStringValue(const wxString& value)
     for (int i = 0; i < fittings::kColourCount; ++i) {
         const wchar_t* const name = GetColourName(i);
         if (name && value == name) {
-            // A combo whose popup is dismissed passes the name of the hot cell, which is then already current.
+            // A combo whose popup is dismissed passes the name of the hot cell. That cell is then already current.
             if (i != m_nCurrentSel || !m_valueWhenShown || m_crColour != GetColour(i))
                 ChangeSelection(i);
-            // A combo with a text passes it while it opens the popup, and the pointer may be elsewhere: show no name
-            // there. A listener may have destroyed the popup by now.
+            // While a combo opens its popup, it passes its text to this function. The pointer may be over another cell
+            // then, so do not show the name at the pointer. A listener may have destroyed the popup by now.
             if (!life.expired() && m_valueWhenShown && m_combo && !m_combo->IsPopupShown())
                 ShowNameAtPointer("");
             return;

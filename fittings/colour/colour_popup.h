@@ -26,7 +26,7 @@ public:
     /// Another cell became hot; @a colour is the colour of that cell.
     virtual void OnColourSelChange(const wxColour& colour);
 
-    /// @a colour was chosen. If no cell was hot, or the dialog of "More Colours..." was cancelled, it is the colour
+    /// @a colour was chosen. If no cell was hot, or the dialog of "More Colours..." was cancelled, @a colour is the one
     /// that was already in effect.
     virtual void OnColourSelEnd(const wxColour& colour);
 
@@ -83,13 +83,13 @@ public:
     /// the listener or an event handler that is told of a chosen colour, @a colour replaces that colour.
     bool SetColour(const wxColour& colour);
 
-    /// The colour in effect.
+    /// Returns the colour in effect.
     const wxColour& GetInitialColour() const { return m_crInitialColour; }
 
     /// Sets the colour that "Automatic" stands for. Black at first. An invalid colour asserts and changes nothing.
     void SetDefaultColour(const wxColour& colour);
 
-    /// The colour that "Automatic" stands for.
+    /// Returns the colour that "Automatic" stands for.
     const wxColour& GetDefaultColour() const { return m_crDefaultColour; }
 
     /// Sets whether the combo is redrawn each time another cell becomes hot. False at first.
@@ -107,8 +107,8 @@ public:
     /// Sets the listener, which is not owned. It must outlive the popup or be replaced by null.
     void SetColorListener(wxColorPopupListener* listener) { m_pListener = listener; }
 
-    /// Sets the parent of the dialog of "More Colours...", which is centred on it; not owned. With null the combo is
-    /// the parent. The popup itself is not moved.
+    /// Sets the parent of the dialog of "More Colours...". The dialog is centred on its parent, which is not owned.
+    /// With null, the combo is the parent. The popup itself is not moved.
     void SetCenterOn(wxWindow* window) { m_pCenterOn = window; }
 
     /// Resets every setting, the listener included, to its initial value. The constructor calls it. If the window
@@ -123,8 +123,8 @@ public:
     /// default colour). Do not pass any other index: it is not checked.
     wxColour GetColour(int index) const;
 
-    /// Returns the row of a cell in the grid. For a box, the result is @a index itself. It is -1 for an absent box and
-    /// for any other index.
+    /// Returns the row of a cell in the grid. For a box, the result is @a index itself. For an absent box and for any
+    /// other index, the result is -1.
     int GetRow(int index) const;
 
     /// Returns the column of a cell in the grid. For an index outside the grid, the result is that of GetRow().
@@ -146,9 +146,9 @@ public:
     wxString GetStringValue() const override;
 
     /// Makes the cell with the name @a value hot. The language and the letter case must be those of the table. Any
-    /// other text changes nothing, also the text of a box. The name of the hot cell changes nothing while the popup is
-    /// open. No name changes anything while the popup hides itself, because the combo then passes back a value that the
-    /// user did not choose.
+    /// other text changes nothing, and neither does the text of a box. The name of the hot cell changes nothing while
+    /// the popup is open. No name changes anything while the popup hides itself, because the combo then passes back a
+    /// value that the user did not choose.
     ///
     /// A value that the host sets while the popup is open stays the combo's value if the user chooses nothing.
     void SetStringValue(const wxString& value) override;
@@ -238,8 +238,8 @@ public:
     /// below an "Automatic" box lies one margin higher, so the lowest pixels of a cell belong to the cell below.
     void OnMouseMove(wxMouseEvent& event);
 
-    /// Ends the selection. Within the popup, also between cells, the colour of the hot cell is chosen. Outside, the
-    /// selection is cancelled.
+    /// Ends the selection. Anywhere within the popup, even between the cells, the colour of the hot cell is chosen.
+    /// Outside the popup, the selection is cancelled.
     void OnLButtonUp(wxMouseEvent& event);
 
     /// The arrow keys move the hot cell, Enter and the space bar choose it, and Escape cancels. Other keys are skipped.
@@ -297,7 +297,8 @@ private:
     void ChooseClosed(int index);
     bool Send(wxEventType type, const wxColour& colour);
 
-    bool m_ending = false;  ///< True while the listener is told of an end.
+    /// True while the listener and the event handlers are told that the selection has ended.
+    bool m_ending = false;
     bool m_isClosingAfterCancel = false;
     bool m_dialogCancelled = false;            ///< True from a cancelled dialog to the end of the selection.
     std::optional<wxString> m_valueWhenShown;  ///< The combo's value, while the popup is open.

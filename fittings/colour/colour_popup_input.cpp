@@ -123,7 +123,7 @@ void wxColourPopup::OnPopup()
 
 void wxColourPopup::OnDismiss()
 {
-    // A listener may close the popup while it is told of an end. Do not report a second end.
+    // While a listener is told that the selection has ended, it may close the popup. Do not report a second end.
     if (m_bInternalHide || m_ending)
         return;
     const Life life(m_life);
@@ -191,7 +191,7 @@ void wxColourPopup::RedrawHotCells(int old)
         wxRect rect;
         if (!GetCellRect(cell, rect))
             continue;
-        // A separator is drawn above this box, so the box is drawn lower by its height.
+        // The separator above this box moves the box down by the separator's height.
         if (cell == CELL_MORE_COLOURS)
             rect.height += 2 * m_nMargin;
         RefreshRect(rect);
@@ -300,8 +300,8 @@ bool wxColourPopup::HideCombo()
     return !life.expired();
 }
 
-// Restores the combo's value, because closing sets it to the name of the hot cell. When the popup opens again, the
-// combo passes its value, and Enter would choose that colour although the user has not chosen it.
+// Restores the combo's value, which closing the popup has set to the name of the hot cell. Otherwise the combo would
+// pass that name when the popup opens again, and Enter would choose a colour that the user has not chosen.
 void wxColourPopup::RestoreValue()
 {
     const std::optional<wxString> kept = std::exchange(m_valueWhenShown, std::nullopt);

@@ -9,7 +9,7 @@ namespace fittings {
 class OutlineWindow : public wxPopupWindow
 {
 public:
-    /// @a parent owns the window. It is hidden at first.
+    /// Makes a hidden window, which @a parent owns.
     explicit OutlineWindow(wxWindow* parent);
 
     /// Shows the rectangle @a outline, a part of @a area, both in screen coordinates. An empty @a outline shows
