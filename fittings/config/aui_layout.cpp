@@ -15,7 +15,7 @@ constexpr std::wstring_view kStart = L"layout2|";
 constexpr std::size_t kLongest = 1'000'000;
 constexpr int kMostParts = 2000;
 
-// The toolkit searches every row of every layer several times for each dock. More of them would take too long.
+// The toolkit searches every row of every layer several times for each dock. More steps or rows would take too long.
 constexpr std::int64_t kMostSteps = 10'000'000;
 constexpr std::int64_t kMostRows = 10'000;
 
@@ -142,8 +142,8 @@ bool AreTexts(std::wstring_view texts)
 /// Whether the texts contain no number that the toolkit would read and cannot use.
 ///
 /// The toolkit does not read an escaped ";" as a part of the text: it reads what follows as the next field. With
-/// "a;row=99999999;" in a caption it reads a row, and takes the empty field behind it for the end of the pane. "\b" is
-/// its placeholder for an escaped ";".
+/// "a;row=99999999;" in a caption, the toolkit reads a row, and takes the empty field behind the row for the end of the
+/// pane. "\b" is the toolkit's placeholder for an escaped ";".
 bool AreReadAtOnce(std::wstring_view texts)
 {
     for (std::size_t at = texts.find_first_of(L";\b"); at != texts.npos; at = texts.find_first_of(L";\b", at + 1)) {

@@ -59,8 +59,8 @@ void FirstShowing::Watch(GtkWidget* widget)
     g_signal_connect(widget, "event-after", G_CALLBACK(&AfterEvent), this);
 }
 
-// The toolkit calls this while it asks for the decorations. Do not disturb it: show the window right after that, before
-// any answer is read.
+// Called while the toolkit asks for the decorations. Show the window only after this request, but before any answer is
+// read.
 void FirstShowing::OnRealize(GtkWidget* /*widget*/, FirstShowing* showing)
 {
     if (showing->m_window)
@@ -75,8 +75,9 @@ gboolean FirstShowing::OnEvent(GtkWidget* /*widget*/, GdkEvent* event, FirstShow
     return FALSE;
 }
 
-// A window manager may first announce the decorations of windows in general, and then those of this one. The toolkit
-// subtracts only the first from the window's size, so the window would get a wrong size.
+// A window manager may first announce the decorations of windows in general, and then those of this window. The toolkit
+// subtracts only the decorations that are announced first, which would give the window a wrong size. So set the size
+// again after each announcement.
 void FirstShowing::AfterEvent(GtkWidget* widget, GdkEvent* event, FirstShowing* showing)
 {
     const Window& window = showing->m_window;

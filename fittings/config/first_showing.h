@@ -9,14 +9,15 @@ namespace fittings {
 ///
 /// The toolkit shows the first window of a kind only after the window manager has announced the size of its
 /// decorations. By then GTK has made the window at (0, 0), where some window managers leave it, and warns of negative
-/// sizes. Other window managers never announce them, and the decorations enlarge the window. So the window is shown
-/// before the answer, and the toolkit subtracts the decorations from its size when they are known.
+/// sizes. Other window managers never announce the decorations, which then enlarge the window. Therefore this function
+/// shows the window before the announcement. The toolkit subtracts the decorations from the window's size when it knows
+/// them.
 ///
 /// Does nothing for a window that is already shown, and nothing on Wayland.
 void ShowWithoutDelay(wxTopLevelWindow& window);
 
-/// Makes a window appear at its present position. Without this, the toolkit leaves the place to the window manager if
-/// the window has always had this position.
+/// Makes a window appear at the position that it has now. The toolkit passes a position to GTK only when the position
+/// changes. Without this call, the window manager would therefore place a window that has never been moved.
 void KeepPlace(wxTopLevelWindow& window);
 
 }  // namespace fittings

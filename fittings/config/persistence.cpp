@@ -91,8 +91,8 @@ public:
         return found == m_records.end() ? nullptr : found->second.lock().get();
     }
 
-    /// Saves the values that are being stored on the next turn of the event loop at the latest. If the program ends
-    /// first, they are saved with the window.
+    /// Saves the collected values on the next turn of the event loop at the latest. If the program ends before that,
+    /// they are saved when the window is destroyed.
     void SaveSoon(const wxPersistentObject& who)
     {
         // Use the outermost parent: a window that is being destroyed may be partly destroyed already.
@@ -199,7 +199,7 @@ bool wxStorePersistenceManager::RestoreValue(const wxPersistentObject& who, cons
             *value = window->GetPosition().x;
             return isRestored;
         }
-        // The whole place was restored with x, so return the present value: the toolkit must not change it.
+        // Restoring x has restored the whole place. Return the present value, so that the toolkit does not change it.
         if (name == kY) {
             *value = window->GetPosition().y;
             return true;

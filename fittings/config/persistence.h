@@ -78,7 +78,7 @@ public:
     /// @}
 
 protected:
-    /// Returns the configuration on the default store, which does not expand environment variables.
+    /// Returns the configuration on the default store. It does not expand environment variables.
     wxConfigBase* GetConfig() const override;
 
 private:
@@ -204,13 +204,13 @@ inline bool wxPersistentRegisterAndRestore(wxAuiManager* manager, const wxString
 }
 /// @}
 
-/// Registers and restores a window under @a name, and each window in it that can remember something: splitters, books,
-/// data views, trees and reports. Returns true when something was restored.
+/// Registers and restores a window under @a name, and each window inside it that can remember something: splitters,
+/// books, data views, trees and reports. Returns true when something was restored.
 ///
-/// A window in it is registered under its own name behind that of the outer window, such as "Planets/treeCtrl" for a
-/// tree without a name of its own. If several have the same name, the second one gets " 2" at its end, and so on in the
-/// order of their creation. Give a name to each window whose place in this order may change in a later version of the
-/// program. The windows' own names do not change.
+/// An inner window is registered under its own name behind that of the outer window, such as "Planets/treeCtrl" for a
+/// tree without a name of its own. If several inner windows have the same name, the second one is registered with " 2"
+/// behind that name, and so on in the order of their creation. Give a name to each window whose place in this order may
+/// change in a later version of the program. The windows' own names do not change.
 ///
 /// Not registered are windows that were registered before, other frames and dialogs, data views that are a page of a
 /// book, and AUI managers.

@@ -24,8 +24,8 @@ namespace {
 
 constexpr wchar_t kSeparator = wxCONFIG_PATH_SEPARATOR;
 
-// The section that records that another configuration was taken over. It is not a path of groups, so that no
-// enumeration finds it.
+// The section that records that another configuration was taken over. Its name is not a path of groups, so that no
+// enumeration finds the section.
 constexpr const wchar_t* kImportSection = L"wxStoreConfig/";
 constexpr const wchar_t* kImportKey = L"Imported";
 
@@ -140,7 +140,8 @@ std::size_t CountGroups(const StoreGroup& group)
     return count;
 }
 
-// Reads the texts of another configuration without expansion, and restores its path and options.
+// Copies the groups and entries of another configuration into the model, and does not expand variables in the texts.
+// The destructor restores the path and the options of that configuration.
 class Importer
 {
 public:

@@ -18,9 +18,10 @@ class StoreModel;
 /// `/LastFiles/Report` is the value that CQVFileDialogI stores. Entries of the root are in the section with the empty
 /// name, `[%]` in the file.
 ///
-/// Reads return what the store holds at that moment, whoever stored it, with the changes of this object. Changes are
-/// collected. Flush() and the destructor save only the changed entries, with one save that keeps what other processes
-/// have stored meanwhile. While the thread has a CLocalRegStore::Batch, the default store is saved with that.
+/// Reads return what the store holds at that moment, whoever stored it, together with this object's own changes.
+/// Changes are collected. Flush() and the destructor save only the changed entries, with one save that keeps what other
+/// processes have stored meanwhile. While the thread has a CLocalRegStore::Batch, that batch saves the changes of the
+/// default store.
 ///
 /// Paths, "..", groups without entries, the texts of numbers, and binary data are as in wxFileConfig. What differs:
 /// - Names are compared exactly, including upper and lower case.
@@ -51,8 +52,8 @@ public:
     wxStoreConfig(const wxStoreConfig&) = delete;
     wxStoreConfig& operator=(const wxStoreConfig&) = delete;
 
-    /// Takes over all groups and entries of @a old once. A later call changes nothing, also in a later run of the
-    /// program and with another @a old. An entry that already exists keeps its value. Texts are taken literally:
+    /// Takes over all groups and entries of @a old once. A later call changes nothing, even in a later run of the
+    /// program or with another @a old. An entry that already exists keeps its value. Texts are taken literally:
     /// environment variables are not expanded. @a old keeps its path and options.
     ///
     /// Saves at once as Flush() does, with everything that was collected. Returns false when that failed; the next call

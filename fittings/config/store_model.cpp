@@ -129,7 +129,7 @@ void StoreModel::Remove(StoreGroup& group, std::wstring_view name)
 
 void StoreModel::AddSection(StoreGroup& group)
 {
-    // Even if it was stored before: another process may have removed it.
+    // Record the section even if it was stored before, because another process may have removed it.
     group.isSection = true;
     group.isMade = true;
     m_dropped.erase(group.Section());

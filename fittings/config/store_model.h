@@ -39,7 +39,7 @@ public:
     const StorePath& CurrentPath() const { return m_currentPath; }
     StoreGroup& Current() { return *m_current; }
 
-    /// Makes the group when it is missing. It is stored with its first entry.
+    /// Makes the group if it is missing. The new group is stored with its first entry.
     void SetCurrent(const StorePath& path);
     /// @}
 
@@ -65,10 +65,10 @@ public:
     /// Moves the contents of the group into a new sibling group.
     void RenameGroup(StoreGroup& group, const std::wstring& newName);
 
-    /// Removes everything from the store, also sections that are not groups.
+    /// Removes everything from the store, including the sections that are not groups.
     void RemoveAll();
 
-    /// A setting whose section is not a group.
+    /// Returns a setting whose section is not a group.
     std::wstring HiddenText(const std::wstring& section, const std::wstring& key) const;
     void SetHidden(const std::wstring& section, const std::wstring& key, const std::wstring& value);
     /// @}

@@ -92,7 +92,7 @@ struct StoreGroup
 {
     StoreGroup(StoreGroup* ofParent, std::wstring_view withName) : parent(ofParent), name(withName) {}
 
-    /// The section of the store that has the group's entries.
+    /// Returns the name of the store's section that has the group's entries.
     std::wstring Section() const;
 
     bool IsEmpty() const { return entries.Size() == 0 && groups.Size() == 0; }
@@ -111,7 +111,7 @@ using StorePath = std::vector<std::wstring>;
 /// The greatest depth of nested groups.
 inline constexpr std::size_t kMaxStoreDepth = 100;
 
-/// The section that has the entries of the group at @a path.
+/// Returns the name of the section that has the entries of the group at @a path.
 std::wstring SectionOf(const StorePath& path);
 
 /// Returns the path of the group for a section; none when its name is not a path of groups.

@@ -55,7 +55,7 @@ void ui_config_mgr::DeleteConfig(const wchar_t* file, const wchar_t* section, co
     const std::wstring path = SettingsPath(file);
     const OwnedIniFile ini = NewIniFile();
     CLocalRegStore::Load(*ini, path.c_str());
-    // Callers rely on this: it removes the key from the default store, not from the file.
+    // Callers rely on this: the key is removed from the default store, not from the file.
     CLocalRegStore::DeleteProfile(OrEmpty(section), OrEmpty(key));
     CLocalRegStore::Save(*ini, path.c_str());
 }

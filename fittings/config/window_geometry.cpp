@@ -18,8 +18,8 @@ constexpr long kFarthest = 32767;
 
 /// Returns the window's rectangle on the screen.
 ///
-/// Inside a top-level window that is not shown yet, the toolkit cannot find out, and logs an error. The sum of the
-/// positions lacks only the decorations.
+/// Inside a top-level window that is not shown yet, the toolkit cannot find this rectangle, and logs an error. The sum
+/// of the windows' positions is then used instead, which lacks only the decorations.
 wxRect ScreenRect(wxWindow& window)
 {
     if (wxGetTopLevelParent(&window)->IsShown())
@@ -52,8 +52,8 @@ int DisplayOf(wxWindow& window)
     return best;
 }
 
-/// Returns the part of @a rect that lies in @a area. A rectangle wholly outside, for example under a panel, is moved
-/// into it.
+/// Returns the part of @a rect that lies in @a area. A rectangle wholly outside the area, for example under a panel, is
+/// moved into the area.
 wxRect FitInto(const wxRect& area, const wxRect& rect)
 {
     const wxRect common = area.Intersect(rect);
@@ -65,7 +65,8 @@ wxRect FitInto(const wxRect& area, const wxRect& rect)
                   size);
 }
 
-/// Brings a window into the work area of its display; returns false when it stays off every display.
+/// Brings a window into the work area of its display. A window that is on no display is first moved to (0, 0). Returns
+/// false when it is on no display there either.
 bool BringOntoDisplay(wxWindow& window)
 {
     if (DisplayOf(window) == wxNOT_FOUND)
@@ -76,7 +77,7 @@ bool BringOntoDisplay(wxWindow& window)
 
     const wxRect area = wxDisplay(static_cast<unsigned>(display)).GetClientArea();
     wxRect rect(window.GetPosition(), window.GetSize());
-    // The window has no position yet. When it fits, leave its place to the window manager.
+    // The window has no position yet. If it fits into the area, leave its place to the window manager.
     if (rect.GetPosition() == wxDefaultPosition)
         rect.SetPosition(area.GetPosition());
     if (!area.Contains(rect))

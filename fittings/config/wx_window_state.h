@@ -10,9 +10,9 @@ class wxWindow;
 
 /// Window geometry, a frame's maximised state and AUI layouts, each stored under a name that the caller chooses.
 ///
-/// Call the load functions when the window or all panes exist, before the window is shown. Only load a layout with
-/// floating panes when the window is shown. Call the save functions when the window closes. Geometry and the maximised
-/// state are in the default store, sections "wxWindowState" and "wxWindowMaximize"; layouts are in the file
+/// Call the load functions when the window or all panes exist, before the window is shown. A layout with floating panes
+/// is an exception: load it when the window is shown. Call the save functions when the window closes. Geometry and the
+/// maximised state are in the default store, sections "wxWindowState" and "wxWindowMaximize"; layouts are in the file
 /// "wxAuiManagerState.ini" of ui_config_mgr. GUI thread only.
 ///
 /// Windows and managers must not be null. A null name counts as empty. A name may be a text of any kind: see
@@ -74,8 +74,8 @@ FITTINGS_API void SaveAuiManagerState(wxAuiManager* manager, const wchar_t* name
 /// not return with others.
 ///
 /// As in wxAuiManager::LoadPerspective(), panes that the stored layout does not name are hidden, and captions are
-/// restored as they were stored. It cannot read a caption with a ";" or with a "\" before a "|": do not use these in
-/// captions.
+/// restored as they were stored. LoadPerspective() cannot read a caption with a ";" or with a "\" before a "|": do not
+/// use these in captions.
 ///
 /// A floating pane is shown at once. Before the frame is on the screen, a window manager does not keep the pane above
 /// the frame. If panes can float, load the layout when GTK reports the frame as mapped ("map-event"), before it is

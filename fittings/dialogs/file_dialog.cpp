@@ -54,8 +54,8 @@ bool CanBeShown(const wxFileName& folder)
     return folder.DirExists() && folder.IsDirReadable();
 }
 
-// GTK's dialog goes up from a missing folder by itself. Given a file, or a folder that it may not read, it shows an
-// error or nothing, and nothing can be chosen.
+// Starts the dialog in the nearest folder that can be shown. GTK's dialog goes up from a missing folder by itself. For
+// a file, or for a folder that may not be read, it would show an error or nothing, and nothing could be chosen.
 void LeaveWhatCannotBeShown(wxFileDialog& dialog, const wxString& start)
 {
     if (!CanBeShown(wxFileName::DirName(start)) && !IsGone(start))
@@ -123,7 +123,7 @@ CStdStr<wchar_t> LaunchOpenDialog(wxWindow* parent, const wchar_t* defaultExtens
 {
     wxCHECK_MSG(folderSwitch, CStdStr<wchar_t>(), "the folder switch is null");
     const std::wstring folder = *folderSwitch ? LoadLastPath(g_regEntry.c_str()) : std::wstring();
-    // The remembered path is that of a file. It is passed on whole, and the dialog starts in the file's folder.
+    // The remembered path is that of a file. Pass the whole path: the dialog starts in the file's folder.
     const wxString chosen = FileSelector(title, folder.c_str(), L"", defaultExtension, wildcard,
                                          wxFD_OPEN | wxFD_FILE_MUST_EXIST, parent, wxDefaultCoord, wxDefaultCoord);
     SaveLastPath(chosen.wc_str(), g_regEntry.c_str());
@@ -172,7 +172,7 @@ void SaveLastPath(const wchar_t* path, const char* entry)
 {
     if (!*entry || !*path)
         return;
-    // A host's platform may rely on this call. The path is stored as it was chosen.
+    // A host's platform may rely on this call. Its result is not used, because the path is stored as it was chosen.
     file_util_ex::RemoveBackSlash(path);
     CLocalRegStore::WriteString(kLastFilesSection, entry, file_util_ex::ConvertToUTF8(path).c_str());
 }

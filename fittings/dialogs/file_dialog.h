@@ -24,7 +24,7 @@ class wxWindow;
 /// @endcode
 ///
 /// The full path of the chosen file is stored in UTF-8 in the default store, section "LastFiles", with the registry
-/// entry as the key. Each dialog reads it again. A cancelled dialog does not change it.
+/// entry as the key. Each dialog reads the stored path again. A cancelled dialog does not change it.
 ///
 /// Each text may be of any kind: see fittings::TextArgument.
 class FITTINGS_API CQVFileDialogI
@@ -41,7 +41,7 @@ public:
     /// @}
 
     /// Sets the entry, in UTF-8, under which the dialog remembers its file. Returns the earlier entry, so that the
-    /// caller can restore it. A process has one entry. While it is empty, as at first, nothing is proposed or
+    /// caller can restore it. A process has one entry. While the entry is empty, as at first, nothing is proposed or
     /// remembered.
     static std::string SetRegEntry(const std::string& entry);
 

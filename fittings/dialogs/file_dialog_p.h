@@ -17,7 +17,7 @@ namespace fittings {
 inline constexpr char kLastFilesSection[] = "LastFiles";
 /// The application's folder that is proposed while no file is remembered.
 inline constexpr wchar_t kSamplesFolder[] = L"Samples";
-/// Makes a wildcard of an extension.
+/// The text that is put before an extension to make a wildcard.
 inline constexpr wchar_t kWildcardPrefix[] = L"*.";
 /// The registry entry of an application's projects.
 inline constexpr char kLastProjectSave[] = "LastProjectSave";

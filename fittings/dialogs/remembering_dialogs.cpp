@@ -23,7 +23,7 @@ wxString StartFolder(const wxString& remembered)
 {
     if (remembered.StartsWith("/"))
         return fittings::NearestThatCanBeShown(remembered);
-    // The application's own folder is in this folder.
+    // The application's own folder is in the user's documents folder.
     wxFileName documents = wxFileName::DirName(std_file_paths::GetAppFolderPath(L""));
     documents.RemoveLastDir();
     return fittings::NearestThatCanBeShown(documents.GetPath());

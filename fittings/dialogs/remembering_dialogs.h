@@ -18,10 +18,10 @@
 /// @endcode
 ///
 /// What is remembered belongs to an entry, a name that the program chooses. Dialogs with the same entry share it, both
-/// to open and to save. When ShowModal() returns wxID_OK, it is stored in the default store with one save:
+/// to open and to save. When ShowModal() returns wxID_OK, the choice is stored in the default store with one save:
 ///
 /// - The full path, in section "LastFiles", with the entry as the key. CQVFileDialogI stores its file at the same
-///   place. Of several files, it is the last one of GetPaths().
+///   place. If several files were chosen, the path is the last one of GetPaths().
 /// - The pattern of the filter, such as "*.csv", in section "LastFilters", if there is more than one filter.
 ///
 /// A cancelled dialog stores nothing, and neither does one whose entry is empty. A failure to store is not reported.
@@ -31,7 +31,7 @@ public:
     /// Call Create() before anything else.
     wxRememberingFileDialog() = default;
 
-    /// Makes the object and the dialog, as Create() does.
+    /// Makes the object and calls Create() with the same arguments.
     wxRememberingFileDialog(wxWindow* parent, const wxString& entry,
                             const wxString& message = wxASCII_STR(wxFileSelectorPromptStr),
                             const wxString& wildcard = wxASCII_STR(wxFileSelectorDefaultWildcardStr),
@@ -75,23 +75,23 @@ protected:
 /// @endcode
 ///
 /// The folder belongs to an entry, a name that the program chooses. When ShowModal() returns wxID_OK, the full path is
-/// stored in the default store: key "Path" of the section with the entry's name, as wxFolderDlg::DoModalReg() does. Of
-/// several folders, it is the last one of GetPaths(). A cancelled dialog stores nothing, and neither does one whose
-/// entry is empty. A failure to store is not reported.
+/// stored in the default store: key "Path" of the section with the entry's name, as wxFolderDlg::DoModalReg() does. If
+/// several folders were chosen, the path is the last one of GetPaths(). A cancelled dialog stores nothing, and neither
+/// does one whose entry is empty. A failure to store is not reported.
 class FITTINGS_API wxRememberingDirDialog : public wxDirDialog
 {
 public:
     /// Call Create() before anything else.
     wxRememberingDirDialog() = default;
 
-    /// Makes the object and the dialog, as Create() does.
+    /// Makes the object and calls Create() with the same arguments.
     wxRememberingDirDialog(wxWindow* parent, const wxString& entry,
                            const wxString& message = wxASCII_STR(wxDirSelectorPromptStr),
                            long style = wxDD_DEFAULT_STYLE);
 
-    /// Makes the dialog as wxDirDialog::Create() does. It starts in the remembered folder, or in the nearest one above
-    /// it that exists and can be read. If none is remembered, it starts in the user's documents. SetPath() takes
-    /// precedence.
+    /// Makes the dialog as wxDirDialog::Create() does. The dialog starts in the remembered folder, or in the nearest
+    /// one above it that exists and can be read. If none is remembered, it starts in the user's documents. SetPath()
+    /// takes precedence.
     ///
     /// @param parent  may be null.
     /// @param entry  any text.

@@ -54,11 +54,12 @@ public:
 
     ~wxHandyTreeCtrl() override;
 
-    /// Creates the control with the toolkit's default tree style, and its image list, which may make the rows a little
-    /// higher.
+    /// Creates the control with the toolkit's default tree style and an empty image list. The list may make the rows a
+    /// little higher.
     void Create(wxWindow* parent);
 
-    /// Creates the control as the toolkit's Create() does: without an image list. False when it could not be created.
+    /// Creates the control as the toolkit's Create() does: without an image list. Returns false when it could not be
+    /// created.
     bool Create(wxWindow* parent, wxWindowID id, const wxPoint& pos = wxDefaultPosition,
                 const wxSize& size = wxDefaultSize, long style = wxTR_DEFAULT_STYLE,
                 const wxValidator& validator = wxDefaultValidator,
@@ -93,7 +94,7 @@ public:
     /// number of items. The depth of the tree is not limited.
     /// @{
 
-    /// Stores which items are expanded, also items below a collapsed one.
+    /// Stores which items are expanded, including the items below a collapsed one.
     void SaveState(const wxString& name, wxTreeCursor& start);
     void SaveState(const wxString& name, const wxTreeCursor& start);  ///< For a constant cursor.
 
@@ -125,8 +126,8 @@ public:
 
     /// Called each time an item is about to expand. Override it to add the children. The default does nothing.
     ///
-    /// It must not delete @a item, because the item expands afterwards. A handler of wxEVT_TREE_ITEM_EXPANDED may
-    /// delete it, and so may a handler that vetoes the expansion.
+    /// The function must not delete @a item, because the item expands afterwards. A handler of wxEVT_TREE_ITEM_EXPANDED
+    /// may delete the item, and so may a handler that vetoes the expansion.
     virtual void OnItemExpanding(const wxTreeCursor& item);
 
 private:

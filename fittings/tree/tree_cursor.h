@@ -54,10 +54,10 @@ public:
     /// True when there is an item.
     explicit operator bool() const { return IsOk(); }
 
-    /// Returns the item. It lets the toolkit's operations take a cursor: tree->EnsureVisible(tree->GetSelection()).
+    /// Returns the item, so that the toolkit's operations take a cursor: tree->EnsureVisible(tree->GetSelection()).
     operator wxTreeItemId() const { return item; }
 
-    /// The item's number in the toolkit; null when there is no item.
+    /// Returns what identifies the item in the toolkit; null when there is no item.
     wxTreeItemIdValue GetID() const { return item.GetID(); }
 
     /// Makes the cursor invalid; the tree is kept.
@@ -107,7 +107,7 @@ public:
     /// Shows the children, as wxTreeCtrl::Expand() does.
     void Expand();
 
-    /// Whether the children are shown, or would be if the parent's were.
+    /// Whether the item is expanded, even if its parent is collapsed.
     bool IsExpanded() const;
 
     /// Removes the item with all its children.

@@ -21,7 +21,7 @@ std::wstring_view View(const wxString& text)
     return std::wstring_view(text.wc_str(), text.length());
 }
 
-// A place among the children of an item. A step takes constant time; GetNextSibling() would search for its item.
+// A place among the children of an item. A step takes constant time, but GetNextSibling() would search for the item.
 class ChildCursor
 {
 public:
@@ -81,7 +81,7 @@ private:
         return m_tree.HasFlag(wxTR_HIDE_ROOT) && item == m_tree.GetRootItem();
     }
 
-    // Moves to the first child of the last item of the path. False when it has none.
+    // Moves to the first child of the last item of the path. Returns false when that item has no child.
     bool Descend()
     {
         const wxTreeItemId parent = m_path.back().item;
@@ -95,7 +95,7 @@ private:
         return true;
     }
 
-    // Moves to the next sibling of the last item of the path that has one. False when none has.
+    // Moves to the next sibling of the last item of the path that has one. Returns false when no item has one.
     bool Advance()
     {
         for (; m_path.size() > 1; m_path.pop_back()) {
@@ -141,7 +141,7 @@ private:
     wxTreeCtrl& m_tree;
     const Labels& m_labels;
     std::vector<VisitedItem>
-        m_path;  // The items from the start to the one being visited. A deep tree must not use up the stack.
+        m_path;  // The items from the start to the visited one. Recursion would overflow the stack in a deep tree.
 };
 
 // Ignores the text after the last separator.

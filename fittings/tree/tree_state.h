@@ -5,16 +5,16 @@
 
 #include <fittings/tree/tree_cursor.h>
 
-// Converts the expanded items of a subtree to one text and restores them from it. Private to the library.
+// Stores the expanded items of a subtree in one text, and restores them from that text. Private to the library.
 
 namespace fittings {
 
-/// The labels of the expanded items from @a start downwards, each once, in ascending order, each followed by "|". If
-/// several items have the same label, the last one decides.
+/// Returns the labels of the expanded items from @a start downwards, each once, in ascending order, each followed by
+/// "|". If several items have the same label, the last one decides.
 std::wstring ExpandedLabels(const wxTreeCursor& start);
 
-/// Expands each item from @a start downwards whose label is in @a text, parents first. Event handlers may add and
-/// delete items meanwhile, also the item that is being visited.
+/// Expands each item from @a start downwards whose label is in @a text, parents first. Event handlers may meanwhile add
+/// and delete items, including the item that is being visited.
 void ExpandLabels(const std::wstring& text, const wxTreeCursor& start);
 
 }  // namespace fittings

@@ -16,7 +16,7 @@ wxColourComboXmlHandler::wxColourComboXmlHandler()
 
 wxColourComboXmlHandler::~wxColourComboXmlHandler() = default;
 
-// Compare the class name in the resource: wxColourCombo is not registered for creation by name.
+// Compare the class name in the resource, so that objects with a `subclass` are handled too.
 bool wxColourComboXmlHandler::CanHandle(wxXmlNode* node)
 {
     return IsOfClass(node, "wxColourCombo");
@@ -68,7 +68,7 @@ wxColourPopup* wxColourComboXmlHandler::MakePopup()
         popup->SetAutomaticText(GetNodeText(GetParamNode("automatic-text"), wxXRC_TEXT_NO_ESCAPE));
     if (HasParam("more-colours-text"))
         popup->SetMoreColoursText(GetNodeText(GetParamNode("more-colours-text"), wxXRC_TEXT_NO_ESCAPE));
-    // The toolkit reads every text but "1" as false, also an invalid one.
+    // The toolkit reads every text but "1" as false, even an invalid one.
     const wxString refresh = GetParamValue("refresh-combo");
     if (!refresh.empty() && refresh != "0" && refresh != "1")
         ReportParamError("refresh-combo", wxString::Format("\"%s\" is neither 0 nor 1", refresh));

@@ -5,8 +5,8 @@
 
 #include <fittings/base/export.h>
 
-/// Makes a wxNumberCtrl, or a host's class that is derived from it, from an XML resource, for an object of class
-/// "wxNumberCtrl".
+/// Makes a wxNumberCtrl from an XML resource, for an object of class "wxNumberCtrl". If the object has a `subclass`,
+/// makes that host's class, which must be derived from wxNumberCtrl.
 ///
 /// @code{.xml}
 /// <object class="wxNumberCtrl" name="weight">

@@ -27,7 +27,7 @@ wxHandyTreeCtrlXmlHandler::wxHandyTreeCtrlXmlHandler()
 
 wxHandyTreeCtrlXmlHandler::~wxHandyTreeCtrlXmlHandler() = default;
 
-// Compare the class name in the resource: wxHandyTreeCtrl is not registered for creation by name.
+// Compare the class name in the resource, so that objects with a `subclass` are handled too.
 bool wxHandyTreeCtrlXmlHandler::CanHandle(wxXmlNode* node)
 {
     return IsOfClass(node, "wxHandyTreeCtrl");

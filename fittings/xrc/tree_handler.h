@@ -5,8 +5,8 @@
 
 #include <fittings/base/export.h>
 
-/// Makes a wxHandyTreeCtrl, or a host's class that is derived from it, from an XML resource, for an object of class
-/// "wxHandyTreeCtrl".
+/// Makes a wxHandyTreeCtrl from an XML resource, for an object of class "wxHandyTreeCtrl". If the object has a
+/// `subclass`, makes that host's class, which must be derived from wxHandyTreeCtrl.
 ///
 /// @code{.xml}
 /// <object class="wxHandyTreeCtrl" name="folders" subclass="FolderTree">

@@ -5,7 +5,7 @@
 #include <fittings/config/aui_layout.h>
 
 // A manager is not a window, and no event tells when UnInit() is called. So the layout is recorded whenever it is
-// drawn, and when the window is about to close. The last recorded one is stored when the manager or its window is
+// drawn, and when the window is about to close. The last recorded layout is stored when the manager or its window is
 // destroyed.
 
 class wxPersistentAui::Watch
@@ -62,7 +62,7 @@ public:
 
     void ForgetOwner() { m_owner = nullptr; }
 
-    /// Stores the layout and removes the persistent object, if it is still there.
+    /// Stores the layout and removes the persistent object, if that object still exists.
     void End()
     {
         if (m_owner)

@@ -5,7 +5,7 @@
 
 namespace {
 
-/// Returns the tree. Null if it was deleted without Destroy(): then only its base class still exists.
+/// Returns the tree; null if the tree was deleted without Destroy(), which leaves only its base class.
 wxTreeCtrl* TreeOf(wxWindow* window)
 {
     return dynamic_cast<wxTreeCtrl*>(window);

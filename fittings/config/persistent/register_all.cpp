@@ -7,7 +7,8 @@
 
 namespace {
 
-/// A persistent object with its own name. The window keeps the name by which the program finds it.
+/// A persistent object with a name of its own. The name of the window does not change, because the program may find the
+/// window by it.
 template <typename Persistent>
 class Named : public Persistent
 {
@@ -31,7 +32,7 @@ std::unique_ptr<wxPersistentObject> MakeFor(wxWindow& window, const wxString& na
     return found ? std::make_unique<Named<Persistent>>(found, name) : nullptr;
 }
 
-/// Whether the toolkit has persistence for the window's class, and it works for this window.
+/// Whether the window's class has persistence that works for this window.
 bool CanRemember(wxWindow& window)
 {
     if (auto* const list = dynamic_cast<wxListCtrl*>(&window))

@@ -16,7 +16,7 @@ class Children
 public:
     Children(const wxTreeCtrl& tree, const wxTreeItemId& parent) : m_tree(tree), m_parent(parent) {}
 
-    /// The child at this place; null after the last one.
+    /// Returns the child at this place, or an invalid item after the last child, and moves to the next place.
     wxTreeItemId Next()
     {
         return std::exchange(m_isAtStart, false) ? m_tree.GetFirstChild(m_parent, m_cookie)

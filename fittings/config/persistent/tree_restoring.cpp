@@ -102,7 +102,7 @@ void RestoreSteps(wxTreeCtrl& tree, const TreeSteps& steps)
 {
     Descent descent(tree);
     {
-        // Otherwise each expansion would lay out the whole tree again.
+        // Freeze the tree. Otherwise each expansion would lay out the whole tree again.
         const wxWindowUpdateLocker frozen(&tree);
         for (const TreeStep& step : steps) {
             const wxTreeItemId item = descent.Go(step);

@@ -29,7 +29,8 @@ public:
     /// Records the window's place while it is neither maximised, full screen nor iconised.
     void Follow(wxTopLevelWindow& window);
 
-    /// True when the window is maximised, or was when it was hidden: the system forgets this state of a hidden window.
+    /// True when the window is maximised, or was maximised when it was hidden. The system forgets this state of a
+    /// hidden window.
     bool IsMaximized(const wxTopLevelWindow& window) const;
 
     /// True when the window is maximised, full screen or iconised.
@@ -43,7 +44,7 @@ private:
 
     const std::function<void()> m_atEnd;
     std::optional<wxRect> m_normal;
-    bool m_wasMaximized = false;  // The state when it was hidden.
+    bool m_wasMaximized = false;  // Whether the window was maximised when it was hidden.
     std::weak_ptr<WindowRecord> m_self;
 };
 
