@@ -57,7 +57,8 @@ bool Increment(std::string& digits)
     return true;
 }
 
-/// Returns how many digits a number has with @a decimals decimals. It may be more than the number has, or less than 0.
+/// Returns how many leading digits of @a number remain when it is cut off after @a decimals decimals. The result may be
+/// larger than the number of its digits, or negative.
 std::int64_t DigitsKept(const Decimal& number, std::int64_t decimals)
 {
     return number.point + std::clamp(decimals, -kMostExponent, kMostExponent);

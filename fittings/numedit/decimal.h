@@ -24,7 +24,8 @@ struct Decimal
 
 constexpr std::int64_t kMostExponent = 100'000'000'000'000'000;
 
-/// Makes a number of @a digits, @a point of which stand before the decimal point. It may begin or end with zeros.
+/// Makes a number of @a digits, @a point of which stand before the decimal point. @a digits may begin or end with
+/// zeros.
 Decimal MakeDecimal(std::string_view digits, std::int64_t point, bool negative = false);
 
 /// Reads a sign, digits with an optional `.`, and an exponent. Returns nothing for any other text.

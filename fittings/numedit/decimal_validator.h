@@ -20,13 +20,14 @@ class wxTextEntry;
 ///                  wxDecimalValidator(&m_price));
 /// @endcode
 ///
-/// On a wxNumberCtrl, it uses that control's format and bounds. On any other wxTextEntry, such as a wxComboBox, it uses
-/// its own format. There it also reads groups and the template, and does not check typing.
+/// On a wxNumberCtrl, the validator uses the control's format and bounds. On any other wxTextEntry, such as a
+/// wxComboBox, the validator uses its own format. It then also reads groups and the template, and does not check
+/// typing.
 ///
-/// An empty field has no number. With a wxString it is accepted and transferred as the empty text; without a variable
-/// it is accepted too. With a `double` or an integer it is refused, because these cannot express that there is no
-/// number. An integer also refuses a number with a fraction or one that does not fit. A `double` takes the nearest
-/// value.
+/// An empty field has no number. A validator for a wxString accepts an empty field and transfers it as the empty text.
+/// A validator without a variable accepts an empty field too. A validator for a `double` or an integer refuses an empty
+/// field, because these types cannot express that there is no number. A validator for an integer also refuses a number
+/// that has a fraction or does not fit. A `double` takes the nearest value.
 ///
 /// A derived class must override Clone(). The toolkit's class information does not distinguish this class from
 /// wxValidator: use dynamic_cast. GUI thread only.

@@ -28,13 +28,13 @@
 /// not checked on the way in. Validate() and TransferFromWindow() check them, so that no dialog ends with a text that
 /// the format does not accept.
 ///
-/// They accept what CNumberEditUtils::ValidateString() accepts, so also the beginning of a number: the empty text, "-",
-/// "+", "." if decimals are accepted, "1." and "1e-". A program that needs a value must check for one, for example with
-/// wxString::ToCDouble().
+/// Both functions accept what CNumberEditUtils::ValidateString() accepts. This includes the beginning of a number: the
+/// empty text, "-", "+", "." if decimals are accepted, "1." and "1e-". A program that needs a value must check for one,
+/// for example with wxString::ToCDouble().
 ///
 /// If the keypad's decimal key is reported as WXK_NUMPAD_DECIMAL, it types the format's decimal point and not the
-/// layout's character. If the layout gives the key another code, such as WXK_NUMPAD_SEPARATOR in the German layout, it
-/// types the layout's character, which is checked like any other.
+/// layout's character. If the layout gives the key another code, such as WXK_NUMPAD_SEPARATOR in the German layout, the
+/// key types the layout's character. That character is checked like any other.
 ///
 /// wxNumberCtrl does more than this validator: it accepts the beginning of each number within any bounds, checks pasted
 /// text, formats, steps, and returns a `double`. wxDecimalValidator works on every wxTextEntry.
@@ -43,13 +43,13 @@
 /// does not distinguish this class from wxValidator: use dynamic_cast. The host may set another validator on the
 /// control while this one handles a key.
 ///
-/// For single-line wxTextCtrl controls. On any other window, also on a wxComboBox, Validate() and both transfers assert
+/// For single-line wxTextCtrl controls. On any other window, such as a wxComboBox, Validate() and both transfers assert
 /// and return false, and typing is not checked. GUI thread only.
 class FITTINGS_API wxNumValidator : public wxValidator
 {
 public:
     /// Copies @a format. @a value is not owned and must outlive the validator and each control that it was set on. If
-    /// it is null, nothing is transferred.
+    /// @a value is null, nothing is transferred.
     wxNumValidator(const CNumberFormat& format, wxString* value);
 
     /// Copies the format and the pointer to the value, but neither the window nor the state of the keypad key.
@@ -74,13 +74,13 @@ public:
 
     /// Puts the host's text into the control without checking or formatting it. The control sends wxEVT_TEXT.
     ///
-    /// With a null value, it does nothing and returns true. Otherwise it returns CheckValidator().
+    /// With a null value, does nothing and returns true. Otherwise returns CheckValidator().
     bool TransferToWindow() override;
 
     /// Copies the control's text to the host's text if the format accepts it. Otherwise leaves the host's text and
     /// returns false.
     ///
-    /// Unlike Validate(), it checks a disabled control too. With a null value, it does nothing and returns true.
+    /// Unlike Validate(), checks a disabled control too. With a null value, does nothing and returns true.
     bool TransferFromWindow() override;
 
     /// Refuses a character if the text would no longer be a number or the beginning of one. It rings the bell unless

@@ -460,7 +460,7 @@ void wxNumberCtrl::TellNumber()
     HandleWindowEvent(event);
 }
 
-/// Shows the problem of the text, or removes the sign of an earlier one.
+/// Shows the problem of the text. If the text has no problem, stops showing an earlier one.
 void wxNumberCtrl::TellProblem()
 {
     const wxString problem = GetProblem();

@@ -67,8 +67,8 @@ public:
     /// Makes the object. Call Create() before anything else.
     wxNumberCtrl();
 
-    /// Makes an empty field. Without a @a validator, it gets one that refuses a text that is not a number within the
-    /// bounds.
+    /// Makes an empty field. Without a @a validator, the field gets one that refuses a text that is not a number within
+    /// the bounds.
     explicit wxNumberCtrl(wxWindow* parent, wxWindowID id = wxID_ANY, const CNumberFormat& format = FromLocale(),
                           const wxPoint& pos = wxDefaultPosition, const wxSize& size = wxDefaultSize, long style = 0,
                           const wxValidator& validator = wxDefaultValidator,

@@ -55,12 +55,12 @@ public:
 
     /// Whether @a text may stand in a field while a user types.
     ///
-    /// It accepts what ValidateString() accepts. If decimals are accepted, it also accepts, whatever the bounds, the
-    /// lone point, "0", "0." and up to m_nDecimals zeros behind the point. So 0.05 can be typed if the lowest value is
-    /// 0.01.
+    /// Accepts what ValidateString() accepts. If decimals are accepted, these texts are accepted too, whatever the
+    /// bounds: the lone point, "0", "0." and up to m_nDecimals zeros behind the point. So 0.05 can be typed if the
+    /// lowest value is 0.01.
     ///
     /// Other beginnings must be within the bounds themselves. With a lowest value of 10, "1" is refused, although "12"
-    /// is accepted. With a highest value below 0, "-" is refused, because it counts as 0.
+    /// is accepted. With a highest value below 0, "-" is refused, because a lone sign counts as 0.
     static bool ValidateInput(const wchar_t* text, const CNumberFormat& format);
 
     /// Returns @a text formatted for display: without needless zeros, with a rounded or padded fraction, grouped digits

@@ -39,7 +39,7 @@ public:
     std::optional<std::wstring> Accepted(const NumberEntry::Insertion& insertion) const;
 
     /// Returns the plain text after one step, or ten steps, up or down. Returns nothing if there is no such number or
-    /// it is the same.
+    /// the step does not change the number.
     std::optional<std::wstring> Stepped(const std::wstring& plain, bool up, bool tenfold) const;
 
     /// Converts a place in @a from to the place in @a to with the same number of digits to the decimal point.

@@ -17,8 +17,8 @@ enum EGeneralFormat : int {
 
 /// How a number looks in a text control, and which input the control accepts.
 ///
-/// A plain record: choose a preset, change the fields that differ, and hand it to CNumberEditUtils or a copy of it to
-/// a wxNumValidator. Copies are deep.
+/// A plain record: choose a preset and change the fields that differ. Then pass the format to CNumberEditUtils, or to a
+/// wxNumValidator, which copies it. Copies are deep.
 ///
 /// @code
 /// CNumberFormat weight(eFixedFormat);
@@ -70,12 +70,14 @@ public:
     /// @name Limits, each in force only while its flag is set
     /// A limit that is not in force is never read.
     ///
-    /// While the user types, the part of the number that is typed so far is checked against the bounds. If the lowest
-    /// value is 0 or less and the highest is 0 or more, every number within the bounds that has no exponent can be
-    /// typed. The same holds for a lowest value of 1, 0.1, 0.01 and so on, without a plus sign and with "0." at the
-    /// beginning of a fraction. Other bounds refuse the beginning of numbers that they accept: a lowest value of 10
-    /// refuses the "1" of "12", and a highest value below 0 refuses each "-". Leave such a bound out, and check it when
-    /// the dialog ends.
+    /// While the user types, the part of the number that is typed so far is checked against the bounds. With these
+    /// bounds, every number within them that has no exponent can be typed:
+    /// - A lowest value of 0 or less and a highest value of 0 or more.
+    /// - A lowest value of 1, 0.1, 0.01 and so on, if the number is typed without a plus sign, and a fraction with "0."
+    ///   at its beginning.
+    ///
+    /// Other bounds refuse the beginning of numbers that they accept. A lowest value of 10 refuses the "1" of "12", and
+    /// a highest value below 0 refuses each "-". Leave such a bound out, and check it when the dialog ends.
     /// @{
 
     /// If false, no decimals are accepted, and the decimals of a shown number stay as they are.

@@ -83,7 +83,7 @@ bool IsSeparator(wchar_t c, wchar_t separator)
     return separator != 0 && (c == separator || (IsBlank(c) && IsBlank(separator)));
 }
 
-/// Removes the separators. Returns false if one does not stand behind a digit and before a whole group.
+/// Removes the separators. Returns false if a separator does not stand behind a digit and before a whole group.
 bool Ungroup(std::wstring& text, const CNumberFormat& format)
 {
     const wchar_t separator = format.m_chThousandsSep;

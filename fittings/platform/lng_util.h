@@ -13,9 +13,9 @@ namespace lng_util_internal {
 
 /// Returns the translation of the English text @a key, or the text of @a key itself when there is none.
 ///
-/// Translations come from the host's wxTranslations. The first look-up loads the library's own catalogue, "fittings",
-/// into it, unless the host has loaded it. The toolkit prefers the catalogue that was loaded last. So a host with its
-/// own translations of the same texts loads "fittings" before its own catalogue.
+/// Translations come from the host's wxTranslations. The first look-up adds the library's own catalogue, "fittings",
+/// unless the host has loaded this catalogue. The toolkit prefers the catalogue that was loaded last. So a host with
+/// its own translations of the same texts loads "fittings" before its own catalogue.
 ///
 /// The result stays valid until the process ends. A null key gives null. A null @a domain counts as a domain with an
 /// empty name. GUI thread only.

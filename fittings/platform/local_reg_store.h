@@ -37,8 +37,8 @@ class CIniFile;
 
 /// The settings store: single INI files, and the default store that a whole application shares.
 ///
-/// A text may contain any character, also line breaks and lone surrogates, and is read back exactly. Null counts as
-/// empty. Names of sections and keys are compared exactly, including upper and lower case.
+/// A text may contain any character, including line breaks and lone surrogates, and is read back exactly. Null counts
+/// as empty. Names of sections and keys are compared exactly, including upper and lower case.
 ///
 /// Each text may be a wxString, a std::string, a std::wstring, or a wide or narrow literal. One call may mix them: see
 /// fittings::TextArgument.
@@ -96,8 +96,8 @@ public:
     using Entry = fittings::SettingsEntry;  ///< A key and its value.
 
     /// Returns the keys of @a section with their values, in the order of GetKeyNames(). The time is in proportion to
-    /// their number. For the section with the empty name, the result begins with the keys before the first section,
-    /// because wxFileConfig writes them there.
+    /// the number of keys. For the section with the empty name, the result begins with the keys before the first
+    /// section, because wxFileConfig writes them there.
     static std::vector<Entry> GetEntries(const CIniFile& ini, const wchar_t* section);
 
     /// Writes the whole object to @a path. The file is created or replaced in one step.
@@ -159,14 +159,14 @@ public:
     /// Stores an integer as decimal text. Returns as WriteString() does.
     static bool WriteProfileInt(const wchar_t* section, const wchar_t* key, int value);
 
-    /// Removes a key. Returns false when the store could not be saved; true also when there was no such key.
+    /// Removes a key. Returns false when the store could not be saved, and true even when there was no such key.
     static bool DeleteProfile(const wchar_t* section, const wchar_t* key);
 
     /// Makes several changes with one save. Returns false when they could not be saved; none of them is then stored.
     static bool SaveChanges(const std::vector<Change>& changes);
 
-    /// Reads the default store into @a ini as the operation with a path reads a file. It includes what this thread's
-    /// Batch has collected.
+    /// Reads the default store into @a ini as the operation with a path reads a file. The result includes what this
+    /// thread's Batch has collected.
     static bool Refresh(CIniFile& ini);
 
     /// Returns the names of all sections, each once, in the order of the file.
@@ -332,8 +332,8 @@ public:
 /// for all settings of a window that closes.
 ///
 /// While an object lives, each write of its thread to the default store returns true, and that thread's reads return
-/// the new value. Other threads and processes see it after the save. Objects may be nested; the destructor of the
-/// outermost object saves. Destroy each object in the thread that made it, in the reverse order.
+/// the new value. Other threads and processes see the new value after the save. Objects may be nested; the destructor
+/// of the outermost object saves. Destroy each object in the thread that made it, in the reverse order.
 ///
 /// @code
 /// CLocalRegStore::Batch batch;
@@ -352,9 +352,9 @@ public:
     Batch(const Batch&) = delete;
     Batch& operator=(const Batch&) = delete;
 
-    /// Saves everything that this thread has collected so far, also for the objects around this one: all of it or
-    /// nothing. Returns false when it could not be saved. It then stays collected, and the outermost object tries
-    /// again.
+    /// Saves everything that this thread has collected so far, including what the objects around this one have
+    /// collected: all of it or nothing. Returns false when it could not be saved. The changes then stay collected, and
+    /// the outermost object tries again.
     bool Save();
 
 private:

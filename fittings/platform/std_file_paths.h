@@ -19,7 +19,7 @@ namespace std_file_paths {
 /// The environment is read once, at first use.
 ///
 /// The home folder is taken from HOME, or from the password database if HOME is unset, empty or relative. If neither
-/// names an absolute folder, it is "/", where only root can store files. So the path is always absolute.
+/// names an absolute folder, the home folder is "/", where only root can store files. So the path is always absolute.
 FITTINGS_API std::wstring GetUserDataDir();
 
 /// Makes GetUserDataDir() return @a path from now on; an empty path restores the default. Nothing is moved.

@@ -24,7 +24,7 @@ constexpr bool kIsNarrowText =
 template <typename... Texts>
 constexpr bool kAreNarrowTexts = (kIsNarrowText<Texts> && ...) && !(kIsWideText<Texts> && ...);
 
-/// Passes a text of any kind to a function that takes a `const wchar_t*`. It is valid during that call.
+/// Passes a text of any kind to a function that takes a `const wchar_t*`. The argument is valid during that call.
 ///
 /// file_util_ex::ConvertFromUTF8W() converts narrow text, which is UTF-8 whatever the locale. A text ends at its first
 /// null character. A null pointer stays null.

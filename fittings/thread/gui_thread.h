@@ -49,13 +49,13 @@
 /// };
 /// @endcode
 ///
-/// The owner must shut down in that order: StartKill(), Wait(), destroy. Do not destroy a worker that still runs. Its
-/// destructor does not stop it and waits too late: the mutexes that PostEvent() uses are destroyed before the base
-/// class waits.
+/// The owner must shut down in that order: StartKill(), Wait(), destroy. Do not destroy a worker that still runs. The
+/// destructor does not stop the worker and waits too late: the mutexes that PostEvent() uses are destroyed before the
+/// base class waits.
 ///
-/// The handler is not owned and must live until Wait() has returned. It may then be destroyed even if events are still
-/// queued: the toolkit drops them. The owner's thread makes, runs, stops, waits for and destroys the object. Any thread
-/// may call DoContinue() and PostEvent().
+/// The handler is not owned and must live until Wait() has returned. Then the handler may be destroyed even if events
+/// are still queued: the toolkit drops them. The owner's thread makes, runs, stops, waits for and destroys the object.
+/// Any thread may call DoContinue() and PostEvent().
 class FITTINGS_API wxGUIThread : public wxThreadEx
 {
 public:
@@ -113,7 +113,7 @@ public:
     bool PostEvent(int eventType, int value, long extra);  ///< Does the same with an extra long.
     bool PostEvent(int eventType, int value, void* data);  ///< Does the same with client data.
 
-    /// Posts a copy of the event as it is, also after StartKill(), so that a stopped worker can report a last result.
+    /// Posts a copy of the event as it is, even after StartKill(), so that a stopped worker can report a last result.
     /// Returns false when there is no handler.
     bool PostResult(const wxCommandEvent& event);
 
@@ -159,9 +159,9 @@ private:
 /// };
 /// @endcode
 ///
-/// If the handler outlives the worker, events may arrive after the worker is destroyed. So what an event refers to must
-/// belong to the handler or live as long as it, like the line with that number here. Do not post client data that
-/// points into the worker.
+/// If the handler outlives the worker, events may arrive after the worker is destroyed. What an event refers to must
+/// therefore belong to the handler or live as long as the handler, like the lines in this example. Do not post client
+/// data that points into the worker.
 class FITTINGS_API wxGUIThreadEx : public wxGUIThread
 {
 public:

@@ -38,7 +38,7 @@ public:
     explicit wxThreadExImpl(wxThreadEx* owner) : wxThread(wxTHREAD_DETACHED), m_owner(owner) {}
 
 private:
-    // Tells the owner that the thread is over, also after an exception: Wait() must not hang.
+    // Tells the owner that the thread is over, even after an exception: Wait() must not hang.
     //
     // The C library first destroys a thread's thread-local objects, such as this one, and then the values of its keys,
     // in rounds. The toolkit's values are destroyed in the first round, so the owner is told in the second. Otherwise a
@@ -107,8 +107,8 @@ wxThreadEx::~wxThreadEx()
 
 wxThreadError wxThreadEx::Create(unsigned int WXUNUSED(stackSize))
 {
-    // Once the thread runs, the implementation may be gone. Before that, the toolkit would make a second thread for it,
-    // which would outlive it.
+    // Once the thread runs, the implementation may be gone. Before that, the toolkit would make a second thread for the
+    // implementation, and this thread would outlive the implementation.
     if (m_running || m_impl->GetId() != 0)
         return wxTHREAD_RUNNING;
     return m_impl->Create(0);

@@ -44,9 +44,9 @@ class wxThreadExImpl;
 /// - A detached object must outlive its Entry(): the thread writes into the object when Entry() has returned, and
 ///   neither Wait() nor the destructor waits for that. No call tells when the thread is done, so keep such an object
 ///   until the process ends. Do not shut the toolkit down while its thread runs.
-/// - The thread itself frees the toolkit's thread object behind this one when it ends. An object that never ran, or
-///   whose Run() failed, leaves that object allocated until the process ends. After Create() it also leaves a waiting
-///   thread, which may disturb the toolkit's shutdown. So call Create() only if you call Run().
+/// - The thread itself frees the toolkit's thread object behind this one when it ends. If this object never ran, or its
+///   Run() failed, the toolkit's object stays allocated until the process ends. After Create() a waiting thread stays
+///   too, which may disturb the toolkit's shutdown. So call Create() only if you call Run().
 class FITTINGS_API wxThreadEx
 {
 public:
@@ -108,8 +108,8 @@ private:
     wxThread::ExitCode m_exitCode;
 
 protected:
-    /// Called on the thread with the exit code when Entry() has returned. It must not call HasEnded() or Wait(), which
-    /// wait for it. Set it before Run().
+    /// Called on the thread with the exit code when Entry() has returned. The function must not call HasEnded() or
+    /// Wait(), which wait for the function to return. Set it before Run().
     std::function<void(wxThread::ExitCode)> m_atEnd;
 };
 

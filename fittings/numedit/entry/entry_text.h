@@ -39,7 +39,8 @@ private:
     guint m_signal;
 };
 
-/// Inserts a text in UTF-8, and moves @a position behind it. The toolkit does not take it for typed characters.
+/// Inserts a text in UTF-8, and moves @a position behind the text. The toolkit does not take the text for typed
+/// characters.
 void InsertUntyped(GtkEntry* entry, void* toolkit, const std::string& text, int& position);
 
 }  // namespace fittings

@@ -108,8 +108,8 @@ void NumberEntry::OnDelete(GtkEditable* entry, int begin, int end, NumberEntry* 
     self->Deleting(begin, end);
 }
 
-/// Inserts a dropped text as GTK does, but tells the source when the text was refused. GTK tells it that each text was
-/// taken, and the source then deletes a text that is moved.
+/// Inserts a dropped text as GTK does, but tells the source when the text was refused. GTK would tell the source that
+/// every text was taken, and the source would then delete a text that is moved.
 void NumberEntry::OnDropped(GtkWidget* entry, GdkDragContext* drag, int x, int, GtkSelectionData* data, unsigned,
                             unsigned time, NumberEntry* self)
 {
@@ -133,7 +133,8 @@ bool NumberEntry::Dropped(const char* text, int x)
     return isOnSelection ? Take(dropped) : Inserting(dropped, position);
 }
 
-/// Keeps the deleted text until the next input: if an insertion replaces it and is refused, it is restored.
+/// Keeps the deleted text until the next input. If an insertion that replaces this text is refused, the text is
+/// restored.
 void NumberEntry::Deleting(int begin, int end)
 {
     const std::wstring text = Text();
@@ -144,7 +145,7 @@ void NumberEntry::Deleting(int begin, int end)
         m_source = g_idle_add_full(G_PRIORITY_HIGH, OnSoon, this, nullptr);
 }
 
-/// Returns whether the text was accepted.
+/// Checks a text and inserts it. Returns whether the text was accepted.
 bool NumberEntry::Inserting(const std::wstring& text, int& position)
 {
     const std::wstring all = Text();

@@ -20,10 +20,10 @@ namespace fittings {
 ///
 /// GTK deletes a selection before it inserts the text that replaces it. While a key is being handled, that deletion
 /// waits until the insertion is accepted, so a refused key changes nothing. A text that an input method inserts later
-/// does not come with a key: there the deleted selection is restored after a refusal. A text that is dropped on the
-/// selection replaces it only if it is accepted.
+/// does not come with a key: if such a text is refused, the deleted selection is restored. A text that is dropped on
+/// the selection replaces the selection only if the text is accepted.
 ///
-/// The program is told of an insertion at once, and its handler may destroy the object.
+/// The program is told of an insertion at once, and a handler of the program may destroy the object.
 class NumberEntry : public wxTrackable
 {
 public:
@@ -47,13 +47,14 @@ public:
     NumberEntry(const NumberEntry&) = delete;
     NumberEntry& operator=(const NumberEntry&) = delete;
 
-    /// Surrounds the handling of a key by GTK's input method. @a filter passes the key on, and its result is returned.
+    /// Calls @a filter, which passes a key to GTK's input method, and returns its result. What the input method inserts
+    /// meanwhile counts as input by the key.
     int Filter(const GdkEventKey* key, const std::function<int()>& filter);
 
     /// Replaces the selection by a text as if it were pasted. Returns whether the text was accepted.
     bool Take(const std::wstring& text);
 
-    /// Changes by the program are not checked while the object lives.
+    /// While an object of this class exists, changes by the program are not checked.
     class Free;
 
     /// Calls @a action after the present event, before any other input.

@@ -34,8 +34,8 @@ bool IsBefore(const timespec& a, const timespec& b)
     return a.tv_sec != b.tv_sec ? a.tv_sec < b.tv_sec : a.tv_nsec < b.tv_nsec;
 }
 
-// Later than the file's timestamp can resolve: a file that changes from now on gets another timestamp. Some file
-// systems keep only whole seconds, and some only every second one of them.
+// Whether @a now is later than the file's timestamp can resolve: a file that changes from now on gets another
+// timestamp. Some file systems store only whole seconds, and some only even seconds.
 bool IsPastTick(const timespec& stamp, const timespec& now)
 {
     return stamp.tv_nsec == 0 ? stamp.tv_sec + 2 <= now.tv_sec : IsBefore(stamp, now);
@@ -97,9 +97,9 @@ void SyncFolder(const std::string& folder)
         fsync(descriptor.Get());
 }
 
-// Returns the content of the displaced file. If another process has removed that file as a leftover, it is the file
-// that was opened before the exchange: every other file is too new to be a leftover. If the file was empty before, the
-// write has waited for its content already.
+// Returns the content of the displaced file. If another process has already removed that file as a leftover, it was the
+// file that was opened before the exchange: every other file is too new to count as a leftover. If the content before
+// the exchange was empty, the write has already waited for new content.
 std::optional<std::string> ReadDisplaced(const StagedFile& staged, int before, bool wasEmpty)
 {
     std::string bytes;
@@ -187,8 +187,9 @@ UpdateResult MergeDisplaced(const Target& target, const Exchanged& done, const F
     return done.staged.Exchange() == PlaceResult::Done ? UpdateResult::Failed : UpdateResult::Saved;
 }
 
-// A lock of the folder: only its holder exchanges a file there. It is held for the microseconds between the last check
-// of the file and the exchange. Unlike a lock file, nobody can remove it.
+// A lock of the folder: only the holder of the lock exchanges a file in the folder. The lock is held for the
+// microseconds between the last check of the file and the exchange. Nobody can remove the lock, as they could remove a
+// lock file.
 class ExchangeLock
 {
 public:
@@ -357,7 +358,7 @@ std::string KeepUnderOtherName(const std::string& path)
             return other;
         if (errno != EEXIST)
             break;
-        // Another process may have named the file so just now.
+        // Another process may have given the file this name just now.
         const auto named = IdentityOf(other);
         const auto file = IdentityOf(*target);
         if (named && file && named->HasContentOf(*file))

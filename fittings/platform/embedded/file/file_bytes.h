@@ -27,7 +27,7 @@ struct FileIdentity
     explicit FileIdentity(const struct stat& info);
     bool operator==(const FileIdentity& other) const;
 
-    /// Whether both are states of one file with the same content. Its names may differ.
+    /// Whether both are states of one file with the same content. The names of the file may differ.
     bool HasContentOf(const FileIdentity& other) const;
 };
 
@@ -52,8 +52,8 @@ struct FileContent
 /// Appends the bytes of the file at @a path to @a bytes. A file of more than kMaxFileSize bytes fails.
 FileContent ReadFileBytes(const std::string& path, std::string& bytes);
 
-/// Reads the file like ReadFileBytes(), in place of @a bytes. Waits for a program that has emptied the file in place to
-/// fill it: half a second after the last change of the file, and not after @a deadline.
+/// Replaces @a bytes with the content of the file, read as ReadFileBytes() does. If the file is empty for now, waits
+/// until it has content, but not longer than half a second after its last change, and not beyond @a deadline.
 FileContent ReadFilledBytes(const std::string& path, std::string& bytes,
                             std::chrono::steady_clock::time_point deadline);
 
@@ -94,8 +94,8 @@ UpdateResult UpdateFileBytes(const std::string& path, const FileUpdate& update);
 /// an empty text on any error.
 std::string KeepUnderOtherName(const std::string& path);
 
-/// If root has made the open file in the folder of another user, makes that user its owner, who could not use it
-/// otherwise. Only for a file that this process has just made.
+/// If root has made the open file in the folder of another user, makes that user the owner of the file. Otherwise that
+/// user could not use the file. Only for a file that this process has just made.
 void GiveToOwnerOfFolder(int fd, const std::string& folder);
 
 /// Returns the folder that the file at @a path is in.

@@ -81,7 +81,8 @@ bool WaitForLock(int fd, FileLock::Clock::time_point deadline)
     }
 }
 
-// Does not follow a link: its target could be any file of another user. Returns -1 on any error.
+// Opens the lock file and makes it if missing. Does not follow a link, because its target could be any file of another
+// user. Returns -1 on any error.
 int OpenLockFile(const std::string& path)
 {
     constexpr int kFlags = O_RDWR | O_CLOEXEC | O_NONBLOCK | O_NOCTTY | O_NOFOLLOW;
@@ -91,7 +92,7 @@ int OpenLockFile(const std::string& path)
     const int made = open(path.c_str(), kFlags | O_CREAT | O_EXCL, 0600);
     if (made >= 0)
         GiveToOwnerOfFolder(made, FolderOf(path));
-    // Another process may have made it just now.
+    // Another process may have made the file just now.
     return made < 0 && errno == EEXIST ? open(path.c_str(), kFlags) : made;
 }
 

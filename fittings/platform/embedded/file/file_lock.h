@@ -23,7 +23,7 @@ public:
     FileLock(const FileLock&) = delete;
     FileLock& operator=(const FileLock&) = delete;
 
-    /// False also when the lock file cannot be opened, or is a link.
+    /// Whether this object has the lock. False also if the lock file cannot be opened or is a link.
     bool IsHeld() const { return m_isHeld; }
 
 private:

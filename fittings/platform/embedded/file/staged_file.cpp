@@ -69,7 +69,7 @@ void RemoveLeftovers(const std::string& folder)
     g_dir_close(dir);
 }
 
-// When this returns true, the bytes are on the disk.
+// Writes the bytes. When the function returns true, the bytes are on the disk.
 bool WriteDurably(int fd, std::string_view bytes)
 {
     while (!bytes.empty()) {

@@ -145,7 +145,8 @@ fittings::UpdateResult CIniFile::Update() const
     return fittings::UpdateFileBytes(m_path, {m_content, m_text->Original(), std::move(changed), merge});
 }
 
-// Keeps the unreadable file under another name. If somebody puts a new file in its place meanwhile, that one stays.
+// Keeps the unreadable file under another name, and puts a new file in its place. If somebody else puts a file there
+// meanwhile, that file stays.
 fittings::UpdateResult CIniFile::ReplaceUnreadable() const
 {
     using fittings::UpdateResult;
@@ -169,8 +170,8 @@ fittings::UpdateResult CIniFile::ReplaceUnreadable() const
         isUnreadable(found.identity)
             ? fittings::UpdateFileBytes(m_path, {found, m_unreadable, m_text->Changed(), keepDisplaced})
             : UpdateResult::Outdated;
-    // Remove the second name only when the file still has the first: another process may have replaced the file, and
-    // rely on this name.
+    // Remove the second name only if the file still has its first name. Otherwise another process may have replaced the
+    // file and rely on the second name.
     if (result != UpdateResult::Saved && fittings::IdentityOf(m_path) == fittings::IdentityOf(other))
         unlink(other.c_str());
     return result;
@@ -272,7 +273,7 @@ bool CIniFile::HasEarlyKey(std::wstring_view key) const
 }
 
 // Returns the keys before the first section, followed by @a keys of the section with the empty name. For a key in both,
-// the value of that section counts.
+// the value in @a keys counts.
 std::vector<IniText::Key> CIniFile::WithEarlyKeys(const std::vector<IniText::Key>& keys) const
 {
     std::vector<IniText::Key> all = m_text->Keys(IniText::kEarlyKeys);

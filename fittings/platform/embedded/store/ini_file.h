@@ -25,8 +25,9 @@ public:
     /// bytes have no settings and are not readable text.
     bool Load(const std::string& path, const Reader& read = fittings::ReadFileBytes);
 
-    /// Loads the file and makes the changes in it, unless the file has certainly not changed since the last load and
-    /// the revision of the changes is the same. Returns true when the content of the object may have changed.
+    /// Loads the file and applies the changes to the loaded content, unless the file has certainly not changed since
+    /// the last load and the revision of the changes is the same. Returns true when the content of the object may have
+    /// changed.
     bool Refresh(const std::string& path, const std::vector<fittings::SettingsChange>& changes = {},
                  std::uint64_t revision = 0);
 
@@ -71,7 +72,8 @@ public:
     /// section come first.
     std::vector<fittings::SettingsEntry> Entries(std::wstring_view section) const;
 
-    /// Whether the last Refresh() kept an earlier content because the file was empty. The file does not hold it.
+    /// Whether the last Refresh() kept an earlier content because the file was empty. That content is not in the
+    /// file.
     bool IsEarlierContent() const { return m_isEarlierContent; }
 
     /// Whether the last Load() found a file that it could not read.

@@ -26,11 +26,11 @@ public:
     bool Store(const std::vector<SettingsChange>& changes);
 
 private:
-    /// When one write stops to wait.
+    /// The times at which one write stops waiting.
     struct Deadlines
     {
         FileLock::Clock::time_point lock;
-        FileLock::Clock::time_point filling;  ///< Of a file that another program has emptied.
+        FileLock::Clock::time_point filling;  ///< For a file that another program has emptied.
     };
 
     UpdateResult StoreOnce(const std::vector<SettingsChange>& changes, const Deadlines& deadlines);

@@ -265,7 +265,7 @@ std::string EncodeValue(std::wstring_view text)
 
 std::wstring DecodeValue(std::string_view value)
 {
-    value = WithoutBlanksAtEnd(value);  // blanks before a value are not part of it
+    value = WithoutBlanksAtEnd(value);  // a value has no blanks at its beginning
     if (IsQuoted(value)) {
         if (auto text = Unquoted(value.substr(1, value.size() - 2)))
             return *std::move(text);

@@ -14,7 +14,7 @@ namespace fittings {
 /// empty text is "%". Different texts have different names.
 std::string EncodeName(std::wstring_view text);
 
-/// Returns the text that a name in a file stands for, even if another program or a person wrote it.
+/// Returns the text that a name in a file stands for, even if another program or a person wrote the name.
 std::wstring DecodeName(std::string_view name);
 
 /// Whether a byte may stand unencoded at any place of every name.

@@ -51,7 +51,7 @@ private:
     bool m_inSection = false;
 };
 
-/// The number of bytes of the byte order mark that @a text begins with, or 0.
+/// Returns the number of bytes of the byte order mark that @a text begins with; 0 if there is none.
 std::size_t ByteOrderMarkSize(std::string_view text);
 
 }  // namespace fittings

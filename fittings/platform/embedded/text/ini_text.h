@@ -15,9 +15,9 @@ namespace fittings {
 
 /// The text of an INI file, an index of its sections and keys, and the changes made in it.
 ///
-/// Names and values are as EncodeName() and EncodeValue() write them. A person may have written a name in another way;
-/// it is found by its meaning. If several lines have the same key, the last one counts. A line whose section and key
-/// are written as EncodeName() does takes precedence over the others.
+/// Names and values are as EncodeName() and EncodeValue() write them. A name that a person has written in another way
+/// is found by its meaning. If several lines have the same key, the last one counts. A line whose section and key are
+/// written as EncodeName() does takes precedence over the others.
 class IniText
 {
 public:
@@ -39,7 +39,7 @@ public:
     /// Returns the text with the changes.
     ///
     /// A value is replaced in its line. New keys follow the last key of their section. New sections follow a blank line
-    /// at the end. Every other byte stays as it is, also a comment in a removed section.
+    /// at the end. Every other byte stays as it is, including the comments in a removed section.
     std::string Changed() const;
 
     std::optional<std::string_view> Find(std::string_view section, std::string_view key) const;
@@ -93,7 +93,7 @@ private:
         std::string_view name;
         std::vector<Entry> entries = {};
         std::unordered_map<std::string_view, std::size_t> indices = {};  ///< Indices of the entries, by name.
-        std::size_t lastLine = kNone;  ///< New keys go behind it. kNone: the section is new.
+        std::size_t lastLine = kNone;  ///< The line behind which new keys go. kNone: the section is new.
         bool hasOwnName = false;       ///< True if the last line is below a section line as EncodeName() writes it.
         bool isMade = false;           ///< True after AddSection().
         bool isRemoved = false;
