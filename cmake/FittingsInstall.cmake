@@ -1,5 +1,5 @@
 # The three installed components: the files that a program needs to run (fittings_runtime), those that a host needs to
-# build (fittings_development), and the gallery (fittings_gallery). debian/*.install gives the same files to packages.
+# build (fittings_development), and the gallery (fittings_gallery). debian/*.install divides the files in the same way.
 include(CMakePackageConfigHelpers)
 
 if(TARGET fittings-gallery)

@@ -3,7 +3,8 @@
 # fittings-config.cmake.
 
 # fittings_import_wx(target component...)
-# This is a function, so that it keeps the wxWidgets_... variables of a host that found other components.
+# This is a function and not a macro, so that the wxWidgets_... variables of a host that found other components do not
+# change.
 function(fittings_import_wx target)
   if(TARGET ${target})
     return()
@@ -14,7 +15,7 @@ function(fittings_import_wx target)
   endif()
   # The targets are global, because a host that uses add_subdirectory() links to the library from its own folders.
   add_library(${target} INTERFACE IMPORTED GLOBAL)
-  # The finder repeats -pthread among the flags; the directories and definitions contain the rest.
+  # Do not use the finder's compiler flags: they repeat -pthread, and the directories and definitions contain the rest.
   target_include_directories(${target} SYSTEM INTERFACE ${wxWidgets_INCLUDE_DIRS})
   target_compile_definitions(${target} INTERFACE ${wxWidgets_DEFINITIONS})
   target_compile_options(${target} INTERFACE -pthread)

@@ -175,7 +175,7 @@ void GalleryFrame::ShowPage(int index)
     m_pages->GetCurrentPage()->SetFocus();
 }
 
-/// Brings title, status texts and commands in line with the selected page.
+/// Updates the title, the status texts and the commands for the selected page.
 void GalleryFrame::ShowState()
 {
     if (!m_browser->GetTree()->GetRootFolder().empty())

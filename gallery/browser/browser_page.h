@@ -21,8 +21,8 @@ class SizeFilter;
 class SizesRow;
 struct SizeNews;
 
-/// Sent by a BrowserPage when the folder, the selected entry or the set of shown panes changes. It propagates to the
-/// window, which shows them.
+/// Sent by a BrowserPage when the folder, the selected entry or the set of shown panes changes. The event propagates to
+/// the window, which shows the change.
 wxDECLARE_EVENT(EVT_BROWSER_CHANGED, wxCommandEvent);
 
 /// The disk-usage browser: folders to the left, the contents of the selected one to the right.
@@ -34,9 +34,10 @@ public:
     explicit BrowserPage(wxWindow* parent);
     ~BrowserPage() override;
 
-    /// Opens @a folder. If it is empty, opens the folder of the last session, or the home folder in the first session.
+    /// Opens @a folder. If @a folder is empty, opens the folder of the last session, or the home folder in the first
+    /// session.
     ///
-    /// If it is not a folder, opens another one. The page then shows the reason, which is also the result.
+    /// If @a folder is not a folder, opens another one. The page then shows the reason, which is also the result.
     wxString Start(const std::string& folder);
 
     FolderTree* GetTree() const { return m_tree; }
@@ -51,7 +52,7 @@ public:
     /// managers keep a floating pane above its window only when the pane appears after the window.
     void LoadLayout();
 
-    /// Shows or hides the floating panes. They do not follow the page automatically.
+    /// Shows or hides the floating panes. Floating panes do not follow the page automatically.
     void ShowFloatingPanes(bool show);
 
     void SaveSettings();

@@ -14,7 +14,7 @@ namespace gallery::browser_settings {
 namespace {
 
 constexpr const wchar_t* kFile = L"browser.ini";
-// This is in the default store, because ui_config_mgr cannot remove a key from its files.
+// This section is in the default store, because ui_config_mgr cannot remove a key from its files.
 constexpr const wchar_t* kSelectedSection = L"SelectedFolder";
 constexpr const wchar_t* kColourSection = L"FolderColours";
 constexpr std::size_t kRememberedRoots = 50;
@@ -29,7 +29,7 @@ int LoadInt(const wchar_t* section, const wchar_t* key)
     }
 }
 
-/// The roots of earlier sessions as texts, the latest first.
+/// Returns the roots of earlier sessions as texts, the latest first.
 std::vector<std::wstring> LoadRoots()
 {
     std::vector<std::wstring> roots;

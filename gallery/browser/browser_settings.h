@@ -14,26 +14,26 @@ namespace gallery {
 /// The gallery's settings, other than the states that the library stores for windows and trees.
 namespace browser_settings {
 
-/// The name of the page that was shown last; empty in the first session.
+/// Returns the name of the page that was shown last; empty in the first session.
 wxString LoadPage();
 void SavePage(const wxString& name);
 
-/// The roots of earlier sessions, the latest first.
+/// Returns the roots of earlier sessions, the latest first.
 std::vector<std::string> LoadRootFolders();
 
-/// Stores a root. Only the last 50 are kept: returns the one that was removed for it, with its settings here, or an
-/// empty path.
+/// Stores a root as the latest one. Only the latest 50 are kept: if there are more, removes the oldest one and the
+/// folder that was selected below it. Returns the removed root, or an empty path.
 std::string SaveRootFolder(const std::string& path);
 
-/// The folder that was selected below a root; empty when there is none.
+/// Returns the folder that was selected below a root; empty when there is none.
 std::string LoadSelectedFolder(const std::string& root);
 void SaveSelectedFolder(const std::string& root, const std::string& path);
 
-/// The colour that a folder was given; invalid when it has none.
+/// Returns the colour that a folder was given; invalid when it has none.
 wxColour LoadFolderColour(const std::string& path);
 void SaveFolderColour(const std::string& path, const wxColour& colour);
 
-/// The smallest size that is listed, as a text for SizeFilter; empty when there is none.
+/// Returns the smallest size that is listed, as a text for SizeFilter; empty when there is none.
 wxString LoadMinimumSize();
 void SaveMinimumSize(const wxString& megabytes);
 
@@ -41,7 +41,7 @@ void SaveMinimumSize(const wxString& megabytes);
 /// @{
 SortOrder LoadEarlierSortOrder();
 
-/// Empty when any of the @a count widths cannot be used.
+/// Returns the widths of @a count columns; empty when any of them cannot be used.
 std::vector<int> LoadEarlierColumnWidths(std::size_t count);
 /// @}
 

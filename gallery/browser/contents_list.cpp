@@ -137,7 +137,7 @@ public:
     bool SetValueByRow(const wxVariant&, unsigned, unsigned) override { return false; }
 
 private:
-    /// Returns whether an entry is shown with its present size.
+    /// Returns the positions of the entries that are large enough to be shown, in the present order.
     std::vector<std::uint32_t> LargeOnes() const
     {
         std::vector<std::uint32_t> positions;

@@ -36,16 +36,16 @@ public:
     void SetFolderSizes(const std::vector<std::pair<std::string, FolderSum>>& sums);
     /// @}
 
-    /// The entries that are shown, in their order.
+    /// Returns the entries that are shown, in their order.
     std::vector<Entry> GetEntriesInOrder() const;
 
     unsigned CountRows() const;
     const Entry& GetEntry(unsigned row) const;
 
-    /// Null when nothing is selected.
+    /// Returns the selected entry; null when nothing is selected.
     const Entry* GetSelectedEntry() const;
 
-    /// Null when the item is invalid.
+    /// Returns the entry of an item; null when the item is invalid.
     const Entry* EntryOf(const wxDataViewItem& item) const;
     wxDataViewItem ItemOf(unsigned row) const;
 
@@ -61,7 +61,7 @@ public:
     void SetColumnWidths(const std::vector<int>& widths);
     /// @}
 
-    /// Restores the widths and order of the last session, if any, and keeps those of this one.
+    /// Restores the widths and the order of the last session, if any, and remembers those of this session.
     void RememberColumns();
 
 private:

@@ -40,7 +40,7 @@ FolderColourCombo::FolderColourCombo(wxWindow* parent, Handler onLook, Handler o
 
 FolderColourCombo::~FolderColourCombo()
 {
-    // An open popup is closed with the window. Its listener may be destroyed by then.
+    // An open popup is closed with the window. The listener may be destroyed by then.
     m_colours->SetColorListener(nullptr);
 }
 

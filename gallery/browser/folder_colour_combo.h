@@ -8,7 +8,8 @@
 
 namespace gallery {
 
-/// Asks for the colour of a folder. "Automatic" means no colour of its own, here an invalid colour.
+/// Asks for the colour of a folder. "Automatic" means that the folder has no colour of its own, which is an invalid
+/// colour here.
 class FolderColourCombo : public wxColourCombo, private wxColorPopupListener
 {
 public:

@@ -36,7 +36,7 @@ private:
     bool& m_flag;
 };
 
-/// Returns the parent folder; that of the root folder is itself.
+/// Returns the parent folder. For the root folder, returns the root folder.
 std::string ParentPath(const std::string& path)
 {
     const std::size_t slash = path.rfind('/');

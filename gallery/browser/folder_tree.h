@@ -27,7 +27,7 @@ public:
     /// @{
     std::string PathOf(const wxTreeItemId& item) const;
 
-    /// Empty when nothing is selected.
+    /// Returns the path of the selected folder; empty when nothing is selected.
     std::string GetSelectedPath();
 
     /// Selects the folder and shows it; reads the levels above it as needed. If the folder no longer exists, selects
@@ -45,8 +45,8 @@ public:
     /// state. If the selected one no longer exists, selects the nearest one above it that does.
     void Reread();
 
-    /// Shows the selected folder in @a colour, or without one when it is invalid. When the folder is read again, it
-    /// gets the colour from the settings.
+    /// Shows the selected folder in @a colour, or without a colour when @a colour is invalid. When the folder is read
+    /// again, it gets the colour from the settings.
     void ShowColour(const wxColour& colour);
 
     /// @name The expanded folders, kept apart for each root
@@ -58,7 +58,7 @@ public:
 
     void OnItemExpanding(const wxTreeCursor& item) override;
 
-    /// Returns the label, or the path below the root while the state is saved or loaded. By labels alone all folders
+    /// Returns the label, or the path below the root while the state is saved or loaded. With labels alone, all folders
     /// named "share" would be the same.
     wxString GetItemText(const wxTreeItemId& item) const override;
 

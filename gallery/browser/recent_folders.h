@@ -16,14 +16,14 @@ public:
     /// Loads the folders of earlier sessions.
     RecentFolders();
 
-    /// Returns a menu of the folders, owned by the menu bar that it is added to, and kept up to date. Its items' ids
-    /// are wxID_FILE1 to wxID_FILE9.
+    /// Returns a menu of the folders, owned by the menu bar that it is added to, and kept up to date. The ids of the
+    /// menu's items are wxID_FILE1 to wxID_FILE9.
     wxMenu* MakeMenu();
 
     /// Puts a folder at the beginning of the list.
     void Add(const std::string& path);
 
-    /// The folder of a menu item.
+    /// Returns the folder of a menu item.
     std::string PathOf(int id) const;
 
     void Remove(int id);

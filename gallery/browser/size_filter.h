@@ -13,13 +13,13 @@ namespace gallery {
 /// Sent by a SizeFilter with each change of its number.
 wxDECLARE_EVENT(EVT_SIZE_FILTER_CHANGED, wxCommandEvent);
 
-/// "At least ___ MB": asks for a size that the user may leave out. Escape empties it.
+/// "At least ___ MB": asks for a size that the user may leave out. Escape empties the field.
 class SizeFilter : public wxPanel
 {
 public:
     explicit SizeFilter(wxWindow* parent);
 
-    /// The size in bytes; 0 when the field is empty or does not hold a number.
+    /// Returns the size in bytes; 0 when the field is empty or does not hold a number.
     std::uint64_t GetMinimum() const;
 
     /// Returns a text such as "1,234.5 MB", in the locale's form.

@@ -23,7 +23,7 @@ public:
     /// @a onNews gets each sum when it is ready.
     SizesRow(wxWindow* parent, std::function<void(const SizeNews&)> onNews);
 
-    /// Adds up @a folder. Stops the work on another one.
+    /// Adds up @a folder. Stops adding up another one.
     void Start(const std::string& folder);
 
     /// Stops the worker and waits for it, at most as long as its present call to the file system takes. All sums found

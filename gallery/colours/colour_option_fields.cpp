@@ -36,7 +36,7 @@ void AlignRows(std::initializer_list<wxSizer*> grids)
             height = std::max(height, item->CalcMin().y);
     }
     for (const wxSizer* grid : grids) {
-        // A label draws its text at the top of its window. So it keeps its height and is centred in its row.
+        // A label draws its text at the top of its window. So the window keeps its height and is centred in its row.
         for (wxSizerItem* item : grid->GetChildren()) {
             if (!dynamic_cast<wxStaticText*>(item->GetWindow()))
                 item->SetMinSize(item->GetMinSize().x, height);
@@ -107,7 +107,7 @@ void ColourOptionFields::Arrange(int width)
     InvalidateBestSize();
 }
 
-/// A value that is missing or wrong keeps its default.
+/// Loads the options. An option whose stored value is missing or wrong keeps its default.
 void ColourOptionFields::LoadSettings()
 {
     for (wxCheckBox* box : {m_hasAutomatic, m_hasMore, m_readOnly, m_refresh, m_centre, m_animate})

@@ -46,7 +46,7 @@ wxColourCombo* MakeColourCombo(wxWindow* parent, const ColourOptions& options, c
     auto* popup = new Popup(options);
     if (options.centre)
         popup->SetCenterOn(wxGetTopLevelParent(parent));
-    // One step would make a popup of the library's class, whose cells cannot be set.
+    // The constructor with a colour would make a popup of the library's class, whose cells cannot be set.
     auto* combo = new Combo(options);
     combo->Create(parent, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, options.readOnly ? wxCB_READONLY : 0);
     combo->SetPopupControl(popup);

@@ -22,7 +22,7 @@ namespace gallery {
 namespace {
 
 constexpr const char* kColourKey = "Colour";
-constexpr int kBlockHeight = 176;  ///< The popup opens beside the preview.
+constexpr int kBlockHeight = 176;  ///< The height of the preview, and the least height of the list of events.
 constexpr int kHeaderHeight = 28;
 constexpr int kChoiceWidth = 180;
 constexpr int kPreviewWidth = 160;

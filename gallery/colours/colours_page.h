@@ -19,7 +19,7 @@ class ColourOptionFields;
 /// A colour combo, controls for its options, a list of its calls and events, and a preview of the colour.
 ///
 /// Options and colour are restored as they were when SaveSettings() was last called. A change of the options makes a
-/// new combo, because they must be set before the popup is shown.
+/// new combo, because the options must be set before the popup is shown.
 class ColoursPage : public wxScrolledWindow
 {
 public:
@@ -29,12 +29,12 @@ public:
     wxColourCombo* GetCombo() const { return m_combo; }
     wxColourPopup* GetColourPopup() const;
 
-    /// The list of the events and their colours, with the last event at the bottom.
+    /// Returns the list of the events and their colours, with the last event at the bottom.
     wxDataViewListCtrl* GetEvents() const { return m_events; }
 
     ColourOptionFields* GetFields() const { return m_options; }
 
-    /// The colour in effect.
+    /// Returns the colour in effect.
     const wxColour& GetColour() const { return m_colour; }
 
     void SaveSettings() const;

@@ -49,7 +49,8 @@ bool IsFolder(int folder, const dirent& entry)
     return fstatat(folder, entry.d_name, &status, kLookAtLinks) == 0 && S_ISDIR(status.st_mode);
 }
 
-/// "PNG file" for picture.png; the extension counts when it is short, plain and not the whole name.
+/// Returns a text such as "PNG file" for picture.png. The extension counts when it is short, plain and not the whole
+/// name.
 std::string TypeOfFile(const std::string& name, bool executable)
 {
     const std::size_t dot = name.rfind('.');
@@ -115,7 +116,7 @@ int Describe(Entry& entry, int folder, const dirent& found)
     return error;
 }
 
-/// Returns whether the folder @a name of @a parent has a subfolder.
+/// Finds out whether a folder in @a parent can be read and whether it has a subfolder.
 void LookInto(Subfolder& subfolder, int parent)
 {
     const Folder folder = OpenFolder(parent, subfolder.name.c_str(), O_NOFOLLOW);

@@ -176,7 +176,7 @@ private:
         }
     }
 
-    /// Null when the parent folder is a different one now, as after a move.
+    /// Opens the parent folder again; null when it is a different folder now, as after a move.
     static Folder Reopen(DIR* below, const FileId& id)
     {
         Folder folder = below ? OpenFolder(dirfd(below), "..") : nullptr;

@@ -9,7 +9,7 @@ namespace gallery {
 /// The sum of a folder and everything below it.
 struct FolderSum
 {
-    std::uint64_t bytes = 0;       ///< The sum of all sizes, also of folders; a file with several names counts once.
+    std::uint64_t bytes = 0;       ///< The sum of all sizes, including folders; a file with several names counts once.
     std::uint64_t items = 0;       ///< The number of names of any kind.
     std::uint64_t unreadable = 0;  ///< The number of names without a size and of unreadable folders.
 };

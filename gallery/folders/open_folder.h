@@ -14,7 +14,7 @@ struct CloseFolder
 };
 using Folder = std::unique_ptr<DIR, CloseFolder>;
 
-/// Null, with errno set, when the folder cannot be read.
+/// Opens a folder; null, with errno set, when it cannot be read.
 Folder OpenFolder(int base, const char* path, int flags = 0);
 
 /// Returns the next entry other than "." and ".."; null at the end, with errno 0, or on an error.

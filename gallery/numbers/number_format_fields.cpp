@@ -98,14 +98,14 @@ constexpr Bound kBounds[] = {
 // A choice, not a text field: a template is a printf format, and users must not enter printf formats.
 const wchar_t* const kTemplates[] = {L"%s", L"%s kg", L"%s \u20AC", L"EUR %s", L"%s %%", L"about %s", L"(%s)"};
 
-/// The field's number in the current locale; 0 while the text is not a number.
+/// Returns the field's number in the current locale; 0 while the text is not a number.
 double NumberIn(const wxTextCtrl& field)
 {
     double number = 0;
     return field.GetValue().ToDouble(&number) ? number : 0;
 }
 
-/// 0 while the field is empty.
+/// Returns the field's character; 0 while the field is empty.
 wchar_t CharacterIn(const wxTextCtrl& field)
 {
     const wxString text = field.GetValue();
@@ -122,7 +122,7 @@ wxString CodeOf(wchar_t character)
     return character == 0 ? wxString("none") : wxString::Format("U+%04X", static_cast<unsigned>(character));
 }
 
-/// A format for numbers of any size, for the fields that set the bounds.
+/// Returns a format for numbers of any size, for the fields that set the bounds.
 CNumberFormat BoundFormat()
 {
     CNumberFormat format(eLocaleFormat);
@@ -212,7 +212,7 @@ void NumberFormatFields::Arrange(int width)
     InvalidateBestSize();
 }
 
-/// A value that is missing or wrong keeps its default.
+/// Loads the format. A field whose stored value is missing or wrong keeps its default.
 void NumberFormatFields::LoadSettings()
 {
     CNumberFormat format(eFixedFormat);
@@ -325,7 +325,8 @@ wxCheckBox* NumberFormatFields::MakeFlag(std::size_t index)
     return box;
 }
 
-/// A field for one character, between its label and the character's code: many separators are blanks that look alike.
+/// Adds a field for one character, between its label and the character's code: many separators are blanks that look
+/// alike.
 void NumberFormatFields::AddCharacter(wxSizer* grid, std::size_t index)
 {
     auto* label = new wxStaticText(this, wxID_ANY, kCharacters[index].label);
@@ -343,7 +344,7 @@ void NumberFormatFields::AddCharacter(wxSizer* grid, std::size_t index)
     m_codes.push_back(code);
 }
 
-/// Updates the fields from each other, and sends EVT_NUMBER_FORMAT_CHANGED.
+/// Updates the fields from each other, and sends EVT_FORMAT_CHANGED.
 void NumberFormatFields::OnChange()
 {
     if (m_settingFormat)

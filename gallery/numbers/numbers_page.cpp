@@ -85,7 +85,7 @@ void NumbersPage::SaveSettings() const
 
 void NumbersPage::LoadSettings()
 {
-    // The field may be empty.
+    // The stored number may be empty, so look for another setting.
     const bool isFirstSession = kNumberSettings.Load("Validates").empty();
     m_number->ChangeValue(isFirstSession ? wxString(kFirstNumber) : kNumberSettings.Load("Typed"));
     m_control->SetDecimal(isFirstSession ? wxString(kFirstNumber) : kNumberSettings.Load("InControl"));

@@ -28,7 +28,7 @@ public:
 
     NumberFormatFields* GetFields() const { return m_fields; }
 
-    /// The number that was stored last.
+    /// Returns the number that was stored last.
     const wxString& GetKept() const { return m_kept; }
 
     void SaveSettings() const;

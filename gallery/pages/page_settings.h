@@ -13,7 +13,7 @@ class PageSettings
 public:
     constexpr PageSettings(const wchar_t* file, const wchar_t* section) : m_file(file), m_section(section) {}
 
-    /// Empty when nothing is stored.
+    /// Returns the stored text; empty when nothing is stored.
     wxString Load(const wxString& name) const;
     void Save(const wxString& name, const wxString& text) const;
 

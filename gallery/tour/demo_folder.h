@@ -17,10 +17,10 @@ public:
     DemoFolder(const DemoFolder&) = delete;
     DemoFolder& operator=(const DemoFolder&) = delete;
 
-    /// Empty when the folder could not be made.
+    /// Returns the path of the folder; empty when the folder could not be made.
     const std::string& Path() const { return m_path; }
 
-    /// An empty folder for settings.
+    /// Returns the path of an empty folder for settings.
     std::string SettingsPath() const { return m_work + "/settings"; }
 
 private:

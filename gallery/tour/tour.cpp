@@ -31,7 +31,7 @@ namespace {
 
 using namespace simulated_user;
 
-/// The open file or folder dialog, if any. The toolkit does not list it among its windows.
+/// Returns the open file or folder dialog, if any. The toolkit does not list it among its windows.
 GtkWidget* FindFileDialog()
 {
     GList* windows = gtk_window_list_toplevels();
@@ -79,7 +79,7 @@ std::string FileIn(GtkWidget* dialog)
     return path;
 }
 
-/// The place on the screen of the accepting button; empty while the button is disabled.
+/// Returns the place of the accepting button on the screen; empty while the button is disabled.
 wxRect AcceptButton(GtkWidget* dialog)
 {
     GtkWidget* button = gtk_dialog_get_widget_for_response(GTK_DIALOG(dialog), GTK_RESPONSE_ACCEPT);
