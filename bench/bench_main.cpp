@@ -22,8 +22,8 @@
 
 namespace {
 
-/// Collects the median of each benchmark in nanoseconds. A benchmark that also measures its peer reports that in the
-/// counter "peer".
+/// Collects the median of each benchmark in nanoseconds. A benchmark that measures its peer itself reports the peer's
+/// time in the counter "peer".
 class Medians : public benchmark::BenchmarkReporter
 {
 public:
@@ -39,7 +39,7 @@ public:
         }
     }
 
-    /// Returns the median of @a name; 0 when it was not run.
+    /// Returns the median of the benchmark @a name; 0 when the benchmark was not run.
     double Of(const std::string& name) const
     {
         const auto found = m_ns.find(name);
@@ -158,7 +158,7 @@ int main(int argc, char** argv)
     mallopt(M_MMAP_THRESHOLD, 32 << 20);
     mallopt(M_TRIM_THRESHOLD, INT_MAX);
 
-    // The caller's arguments come last, so they override these.
+    // The caller's arguments come last, so they override these defaults.
     std::vector<char*> arguments{argv[0]};
     std::string defaults[] = {"--benchmark_repetitions=9", "--benchmark_enable_random_interleaving=true",
                               "--benchmark_report_aggregates_only=true", "--benchmark_min_time=0.05"};

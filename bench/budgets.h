@@ -50,7 +50,7 @@ struct Growth
 {
     const char* large;
     const char* small;
-    double items;  ///< how many times as many items the large one has
+    double items;  ///< the number of items of @a large divided by that of @a small
     double most;
 };
 

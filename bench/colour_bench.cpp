@@ -46,7 +46,7 @@ public:
     wxMemoryDC dc;
 };
 
-// Draws the popup without a hot or chosen cell, with prepared objects.
+// Draws the popup without a hot or chosen cell, with prepared pens and brushes.
 class Primitives
 {
 public:
@@ -172,7 +172,7 @@ wxImage PictureOf(Popup& shown)
     return shown.bitmap.ConvertToImage();
 }
 
-// Returns whether both draw exactly the same.
+// Returns whether the popup and Primitives draw exactly the same picture.
 bool AreAlike()
 {
     Popup ours;

@@ -18,7 +18,7 @@ namespace {
 
 constexpr int kGroups = 20;
 
-/// A temporary folder with one file for each of the two, with the given number of entries.
+/// A temporary folder with one file for wxStoreConfig and one for wxFileConfig, which contain the same entries.
 class Entries
 {
 public:
@@ -117,8 +117,8 @@ void Write(benchmark::State& state, Open open, int count)
     config->Flush();
 }
 
-// All entries have changed. This row has no budget, because the peer neither reads the changes of others nor waits for
-// the disk.
+// Measures saving after all entries have changed. This row has no budget, because wxFileConfig neither reads the
+// changes of other programs nor waits for the disk.
 void Flush(benchmark::State& state, Open open, int count)
 {
     const Entries entries(count);
@@ -132,7 +132,7 @@ void Flush(benchmark::State& state, Open open, int count)
     }
 }
 
-// Everything that a program does with its settings in one run.
+// Measures everything that a program does with its settings in one run.
 void All(benchmark::State& state, Open open, int count)
 {
     const Entries entries(count);

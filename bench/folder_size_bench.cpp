@@ -1,4 +1,4 @@
-// The gallery's background sum, compared with the system's command, both with a warm cache.
+// Adding up a folder in the gallery's worker, compared with the command du, both with a warm cache.
 
 #include <benchmark/benchmark.h>
 

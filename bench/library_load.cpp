@@ -1,4 +1,4 @@
-// library-load LIBRARY: prints the nanoseconds of its dlopen() in a program that has loaded the toolkit.
+// library-load LIBRARY: prints how many nanoseconds dlopen() of LIBRARY takes in a program that has loaded the toolkit.
 //
 // Each measurement needs its own process, because a process loads a library only once.
 

@@ -1,5 +1,5 @@
-// fittings-memory: the peak memory of the library while it works with a hundred thousand items, compared with that of a
-// peer.
+// fittings-memory: measures the peak memory of the library while it works with a hundred thousand items, and compares
+// it with that of a peer.
 
 #include <cstdio>
 #include <cstdlib>
@@ -26,7 +26,7 @@ namespace {
 
 constexpr int kItems = 100'000;
 
-/// Returns a line of /proc/self/status in bytes.
+/// Returns the amount of memory in the line @a name of /proc/self/status, in bytes.
 double Status(const std::string& name)
 {
     std::ifstream status("/proc/self/status");

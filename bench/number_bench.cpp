@@ -63,7 +63,7 @@ void ValidateLong(benchmark::State& state)
     Validate(state, Digits<wchar_t>(state.range(0)), SixDecimals());
 }
 
-/// The grammar of SixDecimals() as a regular expression. The text needs no conversion.
+/// Validates with the grammar of SixDecimals() as a regular expression. The text needs no conversion.
 void ValidateRegEx(benchmark::State& state, const std::wstring& text)
 {
     const wxRegEx grammar("^[+-]?[0-9]*(\\.[0-9]{0,6})?$", wxRE_EXTENDED | wxRE_NOSUB);
@@ -142,7 +142,7 @@ void FormatLongIcu(benchmark::State& state)
     FormatIcu(state, Digits<char>(state.range(0)));
 }
 
-/// The C locale has no separator for groups, which only makes this faster.
+/// The C locale has no separator for groups. That only makes the toolkit faster.
 void FormatToolkit(benchmark::State& state)
 {
     for (auto _ : state)

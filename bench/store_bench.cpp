@@ -163,7 +163,7 @@ void FileSetPeer(benchmark::State& state)
 
 constexpr int kWindowValues = 22;
 
-// The values that a closing window stores: its geometry, flags, columns and trees.
+// Stores the values that a closing window stores: its geometry, flags, columns and trees.
 void CloseWindow(benchmark::State& state)
 {
     const Settings settings(1000);

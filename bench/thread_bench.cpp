@@ -15,7 +15,7 @@ namespace {
 
 const wxEventTypeTag<wxCommandEvent> kType(wxNewEventType());
 
-// An exit code to recognise.
+// Returns the exit code of every worker. The toolkit itself returns no such code.
 wxThread::ExitCode Result()
 {
     static int result;

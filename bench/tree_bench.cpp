@@ -15,7 +15,7 @@
 
 namespace {
 
-// A root with @a count children in a shown frame. Every @a step-th child is expanded, or will be.
+// A root with @a count children in a shown frame. Expand() expands every @a step-th child.
 class Siblings
 {
 public:
@@ -70,7 +70,7 @@ void Save(benchmark::State& state, int count)
         siblings.Tree().SaveState("bench", siblings.Root());
 }
 
-// A chain of expanded items.
+// Measures saving a chain of expanded items.
 void SaveDeep(benchmark::State& state, int depth)
 {
     const std::unique_ptr<wxFrame> frame(new wxFrame(nullptr, wxID_ANY, "bench"));
@@ -99,7 +99,8 @@ void CopyEveryLabel(benchmark::State& state, int count)
     }
 }
 
-// Returns the processor time in seconds. The work does not wait, so an idle machine takes this time.
+// Returns the processor time of @a work in seconds. The work does not wait, so on an idle machine the elapsed time is
+// the same.
 template <typename Work>
 double ProcessorTime(Work work)
 {

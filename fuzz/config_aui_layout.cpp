@@ -87,7 +87,8 @@ std::wstring Damage(std::wstring layout, FuzzedDataProvider& bytes)
     return layout;
 }
 
-/// True if the toolkit asserts on its own text: it cannot read the ";" of a caption.
+/// Returns whether a caption in the layout contains ";". The toolkit writes such a layout, but asserts when it loads
+/// one.
 bool HasDelimiterInText(const std::wstring& layout)
 {
     return layout.find(L"\\;") != layout.npos || layout.find(L'\b') != layout.npos;

@@ -39,7 +39,8 @@ std::vector<Item> ConsumeItems(FuzzedDataProvider& bytes)
     return items;
 }
 
-/// Returns the full paths of expanded and selected items. The first visible item counts only in trees that are shown.
+/// Returns the full paths of expanded and selected items. Leaves out the mark of the first visible item, which only a
+/// tree that is shown restores.
 std::vector<std::wstring> Marked(const std::wstring& text)
 {
     std::vector<std::wstring> marked;

@@ -16,7 +16,7 @@ std::wstring Cut(const std::wstring& text, const CNumberFormat& format)
     return cut.ToStdWstring();
 }
 
-// The characters that the operation must not change.
+// Returns the characters that the operation must not change.
 std::wstring Rest(const std::wstring& text, wchar_t point)
 {
     std::wstring rest;

@@ -17,7 +17,7 @@ std::wstring Show(const std::wstring& text, const CNumberFormat& format)
     return CNumberEditUtils::FormatControlText(text.c_str(), format).ToStdWstring();
 }
 
-// The number alone: no groups, the sign in front, no text around it.
+// Returns the format that shows the number alone: no groups, the sign in front, no text around it.
 CNumberFormat Bare(CNumberFormat format)
 {
     format.m_bGroupDigits = false;
@@ -72,7 +72,7 @@ std::size_t DecimalsOf(const std::wstring& number, wchar_t point)
     return end - at - 1;
 }
 
-// Only for numbers with an unambiguous point.
+// Checks the fields of the format that change the number. The point of the number must be unambiguous.
 void CheckNumber(const std::wstring& number, const NumberInput& input, const std::wstring& bare)
 {
     const CNumberFormat& format = input.format;
@@ -86,8 +86,8 @@ void CheckNumber(const std::wstring& number, const NumberInput& input, const std
         Check(shownDecimals <= decimals, "a rounded number has at most the given decimals");
     if (isPadded && !hasExponent)
         Check(shownDecimals >= std::min<std::uint64_t>(decimals, 1'000'000), "a padded number has all its decimals");
-    // A second call may change two kinds: a number that lost its plus sign, because its zeros are now trimmed, and a
-    // rounded number that ends in zeros.
+    // A second call may change two kinds of numbers. One kind has lost its plus sign, so its zeros are now trimmed. The
+    // other kind is rounded and ends in zeros.
     if (number[0] != L'+' && (!isRounded || (isPadded && !hasExponent)))
         Check(Show(bare, Bare(format)) == bare, "a second call changes nothing");
 

@@ -12,7 +12,7 @@
 
 namespace {
 
-// Characters of every kind, also invalid ones, except the null character.
+// Returns a text with characters of every kind, including invalid ones, except the null character.
 std::wstring ConsumeText(FuzzedDataProvider& bytes)
 {
     std::wstring text;

@@ -78,7 +78,7 @@ std::wstring Get(const Ini& ini, const Address& address)
     return CLocalRegStore::GetString(*ini, address.section.c_str(), address.key.c_str(), kAbsent);
 }
 
-// Whether the file lists the section and the key, each once.
+// Returns whether the file lists the section and the key, each once.
 bool HasName(const Ini& ini, const Address& address)
 {
     const auto contains = [](const std::vector<std::wstring>& names, const std::wstring& name) {

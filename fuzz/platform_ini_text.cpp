@@ -38,7 +38,8 @@ std::vector<std::string> Taken(gchar** names)
     return taken;
 }
 
-// If two names mean the same, only one of them is found.
+// Returns whether the name is spelled as the library writes it. Of two spellings of one name, the library finds only
+// one.
 bool IsOwnName(const std::string& name)
 {
     return fittings::EncodeName(fittings::DecodeName(name)) == name;

@@ -31,7 +31,8 @@ struct NumberLocale
     wchar_t point;
 };
 
-// Sets one of the locales. All of them stay loaded: setlocale() would read the files at each change.
+// Sets one of the locales, and returns its decimal point. All locales stay loaded, because setlocale() would read their
+// files at each change.
 wchar_t UseLocale(std::size_t index)
 {
     static const auto load = [](const char* name, wchar_t point) {
@@ -54,7 +55,8 @@ std::uint64_t ConsumeCount(FuzzedDataProvider& bytes)
 {
     constexpr std::uint64_t kHuge[] = {0xFFFF'FFFF'FFFF'FFFF, 0xFFFF'FFFF, 0x8000'0000'0000'0000};
     const auto count = bytes.ConsumeIntegral<std::uint8_t>();
-    // Avoid the highest byte, which fuzzers often try: a million zeros take long.
+    // Huge counts are slow, because up to a million zeros are added. Fuzzers often try the highest byte, so it gives a
+    // small count.
     const unsigned huge = count - 0xA5U;
     return huge < std::size(kHuge) ? kHuge[huge] : count % 10;
 }
@@ -96,7 +98,7 @@ CNumberFormat ConsumeFormat(FuzzedDataProvider& bytes)
 
 std::wstring ConsumeText(FuzzedDataProvider& bytes)
 {
-    // With a large text, time that grows faster than the text is found as a timeout.
+    // A large text causes a timeout if the time grows faster than the length of the text.
     const bool isLarge = bytes.ConsumeIntegral<std::uint16_t>() == 0x4040;
     std::wstring text;
     for (const char byte : bytes.ConsumeRemainingBytesAsString())

@@ -10,10 +10,11 @@
 /// A format, a text and a locale, made from a fuzzer's bytes.
 ///
 /// The text comes first, one character for each byte: ASCII as itself, higher bytes for blanks, digits and points of
-/// other scripts and for invalid characters. The last bytes are the format. So a text file is a good first input.
+/// other scripts and for invalid characters. The last bytes are the format. Therefore a text file is a good first
+/// input.
 struct NumberInput
 {
-    /// Sets the locale.
+    /// Makes the format and the text from the bytes, and sets the locale that the bytes name.
     NumberInput(const std::uint8_t* data, std::size_t size);
 
     /// The text up to its first null character.

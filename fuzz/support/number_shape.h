@@ -21,7 +21,7 @@ struct NumberShape
 /// [0-9]*)?` and, behind at least one digit or point, `[eE]? [+-]? [0-9]*`.
 bool HasShape(const std::wstring& text, const NumberShape& shape);
 
-/// True when nothing else in a number can be mistaken for this point.
+/// Returns whether no other part of a number can be mistaken for this point.
 bool IsPlainPoint(wchar_t point);
 
 /// Returns the text without the blanks at both ends.

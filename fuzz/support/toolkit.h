@@ -19,7 +19,7 @@ public:
     AssertionsAllowed& operator=(const AssertionsAllowed&) = delete;
 };
 
-/// The remaining bytes as text: ASCII as it is, high bytes as unusual characters.
+/// Returns the remaining bytes as text: ASCII as it is, high bytes as unusual characters.
 std::wstring ConsumeWideText(FuzzedDataProvider& bytes);
 
 #endif

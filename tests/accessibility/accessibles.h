@@ -19,7 +19,7 @@ struct Accessible
 
 void PrintTo(const Accessible& accessible, std::ostream* out);
 
-/// The name of a role in the installed release: newer releases of AT-SPI and ATK call a push button a button.
+/// Returns the name of a role in the installed release. Newer releases of AT-SPI and ATK call a push button a button.
 std::string RoleName(const std::string& told);
 
 /// Reads the accessible objects of this process's windows, parents before their children.

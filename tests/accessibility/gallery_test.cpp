@@ -75,8 +75,8 @@ TEST_P(ScreenReaderInTheGallery, HasANameForAllThatTakesTheFocus)
     EXPECT_THAT(said, IsSupersetOf(names[GetParam()]));
 }
 
-// Tab skips tool bar buttons, because they have keys, which their descriptions name. In a scroll pane, the content
-// takes the focus. In a choice, a part that is not accessible takes it.
+// Tab skips tool bar buttons. Each of them has a key, which its description names. In a scroll pane, the content takes
+// the focus. In a choice, the part that takes the focus is not accessible.
 TEST_P(ScreenReaderInTheGallery, IsLedByTabToAllThatTakesTheFocus)
 {
     std::set<std::string> expected;

@@ -178,7 +178,7 @@ TEST(TextsOfAnyKind, ReachTheSaveDialogsProperties)
     });
 }
 
-// This also holds in the C locale, in which the toolkit cannot convert such a text.
+// Narrow text is UTF-8 even in the C locale, in which the toolkit cannot convert it.
 TEST(NarrowTextOfAnyKind, IsUtf8InEachLocale)
 {
     const ScopedLocale plain("C");
@@ -214,7 +214,8 @@ TEST(TextsOfAnyKind, AreEmptyForANullPointer)
     EXPECT_EQ(ui_config_mgr::GetConfigString(L"null.ini", nullptr, 0), L"value");
 }
 
-// These must compile: the address of an overload is taken by its type, and the types of the results stay.
+// These definitions must compile: a host may take the address of an overload by its type, and the types of the results
+// must not change.
 [[maybe_unused]] constexpr void (*kWriteText)(Wide, Wide, Wide, Wide) = &ui_config_mgr::WriteConfigString;
 [[maybe_unused]] constexpr bool (*kLoadFrame)(wxFrame*, Wide) = wx_window_state::LoadState;
 [[maybe_unused]] constexpr bool (*kLoadPanes)(wxAuiManager*, Wide) = &wx_window_state::LoadAuiManagerState;

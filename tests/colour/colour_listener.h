@@ -32,7 +32,7 @@ private:
         m_calls.push_back(call);
         if (during)
             during(call);
-        // Read the colour only after the callback, to check that it still exists then.
+        // Read the colour only after the callback, to check that the colour still exists then.
         if (colour)
             m_calls.at(index) += " " + colour->GetAsString(wxC2S_HTML_SYNTAX).ToStdString();
     }

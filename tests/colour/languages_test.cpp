@@ -14,7 +14,8 @@ namespace {
 
 using Lines = std::map<std::string, std::string>;
 
-// The probe's output in that language. The key is the first word of a line, or the first two of a numbered line.
+// Returns the lines that the probe prints in that language. The key is the first word of a line, or the first two of a
+// numbered line.
 Lines PopupIn(const std::string& language)
 {
     Lines lines;
@@ -47,7 +48,7 @@ void ExpectNames(const Lines& lines, const std::array<const char*, 40>& names)
         EXPECT_EQ(lines.at("name " + std::to_string(i)), names.at(i)) << i;
 }
 
-// The width is that of the wider text. The height is that of two boxes with the higher text.
+// Expects the popup to be as wide as the wider text, and as high as with two boxes for the higher text.
 void ExpectSizeOfTexts(const Lines& lines)
 {
     const Size automatic = SizeIn(lines, "automatic-size");

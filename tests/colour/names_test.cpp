@@ -60,7 +60,8 @@ const wchar_t* lng_util_internal::DoGetResourceString(const wchar_t* key, CLangu
 
 namespace {
 
-// A process builds the table only once, so the suite's setup records everything that happens on the way.
+// A process builds the table only once, so the suite's setup records everything that happens until the table is
+// complete.
 class ColourNames : public testing::Test
 {
 protected:

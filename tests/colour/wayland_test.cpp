@@ -25,7 +25,7 @@ namespace {
 
 constexpr const char* kSocket = "wayland-of-the-test";
 
-// The position of the compositor's window on the X screen.
+// Returns the position of the compositor's window on the X screen.
 wxPoint CompositorsPlace()
 {
     const std::unique_ptr<Display, int (*)(Display*)> display(XOpenDisplay(nullptr), XCloseDisplay);
@@ -59,7 +59,7 @@ wxPoint CompositorsPlace()
 class ColourOnWayland : public testing::Test
 {
 protected:
-    // The compositor is kiosk-shell: its only program fills the whole window.
+    // The compositor runs with kiosk-shell, which lets its only program fill the whole window.
     ColourOnWayland()
         : compositor({"weston", "--backend=x11-backend.so", "--use-pixman", "--width=900", "--height=600",
                       "--shell=kiosk-shell.so", "--no-config", "--idle-time=0", std::string("--socket=") + kSocket},
@@ -83,7 +83,7 @@ protected:
         return seen.GetRed(0, 0) << 16 | seen.GetGreen(0, 0) << 8 | seen.GetBlue(0, 0);
     }
 
-    // The position of the combo on the X screen.
+    // Returns the rectangle of the combo on the X screen.
     static wxRect Combo(const WatchedProbe& probe)
     {
         const std::vector<int> numbers = probe.Numbers("combo ");
@@ -93,7 +93,7 @@ protected:
                                    : wxRect();
     }
 
-    // The middle of a cell, relative to the popup.
+    // Returns the middle of a cell, relative to the popup.
     static wxPoint Cell(const WatchedProbe& probe, int index)
     {
         const std::vector<int> numbers = probe.Numbers("cell " + std::to_string(index) + " ");
@@ -101,11 +101,11 @@ protected:
         return numbers.size() == 2 ? wxPoint(numbers[0], numbers[1]) : wxPoint();
     }
 
-    // A hot cell has a dark line at its right, two pixels from its edge.
+    // Returns whether the cell is hot. A hot cell has a dark line at its right, two pixels from its edge.
     static bool IsHot(const wxPoint& middle) { return Pixel(middle + wxPoint(7, 0)) == 0; }
 
-    // Moving from cell 0 to cell 1 repaints the two cells and the sides of the frame. The whole popup is repainted only
-    // when it opens.
+    // Expects that moving from cell 0 to cell 1 repaints the two cells and the sides of the frame, and that the whole
+    // popup is repainted only when it opens.
     static void ExpectLastRepaint(const WatchedProbe& probe)
     {
         const std::vector<std::string> parts = probe.Lines("repaints ");

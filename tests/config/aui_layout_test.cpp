@@ -57,7 +57,8 @@ TEST(LoadAuiManagerState, LeavesAManagerAloneWhenNothingIsStored)
 {
     const TempUserData data;
     AuiFrame frame;
-    frame.Pane("log").Hide();  // The manager is deliberately not updated.
+    // The manager is not updated here: the window would be hidden if LoadAuiManagerState() updated the manager.
+    frame.Pane("log").Hide();
     const wxString before = frame.manager.SavePerspective();
     EXPECT_FALSE(wx_window_state::LoadAuiManagerState(&frame.manager, L"Main"));
     StoreLayout("");
@@ -181,7 +182,7 @@ protected:
         before = frame.manager.SavePerspective();
     }
 
-    /// The whole layout with @a part in it replaced.
+    /// Returns the whole layout with @a part in it replaced.
     wxString With(const wxString& part, const wxString& replacement) const
     {
         wxString layout = whole;
@@ -220,14 +221,14 @@ TEST_F(DamagedLayout, ThatIsCutIsNotLoaded)
     }
 }
 
-// The toolkit asserts on these.
+// The toolkit asserts on a layout with an unknown field.
 TEST_F(DamagedLayout, WithAnUnknownFieldIsNotLoaded)
 {
     ExpectNotLoaded(With("state=", "stat="));
     ExpectNotLoaded(With(";floath=", ";floath=1;more="));
 }
 
-// The toolkit takes minutes for these.
+// The toolkit takes minutes for a layout with such a number.
 TEST_F(DamagedLayout, WithARowFarOutIsNotLoaded)
 {
     ExpectNotLoaded(With("row=0", "row=2147483647"));

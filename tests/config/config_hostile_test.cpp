@@ -201,7 +201,7 @@ TEST(SettingsFileWithoutPermission, ReadsAsEmptyAndIsNotReplaced)
     EXPECT_EQ(ReadFile(data / "ui_config/a.ini"), "[s]\nk=secret\n");
 }
 
-// Nobody can make a folder there, not even root.
+// Nobody can make a folder in /proc, not even root.
 TEST(UserDataFolderThatCannotBeMade, ReadsAsEmpty)
 {
     const TempUserData data;

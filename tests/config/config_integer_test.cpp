@@ -106,7 +106,7 @@ struct Bad
     std::wstring text;
 };
 
-/// The text of the exception; empty when none of this type is thrown.
+/// Returns the text of the exception that is thrown; empty when no exception of this type is thrown.
 template <typename Exception>
 std::string Thrown()
 {

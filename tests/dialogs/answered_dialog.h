@@ -28,12 +28,12 @@ private:
 
 GtkFileChooser* ChooserOf(const wxWindow& dialog);
 
-/// Waits until the dialog shows the folder: it loads the folder in the background.
+/// Returns the folder that the dialog shows. Waits for that folder, because the dialog loads it in the background.
 std::string FolderOf(const wxWindow& dialog);
 
 std::string TitleOf(const wxWindow& dialog);
 
-/// The name that a dialog to save proposes.
+/// Returns the name that a save dialog proposes.
 std::string NameOf(const wxWindow& saveDialog);
 
 wxArrayString PathsOf(const wxFileDialog& dialog);
@@ -58,7 +58,7 @@ class RememberingDialog : public testing::Test
 protected:
     RememberingDialog();
 
-    /// The folder of the program's documents.
+    /// Returns the folder of the program's documents.
     static std::string Documents();
     std::string Settings() const { return ReadFile(m_settings / "settings.ini"); }
 

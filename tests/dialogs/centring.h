@@ -3,7 +3,7 @@
 
 #include <vector>
 
-/// The directions in which file and folder dialogs have been centred, in order. Tests clear it after reading.
+/// Returns the directions in which file and folder dialogs have been centred, in order. Tests read and clear the list.
 std::vector<int>& CentredDialogs();
 
 #endif

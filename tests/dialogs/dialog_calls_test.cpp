@@ -91,7 +91,7 @@ TEST_F(SaveDialogCalls, OfADialogWithoutAnEntry)
     EXPECT_EQ(g_platform.calls, Calls{L"show"});
 }
 
-// FileAnswer answers only the save dialog, so this hook and GetPath() answer here.
+// FileAnswer answers only the save dialog, so this hook and GetPath() answer the remembering dialogs.
 class RememberingDialogCalls : public testing::Test, private wxModalDialogHook
 {
 protected:

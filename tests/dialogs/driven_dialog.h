@@ -9,7 +9,7 @@
 
 #include <tests/support/process/child_process.h>
 
-/// The home folder of the test, shared with the program.
+/// Returns the home folder of the test, which the program shares.
 std::string HomeFolder();
 
 /// The state that the program with the dialog printed last, see DialogProbe.
@@ -49,7 +49,7 @@ public:
     /// Waits for a message and returns its text.
     std::string Message();
 
-    /// True when the dialog has shown a message at any time.
+    /// Returns whether the dialog has shown a message at any time.
     bool HadMessage() const;
 
     /// Waits until there is no message and the dialog has the input focus again.

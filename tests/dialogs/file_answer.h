@@ -29,8 +29,8 @@ struct AskedFile
     std::vector<int> centred;
 };
 
-/// Answers file dialogs in place of the user while it exists. There is only one such object at a time. The dialog's
-/// GetPath() returns this path, whatever GTK's dialog would return.
+/// Answers file dialogs in place of the user while the object exists. There is only one such object at a time. The
+/// dialog's GetPath() returns the path of the answer, whatever GTK's dialog would return.
 class FileAnswer : public wxModalDialogHook
 {
 public:

@@ -92,7 +92,7 @@ TEST(SaveDialog, IsNotAffectedByTheExtensionAndFilterThatAreKept)
     CQVFileDialogI::SetFileFilter(L"");
 }
 
-// The toolkit asserts more than once on such a wildcard.
+// The toolkit asserts several times on a wildcard whose last filter has no pattern.
 TEST(SaveDialog, BearsAWildcardThatIsCutShort)
 {
     const ExpectAssertions assertions;

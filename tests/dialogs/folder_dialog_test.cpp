@@ -286,7 +286,7 @@ TEST_F(RememberedFolder, IsReadBeforeTheDialogAndStoredAfterIt)
     EXPECT_EQ(Stored(L"Import", L"Path"), L"/another");
 }
 
-// Nobody can make a folder there, not even root.
+// Nobody can make a folder in /proc, not even root.
 TEST_F(RememberedFolder, IsGivenAllTheSameWhereItCannotBeStored)
 {
     std_file_paths::SetUserDataDir(L"/proc/fittings");

@@ -226,7 +226,7 @@ std::string NameOf(const testing::TestParamInfo<long>& info)
 INSTANTIATE_TEST_SUITE_P(, ClockJumps, testing::Values(-kYear, -1, 1, kYear), NameOf);
 INSTANTIATE_TEST_SUITE_P(, ClockJumpsByAnHour, testing::Values(-kHour, kHour), NameOf);
 
-// A temporary file with a timestamp in the future: its process may still be writing it.
+// A process may still be writing a temporary file whose timestamp is in the future.
 TEST(AFileFromTheFuture, IsClearedAwayOnceItsTimeIsPast)
 {
     TempUserData data;

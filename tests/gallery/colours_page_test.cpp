@@ -71,7 +71,7 @@ protected:
         return focus && (focus == window.GetHandle() || gtk_widget_is_ancestor(focus, window.GetHandle()));
     }
 
-    /// The name of the page's control that has the focus; empty when none has.
+    /// Returns the name of the page's control that has the focus; empty when none has.
     std::string FocusName()
     {
         for (const wxWindow* parent : std::initializer_list<wxWindow*>{Page().GetFields(), &Page()}) {

@@ -37,7 +37,8 @@ public:
 
     void Send(int signal) { m_child.Send(signal); }
 
-    /// The exit code; negative when a signal or the deadline ended it.
+    /// Waits for the end and returns the exit code; negative when a signal ended the program or the deadline has
+    /// passed.
     int Wait()
     {
         if (m_child.WaitForEnd(1200'000))
@@ -148,7 +149,8 @@ TEST_F(TheProgram, FitsOnTheScreenAtFirst)
     EXPECT_NEAR(height, 480, 1);
 }
 
-// The program's own messages. The image loader of newer releases also reports that it runs without its sandbox.
+// Returns the program's own messages. On newer releases, the image loader reports in addition that it runs without its
+// sandbox.
 std::string OwnLines(const std::string& errors)
 {
     std::string own;
@@ -188,7 +190,7 @@ void TakesItsPictures(const std::vector<std::string>& arguments, const std::stri
     Program program(arguments);
     EXPECT_EQ(program.Wait(), 0) << program.Output() << program.Errors();
     EXPECT_EQ(program.Output().find("FAILED"), std::string::npos);
-    // GTK says so of a control that has less room than its borders take.
+    // GTK prints this warning about a control that has less room than its borders take.
     EXPECT_EQ(program.Errors().find("while allocating gadget"), std::string::npos) << program.Errors();
     for (const char* name : {"browser", "colour-popup", "colours", "filter", "folder-colours", "folder-dialog",
                              "numbers", "save-dialog", "tree", "window-state"})

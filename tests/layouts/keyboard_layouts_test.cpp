@@ -143,7 +143,7 @@ TEST_P(KeyboardLayouts, OpenAndCloseATreesItems)
     press("116", isAt(L"A"));
     press("116", isAt(L"B"));
     press("86", [&] { return tree.IsExpanded(tree.wxTreeCtrl::GetSelection()); });   // the keypad's plus
-    press("82", [&] { return !tree.IsExpanded(tree.wxTreeCtrl::GetSelection()); });  // and minus
+    press("82", [&] { return !tree.IsExpanded(tree.wxTreeCtrl::GetSelection()); });  // the keypad's minus
     press("110", isAt(L"R"));                                                        // Home
     press("113", [&] { return !root.IsExpanded(); });                                // Left
     press(GetParam().asterisk, [&] { return ChildrenOf(root.GetChild()) == Labels{L"A1"}; });

@@ -116,7 +116,7 @@ TEST(FormatControlText, RoundsHalfUp)
     // Rounding to zero keeps the minus.
     EXPECT_EQ(Rounded(L"-0.001", 2), L"-0.00");
     EXPECT_EQ(Rounded(L"-0.4", 0), L"-0");
-    // Digits count that a double cannot hold.
+    // The digits that a double cannot hold are rounded, too.
     EXPECT_EQ(Rounded(L"12345678901234567890.12345678901234567895", 19), L"12345678901234567890.1234567890123456790");
 }
 
@@ -152,7 +152,7 @@ TEST(FormatControlText, RoundsToAnInteger)
     EXPECT_EQ(Rounded(L"+.4", 0), L"");
 }
 
-// Trimming keeps a point if text follows it.
+// Rounding to no decimals drops the point. With decimals, trimming keeps a point if text follows it.
 TEST(FormatControlText, DropsThePointOfAnIntegerBeforeJunk)
 {
     EXPECT_EQ(Rounded(L"5.x", 0), L"5");

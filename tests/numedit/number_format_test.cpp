@@ -120,7 +120,7 @@ TEST(NumberFormat, AssignsEveryField)
     ExpectFixed(locale);
 }
 
-// The test notices a field that gets another field's value.
+// This test fails if a field gets the value of another field.
 TEST(NumberFormat, AssignsEachFlagByItself)
 {
     bool CNumberFormat::*const flags[] = {&CNumberFormat::m_bPadDecimals,   &CNumberFormat::m_bRoundDecimals,

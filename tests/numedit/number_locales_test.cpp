@@ -180,7 +180,7 @@ TEST(PashtoLocale, ChecksBoundsOfTheFraction)
     EXPECT_FALSE(Valid(L"1.76", format));
 }
 
-// Its digits are not ASCII, and are not accepted as digits.
+// The digits of the Pashto script are not ASCII, and are not accepted as digits.
 TEST(PashtoLocale, TakesAsciiDigitsAlone)
 {
     const ScopedLocale pashto("ps_AF.UTF-8");

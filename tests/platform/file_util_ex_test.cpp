@@ -301,7 +301,7 @@ double SecondsFor(std::size_t characters)
     return best;
 }
 
-// Ten times the text takes about ten times as long; a quadratic time would be a hundred times.
+// Ten times the text takes about ten times as long. In quadratic time, it would take a hundred times as long.
 TEST(Utf8OfMegabytes, IsLinear)
 {
     EXPECT_LT(SecondsFor(4000000) / SecondsFor(400000), 40);

@@ -50,7 +50,7 @@ TEST(PathsOfAnApp, FollowItsName)
     EXPECT_EQ(LastPart(std_file_paths::GetUserDataDir()), L"platform-paths-test");
 }
 
-// Not Unicode text: it is replaced by characters that a file name can hold.
+// Characters that are not Unicode are replaced, so that the name can be part of a path.
 TEST(PathsOfAnApp, AreUnicodeWhateverItsName)
 {
     App app;

@@ -21,7 +21,7 @@ struct Paths
     std::string samples;
 };
 
-// The folders of a new process: each process reads the environment once.
+// Returns the folders of a new process. Each process reads the environment only once.
 Paths PathsIn(const Environment& environment, const std::vector<std::string>& arguments = {"--app", "Ledger"},
               const std::string& program = PATHS_PROBE)
 {

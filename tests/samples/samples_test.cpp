@@ -126,7 +126,7 @@ TEST(PersistenceSample, ComesBackAsItWasLeft)
     EXPECT_NE(left.find("[Persistent_Options/Book/Planets/notebook]\nSelection=1\n"), std::string::npos) << left;
     EXPECT_NE(left.find("[Persistent_Options/List/Planets/listCtrl]\nWidths="), std::string::npos) << left;
 
-    // It shows the restored state, and stores that again.
+    // The next run of the sample shows the restored state, and stores the same state again.
     SampleInUse planets("persistence", "Planets", person);
     EXPECT_TRUE(Becomes([&] { return planets.Geometry() == geometry; })) << planets.Geometry() << " not " << geometry;
     planets.Close();

@@ -11,7 +11,7 @@
 
 #include <tests/support/becomes.h>
 
-/// Waits until a change of the file would give it another time.
+/// Waits until a change of the file would give it a later change time (ctime).
 inline void WaitPastStamp(const std::string& path)
 {
     struct stat info = {};

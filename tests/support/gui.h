@@ -8,8 +8,8 @@
 class wxFrame;
 class wxTopLevelWindow;
 
-/// Runs the event loop until @a done returns true; returns false when it did not within @a milliseconds. The default
-/// leaves room for a busy machine.
+/// Runs the event loop until @a done returns true; returns false when that did not happen within @a milliseconds. The
+/// default leaves room for a busy machine.
 bool PumpUntil(const std::function<bool()>& done, int milliseconds = 30000);
 
 /// Handles every event that has arrived, idle processing included.
@@ -20,7 +20,6 @@ bool ShowAndSettle(wxTopLevelWindow* window);
 
 /// Expects assertions of the toolkit, and counts them, while the object exists. Without such an object, an assertion
 /// fails the test.
-/// test.
 class ExpectAssertions
 {
 public:

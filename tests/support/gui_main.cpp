@@ -16,7 +16,7 @@
 
 namespace {
 
-/// True when windows are laid out from right to left.
+/// Returns whether windows are laid out from right to left.
 bool IsRightToLeft()
 {
     const char* const direction = std::getenv("FITTINGS_TEST_DIRECTION");
@@ -53,8 +53,9 @@ public:
         ShowAndSettle(frame);
         frame->Destroy();
         PumpPending();
-        // The first thread makes data that the toolkit keeps for all threads. Make it here: the thread sanitizer cannot
-        // see how the toolkit, built without it, guards that, and would report a race between two first threads.
+        // The first thread makes data that the toolkit keeps for all threads. Make these data before any test. The
+        // toolkit is built without the thread sanitizer, which therefore cannot see how the toolkit guards them, and
+        // would report a race between two first threads.
         FirstThread thread;
         thread.Run();
         thread.Wait();

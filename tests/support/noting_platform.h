@@ -7,8 +7,8 @@
 /// Calls to the platform, each as "operation [argument] [argument]".
 using Calls = std::vector<std::wstring>;
 
-/// Replaces the platform library's settings, paths and UTF-8 in a program that links this: it records its calls, and
-/// can fail any of them.
+/// Replaces the platform library's settings, paths and UTF-8 in a program that links this library. Records the calls,
+/// and can make any of them fail.
 struct NotingPlatform
 {
     Calls calls;
@@ -24,7 +24,7 @@ struct NotingPlatform
 
 extern NotingPlatform g_platform;
 
-/// Records a call; throws when it is the operation that is to throw.
+/// Records a call, and throws if @a operation is the one that is to throw.
 void RecordCall(const std::wstring& operation, const std::vector<std::wstring>& arguments = {});
 
 #endif

@@ -3,9 +3,8 @@
 
 #include <cstdlib>
 
-/// How many times longer than usual the tests wait: FITTINGS_TEST_PATIENCE if a tool makes everything slow, otherwise
-/// 1.
-/// Every deadline is multiplied by it.
+/// Returns how many times longer than usual the tests wait: FITTINGS_TEST_PATIENCE if a tool makes everything slow,
+/// otherwise 1. Every deadline is multiplied by this number.
 inline int Patience()
 {
     static const int patience = [] {

@@ -324,7 +324,7 @@ protected:
         PumpPending();
     }
 
-    // A worker's event, as it would reach the window.
+    // Posts an event to the panel from a worker thread, and waits until the event has been handled.
     void Post(int value)
     {
         Worker worker(
@@ -418,7 +418,7 @@ TEST_F(PostedToAWindow, ArrivesInTheLoopOfAModalDialog)
     EXPECT_EQ(last, 5);
 }
 
-// Does what the Cancel button of a progress window does.
+// The handler stops, awaits and destroys its worker, as the Cancel button of a progress window does.
 TEST_F(PostedToAWindow, MayEndAndDestroyItsWorker)
 {
     std::vector<int> seen;

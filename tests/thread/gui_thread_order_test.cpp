@@ -38,7 +38,7 @@ public:
     std::function<void()> whileQueueing;
 };
 
-// True when another thread could take the mutex now.
+// Returns whether another thread could take the mutex now.
 bool IsFree(wxMutex& mutex)
 {
     bool free = false;
@@ -63,7 +63,8 @@ public:
     }
 };
 
-// Members are destroyed in reverse order: the post mutex, which is taken first, is destroyed first.
+// Members are destroyed in reverse order of declaration, so the post mutex, which is locked first, is destroyed before
+// the continue mutex.
 TEST(WorkerClass, LaysItsMembersOutInOrder)
 {
     const Laid worker;
@@ -167,7 +168,7 @@ const Overload kOverloads[] = {
 
 INSTANTIATE_TEST_SUITE_P(, OneAtATime, testing::ValuesIn(kOverloads), [](const auto& info) { return info.param.name; });
 
-// The opposite order in another place would be a deadlock.
+// A function that took the two mutexes in the opposite order could cause a deadlock.
 TEST_P(OneAtATime, AndTheContinueMutexIsTakenInsideThePostMutex)
 {
     Open worker(nullptr);

@@ -139,7 +139,7 @@ TEST(PostEvent, DeliversACopyOfTheCallersEvent)
     EXPECT_EQ(handler.events, (Events{{7, 12, &object, L"caf\u00e9", 3, 5, &data, nullptr}}));
 }
 
-// A host may override it to see the posted events.
+// A host may override AddPendingEvent() to see the posted events.
 TEST(PostEvent, GoesByTheHandlersPendingEvents)
 {
     struct Handler : Recorder

@@ -122,7 +122,7 @@ TEST(Wait, BlocksUntilThreadLocalObjectsAreDestroyed)
     });
 }
 
-// The toolkit keeps its data of a thread in such a value of a key.
+// The toolkit keeps its data of a thread as the thread's value of a key, as this test does.
 TEST(Wait, BlocksUntilTheValuesOfKeysAreDestroyed)
 {
     static Signal over;

@@ -148,7 +148,7 @@ void TwoWaiters()
     _exit(0);
 }
 
-// The number of allocations that the work leaves behind.
+// Returns the number of allocations that the work leaves behind.
 long AllocationsLeftBy(const std::function<void()>& work)
 {
     work();  // The toolkit and the system allocate some memory only once, at the first use.

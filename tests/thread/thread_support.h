@@ -47,7 +47,7 @@ public:
         return m_set;
     }
 
-    /// False when it was not set within the deadline.
+    /// Waits for the event. Returns false when it did not happen within the deadline.
     bool Wait()
     {
         std::unique_lock<std::mutex> lock(m_mutex);
@@ -65,7 +65,7 @@ inline std::string TaskFile(pid_t thread, const char* name)
     return "/proc/self/task/" + std::to_string(thread) + "/" + name;
 }
 
-/// True once the thread sleeps on a lock or condition and stays asleep.
+/// Waits until the thread sleeps on a lock or condition and stays asleep. Returns false when that does not happen.
 inline bool IsBlocked(pid_t thread)
 {
     std::string last;
@@ -80,7 +80,7 @@ inline bool IsBlocked(pid_t thread)
     });
 }
 
-/// True once the system no longer knows the thread.
+/// Waits until the system no longer knows the thread. Returns false when that does not happen.
 inline bool HasEnded(pid_t thread)
 {
     return Becomes([&] { return access(TaskFile(thread, "").c_str(), F_OK) != 0; });

@@ -32,7 +32,7 @@ static_assert(std::is_same_v<decltype(&wxHandyTreeCtrl::SelectRootItem), Operati
 static_assert(std::is_same_v<decltype(&wxHandyTreeCtrl::OnEvtItemExpanding), Operation<void, wxTreeEvent&>>);
 static_assert(std::is_same_v<decltype(&wxHandyTreeCtrl::OnItemExpanding), Operation<void, const wxTreeCursor&>>);
 
-// The offset of a virtual operation in the virtual table, which a pointer to the operation holds.
+// Returns the offset of a virtual operation in the virtual table. A pointer to the operation contains this offset.
 template <typename Pointer>
 std::ptrdiff_t PlaceOf(Pointer operation)
 {

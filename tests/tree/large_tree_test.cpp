@@ -37,7 +37,7 @@ public:
         return wxHandyTreeCtrl::GetPrevSibling(item);
     }
 
-    // GetFirstChild() calls this, too.
+    // GetFirstChild() calls this operation, too.
     wxTreeItemId GetNextChild(const wxTreeItemId& item, wxTreeItemIdValue& cookie) const override
     {
         ++byCookie;
@@ -219,7 +219,7 @@ TEST_F(LargeTree, IsSavedAndVisitedWhateverItsDepth)
     EXPECT_LE(tree.byCookie, 4 * kDepth);
 }
 
-// The deepest expanded chain that the toolkit can lay out with a stack of 8 MB.
+// With a stack of 8 MB, the toolkit cannot lay out a chain of expanded items that is much deeper than this one.
 TEST_F(LargeTree, IsRestoredAsDeepAsTheToolkitBears)
 {
     constexpr int kDepth = 20'000;

@@ -209,7 +209,7 @@ TEST_F(SaveState, ChangesNothingInTheTree)
     EXPECT_EQ(root.tree, &tree);
 }
 
-// Nobody can make a folder there, not even root.
+// Nobody can make a folder in /proc, not even root.
 TEST_F(SaveState, IsLostQuietlyWhereNothingCanBeStored)
 {
     std_file_paths::SetUserDataDir(L"/proc/fittings");

@@ -137,7 +137,7 @@ TEST_P(AsComboCtrl, TellsOnceThatItOpensAndThatItIsDismissed)
     combo.Popup();
     EXPECT_TRUE(combo.IsPopupShown());
     EXPECT_EQ(log.Take(), (Notes{"dropdown", "popup"}));
-    Open();  // It is open already.
+    Open();  // The popup is already open.
     EXPECT_EQ(log.Take(), Notes());
     ClickButton();
     ExpectClosed();
@@ -195,7 +195,7 @@ TEST_P(AsComboCtrl, DoesNotTellOfTheNameOfAColourThatIsNotChosen)
     EXPECT_EQ(on.popup->GetStringValue(), "Red");
     Press(WXK_ESCAPE);
     ExpectClosed();
-    // Like the toolkit's own popups, it returns the value it was opened with.
+    // Like the toolkit's own popups, a cancelled popup returns the value that it was opened with.
     EXPECT_EQ(log.Take(),
               hasField ? (Notes{"dropdown", "popup", "cancel", "text Lime"}) : (Notes{"dropdown", "popup", "cancel"}));
     EXPECT_EQ(combo.GetValue(), "Lime");

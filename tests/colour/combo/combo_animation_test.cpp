@@ -52,7 +52,7 @@ TEST(ColourOutline, GrowsFromTheMiddle)
                                                 {200, wxRect(100, 200, 148, 162)}});
 }
 
-// Each half is truncated separately.
+// Half the size of the popup and half the size of the outline are each truncated to whole pixels.
 TEST(ColourOutline, HasItsMiddleInWholePixels)
 {
     ExpectOutlines(wxRect(11, 21, 149, 95),
@@ -165,7 +165,7 @@ TEST_F(ColourAnimation, TakesItsFirstStepAtOnce)
     on.combo->Dismiss();
 }
 
-// Each animation takes a new copy, even if another program has drawn there since the last one.
+// Each animation takes a new copy of the screen, because the screen may have changed since the previous animation.
 TEST_F(ColourAnimation, CopiesTheScreenWhereThePopupWillBe)
 {
     auto* const below = new wxWindow(on.panel, wxID_ANY, wxPoint(20, 100), wxSize(400, 250));
@@ -280,7 +280,8 @@ TEST_F(ColourAnimation, LetsClicksThrough)
     on.combo->Dismiss();
 }
 
-// If no window covers the screen there, the old outline is removed by restoring what was there before.
+// When the outline is drawn on the screen itself, the combo removes the old outline by drawing the copied background
+// again.
 class ColourAnimationOnTheScreen : public ColourAnimation
 {
 protected:

@@ -183,7 +183,7 @@ TEST_P(BesideTheToolkits, OpensAgainAfterBeingFrozen)
     EXPECT_EQ(on.combo->GetValue(), "Red");
 }
 
-// The popup is as large as its cells; the host's sizes do not change it.
+// The popup is as large as its cells. The sizes that the host sets have no effect.
 TEST_P(BesideTheToolkits, HasAPopupOfItsOwnSize)
 {
     on.combo->SetPopupMinWidth(400);

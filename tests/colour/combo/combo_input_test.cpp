@@ -155,7 +155,7 @@ TEST_F(ColourComboInUse, IsCancelledByAClickOutside)
 
 TEST_F(ColourComboInUse, IsClosedByAClickOnItsButton)
 {
-    // Open it by key: a second click on the button could count as a double click.
+    // Open the popup by key, because a second click on the button could count as a double click.
     combo->SetFocus();
     Press(WXK_F4);
     ExpectShown();

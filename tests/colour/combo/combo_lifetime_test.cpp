@@ -281,7 +281,7 @@ TEST(ColourListenerInItsCalls, MayCloseThePopupOfACancelledSelection)
     EXPECT_EQ(control.combo->GetValue(), "Teal");
 }
 
-// A host that destroys its editor on "cancel" also gets this call while it destroys the editor itself.
+// Destroying the combo while its popup is open calls "cancel". A host may destroy the combo in that call, too.
 TEST(ColourListenerInItsCalls, MayDestroyWhatIsBeingDestroyed)
 {
     for (const bool deleted : {true, false}) {

@@ -112,7 +112,7 @@ TEST_P(ColourComboOpening, IsDismissedByAClickOutside)
     EXPECT_TRUE(PumpUntil([&] { return HasFocus(); }));
 }
 
-// The click does not reach the button, as with an open popup, which grabs the pointer.
+// The click does not reach the button. An open popup, which grabs the pointer, prevents that, too.
 TEST_P(ColourComboOpening, IsDismissedByAClickOnAButton)
 {
     int presses = 0;
@@ -409,7 +409,7 @@ TEST_P(ClosedReadOnlyCombo, GoesOnFromTheColourInEffectAfterACancel)
     EXPECT_EQ(on.popup->m_nChosenColourSel, 19);
 }
 
-// The wheel then scrolls the page, because the combo does not have the focus.
+// If the combo does not have the focus, the wheel scrolls the page.
 TEST_P(ClosedReadOnlyCombo, ChangesItsColourByTheWheelWithTheFocusAlone)
 {
     on.popup->SetColour(wxColour(0, 0, 0));

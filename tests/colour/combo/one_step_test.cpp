@@ -176,7 +176,7 @@ TEST(ColourComboInOneStep, MayBeCreatedLater)
     PumpPending();
 }
 
-// Calls that compiled before Create() with a colour existed still call the toolkit's Create().
+// Create() with a colour was added later. Calls that were valid before still call the toolkit's Create().
 TEST(ColourComboInOneStep, LeavesTheOldCreateAsItIs)
 {
     wxFrame* const frame = MakeFrame();

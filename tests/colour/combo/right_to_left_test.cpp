@@ -18,7 +18,7 @@ void PointTo(const wxPoint& place)
     EXPECT_TRUE(PumpUntil([&] { return wxGetMousePosition() == place; }));
 }
 
-/// A point of the screen inside an area of @a colour.
+/// Waits for an area of @a colour on the screen, and returns a point inside; wxDefaultPosition if there is none.
 wxPoint PlaceOf(const wxColour& colour)
 {
     const wxRect where(wxGetDisplaySize());
@@ -58,7 +58,7 @@ TEST(RightToLeft, TheColourClickedIsTheOneSeenThere)
         wxUIActionSimulator().MouseClick();
         EXPECT_TRUE(PumpUntil([&] { return !screen.combo->IsPopupShown(); }));
         EXPECT_EQ(screen.combo->GetValue(), GetColourName(index));
-        // The face shows the colour, too.
+        // The face of the combo shows the colour.
         PointTo(wxPoint(5, 5));
         EXPECT_NE(PlaceOf(colour), wxDefaultPosition);
     }

@@ -33,10 +33,10 @@ public:
         return came;
     }
 
-    /// The rest of each line that begins with @a start.
+    /// Returns the rest of each line that begins with @a start.
     std::vector<std::string> Lines(const std::string& start) const { return m_child.Lines(start); }
 
-    /// The numbers in the last line that begins with @a start.
+    /// Returns the numbers in the last line that begins with @a start.
     std::vector<int> Numbers(const std::string& start) const
     {
         std::vector<int> numbers;

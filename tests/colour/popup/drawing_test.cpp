@@ -143,7 +143,7 @@ TEST_F(ColourDrawing, OfNoCellIsNothing)
     EXPECT_EQ(DrawnCell(-4), Calls{});
 }
 
-// Until the next layout its rectangle stays the old one.
+// A box whose text was removed keeps its rectangle until the next layout, and is drawn there as a cell.
 TEST_F(ColourDrawing, OfABoxWithoutTextIsThatOfACell)
 {
     popup->m_rectMoreColours = wxRect(10, 20, 30, 40);
@@ -157,7 +157,7 @@ TEST_F(ColourDrawing, OfABoxWithoutTextIsThatOfACell)
 TEST_F(ColourDrawing, OfMoreColoursIsASeparatorAndAText)
 {
     AddBoxes();
-    // Both sizes leave an odd remainder; its half is rounded down.
+    // Both sizes leave an odd remainder, half of which is rounded down.
     dc.Record().textSize = wxSize(60, 10);
     EXPECT_EQ(DrawnCell(CELL_MORE_COLOURS), (Calls{
                                                 "rect 4,134 141x37 FACE FACE",
@@ -330,7 +330,7 @@ TEST_F(ColourDrawing, OfTheAutomaticColourIsCentredInTheLeftSquare)
     EXPECT_EQ(DrawnCell(CELL_AUTOMATIC).back(), "rect 12,13 9x9 SHADOW #040506");
 }
 
-// Halves round toward zero, also when the text is larger than the box.
+// Halves round toward zero, even when the text is larger than the box.
 TEST_F(ColourDrawing, OfATextLargerThanItsBoxStandsOutOnBothSides)
 {
     AddBoxes();

@@ -36,7 +36,8 @@ TEST(ColourHotCell, BringsItsColour)
     EXPECT_EQ(popup->m_crInitialColour, *wxBLUE);
 }
 
-// The chosen cell is still the one from creation: the initial black is the colour of "Automatic".
+// A new hot cell does not change the chosen cell. A popup chooses "Automatic" at first, because its initial colour is
+// black, the colour of "Automatic".
 TEST(ColourHotCell, IsNotTheChosenOneYet)
 {
     const PopupInFrame popup;
@@ -323,7 +324,7 @@ TEST_F(HotCellOnScreen, DrawsNoMoreThanTwoCellsAndTheFrame)
     PumpPending();
     EXPECT_EQ(g_drawn.rectangles, 4);
     EXPECT_EQ(g_drawn.lines, 16);
-    // The box has four rectangles.
+    // "More Colours..." has four rectangles.
     g_drawn = {};
     popup->ChangeSelection(M);
     PumpPending();

@@ -13,7 +13,7 @@ namespace {
 constexpr int kMore = CELL_MORE_COLOURS;
 constexpr int kAutomatic = CELL_AUTOMATIC;
 
-// The size of a text in the popup's font.
+// Returns the size of a text in the popup's font.
 wxSize Extent(const PopupInFrame& popup, const wxString& text)
 {
     wxClientDC dc(popup.frame);
@@ -357,7 +357,7 @@ TEST(ColourLayout, LeavesTheRectangleOfNoCellAlone)
     }
 }
 
-// The rectangle of a box is that of the last layout.
+// A box whose text was removed keeps its rectangle until the next layout.
 TEST(ColourLayout, GivesTheRectangleOfABoxWithoutText)
 {
     const PopupInFrame popup;

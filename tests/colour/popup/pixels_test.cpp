@@ -27,7 +27,7 @@ char LetterOf(const wxColour& colour)
     return '?';
 }
 
-// Writes the pixels of a row or column as runs of equal pixels: "3. 1H 14f" is three pixels of background, one of
+// Returns the pixels of a row or column as runs of equal pixels: "3. 1H 14f" is three pixels of background, one of
 // highlight and 14 of face.
 std::string Runs(const std::function<wxColour(int)>& at, int count)
 {

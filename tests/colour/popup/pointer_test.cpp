@@ -65,13 +65,13 @@ TEST(ColourPointer, FindsTheCellsBetweenBothBoxes)
                            {3, 4, kBefore},
                            {4, 3, kBefore},
                            {149, 33, kBefore},
-                           // The grid begins below it. Its first row is drawn at 34 to 51.
+                           // The grid begins below "Automatic". Its first row is drawn at 34 to 51.
                            {4, 34, 0},
                            {19, 49, 0},
                            {20, 34, 1},
                            {145, 49, 7},
                            {146, 49, kBefore},
-                           // The lowest two pixels of a row belong to the next one.
+                           // The lowest two pixels of a row belong to the next row.
                            {4, 50, 8},
                            {4, 51, 8},
                            {145, 67, 15},
@@ -89,7 +89,8 @@ TEST(ColourPointer, FindsTheCellsBetweenBothBoxes)
                        });
 }
 
-// Division truncates toward zero. So points in the margin left of the grid, and less than a row above it, are in it.
+// Division truncates toward zero. Therefore points less than a cell left of the grid count as its first column, and
+// points less than a cell above the grid as its first row.
 TEST(ColourPointer, FindsTheFirstColumnInTheMarginBesideIt)
 {
     const PopupInFrame popup;

@@ -23,7 +23,7 @@ bool IsLogAtTheTop(wxAuiManager& manager)
     return manager.GetPane("log").dock_direction == wxAUI_DOCK_TOP;
 }
 
-/// Shows a frame again. Returns whether the pane is where it was left.
+/// Restores the layout of a new frame, and expects the pane at the top.
 void ExpectLogAtTheTop()
 {
     AuiFrame frame;

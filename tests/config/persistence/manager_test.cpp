@@ -177,7 +177,7 @@ TEST(Manager, IsTheToolkitsOnceItIsInstalled)
     EXPECT_EQ(&wxStorePersistenceManager::Install(), &wxStorePersistenceManager::Install());
 }
 
-// Numbers that the toolkit's classes cannot have written.
+// The toolkit's classes cannot have written these numbers.
 TEST(DamagedNumbers, DoNoHarm)
 {
     const TempPersistence data;

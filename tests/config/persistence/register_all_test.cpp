@@ -117,7 +117,7 @@ TEST(RegisteringAll, LeavesOutWhatIsRegisteredAndOtherTopLevelWindows)
     EXPECT_EQ(StoredOf(L"Window/Twice", L"w"), L"(none)");
 }
 
-// The user chooses a page with this list.
+// A wxListbook contains a list with which the user chooses a page. That list is not registered.
 TEST(RegisteringAll, LooksIntoThePagesOfABookAlone)
 {
     const TempPersistence data;

@@ -1,5 +1,5 @@
-// Frames and dialogs, by the toolkit's own wxPersistentTLW. The display of these tests is 1280 x 1024 with the work
-// area 16;24;1264;960.
+// Frames and dialogs that the toolkit's own wxPersistentTLW saves and restores. The display of these tests is 1280 x
+// 1024 with the work area 16;24;1264;960.
 
 #include <cstdlib>
 #include <memory>
@@ -42,8 +42,8 @@ bool SettlesAt(const wxTopLevelWindow& window, const wxRect& rect)
     return PumpUntil([&] { return !window.IsMaximized() && window.GetScreenRect() == rect; });
 }
 
-/// On a busy machine the window manager places the restored frame with the decorations of the maximised one, wrong by
-/// the width of a border.
+/// Returns whether the window gets that rectangle, give or take a border. On a busy machine, the window manager places
+/// the restored frame with the decorations of the maximised one, so the position is wrong by the width of a border.
 bool SettlesNear(const wxTopLevelWindow& window, const wxRect& rect)
 {
     constexpr int kBorder = 2;
@@ -93,7 +93,7 @@ TEST(PersistentFrame, ThatWasMaximizedComesBackSoAndIsRestoredToItsEarlierSize)
     });
     EXPECT_EQ(StoredValue(kKind, L"Maximized"), L"1");
     EXPECT_EQ(StoredValue(kKind, L"w"), L"500");
-    // A run without a change still remembers the earlier size.
+    // A run that changes nothing keeps the earlier size.
     InOneRun(true, [](wxFrame& frame) { ASSERT_TRUE(SettlesMaximized(frame)); });
     InOneRun(true, [](wxFrame& frame) {
         ASSERT_TRUE(SettlesMaximized(frame));
@@ -117,7 +117,8 @@ TEST(PersistentFrame, ThatWasOnTheFullScreenComesBackAtItsEarlierSize)
     InOneRun(true, [](wxFrame& frame) { EXPECT_TRUE(SettlesAt(frame, wxRect(300, 200, 400, 300))); });
 }
 
-// A second frame is hidden before it is destroyed, and the window manager then forgets that it is maximised.
+// While another frame is open, a closed frame is hidden before it is destroyed. The window manager then forgets that
+// the closed frame is maximised.
 TEST(PersistentFrame, ThatIsClosedMaximizedBeforeAnotherIsRemembered)
 {
     const TempPersistence data;

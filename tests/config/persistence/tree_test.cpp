@@ -113,7 +113,7 @@ TEST(PersistentTree, StoresReadableText)
     EXPECT_EQ(StoredValue(kKind, L"Items"), L"0+^:|1+:b\\|/\\\\|1*#2:a|");
 }
 
-// The root cannot be expanded.
+// A hidden root cannot be expanded.
 TEST(PersistentTree, WithAHiddenRootIsRestored)
 {
     const TempPersistence data;
@@ -172,7 +172,8 @@ TEST(PersistentTree, ScrollsToTheItemThatWasFirstInView)
     }
 }
 
-/// Each item has three children with the same label, which are made when it is expanded. Until then it has one child.
+/// A tree in which an item gets three children with the same label when it is expanded. Until then, the item has one
+/// child.
 class LazyTree : public wxHandyTreeCtrl
 {
 public:

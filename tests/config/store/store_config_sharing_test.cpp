@@ -107,7 +107,8 @@ TEST_F(StoreConfig, StaysInAGroupThatAnotherDeletes)
     Open("[a/b]\nk=1\n");
     m_config->SetPath("a/b");
     WriteFile(Path(), "");
-    // For half a second an empty file counts as one that another program is still writing.
+    // Put something into the file, because an empty file counts for half a second as one that another program is still
+    // writing.
     WriteFile(Path(), "[x]\n");
     EXPECT_FALSE(m_config->HasEntry("k"));
     EXPECT_EQ(m_config->GetPath(), "/a/b");
@@ -201,7 +202,7 @@ TEST(TheDefaultStoreAsAConfig, LeavesItsChangesToTheBatchThatSavesThemLater)
     EXPECT_EQ(config.Read("g/k"), "1");
     std::filesystem::remove(data / "settings.ini");
     EXPECT_TRUE(CLocalRegStore::WriteString(L"g", L"k", L"2"));
-    // The batch has the change and the later one: Flush() does not store the earlier value again.
+    // The batch contains the earlier value and the later one, so Flush() does not store the earlier value again.
     EXPECT_TRUE(config.Flush());
     EXPECT_TRUE(batch.Save());
     EXPECT_EQ(ReadFile(data / "settings.ini"), "[g]\nk=2\n");
@@ -237,7 +238,8 @@ TEST(TheToolkitsConfig, IsSavedWhenTheToolkitEnds)
     EXPECT_EQ(history.GetHistoryFile(1), "/tmp/a.txt");
 }
 
-// Made before the store is first used, and so destroyed after the objects that the store makes then.
+// This object is constructed before the store is first used. Therefore it is destroyed after the objects that the store
+// constructs at its first use.
 std::unique_ptr<wxStoreConfig> g_config;
 
 TEST(AConfigThatOutlivesMain, IsSavedWhenTheProcessEnds)

@@ -11,7 +11,7 @@
 #include <fittings/config/store_config.h>
 #include <tests/support/temp_folder.h>
 
-/// The names of the current group's entries, in order.
+/// Returns the names of the current group's entries, in order.
 inline std::vector<wxString> EntryNames(const wxConfigBase& config)
 {
     std::vector<wxString> names;
@@ -22,7 +22,7 @@ inline std::vector<wxString> EntryNames(const wxConfigBase& config)
     return names;
 }
 
-/// The names of the current group's groups, in order.
+/// Returns the names of the current group's groups, in order.
 inline std::vector<wxString> GroupNames(const wxConfigBase& config)
 {
     std::vector<wxString> names;
@@ -33,7 +33,7 @@ inline std::vector<wxString> GroupNames(const wxConfigBase& config)
     return names;
 }
 
-/// The contents of the current group as an INI file in which each group has a line.
+/// Returns the contents of the current group as an INI file in which each group has a line.
 inline wxString Dump(wxConfigBase& config)
 {
     wxString text;

@@ -36,7 +36,7 @@ std::string Text(const wxRect& rect)
 }
 
 /// Returns the frame's rectangle on the screen according to the X server, with the decorations; empty until the window
-/// manager has added them.
+/// manager has added the decorations.
 wxRect OnScreen(const wxFrame& frame)
 {
     GdkWindow* const window = gtk_widget_get_window(frame.GetHandle());

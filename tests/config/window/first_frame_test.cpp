@@ -28,7 +28,8 @@ TEST_P(FirstFrame, ComesBackInItsPlace)
     ExpectBack("420;130;510;340");
 }
 
-// The position of a frame that was never moved: the toolkit then leaves the place to the window manager.
+// A frame that was never moved has this position, too, and the toolkit leaves the place of such a frame to the window
+// manager.
 TEST_P(FirstFrame, ComesBackInTheCorner)
 {
     ExpectBack("corner");

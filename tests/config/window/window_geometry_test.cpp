@@ -209,7 +209,7 @@ TEST(LoadState, LogsNothingAboutAChildOfAHiddenFrame)
     EXPECT_EQ(log.count, 0);
 }
 
-// Nobody can make a folder there, not even root.
+// Nobody can make a folder in /proc, not even root.
 TEST(SettingsThatCannotBeStored, GoUnnoticed)
 {
     const TempUserData data;

@@ -328,7 +328,7 @@ TEST(MaximizeFrame, DestroysItsHandlerOnceItHasActed)
     EXPECT_EQ(g_handlersDestroyed, before + 1);
 }
 
-// The frame does not own the handler: destroying the frame first destroys no handler.
+// The frame does not own the handler, so destroying the frame before it is maximised does not destroy the handler.
 TEST(MaximizeFrame, LeavesItsHandlerToNobodyWhenTheFrameGoesFirst)
 {
     auto plain = std::make_unique<CountingFrame>();

@@ -84,13 +84,13 @@ INSTANTIATE_TEST_SUITE_P(
         Restored{"UnderTheLeftPanel", L"-290;100;300;200", {"16;100;300;200 3"}, wxRect(16, 100, 300, 200)},
         Restored{"UnderTheBottomPanelOversize", L"-9;984;3000;2000", {"16;24;1264;960 3"}, wxRect(16, 24, 1264, 960)},
         Restored{"OffAndLow", L"5000;5000;300;20", {"0;0;-1;-1 0", "16;24;300;20 3"}, wxRect(16, 24, 300, 20)},
-        // The window manager chooses the place.
+        // Without a position, the window manager chooses the place.
         Restored{"NoPosition", L"-1;-1;300;200", {}, wxRect(-1, -1, 300, 200)},
         Restored{"NoPositionOversize", L"-1;-1;1280;1024", {"16;24;1264;960 3"}, wxRect(16, 24, 1264, 960)},
         Restored{"HalfAPosition", L"-1;100;300;200", {"16;100;283;200 3"}, wxRect(16, 100, 283, 200)}),
     [](const auto& info) { return info.param.name; });
 
-/// The first two calls, for sizes that are applied and sizes that are not.
+/// A stored position of -1 is applied as any other position is. The tests above leave out these two calls.
 TEST(StoredPositionMinusOne, IsApplied)
 {
     const TempUserData data;
@@ -220,7 +220,7 @@ TEST(ShownFrame, IsClippedToo)
     EXPECT_TRUE(PumpUntil([&] { return frame.GetScreenRect() == wxRect(1100, 900, 180, 84); }));
 }
 
-// At its parent's corner the child is still on no display.
+// Even at the corner of its parent, the child is on no display.
 TEST(ChildOfAFrameThatIsOffEveryDisplay, StaysAtTheParentsCorner)
 {
     const TempUserData data;
@@ -233,7 +233,7 @@ TEST(ChildOfAFrameThatIsOffEveryDisplay, StaysAtTheParentsCorner)
     EXPECT_EQ(panel.GetRect(), wxRect(0, 0, 200, 100));
 }
 
-// Its place on the screen decides whether it is on a display, not its place in its parent.
+// The child's position on the screen, not its position in its parent, decides whether the child is on a display.
 TEST(ChildLeftOfAShownParent, IsOnTheDisplay)
 {
     const TempUserData data;

@@ -52,7 +52,7 @@ TEST_F(RestoredFrame, MayBeDestroyedAtOnce)
     PumpPending();
 }
 
-// A size that the program sets after restoring takes precedence.
+// A position and size that the program sets after restoring take precedence.
 TEST_F(RestoredFrame, GoesWhereItsProgramPutsIt)
 {
     EXPECT_TRUE(wx_window_state::LoadState(frame, L"Main"));

@@ -33,11 +33,11 @@ protected:
     gallery::FolderTree& Tree() { return *frame->GetBrowser()->GetTree(); }
     gallery::ContentsList& List() { return *frame->GetBrowser()->GetList(); }
 
-    /// The names in the list, from top to bottom.
+    /// Returns the names in the list, from top to bottom.
     std::vector<std::string> Rows();
     unsigned RowOf(const std::string& name);
 
-    /// The tree item of a folder, given by its path below the root; the levels above must be filled.
+    /// Returns the tree item of a folder, given by its path below the root. The levels above it must be filled.
     wxTreeItemId Item(const std::string& path);
 
     void ClickFolder(const std::string& path);

@@ -162,7 +162,7 @@ TEST_F(FolderColours, AutomaticTakesItAway)
     EXPECT_FALSE(ColourOf("docs").IsOk());
 }
 
-// The colour of plain text is also in the palette.
+// Black, the colour of plain text, is one of the palette's colours, too.
 TEST_F(FolderColours, BlackIsNotAutomatic)
 {
     Select("docs");

@@ -18,7 +18,7 @@ protected:
             fs::create_directories(temp / name);
     }
 
-    // The folders in the menu from the top, as paths below the root.
+    // Returns the folders in the menu from top to bottom, as paths below the root.
     std::vector<std::string> Folders()
     {
         std::vector<std::string> folders;

@@ -230,7 +230,7 @@ TEST_F(Remembering, OrderAndColumnWidthsComeBack)
     EXPECT_TRUE(List().GetColumn(3)->IsSortKey());
     EXPECT_FALSE(List().GetColumn(3)->IsSortOrderAscending());
     EXPECT_TRUE(PumpUntil([&] { return List().GetColumnWidths() == widths; }));
-    // The first click on that header reverses the restored order.
+    // The first click on the header of the sorted column reverses the restored order.
     Click(CentreOf(HeaderRect(List(), SortColumn::Modified)));
     EXPECT_TRUE(PumpUntil([&] { return List().GetSortOrder().ascending; }));
     EXPECT_EQ(List().GetSortOrder().column, SortColumn::Modified);

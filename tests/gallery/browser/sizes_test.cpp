@@ -193,7 +193,7 @@ TEST_F(Sizes, AFolderThatIsGoneHasOneUnreadableItem)
     EXPECT_TRUE(Row().GetText().Contains(", 1 unreadable")) << Row().GetText();
 }
 
-/// Counts events by their int.
+/// Counts events, and expects the same int in each.
 class Counter : public wxEvtHandler
 {
 public:

@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <string>
 
-/// The sum of the sizes of a folder and everything below it, from the output of find; a file with several names counts
-/// once. The command du cannot be used: its versions differ in whether folders' own sizes count.
+/// Returns the sum of the sizes of a folder and everything below it, from the output of find. A file with several names
+/// counts once. The command du cannot be used: its versions differ in whether folders' own sizes count.
 std::uint64_t ListedSize(const std::string& path);
 
 #endif

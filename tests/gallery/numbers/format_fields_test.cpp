@@ -1,4 +1,4 @@
-// The fields of the format, used by keyboard and mouse.
+// The controls for the fields of the format, operated with the keyboard and the mouse.
 
 #include <wx/checkbox.h>
 #include <wx/choice.h>

@@ -32,8 +32,8 @@ protected:
     wxString Result(const wxString& function) { return Label(function + "Result"); }
     CNumberFormat Format() { return frame->GetNumbers()->GetFields()->GetFormat(); }
 
-    /// The name of the page's control that has the focus, or empty. In some controls a GTK widget has the focus that is
-    /// not a window of the toolkit.
+    /// Returns the name of the page's control that has the focus, or an empty text. In some controls, the focus is in a
+    /// GTK widget that is not a window of the toolkit.
     wxString FocusName();
     bool FocusComesTo(const wxString& name);
 

@@ -54,7 +54,7 @@ private:
     int m_bellsBefore;
 };
 
-/// The fixed preset with the given bounds.
+/// Returns the fixed preset with the given bounds.
 CNumberFormat Bounded(double min, double max);
 
 #endif

@@ -224,7 +224,7 @@ TEST_F(NumberDrop, MovesDigitsWithinTheNumber)
     EXPECT_EQ(screen.BellsRung(), 0);
 }
 
-/// What a program does with a text that is dropped.
+/// A program's own drop target, which records the text that is dropped.
 class Target : public wxTextDropTarget
 {
 public:
@@ -253,7 +253,8 @@ TEST_F(NumberDrop, IsLeftToADropTargetOfTheProgram)
     EXPECT_TRUE(PumpUntil([&] { return dropped == "1,234.50-"; }));
 }
 
-// Until the digits have left their old place there are too many of them.
+// The digits are inserted at the new place before they are removed from the old one, so the text has too many digits in
+// between.
 TEST_F(NumberDrop, LosesNoDigitsThatItRefusesToMove)
 {
     screen.Restart("12345");

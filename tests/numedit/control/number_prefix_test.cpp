@@ -112,7 +112,7 @@ private:
             value *= 10;
         for (; power < 0 && std::abs(bound) < 1'000'000'000'000; ++power)
             bound *= 10;
-        // A bound of 0 does not change, so the sign decides.
+        // Multiplying does not change a bound of 0, so the sign of @a value decides.
         return value < bound;
     }
 

@@ -79,7 +79,7 @@ TEST(ABoundOfAFormat, IsNoneWhereItIsNoFiniteNumber)
     EXPECT_FALSE(rules.max);
 }
 
-// As doubles they would all be equal.
+// As doubles, these bounds would be equal.
 TEST(BoundsOfManyDigits, AreCompared)
 {
     const std::string low = "1" + std::string(998, '0') + "3";
@@ -177,7 +177,7 @@ TEST(PastedTextOfOtherFormats, IsReadToo)
     unsigned_.m_bAllowSign = false;
     EXPECT_FALSE(fittings::PlainTextOf(L"5-", unsigned_));
 
-    // In the C locale the separator is zero.
+    // In the C locale, the thousands separator is the null character.
     CNumberFormat plain(eFixedFormat);
     plain.m_chThousandsSep = 0;
     EXPECT_EQ(fittings::PlainTextOf(L"1234", plain), L"1234");

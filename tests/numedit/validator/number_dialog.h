@@ -64,7 +64,7 @@ public:
     /// Shows the dialog with @a text in the number's control and the caret behind it.
     void Show(const wxString& text = wxString());
 
-    /// Does the same in a dialog that is already shown, and resets the counters.
+    /// Sets the text and the caret in a dialog that is already shown, and resets the counters.
     void Restart(const wxString& text, long caret);
 
     /// Types ASCII text on the keyboard, one key after the other.

@@ -12,7 +12,7 @@ namespace {
 
 using Codes = std::vector<int>;
 
-// Newer toolkits report no key code for the letter.
+// Newer versions of the toolkit report no key code for this letter.
 TEST(LatinLetter, IsRefused)
 {
     const Layout french({"fr"}, kKey2, 0, "eacute");

@@ -117,7 +117,7 @@ TEST_F(Transfer, FromTheWindowLeavesTheValueForABadText)
     EXPECT_EQ(Bells(), bellsBefore);
 }
 
-// Not every text that may be typed on the way is a number.
+// Some texts that may be typed are only the beginning of a number.
 TEST_F(Transfer, FromTheWindowChecksTheCompleteNumber)
 {
     CNumberFormat format = FixedFormat();

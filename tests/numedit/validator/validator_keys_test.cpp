@@ -236,7 +236,7 @@ TEST_P(Chords, AreCheckedByTheirCodeAlone)
     NumberDialog screen{FixedFormat()};
     screen.Show("12345");
     screen.Press(GetParam().key, GetParam().modifiers);
-    // Newer toolkits report no character for Control and a digit, so the validator has none to refuse.
+    // Newer versions of the toolkit report no character for Control and a digit, so the validator has none to refuse.
     const bool isReported = std::string(GetParam().name) != "ControlDigit" || !screen.keys.chars.empty();
     EXPECT_EQ(screen.keys.chars, std::vector<int>(isReported ? 1 : 0, GetParam().code));
     EXPECT_EQ(screen.Text(), L"12345");

@@ -8,7 +8,8 @@
 
 #include <gtest/gtest.h>
 
-/// The first byte of the lock file is the lock. Its second byte is the queue: its holder gets the lock next.
+/// The first byte of the lock file is the lock. The second byte is the queue: the process that holds it gets the lock
+/// next.
 inline struct flock BytesOfLock(off_t begin, off_t count)
 {
     struct flock lock = {};
@@ -19,7 +20,7 @@ inline struct flock BytesOfLock(off_t begin, off_t count)
     return lock;
 }
 
-/// True when a process waits to get the lock next.
+/// Returns whether a process waits to get the lock next.
 inline bool IsTurnTaken(const std::string& path)
 {
     const int file = open(path.c_str(), O_RDWR | O_CLOEXEC);

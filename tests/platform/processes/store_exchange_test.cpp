@@ -94,7 +94,7 @@ TEST_F(AnExchange, StoresItsOwnValueOverTheOneThatAnotherProcessHasJustStored)
     EXPECT_EQ(Now(), "[s]\nk=new\n");
 }
 
-// The second process knows the first exchange, but not the file that it has displaced.
+// The second process has seen the file that the first exchange put in place, but not the one that it displaced.
 TEST_F(AnExchange, KeepsTheChangesOfSeveralProcesses)
 {
     WriteFile(m_path, "[s]\na=1\nb=1\nk=old\n");
@@ -110,7 +110,7 @@ TEST_F(AnExchange, KeepsTheChangesOfSeveralProcesses)
     EXPECT_EQ(now.Get(L"s", L"k"), L"new");
 }
 
-// The last value counts: its process has seen the merged one.
+// The last value counts. The process that wrote it has seen the file that the first exchange put in place.
 TEST_F(AnExchange, KeepsTheNewerOfTwoValuesOfOthers)
 {
     WriteFile(m_path, "[s]\na=1\nk=old\n");

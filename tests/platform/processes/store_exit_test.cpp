@@ -13,7 +13,8 @@
 
 namespace {
 
-// Made before the store is first used, and so destroyed after the objects that the store makes then.
+// An object that is constructed before the store is first used. Therefore it is destroyed after the objects that the
+// store constructs at its first use.
 struct Host
 {
     ~Host()

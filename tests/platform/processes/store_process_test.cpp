@@ -70,7 +70,7 @@ TEST(SixProcesses, KeepAllOfTheirTwoHundredAndFortyUpdates)
     EXPECT_EQ(NamesIn(data.Path()), (std::vector<std::string>{"settings.ini", "settings.ini.lock"}));
 }
 
-// Processes in different containers may have the same process number: here both are number 1.
+// Runs @a work as process number 1 of a new container. Processes in different containers may have the same number.
 void InOwnContainer(const std::function<void()>& work)
 {
     ASSERT_TRUE(unshare(CLONE_NEWPID) == 0 || unshare(CLONE_NEWUSER | CLONE_NEWPID) == 0);
@@ -216,7 +216,7 @@ protected:
             found == UpdateText(m_progress->begun) ? +m_progress->begun : +m_progress->done;
     }
 
-    // A save removes the temporary files of killed writers when they are a minute old.
+    // Expects a save to remove the temporary files of killed writers. It removes those that are at least a minute old.
     void ExpectLeftoversToGo(const std::vector<std::string>& expected)
     {
         for (const std::string& name : NamesIn(m_data.Path())) {
@@ -242,7 +242,7 @@ TEST_F(AKilledWriter, LeavesTheOldOrTheNewValueAndAllOthersInTheDefaultStore)
         KillOnce(
             round, [](const std::wstring& text) { CLocalRegStore::WriteString(L"Kill", L"update", text.c_str()); },
             m_data / "settings.ini");
-        // The next reader sees the value too, and no lock delays it: a lock never outlives its holder.
+        // The next reader sees the value, too. No lock delays the reader, because a lock never outlives its holder.
         const auto start = Clock::now();
         ASSERT_EQ(Stored(L"Kill", L"update"), UpdateText(m_progress->done));
         ASSERT_LT(Clock::now() - start, std::chrono::milliseconds(1500));

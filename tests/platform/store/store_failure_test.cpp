@@ -48,7 +48,7 @@ bool SaveKey(const std::string& path, const wchar_t* value)
 const std::string kOld = "# mine\n[s]\nk=old\nother=1\n";
 const std::string kNew = "# mine\n[s]\nk=new\nother=1\n";
 
-// Whichever way a value is written, the old file stays and no other file is left behind.
+// Expects that every way of writing a value fails, keeps the old files, and leaves no other file behind.
 void ExpectWritesToFail(const std::string& folder)
 {
     const std::string big(1 << 20, 'x');

@@ -1,6 +1,6 @@
-// Every call on a file that the store makes fails in turn, with each of several errors, once and from then on.
-// In each case the old or the new value is stored, and the result says which. All other values are kept. The store
-// works again as soon as the system does.
+// Every call on a file that the store makes fails in turn, with each of several errors, alone or together with all
+// later calls. In each case the old or the new value is stored, and the result says which. All other values are kept.
+// The store works again as soon as the system does.
 
 #include <cerrno>
 #include <functional>

@@ -106,7 +106,8 @@ const Triple kTriples[] = {
      "[s]\na key of some length that is longer than any short buffer would be, by far=v\n"},
 };
 
-// Changes with every save: a new file is made while the old one is still there.
+// Returns the number of the file's inode. It changes with every save, because the new file is made while the old one
+// still exists.
 ino_t NodeOf(const std::string& path)
 {
     struct stat info = {};
@@ -253,7 +254,7 @@ INSTANTIATE_TEST_SUITE_P(, NarrowText,
                                          NarrowCase{"AllOnes", "\xFE\xFF", L"\xDCFE\xDCFF"}),
                          [](const auto& info) { return info.param.name; });
 
-// UTF-8 has no bytes for these: narrow text gets the nearest encoding, and the wide text stays the same.
+// UTF-8 cannot encode these characters. Narrow text gets the nearest encoding, and the wide text stays the same.
 TEST(WideText, ThatIsNoUnicodeIsReadableAsNarrowText)
 {
     TempUserData data;

@@ -14,8 +14,8 @@
 class ChildProcess
 {
 public:
-    /// Starts it in this process's environment with the changes in @a environment; an entry without a value removes the
-    /// variable. Its standard error goes where this process's goes, or into the file @a errors.
+    /// Starts the program in this process's environment with the changes in @a environment; an entry without a value
+    /// removes the variable. The program's standard error goes where this process's goes, or into the file @a errors.
     explicit ChildProcess(const std::vector<std::string>& command,
                           const std::map<std::string, std::optional<std::string>>& environment = {},
                           const std::string& errors = {});
@@ -27,16 +27,16 @@ public:
 
     void Send(int signal);
 
-    /// Waits for its end; returns false when it still runs after @a milliseconds.
+    /// Waits for the program to end; returns false when it still runs after @a milliseconds.
     bool WaitForEnd(int milliseconds = 60000);
 
-    /// The exit code once it has ended; minus the signal's number when a signal ended it.
+    /// Returns the exit code of the program that has ended; minus the signal's number when a signal ended it.
     int ExitCode() const { return m_exitCode; }
 
-    /// The output so far.
+    /// Returns the output so far.
     std::string Output() const { return ReadFile(m_folder / "output"); }
 
-    /// LinesOf() the output so far.
+    /// Returns the complete lines of the output so far, as LinesOf() does.
     std::vector<std::string> Lines(const std::string& start = {}) const;
 
 private:
@@ -47,7 +47,7 @@ private:
 };
 
 /// Returns each line of @a text that begins with @a start, without that start. Leaves out a last line without a line
-/// end: it may still be being written.
+/// end, because the program may still be writing that line.
 std::vector<std::string> LinesOf(const std::string& text, const std::string& start = {});
 
 /// Runs a program to its end and returns its output; fails the test if the program fails or takes too long.

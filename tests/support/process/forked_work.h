@@ -9,11 +9,11 @@
 /// Starts a child process that runs @a work and ends. The parent goes on; WaitForSuccess() waits for the child.
 pid_t StartChild(const std::function<void()>& work);
 
-/// True when the child ended by itself and none of its expectations failed.
+/// Waits for the child to end. Returns whether it ended by itself and none of its expectations failed.
 bool WaitForSuccess(pid_t child);
 
-/// Runs @a work, with its expectations, in a child process, and waits for it. Its changes of the process end with the
-/// child.
+/// Runs @a work in a child process, waits for it, and fails the test if an expectation in it fails. Changes that @a
+/// work makes to its process do not affect the calling process.
 void InChild(const std::function<void()>& work);
 
 #endif
