@@ -143,8 +143,12 @@ protected:
         PumpPending();
         mouse.MouseDown();
         PumpPending();
-        mouse.MouseMove(grip + wxPoint(20, 2));
-        EXPECT_TRUE(PumpUntil([&] { return begun; }));
+        int step = 0;
+        EXPECT_TRUE(PumpUntil([&] {
+            if (!begun)
+                mouse.MouseMove(grip + wxPoint(20 + ++step % 8, 2));
+            return begun;
+        }));
         if (moves)
             RunChild({"xdotool", "keydown", "Shift_L"});
         mouse.MouseMove(to - wxPoint(2, 0));
@@ -171,7 +175,8 @@ protected:
         screen.first->SelectAll();
         ASSERT_TRUE(PumpUntil([&] { return screen.first->HasFocus() && screen.first->GetStringSelection() == text; }));
         PumpPending();
-        const wxPoint grip = screen.first->ClientToScreen(wxPoint(14, screen.first->GetSize().y / 2));
+        // Two presses at one place count as a double click, which drags nothing.
+        const wxPoint grip = screen.first->ClientToScreen(wxPoint(moves ? 26 : 14, screen.first->GetSize().y / 2));
         Drag(*screen.first, grip, MiddleOf(*screen.number), moves);
     }
 
