@@ -22,7 +22,7 @@ NumberShape ShapeOf(const CNumberFormat& format, wchar_t localePoint)
     return shape;
 }
 
-// A NaN as a bound refuses no number, and no bound refuses NaN.
+// Returns whether the bounds accept the value. A bound that is NaN refuses no number, and no bound refuses NaN.
 bool IsWithinBounds(double value, const CNumberFormat& format)
 {
     const bool isTooSmall = format.m_bHasMin && value < format.m_dMin;

@@ -17,7 +17,7 @@ struct NumberInput
     /// Makes the format and the text from the bytes, and sets the locale that the bytes name.
     NumberInput(const std::uint8_t* data, std::size_t size);
 
-    /// The text up to its first null character.
+    /// Returns the text up to its first null character.
     std::wstring Typed() const { return text.substr(0, text.find(L'\0')); }
 
     CNumberFormat format;

@@ -1,5 +1,5 @@
 // The combo on Wayland, where no program can copy the screen, place its windows or draw between paint events. The
-// compositor runs in a window of the X display and gets its input from there.
+// compositor runs in a window of the X display and gets its input from that display.
 
 #include <algorithm>
 #include <chrono>

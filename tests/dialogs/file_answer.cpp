@@ -67,7 +67,7 @@ wxFileDialog::wxFileDialog(wxWindow* parent, const wxString& title, const wxStri
     g_made.push_back(made);
 }
 
-// Replaces the toolkit's function, and calls it. The toolkit also calls it while it makes a dialog.
+// Replaces the toolkit's function, and calls it. The toolkit itself calls SetFilterIndex() while it makes a dialog.
 void wxFileDialog::SetFilterIndex(int index)
 {
     if (!g_made.empty()) {

@@ -26,7 +26,7 @@ void JumpingClock::Jump(long secondsAhead)
     g_ahead = secondsAhead;
 }
 
-// These replace the C library's functions for the whole process.
+// The functions below replace the C library's functions in the whole process.
 
 extern "C" int clock_gettime(clockid_t clock, timespec* now) noexcept
 {

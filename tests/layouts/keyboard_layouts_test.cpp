@@ -18,7 +18,7 @@
 
 namespace {
 
-/// A key by its number, with a modifier: "shift+61".
+/// The number of a key, with a modifier if it needs one, as in "shift+61".
 using Key = std::string;
 
 struct Keyboard

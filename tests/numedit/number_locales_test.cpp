@@ -239,7 +239,7 @@ TEST(CurrentConversion, MayMakeSeveralCharactersOfThePoint)
     EXPECT_EQ(Shown(L"1234\u00d95", fixed), L"1,234");
     EXPECT_FALSE(Valid(L"1.5", fixed));
     EXPECT_TRUE(Valid(L"1\u00d95", fixed));
-    // This also holds for a format whose point is that first character.
+    // The point of this format is that first character.
     EXPECT_FALSE(Valid(L"1\u00d95", Amount()));
     EXPECT_EQ(Shown(L"1\u00d9\u00ab5", Amount()), L"1\u00d950");
 }

@@ -55,7 +55,7 @@ SampleInUse::SampleInUse(const std::string& sample, const std::string& title, co
                  {"XDG_CACHE_HOME", person.data.Path()}},
                 m_folder / "errors")
 {
-    // xdotool also fails if it finds nothing.
+    // xdotool fails when it finds nothing, so its exit code does not count.
     const std::vector<std::string> search = {"xdotool", "search", "--onlyvisible", "--name", "^" + title + "$"};
     const bool isOver = Becomes([&] {
         ChildProcess found(search, {}, m_folder / "search-errors");

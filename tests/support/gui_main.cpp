@@ -62,7 +62,7 @@ public:
         return RUN_ALL_TESTS();
     }
 
-    /// The layout direction of windows that set none.
+    /// Returns the layout direction of windows that set none.
     wxLayoutDirection GetLayoutDirection() const override
     {
         return IsRightToLeft() ? wxLayout_RightToLeft : wxApp::GetLayoutDirection();

@@ -13,7 +13,7 @@
 
 namespace {
 
-// A worker whose mutexes can be held by a test. Its own thread is not used: any thread may post.
+// A worker whose mutexes can be held by a test. The worker's own thread is not used, because any thread may post.
 class Open : public Working<wxGUIThread>
 {
 public:

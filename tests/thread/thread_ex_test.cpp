@@ -94,7 +94,8 @@ TEST(Wait, IsRefusedBeforeRun)
     EXPECT_EQ(constructed.Wait(), Code(42));
 }
 
-// A program may end right after Wait(), so nothing may be left to do on the thread.
+// Expects that Wait() returns only after @a over is set. A program may end right after Wait(), so nothing may be left
+// to do on the thread.
 void ExpectWaitBlocksUntil(Signal& over, Thread::Work work)
 {
     Thread thread(std::move(work), wxTHREAD_JOINABLE);

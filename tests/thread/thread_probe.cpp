@@ -23,7 +23,7 @@ std::atomic<long> g_allocations{0};
 
 }  // namespace
 
-// The toolkit uses these operators too.
+// Counts the allocations that exist. The toolkit uses these operators, too.
 void* operator new(size_t size)
 {
     void* memory = std::malloc(size > 0 ? size : 1);
@@ -60,7 +60,7 @@ long Number(wxThread::ExitCode code)
     return static_cast<long>(reinterpret_cast<std::intptr_t>(code));
 }
 
-// The limit on processes does not apply to root.
+// Keeps this process from starting threads. The limit does not apply to root, so root changes to another user.
 bool LeaveNoRoomForThreads()
 {
     const rlimit none{0, 0};
@@ -200,7 +200,7 @@ public:
     }
 };
 
-// The thread must have left the toolkit by the time that the toolkit is shut down.
+// Ends right after Wait(). The thread must have left the toolkit before the toolkit is shut down.
 void EndAtOnce()
 {
     Thread thread([](Thread&) { return Code(42); }, wxTHREAD_JOINABLE);

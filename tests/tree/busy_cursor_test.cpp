@@ -18,8 +18,8 @@
 
 namespace {
 
-// The name of the cursor under the pointer. Uses the program's own connection, so that the answer comes after the
-// effects of all earlier requests.
+// Returns the name of the cursor under the pointer. Uses the program's own connection, so that the answer comes after
+// the effects of all earlier requests.
 std::string CursorOnDisplay()
 {
     Display* display = gdk_x11_get_default_xdisplay();

@@ -78,7 +78,7 @@ TEST_F(Cursor, GivesTheLabel)
     EXPECT_EQ(root.AppendItem("").GetText(), L"");
 }
 
-// The images of an item: normal, selected, expanded, and both.
+// Returns the images of an item: normal, selected, expanded, and both.
 std::array<int, 4> ImagesOf(const wxTreeCursor& item)
 {
     return {item.GetImage(wxTreeItemIcon_Normal), item.GetImage(wxTreeItemIcon_Selected),

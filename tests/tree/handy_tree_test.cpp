@@ -114,7 +114,7 @@ TEST(HandyTree, KeepsMasksInItsImageList)
     EXPECT_NE(screen.tree->GetImageList()->GetBitmap(0).GetMask(), nullptr);
 }
 
-// A bitmap that an image list shares: its reference count tells whether the list still exists.
+// Returns a bitmap that the image list shares. The bitmap's reference count tells whether the list still exists.
 wxBitmap Held(wxImageList& list)
 {
     wxBitmap bitmap(16, 16, 24);

@@ -144,7 +144,7 @@ TEST_F(LoadStateMeanwhile, GoesOnBehindAnItemThatDeletesItself)
     EXPECT_EQ(tree.askedOfTheDead, 0);
 }
 
-// The new item often gets the address of the old one.
+// An item that is made in place of a deleted one often gets the same address.
 TEST_F(LoadStateMeanwhile, GoesOnBehindAnItemThatIsMadeAnew)
 {
     when[L"A"] = [&] {

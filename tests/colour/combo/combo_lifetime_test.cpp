@@ -264,7 +264,7 @@ TEST(ColourListenerInItsCalls, MayCloseThePopup)
     EXPECT_EQ(control.listener.Take(), (ColourCalls{"popup", "cancel #FF0000"}));
 }
 
-// Here the listener closes the popup. The combo must still lose the name of the hot cell.
+// A listener may close the popup on "cancel". The combo must show its own value again, not the name of the hot cell.
 TEST(ColourListenerInItsCalls, MayCloseThePopupOfACancelledSelection)
 {
     Control control;

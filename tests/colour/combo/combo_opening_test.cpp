@@ -128,7 +128,8 @@ TEST_P(ColourComboOpening, IsDismissedByAClickOnAButton)
 TEST_P(ColourComboOpening, IsDismissedByAClickInItsTextFieldWhichKeepsTheFocus)
 {
     if (GetParam() == wxCB_READONLY) {
-        // The face is the control itself. The first click opens the popup, and a second one has no effect.
+        // In a read-only combo, the face is the control itself. A click on the face has no effect while the popup
+        // opens.
         Click(combo.ClientToScreen(wxPoint(20, combo.GetClientSize().y / 2)));
         PumpPending();
         EXPECT_TRUE(combo.m_animTimer.IsRunning());

@@ -206,7 +206,7 @@ void DrawByToolkit(const char* name, wxGCDCImpl* dc, Arguments... arguments)
 
 }  // namespace
 
-// These replace the toolkit's functions.
+// The functions below replace the toolkit's functions.
 
 void wxGCDCImpl::DoDrawRectangle(int x, int y, int width, int height)
 {

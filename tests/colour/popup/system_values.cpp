@@ -30,7 +30,7 @@ PinnedEdge::~PinnedEdge()
     g_edge.reset();
 }
 
-// These replace the toolkit's functions.
+// The functions below replace the toolkit's functions.
 
 wxColour wxSystemSettingsNative::GetColour(wxSystemColour index)
 {

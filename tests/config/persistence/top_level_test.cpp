@@ -59,7 +59,7 @@ bool SettlesMaximized(const wxTopLevelWindow& window)
     return PumpUntil([&] { return window.IsMaximized() && window.GetSize() == wxSize(1264, 960); });
 }
 
-/// One run of a program: the frame is shown, changed and closed.
+/// Shows, changes and closes the frame, as one run of a program does.
 template <typename Change>
 void InOneRun(bool isRestored, Change change)
 {

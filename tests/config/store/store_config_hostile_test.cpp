@@ -1,4 +1,4 @@
-// Odd names, odd values and damaged files.
+// Unusual names, unusual values and damaged files.
 
 #include <fittings/config/store_config.h>
 

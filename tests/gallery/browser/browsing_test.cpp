@@ -86,7 +86,7 @@ TEST_F(Browsing, AClickOnAHeaderSortsAndASecondReverses)
     EXPECT_TRUE(PumpUntil([&] { return List().GetColumn(0)->IsSortKey() && !List().GetColumn(1)->IsSortKey(); }));
 }
 
-// The toolkit also keeps the sort order: the rows of a new folder must not reset it.
+// The toolkit's list stores the sort order, too. The rows of a new folder must not reset that order.
 TEST_F(Browsing, TheOrderStaysInAnotherFolder)
 {
     Click(CentreOf(HeaderRect(List(), SortColumn::Name)));

@@ -45,7 +45,7 @@ protected:
     }
     const Entry& EntryNamed(const std::string& name) { return List().GetEntry(RowOf(name)); }
 
-    /// A folder large enough that adding it up takes a while.
+    /// Makes a folder that is so large that adding it up takes a while, and returns its path.
     std::string MakeLargeFolder()
     {
         for (int i = 0; i < 40; ++i) {

@@ -54,7 +54,7 @@ INSTANTIATE_TEST_SUITE_P(, Beginning,
                                          Case{"1000", "1999", 0, L"1", true}, Case{"1000", "1999", 0, L"2", false},
                                          Case{"1000", "1999", 0, L"", true}));
 
-// A double cannot represent 0.3 exactly.
+// A double cannot represent a bound such as 0.3 exactly.
 TEST(ABoundOfAFormat, IsTheDecimalNumberThatItsDoubleIsWrittenAs)
 {
     CNumberFormat format(eFixedFormat);

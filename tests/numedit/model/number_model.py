@@ -194,7 +194,7 @@ def format_control_text(text, number_format, locale):
             integer, fraction = _round_half_up(integer, typed_fraction, decimals)
     shows_point = has_point and not (number_format.round_decimals and decimals == 0)
 
-    # Padding counts the typed fraction. It applies only if the number ends there.
+    # Padding adds zeros to the typed decimals. It applies only if no text follows the decimals.
     if number_format.pad_decimals and decimals and not rest:
         missing = decimals - len(typed_fraction) if has_point else decimals
         fraction += "0" * min(missing, MOST_PADDING)

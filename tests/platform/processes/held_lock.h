@@ -8,8 +8,8 @@
 
 #include <gtest/gtest.h>
 
-/// The first byte of the lock file is the lock. The second byte is the queue: the process that holds it gets the lock
-/// next.
+/// Describes some bytes of the lock file for fcntl(). The first byte is the lock. The second byte is the queue: the
+/// process that holds it gets the lock next.
 inline struct flock BytesOfLock(off_t begin, off_t count)
 {
     struct flock lock = {};

@@ -51,7 +51,7 @@ void SlowDisk(milliseconds perSync)
     g_watchedCalls.beforeSync = [perSync] { std::this_thread::sleep_for(perSync); };
 }
 
-// One of several processes: stores an increasing counter, and a new key each time.
+// Works as one of several processes: stores an increasing counter, and a new key each time.
 void StoreCounterAndKeys(int process, int updates)
 {
     for (int update = 0; update < updates; ++update) {

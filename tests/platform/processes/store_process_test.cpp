@@ -159,7 +159,7 @@ private:
     Progress* m_progress;
 };
 
-// A text with the number of the update; its length changes with the number.
+// Returns a text with the number of the update. The length of the text changes with the number.
 std::wstring UpdateText(int update)
 {
     return std::to_wstring(update) + std::wstring(static_cast<std::size_t>(update % 7) * 100, L'.');
@@ -216,7 +216,8 @@ protected:
             found == UpdateText(m_progress->begun) ? +m_progress->begun : +m_progress->done;
     }
 
-    // Expects a save to remove the temporary files of killed writers. It removes those that are at least a minute old.
+    // Expects a save to remove the temporary files of killed writers. A save removes such files that are at least a
+    // minute old.
     void ExpectLeftoversToGo(const std::vector<std::string>& expected)
     {
         for (const std::string& name : NamesIn(m_data.Path())) {

@@ -8,7 +8,7 @@
 
 WatchedCalls g_watchedCalls;
 
-// These replace the C library's functions in the whole process.
+// The functions below replace the C library's functions in the whole process.
 
 extern "C" int fsync(int fd)
 {

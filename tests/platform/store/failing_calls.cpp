@@ -51,7 +51,7 @@ const std::string& FailingCalls::Failed()
     return g_failed;
 }
 
-// These replace the C library's functions in the whole process.
+// The functions below replace the C library's functions in the whole process.
 
 #define TAKE_PLACE(result, name, parameters, arguments)                                                                \
     extern "C" result name parameters                                                                                  \

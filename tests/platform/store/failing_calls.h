@@ -20,7 +20,7 @@ public:
     FailingCalls(const FailingCalls&) = delete;
     FailingCalls& operator=(const FailingCalls&) = delete;
 
-    /// The name of the first call that failed; empty when there were fewer calls.
+    /// Returns the name of the first call that failed; empty when there were fewer calls.
     static const std::string& Failed();
 };
 

@@ -22,7 +22,7 @@ std::vector<std::string>* g_calls = nullptr;
 
 }  // namespace
 
-// These replace the C library's functions in the whole process.
+// The functions below replace the C library's functions in the whole process.
 
 extern "C" int fsync(int fd)
 {

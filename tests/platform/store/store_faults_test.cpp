@@ -56,8 +56,8 @@ bool Under(const Fault& fault, const std::function<bool()>& work)
     return work();
 }
 
-// The folder may only have the earlier files, the store's lock, and files that could not be removed. A later save
-// removes the latter.
+// Expects the folder to contain only the file, its lock, and at most one temporary file that could not be removed. A
+// later save removes that file.
 void ExpectNoStrangers(const TempFolder& folder, const std::string& file)
 {
     int leftovers = 0;

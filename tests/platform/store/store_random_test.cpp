@@ -120,11 +120,11 @@ TEST(ThousandsOfDirtyFiles, KeepWhatTheyHold)
 
         Ini before;
         if (!before.Load(folder / "a.ini")) {
-            // The zeros have overwritten the only section line.
+            // The null characters have overwritten the only section line.
             ASSERT_NE(bytes.find('\0'), std::string::npos) << "file " << file << ":\n" << bytes;
             continue;
         }
-        // A file with the same bytes already is not written, which saves the wait for the disk.
+        // A file that already has these bytes is not written, which saves the wait for the disk.
         WriteFile(folder / "b.ini", bytes);
         ASSERT_TRUE(before.Save(folder / "b.ini"));
         ASSERT_EQ(ReadFile(folder / "b.ini"), bytes) << "file " << file;

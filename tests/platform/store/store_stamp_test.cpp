@@ -31,7 +31,7 @@ int Status(int folder, const char* path, struct stat* info, int flags)
 
 }  // namespace
 
-// These replace the C library's functions in the whole process.
+// The functions below replace the C library's functions in the whole process.
 
 extern "C" int stat(const char* path, struct stat* info) noexcept
 {

@@ -8,7 +8,8 @@
 
 namespace {
 
-// A user who is not root may mount as the root of a user namespace, if the system allows that.
+// Enters a new mount namespace. A user who is not root may mount as the root of a user namespace, if the system allows
+// that.
 bool EnterMountNamespace()
 {
     if (unshare(CLONE_NEWNS) == 0)
