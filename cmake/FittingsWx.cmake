@@ -1,6 +1,6 @@
 # The toolkit as imported targets: fittings::wx and, with its resources, fittings::wx-xrc. CMake's own finder gives only
-# variables. A target exists only if its components are found. The build uses this file, and so does the installed
-# fittings-config.cmake.
+# variables. A target exists only if the components of the toolkit are found. The build uses this file, and so does the
+# installed fittings-config.cmake.
 
 # fittings_import_wx(target component...)
 # This is a function and not a macro, so that the wxWidgets_... variables of a host that found other components do not

@@ -42,10 +42,10 @@ class OutlineWindow;
 /// place to its full size. The constructor with a colour and Create() with a colour make the popup, a wxColourPopup. To
 /// use another popup, make the control without a colour and call SetPopupControl().
 ///
-/// The face shows the colour in effect. Tab moves the focus to the control; F4 and Alt+Down open it. This works with
-/// wxCB_READONLY too, where the toolkit's own combo control refuses the focus. While the control is closed, has the
-/// focus and is read-only, Up and Down choose the previous and the next colour, and so does the mouse wheel. The order
-/// is "Automatic", then the grid row by row.
+/// The face shows the colour in effect. Tab moves the focus to the control; F4 and Alt+Down open the popup. These keys
+/// work with wxCB_READONLY too, although the toolkit's own combo control then refuses the focus. While the control is
+/// closed, has the focus and is read-only, Up and Down choose the previous and the next colour. The mouse wheel does
+/// the same. The order is "Automatic", then the grid row by row.
 ///
 /// The events are those of wxColourPickerCtrl, with the control's id. The popup's listener is called before each event
 /// is sent:
@@ -65,10 +65,10 @@ class OutlineWindow;
 /// wxComboCtrl::EnablePopupAnimation() turns the animation off.
 ///
 /// wxEVT_COMBOBOX_DROPDOWN is sent when the popup opens. wxEVT_COMBOBOX_CLOSEUP is sent when the popup is dismissed
-/// from outside. It is not sent when the popup closes itself because a colour was chosen or the selection was
-/// cancelled; the popup's listener is told of every end. The value of the control is the name of a colour. As in the
-/// toolkit, wxEVT_TEXT is sent only by a control with a text field. If the button or Dismiss() closes the popup while a
-/// cell is hot, the field sends wxEVT_TEXT twice: with the name of that cell, and then with its old text.
+/// from outside, but not when the popup closes itself because a colour was chosen or the selection was cancelled. The
+/// popup's listener is told of every end. The value of the control is the name of a colour. As in the toolkit,
+/// wxEVT_TEXT is sent only by a control with a text field. If the button or Dismiss() closes the popup while a cell is
+/// hot, the field sends wxEVT_TEXT twice: with the name of that cell, and then with its old text.
 ///
 /// The toolkit's class information does not distinguish this class from wxComboCtrl, nor wxColourPopup from wxWindow:
 /// wxDynamicCast() to either of them would succeed for other objects too. Use dynamic_cast.

@@ -104,7 +104,7 @@ public:
     /// Sets the text of the lower box. With an empty text there is no such box.
     void SetMoreColoursText(const wxString& text);
 
-    /// Sets the listener, which is not owned. It must outlive the popup or be replaced by null.
+    /// Sets the listener, which is not owned. The listener must outlive the popup or be replaced by null.
     void SetColorListener(wxColorPopupListener* listener) { m_pListener = listener; }
 
     /// Sets the parent of the dialog of "More Colours...". The dialog is centred on its parent, which is not owned.
@@ -234,8 +234,9 @@ public:
 
     /// Makes the cell under the pointer hot. If there is none, the hot cell does not change.
     ///
-    /// The areas differ from the drawn ones. Those of the boxes lie one margin lower and further right. The palette
-    /// below an "Automatic" box lies one margin higher, so the lowest pixels of a cell belong to the cell below.
+    /// The areas that react to the pointer differ from the drawn ones. The areas of the boxes lie one margin lower and
+    /// further right. The palette below an "Automatic" box lies one margin higher, so the lowest pixels of a cell
+    /// belong to the cell below.
     void OnMouseMove(wxMouseEvent& event);
 
     /// Ends the selection. Anywhere within the popup, even between the cells, the colour of the hot cell is chosen.

@@ -25,7 +25,7 @@ class wxColour;
 class FITTINGS_API wxColourValidator : public wxValidator
 {
 public:
-    /// @a colour is not owned and must outlive the validator and each control that it was set on. If it is null,
+    /// @a colour is not owned and must outlive the validator and each control that it was set on. If @a colour is null,
     /// nothing is transferred.
     explicit wxColourValidator(wxColour* colour);
 

@@ -37,7 +37,7 @@ void Delete(gpointer data)
     const std::unique_ptr<T> owned(static_cast<T*>(data));
 }
 
-// For the toolkit the window is shown as soon as Show() is called; for GTK it is hidden until it is mapped.
+// Shows the widget of a window on which Show() was called. For the toolkit, such a window is shown already.
 gboolean ShowNow(gpointer data)
 {
     const Window& window = *static_cast<Window*>(data);

@@ -35,8 +35,8 @@ class AncestorWatch;
 /// @endcode
 ///
 /// Register a window when it has all its children, items and columns, and before it is shown.
-/// wxPersistentRegisterAndRestoreAll() registers it with everything in it, wxPersistentRegisterAndRestore() registers
-/// it alone.
+/// wxPersistentRegisterAndRestoreAll() registers the window with everything in it. wxPersistentRegisterAndRestore()
+/// registers the window alone.
 ///
 /// A frame or dialog is restored as by wx_window_state::LoadState(): in its place, on a display that still exists, and
 /// within its work area. A window that was maximised is maximised again. When the user restores it, it gets the place
@@ -78,7 +78,7 @@ public:
     /// @}
 
 protected:
-    /// Returns the configuration on the default store. It does not expand environment variables.
+    /// Returns the configuration on the default store. The configuration does not expand environment variables.
     wxConfigBase* GetConfig() const override;
 
 private:
@@ -94,11 +94,11 @@ private:
 
 /// Remembers which items of a tree are expanded, which are selected, and which is the first in view.
 ///
-/// An item is identified by the labels on the path to it, which may be any text. Siblings with the same label are told
-/// apart by their number. The label of the root does not matter. Restoring expands parents first, so that items that
-/// are filled when they expand are filled on the way. It collapses no item, and does not fill items that were
-/// collapsed. Selecting sends the toolkit's events, as if the user had selected the item. Items that no longer exist
-/// are left out.
+/// An item is identified by the labels on the path to it. A label may be any text. Siblings with the same label are
+/// told apart by their number. The label of the root does not matter. Restoring expands parents first, so that items
+/// that are filled when they expand are filled on the way. Restoring collapses no item, and does not fill items that
+/// were collapsed. Selecting sends the toolkit's events, as if the user had selected the item. Items that no longer
+/// exist are left out.
 ///
 /// Levels beyond 10,000 are not remembered: the toolkit cannot handle expanded trees that are much deeper.
 class FITTINGS_API wxPersistentTreeCtrl : public wxPersistentWindow<wxTreeCtrl>

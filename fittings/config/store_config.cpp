@@ -45,7 +45,7 @@ wxString VendorOfApp()
     return wxAppConsole::GetInstance() ? wxAppConsole::GetInstance()->GetVendorName() : wxString();
 }
 
-// The store's texts have no null characters.
+// Whether a text can be stored. The store's texts have no null characters.
 bool CanBeStored(std::wstring_view text)
 {
     return text.find(L'\0') == std::wstring_view::npos;

@@ -103,8 +103,8 @@ public:
     /// for the next call.
     ///
     /// While the thread has a CLocalRegStore::Batch, the changes of the default store pass to the batch, and the result
-    /// is true. This object then keeps them no longer. The batch saves them at its end at the latest; if that fails,
-    /// they are lost. Call CLocalRegStore::Batch::Save() to learn whether they are stored.
+    /// is true. This object then no longer keeps the changes. The batch saves them when it ends, at the latest. If that
+    /// fails, the changes are lost. Call CLocalRegStore::Batch::Save() to learn whether they are stored.
     bool Flush(bool currentOnly = false) override;
 
 protected:

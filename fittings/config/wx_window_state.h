@@ -40,10 +40,10 @@ FITTINGS_API void SaveState(wxFrame* frame, const wchar_t* name);
 
 /// Gives a window its stored geometry and moves it onto a display.
 ///
-/// If the stored width or height is 10 or less, the window keeps its own geometry. A window off every display moves to
-/// (0, 0). A window that extends beyond its display's work area is clipped to it. A window that is wholly outside that
-/// area, for example under a panel, moves into it. Numbers that do not fit the 16 bits of an X coordinate are limited
-/// to the nearest that do.
+/// If the stored width or height is 10 or less, the window keeps its own geometry. A window that is on no display moves
+/// to (0, 0). A window that extends beyond its display's work area is clipped to the area. A window that is wholly
+/// outside the area, for example under a panel, moves into the area. Numbers that do not fit the 16 bits of an X
+/// coordinate are limited to the nearest that do.
 ///
 /// A hidden window appears in its place when it is shown. This includes the first window of a process, under any window
 /// manager that lets programs place their windows. The host only needs to call wxWindow::Show().
@@ -51,7 +51,7 @@ FITTINGS_API void SaveState(wxFrame* frame, const wchar_t* name);
 /// Meant for top-level windows: a child's position in its parent is compared with the work area as it is.
 ///
 /// Returns false and changes nothing when no geometry is stored or the stored one is not four integers. Also returns
-/// false for a window that is on no display even at (0, 0), where it stays.
+/// false for a window that is on no display at (0, 0) either, and leaves it there.
 FITTINGS_API bool LoadState(wxWindow* window, const wchar_t* name);
 
 /// Does the same as for any window. A frame that was stored as maximised is then maximised by MaximizeFrame().

@@ -28,7 +28,7 @@ wxString EffectiveWildcard(const wxString& wildcard, const wxString& extension)
     return fittings::kWildcardPrefix + extension;
 }
 
-// The first filter of the wildcard whose pattern contains the extension; 0 when there is none.
+// Returns the index of the first filter of the wildcard whose pattern contains the extension; 0 when there is none.
 int FilterIndexOf(const wxString& wildcard, const wxString& extension)
 {
     if (extension.empty() || !wildcard.Contains("|"))

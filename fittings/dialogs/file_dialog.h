@@ -9,8 +9,8 @@
 
 class wxWindow;
 
-/// Asks the user where to save a file, in a modal dialog centred on its parent. It proposes the file that was chosen
-/// last in the same context. GUI thread only.
+/// Asks the user where to save a file, in a modal dialog centred on its parent. The dialog proposes the file that was
+/// chosen last in the same context. GUI thread only.
 ///
 /// The context is the registry entry, a name that the host chooses and sets around the call:
 ///
@@ -46,7 +46,7 @@ public:
     static std::string SetRegEntry(const std::string& entry);
 
     /// Shows the dialog and returns the full path of the chosen file, or an empty text when the user cancelled. The
-    /// dialog asks before it returns an existing file. It neither makes a file nor changes one.
+    /// dialog asks before it returns an existing file. No file is made or changed.
     ///
     /// @param parent  may be null.
     /// @param defaultExtension  without the dot. The first pattern in @a wildcard that contains this text, in the same

@@ -57,7 +57,7 @@ std::optional<std::string> TextOf(const wxString* value)
 }
 /// @}
 
-/// Checks whether a number fits a variable, and stores it there on request.
+/// Checks whether a number fits a variable. On request, stores the number in the variable.
 /// @{
 bool Take(const std::string&, std::monostate, bool)
 {

@@ -21,8 +21,7 @@ class wxTextEntry;
 /// @endcode
 ///
 /// On a wxNumberCtrl, the validator uses the control's format and bounds. On any other wxTextEntry, such as a
-/// wxComboBox, the validator uses its own format. It then also reads groups and the template, and does not check
-/// typing.
+/// wxComboBox, the validator uses its own format, reads groups and the template too, and does not check typing.
 ///
 /// An empty field has no number. A validator for a wxString accepts an empty field and transfers it as the empty text.
 /// A validator without a variable accepts an empty field too. A validator for a `double` or an integer refuses an empty

@@ -83,7 +83,7 @@ public:
     /// Unlike Validate(), checks a disabled control too. With a null value, does nothing and returns true.
     bool TransferFromWindow() override;
 
-    /// Refuses a character if the text would no longer be a number or the beginning of one. It rings the bell unless
+    /// Refuses a character if the text would no longer be a number or the beginning of one. Then rings the bell, unless
     /// wxValidator::IsSilent(), and restores the selection that the control has deleted for the character. Bound to
     /// wxEVT_CHAR.
     ///

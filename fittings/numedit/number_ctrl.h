@@ -17,8 +17,8 @@
 /// A text field for one number: wxNumberCtrl and its event.
 
 /// A wxNumberCtrl sends this after wxEVT_TEXT when its number has changed, or when the field has got or lost a number.
-/// GetString() is wxNumberCtrl::GetDecimal(). It is not sent if only the text has changed: 1.5 and 1.50 are the same
-/// number.
+/// GetString() is wxNumberCtrl::GetDecimal(). The event is not sent if only the text has changed: 1.5 and 1.50 are the
+/// same number.
 extern const FITTINGS_API wxEventTypeTag<wxCommandEvent> wxEVT_NUMBER_CHANGED;
 
 /// The default name of a wxNumberCtrl.

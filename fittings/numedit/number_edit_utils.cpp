@@ -281,7 +281,7 @@ void ShownNumber::KeepExponentAlone()
     m_text.erase(m_end, m_read - m_end);
 }
 
-// Inserts the minus sign. It belongs to the mantissa: a trailing one stands before the exponent.
+// Inserts the minus sign. The sign belongs to the mantissa: a trailing sign stands before the exponent.
 void ShownNumber::PutMinus()
 {
     if (m_format.m_bTrailingMinus)

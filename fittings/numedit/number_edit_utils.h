@@ -40,10 +40,10 @@ public:
 
     /// Whether @a text is a number that the format accepts.
     ///
-    /// It accepts a sign, digits, a point and digits, and then an exponent, each if the format allows it. It also
-    /// accepts the beginning of such a number: the empty text, a lone sign, a lone point, "1." and "1e-". The
-    /// exponent's letter may be missing, as in "12-5". It does not accept group separators, blanks and a trailing
-    /// minus, so it refuses some results of FormatControlText().
+    /// Accepts a sign, digits, a point and digits, and then an exponent, each if the format allows it. Accepts the
+    /// beginning of such a number too: the empty text, a lone sign, a lone point, "1." and "1e-". The exponent's letter
+    /// may be missing, as in "12-5". Refuses group separators, blanks and a trailing minus, and therefore some results
+    /// of FormatControlText().
     ///
     /// The point is the format's or the locale's. If the toolkit's current conversion cannot read the locale's point,
     /// no point is accepted. If the format's point is a digit, that digit always counts as the point.

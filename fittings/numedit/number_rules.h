@@ -26,7 +26,8 @@ struct NumberRules
     std::optional<Decimal> max;
 };
 
-/// Returns the rules of a format. Its bounds become the shortest decimal numbers that read as them: 0.3 stays 0.3.
+/// Returns the rules of a format. Each bound becomes the shortest decimal number that reads as the same `double`: 0.3
+/// stays 0.3.
 NumberRules RulesOf(const CNumberFormat& format);
 
 enum class NumberState {

@@ -47,7 +47,8 @@ class CIniFile;
 /// share it. A write reads the file again, changes only its own keys, and is on the disk when it returns true. Writes
 /// by other processes at the same time are kept too. A write waits at most two seconds for another process that is
 /// stuck; a read never waits. Some file systems, such as NFS, cannot exchange two files in one step. If the lock file
-/// settings.ini.lock cannot be used there either, one of two writes within the same few microseconds can be lost.
+/// settings.ini.lock cannot be used on such a file system either, one of two writes within the same few microseconds
+/// can be lost.
 ///
 /// A file of more than 64 MiB or of more than a million lines does not count as a settings file: it is not read. A
 /// write that would make such a file fails.

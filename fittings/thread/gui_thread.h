@@ -81,19 +81,19 @@ public:
     /// done, StartKill() was called or an exception was thrown. Call this before RunThread(). Without a call there is
     /// no such event.
     ///
-    /// The event is a wxCommandEvent. Its int is GetRunNumber(), and its client data is the result of Entry(). When it
-    /// arrives, HasEnded() is true and Wait() returns at once.
+    /// The event is a wxCommandEvent. Its int is GetRunNumber(), and its client data is the result of Entry(). When the
+    /// event arrives, HasEnded() is true and Wait() returns at once.
     void SetEndEvent(int eventType);
 
-    /// Returns a number that no other worker of the process has. It is larger than those of the workers made before.
-    /// With this number in its events, a handler can ignore events that an earlier worker has left queued.
+    /// Returns a number that no other worker of the process has. The number is larger than those of the workers made
+    /// before. With this number in its events, a handler can ignore events that an earlier worker has left queued.
     int GetRunNumber() const { return m_runNumber; }
 
     /// @name Posting
     ///
     /// The handler gets a copy of the event on the GUI thread, as a pending event of the toolkit. Each overload returns
-    /// true when the worker may go on: the event was queued, or it was dropped because there is no handler. It returns
-    /// false when the worker was asked to stop; nothing is queued then.
+    /// true when the worker may go on: the event was queued, or was dropped because there is no handler. Each overload
+    /// returns false when the worker was asked to stop; nothing is queued then.
     ///
     /// A worker that posts faster than the GUI thread handles is not slowed down: its events fill the memory and block
     /// the GUI. Report results at intervals, not one by one.

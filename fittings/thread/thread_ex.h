@@ -90,10 +90,10 @@ public:
     /// Whether Entry() has returned or thrown an exception. Wait() then returns at once. Any thread may call this.
     bool HasEnded() const;
 
-    /// Does the work. It is called once, on the new thread; its result is the exit code.
+    /// Does the work. The function is called once, on the new thread, and its result is the exit code.
     ///
-    /// No exception may leave it. If one does, the toolkit's wxApp::OnUnhandledException() is called, the work counts
-    /// as finished, and the exit code is (wxThread::ExitCode)-1.
+    /// No exception may leave the function. If one does, the toolkit's wxApp::OnUnhandledException() is called, the
+    /// work counts as finished, and the exit code is (wxThread::ExitCode)-1.
     virtual wxThread::ExitCode Entry() = 0;
 
 private:

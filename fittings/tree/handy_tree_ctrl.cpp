@@ -63,7 +63,8 @@ void wxHandyTreeCtrl::CreateImageList()
     SetImageList(m_imageList);
 }
 
-// The toolkit would keep the row height that the earlier images needed. Make it measure the items again.
+// Sets the images and makes the toolkit measure the items again. Otherwise the rows would keep the height that the
+// earlier images needed.
 void wxHandyTreeCtrl::SetImageList(wxImageList* images)
 {
     wxTreeCtrlEx::SetImageList(images);

@@ -397,7 +397,7 @@ void BrowserPage::ShowFolder(const std::string& path)
     TellChange();
 }
 
-/// Shows the folder in a colour, or without one when it is invalid.
+/// Shows the folder in a colour, or without a colour when @a colour is invalid.
 void BrowserPage::ShowColour(const wxColour& colour)
 {
     m_tree->ShowColour(colour);

@@ -68,7 +68,8 @@ public:
         Reset(static_cast<unsigned>(m_positions.size()));
     }
 
-    /// Removes the rows that have proved too small. After a Reset() GTK would redraw the list only later.
+    /// Removes the rows that have proved too small. Does not call Reset(), after which GTK would redraw the list only
+    /// later.
     void RemoveSmallOnes()
     {
         wxArrayInt rows;

@@ -42,7 +42,7 @@ public:
     bool SelectParent();
 
     /// Reads the known folders again: adds new ones and removes those that no longer exist. The others keep their
-    /// state. If the selected one no longer exists, selects the nearest one above it that does.
+    /// state. If the selected folder no longer exists, selects the nearest folder above it that exists.
     void Reread();
 
     /// Shows the selected folder in @a colour, or without a colour when @a colour is invalid. When the folder is read

@@ -44,8 +44,8 @@ wxString NameOf(const wxColour& colour, const wxString& separator)
     return number;
 }
 
-/// Returns a square of the colour. For an invalid colour it is transparent, because GTK leaves no room for pictures if
-/// the first row has none.
+/// Returns a square of the colour. For an invalid colour the square is transparent, because GTK leaves no room for
+/// pictures if the first row has none.
 wxBitmap SwatchOf(const wxColour& colour, int size)
 {
     wxImage swatch(size, size);

@@ -25,7 +25,7 @@ wxString DisplayText(const std::string& bytes);
 std::wstring TextFromPath(const std::string& path);
 std::string PathFromText(const std::wstring& text);
 
-/// Returns a path that was typed or chosen in a dialog as the bytes to open it with.
+/// Returns the bytes of a path that was typed or chosen in a dialog.
 std::string PathFromDialog(const wxString& path);
 
 /// @}

@@ -30,7 +30,7 @@ void BeginAtTheStart(wxStaticText* label);
 void ArrangeColumns(wxBoxSizer* columns, int width);
 
 /// Scrolls @a page whenever the focus moves, to show all of the focused control. The toolkit does this only for direct
-/// children of the page. Call it when the page is in its window.
+/// children of the page. Call this function when the page is in its window.
 void KeepFocusInSight(wxScrolledWindow* page);
 
 }  // namespace gallery

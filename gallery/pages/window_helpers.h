@@ -10,7 +10,8 @@ struct _GtkWidget;
 
 namespace gallery {
 
-/// Gives a control of the toolkit a name for assistive technologies. For a control without a static text before it.
+/// Gives a control of the toolkit a name for assistive technologies. Needed if no static text stands before the
+/// control.
 void SetAccessibleName(wxWindow* control, const wxString& name);
 
 /// Returns where a top-level window is on the screen, with its decorations.

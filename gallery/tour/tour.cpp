@@ -44,7 +44,8 @@ GtkWidget* FindFileDialog()
     return dialog;
 }
 
-/// Visits such a dialog from inside the dialog's own event loop. Closes the dialog if the visit has not closed it.
+/// Visits a file or folder dialog from inside the dialog's own event loop. Closes the dialog if the visit has not
+/// closed it.
 class DialogVisitor : public wxTimer
 {
 public:

@@ -16,7 +16,7 @@ class GalleryFrame;
 
 /// A tour of the program: drives its window by simulated input and takes a picture of each component.
 ///
-/// It browses a folder that it makes, or the given one, and keeps its settings apart from the user's.
+/// The tour browses a folder that it makes, or the given one, and keeps its settings apart from the user's.
 class Tour
 {
 public:
@@ -51,7 +51,7 @@ private:
     bool FolderGets(int cell);
     bool SavePicture(const char* component);
 
-    /// Leaves the pointer at its place in the picture.
+    /// Moves the pointer to @a pointer before the picture is taken.
     bool SavePicture(const char* component, const wxPoint& pointer);
     bool Reopen();
 

@@ -24,7 +24,7 @@ AncestorWatch::AncestorWatch(wxWindow& window, std::function<void()> isGoing)
         ancestor = ancestor->GetParent();
         ancestor->Bind(wxEVT_DESTROY, [call = m_isGoing, ancestor, &window](wxWindowDestroyEvent& event) {
             event.Skip();
-            // The ancestor also gets the events of all windows below it, and the window may have a new parent.
+            // The ancestor also gets the events of all windows below it. The window may have a new parent by now.
             if (*call && event.GetEventObject() == ancestor && IsAbove(ancestor, &window))
                 (*call)();
         });

@@ -65,7 +65,7 @@ class Registration
 public:
     explicit Registration(const wxString& name) : m_name(name) {}
 
-    /// True when something was restored.
+    /// Returns true when something was restored.
     bool Register(wxWindow& window) { return Restore(window, m_name) | RegisterInside(window); }
 
 private:

@@ -23,7 +23,7 @@ struct Deletion
     EntrySelection selection;
 };
 
-/// The text that a control has lost during the present key. Its GtkEntry owns this.
+/// The text that a control has lost during the present key. The control's GtkEntry owns the object.
 struct Key
 {
     wxTextCtrl& control;

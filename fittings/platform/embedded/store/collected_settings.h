@@ -34,7 +34,8 @@ public:
     /// Returns the collected changes, in the order of the first change of each key.
     const std::vector<SettingsChange>& Changes() const { return m_changes; }
 
-    /// Returns a number that changes whenever Changes() does. It is never 0 and differs from those of earlier objects.
+    /// Returns a number that changes whenever Changes() does. The number is never 0 and differs from those of earlier
+    /// objects.
     std::uint64_t Revision() const { return m_revision; }
 
     /// Returns the default store with the collected changes.

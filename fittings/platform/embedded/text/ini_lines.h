@@ -34,7 +34,7 @@ class IniLines
 public:
     explicit IniLines(std::string_view text);
 
-    /// False at the end of the text.
+    /// Stores the next line in @a line. Returns false at the end of the text.
     bool Next(IniLine& line);
 
     bool HasNul() const { return m_hasNul; }
