@@ -380,7 +380,7 @@ void wxColourPopup::OnComboKeyEvent(wxKeyEvent& event)
         event.Skip();
         return;
     }
-    // With a text field too, do not skip the key: GTK would move the focus.
+    // Do not skip the key, even with a text field: GTK would move the focus.
     if (!m_combo->HasFlag(wxCB_READONLY))
         return;
     FindCellFromColour(m_crInitialColour);

@@ -304,8 +304,8 @@ void wxNumberCtrl::OnSetFocus(wxFocusEvent& event)
     event.Skip();
     if (!m_field || m_field->showsPlain)
         return;
-    // On a click, GTK finds the place of the caret before it sets the focus, and moves the caret there afterwards.
-    // Change the text only after that.
+    // On a click, GTK finds the place of the caret before it sets the focus, and moves the caret to this place
+    // afterwards. Change the text only after that.
     GdkEvent* const present = gtk_get_current_event();
     const bool clicked = present && present->type == GDK_BUTTON_PRESS;
     if (present)

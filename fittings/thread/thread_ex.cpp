@@ -13,7 +13,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-// In milliseconds: some thirty years, which the clock can still add.
+// In milliseconds: some thirty years. The clock can add this time to the present one without an overflow.
 constexpr std::uint64_t kLongestWait = 1'000'000'000'000;
 
 // The longest time that a wait keeps windows from being painted.
@@ -98,7 +98,7 @@ wxThreadEx::wxThreadEx(wxThreadKind kind)
 {
 }
 
-// Does not delete m_impl: the toolkit does, when the thread ends.
+// Does not delete m_impl: the toolkit deletes it when the thread ends.
 wxThreadEx::~wxThreadEx()
 {
     if (!m_detached)

@@ -37,7 +37,7 @@ int NumberEntry::Filter(const GdkEventKey* key, const std::function<int()>& filt
     const EntrySelection selected = SelectionOf(m_entry);
     m_filtering = true;
     m_hasRefused = false;
-    // The US layout has the first key, the German layout the second.
+    // The keypad of the US layout has the first of these keys, the keypad of the German layout the second.
     m_keypadPoint = key->keyval == GDK_KEY_KP_Decimal || key->keyval == GDK_KEY_KP_Separator;
     const int result = filter();
     m_filtering = m_keypadPoint = false;
@@ -202,7 +202,7 @@ void NumberEntry::Replace(int begin, int end)
 void NumberEntry::Insert(const std::wstring& text, int& position)
 {
     const Free free(this);
-    // The toolkit has already reported the character.
+    // The toolkit has already reported the character, so the text must not count as typed.
     InsertUntyped(m_entry, m_toolkit, wxString(text).utf8_string(), position);
 }
 
