@@ -201,7 +201,7 @@ TEST(SaveDialogFolder, IsTheNearestFolderAboveARelativeFile)
     EXPECT_EQ(in.shownFolder, folder.Path());
 }
 
-// GTK's dialog goes up from a missing folder by itself.
+// If the folder is missing, GTK's dialog itself goes up to an existing one.
 TEST(SaveDialogFolder, IsAFolderThatIsGone)
 {
     const TempFolder folder;

@@ -60,7 +60,7 @@ TEST_P(HomeThatIsNoFolder, GivesWayUnderARelativeDataHomeToo)
     EXPECT_EQ(SeenIn(here.Path(), GetParam(), "/home/ann", "", "data"), Below("/home/ann"));
 }
 
-// The file that names the documents folder is in the home folder too, so it is not found.
+// The file that names the documents folder is in the home folder, so that file is not found either.
 TEST_P(HomeThatIsNoFolder, HasNoDocuments)
 {
     const TempFolder here;

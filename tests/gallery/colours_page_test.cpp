@@ -230,7 +230,7 @@ TEST_F(ColoursPageTest, TheListForgetsWhatIsOld)
     OpenColours();
     PointAtCell(kDarkRedCell);
     ASSERT_TRUE(PumpUntil([&] { return Events().size() == 2; }));
-    // More events than a person could cause in this time.
+    // These are more events than a person could cause in this time.
     for (int i = 0; i < 249; ++i) {
         Popup().ChangeSelection(0);
         Popup().ChangeSelection(kIndigoCell);

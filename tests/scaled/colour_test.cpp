@@ -54,8 +54,8 @@ TEST_F(ColoursOnAScaledScreen, AreBelowTheirControl)
     on.combo->Dismiss();
 }
 
-// The test looks along the middle of each cell, because its corners are rounded. Letters are finer than the toolkit's
-// pixels, which shows that the popup is not enlarged.
+// The test looks along the middle of each cell, because the corners of a cell are rounded. Letters are finer than the
+// toolkit's pixels, which shows that the popup is not enlarged.
 TEST_F(ColoursOnAScaledScreen, AreSharp)
 {
     Open();

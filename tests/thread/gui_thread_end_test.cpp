@@ -21,7 +21,7 @@ using Worker = Working<wxGUIThread>;
 const int kEnd = wxNewEventType();
 const int kOther = wxNewEventType();
 
-/// Waits for the expected event, and a little longer to see that no other one follows.
+/// Waits for the expected events, and a little longer to see that no other event follows.
 void ExpectEvents(const Recorder& recorder, const Events& events)
 {
     PumpUntil([&] { return recorder.events.size() >= events.size(); });

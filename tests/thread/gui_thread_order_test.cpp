@@ -227,8 +227,8 @@ TEST(ContinueMutex, IsHeldToReadTheFlag)
     EXPECT_TRUE(asking.Ends());
 }
 
-// A handler posts again while an event is queued for it: the inner lock fails, the post continues, and the outer lock
-// stays.
+// A handler posts again while an event is queued for it. The inner lock fails, the inner post continues, and the outer
+// lock stays.
 TEST(PostMutexThatCannotBeHad, StopsNeitherThePostNorTheLockOutside)
 {
     Interrupted handler;

@@ -13,8 +13,8 @@ std::string Probe(const char* question)
     return RunChild({THREAD_PROBE, question});
 }
 
-// wxTHREAD_NO_RESOURCE is 1, wxTHREAD_RUNNING is 2. Run() of a toolkit thread that could not be created returns the
-// latter.
+// wxTHREAD_NO_RESOURCE is 1, wxTHREAD_RUNNING is 2. Run() of a toolkit thread that could not be created returns
+// wxTHREAD_RUNNING.
 TEST(WithoutRoomForAThread, RunFailsAndThereIsNothingToWaitFor)
 {
     EXPECT_EQ(Probe("no-room"), "limited 1\n"

@@ -136,7 +136,7 @@ TEST(Wait, BlocksUntilTheValuesOfKeysAreDestroyed)
     pthread_key_delete(key);
 }
 
-// No call tells when a detached object may be destroyed, so these are never destroyed.
+// No call tells when a detached object may be destroyed, so these objects are never destroyed.
 TEST(Detached, IsNotWaitedFor)
 {
     static Signal go;
@@ -280,7 +280,7 @@ TEST(Entry, RunsOnADetachedThreadOfTheToolkit)
     EXPECT_TRUE(detached);
 }
 
-// Binary compatibility with hosts: the destructor's two entries, then Entry().
+// For binary compatibility with hosts, the virtual table begins with the destructor's two entries and Entry().
 TEST(VirtualTable, HoldsTheDestructorAndThenEntry)
 {
     Signal destroyed;

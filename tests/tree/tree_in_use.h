@@ -114,7 +114,7 @@ protected:
         user.MouseClick(button);
     }
 
-    /// Waits for the events, and a little longer to see that no other one follows.
+    /// Waits for the expected events, and a little longer to see that no other event follows.
     void ExpectEvents(const Labels& events)
     {
         PumpUntil([&] { return log.Notes().size() >= events.size(); });

@@ -409,7 +409,7 @@ TEST_F(ColourAnimation, StartsAnewWhenTheClockIsSetBack)
     on.combo->Dismiss();
 }
 
-// The time is stored in 32 bits.
+// The animation's time is stored in 32 bits.
 TEST_F(ColourAnimation, CountsItsTimeModulo32Bits)
 {
     on.combo->Popup();

@@ -114,7 +114,7 @@ TEST_F(MoreColours, GivesTheColourOfTheDialog)
     EXPECT_EQ(on.combo->hidden.size(), 1u) << "the popup is hidden only once";
 }
 
-// After a cancelled dialog the listener is told that the current colour is chosen. The event reports the cancel.
+// After a cancelled dialog, the listener is told that the current colour was chosen, but the event reports a cancel.
 TEST_F(MoreColours, SendsAnEventOfItsCancelAndNoneOfAChoice)
 {
     const Answer answer(wxID_CANCEL, wxColour(10, 200, 30));

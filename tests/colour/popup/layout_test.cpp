@@ -307,7 +307,7 @@ TEST(ColourLayout, IsAsWideAsTheWiderText)
     }
 }
 
-// Text with one more line is higher.
+// A text of two lines is higher than a text of one line.
 TEST(ColourLayout, HasBoxesAsHighAsTheHigherText)
 {
     for (const bool upper : {true, false}) {

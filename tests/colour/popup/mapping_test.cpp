@@ -144,7 +144,7 @@ TEST(ColourIndex, IsNoneBeforeThereAreRows)
     EXPECT_EQ(popup.GetIndex(0, 0), -1);
 }
 
-// One coordinate is enough. If the two name different boxes, the lower box wins.
+// One coordinate is enough to name a box. If the two coordinates name different boxes, the lower box wins.
 TEST(ColourIndex, IsTheBoxThatEitherCoordinateNames)
 {
     const PopupInFrame popup;
@@ -228,7 +228,7 @@ TEST_F(ChosenCell, IsThePalettesForTheDefaultColourWithoutThatBox)
     EXPECT_EQ(For(wxColour(0, 0, 0)), 0);
 }
 
-// A user who has chosen "Automatic" finds it marked again.
+// If the user has chosen "Automatic", it stays the chosen cell, whatever the colour is.
 TEST_F(ChosenCell, StaysAutomatic)
 {
     EXPECT_EQ(For(wxColour(255, 0, 0), -3), -3);
@@ -313,7 +313,7 @@ TEST_F(ColourByName, StaysWhatItWasForAnyOtherText)
     EXPECT_EQ(HotAfter("#FF0000"), 3);
 }
 
-// The combo sets its text on the popup while the popup hides.
+// While the popup hides, the combo sets its text on the popup. That must not change the hot cell.
 TEST_F(ColourByName, StaysWhatItWasWhileThePopupHidesItself)
 {
     popup->m_bInternalHide = true;

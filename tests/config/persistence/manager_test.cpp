@@ -89,7 +89,7 @@ TEST(ClosedFrame, SavesAllThatIsInItByOneSave)
     DestroyNow(frame);
 }
 
-// A signal that ends the process loses nothing of a window that was closed before.
+// The values of a window are stored when it is closed, so a signal that later ends the process loses none of them.
 TEST(ClosedFrame, IsSavedWhenItIsGone)
 {
     const TempPersistence data;

@@ -247,7 +247,7 @@ TEST(PersistentTree, LeavesOutWhatIsGoneAndDoesNotCollapse)
     EXPECT_EQ(frame.tree->GetSelection(), Child(*frame.tree, Child(*frame.tree, root, 2), 1));
 }
 
-/// Handlers that change the tree while it is restored.
+/// Handlers may change the tree while it is being restored.
 TEST(PersistentTree, BearsHandlersThatDeleteItems)
 {
     const TempPersistence data;

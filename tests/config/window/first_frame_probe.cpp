@@ -156,7 +156,7 @@ private:
         const bool isLate = m_watch.Time() > Patience() * kLongest;
         if (m_same < kTimesTheSame && !isLate)
             return;
-        // A program may move and size a frame that is shown.
+        // Set the geometry again until the frame has it. A program may do so with a frame that is shown.
         if (m_stores && now != m_wanted && !isLate) {
             m_frame->SetSize(m_wanted);
             m_same = 0;

@@ -29,7 +29,7 @@ public:
     int OnRun() override;
 
 protected:
-    /// Empty when there is no such argument.
+    /// Returns the argument with this number; empty when there is no such argument.
     std::wstring Argument(int index) const;
 
 private:

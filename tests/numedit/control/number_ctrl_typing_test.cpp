@@ -217,7 +217,7 @@ TEST_F(PasteOfASelection, IsRefusedWholeWhereItIsNone)
     EXPECT_EQ(screen.textEvents, 0);
 }
 
-// An input method in another process inserts its text in this way, without a key event.
+// An input method in another process inserts its text as this test does, without a key event.
 TEST_F(NumberTyping, PutsASelectionBackThatATextWithoutAKeyWasToReplace)
 {
     screen.Restart("12345");

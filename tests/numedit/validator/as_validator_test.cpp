@@ -255,7 +255,7 @@ TEST_F(Numbers, GiveWayToAnotherValidator)
     EXPECT_TRUE(dialog->Validate());
 }
 
-// The validator itself writes the keypad's point, and the host replaces the validator during that.
+// The validator itself writes the keypad's point. The host replaces the validator while the validator writes.
 TEST_F(Numbers, MayBeReplacedWhileTheyTakeAKey)
 {
     Show();

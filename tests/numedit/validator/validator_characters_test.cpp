@@ -123,7 +123,7 @@ TEST_F(DeadAccent, OnALetterIsRefusedOnce)
     EXPECT_EQ(screen.BellsRung(), 1);
 }
 
-// The control gets both characters at once. If one is refused, both are dropped.
+// The control gets the accent and the digit at once. If one of them is refused, both are dropped.
 TEST_F(DeadAccent, BeforeADigitIsRefusedWithTheDigit)
 {
     screen.PressRaw(std::to_string(kKey1));

@@ -296,7 +296,8 @@ TEST(AChangeByAnotherProcess, IsNotUndoneByTheNextWrite)
     EXPECT_EQ(ReadFile(data / "settings.ini"), "[s]\nmine=3\ntheirs=2\n");
 }
 
-// Two states of one file with the same size, within one tick of the file system's clock: only the bytes differ.
+// The two states of the file have the same size and fall into one tick of the file system's clock, so only the bytes
+// differ.
 TEST(AChangeInPlace, IsSeenHoweverFastItFollowsAnother)
 {
     TempUserData data;

@@ -164,7 +164,7 @@ TEST(AnyFailingCall, LetsAFileBeSavedOrSaysThatItWasNot)
     });
 }
 
-// The earlier bytes, readable or not, are in one file or the other.
+// The earlier bytes stay in the file. If the write succeeds, they are in settings.ini.unreadable instead.
 TEST(AnyFailingCall, KeepsAFileThatHoldsNoText)
 {
     const InMemory fast;

@@ -120,7 +120,7 @@ TEST(ThousandsOfDirtyFiles, KeepWhatTheyHold)
 
         Ini before;
         if (!before.Load(folder / "a.ini")) {
-            // The null characters have overwritten the only section line.
+            // The null characters have made the only section line invalid.
             ASSERT_NE(bytes.find('\0'), std::string::npos) << "file " << file << ":\n" << bytes;
             continue;
         }

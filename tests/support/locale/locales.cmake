@@ -8,8 +8,8 @@
 #   ps_AF.UTF-8   point U+066B    thousands U+066C
 #
 # Every fittings_test has them: ScopedLocale of scoped_locale.h sets one for a scope. Any other program finds them with
-# LOCPATH=${FITTINGS_TEST_LOCALES} in its environment. glibc then no longer reads the system's archive of locales, but
-# still its folder of them, where C.UTF-8 is.
+# LOCPATH=${FITTINGS_TEST_LOCALES} in its environment. glibc then no longer reads the system's archive of locales. It
+# still reads the system's folder of locales, which contains C.UTF-8.
 set(FITTINGS_TEST_LOCALES ${PROJECT_BINARY_DIR}/locales)
 find_program(LOCALEDEF localedef REQUIRED)
 

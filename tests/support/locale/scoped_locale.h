@@ -6,8 +6,8 @@
 
 /// Sets the process's locale while the object exists; fails the test when there is no such locale.
 ///
-/// Beside the system's own, de_DE.UTF-8 (point ","), fr_FR.UTF-8 (thousands U+202F), fr_FR.ISO-8859-1 (thousands the
-/// byte 0xA0), he_IL.UTF-8 (from right to left) and ps_AF.UTF-8 (point U+066B) are there on every machine.
+/// In addition to the system's own locales, de_DE.UTF-8 (point ","), fr_FR.UTF-8 (thousands U+202F), fr_FR.ISO-8859-1
+/// (thousands the byte 0xA0), he_IL.UTF-8 (from right to left) and ps_AF.UTF-8 (point U+066B) exist on every machine.
 ///
 /// @code
 /// const ScopedLocale german("de_DE.UTF-8");
