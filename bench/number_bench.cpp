@@ -114,8 +114,8 @@ void FormatLong(benchmark::State& state)
     Format(state, Digits<wchar_t>(state.range(0)));
 }
 
-/// Each round reuses the formatter and the memory of its result. The text and the result stay in ICU's types; a host
-/// would have to convert both.
+/// Measures ICU's formatter. Each round reuses the formatter and the memory of its result. The text and the result stay
+/// in ICU's types; a host would have to convert both.
 void FormatIcu(benchmark::State& state, const std::string& text)
 {
     UErrorCode status = U_ZERO_ERROR;
@@ -142,7 +142,7 @@ void FormatLongIcu(benchmark::State& state)
     FormatIcu(state, Digits<char>(state.range(0)));
 }
 
-/// The C locale has no separator for groups. That only makes the toolkit faster.
+/// Measures the toolkit's formatter. The C locale has no separator for groups, so the toolkit has less to do.
 void FormatToolkit(benchmark::State& state)
 {
     for (auto _ : state)

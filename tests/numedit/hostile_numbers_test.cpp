@@ -28,8 +28,8 @@ CNumberFormat Endless()
     return format;
 }
 
-// gtest prints both texts of a failed EXPECT_EQ in full, so these tests compare with EXPECT_TRUE. Work that grows with
-// the square of the length would exceed the time limit.
+// gtest prints both texts of a failed EXPECT_EQ in full, so these tests compare with EXPECT_TRUE. The tests would
+// exceed the time limit if the work grew with the square of the length.
 
 TEST(LongTexts, AreTrimmed)
 {

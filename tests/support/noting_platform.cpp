@@ -217,7 +217,7 @@ bool CLocalRegStore::WriteString(const char* section, const char* key, const cha
     return g_platform.saves;
 }
 
-// Joins with a separator that no other function uses.
+// Joins the names with a separator that no other function uses.
 std::wstring file_util_ex::MakePath(const CStdStr<wchar_t>& dir, const CStdStr<wchar_t>& name)
 {
     return dir + L">" + name;

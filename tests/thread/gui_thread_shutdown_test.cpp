@@ -170,7 +170,8 @@ TEST(Handler, MayBeDestroyedWithEventsQueued)
     EXPECT_EQ(received, 0);
 }
 
-// Binary compatibility with hosts: neither class adds an entry to wxThreadEx's virtual table.
+// Expects Entry() right after the destructor's two entries: for binary compatibility with hosts, neither class adds an
+// entry to wxThreadEx's virtual table.
 template <typename Thread, typename... Arguments>
 void ExpectEntryAfterTheDestructor(Arguments... arguments)
 {

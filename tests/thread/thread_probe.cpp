@@ -98,7 +98,7 @@ void Created()
     _exit(0);
 }
 
-// At its shutdown the toolkit logs the threads that are left, on stderr.
+// Makes threads that are never run. At its shutdown, the toolkit logs the threads that are left, on stderr.
 void NeverRun()
 {
     dup2(STDOUT_FILENO, STDERR_FILENO);

@@ -173,7 +173,7 @@ TEST_F(ColourComboInUse, ChoosesTheHotCellByAClickBetweenTheCells)
     ExpectShown();
     PointToCell(16);
     ExpectCalls({"popup", "change #FF0000"});
-    // A point in the margin at the popup's left edge, below the grid.
+    // Click at a point in the margin at the popup's left edge, below the grid.
     wxRect more;
     popup->GetCellRect(CELL_MORE_COLOURS, more);
     PointTo(popup->ClientToScreen(wxPoint(1, more.y + 10)));

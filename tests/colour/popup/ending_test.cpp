@@ -301,7 +301,7 @@ TEST_F(ColourEndingWithText, HasTheEarlierTextAfterADismissal)
     EXPECT_EQ(on.popup->m_crColour, *wxBLUE);
 }
 
-// When the popup opens again, it gets the combo's text back. Enter must not choose the colour that was cancelled.
+// When the popup opens again, it gets the combo's text. Enter must not choose the colour that was cancelled.
 TEST_F(ColourEndingWithText, DoesNotChooseACancelledColourTheNextTime)
 {
     for (const bool dismissed : {false, true}) {

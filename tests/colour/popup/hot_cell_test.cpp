@@ -103,7 +103,7 @@ TEST(ColourHotCell, CanBeSetBeforeTheWindowIsCreated)
     EXPECT_EQ(popup.m_nCurrentSel, 16);
     EXPECT_EQ(popup.m_strToolTip, "Red");
     EXPECT_EQ(listener.Take(), ColourCalls{"change #FF0000"});
-    // There are no rows yet, so no key can reach a cell.
+    // The popup has no rows yet, so no key can reach a cell.
     wxKeyEvent down(wxEVT_KEY_DOWN);
     down.m_keyCode = WXK_DOWN;
     popup.SetAutomaticText("");
@@ -358,7 +358,8 @@ TEST_F(HotCellOnScreen, RedrawsTheBoxes)
     PaintOver();
     popup->ChangeSelection(M);
     PumpPending();
-    // The lower box is two margins below its rectangle. The area above the two lines of the separator is not drawn.
+    // "More Colours..." is drawn two margins below its rectangle. The area above the two lines of the separator is not
+    // drawn.
     wxRect more = Cell(M);
     more.y += 4;
     wxRect separator(more.x + 4, Cell(M).y, more.width - 8, 2);

@@ -59,7 +59,7 @@ protected:
         return Runs([&](int y) { return picture.At(x, y); }, height);
     }
 
-    // The row crosses the middle of a black cell of 18 pixels at (3, 3).
+    // Draws a black cell of 18 pixels at (3, 3). BlackRow() returns the row through the middle of this cell.
     void DrawBlack()
     {
         wxRect rect(3, 3, 18, 18);

@@ -92,7 +92,7 @@ void RunCase()
     WriteFlag(CNumberEditUtils::ValidateString(pointer, format));
     WriteFlag(CNumberEditUtils::ValidateInput(pointer, format));
     WriteText(CNumberEditUtils::FormatControlText(pointer, format));
-    // If the next case ends the process, the script then knows which case it was.
+    // Write the result at once: if the next case ends the process, the script knows which case it was.
     std::fflush(stdout);
 }
 

@@ -40,7 +40,7 @@ const MemoryStore& GetMemoryStore()
     return g_store;
 }
 
-// Nothing is saved here, so a batch does nothing.
+// This platform saves nothing, so a batch does nothing.
 struct CLocalRegStore::Batch::Collected
 {
 };
@@ -114,7 +114,7 @@ std::vector<CLocalRegStore::Entry> CLocalRegStore::GetEntries(const CIniFile& in
     return entries;
 }
 
-// Reading is cheap here, so the file always counts as changed.
+// Reading is cheap on this platform, so the file always counts as changed.
 bool CLocalRegStore::Refresh(CIniFile& ini, const wchar_t* path)
 {
     Load(ini, path);

@@ -194,7 +194,7 @@ protected:
                 m_progress->done = update;
             }
         });
-        // The time ranges from before the first write to well into a later one.
+        // The time until the kill ranges from before the first write to well into a later one.
         std::this_thread::sleep_for(std::chrono::microseconds(m_random() % (Patience() * 3000 + 2 * m_saving.count())));
         ASSERT_EQ(kill(child, SIGKILL), 0);
         int status = 0;
