@@ -139,15 +139,22 @@ protected:
         g_signal_connect_swapped(target, "drag-motion", G_CALLBACK(NoteMotion), &over);
         g_signal_connect_swapped(source, "drag-end", G_CALLBACK(Note), &ended);
         wxUIActionSimulator mouse;
-        mouse.MouseMove(grip);
-        PumpPending();
-        mouse.MouseDown();
-        PumpPending();
-        int step = 0;
+        long first = 0;
+        long last = 0;
+        from.GetSelection(&first, &last);
+        // While GTK still shows the end of a drag that was refused, a press begins no other.
         EXPECT_TRUE(PumpUntil([&] {
-            if (!begun)
-                mouse.MouseMove(grip + wxPoint(20 + ++step % 8, 2));
-            return begun;
+            from.SetSelection(first, last);
+            mouse.MouseMove(grip);
+            PumpPending();
+            mouse.MouseDown();
+            PumpPending();
+            mouse.MouseMove(grip + wxPoint(20, 2));
+            if (PumpUntil([&] { return begun; }, 2000))
+                return true;
+            mouse.MouseUp();
+            PumpPending();
+            return false;
         }));
         if (moves)
             RunChild({"xdotool", "keydown", "Shift_L"});
@@ -175,8 +182,7 @@ protected:
         screen.first->SelectAll();
         ASSERT_TRUE(PumpUntil([&] { return screen.first->HasFocus() && screen.first->GetStringSelection() == text; }));
         PumpPending();
-        // Two presses at one place count as a double click, which drags nothing.
-        const wxPoint grip = screen.first->ClientToScreen(wxPoint(moves ? 26 : 14, screen.first->GetSize().y / 2));
+        const wxPoint grip = screen.first->ClientToScreen(wxPoint(14, screen.first->GetSize().y / 2));
         Drag(*screen.first, grip, MiddleOf(*screen.number), moves);
     }
 
