@@ -283,6 +283,7 @@ protected:
 private:
     void LayOutBox(int index, const wxString& text);
     wxSize MeasureTexts();
+    void DrawCellRect(wxDC& dc, wxRect& rect, int index, int inset);
     void DrawMoreColours(wxDC& dc);
     void DrawAutomatic(wxDC& dc);
     void DrawEdge(wxDC& dc, const wxRect& rect, int index);

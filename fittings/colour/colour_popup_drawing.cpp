@@ -117,15 +117,20 @@ void wxColourPopup::DrawCell(wxDC* dc, int index)
 
 void wxColourPopup::DrawCellRect(wxDC* dc, wxRect& rect, int index)
 {
-    dc->SetPalette(m_palette);
+    DrawCellRect(*dc, rect, index, m_nMargin + 1);
+}
+
+void wxColourPopup::DrawCellRect(wxDC& dc, wxRect& rect, int index, int inset)
+{
+    dc.SetPalette(m_palette);
     const bool isHot = index == m_nCurrentSel;
     const bool isChosen = index == m_nChosenColourSel;
-    Fill(*dc, rect, isChosen && !isHot ? Highlight() : Face());
-    DrawEdge(*dc, rect, index);
+    Fill(dc, rect, isChosen && !isHot ? Highlight() : Face());
+    DrawEdge(dc, rect, index);
 
     const wxColour colour = GetColour(index);
-    rect.Deflate(m_nMargin + 1);
-    DrawRectangle(*dc, rect, Shadow(), wxColour(colour.Red(), colour.Green(), colour.Blue()));
+    rect.Deflate(inset);
+    DrawRectangle(dc, rect, Shadow(), wxColour(colour.Red(), colour.Green(), colour.Blue()));
 }
 
 void wxColourPopup::DrawMoreColours(wxDC& dc)
@@ -155,14 +160,11 @@ void wxColourPopup::DrawAutomatic(wxDC& dc)
     DrawEdge(dc, base, CELL_AUTOMATIC);
     DrawCentredText(dc, base, m_font, m_strAutomatic);
 
-    // Enlarge the swatch so that it fills its square: a cell's inset is one pixel more than the margin.
+    // The swatch fills its square.
     const int side = box.height / 3;
     const int inset = (box.height - side) / 2;
     wxRect swatch(box.x + inset, box.y + inset, side, side);
-    const int margin = m_nMargin;
-    m_nMargin = -1;
-    DrawCellRect(&dc, swatch, CELL_AUTOMATIC);
-    m_nMargin = margin;
+    DrawCellRect(dc, swatch, CELL_AUTOMATIC, 0);
 }
 
 void wxColourPopup::DrawEdge(wxDC& dc, const wxRect& rect, int index)
