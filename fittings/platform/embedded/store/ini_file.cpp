@@ -109,23 +109,13 @@ bool CIniFile::Save(const std::string& path) const
 {
     if (path.empty() || (HasFailed() && path == m_path))
         return false;
-    if (!m_cannotBeParsed)
-        return SaveText(path, m_text->Changed());
     // Keep the unreadable file under another name, unless somebody has put a new file in its place.
-    const auto identity = fittings::IdentityOf(path);
-    if (!identity && errno != ENOENT)
-        return false;
-    if (!(identity == m_content.identity))
-        return SaveText(path, m_text->Changed());
-    if (!m_text->IsChanged())
-        return true;
-    const std::string other = fittings::KeepUnderOtherName(path);
-    if (other.empty())
-        return false;
-    if (SaveText(path, m_text->Changed()))
-        return true;
-    unlink(other.c_str());
-    return false;
+    if (m_cannotBeParsed) {
+        const auto result = ReplaceUnreadable(path);
+        if (result != fittings::UpdateResult::Outdated)
+            return result == fittings::UpdateResult::Saved;
+    }
+    return SaveText(path, m_text->Changed());
 }
 
 fittings::UpdateResult CIniFile::Update() const
@@ -134,7 +124,7 @@ fittings::UpdateResult CIniFile::Update() const
     if (HasFailed())
         return UpdateResult::Failed;
     if (m_cannotBeParsed)
-        return ReplaceUnreadable();
+        return ReplaceUnreadable(m_path);
     std::string changed = m_text->Changed();
     if (HasTooManyLines(changed))
         return UpdateResult::Failed;
@@ -147,19 +137,19 @@ fittings::UpdateResult CIniFile::Update() const
 
 // Keeps the unreadable file under another name, and puts a new file in its place. If somebody else puts a file there
 // meanwhile, that file stays.
-fittings::UpdateResult CIniFile::ReplaceUnreadable() const
+fittings::UpdateResult CIniFile::ReplaceUnreadable(const std::string& path) const
 {
     using fittings::UpdateResult;
+    const auto isUnreadable = [this](const std::optional<fittings::FileIdentity>& identity) {
+        return identity && identity->HasContentOf(*m_content.identity);
+    };
+    if (!isUnreadable(fittings::IdentityOf(path)))
+        return UpdateResult::Outdated;
     if (!m_text->IsChanged())
         return UpdateResult::Saved;
     if (HasTooManyLines(m_text->Changed()))
         return UpdateResult::Failed;
-    const auto isUnreadable = [this](const std::optional<fittings::FileIdentity>& identity) {
-        return identity && identity->HasContentOf(*m_content.identity);
-    };
-    if (!isUnreadable(fittings::IdentityOf(m_path)))
-        return UpdateResult::Outdated;
-    const std::string other = fittings::KeepUnderOtherName(m_path);
+    const std::string other = fittings::KeepUnderOtherName(path);
     if (other.empty())
         return UpdateResult::Failed;
     // The second name has changed the identity.
@@ -168,11 +158,11 @@ fittings::UpdateResult CIniFile::ReplaceUnreadable() const
     const auto keepDisplaced = [](std::string_view, std::string_view, std::string_view) { return std::nullopt; };
     const UpdateResult result =
         isUnreadable(found.identity)
-            ? fittings::UpdateFileBytes(m_path, {found, m_unreadable, m_text->Changed(), keepDisplaced})
+            ? fittings::UpdateFileBytes(path, {found, m_unreadable, m_text->Changed(), keepDisplaced})
             : UpdateResult::Outdated;
     // Remove the second name only if the file still has its first name. Otherwise another process may have replaced the
     // file and rely on the second name.
-    if (result != UpdateResult::Saved && fittings::IdentityOf(m_path) == fittings::IdentityOf(other))
+    if (result != UpdateResult::Saved && fittings::IdentityOf(path) == fittings::IdentityOf(other))
         unlink(other.c_str());
     return result;
 }

@@ -81,7 +81,7 @@ public:
 
 private:
     void Clear();
-    fittings::UpdateResult ReplaceUnreadable() const;
+    fittings::UpdateResult ReplaceUnreadable(const std::string& path) const;
     bool IsFresh() const;
     std::optional<std::string_view> Find(std::wstring_view section, std::wstring_view key) const;
     bool HasEarlyKey(std::wstring_view key) const;
