@@ -25,7 +25,7 @@ public:
     void Start();
     void Stop();
 
-    /// Handles the clicks on other windows. Clicks of other buttons than the left one are dropped.
+    /// Handles the clicks on other windows. Clicks with buttons other than the left one are dropped.
     int FilterEvent(wxEvent& event) override;
 
 private:

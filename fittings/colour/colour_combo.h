@@ -54,9 +54,9 @@ class OutlineWindow;
 /// - wxEVT_COLOURPICKER_DIALOG_CANCELLED, with the colour that stays, when the popup closes without a choice or the
 ///   dialog of "More Colours..." is cancelled. A control that is being destroyed sends none.
 ///
-/// A screen reader says the label of the control and then the name of the colour in effect. The label is the static
-/// text that is created just before the control, or the text of SetLabel(). The mnemonic of that static text leads to
-/// the control. While the popup is open, a screen reader says the name of each hot cell.
+/// A screen reader announces the label of the control and then the name of the colour in effect. The label is the
+/// static text that is created just before the control, or the text of SetLabel(). The mnemonic of that static text
+/// leads to the control. While the popup is open, a screen reader announces the name of each hot cell.
 ///
 /// Where a program cannot place its windows or copy the screen, as on Wayland, the popup opens without an animation.
 /// Closing the popup while the animation runs ends the animation and shows the popup; neither the listener nor an event
@@ -142,7 +142,7 @@ public:
     /// focus.
     bool IsClientAreaChild(const wxWindow* child) const override;
 
-    /// Tells assistive technologies of the colour in effect.
+    /// Tells assistive technologies the colour in effect.
     void OnInternalIdle() override;
 
     /// Makes one step of the animation; the last step shows the popup. The event is not used. The function is called

@@ -15,7 +15,7 @@
 #include <fittings/base/export.h>
 #include <fittings/colour/colour_table.h>
 
-/// Is told what the user does in a wxColourPopup. A host overrides the functions that it needs.
+/// Receives notifications of what the user does in a wxColourPopup. A host overrides the functions that it needs.
 class FITTINGS_API wxColorPopupListener
 {
 public:
@@ -177,7 +177,7 @@ public:
     wxWindow* GetControl() override { return this; }
     /// @}
 
-    /// Tells assistive technologies of the hot cell, or of the colour in effect.
+    /// Tells assistive technologies the hot cell, or the colour in effect.
     void OnInternalIdle() override;
 
     /// @name Drawing
@@ -189,7 +189,7 @@ public:
     /// Draws the cells, the boxes and the frame, but not the background between them.
     void DoDrawControl(wxDC* dc);
 
-    /// Draws one cell in its present state: plain, chosen or hot.
+    /// Draws one cell in its current state: plain, chosen or hot.
     void DrawCell(wxDC* dc, int index);
 
     /// Draws a cell of the palette into @a rect, and then shrinks @a rect to the area of the colour itself.

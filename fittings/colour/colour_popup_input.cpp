@@ -143,7 +143,7 @@ void wxColourPopup::OnDismiss()
 bool wxColourPopup::Send(wxEventType type, const wxColour& colour)
 {
     const Life life(m_life);
-    // When the combo is being deleted, the objects of the handlers may be partly destroyed.
+    // While the combo is being deleted, the objects whose handlers are bound to it may be partly destroyed.
     if (m_combo && !m_combo->IsBeingDeleted()) {
         wxColourPickerEvent event(m_combo, m_combo->GetId(), colour, type);
         m_combo->HandleWindowEvent(event);
@@ -339,7 +339,7 @@ void wxColourPopup::OnLButtonUp(wxMouseEvent& event)
     EndSelection(wxRect(GetClientAreaOrigin(), GetClientSize()).Contains(event.GetPosition()));
 }
 
-// Takes keys before they reach a dialog, which would treat Escape as Cancel, or a host, which might take any key.
+// Handles keys before they reach a dialog, which would treat Escape as Cancel, or a host, which might handle any key.
 void wxColourPopup::OnCharHook(wxKeyEvent& event)
 {
     if (IsOwnKey(event.GetKeyCode()))

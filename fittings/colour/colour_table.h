@@ -17,7 +17,7 @@ inline constexpr int CELL_MORE_COLOURS = -2;  ///< The box "More Colours..." bel
 inline constexpr int CELL_AUTOMATIC = -3;     ///< The box "Automatic" above the palette.
 /// @}
 
-/// Names of the library that need no prefix.
+/// The library's names that have no prefix of their own.
 namespace fittings {
 
 /// How many colours the palette has.
@@ -41,7 +41,7 @@ struct ColourTableEntry
 ///
 /// The first call looks up the names in the language that is set then, and later calls return the same names. So set
 /// the language first, and make the first call on the GUI thread. Concurrent first calls look up the names only once.
-/// An exception of the look-up reaches the caller, and the next call tries again. The table and its names are valid
+/// An exception from the look-up reaches the caller, and the next call tries again. The table and its names are valid
 /// until the process ends.
 FITTINGS_API const ColourTableEntry* GetColourTable();
 

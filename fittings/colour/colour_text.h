@@ -9,8 +9,8 @@ namespace fittings {
 /// Returns the text in the user's language; null when the platform has none.
 const wchar_t* ColourText(const wchar_t* key);
 
-/// Returns the text that a screen reader says for a popup: the hot cell while the popup is open, otherwise the colour
-/// in effect. A colour is given by its name in the palette, or by its number, such as "#0000FE".
+/// Returns the text that a screen reader announces for a popup: the hot cell while the popup is open, otherwise the
+/// colour in effect. A colour is given by its name in the palette, or by its number, such as "#0000FE".
 wxString SpokenText(const wxColourPopup& popup);
 
 }  // namespace fittings

@@ -142,7 +142,7 @@ bool AreTexts(std::wstring_view texts)
 /// Whether the texts contain no number that the toolkit would read and cannot use.
 ///
 /// The toolkit does not read an escaped ";" as a part of the text: it reads what follows as the next field. With
-/// "a;row=99999999;" in a caption, the toolkit reads a row, and takes the empty field behind the row for the end of the
+/// "a;row=99999999;" in a caption, the toolkit reads a row, and takes the empty field after the row for the end of the
 /// pane. "\b" is the toolkit's placeholder for an escaped ";".
 bool AreReadAtOnce(std::wstring_view texts)
 {

@@ -37,7 +37,7 @@ void Delete(gpointer data)
     const std::unique_ptr<T> owned(static_cast<T*>(data));
 }
 
-// Shows the widget of a window on which Show() was called. For the toolkit, such a window is shown already.
+// Shows the widget of a window on which Show() was called. The toolkit already counts such a window as shown.
 gboolean ShowNow(gpointer data)
 {
     const Window& window = *static_cast<Window*>(data);

@@ -10,8 +10,8 @@ namespace fittings {
 /// The toolkit shows the first window of a kind only after the window manager has announced the size of its
 /// decorations. By then GTK has made the window at (0, 0), where some window managers leave it, and warns of negative
 /// sizes. Other window managers never announce the decorations, which then enlarge the window. Therefore this function
-/// shows the window before the announcement. The toolkit subtracts the decorations from the window's size when it knows
-/// them.
+/// shows the window before the announcement. The toolkit subtracts the decorations from the window's size as soon as
+/// they are announced.
 ///
 /// Does nothing for a window that is already shown, and nothing on Wayland.
 void ShowWithoutDelay(wxTopLevelWindow& window);

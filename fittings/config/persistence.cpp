@@ -46,8 +46,8 @@ const int* Field(const wxRect& rect, const wxString& name)
     return name == kHeight ? &rect.height : nullptr;
 }
 
-/// True when a number can be a value of an object. The toolkit asserts on numbers that are not an int, and uses places
-/// and sizes that no window can have.
+/// True when a number can be a value of an object. The toolkit asserts on numbers that are not an int, and accepts
+/// places and sizes that no window can have.
 bool IsPossible(long number, const wxPersistentObject& who)
 {
     if (dynamic_cast<const wxPersistentSplitter*>(&who) || dynamic_cast<const wxPersistentDataViewCtrl*>(&who))
@@ -199,7 +199,7 @@ bool wxStorePersistenceManager::RestoreValue(const wxPersistentObject& who, cons
             *value = window->GetPosition().x;
             return isRestored;
         }
-        // Restoring x has restored the whole place. Return the present value, so that the toolkit does not change it.
+        // Restoring x has restored the whole place. Return the current value, so that the toolkit does not change it.
         if (name == kY) {
             *value = window->GetPosition().y;
             return true;

@@ -38,10 +38,10 @@ class AncestorWatch;
 /// wxPersistentRegisterAndRestoreAll() registers the window with everything in it. wxPersistentRegisterAndRestore()
 /// registers the window alone.
 ///
-/// A frame or dialog is restored as by wx_window_state::LoadState(): in its place, on a display that still exists, and
-/// within its work area. A window that was maximised is maximised again. When the user restores it, it gets the place
-/// and size that it had before. The same holds for full screen and iconised windows. Their states are recorded from
-/// wxPersistentRegisterAndRestore() on.
+/// A frame or dialog is restored as wx_window_state::LoadState() restores it: in its place, on a display that still
+/// exists, and within its work area. A window that was maximised is maximised again. When the user restores it, it gets
+/// the place and size that it had before. The same holds for full screen and iconised windows. Their states are
+/// recorded from wxPersistentRegisterAndRestore() on.
 ///
 /// The values of a window and of the controls in it are collected, and saved together when the window is destroyed. The
 /// values of a control that is destroyed alone are saved on the next turn of the event loop.
@@ -207,9 +207,9 @@ inline bool wxPersistentRegisterAndRestore(wxAuiManager* manager, const wxString
 /// Registers and restores a window under @a name, and each window inside it that can remember something: splitters,
 /// books, data views, trees and reports. Returns true when something was restored.
 ///
-/// An inner window is registered under its own name behind that of the outer window, such as "Planets/treeCtrl" for a
+/// An inner window is registered under the outer window's name followed by its own, such as "Planets/treeCtrl" for a
 /// tree without a name of its own. If several inner windows have the same name, the second one is registered with " 2"
-/// behind that name, and so on in the order of their creation. Give a name to each window whose place in this order may
+/// after that name, and so on in the order of their creation. Give a name to each window whose place in this order may
 /// change in a later version of the program. The windows' own names do not change.
 ///
 /// Not registered are windows that were registered before, other frames and dialogs, data views that are a page of a

@@ -43,7 +43,7 @@ public:
     /// Opens the default store of CLocalRegStore.
     wxStoreConfig();
 
-    /// Opens a named file as ui_config_mgr does: in the folder "ui_config" of the present user data directory.
+    /// Opens a named file as ui_config_mgr does: in the folder "ui_config" of the current user data directory.
     explicit wxStoreConfig(const wxString& file);
 
     /// Saves what has not been saved yet. Call Flush() to learn whether that succeeds.

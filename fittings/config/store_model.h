@@ -26,7 +26,7 @@ public:
     StoreModel(const StoreModel&) = delete;
     StoreModel& operator=(const StoreModel&) = delete;
 
-    /// Loads the changes of others. References to groups are valid until the next call.
+    /// Loads what others have changed in the file. References to groups are valid until the next call.
     void Refresh();
 
     /// False before the first Refresh().

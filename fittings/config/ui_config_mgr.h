@@ -38,7 +38,7 @@ FITTINGS_API std::wstring GetConfigString(const wchar_t* file, const wchar_t* se
 FITTINGS_API void DeleteConfig(const wchar_t* file, const wchar_t* section, const wchar_t* key);
 
 /// Returns the stored text as an integer, as std::stoi reads it in base 10: blanks before the digits and everything
-/// behind them are ignored. A missing or empty text gives 0.
+/// after them are ignored. A missing or empty text gives 0.
 ///
 /// @throws std::invalid_argument when the text does not begin with a number.
 /// @throws std::out_of_range when the number does not fit an `int`.

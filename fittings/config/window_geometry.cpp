@@ -32,8 +32,8 @@ wxRect ScreenRect(wxWindow& window)
 
 /// Returns the display that shows most of the window, as wxDisplay::GetFromWindow() is meant to.
 ///
-/// The toolkit's own function is right for a window that is not created. But it names a display even for a window that
-/// is far away from all displays, and uses the earlier place of a hidden window that was moved.
+/// The toolkit's own function is right for a window that is not created yet. But it returns a display even for a window
+/// that is far away from all displays, and uses the earlier place of a hidden window that was moved.
 int DisplayOf(wxWindow& window)
 {
     if (wxDisplay::GetFromWindow(&window) == wxNOT_FOUND)

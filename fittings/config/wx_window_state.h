@@ -61,7 +61,7 @@ FITTINGS_API bool LoadState(wxFrame* frame, const wchar_t* name);
 FITTINGS_API void MaximizeFrame(wxFrame* frame);
 
 /// Moves the window's top right corner one pixel inside that of the reference on the screen, and keeps the window's
-/// size. Beside a reference narrower than 800 pixels, half of the window extends past the right edge.
+/// size. If the reference is narrower than 800 pixels, half of the window extends past the right edge.
 FITTINGS_API void MoveWindowToRightCorner(wxWindow* window, wxWindow* reference);
 
 /// Stores the positions, sizes and captions of the manager's panes, as wxAuiManager::SavePerspective() returns them.

@@ -51,7 +51,7 @@ std::optional<std::string> PlainText(const Decimal& number, std::int64_t decimal
 /// Returns the sum; nothing if it has more than 100,000 digits.
 std::optional<Decimal> Sum(const Decimal& left, const Decimal& right);
 
-/// Rounds a number that is not negative up or down to @a decimals decimals, which may be less than 0.
+/// Rounds a non-negative number up or down to @a decimals decimals, which may be less than 0.
 /// @{
 Decimal RoundedUp(const Decimal& number, std::int64_t decimals);
 Decimal RoundedDown(const Decimal& number, std::int64_t decimals);

@@ -415,7 +415,7 @@ void wxNumberCtrl::ShowText(const std::wstring& text, const std::pair<long, long
     SetSelection(selection.first, selection.second);
 }
 
-/// Sets the number, for the program or for a step of the user.
+/// Sets the number. @a byUser is true for a step that the user makes.
 void wxNumberCtrl::SetPlain(const std::wstring& plain, bool byUser)
 {
     const wxWeakRef<wxWindow> self(this);

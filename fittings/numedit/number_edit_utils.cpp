@@ -130,7 +130,7 @@ bool IsWithinBounds(const wchar_t* text, const CNumberFormat& format)
     if (!format.m_bHasMax && !format.m_bHasMin)
         return true;
     const double value = std::wcstod(text, nullptr);
-    // With these comparisons, NaN as a bound or as the value refuses nothing.
+    // Every comparison with NaN is false, so neither a bound nor a value that is NaN refuses anything.
     return !(format.m_bHasMax && value > format.m_dMax) && !(format.m_bHasMin && format.m_dMin > value);
 }
 
@@ -203,7 +203,7 @@ private:
     void Pad(bool hasPoint, std::size_t decimals);
     void KeepExponentAlone();
     void PutMinus();
-    /// Returns the index behind the digits that begin at @a at.
+    /// Returns the index after the digits that begin at @a at.
     std::size_t DigitsEnd(std::size_t at) const { return AfterDigits(m_text.c_str() + at) - m_text.c_str(); }
 
     const CNumberFormat& m_format;
@@ -267,7 +267,7 @@ void ShownNumber::Pad(bool hasPoint, std::size_t decimals)
     m_end = m_read = m_text.size();
 }
 
-/// Removes everything behind the shown mantissa except an exponent.
+/// Removes everything after the shown mantissa except an exponent.
 void ShownNumber::KeepExponentAlone()
 {
     std::size_t end = m_read;
@@ -281,7 +281,7 @@ void ShownNumber::KeepExponentAlone()
     m_text.erase(m_end, m_read - m_end);
 }
 
-// Inserts the minus sign. The sign belongs to the mantissa: a trailing sign stands before the exponent.
+// Inserts the minus sign. The sign belongs to the mantissa: a trailing sign comes before the exponent.
 void ShownNumber::PutMinus()
 {
     if (m_format.m_bTrailingMinus)

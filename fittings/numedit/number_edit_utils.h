@@ -25,7 +25,7 @@ public:
     /// Removes the blanks around a number and needless zeros: " 000.500 " becomes "0.5", "1.500e10" becomes "1.5e10",
     /// "1.0" becomes "1", and "." and "" become "0".
     ///
-    /// A sign stops the trimming at the front, so "-007" keeps its zeros and "-.5" stays. At the end, only zeros behind
+    /// A sign stops the trimming at the front, so "-007" keeps its zeros and "-.5" stays. At the end, only zeros after
     /// the decimal point are removed: "10" stays "10". The exponent stays as it is. Of the format, only the decimal
     /// point is read.
     static void CutZeros(wxString& text, const CNumberFormat& format);
@@ -56,7 +56,7 @@ public:
     /// Whether @a text may stand in a field while a user types.
     ///
     /// Accepts what ValidateString() accepts. If decimals are accepted, these texts are accepted too, whatever the
-    /// bounds: the lone point, "0", "0." and up to m_nDecimals zeros behind the point. So 0.05 can be typed if the
+    /// bounds: the lone point, "0", "0." and up to m_nDecimals zeros after the point. So 0.05 can be typed if the
     /// lowest value is 0.01.
     ///
     /// Other beginnings must be within the bounds themselves. With a lowest value of 10, "1" is refused, although "12"
@@ -69,7 +69,7 @@ public:
     /// With eFixedFormat, "1234.5" gives "1,234.50", "-1234.567" gives "1,234.567-", ".5" gives "0.50" and "" gives "",
     /// without the template. The text's point may be the format's or the locale's. No text is refused: everything after
     /// the number is dropped, so "12abc" gives "12" and "1,234" gives "1". A plus sign is dropped too. A fraction is
-    /// not padded if an exponent or a dropped text follows it. A trailing minus stands before an exponent: "-1.5e3"
+    /// not padded if an exponent or a dropped text follows it. A trailing minus comes before an exponent: "-1.5e3"
     /// gives "1.5-e3".
     ///
     /// At most 1,000,000 zeros are appended, even if m_nDecimals is larger. If the decimal point is 0, the shown number

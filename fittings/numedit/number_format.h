@@ -56,7 +56,7 @@ public:
     bool m_bRoundDecimals = false;    ///< Show at most m_nDecimals decimals: round half away from zero.
     bool m_bAllowSign = true;         ///< Accept one leading `+` or `-`.
     bool m_bGroupDigits = false;      ///< Show m_chThousandsSep between groups of three integer digits.
-    bool m_bTrailingMinus = false;    ///< Show the minus sign behind the number.
+    bool m_bTrailingMinus = false;    ///< Show the minus sign after the number.
     bool m_bAllowExponent = false;    ///< Accept an exponent, such as the `e-3` of 1.5e-3.
     wchar_t m_chDecimalPoint = L'.';  ///< 0 if the locale's cannot be converted.
     wchar_t m_chThousandsSep = L',';  ///< 0 if the locale has no groups: then leave m_bGroupDigits off.

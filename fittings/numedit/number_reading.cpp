@@ -29,7 +29,7 @@ std::wstring_view Trimmed(std::wstring_view text)
     return text;
 }
 
-/// The text of a template before and behind its %s, without blanks at the ends.
+/// The text of a template before and after its %s, without blanks at the ends.
 struct Around
 {
     std::wstring before;
@@ -65,7 +65,7 @@ std::wstring_view WithoutTemplate(std::wstring_view text, const CNumberFormat& f
     return text;
 }
 
-/// Moves a minus sign behind the mantissa to the front.
+/// Moves a minus sign that follows the mantissa to the front.
 std::wstring WithMinusInFront(std::wstring_view text)
 {
     std::wstring result(text);
@@ -83,7 +83,7 @@ bool IsSeparator(wchar_t c, wchar_t separator)
     return separator != 0 && (c == separator || (IsBlank(c) && IsBlank(separator)));
 }
 
-/// Removes the separators. Returns false if a separator does not stand behind a digit and before a whole group.
+/// Removes the separators. Returns false if a separator does not follow a digit or is not followed by a whole group.
 bool Ungroup(std::wstring& text, const CNumberFormat& format)
 {
     const wchar_t separator = format.m_chThousandsSep;
@@ -92,7 +92,7 @@ bool Ungroup(std::wstring& text, const CNumberFormat& format)
     const std::size_t end =
         std::min(text.find(format.m_chDecimalPoint), std::min(text.find_first_of(L"eE"), text.size()));
     std::wstring result;
-    std::size_t digits = 0;  // digits of the present group so far
+    std::size_t digits = 0;  // digits of the current group so far
     bool grouped = false;
     for (std::size_t at = 0; at < end; ++at) {
         if (IsSeparator(text[at], separator)) {

@@ -148,7 +148,7 @@ bool GrowsInto(const Span& span, const Typed& typed, const NumberRules& rules)
     return false;
 }
 
-/// Whether the span has a number that begins with @a digits, has at most @a more digits behind them, and has its point
+/// Whether the span has a number that begins with @a digits, has at most @a more digits after them, and has its point
 /// at any place. The first of @a digits is not a zero.
 bool HasWithDigits(const Span& span, const std::string& digits, std::int64_t more)
 {

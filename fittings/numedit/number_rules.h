@@ -21,7 +21,7 @@ struct NumberRules
     bool allowsSign = true;
     bool allowsExponent = false;
     std::int64_t mostIntegers = kMostExponent;  ///< digits before the point
-    std::int64_t mostDecimals = 0;              ///< digits behind the point
+    std::int64_t mostDecimals = 0;              ///< digits after the point
     std::optional<Decimal> min;
     std::optional<Decimal> max;
 };
@@ -54,8 +54,8 @@ bool CanBeTyped(std::wstring_view text, const NumberRules& rules);
 std::optional<Decimal> NumberIn(std::wstring_view text, wchar_t point);
 
 /// Returns the plain text for a text as CNumberEditUtils::FormatControlText() formats it. The text may have blanks
-/// around it, the template, groups of three digits, and the minus in front or behind. Returns nothing if the text is
-/// not a number or has more digits than are allowed.
+/// around it, the template, groups of three digits, and the minus in front or at the end. Returns nothing if the text
+/// is not a number or has more digits than are allowed.
 std::optional<std::wstring> PlainTextOf(std::wstring_view text, const CNumberFormat& format);
 
 /// Returns the number with `.` as its point, as programs read it: "+5." gives "5". Empty if there is no number.

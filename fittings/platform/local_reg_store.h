@@ -123,8 +123,8 @@ public:
     /// Reads the file at @a path into @a ini in place of what it held, unless the file has not changed since the last
     /// call.
     ///
-    /// Returns false when @a ini was left as it is, with any changes that were made in it meanwhile. A file that cannot
-    /// be read counts as empty. Use @a ini only for reading: do not pass it to Save().
+    /// Returns false when @a ini was left as it is, with any changes that were made in it since. A file that cannot be
+    /// read counts as empty. Use @a ini only for reading: do not pass it to Save().
     static bool Refresh(CIniFile& ini, const wchar_t* path);
 
     /// Makes the changes in @a ini: first the changes of keys, then those of sections.

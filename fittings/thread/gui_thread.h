@@ -134,7 +134,7 @@ private:
     const int m_runNumber;
 };
 
-/// A wxGUIThread whose events all have one type, which the constructor gets.
+/// A wxGUIThread whose events all have one type, which is passed to the constructor.
 ///
 /// Its PostEvent() hides that of the base class. Otherwise the compiler would choose an overload of the base class for
 /// PostEvent(value, number). For another event, call wxGUIThread::PostEvent(...).
@@ -174,8 +174,8 @@ public:
 
     /// @name Posting
     ///
-    /// Does the same as wxGUIThread::PostEvent() with the type that the constructor got. The results and the ownership
-    /// of the data are described there. A call PostEvent(value, 0) is ambiguous: write 0L or nullptr.
+    /// Does the same as wxGUIThread::PostEvent() with the type that was passed to the constructor. The results and the
+    /// ownership of the data are described there. A call PostEvent(value, 0) is ambiguous: write 0L or nullptr.
     /// @{
     bool PostEvent(int value);              ///< Posts an event with that int.
     bool PostEvent(int value, long extra);  ///< Posts an event with that int and extra long.

@@ -13,7 +13,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-// In milliseconds: some thirty years. The clock can add this time to the present one without an overflow.
+// In milliseconds: about thirty years. Adding it to the current time does not overflow the clock.
 constexpr std::uint64_t kLongestWait = 1'000'000'000'000;
 
 // The longest time that a wait keeps windows from being painted.
@@ -59,7 +59,7 @@ private:
 
         static pthread_key_t NewKey()
         {
-            pthread_key_t key = PTHREAD_KEYS_MAX;  // an invalid key, for the case that the system has no more keys
+            pthread_key_t key = PTHREAD_KEYS_MAX;  // stays an invalid key if the system has no more keys
             pthread_key_create(&key, [](void* owner) {
                 static thread_local int round = 0;
                 if (++round < 2)

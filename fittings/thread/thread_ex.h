@@ -37,7 +37,7 @@ class wxThreadExImpl;
 /// again: make another one.
 ///
 /// - The class does not pause the work or end it early. Entry() may ask wxThread::This(), the toolkit's detached
-///   thread, for its id or TestDestroy(). The host must know whether anyone calls that thread's Pause() or Delete().
+///   thread, for its id or TestDestroy(). Whether some code calls that thread's Pause() or Delete() is up to the host.
 /// - The destructor waits, but only after the members of the derived class are destroyed. A thread that begins only
 ///   then finds no Entry() to call and aborts the process. So call Wait() before, in the owner or in the destructor of
 ///   the most derived class.

@@ -36,8 +36,8 @@ class wxImageList;
 /// last one in the tree decides whether the label is saved, and loading expands all of them. A label that contains "|"
 /// counts as two labels. The state is kept in the default store, section "TreeControlState".
 ///
-/// A screen reader says the label of the item that has the focus. It also says the label of the control: the static
-/// text that is created just before the control, or the text of SetLabel().
+/// A screen reader announces the label of the item that has the focus. It also announces the label of the control: the
+/// static text that is created just before the control, or the text of SetLabel().
 ///
 /// GUI thread only.
 class FITTINGS_API wxHandyTreeCtrl : public wxTreeCtrlEx
@@ -121,7 +121,7 @@ public:
     /// must skip the event if the item is to be filled.
     void OnEvtItemExpanding(wxTreeEvent& event);
 
-    /// Tells assistive technologies of the item that has the focus in the tree.
+    /// Tells assistive technologies which item has the focus in the tree.
     void OnInternalIdle() override;
 
     /// Called each time an item is about to expand. Override it to add the children. The default does nothing.

@@ -63,7 +63,7 @@ public:
 private:
     struct VisitedItem
     {
-        wxTreeItemId item;  // Invalid after it was deleted.
+        wxTreeItemId item;  // Invalid once it is deleted.
         ChildCursor here;   // Where the item was among its siblings when it was found.
         ChildCursor next;
     };

@@ -39,8 +39,8 @@ private:
     guint m_signal;
 };
 
-/// Inserts a text in UTF-8, and moves @a position behind the text. The toolkit does not take the text for typed
-/// characters.
+/// Inserts a text in UTF-8, and moves @a position to the end of the inserted text. The toolkit does not take the text
+/// for typed characters.
 void InsertUntyped(GtkEntry* entry, void* toolkit, const std::string& text, int& position);
 
 }  // namespace fittings

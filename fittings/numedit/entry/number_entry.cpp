@@ -108,8 +108,8 @@ void NumberEntry::OnDelete(GtkEditable* entry, int begin, int end, NumberEntry* 
     self->Deleting(begin, end);
 }
 
-/// Inserts a dropped text as GTK does, but tells the source when the text was refused. GTK would tell the source that
-/// every text was taken, and the source would then delete a text that is moved.
+/// Inserts a dropped text as GTK does, but tells the source when the text was refused. GTK would report every text as
+/// taken, and a source that moves its text would then delete it.
 void NumberEntry::OnDropped(GtkWidget* entry, GdkDragContext* drag, int x, int, GtkSelectionData* data, unsigned,
                             unsigned time, NumberEntry* self)
 {

@@ -57,7 +57,7 @@ public:
     /// While an object of this class exists, changes by the program are not checked.
     class Free;
 
-    /// Calls @a action after the present event, before any other input.
+    /// Calls @a action after the current event, before any other input.
     void Soon(std::function<void()> action);
 
 private:

@@ -23,7 +23,7 @@ struct Deletion
     EntrySelection selection;
 };
 
-/// The text that a control has lost during the present key. The control's GtkEntry owns the object.
+/// The text that a control has lost to the current key. The control's GtkEntry owns the object.
 struct Key
 {
     wxTextCtrl& control;
@@ -52,7 +52,7 @@ void OnInserted(GtkEditable*, const char*, int, int*, Key* key)
     key->deletion.reset();
 }
 
-// Restores the selection: GTK moves the caret behind the text that it believes to be inserted, which ends the
+// Restores the selection: GTK moves the caret to the end of the text that it believes to be inserted, which ends the
 // selection.
 void OnSelectionEnded(GtkEditable* editable, GParamSpec*, Key* key)
 {

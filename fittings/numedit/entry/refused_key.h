@@ -11,7 +11,7 @@ namespace fittings {
 /// character is kept.
 void BeginKey(wxTextCtrl& control);
 
-/// Restores the text that the present key has deleted, with the caret and the selection. No event is sent, and the
+/// Restores the text that the current key has deleted, with the caret and the selection. No event is sent, and the
 /// modified state does not change. Does nothing if nothing was deleted.
 void UndoKey(wxTextCtrl& control);
 

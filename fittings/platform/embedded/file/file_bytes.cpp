@@ -26,7 +26,7 @@ constexpr std::chrono::milliseconds kTimeToFillAFile(500);
 constexpr std::chrono::milliseconds kTimeToExchange(500);
 constexpr std::chrono::milliseconds kPause(1);
 
-// The number of merges in one save. Each merge needs another change at the very moment of an exchange.
+// The number of merges in one save. Each merge is caused by another change at the very moment of an exchange.
 constexpr int kMaxMerges = 100;
 
 bool IsBefore(const timespec& a, const timespec& b)
@@ -34,7 +34,7 @@ bool IsBefore(const timespec& a, const timespec& b)
     return a.tv_sec != b.tv_sec ? a.tv_sec < b.tv_sec : a.tv_nsec < b.tv_nsec;
 }
 
-// Whether @a now is later than the file's timestamp can resolve: a file that changes from now on gets another
+// Whether @a now is later than the file's timestamp can resolve, so that a file that changes from now on gets another
 // timestamp. Some file systems store only whole seconds, and some only even seconds.
 bool IsPastTick(const timespec& stamp, const timespec& now)
 {
@@ -67,7 +67,7 @@ bool ReadAll(int fd, std::size_t expected, std::string& bytes)
 }
 
 // Returns the path that the links at the end of @a path lead to, even if there is no file yet. Returns nothing on an
-// error. For a circle of links, returns a path that cannot be opened.
+// error. For a loop of links, returns a path that cannot be opened.
 std::optional<std::string> FollowLinks(std::string path)
 {
     for (int links = 0; links < 40; ++links) {
@@ -168,7 +168,7 @@ struct Exchanged
 };
 
 // Called after an exchange. If the displaced content is not the expected one, merges it with our change and exchanges
-// again. A change that somebody makes meanwhile is displaced and merged in turn.
+// again. A change that another process makes meanwhile is displaced and merged in the same way.
 UpdateResult MergeDisplaced(const Target& target, const Exchanged& done, const FileUpdate& update, int merges = 0)
 {
     const auto displaced = ReadDisplaced(done.staged, done.before, done.expected.empty());
@@ -188,8 +188,7 @@ UpdateResult MergeDisplaced(const Target& target, const Exchanged& done, const F
 }
 
 // A lock of the folder: only the holder of the lock exchanges a file in the folder. The lock is held for the
-// microseconds between the last check of the file and the exchange. Nobody can remove the lock, as they could remove a
-// lock file.
+// microseconds between the last check of the file and the exchange. Unlike a lock file, this lock cannot be removed.
 class ExchangeLock
 {
 public:

@@ -40,7 +40,7 @@ struct FileContent
 {
     ReadResult result;
     std::optional<FileIdentity> identity;
-    /// Whether every later change of the file changes its identity. False when the file was changed within the present
+    /// Whether every later change of the file changes its identity. False when the file was changed within the current
     /// tick of the clock that sets file timestamps.
     bool isSettled = false;
 
@@ -75,8 +75,8 @@ struct FileUpdate
     std::string_view foundBytes;
     std::string newBytes;
 
-    /// Returns the merged content if the file held @a displaced, and not @a expected, when @a put replaced it. Returns
-    /// nothing when @a displaced is not a settings file.
+    /// Returns the merged content for a file that held @a displaced, and not @a expected, when @a put replaced it.
+    /// Returns nothing when @a displaced is not a settings file.
     using Merge = std::function<std::optional<std::string>(std::string_view expected, std::string_view put,
                                                            std::string_view displaced)>;
     Merge merge;

@@ -97,7 +97,7 @@ StagedFile::StagedFile(std::string target, std::string_view bytes, const struct 
 {
     const std::string folder = FolderOf(m_target);
     RemoveLeftovers(folder);
-    // Use the open file and not its name: the folder's owner can put a link to a file of root in its place meanwhile.
+    // Use the open file and not its name: the folder's owner can replace it meanwhile by a link to a file of root.
     const FileDescriptor file(MakeFile(folder, m_path));
     if (file.Get() < 0)
         return;

@@ -18,7 +18,7 @@ class DefaultStore
 public:
     static DefaultStore& Instance();
 
-    /// Returns the path of the file in the present user data directory.
+    /// Returns the path of the file in the current user data directory.
     std::string Path();
 
     std::optional<std::wstring> Get(std::wstring_view section, std::wstring_view key);

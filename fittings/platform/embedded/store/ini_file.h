@@ -21,8 +21,8 @@ class CIniFile
 public:
     using Reader = std::function<decltype(fittings::ReadFileBytes)>;
 
-    /// Reads the file in place of the present content. Returns false when the file could not be read, or when its
-    /// bytes have no settings and are not readable text.
+    /// Replaces the content with that of the file. Returns false when the file could not be read, or when its bytes
+    /// have no settings and are not readable text.
     bool Load(const std::string& path, const Reader& read = fittings::ReadFileBytes);
 
     /// Loads the file and applies the changes to the loaded content, unless the file has certainly not changed since
@@ -34,8 +34,7 @@ public:
     /// Does the same for a path in wide text. The path of the last call is not converted again.
     bool Refresh(std::wstring_view path);
 
-    /// Reads @a text in place of the present content. Returns false when it has no settings and is not
-    /// readable text.
+    /// Replaces the content with @a text. Returns false when it has no settings and is not readable text.
     bool Parse(std::string text);
 
     /// Writes the file if its bytes change.

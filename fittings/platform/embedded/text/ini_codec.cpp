@@ -54,8 +54,8 @@ void AppendHex(std::string& out, char32_t code, int minDigits)
         out += "0123456789ABCDEF"[(code >> (4 * digits)) & 0xF];
 }
 
-// Appends an escaped character: after @a byteMark two hexadecimal digits for a byte or an ASCII character, or after @a
-// codeMark a number and a closing brace.
+// Appends an escaped character. For a byte or an ASCII character: @a byteMark and two hexadecimal digits. For any other
+// character: @a codeMark, a hexadecimal number and a closing brace.
 void AppendNumber(std::string& out, char32_t code, std::string_view byteMark, std::string_view codeMark)
 {
     if (code < 0x80 || IsByte(code)) {

@@ -17,7 +17,7 @@ std::string EncodeName(std::wstring_view text);
 /// Returns the text that a name in a file stands for, even if another program or a person wrote the name.
 std::wstring DecodeName(std::string_view name);
 
-/// Whether a byte may stand unencoded at any place of every name.
+/// Whether a byte needs no encoding at any place in a name.
 bool IsPlainInName(char byte);
 
 /// Returns @a text as a value: unchanged if it is then read back exactly, otherwise in quotes.

@@ -29,7 +29,7 @@ std::size_t PlainLength(std::string_view text)
     return length;
 }
 
-// Whether the suffix is like that of the key Name[de]: letters, digits and a few marks in brackets, with nothing behind
+// Whether the suffix is like that of the key Name[de]: letters, digits and a few marks in brackets, with nothing after
 // them.
 bool IsLocaleSuffix(std::string_view suffix)
 {

@@ -17,7 +17,7 @@ namespace fittings {
 ///
 /// Names and values are as EncodeName() and EncodeValue() write them. A name that a person has written in another way
 /// is found by its meaning. If several lines have the same key, the last one counts. A line whose section and key are
-/// written as EncodeName() does takes precedence over the others.
+/// as EncodeName() writes them takes precedence over the others.
 class IniText
 {
 public:
@@ -83,7 +83,7 @@ private:
     {
         std::string_view name;
         std::size_t line = kNone;  ///< The line that counts. kNone: the key is new.
-        bool hasOwnName = false;   ///< Section and key stand in the line as EncodeName() writes them.
+        bool hasOwnName = false;   ///< The line has section and key as EncodeName() writes them.
         State state = State::AsRead;
         std::string value = {};  ///< The value that was set.
     };
@@ -93,7 +93,7 @@ private:
         std::string_view name;
         std::vector<Entry> entries = {};
         std::unordered_map<std::string_view, std::size_t> indices = {};  ///< Indices of the entries, by name.
-        std::size_t lastLine = kNone;  ///< The line behind which new keys go. kNone: the section is new.
+        std::size_t lastLine = kNone;  ///< The line after which new keys are inserted. kNone: the section is new.
         bool hasOwnName = false;       ///< True if the last line is below a section line as EncodeName() writes it.
         bool isMade = false;           ///< True after AddSection().
         bool isRemoved = false;
