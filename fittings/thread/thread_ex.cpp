@@ -73,11 +73,11 @@ private:
         static void Tell(wxThreadEx* owner)
         {
             // Signal under the lock: once it is free, the owner may destroy the condition and the mutex.
-            const wxMutexLocker lock(owner->m_mutex);
+            const std::lock_guard<std::mutex> lock(owner->m_mutex);
             owner->m_finished = true;
             if (owner->m_atEnd)
                 owner->m_atEnd(owner->m_exitCode);
-            owner->m_condition.Signal();
+            owner->m_condition.notify_one();
         }
 
         wxThreadEx* const owner;
@@ -127,10 +127,10 @@ wxThread::ExitCode wxThreadEx::Wait()
 {
     if (m_detached || !m_running)
         return kNoExitCode;
-    const wxMutexLocker lock(m_mutex);
+    std::unique_lock<std::mutex> lock(m_mutex);
     // A condition may wake up without a signal.
     while (!m_finished)
-        m_condition.Wait();
+        m_condition.wait(lock);
     return m_exitCode;
 }
 
@@ -141,10 +141,9 @@ bool wxThreadEx::WaitFor(unsigned long milliseconds)
     const auto deadline = Clock::now() + std::chrono::milliseconds(std::min<std::uint64_t>(milliseconds, kLongestWait));
     for (;;) {
         {
-            const wxMutexLocker lock(m_mutex);
-            const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now());
-            if (!m_finished && left.count() > 0)
-                m_condition.WaitTimeout(static_cast<unsigned long>(std::min(left, kPaintInterval).count()));
+            std::unique_lock<std::mutex> lock(m_mutex);
+            m_condition.wait_until(lock, std::min(deadline, Clock::now() + kPaintInterval),
+                                   [this] { return m_finished; });
             if (m_finished || Clock::now() >= deadline)
                 return m_finished;
         }
@@ -154,6 +153,6 @@ bool wxThreadEx::WaitFor(unsigned long milliseconds)
 
 bool wxThreadEx::HasEnded() const
 {
-    const wxMutexLocker lock(m_mutex);
+    const std::lock_guard<std::mutex> lock(m_mutex);
     return m_finished;
 }

@@ -1,7 +1,9 @@
 #ifndef FITTINGS_THREAD_THREAD_EX_H_
 #define FITTINGS_THREAD_THREAD_EX_H_
 
+#include <condition_variable>
 #include <functional>
+#include <mutex>
 
 #include <wx/thread.h>
 
@@ -99,8 +101,8 @@ public:
 private:
     friend class wxThreadExImpl;
 
-    mutable wxMutex m_mutex{wxMUTEX_DEFAULT};  // guards m_finished and m_exitCode
-    wxCondition m_condition{m_mutex};
+    mutable std::mutex m_mutex;           // guards m_finished and m_exitCode
+    std::condition_variable m_condition;  // not the toolkit's, whose wait depends on the time of day
     const bool m_detached;
     bool m_running = false;
     bool m_finished = false;

@@ -109,6 +109,25 @@ TEST_P(ClockJumps, NeitherEndNorProlongTheWaitForAThread)
     EXPECT_EQ(code, Code(42));
 }
 
+TEST_P(ClockJumps, NeitherEndNorProlongAWaitOfLimitedTime)
+{
+    HeldThread held;
+    ASSERT_TRUE(held.thread.started.Wait());
+    Clock::duration waited{0};
+    {
+        Helper waiter([&] {
+            clock.Jump(GetParam());
+            const auto start = Clock::now();
+            EXPECT_FALSE(held.thread.WaitFor(70));
+            waited = Clock::now() - start;
+        });
+        EXPECT_TRUE(waiter.Ends());
+        held.go.Set();
+    }
+    EXPECT_GE(waited, std::chrono::milliseconds(70));
+    EXPECT_LT(waited, Patience() * std::chrono::seconds(30));
+}
+
 TEST_P(ClockJumps, DoNotKeepAThreadsEventsNorStopIt)
 {
     Recorder handler;

@@ -1,6 +1,9 @@
 // A condition that wakes up without a signal, which POSIX allows.
 
 #include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
 
 #include <gtest/gtest.h>
 
@@ -13,17 +16,20 @@ std::atomic<int> g_wakeUpsToCome{0};
 
 }  // namespace
 
-// Replaces the toolkit's wait for a condition. It waits as the toolkit does, but returns early if a test asks for it.
-extern "C" wxCondError WaitForCondition(wxCondition* condition) __asm__("_ZN11wxCondition4WaitEv");
+// Replaces the standard library's wait for a condition. It waits as that does, but returns early if a test asks for it.
+extern "C" void WaitForCondition(std::condition_variable* condition, std::unique_lock<std::mutex>* lock) __asm__(
+    "_ZNSt18condition_variable4waitERSt11unique_lockISt5mutexE");
 
-extern "C" wxCondError WaitForCondition(wxCondition* condition)
+extern "C" void WaitForCondition(std::condition_variable* condition, std::unique_lock<std::mutex>* lock)
 {
-    static const auto original = ReplacedFunction<wxCondError(wxCondition*)>("_ZN11wxCondition4WaitEv");
+    static const auto original = ReplacedFunction<void(std::condition_variable*, std::unique_lock<std::mutex>*)>(
+        "_ZNSt18condition_variable4waitERSt11unique_lockISt5mutexE");
     if (g_wakeUpsToCome > 0) {
         --g_wakeUpsToCome;
-        return condition->WaitTimeout(1) == wxCOND_TIMEOUT ? wxCOND_NO_ERROR : wxCOND_MISC_ERROR;
+        condition->wait_for(*lock, std::chrono::milliseconds(1));
+        return;
     }
-    return original(condition);
+    original(condition, lock);
 }
 
 namespace {
