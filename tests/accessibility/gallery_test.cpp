@@ -76,7 +76,7 @@ TEST_P(ScreenReaderInTheGallery, HasANameForAllThatTakesTheFocus)
 }
 
 // Tab skips tool bar buttons. Each of them has a key, which its description names. In a scroll pane, the content takes
-// the focus. In a choice, the part that takes the focus is not accessible.
+// the focus. In a wxChoice, the part that takes the focus is not accessible.
 TEST_P(ScreenReaderInTheGallery, IsLedByTabToAllThatTakesTheFocus)
 {
     std::set<std::string> expected;

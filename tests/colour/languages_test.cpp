@@ -48,7 +48,7 @@ void ExpectNames(const Lines& lines, const std::array<const char*, 40>& names)
         EXPECT_EQ(lines.at("name " + std::to_string(i)), names.at(i)) << i;
 }
 
-// Expects the popup to be as wide as the wider text, and as high as with two boxes for the higher text.
+// Expects the popup to be as wide as the wider text needs, and as high as two boxes for the higher text need.
 void ExpectSizeOfTexts(const Lines& lines)
 {
     const Size automatic = SizeIn(lines, "automatic-size");

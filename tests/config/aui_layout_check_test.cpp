@@ -22,7 +22,7 @@ const std::wstring kList = L"name=list;caption=;state=768;dir=5;layer=0;row=0;po
 const std::wstring kDocks = L"dock_size(4,1,0)=152|dock_size(5,0,0)=22|";
 const std::wstring kWhole = L"layout2|" + kTree + kList + kDocks;
 
-/// Returns the whole layout with the first @a part in it replaced.
+/// Returns the complete layout with the first @a part replaced.
 std::wstring With(const std::wstring& part, const std::wstring& replacement)
 {
     std::wstring layout = kWhole;
@@ -45,7 +45,7 @@ TEST(AuiLayout, IsWhatTheToolkitWrites)
 TEST(AuiLayout, IsNotATextThatIsCut)
 {
     for (std::size_t length = 0; length < kWhole.size(); ++length) {
-        // A text that is cut between two panes or docks is still a whole layout.
+        // A text that is cut between two panes or docks is still a complete layout.
         const bool isBetweenParts = length > 0 && kWhole[length - 1] == L'|';
         EXPECT_EQ(IsLayout(kWhole.substr(0, length)), isBetweenParts) << "after " << length;
     }

@@ -182,7 +182,7 @@ protected:
         before = frame.manager.SavePerspective();
     }
 
-    /// Returns the whole layout with @a part in it replaced.
+    /// Returns the complete layout with @a part replaced.
     wxString With(const wxString& part, const wxString& replacement) const
     {
         wxString layout = whole;

@@ -29,7 +29,7 @@ std::wstring ValueIn(const std::wstring& file)
     return ui_config_mgr::GetConfigString(file.c_str(), L"s", L"k");
 }
 
-/// A file name under which no file can be made.
+/// A file name that no file can have.
 struct Name
 {
     const char* name;

@@ -10,7 +10,7 @@
 
 namespace {
 
-// Takes ownership of a text of GLib, which may be null.
+// Takes ownership of a string from GLib, which may be null.
 std::string Take(char* text)
 {
     std::string result = text ? text : "";

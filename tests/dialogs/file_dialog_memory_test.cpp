@@ -1,4 +1,4 @@
-// Which file the save dialog proposes, and when it remembers which one.
+// Which file the save dialog proposes, and when it remembers a file.
 
 #include <fittings/dialogs/file_dialog.h>
 

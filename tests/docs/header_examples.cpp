@@ -1,5 +1,5 @@
-// The examples in the comments of the public headers, word for word, each in the code that it needs. The tests run
-// those that work alone.
+// The examples in the comments of the public headers, word for word, each with the code that it needs around it. The
+// tests run the examples that need no user.
 
 #include <cstdint>
 #include <memory>
@@ -33,7 +33,7 @@
 #include <tests/support/gui.h>
 #include <tests/support/temp_folder.h>
 
-// The parts that the examples leave to the program.
+// What the examples expect the program to have.
 namespace header_examples {
 
 using Bytes = std::vector<unsigned char>;

@@ -1,6 +1,6 @@
 // home_probe REGISTERED [store]: prints the user data directory and the folder "Samples" of the application's
-// documents, one a line. The user's home folder in the password database is REGISTERED; with "none" the user is not in
-// the database. With "store" it first stores a value, and exits with 1 if that fails.
+// documents, one per line. The user's home folder in the password database is REGISTERED; with "none" the user is not
+// in the database. With "store" it first stores a value, and exits with 1 if that fails.
 
 #include <cerrno>
 #include <cstdio>

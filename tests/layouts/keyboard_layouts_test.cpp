@@ -104,7 +104,7 @@ TEST_P(KeyboardLayouts, LeadThroughTheColourPopup)
         const char* key;
         int cell;
     };
-    // The keys move down over "More Colours...", "Automatic" and the first cell, once around the popup.
+    // The keys move down through "More Colours...", "Automatic" and the first cell, and then once around the popup.
     for (const Step& step : {Step{"116", -2}, Step{"116", -3}, Step{"116", 0}, Step{"114", 1}, Step{"116", 9},
                              Step{"113", 8}, Step{"111", 0}, Step{"114", 1}}) {
         Press(step.key);

@@ -145,7 +145,7 @@ TEST(FormatControlText, RoundsToAnInteger)
     EXPECT_EQ(Rounded(L"2.", 0), L"2");
     EXPECT_EQ(Rounded(L"5.", 0), L"5");
     EXPECT_EQ(Rounded(L"5", 0), L"5");
-    // Without a digit in front of the point, the result is only the carry; without a carry no digit is left.
+    // If no digit precedes the point, a carry becomes the only digit. Without a carry, no digit is left.
     EXPECT_EQ(Rounded(L"-.5", 0), L"-1");
     EXPECT_EQ(Rounded(L"-.4", 0), L"-");
     EXPECT_EQ(Rounded(L"+.9", 0), L"1");
@@ -316,7 +316,7 @@ TEST(FormatControlText, TakesAnyCharacterForThePoint)
     format.m_chDecimalPoint = L'e';
     EXPECT_EQ(Shown(L"1.50", format), L"1e50");
     EXPECT_EQ(Shown(L"1.5e3", format), L"1e5e3");
-    // Each of the locale's points is replaced. Here the second one begins an exponent.
+    // Every "." becomes the format's point "e". The second "e" is read as the letter of an exponent.
     EXPECT_EQ(Shown(L"1.5.3", format), L"1e5e3");
     format.m_chDecimalPoint = L'-';
     EXPECT_EQ(Shown(L".5", format), L"0-5");

@@ -227,7 +227,8 @@ TEST(CurrentConversion, ReadsSeparatorsBeyondAscii)
     EXPECT_EQ(Shown(L"1٫5", CNumberFormat(eFixedFormat)), L"1.50");
 }
 
-// The grammar and the format use only the first character of a point. A replacement of the point replaces all of it.
+// The grammar and the format use only the first character of the locale's point. When the point is replaced, all of its
+// characters are.
 TEST(CurrentConversion, MayMakeSeveralCharactersOfThePoint)
 {
     const ScopedLocale pashto("ps_AF.UTF-8");

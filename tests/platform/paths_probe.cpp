@@ -1,5 +1,5 @@
 // paths_probe [--app [NAME]]: prints the user data directory and the folder "Samples" of the application's documents,
-// one a line. With --app it has an application object, named NAME if that is given.
+// one per line. With --app it has an application object, named NAME if that is given.
 
 #include <cstdio>
 #include <string>

@@ -3,8 +3,8 @@
 
 #include <cstdlib>
 
-/// Returns how many times longer than usual the tests wait: FITTINGS_TEST_PATIENCE if a tool makes everything slow,
-/// otherwise 1. Every deadline is multiplied by this number.
+/// Returns how many times longer than usual the tests wait: FITTINGS_TEST_PATIENCE, which is set if a tool makes
+/// everything slow, otherwise 1. Every deadline is multiplied by this number.
 inline int Patience()
 {
     static const int patience = [] {

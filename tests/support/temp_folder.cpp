@@ -18,7 +18,7 @@ namespace {
 
 constexpr const char* kMemory = "/dev/shm";
 
-/// Restores the rights that a test has taken from folders: only root could empty them otherwise.
+/// Restores the rights that a test has removed from folders. Otherwise only root could empty them.
 void OpenFolders(const std::filesystem::path& folder)
 {
     std::error_code ignored;

@@ -243,7 +243,7 @@ TEST(SeveralOwners, EachRunTheirOwnThreadAtTheSameTime)
 
 // --- The GUI thread --------------------------------------------------------------------------------------------------
 
-/// Stops a worker and waits for it, in whatever way the test ends.
+/// Stops a worker and waits for it, however the test ends.
 struct Stopped
 {
     ~Stopped()
@@ -418,7 +418,7 @@ TEST_F(PostedToAWindow, ArrivesInTheLoopOfAModalDialog)
     EXPECT_EQ(last, 5);
 }
 
-// The handler stops, awaits and destroys its worker, as the Cancel button of a progress window does.
+// The handler stops its worker, waits for it and destroys it, as the Cancel button of a progress window does.
 TEST_F(PostedToAWindow, MayEndAndDestroyItsWorker)
 {
     std::vector<int> seen;

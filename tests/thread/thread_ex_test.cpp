@@ -123,7 +123,7 @@ TEST(Wait, BlocksUntilThreadLocalObjectsAreDestroyed)
     });
 }
 
-// The toolkit keeps its data of a thread as the thread's value of a key, as this test does.
+// The toolkit stores its data for each thread with pthread_setspecific(), as this test does.
 TEST(Wait, BlocksUntilTheValuesOfKeysAreDestroyed)
 {
     static Signal over;

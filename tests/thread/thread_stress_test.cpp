@@ -92,7 +92,8 @@ TEST(AThousandCycles, OfStartPostStopAndWaitLoseNothing)
         handler.handled = 0;
         auto worker = std::make_unique<EndlessPoster>(handler);
         ASSERT_EQ(worker->RunThread(), wxTHREAD_NO_ERROR);
-        // Every other worker is stopped without waiting for an event, so at a random moment after its start.
+        // Every other worker is stopped without waiting for an event. So it is stopped at a random moment after its
+        // start.
         const int awaited = cycle % 2;
         ASSERT_TRUE(PumpUntil([&] { return handler.total >= awaited; }, 30000));
         worker->StartKill();

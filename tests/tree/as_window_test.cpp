@@ -51,7 +51,7 @@ TEST(TreeCtrlCreate, OfTheToolkitIsThereForTheHandyOneToo)
     PumpPending();
 }
 
-// Neither class has run-time type information of its own: the toolkit sees a tree control.
+// Neither class has class information of its own: the toolkit sees a wxTreeCtrl.
 TEST(TreeCtrlClass, IsTheToolkits)
 {
     const TreeOnScreen<wxTreeCtrlEx> ex;

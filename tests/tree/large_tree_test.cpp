@@ -16,7 +16,7 @@ namespace {
 
 constexpr int kWidth = 100'000;
 
-/// Counts the calls of a walk. Each call by sibling takes time in proportion to the number of siblings.
+/// Counts the calls of a walk. Each call for the next sibling takes time in proportion to the number of siblings.
 class CountingTree : public wxHandyTreeCtrl
 {
 public:

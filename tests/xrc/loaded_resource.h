@@ -22,7 +22,7 @@ public:
     /// Creates the panel with that name in a new frame.
     wxPanel* MakePanel(const std::string& name);
 
-    /// Returns the reported errors, one message a line.
+    /// The reported errors, one message per element.
     std::vector<std::string> errors;
 
 protected:
@@ -32,7 +32,8 @@ private:
     wxFrame* m_frame = nullptr;
 };
 
-/// This class is not a control, though the resource uses it as a subclass of one. Nobody owns the objects in `made`.
+/// This class is not a control, although the resource uses it as the subclass of one. Nobody owns the objects in
+/// `made`.
 class StrayObject : public wxObject
 {
 public:

@@ -195,7 +195,7 @@ TEST_P(AsComboCtrl, DoesNotTellOfTheNameOfAColourThatIsNotChosen)
     EXPECT_EQ(on.popup->GetStringValue(), "Red");
     Press(WXK_ESCAPE);
     ExpectClosed();
-    // Like the toolkit's own popups, a cancelled popup returns the value that it was opened with.
+    // As in the toolkit's own popups, a cancel restores the value that the popup was opened with.
     EXPECT_EQ(log.Take(),
               hasField ? (Notes{"dropdown", "popup", "cancel", "text Lime"}) : (Notes{"dropdown", "popup", "cancel"}));
     EXPECT_EQ(combo.GetValue(), "Lime");

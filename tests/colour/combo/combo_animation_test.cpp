@@ -52,7 +52,7 @@ TEST(ColourOutline, GrowsFromTheMiddle)
                                                 {200, wxRect(100, 200, 148, 162)}});
 }
 
-// Half the size of the popup and half the size of the outline are each truncated to whole pixels.
+// Half of the popup's size and half of the outline's size are each rounded down to whole pixels.
 TEST(ColourOutline, HasItsMiddleInWholePixels)
 {
     ExpectOutlines(wxRect(11, 21, 149, 95),

@@ -64,7 +64,7 @@ template <typename Combo = OpenCombo, typename Popup = OpenPopup>
 class ComboOnScreen
 {
 public:
-    /// @a prepare gets the popup before the combo owns it.
+    /// Calls @a prepare with the popup before the combo owns it.
     explicit ComboOnScreen(long style = wxCB_READONLY, const std::function<void(Popup&)>& prepare = {})
         : frame(new wxFrame(nullptr, wxID_ANY, "combo", wxPoint(200, 150), wxSize(500, 400))),
           panel(new wxPanel(frame)), combo(new Combo), popup(new Popup)

@@ -40,7 +40,7 @@ public:
 class PopupInFrame
 {
 public:
-    /// @a prepare gets the popup before its window is created.
+    /// Calls @a prepare with the popup before its window is created.
     explicit PopupInFrame(const std::function<void(OpenPopup&)>& prepare = {})
         : frame(new wxFrame(nullptr, wxID_ANY, "colours", wxPoint(100, 100), wxSize(300, 260))), popup(new OpenPopup)
     {

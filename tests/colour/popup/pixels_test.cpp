@@ -113,7 +113,7 @@ TEST_F(ColourPixels, OfTheGrid)
 {
     popup->m_nChosenColourSel = 5;
     popup->DoDrawControl(&picture.dc);
-    // A row through the black cells. The other seven colours have no letter.
+    // A row through a black cell (#). The other seven colours have no letter of their own (?).
     EXPECT_EQ(Row(11), "1. 1H 3f 1s 10# 1s 6f 1s 10? 1s 6f 1s 10? 1s 6f 1s 10? 1s 6f 1s 10? 1s 3f "
                        "1s 1D 1H 1s 10? 1s 1f 2H 3f 1s 10? 1s 6f 1s 10? 1s 2f 1s 1D 1.");
     EXPECT_EQ(Column(11, 94), "1. 1H 3f 1s 10# 1s 6f 1s 10? 1s 6f 1s 10? 1s 6f 1s 10? 1s 6f 1s 10? 1s 2f 1s 1D 1.");

@@ -13,7 +13,7 @@
 
 using Calls = std::vector<std::string>;
 
-/// Records what is drawn, one call a line:
+/// Records what is drawn, one call per line:
 ///
 ///   palette                            the palette is set
 ///   rect 2,2 18x18 FACE FACE           position, size, colour of the outline and of the inside

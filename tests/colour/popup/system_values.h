@@ -5,7 +5,7 @@
 
 #include <wx/colour.h>
 
-/// The colours of the test theme, no two alike. They replace the desktop's while a PinnedTheme exists.
+/// The colours of the test theme, all different. They replace the desktop's while a PinnedTheme exists.
 inline const wxColour kFace(201, 202, 203);
 inline const wxColour kShadow(121, 122, 123);
 inline const wxColour kHighlight(251, 252, 253);
@@ -20,7 +20,7 @@ public:
     PinnedTheme& operator=(const PinnedTheme&) = delete;
 };
 
-/// Sets the width of an edge that the system reports while the object exists.
+/// While the object exists, the system reports this width of an edge.
 class PinnedEdge
 {
 public:

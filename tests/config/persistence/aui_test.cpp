@@ -128,7 +128,7 @@ TEST(DamagedLayout, LoadsNothing)
         layout = frame.manager.SavePerspective().ToStdWstring();
     }
     for (std::size_t length = 1; length + 1 < layout.size(); length += 9) {
-        // A text that is cut between two fields is still a whole layout.
+        // A text that is cut between two panes or docks is still a complete layout.
         if (layout[length - 1] == L'|')
             continue;
         StoreValue(kKind, L"Layout", layout.substr(0, length));

@@ -28,7 +28,7 @@ extern "C" int fsync(int fd)
 
 namespace {
 
-/// A frame with a splitter, a book of two pages, a list and a tree in it, all of them persistent.
+/// A frame that contains a splitter, a book of two pages, a list and a tree, all of them persistent.
 class FullFrame : public wxFrame
 {
 public:

@@ -42,8 +42,9 @@ bool SettlesAt(const wxTopLevelWindow& window, const wxRect& rect)
     return PumpUntil([&] { return !window.IsMaximized() && window.GetScreenRect() == rect; });
 }
 
-/// Returns whether the window gets that rectangle, give or take a border. On a busy machine, the window manager places
-/// the restored frame with the decorations of the maximised one, so the position is wrong by the width of a border.
+/// Waits until the window has that rectangle, except for the width of a border. On a busy machine, the window manager
+/// places the restored frame with the decorations of the maximised one, so the position is wrong by the width of a
+/// border.
 bool SettlesNear(const wxTopLevelWindow& window, const wxRect& rect)
 {
     constexpr int kBorder = 2;

@@ -33,7 +33,7 @@ inline std::vector<wxString> GroupNames(const wxConfigBase& config)
     return names;
 }
 
-/// Returns the contents of the current group as an INI file in which each group has a line.
+/// Returns the contents of the current group as an INI file, with a line for each group.
 inline wxString Dump(wxConfigBase& config)
 {
     wxString text;

@@ -1,9 +1,9 @@
-// first_frame_probe KIND store X;Y;WIDTH;HEIGHT: shows a frame, gives it this geometry, or with "corner" 500 x 340
-// pixels in the corner of the work area, and stores it. first_frame_probe KIND restore: restores a frame and shows it
-// as the first window of the process. Both print the geometry on the screen once it is the expected one and stays so,
-// otherwise the last one that was seen. KIND is "plain", "menu" or "fixed"; "persistent" for a plain frame that
-// the toolkit's persistence restores and stores; or "corrected" for a plain frame that is restored after the window
-// manager has announced decorations of another size.
+// first_frame_probe KIND store X;Y;WIDTH;HEIGHT: shows a frame, gives it this geometry, and stores it. With "corner" in
+// place of the geometry, the frame is in the corner of the work area, 500 x 340 pixels large. first_frame_probe KIND
+// restore: restores a frame and shows it as the first window of the process. Both wait until the geometry on the screen
+// is the expected one and stays so, and print it. If that does not happen, they print the last geometry. KIND is
+// "plain", "menu" or "fixed"; "persistent" for a plain frame that the toolkit's persistence restores and stores; or
+// "corrected" for a plain frame that is restored after the window manager has announced decorations of another size.
 
 #include <cstdio>
 #include <cstdlib>
@@ -68,8 +68,8 @@ wxRect OnScreen(const wxFrame& frame)
     return rect;
 }
 
-/// Announces decorations of another size than the frame gets, as some window managers do, and waits for the toolkit to
-/// see it.
+/// Announces decorations of another size than the frame gets, as some window managers do, and waits until the toolkit
+/// has noticed.
 void TellOtherDecorations(wxFrame& frame)
 {
     GdkWindow* const window = gtk_widget_get_window(frame.GetHandle());

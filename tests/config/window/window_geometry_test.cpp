@@ -18,7 +18,7 @@
 
 namespace {
 
-// The results of the calls for any window and for a frame.
+// True if SaveState() for this class of window returns nothing and LoadState() returns a bool.
 template <typename Window>
 constexpr bool kSavesNothingAndLoadsBool =
     std::is_void_v<decltype(wx_window_state::SaveState(static_cast<Window*>(nullptr), L""))>&&

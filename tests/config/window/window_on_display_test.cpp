@@ -220,7 +220,7 @@ TEST(ShownFrame, IsClippedToo)
     EXPECT_TRUE(PumpUntil([&] { return frame.GetScreenRect() == wxRect(1100, 900, 180, 84); }));
 }
 
-// Even at the corner of its parent, the child is on no display.
+// The child is on no display, even after it is moved to the corner of its parent.
 TEST(ChildOfAFrameThatIsOffEveryDisplay, StaysAtTheParentsCorner)
 {
     const TempUserData data;

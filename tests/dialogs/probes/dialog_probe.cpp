@@ -19,7 +19,7 @@ void PrintLine(const std::string& line)
     std::fflush(stdout);
 }
 
-// Takes ownership of a text of GLib, which may be null.
+// Takes ownership of a string from GLib, which may be null.
 std::string Take(char* text)
 {
     std::string result = text ? text : "";

@@ -47,7 +47,7 @@ TEST_F(Browsing, AllLabelsAreWholeInAnyLocale)
 
 TEST_F(Browsing, RightAndLeftKeysExpandAndCollapse)
 {
-    // In right-to-left direction, the two keys change places.
+    // With a right-to-left layout, the two keys are exchanged.
     const bool isRightToLeft = Tree().GetLayoutDirection() == wxLayout_RightToLeft;
     ClickFolder("docs");
     ASSERT_TRUE(SelectionComesTo("docs"));

@@ -18,8 +18,8 @@ namespace fs = std::filesystem;
 const wxColour darkRed(139, 0, 0);
 const wxColour kIndigo(75, 0, 130);
 
-/// A colour of the palette as the tree shows it, and the label next to the combo: in the dark theme it is made light
-/// enough to read.
+/// How a colour of the palette looks in the tree and in the label next to the combo. In the dark theme, both make it
+/// light enough to be read.
 struct Look
 {
     wxColour inTree;

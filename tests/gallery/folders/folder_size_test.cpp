@@ -223,7 +223,7 @@ TEST(SumFolder, ComesBackToEveryFolderOnTheWayUp)
     EXPECT_EQ(sum.bytes, ListedSize(folder.Path()));
 }
 
-/// Moves a part of the chain away when the walk has reached its end.
+/// Moves a part of the chain away when the walk has reached the end of the chain.
 class Mover : public Notes
 {
 public:

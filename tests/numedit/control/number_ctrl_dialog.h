@@ -29,7 +29,7 @@ public:
     void Enter();
     /// @}
 
-    /// Shows a number with the caret behind it, and resets the counters.
+    /// Shows a number with the caret at its end, and resets the counters.
     void Restart(const wxString& decimal);
 
     void Type(const std::string& characters);

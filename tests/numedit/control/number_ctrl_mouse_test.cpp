@@ -142,7 +142,7 @@ protected:
         long first = 0;
         long last = 0;
         from.GetSelection(&first, &last);
-        // While GTK still shows the end of a drag that was refused, a press begins no other.
+        // While GTK still shows the end of a refused drag, a press does not begin another one.
         EXPECT_TRUE(PumpUntil([&] {
             from.SetSelection(first, last);
             mouse.MouseMove(grip);

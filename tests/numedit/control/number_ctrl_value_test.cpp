@@ -174,7 +174,7 @@ TEST_F(NumberValue, IsClickedAtTheDigitThatIsSeen)
     screen.Leave();
     ASSERT_EQ(screen.Text(), L"12,345.00");
     wxUIActionSimulator mouse;
-    // Click behind the last character.
+    // Click after the last character.
     const wxSize size = screen.number->GetSize();
     mouse.MouseMove(screen.number->ClientToScreen(wxPoint(size.x - 14, size.y / 2)));
     mouse.MouseClick();

@@ -12,7 +12,7 @@ DIGITS = "0123456789"
 SIGNS = ("+", "-")
 EXPONENT_LETTERS = ("e", "E")
 
-# No format pads more zeros behind the point.
+# No format appends more zeros than this.
 MOST_PADDING = 1_000_000
 
 
@@ -87,7 +87,7 @@ def cut_zeros(text, number_format, locale):
     start = 0
     while start < len(text) and locale.is_blank(text[start]):
         start += 1
-    # The last character stays, even if it is a zero. No zeros are cut behind a sign.
+    # The last character stays, even if it is a zero. After a sign, no zeros are cut.
     while start < len(text) - 1 and text[start] == "0":
         start += 1
     end = len(text)

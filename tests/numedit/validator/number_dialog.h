@@ -61,7 +61,7 @@ public:
     NumberDialog(const NumberDialog&) = delete;
     NumberDialog& operator=(const NumberDialog&) = delete;
 
-    /// Shows the dialog with @a text in the number's control and the caret behind it.
+    /// Shows the dialog with @a text in the number's control and the caret at its end.
     void Show(const wxString& text = wxString());
 
     /// Sets the text and the caret in a dialog that is already shown, and resets the counters.

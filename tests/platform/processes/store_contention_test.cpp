@@ -1,5 +1,5 @@
-// Many processes that store settings at once, on slow disks, with locks that are stuck, missing or useless. A write
-// that returns true is kept. FITTINGS_TEST_SOAK=N repeats each attack N times as often.
+// Many processes store settings at the same time, on slow disks, with locks that are stuck, missing or ineffective. A
+// write that returns true is kept. FITTINGS_TEST_SOAK=N repeats each attack N times as often.
 
 #include <fittings/platform/local_reg_store.h>
 
@@ -304,7 +304,7 @@ TEST(ALockFileThatCannotBeOpened, LosesNothing)
     const TempUserData data;
     WriteFile(data / "settings.ini.lock", "");
     ASSERT_EQ(chmod((data / "settings.ini.lock").c_str(), 0), 0);
-    // A lock file of root in a user's folder, as a program run by sudo leaves it.
+    // A lock file that belongs to root, in a user's folder. A program that was run with sudo leaves such a file.
     if (geteuid() == 0) {
         ASSERT_EQ(chown(data.Path().c_str(), 65534, 65534), 0);
     }

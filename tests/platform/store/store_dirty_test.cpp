@@ -381,7 +381,7 @@ TEST(DeletingAKeyOfManyNames, TakesLinearTimeInTheNamesThatItHas)
     EXPECT_EQ(ReadFile(data / "settings.ini"), "[s]\nl=w\n");
 }
 
-// Changes and new values move no other line.
+// Changed and new values leave all other lines in place.
 TEST(ManyChanges, GoWhereTheyBelong)
 {
     TempFolder folder;

@@ -1,4 +1,5 @@
-// What is stored is on the disk when the call returns: the file's bytes before it is renamed, the folder's entry after.
+// What a call has stored is on the disk when the call returns. The file's bytes are synced before the rename, and the
+// folder after it.
 
 #include <cstdio>
 #include <functional>
