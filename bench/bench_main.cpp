@@ -1,4 +1,4 @@
-// Runs each benchmark in turns with its peer, and prints a table with the ratios of their medians.
+// Runs each benchmark alternately with its peer, and prints a table with the ratios of their medians.
 //
 //     fittings-bench [--json=FILE] [--benchmark_filter=REGEX] [other Google Benchmark flags]
 

@@ -18,8 +18,8 @@ if(TARGET fittings-gallery)
 endif()
 
 if(FITTINGS_PLATFORM STREQUAL external)
-  # A library on a host's own platform is part of that host. The library is installed where the host's programs find it,
-  # and only the host's build links to it.
+  # A library that is built on a host's own platform is a part of that host. Install it where the host's programs find
+  # it, without the files to link to it: only the host's build links to it.
   install(TARGETS fittings LIBRARY COMPONENT fittings_runtime NAMELINK_SKIP)
   if(TARGET fittings-xrc)
     install(TARGETS fittings-xrc LIBRARY COMPONENT fittings_runtime NAMELINK_SKIP)

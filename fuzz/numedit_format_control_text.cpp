@@ -72,7 +72,8 @@ std::size_t DecimalsOf(const std::wstring& number, wchar_t point)
     return end - at - 1;
 }
 
-// Checks the fields of the format that change the number. The point of the number must be unambiguous.
+// Checks the fields of the format that change the number. The point must not be a character that another part of a
+// number can have.
 void CheckNumber(const std::wstring& number, const NumberInput& input, const std::wstring& bare)
 {
     const CNumberFormat& format = input.format;

@@ -1,5 +1,5 @@
-# The parts that several scripts share: the packages for each job, and how a preset is built. Source it in the project's
-# folder. "one|other" means the first of the packages that the release has.
+# What several scripts share: the packages for each job, and the build of a preset. Source it in the project's folder.
+# "one|other" means the first of the packages that the release has.
 
 build_packages=(g++ cmake ninja-build pkg-config gettext libwxgtk3.2-dev libglib2.0-dev libgtk-3-dev)
 display_packages=(xvfb xauth openbox x11-utils x11-xkb-utils librsvg2-common 'adwaita-icon-theme-legacy|adwaita-icon-theme')

@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-/// Ends the process when @a holds is false. The fuzzer then reports its present input as a finding.
+/// Ends the process when @a holds is false. The fuzzer then reports its current input as a finding.
 inline void Check(bool holds, const char* what)
 {
     if (holds)

@@ -18,7 +18,7 @@ struct NumberShape
 };
 
 /// Returns whether @a text is a number of that shape, or the beginning of one. The automaton accepts `[+-]? [0-9]* (P
-/// [0-9]*)?` and, behind at least one digit or point, `[eE]? [+-]? [0-9]*`.
+/// [0-9]*)?` and, after at least one digit or point, `[eE]? [+-]? [0-9]*`.
 bool HasShape(const std::wstring& text, const NumberShape& shape);
 
 /// Returns whether no other part of a number can be mistaken for this point.

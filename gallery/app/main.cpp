@@ -68,8 +68,8 @@ public:
             if (window)
                 window->Close();
         } else if (m_dialogs.back()->IsModal()) {
-            // A dialog that is no longer modal has been cancelled already, and waits for GTK's question whether to
-            // replace a file.
+            // A dialog that is no longer modal has been cancelled already. It still waits for an answer to GTK's
+            // question whether to replace a file.
             m_dialogs.back()->EndModal(wxID_CANCEL);
         }
     }

@@ -138,7 +138,7 @@ public:
     bool SetValueByRow(const wxVariant&, unsigned, unsigned) override { return false; }
 
 private:
-    /// Returns the positions of the entries that are large enough to be shown, in the present order.
+    /// Returns the positions of the entries that are large enough to be shown, in the current order.
     std::vector<std::uint32_t> LargeOnes() const
     {
         std::vector<std::uint32_t> positions;

@@ -7,7 +7,7 @@ namespace gallery {
 class FolderColourCombo::ColourPopup : public wxColourPopup
 {
 public:
-    /// Returns the colour that the hot cell gives the folder. @a own is the folder's present colour.
+    /// Returns the colour that the hot cell gives the folder. @a own is the folder's current colour.
     wxColour FolderColour(const wxColour& colour, const wxColour& own) const
     {
         if (m_nCurrentSel == CELL_AUTOMATIC)

@@ -15,8 +15,8 @@ class FolderColourCombo : public wxColourCombo, private wxColorPopupListener
 public:
     using Handler = std::function<void(const wxColour&)>;
 
-    /// @a onLook gets each colour that becomes hot, and finally the colour in effect. @a onChoose gets the chosen
-    /// colour.
+    /// @a onLook is called with each colour that becomes hot, and finally with the colour in effect. @a onChoose is
+    /// called with the chosen colour.
     FolderColourCombo(wxWindow* parent, Handler onLook, Handler onChoose);
 
     ~FolderColourCombo() override;

@@ -20,13 +20,13 @@ namespace gallery {
 class SizesRow : public wxPanel
 {
 public:
-    /// @a onNews gets each sum when it is ready.
+    /// @a onNews is called with each sum when it is ready.
     SizesRow(wxWindow* parent, std::function<void(const SizeNews&)> onNews);
 
-    /// Adds up @a folder. Stops adding up another one.
+    /// Starts to add up @a folder. If another folder is being added up, that is stopped first.
     void Start(const std::string& folder);
 
-    /// Stops the worker and waits for it, at most as long as its present call to the file system takes. All sums found
+    /// Stops the worker and waits for it, at most as long as its current call to the file system takes. All sums found
     /// so far have been delivered, and no more follow.
     void Stop();
 
@@ -53,7 +53,7 @@ private:
     wxButton* m_button;
     std::string m_folder;
     std::unique_ptr<SizeWorker> m_worker;
-    int m_number = 0;  ///< The number of the present worker. Events of earlier ones may still arrive.
+    int m_number = 0;  ///< The number of the current worker. Events of earlier ones may still arrive.
     Clock::time_point m_start;
 };
 

@@ -177,7 +177,7 @@ void ColoursPage::Arrange()
     m_options->Arrange(width);
 }
 
-/// Replaces the combo by one with the present options.
+/// Replaces the combo by one with the current options.
 void ColoursPage::MakeCombo()
 {
     if (m_combo) {

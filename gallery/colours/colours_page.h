@@ -29,7 +29,7 @@ public:
     wxColourCombo* GetCombo() const { return m_combo; }
     wxColourPopup* GetColourPopup() const;
 
-    /// Returns the list of the events and their colours, with the last event at the bottom.
+    /// Returns the list of the events and their colours, with the latest event at the bottom.
     wxDataViewListCtrl* GetEvents() const { return m_events; }
 
     ColourOptionFields* GetFields() const { return m_options; }

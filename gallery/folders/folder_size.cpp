@@ -39,7 +39,7 @@ struct Pending
     std::uint64_t bytes;  ///< The size of the folder itself, without its contents.
 };
 
-/// A folder on the path from the top to the present one.
+/// A folder on the path from the top to the current one.
 struct Level
 {
     Folder folder;  ///< Null while it is closed to save descriptors.
@@ -90,7 +90,7 @@ private:
         Finish();
     }
 
-    /// Reads a folder and makes it the present one.
+    /// Reads a folder and makes it the current one.
     bool Enter(int parent, const char* name, double start, double span)
     {
         Folder folder = OpenFolder(parent, name, O_NOFOLLOW);
@@ -188,7 +188,7 @@ private:
 
     SizeObserver& m_observer;
     FolderSum m_sum;
-    FolderSum m_before;  ///< The sum when the walk entered the present folder of the first level.
+    FolderSum m_before;  ///< The sum when the walk entered the current folder of the first level.
     double m_fraction = 0;
     bool m_goesOn = true;
     std::vector<Level> m_levels;

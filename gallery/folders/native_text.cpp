@@ -21,7 +21,7 @@ std::size_t Utf8Length(std::string_view text)
     return static_cast<std::size_t>(end - text.data());
 }
 
-/// Calls @a ofText for each byte of valid UTF-8, and @a other for each other byte.
+/// Calls @a ofText for each byte of valid UTF-8, and @a other for all other bytes.
 template <typename OfText, typename Other>
 void ForEachByte(std::string_view bytes, OfText ofText, Other other)
 {

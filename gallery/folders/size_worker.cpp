@@ -4,7 +4,7 @@ namespace gallery {
 
 namespace {
 
-/// The time between two reports of progress: as often as a person can see.
+/// The time between two reports of progress. A person cannot see more frequent ones.
 constexpr std::chrono::milliseconds kNewsInterval(40);
 
 }  // namespace

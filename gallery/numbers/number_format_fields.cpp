@@ -95,7 +95,7 @@ constexpr Bound kBounds[] = {
     {&CNumberFormat::m_dMax, HasMax, "Max"},
 };
 
-// A choice, not a text field: a template is a printf format, and users must not enter printf formats.
+// Offer a choice and not a text field: a template is a printf format, and users must not enter printf formats.
 const wchar_t* const kTemplates[] = {L"%s", L"%s kg", L"%s \u20AC", L"EUR %s", L"%s %%", L"about %s", L"(%s)"};
 
 /// Returns the field's number in the current locale; 0 while the text is not a number.

@@ -179,7 +179,7 @@ void NumbersPage::Arrange()
     FitInside();  // before the layout, which would otherwise squeeze the fields into a low window
 }
 
-/// Sets the present format in the control, and in the validator of the number's field if there is one.
+/// Sets the current format in the control, and in the validator of the number's field if there is one.
 void NumbersPage::UseFormat()
 {
     const CNumberFormat format = m_fields->GetFormat();
@@ -191,7 +191,7 @@ void NumbersPage::UseFormat()
     m_keep->Enable(validates);
     m_bringBack->Enable(validates);
     ShowResults();
-    // While the user replaces the point there is none, and 1.5 would no longer be a number.
+    // While the user replaces the point, the format has none, and 1.5 would no longer be a number.
     if (format.m_chDecimalPoint != 0)
         m_control->SetFormat(format);
     ShowControlNumber();

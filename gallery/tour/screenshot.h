@@ -11,7 +11,7 @@ namespace gallery {
 bool CanReadScreen();
 
 /// Writes a top-level window with its decorations as the screen shows it to a PNG file, once it is drawn and no longer
-/// changes. Returns false when the window keeps changing, or when the screen cannot be read or the file not be written.
+/// changes. Returns false when the window keeps changing, the screen cannot be read or the file cannot be written.
 bool SaveScreenshot(_GtkWidget* window, const std::string& path);
 
 }  // namespace gallery

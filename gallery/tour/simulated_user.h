@@ -16,7 +16,7 @@ namespace gallery {
 class ContentsList;
 enum class SortColumn;
 
-/// Simulates a person at the mouse and the keyboard by real input events. X11 only; a top-level window must exist.
+/// Simulates a person at the mouse and the keyboard with real input events. X11 only; a top-level window must exist.
 namespace simulated_user {
 
 /// @name Input, at points of the screen

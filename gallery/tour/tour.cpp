@@ -200,7 +200,7 @@ bool Tour::ExpandByKeyboard()
     if (!Waits([&] { return tree.HasFocus() && tree.GetSelection().item == tree.GetRootItem(); }, "a click selects"))
         return false;
 
-    // Expand the last visible folder that can be expanded, level by level.
+    // On two levels, expand the last folder that can be expanded among the first twelve.
     for (int level = 0; level < 2; ++level) {
         const wxTreeItemId start = tree.GetSelection().item;
         wxTreeItemIdValue cookie;

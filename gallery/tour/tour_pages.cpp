@@ -63,7 +63,8 @@ bool Tour::ColourFolder()
     const wxColourPopup& colours = *m_frame->GetBrowser()->GetColour()->GetColourPopup();
     if (!OpenFolderColours())
         return false;
-    // The keys move from "More Colours..." over "Automatic" and black to the second row, whose fourth cell is a green.
+    // The keys move from "More Colours..." through "Automatic" and black to the second row, whose fourth cell is a
+    // green.
     for (const int key : {WXK_DOWN, WXK_DOWN, WXK_DOWN, WXK_DOWN, WXK_RIGHT, WXK_RIGHT, WXK_RIGHT})
         Press(key);
     if (!Waits([&] { return colours.GetStringValue() == GetColourName(kGreen); },
