@@ -35,7 +35,7 @@ wxBitmap CopyOfScreen(const wxRect& rect)
     return bitmap;
 }
 
-// Whether the window or one of its parents will be deleted as soon as no event is being handled.
+// Returns whether the window or one of its parents will be deleted as soon as no event is being handled.
 bool IsScheduledForDeletion(wxWindow* window)
 {
     return window && (window->IsBeingDeleted() || wxTheApp->IsScheduledForDestruction(window) ||

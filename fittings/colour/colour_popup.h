@@ -95,7 +95,7 @@ public:
     /// Sets whether the combo is redrawn each time another cell becomes hot. False at first.
     void SetRefreshCombo(bool refresh) { m_bRefreshCombo = refresh; }
 
-    /// Whether the combo is redrawn each time another cell becomes hot.
+    /// Returns whether the combo is redrawn each time another cell becomes hot.
     bool GetRefreshCombo() const { return m_bRefreshCombo; }
 
     /// Sets the text of the upper box. With an empty text there is no such box.

@@ -5,8 +5,8 @@
 
 namespace fittings {
 
-/// Whether a program can place its windows, draw on the screen, and draw on its windows outside paint events. True on
-/// X11, false on Wayland.
+/// Returns whether a program can place its windows, draw on the screen, and draw on its windows outside paint events:
+/// true on X11, false on Wayland.
 inline bool CanDrawDirectly()
 {
     const wxSize size = wxScreenDC().GetSize();

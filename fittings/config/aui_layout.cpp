@@ -120,7 +120,7 @@ struct Sums
     }
 };
 
-/// Whether the texts are "name=A;caption=B" with a "\" before each ";" of A and B.
+/// Returns whether the texts are "name=A;caption=B" with a "\" before each ";" of A and B.
 bool AreTexts(std::wstring_view texts)
 {
     constexpr std::wstring_view kCaption = L";caption=";
@@ -139,7 +139,7 @@ bool AreTexts(std::wstring_view texts)
            texts.substr(separator, kCaption.size()) == kCaption;
 }
 
-/// Whether the texts contain no number that the toolkit would read and cannot use.
+/// Returns whether the texts contain no number that the toolkit would read and cannot use.
 ///
 /// The toolkit does not read an escaped ";" as a part of the text: it reads what follows as the next field. With
 /// "a;row=99999999;" in a caption, the toolkit reads a row, and takes the empty field after the row for the end of the

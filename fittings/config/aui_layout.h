@@ -5,7 +5,8 @@
 
 namespace fittings {
 
-/// Whether wxAuiManager::SavePerspective() can have written the text and LoadPerspective() can lay it out quickly.
+/// Returns whether wxAuiManager::SavePerspective() can have written the text and LoadPerspective() can lay it out
+/// quickly.
 ///
 /// False for a text that is cut off, lacks a field or has an invalid number. Also false for a text with which the
 /// toolkit would count rows for minutes or divide by zero.

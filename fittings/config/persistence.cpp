@@ -46,8 +46,8 @@ const int* Field(const wxRect& rect, const wxString& name)
     return name == kHeight ? &rect.height : nullptr;
 }
 
-/// True when a number can be a value of an object. The toolkit asserts on numbers that are not an int, and accepts
-/// places and sizes that no window can have.
+/// Returns true when a number can be a value of an object. The toolkit asserts on numbers that are not an int, and
+/// accepts places and sizes that no window can have.
 bool IsPossible(long number, const wxPersistentObject& who)
 {
     if (dynamic_cast<const wxPersistentSplitter*>(&who) || dynamic_cast<const wxPersistentDataViewCtrl*>(&who))

@@ -45,7 +45,7 @@ wxString VendorOfApp()
     return wxAppConsole::GetInstance() ? wxAppConsole::GetInstance()->GetVendorName() : wxString();
 }
 
-// Whether a text can be stored. The store's texts have no null characters.
+// Returns whether a text can be stored. The store's texts have no null characters.
 bool CanBeStored(std::wstring_view text)
 {
     return text.find(L'\0') == std::wstring_view::npos;
@@ -99,7 +99,7 @@ const fittings::StoreEntry* FindEntry(StoreModel& model, const wxString& path)
     return group ? group->entries.Find(entry.name) : nullptr;
 }
 
-// True when the model has that value already and no other process has changed it.
+// Returns true when the model has that value already and no other process has changed it.
 bool HasText(StoreModel& model, const EntryPath& entry, std::wstring_view text)
 {
     StoreGroup* const group = model.Find(entry.group);

@@ -29,7 +29,7 @@ public:
     /// Loads what others have changed in the file. References to groups are valid until the next call.
     void Refresh();
 
-    /// False before the first Refresh().
+    /// Returns false before the first Refresh().
     bool IsLoaded() const { return m_isLoaded; }
 
     StoreGroup& Root() { return *m_root; }

@@ -18,7 +18,7 @@ int ToPixels(long stored);
 /// Returns false when the window is on no display at (0, 0) either, and leaves it there.
 bool RestoreGeometry(wxWindow& window, const wxRect& stored);
 
-/// True when a rectangle covers the whole work area of a display, as that of a maximised window does.
+/// Returns true when a rectangle covers the whole work area of a display, as that of a maximised window does.
 bool CoversWorkArea(const wxRect& rect);
 
 }  // namespace fittings

@@ -37,7 +37,7 @@ wxArrayString PatternsOf(const wxString& wildcard)
     return patterns;
 }
 
-// True when GTK's dialog shows the name with a filter such as "*.csv;*.tsv".
+// Returns true when GTK's dialog shows the name with a filter such as "*.csv;*.tsv".
 bool Shows(const wxString& filter, const wxString& name)
 {
     for (const wxString& pattern : wxSplit(filter, ';', '\0')) {

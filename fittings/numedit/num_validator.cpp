@@ -10,7 +10,7 @@
 
 namespace {
 
-// Whether a key may type a character. A character without a key code comes with code 0 and its Unicode value.
+// Returns whether a key can type a character. A character without a key code has code 0 and its Unicode value.
 bool IsCharacter(int keyCode)
 {
     if (keyCode == WXK_DELETE || keyCode < WXK_SPACE)

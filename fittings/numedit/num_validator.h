@@ -63,11 +63,11 @@ public:
     /// Returns the validator's own copy of its format.
     const CNumberFormat& GetFormat() const;
 
-    /// Whether the validator is set on a wxTextCtrl.
+    /// Returns whether the validator is set on a wxTextCtrl.
     bool CheckValidator() const;
 
-    /// Whether the format accepts the whole text as a number or as the beginning of one, such as the empty text, "-"
-    /// and ".". If not, the control gets the focus.
+    /// Returns whether the format accepts the whole text as a number or as the beginning of one, such as the empty
+    /// text, "-" and ".". If not, the control gets the focus.
     ///
     /// A disabled control is always valid. Shows no message and rings no bell. @a parent is not used.
     bool Validate(wxWindow* parent) override;

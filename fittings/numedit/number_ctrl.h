@@ -122,7 +122,7 @@ public:
     /// Returns the number with all its digits and a dot as its point; empty if the field has no number.
     wxString GetDecimal() const;
 
-    /// Whether the field is empty or has a number within the bounds.
+    /// Returns whether the field is empty or has a number within the bounds.
     bool IsAcceptable() const;
 
     /// Returns why the field is not acceptable, in the user's language; empty if it is acceptable.
@@ -143,7 +143,7 @@ public:
     /// Sets how far Up, Down and the wheel step, to the shortest decimal number that reads as @a increment.
     bool SetIncrement(double increment);
 
-    /// Whether IsAcceptable() is true and the validator accepts the field.
+    /// Returns whether IsAcceptable() is true and the validator accepts the field.
     bool Validate() override;
 
     /// @cond

@@ -149,7 +149,8 @@ bool IsExponent(const wchar_t* text)
     return *AfterDigits(text) == L'\0';
 }
 
-/// Whether @a text, with @a point as its decimal point, is a number or the beginning of one, whatever its value.
+/// Returns whether @a text, with @a point as its decimal point, is a number or the beginning of one, whatever its
+/// value.
 bool IsNumber(const wchar_t* text, wchar_t point, const CNumberFormat& format)
 {
     const wchar_t* const begin = format.m_bAllowSign && IsSign(*text) ? text + 1 : text;

@@ -38,7 +38,7 @@ public:
     /// only the decimal point and the thousands separator are read.
     static void GroupDigits(wxString& text, const CNumberFormat& format);
 
-    /// Whether @a text is a number that the format accepts.
+    /// Returns whether @a text is a number that the format accepts.
     ///
     /// Accepts a sign, digits, a point and digits, and then an exponent, each if the format allows it. Accepts the
     /// beginning of such a number too: the empty text, a lone sign, a lone point, "1." and "1e-". The exponent's letter
@@ -53,7 +53,7 @@ public:
     /// value is above the highest, every text is refused.
     static bool ValidateString(const wchar_t* text, const CNumberFormat& format);
 
-    /// Whether @a text may stand in a field while a user types.
+    /// Returns whether a field may have @a text while a user types.
     ///
     /// Accepts what ValidateString() accepts. If decimals are accepted, these texts are accepted too, whatever the
     /// bounds: the lone point, "0", "0." and up to m_nDecimals zeros after the point. So 0.05 can be typed if the

@@ -62,7 +62,7 @@ public:
     std::unique_ptr<NumberEntry> entry;
 
 private:
-    /// Whether a text is acceptable while typing: a number within the bounds or the beginning of one.
+    /// Returns whether a text is acceptable while typing: a number within the bounds or the beginning of one.
     bool MayStay(const std::wstring& text) const;
 };
 

@@ -14,7 +14,8 @@ bool IsDigit(wchar_t c)
     return c >= L'0' && c <= L'9';
 }
 
-/// Whether a character is a blank. iswspace() does not accept no-break spaces, but they group digits in many languages.
+/// Returns whether a character is a blank. iswspace() does not accept no-break spaces, but they group digits in many
+/// languages.
 bool IsBlank(wchar_t c)
 {
     return std::iswspace(static_cast<std::wint_t>(c)) || c == L'\u00A0' || c == L'\u2007' || c == L'\u202F';

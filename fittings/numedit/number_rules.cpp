@@ -112,7 +112,8 @@ std::optional<Span> SpanOf(bool negative, const NumberRules& rules)
     return span;
 }
 
-/// Whether the span has a number from @a begin up to, but not including, @a end with at most @a decimals decimals.
+/// Returns whether the span has a number from @a begin up to, but not including, @a end with at most @a decimals
+/// decimals.
 bool Meets(const Decimal& begin, const std::optional<Decimal>& end, const Span& span, std::int64_t decimals)
 {
     Decimal low = RoundedUp(span.low, decimals);
@@ -126,7 +127,7 @@ bool Meets(const Decimal& begin, const std::optional<Decimal>& end, const Span& 
     return Compare(low, high) <= 0 && Compare(begin, high) <= 0;
 }
 
-/// Whether more digits can bring a number without an exponent into the span.
+/// Returns whether more digits can bring a number without an exponent into the span.
 bool GrowsInto(const Span& span, const Typed& typed, const NumberRules& rules)
 {
     if (typed.hasPoint) {
@@ -148,8 +149,8 @@ bool GrowsInto(const Span& span, const Typed& typed, const NumberRules& rules)
     return false;
 }
 
-/// Whether the span has a number that begins with @a digits, has at most @a more digits after them, and has its point
-/// at any place. The first of @a digits is not a zero.
+/// Returns whether the span has a number that begins with @a digits, has at most @a more digits after them, and has its
+/// point at any place. The first of @a digits is not a zero.
 bool HasWithDigits(const Span& span, const std::string& digits, std::int64_t more)
 {
     if (span.high && span.high->IsZero())
@@ -164,7 +165,7 @@ bool HasWithDigits(const Span& span, const std::string& digits, std::int64_t mor
     return false;
 }
 
-/// Whether more digits and an exponent can bring a number that has no exponent yet into the span.
+/// Returns whether more digits and an exponent can bring a number that has no exponent yet into the span.
 bool ScalesInto(const Span& span, const Typed& typed, const NumberRules& rules)
 {
     const std::int64_t more =
@@ -182,7 +183,7 @@ bool ScalesInto(const Span& span, const Typed& typed, const NumberRules& rules)
     return false;
 }
 
-/// Whether an exponent that begins with the typed one can bring the number into the span.
+/// Returns whether an exponent that begins with the typed one can bring the number into the span.
 bool ExponentLeadsInto(const Span& span, const Typed& typed)
 {
     const Decimal number = MakeDecimal(typed.Digits(), typed.Integers());

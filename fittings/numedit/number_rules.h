@@ -44,7 +44,7 @@ enum class NumberState {
 /// Returns the state of @a text, which is plain text: no groups, no blanks, the sign in front.
 NumberState Judge(std::wstring_view text, const NumberRules& rules);
 
-/// Whether @a text is empty, a number within the bounds, or the beginning of one.
+/// Returns whether @a text is empty, a number within the bounds, or the beginning of one.
 ///
 /// Zeros in front do not matter: "007" is 7. A minus sign is only accepted if numbers below 0 are within the bounds:
 /// with a lowest value of 0, "-" is refused, although "-0" is a number within the bounds.

@@ -15,7 +15,7 @@ namespace file_util_ex {
 /// Returns @a dir and @a name joined with exactly one separator. When one of them is empty, returns the other as it is.
 FITTINGS_API std::wstring MakePath(const CStdStr<wchar_t>& dir, const CStdStr<wchar_t>& name);
 
-/// True when @a path is a folder, or a link to one.
+/// Returns true when @a path is a folder, or a link to one.
 FITTINGS_API bool DoesDirExist(const CStdStr<wchar_t>& path);
 
 /// Creates the folder and its missing parent folders, for the user alone (mode 0700). Returns whether the folder exists

@@ -89,7 +89,8 @@ public:
     /// @return HasEnded(); false at once when the object has not run.
     bool WaitFor(unsigned long milliseconds);
 
-    /// Whether Entry() has returned or thrown an exception. Wait() then returns at once. Any thread may call this.
+    /// Returns whether Entry() has returned or thrown an exception. Wait() then returns at once. Any thread may call
+    /// this.
     bool HasEnded() const;
 
     /// Does the work. The function is called once, on the new thread, and its result is the exit code.

@@ -45,13 +45,13 @@ public:
     wxTreeCtrl* tree;   ///< The control that the item belongs to; not owned.
     wxTreeItemId item;  ///< The item.
 
-    /// True when there is an item.
+    /// Returns true when there is an item.
     bool IsOk() const { return item.IsOk(); }
 
     /// @name As the toolkit's wxTreeItemId
     /// @{
 
-    /// True when there is an item.
+    /// Returns true when there is an item.
     explicit operator bool() const { return IsOk(); }
 
     /// Returns the item, so that the toolkit's operations take a cursor: tree->EnsureVisible(tree->GetSelection()).
@@ -70,10 +70,10 @@ public:
     friend bool operator!=(const wxTreeItemId& left, const wxTreeCursor& right) { return !(left == right); }
     /// @endcond
 
-    /// Whether both have the same item, or both have none. Either may be the toolkit's wxTreeItemId.
+    /// Returns whether both have the same item, or both have none. Either may be the toolkit's wxTreeItemId.
     friend bool operator==(const wxTreeCursor& left, const wxTreeCursor& right) { return left.item == right.item; }
 
-    /// Whether they have different items. Either may be the toolkit's wxTreeItemId.
+    /// Returns whether they have different items. Either may be the toolkit's wxTreeItemId.
     friend bool operator!=(const wxTreeCursor& left, const wxTreeCursor& right) { return !(left == right); }
 
     /// @}
@@ -107,7 +107,7 @@ public:
     /// Shows the children, as wxTreeCtrl::Expand() does.
     void Expand();
 
-    /// Whether the item is expanded, even if its parent is collapsed.
+    /// Returns whether the item is expanded, even if its parent is collapsed.
     bool IsExpanded() const;
 
     /// Removes the item with all its children.

@@ -53,7 +53,7 @@ public:
     wxColourComboXmlHandler();
     ~wxColourComboXmlHandler() override;
 
-    /// Whether @a node is an object of class "wxColourCombo".
+    /// Returns whether @a node is an object of class "wxColourCombo".
     bool CanHandle(wxXmlNode* node) override;
 
 protected:

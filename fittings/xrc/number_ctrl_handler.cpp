@@ -4,7 +4,8 @@
 
 namespace {
 
-/// Whether a printf format has one `%s` and no other conversion. Any other format could read beyond its arguments.
+/// Returns whether a printf format has one `%s` and no other conversion. Any other format could read beyond its
+/// arguments.
 bool TakesOneText(const wxString& format)
 {
     wxString rest = format;

@@ -41,7 +41,7 @@ public:
     wxNumberCtrlXmlHandler();
     ~wxNumberCtrlXmlHandler() override;
 
-    /// Whether @a node is an object of class "wxNumberCtrl".
+    /// Returns whether @a node is an object of class "wxNumberCtrl".
     bool CanHandle(wxXmlNode* node) override;
 
 protected:

@@ -46,7 +46,7 @@ public:
     wxHandyTreeCtrlXmlHandler();
     ~wxHandyTreeCtrlXmlHandler() override;
 
-    /// Whether @a node is an object of class "wxHandyTreeCtrl".
+    /// Returns whether @a node is an object of class "wxHandyTreeCtrl".
     bool CanHandle(wxXmlNode* node) override;
 
 protected:

@@ -7,7 +7,7 @@ struct _GtkWidget;
 
 namespace gallery {
 
-/// Whether the pixels of the screen can be read: true on an X display.
+/// Returns whether the pixels of the screen can be read: true on an X display.
 bool CanReadScreen();
 
 /// Writes a top-level window with its decorations as the screen shows it to a PNG file, once it is drawn and no longer

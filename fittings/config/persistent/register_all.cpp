@@ -32,7 +32,7 @@ std::unique_ptr<wxPersistentObject> MakeFor(wxWindow& window, const wxString& na
     return found ? std::make_unique<Named<Persistent>>(found, name) : nullptr;
 }
 
-/// Whether the window's class has persistence that works for this window.
+/// Returns whether the window's class has persistence that works for this window.
 bool CanRemember(wxWindow& window)
 {
     if (auto* const list = dynamic_cast<wxListCtrl*>(&window))

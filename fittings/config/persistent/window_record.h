@@ -29,11 +29,11 @@ public:
     /// Records the window's place while it is neither maximised, full screen nor iconised.
     void Follow(wxTopLevelWindow& window);
 
-    /// True when the window is maximised, or was maximised when it was hidden. The system forgets this state of a
-    /// hidden window.
+    /// Returns true when the window is maximised, or was maximised when it was hidden. The system forgets this state of
+    /// a hidden window.
     bool IsMaximized(const wxTopLevelWindow& window) const;
 
-    /// True when the window is maximised, full screen or iconised.
+    /// Returns true when the window is maximised, full screen or iconised.
     bool IsOutOfItsPlace(const wxTopLevelWindow& window) const;
 
     /// Returns the last normal place and size; none before Follow().

@@ -34,8 +34,8 @@ bool IsBefore(const timespec& a, const timespec& b)
     return a.tv_sec != b.tv_sec ? a.tv_sec < b.tv_sec : a.tv_nsec < b.tv_nsec;
 }
 
-// Whether @a now is later than the file's timestamp can resolve, so that a file that changes from now on gets another
-// timestamp. Some file systems store only whole seconds, and some only even seconds.
+// Returns whether @a now is later than the file's timestamp can resolve, so that a file that changes from now on gets
+// another timestamp. Some file systems store only whole seconds, and some only even seconds.
 bool IsPastTick(const timespec& stamp, const timespec& now)
 {
     return stamp.tv_nsec == 0 ? stamp.tv_sec + 2 <= now.tv_sec : IsBefore(stamp, now);

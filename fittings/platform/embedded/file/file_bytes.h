@@ -27,7 +27,7 @@ struct FileIdentity
     explicit FileIdentity(const struct stat& info);
     bool operator==(const FileIdentity& other) const;
 
-    /// Whether both are states of one file with the same content. The names of the file may differ.
+    /// Returns whether both are states of the same file with the same content. The file may have been renamed.
     bool HasContentOf(const FileIdentity& other) const;
 };
 
@@ -44,8 +44,8 @@ struct FileContent
     /// tick of the clock that sets file timestamps.
     bool isSettled = false;
 
-    /// Whether the file is empty and was changed less than half a second ago: a program that writes files in place may
-    /// be about to fill it.
+    /// Returns whether the file is empty and was changed less than half a second ago: a program that writes files in
+    /// place may be about to fill it.
     bool IsEmptyForNow() const;
 };
 

@@ -23,7 +23,8 @@ public:
     FileLock(const FileLock&) = delete;
     FileLock& operator=(const FileLock&) = delete;
 
-    /// Whether this object has the lock. False also if the lock file cannot be opened or is a link.
+    /// Returns whether this object has the lock. The result is also false if the lock file cannot be opened or is a
+    /// link.
     bool IsHeld() const { return m_isHeld; }
 
 private:

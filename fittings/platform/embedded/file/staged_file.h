@@ -27,7 +27,7 @@ public:
     StagedFile(const StagedFile&) = delete;
     StagedFile& operator=(const StagedFile&) = delete;
 
-    /// False when the bytes could not be written.
+    /// Returns false when the bytes could not be written.
     bool IsWritten() const { return m_isWritten; }
 
     /// Replaces the target, whether there is a file or not.

@@ -46,7 +46,7 @@ public:
 
     std::optional<std::wstring> Get(std::wstring_view section, std::wstring_view key) const;
 
-    /// Whether Get() returns @a text.
+    /// Returns whether Get() returns @a text.
     bool Has(std::wstring_view section, std::wstring_view key, std::optional<std::wstring_view> text) const;
 
     void Set(std::wstring_view section, std::wstring_view key, std::wstring_view value);
@@ -58,7 +58,7 @@ public:
     /// Makes the changes: first those of keys, then those of sections.
     void Apply(const std::vector<Change>& changes);
 
-    /// Whether Apply() would change nothing.
+    /// Returns whether Apply() would change nothing.
     bool HoldsAll(const std::vector<Change>& changes) const;
 
     /// Returns the names of all sections, each once, in the order of the file. New ones come last.
@@ -71,11 +71,11 @@ public:
     /// section come first.
     std::vector<fittings::SettingsEntry> Entries(std::wstring_view section) const;
 
-    /// Whether the last Refresh() kept an earlier content because the file was empty. That content is not in the
-    /// file.
+    /// Returns whether the last Refresh() kept an earlier content because the file was empty. That content is not in
+    /// the file.
     bool IsEarlierContent() const { return m_isEarlierContent; }
 
-    /// Whether the last Load() found a file that it could not read.
+    /// Returns whether the last Load() found a file that it could not read.
     bool HasFailed() const { return m_content.result == fittings::ReadResult::Failed; }
 
 private:

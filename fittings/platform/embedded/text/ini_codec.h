@@ -17,7 +17,7 @@ std::string EncodeName(std::wstring_view text);
 /// Returns the text that a name in a file stands for, even if another program or a person wrote the name.
 std::wstring DecodeName(std::string_view name);
 
-/// Whether a byte needs no encoding at any place in a name.
+/// Returns whether a byte needs no encoding at any place in a name.
 bool IsPlainInName(char byte);
 
 /// Returns @a text as a value: unchanged if it is then read back exactly, otherwise in quotes.
@@ -27,7 +27,7 @@ std::string EncodeValue(std::wstring_view text);
 /// taken literally, with its quotes.
 std::wstring DecodeValue(std::string_view value);
 
-/// Whether DecodeValue() returns @a text for @a value. Stops decoding at the first difference.
+/// Returns whether DecodeValue() returns @a text for @a value. Stops decoding at the first difference.
 bool DecodesTo(std::string_view value, std::wstring_view text);
 
 std::wstring NarrowToWide(std::string_view text);

@@ -29,8 +29,8 @@ std::size_t PlainLength(std::string_view text)
     return length;
 }
 
-// Whether the suffix is like that of the key Name[de]: letters, digits and a few marks in brackets, with nothing after
-// them.
+// Returns whether the suffix is like that of the key Name[de]: letters, digits and a few marks in brackets, with
+// nothing after them.
 bool IsLocaleSuffix(std::string_view suffix)
 {
     if (suffix.size() < 2 || suffix.back() != ']')

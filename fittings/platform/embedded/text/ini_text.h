@@ -28,7 +28,7 @@ public:
     IniText(const IniText&) = delete;
     IniText& operator=(const IniText&) = delete;
 
-    /// Whether any part of the text can be meant as settings.
+    /// Returns whether any part of the text can be meant as settings.
     bool IsSettings() const { return m_isSettings; }
 
     bool IsChanged() const { return m_isChanged; }
