@@ -96,20 +96,20 @@ public:
 
     /// Stores which items are expanded, including the items below a collapsed one.
     void SaveState(const wxString& name, wxTreeCursor& start);
-    void SaveState(const wxString& name, const wxTreeCursor& start);  ///< For a constant cursor.
+    void SaveState(const wxString& name, const wxTreeCursor& start);  ///< Does the same for a constant cursor.
 
     /// Stores the expanded items under the name of SetProfile().
     void SaveState(wxTreeCursor& start);
-    void SaveState(const wxTreeCursor& start);  ///< For a constant cursor.
+    void SaveState(const wxTreeCursor& start);  ///< Does the same for a constant cursor.
 
     /// Expands the items whose labels were stored. Parents come first, so that children that OnItemExpanding() adds are
     /// restored too. No item is collapsed.
     void LoadState(const wxString& name, wxTreeCursor& start);
-    void LoadState(const wxString& name, const wxTreeCursor& start);  ///< For a constant cursor.
+    void LoadState(const wxString& name, const wxTreeCursor& start);  ///< Does the same for a constant cursor.
 
     /// Expands the items stored under the name of SetProfile().
     void LoadState(wxTreeCursor& start);
-    void LoadState(const wxTreeCursor& start);  ///< For a constant cursor.
+    void LoadState(const wxTreeCursor& start);  ///< Does the same for a constant cursor.
 
     /// @}
 
@@ -117,8 +117,8 @@ public:
     /// cursor is shown, even if the host had set another. The constructor binds this to wxEVT_TREE_ITEM_EXPANDING.
     ///
     /// The event is not passed on, neither to the event table of a derived class nor to a parent window. A host that
-    /// needs the event, for example to veto it, calls Bind() on the control: its handler is called first. The handler
-    /// must skip the event if the item is to be filled.
+    /// needs the event, for example to veto it, calls Bind() on the control: its handler is called first. If the
+    /// handler does not skip the event, the item is not filled.
     void OnEvtItemExpanding(wxTreeEvent& event);
 
     /// Tells assistive technologies which item has the focus in the tree.

@@ -75,7 +75,7 @@ private:
             m_tree.Expand(item);
     }
 
-    // A hidden root is always expanded, and the toolkit asserts when it is expanded again.
+    // A hidden root is always expanded, and the toolkit asserts when a program expands it again.
     bool IsHiddenRoot(const wxTreeItemId& item) const
     {
         return m_tree.HasFlag(wxTR_HIDE_ROOT) && item == m_tree.GetRootItem();

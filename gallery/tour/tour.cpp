@@ -409,7 +409,7 @@ bool Tour::VisitDialog(char key, const char* claim, const std::function<bool(Gtk
            Waits([&] { return m_frame->IsActive(); }, "the window is active again");
 }
 
-/// Waits until a dialog has the file or folder to choose, takes a picture and chooses it by a click.
+/// Waits until a dialog has the file or folder to choose, takes a picture, and chooses the file or folder with a click.
 bool Tour::AcceptFile(GtkWidget* dialog, const std::string& file, const char* picture)
 {
     if (!Waits([&] { return FileIn(dialog) == file && !AcceptButton(dialog).IsEmpty(); }, "the name is taken") ||

@@ -7,8 +7,8 @@
 //   opens at once|later        the popup is being shown: in the call to open it, or at the end of an animation
 //   cell N X Y                 the middle of that cell, in the popup that is shown now
 //   popup X Y                  the popup is shown; its place on the screen according to the toolkit
-//   repaints X Y WIDTH HEIGHT  a part of the popup is to be painted again
-//   repaints all               the whole popup is to be painted again
+//   repaints X Y WIDTH HEIGHT  a part of the popup must be painted again
+//   repaints all               the whole popup must be painted again
 //   change|end|cancel #RRGGBB  a call of the listener
 //   over combo                 the pointer moves over the combo
 //   dialog ACTIVE FOCUS #RRGGBB  a change of the colour dialog: whether it is active, the type of its focused

@@ -1,4 +1,4 @@
-// "More Colours..." as a user opens it: the real dialog, in a separate program, operated by keys.
+// "More Colours..." as a user opens it: the real dialog, in a separate program, operated with keys.
 
 #include <string>
 

@@ -10,7 +10,7 @@
 
 class wxWindow;
 
-/// The arguments that a file dialog was made with, and its state when it was to be shown.
+/// The arguments that a file dialog was made with, and its state when it was about to be shown.
 struct AskedFile
 {
     wxWindow* parent = nullptr;
@@ -37,7 +37,7 @@ public:
     FileAnswer(int result, const wxString& path);
     ~FileAnswer() override;
 
-    /// Called when a dialog is to be shown, before the answer.
+    /// Called when a dialog is about to be shown, before it is answered.
     std::function<void()> whileShown;
 
     /// The dialog that was shown last, and the number of dialogs shown.

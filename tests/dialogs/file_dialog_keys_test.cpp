@@ -1,4 +1,4 @@
-// The save and open dialogs as a user sees them: shown by a separate program and operated by keys.
+// The save and open dialogs as a user sees them: shown by a separate program and operated with keys.
 
 #include <fittings/dialogs/file_dialog.h>
 

@@ -174,7 +174,7 @@ INSTANTIATE_TEST_SUITE_P(
         Start{"VeryLong", L"/" + kLong + L"/" + kLong + L"/" + kLong + L".prj", L"/" + kLong + L"/" + kLong, kLong}),
     [](const auto& info) { return info.param.name; });
 
-// GTK's dialog shows nothing when it is to start in a file, and an error when it is to start below a file.
+// If GTK's dialog is told to start in a file, it shows nothing. If it is told to start below a file, it shows an error.
 TEST(SaveDialogFolder, IsTheNearestFolderAboveAFile)
 {
     const TempFolder folder;
@@ -239,7 +239,7 @@ TEST_P(SaveDialogFilter, IsMadeOfWildcardAndExtension)
     const AskedFile asked = AskedFor(GetParam().extension, GetParam().wildcard);
     EXPECT_EQ(asked.wildcard, GetParam().effective);
     EXPECT_EQ(asked.filterIndex, GetParam().index);
-    // The first filter is selected without a call.
+    // The first filter is selected by default, without a call.
     EXPECT_EQ(asked.filtersSet, GetParam().index > 0 ? std::vector<int>{GetParam().index} : std::vector<int>());
 }
 

@@ -1,4 +1,4 @@
-// The folder dialog as a user sees it: shown by a separate program and operated by keys.
+// The folder dialog as a user sees it: shown by a separate program and operated with keys.
 
 #include <fittings/dialogs/folder_dialog.h>
 

@@ -1,4 +1,4 @@
-// The remembering dialogs as a user sees them: shown by a separate program and operated by keys.
+// The remembering dialogs as a user sees them: shown by a separate program and operated with keys.
 
 #include <fittings/dialogs/remembering_dialogs.h>
 

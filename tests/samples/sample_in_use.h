@@ -31,8 +31,8 @@ struct Person
     }
 };
 
-/// One run of a sample, whose window the test uses by mouse and keyboard. An action that is impossible, for example on
-/// a closed window, throws and so ends the test.
+/// One run of a sample, whose window the test operates with mouse and keyboard. An action that is impossible, for
+/// example on a closed window, throws an exception and so ends the test.
 class SampleInUse
 {
 public:

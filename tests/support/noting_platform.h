@@ -24,7 +24,7 @@ struct NotingPlatform
 
 extern NotingPlatform g_platform;
 
-/// Records a call, and throws if @a operation is the one that is to throw.
+/// Records a call, and throws if @a operation is the one that should throw.
 void RecordCall(const std::wstring& operation, const std::vector<std::wstring>& arguments = {});
 
 #endif

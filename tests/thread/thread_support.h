@@ -141,7 +141,7 @@ private:
     Work m_work;
 };
 
-/// A running thread object whose work ends with the code 42 when it is told to go on, at the latest when this is
+/// A running thread object. Its work ends with the code 42 when the test lets it go on, or when this object is
 /// destroyed.
 struct HeldThread
 {

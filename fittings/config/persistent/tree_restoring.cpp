@@ -111,7 +111,7 @@ void RestoreSteps(wxTreeCtrl& tree, const TreeSteps& steps)
             // Do this first: the handlers of the expansion may delete the item.
             if (step.isSelected)
                 descent.Keep(item);
-            // The toolkit keeps a hidden root expanded, and asserts when it is to be expanded again.
+            // The toolkit keeps a hidden root expanded, and asserts when a program expands it again.
             if (step.isExpanded && !(step.level == 0 && tree.HasFlag(wxTR_HIDE_ROOT)))
                 tree.Expand(item);
         }

@@ -27,7 +27,7 @@ namespace fittings {
 class NumberEntry : public wxTrackable
 {
 public:
-    /// A text that is to be inserted into the control.
+    /// A text that is about to be inserted into the control.
     struct Insertion
     {
         std::wstring before;

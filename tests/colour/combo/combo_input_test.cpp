@@ -1,4 +1,4 @@
-// The control in a window on the screen, operated by mouse and keyboard.
+// The control in a window on the screen, operated with mouse and keyboard.
 
 #include <string>
 #include <vector>
@@ -155,7 +155,7 @@ TEST_F(ColourComboInUse, IsCancelledByAClickOutside)
 
 TEST_F(ColourComboInUse, IsClosedByAClickOnItsButton)
 {
-    // Open the popup by key, because a second click on the button could count as a double click.
+    // Open the popup with a key, because a second click on the button could count as a double click.
     combo->SetFocus();
     Press(WXK_F4);
     ExpectShown();

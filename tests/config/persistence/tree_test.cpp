@@ -358,7 +358,7 @@ TEST(PersistentTree, OfManyItemsIsSavedAndRestoredInProportion)
     }
 }
 
-// A tree that is deleted without Destroy() is no longer a wxTreeCtrl when it is to be stored.
+// A tree that is deleted without Destroy() is no longer a wxTreeCtrl when its state should be stored.
 TEST(PersistentTree, ThatIsDeletedAtOnceLeavesTheStoredState)
 {
     const TempPersistence data;

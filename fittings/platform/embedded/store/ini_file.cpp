@@ -109,7 +109,7 @@ bool CIniFile::Save(const std::string& path) const
 {
     if (path.empty() || (HasFailed() && path == m_path))
         return false;
-    // Keep the unreadable file under another name, unless somebody has put a new file in its place.
+    // Keep the unreadable file under another name, unless another process has put a new file in its place.
     if (m_cannotBeParsed) {
         const auto result = ReplaceUnreadable(path);
         if (result != fittings::UpdateResult::Outdated)
@@ -135,7 +135,7 @@ fittings::UpdateResult CIniFile::Update() const
     return fittings::UpdateFileBytes(m_path, {m_content, m_text->Original(), std::move(changed), merge});
 }
 
-// Keeps the unreadable file under another name, and puts a new file in its place. If somebody else puts a file there
+// Keeps the unreadable file under another name, and puts a new file in its place. If another process puts a file there
 // meanwhile, that file stays.
 fittings::UpdateResult CIniFile::ReplaceUnreadable(const std::string& path) const
 {
