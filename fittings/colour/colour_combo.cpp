@@ -247,7 +247,7 @@ void wxColourCombo::DrawStep(int elapsed)
     if (m_animBitmap.IsOk())
         screen.DrawBitmap(m_animBitmap, m_animRect.GetPosition());
     screen.DrawRectangle(outline);
-    // Drawing directly on the screen appears below all windows, so show the outline in a window of its own too.
+    // What is drawn directly on the screen appears below all windows. So show the outline in a window of its own too.
     if (m_outline)
         m_outline->ShowOutline(m_animRect, outline);
 }

@@ -209,11 +209,11 @@ inline bool wxPersistentRegisterAndRestore(wxAuiManager* manager, const wxString
 ///
 /// An inner window is registered under the outer window's name followed by its own, such as "Planets/treeCtrl" for a
 /// tree without a name of its own. If several inner windows have the same name, the second one is registered with " 2"
-/// after that name, and so on in the order of their creation. Give a name to each window whose place in this order may
-/// change in a later version of the program. The windows' own names do not change.
+/// appended to that name, and so on in the order of their creation. Give a name to each window whose place in this
+/// order may change in a later version of the program. The windows' own names do not change.
 ///
-/// Not registered are windows that were registered before, other frames and dialogs, data views that are a page of a
-/// book, and AUI managers.
+/// The function does not register windows that were registered before, other frames and dialogs, data views that are a
+/// page of a book, and AUI managers.
 FITTINGS_API bool wxPersistentRegisterAndRestoreAll(wxWindow* window, const wxString& name);
 
 #endif

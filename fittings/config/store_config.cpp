@@ -75,7 +75,7 @@ private:
     const std::wstring_view m_view;
 };
 
-// The place of an entry: everything up to the last separator leads to its group.
+// The group and the name in the path of an entry. Everything up to the last separator is the path of the group.
 struct EntryPath
 {
     std::wstring_view group;

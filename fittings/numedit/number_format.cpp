@@ -6,7 +6,7 @@
 
 namespace {
 
-/// Returns the first character of a text of the locale; 0 for an empty text.
+/// Returns the first character of a text of localeconv(); 0 for an empty text.
 wchar_t FirstCharacter(const char* text)
 {
     const std::wstring wide = fittings::FromLocale(text);

@@ -150,14 +150,14 @@ public:
     /// Returns a stored boolean, or @a defaultValue when there is none or the stored text is not a boolean.
     static bool GetProfileBool(const wchar_t* section, const wchar_t* key, bool defaultValue);
 
-    /// Stores a boolean. Returns as WriteString() does.
+    /// Stores a boolean. The result is that of WriteString().
     static bool WriteProfileBool(const wchar_t* section, const wchar_t* key, bool value);
 
     /// Returns a stored integer, or @a defaultValue when there is none or the stored text is not a decimal number that
     /// fits.
     static int GetProfileInt(const wchar_t* section, const wchar_t* key, int defaultValue);
 
-    /// Stores an integer as decimal text. Returns as WriteString() does.
+    /// Stores an integer as decimal text. The result is that of WriteString().
     static bool WriteProfileInt(const wchar_t* section, const wchar_t* key, int value);
 
     /// Removes a key. Returns false when the store could not be saved, and true even when there was no such key.
@@ -189,7 +189,7 @@ public:
     /// Returns the stored value, or @a defaultValue when there is none.
     static std::string GetString(const char* section, const char* key, const char* defaultValue);
 
-    /// Stores a value. Returns as the wide operation does.
+    /// Stores a value. The result is that of the wide operation.
     static bool WriteString(const char* section, const char* key, const char* value);
 
     /// @}

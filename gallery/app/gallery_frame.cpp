@@ -221,7 +221,7 @@ void GalleryFrame::OnPageChanged(wxBookCtrlEvent& event)
     event.Skip();
 }
 
-/// Sends Alt with a letter to its control or menu first: a number field would refuse the letter.
+/// Passes Alt with a letter first to the control or menu with that mnemonic: a number field would refuse the letter.
 void GalleryFrame::OnCharHook(wxKeyEvent& event)
 {
     const std::unique_ptr<GdkEvent, void (*)(GdkEvent*)> key(gtk_get_current_event(), gdk_event_free);

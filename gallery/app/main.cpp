@@ -95,7 +95,8 @@ private:
 
 gboolean OnStopSignal(gpointer stop)
 {
-    // Closed from a wx event: a window that is closed by GLib's event loop is not destroyed before the next wx event.
+    // Close the window from an event of the toolkit. If GLib's event loop closes a window, the window is not destroyed
+    // until the toolkit's next event.
     wxTheApp->CallAfter([stop] { static_cast<Stop*>(stop)->Begin(); });
     return G_SOURCE_CONTINUE;
 }

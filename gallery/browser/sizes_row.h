@@ -23,7 +23,7 @@ public:
     /// @a onNews is called with each sum when it is ready.
     SizesRow(wxWindow* parent, std::function<void(const SizeNews&)> onNews);
 
-    /// Starts to add up @a folder. If another folder is being added up, that is stopped first.
+    /// Starts to add up @a folder, and no longer adds up any other folder.
     void Start(const std::string& folder);
 
     /// Stops the worker and waits for it, at most as long as its current call to the file system takes. All sums found

@@ -8,7 +8,7 @@
 
 namespace {
 
-// The toolkit has no getters for some of the arguments of a dialog, and GTK's dialog may return other paths than those
+// The toolkit has no getters for some of the arguments of a dialog, and GTK's dialog may return other paths than were
 // set. So the dialog's own functions are replaced.
 std::vector<AskedFile> g_made;
 wxString g_path;

@@ -443,7 +443,7 @@ TEST_F(PostedToAWindow, MayEndAndDestroyItsWorker)
         panel);
     EXPECT_EQ(worker->RunThread(), wxTHREAD_NO_ERROR);
     EXPECT_TRUE(PumpUntil([&] { return !worker; }, 30000));
-    // Only the events that were queued before arrive.
+    // After the end of the worker, only the events that it had queued arrive.
     EXPECT_TRUE(PumpUntil([&] { return static_cast<int>(seen.size()) == posted; }, 30000));
     PumpPending();
     EXPECT_EQ(static_cast<int>(seen.size()), posted);

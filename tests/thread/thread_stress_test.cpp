@@ -92,8 +92,7 @@ TEST(AThousandCycles, OfStartPostStopAndWaitLoseNothing)
         handler.handled = 0;
         auto worker = std::make_unique<EndlessPoster>(handler);
         ASSERT_EQ(worker->RunThread(), wxTHREAD_NO_ERROR);
-        // Every other worker is stopped without waiting for an event. So it is stopped at a random moment after its
-        // start.
+        // In every other cycle, do not wait for an event, so that the worker is stopped at a random moment.
         const int awaited = cycle % 2;
         ASSERT_TRUE(PumpUntil([&] { return handler.total >= awaited; }, 30000));
         worker->StartKill();

@@ -18,7 +18,7 @@ constexpr int kLong = 2000000;
 
 const wxWindow* g_outline = nullptr;
 
-/// Whether the outline window was shown, for each time that a picture was drawn on the screen itself.
+/// For each time that a picture was drawn on the screen itself: whether the outline window was shown then.
 std::vector<bool> g_wasShown;
 
 bool DrawsOnTheScreen(cairo_t* context)

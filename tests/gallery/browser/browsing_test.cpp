@@ -37,7 +37,7 @@ TEST_F(Browsing, StartsWithTheFoldersOfTheRoot)
               wxString::FromUTF8("4 items, 3.0\u00A0kB (3\u00A0003 bytes) in 2 files"));
 }
 
-// The process is in the C locale.
+// The process is in the C locale, whose character set lacks some characters of the labels.
 TEST_F(Browsing, AllLabelsAreWholeInAnyLocale)
 {
     EXPECT_EQ(frame->GetMenuBar()->FindItem(wxID_OPEN)->GetItemLabelText(), L"Open folder\u2026");

@@ -11,7 +11,7 @@ from number_model import NumberFormat
 class Case:
     number_format: NumberFormat
     text: str
-    # Whether the library gets a null pointer instead of a text, which is then empty.
+    # Whether the library is passed a null pointer in place of an empty text.
     is_null: bool = False
 
 
