@@ -33,7 +33,7 @@ constexpr Budget kBudgets[] = {
     {"gallery/sum-usr", "du -s", 1.5},
 };
 
-/// A row that may be slower than its peer by a fixed time only.
+/// A row that may be slower than its peer only by a fixed time.
 struct Extra
 {
     const char* row;

@@ -22,7 +22,8 @@ wxThread::ExitCode Result()
     return &result;
 }
 
-// Makes a text of each event, as every application does at least. Leaves the event loop after the last event.
+// Makes a text of each event, which is the least work that an application does. Leaves the event loop after the last
+// event.
 class Receiver : public wxEvtHandler
 {
 public:

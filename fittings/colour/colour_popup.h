@@ -206,16 +206,16 @@ public:
     /// @{
 
     /// Called when the combo shows the popup. No cell is hot and no name is shown at the pointer. The cell of the
-    /// colour in effect is chosen, and the listener is told.
+    /// colour in effect is chosen, and the listener is notified.
     void OnPopup() override;
 
     /// Called when the combo hides the popup. Unless the popup hides itself, the listener is told that nothing was
     /// chosen.
     void OnDismiss() override;
 
-    /// Makes a cell hot, redraws it and tells the listener. An index above the number of the palette's cells counts as
-    /// CELL_MORE_COLOURS. Any other index that is not a cell is kept; no cell looks hot then, and the reported colour
-    /// is the one in effect.
+    /// Makes a cell hot, redraws it and notifies the listener. An index above the number of the palette's cells counts
+    /// as CELL_MORE_COLOURS. Any other index that is not a cell is kept; no cell looks hot then, and the reported
+    /// colour is the one in effect.
     void ChangeSelection(int index);
 
     /// Tells the listener the colour of the hot cell, and redraws the combo if SetRefreshCombo() says so.
@@ -225,7 +225,7 @@ public:
     /// the colour. Otherwise the colour in effect stays.
     void EndSelection(bool ok);
 
-    /// Tells the listener of the end. A chosen colour becomes the initial colour.
+    /// Notifies the listener of the end. A chosen colour becomes the initial colour.
     void DoEndSel(bool ok);
 
     /// Asks for a colour in the toolkit's dialog, which starts with the colour in effect. The colour of the dialog

@@ -19,7 +19,7 @@ constexpr int kMostParts = 2000;
 constexpr std::int64_t kMostSteps = 10'000'000;
 constexpr std::int64_t kMostRows = 10'000;
 
-// The largest number in a caption that the toolkit would read as a field.
+// The largest number that is accepted in a caption where the toolkit would read the number as a field.
 constexpr long kMostInText = 100;
 
 // In pixels. The sum over all possible parts does not overflow.
@@ -139,7 +139,7 @@ bool AreTexts(std::wstring_view texts)
            texts.substr(separator, kCaption.size()) == kCaption;
 }
 
-/// Returns whether the texts contain no number that the toolkit would read and cannot use.
+/// Returns whether the texts contain no number that the toolkit would read as a field and cannot use.
 ///
 /// The toolkit does not read an escaped ";" as a part of the text: it reads what follows as the next field. With
 /// "a;row=99999999;" in a caption, the toolkit reads a row, and takes the empty field after the row for the end of the

@@ -44,7 +44,7 @@ class AncestorWatch;
 /// recorded from wxPersistentRegisterAndRestore() on.
 ///
 /// The values of a window and of the controls in it are collected, and saved together when the window is destroyed. The
-/// values of a control that is destroyed alone are saved on the next turn of the event loop.
+/// values of a control that is destroyed before its window are saved on the next turn of the event loop.
 ///
 /// The toolkit's classes define the values and the sections, such as "Persistent_Options/Window/Browser". A damaged
 /// value counts as missing. GUI thread only.

@@ -9,9 +9,9 @@
 
 /// A format, a text and a locale, made from a fuzzer's bytes.
 ///
-/// The text comes first, one character for each byte: ASCII as itself, higher bytes for blanks, digits and points of
-/// other scripts and for invalid characters. The last bytes are the format. Therefore a text file is a good first
-/// input.
+/// The text comes first, one character for each byte. ASCII bytes are the characters themselves. Higher bytes are
+/// blanks, digits and points of other scripts, and invalid characters. The last bytes are the format. Therefore a text
+/// file is a good first input.
 struct NumberInput
 {
     /// Makes the format and the text from the bytes, and sets the locale that the bytes name.

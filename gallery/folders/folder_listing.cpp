@@ -132,7 +132,7 @@ void LookInto(Subfolder& subfolder, int parent)
     }
 }
 
-/// Returns @a name without case and accents; bytes that are not UTF-8 stay.
+/// Returns @a name without case and accents; bytes that are not UTF-8 stay as they are.
 std::string Folded(const std::string& name)
 {
     const bool ascii = std::all_of(name.begin(), name.end(), [](char c) { return static_cast<signed char>(c) >= 0; });

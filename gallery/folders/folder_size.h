@@ -14,7 +14,7 @@ struct FolderSum
     std::uint64_t unreadable = 0;  ///< The number of names without a size and of unreadable folders.
 };
 
-/// Gets the progress of a sum, on the thread that sums.
+/// Receives the progress of a sum, on the thread that adds it up.
 class SizeObserver
 {
 public:

@@ -10,8 +10,7 @@ struct _GtkWidget;
 
 namespace gallery {
 
-/// Gives a control of the toolkit a name for assistive technologies. Needed if no static text stands before the
-/// control.
+/// Gives a control of the toolkit a name for assistive technologies. Needed if no static text precedes the control.
 void SetAccessibleName(wxWindow* control, const wxString& name);
 
 /// Returns where a top-level window is on the screen, with its decorations.

@@ -26,7 +26,8 @@ void DoubleClick(const wxPoint& point);
 void Drag(const wxPoint& from, const wxPoint& to);
 void PointAt(const wxPoint& point);
 void Press(int key, int modifiers = wxMOD_NONE);
-/// Makes @a part of a window wider: drags the border at its end in reading direction, or @a gap pixels after it.
+/// Makes @a part of a window wider. Drags the border at its end in reading direction, or a point @a gap pixels after
+/// it.
 void Widen(const wxWindow& window, const wxRect& part, int pixels, int gap = 0);
 /// @}
 

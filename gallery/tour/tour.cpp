@@ -421,7 +421,7 @@ bool Tour::AcceptFile(GtkWidget* dialog, const std::string& file, const char* pi
 
 bool Tour::SavePicture(const char* component)
 {
-    // Nothing in the picture lies under the pointer.
+    // Keep the pointer away from everything in the picture.
     const wxRect frame = FrameRect(m_frame->GetHandle());
     return SavePicture(component, frame.GetBottomRight() + wxSize(4, 4));
 }

@@ -45,7 +45,7 @@ bool Tour::OpenFolderColours()
     return Waits([&] { return combo.GetColourPopup()->IsShownOnScreen(); }, "Ctrl+T opens the colours");
 }
 
-/// Returns whether the popup closes and the selected folder has the chosen colour.
+/// Waits until the popup closes and the selected folder has the chosen colour. Returns whether that happens in time.
 bool Tour::FolderGets(int cell)
 {
     const FolderColourCombo& combo = *m_frame->GetBrowser()->GetColour();

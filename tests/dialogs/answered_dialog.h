@@ -48,11 +48,11 @@ inline int ShowAndChoose(wxFileDialog&& dialog, const std::string& path)
     return ShowAndChoose(dialog, path);
 }
 
-/// Shows the dialog on the screen. Accepts it as a user does when the condition holds, and cancels it when the
-/// condition never holds.
+/// Shows the dialog on the screen. Accepts it as a user does when the condition becomes true. If that does not happen
+/// in time, cancels it.
 int AcceptWhen(wxFileDialog& dialog, const std::function<bool()>& isReady);
 
-/// A user whose settings are empty at first, and a folder to choose from.
+/// Settings that are empty at first, and a folder to choose from.
 class RememberingDialog : public testing::Test
 {
 protected:

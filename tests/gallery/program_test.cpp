@@ -149,7 +149,7 @@ TEST_F(TheProgram, FitsOnTheScreenAtFirst)
     EXPECT_NEAR(height, 480, 1);
 }
 
-// Returns the program's own messages. On newer releases, the image loader reports in addition that it runs without its
+// Returns the program's own messages. On newer releases, the image loader also reports that it runs without its
 // sandbox.
 std::string OwnLines(const std::string& errors)
 {

@@ -149,7 +149,7 @@ TEST(UnusualCharacters, AreSeparators)
 {
     CNumberFormat format(eFixedFormat);
     for (const wchar_t c : {wchar_t{0xD800}, wchar_t{0x110000}, wchar_t{0x7FFFFFFF}, static_cast<wchar_t>(-1)}) {
-        // "1,234,50" and "1,50" with the character in the place of each comma.
+        // These are "1,234,50" and "1,50" with the character in place of each comma.
         const std::wstring grouped{L'1', c, L'2', L'3', L'4', c, L'5', L'0'};
         const std::wstring plain{L'1', c, L'5', L'0'};
         format.m_chThousandsSep = c;

@@ -13,7 +13,7 @@
 
 namespace {
 
-// The application object of this process while it exists.
+// While an object of this class exists, the process has an application object.
 class App
 {
 public:

@@ -1,5 +1,5 @@
 // Thread objects in a process of their own: when the system has no room for threads, when threads are left behind, and
-// when the process ends. Prints one result a line.
+// when the process ends. Prints one result per line.
 
 #include <cstdio>
 #include <cstdlib>

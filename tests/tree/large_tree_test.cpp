@@ -142,7 +142,7 @@ TEST_F(LargeTree, IsVisitedAlsoWhenNothingIsStored)
     EXPECT_EQ(tree.expansions, 0);
 }
 
-// Many items with one label, expanded and collapsed in turn: only the last one counts.
+// Many items with one label, alternately expanded and collapsed: only the last one counts.
 TEST_F(LargeTree, OfOneLabelIsSavedAsOne)
 {
     {

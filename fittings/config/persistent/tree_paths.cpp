@@ -88,7 +88,7 @@ private:
         wxTreeItemId item;
         Children children;
         bool isNoted;
-        // For the numbers of equal labels: the counts up to the child that was recorded last.
+        // For numbering equal labels: how often each occurs up to the child that was recorded last.
         Children counting;
         std::unordered_map<std::wstring, std::size_t> counts;
     };

@@ -62,7 +62,7 @@ struct OneStep
         return seen.GetRed(0, 0) << 16 | seen.GetGreen(0, 0) << 8 | seen.GetBlue(0, 0);
     }
 
-    // Returns the chosen cell of the popup, which is of the library's own class. A derived class can read its members.
+    // Returns the chosen cell of the popup. The popup is a wxColourPopup, whose members only a derived class can read.
     int Chosen() const
     {
         struct Seen : wxColourPopup

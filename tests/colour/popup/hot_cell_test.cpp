@@ -260,7 +260,7 @@ protected:
 
     bool Untouched(int x, int y) const { return Pixel(x, y) == kUntouched; }
 
-    // Expects, as far as pixels show it, that exactly the cells' rectangles and the frame were drawn.
+    // Expects that only the cells' rectangles and the frame were drawn, as far as the pixels show it.
     void ExpectDrawn(const std::vector<wxRect>& cells) const
     {
         const wxSize size = popup->GetClientSize();

@@ -1,4 +1,4 @@
-// The size of the popup and the rectangles of its cells, as calculated.
+// The calculated size of the popup, and the calculated rectangles of its cells.
 
 #include <gtest/gtest.h>
 #include <wx/dcclient.h>
@@ -222,7 +222,7 @@ TEST(ColourLayout, HasTheLowerBoxAlone)
     EXPECT_EQ(popup->GetSize(), wxSize(148, text + 111));
 }
 
-// A wide edge of the system makes the margin wider and the cells larger.
+// A wide system edge makes the margin wider and the cells larger.
 TEST(ColourLayout, GrowsWithTheMargin)
 {
     const PinnedEdge edge(6);

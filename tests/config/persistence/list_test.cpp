@@ -18,7 +18,7 @@ wxArrayInt Order(const std::vector<int>& columns)
     return wxArrayInt(columns.begin(), columns.end());
 }
 
-/// A list whose columns have an order, as in ports of the toolkit whose header has one.
+/// A list whose columns can be reordered, as in other ports of the toolkit.
 class OrderedList : public wxListView
 {
 public:

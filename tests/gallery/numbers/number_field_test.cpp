@@ -41,7 +41,7 @@ TEST_F(NumbersPageTest, ResultsFollowEachKey)
     EXPECT_EQ(Result("FormatControlText"), "");
 }
 
-// On the way to 0.05 the value is below the minimum.
+// While 0.05 is being typed, the value is below the minimum.
 TEST_F(NumbersPageTest, VerdictsWhileTypingAndOnTheWholeDiffer)
 {
     Press('M', wxMOD_ALT);

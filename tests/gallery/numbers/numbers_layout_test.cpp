@@ -1,4 +1,4 @@
-// The order of the controls, and a small window.
+// The tab order of the controls, and the page in a small window.
 
 #include <string>
 #include <vector>

@@ -27,7 +27,7 @@ struct Field
 
 constexpr std::int64_t kPowers[] = {1, 10, 100, 1000, 10000};
 
-/// Returns every text of at most @a digits digits, with the empty text.
+/// Returns every text of at most @a digits digits, including the empty text.
 std::vector<std::string> DigitTexts(int digits)
 {
     std::vector<std::string> texts = {""};
@@ -43,8 +43,8 @@ std::vector<std::string> DigitTexts(int digits)
     return texts;
 }
 
-/// Writes every number within the bounds of a field and stores each beginning of it. A number with a minus counts only
-/// if it is below 0.
+/// Writes every number within the bounds of a field, and stores each beginning of its text. A number with a minus
+/// counts only if it is below 0.
 class Beginnings
 {
 public:

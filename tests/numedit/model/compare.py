@@ -16,7 +16,7 @@ from library import Answers, Case
 from number_cases import random_case
 from number_model import NumberFormat
 
-# Small enough to find the case that kills a driver, and large enough to make the driver's start cheap.
+# Small enough to find the case that ends a driver, and so large that starting the drivers takes little time.
 BATCH = 5000
 
 

@@ -1,4 +1,4 @@
-// Others change the settings file after the store has last looked at it, and before it exchanges the file.
+// Other processes change the settings file between the store's last check of the file and the exchange.
 
 #include <fittings/platform/local_reg_store.h>
 

@@ -133,7 +133,7 @@ TEST(AFileThatMayNotBeRead, IsNotReplaced)
     });
     chmod((data / "settings.ini").c_str(), 0600);
     EXPECT_EQ(ReadFile(data / "settings.ini"), kOld);
-    // Once the file may be read again, it has all its values.
+    // When the file can be read again, it has all its values.
     EXPECT_EQ(Stored(L"s", L"k"), L"old");
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
     EXPECT_EQ(ReadFile(data / "settings.ini"), kNew);

@@ -64,7 +64,7 @@ TEST(TenThousandTriples, ComeBack)
     for (int file = 0; triples < 10'000; ++file) {
         std::map<std::pair<std::wstring, std::wstring>, std::wstring> expected;
         const std::string path = folder / "a.ini";
-        // A file that was saved and read again accepts further values like one that was not.
+        // A file that was saved and loaded again must accept further values, too.
         for (int saving = 0; saving < 4 && triples < 10'000; ++saving) {
             Ini ini(path);
             for (unsigned size = Below(random, 40); size > 0 && triples < 10'000; --size, ++triples) {

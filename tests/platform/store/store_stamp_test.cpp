@@ -1,5 +1,5 @@
 // The default store knows by the file's timestamps when its copy is out of date. Here the test sets the timestamps and
-// the clock, so that two changes fall into one tick whenever the test wants.
+// the clock, so that two changes fall into one tick when the test needs it.
 
 #include <filesystem>
 #include <optional>

@@ -30,7 +30,8 @@ public:
     /// Waits for the program to end; returns false when it still runs after @a milliseconds.
     bool WaitForEnd(int milliseconds = 60000);
 
-    /// Returns the exit code of the program that has ended; minus the signal's number when a signal ended it.
+    /// Returns the exit code of the program, which must have ended. If a signal ended it, the result is minus the
+    /// signal's number.
     int ExitCode() const { return m_exitCode; }
 
     /// Returns the output so far.
