@@ -58,8 +58,9 @@ public:
     ///     is taken for a file name. Empty: the folder of the remembered file, or the application's folder "Samples" if
     ///     no file is remembered. If the folder does not exist or cannot be read, the dialog starts in the nearest
     ///     folder above it that can be read. Null asserts, and the result is empty.
-    /// @param initialFileName  the proposed name. Null or empty: the file name that came with the folder, without its
-    ///     extension. If the name has no extension, the toolkit adds that of the first pattern.
+    /// @param initialFileName the proposed name. Null or empty: the name of the remembered file, or the part of @a
+    ///     initialFolder that was taken for a file name, without its extension. If the name has no extension, the
+    ///     toolkit adds that of the first pattern.
     ///
     /// A file whose path is not UTF-8 on disk cannot be chosen: the toolkit returns an empty path, as if the user had
     /// cancelled.

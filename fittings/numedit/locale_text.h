@@ -12,8 +12,8 @@ namespace fittings {
 
 /// Converts a text of localeconv() to wide text. Returns an empty text when the toolkit's current conversion fails.
 ///
-/// Nearly every text is one ASCII character, which needs no conversion. A conversion by wxString costs more than
-/// checking a number.
+/// Nearly every text is one ASCII character, which needs no conversion. A conversion by wxString takes longer than the
+/// whole check of a number.
 inline std::wstring FromLocale(const char* text)
 {
     if (text[0] == '\0')

@@ -128,7 +128,7 @@ void wxNumValidator::OnChar(wxKeyEvent& event)
             wxBell();
         return;
     }
-    // Replace the layout's character of the keypad key by the format's point.
+    // Write the format's point in place of the character that the layout gives the keypad key.
     if (m_bNumpadDecimal)
         control->WriteText(wxString(character));
     else

@@ -25,8 +25,8 @@
 /// text; CNumberEditUtils::FormatControlText() does that.
 ///
 /// Pasted or dropped text, text that an input method inserts without a key event, and text that the program sets are
-/// not checked on the way in. Validate() and TransferFromWindow() check them, so that no dialog ends with a text that
-/// the format does not accept.
+/// not checked when they are inserted. Validate() and TransferFromWindow() check them, so that no dialog ends with a
+/// text that the format does not accept.
 ///
 /// Both functions accept what CNumberEditUtils::ValidateString() accepts. This includes the beginning of a number: the
 /// empty text, "-", "+", "." if decimals are accepted, "1." and "1e-". A program that needs a value must check for one,
@@ -91,7 +91,8 @@ public:
     /// matter: Alt with a letter is refused too if no menu or label takes it. A selection counts as beginning at the
     /// insertion point.
     ///
-    /// @throws std::out_of_range  The control, or a class derived from it, returns an insertion point beyond the text.
+    /// @throws std::out_of_range if the control, for example one of a derived class, returns an insertion point beyond
+    ///     the text.
     void OnChar(wxKeyEvent& event);
 
     /// Records whether the key is the keypad's decimal key, for the characters that follow. Bound to wxEVT_KEY_DOWN.

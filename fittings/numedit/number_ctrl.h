@@ -44,7 +44,7 @@ class NumberField;
 ///
 /// | Input | What it does |
 /// | --- | --- |
-/// | a character | is accepted if a number within the bounds can begin so: with 10 to 20, "1" but not "3" |
+/// | a character | is accepted if a number within the bounds can begin with it: with 10 to 20, "1" but not "3" |
 /// | the keypad's decimal key | types the format's point under every keyboard layout |
 /// | pasted or dropped text | may have groups, the template and a trailing minus |
 /// | Up and Down, the wheel | step by SetIncrement() within the bounds |

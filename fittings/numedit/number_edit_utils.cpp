@@ -47,7 +47,7 @@ const wchar_t* AfterDigits(const wchar_t* text)
 /// Stores @a text in @a result with @a from replaced by @a to. Returns false if there is nothing to replace.
 ///
 /// An empty point means that the locale's point cannot be converted. Usually both points are the same character, which
-/// is found without a call.
+/// is detected without a function call.
 bool ReplacePoint(std::wstring& result, const wchar_t* text, std::wstring_view from, std::wstring_view to)
 {
     if (from.empty() || to.empty() || (from.size() == 1 && to.size() == 1 && from[0] == to[0]))

@@ -7,7 +7,7 @@
 #include <fittings/numedit/number_format.h>
 
 /// Checks, cleans up and formats the text of a number as a CNumberFormat says. The text is never converted to a
-/// `double` for display, so even thousands of digits all stay.
+/// `double` for display, so even thousands of digits are all kept.
 ///
 /// @code
 /// const CNumberFormat format(eFixedFormat);
@@ -26,16 +26,16 @@ public:
     /// "1.0" becomes "1", and "." and "" become "0".
     ///
     /// A sign stops the trimming at the front, so "-007" keeps its zeros and "-.5" stays. At the end, only zeros after
-    /// the decimal point are removed: "10" stays "10". The exponent stays as it is. Of the format, only the decimal
-    /// point is read.
+    /// the decimal point are removed: "10" stays "10". The exponent stays as it is. Only the decimal point of the
+    /// format is used.
     static void CutZeros(wxString& text, const CNumberFormat& format);
 
     /// Inserts the format's thousands separator after every three characters, counted from the decimal point to the
     /// left: "1234567.891" becomes "1,234,567.891".
     ///
     /// Pass digits without a sign: every character before the point counts, so "-123" becomes "-,123". The text ends at
-    /// its first zero character, so with a separator of 0 only the first group remains: 1234 becomes 1. Of the format,
-    /// only the decimal point and the thousands separator are read.
+    /// its first zero character, so with a separator of 0 only the first group remains: 1234 becomes 1. Only the
+    /// decimal point and the thousands separator of the format are used.
     static void GroupDigits(wxString& text, const CNumberFormat& format);
 
     /// Returns whether @a text is a number that the format accepts.

@@ -73,7 +73,7 @@ public:
     /// Returns false when the file could not be read; @a ini is then empty and usable. If the file exists but could not
     /// be read, a later Save() to the same path fails, so that the file is not lost. The result is also false for a
     /// file that was read but contains neither settings nor text, such as one of zeros only or one in UTF-16. Saving
-    /// changes then first renames that file, with ".unreadable" at its end.
+    /// changes then first appends ".unreadable" to the name of that file.
     static bool Load(CIniFile& ini, const wchar_t* path);
 
     /// Returns the value of @a key in @a section, or @a defaultValue when there is none.

@@ -79,7 +79,7 @@ public:
     /// Deletes the image list, if there is one. The control must not be drawn with its images afterwards.
     void DetroyImageList();
 
-    /// Names the state that the SaveState() and LoadState() without a name use. Empty at first.
+    /// Sets the name under which SaveState() and LoadState() without a name keep the state. Empty at first.
     void SetProfile(const wxString& profile);
 
     /// Selects the root and gives the control the focus; returns false when there is no root.

@@ -26,7 +26,7 @@ constexpr std::chrono::milliseconds kTimeToFillAFile(500);
 constexpr std::chrono::milliseconds kTimeToExchange(500);
 constexpr std::chrono::milliseconds kPause(1);
 
-// The number of merges in one save. Each merge is caused by another change at the very moment of an exchange.
+// The largest number of merges in one save. Each merge is caused by another change at the very moment of an exchange.
 constexpr int kMaxMerges = 100;
 
 bool IsBefore(const timespec& a, const timespec& b)

@@ -97,7 +97,8 @@ StagedFile::StagedFile(std::string target, std::string_view bytes, const struct 
 {
     const std::string folder = FolderOf(m_target);
     RemoveLeftovers(folder);
-    // Use the open file and not its name: the folder's owner can replace it meanwhile by a link to a file of root.
+    // Use the open file and not its name: the folder's owner can meanwhile replace the file by a link to a file that
+    // belongs to root.
     const FileDescriptor file(MakeFile(folder, m_path));
     if (file.Get() < 0)
         return;
