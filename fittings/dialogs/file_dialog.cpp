@@ -54,9 +54,10 @@ bool CanBeShown(const wxFileName& folder)
     return folder.DirExists() && folder.IsDirReadable();
 }
 
-// Starts the dialog in the nearest folder that can be shown. GTK's dialog goes up from a missing folder by itself. For
-// a file, or for a folder that may not be read, it would show an error or nothing, and nothing could be chosen.
-void LeaveWhatCannotBeShown(wxFileDialog& dialog, const wxString& start)
+// If @a start cannot be shown, starts the dialog in the nearest folder above it that can. GTK's dialog goes up from a
+// missing folder by itself. For a file, or for a folder that the user may not read, it would show an error or nothing,
+// and nothing could be chosen.
+void StartInReadableFolder(wxFileDialog& dialog, const wxString& start)
 {
     if (!CanBeShown(wxFileName::DirName(start)) && !IsGone(start))
         dialog.SetDirectory(fittings::NearestThatCanBeShown(start));
@@ -137,7 +138,7 @@ wxString FileSelector(const wchar_t* title, const wchar_t* defaultDir, const wch
     const wxString effectiveWildcard = EffectiveWildcard(OrEmpty(wildcard), extension);
     wxFileDialog dialog(parent, OrEmpty(title), OrEmpty(defaultDir), OrEmpty(defaultFile), effectiveWildcard, style,
                         wxPoint(x, y), wxDefaultSize, wxFileDialogNameStr);
-    LeaveWhatCannotBeShown(dialog, OrEmpty(defaultDir));
+    StartInReadableFolder(dialog, OrEmpty(defaultDir));
     const int filterIndex = FilterIndexOf(effectiveWildcard, extension);
     if (filterIndex > 0)
         dialog.SetFilterIndex(filterIndex);
