@@ -16,13 +16,13 @@ bool IsAbove(const wxWindow* ancestor, const wxWindow* window)
 
 namespace fittings {
 
-AncestorWatch::AncestorWatch(wxWindow& window, std::function<void()> isGoing)
-    : m_isGoing(std::make_shared<std::function<void()>>(std::move(isGoing)))
+AncestorWatch::AncestorWatch(wxWindow& window, std::function<void()> onDestruction)
+    : m_onDestruction(std::make_shared<std::function<void()>>(std::move(onDestruction)))
 {
     wxWindow* ancestor = &window;
     while (!ancestor->IsTopLevel() && ancestor->GetParent()) {
         ancestor = ancestor->GetParent();
-        ancestor->Bind(wxEVT_DESTROY, [call = m_isGoing, ancestor, &window](wxWindowDestroyEvent& event) {
+        ancestor->Bind(wxEVT_DESTROY, [call = m_onDestruction, ancestor, &window](wxWindowDestroyEvent& event) {
             event.Skip();
             // The ancestor also gets the events of all windows below it. The window may have a new parent by now.
             if (*call && event.GetEventObject() == ancestor && IsAbove(ancestor, &window))
@@ -33,7 +33,7 @@ AncestorWatch::AncestorWatch(wxWindow& window, std::function<void()> isGoing)
 
 AncestorWatch::~AncestorWatch()
 {
-    *m_isGoing = nullptr;
+    *m_onDestruction = nullptr;
 }
 
 }  // namespace fittings

@@ -15,14 +15,15 @@ namespace fittings {
 class AncestorWatch
 {
 public:
-    AncestorWatch(wxWindow& window, std::function<void()> isGoing);
+    /// Calls @a onDestruction when an ancestor of @a window is about to be destroyed.
+    AncestorWatch(wxWindow& window, std::function<void()> onDestruction);
     ~AncestorWatch();
     AncestorWatch(const AncestorWatch&) = delete;
     AncestorWatch& operator=(const AncestorWatch&) = delete;
 
 private:
-    std::shared_ptr<std::function<void()>>
-        m_isGoing;  // Shared with the handlers of the ancestors; empty once this object is destroyed.
+    // Shared with the handlers of the ancestors; empty once this object is destroyed.
+    std::shared_ptr<std::function<void()>> m_onDestruction;
 };
 
 }  // namespace fittings
