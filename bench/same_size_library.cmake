@@ -2,7 +2,7 @@
 # size of LIBRARY.
 file(SIZE ${LIBRARY} size)
 file(CONFIGURE OUTPUT ${SOURCE} CONTENT [[
-// As large as the library it is held against, without anything in it.
+// As large as the library that it is compared with, but empty.
 extern const char nothing[@size@];
 const char nothing[@size@] = {1};
 ]] @ONLY)

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""compare.py DRIVER LOCALE COUNT: holds the library against its model on COUNT cases made by chance.
+"""compare.py DRIVER LOCALE COUNT: compares the library with its model on COUNT random cases.
 
-DRIVER is the program number_driver. A case on which the two differ is made as small as possible and printed; --seed
-brings a run of the same cases back.
+DRIVER is the program number_driver. If the library and the model differ on a case, prints the smallest similar case.
+With the same --seed, the cases are the same.
 """
 
 import argparse
@@ -33,7 +33,7 @@ def model_answers(case, locale):
 
 
 def shrunken(case, still_differs):
-    """A case as small and as plain as it gets while the two still differ."""
+    """Returns the smallest and simplest version of a case on which the library and the model still differ."""
     changed = True
     while changed:
         changed = False
@@ -100,7 +100,7 @@ def main():
     rng = random.Random(arguments.seed)
 
     def differing_answer(case):
-        """The library's answers, or how it died, where they are not the model's; else None."""
+        """Returns the library's answers if they differ from the model's, or how its process ended; otherwise None."""
         try:
             (answers,) = library.ask(arguments.driver, arguments.locale, [case])
         except library.Died as died:

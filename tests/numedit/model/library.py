@@ -1,4 +1,4 @@
-"""The library's own answers, by way of number_driver."""
+"""Gets the library's answers through number_driver."""
 
 import struct
 import subprocess
@@ -25,15 +25,15 @@ class Answers:
 
 
 class Died(Exception):
-    """The driver's process ended at a case."""
+    """Raised when the driver's process ends during a case."""
 
     def __init__(self, index, how):
-        super().__init__(f"number_driver died of case {index}: {how}")
+        super().__init__(f"number_driver ended during case {index}: {how}")
         self.index = index
 
 
 def ask(driver, locale_name, cases):
-    """The library's answers to a list of cases, in their order."""
+    """Returns the library's answers to the cases, in the same order."""
     run = subprocess.run([driver, *locale_name.split("/")], input=b"".join(map(_packed, cases)), capture_output=True)
     answers = []
     output = memoryview(run.stdout)

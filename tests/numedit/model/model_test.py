@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The model itself on examples worked out by hand: who is to judge the library must be right about these."""
+"""Tests the model on examples that were worked out by hand."""
 
 import unittest
 
@@ -14,7 +14,7 @@ def fixed(**fields):
 
 
 def plain(**fields):
-    """What the locale preset is in the C locale."""
+    """Returns the locale preset of the C locale, with some fields changed."""
     preset = dict(pad_decimals=False, group_digits=False, trailing_minus=False, thousands_sep="\0",
                   has_decimals=False, has_max_int_digits=False)
     return NumberFormat(**{**preset, **fields})

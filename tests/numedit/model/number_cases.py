@@ -1,4 +1,4 @@
-"""Formats and texts made by chance. A seed always makes the same ones."""
+"""Makes random formats and texts. The same seed makes the same ones."""
 
 import math
 

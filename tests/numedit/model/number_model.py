@@ -1,8 +1,8 @@
-"""What CNumberEditUtils does, said a second time and on its own.
+"""A second, independent implementation of CNumberEditUtils.
 
-Each operation of fittings/numedit/number_edit_utils.h is one function here, written from the behaviour and not from the
-C++, so that a mistake has to be made twice to go unnoticed. It is written to be read, not to be fast: texts are Python
-strings, and a text that the library takes as a pointer is one without U+0000.
+Each operation of fittings/numedit/number_edit_utils.h is one function here. It was written from the documented behaviour
+and not from the C++ code, so that one mistake does not occur in both. The functions are meant to be simple, not fast.
+Texts are Python strings. A text that the library takes as a pointer contains no U+0000.
 """
 
 import ctypes
@@ -18,7 +18,7 @@ MOST_PADDING = 1_000_000
 
 @dataclass
 class NumberFormat:
-    """CNumberFormat, field by field; as it stands, its fixed preset."""
+    """The fields of CNumberFormat. The defaults are those of its fixed preset."""
 
     pad_decimals: bool = True
     round_decimals: bool = False
@@ -44,9 +44,9 @@ class _Lconv(ctypes.Structure):
 
 
 class Locale:
-    """What the operations ask of the process's locale, straight from the C library.
+    """What the operations need from the process's locale, as the C library returns it.
 
-    Making one sets the locale of this process. NAME may be "CHARACTERS/NUMBERS", two locales in one.
+    The constructor sets the locale of this process. NAME may consist of two locales, as "CHARACTERS/NUMBERS".
     """
 
     def __init__(self, name):
@@ -65,7 +65,7 @@ class Locale:
             raise OSError(f"there is no locale {numbers}")
 
     def point(self):
-        """The decimal point; empty when the locale's characters cannot express it."""
+        """Returns the decimal point; empty if the locale's character set cannot represent it."""
         bytes_of_point = self._libc.localeconv().contents.decimal_point
         wide = ctypes.create_unicode_buffer(len(bytes_of_point) + 1)
         length = self._libc.mbstowcs(wide, bytes_of_point, len(bytes_of_point) + 1)
@@ -77,7 +77,7 @@ class Locale:
         return self._blanks[character]
 
     def to_number(self, text):
-        """What the text starts with, as a number; 0 when that is none."""
+        """Returns the number that the text begins with; 0 if there is none."""
         return self._libc.wcstod(text, None)
 
 
@@ -216,7 +216,7 @@ def format_control_text(text, number_format, locale):
 
 
 def _round_half_up(integer, fraction, decimals):
-    """The number with at most that many decimals, None being no limit; as digits, which may have become one more."""
+    """Returns the number rounded to at most that many decimals; None means no limit. A carry may add a digit."""
     if decimals is None or len(fraction) <= decimals:
         return integer, fraction
     digits = integer + fraction[:decimals]
@@ -231,7 +231,7 @@ def _round_half_up(integer, fraction, decimals):
 
 
 def _fill_in(template, text):
-    """The printf template with the text in the place of its one %s, if it has one."""
+    """Returns the printf template with the text in place of its one %s, if it has one."""
     has_place = "%" in template.replace("%%", "")
     return template % ((text,) if has_place else ())
 

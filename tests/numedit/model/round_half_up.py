@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""round_half_up.py DRIVER COUNT: holds the rounding of FormatControlText() against Python's decimal arithmetic.
+"""round_half_up.py DRIVER COUNT: compares the rounding of FormatControlText() with Python's decimal arithmetic.
 
-COUNT random decimals are rounded and padded to random numbers of decimals, half of them grouped.
+Rounds and pads COUNT random numbers to a random number of decimals, and groups the digits of half of them.
 """
 
 import argparse
@@ -17,7 +17,7 @@ BATCH = 10000
 
 
 def random_decimal(rng):
-    """As typed: no needless zero in front, and digits that like to carry."""
+    """Returns a number as it is typed: without a needless zero in front, often with digits that cause a carry."""
     longest = 400 if rng.random() < 0.01 else 12
     alphabet = rng.choice(["0123456789", "0123456789", "9", "49", "5", "09"])
 
