@@ -47,7 +47,7 @@ wxString ConsumeCaption(FuzzedDataProvider& bytes)
     return text;
 }
 
-/// Arranges the panes as a program and its user may.
+/// Arranges the panes in a way that a program or its user could.
 void Arrange(wxAuiManager& manager, FuzzedDataProvider& bytes)
 {
     for (const char* const name : kNames) {

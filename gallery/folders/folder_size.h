@@ -20,7 +20,7 @@ class SizeObserver
 public:
     virtual ~SizeObserver() = default;
 
-    /// A direct subfolder of the summed one is finished.
+    /// Called when a direct subfolder of the summed folder is finished.
     virtual void OnSubfolder(const std::string& name, const FolderSum& sum) = 0;
 
     /// Called after each item. @a fraction rises from 0 to 1; all subfolders of a folder have equal shares of it.

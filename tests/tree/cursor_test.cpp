@@ -15,7 +15,7 @@
 
 namespace {
 
-// The operations on a constant cursor, and their results.
+// The type of an operation that a constant cursor has.
 template <typename Result, typename... Arguments>
 using Asks = Result (wxTreeCursor::*)(Arguments...) const;
 
@@ -29,7 +29,7 @@ static_assert(std::is_same_v<decltype(&wxTreeCursor::GetChild), Asks<wxTreeCurso
 static_assert(std::is_same_v<decltype(&wxTreeCursor::GetNextSibling), Asks<wxTreeCursor>>);
 static_assert(std::is_same_v<decltype(&wxTreeCursor::GetTextColour), Asks<unsigned long>>);
 
-// The operations that change the item.
+// The type of an operation that only a cursor that is not constant has.
 template <typename Result, typename... Arguments>
 using Does = Result (wxTreeCursor::*)(Arguments...);
 

@@ -213,7 +213,7 @@ TEST_F(FolderColours, EachFolderStartsWithItsOwn)
     Select("docs");
     Select("music");
     OpenColours();
-    // Enter without a move keeps the folder's colour.
+    // Pressing Enter without moving keeps the folder's colour.
     Press(WXK_RETURN);
     EXPECT_TRUE(PumpUntil([&] { return !Combo().IsPopupShown(); }));
     EXPECT_EQ(browser_settings::LoadFolderColour(root + "/music"), kIndigo);

@@ -238,7 +238,7 @@ TEST_F(NumberTyping, PutsASelectionBackThatATextWithoutAKeyWasToReplace)
     EXPECT_EQ(screen.BellsRung(), 1);
 }
 
-// A dead key and a letter commit a character that has no key.
+// A dead key and a letter make a character that has no key of its own.
 TEST_F(NumberTyping, RefusesWhatAComposingLayoutMakes)
 {
     screen.Restart("12345");
