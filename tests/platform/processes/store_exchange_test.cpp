@@ -5,6 +5,8 @@
 #include <cerrno>
 #include <chrono>
 #include <cstddef>
+#include <cstdio>
+#include <filesystem>
 #include <functional>
 #include <string>
 #include <thread>
@@ -12,6 +14,7 @@
 #include <vector>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <gtest/gtest.h>
@@ -143,12 +146,82 @@ TEST_F(AnExchange, PutsBackWhatIsNoText)
 {
     WriteFile(m_path, "[s]\na=1\nk=old\n");
     const std::string zeros(100, '\0');
-    const Others others({[&] { Put(zeros); }});
-    EXPECT_FALSE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
-    EXPECT_EQ(Now(), zeros);
+    const Others others({[&] { Put(zeros); }, [&] { EXPECT_NE(Now(), zeros); }, [&] { EXPECT_EQ(Now(), zeros); }});
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
+    EXPECT_EQ(others.Done(), 3U);
     EXPECT_EQ(Now(), "[s]\nk=new\n");
     EXPECT_EQ(ReadFile(m_path + ".unreadable"), zeros);
+}
+
+// A third process has replaced our file before the second one's is put back.
+TEST_F(AnExchange, KeepsWhatAThirdProcessStoresBeforeAFileIsPutBack)
+{
+    WriteFile(m_path, "[s]\na=1\nk=old\n");
+    const std::string zeros(100, '\0');
+    const Others others({[&] { Put(zeros); }, [&] { Put("[s]\na=1\nk=new\nb=3\n"); }});
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
+    EXPECT_EQ(Now(), "[s]\na=1\nk=new\nb=3\n");
+    EXPECT_EQ(ReadFile(m_path + ".unreadable"), zeros);
+    EXPECT_EQ(NamesIn(m_data.Path()),
+              (std::vector<std::string>{"settings.ini", "settings.ini.lock", "settings.ini.unreadable"}));
+}
+
+// A fourth process has replaced the file that was put back, before the third one's is put in its place again.
+TEST_F(AnExchange, DestroysNothingThatThreeOtherProcessesStore)
+{
+    WriteFile(m_path, "[s]\na=1\nk=old\n");
+    const std::string zeros(100, '\0');
+    const std::string third = "[s]\na=1\nk=new\nb=3\n";
+    const Others others({[&] { Put(zeros); }, [&] { Put(third); }, [&] { Put("[s]\nc=4\n"); }});
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
+    EXPECT_EQ(Now(), "[s]\nc=4\nk=new\n");
+    EXPECT_EQ(ReadFile(m_path + ".unreadable"), third);
+}
+
+// The merged content of the second process and ours does not stay either.
+TEST_F(AnExchange, DestroysNothingOfASecondProcessWhenAThirdPutsAPipeInPlaceOfTheFile)
+{
+    WriteFile(m_path, "[s]\na=1\nk=old\n");
+    const std::string second = "[s]\na=2\nk=old\n";
+    const Others others({[&] { Put(second); },
+                         [&] {
+                             ASSERT_EQ(mkfifo((m_path + ".new").c_str(), 0600), 0);
+                             ASSERT_EQ(rename((m_path + ".new").c_str(), m_path.c_str()), 0);
+                         }});
+    EXPECT_FALSE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
+    EXPECT_TRUE(std::filesystem::is_fifo(m_path));
+    EXPECT_EQ(ReadFile(m_path + ".unreadable"), second);
+}
+
+// Opening a pipe would wait for a program that writes into it.
+TEST_F(AnExchange, DoesNotWaitForAPipeThatTakesThePlaceOfTheFile)
+{
+    WriteFile(m_path, "[s]\na=1\nk=old\n");
+    const Others others({[&] { Put("[s]\na=2\nk=old\n"); }});
+    int syncs = 0;
+    g_watchedCalls.beforeSync = [&] {
+        if (++syncs != 2)
+            return;
+        ASSERT_EQ(unlink(m_path.c_str()), 0);
+        ASSERT_EQ(mkfifo(m_path.c_str(), 0600), 0);
+    };
+    EXPECT_FALSE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
+    g_watchedCalls.beforeSync = nullptr;
+    EXPECT_TRUE(std::filesystem::is_fifo(m_path));
+}
+
+TEST_F(AnExchange, KeepsALinkThatTakesThePlaceOfTheFile)
+{
+    const TempFolder elsewhere;
+    WriteFile(elsewhere / "settings.ini", "[s]\na=2\n");
+    WriteFile(m_path, "[s]\na=1\nk=old\n");
+    const Others others({[&] {
+        ASSERT_EQ(unlink(m_path.c_str()), 0);
+        ASSERT_EQ(symlink((elsewhere / "settings.ini").c_str(), m_path.c_str()), 0);
+    }});
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
+    EXPECT_TRUE(std::filesystem::is_symlink(m_path));
+    EXPECT_EQ(ReadFile(elsewhere / "settings.ini"), "[s]\na=2\nk=new\n");
 }
 
 TEST_F(AnExchange, KeepsTheFileThatTakesThePlaceOfAnUnreadableOne)

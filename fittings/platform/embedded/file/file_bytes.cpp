@@ -26,6 +26,9 @@ constexpr std::chrono::milliseconds kTimeToFillAFile(500);
 constexpr std::chrono::milliseconds kTimeToExchange(500);
 constexpr std::chrono::milliseconds kPause(1);
 
+// Do not block: opening a pipe would wait for a writer.
+constexpr int kForReading = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+
 // The largest number of merges in one save. Each merge is caused by another change at the very moment of an exchange.
 constexpr int kMaxMerges = 100;
 
@@ -97,21 +100,45 @@ void SyncFolder(const std::string& folder)
         fsync(descriptor.Get());
 }
 
+// Appends the bytes of the open file, from its beginning.
+FileContent ReadOpenFile(int fd, std::string& bytes)
+{
+    timespec now;
+    clock_gettime(CLOCK_REALTIME_COARSE, &now);
+    struct stat info;
+    if (fstat(fd, &info) != 0 || !S_ISREG(info.st_mode) || info.st_size > kMaxFileSize || lseek(fd, 0, SEEK_SET) != 0 ||
+        !ReadAll(fd, static_cast<std::size_t>(info.st_size), bytes))
+        return {ReadResult::Failed, std::nullopt};
+    return {ReadResult::Read, FileIdentity(info), IsPastTick(info.st_ctim, now)};
+}
+
+template <typename Read>
+FileContent ReadUntilFilled(const Read& read, std::string& bytes, std::chrono::steady_clock::time_point deadline)
+{
+    for (;;) {
+        bytes.clear();
+        const FileContent content = read(bytes);
+        if (!content.IsEmptyForNow() || std::chrono::steady_clock::now() >= deadline)
+            return content;
+        std::this_thread::sleep_for(kPause);
+    }
+}
+
 // Returns the content of the displaced file. If another process has already removed that file as a leftover, it was the
-// file that was opened before the exchange: every other file is too new to count as a leftover. If the content before
-// the exchange was empty, the write has already waited for new content.
-std::optional<std::string> ReadDisplaced(const StagedFile& staged, int before, bool wasEmpty)
+// file that was opened before the exchange: every other file is too new to count as a leftover. Does not wait for
+// content beyond @a deadline.
+std::optional<std::string> ReadDisplaced(const StagedFile& staged, int before,
+                                         std::chrono::steady_clock::time_point deadline)
 {
     std::string bytes;
-    const auto now = std::chrono::steady_clock::now();
-    const FileContent content = ReadFilledBytes(staged.Path(), bytes, wasEmpty ? now : now + kTimeToFillAFile);
-    if (content.result == ReadResult::Read)
-        return bytes;
-    struct stat info;
-    if (content.result == ReadResult::Missing && fstat(before, &info) == 0 && lseek(before, 0, SEEK_SET) == 0 &&
-        ReadAll(before, static_cast<std::size_t>(info.st_size), bytes))
-        return bytes;
-    return std::nullopt;
+    // If somebody has put a link in place of the file, do not read its target: the link itself must come back.
+    const FileDescriptor file(open(staged.Path().c_str(), kForReading | O_NOFOLLOW));
+    if (file.Get() < 0 && errno != ENOENT)
+        return std::nullopt;
+    const int fd = file.Get() >= 0 ? file.Get() : before;
+    const FileContent content =
+        ReadUntilFilled([fd](std::string& read) { return ReadOpenFile(fd, read); }, bytes, deadline);
+    return content.result == ReadResult::Read ? std::optional(std::move(bytes)) : std::nullopt;
 }
 
 // The target of an update and its state.
@@ -171,7 +198,10 @@ struct Exchanged
 // again. A change that another process makes meanwhile is displaced and merged in the same way.
 UpdateResult MergeDisplaced(const Target& target, const Exchanged& done, const FileUpdate& update, int merges = 0)
 {
-    const auto displaced = ReadDisplaced(done.staged, done.before, done.expected.empty());
+    const auto now = std::chrono::steady_clock::now();
+    // If the content before was empty, the write has already waited for new content.
+    const auto displaced =
+        ReadDisplaced(done.staged, done.before, done.expected.empty() ? now : now + kTimeToFillAFile);
     if (displaced && *displaced == done.expected)
         return UpdateResult::Saved;
     std::optional<std::string> merged;
@@ -179,12 +209,16 @@ UpdateResult MergeDisplaced(const Target& target, const Exchanged& done, const F
         merged = update.merge(done.expected, done.put, *displaced);
     if (merged) {
         StagedFile next(target.path, *merged, OldOf(target));
-        const FileDescriptor ours(open(target.path.c_str(), O_RDONLY | O_CLOEXEC));
-        if (next.IsWritten() && next.Exchange() == PlaceResult::Done)
-            return MergeDisplaced(target, {next, ours.Get(), done.put, *merged}, update, merges + 1);
+        const FileDescriptor ours(open(target.path.c_str(), kForReading | O_NOFOLLOW));
+        if (next.IsWritten() && next.Exchange() == PlaceResult::Done &&
+            MergeDisplaced(target, {next, ours.Get(), done.put, *merged}, update, merges + 1) == UpdateResult::Saved)
+            return UpdateResult::Saved;
     }
-    // Put the displaced file back. If that fails too, our file stays.
-    return done.staged.Exchange() == PlaceResult::Done ? UpdateResult::Failed : UpdateResult::Saved;
+    const PlaceResult undone = done.staged.PutBack();
+    if (undone != PlaceResult::Done)
+        done.staged.SetAside();
+    // If the exchange cannot be undone, our file stays.
+    return undone == PlaceResult::Failed ? UpdateResult::Saved : UpdateResult::Outdated;
 }
 
 // A lock of the folder: only the holder of the lock exchanges a file in the folder. The lock is held for the
@@ -206,15 +240,13 @@ public:
     ExchangeLock& operator=(const ExchangeLock&) = delete;
 
     // Waits for the lock while the file is unchanged. Gives up after a short time, because the holder may be stopped.
-    void WaitWhile(const std::function<bool()>& isAsItWas)
+    void WaitWhile(const std::function<bool()>& isAsItWas, std::chrono::steady_clock::time_point deadline)
     {
-        const auto deadline = std::chrono::steady_clock::now() + kTimeToExchange;
-        while (m_folder.Get() >= 0 && !m_isHeld && std::chrono::steady_clock::now() < deadline && isAsItWas()) {
+        while (m_folder.Get() >= 0 && isAsItWas()) {
             m_isHeld = flock(m_folder.Get(), LOCK_EX | LOCK_NB) == 0;
-            if (!m_isHeld && errno != EWOULDBLOCK && errno != EINTR)
+            if (m_isHeld || (errno != EWOULDBLOCK && errno != EINTR) || std::chrono::steady_clock::now() >= deadline)
                 return;
-            if (!m_isHeld)
-                std::this_thread::sleep_for(kPause);
+            std::this_thread::sleep_for(kPause);
         }
     }
 
@@ -225,14 +257,14 @@ private:
 
 UpdateResult ExchangeAndMerge(const Target& target, StagedFile& staged, const FileUpdate& update)
 {
-    const FileDescriptor before(open(target.path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    const FileDescriptor before(open(target.path.c_str(), kForReading | O_NOFOLLOW));
     if (before.Get() < 0)
-        return errno == ENOENT ? UpdateResult::Outdated : UpdateResult::Failed;
+        return errno == ENOENT || errno == ELOOP ? UpdateResult::Outdated : UpdateResult::Failed;
     const auto isAsItWas = [&] { return IdentityOf(target.path) == update.found.identity; };
     PlaceResult placed = PlaceResult::NotAsExpected;
     {
         ExchangeLock lock(FolderOf(target.path));
-        lock.WaitWhile(isAsItWas);
+        lock.WaitWhile(isAsItWas, std::chrono::steady_clock::now() + kTimeToExchange);
         if (isAsItWas())
             placed = staged.Exchange();
         if (placed == PlaceResult::Unsupported)
@@ -270,28 +302,15 @@ std::optional<FileIdentity> IdentityOf(const std::string& path)
 
 FileContent ReadFileBytes(const std::string& path, std::string& bytes)
 {
-    timespec now;
-    clock_gettime(CLOCK_REALTIME_COARSE, &now);
-    // Do not block: if the path is a pipe, open() would wait for a writer.
-    const FileDescriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    const FileDescriptor file(open(path.c_str(), kForReading));
     if (file.Get() < 0)
         return {errno == ENOENT ? ReadResult::Missing : ReadResult::Failed, std::nullopt};
-    struct stat info;
-    if (fstat(file.Get(), &info) != 0 || !S_ISREG(info.st_mode) || info.st_size > kMaxFileSize ||
-        !ReadAll(file.Get(), static_cast<std::size_t>(info.st_size), bytes))
-        return {ReadResult::Failed, std::nullopt};
-    return {ReadResult::Read, FileIdentity(info), IsPastTick(info.st_ctim, now)};
+    return ReadOpenFile(file.Get(), bytes);
 }
 
 FileContent ReadFilledBytes(const std::string& path, std::string& bytes, std::chrono::steady_clock::time_point deadline)
 {
-    for (;;) {
-        bytes.clear();
-        const FileContent content = ReadFileBytes(path, bytes);
-        if (!content.IsEmptyForNow() || std::chrono::steady_clock::now() >= deadline)
-            return content;
-        std::this_thread::sleep_for(kPause);
-    }
+    return ReadUntilFilled([&path](std::string& read) { return ReadFileBytes(path, read); }, bytes, deadline);
 }
 
 bool FileContent::IsEmptyForNow() const
@@ -351,8 +370,8 @@ std::string KeepUnderOtherName(const std::string& path)
     const auto target = FollowLinks(path);
     if (!target)
         return {};
-    for (int number = 1; number < 1000; ++number) {
-        std::string other = *target + ".unreadable" + (number > 1 ? "." + std::to_string(number) : "");
+    for (int number = 1; number < kMaxOtherNames; ++number) {
+        std::string other = OtherName(*target, number);
         if (link(target->c_str(), other.c_str()) == 0)
             return other;
         if (errno != EEXIST)
@@ -364,6 +383,11 @@ std::string KeepUnderOtherName(const std::string& path)
             return other;
     }
     return {};
+}
+
+std::string OtherName(const std::string& path, int number)
+{
+    return path + ".unreadable" + (number > 1 ? "." + std::to_string(number) : "");
 }
 
 void GiveToOwnerOfFolder(int fd, const std::string& folder)

@@ -85,7 +85,8 @@ struct FileUpdate
 /// Like ReplaceFileBytes(), but keeps every change that others have stored since the file was read.
 ///
 /// Returns Outdated and does not touch the file if the file has changed since it was read. A change between this check
-/// and the exchange of the two files is merged. On file systems that cannot exchange two files in one step, such as
+/// and the exchange of the two files is merged. If it cannot be merged, the function undoes the exchange and returns
+/// Outdated. If others prevent that too, the change is set aside as KeepUnderOtherName() does. On file systems that cannot exchange two files in one step, such as
 /// NFS, a change within those few microseconds can be lost.
 UpdateResult UpdateFileBytes(const std::string& path, const FileUpdate& update);
 
@@ -93,6 +94,12 @@ UpdateResult UpdateFileBytes(const std::string& path, const FileUpdate& update);
 /// ".unreadable.2" and so on. A file that has such a name already keeps it. Follows links. Returns the second name, or
 /// an empty text on any error.
 std::string KeepUnderOtherName(const std::string& path);
+
+/// Returns the second name that KeepUnderOtherName() tries as the one with this number. The first has number 1.
+std::string OtherName(const std::string& path, int number);
+
+/// The number of second names to try.
+inline constexpr int kMaxOtherNames = 1000;
 
 /// If root has made the open file in the folder of another user, makes that user the owner of the file. Otherwise that
 /// user could not use the file. Only for a file that this process has just made.

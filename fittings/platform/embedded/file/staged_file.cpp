@@ -28,6 +28,10 @@ constexpr std::string_view kPrefix = ".fittings-save-";
 // Older temporary files were left by processes that were killed while they saved.
 constexpr time_t kLifetimeSeconds = 60;
 
+// The number of exchanges to put a file back. Each one after the first is caused by another process that stores
+// something at the very moment of an exchange.
+constexpr int kMaxExchanges = 100;
+
 // Makes an empty file with a name that no person would choose, and opens it. Sets @a path only on success. Returns -1
 // on any error.
 int MakeFile(const std::string& folder, std::string& path)
@@ -67,6 +71,20 @@ void RemoveLeftovers(const std::string& folder)
             unlink(path.c_str());
     }
     g_dir_close(dir);
+}
+
+// Returns the state of the file with this name, and does not follow a link.
+std::optional<FileIdentity> IdentityOfName(const std::string& path)
+{
+    struct stat info;
+    if (lstat(path.c_str(), &info) != 0)
+        return std::nullopt;
+    return FileIdentity(info);
+}
+
+bool HaveSameContent(const std::optional<FileIdentity>& a, const std::optional<FileIdentity>& b)
+{
+    return a && b && a->HasContentOf(*b);
 }
 
 // Writes the bytes. When the function returns true, the bytes are on the disk.
@@ -133,7 +151,38 @@ PlaceResult StagedFile::PutNew()
 
 PlaceResult StagedFile::Exchange()
 {
-    return Rename(RENAME_EXCHANGE);
+    auto placed = IdentityOfName(m_path);
+    const PlaceResult result = Rename(RENAME_EXCHANGE);
+    if (result == PlaceResult::Done)
+        m_placed = std::move(placed);
+    return result;
+}
+
+// If the file that comes out is not the one that was put at the target, another process has stored it meanwhile. It is
+// put at the target again, in the same way.
+PlaceResult StagedFile::PutBack()
+{
+    const auto ours = m_placed;
+    for (int exchanges = 0; exchanges < kMaxExchanges; ++exchanges) {
+        const auto expected = m_placed;
+        const PlaceResult result = Exchange();
+        if (result != PlaceResult::Done)
+            return exchanges == 0 ? result : PlaceResult::NotAsExpected;
+        const auto displaced = IdentityOfName(m_path);
+        if (HaveSameContent(displaced, expected))
+            return HaveSameContent(displaced, ours) ? PlaceResult::Done : PlaceResult::NotAsExpected;
+    }
+    return PlaceResult::NotAsExpected;
+}
+
+void StagedFile::SetAside()
+{
+    for (int number = 1; number < kMaxOtherNames; ++number) {
+        if (renameat2(AT_FDCWD, m_path.c_str(), AT_FDCWD, OtherName(m_target, number).c_str(), RENAME_NOREPLACE) == 0)
+            m_path.clear();
+        if (m_path.empty() || errno != EEXIST)
+            return;
+    }
 }
 
 PlaceResult StagedFile::Rename(unsigned int flags)

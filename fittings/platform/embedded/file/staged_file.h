@@ -1,8 +1,11 @@
 #ifndef FITTINGS_PLATFORM_EMBEDDED_FILE_STAGED_FILE_H_
 #define FITTINGS_PLATFORM_EMBEDDED_FILE_STAGED_FILE_H_
 
+#include <optional>
 #include <string>
 #include <string_view>
+
+#include <fittings/platform/embedded/file/file_bytes.h>
 
 struct stat;
 
@@ -36,8 +39,16 @@ public:
     /// Puts the new file at the target, where no file may exist.
     PlaceResult PutNew();
 
-    /// Exchanges the new file and the target. A second call undoes the first.
+    /// Exchanges the new file and the target. The displaced file then has the temporary name.
     PlaceResult Exchange();
+
+    /// Undoes Exchange(). Returns NotAsExpected when another process has replaced, changed or removed the new file
+    /// since: what that process has stored then stays. If the result is not Done, the displaced file keeps the temporary
+    /// name.
+    PlaceResult PutBack();
+
+    /// Gives the displaced file a name that people find, and does not remove it. Ignores an error.
+    void SetAside();
 
     /// Returns the temporary name.
     const std::string& Path() const { return m_path; }
@@ -48,6 +59,7 @@ private:
     const std::string m_target;
     std::string m_path;
     bool m_isWritten = false;
+    std::optional<FileIdentity> m_placed;  ///< The file that the last exchange put at the target.
 };
 
 }  // namespace fittings
