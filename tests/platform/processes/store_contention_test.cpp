@@ -190,6 +190,47 @@ TEST(AStoppedHolderOfTheLock, DelaysEightThreadsByTwoSecondsTogether)
     waitpid(holder, nullptr, 0);
 }
 
+// The file changes in each attempt to save: the write starts again, but does not wait for the lock again.
+TEST(AStoppedHolderOfTheLock, DelaysAWriteOnceWhileTheFileIsEmptiedAllTheTime)
+{
+    const InMemory inMemory;
+    const TempUserData data;
+    const std::string path = data / "settings.ini";
+    WriteFile(path, "[s]\nk=0\n");
+    const HeldLock lock(path + ".lock");
+    int edits = 0;
+    g_watchedCalls.beforeSync = [&] {
+        if (edits < 8)
+            WriteFile(path, ++edits % 2 == 0 ? "[s]\na=1\n" : "");
+    };
+    g_watchedCalls.beforeExchange = [&] {
+        EXPECT_EQ(edits, 8);
+        return 0;
+    };
+    const auto start = Clock::now();
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"1"));
+    EXPECT_LT(Clock::now() - start, Patience() * milliseconds(8000));
+    g_watchedCalls = {};
+    EXPECT_EQ(ReadFile(path), "[s]\na=1\nk=1\n");
+}
+
+// What other processes save without the lock does not show that its holder goes on.
+TEST(AStoppedHolderOfTheLock, DelaysAProcessOnceWhileAnotherOneStoresTheSameWay)
+{
+    const InMemory inMemory;
+    const TempUserData data;
+    const HeldLock lock(data / "settings.ini.lock");
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"0"));
+    const auto start = Clock::now();
+    for (int update = 1; update <= 8; ++update) {
+        WriteFile(data / "new", "[s]\nk=1\ntheirs=" + std::to_string(update) + "\n");
+        std::filesystem::rename(data / "new", data / "settings.ini");
+        EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", std::to_wstring(update + 1).c_str()));
+    }
+    EXPECT_LT(Clock::now() - start, Patience() * milliseconds(8000));
+    EXPECT_EQ(ReadFile(data / "settings.ini"), "[s]\nk=9\ntheirs=8\n");
+}
+
 TEST(AStoppedHolderOfTheLock, DoesNotDelayAWriteThatChangesNothingWhileAnotherThreadWaits)
 {
     const TempUserData data;

@@ -200,8 +200,8 @@ UpdateResult MergeDisplaced(const Target& target, const Exchanged& done, const F
 {
     const auto now = std::chrono::steady_clock::now();
     // If the content before was empty, the write has already waited for new content.
-    const auto displaced =
-        ReadDisplaced(done.staged, done.before, done.expected.empty() ? now : now + kTimeToFillAFile);
+    const auto displaced = ReadDisplaced(
+        done.staged, done.before, done.expected.empty() ? now : std::min(now + kTimeToFillAFile, update.deadline));
     if (displaced && *displaced == done.expected)
         return UpdateResult::Saved;
     std::optional<std::string> merged;
@@ -264,7 +264,7 @@ UpdateResult ExchangeAndMerge(const Target& target, StagedFile& staged, const Fi
     PlaceResult placed = PlaceResult::NotAsExpected;
     {
         ExchangeLock lock(FolderOf(target.path));
-        lock.WaitWhile(isAsItWas, std::chrono::steady_clock::now() + kTimeToExchange);
+        lock.WaitWhile(isAsItWas, std::min(std::chrono::steady_clock::now() + kTimeToExchange, update.deadline));
         if (isAsItWas())
             placed = staged.Exchange();
         if (placed == PlaceResult::Unsupported)

@@ -80,6 +80,9 @@ struct FileUpdate
     using Merge = std::function<std::optional<std::string>(std::string_view expected, std::string_view put,
                                                            std::string_view displaced)>;
     Merge merge;
+
+    /// The time at which the update stops waiting for other processes.
+    std::chrono::steady_clock::time_point deadline;
 };
 
 /// Like ReplaceFileBytes(), but keeps every change that others have stored since the file was read.

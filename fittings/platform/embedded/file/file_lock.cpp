@@ -1,15 +1,18 @@
 #include <fittings/platform/embedded/file/file_lock.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <optional>
 #include <thread>
 
 #include <fcntl.h>
-
-#include <fittings/platform/embedded/file/file_bytes.h>
+#include <sys/stat.h>
 
 namespace fittings {
 
 namespace {
+
+using Clock = LockWait::Clock;
 
 constexpr std::chrono::milliseconds kPause(1);
 
@@ -54,15 +57,58 @@ bool IsFree(int fd, off_t byte)
     return fcntl(fd, F_OFD_GETLK, &request) == 0 && request.l_type == F_UNLCK;
 }
 
-// Waits for the turn. Gives up at the deadline, or when the process that has the turn seems to be stuck.
-Attempt WaitForTurn(int fd, FileLock::Clock::time_point deadline)
+std::optional<FileIdentity> StateOf(int fd)
 {
-    auto lastTaken = FileLock::Clock::now();
+    struct stat info;
+    return fstat(fd, &info) == 0 ? std::optional(FileIdentity(info)) : std::nullopt;
+}
+
+/// One wait for the lock.
+class Waiting
+{
+public:
+    Waiting(int fd, LockWait& wait) : m_fd(fd), m_wait(wait), m_state(StateOf(fd))
+    {
+        m_isStuck = m_wait.stuck && m_wait.stuck == m_state;
+        if (m_wait.stuck && !m_isStuck)
+            Restart();
+    }
+
+    bool IsOver()
+    {
+        if (const auto state = StateOf(m_fd); state && !(state == m_state)) {
+            m_state = state;
+            m_isStuck = false;
+            Restart();
+        }
+        return m_isStuck || Clock::now() >= m_wait.deadline;
+    }
+
+    void End(bool isHeld)
+    {
+        if (isHeld)
+            static_cast<void>(!futimens(m_fd, nullptr));
+        m_wait.stuck = isHeld ? std::nullopt : m_state;
+    }
+
+private:
+    void Restart() { m_wait.deadline = std::min(Clock::now() + m_wait.longest, m_wait.end); }
+
+    const int m_fd;
+    LockWait& m_wait;
+    std::optional<FileIdentity> m_state;
+    bool m_isStuck = false;
+};
+
+// Waits for the turn. Gives up at the deadline, or when the process that has the turn seems to be stuck.
+Attempt WaitForTurn(int fd, Waiting& waiting)
+{
+    auto lastTaken = Clock::now();
     for (;;) {
         const Attempt attempt = TryLock(fd, kTurnByte);
-        const auto now = FileLock::Clock::now();
-        if (attempt != Attempt::Taken || now >= deadline)
+        if (attempt != Attempt::Taken || waiting.IsOver())
             return attempt;
+        const auto now = Clock::now();
         if (!IsFree(fd, kLockByte))
             lastTaken = now;
         else if (now - lastTaken >= kTimeToUseTheTurn)
@@ -71,11 +117,11 @@ Attempt WaitForTurn(int fd, FileLock::Clock::time_point deadline)
     }
 }
 
-bool WaitForLock(int fd, FileLock::Clock::time_point deadline)
+bool WaitForLock(int fd, Waiting& waiting)
 {
     for (;;) {
         const Attempt attempt = TryLock(fd, kLockByte);
-        if (attempt != Attempt::Taken || FileLock::Clock::now() >= deadline)
+        if (attempt != Attempt::Taken || waiting.IsOver())
             return attempt == Attempt::Had;
         std::this_thread::sleep_for(kPause);
     }
@@ -98,15 +144,17 @@ int OpenLockFile(const std::string& path)
 
 }  // namespace
 
-FileLock::FileLock(const std::string& path, Clock::time_point deadline) : m_file(OpenLockFile(path))
+FileLock::FileLock(const std::string& path, LockWait& wait) : m_file(OpenLockFile(path))
 {
     const int fd = m_file.Get();
     if (fd < 0)
         return;
-    const Attempt turn = WaitForTurn(fd, deadline);
+    Waiting waiting(fd, wait);
+    const Attempt turn = WaitForTurn(fd, waiting);
     if (turn == Attempt::Impossible)
         return;
-    m_isHeld = WaitForLock(fd, deadline);
+    m_isHeld = WaitForLock(fd, waiting);
+    waiting.End(m_isHeld);
     if (turn == Attempt::Had)
         Unlock(fd, kTurnByte);
 }

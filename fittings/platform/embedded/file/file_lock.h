@@ -2,23 +2,38 @@
 #define FITTINGS_PLATFORM_EMBEDDED_FILE_FILE_LOCK_H_
 
 #include <chrono>
+#include <optional>
 #include <string>
 
+#include <fittings/platform/embedded/file/file_bytes.h>
 #include <fittings/platform/embedded/file/file_descriptor.h>
 
 namespace fittings {
 
+/// How long a caller waits for a lock.
+struct LockWait
+{
+    using Clock = std::chrono::steady_clock;
+
+    /// The state of the lock file when the last wait for it failed. Until the state changes, its holder is stuck.
+    using Stuck = std::optional<FileIdentity>;
+
+    std::chrono::milliseconds longest;  ///< The longest time that no process gets the lock.
+    Clock::time_point deadline;         ///< Moves on each time that another process gets the lock, until the end.
+    Clock::time_point end;
+    Stuck& stuck;
+};
+
 /// While the object exists, other processes and threads that take the same lock wait.
 ///
 /// The lock is advisory: a caller that cannot get it continues without it. The lock file is made when missing and never
-/// removed, because another process may be waiting for it.
+/// removed, because another process may be waiting for it. A process that gets the lock sets the timestamp of the lock
+/// file, so that the waiting processes know that the lock is used, and not stuck.
 class FileLock
 {
 public:
-    using Clock = std::chrono::steady_clock;
-
-    /// Waits for the lock until @a deadline at the latest.
-    FileLock(const std::string& path, Clock::time_point deadline);
+    /// Waits for the lock as @a wait says. Tries at least once.
+    FileLock(const std::string& path, LockWait& wait);
     ~FileLock();
     FileLock(const FileLock&) = delete;
     FileLock& operator=(const FileLock&) = delete;

@@ -111,20 +111,20 @@ bool CIniFile::Save(const std::string& path) const
         return false;
     // Keep the unreadable file under another name, unless another process has put a new file in its place.
     if (m_cannotBeParsed) {
-        const auto result = ReplaceUnreadable(path);
+        const auto result = ReplaceUnreadable(path, std::chrono::steady_clock::now());
         if (result != fittings::UpdateResult::Outdated)
             return result == fittings::UpdateResult::Saved;
     }
     return SaveText(path, m_text->Changed());
 }
 
-fittings::UpdateResult CIniFile::Update() const
+fittings::UpdateResult CIniFile::Update(std::chrono::steady_clock::time_point deadline) const
 {
     using fittings::UpdateResult;
     if (HasFailed())
         return UpdateResult::Failed;
     if (m_cannotBeParsed)
-        return ReplaceUnreadable(m_path);
+        return ReplaceUnreadable(m_path, deadline);
     std::string changed = m_text->Changed();
     if (HasTooManyLines(changed))
         return UpdateResult::Failed;
@@ -132,12 +132,13 @@ fittings::UpdateResult CIniFile::Update() const
         auto text = Merged(expected, put, displaced);
         return text && HasTooManyLines(*text) ? std::nullopt : text;
     };
-    return fittings::UpdateFileBytes(m_path, {m_content, m_text->Original(), std::move(changed), merge});
+    return fittings::UpdateFileBytes(m_path, {m_content, m_text->Original(), std::move(changed), merge, deadline});
 }
 
 // Keeps the unreadable file under another name, and puts a new file in its place. If another process puts a file there
 // meanwhile, that file stays.
-fittings::UpdateResult CIniFile::ReplaceUnreadable(const std::string& path) const
+fittings::UpdateResult CIniFile::ReplaceUnreadable(const std::string& path,
+                                                   std::chrono::steady_clock::time_point deadline) const
 {
     using fittings::UpdateResult;
     const auto isUnreadable = [this](const std::optional<fittings::FileIdentity>& identity) {
@@ -158,7 +159,7 @@ fittings::UpdateResult CIniFile::ReplaceUnreadable(const std::string& path) cons
     const auto keepDisplaced = [](std::string_view, std::string_view, std::string_view) { return std::nullopt; };
     const UpdateResult result =
         isUnreadable(found.identity)
-            ? fittings::UpdateFileBytes(path, {found, m_unreadable, m_text->Changed(), keepDisplaced})
+            ? fittings::UpdateFileBytes(path, {found, m_unreadable, m_text->Changed(), keepDisplaced, deadline})
             : UpdateResult::Outdated;
     // Remove the second name only if the file still has its first name. Otherwise another process may have replaced the
     // file and rely on the second name.

@@ -1,6 +1,7 @@
 #ifndef FITTINGS_PLATFORM_EMBEDDED_STORE_INI_FILE_H_
 #define FITTINGS_PLATFORM_EMBEDDED_STORE_INI_FILE_H_
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -41,8 +42,8 @@ public:
     bool Save(const std::string& path) const;
 
     /// Writes the file that was loaded last if its bytes change, unless the file has changed since. Changes that others
-    /// store at the same time are kept.
-    fittings::UpdateResult Update() const;
+    /// store at the same time are kept. Does not wait for others beyond @a deadline.
+    fittings::UpdateResult Update(std::chrono::steady_clock::time_point deadline) const;
 
     std::optional<std::wstring> Get(std::wstring_view section, std::wstring_view key) const;
 
@@ -80,7 +81,8 @@ public:
 
 private:
     void Clear();
-    fittings::UpdateResult ReplaceUnreadable(const std::string& path) const;
+    fittings::UpdateResult ReplaceUnreadable(const std::string& path,
+                                             std::chrono::steady_clock::time_point deadline) const;
     bool IsFresh() const;
     std::optional<std::string_view> Find(std::wstring_view section, std::wstring_view key) const;
     bool HasEarlyKey(std::wstring_view key) const;

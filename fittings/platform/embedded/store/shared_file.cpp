@@ -10,10 +10,17 @@ namespace fittings {
 
 namespace {
 
-using Clock = FileLock::Clock;
+using Clock = LockWait::Clock;
 
-// How long a write waits for other writes and for a file that is being filled, in total.
-constexpr std::chrono::milliseconds kPatience(1900);
+// How long a write waits for a process that has the lock and is stuck.
+constexpr std::chrono::milliseconds kTimeToGetTheLock(1800);
+
+// How long it waits for the lock while other processes get it, one after another.
+constexpr std::chrono::seconds kTimeInABusyQueue(30);
+
+// How much longer it waits for a file that is being filled, and for an exchange, in total. All waits together stay
+// below two seconds.
+constexpr std::chrono::milliseconds kTimeBeyondTheLock(150);
 
 // A save needs another attempt each time that another process saves first.
 constexpr int kMaxAttempts = 100;
@@ -34,37 +41,32 @@ SharedFile& SharedFile::At(const std::string& path)
 
 bool SharedFile::Store(const std::vector<SettingsChange>& changes)
 {
-    const Clock::time_point deadline = Clock::now() + kPatience;
-    Deadlines deadlines = {deadline, deadline};
+    // Starts before the wait for another thread.
+    const Clock::time_point start = Clock::now();
     if (!file_util_ex::Mkdir(file_util_ex::ConvertFromUTF8W(FolderOf(m_path))))
         return false;
     const std::lock_guard<std::mutex> writing(m_writing);
+    LockWait wait = {kTimeToGetTheLock, start + kTimeToGetTheLock, start + kTimeInABusyQueue, m_stuckLock};
     for (int attempt = 0; attempt < kMaxAttempts; ++attempt) {
-        const UpdateResult result = StoreOnce(changes, deadlines);
+        const UpdateResult result = StoreOnce(changes, wait);
         if (result != UpdateResult::Outdated)
             return result == UpdateResult::Saved;
-        // Another process has saved, so the holder of the lock is not stuck.
-        deadlines.lock = Clock::now() + kPatience;
     }
     return false;
 }
 
-UpdateResult SharedFile::StoreOnce(const std::vector<SettingsChange>& changes, const Deadlines& deadlines)
+UpdateResult SharedFile::StoreOnce(const std::vector<SettingsChange>& changes, LockWait& wait)
 {
-    // The holder of the lock is stuck if an earlier wait for the lock failed and no other process has saved since.
-    const bool isStuck = m_hasWaitedInVain && m_savedAfterThat == IdentityOf(m_path);
-    const FileLock lock(m_path + ".lock", isStuck ? Clock::now() : deadlines.lock);
+    const FileLock lock(m_path + ".lock", wait);
+    const Clock::time_point deadline = wait.deadline + kTimeBeyondTheLock;
 
     // Read what other processes have stored, and change only the given settings.
     CIniFile file;
-    file.Load(m_path, [&](const std::string& path, std::string& bytes) {
-        return ReadFilledBytes(path, bytes, deadlines.filling);
+    file.Load(m_path, [deadline](const std::string& path, std::string& bytes) {
+        return ReadFilledBytes(path, bytes, deadline);
     });
     file.Apply(changes);
-    const UpdateResult result = file.Update();
-    m_hasWaitedInVain = !lock.IsHeld() && result != UpdateResult::Outdated;
-    m_savedAfterThat = m_hasWaitedInVain ? IdentityOf(m_path) : std::nullopt;
-    return result;
+    return file.Update(deadline);
 }
 
 }  // namespace fittings

@@ -2,7 +2,6 @@
 #define FITTINGS_PLATFORM_EMBEDDED_STORE_SHARED_FILE_H_
 
 #include <mutex>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -26,20 +25,12 @@ public:
     bool Store(const std::vector<SettingsChange>& changes);
 
 private:
-    /// The times at which one write stops waiting.
-    struct Deadlines
-    {
-        FileLock::Clock::time_point lock;
-        FileLock::Clock::time_point filling;  ///< For a file that another program has emptied.
-    };
-
-    UpdateResult StoreOnce(const std::vector<SettingsChange>& changes, const Deadlines& deadlines);
+    UpdateResult StoreOnce(const std::vector<SettingsChange>& changes, LockWait& wait);
 
     const std::string m_path;
 
-    std::mutex m_writing;  ///< Guards the two members below.
-    bool m_hasWaitedInVain = false;
-    std::optional<FileIdentity> m_savedAfterThat;
+    std::mutex m_writing;  ///< Guards the member below.
+    LockWait::Stuck m_stuckLock;
 };
 
 }  // namespace fittings
