@@ -43,7 +43,7 @@ std::set<std::wstring> LabelsIn(std::wstring text)
     return labels;
 }
 
-// Returns every item below @a item, parents before their children.
+// Calls @a visit for @a item and for every item below it, parents before their children.
 void ForEach(const wxTreeCtrl& tree, const wxTreeItemId& item, const std::function<void(const wxTreeItemId&)>& visit)
 {
     visit(item);

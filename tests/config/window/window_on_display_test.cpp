@@ -90,8 +90,7 @@ INSTANTIATE_TEST_SUITE_P(
         Restored{"HalfAPosition", L"-1;100;300;200", {"16;100;283;200 3"}, wxRect(16, 100, 283, 200)}),
     [](const auto& info) { return info.param.name; });
 
-/// A stored position of -1 is applied as any other position is. The tests above do not check the two calls that apply
-/// it.
+/// A stored position of -1 is applied like any other position, with two calls. The tests above ignore these calls.
 TEST(StoredPositionMinusOne, IsApplied)
 {
     const TempUserData data;

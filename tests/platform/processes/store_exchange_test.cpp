@@ -97,8 +97,8 @@ TEST_F(AnExchange, StoresItsOwnValueOverTheOneThatAnotherProcessHasJustStored)
     EXPECT_EQ(Now(), "[s]\nk=new\n");
 }
 
-// The second process has seen the file that the first exchange put in place, but not the file that this exchange
-// displaced.
+// The second process starts from the file that the first exchange put in place. It does not know the change in the
+// file that this exchange displaced.
 TEST_F(AnExchange, KeepsTheChangesOfSeveralProcesses)
 {
     WriteFile(m_path, "[s]\na=1\nb=1\nk=old\n");
