@@ -9,10 +9,10 @@ namespace own_home {
 
 bool IsThere();
 
-/// Makes the disk refuse every change, like a mount that is read-only or became so after an error.
+/// Makes the disk refuse every change or accept changes again. The error is that of a read-only mount.
 void MakeReadOnly(bool isReadOnly);
 
-/// Fills the disk completely.
+/// Fills the disk completely or removes what fills it.
 void Fill(bool isFull);
 
 }  // namespace own_home

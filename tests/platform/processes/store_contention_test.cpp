@@ -190,7 +190,7 @@ TEST(AStoppedHolderOfTheLock, DelaysEightThreadsByTwoSecondsTogether)
     waitpid(holder, nullptr, 0);
 }
 
-// The file changes in each attempt to save: the write starts again, but does not wait for the lock again.
+// The file changes during each attempt to save: the write starts again, but does not wait for the lock again.
 TEST(AStoppedHolderOfTheLock, DelaysAWriteOnceWhileTheFileIsEmptiedAllTheTime)
 {
     const InMemory inMemory;
@@ -214,7 +214,7 @@ TEST(AStoppedHolderOfTheLock, DelaysAWriteOnceWhileTheFileIsEmptiedAllTheTime)
     EXPECT_EQ(ReadFile(path), "[s]\na=1\nk=1\n");
 }
 
-// What other processes save without the lock does not show that its holder goes on.
+// A process that saves without the lock does not show that the holder of the lock is running again.
 TEST(AStoppedHolderOfTheLock, DelaysAProcessOnceWhileAnotherOneStoresTheSameWay)
 {
     const InMemory inMemory;

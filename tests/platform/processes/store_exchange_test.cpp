@@ -153,7 +153,7 @@ TEST_F(AnExchange, PutsBackWhatIsNoText)
     EXPECT_EQ(ReadFile(m_path + ".unreadable"), zeros);
 }
 
-// A third process has replaced our file before the second one's is put back.
+// A third process replaces our file before the second process's file is put back.
 TEST_F(AnExchange, KeepsWhatAThirdProcessStoresBeforeAFileIsPutBack)
 {
     WriteFile(m_path, "[s]\na=1\nk=old\n");
@@ -166,7 +166,7 @@ TEST_F(AnExchange, KeepsWhatAThirdProcessStoresBeforeAFileIsPutBack)
               (std::vector<std::string>{"settings.ini", "settings.ini.lock", "settings.ini.unreadable"}));
 }
 
-// A fourth process has replaced the file that was put back, before the third one's is put in its place again.
+// A fourth process stores something after the second one's file has been put back, and before the third one's file has.
 TEST_F(AnExchange, DestroysNothingThatThreeOtherProcessesStore)
 {
     WriteFile(m_path, "[s]\na=1\nk=old\n");
@@ -178,7 +178,7 @@ TEST_F(AnExchange, DestroysNothingThatThreeOtherProcessesStore)
     EXPECT_EQ(ReadFile(m_path + ".unreadable"), third);
 }
 
-// The merged content of the second process and ours does not stay either.
+// The content merged from the second process's file and ours does not stay either.
 TEST_F(AnExchange, DestroysNothingOfASecondProcessWhenAThirdPutsAPipeInPlaceOfTheFile)
 {
     WriteFile(m_path, "[s]\na=1\nk=old\n");

@@ -100,7 +100,7 @@ void SyncFolder(const std::string& folder)
         fsync(descriptor.Get());
 }
 
-// Appends the bytes of the open file, from its beginning.
+// Appends the whole content of the open file.
 FileContent ReadOpenFile(int fd, std::string& bytes)
 {
     timespec now;
@@ -125,13 +125,13 @@ FileContent ReadUntilFilled(const Read& read, std::string& bytes, std::chrono::s
 }
 
 // Returns the content of the displaced file. If another process has already removed that file as a leftover, it was the
-// file that was opened before the exchange: every other file is too new to count as a leftover. Does not wait for
-// content beyond @a deadline.
+// file that was opened before the exchange: every other file is too new to count as a leftover. Waits for content until
+// @a deadline at the latest.
 std::optional<std::string> ReadDisplaced(const StagedFile& staged, int before,
                                          std::chrono::steady_clock::time_point deadline)
 {
     std::string bytes;
-    // If somebody has put a link in place of the file, do not read its target: the link itself must come back.
+    // If another process has put a link in place of the file, do not read its target: the link itself must be put back.
     const FileDescriptor file(open(staged.Path().c_str(), kForReading | O_NOFOLLOW));
     if (file.Get() < 0 && errno != ENOENT)
         return std::nullopt;

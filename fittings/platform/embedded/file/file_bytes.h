@@ -89,8 +89,8 @@ struct FileUpdate
 ///
 /// Returns Outdated and does not touch the file if the file has changed since it was read. A change between this check
 /// and the exchange of the two files is merged. If it cannot be merged, the function undoes the exchange and returns
-/// Outdated. If others prevent that too, the change is set aside as KeepUnderOtherName() does. On file systems that cannot exchange two files in one step, such as
-/// NFS, a change within those few microseconds can be lost.
+/// Outdated. If other processes prevent that too, the displaced file is kept under a name from OtherName(). On file
+/// systems that cannot exchange two files in one step, such as NFS, a change within those few microseconds can be lost.
 UpdateResult UpdateFileBytes(const std::string& path, const FileUpdate& update);
 
 /// Gives the file at @a path a second name that does not exist yet: its own name followed by ".unreadable", or
@@ -98,10 +98,10 @@ UpdateResult UpdateFileBytes(const std::string& path, const FileUpdate& update);
 /// an empty text on any error.
 std::string KeepUnderOtherName(const std::string& path);
 
-/// Returns the second name that KeepUnderOtherName() tries as the one with this number. The first has number 1.
+/// Returns the second name that KeepUnderOtherName() tries as number @a number, from 1 on.
 std::string OtherName(const std::string& path, int number);
 
-/// The number of second names to try.
+/// Second names with numbers below this one are tried.
 inline constexpr int kMaxOtherNames = 1000;
 
 /// If root has made the open file in the folder of another user, makes that user the owner of the file. Otherwise that

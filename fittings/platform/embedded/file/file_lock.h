@@ -15,11 +15,12 @@ struct LockWait
 {
     using Clock = std::chrono::steady_clock;
 
-    /// The state of the lock file when the last wait for it failed. Until the state changes, its holder is stuck.
+    /// The state of the lock file when the last wait for it failed. Until the state changes, the holder counts as
+    /// stuck.
     using Stuck = std::optional<FileIdentity>;
 
-    std::chrono::milliseconds longest;  ///< The longest time that no process gets the lock.
-    Clock::time_point deadline;         ///< Moves on each time that another process gets the lock, until the end.
+    std::chrono::milliseconds longest;  ///< The wait ends when no process has got the lock for this long.
+    Clock::time_point deadline;         ///< Moved on when another process gets the lock, up to @a end.
     Clock::time_point end;
     Stuck& stuck;
 };
@@ -27,12 +28,12 @@ struct LockWait
 /// While the object exists, other processes and threads that take the same lock wait.
 ///
 /// The lock is advisory: a caller that cannot get it continues without it. The lock file is made when missing and never
-/// removed, because another process may be waiting for it. A process that gets the lock sets the timestamp of the lock
-/// file, so that the waiting processes know that the lock is used, and not stuck.
+/// removed, because another process may be waiting for it. A process that gets the lock updates the timestamp of the
+/// lock file. The new timestamp shows waiting processes that no holder is stuck.
 class FileLock
 {
 public:
-    /// Waits for the lock as @a wait says. Tries at least once.
+    /// Waits for the lock within the limits of @a wait, but tries at least once.
     FileLock(const std::string& path, LockWait& wait);
     ~FileLock();
     FileLock(const FileLock&) = delete;

@@ -28,8 +28,8 @@ constexpr std::string_view kPrefix = ".fittings-save-";
 // Older temporary files were left by processes that were killed while they saved.
 constexpr time_t kLifetimeSeconds = 60;
 
-// The number of exchanges to put a file back. Each one after the first is caused by another process that stores
-// something at the very moment of an exchange.
+// The largest number of exchanges that put one file back. Each one after the first is caused by another process that
+// stores something at the very moment of an exchange.
 constexpr int kMaxExchanges = 100;
 
 // Makes an empty file with a name that no person would choose, and opens it. Sets @a path only on success. Returns -1
@@ -158,8 +158,8 @@ PlaceResult StagedFile::Exchange()
     return result;
 }
 
-// If the file that comes out is not the one that was put at the target, another process has stored it meanwhile. It is
-// put at the target again, in the same way.
+// If the displaced file is not the one that was put at the target, another process has stored it meanwhile. It is then
+// put back in the same way.
 PlaceResult StagedFile::PutBack()
 {
     const auto ours = m_placed;

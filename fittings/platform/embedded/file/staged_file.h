@@ -42,12 +42,12 @@ public:
     /// Exchanges the new file and the target. The displaced file then has the temporary name.
     PlaceResult Exchange();
 
-    /// Undoes Exchange(). Returns NotAsExpected when another process has replaced, changed or removed the new file
-    /// since: what that process has stored then stays. If the result is not Done, the displaced file keeps the temporary
+    /// Undoes Exchange(). If another process has replaced, changed or removed the new file since then, keeps what that
+    /// process has stored and returns NotAsExpected. Unless the result is Done, the displaced file keeps the temporary
     /// name.
     PlaceResult PutBack();
 
-    /// Gives the displaced file a name that people find, and does not remove it. Ignores an error.
+    /// Renames the displaced file to a name that a user notices, so that it is not removed. Ignores errors.
     void SetAside();
 
     /// Returns the temporary name.

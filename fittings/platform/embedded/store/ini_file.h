@@ -42,7 +42,7 @@ public:
     bool Save(const std::string& path) const;
 
     /// Writes the file that was loaded last if its bytes change, unless the file has changed since. Changes that others
-    /// store at the same time are kept. Does not wait for others beyond @a deadline.
+    /// store at the same time are kept. Waits for other processes until @a deadline at the latest.
     fittings::UpdateResult Update(std::chrono::steady_clock::time_point deadline) const;
 
     std::optional<std::wstring> Get(std::wstring_view section, std::wstring_view key) const;

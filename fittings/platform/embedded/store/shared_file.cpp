@@ -15,11 +15,11 @@ using Clock = LockWait::Clock;
 // How long a write waits for a process that has the lock and is stuck.
 constexpr std::chrono::milliseconds kTimeToGetTheLock(1800);
 
-// How long it waits for the lock while other processes get it, one after another.
+// How long a write waits for the lock while other processes get it, one after another.
 constexpr std::chrono::seconds kTimeInABusyQueue(30);
 
-// How much longer it waits for a file that is being filled, and for an exchange, in total. All waits together stay
-// below two seconds.
+// How much longer a write waits for a file that is being filled, and for an exchange, in total. If a process is stuck,
+// all waits together stay below two seconds.
 constexpr std::chrono::milliseconds kTimeBeyondTheLock(150);
 
 // A save needs another attempt each time that another process saves first.
@@ -41,7 +41,7 @@ SharedFile& SharedFile::At(const std::string& path)
 
 bool SharedFile::Store(const std::vector<SettingsChange>& changes)
 {
-    // Starts before the wait for another thread.
+    // The wait for another thread counts too.
     const Clock::time_point start = Clock::now();
     if (!file_util_ex::Mkdir(file_util_ex::ConvertFromUTF8W(FolderOf(m_path))))
         return false;
