@@ -100,7 +100,8 @@ void StoreModel::SetCurrent(const StorePath& path)
 void StoreModel::Set(StoreGroup& group, std::wstring_view name, std::wstring_view value)
 {
     StoreEntry* const entry = group.entries.Find(name);
-    if (entry && entry->text == value)
+    // A text that the file no longer holds must be saved again.
+    if (entry && entry->text == value && (entry->isChanged || CLocalRegStore::IsCurrent(*m_ini)))
         return;
     if (entry) {
         entry->text = value;

@@ -124,8 +124,13 @@ public:
     /// call.
     ///
     /// Returns false when @a ini was left as it is, with any changes that were made in it since. A file that cannot be
-    /// read counts as empty. Use @a ini only for reading: do not pass it to Save().
+    /// read counts as empty. A file that another program has emptied less than half a second ago counts as not changed.
+    /// Use @a ini only for reading: do not pass it to Save().
     static bool Refresh(CIniFile& ini, const wchar_t* path);
+
+    /// Returns whether the file is still as the last Refresh() of @a ini read it. False after Refresh() has kept the
+    /// earlier content of a file that another program has emptied.
+    static bool IsCurrent(const CIniFile& ini);
 
     /// Makes the changes in @a ini: first the changes of keys, then those of sections.
     static void ApplyChanges(CIniFile& ini, const std::vector<Change>& changes);

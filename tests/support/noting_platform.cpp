@@ -169,6 +169,12 @@ bool CLocalRegStore::Refresh(CIniFile&)
     return g_platform.loads;
 }
 
+bool CLocalRegStore::IsCurrent(const CIniFile&)
+{
+    RecordCall(L"is current");
+    return true;
+}
+
 void CLocalRegStore::ApplyChanges(CIniFile&, const std::vector<Change>&)
 {
     RecordCall(L"apply changes");

@@ -137,6 +137,11 @@ bool CLocalRegStore::Refresh(CIniFile& ini, const wchar_t* path)
     return ini.Refresh(View(path));
 }
 
+bool CLocalRegStore::IsCurrent(const CIniFile& ini)
+{
+    return ini.IsCurrent();
+}
+
 void CLocalRegStore::ApplyChanges(CIniFile& ini, const std::vector<Change>& changes)
 {
     ini.Apply(changes);

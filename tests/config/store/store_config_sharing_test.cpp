@@ -16,6 +16,7 @@
 #include <fittings/platform/local_reg_store.h>
 #include <tests/config/store/store_config_support.h>
 #include <tests/platform/store/store_support.h>
+#include <tests/support/file_stamp.h>
 #include <tests/support/process/forked_work.h>
 
 namespace {
@@ -117,6 +118,29 @@ TEST_F(StoreConfig, StaysInAGroupThatAnotherDeletes)
     EXPECT_EQ(ReadFile(Path()), "[x]\n\n[a/b]\nk=2\n");
 }
 
+TEST_F(StoreConfig, StoresAnEqualTextInAFileThatAnotherHasEmptied)
+{
+    Open("[g]\na=1\nb=1\n");
+    EXPECT_EQ(m_config->Read("g/a"), "1");
+    WriteFile(Path(), "");
+    EXPECT_TRUE(m_config->Write("g/a", "1"));
+    EXPECT_TRUE(m_config->Flush());
+    EXPECT_EQ(ReadFile(Path()), "[g]\na=1\n");
+}
+
+// The object has just read the file, so that it need not look again where the path leads.
+TEST_F(StoreConfig, StoresAnEqualTextInAFolderThatAnotherHasReplaced)
+{
+    Open("[g]\na=1\n");
+    WaitPastStamp(Path());
+    EXPECT_EQ(m_config->Read("g/a"), "1");
+    EXPECT_EQ(m_config->Read("g/a"), "1");
+    std::filesystem::rename(m_data / "ui_config", m_data / "earlier");
+    EXPECT_TRUE(m_config->Write("g/a", "1"));
+    EXPECT_TRUE(m_config->Flush());
+    EXPECT_EQ(ReadFile(Path()), "[g]\na=1\n");
+}
+
 TEST_F(StoreConfig, WritesNothingWhenNothingChanges)
 {
     EXPECT_TRUE(m_config->Flush());
@@ -159,6 +183,18 @@ TEST(TheDefaultStoreAsAConfig, HasWhatTheComponentsStore)
     EXPECT_EQ(Stored(L"wxWindowState", L"Main"), L"1;2;300;400");
     EXPECT_TRUE(CLocalRegStore::WriteString(L"LastFiles", L"Report", L"b"));
     EXPECT_EQ(config.Read("/LastFiles/Report"), "b");
+}
+
+TEST(TheDefaultStoreAsAConfig, StoresAnEqualTextInAFileThatAnotherHasEmptied)
+{
+    const TempUserData data;
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"g", L"a", L"1"));
+    wxStoreConfig config;
+    EXPECT_EQ(config.Read("g/a"), "1");
+    WriteFile(data / "settings.ini", "");
+    EXPECT_TRUE(config.Write("g/a", "1"));
+    EXPECT_TRUE(config.Flush());
+    EXPECT_EQ(ReadFile(data / "settings.ini"), "[g]\na=1\n");
 }
 
 TEST(TheDefaultStoreAsAConfig, IsPartOfTheThreadsBatch)

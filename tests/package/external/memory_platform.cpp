@@ -121,6 +121,11 @@ bool CLocalRegStore::Refresh(CIniFile& ini, const wchar_t* path)
     return true;
 }
 
+bool CLocalRegStore::IsCurrent(const CIniFile&)
+{
+    return true;
+}
+
 // A section exists only while it has keys.
 void CLocalRegStore::ApplyChanges(CIniFile& ini, const std::vector<Change>& changes)
 {

@@ -47,7 +47,7 @@ bool DefaultStore::Store(const std::vector<SettingsChange>& changes)
         const CIniFile& file = Refreshed();
         if (file.HasFailed())
             return false;
-        if (!file.IsEarlierContent() && file.HoldsAll(changes))
+        if (file.HoldsAll(changes) && file.IsCurrent())
             return true;
         shared = m_shared;
     }

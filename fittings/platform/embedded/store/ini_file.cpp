@@ -53,17 +53,14 @@ bool CIniFile::Load(const std::string& path, const Reader& read)
 
 bool CIniFile::Refresh(const std::string& path, const std::vector<Change>& changes, std::uint64_t revision)
 {
-    m_isEarlierContent = false;
     const bool isSameStore = path == m_path && revision == m_revision;
     if (isSameStore && IsFresh())
         return false;
     CIniFile now;
     now.Load(path);
     // A read does not wait until another program has filled the file: it keeps the earlier content.
-    if (isSameStore && now.m_content.IsEmptyForNow() && m_content.result == fittings::ReadResult::Read) {
-        m_isEarlierContent = true;
+    if (isSameStore && now.m_content.IsEmptyForNow() && m_content.result == fittings::ReadResult::Read)
         return false;
-    }
     if (isSameStore && now.HasFailed() && HasFailed())
         return false;
     const bool isSame = isSameStore && now.HasFailed() == HasFailed() && !m_text->IsChanged() &&
@@ -92,6 +89,12 @@ bool CIniFile::IsFresh() const
     if (!identity)
         return errno == ENOENT && m_content.result == fittings::ReadResult::Missing;
     return m_content.isSettled && m_content.identity == identity;
+}
+
+// Follows the path, so that no write relies on a file that is no longer there.
+bool CIniFile::IsCurrent() const
+{
+    return fittings::IdentityOf(m_path) == m_content.identity;
 }
 
 bool CIniFile::Parse(std::string text)

@@ -72,9 +72,9 @@ public:
     /// section come first.
     std::vector<fittings::SettingsEntry> Entries(std::wstring_view section) const;
 
-    /// Returns whether the last Refresh() kept an earlier content because the file was empty. That content is not in
-    /// the file.
-    bool IsEarlierContent() const { return m_isEarlierContent; }
+    /// Returns whether the file is still in the state whose content the object has. False when Refresh() kept an
+    /// earlier content because the file was empty.
+    bool IsCurrent() const;
 
     /// Returns whether the last Load() found a file that it could not read.
     bool HasFailed() const { return m_content.result == fittings::ReadResult::Failed; }
@@ -95,7 +95,6 @@ private:
     fittings::FileContent m_content = {fittings::ReadResult::Missing, std::nullopt};
     bool m_cannotBeParsed = false;
     std::string m_unreadable;  ///< The bytes that cannot be parsed.
-    bool m_isEarlierContent = false;
     std::uint64_t m_revision = 0;
 
     /// The path of the last Refresh() for wide text.
