@@ -1,5 +1,5 @@
 // The default store knows by the file's timestamps when its copy is out of date. Here the test sets the timestamps and
-// the clock, so that two changes fall into one tick when the test needs it.
+// the clocks, so that two changes or two reads fall into one tick when the test needs it.
 
 #include <filesystem>
 #include <optional>
@@ -14,12 +14,14 @@
 #include <gtest/gtest.h>
 
 #include <tests/platform/store/store_support.h>
+#include <tests/support/file_stamp.h>
 #include <tests/support/temp_folder.h>
 
 namespace {
 
 std::optional<timespec> g_stamp;
 std::optional<timespec> g_now;
+std::optional<timespec> g_tick;
 
 int Status(int folder, const char* path, struct stat* info, int flags)
 {
@@ -47,6 +49,10 @@ extern "C" int clock_gettime(clockid_t clock, timespec* now) noexcept
 {
     if (g_now && clock == CLOCK_REALTIME_COARSE) {
         *now = *g_now;
+        return 0;
+    }
+    if (g_tick && clock == CLOCK_MONOTONIC_COARSE) {
+        *now = *g_tick;
         return 0;
     }
     return static_cast<int>(syscall(SYS_clock_gettime, clock, now));
@@ -126,6 +132,122 @@ TEST_F(AnUnchangedStamp, IsNotTrustedWithAnotherSize)
     ReadOnce({1'700'000'000, 4'000'000}, {1'700'000'000, 8'000'000});
     WriteFile(m_data / "settings.ini", "[s]\nk=22\n");
     EXPECT_EQ(Stored(L"s", L"k"), L"22");
+}
+
+// A file that is read again and again within one tick, so that the open file is asked and not its path.
+class AReadInTheSameTick : public testing::Test
+{
+protected:
+    AReadInTheSameTick()
+    {
+        g_tick = timespec{1000, 0};
+        WriteFile(Path(), "[s]\nk=1\n");
+        WaitPastStamp(Path());
+        for (int read = 0; read < 3; ++read)
+            EXPECT_EQ(Stored(L"s", L"k"), L"1");
+    }
+
+    ~AReadInTheSameTick() override
+    {
+        g_stamp.reset();
+        g_tick.reset();
+    }
+
+    std::string Path() const { return m_data / "settings.ini"; }
+
+    // Moves the folder of the file to another place, and puts a new folder with another file there.
+    void ReplaceFolder(const std::string& bytes)
+    {
+        std::filesystem::rename(m_data.Path(), m_earlier / "moved");
+        std::filesystem::create_directory(m_data.Path());
+        WriteFile(Path(), bytes);
+    }
+
+    const TempUserData m_data;
+    const TempFolder m_earlier;
+};
+
+TEST_F(AReadInTheSameTick, SeesWhatWasWrittenInPlace)
+{
+    WriteFile(Path(), "[s]\nk=2\n");
+    EXPECT_EQ(Stored(L"s", L"k"), L"2");
+}
+
+TEST_F(AReadInTheSameTick, SeesAnotherFile)
+{
+    WriteFile(m_data / "other.ini", "[s]\nk=2\n");
+    std::filesystem::rename(m_data / "other.ini", Path());
+    EXPECT_EQ(Stored(L"s", L"k"), L"2");
+}
+
+// Not every file system sets the change time of a file that is replaced.
+TEST_F(AReadInTheSameTick, SeesAnotherFileByTheNamesOfTheEarlierOne)
+{
+    g_stamp = timespec{1'700'000'000, 4'000'000};
+    WriteFile(Path(), "[s]\nk=12\n");
+    for (int read = 0; read < 3; ++read)
+        EXPECT_EQ(Stored(L"s", L"k"), L"12");
+    WriteFile(m_data / "other.ini", "[s]\nk=22\n");
+    std::filesystem::rename(m_data / "other.ini", Path());
+    EXPECT_EQ(Stored(L"s", L"k"), L"22");
+}
+
+TEST_F(AReadInTheSameTick, SeesTheFileRenamed)
+{
+    std::filesystem::rename(Path(), m_data / "other.ini");
+    EXPECT_EQ(Stored(L"s", L"k"), L"(none)");
+}
+
+TEST_F(AReadInTheSameTick, SeesTheFileRemoved)
+{
+    std::filesystem::remove(Path());
+    EXPECT_EQ(Stored(L"s", L"k"), L"(none)");
+    WriteFile(Path(), "[s]\nk=2\n");
+    EXPECT_EQ(Stored(L"s", L"k"), L"2");
+}
+
+TEST_F(AReadInTheSameTick, SeesALinkInPlaceOfTheFile)
+{
+    WriteFile(m_data / "other.ini", "[s]\nk=2\n");
+    std::filesystem::remove(Path());
+    std::filesystem::create_symlink("other.ini", Path());
+    EXPECT_EQ(Stored(L"s", L"k"), L"2");
+}
+
+TEST_F(AReadInTheSameTick, SeesWhatWasSaved)
+{
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"2"));
+    EXPECT_EQ(Stored(L"s", L"k"), L"2");
+}
+
+TEST_F(AReadInTheSameTick, IsFollowedByOneThatSeesAnotherFolder)
+{
+    ReplaceFolder("[s]\nk=2\n");
+    g_tick->tv_nsec += 4'000'000;
+    EXPECT_EQ(Stored(L"s", L"k"), L"2");
+}
+
+TEST_F(AReadInTheSameTick, IsFollowedByOneThatSeesWhereALinkLeads)
+{
+    WriteFile(m_earlier / "one.ini", "[s]\nk=1\n");
+    WriteFile(m_earlier / "two.ini", "[s]\nk=2\n");
+    std::filesystem::remove(Path());
+    std::filesystem::create_symlink(m_earlier / "one.ini", Path());
+    WaitPastStamp(Path());
+    for (int read = 0; read < 3; ++read)
+        EXPECT_EQ(Stored(L"s", L"k"), L"1");
+    std::filesystem::remove(Path());
+    std::filesystem::create_symlink(m_earlier / "two.ini", Path());
+    g_tick->tv_nsec += 4'000'000;
+    EXPECT_EQ(Stored(L"s", L"k"), L"2");
+}
+
+TEST_F(AReadInTheSameTick, MakesNoWriteRelyOnAnotherFolder)
+{
+    ReplaceFolder("[s]\nk=2\n");
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"1"));
+    EXPECT_EQ(ReadFile(Path()), "[s]\nk=1\n");
+    EXPECT_EQ(Stored(L"s", L"k"), L"1");
 }
 
 }  // namespace

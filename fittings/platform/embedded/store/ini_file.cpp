@@ -83,12 +83,11 @@ bool CIniFile::Refresh(std::wstring_view path)
     return isOther;
 }
 
-bool CIniFile::IsFresh() const
+bool CIniFile::IsFresh()
 {
-    const auto identity = fittings::IdentityOf(m_path);
-    if (!identity)
-        return errno == ENOENT && m_content.result == fittings::ReadResult::Missing;
-    return m_content.isSettled && m_content.identity == identity;
+    if (m_content.identity)
+        return m_content.isSettled && m_watch.IsUnchanged(m_path, *m_content.identity);
+    return m_content.result == fittings::ReadResult::Missing && !fittings::IdentityOf(m_path) && errno == ENOENT;
 }
 
 // Follows the path, so that no write relies on a file that is no longer there.

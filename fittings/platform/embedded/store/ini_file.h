@@ -11,6 +11,7 @@
 #include <vector>
 
 #include <fittings/platform/embedded/file/file_bytes.h>
+#include <fittings/platform/embedded/file/file_watch.h>
 #include <fittings/platform/embedded/text/ini_text.h>
 #include <fittings/platform/local_reg_store.h>
 
@@ -83,7 +84,7 @@ private:
     void Clear();
     fittings::UpdateResult ReplaceUnreadable(const std::string& path,
                                              std::chrono::steady_clock::time_point deadline) const;
-    bool IsFresh() const;
+    bool IsFresh();
     std::optional<std::string_view> Find(std::wstring_view section, std::wstring_view key) const;
     bool HasEarlyKey(std::wstring_view key) const;
     std::vector<fittings::IniText::Key> WithEarlyKeys(const std::vector<fittings::IniText::Key>& keys) const;
@@ -95,6 +96,7 @@ private:
     fittings::FileContent m_content = {fittings::ReadResult::Missing, std::nullopt};
     bool m_cannotBeParsed = false;
     std::string m_unreadable;  ///< The bytes that cannot be parsed.
+    fittings::FileWatch m_watch;
     std::uint64_t m_revision = 0;
 
     /// The path of the last Refresh() for wide text.
