@@ -31,8 +31,14 @@ public:
 
     Value* Find(std::wstring_view name)
     {
-        const auto found = m_places.find(name);
-        return found == m_places.end() ? nullptr : &m_items[static_cast<std::size_t>(found->second - m_first)].value;
+        // Programs often ask for items one after the other. Comparing one name is faster than the search.
+        if (m_afterFound >= m_items.size() || m_items[m_afterFound].isRemoved || m_items[m_afterFound].name != name) {
+            const auto found = m_places.find(name);
+            if (found == m_places.end())
+                return nullptr;
+            m_afterFound = static_cast<std::size_t>(found->second - m_first);
+        }
+        return &m_items[m_afterFound++].value;
     }
 
     /// Adds a value under a name that is not there yet.
@@ -76,7 +82,8 @@ private:
     }
 
     std::deque<Item> m_items;
-    long m_first = 0;  ///< The place of the first item.
+    long m_first = 0;              ///< The place of the first item.
+    std::size_t m_afterFound = 0;  ///< Usually the index behind the last item that Find() returned.
     std::unordered_map<std::wstring_view, long> m_places;
 };
 
