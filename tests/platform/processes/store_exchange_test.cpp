@@ -262,6 +262,24 @@ TEST_F(AnExchange, LeavesNothingBehind)
     EXPECT_EQ(NamesIn(m_data.Path()), (std::vector<std::string>{"settings.ini", "settings.ini.lock"}));
 }
 
+// This process has no time left, as if it was stopped, but the other one exchanges its file at this moment.
+TEST_F(AnExchange, WaitsForTheExchangeOfAnotherProcessEvenWhenNoTimeIsLeft)
+{
+    WriteFile(m_path, "[s]\nk=old\n");
+    int attempts = 0;
+    g_watchedCalls.beforeSync = [] { std::this_thread::sleep_for(std::chrono::milliseconds(2100)); };
+    g_watchedCalls.beforeFolderLock = [&] { return ++attempts == 1 ? EWOULDBLOCK : 0; };
+    g_watchedCalls.beforeExchange = [&] {
+        EXPECT_EQ(attempts, 2);
+        g_watchedCalls.beforeSync = nullptr;
+        return 0;
+    };
+    EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
+    g_watchedCalls = {};
+    EXPECT_EQ(attempts, 2);
+    EXPECT_EQ(Now(), "[s]\nk=new\n");
+}
+
 class WithoutExchange : public AnExchange, public testing::WithParamInterface<int>
 {
 protected:

@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <cstdio>
 
+#include <sys/file.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -25,4 +26,14 @@ extern "C" int renameat2(int fromFolder, const char* from, int toFolder, const c
             return -1;
     }
     return static_cast<int>(syscall(SYS_renameat2, fromFolder, from, toFolder, to, flags));
+}
+
+extern "C" int flock(int fd, int operation) noexcept
+{
+    if (g_watchedCalls.beforeFolderLock && operation != LOCK_UN) {
+        errno = g_watchedCalls.beforeFolderLock();
+        if (errno != 0)
+            return -1;
+    }
+    return static_cast<int>(syscall(SYS_flock, fd, operation));
 }

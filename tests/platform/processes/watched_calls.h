@@ -11,6 +11,9 @@ struct WatchedCalls
     /// Called before a file is renamed or exchanged. When it returns a number other than 0, the call fails with that
     /// error.
     std::function<int()> beforeExchange;
+
+    /// Called before a folder is locked. When it returns a number other than 0, the call fails with that error.
+    std::function<int()> beforeFolderLock;
 };
 
 /// The actions of this process. A forked process has a copy.

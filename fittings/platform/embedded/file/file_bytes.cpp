@@ -24,6 +24,9 @@ namespace {
 
 constexpr std::chrono::milliseconds kTimeToFillAFile(500);
 constexpr std::chrono::milliseconds kTimeToExchange(500);
+
+// An exchange takes microseconds. A process that was stopped itself, and has no time left, waits so long for others.
+constexpr std::chrono::milliseconds kLeastTimeToExchange(50);
 constexpr std::chrono::milliseconds kPause(1);
 
 // Do not block: opening a pipe would wait for a writer.
@@ -194,31 +197,46 @@ struct Exchanged
     std::string_view put;
 };
 
+// What became of an exchange.
+struct Outcome
+{
+    UpdateResult result;
+    bool isUndone = false;  ///< Our file is no longer at the target, and nobody else has seen it.
+};
+
+// Undoes an exchange whose displaced file cannot be merged.
+Outcome Undo(StagedFile& staged)
+{
+    const PlaceResult undone = staged.PutBack();
+    if (undone != PlaceResult::Done)
+        staged.SetAside();
+    // If the exchange cannot be undone, our file stays.
+    return {undone == PlaceResult::Failed ? UpdateResult::Saved : UpdateResult::Outdated, undone == PlaceResult::Done};
+}
+
 // Called after an exchange. If the displaced content is not the expected one, merges it with our change and exchanges
 // again. A change that another process makes meanwhile is displaced and merged in the same way.
-UpdateResult MergeDisplaced(const Target& target, const Exchanged& done, const FileUpdate& update, int merges = 0)
+Outcome MergeDisplaced(const Target& target, const Exchanged& done, const FileUpdate& update, int merges = 0)
 {
     const auto now = std::chrono::steady_clock::now();
     // If the content before was empty, the write has already waited for new content.
     const auto displaced = ReadDisplaced(
         done.staged, done.before, done.expected.empty() ? now : std::min(now + kTimeToFillAFile, update.deadline));
     if (displaced && *displaced == done.expected)
-        return UpdateResult::Saved;
-    std::optional<std::string> merged;
-    if (displaced && merges < kMaxMerges)
-        merged = update.merge(done.expected, done.put, *displaced);
-    if (merged) {
-        StagedFile next(target.path, *merged, OldOf(target));
-        const FileDescriptor ours(open(target.path.c_str(), kForReading | O_NOFOLLOW));
-        if (next.IsWritten() && next.Exchange() == PlaceResult::Done &&
-            MergeDisplaced(target, {next, ours.Get(), done.put, *merged}, update, merges + 1) == UpdateResult::Saved)
-            return UpdateResult::Saved;
-    }
-    const PlaceResult undone = done.staged.PutBack();
-    if (undone != PlaceResult::Done)
+        return {UpdateResult::Saved};
+    if (merges == kMaxMerges)
+        return {UpdateResult::Failed, Undo(done.staged).isUndone};
+    const auto merged = displaced ? update.merge(done.expected, done.put, *displaced) : std::nullopt;
+    if (!merged)
+        return Undo(done.staged);
+    StagedFile next(target.path, *merged, OldOf(target));
+    const FileDescriptor ours(open(target.path.c_str(), kForReading | O_NOFOLLOW));
+    if (!next.IsWritten() || next.Exchange() != PlaceResult::Done)
+        return Undo(done.staged);
+    const Outcome outcome = MergeDisplaced(target, {next, ours.Get(), done.put, *merged}, update, merges + 1);
+    if (outcome.isUndone)
         done.staged.SetAside();
-    // If the exchange cannot be undone, our file stays.
-    return undone == PlaceResult::Failed ? UpdateResult::Saved : UpdateResult::Outdated;
+    return {outcome.result};
 }
 
 // A lock of the folder: only the holder of the lock exchanges a file in the folder. The lock is held for the
@@ -264,7 +282,9 @@ UpdateResult ExchangeAndMerge(const Target& target, StagedFile& staged, const Fi
     PlaceResult placed = PlaceResult::NotAsExpected;
     {
         ExchangeLock lock(FolderOf(target.path));
-        lock.WaitWhile(isAsItWas, std::min(std::chrono::steady_clock::now() + kTimeToExchange, update.deadline));
+        const auto now = std::chrono::steady_clock::now();
+        lock.WaitWhile(isAsItWas,
+                       std::max(now + kLeastTimeToExchange, std::min(now + kTimeToExchange, update.deadline)));
         if (isAsItWas())
             placed = staged.Exchange();
         if (placed == PlaceResult::Unsupported)
@@ -272,7 +292,7 @@ UpdateResult ExchangeAndMerge(const Target& target, StagedFile& staged, const Fi
     }
     if (placed != PlaceResult::Done)
         return ResultOf(placed);
-    return MergeDisplaced(target, {staged, before.Get(), update.foundBytes, update.newBytes}, update);
+    return MergeDisplaced(target, {staged, before.Get(), update.foundBytes, update.newBytes}, update).result;
 }
 
 }  // namespace

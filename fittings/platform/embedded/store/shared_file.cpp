@@ -20,9 +20,10 @@ constexpr std::chrono::seconds kTimeInABusyQueue(30);
 
 // How much longer a write waits for a file that is being filled, and for an exchange, in total. If a process is stuck,
 // all waits together stay below two seconds.
-constexpr std::chrono::milliseconds kTimeBeyondTheLock(150);
+constexpr std::chrono::milliseconds kTimeBeyondTheLock(100);
 
-// A save needs another attempt each time that another process saves first.
+// A save needs another attempt each time that another process saves first. It tries so often at least, and until it may
+// no longer wait.
 constexpr int kMaxAttempts = 100;
 
 }  // namespace
@@ -47,7 +48,7 @@ bool SharedFile::Store(const std::vector<SettingsChange>& changes)
         return false;
     const std::lock_guard<std::mutex> writing(m_writing);
     LockWait wait = {kTimeToGetTheLock, start + kTimeToGetTheLock, start + kTimeInABusyQueue, m_stuckLock};
-    for (int attempt = 0; attempt < kMaxAttempts; ++attempt) {
+    for (int attempt = 0; attempt < kMaxAttempts || Clock::now() < wait.deadline; ++attempt) {
         const UpdateResult result = StoreOnce(changes, wait);
         if (result != UpdateResult::Outdated)
             return result == UpdateResult::Saved;
