@@ -10,6 +10,11 @@
 
 #include <wx/wupdlock.h>
 
+#include <fittings/base/tree_children.h>
+
+using fittings::IsHiddenRoot;
+using fittings::TreeChildren;
+
 namespace {
 
 constexpr wchar_t kSeparator = L'|';
@@ -20,22 +25,6 @@ std::wstring_view View(const wxString& text)
 {
     return std::wstring_view(text.wc_str(), text.length());
 }
-
-// A place among the children of an item. A step takes constant time, but GetNextSibling() would search for the item.
-class ChildCursor
-{
-public:
-    // Returns the child at this place, or an invalid item after the last one, and moves to the next place.
-    wxTreeItemId Next(const wxTreeCtrl& tree, const wxTreeItemId& parent)
-    {
-        return std::exchange(m_first, false) ? tree.GetFirstChild(parent, m_cookie)
-                                             : tree.GetNextChild(parent, m_cookie);
-    }
-
-private:
-    bool m_first = true;
-    wxTreeItemIdValue m_cookie = nullptr;
-};
 
 // Walks a subtree and expands items on the way. Event handlers may change the tree anywhere during an expansion. The
 // walk still visits the items that GetChild() and GetNextSibling() would return, and never uses a deleted item.
@@ -54,7 +43,7 @@ public:
 
     void Run(const wxTreeItemId& start)
     {
-        m_path.push_back({start, ChildCursor(), ChildCursor()});
+        m_path.push_back({start, TreeChildren(), TreeChildren()});
         do
             Visit();
         while (Descend() || Advance());
@@ -64,21 +53,15 @@ private:
     struct VisitedItem
     {
         wxTreeItemId item;  // Invalid once it is deleted.
-        ChildCursor here;   // Where the item was among its siblings when it was found.
-        ChildCursor next;
+        TreeChildren here;  // Where the item was among its siblings when it was found.
+        TreeChildren next;
     };
 
     void Visit()
     {
         const wxTreeItemId item = m_path.back().item;
-        if (m_labels.count(View(m_tree.GetItemText(item))) != 0 && !IsHiddenRoot(item))
+        if (m_labels.count(View(m_tree.GetItemText(item))) != 0 && !IsHiddenRoot(m_tree, item))
             m_tree.Expand(item);
-    }
-
-    // A hidden root is always expanded, and the toolkit asserts when a program expands it again.
-    bool IsHiddenRoot(const wxTreeItemId& item) const
-    {
-        return m_tree.HasFlag(wxTR_HIDE_ROOT) && item == m_tree.GetRootItem();
     }
 
     // Moves to the first child of the last item of the path. Returns false when that item has no child.
@@ -114,10 +97,10 @@ private:
     // now at its old place.
     void FindAgain(VisitedItem& visited, const wxTreeItemId& parent) const
     {
-        ChildCursor same = visited.here;
+        TreeChildren same = visited.here;
         if (visited.item.IsOk() && same.Next(m_tree, parent) == visited.item)
             return;
-        ChildCursor place;
+        TreeChildren place;
         for (wxTreeItemId child = place.Next(m_tree, parent); child.IsOk(); child = place.Next(m_tree, parent)) {
             if (child == visited.item) {
                 visited.next = place;
@@ -194,7 +177,7 @@ std::wstring ExpandedLabels(const wxTreeCursor& start)
     struct Level
     {
         wxTreeItemId parent;
-        ChildCursor place;
+        TreeChildren place;
     };
     const wxTreeCtrl& tree = *start.tree;
     std::vector<Item> items;
@@ -202,7 +185,7 @@ std::wstring ExpandedLabels(const wxTreeCursor& start)
     const auto visit = [&](const wxTreeItemId& item) {
         items.push_back({tree.GetItemText(item).ToStdWstring(), tree.IsExpanded(item)});
         if (tree.ItemHasChildren(item))
-            levels.push_back({item, ChildCursor()});
+            levels.push_back({item, TreeChildren()});
     };
     visit(start.item);
     while (!levels.empty()) {

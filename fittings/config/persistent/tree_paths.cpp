@@ -5,35 +5,15 @@
 #include <unordered_map>
 #include <utility>
 
+#include <fittings/base/tree_children.h>
+
+using fittings::IsHiddenRoot;
+using fittings::TreeChildren;
+
 namespace {
 
 /// The largest number of levels. With many times more expanded levels, the toolkit's recursion overflows the stack.
 constexpr std::size_t kDeepest = 10'000;
-
-/// A place among the children of an item. Each step takes constant time.
-class Children
-{
-public:
-    Children(const wxTreeCtrl& tree, const wxTreeItemId& parent) : m_tree(tree), m_parent(parent) {}
-
-    /// Returns the child at this place, or an invalid item after the last child, and moves to the next place.
-    wxTreeItemId Next()
-    {
-        return std::exchange(m_isAtStart, false) ? m_tree.GetFirstChild(m_parent, m_cookie)
-                                                 : m_tree.GetNextChild(m_parent, m_cookie);
-    }
-
-private:
-    const wxTreeCtrl& m_tree;
-    wxTreeItemId m_parent;
-    bool m_isAtStart = true;
-    wxTreeItemIdValue m_cookie = nullptr;
-};
-
-bool IsHiddenRoot(const wxTreeCtrl& tree, const wxTreeItemId& item)
-{
-    return tree.HasFlag(wxTR_HIDE_ROOT) && item == tree.GetRootItem();
-}
 
 /// Returns the first item whose top is in view. Restoring an item that is only partly in view would scroll the tree a
 /// little each time.
@@ -73,7 +53,8 @@ public:
     {
         Visit(m_tree.GetRootItem());
         while (!m_levels.empty()) {
-            const wxTreeItemId child = m_levels.back().children.Next();
+            Level& level = m_levels.back();
+            const wxTreeItemId child = level.children.Next(m_tree, level.item);
             if (child.IsOk())
                 Visit(child);
             else
@@ -86,10 +67,10 @@ private:
     struct Level
     {
         wxTreeItemId item;
-        Children children;
+        TreeChildren children;
         bool isNoted;
         // For numbering equal labels: how often each occurs up to the child that was recorded last.
-        Children counting;
+        TreeChildren counting;
         std::unordered_map<std::wstring, std::size_t> counts;
     };
 
@@ -115,7 +96,7 @@ private:
             step.isFirstInView = isFirstInView;
         }
         if (m_levels.size() < kDeepest && m_tree.ItemHasChildren(item))
-            m_levels.push_back({item, Children(m_tree, item), isNoted, Children(m_tree, item), {}});
+            m_levels.push_back({item, {}, isNoted, {}, {}});
     }
 
     fittings::TreeStep& Record(std::size_t level, const wxTreeItemId& item)
@@ -131,12 +112,14 @@ private:
 
     std::size_t NumberOf(Level& parent, const wxTreeItemId& item) const
     {
-        for (wxTreeItemId child = parent.counting.Next(); child.IsOk(); child = parent.counting.Next()) {
+        for (;;) {
+            const wxTreeItemId child = parent.counting.Next(m_tree, parent.item);
+            if (!child.IsOk())
+                return 1;
             const std::size_t count = ++parent.counts[m_tree.GetItemText(child).ToStdWstring()];
             if (child == item)
                 return count;
         }
-        return 1;
     }
 
     const wxTreeCtrl& m_tree;

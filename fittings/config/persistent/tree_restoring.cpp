@@ -5,6 +5,8 @@
 
 #include <wx/wupdlock.h>
 
+#include <fittings/base/tree_children.h>
+
 namespace {
 
 /// Follows paths down a tree. Event handlers may change the tree meanwhile; deleted items are not used.
@@ -111,8 +113,7 @@ void RestoreSteps(wxTreeCtrl& tree, const TreeSteps& steps)
             // Do this first: the handlers of the expansion may delete the item.
             if (step.isSelected)
                 descent.Keep(item);
-            // The toolkit keeps a hidden root expanded, and asserts when a program expands it again.
-            if (step.isExpanded && !(step.level == 0 && tree.HasFlag(wxTR_HIDE_ROOT)))
+            if (step.isExpanded && !IsHiddenRoot(tree, item))
                 tree.Expand(item);
         }
     }

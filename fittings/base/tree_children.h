@@ -1,0 +1,39 @@
+#ifndef FITTINGS_BASE_TREE_CHILDREN_H_
+#define FITTINGS_BASE_TREE_CHILDREN_H_
+
+#include <utility>
+
+#include <wx/treectrl.h>
+
+// How the library walks over a tree. Private to the library.
+
+namespace fittings {
+
+/// A place among the children of an item. A step takes constant time, but wxTreeCtrl::GetNextSibling() would search for
+/// the item.
+class TreeChildren
+{
+public:
+    /// Returns the child at this place, or an invalid item after the last one, and moves to the next place. Pass the
+    /// same tree and parent in each call.
+    wxTreeItemId Next(const wxTreeCtrl& tree, const wxTreeItemId& parent)
+    {
+        return std::exchange(m_isAtStart, false) ? tree.GetFirstChild(parent, m_cookie)
+                                                 : tree.GetNextChild(parent, m_cookie);
+    }
+
+private:
+    bool m_isAtStart = true;
+    wxTreeItemIdValue m_cookie = nullptr;
+};
+
+/// Returns whether the item is a root that is not shown. The toolkit keeps it expanded, and asserts when a program
+/// expands it again.
+inline bool IsHiddenRoot(const wxTreeCtrl& tree, const wxTreeItemId& item)
+{
+    return tree.HasFlag(wxTR_HIDE_ROOT) && item == tree.GetRootItem();
+}
+
+}  // namespace fittings
+
+#endif
