@@ -10,27 +10,34 @@ class wxWindow;
 
 namespace fittings {
 
-/// Watches for clicks on other windows of the program while a popup is opening. An open popup needs no watch, because
-/// it grabs the pointer.
+/// Grabs the pointer while a popup is opening, as the toolkit does while a popup is open. Meanwhile a click has no
+/// effect on any other window: not on one of this program, not on a title bar, and not on one of another program.
 class ClickWatch : public wxEventFilter
 {
 public:
-    /// Calls @a onClick at a left click on any window but @a owner. The clicked window gets the click afterwards.
-    ClickWatch(const wxWindow& owner, std::function<void()> onClick) : m_owner(owner), m_onClick(std::move(onClick)) {}
+    /// Calls @a onClick at a click of any mouse button outside @a owner or on one of its children.
+    ClickWatch(wxWindow& owner, std::function<void()> onClick) : m_owner(owner), m_onClick(std::move(onClick)) {}
     ~ClickWatch() override { Stop(); }
 
     ClickWatch(const ClickWatch&) = delete;
     ClickWatch& operator=(const ClickWatch&) = delete;
 
     void Start();
+
+    /// Must be called before the owner's window is destroyed.
     void Stop();
 
-    /// Handles the clicks on other windows. Clicks with buttons other than the left one are dropped.
+    /// Handles the clicks that the toolkit reports: those on the owner, on its children, and outside the program. Drops
+    /// the wheel.
     int FilterEvent(wxEvent& event) override;
 
+    /// Handles a click.
+    void Click() const;
+
 private:
-    const wxWindow& m_owner;
+    wxWindow& m_owner;
     const std::function<void()> m_onClick;
+    unsigned long m_handler = 0;
     bool m_started = false;
 };
 

@@ -1,0 +1,88 @@
+#ifndef FITTINGS_TESTS_COLOUR_COMBO_OPENING_COMBO_H_
+#define FITTINGS_TESTS_COLOUR_COMBO_OPENING_COMBO_H_
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include <wx/uiaction.h>
+#include <wx/utils.h>
+#include <wx/weakref.h>
+
+#include <tests/colour/colour_listener.h>
+#include <tests/colour/combo/combo_on_screen.h>
+
+/// The events of a combo and the calls of its listener.
+using Notes = std::vector<std::string>;
+
+/// A combo on the screen whose animation does not end by itself, and the mouse that a test clicks with.
+class OpeningCombo
+{
+protected:
+    explicit OpeningCombo(long style = wxCB_READONLY) : on(style)
+    {
+        on.popup->SetColorListener(&listener);
+        listener.during = [this](const std::string& call) { notes.push_back(call); };
+        combo.Bind(wxEVT_COMBOBOX_DROPDOWN, [this](wxCommandEvent&) { notes.push_back("dropdown"); });
+        combo.Bind(wxEVT_COMBOBOX_CLOSEUP, [this](wxCommandEvent&) { notes.push_back("closeup"); });
+        combo.m_animDuration = 2000000;
+    }
+
+    ~OpeningCombo()
+    {
+        // The listener is destroyed before the popup.
+        if (popup)
+            popup->SetColorListener(nullptr);
+    }
+
+    /// Opens the popup by its key. Waits for the animation, or for the popup if the animation is disabled.
+    void Open(bool isAnimated = true)
+    {
+        combo.EnablePopupAnimation(isAnimated);
+        combo.shown.clear();
+        ASSERT_TRUE(on.frame->IsShown() || ShowAndSettle(on.frame));
+        combo.SetFocus();
+        ASSERT_TRUE(PumpUntil([&] { return HasFocus(); }));
+        user.Char(WXK_F4);
+        ASSERT_TRUE(PumpUntil([&] { return isAnimated ? combo.m_animTimer.IsRunning() : combo.IsPopupShown(); }));
+        EXPECT_EQ(Take(), (Notes{"dropdown", "popup"}));
+        PumpPending();
+    }
+
+    bool HasFocus() const
+    {
+        const wxWindow* const focus = wxWindow::FindFocus();
+        return focus && (focus == &combo || focus->GetParent() == &combo);
+    }
+
+    void Click(const wxPoint& place, int mouseButton = wxMOUSE_BTN_LEFT)
+    {
+        user.MouseMove(place);
+        EXPECT_TRUE(PumpUntil([&] { return wxGetMousePosition() == place; }));
+        user.MouseClick(mouseButton);
+    }
+
+    void ExpectShownAndDismissed()
+    {
+        EXPECT_TRUE(PumpUntil([&] { return notes.size() >= 2; }));
+        EXPECT_EQ(Take(), (Notes{"cancel", "closeup"}));
+        EXPECT_EQ(combo.shown.size(), 1u);
+        EXPECT_FALSE(combo.IsPopupShown());
+        EXPECT_FALSE(combo.m_animTimer.IsRunning());
+        EXPECT_FALSE(combo.GetPopupWindow()->IsShown());
+        EXPECT_TRUE(PumpUntil([&] { return HasFocus(); }));
+    }
+
+    Notes Take() { return std::exchange(notes, {}); }
+
+    Notes notes;
+    ColourListener listener;
+    ComboOnScreen<> on;
+    OpenCombo& combo = *on.combo;
+    const wxWeakRef<OpenPopup> popup{on.popup};
+    wxUIActionSimulator user;
+};
+
+#endif
