@@ -15,6 +15,7 @@
 #include <vector>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -229,6 +230,21 @@ TEST(AStoppedHolderOfTheLock, DelaysAProcessOnceWhileAnotherOneStoresTheSameWay)
     }
     EXPECT_LT(Clock::now() - start, Patience() * milliseconds(8000));
     EXPECT_EQ(ReadFile(data / "settings.ini"), "[s]\nk=9\ntheirs=8\n");
+}
+
+// The process is stopped in the microseconds in which it exchanges the file.
+TEST(AStoppedHolderOfTheFoldersLock, DelaysAllWritesOfAProcessByHalfASecondTogether)
+{
+    const InMemory inMemory;
+    const TempUserData data;
+    WriteFile(data / "settings.ini", "[s]\n");
+    const int folder = open(data.Path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    ASSERT_EQ(flock(folder, LOCK_EX | LOCK_NB), 0);
+    const auto start = Clock::now();
+    for (int update = 0; update < 22; ++update)
+        EXPECT_TRUE(CLocalRegStore::WriteString(L"s", Name(L"key", update).c_str(), L"1"));
+    EXPECT_LT(Clock::now() - start, Patience() * milliseconds(8000));
+    close(folder);
 }
 
 TEST(AStoppedHolderOfTheLock, DoesNotDelayAWriteThatChangesNothingWhileAnotherThreadWaits)

@@ -1,6 +1,7 @@
 #include <fittings/platform/embedded/file/file_bytes.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cerrno>
 #include <chrono>
 #include <filesystem>
@@ -25,8 +26,10 @@ namespace {
 constexpr std::chrono::milliseconds kTimeToFillAFile(500);
 constexpr std::chrono::milliseconds kTimeToExchange(500);
 
-// An exchange takes microseconds. A process that was stopped itself, and has no time left, waits so long for others.
-constexpr std::chrono::milliseconds kLeastTimeToExchange(50);
+// An exchange takes microseconds. Each wait lasts at least this time, even if the deadline is over: a process that was
+// stopped itself would otherwise exchange the file while another one does.
+constexpr std::chrono::milliseconds kLeastTimeToExchange(30);
+
 constexpr std::chrono::milliseconds kPause(1);
 
 // Do not block: opening a pipe would wait for a writer.
@@ -258,12 +261,22 @@ public:
     ExchangeLock& operator=(const ExchangeLock&) = delete;
 
     // Waits for the lock while the file is unchanged. Gives up after a short time, because the holder may be stopped.
+    // The next waits are then shorter, until one of them gets the lock.
     void WaitWhile(const std::function<bool()>& isAsItWas, std::chrono::steady_clock::time_point deadline)
     {
-        while (m_folder.Get() >= 0 && isAsItWas()) {
+        static std::atomic<bool> isStuck = false;
+        const auto least = std::chrono::steady_clock::now() + kLeastTimeToExchange;
+        const auto end = isStuck ? least : std::max(least, deadline);
+        for (int attempts = 1; m_folder.Get() >= 0 && isAsItWas(); ++attempts) {
             m_isHeld = flock(m_folder.Get(), LOCK_EX | LOCK_NB) == 0;
-            if (m_isHeld || (errno != EWOULDBLOCK && errno != EINTR) || std::chrono::steady_clock::now() >= deadline)
+            if (m_isHeld)
+                isStuck = false;
+            if (m_isHeld || (errno != EWOULDBLOCK && errno != EINTR))
                 return;
+            if (attempts > 1 && std::chrono::steady_clock::now() >= end) {
+                isStuck = true;
+                return;
+            }
             std::this_thread::sleep_for(kPause);
         }
     }
@@ -282,9 +295,7 @@ UpdateResult ExchangeAndMerge(const Target& target, StagedFile& staged, const Fi
     PlaceResult placed = PlaceResult::NotAsExpected;
     {
         ExchangeLock lock(FolderOf(target.path));
-        const auto now = std::chrono::steady_clock::now();
-        lock.WaitWhile(isAsItWas,
-                       std::max(now + kLeastTimeToExchange, std::min(now + kTimeToExchange, update.deadline)));
+        lock.WaitWhile(isAsItWas, std::min(std::chrono::steady_clock::now() + kTimeToExchange, update.deadline));
         if (isAsItWas())
             placed = staged.Exchange();
         if (placed == PlaceResult::Unsupported)

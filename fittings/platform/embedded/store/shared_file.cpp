@@ -16,7 +16,7 @@ using Clock = LockWait::Clock;
 constexpr std::chrono::milliseconds kTimeToGetTheLock(1800);
 
 // How long a write waits for the lock while other processes get it, one after another.
-constexpr std::chrono::seconds kTimeInABusyQueue(30);
+constexpr std::chrono::seconds kTimeInABusyQueue(10);
 
 // How much longer a write waits for a file that is being filled, and for an exchange, in total. If a process is stuck,
 // all waits together stay below two seconds.
