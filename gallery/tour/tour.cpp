@@ -162,6 +162,7 @@ bool Tour::Run()
         {"choose a colour", &Tour::ChooseColour},
         {"find the window again", &Tour::RememberWindow},
         {"find it maximised again", &Tour::RememberMaximised},
+        {"find another window again", &Tour::RememberAnotherWindow},
     };
     bool allWell = true;
     for (const auto& step : steps) {

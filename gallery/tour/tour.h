@@ -41,6 +41,7 @@ private:
     bool ChooseColour();
     bool RememberWindow();
     bool RememberMaximised();
+    bool RememberAnotherWindow();
 
     bool IsTrue(bool condition, const char* claim);
     bool Waits(const std::function<bool()>& condition, const char* claim);

@@ -193,7 +193,7 @@ void TakesItsPictures(const std::vector<std::string>& arguments, const std::stri
     // GTK prints this warning about a control that has less room than its borders take.
     EXPECT_EQ(program.Errors().find("while allocating gadget"), std::string::npos) << program.Errors();
     for (const char* name : {"browser", "colour-popup", "colours", "filter", "folder-colours", "folder-dialog",
-                             "numbers", "save-dialog", "tree", "window-state"})
+                             "numbers", "persistence", "save-dialog", "tree", "window-state"})
         EXPECT_GT(CountColours(pictures + "/" + name + ".png"), 100u) << name;
 }
 
