@@ -9,6 +9,7 @@
 #include <wx/dataobj.h>
 #include <wx/dnd.h>
 #include <wx/uiaction.h>
+#include <wx/weakref.h>
 
 #include <tests/numedit/control/number_ctrl_dialog.h>
 #include <tests/support/gui.h>
@@ -131,8 +132,10 @@ protected:
     /// Drags from a field whose text is selected to another place on the screen.
     void Drag(wxTextCtrl& from, const wxPoint& grip, const wxPoint& to, bool moves)
     {
-        GtkWidget* const source = from.m_widget;
-        GtkWidget* const target = screen.number->m_widget;
+        // The drop may destroy the controls.
+        const wxWeakRef<wxTextCtrl> alive(&from);
+        GtkWidget* const source = GTK_WIDGET(g_object_ref(from.m_widget));
+        GtkWidget* const target = GTK_WIDGET(g_object_ref(screen.number->m_widget));
         bool begun = false;
         bool ended = false;
         g_signal_connect_swapped(source, "drag-begin", G_CALLBACK(Note), &begun);
@@ -164,13 +167,15 @@ protected:
         mouse.MouseMove(to);
         EXPECT_TRUE(PumpUntil([&] { return over; }));
         mouse.MouseUp();
-        EXPECT_TRUE(PumpUntil([&] { return ended; }));
+        EXPECT_TRUE(PumpUntil([&] { return ended || !alive; }));
         if (moves)
             RunChild({"xdotool", "keyup", "Shift_L"});
         for (bool* const each : {&begun, &over, &ended}) {
             g_signal_handlers_disconnect_by_data(source, each);
             g_signal_handlers_disconnect_by_data(target, each);
         }
+        g_object_unref(source);
+        g_object_unref(target);
         PumpPending();
     }
 
@@ -274,6 +279,36 @@ TEST_F(NumberDrop, LosesNoDigitsThatItRefusesToMove)
     Drag(*screen.number, wxPoint(screen.number->ClientToScreen(wxPoint(12, 0)).x, middle.y), middle, false);
     EXPECT_TRUE(PumpUntil([&] { return screen.BellsRung() == 1; }));
     EXPECT_EQ(screen.Text(), L"12345");
+}
+
+// The handler destroys the control at once, while GTK still handles the drop.
+TEST_F(NumberDrop, MayDestroyTheControlByAHandlerOfTheText)
+{
+    const wxWeakRef<wxNumberCtrl> number(screen.number);
+    number->Bind(wxEVT_TEXT, [&](wxCommandEvent&) { number->Destroy(); });
+    Drop("1,234.50-", true);
+    EXPECT_TRUE(PumpUntil([&] { return !number; }));
+    EXPECT_TRUE(PumpUntil([&] { return screen.first->GetValue().empty(); })) << "the text was taken";
+}
+
+TEST_F(NumberDrop, MayDestroyTheControlByAHandlerOfTheValue)
+{
+    const wxWeakRef<wxNumberCtrl> number(screen.number);
+    number->Bind(wxEVT_NUMBER_CHANGED, [&](wxCommandEvent&) { number->Destroy(); });
+    Drop("1,234.50-");
+    EXPECT_TRUE(PumpUntil([&] { return !number; }));
+}
+
+// The control is the source of the drag too.
+TEST_F(NumberDrop, MayDestroyTheControlWhoseDigitsAreMoved)
+{
+    screen.Restart("123");
+    screen.number->SetSelection(0, 1);
+    const wxWeakRef<wxNumberCtrl> number(screen.number);
+    number->Bind(wxEVT_NUMBER_CHANGED, [&](wxCommandEvent&) { number->Destroy(); });
+    const wxPoint middle = MiddleOf(*screen.number);
+    Drag(*screen.number, wxPoint(screen.number->ClientToScreen(wxPoint(12, 0)).x, middle.y), middle, false);
+    EXPECT_TRUE(PumpUntil([&] { return !number; }));
 }
 
 }  // namespace
