@@ -151,10 +151,10 @@ PlaceResult StagedFile::PutNew()
 
 PlaceResult StagedFile::Exchange()
 {
-    auto placed = IdentityOfName(m_path);
+    const auto placed = IdentityOfName(m_path);
     const PlaceResult result = Rename(RENAME_EXCHANGE);
     if (result == PlaceResult::Done)
-        m_placed = std::move(placed);
+        m_placed = placed;
     return result;
 }
 
