@@ -1,15 +1,18 @@
+# shellcheck shell=bash disable=SC2034
 # What several scripts share: the packages for each job, and the build of a preset. Source it in the project's folder.
 # "one|other" means the first of the packages that the release has.
 
 build_packages=(g++ cmake ninja-build pkg-config gettext libwxgtk3.2-dev libglib2.0-dev libgtk-3-dev)
-display_packages=(xvfb xauth openbox x11-utils x11-xkb-utils librsvg2-common 'adwaita-icon-theme-legacy|adwaita-icon-theme')
-test_packages=(libgtest-dev libgmock-dev libatspi2.0-dev at-spi2-core dbus-daemon xdotool x11-xserver-utils imagemagick dpkg-dev file locales python3 weston metacity icewm)
+display_packages=(xvfb xauth openbox x11-utils x11-xkb-utils librsvg2-common
+  'adwaita-icon-theme-legacy|adwaita-icon-theme')
+test_packages=(libgtest-dev libgmock-dev libatspi2.0-dev at-spi2-core dbus-daemon xdotool x11-xserver-utils
+  imagemagick dpkg-dev file locales python3 weston metacity icewm)
 docs_packages=(doxygen doxygen-awesome-css python3)
 picture_packages=(pngquant xdotool imagemagick)
 coverage_packages=(gcovr)
 valgrind_packages=(valgrind libc6-dbg)
 bench_packages=(libbenchmark-dev libicu-dev)
-lint_packages=('clang-format-14|clang-format' 'clang-tidy-14|clang-tidy' cppcheck codespell)
+lint_packages=('clang-format-14|clang-format' 'clang-tidy-14|clang-tidy' cppcheck codespell shellcheck)
 package_packages=(build-essential dpkg-dev debhelper lintian appstream desktop-file-utils mmdebstrap)
 fuzz_packages=(clang libclang-rt-dev llvm locales)
 
