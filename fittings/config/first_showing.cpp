@@ -91,13 +91,14 @@ void FirstShowing::AfterEvent(GtkWidget* widget, GdkEvent* event, FirstShowing* 
 
 }  // namespace
 
-void fittings::ShowWithoutDelay(wxTopLevelWindow& window)
+void fittings::ShowWithoutDelay(wxWindow& window)
 {
+    auto* const topLevel = dynamic_cast<wxTopLevelWindow*>(&window);
     GtkWidget* const widget = window.GetHandle();
-    if (!widget || window.IsShown() || !GDK_IS_X11_DISPLAY(gtk_widget_get_display(widget)) ||
+    if (!topLevel || !widget || window.IsShown() || !GDK_IS_X11_DISPLAY(gtk_widget_get_display(widget)) ||
         g_object_get_data(G_OBJECT(widget), kData))
         return;
-    auto showing = std::make_unique<FirstShowing>(window);
+    auto showing = std::make_unique<FirstShowing>(*topLevel);
     showing->Watch(widget);
     g_object_set_data_full(G_OBJECT(widget), kData, showing.release(), &Delete<FirstShowing>);
 }

@@ -2,6 +2,7 @@
 #define FITTINGS_CONFIG_FIRST_SHOWING_H_
 
 class wxTopLevelWindow;
+class wxWindow;
 
 namespace fittings {
 
@@ -13,8 +14,8 @@ namespace fittings {
 /// shows the window before the announcement. The toolkit subtracts the decorations from the window's size as soon as
 /// they are announced.
 ///
-/// Does nothing for a window that is already shown, and nothing on Wayland.
-void ShowWithoutDelay(wxTopLevelWindow& window);
+/// Does nothing for a child window or a window that is already shown, and nothing on Wayland.
+void ShowWithoutDelay(wxWindow& window);
 
 /// Makes a window appear at the position that it has now. The toolkit passes a position to GTK only when the position
 /// changes. Without this call, the window manager would therefore place a window that has never been moved.

@@ -172,7 +172,7 @@ public:
         wxString value;
         long place = 0;
         for (bool more = m_from.GetFirstEntry(name, place); more; more = m_from.GetNextEntry(name, place)) {
-            const std::wstring key = name.ToStdWstring();
+            const std::wstring& key = name.ToStdWstring();
             if (!group.entries.Find(key) && m_from.Read(name, &value) && CanBeStored(key + value.ToStdWstring()))
                 m_to.Set(group, key, value.ToStdWstring());
         }
@@ -224,7 +224,7 @@ bool wxStoreConfig::ImportFrom(wxConfigBase& old)
 void wxStoreConfig::SetPath(const wxString& path)
 {
     m_model->Refresh();
-    const std::wstring text = path.ToStdWstring();
+    const std::wstring& text = path.ToStdWstring();
     const StorePath followed = FollowedPath(m_model->CurrentPath(), text);
     if (followed.size() > kMaxStoreDepth || !CanBeStored(text))
         return;
@@ -350,8 +350,8 @@ bool wxStoreConfig::RenameEntry(const wxString& oldName, const wxString& newName
 {
     m_model->Refresh();
     StoreGroup& group = m_model->Current();
-    const std::wstring from = oldName.ToStdWstring();
-    const std::wstring to = newName.ToStdWstring();
+    const std::wstring& from = oldName.ToStdWstring();
+    const std::wstring& to = newName.ToStdWstring();
     const fittings::StoreEntry* const entry = group.entries.Find(from);
     if (!entry || group.entries.Find(to) || to.empty() || to.find(kSeparator) != std::wstring::npos || !CanBeStored(to))
         return false;
@@ -364,7 +364,7 @@ bool wxStoreConfig::RenameGroup(const wxString& oldName, const wxString& newName
 {
     m_model->Refresh();
     StoreGroup& parent = m_model->Current();
-    const std::wstring to = newName.ToStdWstring();
+    const std::wstring& to = newName.ToStdWstring();
     auto* const group = parent.groups.Find(oldName.ToStdWstring());
     if (!group || parent.groups.Find(to) || !IsGroupName(to))
         return false;

@@ -92,8 +92,7 @@ void wx_window_state::SaveState(wxFrame* frame, const wchar_t* name)
 
 bool wx_window_state::LoadState(wxWindow* window, const wchar_t* name)
 {
-    if (auto* const topLevel = dynamic_cast<wxTopLevelWindow*>(window))
-        fittings::ShowWithoutDelay(*topLevel);
+    fittings::ShowWithoutDelay(*window);
     const auto stored = ParseGeometry(CLocalRegStore::GetString(kGeometrySection, OrEmpty(name), L""));
     if (!stored)
         return false;
