@@ -45,7 +45,16 @@ std::optional<std::wstring> GetSetting(std::wstring_view section, std::wstring_v
 {
     const CollectedSettings* const collected = CollectedSettings::OfThread();
     const fittings::SettingsChange* const change = collected ? collected->Find(section, key) : nullptr;
-    return change ? change->value : DefaultStore::Instance().Get(section, key);
+    return change ? change->value
+                  : DefaultStore::Instance().With([&](const CIniFile& file) { return file.Get(section, key); });
+}
+
+// Returns what @a read returns for the settings that this thread sees.
+template <typename Read>
+auto WithSettings(const Read& read)
+{
+    CollectedSettings* const collected = CollectedSettings::OfThread();
+    return collected ? read(collected->Preview()) : DefaultStore::Instance().With(read);
 }
 
 bool StoreChanges(const std::vector<fittings::SettingsChange>& changes)
@@ -221,14 +230,12 @@ bool CLocalRegStore::Refresh(CIniFile& ini)
 
 std::vector<std::wstring> CLocalRegStore::GetSectionNames()
 {
-    CollectedSettings* const collected = CollectedSettings::OfThread();
-    return collected ? collected->Preview().SectionNames() : DefaultStore::Instance().SectionNames();
+    return WithSettings([](const CIniFile& file) { return file.SectionNames(); });
 }
 
 std::vector<std::wstring> CLocalRegStore::GetKeyNames(const wchar_t* section)
 {
-    CollectedSettings* const collected = CollectedSettings::OfThread();
-    return collected ? collected->Preview().KeyNames(View(section)) : DefaultStore::Instance().KeyNames(View(section));
+    return WithSettings([&](const CIniFile& file) { return file.KeyNames(View(section)); });
 }
 
 std::string CLocalRegStore::GetString(const char* section, const char* key, const char* defaultValue)

@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <cstddef>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -25,8 +26,7 @@ struct DataDir
 {
     std::mutex mutex;
     std::wstring chosen;
-    bool known = false;
-    wxString applicationName;
+    std::optional<wxString> applicationName;  ///< The name that the path below is for.
     std::wstring path;
 };
 
@@ -112,10 +112,9 @@ std::wstring GetUserDataDir()
         return dataDir.chosen;
     // Called at every access to the settings, so compute the path again only when the application's name changes.
     const wxString name = ApplicationName();
-    if (!dataDir.known || name != dataDir.applicationName) {
+    if (name != dataDir.applicationName) {
         dataDir.path = file_util_ex::MakePath(BaseDataDir(), ApplicationFolderName(name));
         dataDir.applicationName = name;
-        dataDir.known = true;
     }
     return dataDir.path;
 }

@@ -38,21 +38,17 @@ constexpr int kForReading = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
 // The largest number of merges in one save. Each merge is caused by another change at the very moment of an exchange.
 constexpr int kMaxMerges = 100;
 
-bool IsBefore(const timespec& a, const timespec& b)
+// Makes two times comparable.
+std::pair<time_t, long> Comparable(const timespec& time)
 {
-    return a.tv_sec != b.tv_sec ? a.tv_sec < b.tv_sec : a.tv_nsec < b.tv_nsec;
+    return {time.tv_sec, time.tv_nsec};
 }
 
 // Returns whether @a now is later than the file's timestamp can resolve, so that a file that changes from now on gets
 // another timestamp. Some file systems store only whole seconds, and some only even seconds.
 bool IsPastTick(const timespec& stamp, const timespec& now)
 {
-    return stamp.tv_nsec == 0 ? stamp.tv_sec + 2 <= now.tv_sec : IsBefore(stamp, now);
-}
-
-bool IsSame(const timespec& a, const timespec& b)
-{
-    return a.tv_sec == b.tv_sec && a.tv_nsec == b.tv_nsec;
+    return stamp.tv_nsec == 0 ? stamp.tv_sec + 2 <= now.tv_sec : Comparable(stamp) < Comparable(now);
 }
 
 bool ReadAll(int fd, std::size_t expected, std::string& bytes)
@@ -172,23 +168,11 @@ std::optional<Target> PrepareTarget(const std::string& path)
     return Target{*target, std::nullopt};
 }
 
-const struct stat* OldOf(const Target& target)
-{
-    return target.old ? &*target.old : nullptr;
-}
-
 UpdateResult ResultOf(PlaceResult placed)
 {
-    switch (placed) {
-    case PlaceResult::Done:
-        return UpdateResult::Saved;
-    case PlaceResult::NotAsExpected:
+    if (placed == PlaceResult::NotAsExpected)
         return UpdateResult::Outdated;
-    case PlaceResult::Failed:
-    case PlaceResult::Unsupported:
-        break;
-    }
-    return UpdateResult::Failed;
+    return placed == PlaceResult::Done ? UpdateResult::Saved : UpdateResult::Failed;
 }
 
 // An exchange of the target and a staged file.
@@ -232,7 +216,7 @@ Outcome MergeDisplaced(const Target& target, const Exchanged& done, const FileUp
     const auto merged = displaced ? update.merge(done.expected, done.put, *displaced) : std::nullopt;
     if (!merged)
         return Undo(done.staged);
-    StagedFile next(target.path, *merged, OldOf(target));
+    StagedFile next(target.path, *merged, target.old);
     const FileDescriptor ours(open(target.path.c_str(), kForReading | O_NOFOLLOW));
     if (!next.IsWritten() || next.Exchange() != PlaceResult::Done)
         return Undo(done.staged);
@@ -315,12 +299,13 @@ FileIdentity::FileIdentity(const struct stat& info)
 
 bool FileIdentity::operator==(const FileIdentity& other) const
 {
-    return HasContentOf(other) && IsSame(changed, other.changed);
+    return HasContentOf(other) && Comparable(changed) == Comparable(other.changed);
 }
 
 bool FileIdentity::HasContentOf(const FileIdentity& other) const
 {
-    return device == other.device && inode == other.inode && size == other.size && IsSame(modified, other.modified);
+    return device == other.device && inode == other.inode && size == other.size &&
+           Comparable(modified) == Comparable(other.modified);
 }
 
 std::optional<FileIdentity> IdentityOf(const std::string& path)
@@ -362,7 +347,7 @@ bool ReplaceFileBytes(const std::string& path, std::string_view bytes)
         return false;
     if (target->old && HoldsBytes(target->path, *target->old, bytes))
         return true;
-    StagedFile staged(target->path, bytes, OldOf(*target));
+    StagedFile staged(target->path, bytes, target->old);
     if (!staged.IsWritten() || staged.Replace() != PlaceResult::Done)
         return false;
     SyncFolder(FolderOf(target->path));
@@ -378,7 +363,7 @@ UpdateResult UpdateFileBytes(const std::string& path, const FileUpdate& update)
         return UpdateResult::Failed;
     if (target->old.has_value() != (update.found.result == ReadResult::Read))
         return UpdateResult::Outdated;
-    StagedFile staged(target->path, update.newBytes, OldOf(*target));
+    StagedFile staged(target->path, update.newBytes, target->old);
     if (!staged.IsWritten())
         return UpdateResult::Failed;
 

@@ -8,7 +8,6 @@
 #include <utility>
 
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <glib.h>
@@ -111,7 +110,8 @@ void KeepOwnerAndMode(int fd, const struct stat& old)
 
 }  // namespace
 
-StagedFile::StagedFile(std::string target, std::string_view bytes, const struct stat* old) : m_target(std::move(target))
+StagedFile::StagedFile(std::string target, std::string_view bytes, const std::optional<struct stat>& old)
+    : m_target(std::move(target))
 {
     const std::string folder = FolderOf(m_target);
     RemoveLeftovers(folder);
@@ -135,18 +135,12 @@ StagedFile::~StagedFile()
 
 PlaceResult StagedFile::Replace()
 {
-    const PlaceResult result = Rename(0);
-    if (result == PlaceResult::Done)
-        m_path.clear();
-    return result;
+    return Rename(0);
 }
 
 PlaceResult StagedFile::PutNew()
 {
-    const PlaceResult result = Rename(RENAME_NOREPLACE);
-    if (result == PlaceResult::Done)
-        m_path.clear();
-    return result;
+    return Rename(RENAME_NOREPLACE);
 }
 
 PlaceResult StagedFile::Exchange()
@@ -189,8 +183,11 @@ PlaceResult StagedFile::Rename(unsigned int flags)
 {
     const int result = flags ? renameat2(AT_FDCWD, m_path.c_str(), AT_FDCWD, m_target.c_str(), flags)
                              : rename(m_path.c_str(), m_target.c_str());
-    if (result == 0)
+    if (result == 0) {
+        if (flags != RENAME_EXCHANGE)
+            m_path.clear();
         return PlaceResult::Done;
+    }
     switch (errno) {
     case EEXIST:
     case ENOENT:

@@ -5,9 +5,9 @@
 #include <string>
 #include <string_view>
 
-#include <fittings/platform/embedded/file/file_bytes.h>
+#include <sys/stat.h>
 
-struct stat;
+#include <fittings/platform/embedded/file/file_bytes.h>
 
 namespace fittings {
 
@@ -24,8 +24,8 @@ class StagedFile
 {
 public:
     /// Writes @a bytes for the file at @a target, which must not be a link. @a old has that file's mode and owner; it
-    /// is null when there is no file. Removes the temporary files that killed processes have left in the folder.
-    StagedFile(std::string target, std::string_view bytes, const struct stat* old);
+    /// is empty when there is no file. Removes the temporary files that killed processes have left in the folder.
+    StagedFile(std::string target, std::string_view bytes, const std::optional<struct stat>& old);
     ~StagedFile();
     StagedFile(const StagedFile&) = delete;
     StagedFile& operator=(const StagedFile&) = delete;

@@ -21,24 +21,6 @@ std::string DefaultStore::Path()
     return m_shared->Path();
 }
 
-std::optional<std::wstring> DefaultStore::Get(std::wstring_view section, std::wstring_view key)
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    return Refreshed().Get(section, key);
-}
-
-std::vector<std::wstring> DefaultStore::SectionNames()
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    return Refreshed().SectionNames();
-}
-
-std::vector<std::wstring> DefaultStore::KeyNames(std::wstring_view section)
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    return Refreshed().KeyNames(section);
-}
-
 bool DefaultStore::Store(const std::vector<SettingsChange>& changes)
 {
     SharedFile* shared = nullptr;

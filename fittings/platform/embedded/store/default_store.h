@@ -2,9 +2,7 @@
 #define FITTINGS_PLATFORM_EMBEDDED_STORE_DEFAULT_STORE_H_
 
 #include <mutex>
-#include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include <fittings/platform/embedded/store/ini_file.h>
@@ -21,9 +19,13 @@ public:
     /// Returns the path of the file in the current user data directory.
     std::string Path();
 
-    std::optional<std::wstring> Get(std::wstring_view section, std::wstring_view key);
-    std::vector<std::wstring> SectionNames();
-    std::vector<std::wstring> KeyNames(std::wstring_view section);
+    /// Returns what @a read returns for the stored settings.
+    template <typename Read>
+    auto With(const Read& read)
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        return read(Refreshed());
+    }
 
     /// Makes all changes with one save. Returns false when they could not be saved; none is then stored.
     bool Store(const std::vector<SettingsChange>& changes);

@@ -89,9 +89,7 @@ std::optional<char32_t> ReadHex(std::string_view digits)
 // {digits}.
 std::optional<Decoded> ReadByteDigits(std::string_view text)
 {
-    if (text.size() < 2)
-        return std::nullopt;
-    const auto code = ReadHex(text.substr(0, 2));
+    const auto code = text.size() < 2 ? std::nullopt : ReadHex(text.substr(0, 2));
     if (!code)
         return std::nullopt;
     return Decoded{*code < 0x80 ? *code : kByteBase + *code, 2};
