@@ -11,7 +11,7 @@
 #include <wx/frame.h>
 
 #include <fittings/config/persistence.h>
-#include <fittings/config/persistent/tree_paths.h>
+#include <fittings/config/persistence/tree_paths.h>
 #include <fittings/platform/local_reg_store.h>
 #include <fuzz/support/check.h>
 #include <fuzz/support/toolkit.h>

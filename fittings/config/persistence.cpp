@@ -6,7 +6,7 @@
 #include <wx/app.h>
 
 #include <fittings/config/first_showing.h>
-#include <fittings/config/persistent/window_record.h>
+#include <fittings/config/persistence/window_record.h>
 #include <fittings/config/store_config.h>
 #include <fittings/config/window_geometry.h>
 

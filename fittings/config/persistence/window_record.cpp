@@ -1,4 +1,4 @@
-#include <fittings/config/persistent/window_record.h>
+#include <fittings/config/persistence/window_record.h>
 
 #include <wx/event.h>
 #include <wx/toplevel.h>

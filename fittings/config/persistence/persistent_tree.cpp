@@ -1,7 +1,7 @@
 #include <fittings/config/persistence.h>
 
-#include <fittings/config/persistent/ancestor_watch.h>
-#include <fittings/config/persistent/tree_paths.h>
+#include <fittings/config/persistence/ancestor_watch.h>
+#include <fittings/config/persistence/tree_paths.h>
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include <fittings/config/persistent/ancestor_watch.h>
+#include <fittings/config/persistence/ancestor_watch.h>
 
 #include <wx/event.h>
 #include <wx/window.h>

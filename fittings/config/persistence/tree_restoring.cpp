@@ -1,4 +1,4 @@
-#include <fittings/config/persistent/tree_paths.h>
+#include <fittings/config/persistence/tree_paths.h>
 
 #include <algorithm>
 #include <unordered_map>

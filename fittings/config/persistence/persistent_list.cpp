@@ -7,7 +7,7 @@
 
 #include <wx/arrstr.h>
 
-#include <fittings/config/persistent/ancestor_watch.h>
+#include <fittings/config/persistence/ancestor_watch.h>
 
 namespace {
 
