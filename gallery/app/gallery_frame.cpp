@@ -17,12 +17,12 @@
 #include <fittings/platform/local_reg_store.h>
 
 #include <gallery/browser/browser_page.h>
-#include <gallery/browser/browser_settings.h>
 #include <gallery/browser/contents_list.h>
 #include <gallery/browser/folder_tree.h>
 #include <gallery/colours/colours_page.h>
 #include <gallery/folders/native_text.h>
 #include <gallery/numbers/numbers_page.h>
+#include <gallery/pages/page_settings.h>
 #include <gallery/pages/window_helpers.h>
 
 namespace gallery {
@@ -30,6 +30,7 @@ namespace gallery {
 namespace {
 
 constexpr const wchar_t* kStateName = L"Browser";
+constexpr const char* kPage = "Page";
 constexpr int kFirstPageId = wxID_HIGHEST + 1;
 
 }  // namespace
@@ -60,7 +61,7 @@ GalleryFrame::GalleryFrame() : wxFrame(nullptr, wxID_ANY, "Fittings Gallery")
 
     wx_window_state::LoadState(this, kStateName);
     m_browser->GetList()->SetFocus();
-    ShowPage(m_pages->FindPage(FindWindowByName(browser_settings::LoadPage(), m_pages)));
+    ShowPage(m_pages->FindPage(FindWindowByName(kWindowSettings.Load(kPage), m_pages)));
 }
 
 wxString GalleryFrame::Start(const std::string& folder)
@@ -245,7 +246,7 @@ void GalleryFrame::OnClose(wxCloseEvent& event)
     m_browser->SaveSettings();
     m_numbers->SaveSettings();
     m_colours->SaveSettings();
-    browser_settings::SavePage(m_pages->GetCurrentPage()->GetName());
+    kWindowSettings.Save(kPage, m_pages->GetCurrentPage()->GetName());
     m_recent.Save();
     wx_window_state::SaveState(this, kStateName);
     event.Skip();

@@ -28,6 +28,7 @@
 #include <gallery/folders/native_text.h>
 #include <gallery/folders/report.h>
 #include <gallery/pages/page_layout.h>
+#include <gallery/pages/page_settings.h>
 #include <gallery/pages/readable_colour.h>
 #include <gallery/pages/window_helpers.h>
 
@@ -38,6 +39,7 @@ wxDEFINE_EVENT(EVT_BROWSER_CHANGED, wxCommandEvent);
 namespace {
 
 constexpr const wchar_t* kStateName = L"Browser";
+constexpr const char* kMinimumSize = "AtLeastMB";
 constexpr const char* kFoldersPane = "folders";
 
 wxString ReasonText(int error)
@@ -87,7 +89,7 @@ BrowserPage::BrowserPage(wxWindow* parent) : wxPanel(parent)
     m_list->SortBy(browser_settings::LoadEarlierSortOrder());
     m_list->SetColumnWidths(browser_settings::LoadEarlierColumnWidths(m_list->GetColumnWidths().size()));
     m_list->RememberColumns();
-    m_filter->SetMegabytes(browser_settings::LoadMinimumSize());
+    m_filter->SetMegabytes(kContentsSettings.Load(kMinimumSize));
 }
 
 BrowserPage::~BrowserPage()
@@ -138,7 +140,7 @@ void BrowserPage::ShowFloatingPanes(bool show)
 void BrowserPage::SaveSettings()
 {
     RememberRoot();
-    browser_settings::SaveMinimumSize(m_filter->GetMegabytes());
+    kContentsSettings.Save(kMinimumSize, m_filter->GetMegabytes());
     if (!m_layoutLoaded)
         return;
     // A hidden window has no place on the screen.

@@ -2,38 +2,27 @@
 
 #include <algorithm>
 #include <sstream>
-#include <stdexcept>
 
-#include <fittings/config/ui_config_mgr.h>
 #include <fittings/platform/local_reg_store.h>
 
 #include <gallery/folders/native_text.h>
+#include <gallery/pages/page_settings.h>
 
 namespace gallery::browser_settings {
 
 namespace {
 
-constexpr const wchar_t* kFile = L"browser.ini";
+constexpr PageSettings kFolderSettings(L"browser.ini", L"Folders");
 // This section is in the default store, because ui_config_mgr cannot remove a key from its files.
 constexpr const wchar_t* kSelectedSection = L"SelectedFolder";
 constexpr const wchar_t* kColourSection = L"FolderColours";
 constexpr std::size_t kRememberedRoots = 50;
 
-/// Reads a number that someone may have edited; 0 when it is not a number.
-int LoadInt(const wchar_t* section, const wchar_t* key)
-{
-    try {
-        return ui_config_mgr::GetConfigInt(kFile, section, key);
-    } catch (const std::logic_error&) {
-        return 0;
-    }
-}
-
 /// Returns the roots of earlier sessions as texts, the latest first.
 std::vector<std::wstring> LoadRoots()
 {
     std::vector<std::wstring> roots;
-    std::wistringstream text(ui_config_mgr::GetConfigString(kFile, L"Folders", L"Roots"));
+    std::wistringstream text(kFolderSettings.Load("Roots").ToStdWstring());
     for (std::wstring root; std::getline(text, root, L'|');) {
         if (!root.empty())
             roots.push_back(root);
@@ -41,22 +30,7 @@ std::vector<std::wstring> LoadRoots()
     return roots;
 }
 
-std::wstring WidthKey(std::size_t column)
-{
-    return L"Width" + std::to_wstring(column + 1);
-}
-
 }  // namespace
-
-wxString LoadPage()
-{
-    return ui_config_mgr::GetConfigString(kFile, L"Window", L"Page");
-}
-
-void SavePage(const wxString& name)
-{
-    ui_config_mgr::WriteConfigString(kFile, L"Window", L"Page", name);
-}
 
 std::vector<std::string> LoadRootFolders()
 {
@@ -81,7 +55,7 @@ std::string SaveRootFolder(const std::string& path)
     std::wstring text;
     for (const std::wstring& each : roots)
         text += each + L'|';
-    ui_config_mgr::WriteConfigString(kFile, L"Folders", L"Roots", text.c_str());
+    kFolderSettings.Save("Roots", text);
     return PathFromText(forgotten);
 }
 
@@ -115,42 +89,18 @@ void SaveFolderColour(const std::string& path, const wxColour& colour)
 
 SortOrder LoadEarlierSortOrder()
 {
-    SortOrder order;
-    switch (LoadInt(L"Contents", L"SortColumn")) {
-    case static_cast<int>(SortColumn::Size):
-        order.column = SortColumn::Size;
-        break;
-    case static_cast<int>(SortColumn::Type):
-        order.column = SortColumn::Type;
-        break;
-    case static_cast<int>(SortColumn::Modified):
-        order.column = SortColumn::Modified;
-        break;
-    default:
-        break;
-    }
-    order.ascending = LoadInt(L"Contents", L"SortDescending") == 0;
-    return order;
-}
-
-wxString LoadMinimumSize()
-{
-    return ui_config_mgr::GetConfigString(kFile, L"Contents", L"AtLeastMB");
-}
-
-void SaveMinimumSize(const wxString& megabytes)
-{
-    ui_config_mgr::WriteConfigString(kFile, L"Contents", L"AtLeastMB", megabytes);
+    constexpr int kLast = static_cast<int>(SortColumn::Modified);
+    const int column = kContentsSettings.LoadNumber("SortColumn", 0, kLast, 0);
+    return {static_cast<SortColumn>(column), !kContentsSettings.LoadFlag("SortDescending", false)};
 }
 
 std::vector<int> LoadEarlierColumnWidths(std::size_t count)
 {
     std::vector<int> widths;
-    for (std::size_t i = 0; i < count; ++i) {
-        const int width = LoadInt(L"Contents", WidthKey(i).c_str());
-        if (width < 10 || width > 10000)
+    for (std::size_t i = 1; i <= count; ++i) {
+        widths.push_back(kContentsSettings.LoadNumber("Width" + std::to_string(i), 10, 10000, 0));
+        if (widths.back() == 0)
             return {};
-        widths.push_back(width);
     }
     return widths;
 }

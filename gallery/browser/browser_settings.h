@@ -5,18 +5,13 @@
 #include <vector>
 
 #include <wx/colour.h>
-#include <wx/string.h>
 
 #include <gallery/folders/folder_listing.h>
 
 namespace gallery {
 
-/// The gallery's settings, other than the states that the library stores for windows and trees.
+/// What the browser remembers about folders.
 namespace browser_settings {
-
-/// Returns the name of the page that was shown last; empty in the first session.
-wxString LoadPage();
-void SavePage(const wxString& name);
 
 /// Returns the roots of earlier sessions, the latest first.
 std::vector<std::string> LoadRootFolders();
@@ -32,10 +27,6 @@ void SaveSelectedFolder(const std::string& root, const std::string& path);
 /// Returns the colour that a folder was given; invalid when it has none.
 wxColour LoadFolderColour(const std::string& path);
 void SaveFolderColour(const std::string& path, const wxColour& colour);
-
-/// Returns the smallest size that is listed, as a text for SizeFilter; empty when there is none.
-wxString LoadMinimumSize();
-void SaveMinimumSize(const wxString& megabytes);
 
 /// @name Settings of an earlier version, which kept the columns here
 /// @{

@@ -1,7 +1,5 @@
 #include <gallery/browser/size_filter.h>
 
-#include <cmath>
-
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 

@@ -4,8 +4,8 @@
 #include <cerrno>
 #include <chrono>
 #include <climits>
-#include <cstdlib>
-#include <memory>
+#include <filesystem>
+#include <system_error>
 #include <tuple>
 
 #include <glib.h>
@@ -277,15 +277,12 @@ std::string JoinPath(const std::string& folder, const std::string& name)
 
 std::string ResolveFolder(const std::string& path)
 {
-    const std::unique_ptr<char, decltype(&std::free)> resolved(realpath(path.c_str(), nullptr), &std::free);
-    struct stat status;
-    if (!resolved || stat(resolved.get(), &status) != 0)
-        return {};
-    if (!S_ISDIR(status.st_mode)) {
-        errno = ENOTDIR;
-        return {};
-    }
-    return resolved.get();
+    std::error_code error;
+    const std::filesystem::path resolved = std::filesystem::canonical(path, error);
+    if (!error && std::filesystem::is_directory(resolved, error))
+        return resolved;
+    errno = error ? error.value() : ENOTDIR;
+    return {};
 }
 
 }  // namespace gallery

@@ -1,8 +1,8 @@
 #include <gallery/folders/report.h>
 
 #include <cerrno>
-#include <cstdlib>
-#include <memory>
+#include <filesystem>
+#include <system_error>
 
 #include <glib.h>
 #include <sys/stat.h>
@@ -51,13 +51,15 @@ std::string ReportText(const std::string& folder, const std::vector<Entry>& entr
 int SaveReport(const std::string& path, const std::string& text)
 {
     // A link stays a link, and a file keeps its permissions.
-    const std::unique_ptr<char, decltype(&std::free)> target(realpath(path.c_str(), nullptr), &std::free);
-    const char* const file = target ? target.get() : path.c_str();
+    std::error_code error;
+    std::string file = std::filesystem::canonical(path, error);
+    if (error)
+        file = path;
     struct stat status;
-    const int mode = stat(file, &status) == 0 ? static_cast<int>(status.st_mode & 07777) : 0666;
+    const int mode = stat(file.c_str(), &status) == 0 ? static_cast<int>(status.st_mode & 07777) : 0666;
     const auto flags = static_cast<GFileSetContentsFlags>(G_FILE_SET_CONTENTS_CONSISTENT | G_FILE_SET_CONTENTS_DURABLE);
     errno = 0;
-    if (g_file_set_contents_full(file, text.data(), static_cast<gssize>(text.size()), flags, mode, nullptr))
+    if (g_file_set_contents_full(file.c_str(), text.data(), static_cast<gssize>(text.size()), flags, mode, nullptr))
         return 0;
     return errno != 0 ? errno : EIO;
 }

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <string>
 
 #include <wx/button.h>
 #include <wx/checkbox.h>

@@ -31,6 +31,8 @@ private:
     const wchar_t* m_section;
 };
 
+inline constexpr PageSettings kWindowSettings(L"browser.ini", L"Window");
+inline constexpr PageSettings kContentsSettings(L"browser.ini", L"Contents");
 inline constexpr PageSettings kNumberSettings(L"numbers.ini", L"Number");
 inline constexpr PageSettings kFormatSettings(L"numbers.ini", L"Format");
 inline constexpr PageSettings kColourSettings(L"colours.ini", L"Combo");

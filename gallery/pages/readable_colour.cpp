@@ -1,6 +1,5 @@
 #include <gallery/pages/readable_colour.h>
 
-#include <algorithm>
 #include <cmath>
 
 #include <wx/gdicmn.h>
