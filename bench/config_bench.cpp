@@ -1,7 +1,5 @@
 // Compares wxStoreConfig on a named file with wxFileConfig on a file with the same entries.
 
-#include <cstdlib>
-#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
@@ -11,22 +9,18 @@
 #include <wx/fileconf.h>
 
 #include <fittings/config/store_config.h>
-#include <fittings/platform/file_util_ex.h>
-#include <fittings/platform/std_file_paths.h>
+#include <tests/support/temp_user_data.h>
 
 namespace {
 
 constexpr int kGroups = 20;
 
 /// A temporary folder with one file for wxStoreConfig and one for wxFileConfig, which contain the same entries.
-class Entries
+class Entries : public TempUserData
 {
 public:
     explicit Entries(int count)
     {
-        std::string folder = (std::filesystem::temp_directory_path() / "fittings-bench-XXXXXX").string();
-        m_folder = mkdtemp(folder.data());
-        std_file_paths::SetUserDataDir(file_util_ex::ConvertFromUTF8W(m_folder));
         for (int entry = 0; entry < count; ++entry)
             m_paths.push_back(wxString::Format("/Group%d/WindowGeometry%d", entry / (count / kGroups), entry));
         for (wxConfigBase* const config : {Ours().release(), Peers().release()}) {
@@ -35,19 +29,11 @@ public:
         }
     }
 
-    ~Entries()
-    {
-        std_file_paths::SetUserDataDir(L"");
-        std::filesystem::remove_all(m_folder);
-    }
-    Entries(const Entries&) = delete;
-    Entries& operator=(const Entries&) = delete;
-
     static std::unique_ptr<wxConfigBase> Ours() { return std::make_unique<wxStoreConfig>("bench.ini"); }
 
     std::unique_ptr<wxConfigBase> Peers() const
     {
-        return std::make_unique<wxFileConfig>("", "", m_folder + "/peer.ini", "", wxCONFIG_USE_LOCAL_FILE);
+        return std::make_unique<wxFileConfig>("", "", *this / "peer.ini", "", wxCONFIG_USE_LOCAL_FILE);
     }
 
     void WriteAll(wxConfigBase& config, long value) const
@@ -68,7 +54,6 @@ public:
     const wxString& SomePath() const { return m_paths[m_paths.size() / 2]; }
 
 private:
-    std::string m_folder;
     std::vector<wxString> m_paths;
 };
 

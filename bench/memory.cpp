@@ -2,8 +2,6 @@
 // it with that of a peer.
 
 #include <cstdio>
-#include <cstdlib>
-#include <filesystem>
 #include <fstream>
 #include <functional>
 #include <memory>
@@ -18,9 +16,9 @@
 
 #include <fittings/numedit/number_edit_utils.h>
 #include <fittings/platform/local_reg_store.h>
-#include <fittings/platform/std_file_paths.h>
 #include <fittings/thread/gui_thread.h>
 #include <fittings/tree/handy_tree_ctrl.h>
+#include <tests/support/temp_user_data.h>
 
 namespace {
 
@@ -53,9 +51,8 @@ void Print(const char* row, double ours, const char* peer, double theirs)
     std::printf("%-34s %8.0f %8.0f  (%s)\n", row, ours, theirs, peer);
 }
 
-void MeasureStore(const std::string& folder)
+void MeasureStore(const std::string& path)
 {
-    const std::string path = folder + "/keys.ini";
     {
         std::ofstream file(path);
         for (int i = 0; i < kItems; ++i) {
@@ -152,16 +149,12 @@ public:
 
     int OnRun() override
     {
-        std::string folder = (std::filesystem::temp_directory_path() / "fittings-memory-XXXXXX").string();
-        if (!mkdtemp(folder.data()))
-            return 1;
-        std_file_paths::SetUserDataDir(std::wstring(folder.begin(), folder.end()).c_str());
+        const TempUserData data;
         std::printf("%-34s %8s %8s\n", "bytes for each of 100,000", "ours", "peer");
-        MeasureStore(folder);
+        MeasureStore(data / "keys.ini");
         MeasureTree();
         MeasureEvents();
         MeasureDigits();
-        std::filesystem::remove_all(folder);
         return 0;
     }
 };

@@ -1,6 +1,5 @@
 // The settings store, compared with the cost of its steps alone.
 
-#include <cstdlib>
 #include <filesystem>
 #include <string>
 
@@ -14,22 +13,19 @@
 #include <fittings/config/ui_config_mgr.h>
 #include <fittings/platform/file_util_ex.h>
 #include <fittings/platform/local_reg_store.h>
-#include <fittings/platform/std_file_paths.h>
+#include <tests/support/temp_user_data.h>
 
 namespace {
 
 constexpr int kSections = 20;
 
 /// A temporary user data directory whose settings have the given number of keys.
-class Settings
+class Settings : public TempUserData
 {
 public:
     explicit Settings(int keys) : m_keys(keys)
     {
-        std::string folder = (std::filesystem::temp_directory_path() / "fittings-bench-XXXXXX").string();
-        m_folder = mkdtemp(folder.data());
-        std::filesystem::create_directory(m_folder + "/ui_config");
-        std_file_paths::SetUserDataDir(file_util_ex::ConvertFromUTF8W(m_folder));
+        std::filesystem::create_directory(*this / "ui_config");
         std::string text;
         for (int key = 0; key < keys; ++key) {
             if (key % (keys / kSections) == 0)
@@ -40,23 +36,14 @@ public:
             g_file_set_contents(path.c_str(), text.data(), static_cast<gssize>(text.size()), nullptr);
     }
 
-    ~Settings()
-    {
-        std_file_paths::SetUserDataDir(L"");
-        std::filesystem::remove_all(m_folder);
-    }
-    Settings(const Settings&) = delete;
-    Settings& operator=(const Settings&) = delete;
-
-    std::string DefaultPath() const { return m_folder + "/settings.ini"; }
-    std::string NamedPath() const { return m_folder + "/ui_config/named.ini"; }
+    std::string DefaultPath() const { return *this / "settings.ini"; }
+    std::string NamedPath() const { return *this / "ui_config/named.ini"; }
 
     std::string Section(int key) const { return "Section" + std::to_string(key / (m_keys / kSections)); }
     std::string Key(int key) const { return "WindowGeometry" + std::to_string(key); }
 
 private:
     int m_keys;
-    std::string m_folder;
 };
 
 std::wstring Wide(const std::string& text)

@@ -2,7 +2,6 @@
 
 #include <ctime>
 #include <memory>
-#include <string>
 #include <vector>
 
 #include <benchmark/benchmark.h>

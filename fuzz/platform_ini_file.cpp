@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <memory>
@@ -13,27 +12,17 @@
 #include <fittings/platform/local_reg_store.h>
 #include <fuzz/support/check.h>
 #include <fuzzer/FuzzedDataProvider.h>
-#include <unistd.h>
+#include <tests/support/temp_user_data.h>
 
 namespace {
 
 constexpr const wchar_t* kAbsent = L"<absent>";
 
-// The folder is in memory, because saving would wait for a disk.
-struct Folder
-{
-    Folder() { Check(mkdtemp(path.data()) != nullptr, "there is a folder to write to"); }
-    ~Folder() { rmdir(path.c_str()); }
-    Folder(const Folder&) = delete;
-    Folder& operator=(const Folder&) = delete;
-
-    std::string path = std::string(access("/dev/shm", W_OK) == 0 ? "/dev/shm" : "/tmp") + "/fittings-fuzz-XXXXXX";
-};
-
 const std::string& FolderPath()
 {
-    static const Folder folder;
-    return folder.path;
+    static const InMemory inMemory;
+    static const TempFolder folder;
+    return folder.Path();
 }
 
 struct File

@@ -1,17 +1,14 @@
 #include <fuzz/support/toolkit.h>
 
-#include <cstdlib>
-#include <filesystem>
 #include <iterator>
 
 #include <fuzzer/FuzzedDataProvider.h>
-#include <unistd.h>
 
 #include <wx/app.h>
 #include <wx/init.h>
 
-#include <fittings/platform/std_file_paths.h>
 #include <fuzz/support/check.h>
+#include <tests/support/temp_user_data.h>
 
 namespace {
 
@@ -35,26 +32,15 @@ public:
     }
 };
 
-std::string g_folder = "/tmp/fittings-fuzz-XXXXXX";
-
-void RemoveFolder()
-{
-    std::error_code error;
-    std::filesystem::remove_all(g_folder, error);
-}
-
 bool Start()
 {
     static char name[] = "fittings-fuzz";
     static char* arguments[] = {name, nullptr};
     static int count = 1;
-    if (access("/dev/shm", W_OK) == 0)
-        g_folder = "/dev/shm/fittings-fuzz-XXXXXX";
-    Check(mkdtemp(g_folder.data()) != nullptr, "there is a folder to write to");
-    std::atexit(RemoveFolder);
+    static const InMemory inMemory;
+    static const TempUserData data;
     wxApp::SetInstance(new FuzzApp);
     Check(wxEntryStart(count, arguments) && wxTheApp->CallOnInit(), "the toolkit starts");
-    std_file_paths::SetUserDataDir(std::wstring(g_folder.begin(), g_folder.end()).c_str());
     return true;
 }
 

@@ -5,47 +5,7 @@
 #include <vector>
 
 #include <fittings/platform/local_reg_store.h>
-
-/// While this object exists, temporary folders are in memory, if the system allows it. On a disk, a test that saves a
-/// thousand files is slow, and on a busy disk its locks time out.
-class InMemory
-{
-public:
-    InMemory();
-    ~InMemory();
-    InMemory(const InMemory&) = delete;
-    InMemory& operator=(const InMemory&) = delete;
-
-private:
-    const bool m_hadFolder;
-    const std::string m_folder;
-};
-
-/// A new folder that is removed with its contents when the object is destroyed.
-class TempFolder
-{
-public:
-    TempFolder();
-    ~TempFolder();
-    TempFolder(const TempFolder&) = delete;
-    TempFolder& operator=(const TempFolder&) = delete;
-
-    const std::string& Path() const { return m_path; }
-
-    /// Returns the path of @a name in the folder.
-    std::string operator/(const std::string& name) const { return m_path + "/" + name; }
-
-private:
-    std::string m_path;
-};
-
-/// A new, empty user data directory that exists as long as the object.
-class TempUserData : public TempFolder
-{
-public:
-    TempUserData();
-    ~TempUserData();
-};
+#include <tests/support/temp_user_data.h>
 
 /// Returns the default store's value of a key, or "(none)".
 inline std::wstring Stored(const wchar_t* section, const wchar_t* key)

@@ -1,0 +1,47 @@
+#ifndef FITTINGS_TESTS_SUPPORT_TEMP_USER_DATA_H_
+#define FITTINGS_TESTS_SUPPORT_TEMP_USER_DATA_H_
+
+#include <string>
+
+/// While this object exists, temporary folders are in memory, if the system allows it. On a disk, a test that saves a
+/// thousand files is slow, and on a busy disk its locks time out.
+class InMemory
+{
+public:
+    InMemory();
+    ~InMemory();
+    InMemory(const InMemory&) = delete;
+    InMemory& operator=(const InMemory&) = delete;
+
+private:
+    const bool m_hadFolder;
+    const std::string m_folder;
+};
+
+/// A new folder that is removed with its contents when the object is destroyed.
+class TempFolder
+{
+public:
+    TempFolder();
+    ~TempFolder();
+    TempFolder(const TempFolder&) = delete;
+    TempFolder& operator=(const TempFolder&) = delete;
+
+    const std::string& Path() const { return m_path; }
+
+    /// Returns the path of @a name in the folder.
+    std::string operator/(const std::string& name) const { return m_path + "/" + name; }
+
+private:
+    std::string m_path;
+};
+
+/// A new, empty user data directory that exists as long as the object.
+class TempUserData : public TempFolder
+{
+public:
+    TempUserData();
+    ~TempUserData();
+};
+
+#endif
