@@ -2,7 +2,6 @@
 
 #include <chrono>
 #include <filesystem>
-#include <functional>
 #include <string>
 
 #include <fcntl.h>
@@ -78,10 +77,11 @@ TEST_P(ClockJumpsByAnHour, LeaveTheWaitForTheStoresLockAsItIs)
 {
     TempUserData data;
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"1"));
-    const HeldLock lock(data / "settings.ini.lock");
+    const std::string lockFile = data / "settings.ini.lock";
+    const HeldLock lock(lockFile, 0, 1);
     const auto start = Clock::now();
     std::thread somebody([&] {
-        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        EXPECT_TRUE(Becomes([&] { return IsTurnTaken(lockFile); })) << "the write does not wait";
         clock.Jump(GetParam());
     });
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"2"));
@@ -137,7 +137,6 @@ TEST_P(ClockJumps, DoNotKeepAThreadsEventsNorStopIt)
                 self.PostEvent(7, i, 0L);
                 clock.Jump(i % 2 == 0 ? GetParam() : 0);
             }
-            return Code(0);
         },
         &handler);
     thread.Create(0);

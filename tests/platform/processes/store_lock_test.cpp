@@ -8,7 +8,6 @@
 #include <thread>
 #include <vector>
 
-#include <fcntl.h>
 #include <sys/types.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -43,18 +42,17 @@ TEST(AHeldLock, DelaysAWriteNoLongerThanItIsHeld)
     const InMemory inMemory;
     TempUserData data;
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"1"));
-    HeldLock lock(data / "settings.ini.lock");
+    const std::string lockFile = data / "settings.ini.lock";
+    HeldLock lock(lockFile, 0, 1);
     std::thread holder([&] {
-        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        EXPECT_TRUE(Becomes([&] { return IsTurnTaken(lockFile); })) << "the write does not wait";
         WriteFile(data / "settings.ini", "[s]\nk=1\ntheirs=1\n");
         lock.Release();
     });
     const auto start = Clock::now();
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"2"));
-    const auto waited = Clock::now() - start;
+    EXPECT_LT(Clock::now() - start, std::chrono::milliseconds(1700));
     holder.join();
-    EXPECT_GE(waited, std::chrono::milliseconds(250));
-    EXPECT_LT(waited, std::chrono::milliseconds(1700));
     EXPECT_EQ(ReadFile(data / "settings.ini"), "[s]\nk=2\ntheirs=1\n");
 }
 
