@@ -1,7 +1,6 @@
 #include <fittings/config/wx_window_state.h>
 
 #include <memory>
-#include <string>
 
 #include <gtest/gtest.h>
 #include <wx/app.h>
@@ -19,7 +18,8 @@ int g_handlersDestroyed = 0;
 
 }  // namespace
 
-// Replaces the toolkit's destructor of event handlers: does the same, and counts.
+// Replaces the toolkit's destructor of event handlers: does the same, and counts. The library's handler is private and
+// destroys itself, so only its destructor shows that it is gone.
 extern "C" void DestroyHandler(wxEvtHandler* handler) __asm__("_ZN12wxEvtHandlerD2Ev");
 
 extern "C" void DestroyHandler(wxEvtHandler* handler)
