@@ -16,6 +16,7 @@
 #include <wx/tls.h>
 
 #include <tests/support/gui.h>
+#include <tests/support/owned_window.h>
 #include <tests/thread/thread_support.h>
 
 namespace {
@@ -27,7 +28,11 @@ using Worker = Working<wxGUIThread>;
 class Threads
 {
 public:
-    void Add(Thread::Work work) { m_threads.push_back(std::make_unique<Thread>(std::move(work), wxTHREAD_JOINABLE)); }
+    template <typename Work>
+    void Add(Work work)
+    {
+        m_threads.push_back(std::make_unique<Thread>(std::move(work), wxTHREAD_JOINABLE));
+    }
 
     void Run()
     {
@@ -77,7 +82,6 @@ TEST(SeveralThreads, ShareACriticalSection)
                 const wxCriticalSectionLocker lock(section);
                 ++count;
             }
-            return Code(0);
         });
     }
     threads.Run();
@@ -265,7 +269,6 @@ TEST(EntryOfAGuiThread, ReachesTheGuiByTheToolkitsOtherWaysToo)
             event->SetInt(1);
             wxQueueEvent(&handler, event);
             self.PostEvent(7, 2);
-            return Code(0);
         },
         &handler);
     EXPECT_EQ(worker.RunThread(), wxTHREAD_NO_ERROR);
@@ -284,7 +287,6 @@ TEST(EntryOfAGuiThread, MayEnterTheGuiWhileItsOwnerHandlesEvents)
             ++touched;
             wxMutexGuiLeave();
             done = true;
-            return Code(0);
         },
         nullptr);
     EXPECT_EQ(worker.RunThread(), wxTHREAD_NO_ERROR);
@@ -302,7 +304,6 @@ TEST(EntryOfAGuiThread, AnswersWhatItGetsByAMessageQueue)
             int question = 0;
             while (questions.Receive(question) == wxMSGQUEUE_NO_ERROR && question != 0)
                 self.PostEvent(7, question * question);
-            return Code(0);
         },
         &handler);
     EXPECT_EQ(worker.RunThread(), wxTHREAD_NO_ERROR);
@@ -318,28 +319,17 @@ TEST(EntryOfAGuiThread, AnswersWhatItGetsByAMessageQueue)
 class PostedToAWindow : public testing::Test
 {
 protected:
-    ~PostedToAWindow() override
-    {
-        frame->Destroy();
-        PumpPending();
-    }
-
     // Posts an event to the panel from a worker thread, and waits until the event has been handled.
     void Post(int value)
     {
-        Worker worker(
-            [&](Worker& self) {
-                self.PostEvent(type, value);
-                return Code(0);
-            },
-            panel);
+        Worker worker([&](Worker& self) { self.PostEvent(type, value); }, panel);
         worker.RunThread();
         worker.Wait();
         PumpPending();
     }
 
     const wxEventTypeTag<wxCommandEvent> type{wxNewEventType()};
-    wxFrame* frame = new wxFrame(nullptr, wxID_ANY, "posted");
+    OwnedWindow<wxFrame> frame{new wxFrame(nullptr, wxID_ANY, "posted")};
     wxPanel* panel = new wxPanel(frame);
 };
 
@@ -408,7 +398,6 @@ TEST_F(PostedToAWindow, ArrivesInTheLoopOfAModalDialog)
             shown.Wait();
             for (int i = 1; i <= 5; ++i)
                 self.PostEvent(type, i);
-            return Code(0);
         },
         &dialog);
     const Stopped stopped{worker};

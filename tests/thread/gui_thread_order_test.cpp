@@ -3,7 +3,6 @@
 #include <fittings/thread/gui_thread.h>
 
 #include <algorithm>
-#include <memory>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -17,7 +16,7 @@ namespace {
 class Open : public Working<wxGUIThread>
 {
 public:
-    explicit Open(wxEvtHandler* handler) : Working([](Working&) { return Code(0); }, handler) {}
+    explicit Open(wxEvtHandler* handler) : Working([](Working&) {}, handler) {}
 
     wxMutex& ContinueMutex() { return m_continueMutex; }
     wxMutex& PostMutex() { return m_postMutex; }
@@ -55,7 +54,7 @@ bool IsFree(wxMutex& mutex)
 class Laid : public Working<wxGUIThreadEx>
 {
 public:
-    Laid() : Working([](Working&) { return Code(0); }, nullptr, 1) {}
+    Laid() : Working([](Working&) {}, nullptr, 1) {}
 
     std::vector<const void*> Members() const
     {

@@ -2,7 +2,6 @@
 
 #include <fittings/thread/gui_thread.h>
 
-#include <memory>
 #include <type_traits>
 
 #include <gtest/gtest.h>
@@ -42,8 +41,8 @@ static_assert(!TakesZero<wxGUIThread>::value);
 static_assert(!TakesZeroEx<wxGUIThreadEx>::value);
 
 // Runs @a post on a worker, and returns its answers and what the handler received.
-template <typename Thread, typename... Arguments>
-void RunAndDeliver(typename Thread::Work work, Arguments... arguments)
+template <typename Thread, typename Work, typename... Arguments>
+void RunAndDeliver(Work work, Arguments... arguments)
 {
     Thread thread(std::move(work), arguments...);
     ASSERT_EQ(thread.RunThread(), wxTHREAD_NO_ERROR);
@@ -55,12 +54,7 @@ TEST(PostEvent, DeliversTypeAndInt)
 {
     Recorder handler;
     bool answer = false;
-    RunAndDeliver<Worker>(
-        [&](Worker& self) {
-            answer = self.PostEvent(7, 3);
-            return Code(0);
-        },
-        &handler);
+    RunAndDeliver<Worker>([&](Worker& self) { answer = self.PostEvent(7, 3); }, &handler);
     EXPECT_TRUE(answer);
     EXPECT_EQ(handler.events, (Events{Plain(7, 3)}));
     EXPECT_TRUE(handler.allOnGuiThread);
@@ -74,7 +68,6 @@ TEST(PostEvent, DeliversTheExtraLong)
         [&](Worker& self) {
             answer = self.PostEvent(7, 3, 99L) && self.PostEvent(7, 3, 0L) && self.PostEvent(7, 3, -1L) &&
                      self.PostEvent(7, 3, 0x123456789ABCDEF0L) && self.PostEvent(7, 3, 5);
-            return Code(0);
         },
         &handler);
     EXPECT_TRUE(answer);
@@ -87,12 +80,8 @@ TEST(PostEvent, DeliversTheClientDataAsItIs)
     Recorder handler;
     int data = 17;
     bool answer = false;
-    RunAndDeliver<Worker>(
-        [&](Worker& self) {
-            answer = self.PostEvent(7, 3, &data) && self.PostEvent(7, 4, nullptr);
-            return Code(0);
-        },
-        &handler);
+    RunAndDeliver<Worker>([&](Worker& self) { answer = self.PostEvent(7, 3, &data) && self.PostEvent(7, 4, nullptr); },
+                          &handler);
     EXPECT_TRUE(answer);
     EXPECT_EQ(handler.events, (Events{Plain(7, 3, 0, &data), Plain(7, 4, 0, nullptr)}));
     EXPECT_EQ(data, 17);
@@ -107,7 +96,6 @@ TEST(PostEvent, DeliversIntsOfAllSizesInOrder)
             self.PostEvent(8, -1);
             self.PostEvent(9, INT_MAX);
             self.PostEvent(10, INT_MIN);
-            return Code(0);
         },
         &handler);
     EXPECT_EQ(handler.events, (Events{Plain(7, 0), Plain(8, -1), Plain(9, INT_MAX), Plain(10, INT_MIN)}));
@@ -130,7 +118,6 @@ TEST(PostEvent, DeliversACopyOfTheCallersEvent)
             answer = self.PostEvent(event, 3);
             event.SetString("reused");
             event.SetExtraLong(6);
-            return Code(0);
         },
         &handler);
     EXPECT_TRUE(answer);
@@ -162,7 +149,6 @@ TEST(PostEvent, GoesByTheHandlersPendingEvents)
             self.PostEvent(7, 2);
             self.PostEvent(7, 3, 99L);
             self.PostEvent(7, 4, &data);
-            return Code(0);
         },
         &handler);
     EXPECT_EQ(handler.values, (std::vector<int>{1, 2, 3, 4}));
@@ -183,12 +169,7 @@ TEST(PostEvent, KeepsTheClassOfTheCallersEvent)
         bool isThreadEvent = false;
     } handler;
     wxNotifyEvent event(7);
-    RunAndDeliver<Worker>(
-        [&](Worker& self) {
-            self.PostEvent(event, 3);
-            return Code(0);
-        },
-        &handler);
+    RunAndDeliver<Worker>([&](Worker& self) { self.PostEvent(event, 3); }, &handler);
     EXPECT_TRUE(handler.isThreadEvent);
 }
 
@@ -198,24 +179,14 @@ TEST(PostEvent, ReachesABoundHandler)
     wxEvtHandler handler;
     int value = 0;
     handler.Bind(type, [&](wxCommandEvent& event) { value = event.GetInt(); });
-    RunAndDeliver<Worker>(
-        [&](Worker& self) {
-            self.PostEvent(type, 3);
-            return Code(0);
-        },
-        &handler);
+    RunAndDeliver<Worker>([&](Worker& self) { self.PostEvent(type, 3); }, &handler);
     EXPECT_EQ(value, 3);
 }
 
 TEST(PostEvent, DoesNotCallTheHandlerOnTheWorker)
 {
     Recorder handler;
-    Worker thread(
-        [&](Worker& self) {
-            self.PostEvent(7, 3);
-            return Code(0);
-        },
-        &handler);
+    Worker thread([&](Worker& self) { self.PostEvent(7, 3); }, &handler);
     thread.RunThread();
     thread.Wait();
     EXPECT_TRUE(handler.events.empty());
@@ -249,7 +220,6 @@ TEST(PostEvent, WakesASleepingEventLoop)
                 return call[0] != 'r' && (number == SYS_poll || number == SYS_ppoll);
             });
             self.PostEvent(7, asleep ? 3 : 4);
-            return Code(0);
         },
         &handler);
     thread.RunThread();
@@ -271,7 +241,6 @@ TEST(PostEventWithoutAHandler, DropsEventsAndGoesOn)
         [&](Worker& self) {
             answers = self.PostEvent(7, 3) + self.PostEvent(7, 3, 99L) + self.PostEvent(7, 3, &data) +
                       self.PostEvent(event, 3);
-            return Code(0);
         },
         nullptr);
     EXPECT_EQ(answers, 4);
@@ -279,17 +248,14 @@ TEST(PostEventWithoutAHandler, DropsEventsAndGoesOn)
 
     answers = 0;
     RunAndDeliver<WorkerEx>(
-        [&](WorkerEx& self) {
-            answers = self.PostEvent(3) + self.PostEvent(3, 99L) + self.PostEvent(3, &data);
-            return Code(0);
-        },
+        [&](WorkerEx& self) { answers = self.PostEvent(3) + self.PostEvent(3, 99L) + self.PostEvent(3, &data); },
         nullptr, 9);
     EXPECT_EQ(answers, 3);
 }
 
 TEST(PostEventWithoutAHandler, IsRefusedAfterStartKillToo)
 {
-    Worker thread([](Worker&) { return Code(0); }, nullptr);
+    Worker thread([](Worker&) {}, nullptr);
     EXPECT_TRUE(thread.PostEvent(7, 3));
     thread.StartKill();
     EXPECT_FALSE(thread.PostEvent(7, 3));
@@ -304,7 +270,6 @@ TEST(PostEventOfOneType, DeliversEachPayload)
         [&](WorkerEx& self) {
             answers = self.PostEvent(5) + self.PostEvent(6, 99L) + self.PostEvent(7, &data) +
                       self.PostEvent(8, nullptr) + self.PostEvent(9, 3);
-            return Code(0);
         },
         &handler, 9);
     EXPECT_EQ(answers, 5);
@@ -321,7 +286,6 @@ TEST(PostEventOfOneType, LeavesTheOtherTypesReachable)
         [&](WorkerEx& self) {
             self.wxGUIThread::PostEvent(10, 1);
             self.wxGUIThread::PostEvent(event, 2);
-            return Code(0);
         },
         &handler, 9);
     EXPECT_EQ(handler.events, (Events{Plain(10, 1), Plain(11, 2)}));
@@ -348,7 +312,6 @@ TEST_F(AfterStartKill, EveryOverloadIsRefused)
             go.Wait();
             answers = self.PostEvent(7, 2) + self.PostEvent(7, 3, 99L) + self.PostEvent(7, 4, &data) +
                       self.PostEvent(event, 5);
-            return Code(0);
         },
         &handler);
     thread.RunThread();
@@ -366,10 +329,7 @@ TEST_F(AfterStartKill, EveryOverloadOfOneTypeIsRefused)
 {
     int answers = 0;
     WorkerEx thread(
-        [&](WorkerEx& self) {
-            answers = self.PostEvent(2) + self.PostEvent(3, 99L) + self.PostEvent(4, &data);
-            return Code(0);
-        },
+        [&](WorkerEx& self) { answers = self.PostEvent(2) + self.PostEvent(3, 99L) + self.PostEvent(4, &data); },
         &handler, 9);
     thread.StartKill();
     thread.RunThread();
@@ -385,7 +345,6 @@ TEST_F(AfterStartKill, EventsQueuedBeforeStillArrive)
         [&](Worker& self) {
             self.PostEvent(7, 1);
             self.PostEvent(7, 2);
-            return Code(0);
         },
         &handler);
     thread.RunThread();

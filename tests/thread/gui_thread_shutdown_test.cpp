@@ -50,7 +50,6 @@ TEST(DoContinue, IsTrueUntilStartKillOnBothThreads)
             asked.Set();
             go.Wait();
             after = self.DoContinue();
-            return Code(0);
         },
         nullptr);
     EXPECT_TRUE(worker.DoContinue());
@@ -121,12 +120,7 @@ TEST(Shutdown, LetsAWorkerGoThatEndedByItself)
 {
     Recorder handler;
     {
-        Worker worker(
-            [](Worker& self) {
-                self.PostEvent(7, 1);
-                return Code(0);
-            },
-            &handler);
+        Worker worker([](Worker& self) { self.PostEvent(7, 1); }, &handler);
         worker.RunThread();
         worker.StartKill();
         worker.Wait();
@@ -160,7 +154,6 @@ TEST(Handler, MayBeDestroyedWithEventsQueued)
         [&](Worker& self) {
             for (int i = 0; i < 100; ++i)
                 self.PostEvent(7, i);
-            return Code(0);
         },
         handler.get());
     worker.RunThread();

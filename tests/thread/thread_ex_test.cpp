@@ -270,7 +270,6 @@ TEST(Entry, RunsOnADetachedThreadOfTheToolkit)
         [&](Thread&) {
             main = wxThread::IsMain();
             detached = wxThread::This() && wxThread::This()->IsDetached();
-            return Code(0);
         },
         wxTHREAD_JOINABLE);
     thread.Create(0);

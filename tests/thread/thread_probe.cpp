@@ -119,7 +119,6 @@ void DestroyDetached()
         [&](Thread&) {
             for (;;)
                 never.Wait();
-            return Code(0);
         },
         wxTHREAD_DETACHED);
     thread->Create(0);
@@ -171,7 +170,6 @@ void Memory()
                 [](auto& self) {
                     for (int i = 0; i < 100; ++i)
                         self.PostEvent(i, 99L);
-                    return Code(0);
                 },
                 &handler, 9);
             worker.RunThread();

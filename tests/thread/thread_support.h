@@ -120,10 +120,17 @@ class Working : public Base
 public:
     using Work = std::function<wxThread::ExitCode(Working& self)>;
 
-    template <typename... Arguments>
-    explicit Working(Work work, Arguments&&... arguments)
-        : Base(std::forward<Arguments>(arguments)...), m_work(std::move(work))
+    /// Work that returns nothing ends with the code 0.
+    template <typename Function, typename... Arguments>
+    explicit Working(Function work, Arguments&&... arguments) : Base(std::forward<Arguments>(arguments)...)
     {
+        if constexpr (std::is_void_v<std::invoke_result_t<Function&, Working&>>)
+            m_work = [work = std::move(work)](Working& self) mutable {
+                work(self);
+                return Code(0);
+            };
+        else
+            m_work = std::move(work);
     }
 
     wxThread::ExitCode Entry() override
