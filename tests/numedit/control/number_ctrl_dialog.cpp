@@ -5,15 +5,12 @@
 #include <wx/clipbrd.h>
 #include <wx/dataobj.h>
 #include <wx/sizer.h>
-#include <wx/uiaction.h>
 
 #include <tests/support/gui.h>
-#include <tests/support/process/child_process.h>
 
 NumberCtrlDialog::NumberCtrlDialog(const CNumberFormat& format, const wxValidator& validator, long style)
     : dialog(new wxDialog(nullptr, wxID_ANY, "Numbers", wxPoint(200, 200), wxDefaultSize,
-                          wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER)),
-      m_bellsBefore(Bells())
+                          wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER))
 {
     first = new wxTextCtrl(dialog, wxID_ANY);
     number = new wxNumberCtrl(dialog, wxID_ANY, format, wxDefaultPosition, wxDefaultSize, style, validator);
@@ -29,8 +26,7 @@ NumberCtrlDialog::NumberCtrlDialog(const CNumberFormat& format, const wxValidato
 
 NumberCtrlDialog::~NumberCtrlDialog()
 {
-    dialog->Destroy();
-    PumpPending();
+    DestroyNow(dialog);
 }
 
 void NumberCtrlDialog::Show()
@@ -61,25 +57,7 @@ void NumberCtrlDialog::Restart(const wxString& decimal)
     PumpPending();
     textEvents = 0;
     numbers.clear();
-    m_bellsBefore = Bells();
-}
-
-void NumberCtrlDialog::Type(const std::string& characters)
-{
-    wxUIActionSimulator keyboard;
-    for (const char character : characters)
-        keys.WaitForKeys([&] { EXPECT_TRUE(keyboard.Text(wxString(character))); });
-}
-
-void NumberCtrlDialog::Press(int keyCode, int modifiers)
-{
-    wxUIActionSimulator keyboard;
-    keys.WaitForKeys([&] { EXPECT_TRUE(keyboard.Char(keyCode, modifiers)); });
-}
-
-void NumberCtrlDialog::PressRaw(const std::string& key)
-{
-    keys.WaitForKeys([&] { RunChild({"xdotool", "key", key}); });
+    ResetBells();
 }
 
 void NumberCtrlDialog::Paste(const wxString& text)

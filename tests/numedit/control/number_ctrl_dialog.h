@@ -12,7 +12,7 @@
 #include <tests/numedit/validator/number_dialog.h>
 
 /// A dialog on the screen with a plain text field, a wxNumberCtrl, OK and Cancel. The number control has the focus.
-class NumberCtrlDialog
+class NumberCtrlDialog : public KeysAndBells
 {
 public:
     explicit NumberCtrlDialog(const CNumberFormat& format, const wxValidator& validator = wxDefaultValidator,
@@ -32,26 +32,17 @@ public:
     /// Shows a number with the caret at its end, and resets the counters.
     void Restart(const wxString& decimal);
 
-    void Type(const std::string& characters);
-    void Press(int keyCode, int modifiers = wxMOD_NONE);
-    void PressRaw(const std::string& key);
-
     /// Puts a text on the clipboard and presses Ctrl+V.
     void Paste(const wxString& text);
 
     std::wstring Text() const { return number->GetValue().ToStdWstring(); }
     std::string Selection() const { return number->GetStringSelection().utf8_string(); }
-    int BellsRung() const { return Bells() - m_bellsBefore; }
 
     wxDialog* dialog;
     wxTextCtrl* first;
     wxNumberCtrl* number;
     int textEvents = 0;                ///< wxEVT_TEXT of the number control
     std::vector<std::string> numbers;  ///< the values of the wxEVT_NUMBER_CHANGED events
-    KeyLog keys;
-
-private:
-    int m_bellsBefore;
 };
 
 /// Returns the fixed preset with the given bounds.

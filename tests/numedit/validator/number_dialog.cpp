@@ -63,8 +63,7 @@ void KeyLog::WaitForKeys(const std::function<void()>& input)
 
 NumberDialog::NumberDialog(const CNumberFormat& format, wxString* value, long style)
     : dialog(new wxDialog(nullptr, wxID_ANY, "Numbers", wxPoint(200, 200), wxDefaultSize,
-                          wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER)),
-      m_bellsBefore(Bells())
+                          wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER))
 {
     first = new wxTextCtrl(dialog, wxID_ANY);
     number = new wxTextCtrl(dialog, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize, style,
@@ -86,8 +85,7 @@ NumberDialog::NumberDialog(const CNumberFormat& format, wxString* value, long st
 
 NumberDialog::~NumberDialog()
 {
-    dialog->Destroy();
-    PumpPending();
+    DestroyNow(dialog);
 }
 
 void NumberDialog::Show(const wxString& text)
@@ -104,13 +102,13 @@ void NumberDialog::Restart(const wxString& text, long caret)
     number->SetInsertionPoint(caret);
     PumpPending();
     textEvents = 0;
-    m_bellsBefore = Bells();
+    ResetBells();
     keys.down.clear();
     keys.chars.clear();
     keys.characters.clear();
 }
 
-void NumberDialog::Type(const std::string& characters)
+void KeysAndBells::Type(const std::string& characters)
 {
     wxUIActionSimulator keyboard;
     for (const char character : characters) {
@@ -118,13 +116,13 @@ void NumberDialog::Type(const std::string& characters)
     }
 }
 
-void NumberDialog::Press(int keyCode, int modifiers)
+void KeysAndBells::Press(int keyCode, int modifiers)
 {
     wxUIActionSimulator keyboard;
     keys.WaitForKeys([&] { EXPECT_TRUE(keyboard.Char(keyCode, modifiers)); });
 }
 
-void NumberDialog::PressRaw(const std::string& key)
+void KeysAndBells::PressRaw(const std::string& key)
 {
     keys.WaitForKeys([&] { RunChild({"xdotool", "key", key}); });
 }

@@ -52,8 +52,32 @@ private:
     bool m_wentDown = false;
 };
 
+/// The keyboard of a dialog, and the bells that its keys ring.
+class KeysAndBells
+{
+public:
+    /// Types ASCII text on the keyboard, one key after the other.
+    void Type(const std::string& characters);
+
+    /// Presses a key with the given code of the toolkit.
+    void Press(int keyCode, int modifiers = wxMOD_NONE);
+
+    /// Presses a key that is given by its xdotool name or by its number on the keyboard.
+    void PressRaw(const std::string& key);
+
+    int BellsRung() const { return Bells() - m_bellsBefore; }
+
+    KeyLog keys;
+
+protected:
+    void ResetBells() { m_bellsBefore = Bells(); }
+
+private:
+    int m_bellsBefore = Bells();
+};
+
 /// A dialog on the screen with two text controls, OK and Cancel. The second control has a validator.
-class NumberDialog
+class NumberDialog : public KeysAndBells
 {
 public:
     explicit NumberDialog(const CNumberFormat& format, wxString* value = nullptr, long style = 0);
@@ -67,26 +91,12 @@ public:
     /// Sets the text and the caret in a dialog that is already shown, and resets the counters.
     void Restart(const wxString& text, long caret);
 
-    /// Types ASCII text on the keyboard, one key after the other.
-    void Type(const std::string& characters);
-
-    /// Presses a key with the given code of the toolkit.
-    void Press(int keyCode, int modifiers = wxMOD_NONE);
-
-    /// Presses a key that is given by its xdotool name or by its number on the keyboard.
-    void PressRaw(const std::string& key);
-
     std::wstring Text() const { return number->GetValue().ToStdWstring(); }
-    int BellsRung() const { return Bells() - m_bellsBefore; }
 
     wxDialog* dialog;
     wxTextCtrl* first;
     wxTextCtrl* number;
     int textEvents = 0;  ///< wxEVT_TEXT of the number's control
-    KeyLog keys;
-
-private:
-    int m_bellsBefore;
 };
 
 /// Turns the bells of all validators off while the object exists.
