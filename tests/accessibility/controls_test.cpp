@@ -13,6 +13,7 @@
 #include <fittings/tree/handy_tree_ctrl.h>
 #include <tests/accessibility/accessibles.h>
 #include <tests/support/gui.h>
+#include <tests/support/owned_window.h>
 
 namespace {
 
@@ -20,12 +21,6 @@ class WhatAScreenReaderSays : public testing::Test
 {
 protected:
     WhatAScreenReaderSays() : frame(new wxFrame(nullptr, wxID_ANY, "Drawing")), panel(new wxPanel(frame)) {}
-
-    ~WhatAScreenReaderSays() override
-    {
-        frame->Destroy();
-        PumpPending();
-    }
 
     wxColourCombo* MakeCombo(long style)
     {
@@ -51,15 +46,12 @@ protected:
     {
         ASSERT_TRUE(ShowAndSettle(frame));
         window->SetFocus();
-        ASSERT_TRUE(PumpUntil([&] {
-            const wxWindow* const focus = wxWindow::FindFocus();
-            return focus && (focus == window || focus->GetParent() == window);
-        }));
+        ASSERT_TRUE(PumpUntil([&] { return ContainsFocus(*window); }));
     }
 
     void Press(int key, int modifiers = 0) { m_user.Char(key, modifiers); }
 
-    wxFrame* frame;
+    OwnedWindow<wxFrame> frame;
     wxPanel* panel;
     wxColourPopup* popup = nullptr;
 

@@ -9,6 +9,7 @@
 #include <fittings/dialogs/folder_dialog.h>
 #include <tests/accessibility/accessibles.h>
 #include <tests/support/gui.h>
+#include <tests/support/owned_window.h>
 
 namespace {
 
@@ -34,10 +35,10 @@ protected:
         if (!m_dialog->IsModal())
             return;
         Stop();
-        PumpUntil([&] {
+        EXPECT_TRUE(PumpUntil([&] {
             read = ReadFirst("file chooser");
             return read.showing;
-        });
+        }));
         m_dialog->EndModal(wxID_CANCEL);
     }
 
@@ -50,13 +51,7 @@ class DialogForAScreenReader : public testing::Test
 protected:
     DialogForAScreenReader() : frame(new wxFrame(nullptr, wxID_ANY, "Drawing")) { ShowAndSettle(frame); }
 
-    ~DialogForAScreenReader() override
-    {
-        frame->Destroy();
-        PumpPending();
-    }
-
-    wxFrame* frame;
+    OwnedWindow<wxFrame> frame;
     CancellingReader reader;
 };
 

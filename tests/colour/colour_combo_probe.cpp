@@ -161,8 +161,7 @@ public:
         const bool ended = Watch(*combo, *popup, teller);
         g_source_remove(timer);
         Print("value " + combo->GetValue().ToStdString());
-        frame->Destroy();
-        PumpPending();
+        DestroyNow(frame);
         return ended ? 0 : 2;
     }
 

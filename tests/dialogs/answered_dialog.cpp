@@ -2,6 +2,8 @@
 
 #include <filesystem>
 
+#include <gtest/gtest.h>
+
 #include <wx/stopwatch.h>
 #include <wx/timer.h>
 
@@ -28,10 +30,10 @@ GtkFileChooser* ChooserOf(const wxWindow& dialog)
 std::string FolderOf(const wxWindow& dialog)
 {
     std::string folder;
-    PumpUntil([&] {
+    EXPECT_TRUE(PumpUntil([&] {
         folder = Take(gtk_file_chooser_get_current_folder(ChooserOf(dialog)));
         return !folder.empty();
-    });
+    }));
     return folder;
 }
 

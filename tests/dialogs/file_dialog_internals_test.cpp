@@ -13,6 +13,7 @@
 #include <fittings/platform/local_reg_store.h>
 #include <tests/dialogs/file_answer.h>
 #include <tests/support/gui.h>
+#include <tests/support/owned_window.h>
 #include <tests/support/temp_folder.h>
 
 namespace {
@@ -105,7 +106,7 @@ AskedFile AskedBy(const wchar_t* title, const wchar_t* folder, const wchar_t* fi
 
 TEST(FileSelector, HandsOnWhatItIsGiven)
 {
-    auto* const frame = new wxFrame(nullptr, wxID_ANY, "parent");
+    const OwnedWindow<wxFrame> frame(new wxFrame(nullptr, wxID_ANY, "parent"));
     const FileAnswer ok(wxID_OK, "/usr/chosen");
     EXPECT_EQ(fittings::FileSelector(L"Title", L"/usr/a.b", L"name.c", L"c", L"*.b|*.b|*.c|*.c", 0x11, frame, 12, 34),
               "/usr/chosen");
@@ -121,7 +122,6 @@ TEST(FileSelector, HandsOnWhatItIsGiven)
     EXPECT_EQ(asked.name, "filedlg");
     EXPECT_EQ(asked.filterIndex, 1);
     EXPECT_EQ(asked.centred, std::vector<int>{wxBOTH});
-    frame->Destroy();
 }
 
 TEST(FileSelector, TakesNullForEmpty)
@@ -155,7 +155,7 @@ protected:
 
 TEST_F(OpenDialog, IsMadeAsADialogForFilesThatExist)
 {
-    auto* const frame = new wxFrame(nullptr, wxID_ANY, "parent");
+    const OwnedWindow<wxFrame> frame(new wxFrame(nullptr, wxID_ANY, "parent"));
     const FileAnswer ok(wxID_OK, "/usr/one");
     EXPECT_EQ(fittings::LaunchOpenDialog(frame, L"csv", L"A|*.a|B|*.csv", L"Open \x5E33", L""), L"/usr/one");
     const AskedFile& asked = ok.Asked();
@@ -168,7 +168,6 @@ TEST_F(OpenDialog, IsMadeAsADialogForFilesThatExist)
     EXPECT_EQ(asked.style, 17);
     EXPECT_EQ(asked.position, wxPoint(-1, -1));
     EXPECT_EQ(asked.centred, std::vector<int>{wxBOTH});
-    frame->Destroy();
 }
 
 TEST_F(OpenDialog, HasNoFolderForAnEmptySwitch)

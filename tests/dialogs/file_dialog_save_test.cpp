@@ -12,6 +12,7 @@
 
 #include <tests/dialogs/file_answer.h>
 #include <tests/support/gui.h>
+#include <tests/support/owned_window.h>
 #include <tests/support/temp_folder.h>
 
 namespace {
@@ -37,7 +38,7 @@ AskedFile AskedFor(const wchar_t* extension, const wchar_t* wildcard)
 
 TEST(SaveDialog, IsMadeAsADialogThatAsksBeforeOverwriting)
 {
-    auto* const frame = new wxFrame(nullptr, wxID_ANY, "parent");
+    const OwnedWindow<wxFrame> frame(new wxFrame(nullptr, wxID_ANY, "parent"));
     const AskedFile asked = AskedWith(L"prj", L"Projects|*.prj", L"Save \x5E33", L"/usr/share/", L"draft.prj", frame);
     EXPECT_EQ(asked.parent, frame);
     EXPECT_EQ(asked.title, L"Save \x5E33");
@@ -48,7 +49,6 @@ TEST(SaveDialog, IsMadeAsADialogThatAsksBeforeOverwriting)
     EXPECT_EQ(asked.position, wxPoint(-1, -1));
     EXPECT_EQ(asked.size, wxSize(-1, -1));
     EXPECT_EQ(asked.name, "filedlg");
-    frame->Destroy();
 }
 
 TEST(SaveDialog, IsCentredBothWaysBeforeItIsShown)

@@ -4,8 +4,6 @@
 #include <fittings/dialogs/folder_dialog.h>
 
 #include <functional>
-#include <string>
-#include <type_traits>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -17,6 +15,7 @@
 #include <fittings/platform/local_reg_store.h>
 #include <fittings/platform/std_file_paths.h>
 #include <tests/dialogs/centring.h>
+#include <tests/support/owned_window.h>
 #include <tests/support/temp_folder.h>
 
 namespace {
@@ -127,7 +126,7 @@ wxString RememberedFor(const wchar_t* section)
 
 TEST(FolderDialog, IsMadeAsADefaultFolderDialog)
 {
-    auto* const frame = new wxFrame(nullptr, wxID_ANY, "parent");
+    const OwnedWindow<wxFrame> frame(new wxFrame(nullptr, wxID_ANY, "parent"));
     const Answer cancel(wxID_CANCEL, "");
     wxFolderDlg::DoModal(frame, L"/srv", L"Choose");
     const Made made = TheOneMade();
@@ -137,7 +136,6 @@ TEST(FolderDialog, IsMadeAsADefaultFolderDialog)
     EXPECT_EQ(made.size, wxSize(-1, -1));
     EXPECT_EQ(made.name, "wxDirCtrl");
     EXPECT_EQ(cancel.Shown(), 1);
-    frame->Destroy();
 }
 
 TEST(FolderDialog, IsCentredBothWaysBeforeItIsShown)
@@ -304,7 +302,7 @@ TEST_F(RememberedFolder, IsKeptUnderItsKeyAlone)
 
 TEST_F(RememberedFolder, ComesWithTheSameDialog)
 {
-    auto* const frame = new wxFrame(nullptr, wxID_ANY, "parent");
+    const OwnedWindow<wxFrame> frame(new wxFrame(nullptr, wxID_ANY, "parent"));
     const Answer cancel(wxID_CANCEL, "");
     wxFolderDlg::DoModalReg(frame, L"Import", nullptr);
     wxFolderDlg::DoModalReg(frame, L"Import", L"");
@@ -316,7 +314,6 @@ TEST_F(RememberedFolder, ComesWithTheSameDialog)
     EXPECT_EQ(g_made[2].parent, frame);
     EXPECT_EQ(g_made[2].style, 0x20001840);
     EXPECT_EQ(CentredDialogs(), (std::vector<int>{wxBOTH, wxBOTH, wxBOTH}));
-    frame->Destroy();
 }
 
 }  // namespace

@@ -7,7 +7,6 @@
 #include <map>
 #include <ostream>
 #include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 #include <wx/aui/framemanager.h>

@@ -6,6 +6,7 @@
 
 #include <gallery/pages/window_helpers.h>
 #include <gallery/tour/screenshot.h>
+#include <tests/support/owned_window.h>
 #include <tests/support/temp_folder.h>
 
 namespace gallery {
@@ -15,7 +16,7 @@ TEST(AScreenshot, ShowsAWindowWithItsDecorationsThoughItHasNoPlaceYet)
 {
     TempFolder folder;
     const std::string path = folder / "frame.png";
-    auto* const frame = new wxFrame(nullptr, wxID_ANY, "A frame", wxPoint(60, 40), wxSize(300, 200));
+    const OwnedWindow<wxFrame> frame(new wxFrame(nullptr, wxID_ANY, "A frame", wxPoint(60, 40), wxSize(300, 200)));
     frame->Show();
     EXPECT_TRUE(SaveScreenshot(frame->GetHandle(), path));
 
@@ -26,15 +27,13 @@ TEST(AScreenshot, ShowsAWindowWithItsDecorationsThoughItHasNoPlaceYet)
     EXPECT_EQ(wxSize(width, height), shown.GetSize());
     EXPECT_GE(height, frame->GetClientSize().y + 10);
     EXPECT_GE(width, 300);
-    frame->Destroy();
 }
 
 TEST(AScreenshot, IsFalseWhereItCannotBeWritten)
 {
-    auto* const frame = new wxFrame(nullptr, wxID_ANY, "A frame");
+    const OwnedWindow<wxFrame> frame(new wxFrame(nullptr, wxID_ANY, "A frame"));
     frame->Show();
     EXPECT_FALSE(SaveScreenshot(frame->GetHandle(), "/proc/frame.png"));
-    frame->Destroy();
 }
 
 }  // namespace

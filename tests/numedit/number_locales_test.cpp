@@ -1,7 +1,6 @@
 #include <fittings/numedit/number_edit_utils.h>
 
 #include <clocale>
-#include <string>
 
 #include <gtest/gtest.h>
 #include <wx/strconv.h>

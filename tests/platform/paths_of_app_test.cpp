@@ -9,8 +9,6 @@
 #include <gtest/gtest.h>
 #include <wx/app.h>
 
-#include <tests/support/temp_folder.h>
-
 namespace {
 
 // While an object of this class exists, the process has an application object.

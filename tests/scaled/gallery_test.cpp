@@ -1,6 +1,5 @@
 #include <filesystem>
 
-#include <wx/imaglist.h>
 #include <wx/toolbar.h>
 
 #include <tests/gallery/browser/browser_fixture.h>

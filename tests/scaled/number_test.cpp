@@ -6,13 +6,14 @@
 
 #include <tests/scaled/scaled_screen.h>
 #include <tests/support/gui.h>
+#include <tests/support/owned_window.h>
 
 namespace {
 
 // Letters that are finer than the toolkit's pixels show that the field is not enlarged.
 TEST(ANumberOnAScaledScreen, IsSharpAndAsHighAsATextField)
 {
-    auto* const frame = new wxFrame(nullptr, wxID_ANY, "Number");
+    const OwnedWindow<wxFrame> frame(new wxFrame(nullptr, wxID_ANY, "Number"));
     auto* const number = new wxNumberCtrl(frame, wxID_ANY, CNumberFormat(eFixedFormat));
     number->SetNumber(12345);
     auto* const plain = new wxTextCtrl(frame, wxID_ANY);
@@ -22,8 +23,6 @@ TEST(ANumberOnAScaledScreen, IsSharpAndAsHighAsATextField)
     ASSERT_EQ(number->GetContentScaleFactor(), 2);
     const wxRect text(number->ClientToScreen(wxPoint(10, 0)), wxSize(50, number->GetSize().y));
     EXPECT_TRUE(PumpUntil([&] { return !IsOfWholePixels(GrabScaled(text)); }));
-    frame->Destroy();
-    PumpPending();
 }
 
 }  // namespace

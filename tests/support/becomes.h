@@ -9,7 +9,7 @@
 
 /// Polls a condition; returns false when it did not become true within @a milliseconds. Unlike PumpUntil(), it handles
 /// no events meanwhile.
-inline bool Becomes(const std::function<bool()>& isTrue, int milliseconds = 60000)
+[[nodiscard]] inline bool Becomes(const std::function<bool()>& isTrue, int milliseconds = 60000)
 {
     const auto deadline = std::chrono::steady_clock::now() + Patience() * std::chrono::milliseconds(milliseconds);
     while (!isTrue()) {

@@ -1,6 +1,10 @@
 #include <tests/support/gui.h>
 
+#include <gtest/gtest.h>
+
 #include <wx/toplevel.h>
+#include <wx/uiaction.h>
+#include <wx/utils.h>
 
 #include <gallery/tour/event_pump.h>
 #include <tests/support/patience.h>
@@ -34,6 +38,25 @@ bool ShowAndSettle(wxTopLevelWindow* window)
         seen = now;
         return same >= 10;
     });
+}
+
+void DestroyNow(wxWindow* window)
+{
+    window->Destroy();
+    PumpPending();
+}
+
+bool ContainsFocus(const wxWindow& window)
+{
+    const wxWindow* const focus = wxWindow::FindFocus();
+    return focus && (focus == &window || focus->GetParent() == &window);
+}
+
+void PointTo(const wxPoint& place)
+{
+    wxUIActionSimulator().MouseMove(place);
+    EXPECT_TRUE(PumpUntil([&] { return wxGetMousePosition() == place; })) << place.x << ", " << place.y;
+    PumpPending();
 }
 
 ExpectAssertions::ExpectAssertions() : m_outer(g_expected)

@@ -3,20 +3,29 @@
 
 #include <functional>
 
-#include <wx/string.h>
+#include <wx/gdicmn.h>
 
-class wxFrame;
 class wxTopLevelWindow;
+class wxWindow;
 
 /// Runs the event loop until @a done returns true; returns false when that did not happen within @a milliseconds. The
 /// default leaves room for a busy machine.
-bool PumpUntil(const std::function<bool()>& done, int milliseconds = 30000);
+[[nodiscard]] bool PumpUntil(const std::function<bool()>& done, int milliseconds = 30000);
 
 /// Handles every event that has arrived, idle processing included.
 void PumpPending();
 
 /// Shows a window and waits until the window manager has mapped and placed it.
 bool ShowAndSettle(wxTopLevelWindow* window);
+
+/// Destroys a window as a program does, and handles the events that follow.
+void DestroyNow(wxWindow* window);
+
+/// Whether the window or one of its children has the focus.
+bool ContainsFocus(const wxWindow& window);
+
+/// Moves the pointer to a place on the screen, and handles the events that follow.
+void PointTo(const wxPoint& place);
 
 /// Expects assertions of the toolkit, and counts them, while the object exists. Without such an object, an assertion
 /// fails the test.

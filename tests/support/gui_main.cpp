@@ -51,8 +51,7 @@ public:
         // The first frame of a process is placed differently from all later ones, so show one before the tests.
         auto* frame = new wxFrame(nullptr, wxID_ANY, "warm-up");
         ShowAndSettle(frame);
-        frame->Destroy();
-        PumpPending();
+        DestroyNow(frame);
         // The first thread makes data that the toolkit keeps for all threads. Make these data before any test. The
         // toolkit is built without the thread sanitizer, which therefore cannot see how the toolkit guards them, and
         // would report a race between two first threads.

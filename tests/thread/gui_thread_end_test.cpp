@@ -24,8 +24,8 @@ const int kOther = wxNewEventType();
 /// Waits for the expected events, and a little longer to see that no other event follows.
 void ExpectEvents(const Recorder& recorder, const Events& events)
 {
-    PumpUntil([&] { return recorder.events.size() >= events.size(); });
-    PumpUntil([&] { return recorder.events.size() > events.size(); }, 50);
+    EXPECT_TRUE(PumpUntil([&] { return recorder.events.size() >= events.size(); }));
+    EXPECT_FALSE(PumpUntil([&] { return recorder.events.size() > events.size(); }, 50));
     EXPECT_EQ(recorder.events, events);
 }
 
@@ -42,12 +42,7 @@ TEST(EndEvent, ComesOnceWithTheRunNumberAndTheExitCode)
 TEST(EndEvent, ComesAfterAllOthersOfTheWorker)
 {
     Recorder recorder;
-    Worker worker(
-        [](Worker& self) {
-            self.PostEvent(kOther, 1);
-            return Code(0);
-        },
-        &recorder);
+    Worker worker([](Worker& self) { self.PostEvent(kOther, 1); }, &recorder);
     worker.SetEndEvent(kEnd);
     worker.RunThread();
     ExpectEvents(recorder, {Plain(kOther, 1), Plain(kEnd, worker.GetRunNumber())});
@@ -127,8 +122,8 @@ TEST(EndEvent, IsDroppedWithTheHandler)
 
 TEST(RunNumber, GrowsFromWorkerToWorker)
 {
-    const Worker first([](Worker&) { return Code(0); }, nullptr);
-    const Worker second([](Worker&) { return Code(0); }, nullptr);
+    const Worker first([](Worker&) {}, nullptr);
+    const Worker second([](Worker&) {}, nullptr);
     EXPECT_GT(first.GetRunNumber(), 0);
     EXPECT_GT(second.GetRunNumber(), first.GetRunNumber());
 }
@@ -157,7 +152,6 @@ TEST(PostResult, IsDeliveredAfterStartKill)
             event.SetInt(3);
             event.SetString("half done");
             isPosted = self.PostResult(event);
-            return Code(0);
         },
         &recorder);
     worker.StartKill();
@@ -189,13 +183,13 @@ TEST(HasEnded, IsTrueOnceTheWorkIsDone)
 
 TEST(HasEnded, IsFalseOfAThreadThatHasNotRun)
 {
-    const Worker worker([](Worker&) { return Code(0); }, nullptr);
+    const Worker worker([](Worker&) {}, nullptr);
     EXPECT_FALSE(worker.HasEnded());
 }
 
 TEST(WaitFor, AnswersAtOnceForAThreadThatHasNotRun)
 {
-    Worker worker([](Worker&) { return Code(0); }, nullptr);
+    Worker worker([](Worker&) {}, nullptr);
     EXPECT_FALSE(worker.WaitFor(1'000'000));
 }
 
@@ -267,8 +261,7 @@ TEST(WaitFor, KeepsWindowsPaintedAndHandlesNothingElse)
     EXPECT_EQ(worker.Wait(), Code(1));
     EXPECT_EQ(recorder.events, Events());
     ExpectEvents(recorder, {Plain(kOther, 1)});
-    frame->Destroy();
-    PumpPending();
+    DestroyNow(frame);
 }
 
 }  // namespace

@@ -96,10 +96,10 @@ TYPED_TEST(AsTreeCtrl, SelectsARangeWithShift)
 
 TYPED_TEST(AsTreeCtrl, TellsOfTheButtonBeforeAndAfter)
 {
-    this->PointTo(PointOn(this->a, wxTREE_HITTEST_ONITEMBUTTON));
+    PointTo(PointOn(this->a, wxTREE_HITTEST_ONITEMBUTTON));
     this->user.MouseClick();
     this->ExpectEvents({L"expanding a", L"expanded a"});
-    this->PointTo(PointOn(this->root, wxTREE_HITTEST_ONITEMBUTTON));
+    PointTo(PointOn(this->root, wxTREE_HITTEST_ONITEMBUTTON));
     this->user.MouseClick();
     this->ExpectEvents({L"collapsing root", L"collapsed root"});
     EXPECT_EQ(this->Selected(), (Labels{L"root"}));
@@ -132,7 +132,7 @@ TYPED_TEST(AsTreeCtrl, MovesTheSelectionUpWhenItsBranchCollapses)
     this->tree.Expand(this->a.item);
     this->tree.SelectItem(this->a2.item);
     this->user.Char(WXK_LEFT);
-    PumpUntil([&] { return this->Selected() == Labels{L"a"}; });
+    EXPECT_TRUE(PumpUntil([&] { return this->Selected() == Labels{L"a"}; }));
     this->user.Char(WXK_LEFT);
     EXPECT_TRUE(PumpUntil([&] { return !this->a.IsExpanded(); }));
     EXPECT_EQ(this->Selected(), (Labels{L"a"}));
@@ -148,14 +148,14 @@ TYPED_TEST(AsTreeCtrl, IsActivatedByEnter)
 
 TYPED_TEST(AsTreeCtrl, IsActivatedByADoubleClick)
 {
-    this->PointTo(PointOn(this->b, wxTREE_HITTEST_ONITEMLABEL));
+    PointTo(PointOn(this->b, wxTREE_HITTEST_ONITEMLABEL));
     this->user.MouseDblClick();
     this->ExpectEvents({L"selecting b after root", L"selected b after root", L"activated b"});
 }
 
 TYPED_TEST(AsTreeCtrl, ExpandsByADoubleClickThatTheHostDoesNotTake)
 {
-    this->PointTo(PointOn(this->a, wxTREE_HITTEST_ONITEMLABEL));
+    PointTo(PointOn(this->a, wxTREE_HITTEST_ONITEMLABEL));
     this->user.MouseDblClick();
     this->ExpectEvents(
         {L"selecting a after root", L"selected a after root", L"activated a", L"expanding a", L"expanded a"});
@@ -164,7 +164,7 @@ TYPED_TEST(AsTreeCtrl, ExpandsByADoubleClickThatTheHostDoesNotTake)
 TYPED_TEST(AsTreeCtrl, DoesNotExpandByADoubleClickThatTheHostTakes)
 {
     this->log.on[L"activated a"] = [](wxTreeEvent&) {};
-    this->PointTo(PointOn(this->a, wxTREE_HITTEST_ONITEMLABEL));
+    PointTo(PointOn(this->a, wxTREE_HITTEST_ONITEMLABEL));
     this->user.MouseDblClick();
     this->ExpectEvents({L"selecting a after root", L"selected a after root", L"activated a"});
 }
@@ -181,12 +181,12 @@ TYPED_TEST(AsTreeCtrl, TellsOfTheOtherMouseButtons)
 TYPED_TEST(AsTreeCtrl, DragsAnItemWhenTheHostAllowsIt)
 {
     const auto drag = [&](const wxTreeCursor& item) {
-        this->PointTo(PointOn(item, wxTREE_HITTEST_ONITEMLABEL));
+        PointTo(PointOn(item, wxTREE_HITTEST_ONITEMLABEL));
         this->user.MouseDown();
         PumpPending();
         // A drag begins after a few moves.
         for (int x = 0; x < 5; ++x)
-            this->PointTo(PointOn(this->c, wxTREE_HITTEST_ONITEMLABEL) + wxPoint(x, 0));
+            PointTo(PointOn(this->c, wxTREE_HITTEST_ONITEMLABEL) + wxPoint(x, 0));
         this->user.MouseUp();
         PumpPending();
     };
@@ -298,7 +298,7 @@ TYPED_TEST(AsTreeCtrl, LetsTheHostDeleteTheItemThatIsActivated)
 TYPED_TEST(AsTreeCtrl, LetsTheHostDeleteTheItemThatHasExpanded)
 {
     this->log.on[L"expanded a"] = [this](wxTreeEvent& event) { this->tree.Delete(event.GetItem()); };
-    this->PointTo(PointOn(this->a, wxTREE_HITTEST_ONITEMBUTTON));
+    PointTo(PointOn(this->a, wxTREE_HITTEST_ONITEMBUTTON));
     this->user.MouseClick();
     this->ExpectEvents({L"expanding a", L"expanded a", L"deleted a1", L"deleted a2", L"deleted a"});
     EXPECT_EQ(ChildrenOf(this->root), (Labels{L"b", L"c"}));
@@ -310,7 +310,7 @@ TYPED_TEST(AsTreeCtrl, LetsTheHostDeleteTheItemThatItDoesNotLetExpand)
         event.Veto();
         this->tree.Delete(event.GetItem());
     };
-    this->PointTo(PointOn(this->a, wxTREE_HITTEST_ONITEMBUTTON));
+    PointTo(PointOn(this->a, wxTREE_HITTEST_ONITEMBUTTON));
     this->user.MouseClick();
     this->ExpectEvents({L"expanding a", L"deleted a1", L"deleted a2", L"deleted a"});
     EXPECT_EQ(ChildrenOf(this->root), (Labels{L"b", L"c"}));

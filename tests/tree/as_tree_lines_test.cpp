@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <map>
-#include <memory>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -13,6 +12,7 @@
 
 #include <fittings/tree/handy_tree_ctrl.h>
 #include <tests/support/gui.h>
+#include <tests/support/owned_window.h>
 #include <tests/tree/tree_types.h>
 
 namespace {
@@ -24,13 +24,7 @@ template <typename Tree>
 class TreeLines : public testing::Test
 {
 protected:
-    ~TreeLines() override
-    {
-        frame->Destroy();
-        PumpPending();
-    }
-
-    wxFrame* const frame = new wxFrame(nullptr, wxID_ANY, "tree");
+    const OwnedWindow<wxFrame> frame{new wxFrame(nullptr, wxID_ANY, "tree")};
     Tree* const tree = new Tree(frame, kId, wxPoint(10, 20), wxSize(200, 100), wxTR_HAS_BUTTONS | wxTR_MULTIPLE,
                                 wxDefaultValidator, "planets");
     const wxTreeItemId root = tree->AddRoot("Sun");
@@ -155,20 +149,18 @@ TEST(TreeInOneStep, LetsADerivedClassInheritTheConstructors)
         void OnItemExpanding(const wxTreeCursor& item) override { filled.push_back(item.GetText()); }
         std::vector<std::wstring> filled;
     };
-    auto* const frame = new wxFrame(nullptr, wxID_ANY, "tree");
+    const OwnedWindow<wxFrame> frame(new wxFrame(nullptr, wxID_ANY, "tree"));
     auto* const tree = new Derived(frame, kId);
     EXPECT_EQ(tree->GetId(), kId);
     wxTreeCursor root = tree->AddRoot("Sun");
     root.SetChildren(true);
     root.Expand();
     EXPECT_EQ(tree->filled, std::vector<std::wstring>{L"Sun"});
-    frame->Destroy();
-    PumpPending();
 }
 
 TEST(TreeInOneStep, TakesItsImagesBackAndItsRowsWithThem)
 {
-    auto* const frame = new wxFrame(nullptr, wxID_ANY, "tree");
+    const OwnedWindow<wxFrame> frame(new wxFrame(nullptr, wxID_ANY, "tree"));
     auto* const tree = new wxHandyTreeCtrl(frame);
     const wxTreeCursor root = tree->AddRoot("Sun");
     ASSERT_TRUE(ShowAndSettle(frame));
@@ -188,13 +180,11 @@ TEST(TreeInOneStep, TakesItsImagesBackAndItsRowsWithThem)
     EXPECT_TRUE(PumpUntil([&] { return tree->GetBoundingRect(root, after) && after.height <= before.height; }))
         << after.height;
     EXPECT_GE(after.height, tree->GetCharHeight());
-    frame->Destroy();
-    PumpPending();
 }
 
 TEST(TreeStates, AreStoredAndLoadedByATemporaryCursor)
 {
-    auto* const frame = new wxFrame(nullptr, wxID_ANY, "tree");
+    const OwnedWindow<wxFrame> frame(new wxFrame(nullptr, wxID_ANY, "tree"));
     auto* const tree = new wxHandyTreeCtrl(frame);
     tree->SetProfile("Planets");
     tree->AddRoot("Sun").AppendItem("Earth");
@@ -211,8 +201,6 @@ TEST(TreeStates, AreStoredAndLoadedByATemporaryCursor)
             tree->LoadState(root);
         EXPECT_TRUE(root.IsExpanded());
     }
-    frame->Destroy();
-    PumpPending();
 }
 
 }  // namespace

@@ -1,7 +1,5 @@
 // This library's tree controls are windows just as the toolkit's tree control is.
 
-#include <string>
-
 #include <gtest/gtest.h>
 
 #include <wx/button.h>
@@ -9,6 +7,7 @@
 #include <wx/panel.h>
 #include <wx/sizer.h>
 
+#include <tests/support/owned_window.h>
 #include <tests/tree/tree_in_use.h>
 
 namespace {
@@ -19,7 +18,7 @@ using HandyTreeInUse = TreeInUse<wxHandyTreeCtrl>;
 
 TEST(TreeCtrlCreate, TakesAllThatTheToolkitsTakes)
 {
-    auto* const frame = new wxFrame(nullptr, wxID_ANY, "tree");
+    const OwnedWindow<wxFrame> frame(new wxFrame(nullptr, wxID_ANY, "tree"));
     auto* const panel = new wxPanel(frame);
     auto* const tree = new wxTreeCtrlEx;
     EXPECT_EQ(tree->GetHandle(), nullptr);
@@ -32,13 +31,11 @@ TEST(TreeCtrlCreate, TakesAllThatTheToolkitsTakes)
     EXPECT_TRUE(tree->HasFlag(wxTR_HIDE_ROOT));
     EXPECT_EQ(tree->GetName(), "folders");
     EXPECT_EQ(wxWindow::FindWindowByName("folders", frame), tree);
-    frame->Destroy();
-    PumpPending();
 }
 
 TEST(TreeCtrlCreate, OfTheToolkitIsThereForTheHandyOneToo)
 {
-    auto* const frame = new wxFrame(nullptr, wxID_ANY, "tree");
+    const OwnedWindow<wxFrame> frame(new wxFrame(nullptr, wxID_ANY, "tree"));
     auto* const tree = new LazyTree;
     EXPECT_TRUE(tree->wxTreeCtrl::Create(frame, 123, wxDefaultPosition, wxDefaultSize, wxTR_HIDE_ROOT));
     EXPECT_EQ(tree->GetImageList(), nullptr);
@@ -47,8 +44,6 @@ TEST(TreeCtrlCreate, OfTheToolkitIsThereForTheHandyOneToo)
     item.SetChildren(true);
     item.Expand();
     EXPECT_EQ(ChildrenOf(item), (Labels{L"A1"}));
-    frame->Destroy();
-    PumpPending();
 }
 
 // Neither class has class information of its own: the toolkit sees a wxTreeCtrl.
@@ -159,13 +154,7 @@ protected:
         ASSERT_TRUE(PumpUntil([&] { return before->HasFocus(); }));
     }
 
-    ~TreeAmongOthers() override
-    {
-        frame->Destroy();
-        PumpPending();
-    }
-
-    wxFrame* frame = new wxFrame(nullptr, wxID_ANY, "tree", wxPoint(100, 100), wxSize(300, 300));
+    OwnedWindow<wxFrame> frame{new wxFrame(nullptr, wxID_ANY, "tree", wxPoint(100, 100), wxSize(300, 300))};
     wxPanel* panel = new wxPanel(frame);
     wxButton* before = new wxButton(panel, wxID_ANY, "before");
     wxHandyTreeCtrl* tree = new wxHandyTreeCtrl;

@@ -2,14 +2,12 @@
 
 #include <fittings/tree/handy_tree_ctrl.h>
 
-#include <memory>
 #include <stdexcept>
 #include <string>
 
 #include <gtest/gtest.h>
 
 #include <wx/uiaction.h>
-#include <wx/utils.h>
 
 #include <gdk/gdkx.h>
 #include <X11/extensions/Xfixes.h>

@@ -9,7 +9,6 @@
 #include <wx/bitmap.h>
 #include <wx/dcmemory.h>
 #include <wx/image.h>
-#include <wx/imaglist.h>
 
 #include <tests/tree/tree_on_screen.h>
 

@@ -58,7 +58,7 @@ TEST(HandyTree, AddsTheHookAsItsOnlyVirtualOperation)
 
 TEST(HandyTree, IsCreatedInTwoSteps)
 {
-    auto* frame = new wxFrame(nullptr, wxID_ANY, "tree");
+    const OwnedWindow<wxFrame> frame(new wxFrame(nullptr, wxID_ANY, "tree"));
     auto* tree = new wxHandyTreeCtrl;
     EXPECT_EQ(tree->GetHandle(), nullptr);
     EXPECT_EQ(tree->GetImageList(), nullptr);
@@ -66,8 +66,6 @@ TEST(HandyTree, IsCreatedInTwoSteps)
     EXPECT_NE(tree->GetHandle(), nullptr);
     EXPECT_EQ(tree->GetParent(), frame);
     EXPECT_NE(tree->GetImageList(), nullptr);
-    frame->Destroy();
-    PumpPending();
 }
 
 TEST(HandyTree, HasTheToolkitsDefaults)
@@ -82,15 +80,13 @@ TEST(HandyTree, HasTheToolkitsDefaults)
 
 TEST(HandyTree, HasTheToolkitsPlaceAndSize)
 {
-    auto* const frame = new wxFrame(nullptr, wxID_ANY, "trees");
+    const OwnedWindow<wxFrame> frame(new wxFrame(nullptr, wxID_ANY, "trees"));
     auto* const panel = new wxPanel(frame);
     const auto* const plain = new wxTreeCtrl(panel);
     auto* const tree = new wxHandyTreeCtrl;
     tree->Create(panel);
     EXPECT_EQ(tree->GetPosition(), plain->GetPosition());
     EXPECT_EQ(tree->GetSize(), plain->GetSize());
-    frame->Destroy();
-    PumpPending();
 }
 
 TEST(HandyTree, HasAnEmptyListOfSmallImages)

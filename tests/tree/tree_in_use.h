@@ -101,13 +101,6 @@ protected:
         log.Take();
     }
 
-    void PointTo(const wxPoint& place)
-    {
-        user.MouseMove(place);
-        PumpUntil([&] { return wxGetMousePosition() == place; });
-        PumpPending();
-    }
-
     void Click(const wxTreeCursor& item, int button = wxMOUSE_BTN_LEFT)
     {
         PointTo(PointOn(item, wxTREE_HITTEST_ONITEMLABEL));
@@ -117,8 +110,8 @@ protected:
     /// Waits for the expected events, and a little longer to see that no other event follows.
     void ExpectEvents(const Labels& events)
     {
-        PumpUntil([&] { return log.Notes().size() >= events.size(); });
-        PumpUntil([&] { return log.Notes().size() > events.size(); }, 50);
+        EXPECT_TRUE(PumpUntil([&] { return log.Notes().size() >= events.size(); }));
+        EXPECT_FALSE(PumpUntil([&] { return log.Notes().size() > events.size(); }, 50));
         EXPECT_EQ(log.Take(), events);
     }
 

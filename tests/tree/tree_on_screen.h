@@ -12,6 +12,7 @@
 
 #include <fittings/tree/handy_tree_ctrl.h>
 #include <tests/support/gui.h>
+#include <tests/support/owned_window.h>
 #include <tests/support/temp_folder.h>
 
 using Labels = std::vector<std::wstring>;
@@ -26,15 +27,6 @@ public:
         tree->Create(frame);
     }
 
-    ~TreeOnScreen()
-    {
-        frame->Destroy();
-        PumpPending();
-    }
-
-    TreeOnScreen(const TreeOnScreen&) = delete;
-    TreeOnScreen& operator=(const TreeOnScreen&) = delete;
-
     /// Shows the frame and gives the tree the focus.
     void Show()
     {
@@ -43,7 +35,7 @@ public:
         ASSERT_TRUE(PumpUntil([&] { return tree->HasFocus(); }));
     }
 
-    wxFrame* frame;
+    OwnedWindow<wxFrame> frame;
     Tree* tree;
 };
 

@@ -1,6 +1,5 @@
 #include <fittings/xrc/colour_combo_handler.h>
 
-#include <memory>
 #include <string>
 #include <vector>
 

@@ -1,8 +1,6 @@
 // Code written for wxColourPickerCtrl, compiled and run with that class and with wxColourCombo.
 
 #include <string>
-#include <utility>
-#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -16,6 +14,7 @@
 #include <fittings/colour/colour_popup.h>
 #include <fittings/colour/colour_validator.h>
 #include <tests/support/gui.h>
+#include <tests/support/owned_window.h>
 #include <tests/xrc/loaded_resource.h>
 
 namespace {
@@ -99,13 +98,7 @@ template <typename Control>
 class WhereAColourPickerStands : public testing::Test
 {
 protected:
-    ~WhereAColourPickerStands() override
-    {
-        frame->Destroy();
-        PumpPending();
-    }
-
-    wxFrame* const frame = new wxFrame(nullptr, wxID_ANY, "colours", wxPoint(200, 150), wxSize(400, 300));
+    OwnedWindow<wxFrame> frame{new wxFrame(nullptr, wxID_ANY, "colours", wxPoint(200, 150), wxSize(400, 300))};
 };
 
 using Controls = testing::Types<wxColourPickerCtrl, wxColourCombo>;
@@ -207,7 +200,7 @@ TYPED_TEST(WhereAColourPickerStands, IsLoadedFromAResource)
 
 TEST(ColourValidator, MovesNothingWithoutAVariableOrBesideAnotherControl)
 {
-    auto* const frame = new wxFrame(nullptr, wxID_ANY, "colours");
+    const OwnedWindow<wxFrame> frame(new wxFrame(nullptr, wxID_ANY, "colours"));
     wxColour line = *wxRED;
     wxColourValidator none(nullptr);
     EXPECT_TRUE(none.Validate(frame));
@@ -226,8 +219,6 @@ TEST(ColourValidator, MovesNothingWithoutAVariableOrBesideAnotherControl)
     bare->SetPopupControl(new wxColourPopup);
     EXPECT_TRUE(bare->GetValidator()->TransferToWindow());
     EXPECT_EQ(bare->GetColour(), *wxRED);
-    frame->Destroy();
-    PumpPending();
 }
 
 }  // namespace

@@ -23,8 +23,7 @@ LoadedResource::LoadedResource()
 LoadedResource::~LoadedResource()
 {
     if (m_frame)
-        m_frame->Destroy();
-    PumpPending();
+        DestroyNow(m_frame);
 }
 
 wxFrame* LoadedResource::MakeFrame(const std::string& name)

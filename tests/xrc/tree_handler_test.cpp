@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <wx/imaglist.h>
 #include <wx/uiaction.h>
 
 #include <fittings/platform/local_reg_store.h>

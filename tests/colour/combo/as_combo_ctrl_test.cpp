@@ -1,6 +1,5 @@
 // The colour combo behaves as the toolkit's combo control does, with or without a text field.
 
-#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -10,7 +9,6 @@
 #include <wx/button.h>
 #include <wx/textctrl.h>
 #include <wx/uiaction.h>
-#include <wx/utils.h>
 #include <wx/weakref.h>
 
 #include <tests/colour/colour_listener.h>
@@ -68,28 +66,15 @@ protected:
         after = new wxButton(on.panel, wxID_ANY, "after", wxPoint(20, 200));
         ASSERT_TRUE(ShowAndSettle(on.frame));
         on.combo->SetFocus();
-        ASSERT_TRUE(PumpUntil([&] { return HasFocus(); }));
+        ASSERT_TRUE(PumpUntil([&] { return ContainsFocus(combo); }));
         log.Watch(combo);
-    }
-
-    bool HasFocus() const
-    {
-        const wxWindow* const focus = wxWindow::FindFocus();
-        return focus && (focus == &combo || focus->GetParent() == &combo);
     }
 
     void Press(int key, int modifiers = 0) { user.Char(key, modifiers); }
 
-    void PointTo(const wxPoint& place)
-    {
-        user.MouseMove(place);
-        PumpUntil([&] { return wxGetMousePosition() == place; });
-        PumpPending();
-    }
-
     void ClickButton()
     {
-        PointTo(combo.ClientToScreen(wxPoint(combo.GetClientSize().x - 10, combo.GetClientSize().y / 2)));
+        PointTo(ButtonOf(combo));
         user.MouseClick();
     }
 
@@ -109,7 +94,7 @@ protected:
     void ExpectClosed()
     {
         EXPECT_TRUE(PumpUntil([&] { return combo.GetPopupWindowState() == wxComboCtrl::Hidden; }));
-        PumpUntil([] { return false; }, 50);
+        EXPECT_FALSE(PumpUntil([&] { return combo.GetPopupWindowState() != wxComboCtrl::Hidden; }, 50));
     }
 
     ComboLog log;
@@ -119,9 +104,7 @@ protected:
     wxUIActionSimulator user;
 };
 
-INSTANTIATE_TEST_SUITE_P(, AsComboCtrl, testing::Values(wxCB_READONLY, 0), [](const auto& info) {
-    return std::string(info.param == wxCB_READONLY ? "ReadOnly" : "WithText");
-});
+INSTANTIATE_TEST_SUITE_P(, AsComboCtrl, testing::Values(wxCB_READONLY, 0), NameOfStyle);
 
 // --- Events ----------------------------------------------------------------------------------------------------------
 
@@ -259,12 +242,11 @@ TEST_P(AsComboCtrl, DoesNotOpenByTheUserWhileDisabled)
 {
     combo.Disable();
     ClickButton();
-    PumpUntil([&] { return combo.GetPopupWindowState() != wxComboCtrl::Hidden; }, 300);
-    EXPECT_EQ(combo.GetPopupWindowState(), int(wxComboCtrl::Hidden));
+    EXPECT_FALSE(PumpUntil([&] { return combo.GetPopupWindowState() != wxComboCtrl::Hidden; }, 300));
     EXPECT_EQ(log.Take(), Notes());
     combo.Enable();
     combo.SetFocus();
-    ASSERT_TRUE(PumpUntil([&] { return HasFocus(); }));
+    ASSERT_TRUE(PumpUntil([&] { return ContainsFocus(combo); }));
     Open();
     EXPECT_EQ(log.Take(), (Notes{"dropdown", "popup"}));
     Press(WXK_ESCAPE);
@@ -282,7 +264,7 @@ TEST_P(AsComboCtrl, IsPassedOverByTabWhileDisabledOrHidden)
     EXPECT_TRUE(PumpUntil([&] { return after->HasFocus(); }));
     combo.Show();
     Press(WXK_TAB, wxMOD_SHIFT);
-    EXPECT_TRUE(PumpUntil([&] { return HasFocus(); }));
+    EXPECT_TRUE(PumpUntil([&] { return ContainsFocus(combo); }));
 
     combo.Disable();
     after->SetFocus();
@@ -291,7 +273,7 @@ TEST_P(AsComboCtrl, IsPassedOverByTabWhileDisabledOrHidden)
     EXPECT_TRUE(PumpUntil([&] { return before->HasFocus(); }));
     combo.Enable();
     Press(WXK_TAB);
-    EXPECT_TRUE(PumpUntil([&] { return HasFocus(); }));
+    EXPECT_TRUE(PumpUntil([&] { return ContainsFocus(combo); }));
 }
 
 TEST_P(AsComboCtrl, OpensWhereItHasBeenMovedTo)
@@ -321,7 +303,7 @@ TEST_P(AsComboCtrl, WorksInAnotherWindow)
     ASSERT_TRUE(ShowAndSettle(other));
     EXPECT_EQ(combo.GetValue(), "Lime");
     combo.SetFocus();
-    ASSERT_TRUE(PumpUntil([&] { return HasFocus(); }));
+    ASSERT_TRUE(PumpUntil([&] { return ContainsFocus(combo); }));
     Open();
     EXPECT_GE(on.popup->GetScreenRect().x, 700);
     on.popup->ChangeSelection(16);

@@ -33,7 +33,7 @@ protected:
         });
         ASSERT_TRUE(ShowAndSettle(on.frame));
         on.combo->SetFocus();
-        ASSERT_TRUE(PumpUntil([&] { return HasFocus(); }));
+        ASSERT_TRUE(PumpUntil([&] { return ContainsFocus(*on.combo); }));
     }
 
     void TearDown() override
@@ -41,12 +41,6 @@ protected:
         // The listener is destroyed before the popup.
         if (popup)
             popup->SetColorListener(nullptr);
-    }
-
-    bool HasFocus() const
-    {
-        const wxWindow* const focus = wxWindow::FindFocus();
-        return focus && (focus == on.combo || focus->GetParent() == on.combo);
     }
 
     // Waits until the key is handled, so that the next key follows it.
@@ -109,7 +103,7 @@ TEST_P(ClosedReadOnlyCombo, ChangesItsColourByUpAndDown)
     EXPECT_EQ(Take(), Events()) << "no cell is above Automatic";
     Press(WXK_DOWN);
     EXPECT_EQ(Take(), Events{"#000000"});
-    EXPECT_TRUE(HasFocus());
+    EXPECT_TRUE(ContainsFocus(*on.combo));
     EXPECT_FALSE(on.combo->IsPopupShown());
 }
 
@@ -122,7 +116,7 @@ TEST_P(ClosedReadOnlyCombo, StopsAtTheEnds)
     on.popup->SetColour(on.popup->GetColour(39));
     Press(WXK_DOWN);
     EXPECT_EQ(Take(), Events());
-    EXPECT_TRUE(HasFocus());
+    EXPECT_TRUE(ContainsFocus(*on.combo));
     Press(WXK_UP);
     EXPECT_EQ(Take().size(), 1u);
     EXPECT_EQ(on.popup->m_nChosenColourSel, 38);
@@ -152,7 +146,7 @@ TEST_P(ClosedReadOnlyCombo, GoesOnFromTheColourInEffectAfterACancel)
     Press(WXK_F4);
     ASSERT_TRUE(PumpUntil([&] { return on.combo->IsPopupShown(); }));
     on.popup->EndSelection(false);
-    ASSERT_TRUE(PumpUntil([&] { return HasFocus(); }));
+    ASSERT_TRUE(PumpUntil([&] { return ContainsFocus(*on.combo); }));
     PumpPending();
     Press(WXK_DOWN);
     EXPECT_EQ(on.popup->m_nChosenColourSel, 19);

@@ -1,11 +1,8 @@
 // The colour combo behaves among other windows as the toolkit's combo control does.
 
-#include <string>
-
 #include <gtest/gtest.h>
 
 #include <wx/uiaction.h>
-#include <wx/utils.h>
 
 #include <tests/colour/combo/combo_on_screen.h>
 
@@ -18,7 +15,7 @@ TEST(ColourComboCreate, TakesAllThatTheToolkitsTakes)
     public:
         wxObject* Clone() const override { return new Validator; }
     };
-    auto* const frame = new wxFrame(nullptr, wxID_ANY, "combo");
+    const OwnedWindow<wxFrame> frame(new wxFrame(nullptr, wxID_ANY, "combo"));
     auto* const panel = new wxPanel(frame);
     auto* const combo = new wxColourCombo;
     EXPECT_EQ(combo->GetHandle(), nullptr);
@@ -31,8 +28,6 @@ TEST(ColourComboCreate, TakesAllThatTheToolkitsTakes)
     EXPECT_NE(dynamic_cast<Validator*>(combo->GetValidator()), nullptr);
     EXPECT_EQ(combo->GetName(), "line");
     EXPECT_EQ(wxWindow::FindWindowByName("line", frame), combo);
-    frame->Destroy();
-    PumpPending();
 }
 
 // Neither class has class information of its own: the toolkit sees a wxComboCtrl and a wxWindow.
@@ -87,9 +82,7 @@ protected:
     wxComboCtrl* const both[2] = {plain, on.combo};
 };
 
-INSTANTIATE_TEST_SUITE_P(, BesideTheToolkits, testing::Values(wxCB_READONLY, 0), [](const auto& info) {
-    return std::string(info.param == wxCB_READONLY ? "ReadOnly" : "WithText");
-});
+INSTANTIATE_TEST_SUITE_P(, BesideTheToolkits, testing::Values(wxCB_READONLY, 0), NameOfStyle);
 
 TEST_P(BesideTheToolkits, HasTheSameBestSize)
 {
@@ -150,8 +143,7 @@ TEST_P(BesideTheToolkits, OpensByAButtonOnTheLeft)
     PumpPending();
     const wxPoint place = on.combo->ClientToScreen(wxPoint(8, on.combo->GetClientSize().y / 2));
     wxUIActionSimulator user;
-    user.MouseMove(place);
-    PumpUntil([&] { return wxGetMousePosition() == place; });
+    PointTo(place);
     user.MouseClick();
     EXPECT_TRUE(PumpUntil([&] { return on.combo->IsPopupShown(); }));
     on.combo->Dismiss();

@@ -1,7 +1,6 @@
 // The control in a window on the screen, operated with mouse and keyboard.
 
 #include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -36,26 +35,13 @@ protected:
         EXPECT_TRUE(PumpUntil([&] { return before->HasFocus(); }));
     }
 
-    ~ColourComboInUse() override
-    {
-        if (frame)
-            frame->Destroy();
-        PumpPending();
-    }
-
     void Press(int key, int modifiers = 0) { m_user.Char(key, modifiers); }
 
     // Clicks the combo's button.
     void ClickButton()
     {
-        PointTo(combo->ClientToScreen(wxPoint(combo->GetClientSize().x - 10, combo->GetClientSize().y / 2)));
+        PointTo(ButtonOf(*combo));
         m_user.MouseClick();
-    }
-
-    void PointTo(const wxPoint& place)
-    {
-        m_user.MouseMove(place);
-        PumpUntil([&] { return wxGetMousePosition() == place; });
     }
 
     void PointToCell(int index)
@@ -82,22 +68,16 @@ protected:
     void ExpectCalls(const ColourCalls& calls)
     {
         ColourCalls seen;
-        PumpUntil([&] {
+        EXPECT_TRUE(PumpUntil([&] {
             const ColourCalls more = listener.Take();
             seen.insert(seen.end(), more.begin(), more.end());
             return seen.size() >= calls.size();
-        });
+        }));
         EXPECT_EQ(seen, calls);
     }
 
-    bool HasFocus() const
-    {
-        const wxWindow* const focus = wxWindow::FindFocus();
-        return focus && (focus == combo || focus->GetParent() == combo);
-    }
-
     ColourListener listener;
-    wxWeakRef<wxFrame> frame;
+    OwnedWindow<wxFrame> frame;
     wxPanel* panel;
     wxButton* before;
     wxWeakRef<OpenCombo> combo;
@@ -190,7 +170,7 @@ protected:
     ColourComboByKeys() : ColourComboInUse(GetParam())
     {
         Press(WXK_TAB);
-        EXPECT_TRUE(PumpUntil([&] { return HasFocus(); }));
+        EXPECT_TRUE(PumpUntil([&] { return ContainsFocus(*combo); }));
     }
 };
 
@@ -199,7 +179,7 @@ TEST_P(ColourComboByKeys, IsReachedByTab)
     Press(WXK_TAB);
     EXPECT_TRUE(PumpUntil([&] { return after->HasFocus(); }));
     Press(WXK_TAB, wxMOD_SHIFT);
-    EXPECT_TRUE(PumpUntil([&] { return HasFocus(); }));
+    EXPECT_TRUE(PumpUntil([&] { return ContainsFocus(*combo); }));
     Press(WXK_TAB, wxMOD_SHIFT);
     EXPECT_TRUE(PumpUntil([&] { return before->HasFocus(); }));
 }
@@ -210,11 +190,11 @@ TEST_P(ColourComboByKeys, IsReachedByTabOnceThePopupHasBeenOpen)
     ExpectShown();
     Press(WXK_ESCAPE);
     ExpectHidden();
-    EXPECT_TRUE(PumpUntil([&] { return HasFocus(); }));
+    EXPECT_TRUE(PumpUntil([&] { return ContainsFocus(*combo); }));
     Press(WXK_TAB);
     EXPECT_TRUE(PumpUntil([&] { return after->HasFocus(); }));
     Press(WXK_TAB, wxMOD_SHIFT);
-    EXPECT_TRUE(PumpUntil([&] { return HasFocus(); }));
+    EXPECT_TRUE(PumpUntil([&] { return ContainsFocus(*combo); }));
     Press(WXK_F4);
     ExpectShown();
     Press(WXK_ESCAPE);
@@ -228,13 +208,13 @@ TEST_P(ColourComboByKeys, IsReachedByTheMnemonicOfItsLabel)
     before->SetFocus();
     EXPECT_TRUE(PumpUntil([&] { return before->HasFocus(); }));
     Press('L', wxMOD_ALT);
-    EXPECT_TRUE(PumpUntil([&] { return HasFocus(); }));
+    EXPECT_TRUE(PumpUntil([&] { return ContainsFocus(*combo); }));
     // With this order, the toolkit gives the focus to the control itself.
     after->MoveBeforeInTabOrder(before);
     after->SetFocus();
     EXPECT_TRUE(PumpUntil([&] { return after->HasFocus(); }));
     Press('L', wxMOD_ALT);
-    EXPECT_TRUE(PumpUntil([&] { return HasFocus(); }));
+    EXPECT_TRUE(PumpUntil([&] { return ContainsFocus(*combo); }));
 }
 
 TEST_P(ColourComboByKeys, OpensByF4AndGivesTheColourOfReturn)
@@ -318,9 +298,7 @@ TEST_P(ColourComboByKeys, IgnoresOtherKeysWhileItIsOpen)
     ExpectHidden();
 }
 
-INSTANTIATE_TEST_SUITE_P(, ColourComboByKeys, testing::Values(wxCB_READONLY, 0), [](const auto& info) {
-    return std::string(info.param == wxCB_READONLY ? "ReadOnly" : "WithText");
-});
+INSTANTIATE_TEST_SUITE_P(, ColourComboByKeys, testing::Values(wxCB_READONLY, 0), NameOfStyle);
 
 // The face is filled with the colour, so the focus is shown on the button.
 TEST_F(ColourComboInUse, ShowsOnItsButtonThatItHasTheFocus)
@@ -370,7 +348,7 @@ protected:
             Press(WXK_UP);
         if (GetParam().call == std::string("change"))
             return;
-        PumpUntil([&] { return popup && popup->m_nCurrentSel != CELL_NONE; });
+        EXPECT_TRUE(PumpUntil([&] { return popup && popup->m_nCurrentSel != CELL_NONE; }));
         if (GetParam().byMouse)
             Click();
         else

@@ -1,7 +1,6 @@
 // The host may destroy, change or close the control and its popup at unusual moments.
 
 #include <functional>
-#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -38,20 +37,10 @@ struct Control
         EXPECT_TRUE(ShowAndSettle(frame));
     }
 
-    ~Control()
-    {
-        if (frame)
-            frame->Destroy();
-        PumpPending();
-    }
-
-    Control(const Control&) = delete;
-    Control& operator=(const Control&) = delete;
-
     void Open() { ASSERT_TRUE(Opens(*combo)); }
 
     ColourListener listener;
-    wxWeakRef<wxFrame> frame;
+    OwnedWindow<wxFrame> frame;
     wxWeakRef<wxPanel> panel;
     wxWeakRef<OpenCombo> combo;
     wxWeakRef<OpenPopup> popup;
@@ -440,7 +429,7 @@ TEST(ColourComboPopup, IsReplacedByASecondOneWhileItOpens)
 
 TEST(ColourComboPopup, IsMissed)
 {
-    auto* const frame = new wxFrame(nullptr, wxID_ANY, "combo", wxPoint(200, 150), wxSize(500, 400));
+    const OwnedWindow<wxFrame> frame(new wxFrame(nullptr, wxID_ANY, "combo", wxPoint(200, 150), wxSize(500, 400)));
     auto* const combo = new OpenCombo;
     combo->Create(frame, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxCB_READONLY);
     ASSERT_TRUE(ShowAndSettle(frame));
@@ -457,8 +446,6 @@ TEST(ColourComboPopup, IsMissed)
     wxTimerEvent step(combo->m_animTimer);
     combo->OnTimerEvent(step);
     EXPECT_TRUE(combo->shown.empty());
-    frame->Destroy();
-    PumpPending();
 }
 
 TEST(ColourComboPopup, IsAnotherOneThanTheColours)

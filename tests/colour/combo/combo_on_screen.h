@@ -6,6 +6,8 @@
 #include <utility>
 #include <vector>
 
+#include <gtest/gtest.h>
+
 #include <wx/frame.h>
 #include <wx/panel.h>
 
@@ -13,6 +15,7 @@
 #include <fittings/colour/colour_popup.h>
 #include <tests/colour/popup/open_popup.h>
 #include <tests/support/gui.h>
+#include <tests/support/owned_window.h>
 
 /// A combo whose animation a test can read and set. It records each call that shows its popup, as "x;y;width;height
 /// flags".
@@ -52,11 +55,23 @@ public:
     int refreshes = 0;
 };
 
+/// Names a test by its parameter, the combo's style.
+inline std::string NameOfStyle(const testing::TestParamInfo<long>& info)
+{
+    return info.param == wxCB_READONLY ? "ReadOnly" : "WithText";
+}
+
 /// Opens a combo's popup as its button does. Returns false if it is not shown in time.
 inline bool Opens(wxComboCtrl& combo)
 {
     combo.Popup();
     return PumpUntil([&] { return combo.IsPopupShown(); });
+}
+
+/// Returns a point on the combo's button, on the screen.
+inline wxPoint ButtonOf(const wxComboCtrl& combo)
+{
+    return combo.ClientToScreen(wxPoint(combo.GetClientSize().x - 10, combo.GetClientSize().y / 2));
 }
 
 /// A frame with a combo of the given class and its popup. The destructor destroys all three.
@@ -75,16 +90,7 @@ public:
         combo->SetPopupControl(popup);
     }
 
-    ~ComboOnScreen()
-    {
-        frame->Destroy();
-        PumpPending();
-    }
-
-    ComboOnScreen(const ComboOnScreen&) = delete;
-    ComboOnScreen& operator=(const ComboOnScreen&) = delete;
-
-    wxFrame* frame;
+    OwnedWindow<wxFrame> frame;
     wxPanel* panel;
     Combo* combo;
     Popup* popup;

@@ -26,18 +26,11 @@ protected:
         Open();
     }
 
-    static wxPoint ButtonOf(const wxColourCombo& combo)
-    {
-        return combo.ClientToScreen(wxPoint(combo.GetClientSize().x - 10, combo.GetClientSize().y / 2));
-    }
-
     OpenCombo* second = nullptr;
     wxButton* button = nullptr;
 };
 
-INSTANTIATE_TEST_SUITE_P(, ColourComboOpening, testing::Values(wxCB_READONLY, 0), [](const auto& info) {
-    return std::string(info.param == wxCB_READONLY ? "ReadOnly" : "WithText");
-});
+INSTANTIATE_TEST_SUITE_P(, ColourComboOpening, testing::Values(wxCB_READONLY, 0), NameOfStyle);
 
 class ReadOnlyComboOpening : public ColourComboOpening
 {
@@ -67,7 +60,7 @@ TEST_P(ColourComboOpening, IsDismissedByAClickOutside)
 {
     Click(on.panel->ClientToScreen(wxPoint(450, 350)));
     ExpectShownAndDismissed();
-    EXPECT_TRUE(PumpUntil([&] { return HasFocus(); }));
+    EXPECT_TRUE(PumpUntil([&] { return ContainsFocus(combo); }));
 }
 
 TEST_P(ColourComboOpening, IsDismissedByAClickOnAButtonWhichIsNotPressed)

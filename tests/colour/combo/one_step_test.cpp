@@ -20,6 +20,7 @@
 #include <tests/colour/colour_listener.h>
 #include <tests/colour/screen.h>
 #include <tests/support/gui.h>
+#include <tests/support/owned_window.h>
 
 namespace {
 
@@ -30,9 +31,9 @@ std::string Html(const wxColour& colour)
     return colour.IsOk() ? colour.GetAsString(wxC2S_HTML_SYNTAX).ToStdString() : "none";
 }
 
-wxFrame* MakeFrame()
+OwnedWindow<wxFrame> MakeFrame()
 {
-    return new wxFrame(nullptr, wxID_ANY, "combo", wxPoint(200, 150), wxSize(500, 400));
+    return OwnedWindow(new wxFrame(nullptr, wxID_ANY, "combo", wxPoint(200, 150), wxSize(500, 400)));
 }
 
 // A combo made in one step, in a window on the screen, and the events that the window receives.
@@ -45,16 +46,6 @@ struct OneStep
         combo->EnablePopupAnimation(false);
         EXPECT_TRUE(ShowAndSettle(frame));
     }
-
-    ~OneStep()
-    {
-        if (frame)
-            frame->Destroy();
-        PumpPending();
-    }
-
-    OneStep(const OneStep&) = delete;
-    OneStep& operator=(const OneStep&) = delete;
 
     int FaceOnScreen() const
     {
@@ -121,7 +112,7 @@ struct OneStep
 
     Notes notes;
     wxUIActionSimulator user;
-    wxWeakRef<wxFrame> frame;
+    OwnedWindow<wxFrame> frame;
     wxPanel* panel;
     wxWeakRef<wxColourCombo> combo;
 };
@@ -143,7 +134,7 @@ TEST(ColourComboInOneStep, HasItsPopupAndItsColour)
 
 TEST(ColourComboInOneStep, TakesWhatItIsGiven)
 {
-    wxFrame* const frame = MakeFrame();
+    const auto frame = MakeFrame();
     auto* const plain = new wxColourCombo(frame, wxID_ANY);
     EXPECT_EQ(plain->GetColour(), *wxBLACK);
     EXPECT_TRUE(plain->HasFlag(wxCB_READONLY));
@@ -156,13 +147,11 @@ TEST(ColourComboInOneStep, TakesWhatItIsGiven)
     EXPECT_EQ(full->GetName(), "mine");
     auto* const invalid = new wxColourCombo(frame, wxID_ANY, wxColour());
     EXPECT_EQ(invalid->GetColour(), *wxBLACK);
-    frame->Destroy();
-    PumpPending();
 }
 
 TEST(ColourComboInOneStep, MayBeCreatedLater)
 {
-    wxFrame* const frame = MakeFrame();
+    const auto frame = MakeFrame();
     auto* const combo = new wxColourCombo;
     EXPECT_EQ(combo->GetPopup(), nullptr);
     EXPECT_FALSE(combo->GetColour().IsOk());
@@ -172,14 +161,12 @@ TEST(ColourComboInOneStep, MayBeCreatedLater)
     EXPECT_TRUE(combo->HasFlag(wxCB_READONLY));
     EXPECT_EQ(combo->GetId(), 7);
     EXPECT_EQ(combo->GetColour(), *wxRED);
-    frame->Destroy();
-    PumpPending();
 }
 
 // Create() with a colour was added later. Calls that were valid before still call the toolkit's Create().
 TEST(ColourComboInOneStep, LeavesTheOldCreateAsItIs)
 {
-    wxFrame* const frame = MakeFrame();
+    const auto frame = MakeFrame();
     const std::vector<std::function<bool(wxColourCombo&)>> calls{
         [&](wxColourCombo& combo) { return combo.Create(frame); },
         [&](wxColourCombo& combo) { return combo.Create(frame, wxID_ANY); },
@@ -202,8 +189,6 @@ TEST(ColourComboInOneStep, LeavesTheOldCreateAsItIs)
         combo->SetPopupControl(popup);
         EXPECT_EQ(combo->GetPopup(), popup);
     }
-    frame->Destroy();
-    PumpPending();
 }
 
 TEST(ColourComboInOneStep, HasNoColourWithAnotherPopup)

@@ -8,7 +8,6 @@
 #include <gtest/gtest.h>
 
 #include <wx/uiaction.h>
-#include <wx/utils.h>
 #include <wx/weakref.h>
 
 #include <tests/colour/colour_listener.h>
@@ -44,23 +43,16 @@ protected:
         combo.shown.clear();
         ASSERT_TRUE(on.frame->IsShown() || ShowAndSettle(on.frame));
         combo.SetFocus();
-        ASSERT_TRUE(PumpUntil([&] { return HasFocus(); }));
+        ASSERT_TRUE(PumpUntil([&] { return ContainsFocus(combo); }));
         user.Char(WXK_F4);
         ASSERT_TRUE(PumpUntil([&] { return isAnimated ? combo.m_animTimer.IsRunning() : combo.IsPopupShown(); }));
         EXPECT_EQ(Take(), (Notes{"dropdown", "popup"}));
         PumpPending();
     }
 
-    bool HasFocus() const
-    {
-        const wxWindow* const focus = wxWindow::FindFocus();
-        return focus && (focus == &combo || focus->GetParent() == &combo);
-    }
-
     void Click(const wxPoint& place, int mouseButton = wxMOUSE_BTN_LEFT)
     {
-        user.MouseMove(place);
-        EXPECT_TRUE(PumpUntil([&] { return wxGetMousePosition() == place; }));
+        PointTo(place);
         user.MouseClick(mouseButton);
     }
 
@@ -72,7 +64,7 @@ protected:
         EXPECT_FALSE(combo.IsPopupShown());
         EXPECT_FALSE(combo.m_animTimer.IsRunning());
         EXPECT_FALSE(combo.GetPopupWindow()->IsShown());
-        EXPECT_TRUE(PumpUntil([&] { return HasFocus(); }));
+        EXPECT_TRUE(PumpUntil([&] { return ContainsFocus(combo); }));
     }
 
     Notes Take() { return std::exchange(notes, {}); }

@@ -12,12 +12,6 @@
 
 namespace {
 
-void PointTo(const wxPoint& place)
-{
-    wxUIActionSimulator().MouseMove(place);
-    EXPECT_TRUE(PumpUntil([&] { return wxGetMousePosition() == place; }));
-}
-
 /// Waits for an area of @a colour on the screen, and returns a point inside; wxDefaultPosition if there is none.
 wxPoint PlaceOf(const wxColour& colour)
 {

@@ -26,7 +26,7 @@ protected:
 
     void ClickOutside()
     {
-        user.MouseMove(on.panel->ClientToScreen(wxPoint(450, 350)));
+        PointTo(on.panel->ClientToScreen(wxPoint(450, 350)));
         user.MouseClick();
         EXPECT_TRUE(PumpUntil([&] { return on.combo->GetPopupWindowState() == wxComboCtrl::Hidden; }));
     }
@@ -35,9 +35,7 @@ protected:
     wxUIActionSimulator user;
 };
 
-INSTANTIATE_TEST_SUITE_P(, ColourComboValue, testing::Values(wxCB_READONLY, 0), [](const auto& info) {
-    return std::string(info.param == wxCB_READONLY ? "ReadOnly" : "WithText");
-});
+INSTANTIATE_TEST_SUITE_P(, ColourComboValue, testing::Values(wxCB_READONLY, 0), NameOfStyle);
 
 class TypedColourComboValue : public ColourComboValue
 {

@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <cstring>
-#include <memory>
 #include <stdexcept>
 #include <string>
 #include <vector>

@@ -1,6 +1,5 @@
 // The effects of changing the hot cell.
 
-#include <functional>
 #include <vector>
 
 #include <gtest/gtest.h>

@@ -1,7 +1,6 @@
 // For each cell and key: which cell becomes hot, and whether the selection ends.
 
 #include <ostream>
-#include <string>
 #include <vector>
 
 #include <gtest/gtest.h>

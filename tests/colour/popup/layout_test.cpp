@@ -152,7 +152,7 @@ TEST(ColourPopup, KeepsItsColourForAnInvalidOne)
 
 TEST(ColourWindow, IsCreatedAtItsParentsPosition)
 {
-    auto* const frame = new wxFrame(nullptr, wxID_ANY, "colours");
+    const OwnedWindow<wxFrame> frame(new wxFrame(nullptr, wxID_ANY, "colours"));
     auto* const panel = new wxPanel(frame, wxID_ANY, wxPoint(30, 40), wxSize(50, 60));
     auto* const popup = new OpenPopup;
     EXPECT_TRUE(popup->Create(panel));
@@ -164,8 +164,6 @@ TEST(ColourWindow, IsCreatedAtItsParentsPosition)
     EXPECT_EQ(popup->m_rectWindow.GetPosition(), wxPoint(30, 40));
     EXPECT_EQ(popup->GetSize(), popup->m_rectWindow.GetSize());
     EXPECT_EQ(popup->m_nNumRows, 5);
-    frame->Destroy();
-    PumpPending();
 }
 
 TEST(ColourWindow, MarksTheCellOfTheInitialColourWhenCreated)

@@ -7,6 +7,7 @@
 
 #include <fittings/colour/colour_popup.h>
 #include <tests/support/gui.h>
+#include <tests/support/owned_window.h>
 
 /// A popup whose state a test can read and set.
 class OpenPopup : public wxColourPopup
@@ -49,18 +50,9 @@ public:
         popup->Create(frame);
     }
 
-    ~PopupInFrame()
-    {
-        frame->Destroy();
-        PumpPending();
-    }
-
-    PopupInFrame(const PopupInFrame&) = delete;
-    PopupInFrame& operator=(const PopupInFrame&) = delete;
-
     OpenPopup* operator->() const { return popup; }
 
-    wxFrame* frame;
+    OwnedWindow<wxFrame> frame;
     OpenPopup* popup;
 };
 

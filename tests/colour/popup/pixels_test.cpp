@@ -1,7 +1,6 @@
 // What is seen, pixel by pixel. The ends of lines and the corners are excluded, because the toolkit smooths them.
 
 #include <functional>
-#include <map>
 #include <string>
 
 #include <gtest/gtest.h>

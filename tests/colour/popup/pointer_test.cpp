@@ -1,7 +1,6 @@
 // Which cell the pointer makes hot. The popup moves the point up and left by one margin before it searches the boxes
 // and rows, and ignores the margin below "Automatic". OnMouseMove() documents this.
 
-#include <string>
 #include <vector>
 
 #include <gtest/gtest.h>

@@ -69,8 +69,7 @@ TEST(PersistentAui, OfAManagerThatNobodyEndsIsRemembered)
         ASSERT_TRUE(ShowAndSettle(frame));
         if (isManagerFirst)
             manager.reset();
-        frame->Destroy();
-        PumpPending();
+        DestroyNow(frame);
         EXPECT_NE(StoredValue(kKind, L"Layout").find(L"dir=1;"), std::wstring::npos) << StoredValue(kKind, L"Layout");
     }
 }
@@ -86,8 +85,7 @@ TEST(PersistentAui, OfAManagerThatIsEndedEarlyIsStoredWithItsWindow)
     wxPersistentRegisterAndRestore(&manager, "w");
     manager.UnInit();
     EXPECT_EQ(StoredValue(kKind, L"Layout"), L"(none)");
-    frame->Destroy();
-    PumpPending();
+    DestroyNow(frame);
     EXPECT_NE(StoredValue(kKind, L"Layout").find(L"dir=1;"), std::wstring::npos);
 }
 

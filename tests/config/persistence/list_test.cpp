@@ -8,6 +8,7 @@
 
 #include <tests/config/persistence/stored.h>
 #include <tests/support/gui.h>
+#include <tests/support/owned_window.h>
 
 namespace {
 
@@ -43,13 +44,6 @@ public:
         for (int column = 0; column < columns; ++column)
             list->AppendColumn(wxString::Format("column %d", column), wxLIST_FORMAT_LEFT, 100);
     }
-    ~ListFrame()
-    {
-        m_frame->Destroy();
-        PumpPending();
-    }
-    ListFrame(const ListFrame&) = delete;
-    ListFrame& operator=(const ListFrame&) = delete;
 
     std::vector<int> Widths() const
     {
@@ -60,7 +54,7 @@ public:
     }
 
 private:
-    wxFrame* m_frame;
+    OwnedWindow<wxFrame> m_frame;
 
 public:
     List* list;
@@ -120,8 +114,7 @@ TEST(ListOfAnotherKind, StoresNothing)
     auto* const frame = new wxFrame(nullptr, wxID_ANY, "list");
     auto* const list = new wxListCtrl(frame, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxLC_LIST);
     EXPECT_FALSE(wxPersistentRegisterAndRestore(list, "w"));
-    frame->Destroy();
-    PumpPending();
+    DestroyNow(frame);
     EXPECT_EQ(StoredValue(kKind, L"Widths"), L"50;50;50");
 }
 
@@ -129,7 +122,7 @@ TEST(PersistentDataView, HasTheColumnsThatItHad)
 {
     const TempPersistence data;
     for (const bool isRestored : {false, true}) {
-        auto* const frame = new wxFrame(nullptr, wxID_ANY, "list");
+        const OwnedWindow<wxFrame> frame(new wxFrame(nullptr, wxID_ANY, "list"));
         auto* const view = new wxDataViewListCtrl(frame, wxID_ANY);
         wxDataViewColumn* const name = view->AppendTextColumn("Name");
         wxDataViewColumn* const size = view->AppendTextColumn("Size");
@@ -141,8 +134,6 @@ TEST(PersistentDataView, HasTheColumnsThatItHad)
         name->SetWidth(123);
         EXPECT_TRUE(PumpUntil([&] { return name->GetWidth() == 123; }));
         size->SetHidden(true);
-        frame->Destroy();
-        PumpPending();
     }
 }
 
@@ -153,15 +144,13 @@ TEST(DamagedColumnOfADataView, ChangesNothing)
     for (const wchar_t* const text : {L"", L"x", L"7", L"-1", L"-2147483648", L"2147483647", L"99999999999"}) {
         CLocalRegStore::WriteString(section.c_str(), L"Hidden", text);
         CLocalRegStore::WriteString(section.c_str(), L"Width", text);
-        auto* const frame = new wxFrame(nullptr, wxID_ANY, "list");
+        const OwnedWindow<wxFrame> frame(new wxFrame(nullptr, wxID_ANY, "list"));
         auto* const view = new wxDataViewListCtrl(frame, wxID_ANY);
         wxDataViewColumn* const name = view->AppendTextColumn("Name");
         wxPersistentRegisterAndRestore(view, "w");
         EXPECT_FALSE(name->IsHidden()) << text;
         ASSERT_TRUE(ShowAndSettle(frame));
         EXPECT_GE(name->GetWidth(), 0) << text;
-        frame->Destroy();
-        PumpPending();
     }
 }
 

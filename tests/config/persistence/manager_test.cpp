@@ -59,12 +59,6 @@ public:
     wxListView* list;
 };
 
-void DestroyNow(wxWindow* window)
-{
-    window->Destroy();
-    PumpPending();
-}
-
 TEST(ClosedFrame, SavesAllThatIsInItByOneSave)
 {
     const TempPersistence data;

@@ -36,12 +36,6 @@ std::wstring StoredOf(const std::wstring& section, const wchar_t* key)
     return Stored((L"Persistent_Options/" + section).c_str(), key);
 }
 
-void DestroyNow(wxWindow* window)
-{
-    window->Destroy();
-    PumpPending();
-}
-
 TEST(RegisteringAll, BringsBackAWindowWithAllThatIsInIt)
 {
     const TempPersistence data;

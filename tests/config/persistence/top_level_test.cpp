@@ -2,8 +2,6 @@
 // 1024 with the work area 16;24;1264;960.
 
 #include <cstdlib>
-#include <memory>
-#include <optional>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -29,12 +27,6 @@ void PlantPlace(const std::wstring& x, const std::wstring& y, const std::wstring
 wxFrame* NewFrame()
 {
     return new wxFrame(nullptr, wxID_ANY, "w", wxPoint(300, 200), wxSize(400, 300));
-}
-
-void DestroyNow(wxWindow* window)
-{
-    window->Destroy();
-    PumpPending();
 }
 
 bool SettlesAt(const wxTopLevelWindow& window, const wxRect& rect)

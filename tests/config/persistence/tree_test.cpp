@@ -1,7 +1,6 @@
 // Trees, each in a frame on the screen.
 
 #include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 #include <wx/frame.h>
@@ -10,6 +9,7 @@
 #include <fittings/tree/handy_tree_ctrl.h>
 #include <tests/config/persistence/stored.h>
 #include <tests/support/gui.h>
+#include <tests/support/owned_window.h>
 #include <tests/support/process/processor_time.h>
 
 namespace {
@@ -25,18 +25,11 @@ public:
           tree(new wxTreeCtrl(m_frame, wxID_ANY, wxDefaultPosition, wxDefaultSize, style))
     {
     }
-    ~TreeFrame()
-    {
-        m_frame->Destroy();
-        PumpPending();
-    }
-    TreeFrame(const TreeFrame&) = delete;
-    TreeFrame& operator=(const TreeFrame&) = delete;
 
     bool Show() { return ShowAndSettle(m_frame); }
 
 private:
-    wxFrame* m_frame;
+    OwnedWindow<wxFrame> m_frame;
 
 public:
     wxTreeCtrl* tree;
@@ -199,7 +192,7 @@ TEST(PersistentTree, FilledAsItIsExpandedOpensOnTheWay)
 {
     const TempPersistence data;
     for (const bool isRestored : {false, true}) {
-        auto* const frame = new wxFrame(nullptr, wxID_ANY, "tree");
+        const OwnedWindow<wxFrame> frame(new wxFrame(nullptr, wxID_ANY, "tree"));
         auto* const tree = new LazyTree(frame);
         EXPECT_EQ(wxPersistentRegisterAndRestore(tree, "w"), isRestored);
         EXPECT_EQ(tree->filled, isRestored ? 3 : 0);
@@ -211,8 +204,6 @@ TEST(PersistentTree, FilledAsItIsExpandedOpensOnTheWay)
         }
         EXPECT_EQ(tree->wxTreeCtrl::GetSelection() == item, isRestored);
         tree->SelectItem(item);
-        frame->Destroy();
-        PumpPending();
     }
 }
 
@@ -227,8 +218,7 @@ TEST(PersistentTree, IsFoundForTheLibrarysTrees)
     wxPersistentObject* const object = wxPersistenceManager::Get().Find(tree);
     ASSERT_TRUE(object);
     EXPECT_EQ(object->GetKind(), "Tree");
-    frame->Destroy();
-    PumpPending();
+    DestroyNow(frame);
     EXPECT_EQ(StoredValue(kKind, L"Items").substr(0, 1), L"0");
 }
 
@@ -322,13 +312,11 @@ TEST(StoredItems, OfMegabytesAndDeepAreRestoredAtOnce)
     }
     // An endless tree: each level is made when it is expanded.
     StoreValue(kKind, L"Items", deep);
-    auto* const frame = new wxFrame(nullptr, wxID_ANY, "tree");
+    const OwnedWindow<wxFrame> frame(new wxFrame(nullptr, wxID_ANY, "tree"));
     auto* const tree = new LazyTree(frame);
     EXPECT_LT(ProcessorSeconds([&] { EXPECT_TRUE(wxPersistentRegisterAndRestore(tree, "w")); }), 60);
     EXPECT_EQ(tree->filled, 10'001);
     ASSERT_TRUE(ShowAndSettle(frame));
-    frame->Destroy();
-    PumpPending();
 }
 
 TEST(PersistentTree, OfManyItemsIsSavedAndRestoredInProportion)
@@ -350,11 +338,7 @@ TEST(PersistentTree, OfManyItemsIsSavedAndRestoredInProportion)
             tree->Freeze();
             tree->ExpandAll();
         }
-        EXPECT_LT(ProcessorSeconds([&] {
-                      frame->Destroy();
-                      PumpPending();
-                  }),
-                  30);
+        EXPECT_LT(ProcessorSeconds([&] { DestroyNow(frame); }), 30);
     }
 }
 
@@ -368,8 +352,7 @@ TEST(PersistentTree, ThatIsDeletedAtOnceLeavesTheStoredState)
     tree->AddRoot("root");
     EXPECT_TRUE(wxPersistentRegisterAndRestore(tree, "w"));
     delete tree;
-    frame->Destroy();
-    PumpPending();
+    DestroyNow(frame);
     EXPECT_EQ(StoredValue(kKind, L"Items"), L"0+:|");
 }
 

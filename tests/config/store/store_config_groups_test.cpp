@@ -2,7 +2,6 @@
 
 #include <fittings/config/store_config.h>
 
-#include <string>
 #include <vector>
 
 #include <gtest/gtest.h>

@@ -2,7 +2,6 @@
 
 #include <fittings/config/store_config.h>
 
-#include <cstddef>
 #include <string>
 #include <vector>
 

@@ -2,8 +2,6 @@
 
 #include <fittings/config/store_config.h>
 
-#include <string>
-
 #include <gtest/gtest.h>
 
 #include <wx/fileconf.h>

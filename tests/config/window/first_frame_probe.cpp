@@ -6,7 +6,6 @@
 // "corrected" for a plain frame that is restored after the window manager has announced decorations of another size.
 
 #include <cstdio>
-#include <cstdlib>
 #include <string>
 
 #include <gtk/gtk.h>

@@ -2,7 +2,6 @@
 
 #include <fittings/config/wx_window_state.h>
 
-#include <climits>
 #include <string>
 
 #include <gtest/gtest.h>

@@ -1,4 +1,3 @@
-#include <cerrno>
 #include <filesystem>
 
 #include <sys/stat.h>

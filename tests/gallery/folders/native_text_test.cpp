@@ -1,6 +1,5 @@
 #include <gallery/folders/native_text.h>
 
-#include <clocale>
 #include <random>
 
 #include <gtest/gtest.h>

@@ -89,11 +89,7 @@ protected:
         ASSERT_TRUE(ShowAndSettle(frame));
     }
 
-    void TearDown() override
-    {
-        frame->Destroy();
-        PumpPending();
-    }
+    void TearDown() override { DestroyNow(frame); }
 
     wxDialog* frame = nullptr;
     wxComboBox* combo = nullptr;

@@ -2,7 +2,6 @@
 
 #include <fittings/numedit/num_validator.h>
 
-#include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -38,11 +37,7 @@ protected:
         dialog->SetSizerAndFit(all);
     }
 
-    ~Numbers() override
-    {
-        dialog->Destroy();
-        PumpPending();
-    }
+    ~Numbers() override { DestroyNow(dialog); }
 
     void Show()
     {

@@ -14,6 +14,7 @@
 
 #include <tests/numedit/validator/number_dialog.h>
 #include <tests/support/gui.h>
+#include <tests/support/owned_window.h>
 
 namespace {
 
@@ -43,13 +44,7 @@ protected:
         unbound.SetWindow(control);
     }
 
-    ~Transfer() override
-    {
-        frame->Destroy();
-        PumpPending();
-    }
-
-    wxFrame* frame;
+    OwnedWindow<wxFrame> frame;
     wxPanel* panel;
     CountingTextCtrl* control;
     wxString value = "unchanged";

@@ -13,7 +13,7 @@
 #include <wx/spinctrl.h>
 
 #include <tests/numedit/validator/number_dialog.h>
-#include <tests/support/gui.h>
+#include <tests/support/owned_window.h>
 
 namespace {
 
@@ -50,12 +50,6 @@ protected:
         validator.SetWindow(control);
     }
 
-    ~Handlers() override
-    {
-        frame->Destroy();
-        PumpPending();
-    }
-
     void Start(const wxString& text, long caret)
     {
         control->ChangeValue(text);
@@ -81,7 +75,7 @@ protected:
 
     int BellsRung() const { return Bells() - bellsBefore; }
 
-    wxFrame* frame;
+    OwnedWindow<wxFrame> frame;
     OddTextCtrl* control;
     OpenValidator validator{FixedFormat(L','), nullptr};
     int bellsBefore = Bells();

@@ -6,7 +6,6 @@
 
 #include <tests/numedit/validator/keyboard.h>
 #include <tests/numedit/validator/number_dialog.h>
-#include <tests/support/gui.h>
 #include <tests/support/locale/scoped_locale.h>
 
 namespace {

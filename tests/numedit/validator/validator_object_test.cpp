@@ -14,7 +14,7 @@
 
 #include <tests/numedit/known_formats.h>
 #include <tests/numedit/validator/number_dialog.h>
-#include <tests/support/gui.h>
+#include <tests/support/owned_window.h>
 
 namespace {
 
@@ -56,13 +56,7 @@ class ValidatorOfAControl : public testing::Test
 {
 protected:
     ValidatorOfAControl() : frame(new wxFrame(nullptr, wxID_ANY, "object")) {}
-    ~ValidatorOfAControl() override
-    {
-        frame->Destroy();
-        PumpPending();
-    }
-
-    wxFrame* frame;
+    OwnedWindow<wxFrame> frame;
     wxString value;
 };
 

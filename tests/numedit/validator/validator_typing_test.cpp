@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <tests/numedit/validator/number_dialog.h>
-#include <tests/support/gui.h>
 
 namespace {
 

@@ -4,14 +4,12 @@
 
 #include <algorithm>
 #include <atomic>
-#include <cerrno>
 #include <chrono>
 #include <csignal>
 #include <cstddef>
 #include <cstdlib>
 #include <filesystem>
 #include <functional>
-#include <new>
 #include <random>
 #include <string>
 #include <thread>

@@ -1,7 +1,6 @@
 #include <tests/platform/processes/watched_calls.h>
 
 #include <cerrno>
-#include <cstdio>
 
 #include <sys/file.h>
 #include <sys/syscall.h>

@@ -3,7 +3,6 @@
 #include <fittings/platform/local_reg_store.h>
 
 #include <filesystem>
-#include <optional>
 #include <stdexcept>
 #include <string>
 #include <thread>

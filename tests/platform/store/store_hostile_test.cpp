@@ -4,7 +4,6 @@
 
 #include <set>
 #include <string>
-#include <tuple>
 
 #include <sys/stat.h>
 

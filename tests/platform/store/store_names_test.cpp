@@ -3,7 +3,6 @@
 #include <fittings/platform/local_reg_store.h>
 
 #include <limits>
-#include <memory>
 #include <string>
 #include <vector>
 

@@ -1,6 +1,5 @@
 #include <tests/support/locale/scoped_locale.h>
 
-#include <cstdlib>
 #include <cwchar>
 #include <cwctype>
 #include <langinfo.h>
