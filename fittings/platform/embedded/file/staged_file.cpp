@@ -37,7 +37,8 @@ int MakeFile(const std::string& folder, std::string& path)
 {
     for (int attempt = 0; attempt < 1000; ++attempt) {
         const std::string name = std::string(kPrefix) + GText(g_uuid_string_random(), g_free).get();
-        std::string made = folder + "/" + name;
+        std::string made = folder;
+        made.append("/").append(name);
         const int file = open(made.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOCTTY, 0600);
         if (file >= 0) {
             path = std::move(made);
