@@ -46,12 +46,6 @@ gboolean ShowNow(gpointer data)
     return G_SOURCE_REMOVE;
 }
 
-bool TellsDecorations(const GdkEvent& event)
-{
-    return event.type == GDK_PROPERTY_NOTIFY &&
-           event.property.atom == gdk_atom_intern_static_string("_NET_FRAME_EXTENTS");
-}
-
 void FirstShowing::Watch(GtkWidget* widget)
 {
     g_signal_connect(widget, "realize", G_CALLBACK(&OnRealize), this);
@@ -70,19 +64,25 @@ void FirstShowing::OnRealize(GtkWidget* /*widget*/, FirstShowing* showing)
 
 gboolean FirstShowing::OnEvent(GtkWidget* /*widget*/, GdkEvent* event, FirstShowing* showing)
 {
-    if (showing->m_window && TellsDecorations(*event))
+    if (showing->m_window && fittings::TellsDecorations(*event))
         showing->m_size = showing->m_window->GetSize();
     return FALSE;
 }
 
 // A window manager may first announce the decorations of windows in general, and then those of this window. The toolkit
 // subtracts only the decorations that are announced first, which would give the window a wrong size. So set the size
-// again after each announcement.
+// again after each announcement. The toolkit also computes the position only when the window is moved: let it do so with
+// the announced decorations.
 void FirstShowing::AfterEvent(GtkWidget* widget, GdkEvent* event, FirstShowing* showing)
 {
     const Window& window = showing->m_window;
-    if (window && TellsDecorations(*event) && !window->IsMaximized() && !window->IsFullScreen())
-        window->SetSize(showing->m_size);
+    if (window && fittings::TellsDecorations(*event)) {
+        if (!window->IsMaximized() && !window->IsFullScreen())
+            window->SetSize(showing->m_size);
+        wxPoint origin;
+        gdk_window_get_origin(event->property.window, &origin.x, &origin.y);
+        window->GTKConfigureEvent(origin.x, origin.y);
+    }
     if (event->type == GDK_MAP) {
         g_signal_handlers_disconnect_by_data(widget, showing);
         g_object_set_data(G_OBJECT(widget), kData, nullptr);
@@ -90,6 +90,12 @@ void FirstShowing::AfterEvent(GtkWidget* widget, GdkEvent* event, FirstShowing* 
 }
 
 }  // namespace
+
+bool fittings::TellsDecorations(const GdkEvent& event)
+{
+    return event.type == GDK_PROPERTY_NOTIFY &&
+           event.property.atom == gdk_atom_intern_static_string("_NET_FRAME_EXTENTS");
+}
 
 void fittings::ShowWithoutDelay(wxWindow& window)
 {

@@ -1,6 +1,8 @@
 #ifndef FITTINGS_CONFIG_FIRST_SHOWING_H_
 #define FITTINGS_CONFIG_FIRST_SHOWING_H_
 
+#include <gdk/gdk.h>
+
 class wxTopLevelWindow;
 class wxWindow;
 
@@ -20,6 +22,9 @@ void ShowWithoutDelay(wxWindow& window);
 /// Makes a window appear at the position that it has now. The toolkit passes a position to GTK only when the position
 /// changes. Without this call, the window manager would therefore place a window that has never been moved.
 void KeepPlace(wxTopLevelWindow& window);
+
+/// True for the event by which the window manager announces the size of a window's decorations.
+bool TellsDecorations(const GdkEvent& event);
 
 }  // namespace fittings
 

@@ -6,6 +6,7 @@
 #include <wx/app.h>
 
 #include <fittings/config/first_showing.h>
+#include <fittings/config/persistence/place_when_unmaximized.h>
 #include <fittings/config/persistence/window_record.h>
 #include <fittings/config/store_config.h>
 #include <fittings/config/window_geometry.h>
@@ -211,6 +212,9 @@ bool wxStorePersistenceManager::RestoreValue(const wxPersistentObject& who, cons
     if (!RestoreValue(who, name, &number) || !IsPossible(number, who))
         return false;
     *value = static_cast<int>(number);
+    wxTopLevelWindow* const maximized = name == kMaximized && number != 0 ? TopLevelOf(who) : nullptr;
+    if (maximized && m_windows->RecordOf(*maximized).NormalRect())
+        fittings::PlaceWhenUnmaximized(*maximized, *m_windows->RecordOf(*maximized).NormalRect());
     return true;
 }
 

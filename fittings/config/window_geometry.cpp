@@ -112,3 +112,9 @@ bool fittings::CoversWorkArea(const wxRect& rect)
     }
     return false;
 }
+
+wxSize fittings::SizeWithoutDecorations(const wxTopLevelWindow& window)
+{
+    const auto& decorations = window.m_decorSize;
+    return window.GetSize() - wxSize(decorations.left + decorations.right, decorations.top + decorations.bottom);
+}

@@ -3,6 +3,7 @@
 
 #include <wx/gdicmn.h>
 
+class wxTopLevelWindow;
 class wxWindow;
 
 // Restores the stored geometry of a window. Private to the library.
@@ -20,6 +21,9 @@ bool RestoreGeometry(wxWindow& window, const wxRect& stored);
 
 /// Returns true when a rectangle covers the whole work area of a display, as that of a maximised window does.
 bool CoversWorkArea(const wxRect& rect);
+
+/// Returns a window's size without the decorations of the window manager.
+wxSize SizeWithoutDecorations(const wxTopLevelWindow& window);
 
 }  // namespace fittings
 

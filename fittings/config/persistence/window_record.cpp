@@ -1,9 +1,31 @@
 #include <fittings/config/persistence/window_record.h>
 
+#include <gtk/gtk.h>
 #include <wx/event.h>
 #include <wx/toplevel.h>
 
+#include <fittings/config/persistence/place_when_unmaximized.h>
 #include <fittings/config/window_geometry.h>
+
+namespace {
+
+/// A window manager moves and sizes a window before it tells that it has maximised the window. So what it does is the
+/// normal place only if the window is still not maximised this many milliseconds later.
+constexpr int kSettled = 500;
+
+/// True when the program, not the window manager, has moved or sized the window.
+bool IsSetByProgram(const wxTopLevelWindow& window, const wxEvent& event)
+{
+    if (event.GetEventType() == wxEVT_MOVE) {
+        const std::unique_ptr<GdkEvent, decltype(&gdk_event_free)> current(gtk_get_current_event(), &gdk_event_free);
+        return !current || (current->type != GDK_CONFIGURE && current->type != GDK_PROPERTY_NOTIFY);
+    }
+    GtkWidget* const widget = window.GetHandle();
+    return fittings::SizeWithoutDecorations(window) !=
+           wxSize(gtk_widget_get_allocated_width(widget), gtk_widget_get_allocated_height(widget));
+}
+
+}  // namespace
 
 namespace fittings {
 
@@ -23,9 +45,13 @@ void WindowRecord::Follow(wxTopLevelWindow& window)
     m_normal = window.GetRect();
     const auto note = [record = m_self, &window](wxEvent& event) {
         event.Skip();
-        if (const auto self = record.lock())
-            self->RecordPlace(window);
+        const auto self = record.lock();
+        if (self && IsSetByProgram(window, event))
+            self->RecordPlaceOfProgram(window, event);
+        else if (self)
+            self->m_settling.StartOnce(kSettled);
     };
+    m_settling.Bind(wxEVT_TIMER, [this, &window](wxTimerEvent&) { RecordPlace(window); });
     window.Bind(wxEVT_SIZE, note);
     window.Bind(wxEVT_MOVE, note);
     window.Bind(wxEVT_SHOW, [record = m_self, &window](wxShowEvent& event) {
@@ -34,6 +60,15 @@ void WindowRecord::Follow(wxTopLevelWindow& window)
         if (self && event.GetEventObject() == &window)
             self->m_wasMaximized = !event.IsShown() && window.IsMaximized();
     });
+}
+
+void WindowRecord::RecordPlaceOfProgram(wxTopLevelWindow& window, const wxEvent& event)
+{
+    const bool isChanged = event.GetEventType() == wxEVT_MOVE ? window.GetPosition() != m_normal->GetPosition()
+                                                              : window.GetSize() != m_normal->GetSize();
+    if (isChanged)
+        LeavePlaceWhenUnmaximized(window);
+    RecordPlace(window);
 }
 
 void WindowRecord::RecordPlace(const wxTopLevelWindow& window)

@@ -6,7 +6,9 @@
 #include <optional>
 
 #include <wx/gdicmn.h>
+#include <wx/timer.h>
 
+class wxEvent;
 class wxTopLevelWindow;
 class wxWindow;
 
@@ -40,10 +42,12 @@ public:
     const std::optional<wxRect>& NormalRect() const { return m_normal; }
 
 private:
+    void RecordPlaceOfProgram(wxTopLevelWindow& window, const wxEvent& event);
     void RecordPlace(const wxTopLevelWindow& window);
 
     const std::function<void()> m_atEnd;
     std::optional<wxRect> m_normal;
+    wxTimer m_settling;
     bool m_wasMaximized = false;  // Whether the window was maximised when it was hidden.
     std::weak_ptr<WindowRecord> m_self;
 };

@@ -2,8 +2,10 @@
 // place of the geometry, the frame is in the corner of the work area, 500 x 340 pixels large. first_frame_probe KIND
 // restore: restores a frame and shows it as the first window of the process. Both wait until the geometry on the screen
 // is the expected one and stays so, and print it. If that does not happen, they print the last geometry. KIND is
-// "plain", "menu" or "fixed"; "persistent" for a plain frame that the toolkit's persistence restores and stores; or
-// "corrected" for a plain frame that is restored after the window manager has announced decorations of another size.
+// "plain", "menu" or "fixed"; "persistent" for a plain frame that the toolkit's persistence restores and stores;
+// "maximized" for one that is also maximised before it is stored, comes back maximised and is then unmaximised; "dragged"
+// for one that is unmaximised while the left mouse button is down, so that only its size is expected; or "corrected" for
+// a plain frame that is restored after the window manager has announced decorations of another size.
 
 #include <cstdio>
 #include <string>
@@ -18,6 +20,7 @@
 #include <fittings/config/wx_window_state.h>
 #include <fittings/platform/local_reg_store.h>
 #include <tests/support/patience.h>
+#include <tests/support/xdotool.h>
 
 #include <gdk/gdkx.h>
 #include <X11/Xatom.h>
@@ -25,6 +28,7 @@
 
 namespace {
 
+constexpr wchar_t kPersistentFrame[] = L"Persistent_Options/Window/Main";
 constexpr int kPause = 20;
 constexpr int kTimesTheSame = 25;
 constexpr int kLongest = 20000;
@@ -32,6 +36,11 @@ constexpr int kLongest = 20000;
 std::string Text(const wxRect& rect)
 {
     return wxString::Format("%d;%d;%d;%d", rect.x, rect.y, rect.width, rect.height).utf8_string();
+}
+
+std::string SizeText(const wxRect& rect)
+{
+    return wxString::Format(";%d;%d", rect.width, rect.height).utf8_string();
 }
 
 /// Returns the frame's rectangle on the screen according to the X server, with the decorations; empty until the window
@@ -106,7 +115,9 @@ public:
             m_frame->CreateStatusBar();
             new wxTextCtrl(m_frame, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxTE_MULTILINE);
         }
-        m_isPersistent = kind == "persistent";
+        m_isDragged = kind == "dragged";
+        m_isToBeSeenMaximized = kind == "maximized" || m_isDragged;
+        m_isPersistent = kind == "persistent" || m_isToBeSeenMaximized;
         m_stores = argc > 3;
         if (m_isPersistent) {
             wxStorePersistenceManager::Install();
@@ -114,9 +125,10 @@ public:
         }
         if (m_stores)
             m_frame->SetSize(Wanted(argv[3]));
-        else if (m_isPersistent)
+        else if (m_isPersistent) {
             m_expected = PersistentGeometry();
-        else {
+            m_isToBeSeenMaximized = CLocalRegStore::GetString(kPersistentFrame, L"Maximized", L"") == L"1";
+        } else {
             wx_window_state::LoadState(m_frame, L"Main");
             const std::wstring stored = CLocalRegStore::GetString(L"wxWindowState", L"Main", L"");
             m_expected = wxString(stored).utf8_string();
@@ -134,8 +146,7 @@ private:
     {
         wxString text;
         for (const wchar_t* const key : {L"x", L"y", L"w", L"h"})
-            text << (text.empty() ? "" : ";")
-                 << CLocalRegStore::GetString(L"Persistent_Options/Window/Main", key, L"none");
+            text << (text.empty() ? "" : ";") << CLocalRegStore::GetString(kPersistentFrame, key, L"none");
         return text.utf8_string();
     }
 
@@ -149,29 +160,61 @@ private:
 
     void Look()
     {
+        if (m_isDragged && !m_isToBeSeenMaximized && !m_frame->IsMaximized() && wxGetMouseState().LeftIsDown())
+            Xdotool({"mouseup", "1"});
         const wxRect now = OnScreen(*m_frame);
-        m_same = now == m_last && !now.IsEmpty() && now == m_frame->GetScreenRect() ? m_same + 1 : 0;
+        // The toolkit reports another place for a maximized frame than it has.
+        const bool isTold = m_frame->IsMaximized() || now == m_frame->GetScreenRect();
+        m_same = now == m_last && !now.IsEmpty() && isTold ? m_same + 1 : 0;
         m_last = now;
         const bool isLate = m_watch.Time() > Patience() * kLongest;
         if (m_same < kTimesTheSame && !isLate)
             return;
-        // Set the geometry again until the frame has it. A program may do so with a frame that is shown.
-        if (m_stores && now != m_wanted && !isLate) {
-            m_frame->SetSize(m_wanted);
-            m_same = 0;
-            return;
-        }
-        if (!m_stores && Text(now) != m_expected && !isLate)
+        if (!isLate && !(m_stores ? IsReadyToStore(now) : IsBack(now)))
             return;
         if (m_stores && !m_isPersistent)
             wx_window_state::SaveState(m_frame, L"Main");
-        std::printf("%s\n", Text(now).c_str());
+        std::printf("%s\n", Text(m_stores && m_frame->IsMaximized() ? m_wanted : now).c_str());
         m_timer.Stop();
         m_frame->Close(true);
     }
 
+    bool IsReadyToStore(const wxRect& now)
+    {
+        if (m_frame->IsMaximized())
+            return true;
+        if (now == m_wanted && !m_isToBeSeenMaximized)
+            return true;
+        // Set the geometry again until the frame has it. A program may do so with a frame that is shown.
+        if (now == m_wanted)
+            m_frame->Maximize();
+        else
+            m_frame->SetSize(m_wanted);
+        m_same = 0;
+        return false;
+    }
+
+    bool IsBack(const wxRect& now)
+    {
+        if (m_isToBeSeenMaximized) {
+            if (m_frame->IsMaximized()) {
+                m_isToBeSeenMaximized = false;
+                if (m_isDragged)
+                    Xdotool({"mousedown", "1"});
+                m_frame->Maximize(false);
+                m_same = 0;
+            }
+            return false;
+        }
+        if (m_isDragged)
+            return !m_frame->IsMaximized() && wxString(m_expected).EndsWith(SizeText(now));
+        return !m_frame->IsMaximized() && Text(now) == m_expected;
+    }
+
     wxFrame* m_frame = nullptr;
     bool m_isPersistent = false;
+    bool m_isDragged = false;
+    bool m_isToBeSeenMaximized = false;
     bool m_stores = false;
     wxRect m_wanted;
     std::string m_expected;

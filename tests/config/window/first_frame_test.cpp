@@ -1,5 +1,6 @@
 // The first window of a process is restored to its place and size under every window manager.
 
+#include <algorithm>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -35,7 +36,19 @@ TEST_P(FirstFrame, ComesBackInTheCorner)
     ExpectBack("corner");
 }
 
-INSTANTIATE_TEST_SUITE_P(, FirstFrame, testing::Values("plain", "menu", "fixed", "persistent", "corrected"),
+INSTANTIATE_TEST_SUITE_P(, FirstFrame,
+                         testing::Values("plain", "menu", "fixed", "persistent", "maximized", "corrected"),
                          [](const auto& info) { return std::string(info.param); });
+
+// The user chooses the place of a frame that is unmaximised by dragging its title bar. A window manager that does not
+// know the earlier place then leaves the frame elsewhere.
+TEST(DraggedFrame, GetsItsSizeAlone)
+{
+    const std::string stored = RunChild({FIRST_FRAME_PROBE, "dragged", "store", "420;130;510;340"});
+    ASSERT_EQ(stored, "420;130;510;340\n");
+    const std::string restored = RunChild({FIRST_FRAME_PROBE, "dragged", "restore"});
+    EXPECT_NE(restored, stored);
+    EXPECT_EQ(restored.substr(restored.size() - std::min<std::size_t>(restored.size(), 9)), ";510;340\n");
+}
 
 }  // namespace

@@ -1,0 +1,25 @@
+#ifndef FITTINGS_CONFIG_PERSISTENCE_PLACE_WHEN_UNMAXIMIZED_H_
+#define FITTINGS_CONFIG_PERSISTENCE_PLACE_WHEN_UNMAXIMIZED_H_
+
+class wxRect;
+class wxTopLevelWindow;
+
+// Private to the library.
+
+namespace fittings {
+
+/// Gives a window that is shown maximised this outer rectangle when it is first unmaximised.
+///
+/// A window manager remembers the rectangle of a window before it maximises the window. It cannot know the rectangle of
+/// a window that is maximised from the start: it adds the decorations to the size, or chooses a place of its own.
+///
+/// If the left mouse button is down, the user may be dragging the window. It then gets the size alone, once the button is
+/// released. Does nothing if GTK draws the decorations, as on Wayland.
+void PlaceWhenUnmaximized(wxTopLevelWindow& window, const wxRect& rect);
+
+/// Undoes PlaceWhenUnmaximized().
+void LeavePlaceWhenUnmaximized(wxTopLevelWindow& window);
+
+}  // namespace fittings
+
+#endif
