@@ -88,7 +88,7 @@ bool PlaceKeeper::IsDoneAfter(const GdkEvent& event)
     if (IsUnmaximized(event) && m_window->IsShown()) {
         if (m_deadline != 0 || DrawsItsDecorations(m_window->GetHandle()))
             return true;
-        // The toolkit ignores the decorations of a maximised window when it reports a position. It has to know them now.
+        // The toolkit does not use the decorations of a maximised window to compute a position. Let it use them now.
         m_window->GTKUpdateDecorSize(m_window->m_decorSize);
         m_isDragged = wxGetMouseState().LeftIsDown();
         if (m_isDragged)

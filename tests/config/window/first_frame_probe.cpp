@@ -3,9 +3,9 @@
 // restore: restores a frame and shows it as the first window of the process. Both wait until the geometry on the screen
 // is the expected one and stays so, and print it. If that does not happen, they print the last geometry. KIND is
 // "plain", "menu" or "fixed"; "persistent" for a plain frame that the toolkit's persistence restores and stores;
-// "maximized" for one that is also maximised before it is stored, comes back maximised and is then unmaximised; "dragged"
-// for one that is unmaximised while the left mouse button is down, so that only its size is expected; or "corrected" for
-// a plain frame that is restored after the window manager has announced decorations of another size.
+// "maximized" for one that is also maximised before it is stored, comes back maximised and is then unmaximised;
+// "dragged" for one that is unmaximised while the left mouse button is down, so that only its size is expected; or
+// "corrected" for a plain frame that is restored after the window manager has announced decorations of another size.
 
 #include <cstdio>
 #include <string>
