@@ -1,5 +1,4 @@
-// The events of the toolkit's tree control are the same in this library's controls: the same tests run on all
-// three.
+// This library's tree controls send the same events as the toolkit's tree control: the same tests run on all three.
 
 #include <gtest/gtest.h>
 
@@ -184,7 +183,7 @@ TYPED_TEST(AsTreeCtrl, DragsAnItemWhenTheHostAllowsIt)
         PointTo(PointOn(item, wxTREE_HITTEST_ONITEMLABEL));
         this->user.MouseDown();
         PumpPending();
-        // A drag begins after a few moves.
+        // The toolkit starts a drag only after a few moves of the mouse.
         for (int x = 0; x < 5; ++x)
             PointTo(PointOn(this->c, wxTREE_HITTEST_ONITEMLABEL) + wxPoint(x, 0));
         this->user.MouseUp();

@@ -1,4 +1,4 @@
-// Code for the toolkit's tree control compiles with this library's controls and does the same: the same tests run on
+// Code for the toolkit's tree control compiles with this library's controls and works the same: the same tests run on
 // all three.
 
 #include <algorithm>
@@ -19,7 +19,7 @@ namespace {
 
 constexpr int kId = 4711;
 
-/// A tree made in one step, with a root, its child and that child's child.
+/// A tree created by its constructor, with a root, a child and a grandchild.
 template <typename Tree>
 class TreeLines : public testing::Test
 {
@@ -175,7 +175,8 @@ TEST(TreeInOneStep, TakesItsImagesBackAndItsRowsWithThem)
 
     tree->SetImageList(nullptr);
     EXPECT_EQ(tree->GetImageList(), nullptr);
-    // Newer versions of the toolkit make the rows of a tree without images a little higher than their text.
+    // Newer versions of the toolkit make the rows of a tree without images a little higher than their text, so the
+    // height of the text is only a lower bound.
     wxRect after;
     EXPECT_TRUE(PumpUntil([&] { return tree->GetBoundingRect(root, after) && after.height <= before.height; }))
         << after.height;

@@ -1,4 +1,4 @@
-// This library's tree controls are windows just as the toolkit's tree control is.
+// As windows, this library's tree controls behave like the toolkit's tree control.
 
 #include <gtest/gtest.h>
 
@@ -46,7 +46,7 @@ TEST(TreeCtrlCreate, OfTheToolkitIsThereForTheHandyOneToo)
     EXPECT_EQ(ChildrenOf(item), (Labels{L"A1"}));
 }
 
-// Neither class has class information of its own: the toolkit sees a wxTreeCtrl.
+// Neither wxTreeCtrlEx nor wxHandyTreeCtrl has class information of its own: the toolkit sees a wxTreeCtrl.
 TEST(TreeCtrlClass, IsTheToolkits)
 {
     const TreeOnScreen<wxTreeCtrlEx> ex;
@@ -61,7 +61,7 @@ TEST(TreeCtrlClass, IsTheToolkits)
 
 }  // namespace
 
-// A host's class that the toolkit can make by its name.
+// A host's class that the toolkit can create by its name.
 class RecordedTree : public wxHandyTreeCtrl
 {
 public:
@@ -310,7 +310,7 @@ TEST(TreesInOtherColoursAndFont, LookLikeTheToolkits)
     }
     EXPECT_GT(sizes[0].y, 25);
     EXPECT_EQ(sizes[1], sizes[0]);
-    // The cursor does not return the colour of the control.
+    // An item without a colour of its own is black to the cursor, whatever the colour of the control.
     EXPECT_EQ(root.GetTextColour(), 0u);
     root.SetTextColour(0x00FF0000);
     EXPECT_EQ(handy.tree->GetItemTextColour(root.item), *wxBLUE);
@@ -393,7 +393,7 @@ TEST_F(HandyTreeInUse, TellsOfTheRootThatItSelects)
     ExpectEvents({});
 }
 
-// The host gets the event of a selection and vetoes it.
+// SelectRootItem() returns true although the host vetoes the selection.
 TEST_F(HandyTreeInUse, LetsTheHostVetoTheRoot)
 {
     tree.SelectItem(b.item);

@@ -14,7 +14,7 @@
 
 namespace {
 
-// The type of an operation that a constant cursor has.
+// The type of a const member function of wxTreeCursor.
 template <typename Result, typename... Arguments>
 using Asks = Result (wxTreeCursor::*)(Arguments...) const;
 
@@ -28,7 +28,7 @@ static_assert(std::is_same_v<decltype(&wxTreeCursor::GetChild), Asks<wxTreeCurso
 static_assert(std::is_same_v<decltype(&wxTreeCursor::GetNextSibling), Asks<wxTreeCursor>>);
 static_assert(std::is_same_v<decltype(&wxTreeCursor::GetTextColour), Asks<unsigned long>>);
 
-// The type of an operation that only a cursor that is not constant has.
+// The type of a member function of wxTreeCursor that is not const.
 template <typename Result, typename... Arguments>
 using Does = Result (wxTreeCursor::*)(Arguments...);
 
@@ -77,7 +77,7 @@ TEST_F(Cursor, GivesTheLabel)
     EXPECT_EQ(root.AppendItem("").GetText(), L"");
 }
 
-// Returns the images of an item: normal, selected, expanded, and both.
+// Returns the item's images for the states normal, selected, expanded, and selected and expanded.
 std::array<int, 4> ImagesOf(const wxTreeCursor& item)
 {
     return {item.GetImage(wxTreeItemIcon_Normal), item.GetImage(wxTreeItemIcon_Selected),
@@ -120,7 +120,7 @@ TEST_F(Cursor, AddsABitmapToTheImageListAndAnswersWhichKindItWas)
     EXPECT_EQ(tree.GetImageList()->GetImageCount(), 2);
     EXPECT_EQ(ImagesOf(root), (std::array{0, -1, -1, 1}));
 
-    // The mask colour is transparent.
+    // Pixels of the mask colour are transparent.
     const wxImage image = tree.GetImageList()->GetBitmap(0).ConvertToImage();
     EXPECT_EQ(image.GetRed(8, 8), 255);
     EXPECT_TRUE(image.HasMask() ? image.IsTransparent(0, 0) : image.HasAlpha() && image.GetAlpha(0, 0) == 0);

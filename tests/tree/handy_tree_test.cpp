@@ -32,7 +32,8 @@ static_assert(std::is_same_v<decltype(&wxHandyTreeCtrl::SelectRootItem), Operati
 static_assert(std::is_same_v<decltype(&wxHandyTreeCtrl::OnEvtItemExpanding), Operation<void, wxTreeEvent&>>);
 static_assert(std::is_same_v<decltype(&wxHandyTreeCtrl::OnItemExpanding), Operation<void, const wxTreeCursor&>>);
 
-// Returns the offset of a virtual operation in the virtual table. A pointer to the operation contains this offset.
+// Returns the offset of a virtual function in the virtual table, plus a constant. A pointer to a virtual member
+// function begins with this number.
 template <typename Pointer>
 std::ptrdiff_t PlaceOf(Pointer operation)
 {
@@ -41,7 +42,7 @@ std::ptrdiff_t PlaceOf(Pointer operation)
     return place;
 }
 
-// The class with one additional virtual operation.
+// Adds one virtual function to @a Tree. Its offset shows how many entries the virtual table of @a Tree has.
 template <typename Tree>
 struct Extended : Tree
 {
@@ -110,7 +111,7 @@ TEST(HandyTree, KeepsMasksInItsImageList)
     EXPECT_NE(screen.tree->GetImageList()->GetBitmap(0).GetMask(), nullptr);
 }
 
-// Returns a bitmap that the image list shares. The bitmap's reference count tells whether the list still exists.
+// Adds a bitmap to the list, and returns it. Its reference count shows whether the list still exists.
 wxBitmap Held(wxImageList& list)
 {
     wxBitmap bitmap(16, 16, 24);
@@ -146,7 +147,7 @@ TEST(HandyTree, DeletesItsImageListBeforeTheControlGoes)
     EXPECT_EQ(bitmap.GetRefData()->GetRefCount(), 1);
 }
 
-// Records its deletion.
+// An image list that reports its deletion.
 struct TrackedImages : wxImageList
 {
     explicit TrackedImages(bool& deleted) : wxImageList(16, 16), m_deleted(deleted) {}

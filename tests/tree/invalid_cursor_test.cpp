@@ -8,7 +8,7 @@
 
 namespace {
 
-// The two kinds of invalid cursors: without an item, and without a tree.
+// Runs each test with both kinds of invalid cursors: one without an item, and one without a tree.
 class InvalidCursor : public testing::TestWithParam<bool>
 {
 protected:

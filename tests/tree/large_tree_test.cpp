@@ -1,4 +1,4 @@
-// The calls of the toolkit that saving and restoring make, counted on wide and deep trees.
+// Counts the calls of the toolkit's functions by which wide and deep trees are saved and restored.
 
 #include <fittings/tree/handy_tree_ctrl.h>
 
@@ -16,7 +16,7 @@ namespace {
 
 constexpr int kWidth = 100'000;
 
-/// Counts the calls of a walk. Each call for the next sibling takes time in proportion to the number of siblings.
+/// Counts calls by kind. A call for the next or previous sibling takes time in proportion to the number of siblings.
 class CountingTree : public wxHandyTreeCtrl
 {
 public:
@@ -37,7 +37,7 @@ public:
         return wxHandyTreeCtrl::GetPrevSibling(item);
     }
 
-    // GetFirstChild() calls this operation, too.
+    // GetFirstChild() calls this function, too.
     wxTreeItemId GetNextChild(const wxTreeItemId& item, wxTreeItemIdValue& cookie) const override
     {
         ++byCookie;
@@ -67,7 +67,7 @@ protected:
     CountingTree& tree = *screen.tree;
     wxTreeCursor root = tree.AddRoot("root");
 
-    /// Makes a root with many children; with a @a step, each @a step-th child is expanded.
+    /// Appends kWidth children to the root. If @a step is not 0, expands the first and every @a step-th after it.
     void MakeWide(int step)
     {
         const wxWindowUpdateLocker frozen(&tree);
@@ -79,7 +79,7 @@ protected:
         }
     }
 
-    /// Makes a chain of items below the root; returns the last one.
+    /// Appends a chain of @a depth items to the root, and returns the last one.
     wxTreeCursor MakeDeep(int depth)
     {
         const wxWindowUpdateLocker frozen(&tree);
@@ -142,7 +142,7 @@ TEST_F(LargeTree, IsVisitedAlsoWhenNothingIsStored)
     EXPECT_EQ(tree.expansions, 0);
 }
 
-// Many items with one label, alternately expanded and collapsed: only the last one counts.
+// Of many items with one label, alternately collapsed and expanded, only the last one counts.
 TEST_F(LargeTree, OfOneLabelIsSavedAsOne)
 {
     {
@@ -161,7 +161,7 @@ TEST_F(LargeTree, OfOneLabelIsSavedAsOne)
     EXPECT_EQ(StoredState(L"state"), L"");
 }
 
-// With so many labels, some have equal 32-bit hashes.
+// Among so many labels, some would have equal 32-bit hashes. Each label must be stored all the same.
 TEST_F(LargeTree, TellsAllItsLabelsApart)
 {
     constexpr int kCount = 300'000;
@@ -231,7 +231,7 @@ TEST_F(LargeTree, IsRestoredAsDeepAsTheToolkitBears)
     tree.LoadState("state", root);
     EXPECT_EQ(tree.expansions, kDepth + 1);
 
-    // The last item is a leaf and cannot be expanded.
+    // The last item is a leaf. It cannot be expanded, so its label is not stored.
     tree.SaveState("state", root);
     EXPECT_EQ(StoredState(L"state").size(), (kDepth - 1) * 7u + 5);
     EXPECT_EQ(StoredState(L"state").substr(0, 14), L"000000|000001|");

@@ -1,4 +1,4 @@
-// A host that adds, moves and deletes items while its tree is being restored.
+// Hosts that add, sort and delete items while their tree is being restored.
 
 #include <fittings/tree/handy_tree_ctrl.h>
 
@@ -14,7 +14,7 @@
 
 namespace {
 
-/// Counts calls with deleted items, for which the toolkit would read freed memory.
+/// Counts the calls that pass a deleted item. In such a call, the toolkit would read freed memory.
 class MortalTree : public LazyTree
 {
 public:
@@ -56,7 +56,7 @@ protected:
         });
     }
 
-    /// Restores a tree in which everything was expanded, and returns the visited items.
+    /// Loads a state in which every item is expanded, and returns the labels passed to Expand().
     Labels Load()
     {
         const auto note = [this](wxTreeEvent& event) {
@@ -72,12 +72,12 @@ protected:
     }
 
     TempUserData settings;
-    Labels deleted;  // declared first: the tree's destructor deletes its items, too
+    Labels deleted;  // declared before the tree, whose destructor deletes items and so may append to this
     TreeOnScreen<MortalTree> screen;
     MortalTree& tree = *screen.tree;
     wxTreeCursor root;
     std::map<std::wstring, wxTreeCursor> items;
-    std::map<std::wstring, std::function<void()>> when;  ///< Actions when the item is first expanded.
+    std::map<std::wstring, std::function<void()>> when;  ///< What to do when the item is first expanded, by its label.
 };
 
 TEST_F(LoadStateMeanwhile, VisitsAnAppendedSibling)
@@ -144,7 +144,7 @@ TEST_F(LoadStateMeanwhile, GoesOnBehindAnItemThatDeletesItself)
     EXPECT_EQ(tree.askedOfTheDead, 0);
 }
 
-// An item that is made in place of a deleted one often gets the same address.
+// The new item often has the same address as the deleted one.
 TEST_F(LoadStateMeanwhile, GoesOnBehindAnItemThatIsMadeAnew)
 {
     when[L"A"] = [&] {

@@ -117,7 +117,8 @@ TEST_F(SaveState, LetsTheLastOfOneLabelDecide)
     EXPECT_EQ(Saved(root), L"");
 }
 
-// A child comes after its parent and before its parent's next sibling.
+// Of several items with the same label, the last one decides. A child comes after its parent and before its parent's
+// next sibling.
 TEST_F(SaveState, TakesTheLastInTheOrderOfTheTree)
 {
     wxTreeCursor first = root.AppendItem("first");
@@ -209,7 +210,7 @@ TEST_F(SaveState, ChangesNothingInTheTree)
     EXPECT_EQ(root.tree, &tree);
 }
 
-// Nobody can make a folder in /proc, not even root.
+// Not even root can create a folder in /proc, so nothing can be stored.
 TEST_F(SaveState, IsLostQuietlyWhereNothingCanBeStored)
 {
     std_file_paths::SetUserDataDir(L"/proc/fittings");

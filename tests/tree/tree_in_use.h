@@ -14,8 +14,8 @@
 
 #include <tests/tree/tree_on_screen.h>
 
-/// Records each event of a tree as a text such as "selected b after a", and runs a host's reactions. Must outlive the
-/// tree.
+/// Records each event of a tree as a string such as "selected b after a", and calls the host's handler for this string.
+/// Must outlive the tree.
 class TreeLog
 {
 public:
@@ -40,10 +40,10 @@ public:
         Watch(wxEVT_TREE_KEY_DOWN, L"key");
     }
 
-    /// The host's reaction to the event with that text. An event without a reaction is skipped.
+    /// The host's handlers, by the string that is recorded for the event. An event without a handler is skipped.
     std::map<std::wstring, std::function<void(wxTreeEvent&)>> on;
 
-    /// Returns the texts since the previous call.
+    /// Returns the strings recorded since the previous call.
     Labels Take() { return std::exchange(m_notes, {}); }
 
     const Labels& Notes() const { return m_notes; }
@@ -107,7 +107,8 @@ protected:
         user.MouseClick(button);
     }
 
-    /// Waits for the expected events, and a little longer to see that no other event follows.
+    /// Waits until as many events as in @a events are recorded, and a little longer in case more follow. Expects
+    /// exactly these events.
     void ExpectEvents(const Labels& events)
     {
         EXPECT_TRUE(PumpUntil([&] { return log.Notes().size() >= events.size(); }));

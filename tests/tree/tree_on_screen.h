@@ -39,13 +39,13 @@ public:
     Tree* tree;
 };
 
-/// A tree over a fixed list of folders, filled when it is expanded. Records the calls.
+/// A tree that adds an item's children when the item is expanded, as listed in a map. Records the calls.
 class LazyTree : public wxHandyTreeCtrl
 {
 public:
     std::map<std::wstring, Labels> folders;
-    Labels hooked;    ///< The items for which the hook was called.
-    Labels expanded;  ///< The items for which Expand() was called.
+    Labels hooked;    ///< The labels of the items passed to OnItemExpanding().
+    Labels expanded;  ///< The labels of the items passed to Expand().
     std::function<void(const wxTreeCursor&)> inHook;
 
     void OnItemExpanding(const wxTreeCursor& item) override
@@ -66,13 +66,13 @@ public:
     }
 };
 
-/// Returns the stored state of the tree of that name.
+/// Returns the tree state that is stored under this name.
 inline std::wstring StoredState(const wchar_t* name)
 {
     return Stored(L"TreeControlState", name);
 }
 
-/// Adds a root with the has-children flag.
+/// Adds a root that is marked as having children, but without any.
 inline wxTreeCursor AddLazyRoot(wxTreeCtrlEx& tree, const wxString& label)
 {
     wxTreeCursor root = tree.AddRoot(label);
@@ -98,7 +98,7 @@ inline Labels ChildrenOf(const wxTreeCursor& parent)
     return labels;
 }
 
-/// Returns a point on the screen in the row of the item, where a hit test returns @a part.
+/// Returns a point on the screen, in the row of @a item, for which HitTest() reports @a part.
 inline wxPoint PointOn(const wxTreeCursor& item, int part)
 {
     const wxTreeCtrl& tree = *item.tree;
