@@ -148,7 +148,8 @@ TEST(AuiLayout, HasNoMorePartsThanTheToolkitReadsAtOnce)
     EXPECT_FALSE(IsLayout(With(L"Folders", std::wstring(2000000, L'a'))));
 }
 
-// The toolkit takes what follows a ";" in a caption for the next field, and an empty field for the end of the pane.
+// In a caption, the toolkit takes the text after a ";" for the next field, and an empty field for the end of the pane.
+// Therefore the check limits the numbers in captions, too.
 TEST(AuiLayout, HasNoNumberInACaptionThatTheToolkitLaysOutForLong)
 {
     EXPECT_TRUE(IsLayout(With(L"Folders", L"Folders\\; row=7\\;")));
@@ -157,7 +158,7 @@ TEST(AuiLayout, HasNoNumberInACaptionThatTheToolkitLaysOutForLong)
     EXPECT_FALSE(IsLayout(With(L"Folders", L"a\brow=2147483647\b")));
 }
 
-/// A frame with panes of every kind, laid out by an AUI manager.
+/// A frame with panes of several kinds, laid out by an AUI manager.
 class PanesFrame : public wxFrame
 {
 public:

@@ -57,7 +57,7 @@ TEST(LoadAuiManagerState, LeavesAManagerAloneWhenNothingIsStored)
 {
     const TempUserData data;
     AuiFrame frame;
-    // The manager is not updated here: the window would be hidden if LoadAuiManagerState() updated the manager.
+    // The manager is not updated here. If LoadAuiManagerState() updated it, the window would be hidden.
     frame.Pane("log").Hide();
     const wxString before = frame.manager.SavePerspective();
     EXPECT_FALSE(wx_window_state::LoadAuiManagerState(&frame.manager, L"Main"));
@@ -169,7 +169,7 @@ TEST(LoadAuiManagerState, TakesALayoutWithPanesThatAreGone)
     EXPECT_TRUE(frame.Pane("list").IsShown());
 }
 
-/// A text that the toolkit cannot have written counts as no layout at all.
+/// Tests that a text that the toolkit cannot have written is not loaded.
 class DamagedLayout : public testing::Test
 {
 protected:
@@ -182,7 +182,7 @@ protected:
         before = frame.manager.SavePerspective();
     }
 
-    /// Returns the complete layout with @a part replaced.
+    /// Returns the complete layout with the first @a part replaced.
     wxString With(const wxString& part, const wxString& replacement) const
     {
         wxString layout = whole;
@@ -236,7 +236,7 @@ TEST_F(DamagedLayout, WithARowFarOutIsNotLoaded)
     ExpectNotLoaded(With("dock_size(4,0,0)", "dock_size(4,0,2147483647)"));
 }
 
-// These proportions add up to zero, and the toolkit divides by the sum.
+// The proportions of the two panes at the bottom add up to zero, and the toolkit divides by the sum.
 TEST_F(DamagedLayout, WithANegativeProportionIsNotLoaded)
 {
     ExpectNotLoaded(With("dir=4;layer=0;row=0;pos=0;prop=100000", "dir=3;layer=0;row=0;pos=0;prop=-100000"));

@@ -51,7 +51,7 @@ TEST_F(ConfigCalls, OfGetConfigString)
                                        L"get [section] [key] []", L"destroy"}));
 }
 
-// No value is read from a file that could not be read.
+// If the file cannot be loaded, no value is read from it.
 TEST_F(ConfigCalls, OfGetConfigStringFromAFileThatIsMissing)
 {
     g_platform.folderExists = false;

@@ -14,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Calls every operation once.
+/// Calls each function of ui_config_mgr once.
 void UseAll(const std::wstring& file)
 {
     ui_config_mgr::WriteConfigString(file.c_str(), L"s", L"k", L"v");
@@ -201,7 +201,7 @@ TEST(SettingsFileWithoutPermission, ReadsAsEmptyAndIsNotReplaced)
     EXPECT_EQ(ReadFile(data / "ui_config/a.ini"), "[s]\nk=secret\n");
 }
 
-// Nobody can make a folder in /proc, not even root.
+// Not even root can create a folder in /proc, so no file can be stored.
 TEST(UserDataFolderThatCannotBeMade, ReadsAsEmpty)
 {
     const TempUserData data;

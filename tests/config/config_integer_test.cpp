@@ -106,7 +106,7 @@ struct Bad
     std::wstring text;
 };
 
-/// Returns the text of the exception that is thrown; empty when no exception of this type is thrown.
+/// Returns the message of the @a Exception that Read() throws; empty if Read() throws nothing.
 template <typename Exception>
 std::string Thrown()
 {

@@ -23,7 +23,7 @@ bool IsLogAtTheTop(wxAuiManager& manager)
     return manager.GetPane("log").dock_direction == wxAUI_DOCK_TOP;
 }
 
-/// Restores the layout of a new frame, and expects the pane at the top.
+/// Restores the layout in a new frame, and expects the log at the top.
 void ExpectLogAtTheTop()
 {
     AuiFrame frame;
@@ -31,7 +31,7 @@ void ExpectLogAtTheTop()
     EXPECT_TRUE(IsLogAtTheTop(frame.manager));
 }
 
-// The destructor of AuiFrame calls UnInit() before the frame is destroyed.
+// The destructor of AuiFrame calls UnInit() before the frame is destroyed. The layout must be stored all the same.
 TEST(PersistentAui, OfAFrameThatEndsItsManagerIsRemembered)
 {
     const TempPersistence data;
@@ -126,7 +126,7 @@ TEST(DamagedLayout, LoadsNothing)
         layout = frame.manager.SavePerspective().ToStdWstring();
     }
     for (std::size_t length = 1; length + 1 < layout.size(); length += 9) {
-        // A text that is cut between two panes or docks is still a complete layout.
+        // Skip a text that is cut between two panes or docks: it is still a complete layout.
         if (layout[length - 1] == L'|')
             continue;
         StoreValue(kKind, L"Layout", layout.substr(0, length));

@@ -1,4 +1,4 @@
-// Report lists, and the toolkit's data views beside them.
+// Persistent report lists, and the toolkit's persistent data views beside them.
 
 #include <vector>
 

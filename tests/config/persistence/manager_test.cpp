@@ -1,4 +1,4 @@
-// When the values of windows are saved, and with how many writes to the disk.
+// When the values of windows are saved, and how often that calls fsync().
 
 #include <gtest/gtest.h>
 #include <sys/syscall.h>
@@ -19,7 +19,7 @@ int g_syncs = 0;
 
 }  // namespace
 
-// Replaces the C library's function.
+// Replaces the C library's function: counts the call and makes it.
 extern "C" int fsync(int fd)
 {
     ++g_syncs;
@@ -83,7 +83,8 @@ TEST(ClosedFrame, SavesAllThatIsInItByOneSave)
     DestroyNow(frame);
 }
 
-// The values of a window are stored when it is closed, so a signal that later ends the process loses none of them.
+// The values of a window are stored when it is destroyed, even if other windows are still open. A signal that later
+// ends the process loses none of them.
 TEST(ClosedFrame, IsSavedWhenItIsGone)
 {
     const TempPersistence data;
@@ -171,7 +172,7 @@ TEST(Manager, IsTheToolkitsOnceItIsInstalled)
     EXPECT_EQ(&wxStorePersistenceManager::Install(), &wxStorePersistenceManager::Install());
 }
 
-// The toolkit's classes cannot have written these numbers.
+// The toolkit's classes cannot have written these values, so the values are ignored.
 TEST(DamagedNumbers, DoNoHarm)
 {
     const TempPersistence data;

@@ -41,7 +41,8 @@ bool SettlesMaximized(const wxTopLevelWindow& window)
     return PumpUntil([&] { return window.IsMaximized() && window.GetSize() == wxSize(1264, 960); });
 }
 
-/// Shows, changes and closes the frame, as one run of a program does.
+/// Registers, shows, changes and destroys a frame, as one run of a program does. Expects the registration to return @a
+/// isRestored.
 template <typename Change>
 void InOneRun(bool isRestored, Change change)
 {
@@ -97,7 +98,8 @@ TEST(PersistentFrame, ThatIsMovedAsSoonAsItIsUnmaximizedStaysThere)
         ASSERT_TRUE(PumpUntil([&] { return !frame.IsMaximized(); }));
         frame.SetSize(200, 180, 400, 300);
         ASSERT_TRUE(ShowAndSettle(&frame));
-        // Decorations that are announced after SetSize() are added to the size.
+        // The frame may be larger than it was set: decorations that are announced after SetSize() are added to the
+        // size.
         EXPECT_TRUE(PumpUntil([&] { return frame.GetPosition() == wxPoint(200, 180) && frame.GetSize().x < 450; }))
             << frame.GetPosition().x << ";" << frame.GetPosition().y << ";" << frame.GetSize().x;
     });
@@ -131,7 +133,7 @@ TEST(PersistentFrame, ThatIsClosedMaximizedBeforeAnotherIsRemembered)
     EXPECT_EQ(StoredValue(kKind, L"w"), L"400");
 }
 
-// The frame was not restored, so its earlier size is not known.
+// The frame was not restored, so its earlier size is not known, and the stored one must stay.
 TEST(PersistentFrame, ThatIsMaximizedAndWasNotRestoredLeavesTheStoredPlace)
 {
     const TempPersistence data;
@@ -187,7 +189,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Restored{"HugeSize", {L"100", L"100", L"2147483647", L"2147483647"}, wxRect(100, 100, 1180, 884)}),
     [](const auto& info) { return info.param.name; });
 
-/// A stored geometry with one field that is not a number.
+/// A stored geometry in which one field cannot be read as a number. The parameter is the key of this field.
 class DamagedPlace : public testing::TestWithParam<const wchar_t*>
 {
 };

@@ -40,7 +40,7 @@ wxTreeItemId Add(wxTreeCtrl& tree, const wxTreeItemId& parent, const wxString& l
     return tree.AppendItem(parent, label);
 }
 
-/// Returns the child with this number, counted from 0.
+/// Returns the child of @a parent at the index @a number, or an invalid item if there are fewer children.
 wxTreeItemId Child(const wxTreeCtrl& tree, const wxTreeItemId& parent, int number)
 {
     wxTreeItemIdValue cookie = nullptr;
@@ -50,7 +50,8 @@ wxTreeItemId Child(const wxTreeCtrl& tree, const wxTreeItemId& parent, int numbe
     return child;
 }
 
-/// Adds three items below the root. Each has two children with the same label, and each of these has one child.
+/// Adds a root with three children. Each of the three has two children with the same label, and each of those has one
+/// child.
 void Fill(wxTreeCtrl& tree)
 {
     const wxTreeItemId root = tree.AddRoot("root");
@@ -106,7 +107,7 @@ TEST(PersistentTree, StoresReadableText)
     EXPECT_EQ(StoredValue(kKind, L"Items"), L"0+^:|1+:b\\|/\\\\|1*#2:a|");
 }
 
-// A hidden root cannot be expanded.
+// A hidden root cannot be expanded, but the items below it are restored.
 TEST(PersistentTree, WithAHiddenRootIsRestored)
 {
     const TempPersistence data;
@@ -165,8 +166,8 @@ TEST(PersistentTree, ScrollsToTheItemThatWasFirstInView)
     }
 }
 
-/// A tree in which an item gets three children with the same label when it is expanded. Until then, the item has one
-/// child.
+/// A tree that fills an item when it is expanded: it replaces the item's children with three that have the same label.
+/// Each of the three has one child, which keeps the place of its own children.
 class LazyTree : public wxHandyTreeCtrl
 {
 public:
@@ -310,7 +311,7 @@ TEST(StoredItems, OfMegabytesAndDeepAreRestoredAtOnce)
         EXPECT_LT(ProcessorSeconds([&] { wxPersistentRegisterAndRestore(frame.tree, "w"); }), 20);
         PumpPending();
     }
-    // An endless tree: each level is made when it is expanded.
+    // An endless tree: each level is created when its parent is expanded.
     StoreValue(kKind, L"Items", deep);
     const OwnedWindow<wxFrame> frame(new wxFrame(nullptr, wxID_ANY, "tree"));
     auto* const tree = new LazyTree(frame);
@@ -342,7 +343,8 @@ TEST(PersistentTree, OfManyItemsIsSavedAndRestoredInProportion)
     }
 }
 
-// A tree that is deleted without Destroy() is no longer a wxTreeCtrl when its state should be stored.
+// A tree that is deleted without Destroy() is no longer a wxTreeCtrl when its state should be stored, so the earlier
+// state stays.
 TEST(PersistentTree, ThatIsDeletedAtOnceLeavesTheStoredState)
 {
     const TempPersistence data;

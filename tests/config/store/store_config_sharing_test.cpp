@@ -1,4 +1,5 @@
-// Several objects, batches of threads, and processes that use one store, and a store that cannot be saved.
+// Objects that share a store with other objects, with a thread's batch or with other processes, and a store that cannot
+// be saved.
 
 #include <fittings/config/store_config.h>
 
@@ -108,8 +109,8 @@ TEST_F(StoreConfig, StaysInAGroupThatAnotherDeletes)
     Open("[a/b]\nk=1\n");
     m_config->SetPath("a/b");
     WriteFile(Path(), "");
-    // Put something into the file, because an empty file counts for half a second as one that another program is still
-    // writing.
+    // Write something into the file, because an empty file is taken for half a second for one that another program is
+    // still writing.
     WriteFile(Path(), "[x]\n");
     EXPECT_FALSE(m_config->HasEntry("k"));
     EXPECT_EQ(m_config->GetPath(), "/a/b");
@@ -128,7 +129,8 @@ TEST_F(StoreConfig, StoresAnEqualTextInAFileThatAnotherHasEmptied)
     EXPECT_EQ(ReadFile(Path()), "[g]\na=1\n");
 }
 
-// The object has just read the file, so that it need not look again where the path leads.
+// The object has just read the file, so a read might not notice yet that the path leads elsewhere. The write must
+// notice it.
 TEST_F(StoreConfig, StoresAnEqualTextInAFolderThatAnotherHasReplaced)
 {
     Open("[g]\na=1\n");

@@ -52,7 +52,7 @@ class StoreConfig : public testing::Test
 protected:
     std::string Path() const { return m_data / "ui_config/test.ini"; }
 
-    /// Opens the file with @a text in it.
+    /// Writes @a text to the file, and opens the file with a new object.
     void Open(const std::string& text)
     {
         m_config.reset();
@@ -68,7 +68,7 @@ protected:
         m_config = std::make_unique<wxStoreConfig>("test.ini");
     }
 
-    /// Saves, and returns what another object finds in the file.
+    /// Saves, and returns what another object reads from the file.
     wxString Saved()
     {
         EXPECT_TRUE(m_config->Flush());

@@ -68,7 +68,7 @@ TEST_F(StoreConfig, ReadsWhatWasWritten)
     EXPECT_EQ(m_config->ReadObject("colour1", wxColour()), colour);
 }
 
-// Asks for ten values with a default for each.
+// Reads ten values with a default for each, and returns their number. Expects that they exist exactly if @a areThere.
 std::size_t ReadWithDefaults(const wxConfigBase& config, bool areThere)
 {
     EXPECT_EQ(config.Read("string1", "abc"), "abc");

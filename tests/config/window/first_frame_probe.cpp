@@ -1,11 +1,15 @@
-// first_frame_probe KIND store X;Y;WIDTH;HEIGHT: shows a frame, gives it this geometry, and stores it. With "corner" in
-// place of the geometry, the frame is in the corner of the work area, 500 x 340 pixels large. first_frame_probe KIND
-// restore: restores a frame and shows it as the first window of the process. Both wait until the geometry on the screen
-// is the expected one and stays so, and print it. If that does not happen, they print the last geometry. KIND is
-// "plain", "menu" or "fixed"; "persistent" for a plain frame that the toolkit's persistence restores and stores;
-// "maximized" for one that is also maximised before it is stored, comes back maximised and is then unmaximised;
-// "dragged" for one that is unmaximised while the left mouse button is down, so that only its size is expected; or
-// "corrected" for a plain frame that is restored after the window manager has announced decorations of another size.
+// first_frame_probe KIND store X;Y;WIDTH;HEIGHT: shows a frame with this geometry and stores the geometry. If "corner"
+// takes the place of the geometry, the frame has 500 x 340 pixels and is in the corner of the work area.
+//
+// first_frame_probe KIND restore: restores a frame and shows it as the first window of the process.
+//
+// Both wait until the geometry on the screen is the expected one and no longer changes, and print it. If that takes too
+// long, they print the last geometry.
+//
+// KIND is "plain", "menu" or "fixed"; "persistent" for a plain frame that the toolkit's persistence restores and
+// stores; "maximized" for such a frame that is also maximised before it is stored, comes back maximised and is then
+// unmaximised; "dragged" for one that is unmaximised while the left mouse button is down, after which only its size is
+// checked; or "corrected" for a plain frame that is restored after decorations of another size have been announced.
 
 #include <cstdio>
 #include <string>
@@ -44,7 +48,7 @@ std::string SizeText(const wxRect& rect)
 }
 
 /// Returns the frame's rectangle on the screen according to the X server, with the decorations; empty until the window
-/// manager has added the decorations.
+/// manager has announced the decorations.
 wxRect OnScreen(const wxFrame& frame)
 {
     GdkWindow* const window = gtk_widget_get_window(frame.GetHandle());
@@ -76,13 +80,13 @@ wxRect OnScreen(const wxFrame& frame)
     return rect;
 }
 
-/// Announces decorations of another size than the frame gets, as some window managers do, and waits until the toolkit
+/// Announces decorations of another size than the frame has, as some window managers do, and waits until the toolkit
 /// has noticed.
 void TellOtherDecorations(wxFrame& frame)
 {
     GdkWindow* const window = gtk_widget_get_window(frame.GetHandle());
     Display* const display = GDK_WINDOW_XDISPLAY(window);
-    // Until the ungrab, the X server serves no other program, not even the window manager.
+    // Until the ungrab, the X server serves no other program, so the window manager cannot correct the sizes.
     XGrabServer(display);
     const long extents[] = {3, 4, 30, 40};
     XChangeProperty(display, GDK_WINDOW_XID(window), XInternAtom(display, "_NET_FRAME_EXTENTS", False), XA_CARDINAL, 32,
@@ -163,7 +167,7 @@ private:
         if (m_isDragged && !m_isToBeSeenMaximized && !m_frame->IsMaximized() && wxGetMouseState().LeftIsDown())
             Xdotool({"mouseup", "1"});
         const wxRect now = OnScreen(*m_frame);
-        // The toolkit reports another place for a maximized frame than it has.
+        // Do not compare the places of a maximised frame: the toolkit may report a wrong one.
         const bool isTold = m_frame->IsMaximized() || now == m_frame->GetScreenRect();
         m_same = now == m_last && !now.IsEmpty() && isTold ? m_same + 1 : 0;
         m_last = now;
@@ -185,7 +189,7 @@ private:
             return true;
         if (now == m_wanted && !m_isToBeSeenMaximized)
             return true;
-        // Set the geometry again until the frame has it. A program may do so with a frame that is shown.
+        // Set the geometry until the frame has it, and only then maximise the frame.
         if (now == m_wanted)
             m_frame->Maximize();
         else

@@ -29,8 +29,8 @@ TEST_P(FirstFrame, ComesBackInItsPlace)
     ExpectBack("420;130;510;340");
 }
 
-// A frame that was never moved has this position, too, and the toolkit leaves the place of such a frame to the window
-// manager.
+// A frame that was never moved has this position, too, and the toolkit lets the window manager place such a frame. A
+// restored frame must come back to the corner.
 TEST_P(FirstFrame, ComesBackInTheCorner)
 {
     ExpectBack("corner");
@@ -40,8 +40,8 @@ INSTANTIATE_TEST_SUITE_P(, FirstFrame,
                          testing::Values("plain", "menu", "fixed", "persistent", "maximized", "corrected"),
                          [](const auto& info) { return std::string(info.param); });
 
-// The user chooses the place of a frame that is unmaximised by dragging its title bar. A window manager that does not
-// know the earlier place then leaves the frame elsewhere.
+// The user chooses the place of a frame that is unmaximised by dragging its title bar, so only its size is restored. A
+// window manager that does not know the earlier place then leaves the frame elsewhere.
 TEST(DraggedFrame, GetsItsSizeAlone)
 {
     const std::string stored = RunChild({FIRST_FRAME_PROBE, "dragged", "store", "420;130;510;340"});

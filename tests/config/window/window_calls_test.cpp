@@ -10,7 +10,7 @@
 
 #include <tests/support/noting_platform.h>
 
-// Replaces the toolkit's function.
+// Replaces the toolkit's function: records the call, and returns false.
 bool wxAuiManager::LoadPerspective(const wxString& layout, bool update)
 {
     RecordCall(L"lay out", {layout.ToStdWstring(), update ? L"at once" : L"later"});
@@ -79,7 +79,7 @@ TEST_F(WindowCalls, OfLoadStateOfAFrameWithoutAGeometry)
     }
 }
 
-/// A window that stays off every display.
+/// A frame that is off every display and ignores every change of its position and size.
 class FrameOutOfSight : public wxFrame
 {
 public:

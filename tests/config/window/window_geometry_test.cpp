@@ -87,7 +87,7 @@ TEST(SaveState, TakesANullNameForTheEmptyOne)
     EXPECT_EQ(other.GetRect(), wxRect(100, 50, 800, 600));
 }
 
-/// Records the order in which a frame is asked about its state.
+/// A frame that records in which order its state is read.
 class AskedFrame : public wxFrame
 {
 public:
@@ -181,7 +181,7 @@ TEST(LoadState, BringsAChildBackInsideItsParent)
     EXPECT_EQ(panel.GetRect(), wxRect(30, 40, 200, 100));
 }
 
-/// Counts what is logged.
+/// Counts the messages that are logged while this object exists.
 class CountingLog : public wxLog
 {
 public:
@@ -209,7 +209,7 @@ TEST(LoadState, LogsNothingAboutAChildOfAHiddenFrame)
     EXPECT_EQ(log.count, 0);
 }
 
-// Nobody can make a folder in /proc, not even root.
+// Not even root can create a folder in /proc, so nothing can be stored.
 TEST(SettingsThatCannotBeStored, GoUnnoticed)
 {
     const TempUserData data;

@@ -18,8 +18,8 @@ int g_handlersDestroyed = 0;
 
 }  // namespace
 
-// Replaces the toolkit's destructor of event handlers: does the same, and counts. The library's handler is private and
-// destroys itself, so only its destructor shows that it is gone.
+// Replaces the toolkit's destructor of event handlers: counts the call, and calls the original. The library's handler
+// is private and destroys itself, so only its destructor shows that it is gone.
 extern "C" void DestroyHandler(wxEvtHandler* handler) __asm__("_ZN12wxEvtHandlerD2Ev");
 
 extern "C" void DestroyHandler(wxEvtHandler* handler)
@@ -31,7 +31,7 @@ extern "C" void DestroyHandler(wxEvtHandler* handler)
 
 namespace {
 
-/// A frame that counts the calls to maximise it.
+/// A frame that counts the calls to maximise it and to restore it.
 class CountingFrame : public wxFrame
 {
 public:
@@ -64,7 +64,7 @@ bool MaximizeAndSettle(wxFrame* frame)
     return PumpUntil([&] { return frame->IsMaximized() && frame->GetSize() == wxSize(1264, 960); });
 }
 
-/// Posts the event that the toolkit posts when a frame is maximised.
+/// Posts an event such as the toolkit sends when a frame is maximised, with @a object as the frame.
 void PostMaximizeEvent(wxFrame* frame, wxObject* object)
 {
     wxMaximizeEvent event(frame->GetId());

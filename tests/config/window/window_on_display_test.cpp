@@ -128,7 +128,7 @@ INSTANTIATE_TEST_SUITE_P(, StoredSizeTooSmall,
                                          L"100;100;10;10", L"100;100;0;0", L"100;100;-300;200", L"100;100;300;-200",
                                          L"5000;5000;10;10", L"100;100;-2147483648;2147483647"));
 
-/// Numbers far beyond the size of a display.
+/// A stored geometry with numbers far beyond the size of a display.
 class HugeGeometry : public testing::TestWithParam<const wchar_t*>
 {
 };
@@ -219,7 +219,8 @@ TEST(ShownFrame, IsClippedToo)
     EXPECT_TRUE(PumpUntil([&] { return frame.GetScreenRect() == wxRect(1100, 900, 180, 84); }));
 }
 
-// The child is on no display, even after it is moved to the corner of its parent.
+// The child is on no display, even after LoadState() moves it to the corner of its parent, so LoadState() returns
+// false.
 TEST(ChildOfAFrameThatIsOffEveryDisplay, StaysAtTheParentsCorner)
 {
     const TempUserData data;
@@ -246,7 +247,7 @@ TEST(ChildLeftOfAShownParent, IsOnTheDisplay)
     EXPECT_EQ(panel.TakeCalls(), (SizeCalls{"-210;40;200;100 4", "-210;40;-1;-1 0", "16;40;200;100 3"}));
 }
 
-// A child's own position is measured against the work area, as a top-level window's is.
+// A child's position in its parent is compared with the work area, as if it were a position on the screen.
 TEST(ChildAtItsParentsCorner, IsClippedByItsOwnPosition)
 {
     const TempUserData data;

@@ -15,12 +15,12 @@
 
 namespace {
 
-// The next answers of the toolkit, in reverse order.
+// The results of the next calls of wxDisplay::GetFromWindow(). The last element is returned first.
 std::vector<int> g_answers;
 
 }  // namespace
 
-// Replaces the toolkit's function, and calls it when no answer is prepared.
+// Replaces the toolkit's function: returns the next prepared result, or calls the toolkit's function if there is none.
 int wxDisplay::GetFromWindow(const wxWindow* window)
 {
     if (!g_answers.empty()) {
@@ -34,7 +34,7 @@ int wxDisplay::GetFromWindow(const wxWindow* window)
 
 namespace {
 
-// The first two calls apply the stored geometry.
+// The first two calls apply the stored geometry. The third moves the frame to (0, 0).
 TEST(WindowOnNoDisplay, IsMovedToTheFirstAndStaysThereIfThatDoesNotHelp)
 {
     const TempUserData data;
