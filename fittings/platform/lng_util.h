@@ -11,14 +11,14 @@ class CLanguageDomain;
 /// Translation of the library's own texts.
 namespace lng_util_internal {
 
-/// Returns the translation of the English text @a key, or the text of @a key itself when there is none.
+/// Returns the translation of the English text @a key, or a copy of @a key when there is none.
 ///
-/// Translations come from the host's wxTranslations. The first look-up adds the library's own catalogue, "fittings",
-/// unless the host has loaded this catalogue. The toolkit prefers the catalogue that was loaded last. So a host with
-/// its own translations of the same texts loads "fittings" before its own catalogue.
+/// Translations come from the host's wxTranslations. A look-up adds the library's own catalogue, "fittings", unless
+/// that catalogue is already loaded. The toolkit prefers the catalogue that was loaded last. So a host with its own
+/// translations of the same texts should load "fittings" before its own catalogue.
 ///
-/// The result stays valid until the process ends. A null key gives null. A null @a domain counts as a domain with an
-/// empty name. GUI thread only.
+/// The result stays valid until the process ends. Returns null for a null key. A null @a domain counts as a domain with
+/// an empty name. GUI thread only.
 FITTINGS_API const wchar_t* DoGetResourceString(const wchar_t* key, CLanguageDomain* domain);
 
 }  // namespace lng_util_internal

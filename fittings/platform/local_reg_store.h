@@ -21,12 +21,13 @@ struct SettingsEntry
 /// One of several changes of settings that are saved together.
 struct SettingsChange
 {
-    std::wstring section;               ///< Any text without a null character, like the key and the value.
-    std::wstring key;                   ///< The key of the value.
-    std::optional<std::wstring> value;  ///< Without a value, the key is removed.
+    std::wstring section;               ///< No null character is allowed here, in the key or in the value.
+    std::wstring key;                   ///< The key to set or to remove.
+    std::optional<std::wstring> value;  ///< The new value; none removes the key.
 
-    /// Changes the section itself and ignores the key. With a value, the section is made, even without keys. Without a
-    /// value, the section is removed, unless it still has a key after all changes of keys.
+    /// True for a change of the section itself, which ignores the key. With a value, the change creates the section,
+    /// even without keys. Without a value, it removes the section, unless the section still has a key after all changes
+    /// of keys.
     bool isOfSection = false;
 };
 
@@ -37,18 +38,19 @@ class CIniFile;
 
 /// The settings store: single INI files, and the default store that a whole application shares.
 ///
-/// A text may contain any character, including line breaks and lone surrogates, and is read back exactly. Null counts
-/// as empty. Names of sections and keys are compared exactly, including upper and lower case.
+/// A text may contain any character except the null character, even line breaks and lone surrogates, and is read back
+/// exactly. A null pointer counts as an empty text. Names of sections and keys are compared exactly, including upper
+/// and lower case.
 ///
 /// Each text may be a wxString, a std::string, a std::wstring, or a wide or narrow literal. One call may mix them: see
 /// fittings::TextArgument.
 ///
 /// The default store is the file settings.ini in std_file_paths::GetUserDataDir(). All processes of one application
-/// share it. A write reads the file again, changes only its own keys, and is on the disk when it returns true. Writes
-/// by other processes at the same time are kept too. A write waits at most two seconds for another process that is
-/// stuck; a read never waits. Some file systems, such as NFS, cannot exchange two files in one step. If the lock file
-/// settings.ini.lock cannot be used on such a file system either, one of two writes within the same few microseconds
-/// can be lost.
+/// share it. A write reads the file again and changes only its own keys. When it returns true, the file with the change
+/// is on the disk. Changes that other processes write at the same time are kept. A write waits at most two seconds for
+/// another process that is stuck; a read never waits. Some file systems, such as NFS, cannot exchange two files
+/// atomically. If the lock file settings.ini.lock cannot be used on such a file system either, one of two writes within
+/// the same few microseconds can be lost.
 ///
 /// A file of more than 64 MiB or of more than a million lines does not count as a settings file: it is not read. A
 /// write that would make such a file fails.
@@ -68,12 +70,12 @@ public:
     /// Returns a new, empty file object. Release it with DestroyIniFile(). The argument is reserved: pass false.
     static CIniFile* CreateInitFile(bool reserved);
 
-    /// Reads the file at @a path into @a ini, in place of what it held.
+    /// Replaces the content of @a ini with that of the file at @a path.
     ///
     /// Returns false when the file could not be read; @a ini is then empty and usable. If the file exists but could not
-    /// be read, a later Save() to the same path fails, so that the file is not lost. The result is also false for a
-    /// file that was read but contains neither settings nor text, such as one of zeros only or one in UTF-16. Saving
-    /// changes then first appends ".unreadable" to the name of that file.
+    /// be read, a later Save() to the same path fails, so that the file is not lost. Also returns false for a file that
+    /// contains neither settings nor readable text, for example only zeros or UTF-16. If changes are then saved to the
+    /// same path, Save() first renames that file by appending ".unreadable" to its name.
     static bool Load(CIniFile& ini, const wchar_t* path);
 
     /// Returns the value of @a key in @a section, or @a defaultValue when there is none.
@@ -96,12 +98,12 @@ public:
 
     using Entry = fittings::SettingsEntry;  ///< A key and its value.
 
-    /// Returns the keys of @a section with their values, in the order of GetKeyNames(). The time is in proportion to
-    /// the number of keys. For the section with the empty name, the result begins with the keys before the first
-    /// section, because wxFileConfig writes them there.
+    /// Returns the keys of @a section with their values, in the order of GetKeyNames(). The time is proportional to the
+    /// number of keys. For the section with the empty name, the result begins with the keys before the first section,
+    /// because wxFileConfig writes them there.
     static std::vector<Entry> GetEntries(const CIniFile& ini, const wchar_t* section);
 
-    /// Writes the whole object to @a path. The file is created or replaced in one step.
+    /// Writes the content of @a ini to the file at @a path, which is created or replaced atomically.
     ///
     /// Everything that was read from a file and not changed since is written as it was read: comments, blank lines,
     /// meaningless lines, their order and their line ends.
@@ -120,12 +122,12 @@ public:
 
     using Change = fittings::SettingsChange;  ///< One of several changes that are saved together.
 
-    /// Reads the file at @a path into @a ini in place of what it held, unless the file has not changed since the last
+    /// Replaces the content of @a ini with that of the file at @a path, unless the file has not changed since the last
     /// call.
     ///
-    /// Returns false when @a ini was left as it is, with any changes that were made in it since. A file that cannot be
-    /// read counts as empty. A file that another program has emptied less than half a second ago counts as not changed.
-    /// Use @a ini only for reading: do not pass it to Save().
+    /// Returns false when the content of @a ini was left as it is, including any changes made in it since that call. A
+    /// file that cannot be read counts as empty. A file that another program has emptied less than half a second ago
+    /// counts as not changed. Use @a ini only for reading: do not pass it to Save().
     static bool Refresh(CIniFile& ini, const wchar_t* path);
 
     /// Returns whether the file is still as the last Refresh() of @a ini read it. False after Refresh() has kept the
@@ -135,9 +137,9 @@ public:
     /// Makes the changes in @a ini: first the changes of keys, then those of sections.
     static void ApplyChanges(CIniFile& ini, const std::vector<Change>& changes);
 
-    /// Reads the file at @a path, makes the changes and saves it once, as WriteString() does with the default store.
-    /// Changes that other processes and threads store with this operation at the same time are kept. The lock file is
-    /// @a path followed by ".lock".
+    /// Reads the file at @a path, makes the changes and saves the file once, as WriteString() does with the default
+    /// store. Changes that other processes and threads store with this function at the same time are kept. The lock
+    /// file is @a path followed by ".lock".
     ///
     /// Returns false when the changes could not be saved; none of them is then stored.
     static bool SaveChanges(const wchar_t* path, const std::vector<Change>& changes);
@@ -155,14 +157,14 @@ public:
     /// Returns a stored boolean, or @a defaultValue when there is none or the stored text is not a boolean.
     static bool GetProfileBool(const wchar_t* section, const wchar_t* key, bool defaultValue);
 
-    /// Stores a boolean. The result is that of WriteString().
+    /// Stores a boolean. Returns the result of WriteString().
     static bool WriteProfileBool(const wchar_t* section, const wchar_t* key, bool value);
 
     /// Returns a stored integer, or @a defaultValue when there is none or the stored text is not a decimal number that
     /// fits.
     static int GetProfileInt(const wchar_t* section, const wchar_t* key, int defaultValue);
 
-    /// Stores an integer as decimal text. The result is that of WriteString().
+    /// Stores an integer as decimal text. Returns the result of WriteString().
     static bool WriteProfileInt(const wchar_t* section, const wchar_t* key, int value);
 
     /// Removes a key. Returns false when the store could not be saved, and true even when there was no such key.
@@ -171,8 +173,8 @@ public:
     /// Makes several changes with one save. Returns false when they could not be saved; none of them is then stored.
     static bool SaveChanges(const std::vector<Change>& changes);
 
-    /// Reads the default store into @a ini as the operation with a path reads a file. The result includes what this
-    /// thread's Batch has collected.
+    /// Reads the default store into @a ini as the overload with a path reads a file. @a ini then includes the changes
+    /// that this thread's Batch has collected.
     static bool Refresh(CIniFile& ini);
 
     /// Returns the names of all sections, each once, in the order of the file.
@@ -187,85 +189,85 @@ public:
     /// @}
     /// @name The default store, narrow text
     ///
-    /// These operations access the same values as the wide ones. Narrow text is UTF-8; bytes that are not UTF-8 are
-    /// read back as they were written. To convert a result to wxString, use wxString::FromUTF8().
+    /// These overloads access the same values as those for wide text. Narrow text is UTF-8; bytes that are not UTF-8
+    /// are read back as they were written. To convert a result to wxString, use wxString::FromUTF8().
     /// @{
 
     /// Returns the stored value, or @a defaultValue when there is none.
     static std::string GetString(const char* section, const char* key, const char* defaultValue);
 
-    /// Stores a value. The result is that of the wide operation.
+    /// Stores a value. Returns false when it could not be saved; the earlier value then remains.
     static bool WriteString(const char* section, const char* key, const char* value);
 
     /// @}
     /// @name With texts of any kind
     /// @{
 
-    /// Does the same as the operation for wide text.
+    /// Does the same as the overload for wide text.
     template <typename Path, fittings::IfTexts<1, Path> = 0>
     static bool Load(CIniFile& ini, const Path& path)
     {
         return Load(ini, fittings::TextArgument(path));
     }
 
-    /// Does the same as the operation for wide text. The texts are section, key and default value.
+    /// Does the same as the overload for wide text. The texts are section, key and default value.
     template <typename... Texts, fittings::IfTexts<3, Texts...> = 0>
     static std::wstring GetString(const CIniFile& ini, const Texts&... texts)
     {
         return GetString(ini, fittings::TextArgument(texts)...);
     }
 
-    /// Does the same as the operation for wide text. The texts are section, key and value.
+    /// Does the same as the overload for wide text. The texts are section, key and value.
     template <typename... Texts, fittings::IfTexts<3, Texts...> = 0>
     static void WriteString(CIniFile& ini, const Texts&... texts)
     {
         WriteString(ini, fittings::TextArgument(texts)...);
     }
 
-    /// Does the same as the operation for wide text. The texts are section and key.
+    /// Does the same as the overload for wide text. The texts are section and key.
     template <typename... Texts, fittings::IfTexts<2, Texts...> = 0>
     static bool DeleteKey(CIniFile& ini, const Texts&... texts)
     {
         return DeleteKey(ini, fittings::TextArgument(texts)...);
     }
 
-    /// Does the same as the operation for wide text.
+    /// Does the same as the overload for wide text.
     template <typename Section, fittings::IfTexts<1, Section> = 0>
     static std::vector<std::wstring> GetKeyNames(const CIniFile& ini, const Section& section)
     {
         return GetKeyNames(ini, fittings::TextArgument(section));
     }
 
-    /// Does the same as the operation for wide text.
+    /// Does the same as the overload for wide text.
     template <typename Section, fittings::IfTexts<1, Section> = 0>
     static std::vector<Entry> GetEntries(const CIniFile& ini, const Section& section)
     {
         return GetEntries(ini, fittings::TextArgument(section));
     }
 
-    /// Does the same as the operation for wide text.
+    /// Does the same as the overload for wide text.
     template <typename Path, fittings::IfTexts<1, Path> = 0>
     static bool Save(const CIniFile& ini, const Path& path)
     {
         return Save(ini, fittings::TextArgument(path));
     }
 
-    /// Does the same as the operation for wide text.
+    /// Does the same as the overload for wide text.
     template <typename Path, fittings::IfTexts<1, Path> = 0>
     static bool Refresh(CIniFile& ini, const Path& path)
     {
         return Refresh(ini, fittings::TextArgument(path));
     }
 
-    /// Does the same as the operation for wide text.
+    /// Does the same as the overload for wide text.
     template <typename Path, fittings::IfTexts<1, Path> = 0>
     static bool SaveChanges(const Path& path, const std::vector<Change>& changes)
     {
         return SaveChanges(fittings::TextArgument(path), changes);
     }
 
-    /// Does the same as the operation for wide text. If one text is narrow and none is only wide, it does the same as
-    /// the operation for narrow text, which returns a std::string.
+    /// Calls the overload for narrow text, which returns a std::string, if all texts convert to narrow text and at
+    /// least one of them does not convert to wide text. Otherwise calls the overload for wide text.
     template <typename Section, typename Key, typename Default, fittings::IfMixedTexts<Section, Key, Default> = 0>
     static auto GetString(const Section& section, const Key& key, const Default& defaultValue)
     {
@@ -277,7 +279,7 @@ public:
                              fittings::TextArgument(defaultValue));
     }
 
-    /// Does the same as the operation for wide text or for narrow text.
+    /// Calls the overload that GetString() would call for these texts.
     template <typename Section, typename Key, typename Value, fittings::IfMixedTexts<Section, Key, Value> = 0>
     static bool WriteString(const Section& section, const Key& key, const Value& value)
     {
@@ -289,42 +291,42 @@ public:
                                fittings::TextArgument(value));
     }
 
-    /// Does the same as the operation for wide text.
+    /// Does the same as the overload for wide text.
     template <typename Section, typename Key, fittings::IfTexts<2, Section, Key> = 0>
     static bool GetProfileBool(const Section& section, const Key& key, bool defaultValue)
     {
         return GetProfileBool(fittings::TextArgument(section), fittings::TextArgument(key), defaultValue);
     }
 
-    /// Does the same as the operation for wide text.
+    /// Does the same as the overload for wide text.
     template <typename Section, typename Key, fittings::IfTexts<2, Section, Key> = 0>
     static bool WriteProfileBool(const Section& section, const Key& key, bool value)
     {
         return WriteProfileBool(fittings::TextArgument(section), fittings::TextArgument(key), value);
     }
 
-    /// Does the same as the operation for wide text.
+    /// Does the same as the overload for wide text.
     template <typename Section, typename Key, fittings::IfTexts<2, Section, Key> = 0>
     static int GetProfileInt(const Section& section, const Key& key, int defaultValue)
     {
         return GetProfileInt(fittings::TextArgument(section), fittings::TextArgument(key), defaultValue);
     }
 
-    /// Does the same as the operation for wide text.
+    /// Does the same as the overload for wide text.
     template <typename Section, typename Key, fittings::IfTexts<2, Section, Key> = 0>
     static bool WriteProfileInt(const Section& section, const Key& key, int value)
     {
         return WriteProfileInt(fittings::TextArgument(section), fittings::TextArgument(key), value);
     }
 
-    /// Does the same as the operation for wide text. The texts are section and key.
+    /// Does the same as the overload for wide text. The texts are section and key.
     template <typename... Texts, fittings::IfTexts<2, Texts...> = 0>
     static bool DeleteProfile(const Texts&... texts)
     {
         return DeleteProfile(fittings::TextArgument(texts)...);
     }
 
-    /// Does the same as the operation for wide text.
+    /// Does the same as the overload for wide text.
     template <typename Section, fittings::IfTexts<1, Section> = 0>
     static std::vector<std::wstring> GetKeyNames(const Section& section)
     {
@@ -339,7 +341,7 @@ public:
 ///
 /// While an object lives, each write of its thread to the default store returns true, and that thread's reads return
 /// the new value. Other threads and processes see the new value after the save. Objects may be nested; the destructor
-/// of the outermost object saves. Destroy each object in the thread that made it, in the reverse order.
+/// of the outermost object saves. Destroy each object in the thread that made it, in the reverse order of construction.
 ///
 /// @code
 /// CLocalRegStore::Batch batch;
@@ -351,8 +353,8 @@ class FITTINGS_API CLocalRegStore::Batch
 public:
     Batch();
 
-    /// Saves everything that is not saved yet, if this is the outermost object. Call Save() to learn whether saving
-    /// succeeds.
+    /// Saves everything that is not saved yet, if this is the outermost object. Call Save() first to learn whether
+    /// saving succeeds.
     ~Batch();
 
     Batch(const Batch&) = delete;

@@ -14,17 +14,18 @@ template <typename Text>
 constexpr bool kIsWideText =
     std::is_convertible_v<const Text&, const wchar_t*> || std::is_convertible_v<const Text&, std::wstring>;
 
-/// Whether a type is narrow text: char pointers and literals, std::string, and types that convert to these. The
-/// toolkit's texts are wide; they are narrow too if they convert to `const char*` implicitly.
+/// Whether a type is narrow text: char pointers and literals, std::string, and types that convert to these. A wxString
+/// is wide text; it is narrow text too if it converts to `const char*` implicitly.
 template <typename Text>
 constexpr bool kIsNarrowText =
     std::is_convertible_v<const Text&, const char*> || std::is_convertible_v<const Text&, std::string>;
 
-/// Whether all texts can be narrow and at least one is only narrow.
+/// Whether all types are narrow text and at least one of them is not wide text.
 template <typename... Texts>
 constexpr bool kAreNarrowTexts = (kIsNarrowText<Texts> && ...) && !(kIsWideText<Texts> && ...);
 
-/// Passes a text of any kind to a function that takes a `const wchar_t*`. The argument is valid during that call.
+/// Passes a text of any kind to a function that takes a `const wchar_t*`. The pointer is valid while both the text and
+/// this object exist.
 ///
 /// file_util_ex::ConvertFromUTF8W() converts narrow text, which is UTF-8 whatever the locale. A text ends at its first
 /// null character. A null pointer stays null.
@@ -63,7 +64,7 @@ private:
     const wchar_t* m_text = nullptr;
 };
 
-/// Returns wide text in UTF-8 and narrow text as it is. A null pointer gives an empty text.
+/// Returns wide text in UTF-8, narrow text as it is, and an empty text for a null pointer.
 template <typename Text>
 std::string NarrowText(const Text& text)
 {
@@ -90,8 +91,8 @@ template <typename Taken, typename Text>
 using IfNot =
     std::enable_if_t<(kIsWideText<Text> || kIsNarrowText<Text>)&&!std::is_convertible_v<const Text&, Taken>, int>;
 
-/// Like IfTexts, with an overload for `const char*` too: enables a function for mixed texts and for texts that suit
-/// both overloads.
+/// Like IfTexts, for a function that has an overload for `const char*` too: enables the function for texts of any kind,
+/// unless the texts suit exactly one of the two overloads.
 template <typename... Texts>
 using IfMixedTexts =
     std::enable_if_t<((kIsWideText<Texts> || kIsNarrowText<Texts>)&&...) &&

@@ -13,15 +13,15 @@ namespace {
 
 const char* const kLibraryDomain = "fittings";
 
-// Never destroyed: the returned texts stay valid until the process ends.
+// Returns a copy of @a text that stays valid until the process ends.
 const wchar_t* Intern(const std::wstring& text)
 {
     static auto& texts = *new std::unordered_set<std::wstring>;
     return texts.insert(text).first->c_str();
 }
 
-// Returns the folder of the installed catalogues, found from the path of this library, because the prefix may have been
-// moved. Empty when the path is unknown.
+// Returns the folder of the installed catalogues. Finds it relative to this library, because the installation may have
+// been moved. Returns an empty path when the path of the library is unknown.
 wxString CatalogueFolder()
 {
     Dl_info library;
@@ -34,7 +34,8 @@ wxString CatalogueFolder()
     return wxString((file.parent_path() / FITTINGS_LOCALE_DIR).lexically_normal().c_str(), *wxConvFileName);
 }
 
-// Called at every look-up, because the host may replace its translations at any time.
+// Loads the library's own catalogue if it is not loaded. Called at every look-up, because the host may replace its
+// wxTranslations at any time.
 void LoadOwnCatalogue(wxTranslations& translations)
 {
     if (translations.IsLoaded(kLibraryDomain))

@@ -49,7 +49,7 @@ std::optional<std::wstring> GetSetting(std::wstring_view section, std::wstring_v
                   : DefaultStore::Instance().With([&](const CIniFile& file) { return file.Get(section, key); });
 }
 
-// Returns what @a read returns for the settings that this thread sees.
+// Calls @a read with the settings that this thread sees and returns its result.
 template <typename Read>
 auto WithSettings(const Read& read)
 {

@@ -26,7 +26,7 @@ struct DataDir
 {
     std::mutex mutex;
     std::wstring chosen;
-    std::optional<wxString> applicationName;  ///< The name that the path below is for.
+    std::optional<wxString> applicationName;  ///< The name for which the path was computed.
     std::wstring path;
 };
 
@@ -37,11 +37,11 @@ DataDir& TheDataDir()
     return dataDir;
 }
 
-// Returns the name as one component of a path. Each character that a file name cannot or should not contain becomes an
-// underscore.
+// Returns @a text as a file name. Each character that a file name cannot or should not contain becomes an underscore,
+// and a name that is too long is cut off.
 std::wstring SafeFileName(const std::wstring& text)
 {
-    // A code that is not a Unicode character cannot be read back from the disk.
+    // Replace each code that is not a Unicode character: it could not be read back from the disk.
     std::wstring name = file_util_ex::ConvertFromUTF8W(file_util_ex::ConvertToUTF8(text));
     for (wchar_t& character : name) {
         if (character == L'/' || fittings::IsControl(static_cast<char32_t>(character)))
@@ -69,7 +69,7 @@ std::wstring ApplicationFolderName(const wxString& applicationName)
     return name.empty() ? L"application" : name;
 }
 
-// Returns the user's home folder in the password database; empty if it has none.
+// Returns the user's home folder in the password database, or an empty path if there is none.
 std::string RegisteredHome()
 {
     constexpr std::size_t kMostBytes = std::size_t{1} << 20;
@@ -81,8 +81,8 @@ std::string RegisteredHome()
     return found && found->pw_dir ? found->pw_dir : "";
 }
 
-// Returns the home folder, always as an absolute path. GLib returns HOME as it is. With a relative or empty HOME,
-// settings would be stored in the current folder.
+// Returns the home folder as an absolute path. Ignores a relative or empty HOME, which GLib returns as it is: settings
+// would be stored below the current folder.
 std::wstring Home()
 {
     std::string home = g_get_home_dir();
@@ -94,7 +94,7 @@ std::wstring Home()
 std::wstring BaseDataDir()
 {
     const char* base = g_get_user_data_dir();
-    // The XDG Base Directory Specification says to ignore a relative path; GLib returns it.
+    // Ignore a relative path, as the XDG Base Directory Specification demands. GLib returns it.
     if (g_path_is_absolute(base))
         return file_util_ex::ConvertFromUTF8W(base);
     return file_util_ex::MakePath(Home(), L".local/share");
@@ -128,7 +128,8 @@ void SetUserDataDir(const CStdStr<wchar_t>& path)
 
 std::wstring GetAppFolderPath(const wchar_t* name)
 {
-    // The documents folder is configured in a file in the home folder and is relative to the home folder.
+    // Without an absolute HOME, do not ask for the documents folder: it is configured in a file in the home folder, and
+    // relative to the home folder.
     const bool hasHome = g_path_is_absolute(g_get_home_dir());
     const char* documents = hasHome ? g_get_user_special_dir(G_USER_DIRECTORY_DOCUMENTS) : nullptr;
     const std::wstring base = documents ? file_util_ex::ConvertFromUTF8W(documents) : Home();

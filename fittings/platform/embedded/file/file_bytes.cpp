@@ -26,8 +26,9 @@ namespace {
 constexpr std::chrono::milliseconds kTimeToFillAFile(500);
 constexpr std::chrono::milliseconds kTimeToExchange(500);
 
-// An exchange takes microseconds. Each wait lasts at least this time, even if the deadline is over: a process that was
-// stopped itself would otherwise exchange the file while another one does.
+// Each wait for the lock of an exchange may last this long, even past the deadline. Otherwise a process that was
+// stopped until its deadline had passed would not wait, and could exchange the file at the same time as another
+// process. An exchange takes only microseconds.
 constexpr std::chrono::milliseconds kLeastTimeToExchange(30);
 
 constexpr std::chrono::milliseconds kPause(1);
@@ -38,14 +39,15 @@ constexpr int kForReading = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
 // The largest number of merges in one save. Each merge is caused by another change at the very moment of an exchange.
 constexpr int kMaxMerges = 100;
 
-// Makes two times comparable.
+// Returns the time as a pair, because a timespec has no comparison operators.
 std::pair<time_t, long> Comparable(const timespec& time)
 {
     return {time.tv_sec, time.tv_nsec};
 }
 
-// Returns whether @a now is later than the file's timestamp can resolve, so that a file that changes from now on gets
-// another timestamp. Some file systems store only whole seconds, and some only even seconds.
+// Returns whether a file with the timestamp @a stamp gets another timestamp if it changes after @a now. A timestamp
+// without nanoseconds counts as one with a resolution of two seconds: some file systems store only whole seconds, and
+// some only even seconds.
 bool IsPastTick(const timespec& stamp, const timespec& now)
 {
     return stamp.tv_nsec == 0 ? stamp.tv_sec + 2 <= now.tv_sec : Comparable(stamp) < Comparable(now);
@@ -94,7 +96,8 @@ bool HoldsBytes(const std::string& path, const struct stat& info, std::string_vi
            ReadFileBytes(path, old).result == ReadResult::Read && old == bytes;
 }
 
-// Makes the rename durable. If syncing fails, only a power cut loses it.
+// Makes the renaming of a file in the folder durable. Ignores an error, after which only a power failure can undo the
+// renaming.
 void SyncFolder(const std::string& folder)
 {
     const FileDescriptor descriptor(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
@@ -102,7 +105,7 @@ void SyncFolder(const std::string& folder)
         fsync(descriptor.Get());
 }
 
-// Appends the whole content of the open file.
+// Appends the whole content of the open file to @a bytes.
 FileContent ReadOpenFile(int fd, std::string& bytes)
 {
     timespec now;
@@ -126,9 +129,9 @@ FileContent ReadUntilFilled(const Read& read, std::string& bytes, std::chrono::s
     }
 }
 
-// Returns the content of the displaced file. If another process has already removed that file as a leftover, it was the
-// file that was opened before the exchange: every other file is too new to count as a leftover. Waits for content until
-// @a deadline at the latest.
+// Returns the content of the displaced file. If another process has already removed that file as a leftover, reads the
+// file @a before, which was opened before the exchange: every other file is too new to count as a leftover. If the file
+// is empty for now, waits for content until @a deadline at the latest.
 std::optional<std::string> ReadDisplaced(const StagedFile& staged, int before,
                                          std::chrono::steady_clock::time_point deadline)
 {
@@ -150,7 +153,7 @@ struct Target
     std::optional<struct stat> old;  ///< None when there is no file.
 };
 
-// Returns nothing when the file cannot be replaced.
+// Follows links, and creates the folder if there is no file. Returns nothing when the file cannot be replaced.
 std::optional<Target> PrepareTarget(const std::string& path)
 {
     const auto target = FollowLinks(path);
@@ -158,7 +161,7 @@ std::optional<Target> PrepareTarget(const std::string& path)
         return std::nullopt;
     struct stat old;
     if (lstat(target->c_str(), &old) == 0) {
-        // Renaming over a folder fails anyway, but renaming would replace a device or a pipe.
+        // Replace only regular files: renaming would also replace a device or a pipe.
         if (!S_ISREG(old.st_mode))
             return std::nullopt;
         return Target{*target, old};
@@ -179,8 +182,8 @@ UpdateResult ResultOf(PlaceResult placed)
 struct Exchanged
 {
     StagedFile& staged;
-    int before;                 ///< The target as it was opened before the exchange.
-    std::string_view expected;  ///< What the target had to contain.
+    int before;                 ///< The file that was the target before the exchange, open.
+    std::string_view expected;  ///< The content that the target should have had.
     std::string_view put;
 };
 
@@ -188,7 +191,7 @@ struct Exchanged
 struct Outcome
 {
     UpdateResult result;
-    bool isUndone = false;  ///< Our file is no longer at the target, and nobody else has seen it.
+    bool isUndone = false;  ///< Our file is no longer at the target, and no other process has changed it.
 };
 
 // Undoes an exchange whose displaced file cannot be merged.
@@ -197,7 +200,7 @@ Outcome Undo(StagedFile& staged)
     const PlaceResult undone = staged.PutBack();
     if (undone != PlaceResult::Done)
         staged.SetAside();
-    // If the exchange cannot be undone, our file stays.
+    // If the exchange cannot be undone, our file stays at the target and counts as saved.
     return {undone == PlaceResult::Failed ? UpdateResult::Saved : UpdateResult::Outdated, undone == PlaceResult::Done};
 }
 
@@ -206,7 +209,7 @@ Outcome Undo(StagedFile& staged)
 Outcome MergeDisplaced(const Target& target, const Exchanged& done, const FileUpdate& update, int merges = 0)
 {
     const auto now = std::chrono::steady_clock::now();
-    // If the content before was empty, the write has already waited for new content.
+    // Do not wait again if the expected content is empty: the write has already waited for new content.
     const auto displaced = ReadDisplaced(
         done.staged, done.before, done.expected.empty() ? now : std::min(now + kTimeToFillAFile, update.deadline));
     if (displaced && *displaced == done.expected)
@@ -226,8 +229,8 @@ Outcome MergeDisplaced(const Target& target, const Exchanged& done, const FileUp
     return {outcome.result};
 }
 
-// A lock of the folder: only the holder of the lock exchanges a file in the folder. The lock is held for the
-// microseconds between the last check of the file and the exchange. Unlike a lock file, this lock cannot be removed.
+// A lock of the folder, held for the microseconds between the last check of a file in the folder and its exchange. The
+// lock is advisory: a caller that cannot get it continues without it. Unlike a lock file, this lock cannot be removed.
 class ExchangeLock
 {
 public:
@@ -244,7 +247,7 @@ public:
     ExchangeLock(const ExchangeLock&) = delete;
     ExchangeLock& operator=(const ExchangeLock&) = delete;
 
-    // Waits for the lock while the file is unchanged. Gives up after a short time, because the holder may be stopped.
+    // Waits for the lock while @a isAsItWas returns true. Gives up at the deadline, because the holder may be stopped.
     // The next waits are then shorter, until one of them gets the lock.
     void WaitWhile(const std::function<bool()>& isAsItWas, std::chrono::steady_clock::time_point deadline)
     {

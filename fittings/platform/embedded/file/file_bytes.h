@@ -12,7 +12,8 @@
 
 struct stat;
 
-/// Reads whole files and replaces them in one step. Paths are in the system's encoding.
+// Reading and atomic replacement of whole files. Paths are in the system's encoding. Private to the library.
+
 namespace fittings {
 
 /// Identifies one state of a file.
@@ -27,11 +28,13 @@ struct FileIdentity
     explicit FileIdentity(const struct stat& info);
     bool operator==(const FileIdentity& other) const;
 
-    /// Returns whether both are states of the same file with the same content. The file may have been renamed.
+    /// Returns whether both are states of the same file with the same content, judged by its size and modification
+    /// time. The file may have been renamed.
     bool HasContentOf(const FileIdentity& other) const;
 };
 
-/// Returns the state of the file at @a path and follows links. Returns nothing when there is no file; errno tells why.
+/// Follows links and returns the state of the file at @a path. If there is no file, returns nothing and leaves the
+/// reason in errno.
 std::optional<FileIdentity> IdentityOf(const std::string& path);
 
 enum class ReadResult { Read, Missing, Failed };
@@ -40,8 +43,8 @@ struct FileContent
 {
     ReadResult result;
     std::optional<FileIdentity> identity;
-    /// Whether every later change of the file changes its identity. False when the file was changed within the current
-    /// tick of the clock that sets file timestamps.
+    /// Whether every later change of the file changes its identity. False when the file was changed so recently that
+    /// another change could leave it with the same timestamp.
     bool isSettled = false;
 
     /// Returns whether the file is empty and was changed less than half a second ago: a program that writes files in
@@ -49,7 +52,7 @@ struct FileContent
     bool IsEmptyForNow() const;
 };
 
-/// Appends the bytes of the file at @a path to @a bytes. A file of more than kMaxFileSize bytes fails.
+/// Appends the bytes of the file at @a path to @a bytes. Fails if the file has more than kMaxFileSize bytes.
 FileContent ReadFileBytes(const std::string& path, std::string& bytes);
 
 /// Replaces @a bytes with the content of the file, read as ReadFileBytes() does. If the file is empty for now, waits
@@ -60,23 +63,23 @@ FileContent ReadFilledBytes(const std::string& path, std::string& bytes,
 /// Larger files are neither read nor written: they are not settings files, and their keys would need too much memory.
 inline constexpr off_t kMaxFileSize = off_t{64} << 20;
 
-/// Writes @a bytes to the file at @a path in place of its content. Follows links and makes a missing folder.
+/// Replaces the content of the file at @a path with @a bytes. Follows links, and creates the folder if it is missing.
 ///
-/// The file keeps its mode; a new one has 0600. A file that already has the bytes is not touched. Returns false on any
-/// error; the old file is then unchanged.
+/// The file keeps its mode and, if possible, its owner; a new file has mode 0600. A file that already contains the
+/// bytes is not written. Returns false on any error; the old file is then unchanged.
 bool ReplaceFileBytes(const std::string& path, std::string_view bytes);
 
 enum class UpdateResult { Saved, Failed, Outdated };
 
-/// The content that a reader found in a file, and the new content.
+/// The content that a reader found in a file, and the new content that will replace it.
 struct FileUpdate
 {
     const FileContent& found;
     std::string_view foundBytes;
     std::string newBytes;
 
-    /// Returns the merged content for a file that held @a displaced, and not @a expected, when @a put replaced it.
-    /// Returns nothing when @a displaced is not a settings file.
+    /// Returns the merged content for a file that contained @a displaced instead of @a expected when @a put replaced
+    /// it. Returns nothing when @a displaced is not a settings file.
     using Merge = std::function<std::optional<std::string>(std::string_view expected, std::string_view put,
                                                            std::string_view displaced)>;
     Merge merge;
@@ -85,27 +88,28 @@ struct FileUpdate
     std::chrono::steady_clock::time_point deadline;
 };
 
-/// Like ReplaceFileBytes(), but keeps every change that others have stored since the file was read.
+/// Like ReplaceFileBytes(), but keeps every change that other processes have stored since the file was read.
 ///
-/// Returns Outdated and does not touch the file if the file has changed since it was read. A change between this check
-/// and the exchange of the two files is merged. If it cannot be merged, the function undoes the exchange and returns
-/// Outdated. If other processes prevent that too, the displaced file is kept under a name from OtherName(). On file
-/// systems that cannot exchange two files in one step, such as NFS, a change within those few microseconds can be lost.
+/// If the file has changed since it was read, returns Outdated and does not touch the file. Otherwise exchanges the
+/// file and a new one. A change between the check and the exchange is merged. If it cannot be merged, the function
+/// undoes the exchange and returns Outdated. If another process prevents the undoing, the displaced file is kept under
+/// a name from OtherName(). On file systems that cannot exchange two files atomically, such as NFS, a change in the few
+/// microseconds after the check can be lost.
 UpdateResult UpdateFileBytes(const std::string& path, const FileUpdate& update);
 
 /// Gives the file at @a path a second name that does not exist yet: its own name followed by ".unreadable", or
 /// ".unreadable.2" and so on. A file that has such a name already keeps it. Follows links. Returns the second name, or
-/// an empty text on any error.
+/// an empty string on any error.
 std::string KeepUnderOtherName(const std::string& path);
 
 /// Returns the second name that KeepUnderOtherName() tries as number @a number, from 1 on.
 std::string OtherName(const std::string& path, int number);
 
-/// Second names with numbers below this one are tried.
+/// Only second names with numbers below this one are tried.
 inline constexpr int kMaxOtherNames = 1000;
 
-/// If root has made the open file in the folder of another user, makes that user the owner of the file. Otherwise that
-/// user could not use the file. Only for a file that this process has just made.
+/// If this process runs as root and the folder belongs to another user, makes that user the owner of the open file.
+/// Otherwise that user could not use the file. Only for a file that this process has just made.
 void GiveToOwnerOfFolder(int fd, const std::string& folder);
 
 /// Returns the folder that the file at @a path is in.

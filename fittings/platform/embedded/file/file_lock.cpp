@@ -20,8 +20,8 @@ constexpr std::chrono::milliseconds kPause(1);
 // process that was stopped while it had the turn would block all others.
 constexpr std::chrono::milliseconds kTimeToUseTheTurn(25);
 
-// The lock itself, and the turn to get it next. Without the turn, a process that stores in a loop would take the lock
-// again before the waiting processes try.
+// Bytes of the lock file that are locked: one for the lock itself, and one for the turn to take it next. Without the
+// turn, a process that stores in a loop would take the lock again before the waiting processes try.
 constexpr off_t kLockByte = 0;
 constexpr off_t kTurnByte = 1;
 

@@ -15,12 +15,12 @@ struct LockWait
 {
     using Clock = std::chrono::steady_clock;
 
-    /// The state of the lock file when the last wait for it failed. Until the state changes, the holder counts as
-    /// stuck.
+    /// The state of the lock file when the last wait for the lock failed; none after a wait that succeeded. Until the
+    /// state changes, the holder counts as stuck.
     using Stuck = std::optional<FileIdentity>;
 
-    std::chrono::milliseconds longest;  ///< The wait ends when no process has got the lock for this long.
-    Clock::time_point deadline;         ///< Moved on when another process gets the lock, up to @a end.
+    std::chrono::milliseconds longest;  ///< The wait ends when no process has taken the lock for this long.
+    Clock::time_point deadline;         ///< Postponed when another process takes the lock, but not beyond @a end.
     Clock::time_point end;
     Stuck& stuck;
 };
@@ -29,7 +29,7 @@ struct LockWait
 ///
 /// The lock is advisory: a caller that cannot get it continues without it. The lock file is made when missing and never
 /// removed, because another process may be waiting for it. A process that gets the lock updates the timestamp of the
-/// lock file. The new timestamp shows waiting processes that no holder is stuck.
+/// lock file, which shows the waiting processes that the holder is not stuck.
 class FileLock
 {
 public:
@@ -39,8 +39,7 @@ public:
     FileLock(const FileLock&) = delete;
     FileLock& operator=(const FileLock&) = delete;
 
-    /// Returns whether this object has the lock. The result is also false if the lock file cannot be opened or is a
-    /// link.
+    /// Returns whether this object holds the lock. It does not if the lock file cannot be opened or is a link.
     bool IsHeld() const { return m_isHeld; }
 
 private:

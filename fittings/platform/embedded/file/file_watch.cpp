@@ -24,7 +24,8 @@ bool FileWatch::IsUnchanged(const std::string& path, const FileIdentity& known)
     return true;
 }
 
-// Some file systems do not change the timestamps of a file that is removed or replaced, so its names are counted.
+// Also checks that the file still has a name: some file systems do not change the timestamps of a file that is removed
+// or replaced.
 bool FileWatch::IsOpenIn(const FileIdentity& state) const
 {
     struct stat info;

@@ -11,22 +11,23 @@
 
 namespace fittings {
 
-/// Tells whether a file has changed. Most calls ask the open file and not its path, which takes a third of the time.
+/// Reports whether a file has changed. Most calls examine the open file instead of looking up its path, which would
+/// take three times as long.
 class FileWatch
 {
 public:
     /// Whether @a path leads to a file in the state @a known. Pass the same path in each call.
     ///
-    /// A file that was written, replaced, renamed or removed is noticed at once. An open file does not show that its
-    /// path leads elsewhere, because a folder above was moved, a link was changed or a file system was mounted. This is
-    /// noticed with the next tick of the system's clock, at most 10 ms later.
+    /// Notices at once when the file was written, replaced, renamed or removed. When the path leads elsewhere because a
+    /// folder above was moved, a link was changed or a file system was mounted, the open file does not show it. Notices
+    /// this at the next tick of the system's clock, at most 10 ms later.
     bool IsUnchanged(const std::string& path, const FileIdentity& known);
 
 private:
     bool IsOpenIn(const FileIdentity& state) const;
 
     std::unique_ptr<const FileDescriptor> m_file;  ///< Null until the path has led to the known state once.
-    timespec m_tick = {};                          ///< The time at which the path was followed last.
+    timespec m_tick = {};                          ///< The tick at which the path was last looked up.
 };
 
 }  // namespace fittings

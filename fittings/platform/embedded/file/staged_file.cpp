@@ -73,7 +73,7 @@ void RemoveLeftovers(const std::string& folder)
     g_dir_close(dir);
 }
 
-// Returns the state of the file with this name, and does not follow a link.
+// Like IdentityOf(), but for a link returns the state of the link itself.
 std::optional<FileIdentity> IdentityOfName(const std::string& path)
 {
     struct stat info;
@@ -153,8 +153,8 @@ PlaceResult StagedFile::Exchange()
     return result;
 }
 
-// If the displaced file is not the one that was put at the target, another process has stored it meanwhile. It is then
-// put back in the same way.
+// If an exchange displaces another file than the one that was last put at the target, another process has stored that
+// file meanwhile. The next exchange then puts that file back.
 PlaceResult StagedFile::PutBack()
 {
     const auto ours = m_placed;

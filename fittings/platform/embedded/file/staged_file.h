@@ -15,7 +15,7 @@ enum class PlaceResult {
     Done,
     Failed,
     NotAsExpected,  ///< A file exists that was not expected, or an expected one is missing.
-    Unsupported,    ///< The file system cannot do this in one step.
+    Unsupported,    ///< The file system cannot do this atomically.
 };
 
 /// New content on the disk beside the file that it will replace, under a temporary name. The destructor removes the
@@ -23,8 +23,9 @@ enum class PlaceResult {
 class StagedFile
 {
 public:
-    /// Writes @a bytes for the file at @a target, which must not be a link. @a old has that file's mode and owner; it
-    /// is empty when there is no file. Removes the temporary files that killed processes have left in the folder.
+    /// Writes @a bytes to a new file beside @a target, which must not be a link. The new file takes over the owner and
+    /// mode in @a old, the state of the file at @a target; none when there is no file. Also removes the temporary files
+    /// that killed processes have left in the folder.
     StagedFile(std::string target, std::string_view bytes, const std::optional<struct stat>& old);
     ~StagedFile();
     StagedFile(const StagedFile&) = delete;
@@ -33,7 +34,7 @@ public:
     /// Returns false when the bytes could not be written.
     bool IsWritten() const { return m_isWritten; }
 
-    /// Replaces the target, whether there is a file or not.
+    /// Puts the new file at the target, whether there is a file or not.
     PlaceResult Replace();
 
     /// Puts the new file at the target, where no file may exist.
@@ -47,7 +48,8 @@ public:
     /// name.
     PlaceResult PutBack();
 
-    /// Renames the displaced file to a name that a user notices, so that it is not removed. Ignores errors.
+    /// Renames the displaced file to a name from OtherName(), which a user notices. The destructor then does not remove
+    /// the file. Ignores errors.
     void SetAside();
 
     /// Returns the temporary name.

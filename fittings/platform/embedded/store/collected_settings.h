@@ -31,14 +31,14 @@ public:
     /// Returns the collected change of a key, or null.
     const SettingsChange* Find(std::wstring_view section, std::wstring_view key) const;
 
-    /// Returns the collected changes, in the order of the first change of each key.
+    /// Returns the collected changes, in the order of the first change of each key or section.
     const std::vector<SettingsChange>& Changes() const { return m_changes; }
 
     /// Returns a number that changes whenever Changes() does. The number is never 0 and differs from those of earlier
     /// objects.
     std::uint64_t Revision() const { return m_revision; }
 
-    /// Returns the default store with the collected changes.
+    /// Returns the content of the default store with the collected changes made in it.
     const CIniFile& Preview();
 
     /// Saves the changes. Returns false when they could not be saved; they then stay collected.

@@ -19,7 +19,7 @@ public:
     /// Returns the path of the file in the current user data directory.
     std::string Path();
 
-    /// Returns what @a read returns for the stored settings.
+    /// Calls @a read with the stored settings and returns its result.
     template <typename Read>
     auto With(const Read& read)
     {

@@ -90,7 +90,7 @@ bool CIniFile::IsFresh()
     return m_content.result == fittings::ReadResult::Missing && !fittings::IdentityOf(m_path) && errno == ENOENT;
 }
 
-// Follows the path, so that no write relies on a file that is no longer there.
+// Looks the path up instead of asking the watch, which may notice late that the path leads elsewhere.
 bool CIniFile::IsCurrent() const
 {
     return fittings::IdentityOf(m_path) == m_content.identity;
@@ -137,8 +137,8 @@ fittings::UpdateResult CIniFile::Update(std::chrono::steady_clock::time_point de
     return fittings::UpdateFileBytes(m_path, {m_content, m_text->Original(), std::move(changed), merge, deadline});
 }
 
-// Keeps the unreadable file under another name, and puts a new file in its place. If another process puts a file there
-// meanwhile, that file stays.
+// Keeps the unreadable file under another name, and puts a new file in its place. If another process puts a file at
+// @a path meanwhile, that file stays.
 fittings::UpdateResult CIniFile::ReplaceUnreadable(const std::string& path,
                                                    std::chrono::steady_clock::time_point deadline) const
 {
@@ -155,7 +155,7 @@ fittings::UpdateResult CIniFile::ReplaceUnreadable(const std::string& path,
     const std::string other = fittings::KeepUnderOtherName(path);
     if (other.empty())
         return UpdateResult::Failed;
-    // The second name has changed the identity.
+    // Read the identity again: adding the second name has changed it.
     fittings::FileContent found = m_content;
     found.identity = fittings::IdentityOf(other);
     const auto keepDisplaced = [](std::string_view, std::string_view, std::string_view) { return std::nullopt; };
@@ -282,10 +282,10 @@ std::vector<IniText::Key> CIniFile::WithEarlyKeys(const std::vector<IniText::Key
     return all;
 }
 
-// Merges three ways: applies the changes from @a expected to @a put to the content @a displaced. If both changed a key,
-// the change of this object counts. Otherwise the value in @a displaced counts, because it is newer than the other
-// content of @a put. Only a change of this object removes a key: if a key is missing elsewhere, another process may not
-// have merged it yet.
+// Merges three ways: makes the changes that lead from @a expected to @a put in the content @a displaced. For a key that
+// has changed in @a displaced too, a change of this object counts. Otherwise the value in @a displaced counts, because
+// it is newer than the rest of @a put. Only a change of this object removes a key: a key that is merely missing in
+// @a put may be one that another process has not merged yet.
 std::optional<std::string> CIniFile::Merged(std::string_view expected, std::string_view put,
                                             std::string_view displaced) const
 {

@@ -15,7 +15,7 @@
 #include <fittings/platform/embedded/text/ini_text.h>
 #include <fittings/platform/local_reg_store.h>
 
-/// An INI file in wide text.
+/// An INI file whose settings are read and changed as wide text.
 ///
 /// Saving writes the text that was read, with only the changed keys changed. Every other byte stays as it was.
 class CIniFile
@@ -24,7 +24,7 @@ public:
     using Reader = std::function<decltype(fittings::ReadFileBytes)>;
 
     /// Replaces the content with that of the file. Returns false when the file could not be read, or when its bytes
-    /// have no settings and are not readable text.
+    /// contain no settings and are not readable text.
     bool Load(const std::string& path, const Reader& read = fittings::ReadFileBytes);
 
     /// Loads the file and applies the changes to the loaded content, unless the file has certainly not changed since
@@ -33,17 +33,17 @@ public:
     bool Refresh(const std::string& path, const std::vector<fittings::SettingsChange>& changes = {},
                  std::uint64_t revision = 0);
 
-    /// Does the same for a path in wide text. The path of the last call is not converted again.
+    /// Does the same for a path in wide text. Does not convert the path again if it is that of the last call.
     bool Refresh(std::wstring_view path);
 
-    /// Replaces the content with @a text. Returns false when it has no settings and is not readable text.
+    /// Replaces the content with @a text. Returns false when @a text contains no settings and is not readable.
     bool Parse(std::string text);
 
-    /// Writes the file if its bytes change.
+    /// Writes the file if its bytes change. Returns false on any error.
     bool Save(const std::string& path) const;
 
-    /// Writes the file that was loaded last if its bytes change, unless the file has changed since. Changes that others
-    /// store at the same time are kept. Waits for other processes until @a deadline at the latest.
+    /// Writes the file that was loaded last if its bytes change, unless the file has changed on the disk since. Changes
+    /// that other processes store at the same time are kept. Waits for other processes until @a deadline at the latest.
     fittings::UpdateResult Update(std::chrono::steady_clock::time_point deadline) const;
 
     std::optional<std::wstring> Get(std::wstring_view section, std::wstring_view key) const;
@@ -52,7 +52,7 @@ public:
     bool Has(std::wstring_view section, std::wstring_view key, std::optional<std::wstring_view> text) const;
 
     void Set(std::wstring_view section, std::wstring_view key, std::wstring_view value);
-    /// In the section with the empty name, removes the key before the first section too.
+    /// Removes a key. For the section with the empty name, also removes the key of that name before the first section.
     void Delete(std::wstring_view section, std::wstring_view key);
 
     using Change = fittings::SettingsChange;
@@ -73,7 +73,7 @@ public:
     /// section come first.
     std::vector<fittings::SettingsEntry> Entries(std::wstring_view section) const;
 
-    /// Returns whether the file is still in the state whose content the object has. False when Refresh() kept an
+    /// Returns whether the file is still in the state whose content this object contains. False when Refresh() kept an
     /// earlier content because the file was empty.
     bool IsCurrent() const;
 
@@ -99,7 +99,7 @@ private:
     fittings::FileWatch m_watch;
     std::uint64_t m_revision = 0;
 
-    /// The path of the last Refresh() for wide text.
+    /// The path of the last Refresh() with a wide path.
     struct
     {
         std::wstring path;

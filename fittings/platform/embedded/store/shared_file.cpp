@@ -22,8 +22,8 @@ constexpr std::chrono::seconds kTimeInABusyQueue(10);
 // all waits together stay below two seconds.
 constexpr std::chrono::milliseconds kTimeBeyondTheLock(100);
 
-// A save needs another attempt each time that another process saves first. It tries so often at least, and until it may
-// no longer wait.
+// A save is attempted again each time that another process saves first. It fails after this many attempts, but not
+// before the deadline of the wait.
 constexpr int kMaxAttempts = 100;
 
 }  // namespace
@@ -42,7 +42,7 @@ SharedFile& SharedFile::At(const std::string& path)
 
 bool SharedFile::Store(const std::vector<SettingsChange>& changes)
 {
-    // The wait for another thread counts too.
+    // Read the clock before locking the mutex: the wait for another thread counts too.
     const Clock::time_point start = Clock::now();
     if (!file_util_ex::Mkdir(file_util_ex::ConvertFromUTF8W(FolderOf(m_path))))
         return false;

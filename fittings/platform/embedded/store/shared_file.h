@@ -14,7 +14,8 @@ namespace fittings {
 class SharedFile
 {
 public:
-    /// Returns the object for the file at @a path. The first call makes it, and it is never destroyed.
+    /// Returns the object for the file at @a path. The first call for a path creates the object, which is never
+    /// destroyed.
     static SharedFile& At(const std::string& path);
 
     explicit SharedFile(std::string path) : m_path(std::move(path)) {}

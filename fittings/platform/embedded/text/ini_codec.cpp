@@ -160,7 +160,7 @@ void AppendQuoted(std::string& out, char32_t code)
         AppendUtf8(out, code);
 }
 
-// Reads what follows a backslash.
+// Reads an escape at the beginning of @a text, which follows the backslash.
 std::optional<Decoded> ReadEscape(std::string_view text)
 {
     if (text.empty())
@@ -184,7 +184,7 @@ bool IsQuoted(std::string_view value)
     return value.size() >= 2 && value.front() == '"' && value.back() == '"';
 }
 
-// Returns the text between the quotes of a value; nothing if it is not well formed.
+// Decodes @a inner, the part of a value between its quotes. Returns nothing if it is not well formed.
 std::optional<std::wstring> Unquoted(std::string_view inner)
 {
     std::wstring text;

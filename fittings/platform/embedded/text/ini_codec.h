@@ -4,10 +4,11 @@
 #include <string>
 #include <string_view>
 
-/// Converts text to and from its form in an INI file.
-///
-/// In wide text, a byte that is not UTF-8 is the character U+DC00 plus the byte, so that wide and narrow text both keep
-/// it.
+// Conversion of text to and from its form in an INI file. Private to the library.
+//
+// In wide text, a byte that is not UTF-8 is represented by the code U+DC00 plus the byte, so that a conversion to wide
+// text and back keeps it.
+
 namespace fittings {
 
 /// Returns @a text as the name of a section or key. Characters that a name cannot contain are percent-encoded; the
@@ -32,8 +33,8 @@ bool DecodesTo(std::string_view value, std::wstring_view text);
 
 std::wstring NarrowToWide(std::string_view text);
 
-/// Reverses NarrowToWide(). A character without a UTF-8 form, such as the surrogate U+D800, gets the bytes that the
-/// scheme of UTF-8 gives it.
+/// Reverses NarrowToWide(). A code that is not a Unicode character, such as the surrogate U+D800, is encoded by the
+/// scheme of UTF-8 all the same.
 std::string WideToNarrow(std::wstring_view text);
 
 }  // namespace fittings

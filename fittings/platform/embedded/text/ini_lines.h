@@ -4,7 +4,8 @@
 #include <cstddef>
 #include <string_view>
 
-/// The grammar of an INI file.
+// The grammar of an INI file. Private to the library.
+
 namespace fittings {
 
 enum class IniLineKind {

@@ -237,7 +237,7 @@ void IniText::AppendNewKeys(std::string& text, const Section& section) const
     for (const Entry& entry : section.entries) {
         if (entry.line != kNone || entry.state != State::Set)
             continue;
-        // The last line of a file may have no line end.
+        // Complete the last line of the file, which may have no line end.
         if (text.back() != '\n')
             text += LineEnd();
         text.append(entry.name).append("=").append(entry.value).append(LineEnd());
@@ -264,7 +264,7 @@ void IniText::AppendNewSections(std::string& text) const
     }
 }
 
-// Returns the line end of the first line.
+// Returns the line end of the first line, or "\n" if the text has no line end.
 const char* IniText::LineEnd() const
 {
     const std::size_t first = m_text.find('\n');

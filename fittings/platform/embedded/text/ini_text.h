@@ -16,8 +16,8 @@ namespace fittings {
 /// The text of an INI file, an index of its sections and keys, and the changes made in it.
 ///
 /// Names and values are as EncodeName() and EncodeValue() write them. A name that a person has written in another way
-/// is found by its meaning. If several lines have the same key, the last one counts. A line whose section and key are
-/// as EncodeName() writes them takes precedence over the others.
+/// is found by its meaning. If several lines have the same key, the last one counts, but lines whose section and key
+/// are as EncodeName() writes them take precedence over the others.
 class IniText
 {
 public:
@@ -28,7 +28,8 @@ public:
     IniText(const IniText&) = delete;
     IniText& operator=(const IniText&) = delete;
 
-    /// Returns whether any part of the text can be meant as settings.
+    /// Returns whether the text can be a settings file: it has a section, or it contains no null character and is not
+    /// UTF-16.
     bool IsSettings() const { return m_isSettings; }
 
     bool IsChanged() const { return m_isChanged; }
@@ -38,8 +39,9 @@ public:
 
     /// Returns the text with the changes.
     ///
-    /// A value is replaced in its line. New keys follow the last key of their section. New sections follow a blank line
-    /// at the end. Every other byte stays as it is, including the comments in a removed section.
+    /// A value is replaced in its line. The lines of removed keys and sections are left out. New keys follow the last
+    /// key of their section. New sections are appended at the end, each after a blank line. Every other byte stays as
+    /// it is, including the comments in a removed section.
     std::string Changed() const;
 
     std::optional<std::string_view> Find(std::string_view section, std::string_view key) const;
@@ -83,7 +85,7 @@ private:
     {
         std::string_view name;
         std::size_t line = kNone;  ///< The line that counts. kNone: the key is new.
-        bool hasOwnName = false;   ///< The line has section and key as EncodeName() writes them.
+        bool hasOwnName = false;   ///< True if the line has section and key as EncodeName() writes them.
         State state = State::AsRead;
         std::string value = {};  ///< The value that was set.
     };
@@ -127,8 +129,8 @@ private:
 
     const std::string m_text;
     std::deque<std::string> m_names;  ///< Names that are not in the text.
-    std::deque<Section> m_sections;   ///< Removed ones included. The first has the early keys.
-    std::unordered_map<std::string_view, std::size_t> m_sectionIndices;  ///< Removed sections are not in it.
+    std::deque<Section> m_sections;   ///< Includes removed sections. The first one has the early keys.
+    std::unordered_map<std::string_view, std::size_t> m_sectionIndices;  ///< Without removed sections.
     std::vector<Line> m_lines;
     bool m_isSettings = false;
     bool m_isChanged = false;

@@ -23,7 +23,7 @@ constexpr bool IsControl(char32_t code)
 struct DecodedUtf8
 {
     std::optional<char32_t> code;  ///< None if no valid UTF-8 character begins here.
-    std::size_t bytes;             ///< How many bytes it takes.
+    std::size_t bytes;             ///< The number of bytes that the character or the invalid sequence takes.
 };
 
 /// Does the work of DecodeUtf8() for a character that is not ASCII.
