@@ -128,7 +128,7 @@ TEST(PathWithNul, NamesNoFolder)
     EXPECT_FALSE(std::filesystem::exists(folder / "new"));
 }
 
-// The process's mask may reduce the mode 0700.
+// The mask of the process may reduce the mode 0700, so these tests set it to 0.
 class Mkdir : public testing::Test
 {
 protected:
@@ -247,7 +247,7 @@ INSTANTIATE_TEST_SUITE_P(, NoCharacter,
                          testing::Values(0xD800L, 0xDBFFL, 0xDC00L, 0xDFFFL, 0x110000L, 0x7FFFFFFFL, -1L,
                                          -2147483647L - 1));
 
-// Wide text has no surrogate pairs here: a surrogate alone is not a character.
+// A wide character is a whole character here, so the two halves of a surrogate pair are two invalid characters.
 TEST(SurrogatePair, BecomesTwoReplacementCharacters)
 {
     EXPECT_EQ(ConvertToUTF8(std::wstring{static_cast<wchar_t>(0xD83D), static_cast<wchar_t>(0xDCD2)}),

@@ -95,7 +95,7 @@ TEST_F(Translations, AreNullOfNull)
     EXPECT_EQ(Look(nullptr), nullptr);
 }
 
-// A catalogue keeps its header under the empty key.
+// A catalogue keeps its header under the empty key, but the translation of the empty text is empty.
 TEST_F(Translations, AreEmptyOfTheEmptyKey)
 {
     EXPECT_STREQ(Look(L""), L"");
@@ -156,7 +156,7 @@ TEST_F(Translations, LeaveACatalogueThatTheHostLoadedAsItIs)
     EXPECT_STREQ(Look(kFolderText), L"Aktueller Ordner:");
 }
 
-// The toolkit first asks the catalogue that was loaded last.
+// The toolkit first searches the catalogue that was loaded last.
 TEST_F(Translations, ComeFromTheHostsCatalogueWhereItWasLoadedLast)
 {
     wxTranslations* const translations = SetLanguage("ja");

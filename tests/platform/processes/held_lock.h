@@ -20,7 +20,7 @@ inline struct flock BytesOfLock(off_t begin, off_t count)
     return lock;
 }
 
-/// Returns whether a process waits to get the lock next.
+/// Returns whether a process is next in the queue for the lock.
 inline bool IsTurnTaken(const std::string& path)
 {
     const int file = open(path.c_str(), O_RDWR | O_CLOEXEC);

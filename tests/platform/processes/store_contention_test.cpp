@@ -52,7 +52,7 @@ void SlowDisk(milliseconds perSync)
     g_watchedCalls.beforeSync = [perSync] { std::this_thread::sleep_for(perSync); };
 }
 
-// Works as one of several processes: stores an increasing counter, and a new key each time.
+// Does the work of one of several processes: in each update, stores an increased counter and a new key.
 void StoreCounterAndKeys(int process, int updates)
 {
     for (int update = 0; update < updates; ++update) {
@@ -191,7 +191,7 @@ TEST(AStoppedHolderOfTheLock, DelaysEightThreadsByTwoSecondsTogether)
     waitpid(holder, nullptr, 0);
 }
 
-// The file changes during each attempt to save: the write starts again, but does not wait for the lock again.
+// The file changes during each attempt to save: the write starts again each time, but waits for the lock only once.
 TEST(AStoppedHolderOfTheLock, DelaysAWriteOnceWhileTheFileIsEmptiedAllTheTime)
 {
     const InMemory inMemory;
@@ -215,7 +215,8 @@ TEST(AStoppedHolderOfTheLock, DelaysAWriteOnceWhileTheFileIsEmptiedAllTheTime)
     EXPECT_EQ(ReadFile(path), "[s]\na=1\nk=1\n");
 }
 
-// A process that saves without the lock does not show that the holder of the lock is running again.
+// A process that saves without the lock does not show that the holder of the lock is running again, so later writes do
+// not wait for the lock.
 TEST(AStoppedHolderOfTheLock, DelaysAProcessOnceWhileAnotherOneStoresTheSameWay)
 {
     const InMemory inMemory;
@@ -232,7 +233,8 @@ TEST(AStoppedHolderOfTheLock, DelaysAProcessOnceWhileAnotherOneStoresTheSameWay)
     EXPECT_EQ(ReadFile(data / "settings.ini"), "[s]\nk=9\ntheirs=8\n");
 }
 
-// The process is stopped in the microseconds in which it exchanges the file.
+// A process can be stopped in the microseconds in which it holds the folder's lock to exchange the file. Here the test
+// itself holds the lock.
 TEST(AStoppedHolderOfTheFoldersLock, DelaysAllWritesOfAProcessByHalfASecondTogether)
 {
     const InMemory inMemory;
@@ -361,7 +363,7 @@ TEST(ALockFileThatCannotBeOpened, LosesNothing)
     const TempUserData data;
     WriteFile(data / "settings.ini.lock", "");
     ASSERT_EQ(chmod((data / "settings.ini.lock").c_str(), 0), 0);
-    // A lock file that belongs to root, in a user's folder. A program that was run with sudo leaves such a file.
+    // The lock file belongs to root, and the folder to a user, as after a program was run with sudo.
     if (geteuid() == 0) {
         ASSERT_EQ(chown(data.Path().c_str(), 65534, 65534), 0);
     }

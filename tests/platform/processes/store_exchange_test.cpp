@@ -25,7 +25,7 @@
 
 namespace {
 
-/// Runs one action before each exchange, in turn.
+/// Acts as other processes: runs one of the given actions before each exchange, in turn.
 class Others
 {
 public:
@@ -141,7 +141,7 @@ TEST_F(AnExchange, WaitsForAnEditorThatHasJustEmptiedTheFile)
     EXPECT_EQ(Now(), "[s]\na=2\nk=new\n");
 }
 
-// A file that is not text cannot be merged: it is put back, and then set aside as any unreadable file.
+// A file that is not text cannot be merged: it is put back, and then set aside like any unreadable file.
 TEST_F(AnExchange, PutsBackWhatIsNoText)
 {
     WriteFile(m_path, "[s]\na=1\nk=old\n");
@@ -166,7 +166,8 @@ TEST_F(AnExchange, KeepsWhatAThirdProcessStoresBeforeAFileIsPutBack)
               (std::vector<std::string>{"settings.ini", "settings.ini.lock", "settings.ini.unreadable"}));
 }
 
-// A fourth process stores something after the second one's file has been put back, and before the third one's file has.
+// A fourth process stores something after the second one's file has been put back, and before the third one's file is
+// put back.
 TEST_F(AnExchange, DestroysNothingThatThreeOtherProcessesStore)
 {
     WriteFile(m_path, "[s]\na=1\nk=old\n");
@@ -178,7 +179,7 @@ TEST_F(AnExchange, DestroysNothingThatThreeOtherProcessesStore)
     EXPECT_EQ(ReadFile(m_path + ".unreadable"), third);
 }
 
-// The content merged from the second process's file and ours does not stay either.
+// The second process's file is set aside. The content merged from it and ours is not kept.
 TEST_F(AnExchange, DestroysNothingOfASecondProcessWhenAThirdPutsAPipeInPlaceOfTheFile)
 {
     WriteFile(m_path, "[s]\na=1\nk=old\n");
@@ -193,7 +194,7 @@ TEST_F(AnExchange, DestroysNothingOfASecondProcessWhenAThirdPutsAPipeInPlaceOfTh
     EXPECT_EQ(ReadFile(m_path + ".unreadable"), second);
 }
 
-// Opening a pipe would wait for a program that writes into it.
+// By default, opening a pipe waits until another program opens it for writing. The store must not wait.
 TEST_F(AnExchange, DoesNotWaitForAPipeThatTakesThePlaceOfTheFile)
 {
     WriteFile(m_path, "[s]\na=1\nk=old\n");
@@ -262,7 +263,8 @@ TEST_F(AnExchange, LeavesNothingBehind)
     EXPECT_EQ(NamesIn(m_data.Path()), (std::vector<std::string>{"settings.ini", "settings.ini.lock"}));
 }
 
-// This process has no time left, as if it was stopped, but the other one exchanges its file at this moment.
+// The time limit of this process has passed, as if the process had been stopped, but another process holds the folder's
+// lock to exchange its file. This process must wait for that lock.
 TEST_F(AnExchange, WaitsForTheExchangeOfAnotherProcessEvenWhenNoTimeIsLeft)
 {
     WriteFile(m_path, "[s]\nk=old\n");

@@ -85,7 +85,7 @@ TEST(AHeldLock, GoesToWhoHasWaitedLongest)
     EXPECT_FALSE(IsTurnTaken(lockFile));
 }
 
-// A child that is forked while a thread stores something inherits the open lock file.
+// A child that is forked while a thread stores something inherits the open lock file. It must not keep the lock.
 TEST(AChildForkedWhileTheLockIsHeld, DoesNotKeepIt)
 {
     const InMemory inMemory;

@@ -68,7 +68,8 @@ TEST(SixProcesses, KeepAllOfTheirTwoHundredAndFortyUpdates)
     EXPECT_EQ(NamesIn(data.Path()), (std::vector<std::string>{"settings.ini", "settings.ini.lock"}));
 }
 
-// Runs @a work as process number 1 of a new container. Processes in different containers may have the same number.
+// Runs @a work as process 1 of a new PID namespace, as in a container. Processes in different containers may have the
+// same number.
 void InOwnContainer(const std::function<void()>& work)
 {
     ASSERT_TRUE(unshare(CLONE_NEWPID) == 0 || unshare(CLONE_NEWUSER | CLONE_NEWPID) == 0);
@@ -214,8 +215,8 @@ protected:
             found == UpdateText(m_progress->begun) ? +m_progress->begun : +m_progress->done;
     }
 
-    // Expects a save to remove the temporary files of killed writers. A save removes such files that are at least a
-    // minute old.
+    // Expects a save to remove the temporary files of killed writers. Sets the times of all files an hour back, because
+    // a save removes only temporary files that are at least a minute old.
     void ExpectLeftoversToGo(const std::vector<std::string>& expected)
     {
         for (const std::string& name : NamesIn(m_data.Path())) {
@@ -294,8 +295,8 @@ TEST(AChangeByAnotherProcess, IsNotUndoneByTheNextWrite)
     EXPECT_EQ(ReadFile(data / "settings.ini"), "[s]\nmine=3\ntheirs=2\n");
 }
 
-// The two states of the file have the same size and fall into one tick of the file system's clock, so only the bytes
-// differ.
+// Successive states of the file have the same size, and many fall into one tick of the file system's clock: they differ
+// only in their bytes.
 TEST(AChangeInPlace, IsSeenHoweverFastItFollowsAnother)
 {
     TempUserData data;

@@ -3,20 +3,20 @@
 
 #include <functional>
 
-/// Actions that run before this process makes a call on a file.
+/// Functions that run before this process syncs a file, renames or exchanges one, or locks a folder.
 struct WatchedCalls
 {
     std::function<void()> beforeSync;
 
-    /// Called before a file is renamed or exchanged. When it returns a number other than 0, the call fails with that
-    /// error.
+    /// Called before a file is renamed or exchanged. If it returns an error number instead of 0, the call fails with
+    /// this error.
     std::function<int()> beforeExchange;
 
-    /// Called before a folder is locked. When it returns a number other than 0, the call fails with that error.
+    /// Called before a folder is locked. If it returns an error number instead of 0, the call fails with this error.
     std::function<int()> beforeFolderLock;
 };
 
-/// The actions of this process. A forked process has a copy.
+/// The functions of this process. A forked process has a copy.
 extern WatchedCalls g_watchedCalls;
 
 #endif

@@ -1,4 +1,5 @@
-// Both names of each function are replaced, the one for small files and the one for large ones.
+// This file replaces both variants of a function, such as stat() and stat64(). With this macro, the two would be the
+// same.
 #undef _FILE_OFFSET_BITS
 
 #include <tests/platform/store/failing_calls.h>

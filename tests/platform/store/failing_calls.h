@@ -3,7 +3,7 @@
 
 #include <string>
 
-/// Which call on a file fails, counted from 1 in this process, and with which error.
+/// Which call on a file fails, counted from 1 since FailingCalls was constructed, and with which error.
 struct Fault
 {
     int nth;

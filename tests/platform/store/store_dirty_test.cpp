@@ -360,7 +360,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Deletion{"AnotherCase", "[s]\nK%25=1\n[S]\nk%25=2\n", "[s]\nK%25=1\n[S]\nk%25=2\n"}),
     [](const auto& info) { return info.param.name; });
 
-// Returns the nth of the ways to write a name of 24 letters k.
+// Returns one way to write a name of 24 letters k. The bits of @a n select the letters that are not encoded.
 std::string NthName(unsigned n)
 {
     std::string name;

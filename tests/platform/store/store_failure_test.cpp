@@ -139,7 +139,7 @@ TEST(AFileThatMayNotBeRead, IsNotReplaced)
     EXPECT_EQ(ReadFile(data / "settings.ini"), kNew);
 }
 
-// In a sticky folder everybody may add files, but replace only their own: the last step of saving fails.
+// In a folder with the sticky bit, all users may add files, but replace only their own: the last step of saving fails.
 TEST(AFileOfAnotherUser, StandsWhereItMayNotBeReplaced)
 {
     if (geteuid() != 0)
@@ -187,7 +187,8 @@ TEST(AFileInTheFoldersPlace, MakesWritingFail)
     EXPECT_EQ(ReadFile(folder / "data"), "precious");
 }
 
-// If the folder cannot be searched, the system does not tell whether the file exists.
+// The folder cannot be searched, so the system does not report whether the file exists. Then even deleting a missing
+// key fails.
 TEST(AFolderThatBecomesAFile, MakesWritingFail)
 {
     TempFolder folder;
@@ -407,7 +408,7 @@ TEST(TheDefaultStore, MakesNothingUntilSomethingIsStored)
     EXPECT_FALSE(fs::exists(data / "new"));
 }
 
-// Temporary files have a name that no person would choose: a prefix and a UUID.
+// Temporary files have a name that no person would choose: a prefix and a UUID. Only files with such names are removed.
 TEST(LeftoversOfAKilledProcess, GoAMinuteLaterAndNothingElseDoes)
 {
     const TempFolder folder;

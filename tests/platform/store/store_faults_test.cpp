@@ -20,7 +20,8 @@ namespace {
 
 constexpr int kErrors[] = {ENOSPC, EIO, EACCES, EROFS, ENOMEM, EMFILE, EINTR};
 
-/// Tries every fault until no call is left that could fail, and counts them.
+/// Calls @a attempt with every fault until no call is left that could fail. Records how many faults there were, and
+/// which calls failed.
 void ForEveryFault(const std::function<void(const Fault&)>& attempt)
 {
     int faults = 0;
@@ -164,7 +165,7 @@ TEST(AnyFailingCall, LetsAFileBeSavedOrSaysThatItWasNot)
     });
 }
 
-// The earlier bytes stay in the file. If the write succeeds, they are in settings.ini.unreadable instead.
+// If the write fails, the earlier bytes stay in the file. If it succeeds, they are in settings.ini.unreadable.
 TEST(AnyFailingCall, KeepsAFileThatHoldsNoText)
 {
     const InMemory fast;

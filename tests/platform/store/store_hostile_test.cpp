@@ -253,7 +253,8 @@ INSTANTIATE_TEST_SUITE_P(, NarrowText,
                                          NarrowCase{"AllOnes", "\xFE\xFF", L"\xDCFE\xDCFF"}),
                          [](const auto& info) { return info.param.name; });
 
-// UTF-8 cannot encode these characters. Narrow text gets the nearest encoding, and the wide text stays the same.
+// UTF-8 must not contain these characters. Their narrow text consists of the bytes that an extension of UTF-8 would
+// use. The wide text stays the same.
 TEST(WideText, ThatIsNoUnicodeIsReadableAsNarrowText)
 {
     TempUserData data;

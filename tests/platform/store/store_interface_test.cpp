@@ -18,7 +18,7 @@ using Narrow = const char*;
 static_assert(std::is_same_v<decltype(CLocalRegStore::CreateInitFile), CIniFile*(bool)>);
 static_assert(std::is_same_v<decltype(CLocalRegStore::DestroyIniFile), void(CIniFile*)>);
 
-// Selects an overload by its arguments.
+// These definitions must compile: the type of each pointer selects one overload.
 [[maybe_unused]] constexpr bool (*kLoad)(CIniFile&, Wide) = CLocalRegStore::Load;
 [[maybe_unused]] constexpr bool (*kSave)(const CIniFile&, Wide) = CLocalRegStore::Save;
 [[maybe_unused]] constexpr bool (*kGetBool)(Wide, Wide, bool) = CLocalRegStore::GetProfileBool;

@@ -62,7 +62,7 @@ TEST(AFileOfMoreThan64MiB, IsNotReadAndNotReplaced)
     EXPECT_TRUE(ReadFile(data / "settings.ini") == text);
 }
 
-// A file that could not be read again is not written.
+// The store does not write a file that it could not read again.
 TEST(AValueOfMoreThan64MiB, IsNotStored)
 {
     const InMemory inMemory;

@@ -1,5 +1,5 @@
-// The default store knows by the file's timestamps when its copy is out of date. Here the test sets the timestamps and
-// the clocks, so that two changes or two reads fall into one tick when the test needs it.
+// The default store compares the file's timestamps to know whether its copy is out of date. These tests set the
+// timestamps and the clocks: where a test needs it, two changes or two reads fall into one tick.
 
 #include <filesystem>
 #include <optional>
@@ -106,7 +106,8 @@ TEST_F(AnUnchangedStamp, IsNotTrustedWhenTheClockWasPutBack)
     EXPECT_EQ(ReadAfterChange(), L"2");
 }
 
-// Some file systems keep only whole seconds, and some only even ones.
+// Some file systems keep only whole seconds, and some only even ones. Therefore such a stamp is trusted only after two
+// seconds.
 TEST_F(AnUnchangedStamp, OfWholeSecondsIsNotTrustedForTwoOfThem)
 {
     ReadOnce({1'700'000'000, 0}, {1'700'000'001, 996'000'000});
@@ -134,7 +135,7 @@ TEST_F(AnUnchangedStamp, IsNotTrustedWithAnotherSize)
     EXPECT_EQ(Stored(L"s", L"k"), L"22");
 }
 
-// A file that is read again and again within one tick, so that the open file is asked and not its path.
+// A file that is read several times within one tick. The later reads look at the open file and not at its path.
 class AReadInTheSameTick : public testing::Test
 {
 protected:
@@ -180,7 +181,8 @@ TEST_F(AReadInTheSameTick, SeesAnotherFile)
     EXPECT_EQ(Stored(L"s", L"k"), L"2");
 }
 
-// Not every file system sets the change time of a file that is replaced.
+// Not every file system sets the change time of a file that is replaced. Here the store knows the replacement by the
+// file's lack of links.
 TEST_F(AReadInTheSameTick, SeesAnotherFileByTheNamesOfTheEarlierOne)
 {
     g_stamp = timespec{1'700'000'000, 4'000'000};

@@ -8,7 +8,7 @@
 #include <fittings/platform/local_reg_store.h>
 #include <tests/support/temp_folder.h>
 
-/// One INI file object.
+/// Owns a CIniFile. Its paths are in UTF-8.
 class Ini
 {
 public:
