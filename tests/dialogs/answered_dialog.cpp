@@ -12,7 +12,7 @@
 
 namespace {
 
-// Takes ownership of a string from GLib, which may be null.
+// Frees a string that GLib allocated, and returns a copy. A null pointer counts as empty.
 std::string Take(char* text)
 {
     std::string result = text ? text : "";

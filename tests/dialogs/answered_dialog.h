@@ -41,7 +41,7 @@ wxArrayString PathsOf(const wxFileDialog& dialog);
 /// Makes the dialog choose a file, and waits until it reports that file. Returns wxID_OK.
 int Choose(wxFileDialog& dialog, const std::string& path);
 
-/// Returns the result of a dialog in which the file is chosen.
+/// Calls ShowModal(), chooses the file as the answer, and returns the result of ShowModal().
 int ShowAndChoose(wxFileDialog& dialog, const std::string& path);
 inline int ShowAndChoose(wxFileDialog&& dialog, const std::string& path)
 {

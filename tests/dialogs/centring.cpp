@@ -10,7 +10,7 @@ std::vector<int>& CentredDialogs()
     return directions;
 }
 
-// Replaces the toolkit's function, and calls it.
+// Replaces the toolkit's function: records the direction for a file or folder dialog, and calls the original.
 void wxTopLevelWindowBase::DoCentre(int direction)
 {
     if (dynamic_cast<wxDirDialog*>(this) || dynamic_cast<wxFileDialog*>(this))

@@ -145,7 +145,7 @@ protected:
     FolderDialogCalls() { g_platform = {}; }
 
 private:
-    const FileAnswer m_cancel{wxID_CANCEL, ""};  // Ends a dialog that must not be shown.
+    const FileAnswer m_cancel{wxID_CANCEL, ""};  // Fails the test if a dialog is shown.
 };
 
 TEST_F(FolderDialogCalls, OfADialogThatIsAccepted)
@@ -172,7 +172,7 @@ TEST_F(FolderDialogCalls, OfADialogThatIsCancelled)
 
 }  // namespace
 
-// Replaces the library's function.
+// Replaces the library's function: records the call, and returns the chosen folder.
 wxString wxFolderDlg::DoModal(wxWindow*, const wchar_t* initialFolder, const wchar_t* message)
 {
     RecordCall(L"show", {initialFolder, message ? message : L"(null)"});

@@ -9,7 +9,7 @@
 
 #include <tests/support/process/child_process.h>
 
-/// Returns the home folder of the test, which the program shares.
+/// Returns the home folder of the test. The program with the dialog has the same one.
 std::string HomeFolder();
 
 /// The state that the program with the dialog printed last, see DialogProbe.
@@ -43,7 +43,7 @@ public:
     /// Opens the location entry and types a path; returns when the dialog shows that path.
     void TypePath(const std::string& path);
 
-    /// Waits for a state; fails the test when it does not appear.
+    /// Waits for a state; fails the test if it does not appear.
     void WaitFor(const std::string& what, const std::function<bool(const DialogState&)>& isThere);
 
     /// Waits for a message and returns its text.
@@ -57,7 +57,7 @@ public:
 
     DialogState State() const;
 
-    /// Waits until the dialog has closed, and returns its result.
+    /// Waits until the dialog has closed, and returns the chosen path.
     std::string Chosen();
 
     /// Fails the test unless the dialog is centred on its parent.

@@ -9,7 +9,7 @@
 namespace {
 
 // The toolkit has no getters for some of the arguments of a dialog, and GTK's dialog may return other paths than were
-// set. So the dialog's own functions are replaced.
+// set. Therefore this file replaces functions of wxFileDialog.
 std::vector<AskedFile> g_made;
 wxString g_path;
 
@@ -47,7 +47,7 @@ int FileAnswer::Enter(wxDialog* dialog)
     return m_result;
 }
 
-// Replaces the toolkit's function.
+// Replaces the toolkit's constructor: creates the dialog, and records the arguments.
 
 wxFileDialog::wxFileDialog(wxWindow* parent, const wxString& title, const wxString& folder, const wxString& file,
                            const wxString& wildcard, long style, const wxPoint& position, const wxSize& size,
@@ -67,7 +67,8 @@ wxFileDialog::wxFileDialog(wxWindow* parent, const wxString& title, const wxStri
     g_made.push_back(made);
 }
 
-// Replaces the toolkit's function, and calls it. The toolkit itself calls SetFilterIndex() while it makes a dialog.
+// Replaces the toolkit's function: records the index, and calls the original. The calls that the toolkit itself makes
+// while it creates a dialog are not recorded.
 void wxFileDialog::SetFilterIndex(int index)
 {
     if (!g_made.empty()) {

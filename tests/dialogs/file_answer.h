@@ -23,7 +23,7 @@ struct AskedFile
     wxSize size;
     wxString name;
 
-    int filterIndex = -1;         // none without a wildcard
+    int filterIndex = -1;         // stays -1 without a wildcard
     std::vector<int> filtersSet;  // by SetFilterIndex() after the dialog was made
     wxString shownFolder;
     std::vector<int> centred;
@@ -40,7 +40,7 @@ public:
     /// Called when a dialog is about to be shown, before it is answered.
     std::function<void()> whileShown;
 
-    /// The dialog that was shown last, and the number of dialogs shown.
+    /// Return the dialog that was shown last, and the number of dialogs shown.
     const AskedFile& Asked() const { return m_asked; }
     int Shown() const { return m_shown; }
 

@@ -1,4 +1,5 @@
-// The internals of the save dialog, and the open dialog, which is not exported. Built with the module's source.
+// The internals of the save dialog, and the open dialog, which the library does not export. This program compiles the
+// module's source again.
 
 #include <fittings/dialogs/file_dialog_p.h>
 

@@ -64,7 +64,7 @@ private:
     {
         if (!call.asNobody)
             return {};
-        // The home folder belongs to root.
+        // The home folder belongs to root, so the folder of the settings takes its place.
         return {{"FILE_DIALOG_AS_NOBODY", "1"}, {"HOME", settings}};
     }
 };
@@ -90,7 +90,7 @@ protected:
         return call;
     }
 
-    // Makes the dialog use the remembered file.
+    // Returns a call without a folder and a name, for which the dialog proposes the remembered file.
     Call CallAgain() const
     {
         Call call;
@@ -272,7 +272,8 @@ TEST_F(SaveDialogByKeys, StartsInTheFolderOfSamples)
 TEST_F(SaveDialogByKeys, StartsAboveSamplesThatAreNotThereWithoutAnError)
 {
     const std::string home = HomeFolder();
-    // GTK completes an empty entry with the common beginning of all names, such as the dot of hidden files.
+    // GTK completes an empty entry with the common beginning of all names. This file keeps it from adding the dot of
+    // hidden files.
     WriteFile(home + "/visible", "");
     Dialog dialog(m_settings.Path(), CallAgain());
     dialog.WaitForProposal(home, "");
@@ -346,7 +347,7 @@ TEST_F(SaveDialogByKeys, GivesAFileInAFolderThatCannotBeWritten)
     fs::permissions(m_plain, fs::perms::owner_all);
 }
 
-// The toolkit reads 0x1000FF as the byte 0xFF, but returns no path that is not UTF-8.
+// The toolkit turns the character U+1000FF into the byte 0xFF, but returns no path that is not UTF-8.
 TEST_F(SaveDialogByKeys, GivesNothingInAFolderWhoseNameIsNotUtf8)
 {
     const std::string folder = m_plain + "/\xFF";

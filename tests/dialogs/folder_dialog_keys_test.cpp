@@ -21,8 +21,8 @@ public:
     {
     }
 
-    /// Waits for the home folder. Given no folder, GTK's dialog shows the files used last, and its Open button stays
-    /// disabled whatever is typed.
+    /// Waits until the dialog shows the home folder, where wxFolderDlg starts if no folder is given. On its own, GTK's
+    /// dialog would show the files used last, and its Open button would stay disabled whatever is typed.
     void WaitForHome() { WaitForFolder(HomeFolder()); }
 
     void WaitForFolder(const std::string& folder)

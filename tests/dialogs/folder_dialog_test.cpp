@@ -20,7 +20,7 @@
 
 namespace {
 
-// Selects the overloads by their arguments.
+// These definitions must compile: the type of each pointer selects one overload.
 using Ask = wxString (*)(wxWindow*, const wchar_t*, const wchar_t*);
 [[maybe_unused]] constexpr Ask kAsk = wxFolderDlg::DoModal;
 [[maybe_unused]] constexpr Ask kAskAndRemember = wxFolderDlg::DoModalReg;
@@ -284,7 +284,7 @@ TEST_F(RememberedFolder, IsReadBeforeTheDialogAndStoredAfterIt)
     EXPECT_EQ(Stored(L"Import", L"Path"), L"/another");
 }
 
-// Nobody can make a folder in /proc, not even root.
+// Not even root can create a folder in /proc, so nothing can be stored.
 TEST_F(RememberedFolder, IsGivenAllTheSameWhereItCannotBeStored)
 {
     std_file_paths::SetUserDataDir(L"/proc/fittings");

@@ -63,7 +63,7 @@ TEST_F(RememberingFileDialog, RemembersFolderNameAndFilter)
     SaveDialog first;
     const Answer answer([&](wxDialog*) {
         Choose(first, m_plain + "/report.old.csv");
-        first.SetFilterIndex(1);  // the toolkit has chosen the filter with the extension
+        first.SetFilterIndex(1);  // in place of the filter that the toolkit has chosen by the extension
         return wxID_OK;
     });
     EXPECT_EQ(first.ShowModal(), wxID_OK);
@@ -323,7 +323,7 @@ TEST_F(OpenedFile, IsNotSelectedWhenItIsGone)
     fs::create_directories(m_plain + "/folder.csv");
     StoreFile(m_plain + "/folder.csv");
     EXPECT_EQ(OpenDialog().GetFilename(), "");
-    // If the folder does not exist, the dialog starts in the nearest folder above it.
+    // If the folder does not exist, the dialog starts in the nearest existing folder above it.
     StoreFile(m_plain + "/gone/one.csv");
     EXPECT_EQ(FolderOf(OpenDialog()), m_plain);
 }
@@ -339,7 +339,8 @@ TEST_F(OpenedFile, IsNotSelectedWhenTheFilterHidesIt)
     EXPECT_EQ(StoredFile(), m_plain + "/two.csv");
 }
 
-// GTK's dialog then drops its filter, and the toolkit asserts when asked for the filter's index.
+// When each filter hides the selected file, GTK's dialog drops its filter, and the toolkit asserts if it is asked for
+// the filter's index. The file must be remembered all the same.
 TEST_F(OpenedFile, IsRememberedWhenTheProgramSelectsOneThatEachFilterHides)
 {
     StoreFilter("*.txt");

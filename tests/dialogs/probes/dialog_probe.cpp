@@ -19,7 +19,7 @@ void PrintLine(const std::string& line)
     std::fflush(stdout);
 }
 
-// Takes ownership of a string from GLib, which may be null.
+// Frees a string that GLib allocated, and returns a copy. A null pointer counts as empty.
 std::string Take(char* text)
 {
     std::string result = text ? text : "";

@@ -1,4 +1,4 @@
-// folder_dialog_probe SETTINGS modal TITLE [FOLDER] | reg TITLE SECTION: a DialogProbe of the folder dialog.
+// folder_dialog_probe SETTINGS modal TITLE [FOLDER] | reg TITLE SECTION: a DialogProbe for the folder dialog.
 
 #include <string>
 

@@ -1,5 +1,5 @@
-// remembering_dialog_probe SETTINGS save|open|several|folder ENTRY TITLE [WILDCARD]: a DialogProbe of a dialog that
-// remembers. The chosen paths are separated by "|".
+// remembering_dialog_probe SETTINGS save|open|several|folder ENTRY TITLE [WILDCARD]: a DialogProbe for the remembering
+// dialogs. The chosen paths are separated by "|".
 
 #include <string>
 
