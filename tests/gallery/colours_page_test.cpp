@@ -83,7 +83,7 @@ protected:
         return {};
     }
 
-    /// Shows an option's control with the focus in it.
+    /// Moves the focus to the control of an option by its mnemonic.
     void GoTo(char mnemonic, const wxString& name)
     {
         Press(mnemonic, wxMOD_ALT);
@@ -98,7 +98,7 @@ protected:
             Press(key);
     }
 
-    /// Finds a field by its label and enters another number.
+    /// Moves the focus to a field by its mnemonic, and enters another number.
     void SetNumber(char mnemonic, const wxString& name, int number)
     {
         GoTo(mnemonic, name);

@@ -145,7 +145,8 @@ TEST_F(Pages, FloatingFoldersGoAndComeWithTheirPage)
     EXPECT_TRUE(FoldersComeTo(place));
 }
 
-// Events from the window manager may arrive for a window that is already hidden.
+// The window manager may report a move of a window that is already hidden. Such a move must not change the stored
+// place.
 TEST_F(Pages, FloatingFoldersComeBackWhereTheyWereSeen)
 {
     LeaveFloatingFolders();

@@ -65,7 +65,7 @@ bool ShowsWindow(const std::string& title)
     return WaitFor("xdotool search --onlyvisible --name '" + title + "'");
 }
 
-/// Each test starts without settings of an earlier one.
+/// Gives each test a data folder of its own, without settings of an earlier test.
 class TheProgram : public testing::Test
 {
 protected:

@@ -1,4 +1,4 @@
-// The tour's pictures.
+// SaveScreenshot(), which takes the tour's pictures.
 
 #include <gdk-pixbuf/gdk-pixbuf.h>
 #include <gtest/gtest.h>

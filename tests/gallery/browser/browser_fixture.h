@@ -24,7 +24,7 @@ protected:
     /// Opens a window on @a path, or on the last session's folder, and waits until it is shown.
     void Open(const std::string& path);
 
-    /// Closes the window as a person does, and waits until it is destroyed.
+    /// Closes the window as a user does, and waits until it is destroyed.
     void Close();
 
     /// Resizes the window and waits until the screen shows all of it in the new size.
@@ -46,7 +46,7 @@ protected:
     /// Makes the pane of the folders float at a place on the screen.
     void FloatFolders(const wxPoint& place);
 
-    /// Waits until the pane of the folders floats at that place; returns false when it does not.
+    /// Waits until the pane of the folders floats at that place; returns false if it does not.
     bool FoldersComeTo(const wxPoint& place);
 
     TempUserData settings;

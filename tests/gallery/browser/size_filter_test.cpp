@@ -15,7 +15,7 @@ using namespace gallery::simulated_user;
 namespace fs = std::filesystem;
 using Strings = std::vector<std::string>;
 
-/// Counts GTK's warnings while the object exists.
+/// Counts the critical messages of GLib and GTK while the object exists.
 class CriticalMessages
 {
 public:
@@ -53,7 +53,7 @@ protected:
         Open(root);
     }
 
-    /// Makes a sparse file, which takes no space.
+    /// Makes a sparse file, which takes no space on the disk.
     void MakeFile(const std::string& name, std::uintmax_t size)
     {
         fs::create_directories(fs::path(temp / name).parent_path());
@@ -129,7 +129,7 @@ TEST_F(SizeFilterTest, RefusesWhatIsNoSize)
     EXPECT_EQ(frame->GetBrowser()->GetFilter()->GetMinimum(), 123456789000000u);
 }
 
-// Text that is pasted is not filtered.
+// The field checks each key, but not text that is pasted.
 TEST_F(SizeFilterTest, TakesPastedNonsenseForNoNumber)
 {
     for (const char* pasted : {"abc", "1e3", "-5", ".", "12 34", "nan", "inf", "0x10"}) {
@@ -149,7 +149,7 @@ TEST_F(SizeFilterTest, EscapeEmptiesIt)
     EXPECT_TRUE(Field().HasFocus());
 }
 
-// The process is in the C locale, which has no thousands separator.
+// The process is in the C locale, which has no thousands separator. The digits are grouped all the same.
 TEST_F(SizeFilterTest, ShowsTheNumberWithItsDigitsGrouped)
 {
     Filter("1234567.50");
@@ -185,7 +185,8 @@ TEST_F(SizeFilterTest, TheSelectedEntryStaysSelectedWhileItIsListed)
     EXPECT_EQ(Status(1), "");
 }
 
-// While rows are being removed, the list would return a selected row that no longer exists.
+// While rows are being removed, the toolkit's list may return a selected row that no longer exists, so no selection
+// event may be sent then.
 TEST_F(SizeFilterTest, TheSelectedFolderMayProveTooSmall)
 {
     ASSERT_TRUE(PumpUntil([&] { return !frame->GetBrowser()->GetSizes()->IsRunning(); }));

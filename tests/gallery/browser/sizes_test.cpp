@@ -148,7 +148,7 @@ TEST_F(Sizes, StoppingTakesAMomentAndKeepsWhatIsKnown)
 {
     Open(MakeLargeFolder());
     ASSERT_TRUE(ComesToRest());
-    // On a busy machine the worker may finish before the window has received an event.
+    // On a busy machine the worker may finish before the window has received an event. Then it is started again.
     ASSERT_TRUE(PumpUntil([&] {
         if (!Row().IsRunning())
             Row().Start(memory.Path());
@@ -193,7 +193,7 @@ TEST_F(Sizes, AFolderThatIsGoneHasOneUnreadableItem)
     EXPECT_TRUE(Row().GetText().Contains(", 1 unreadable")) << Row().GetText();
 }
 
-/// Counts events, and expects the same int in each.
+/// Counts events, and expects the number 7 in each.
 class Counter : public wxEvtHandler
 {
 public:

@@ -18,7 +18,7 @@ namespace {
 using namespace gallery;
 namespace fs = std::filesystem;
 
-/// Records the reports of progress.
+/// Records the reports of a walk, and ends the walk after a number of items.
 class Notes : public SizeObserver
 {
 public:
@@ -52,7 +52,8 @@ std::uint64_t OwnSize(const std::string& path)
     return static_cast<std::uint64_t>(status.st_size);
 }
 
-/// Makes a chain of folders named "d" below @a path, deeper than a path can be long; each holds a file of one byte.
+/// Makes @a levels folders named "d", one in the other, below @a path. Each contains a file of one byte. Works even
+/// where the path is too long for the system.
 void MakeChain(const std::string& path, int levels)
 {
     int folder = open(path.c_str(), O_RDONLY | O_DIRECTORY);
@@ -223,7 +224,7 @@ TEST(SumFolder, ComesBackToEveryFolderOnTheWayUp)
     EXPECT_EQ(sum.bytes, ListedSize(folder.Path()));
 }
 
-/// Moves a part of the chain away when the walk has reached the end of the chain.
+/// Moves a part of the chain away after 200 items, when the walk has reached the end of the chain.
 class Mover : public Notes
 {
 public:

@@ -29,7 +29,7 @@ class NumbersPageFlag : public NumbersPageTest, public testing::WithParamInterfa
 {
 };
 
-// The focus is in the number's field, whose validator would refuse the letter.
+// The focus is in the number's field, whose validator would refuse the letter. The mnemonic must work all the same.
 TEST_P(NumbersPageFlag, IsSwitchedByItsMnemonicAndByAClick)
 {
     const FlagCase& flag = GetParam();

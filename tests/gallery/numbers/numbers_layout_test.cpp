@@ -17,7 +17,7 @@ TEST_F(NumbersPageTest, TabGoesFromTheTopToTheBottom)
     for (int i = 0; i < 40 && (names.empty() || names.back() != "Number"); ++i) {
         const wxString before = FocusName();
         Press(WXK_TAB);
-        // Tab also stops at the notebook's tabs.
+        // Tab also stops at the notebook's tabs, where FocusName() is empty.
         ASSERT_TRUE(PumpUntil([&] { return FocusName() != before; }));
         if (!FocusName().empty())
             names.emplace_back(FocusName());
