@@ -11,7 +11,7 @@
 
 namespace {
 
-// Selects an overload by its arguments.
+// The definitions below must compile: the type of each pointer selects one overload.
 using Text = const wchar_t*;
 [[maybe_unused]] constexpr void (*kWriteText)(Text, Text, Text, Text) = ui_config_mgr::WriteConfigString;
 [[maybe_unused]] constexpr std::wstring (*kGetText)(Text, Text, Text) = ui_config_mgr::GetConfigString;
