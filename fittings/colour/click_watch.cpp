@@ -33,7 +33,8 @@ void ClickWatch::Start()
     wxEvtHandler::AddFilter(this);
     GtkWidget* const widget = m_owner.GetHandle();
     m_handler = g_signal_connect(widget, "button-press-event", G_CALLBACK(OnPress), this);
-    // GTK's grab is for the windows of this program, and the display's grab for title bars and other programs.
+    // GTK's grab takes the clicks on the windows of this program, and the display's grab those on title bars and other
+    // programs.
     gtk_grab_add(widget);
     if (gtk_widget_get_mapped(widget))
         gdk_seat_grab(PointerOf(widget), gtk_widget_get_window(widget), GDK_SEAT_CAPABILITY_ALL_POINTING, true, nullptr,
@@ -58,7 +59,7 @@ int ClickWatch::FilterEvent(wxEvent& event)
         return Event_Skip;
     if (mouse->GetWheelRotation())
         return Event_Processed;
-    // Clicks outside the program are reported to the owner too.
+    // Check the position too: the toolkit reports clicks outside the program to the owner.
     const bool isOnOwner = event.GetEventObject() == &m_owner && m_owner.GetClientRect().Contains(mouse->GetPosition());
     if (isOnOwner || !(mouse->ButtonDown() || mouse->ButtonDClick()))
         return Event_Skip;

@@ -10,8 +10,9 @@ class wxWindow;
 
 namespace fittings {
 
-/// Grabs the pointer while a popup is opening, as the toolkit does while a popup is open. Meanwhile a click has no
-/// effect on any other window: not on one of this program, not on a title bar, and not on one of another program.
+/// Grabs the pointer from Start() to Stop(), while a popup is opening, as the toolkit does while a popup is open.
+/// Meanwhile clicks have no effect outside the owner: neither on other windows of this program, nor on title bars, nor
+/// on other programs.
 class ClickWatch : public wxEventFilter
 {
 public:
@@ -27,11 +28,11 @@ public:
     /// Must be called before the owner's window is destroyed.
     void Stop();
 
-    /// Handles the clicks that the toolkit reports: those on the owner, on its children, and outside the program. Drops
-    /// the wheel.
+    /// Calls the callback for a click that the toolkit reports on a child of the owner or outside the program. Drops
+    /// such a click and every turn of the wheel. Passes a click on the owner itself and all other events on.
     int FilterEvent(wxEvent& event) override;
 
-    /// Handles a click.
+    /// Calls the callback.
     void Click() const;
 
 private:

@@ -25,7 +25,7 @@ constexpr int kFocusInset = 3;
 wxBitmap CopyOfScreen(const wxRect& rect)
 {
     wxScreenDC screen;
-    // Cairo does not notice what other programs draw, and would copy stale pixels.
+    // Tell Cairo that the screen has changed. It does not notice what other programs draw, and would copy stale pixels.
     if (void* const context = screen.GetImpl()->GetCairoContext())
         cairo_surface_mark_dirty(cairo_get_target(static_cast<cairo_t*>(context)));
     wxBitmap bitmap(rect.GetSize());
@@ -35,7 +35,7 @@ wxBitmap CopyOfScreen(const wxRect& rect)
     return bitmap;
 }
 
-// Returns whether the window or one of its parents will be deleted as soon as no event is being handled.
+// Returns whether the window or one of its ancestors is being deleted, or will be as soon as no event is being handled.
 bool IsScheduledForDeletion(wxWindow* window)
 {
     return window && (window->IsBeingDeleted() || wxTheApp->IsScheduledForDestruction(window) ||
@@ -130,7 +130,8 @@ void wxColourCombo::ShowPopup()
 {
     if (!GetPopupControl() || m_animTimer.IsRunning())
         return;
-    // Take over the typed text as the value. Otherwise setting the old value again would seem to change nothing.
+    // Store the typed text as the value. Otherwise wxComboCtrl would see no change, and do nothing, when the old value
+    // is set again.
     m_valueString = GetValue();
     wxComboCtrl::ShowPopup();
 }
@@ -247,7 +248,7 @@ void wxColourCombo::DrawStep(int elapsed)
     if (m_animBitmap.IsOk())
         screen.DrawBitmap(m_animBitmap, m_animRect.GetPosition());
     screen.DrawRectangle(outline);
-    // What is drawn directly on the screen appears below all windows. So show the outline in a window of its own too.
+    // Show the outline in a window of its own too: what is drawn directly on the screen appears below all windows.
     if (m_outline)
         m_outline->ShowOutline(m_animRect, outline);
 }

@@ -66,7 +66,7 @@ class OutlineWindow;
 ///
 /// wxEVT_COMBOBOX_DROPDOWN is sent when the popup opens. wxEVT_COMBOBOX_CLOSEUP is sent when the popup is dismissed
 /// from outside, but not when the popup closes itself because a colour was chosen or the selection was cancelled. The
-/// popup's listener is told of every end. The value of the control is the name of a colour. As in the toolkit,
+/// popup's listener is called in both cases. The value of the control is the name of a colour. As in the toolkit,
 /// wxEVT_TEXT is sent only by a control with a text field. If the button or Dismiss() closes the popup while a cell is
 /// hot, the field sends wxEVT_TEXT twice: with the name of that cell, and then with its old text.
 ///
@@ -90,13 +90,14 @@ public:
 
     ~wxColourCombo() override;
 
-    /// The toolkit's Create(), with a text and without a popup. SetPopupControl() sets the popup and takes ownership of
+    /// The toolkit's Create() takes a text and makes no popup. SetPopupControl() sets the popup and takes ownership of
     /// it.
     using wxComboCtrl::Create;
 
     /// Makes the control and its popup as the constructor with a colour does, for an object of the default constructor.
     ///
-    /// @a colour must be a wxColour: a text is the text of the field, as in the toolkit's Create().
+    /// @a colour must be a wxColour. A call with a string in its place is a call of the toolkit's Create(), which shows
+    /// the string in the text field.
     template <typename Colour, typename = std::enable_if_t<std::is_base_of_v<wxColour, Colour>>>
     bool Create(wxWindow* parent, wxWindowID id, const Colour& colour, const wxPoint& pos = wxDefaultPosition,
                 const wxSize& size = wxDefaultSize, long style = wxCB_READONLY,
@@ -109,7 +110,7 @@ public:
     /// Returns the colour in effect; an invalid one while there is no wxColourPopup.
     wxColour GetColour() const;
 
-    /// Makes @a colour the colour in effect. A text is read as wxColour::Set() reads it.
+    /// Makes @a colour the colour in effect. A string is converted as by wxColour::Set().
     ///
     /// The face, the text, the chosen cell and the mark of "Automatic" change at once, and no event is sent. If this is
     /// called while the popup is open, @a colour stays in effect if the user chooses nothing. Returns false and changes
@@ -142,17 +143,16 @@ public:
     /// focus.
     bool IsClientAreaChild(const wxWindow* child) const override;
 
-    /// Tells assistive technologies the colour in effect.
+    /// Describes the control to assistive technologies: its label, and the hot cell or the colour in effect.
     void OnInternalIdle() override;
 
-    /// Makes one step of the animation; the last step shows the popup. The event is not used. The function is called
-    /// for the ticks of the animation's timer and not for those of other timers. Handlers of the host get the ticks of
-    /// the animation's timer as well.
+    /// Makes one step of the animation; the last step shows the popup. The event is not used. The control calls this
+    /// only for the ticks of the animation's timer. The host's handlers receive these ticks too.
     void OnTimerEvent(wxTimerEvent& event);
 
 protected:
     /// Starts the animation, whose last step shows the popup, and returns false. Returns true and starts no animation
-    /// if programs cannot draw on the screen or @a rect, in screen coordinates, is empty.
+    /// if the program cannot draw on the screen or @a rect, which is in screen coordinates, is empty.
     bool AnimateShow(const wxRect& rect, int flags) override;
 
     /// Takes ownership of @a popup. If the earlier popup is still opening, it is dismissed first.
@@ -161,8 +161,8 @@ protected:
     /// Makes a step when the animation's timer ticks, whatever handlers the host has bound.
     bool TryBefore(wxEvent& event) override;
 
-    /// Draws the button. Without a text field, it draws the focus rectangle on the button, because the face shows only
-    /// the colour.
+    /// Draws the button. Also draws the focus rectangle on it while a control without a text field is closed and has
+    /// the focus, because the face shows only the colour.
     void DrawButton(wxDC& dc, const wxRect& rect, int flags) override;
 
     /// Returns the outline after @a elapsed milliseconds, from 0 to m_animDuration, in screen coordinates. The outline

@@ -129,7 +129,7 @@ bool wxColourPopup::SetColour(const wxColour& colour)
     if (!m_combo)
         return true;
     const wxString name = TextOf(m_nChosenColourSel);
-    // Closing the popup makes the name of the hot cell the combo's value. Remember the new name, to restore it then.
+    // Remember the new name, to restore it when closing the popup has made the name of the hot cell the combo's value.
     if (m_valueWhenShown || m_ending)
         m_valueWhenShown = name;
     if (m_combo->GetValue() != name)
@@ -225,7 +225,8 @@ void wxColourPopup::FindCellFromColour(const wxColour& colour)
 
 wxString wxColourPopup::GetStringValue() const
 {
-    // With the name of the hot cell, a text field would report a colour that was not chosen, and then its old text.
+    // Return the value that is restored afterwards. With the name of the hot cell, a text field would report a colour
+    // that was not chosen, and then its old text.
     if (m_isClosingAfterCancel && m_valueWhenShown)
         return *m_valueWhenShown;
     return TextOf(m_nCurrentSel);
@@ -246,14 +247,16 @@ void wxColourPopup::SetStringValue(const wxString& value)
 {
     if (m_bInternalHide || m_ending)
         return;
-    // Ignore the values that the combo passes while it opens or closes the popup.
+    // Remember a value that the host sets while the popup is open, but not one that the combo passes while it opens or
+    // closes the popup.
     if (m_valueWhenShown && m_combo && IsOpen(*m_combo))
         m_valueWhenShown = m_combo->GetValue();
     const std::weak_ptr<const bool> life(m_life);
     for (int i = 0; i < fittings::kColourCount; ++i) {
         const wchar_t* const name = GetColourName(i);
         if (name && value == name) {
-            // A combo whose popup is dismissed passes the name of the hot cell. That cell is then already current.
+            // Change nothing when a combo that dismisses its popup passes the name of the hot cell: that cell is
+            // already current.
             if (i != m_nCurrentSel || !m_valueWhenShown || m_crColour != GetColour(i))
                 ChangeSelection(i);
             // While a combo opens its popup, it passes its text to this function. The pointer may be over another cell
@@ -290,7 +293,7 @@ void wxColourPopup::SetWindowSize(const wxRect& rect)
     const int margin = m_nMargin;
     m_nNumRows = (m_nNumColours + m_nNumColumns - 1) / m_nNumColumns;
     const wxSize text = MeasureTexts();
-    // The wider of the two texts determines the width.
+    // The popup is as wide as the grid or the wider of the two texts, whichever is wider.
     const int width = std::max(m_nNumColumns * m_nBoxSize + 2 * margin, text.x);
     int height = m_nNumRows * m_nBoxSize + 2 * margin;
     m_rectAutomatic = {};

@@ -71,16 +71,18 @@ public:
     /// Sets the colour in effect, which the combo's face and the "More Colours..." cell show. Black at first. An
     /// invalid colour asserts and changes nothing.
     ///
-    /// This only redraws the combo. Call it before wxComboCtrl::SetPopupControl(). The combo then marks "Automatic" if
-    /// this is the default colour, and that mark stays. To move the mark later, call SetColour().
+    /// The function redraws the combo, but changes neither its value nor the chosen cell. Call it before
+    /// wxComboCtrl::SetPopupControl(): when the window is created, the popup marks "Automatic" if this is the default
+    /// colour. That mark stays; SetColour() moves it.
     void SetInitialColour(const wxColour& colour);
 
     /// Makes @a colour the colour in effect and updates the combo's face and value, the chosen cell and the mark of
     /// "Automatic". The listener is not called, and no event is sent. Returns false and changes nothing for an invalid
     /// colour.
     ///
-    /// It may be called at any time. While the popup is open, @a colour stays in effect if the user chooses nothing. In
-    /// the listener or an event handler that is told of a chosen colour, @a colour replaces that colour.
+    /// It may be called at any time. While the popup is open, @a colour stays in effect if the user chooses nothing. A
+    /// listener or event handler that is notified of a chosen colour may call it: @a colour then replaces the chosen
+    /// one.
     bool SetColour(const wxColour& colour);
 
     /// Returns the colour in effect.
@@ -107,8 +109,8 @@ public:
     /// Sets the listener, which is not owned. The listener must outlive the popup or be replaced by null.
     void SetColorListener(wxColorPopupListener* listener) { m_pListener = listener; }
 
-    /// Sets the parent of the dialog of "More Colours...". The dialog is centred on its parent, which is not owned.
-    /// With null, the combo is the parent. The popup itself is not moved.
+    /// Sets the parent of the dialog of "More Colours..." and centres the dialog on it. The popup does not own @a
+    /// window. With null, the combo is the parent. The popup itself is not moved.
     void SetCenterOn(wxWindow* window) { m_pCenterOn = window; }
 
     /// Resets every setting, the listener included, to its initial value. The constructor calls it. If the window
@@ -177,7 +179,7 @@ public:
     wxWindow* GetControl() override { return this; }
     /// @}
 
-    /// Tells assistive technologies the hot cell, or the colour in effect.
+    /// Describes the hot cell, or else the colour in effect, to assistive technologies.
     void OnInternalIdle() override;
 
     /// @name Drawing
@@ -205,12 +207,12 @@ public:
     /// @name Mouse and keyboard
     /// @{
 
-    /// Called when the combo shows the popup. No cell is hot and no name is shown at the pointer. The cell of the
-    /// colour in effect is chosen, and the listener is notified.
+    /// Called when the combo shows the popup. Marks the cell of the colour in effect as chosen, makes no cell hot,
+    /// removes the name at the pointer, and notifies the listener.
     void OnPopup() override;
 
-    /// Called when the combo hides the popup. Unless the popup hides itself, the listener is told that nothing was
-    /// chosen.
+    /// Called when the combo hides the popup. Unless the popup hides itself, notifies the listener that nothing was
+    /// chosen, and the combo sends its event.
     void OnDismiss() override;
 
     /// Makes a cell hot, redraws it and notifies the listener. An index above the number of the palette's cells counts
@@ -218,14 +220,16 @@ public:
     /// colour is the one in effect.
     void ChangeSelection(int index);
 
-    /// Tells the listener the colour of the hot cell, and redraws the combo if SetRefreshCombo() says so.
+    /// Notifies the listener of the hot cell's colour. While the popup is open, the combo sends its event. Redraws the
+    /// combo if GetRefreshCombo() is true.
     void DoSelChange();
 
     /// Ends the selection. If @a ok, the colour of the hot cell is chosen; for CELL_MORE_COLOURS, the dialog asks for
     /// the colour. Otherwise the colour in effect stays.
     void EndSelection(bool ok);
 
-    /// Notifies the listener of the end. A chosen colour becomes the initial colour.
+    /// Makes a chosen colour the initial colour, notifies the listener of the end, has the combo send its event, and
+    /// closes the popup.
     void DoEndSel(bool ok);
 
     /// Asks for a colour in the toolkit's dialog, which starts with the colour in effect. The colour of the dialog
@@ -250,9 +254,9 @@ public:
     void OnKeyDown(wxKeyEvent& event);
 
     /// Handles a key of the combo while the popup is closed and the combo has the focus. With wxCB_READONLY, Up chooses
-    /// the colour before the one in effect and Down the one after it. The listener is told of the choice, and the combo
-    /// sends its event. Up does nothing at the first cell and Down nothing at the last one; neither moves the focus.
-    /// Other keys are skipped.
+    /// the colour before the one in effect and Down the one after it. The listener is notified of the choice, and the
+    /// combo sends its event. Up does nothing at the first cell and Down nothing at the last one; neither moves the
+    /// focus. Other keys are skipped.
     void OnComboKeyEvent(wxKeyEvent& event) override;
     /// @}
 
@@ -299,7 +303,7 @@ private:
     void ChooseClosed(int index);
     bool Send(wxEventType type, const wxColour& colour);
 
-    /// True while the listener and the event handlers are told that the selection has ended.
+    /// True while the listener and the event handlers are notified of the end of the selection.
     bool m_ending = false;
     bool m_isClosingAfterCancel = false;
     bool m_dialogCancelled = false;            ///< True from a cancelled dialog to the end of the selection.

@@ -160,7 +160,7 @@ void wxColourPopup::DrawAutomatic(wxDC& dc)
     DrawEdge(dc, base, CELL_AUTOMATIC);
     DrawCentredText(dc, base, m_font, m_strAutomatic);
 
-    // The swatch fills its square.
+    // The colour covers the whole swatch; in a cell of the palette it leaves a margin.
     const int side = box.height / 3;
     const int inset = (box.height - side) / 2;
     wxRect swatch(box.x + inset, box.y + inset, side, side);

@@ -112,7 +112,7 @@ void wxColourPopup::OnPopup()
     m_nCurrentSel = CELL_NONE;
     // Remove the old name: the pointer may now be over another cell than the one that was hot when the popup closed.
     ShowNameAtPointer("");
-    // While no cell is hot, a choice gives the colour in effect.
+    // While no cell is hot, Enter or a click chooses the colour in effect.
     m_crColour = m_crInitialColour;
     if (m_combo)
         m_valueWhenShown = m_combo->GetValue();
@@ -123,7 +123,8 @@ void wxColourPopup::OnPopup()
 
 void wxColourPopup::OnDismiss()
 {
-    // While a listener is told that the selection has ended, it may close the popup. Do not report a second end.
+    // Report no end when the popup hides itself, and no second end when a listener that is notified of the end closes
+    // the popup.
     if (m_bInternalHide || m_ending)
         return;
     const Life life(m_life);
@@ -143,7 +144,8 @@ void wxColourPopup::OnDismiss()
 bool wxColourPopup::Send(wxEventType type, const wxColour& colour)
 {
     const Life life(m_life);
-    // While the combo is being deleted, the objects whose handlers are bound to it may be partly destroyed.
+    // Send nothing while the combo is being deleted: objects whose handlers are bound to it may be partly destroyed by
+    // then.
     if (m_combo && !m_combo->IsBeingDeleted()) {
         wxColourPickerEvent event(m_combo, m_combo->GetId(), colour, type);
         m_combo->HandleWindowEvent(event);
@@ -191,7 +193,7 @@ void wxColourPopup::RedrawHotCells(int old)
         wxRect rect;
         if (!GetCellRect(cell, rect))
             continue;
-        // The separator above this box moves the box down by the separator's height.
+        // This box is drawn two margins below its rectangle, under the separator.
         if (cell == CELL_MORE_COLOURS)
             rect.height += 2 * m_nMargin;
         RefreshRect(rect);
@@ -261,7 +263,7 @@ void wxColourPopup::DoEndSel(bool ok)
         if (!HideCombo())
             return;
     }
-    // If the listener has closed the popup, the combo's value is now the name of the hot cell.
+    // Restore the value even if the listener has closed the popup: the value is then the name of the hot cell.
     RestoreValue();
     if (life.expired())
         return;
@@ -290,7 +292,7 @@ void wxColourPopup::TellOfTheEnd(bool ok)
         Send(cancelled ? wxEVT_COLOURPICKER_DIALOG_CANCELLED : wxEVT_COLOURPICKER_CHANGED, m_crInitialColour);
 }
 
-// Closes the popup without telling the listener. Returns false if that has destroyed the popup.
+// Closes the popup without notifying the listener. Returns false if that has destroyed the popup.
 bool wxColourPopup::HideCombo()
 {
     const Life life(m_life);
@@ -331,7 +333,7 @@ void wxColourPopup::OnMouseMove(wxMouseEvent& event)
     if (target != m_nCurrentSel)
         ChangeSelection(target);
     else
-        ShowNameAtPointer(NameOf(target));  // The cell became hot when the popup opened.
+        ShowNameAtPointer(NameOf(target));  // A cell that became hot when the popup opened shows no name yet.
 }
 
 void wxColourPopup::OnLButtonUp(wxMouseEvent& event)
@@ -339,7 +341,8 @@ void wxColourPopup::OnLButtonUp(wxMouseEvent& event)
     EndSelection(wxRect(GetClientAreaOrigin(), GetClientSize()).Contains(event.GetPosition()));
 }
 
-// Handles keys before they reach a dialog, which would treat Escape as Cancel, or a host, which might handle any key.
+// Keeps the popup's own keys from a dialog, which would treat Escape as Cancel, and from a host, which might handle any
+// key.
 void wxColourPopup::OnCharHook(wxKeyEvent& event)
 {
     if (IsOwnKey(event.GetKeyCode()))
@@ -387,8 +390,8 @@ void wxColourPopup::OnComboKeyEvent(wxKeyEvent& event)
     ChooseClosed(CellBeside(isDown ? 1 : -1));
 }
 
-// Returns the cell before or after the chosen one in the order of a list; CELL_NONE before the first and after the
-// last.
+// Returns the cell after the chosen one if @a step is above 0, otherwise the cell before it. The order is "Automatic",
+// then the grid row by row, without "More Colours...". Returns CELL_NONE before the first and after the last.
 int wxColourPopup::CellBeside(int step) const
 {
     const int automatic = GetIndex(CELL_AUTOMATIC, CELL_AUTOMATIC);

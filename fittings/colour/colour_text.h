@@ -6,11 +6,12 @@ class wxString;
 
 namespace fittings {
 
-/// Returns the text in the user's language; null when the platform has none.
+/// Returns the text for @a key in the user's language; null when the platform has none.
 const wchar_t* ColourText(const wchar_t* key);
 
-/// Returns the text that a screen reader announces for a popup: the hot cell while the popup is open, otherwise the
-/// colour in effect. A colour is given by its name in the palette, or by its number, such as "#0000FE".
+/// Returns the text that a screen reader announces for a popup: the text of the hot cell, or the colour in effect if
+/// the popup is closed or no cell is hot. That colour is given by its name in the palette, or by its number, such as
+/// "#0000FE".
 wxString SpokenText(const wxColourPopup& popup);
 
 }  // namespace fittings

@@ -20,8 +20,8 @@ class wxColour;
 /// @endcode
 ///
 /// Every colour is valid. The toolkit's class information does not distinguish this class from wxValidator: use
-/// dynamic_cast. A derived class must override Clone(); otherwise the control gets a wxColourValidator. GUI thread
-/// only.
+/// dynamic_cast. A derived class must override Clone(); otherwise the control's validator is a plain wxColourValidator.
+/// GUI thread only.
 class FITTINGS_API wxColourValidator : public wxValidator
 {
 public:
