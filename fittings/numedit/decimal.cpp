@@ -34,7 +34,7 @@ bool TakeSign(std::string_view& text)
     return negative;
 }
 
-/// Returns the value of an exponent's digits.
+/// Returns the value of an exponent's digits, at most kMostExponent.
 std::int64_t ExponentOf(std::string_view digits)
 {
     std::int64_t value = 0;
@@ -43,7 +43,7 @@ std::int64_t ExponentOf(std::string_view digits)
     return value;
 }
 
-/// Adds one to the last digit. A carry out of the first digit puts a 1 before it.
+/// Adds one to the last digit. If that carries out of the first digit, puts a 1 before it and returns true.
 bool Increment(std::string& digits)
 {
     for (auto at = digits.rbegin(); at != digits.rend(); ++at) {

@@ -12,12 +12,12 @@ namespace fittings {
 
 /// A number whose value is 0.DIGITS times ten to the power of `point`. Each value has exactly one such form.
 ///
-/// Exponents beyond 10^17 count as 10^17; no text has so many digits.
+/// A `point` beyond kMostExponent, in either direction, is set to this limit: no text has so many digits.
 struct Decimal
 {
     bool negative = false;
     std::string digits;      ///< No zeros at either end. Empty for the number 0, which is never negative.
-    std::int64_t point = 0;  ///< The number of digits before the decimal point. 0 for the number 0.
+    std::int64_t point = 0;  ///< The number of digits before the decimal point; below 0 if zeros follow the point.
 
     bool IsZero() const { return digits.empty(); }
 };
@@ -31,7 +31,7 @@ Decimal MakeDecimal(std::string_view digits, std::int64_t point, bool negative =
 /// Reads a sign, digits with an optional `.`, and an exponent. Returns nothing for any other text.
 std::optional<Decimal> ParseDecimal(std::string_view text);
 
-/// Returns the shortest number that reads as @a value. Returns nothing for an infinity and NaN.
+/// Returns the shortest decimal number that reads as @a value. Returns nothing for an infinity and NaN.
 std::optional<Decimal> DecimalOf(double value);
 
 /// Returns the nearest double; nothing if that is infinite.
@@ -51,13 +51,13 @@ std::optional<std::string> PlainText(const Decimal& number, std::int64_t decimal
 /// Returns the sum; nothing if it has more than 100,000 digits.
 std::optional<Decimal> Sum(const Decimal& left, const Decimal& right);
 
-/// Rounds a non-negative number up or down to @a decimals decimals, which may be less than 0.
+/// Rounds a non-negative number up or down to @a decimals decimals. With -2, it rounds to hundreds.
 /// @{
 Decimal RoundedUp(const Decimal& number, std::int64_t decimals);
 Decimal RoundedDown(const Decimal& number, std::int64_t decimals);
 /// @}
 
-/// Returns the number after adding one to the last of @a digits.
+/// Returns the number of @a digits and @a point, as in MakeDecimal(), with one added in the place of the last digit.
 Decimal Following(std::string_view digits, std::int64_t point);
 
 }  // namespace fittings

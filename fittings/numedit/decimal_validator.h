@@ -55,7 +55,7 @@ public:
     /// Transfers decimal text. @a format applies to fields other than a wxNumberCtrl.
     wxDecimalValidator(wxString* value, const CNumberFormat& format);
 
-    /// Copies the format and the pointer to the variable.
+    /// Copies the format and the pointer to the variable, but not the window.
     wxDecimalValidator(const wxDecimalValidator& other);
 
     ~wxDecimalValidator() override;
@@ -67,7 +67,7 @@ public:
     /// the focus. A disabled field is always valid. Returns false on a window that is not a wxTextEntry.
     bool Validate(wxWindow* parent) override;
 
-    /// Shows the variable's number. False if the variable has no number or the window is not a wxTextEntry.
+    /// Shows the variable's number. Returns false if the variable has no number or the window is not a wxTextEntry.
     bool TransferToWindow() override;
 
     /// Stores the field's number in the variable. Returns false and leaves the variable alone if Validate() would

@@ -29,7 +29,8 @@ std::wstring TextWith(wchar_t character, const wxTextCtrl& control)
     return text;
 }
 
-// Asserts that the validator is on a text control: on any other control the number would be lost silently.
+// Returns whether the validator is on a text control. Asserts on any other control, where the number would otherwise be
+// lost silently.
 bool HasTextControl(const wxNumValidator& validator)
 {
     const bool hasTextControl = validator.CheckValidator();

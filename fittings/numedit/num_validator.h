@@ -39,9 +39,9 @@
 /// wxNumberCtrl does more than this validator: it accepts the beginning of each number within any bounds, checks pasted
 /// text, formats, steps, and returns a `double`. wxDecimalValidator works on every wxTextEntry.
 ///
-/// A derived class must override Clone(); otherwise the control gets a wxNumValidator. The toolkit's class information
-/// does not distinguish this class from wxValidator: use dynamic_cast. The host may set another validator on the
-/// control while this one handles a key.
+/// A derived class must override Clone(); otherwise the control's validator is a plain wxNumValidator. The toolkit's
+/// class information does not distinguish this class from wxValidator: use dynamic_cast. The host may set another
+/// validator on the control while this one handles a key.
 ///
 /// For single-line wxTextCtrl controls. On any other window, such as a wxComboBox, Validate() and both transfers assert
 /// and return false, and typing is not checked. GUI thread only.

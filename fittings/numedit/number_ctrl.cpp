@@ -77,7 +77,7 @@ bool wxNumberCtrl::Create(wxWindow* parent, wxWindowID id, const CNumberFormat& 
     if (!wxTextCtrl::Create(parent, id, wxString(), pos, size, style & ~wxTE_MULTILINE, validator, name))
         return false;
     m_field = std::make_unique<NumberField>(format);
-    // The user data that identifies the toolkit's own signal handlers.
+    // The toolkit's own signal handlers have this pointer as their user data.
     wxTextEntry* const toolkit = this;
     m_field->entry = std::make_unique<NumberEntry>(
         GTK_ENTRY(m_widget), toolkit,
@@ -86,7 +86,7 @@ bool wxNumberCtrl::Create(wxWindow* parent, wxWindowID id, const CNumberFormat& 
             if (!wxValidator::IsSilent())
                 wxBell();
         });
-    // By default, a text control leaves the wheel to its parent.
+    // Receive the wheel, which a text control leaves to its parent by default.
     gtk_widget_add_events(m_widget, GDK_SCROLL_MASK);
     if (!GetValidator())
         SetValidator(wxDecimalValidator());

@@ -16,9 +16,9 @@
 /// @file
 /// A text field for one number: wxNumberCtrl and its event.
 
-/// A wxNumberCtrl sends this after wxEVT_TEXT when its number has changed, or when the field has got or lost a number.
-/// GetString() is wxNumberCtrl::GetDecimal(). The event is not sent if only the text has changed: 1.5 and 1.50 are the
-/// same number.
+/// A wxNumberCtrl sends this after wxEVT_TEXT when its number has changed. A change to or from a text that is not a
+/// number counts too. The event's GetString() returns the number as wxNumberCtrl::GetDecimal() does. The event is not
+/// sent if only the text has changed: 1.5 and 1.50 are the same number.
 extern const FITTINGS_API wxEventTypeTag<wxCommandEvent> wxEVT_NUMBER_CHANGED;
 
 /// The default name of a wxNumberCtrl.
@@ -67,7 +67,7 @@ public:
     /// Makes the object. Call Create() before anything else.
     wxNumberCtrl();
 
-    /// Makes an empty field. Without a @a validator, the field gets one that refuses a text that is not a number within
+    /// Makes an empty field. Without a @a validator, the field uses one that refuses a text that is not a number within
     /// the bounds.
     explicit wxNumberCtrl(wxWindow* parent, wxWindowID id = wxID_ANY, const CNumberFormat& format = FromLocale(),
                           const wxPoint& pos = wxDefaultPosition, const wxSize& size = wxDefaultSize, long style = 0,
@@ -85,7 +85,7 @@ public:
     /// settings for numbers, whatever the process's locale is.
     static CNumberFormat FromLocale(std::uint64_t decimals);
 
-    /// Returns the same format with two decimals.
+    /// Returns FromLocale(2).
     static CNumberFormat FromLocale();
 
     /// Returns the control's own copy of the format.
@@ -133,14 +133,15 @@ public:
     bool SetRange(const wxString& min, const wxString& max);
 
     /// Sets the bounds to the shortest decimal numbers that read as @a min and @a max. An infinite value means no
-    /// bound.
+    /// bound. Returns false and changes nothing if one is NaN or @a min is above @a max.
     bool SetRange(double min, double max);
 
     /// Sets how far Up, Down and the wheel step; 1 at first. Returns false and changes nothing unless @a increment is a
     /// number above 0 with no more decimals than the format has.
     bool SetIncrement(const wxString& increment);
 
-    /// Sets how far Up, Down and the wheel step, to the shortest decimal number that reads as @a increment.
+    /// Sets how far Up, Down and the wheel step, to the shortest decimal number that reads as @a increment. Returns
+    /// what SetIncrement() returns for the text of that number, and false for an infinity and NaN.
     bool SetIncrement(double increment);
 
     /// Returns whether IsAcceptable() is true and the validator accepts the field.

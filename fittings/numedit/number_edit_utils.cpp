@@ -20,7 +20,7 @@ std::wstring LocalePoint()
 
 constexpr std::uint64_t kMostPadding = 1000000;
 
-// Gives the same result as iswdigit() in every locale of the C library, without a call for each digit.
+// Returns the same as iswdigit() in every locale of the C library, without a call for each digit.
 bool IsDigit(wchar_t c)
 {
     return c >= L'0' && c <= L'9';
@@ -46,8 +46,8 @@ const wchar_t* AfterDigits(const wchar_t* text)
 
 /// Stores @a text in @a result with @a from replaced by @a to. Returns false if there is nothing to replace.
 ///
-/// An empty point means that the locale's point cannot be converted. Usually both points are the same character, which
-/// is detected without a function call.
+/// An empty point means that the locale's point cannot be converted. Usually both points are the same character: the
+/// function then returns without a search.
 bool ReplacePoint(std::wstring& result, const wchar_t* text, std::wstring_view from, std::wstring_view to)
 {
     if (from.empty() || to.empty() || (from.size() == 1 && to.size() == 1 && from[0] == to[0]))

@@ -15,10 +15,10 @@
 ///     label->SetLabel(CNumberEditUtils::FormatControlText(typed.wc_str(), format));  // 1234.5 as 1,234.50
 /// @endcode
 ///
-/// A null text counts as empty. For any text, each operation stores or returns a valid text, or returns false. The time
-/// grows in proportion to the length of the text. Digits are `0` to `9`. Blanks are the characters for which iswspace()
-/// is true in the process's locale. Every call reads the decimal point of that locale again. Call on the GUI thread:
-/// localeconv() and the toolkit's current conversion require it.
+/// A null text counts as empty, and any other text may be passed. The time grows in proportion to the length of the
+/// text. Digits are `0` to `9`. Blanks are the characters for which iswspace() is true in the process's locale. Every
+/// call reads the decimal point of that locale again. Call on the GUI thread: localeconv() and the toolkit's current
+/// conversion require it.
 class FITTINGS_API CNumberEditUtils
 {
 public:

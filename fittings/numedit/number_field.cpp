@@ -19,7 +19,7 @@ wxString Translated(const wchar_t* key)
     return lng_util_internal::DoGetResourceString(key, &everyCatalogue);
 }
 
-// Each text has one %s for the number or the bound.
+// Returns the translated text with @a number in place of its %s.
 wxString Translated(const wchar_t* key, const wxString& number)
 {
     wxString text = Translated(key);
@@ -42,7 +42,7 @@ std::int64_t DecimalsIn(const std::wstring& text, wchar_t point)
     return std::find_if_not(begin, text.end(), IsDigit) - begin;
 }
 
-/// A place in a number, given by the number of digits between it and the decimal point.
+/// A place in a number: its side of the decimal point, and the number of digits between the place and the point.
 struct Offset
 {
     bool inFraction;

@@ -42,7 +42,8 @@ public:
     /// the step does not change the number.
     std::optional<std::wstring> Stepped(const std::wstring& plain, bool up, bool tenfold) const;
 
-    /// Converts a place in @a from to the place in @a to with the same number of digits to the decimal point.
+    /// Returns the position in @a to that has as many digits between it and the decimal point, and on the same side, as
+    /// @a place has in @a from. The beginning and the end of @a from become those of @a to.
     long Place(const std::wstring& from, const std::wstring& to, long place) const;
 
     CNumberFormat format;

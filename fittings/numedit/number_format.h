@@ -30,8 +30,8 @@ enum EGeneralFormat : int {
 /// @endcode
 ///
 /// The constructor reads the locale once. A format that was made before the host calls setlocale() keeps its
-/// separators. Every field takes every value; the operations that read a field describe the effect of unusual values.
-/// Make and change a format on the GUI thread.
+/// separators. Every field but m_strTemplate may have any value; the functions that read a field describe the effect of
+/// unusual values. Make and change a format on the GUI thread.
 class FITTINGS_API CNumberFormat
 {
 public:

@@ -30,7 +30,7 @@ std::wstring_view Trimmed(std::wstring_view text)
     return text;
 }
 
-/// The text of a template before and after its %s, without blanks at the ends.
+/// The texts of a template before and after its %s, each without blanks at its ends.
 struct Around
 {
     std::wstring before;
@@ -66,7 +66,7 @@ std::wstring_view WithoutTemplate(std::wstring_view text, const CNumberFormat& f
     return text;
 }
 
-/// Moves a minus sign that follows the mantissa to the front.
+/// Returns the text with each U+2212 replaced by "-", and with a minus that follows the mantissa moved to the front.
 std::wstring WithMinusInFront(std::wstring_view text)
 {
     std::wstring result(text);
@@ -84,7 +84,8 @@ bool IsSeparator(wchar_t c, wchar_t separator)
     return separator != 0 && (c == separator || (IsBlank(c) && IsBlank(separator)));
 }
 
-/// Removes the separators. Returns false if a separator does not follow a digit or is not followed by a whole group.
+/// Removes the separators. Returns false if they do not separate groups of three digits. The first group may have fewer
+/// digits, but not none.
 bool Ungroup(std::wstring& text, const CNumberFormat& format)
 {
     const wchar_t separator = format.m_chThousandsSep;

@@ -17,7 +17,7 @@ bool IsSign(wchar_t c)
     return c == L'-' || c == L'+';
 }
 
-/// The parts of a number that are typed so far.
+/// The parts of a number, as far as it has been typed.
 struct Typed
 {
     wchar_t sign = 0;

@@ -14,7 +14,7 @@
 
 namespace fittings {
 
-/// The rules for the text of a field for one number.
+/// The rules for the text of a number field.
 struct NumberRules
 {
     wchar_t point = L'.';
@@ -50,12 +50,13 @@ NumberState Judge(std::wstring_view text, const NumberRules& rules);
 /// with a lowest value of 0, "-" is refused, although "-0" is a number within the bounds.
 bool CanBeTyped(std::wstring_view text, const NumberRules& rules);
 
-/// Returns the number in plain text, whatever the bounds and the allowed numbers of digits are.
+/// Returns the number that the plain text @a text represents, whatever the bounds and limits are. Returns nothing if it
+/// is not a complete number.
 std::optional<Decimal> NumberIn(std::wstring_view text, wchar_t point);
 
-/// Returns the plain text for a text as CNumberEditUtils::FormatControlText() formats it. The text may have blanks
-/// around it, the template, groups of three digits, and the minus in front or at the end. Returns nothing if the text
-/// is not a number or has more digits than are allowed.
+/// Converts a formatted text, such as CNumberEditUtils::FormatControlText() returns, to plain text. The formatted text
+/// may have blanks around it, the template, groups of three digits, and the minus in front or at the end. Returns
+/// nothing if the text is not a number or has more digits than are allowed.
 std::optional<std::wstring> PlainTextOf(std::wstring_view text, const CNumberFormat& format);
 
 /// Returns the number with `.` as its point, as programs read it: "+5." gives "5". Empty if there is no number.

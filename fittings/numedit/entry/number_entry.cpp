@@ -44,7 +44,7 @@ int NumberEntry::Filter(const GdkEventKey* key, const std::function<int()>& filt
     if (m_hasRefused) {
         Select(m_entry, selected);
     } else if (m_waiting) {
-        // No insertion followed: an input method has deleted text around the caret.
+        // Delete now, because no insertion followed: an input method has deleted text around the caret.
         const auto [begin, end] = *m_waiting;
         const Free free(this);
         gtk_editable_delete_text(GTK_EDITABLE(m_entry), begin, end);
@@ -108,8 +108,8 @@ void NumberEntry::OnDelete(GtkEditable* entry, int begin, int end, NumberEntry* 
     self->Deleting(begin, end);
 }
 
-/// Inserts a dropped text as GTK does, but tells the source when the text was refused. GTK would report every text as
-/// taken, and a source that moves its text would then delete it.
+/// Inserts a dropped text as GTK does, but reports a refusal to the source. GTK would report every text as taken, and a
+/// source that moves its text would then delete a refused one.
 void NumberEntry::OnDropped(GtkWidget* entry, GdkDragContext* drag, int x, int, GtkSelectionData* data, unsigned,
                             unsigned time, NumberEntry* self)
 {

@@ -23,7 +23,7 @@ namespace fittings {
 /// does not come with a key: if such a text is refused, the deleted selection is restored. A text that is dropped on
 /// the selection replaces the selection only if the text is accepted.
 ///
-/// The program is told of an insertion at once, and a handler of the program may destroy the object.
+/// The program is notified of an insertion at once, and a handler of the program may destroy the object.
 class NumberEntry : public wxTrackable
 {
 public:

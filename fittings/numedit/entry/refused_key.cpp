@@ -61,7 +61,8 @@ void OnSelectionEnded(GtkEditable* editable, GParamSpec*, Key* key)
         Select(GTK_ENTRY(editable), key->deletion->selection);
 }
 
-// Runs after the key event. By then the toolkit has sent its own event, or was prevented from sending it.
+// Ends the suppression of wxEVT_TEXT after the key event. By then the toolkit has sent its own event, or was prevented
+// from sending it.
 void OnKeyEnd(GtkWidget* entry, GdkEvent*, Key* key)
 {
     if (!key->quiet)
