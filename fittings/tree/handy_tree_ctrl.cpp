@@ -63,8 +63,8 @@ void wxHandyTreeCtrl::CreateImageList()
     SetImageList(m_imageList);
 }
 
-// Sets the images and makes the toolkit measure the items again. Otherwise the rows would keep the height that the
-// earlier images needed.
+// Sets the images. Without images, also lowers the row height: the toolkit raises it when it measures the items again,
+// but does not lower it from the height of the earlier images.
 void wxHandyTreeCtrl::SetImageList(wxImageList* images)
 {
     wxTreeCtrlEx::SetImageList(images);

@@ -8,8 +8,8 @@
 
 class wxImageList;
 
-/// A tree for browsing. It fills an item when the item is expanded, shows a busy cursor meanwhile, and can remember
-/// which items were expanded.
+/// A tree for browsing. It calls OnItemExpanding() to fill an item when the item is expanded, shows a busy cursor
+/// meanwhile, and can remember which items were expanded.
 ///
 /// @code
 /// class FolderTree : public wxHandyTreeCtrl
@@ -76,7 +76,8 @@ public:
     /// height of the text.
     void SetImageList(wxImageList* images) override;
 
-    /// Deletes the image list, if there is one. The control must not be drawn with its images afterwards.
+    /// Deletes the list of CreateImageList(), if there is one. The control must not be drawn with its images
+    /// afterwards.
     void DetroyImageList();
 
     /// Sets the name under which SaveState() and LoadState() without a name keep the state. Empty at first.
@@ -90,7 +91,7 @@ public:
 
     /// @name Expanded items
     ///
-    /// The operations work on @a start and the items below it, not on its siblings. They take time in proportion to the
+    /// The functions work on @a start and the items below it, not on its siblings. They take time in proportion to the
     /// number of items. The depth of the tree is not limited.
     /// @{
 
@@ -121,7 +122,7 @@ public:
     /// handler does not skip the event, the item is not filled.
     void OnEvtItemExpanding(wxTreeEvent& event);
 
-    /// Tells assistive technologies which item has the focus in the tree.
+    /// Describes the item that has the focus in the tree to assistive technologies.
     void OnInternalIdle() override;
 
     /// Called each time an item is about to expand. Override it to add the children. The default does nothing.

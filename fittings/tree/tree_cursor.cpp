@@ -39,7 +39,7 @@ int wxTreeCursor::SetImage(const wxBitmap& bitmap, const wxColour& mask, wxTreeI
 void wxTreeCursor::SetData(int value)
 {
     CHECK_ITEM_RET();
-    // The control deletes the data with the item, but not when other data takes its place.
+    // Delete the earlier data here: the control deletes data with its item, but not when other data replaces it.
     const std::unique_ptr<wxTreeItemData> earlier(tree->GetItemData(item));
     tree->SetItemData(item, new wxGenericTreeItemData(value));
 }

@@ -127,12 +127,13 @@ private:
         m_path;  // The items from the start to the visited one. Recursion would overflow the stack in a deep tree.
 };
 
-// Ignores the text after the last separator.
+// Returns the labels in a stored text, in which a separator follows each label. Ignores the text after the last
+// separator.
 Labels SplitLabels(std::wstring_view text)
 {
     Labels labels;
-    // Most labels of a tree are not in the set. With few entries per bucket, such a look-up usually meets an empty
-    // bucket.
+    // Keep most buckets empty: most labels of a tree are not in the set, and the look-up of such a label then usually
+    // ends at an empty bucket.
     labels.max_load_factor(0.25F);
     labels.reserve(static_cast<std::size_t>(std::count(text.begin(), text.end(), kSeparator)));
     for (std::size_t end = text.find(kSeparator); end != text.npos; end = text.find(kSeparator)) {
@@ -153,7 +154,8 @@ struct Item
 std::wstring JoinExpanded(std::vector<Item> items)
 {
     const auto isBefore = [](const Item& a, const Item& b) { return a.label < b.label; };
-    // Siblings usually are in order. The item that the walk starts with comes before them.
+    // Siblings usually are in order, so sort only if needed. The first item is the one that the walk starts with: leave
+    // it out, and merge it afterwards.
     const auto second = items.begin() + (items.empty() ? 0 : 1);
     if (!std::is_sorted(second, items.end(), isBefore))
         std::stable_sort(second, items.end(), isBefore);
