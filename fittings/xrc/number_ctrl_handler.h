@@ -6,7 +6,7 @@
 #include <fittings/base/export.h>
 
 /// Makes a wxNumberCtrl from an XML resource, for an object of class "wxNumberCtrl". If the object has a `subclass`,
-/// makes that host's class, which must be derived from wxNumberCtrl.
+/// makes an object of that class of the host, which must be derived from wxNumberCtrl.
 ///
 /// @code{.xml}
 /// <object class="wxNumberCtrl" name="weight">

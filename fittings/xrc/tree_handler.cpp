@@ -43,7 +43,8 @@ wxObject* wxHandyTreeCtrlXmlHandler::DoCreateResource()
     tree->Create(m_parentAsWindow, GetID(), GetPosition(), GetSize(),
                  GetStyle("style", wxTR_HAS_BUTTONS | wxTR_NO_LINES), wxDefaultValidator, GetName());
     std::unique_ptr<wxImageList> images(GetImageList());
-    // Without a size in the resource, the images have the size of the first bitmap, which may be missing.
+    // Without a size in the resource, the list takes that of its first bitmap. If there is no bitmap, use an empty
+    // list.
     if (images && images->GetSize() != wxSize(0, 0))
         tree->AssignImageList(images.release());
     else

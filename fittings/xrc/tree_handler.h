@@ -6,7 +6,7 @@
 #include <fittings/base/export.h>
 
 /// Makes a wxHandyTreeCtrl from an XML resource, for an object of class "wxHandyTreeCtrl". If the object has a
-/// `subclass`, makes that host's class, which must be derived from wxHandyTreeCtrl.
+/// `subclass`, makes an object of that class of the host, which must be derived from wxHandyTreeCtrl.
 ///
 /// @code{.xml}
 /// <object class="wxHandyTreeCtrl" name="folders" subclass="FolderTree">
