@@ -98,7 +98,7 @@ CStdStr<wchar_t> CQVFileDialogI::LaunchSaveDialog(wxWindow* parent, const wchar_
     wxString folder = *initialFolder ? initialFolder : fittings::LoadLastPath(g_regEntry.c_str());
     wxString fileName = fittings::OrEmpty(initialFileName);
     if (!folder.empty()) {
-        // The toolkit takes the last part of a folder without a separator at its end for the file name.
+        // wxFileName takes the last part of a folder without a separator at its end for the file name.
         wxFileName path;
         path.Assign(folder, wxPATH_NATIVE);
         if (fileName.empty())
@@ -173,7 +173,8 @@ void SaveLastPath(const wchar_t* path, const char* entry)
 {
     if (!*entry || !*path)
         return;
-    // A host's platform may rely on this call. Its result is not used, because the path is stored as it was chosen.
+    // Call this because a host's platform may rely on the call. The result is not used: the path is stored as it was
+    // chosen.
     file_util_ex::RemoveBackSlash(path);
     CLocalRegStore::WriteString(kLastFilesSection, entry, file_util_ex::ConvertToUTF8(path).c_str());
 }

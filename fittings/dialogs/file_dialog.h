@@ -32,7 +32,7 @@ class FITTINGS_API CQVFileDialogI
 public:
     /// @name A file extension and a file filter
     ///
-    /// Stored for the host, one of each in the process, empty at first. The dialog does not use them.
+    /// Two texts that are stored for the host, once per process, and are empty at first. The dialog does not use them.
     /// @{
     static void SetFileExtension(const CStdStr<wchar_t>& ext);  ///< Keeps a copy.
     static void SetFileFilter(const CStdStr<wchar_t>& filter);  ///< Keeps a copy.

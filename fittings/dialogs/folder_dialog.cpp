@@ -18,8 +18,8 @@ wxString DirSelector(wxWindow* parent, const wchar_t* message, const wchar_t* de
 {
     wxDirDialog dialog(parent, fittings::OrEmpty(message), fittings::OrEmpty(defaultFolder), wxDD_DEFAULT_STYLE,
                        wxPoint(x, y), wxDefaultSize, wxDirDialogNameStr);
-    // The toolkit ignores a missing folder. Without a folder, GTK's dialog would show the files that were used last,
-    // where nothing can be chosen.
+    // Set the home folder first, because SetPath() ignores a missing folder. Without a folder, GTK's dialog would show
+    // the files that were used last, where nothing can be chosen.
     dialog.SetPath(wxGetHomeDir());
     dialog.SetPath(fittings::OrEmpty(defaultFolder));
     dialog.Centre(wxBOTH);

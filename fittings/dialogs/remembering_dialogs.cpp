@@ -18,7 +18,8 @@ namespace {
 
 constexpr wchar_t kLastFiltersSection[] = L"LastFilters";
 
-// Returns the remembered folder, or the nearest one above it; the user's documents when no folder is remembered.
+// Returns the remembered folder, or the user's documents folder when none is remembered. If that folder cannot be read,
+// returns the nearest one above it that can.
 wxString StartFolder(const wxString& remembered)
 {
     if (remembered.StartsWith("/"))
@@ -95,11 +96,12 @@ bool wxRememberingFileDialog::Create(wxWindow* parent, const wxString& entry, co
     wxString name = FileName(defaultName.empty() ? last : defaultName);
     const wxArrayString filters = PatternsOf(GetWildcard());
     const int filter = FilterFor(filters, CLocalRegStore::GetString(kLastFiltersSection, entry.wc_str(), L""), name);
-    // A name that is set when the dialog is made would get the extension of the first filter.
+    // Set the name only now: wxFileDialog::Create() would give it the extension of the first filter.
     const wxString& pattern = filters[static_cast<std::size_t>(filter)];
     if (!defaultName.empty() && !name.empty())
         name = AppendExtension(name, pattern);
-    // GTK's dialog drops the filter when it is told to select a file that the filter hides.
+    // In a dialog to open, set only a name that the filter shows: GTK's dialog drops the filter when it has to select a
+    // file that the filter hides.
     if (HasFlag(wxFD_SAVE) ? !name.empty() : Shows(pattern, name) && wxFileExists(folder + "/" + name))
         SetFilename(name);
     // Set the filter last: in a dialog to open, SetFilename() makes the toolkit choose another filter.
@@ -118,7 +120,8 @@ int wxRememberingFileDialog::ShowModal()
     const std::string key = file_util_ex::ConvertToUTF8(m_entry.ToStdWstring());
     fittings::SaveLastPath(path.wc_str(), key.c_str());
     const wxArrayString filters = PatternsOf(GetWildcard());
-    // GTK's dialog has no filter after it was told to select a file that the filter hides.
+    // Store a filter only if the dialog has one: GTK's dialog drops it when it has to select a file that the filter
+    // hides.
     if (filters.size() > 1 && gtk_file_chooser_get_filter(GTK_FILE_CHOOSER(GetHandle()))) {
         const wxString& filter = filters[static_cast<std::size_t>(GetFilterIndex())];
         CLocalRegStore::WriteString(kLastFiltersSection, m_entry.wc_str(), filter.wc_str());
