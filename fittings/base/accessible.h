@@ -8,15 +8,15 @@ namespace fittings {
 
 enum class AccessibleRole { ComboBox, Grid, Text, Tree };
 
-/// Tells assistive technologies what a window is. A call that changes nothing is cheap, so the function may be called
-/// on every idle event.
+/// Describes a window to assistive technologies. A call that changes nothing is cheap, so the function may be called on
+/// every idle event.
 ///
 /// @a value, the current choice, becomes the accessible name, as for GTK's own combo boxes. @a label becomes the
-/// description. If @a value is empty, @a label becomes the name.
+/// description. If @a value is empty, @a label becomes the name, and the description is not set.
 void Describe(wxWindow& window, AccessibleRole role, const wxString& label, const wxString& value);
 
 /// Makes the static texts that label a window, and their mnemonics, point to the part of the window that takes the
-/// focus. The toolkit points them to the window itself each time the Tab order changes, so call this again then.
+/// focus. The toolkit makes them point to the window itself each time the Tab order changes, so call this again then.
 void LabelPart(wxWindow& window, wxWindow& part);
 
 }  // namespace fittings

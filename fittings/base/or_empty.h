@@ -3,7 +3,7 @@
 
 namespace fittings {
 
-/// Returns the text, or an empty one for a null pointer.
+/// Returns the text, or an empty text for a null pointer.
 inline const wchar_t* OrEmpty(const wchar_t* text)
 {
     return text ? text : L"";

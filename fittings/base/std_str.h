@@ -17,11 +17,11 @@ public:
     using Base::Base;  // the constructors below hide inherited ones with the same parameters
 
     CStdStr() = default;
-    CStdStr(const CharT* text) : Base(text ? Base(text) : Base()) {}  ///< Copies the text; null gives an empty one.
+    CStdStr(const CharT* text) : Base(text ? Base(text) : Base()) {}  ///< Copies the text; null counts as empty.
     CStdStr(const Base& text) : Base(text) {}                         ///< Copies the text.
     CStdStr(Base&& text) noexcept : Base(std::move(text)) {}          ///< Takes the text over.
 
-    /// Copies the text; null gives an empty one.
+    /// Copies the text; null counts as empty.
     CStdStr& operator=(const CharT* text)
     {
         if (text)

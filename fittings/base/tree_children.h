@@ -9,13 +9,12 @@
 
 namespace fittings {
 
-/// A place among the children of an item. A step takes constant time, but wxTreeCtrl::GetNextSibling() would search for
+/// Iterates over the children of an item. A step takes constant time, but wxTreeCtrl::GetNextSibling() would search for
 /// the item.
 class TreeChildren
 {
 public:
-    /// Returns the child at this place, or an invalid item after the last one, and moves to the next place. Pass the
-    /// same tree and parent in each call.
+    /// Returns the next child, or an invalid item after the last one. Pass the same tree and parent in each call.
     wxTreeItemId Next(const wxTreeCtrl& tree, const wxTreeItemId& parent)
     {
         return std::exchange(m_isAtStart, false) ? tree.GetFirstChild(parent, m_cookie)

@@ -77,29 +77,30 @@ public:
     /// arrive.
     void StartKill();
 
-    /// Makes the worker post one event of that type to the handler when Entry() has returned, whether the work was
-    /// done, StartKill() was called or an exception was thrown. Call this before RunThread(). Without a call there is
-    /// no such event.
+    /// Makes the worker post one event of type @a eventType to the handler when Entry() has returned, whether the work
+    /// was done, StartKill() was called or an exception was thrown. Call this before RunThread(). Without a call, no
+    /// such event is posted.
     ///
     /// The event is a wxCommandEvent. Its int is GetRunNumber(), and its client data is the result of Entry(). When the
     /// event arrives, HasEnded() is true and Wait() returns at once.
     void SetEndEvent(int eventType);
 
     /// Returns a number that no other worker of the process has. The number is larger than those of the workers made
-    /// before. With this number in its events, a handler can ignore events that an earlier worker has left queued.
+    /// before. If a worker's events contain this number, their handler can ignore those that an earlier worker has left
+    /// queued.
     int GetRunNumber() const { return m_runNumber; }
 
     /// @name Posting
     ///
-    /// The handler gets a copy of the event on the GUI thread, as a pending event of the toolkit. Each overload returns
-    /// true when the worker may go on: the event was queued, or was dropped because there is no handler. Each overload
-    /// returns false when the worker was asked to stop; nothing is queued then.
+    /// The handler receives a copy of the event on the GUI thread, as a pending event of the toolkit. Each overload
+    /// returns true when the worker may go on: the event was queued, or was dropped because there is no handler. Each
+    /// overload returns false when the worker was asked to stop; nothing is queued then.
     ///
     /// A worker that posts faster than the GUI thread handles is not slowed down: its events fill the memory and block
     /// the GUI. Report results at intervals, not one by one.
     ///
-    /// Client data is passed on as it is and never owned. If an event is dropped, or is still queued when its handler
-    /// is destroyed, its data is not freed.
+    /// Client data is passed on as it is, and the library never owns it. If an event is dropped, or is still queued
+    /// when its handler is destroyed, its data is not freed.
     ///
     /// A call PostEvent(type, value, 0) is ambiguous: write 0L or nullptr.
     /// @{
@@ -108,7 +109,8 @@ public:
     /// not changed.
     bool PostEvent(wxCommandEvent& event, int value);
 
-    /// Posts a wxCommandEvent with that type and int and with id 0. Everything else in it is empty.
+    /// Posts a wxCommandEvent of type @a eventType with the int @a value and id 0. Everything else in the event is
+    /// empty.
     bool PostEvent(int eventType, int value);
     bool PostEvent(int eventType, int value, long extra);  ///< Does the same with an extra long.
     bool PostEvent(int eventType, int value, void* data);  ///< Does the same with client data.

@@ -13,7 +13,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-// In milliseconds: about thirty years. Adding it to the current time does not overflow the clock.
+// In milliseconds: about thirty years. Adding this to the current time does not overflow the clock.
 constexpr std::uint64_t kLongestWait = 1'000'000'000'000;
 
 // The longest time that a wait keeps windows from being painted.
@@ -72,7 +72,7 @@ private:
 
         static void Tell(wxThreadEx* owner)
         {
-            // Signal under the lock: once it is free, the owner may destroy the condition and the mutex.
+            // Signal under the lock: once the mutex is free, the owner may destroy the condition and the mutex.
             const std::lock_guard<std::mutex> lock(owner->m_mutex);
             owner->m_finished = true;
             if (owner->m_atEnd)
@@ -107,8 +107,8 @@ wxThreadEx::~wxThreadEx()
 
 wxThreadError wxThreadEx::Create(unsigned int WXUNUSED(stackSize))
 {
-    // Once the thread runs, the implementation may be gone. Before that, the toolkit would make a second thread for the
-    // implementation, and this thread would outlive the implementation.
+    // Do not make a thread twice. Once the thread runs, m_impl may have been deleted. Before that, the toolkit would
+    // make a second thread for m_impl, and that thread would outlive m_impl.
     if (m_running || m_impl->GetId() != 0)
         return wxTHREAD_RUNNING;
     return m_impl->Create(0);

@@ -44,8 +44,8 @@ class wxThreadExImpl;
 ///   then finds no Entry() to call and aborts the process. So call Wait() before, in the owner or in the destructor of
 ///   the most derived class.
 /// - A detached object must outlive its Entry(): the thread writes into the object when Entry() has returned, and
-///   neither Wait() nor the destructor waits for that. No call tells when the thread is done, so keep such an object
-///   until the process ends. Do not shut the toolkit down while its thread runs.
+///   neither Wait() nor the destructor waits for that. No function reports when the thread is done, so keep such an
+///   object until the process ends. Do not shut the toolkit down while its thread runs.
 /// - The thread itself frees the toolkit's thread object behind this one when it ends. If this object never ran, or its
 ///   Run() failed, the toolkit's object stays allocated until the process ends. After Create() a waiting thread stays
 ///   too, which may disturb the toolkit's shutdown. So call Create() only if you call Run().
@@ -77,8 +77,9 @@ public:
     /// Waits until Entry() has returned and the thread is over: its thread-local objects are destroyed, and the toolkit
     /// no longer uses the thread.
     ///
-    /// Another call gives the same exit code. Only one thread at a time may wait, because only one is woken. No events
-    /// are handled meanwhile: if Entry() waits for the GUI thread or calls Wait() itself, this call never returns.
+    /// Another call returns the same exit code. Only one thread at a time may wait, because only one is woken. No
+    /// events are handled meanwhile: if Entry() waits for the GUI thread or calls Wait() itself, this call never
+    /// returns.
     ///
     /// @return the result of Entry(). (wxThread::ExitCode)-1 at once when the object is detached or has not run.
     wxThread::ExitCode Wait();
@@ -111,8 +112,8 @@ private:
     wxThread::ExitCode m_exitCode;
 
 protected:
-    /// Called on the thread with the exit code when Entry() has returned. The function must not call HasEnded() or
-    /// Wait(), which wait for the function to return. Set it before Run().
+    /// Called on the thread with the exit code when Entry() has returned or thrown an exception. The function must not
+    /// call HasEnded() or Wait(), which wait for the function to return. Set it before Run().
     std::function<void(wxThread::ExitCode)> m_atEnd;
 };
 
