@@ -18,8 +18,8 @@ if(TARGET fittings-gallery)
 endif()
 
 if(FITTINGS_PLATFORM STREQUAL external)
-  # A library that is built on a host's own platform is a part of that host. Install it where the host's programs find
-  # it, without the files to link to it: only the host's build links to it.
+  # A library that is built on a host's own platform is a part of that host. Install only the library, where the host's
+  # programs find it, without the files for linking: only the host's build links to it.
   install(TARGETS fittings LIBRARY COMPONENT fittings_runtime NAMELINK_SKIP)
   if(TARGET fittings-xrc)
     install(TARGETS fittings-xrc LIBRARY COMPONENT fittings_runtime NAMELINK_SKIP)
@@ -32,7 +32,8 @@ install(TARGETS fittings fittings-platform fittings-platform-headers EXPORT fitt
   FILE_SET HEADERS COMPONENT fittings_development
   FILE_SET generated COMPONENT fittings_development)
 
-# Files for CMake hosts. Until 1.0 a minor version may change the interface.
+# Files for CMake hosts. They accept only the same minor version, because until 1.0 a minor version may change the
+# interface.
 set(config_folder ${CMAKE_INSTALL_LIBDIR}/cmake/fittings)
 install(EXPORT fittings-targets NAMESPACE fittings:: DESTINATION ${config_folder} COMPONENT fittings_development)
 if(TARGET fittings-xrc)

@@ -2,9 +2,9 @@
 # variables. A target exists only if the components of the toolkit are found. The build uses this file, and so does the
 # installed fittings-config.cmake.
 
-# fittings_import_wx(target component...)
-# This is a function and not a macro, so that the wxWidgets_... variables of a host that found other components do not
-# change.
+# fittings_import_wx(target component...): defines the imported target for these components of the toolkit, if they are
+# found. This is a function and not a macro, so that the wxWidgets_... variables of a host that found other components
+# do not change.
 function(fittings_import_wx target)
   if(TARGET ${target})
     return()

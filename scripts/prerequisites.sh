@@ -69,8 +69,8 @@ install_missing() {
   [ "$(id -u)" -eq 0 ] || sudo=" with sudo"
   echo "Installing these packages$sudo, which may take some minutes: ${missing[*]}"
   log=$(mktemp)
-  # The package index may be missing or old, so refresh it if the first attempt fails. Then the first known name may
-  # differ.
+  # The package index may be missing or old, so refresh it if the first attempt fails. Then look for the missing
+  # packages again, because the refreshed index may know other names.
   if ! apt_install >"$log" 2>&1 &&
     ! { as_root apt-get update && find_missing "$@" && apt_install; } >"$log" 2>&1; then
     tail -n 5 "$log" >&2
@@ -81,7 +81,7 @@ install_missing() {
   rm -f "$log"
 }
 
-# Uses the variables of install_missing.
+# Installs the packages in the array missing.
 apt_install() {
   as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${missing[@]}"
 }
