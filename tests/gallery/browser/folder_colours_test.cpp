@@ -101,7 +101,7 @@ TEST_F(FolderColours, AClickGivesAFolderOne)
     EXPECT_EQ(Combo().GetColourPopup()->GetInitialColour(), Tree().GetForegroundColour());
 }
 
-// Down leads from "More Colours..." to "Automatic", and from there to the first row of the palette.
+// The first Down leads to "More Colours...", and the others lead on to "Automatic", to black and to dark red.
 TEST_F(FolderColours, TheKeyboardGivesAFolderOne)
 {
     Select("docs");
