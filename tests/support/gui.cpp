@@ -29,7 +29,7 @@ bool ShowAndSettle(wxTopLevelWindow* window)
 {
     window->Show();
     window->Raise();
-    // The frame counts as settled when the same geometry is seen over several turns.
+    // The window counts as settled when it is active and has the same geometry over several turns.
     wxRect seen;
     int same = 0;
     return PumpUntil([&] {

@@ -15,7 +15,8 @@ class wxWindow;
 /// Handles every event that has arrived, idle processing included.
 void PumpPending();
 
-/// Shows a window and waits until the window manager has mapped and placed it.
+/// Shows a window and waits until it is active and its geometry no longer changes. Returns false if that takes too
+/// long.
 bool ShowAndSettle(wxTopLevelWindow* window);
 
 /// Destroys a window as a program does, and handles the events that follow.

@@ -7,8 +7,8 @@
 /// Calls to the platform, each as "operation [argument] [argument]".
 using Calls = std::vector<std::wstring>;
 
-/// Replaces the platform library's settings, paths and UTF-8 in a program that links this library. Records the calls,
-/// and can make any of them fail.
+/// The state of a platform that records the calls and can make any of them throw. In a program that links this library,
+/// it takes the place of the settings, paths and UTF-8 conversions of the platform library.
 struct NotingPlatform
 {
     Calls calls;
@@ -19,7 +19,7 @@ struct NotingPlatform
     std::wstring stored = L"stored";  ///< The text that every read returns; ASCII.
     int files = 0;                    ///< The number of existing file objects.
     int batches = 0;                  ///< The number of existing batches.
-    int savesWithoutBatch = 0;        ///< Writes to the default store that were saved immediately.
+    int savesWithoutBatch = 0;        ///< The number of wide texts, flags and sets of changes stored outside a batch.
 };
 
 extern NotingPlatform g_platform;

@@ -9,7 +9,8 @@
 /// The key F4 for "xdotool key", by its code: with xkb-data 2.48 or later the name would send Alt+F4.
 inline constexpr const char* kF4 = "70";
 
-/// Sends input to the focused window of the X display, or asks about its windows. Returns the output.
+/// Runs xdotool, which sends input to the focused window of the X display or reports about its windows. Returns its
+/// output.
 inline std::string Xdotool(std::vector<std::string> arguments)
 {
     arguments.insert(arguments.begin(), "xdotool");

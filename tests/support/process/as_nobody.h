@@ -4,7 +4,8 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-/// Takes away root's right to read and write every file while the object exists. Other users do not have it.
+/// Takes away root's right to read and write every file while the object exists. For other users, who do not have this
+/// right, nothing changes.
 class AsNobody
 {
 public:

@@ -13,7 +13,7 @@ bool MountSmallDisk(const std::string& folder);
 /// Mounts an empty file system in memory. Only after EnterOwnMounts().
 bool MountDisk(const std::string& folder);
 
-/// Makes a small disk read only, or writable again.
+/// Makes the disk of MountSmallDisk() read-only, or writable again.
 bool SetReadOnly(const std::string& folder, bool isReadOnly);
 
 #endif
