@@ -24,7 +24,7 @@ namespace {
 using Thread = Working<wxThreadEx>;
 using Worker = Working<wxGUIThread>;
 
-/// Objects that are made, run and waited for together.
+/// Thread objects that are made, run and waited for together.
 class Threads
 {
 public:

@@ -1,4 +1,5 @@
-// The two mutexes: when each is held, in which order they are taken, and what happens when one cannot be taken.
+// The two mutexes of a worker: when each is held, in which order they are taken, and what happens when one cannot be
+// taken.
 
 #include <fittings/thread/gui_thread.h>
 
@@ -22,7 +23,7 @@ public:
     wxMutex& PostMutex() { return m_postMutex; }
 };
 
-// Calls a function of the test while it queues an event.
+// A handler that calls a function of the test once, while an event is being queued for it.
 class Interrupted : public Recorder
 {
 public:
@@ -50,7 +51,7 @@ bool IsFree(wxMutex& mutex)
     return free;
 }
 
-// The offsets of the members that a derived class sees, in their required order.
+// A worker that returns the addresses of the members that a derived class sees, in their required order.
 class Laid : public Working<wxGUIThreadEx>
 {
 public:
@@ -167,7 +168,7 @@ const Overload kOverloads[] = {
 
 INSTANTIATE_TEST_SUITE_P(, OneAtATime, testing::ValuesIn(kOverloads), [](const auto& info) { return info.param.name; });
 
-// A function that took the two mutexes in the opposite order could cause a deadlock.
+// All functions must take the two mutexes in the same order, otherwise there could be a deadlock.
 TEST_P(OneAtATime, AndTheContinueMutexIsTakenInsideThePostMutex)
 {
     Open worker(nullptr);

@@ -163,8 +163,8 @@ TEST(Handler, MayBeDestroyedWithEventsQueued)
     EXPECT_EQ(received, 0);
 }
 
-// Expects Entry() right after the destructor's two entries: for binary compatibility with hosts, neither class adds an
-// entry to wxThreadEx's virtual table.
+// Expects Entry() right after the destructor's two entries in the virtual table of @a Thread. For binary compatibility
+// with hosts, wxGUIThread and wxGUIThreadEx must not put an entry before it.
 template <typename Thread, typename... Arguments>
 void ExpectEntryAfterTheDestructor(Arguments... arguments)
 {

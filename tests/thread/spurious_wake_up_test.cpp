@@ -16,9 +16,8 @@ std::atomic<int> g_wakeUpsToCome{0};
 
 }  // namespace
 
-// Replaces the standard library's wait for a condition. It waits as that does, but returns early if a test asks for it.
-// The condition is a private member of the thread object. A seam of our own would be code in the library for this test
-// alone.
+// Replaces the standard library's wait for a condition. It waits in the same way, but returns early if a test asks for
+// it. The thread object's condition is private, and the library should have no code that only this test needs.
 extern "C" void WaitForCondition(std::condition_variable* condition, std::unique_lock<std::mutex>* lock) __asm__(
     "_ZNSt18condition_variable4waitERSt11unique_lockISt5mutexE");
 

@@ -70,7 +70,7 @@ TEST(Wait, BlocksUntilEntryHasReturned)
     EXPECT_EQ(code, Code(42));
 }
 
-// Two threads wait one after the other. The condition is signalled only once, but the flag stays set.
+// Three threads wait one after the other. The condition is signalled only once, but the flag stays set.
 TEST(Wait, EndsForLaterCallersToo)
 {
     Thread thread(Returning(7), wxTHREAD_JOINABLE);
@@ -136,7 +136,7 @@ TEST(Wait, BlocksUntilTheValuesOfKeysAreDestroyed)
     pthread_key_delete(key);
 }
 
-// No call tells when a detached object may be destroyed, so these objects are never destroyed.
+// No call reports when a detached thread object may be destroyed, so this one is never destroyed.
 TEST(Detached, IsNotWaitedFor)
 {
     static Signal go;

@@ -1,5 +1,5 @@
-// Thread objects in a process of their own: when the system has no room for threads, when threads are left behind, and
-// when the process ends. Prints one result per line.
+// thread_probe QUESTION: uses thread objects in a process of its own, for example while the system has no room for
+// threads or while the process ends. Prints one result per line.
 
 #include <cstdio>
 #include <cstdlib>
@@ -23,7 +23,7 @@ std::atomic<long> g_allocations{0};
 
 }  // namespace
 
-// Counts the allocations that exist. The toolkit uses these operators, too.
+// These operators count the allocations that exist. The toolkit uses them, too.
 void* operator new(size_t size)
 {
     void* memory = std::malloc(size > 0 ? size : 1);
@@ -98,7 +98,8 @@ void Created()
     _exit(0);
 }
 
-// Makes threads that are never run. At its shutdown, the toolkit logs the threads that are left, on stderr.
+// Makes three threads that are never run, and one that is run. At its shutdown, the toolkit logs the number of threads
+// that are left. Its log goes to stderr, which leads to stdout here.
 void NeverRun()
 {
     dup2(STDOUT_FILENO, STDERR_FILENO);
@@ -198,7 +199,7 @@ public:
     }
 };
 
-// Ends right after Wait(). The thread must have left the toolkit before the toolkit is shut down.
+// The process ends right after Wait(). The thread must have left the toolkit before the toolkit is shut down.
 void EndAtOnce()
 {
     Thread thread([](Thread&) { return Code(42); }, wxTHREAD_JOINABLE);
