@@ -187,7 +187,7 @@ TEST_P(ClockJumps, HideNoChangeByAnotherProcess)
         clock.Jump(ahead);
         const std::wstring value = std::to_wstring(i);
         InChild([&] { EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", value.c_str())); });
-        // The file gets the time of the changed clock.
+        // Give the file the time of the changed clock, as the system would.
         SetTime(path, 0);
         EXPECT_EQ(Stored(L"s", L"k"), value);
         EXPECT_EQ(Stored(L"s", L"k"), value);
@@ -197,7 +197,8 @@ TEST_P(ClockJumps, HideNoChangeByAnotherProcess)
     EXPECT_EQ(NamesIn(data.Path()), (std::vector<std::string>{"settings.ini", "settings.ini.lock"}));
 }
 
-// Overwrites the file with the same number of bytes. The modification time is the old one or that of the changed clock.
+// Overwrites the file with the same number of bytes. Sets its modification time to the earlier one, or by another
+// clock.
 TEST_P(ClockJumps, HideNoChangeInPlace)
 {
     TempUserData data;
@@ -244,7 +245,8 @@ std::string NameOf(const testing::TestParamInfo<long>& info)
 INSTANTIATE_TEST_SUITE_P(, ClockJumps, testing::Values(-kYear, -1, 1, kYear), NameOf);
 INSTANTIATE_TEST_SUITE_P(, ClockJumpsByAnHour, testing::Values(-kHour, kHour), NameOf);
 
-// A process may still be writing a temporary file whose timestamp is in the future.
+// A temporary file whose timestamp is in the future may belong to a process that is still writing it, so the file
+// stays.
 TEST(AFileFromTheFuture, IsClearedAwayOnceItsTimeIsPast)
 {
     TempUserData data;

@@ -22,7 +22,7 @@ std::string g_registered;
 
 }  // namespace
 
-// Replaces the C library's function.
+// Replaces the C library's function: returns the home folder of the command line for every user.
 int getpwuid_r(uid_t user, passwd* entry, char* texts, std::size_t size, passwd** found)
 {
     static char nothing[] = "";

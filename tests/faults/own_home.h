@@ -4,12 +4,12 @@
 #include <string>
 
 /// Before main(), gives this process and its children a home folder on a disk of 64 KiB. If the system does not allow
-/// that, these functions do nothing.
+/// that, IsThere() returns false, and the other functions must not be called.
 namespace own_home {
 
 bool IsThere();
 
-/// Makes the disk refuse every change or accept changes again. The error is that of a read-only mount.
+/// Makes the disk refuse every change as a read-only mount does, or accept changes again.
 void MakeReadOnly(bool isReadOnly);
 
 /// Fills the disk completely or removes what fills it.
