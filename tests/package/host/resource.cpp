@@ -1,4 +1,5 @@
-// Creates the controls from the XML resource given on the command line, and prints a word about each.
+// Creates the controls from the XML resource given on the command line. Prints the colour of the combo and the selected
+// item of the tree.
 
 #include <wx/app.h>
 #include <wx/crt.h>
