@@ -11,24 +11,26 @@ namespace {
 
 constexpr std::wstring_view kStart = L"layout2|";
 
-// For each pane and dock the toolkit copies the rest of the text, so a longer text would take too long.
+// The greatest length of a layout, and the largest number of its panes and docks together. The toolkit copies the rest
+// of the text for each of them, so more would take too long.
 constexpr std::size_t kLongest = 1'000'000;
 constexpr int kMostParts = 2000;
 
-// The toolkit searches every row of every layer several times for each dock. More steps or rows would take too long.
+// The toolkit searches every row of every layer several times for each dock. More steps (layers times rows times panes
+// and docks) would take too long, and so would a larger number of a layer or row.
 constexpr std::int64_t kMostSteps = 10'000'000;
 constexpr std::int64_t kMostRows = 10'000;
 
-// The largest number that is accepted in a caption where the toolkit would read the number as a field.
+// The largest number that is accepted in a name or caption where the toolkit would read the number as a field.
 constexpr long kMostInText = 100;
 
-// In pixels. The sum over all possible parts does not overflow.
+// The largest coordinate or size, in pixels. The sum over the largest number of parts does not overflow.
 constexpr std::int64_t kFarthest = 1'000'000;
 
 constexpr std::int64_t kLastDirection = 5;                   // wxAUI_DOCK_CENTER
 constexpr std::int64_t kActionPane = std::int64_t{1} << 31;  // wxAuiPaneInfo::actionPane: the pane being dragged
 
-/// Parses a text from its start. After the first unexpected character, everything fails.
+/// Parses a text from its start. After the first error, every further step fails.
 class Scanner
 {
 public:
@@ -45,7 +47,7 @@ public:
             m_rest.remove_prefix(expected.size());
     }
 
-    /// Takes the text before @a end, and @a end itself.
+    /// Takes and returns the text before the position @a end, and skips the character there.
     std::wstring_view TakeUpTo(std::size_t end)
     {
         m_isOk = m_isOk && end < m_rest.size();
@@ -97,7 +99,7 @@ private:
     bool m_isOk = true;
 };
 
-/// Sums over all panes and docks of a layout.
+/// Sums and maxima over all panes and docks of a layout.
 struct Sums
 {
     int panes = 0;
@@ -132,7 +134,7 @@ bool AreTexts(std::wstring_view texts)
             return false;
         separator = at;
     }
-    // A "\" at the end of the name belongs to the separator.
+    // If the name ends with a "\", the separator looks escaped: find it by the field after it.
     if (separator == texts.npos)
         separator = texts.find(kCaption);
     return separator != texts.npos && texts.substr(0, 5) == L"name=" &&
@@ -174,7 +176,7 @@ bool IsPane(std::wstring_view text, Sums& sums)
     const std::int64_t layer = scanner.TakeField(L";layer=", 0, kMostRows);
     const std::int64_t row = scanner.TakeField(L";row=", 0, kMostRows);
     scanner.TakeField(L";pos=", -kFarthest, kFarthest);
-    // Negative proportions may add up to zero, and the toolkit divides by the sum.
+    // Accept no negative proportions: they may add up to zero, and the toolkit divides by the sum.
     sums.proportion += scanner.TakeField(L";prop=", 0, INT_MAX);
     for (const std::wstring_view name : {L";bestw=", L";besth=", L";minw=", L";minh=", L";maxw=", L";maxh=",
                                          L";floatx=", L";floaty=", L";floatw=", L";floath="})

@@ -23,7 +23,7 @@ void ShowWithoutDelay(wxWindow& window);
 /// changes. Without this call, the window manager would therefore place a window that has never been moved.
 void KeepPlace(wxTopLevelWindow& window);
 
-/// True for the event by which the window manager announces the size of a window's decorations.
+/// Returns whether @a event is the one by which the window manager announces the size of a window's decorations.
 bool TellsDecorations(const GdkEvent& event);
 
 }  // namespace fittings

@@ -47,8 +47,8 @@ const int* Field(const wxRect& rect, const wxString& name)
     return name == kHeight ? &rect.height : nullptr;
 }
 
-/// Returns true when a number can be a value of an object. The toolkit asserts on numbers that are not an int, and
-/// accepts places and sizes that no window can have.
+/// Returns whether a stored number can be passed to the toolkit as a value of @a who. The toolkit would assert on a
+/// number that is not an int, and would accept places and sizes that no window can have.
 bool IsPossible(long number, const wxPersistentObject& who)
 {
     if (dynamic_cast<const wxPersistentSplitter*>(&who) || dynamic_cast<const wxPersistentDataViewCtrl*>(&who))
@@ -78,7 +78,7 @@ public:
         return *record;
     }
 
-    /// Saves the values of the window together with all others of its top-level window.
+    /// Makes sure that the values of the object are saved when its top-level window is destroyed.
     void Keep(const wxPersistentObject& who)
     {
         wxWindow* const window = WindowOf(who);
@@ -96,7 +96,8 @@ public:
     /// they are saved when the window is destroyed.
     void SaveSoon(const wxPersistentObject& who)
     {
-        // Use the outermost parent: a window that is being destroyed may be partly destroyed already.
+        // Use the nearest window that has a record already, or else the outermost parent: a window that is being
+        // destroyed may be partly destroyed already.
         wxWindow* outermost = WindowOf(who);
         for (wxWindow* window = outermost; window; window = window->GetParent()) {
             outermost = window;
@@ -184,7 +185,7 @@ bool wxStorePersistenceManager::SaveValue(const wxPersistentObject& who, const w
 
 bool wxStorePersistenceManager::RestoreValue(const wxPersistentObject& who, const wxString& name, bool* value)
 {
-    // The toolkit reports any number other than zero and one to the user as an error.
+    // Do not pass on any number other than zero and one: the toolkit would report it to the user as an error.
     long number = 0;
     if (!RestoreValue(who, name, &number) || (number != 0 && number != 1))
         return false;

@@ -39,9 +39,9 @@ class AncestorWatch;
 /// registers the window alone.
 ///
 /// A frame or dialog is restored as wx_window_state::LoadState() restores it: in its place, on a display that still
-/// exists, and within its work area. A window that was maximised is maximised again. When the user restores it, it gets
-/// the place and size that it had before. The same holds for full screen and iconised windows. Their states are
-/// recorded from wxPersistentRegisterAndRestore() on.
+/// exists, and within its work area. A window that was maximised is maximised again. When the user then unmaximises it,
+/// it returns to the place and size that it had before. The place and size before a window is maximised, iconised or
+/// made full screen are recorded from wxPersistentRegisterAndRestore() on.
 ///
 /// The values of a window and of the controls in it are collected, and saved together when the window is destroyed. The
 /// values of a control that is destroyed before its window are saved on the next turn of the event loop.
@@ -95,10 +95,10 @@ private:
 /// Remembers which items of a tree are expanded, which are selected, and which is the first in view.
 ///
 /// An item is identified by the labels on the path to it. A label may be any text. Siblings with the same label are
-/// told apart by their number. The label of the root does not matter. Restoring expands parents first, so that items
-/// that are filled when they expand are filled on the way. Restoring collapses no item, and does not fill items that
-/// were collapsed. Selecting sends the toolkit's events, as if the user had selected the item. Items that no longer
-/// exist are left out.
+/// told apart by their order. The label of the root does not matter. Restoring expands parents first, so an item whose
+/// children are added when it expands is filled before its children are looked for. Restoring collapses no item, and
+/// does not fill items that were collapsed. Selecting sends the toolkit's events, as if the user had selected the item.
+/// Items that no longer exist are left out.
 ///
 /// Levels beyond 10,000 are not remembered: the toolkit cannot handle expanded trees that are much deeper.
 class FITTINGS_API wxPersistentTreeCtrl : public wxPersistentWindow<wxTreeCtrl>
@@ -120,8 +120,8 @@ private:
     std::unique_ptr<fittings::AncestorWatch> m_watch;
 };
 
-/// Remembers the widths of a report's columns, and their order if the toolkit lets the user change it. Widths for
-/// another number of columns than the list has count as missing.
+/// Remembers the widths of a report's columns, and their order if the toolkit lets the user change it. Stored widths
+/// for another number of columns than the list has count as missing.
 class FITTINGS_API wxPersistentListCtrl : public wxPersistentWindow<wxListCtrl>
 {
 public:

@@ -99,7 +99,8 @@ const fittings::StoreEntry* FindEntry(StoreModel& model, const wxString& path)
     return group ? group->entries.Find(entry.name) : nullptr;
 }
 
-// Returns true when the model has that value already and no other process has changed it.
+// Returns whether the entry already has the value @a text in the model. Another process may have changed the stored
+// value since.
 bool HasText(StoreModel& model, const EntryPath& entry, std::wstring_view text)
 {
     StoreGroup* const group = model.Find(entry.group);
@@ -294,7 +295,7 @@ bool wxStoreConfig::DoReadString(const wxString& path, wxString* value) const
 bool wxStoreConfig::DoReadLong(const wxString& path, long* value) const
 {
     wxString text;
-    // Trailing blanks are allowed after a number.
+    // Allow blanks after the number.
     return Read(path, &text) && text.Trim().ToLong(value);
 }
 

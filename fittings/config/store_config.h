@@ -70,12 +70,12 @@ public:
     /// Returns the path of the current group: absolute, without a separator at its end, empty for the root.
     const wxString& GetPath() const override;
 
-    bool GetFirstGroup(wxString& name,
-                       long& place) const override;  ///< Gets the first group in it; false when there is none.
-    bool GetNextGroup(wxString& name, long& place) const override;  ///< Gets the next group; false at the end.
-    bool GetFirstEntry(wxString& name,
-                       long& place) const override;  ///< Gets the first entry in it; false when there is none.
-    bool GetNextEntry(wxString& name, long& place) const override;     ///< Gets the next entry; false at the end.
+    /// Finds the first group in the current group. Returns false when there is none.
+    bool GetFirstGroup(wxString& name, long& place) const override;
+    bool GetNextGroup(wxString& name, long& place) const override;  ///< Finds the next group; false at the end.
+    /// Finds the first entry in the current group. Returns false when there is none.
+    bool GetFirstEntry(wxString& name, long& place) const override;
+    bool GetNextEntry(wxString& name, long& place) const override;     ///< Finds the next entry; false at the end.
     size_t GetNumberOfEntries(bool recursive = false) const override;  ///< Counts all levels if @a recursive.
     size_t GetNumberOfGroups(bool recursive = false) const override;   ///< Counts all levels if @a recursive.
 
@@ -89,7 +89,8 @@ public:
     bool HasGroup(const wxString& path) const override;  ///< True when there is such a group; false for an empty path.
     bool HasEntry(const wxString& path) const override;  ///< True when there is such an entry.
 
-    /// Removes an entry, and its group if that is then empty. Returns false when there is no such entry.
+    /// Removes an entry, and its group if that is then empty and @a deleteGroupIfEmpty is true. Returns false when
+    /// there is no such entry.
     bool DeleteEntry(const wxString& path, bool deleteGroupIfEmpty = true) override;
 
     /// Removes a group with its contents. If the current group is removed, the nearest remaining one becomes current.

@@ -285,7 +285,8 @@ bool StoreModel::Save()
         return false;
     if (!m_hasChanges)
         return true;
-    // Read the whole file next time: it may then hold the earlier values again.
+    // Forget what was loaded, so that the next Refresh() rebuilds the groups even if another process has stored the
+    // earlier values again.
     m_ini.reset(CLocalRegStore::CreateInitFile(false));
     ForgetChanges(*m_root);
     m_removed.clear();

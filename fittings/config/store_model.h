@@ -26,7 +26,8 @@ public:
     StoreModel(const StoreModel&) = delete;
     StoreModel& operator=(const StoreModel&) = delete;
 
-    /// Loads what others have changed in the file. References to groups are valid until the next call.
+    /// Loads what other objects and processes have changed in the file. References to groups are valid until the next
+    /// call.
     void Refresh();
 
     /// Returns false before the first Refresh().
@@ -58,11 +59,10 @@ public:
     /// No longer stores the group when it is empty.
     void DropSection(StoreGroup& group);
 
-    /// Removes a group with its contents. When that removes the current group, the nearest one above it becomes
-    /// current.
+    /// Removes a group with its contents. When that removes the current group, the parent of @a group becomes current.
     void RemoveGroup(StoreGroup& group);
 
-    /// Moves the contents of the group into a new sibling group.
+    /// Moves the contents of the group into a new sibling group named @a newName.
     void RenameGroup(StoreGroup& group, const std::wstring& newName);
 
     /// Removes everything from the store, including the sections that are not groups.
@@ -94,7 +94,7 @@ private:
 
     StorePath m_currentPath;
     StoreGroup* m_current = nullptr;
-    std::set<StorePath> m_made;  ///< Groups made by SetCurrent().
+    std::set<StorePath> m_made;  ///< Groups without a section, made by SetCurrent() or RenameGroup().
 
     std::wstring m_lastPath;
     StoreGroup* m_lastFound = nullptr;  ///< The last result of Find(); null when it may be out of date.

@@ -41,7 +41,7 @@ public:
         return &m_items[m_afterFound++].value;
     }
 
-    /// Adds a value under a name that is not there yet.
+    /// Adds a value under a name that is not in the list yet.
     Value& Add(std::wstring_view name, Value value)
     {
         m_items.push_back({std::wstring(name), std::move(value)});
@@ -99,7 +99,7 @@ struct StoreGroup
 {
     StoreGroup(StoreGroup* ofParent, std::wstring_view withName) : parent(ofParent), name(withName) {}
 
-    /// Returns the name of the store's section that has the group's entries.
+    /// Returns the name of the store's section that contains the group's entries.
     std::wstring Section() const;
 
     bool IsEmpty() const { return entries.Size() == 0 && groups.Size() == 0; }
@@ -112,20 +112,20 @@ struct StoreGroup
     NamedList<std::unique_ptr<StoreGroup>> groups;
 };
 
-/// The names of a group and of those around it, from the root on.
+/// The names of a group and of the groups above it, from the topmost down; empty for the root.
 using StorePath = std::vector<std::wstring>;
 
 /// The greatest depth of nested groups.
 inline constexpr std::size_t kMaxStoreDepth = 100;
 
-/// Returns the name of the section that has the entries of the group at @a path.
+/// Returns the name of the section that contains the entries of the group at @a path.
 std::wstring SectionOf(const StorePath& path);
 
 /// Returns the path of the group for a section; none when its name is not a path of groups.
 std::optional<StorePath> PathOfSection(std::wstring_view section);
 
-/// Resolves @a text as the toolkit does, from the root when it begins with the separator, otherwise from @a current.
-/// Empty steps and "." are skipped, ".." goes up.
+/// Resolves @a text as the toolkit does: from the root when it is empty or begins with the separator, otherwise from
+/// @a current. Empty steps and "." are skipped, ".." goes up.
 StorePath FollowedPath(const StorePath& current, std::wstring_view text);
 
 /// Returns null when there is no such group.

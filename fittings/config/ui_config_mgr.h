@@ -24,7 +24,7 @@
 /// @endcode
 namespace ui_config_mgr {
 
-/// Stores a text, and makes file, section and key as needed. A failure to save is not reported; the file is then
+/// Stores a text, and creates file, section and key as needed. A failure to save is not reported; the file is then
 /// unchanged.
 FITTINGS_API void WriteConfigString(const wchar_t* file, const wchar_t* section, const wchar_t* key,
                                     const wchar_t* value);
@@ -38,7 +38,7 @@ FITTINGS_API std::wstring GetConfigString(const wchar_t* file, const wchar_t* se
 FITTINGS_API void DeleteConfig(const wchar_t* file, const wchar_t* section, const wchar_t* key);
 
 /// Returns the stored text as an integer, as std::stoi reads it in base 10: blanks before the digits and everything
-/// after them are ignored. A missing or empty text gives 0.
+/// after them are ignored. Returns 0 for a missing or empty text.
 ///
 /// @throws std::invalid_argument when the text does not begin with a number.
 /// @throws std::out_of_range when the number does not fit an `int`.
@@ -50,35 +50,35 @@ FITTINGS_API void WriteConfigInt(const wchar_t* file, const wchar_t* section, co
 /// @name With texts of any kind
 /// @{
 
-/// Does the same as the function for wide text. The texts are file, section, key and value.
+/// Does the same as the overload for wide text. The texts are file, section, key and value.
 template <typename... Texts, fittings::IfTexts<4, Texts...> = 0>
 void WriteConfigString(const Texts&... texts)
 {
     WriteConfigString(fittings::TextArgument(texts)...);
 }
 
-/// Does the same as the function for wide text. The texts are file, section and key.
+/// Does the same as the overload for wide text. The texts are file, section and key.
 template <typename... Texts, fittings::IfTexts<3, Texts...> = 0>
 std::wstring GetConfigString(const Texts&... texts)
 {
     return GetConfigString(fittings::TextArgument(texts)...);
 }
 
-/// Does the same as the function for wide text. The texts are file, section and key.
+/// Does the same as the overload for wide text. The texts are file, section and key.
 template <typename... Texts, fittings::IfTexts<3, Texts...> = 0>
 void DeleteConfig(const Texts&... texts)
 {
     DeleteConfig(fittings::TextArgument(texts)...);
 }
 
-/// Does the same as the function for wide text. The texts are file, section and key.
+/// Does the same as the overload for wide text. The texts are file, section and key.
 template <typename... Texts, fittings::IfTexts<3, Texts...> = 0>
 int GetConfigInt(const Texts&... texts)
 {
     return GetConfigInt(fittings::TextArgument(texts)...);
 }
 
-/// Does the same as the function for wide text.
+/// Does the same as the overload for wide text.
 template <typename File, typename Section, typename Key, fittings::IfTexts<3, File, Section, Key> = 0>
 void WriteConfigInt(const File& file, const Section& section, const Key& key, int value)
 {

@@ -12,7 +12,7 @@ namespace {
 /// A stored geometry with a width or height up to this is not applied.
 constexpr int kTooSmall = 10;
 
-/// Coordinates and sizes on an X display are 16 bits wide. Larger numbers have no meaning there, and sums of them could
+/// The largest coordinate or size on an X display, where these numbers have 16 bits. Sums of larger numbers could
 /// overflow.
 constexpr long kFarthest = 32767;
 
@@ -96,7 +96,7 @@ bool fittings::RestoreGeometry(wxWindow& window, const wxRect& stored)
 {
     if (stored.width > kTooSmall && stored.height > kTooSmall) {
         window.SetSize(stored, wxSIZE_ALLOW_MINUS_ONE);
-        // The window may have moved when its size changed.
+        // Set the position again: the window may have moved when its size changed.
         window.SetSize(stored.x, stored.y, -1, -1, wxSIZE_USE_EXISTING);
         if (auto* const topLevel = dynamic_cast<wxTopLevelWindow*>(&window))
             KeepPlace(*topLevel);

@@ -60,8 +60,8 @@ FITTINGS_API bool LoadState(wxFrame* frame, const wchar_t* name);
 /// Maximises the frame on a later turn of the event loop, so the frame may still be hidden when this is called.
 FITTINGS_API void MaximizeFrame(wxFrame* frame);
 
-/// Moves the window's top right corner one pixel inside that of the reference on the screen, and keeps the window's
-/// size. If the reference is narrower than 800 pixels, half of the window extends past the right edge.
+/// Moves the window so that its top right corner is one pixel to the left of that of the reference on the screen. The
+/// window keeps its size. If the reference is narrower than 800 pixels, half of the window extends past the right edge.
 FITTINGS_API void MoveWindowToRightCorner(wxWindow* window, wxWindow* reference);
 
 /// Stores the positions, sizes and captions of the manager's panes, as wxAuiManager::SavePerspective() returns them.
@@ -85,28 +85,28 @@ FITTINGS_API bool LoadAuiManagerState(wxAuiManager* manager, const wchar_t* name
 /// @name With names of any kind
 /// @{
 
-/// Does the same as the function for a wide name and the same class of window.
+/// Does the same as the overload for a wide name and the same class of window.
 template <typename Window, typename Name, fittings::IfTexts<1, Name> = 0>
 void SaveState(Window* window, const Name& name)
 {
     SaveState(window, fittings::TextArgument(name));
 }
 
-/// Does the same as the function for a wide name and the same class of window.
+/// Does the same as the overload for a wide name and the same class of window.
 template <typename Window, typename Name, fittings::IfTexts<1, Name> = 0>
 bool LoadState(Window* window, const Name& name)
 {
     return LoadState(window, fittings::TextArgument(name));
 }
 
-/// Does the same as the function for a wide name.
+/// Does the same as the overload for a wide name.
 template <typename Name, fittings::IfTexts<1, Name> = 0>
 void SaveAuiManagerState(wxAuiManager* manager, const Name& name)
 {
     SaveAuiManagerState(manager, fittings::TextArgument(name));
 }
 
-/// Does the same as the function for a wide name.
+/// Does the same as the overload for a wide name.
 template <typename Name, fittings::IfTexts<1, Name> = 0>
 bool LoadAuiManagerState(wxAuiManager* manager, const Name& name)
 {

@@ -4,8 +4,8 @@
 
 #include <fittings/config/aui_layout.h>
 
-// A manager is not a window, and no event tells when UnInit() is called. So the layout is recorded whenever it is
-// drawn, and when the window is about to close. The last recorded layout is stored when the manager or its window is
+// A manager is not a window, and no event reports a call of UnInit(). So the layout is recorded whenever it is drawn,
+// and when the window is about to close. The last recorded layout is stored when the manager or its window is
 // destroyed.
 
 class wxPersistentAui::Watch
@@ -23,7 +23,7 @@ public:
         manager->Bind(wxEVT_AUI_RENDER, note);
         manager->Bind(wxEVT_CLOSE_WINDOW, note);
 
-        // Until UnInit() the manager handles the events of its window.
+        // Bind to both: the events of the window reach the manager until UnInit(), and afterwards only the window.
         wxWindow* const window = manager->GetManagedWindow();
         const auto end = [watch, window](wxWindowDestroyEvent& event) {
             event.Skip();
@@ -36,7 +36,8 @@ public:
         if (window)
             window->Bind(wxEVT_DESTROY, end);
 
-        // The manager destroys its handlers last, so this object notices when the manager is destroyed.
+        // The guard is owned by a handler of the manager. The manager destroys its handlers last, so the guard notices
+        // when the manager is destroyed.
         struct Guard
         {
             explicit Guard(std::shared_ptr<Watch> toEnd) : watch(std::move(toEnd)) {}

@@ -46,7 +46,7 @@ bool wxPersistentTreeCtrl::Restore()
     if (!steps)
         return false;
     fittings::RestoreSteps(*tree, *steps);
-    // A tree that is not shown yet does not have its final size.
+    // Scroll only when the tree is shown: before that, it does not have its final size.
     ForgetFirstInView();
     m_scrollTo = text;
     if (!text.empty())

@@ -17,8 +17,8 @@ namespace {
 
 constexpr char kData[] = "fittings-place-when-unmaximized";
 
-/// The decorations of an unmaximised window may be announced several times. The place is corrected for this time, in
-/// microseconds.
+/// How long the place of an unmaximised window is corrected, in microseconds: its decorations may be announced several
+/// times, and each announcement may change the size without them.
 constexpr gint64 kCorrected = 2 * G_TIME_SPAN_SECOND;
 
 /// How often to look whether the mouse button is released, in milliseconds.
@@ -84,7 +84,7 @@ bool IsUnmaximized(const GdkEvent& event)
 
 bool PlaceKeeper::IsDoneAfter(const GdkEvent& event)
 {
-    // A window that is being hidden is unmaximised too, and is maximised again when it is shown.
+    // Ignore a window that is being hidden: it is unmaximised too, and is maximised again when it is shown.
     if (IsUnmaximized(event) && m_window->IsShown()) {
         if (m_deadline != 0 || DrawsItsDecorations(m_window->GetHandle()))
             return true;
@@ -116,7 +116,7 @@ void PlaceKeeper::StartPlacing()
     Place();
 }
 
-// Asks the window system, because GTK does not repeat its last request although the window manager did not comply.
+// Asks the window system directly: GTK does not repeat its last request, even if the window manager did not comply.
 void PlaceKeeper::Place()
 {
     const wxSize decorations = m_window->GetSize() - fittings::SizeWithoutDecorations(*m_window);

@@ -8,7 +8,7 @@ class wxTopLevelWindow;
 
 namespace fittings {
 
-/// Gives a window that is shown maximised this outer rectangle when it is first unmaximised.
+/// Gives a hidden window, which will be shown maximised, the outer rectangle @a rect when it is first unmaximised.
 ///
 /// A window manager remembers the rectangle of a window before it maximises the window. It cannot know the rectangle of
 /// a window that is maximised from the start: it adds the decorations to the size, or chooses a place of its own.

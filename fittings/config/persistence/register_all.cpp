@@ -47,7 +47,7 @@ bool CanRemember(wxWindow& window)
 std::unique_ptr<wxPersistentObject> Make(wxWindow& window, const wxString& name)
 {
     using Maker = std::unique_ptr<wxPersistentObject> (*)(wxWindow&, const wxString&);
-    // wxTreebook comes first because it is derived from wxBookCtrlBase.
+    // wxTreebook comes before wxBookCtrlBase, from which it is derived.
     for (const Maker make :
          {Maker(MakeFor<wxPersistentTLW, wxTopLevelWindow>), Maker(MakeFor<wxPersistentSplitter, wxSplitterWindow>),
           Maker(MakeFor<wxPersistentTreeBookCtrl, wxTreebook>), Maker(MakeFor<wxPersistentBookCtrl, wxBookCtrlBase>),

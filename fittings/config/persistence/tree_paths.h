@@ -32,10 +32,10 @@ TreeSteps StepsOf(const wxTreeCtrl& tree);
 
 /// Returns the steps as a text, such as "0+:|1+:Sun|2*:Earth|2#2:Earth|3^:Moon|". A step is its level; "+" if expanded,
 /// "*" if selected, "^" if it is the first in view; "#" and the number if that is not 1; and the label. In the label,
-/// "|" and "\" have a "\" before them, and a null is "\0".
+/// "|" and "\" have a "\" before them, and a null character is "\0".
 std::wstring ToText(const TreeSteps& steps);
 
-/// Reads the result of ToText(); returns none for a text that ToText() cannot have written.
+/// Reads a text from ToText(). Returns nothing for a text that ToText() cannot have written.
 std::optional<TreeSteps> FromText(std::wstring_view text);
 
 /// Expands the items that were expanded, and then selects those that were selected. Handlers of the expansions may add

@@ -110,7 +110,7 @@ void RestoreSteps(wxTreeCtrl& tree, const TreeSteps& steps)
             const wxTreeItemId item = descent.Go(step);
             if (!item.IsOk())
                 continue;
-            // Do this first: the handlers of the expansion may delete the item.
+            // Keep the item before expanding it: the handlers of the expansion may delete it.
             if (step.isSelected)
                 descent.Keep(item);
             if (step.isExpanded && !IsHiddenRoot(tree, item))

@@ -9,11 +9,11 @@
 
 namespace {
 
-/// A window manager moves and sizes a window before it tells that it has maximised the window. So what it does is the
-/// normal place only if the window is still not maximised this many milliseconds later.
+/// A window manager moves and sizes a window before it reports that it has maximised the window. So a new place or size
+/// counts as normal only if the window is still not maximised this many milliseconds later.
 constexpr int kSettled = 500;
 
-/// True when the program, not the window manager, has moved or sized the window.
+/// Returns whether the program, and not the window manager, has moved or sized the window.
 bool IsSetByProgram(const wxTopLevelWindow& window, const wxEvent& event)
 {
     if (event.GetEventType() == wxEVT_MOVE) {
@@ -33,7 +33,7 @@ std::shared_ptr<WindowRecord> WindowRecord::Attach(wxWindow& window, std::functi
 {
     auto record = std::make_shared<WindowRecord>(std::move(atEnd));
     record->m_self = record;
-    // The handlers of a window are destroyed last, after its children.
+    // The handler keeps the record: a window destroys its handlers last, after its children.
     window.Bind(wxEVT_DESTROY, [record](wxWindowDestroyEvent& event) { event.Skip(); });
     return record;
 }
@@ -73,7 +73,8 @@ void WindowRecord::RecordPlaceOfProgram(wxTopLevelWindow& window, const wxEvent&
 
 void WindowRecord::RecordPlace(const wxTopLevelWindow& window)
 {
-    // The size event of a window that is being maximised may come before its maximise event.
+    // Do not record a rectangle that covers the work area: the size event of a window that is being maximised may come
+    // before its maximise event.
     const wxRect rect = window.GetRect();
     if (window.IsShown() && !IsOutOfItsPlace(window) && !CoversWorkArea(rect))
         m_normal = rect;

@@ -28,7 +28,7 @@ public:
     WindowRecord(const WindowRecord&) = delete;
     WindowRecord& operator=(const WindowRecord&) = delete;
 
-    /// Records the window's place while it is neither maximised, full screen nor iconised.
+    /// From now on, records the window's place and size while it is neither maximised, full screen nor iconised.
     void Follow(wxTopLevelWindow& window);
 
     /// Returns true when the window is maximised, or was maximised when it was hidden. The system forgets this state of
@@ -38,7 +38,7 @@ public:
     /// Returns true when the window is maximised, full screen or iconised.
     bool IsOutOfItsPlace(const wxTopLevelWindow& window) const;
 
-    /// Returns the last normal place and size; none before Follow().
+    /// Returns the last place and size that Follow() has recorded; none before Follow().
     const std::optional<wxRect>& NormalRect() const { return m_normal; }
 
 private:
