@@ -1,5 +1,6 @@
-// AUI layouts: every layout that the toolkit writes can be loaded. Other text is loaded, or leaves the panes unchanged,
-// and no text causes an assertion of the toolkit.
+// AUI layouts: every layout that the toolkit writes can be loaded. Other text is loaded, or leaves the panes unchanged.
+// No text causes an assertion of the toolkit, except one with a ";" in a caption: the toolkit asserts when it loads
+// such a text, even one that it has written.
 
 #include <array>
 #include <cstdint>
@@ -58,7 +59,7 @@ void Arrange(wxAuiManager& manager, FuzzedDataProvider& bytes)
         pane.BestSize(bytes.ConsumeIntegralInRange(-1, 2000), bytes.ConsumeIntegralInRange(-1, 2000));
         pane.MinSize(bytes.ConsumeIntegralInRange(-1, 300), bytes.ConsumeIntegralInRange(-1, 300));
         pane.Show(bytes.ConsumeBool()).Resizable(bytes.ConsumeBool()).DockFixed(bytes.ConsumeBool());
-        // Floating panes are slow: the window manager handles each of them.
+        // Float few panes: floating panes are slow, because the window manager handles each of them.
         if (bytes.ConsumeIntegralInRange(0, 15) == 0)
             pane.Float().FloatingPosition(bytes.ConsumeIntegralInRange(-100, 900), 50);
     }
@@ -87,8 +88,8 @@ std::wstring Damage(std::wstring layout, FuzzedDataProvider& bytes)
     return layout;
 }
 
-/// Returns whether a caption in the layout contains ";". The toolkit writes such a layout, but asserts when it loads
-/// one.
+/// Returns whether the layout contains an escaped ";", as in a caption, or the "\b" by which the toolkit replaces it
+/// while loading. The toolkit writes a layout with an escaped ";", but asserts when it loads one.
 bool HasDelimiterInText(const std::wstring& layout)
 {
     return layout.find(L"\\;") != layout.npos || layout.find(L'\b') != layout.npos;

@@ -23,7 +23,8 @@ constexpr long kStyles[] = {wxTR_DEFAULT_STYLE, wxTR_DEFAULT_STYLE | wxTR_MULTIP
                             wxTR_DEFAULT_STYLE | wxTR_HIDE_ROOT};
 constexpr std::size_t kMostItems = 40;
 
-/// The parent and the label of each item except the root.
+/// An item below the root. A `parent` of 0 is the root; otherwise `parent` is the number of an earlier item, counted
+/// from 1 in the order of creation.
 struct Item
 {
     std::size_t parent;
@@ -39,8 +40,8 @@ std::vector<Item> ConsumeItems(FuzzedDataProvider& bytes)
     return items;
 }
 
-/// Returns the full paths of expanded and selected items. Leaves out the mark of the first visible item, which only a
-/// tree that is shown restores.
+/// Returns the full path of each item that is expanded or selected, after its marks. Leaves out the mark of the first
+/// visible item, which only a tree that is shown restores.
 std::vector<std::wstring> Marked(const std::wstring& text)
 {
     std::vector<std::wstring> marked;

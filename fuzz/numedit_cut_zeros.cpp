@@ -1,4 +1,5 @@
-// CutZeros() removes only blanks, zeros and points. A number keeps its value, and a second call changes nothing.
+// CutZeros() removes only blanks, zeros and points, and adds at most one zero. A number keeps its value, and a second
+// call changes nothing.
 
 #include <cwctype>
 
@@ -16,7 +17,7 @@ std::wstring Cut(const std::wstring& text, const CNumberFormat& format)
     return cut.ToStdWstring();
 }
 
-// Returns the characters that the operation must not change.
+// Returns the characters that CutZeros() must neither remove nor add.
 std::wstring Rest(const std::wstring& text, wchar_t point)
 {
     std::wstring rest;

@@ -87,8 +87,8 @@ void CheckNumber(const std::wstring& number, const NumberInput& input, const std
         Check(shownDecimals <= decimals, "a rounded number has at most the given decimals");
     if (isPadded && !hasExponent)
         Check(shownDecimals >= std::min<std::uint64_t>(decimals, 1'000'000), "a padded number has all its decimals");
-    // A second call may change two kinds of numbers. One kind has lost its plus sign, so its zeros are now trimmed. The
-    // other kind is rounded and ends in zeros.
+    // Leave out two kinds of numbers that a second call may change. One kind has lost its plus sign, so its zeros are
+    // now trimmed. The other kind is rounded and ends in zeros.
     if (number[0] != L'+' && (!isRounded || (isPadded && !hasExponent)))
         Check(Show(bare, Bare(format)) == bare, "a second call changes nothing");
 

@@ -1,4 +1,5 @@
-// The grammar of INI files: our reader finds everything that GKeyFile finds, with the same values, and nothing else.
+// The grammar of INI files: our reader finds every section and key that GKeyFile finds under a name as the library
+// writes it, and both read the same values.
 
 #include <cstdint>
 #include <memory>
@@ -38,8 +39,8 @@ std::vector<std::string> Taken(gchar** names)
     return taken;
 }
 
-// Returns whether the name is spelled as the library writes it. Of two spellings of one name, the library finds only
-// one.
+// Returns whether the name is spelled as the library writes it. Other spellings are not compared: of two spellings of
+// one name, the library finds only one.
 bool IsOwnName(const std::string& name)
 {
     return fittings::EncodeName(fittings::DecodeName(name)) == name;
@@ -60,7 +61,8 @@ std::optional<std::string> ValueOf(const KeyFile& file, const std::string& secti
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string bytes(reinterpret_cast<const char*>(data), size);
-    // GKeyFile ends a line at a null character and skips some bytes that are not UTF-8. The validation rejects both.
+    // Compare only UTF-8 without null characters: GKeyFile ends a line at a null character and skips some bytes that
+    // are not UTF-8.
     const KeyFile file = g_utf8_validate_len(bytes.data(), bytes.size(), nullptr) ? Load(bytes) : nullptr;
     if (!file)
         return 0;

@@ -22,7 +22,7 @@ namespace {
 constexpr const wchar_t* kLabels[] = {L"", L"a", L"b", L"ab", L"a|b", L"B", L"\u3042", L"\U0001F600"};
 constexpr std::size_t kMostItems = 40;
 
-// Fills the tree. Each byte gives the place and the label of the next item.
+// Fills the tree. The bytes choose the parent and the label of each item.
 void Fill(wxHandyTreeCtrl& tree, FuzzedDataProvider& bytes)
 {
     std::vector<wxTreeItemId> items{tree.AddRoot(bytes.PickValueInArray(kLabels)).item};

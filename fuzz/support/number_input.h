@@ -10,8 +10,8 @@
 /// A format, a text and a locale, made from a fuzzer's bytes.
 ///
 /// The text comes first, one character for each byte. ASCII bytes are the characters themselves. Higher bytes are
-/// blanks, digits and points of other scripts, and invalid characters. The last bytes are the format. Therefore a text
-/// file is a good first input.
+/// blanks, digits and points of other scripts, and invalid characters. The last bytes are the locale and the format.
+/// Therefore a text file is a good first input.
 struct NumberInput
 {
     /// Makes the format and the text from the bytes, and sets the locale that the bytes name.
@@ -21,7 +21,7 @@ struct NumberInput
     std::wstring Typed() const { return text.substr(0, text.find(L'\0')); }
 
     CNumberFormat format;
-    std::wstring text;  ///< may hold zero characters
+    std::wstring text;  ///< may contain null characters
 
     /// The decimal point of the locale that is set.
     wchar_t localePoint = L'.';

@@ -21,7 +21,7 @@ struct NumberShape
 /// [0-9]*)?` and, after at least one digit or point, `[eE]? [+-]? [0-9]*`.
 bool HasShape(const std::wstring& text, const NumberShape& shape);
 
-/// Returns whether no other part of a number can be mistaken for this point.
+/// Returns whether this point cannot be mistaken for another part of a number, for a blank or for the end of the text.
 bool IsPlainPoint(wchar_t point);
 
 /// Returns the text without the blanks at both ends.

@@ -5,8 +5,8 @@
 
 class FuzzedDataProvider;
 
-/// Starts the toolkit on the display, with an empty user data directory in memory. Every assertion of the toolkit is a
-/// finding, except those about an invalid wildcard.
+/// The first call starts the toolkit on the display, with an empty user data directory in memory. Later calls do
+/// nothing. Every assertion of the toolkit is a finding, except those about an invalid wildcard.
 void StartToolkit();
 
 /// Allows assertions of the toolkit while the object exists, if @a allowed is true.
@@ -19,7 +19,8 @@ public:
     AssertionsAllowed& operator=(const AssertionsAllowed&) = delete;
 };
 
-/// Returns the remaining bytes as text: ASCII as it is, high bytes as unusual characters.
+/// Returns the remaining bytes as text, up to the first null character: ASCII as it is, high bytes as unusual
+/// characters.
 std::wstring ConsumeWideText(FuzzedDataProvider& bytes);
 
 #endif
