@@ -1,4 +1,4 @@
-// Runs each benchmark alternately with its peer, and prints a table with the ratios of their medians.
+// Runs the repetitions of the benchmarks and their peers in random order, and prints a table that compares the medians.
 //
 //     fittings-bench [--json=FILE] [--benchmark_filter=REGEX] [other Google Benchmark flags]
 

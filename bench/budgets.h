@@ -33,7 +33,7 @@ constexpr Budget kBudgets[] = {
     {"gallery/sum-usr", "du -s", 1.5},
 };
 
-/// A row that may be slower than its peer only by a fixed time.
+/// A row that may be slower than its peer by a fixed time at most.
 struct Extra
 {
     const char* row;
@@ -45,7 +45,8 @@ constexpr Extra kExtras[] = {
     {"library/load", "dlopen of a library of the same size that does nothing", 1e6},
 };
 
-/// The cost must grow in proportion to the size. Compares the time for one item of @a large with that of @a small.
+/// Two rows for different numbers of items. The time for one item in @a large may be at most @a most times that in @a
+/// small.
 struct Growth
 {
     const char* large;

@@ -25,7 +25,7 @@ class Popup
 public:
     Popup() : m_frame(new wxFrame(nullptr, wxID_ANY, "bench")), popup(*new wxColourPopup)
     {
-        // With these colours, "Automatic" is not the chosen cell.
+        // With these colours and without the lower box, Create() marks no cell as chosen.
         popup.SetDefaultColour(wxColour(1, 2, 3));
         popup.SetInitialColour(wxColour(4, 5, 6));
         popup.SetMoreColoursText("");
@@ -71,7 +71,7 @@ public:
     }
 
 private:
-    // The benchmarks' display does not report the width of an edge.
+    // The popup's margin on the benchmarks' display, which does not report the width of an edge.
     static constexpr int kMargin = 2;
 
     struct Cell

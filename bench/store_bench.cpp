@@ -1,4 +1,4 @@
-// The settings store, compared with the cost of its steps alone.
+// The settings store, compared with GKeyFile and wxFileConfig.
 
 #include <filesystem>
 #include <string>
@@ -150,7 +150,7 @@ void FileSetPeer(benchmark::State& state)
 
 constexpr int kWindowValues = 22;
 
-// Stores the values that a closing window stores: its geometry, flags, columns and trees.
+// Stores as many values as a window that closes: its geometry, flags, columns and trees.
 void CloseWindow(benchmark::State& state)
 {
     const Settings settings(1000);
@@ -218,7 +218,7 @@ BENCHMARK(GetWarm)->Name("store/get-warm");
 BENCHMARK(GetWarmPeer)->Name("store/get-warm/peer");
 BENCHMARK(FileGet)->Name("store/file-get");
 BENCHMARK(FileGetPeer)->Name("store/file-get/peer");
-// These four benchmarks mostly wait for the disk.
+// Measure the elapsed time of these four benchmarks: they mostly wait for the disk.
 BENCHMARK(FileSet)->Name("store/file-set")->UseRealTime();
 BENCHMARK(FileSetPeer)->Name("store/file-set/peer")->UseRealTime();
 BENCHMARK(CloseWindow)->Name("store/close-window")->UseRealTime();
