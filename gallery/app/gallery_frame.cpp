@@ -198,7 +198,7 @@ void GalleryFrame::ShowState()
     menus->Enable(wxID_RESET, browser);
 }
 
-/// Opens a recent folder. A folder that no longer exists is removed from the menu.
+/// Opens a recent folder. Removes it from the menu if it cannot be opened.
 void GalleryFrame::OpenRecent(int id)
 {
     ShowPage(m_pages->FindPage(m_browser));

@@ -113,8 +113,8 @@ public:
         SetAppName("fittings-gallery");
         SetAppDisplayName("Fittings Gallery");
         wxUILocale::UseDefault();
-        // GTK chose its direction before the program had a language. The windows of wxWidgets would follow the
-        // language, but GTK's widgets in them would not.
+        // Set GTK's direction too. GTK chose it before the program had a language: the windows of wxWidgets would
+        // follow the language, but GTK's widgets in them would not.
         if (GetLayoutDirection() == wxLayout_RightToLeft)
             gtk_widget_set_default_direction(GTK_TEXT_DIR_RTL);
         for (const int signal : {SIGTERM, SIGINT, SIGHUP})

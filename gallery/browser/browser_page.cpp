@@ -47,7 +47,7 @@ wxString ReasonText(int error)
     return wxString::FromUTF8(g_strerror(error));
 }
 
-/// Returns a text such as "12 items, 1.2 MB (1234567 bytes) in 9 files".
+/// Returns a text such as "12 items, 1.2 MB (1,234,567 bytes) in 9 files".
 wxString Summary(const std::vector<Entry>& entries)
 {
     std::size_t files = 0;
@@ -143,7 +143,7 @@ void BrowserPage::SaveSettings()
     kContentsSettings.Save(kMinimumSize, m_filter->GetMegabytes());
     if (!m_layoutLoaded)
         return;
-    // A hidden window has no place on the screen.
+    // Use the remembered place of a hidden pane, because a hidden window has no place on the screen.
     wxAuiPaneInfo& folders = m_layout.GetPane(kFoldersPane);
     if (folders.frame)
         folders.floating_pos = folders.frame->IsShown() ? PlaceOf(*folders.frame) : m_floatingPlace;
@@ -268,7 +268,7 @@ void BrowserPage::MakeTools()
 wxWindow* BrowserPage::MakePanes()
 {
     auto* panel = new wxPanel(this);
-    // The layout limits a pane to a share of the panel, and the panel has no size yet.
+    // Give the panel a size, because the layout limits a pane to a share of it.
     panel->SetSize(wxGetTopLevelParent(this)->GetClientSize());
     m_layout.SetManagedWindow(panel);
     m_layout.SetFlags(wxAUI_MGR_DEFAULT | wxAUI_MGR_LIVE_RESIZE);
@@ -354,7 +354,7 @@ void BrowserPage::OpenRoot(const std::string& path)
     RememberRoot();
     const std::string selected = browser_settings::LoadSelectedFolder(path);
     {
-        // Only the folder that is selected last counts.
+        // Handle no selection on the way: only the folder that is selected last is shown.
         const wxEventBlocker noSelection(m_tree, wxEVT_TREE_SEL_CHANGED);
         m_tree->SetRootFolder(path);
         if (selected.empty())
@@ -366,7 +366,7 @@ void BrowserPage::OpenRoot(const std::string& path)
     ShowFolder(m_tree->GetSelectedPath());
 }
 
-/// Stores the settings that belong to this root.
+/// Stores the settings that belong to the current root.
 void BrowserPage::RememberRoot()
 {
     const std::string& root = m_tree->GetRootFolder();

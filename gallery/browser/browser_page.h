@@ -34,10 +34,10 @@ public:
     explicit BrowserPage(wxWindow* parent);
     ~BrowserPage() override;
 
-    /// Opens @a folder. If @a folder is empty, opens the folder of the last session, or the home folder in the first
-    /// session.
+    /// Opens @a folder. If @a folder is empty or not a folder, opens the folder of the last session, or the home folder
+    /// in the first session.
     ///
-    /// If @a folder is not a folder, opens another one. The page then shows the reason, which is also the result.
+    /// If @a folder is neither empty nor a folder, the page shows the reason, and the function returns it.
     wxString Start(const std::string& folder);
 
     FolderTree* GetTree() const { return m_tree; }
@@ -48,8 +48,9 @@ public:
     wxToolBar* GetTools() const { return m_tools; }
     wxAuiManager& GetLayout() { return m_layout; }
 
-    /// Puts the panes where they were in the last session. Call it once, when the page is on the screen: window
-    /// managers keep a floating pane above its window only when the pane appears after the window.
+    /// Puts the panes where they were in the last session. Only the first call has an effect. Make this call when the
+    /// page is on the screen: window managers keep a floating pane above its window only when the pane appears after
+    /// the window.
     void LoadLayout();
 
     /// Shows or hides the floating panes. Floating panes do not follow the page automatically.
@@ -66,7 +67,7 @@ public:
     wxString GetSelectionText() const;
     /// @}
 
-    /// Opens a folder. If it cannot be read, the page says so and the result is false.
+    /// Opens @a folder. If it is not a folder, shows the reason and returns false.
     bool Open(const std::string& folder);
 
     /// @name Commands

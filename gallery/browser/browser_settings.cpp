@@ -13,7 +13,7 @@ namespace gallery::browser_settings {
 namespace {
 
 constexpr PageSettings kFolderSettings(L"browser.ini", L"Folders");
-// This section is in the default store, because ui_config_mgr cannot remove a key from its files.
+// These sections are in the default store, because ui_config_mgr cannot remove a key from its files.
 constexpr const wchar_t* kSelectedSection = L"SelectedFolder";
 constexpr const wchar_t* kColourSection = L"FolderColours";
 constexpr std::size_t kRememberedRoots = 50;

@@ -219,7 +219,8 @@ void ContentsList::SetFolderSizes(const std::vector<std::pair<std::string, Folde
     for (const auto& [name, sum] : sums)
         m_model->SetFolderSize(name, sum.bytes);
     {
-        // The rows are removed one by one. Until all are removed, nothing may draw them or ask for the selected row.
+        // Send no selection events: the rows are removed one by one, and until all are removed, no handler may ask for
+        // the selected row.
         const wxEventBlocker quiet(this, wxEVT_DATAVIEW_SELECTION_CHANGED);
         m_model->RemoveSmallOnes();
     }
@@ -300,7 +301,7 @@ void ContentsList::OnColumnSorted(wxDataViewEvent& event)
     SortByColumn(event.GetDataViewColumn());
 }
 
-/// Uses the order that the header shows.
+/// Sorts by @a column in the order that its header shows; null changes nothing.
 void ContentsList::SortByColumn(const wxDataViewColumn* column)
 {
     if (column)
@@ -330,7 +331,8 @@ void ContentsList::SetColumnWidths(const std::vector<int>& widths)
 void ContentsList::RememberColumns()
 {
     wxPersistentRegisterAndRestore(this, GetName());
-    // A width that was stored in a larger window would be the column's minimum.
+    // Restore the first width of the name column: a width that was stored in a larger window would be the column's
+    // minimum.
     GetColumn(IndexOf(SortColumn::Name))->SetWidth(kNameCharacters * GetCharWidth());
     SortByColumn(GetSortingColumn());
 }

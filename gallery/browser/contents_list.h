@@ -16,7 +16,7 @@ class ContentsModel;
 
 /// The entries of one folder with their sizes, sorted by the column whose header was clicked.
 ///
-/// Rows are made when they are drawn, so that a folder of 100,000 entries takes only the time to read and sort it.
+/// Rows are made when they are drawn. A folder of 100,000 entries therefore takes only the time to read and sort it.
 class ContentsList : public wxDataViewCtrl
 {
 public:

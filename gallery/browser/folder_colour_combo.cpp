@@ -7,20 +7,22 @@ namespace gallery {
 class FolderColourCombo::ColourPopup : public wxColourPopup
 {
 public:
-    /// Returns the colour that the hot cell gives the folder. @a own is the folder's current colour.
+    /// Returns the folder's colour for the hot cell. @a colour is what the popup reports, and @a own the folder's
+    /// current colour.
     wxColour FolderColour(const wxColour& colour, const wxColour& own) const
     {
         if (m_nCurrentSel == CELL_AUTOMATIC)
             return {};
-        // If the user presses Enter without moving, or cancels the dialog, the popup reports the shown colour. This may
-        // be the colour of "Automatic".
+        // Keep the folder's own colour if the user presses Enter without moving, or cancels the dialog. The popup then
+        // reports the colour that it shows, which may be that of "Automatic".
         const bool ofPalette = m_nCurrentSel >= 0;
         return !ofPalette && colour == (own.IsOk() ? own : GetDefaultColour()) ? own : colour;
     }
 
     void StartWith(const wxColour& colour, const wxColour& automatic)
     {
-        // The popup keeps "Automatic" chosen, but that choice was made for another folder.
+        // Replace the chosen cell: the popup would keep "Automatic" chosen, but that choice was made for another
+        // folder.
         m_nChosenColourSel = colour.IsOk() ? CELL_NONE : CELL_AUTOMATIC;
         SetDefaultColour(automatic);
         SetInitialColour(colour.IsOk() ? colour : automatic);
@@ -40,7 +42,8 @@ FolderColourCombo::FolderColourCombo(wxWindow* parent, Handler onLook, Handler o
 
 FolderColourCombo::~FolderColourCombo()
 {
-    // An open popup is closed with the window. The listener may be destroyed by then.
+    // Remove the listener, which is this object: the base class closes an open popup after this object's part is
+    // destroyed.
     m_colours->SetColorListener(nullptr);
 }
 

@@ -129,7 +129,7 @@ bool FolderTree::SelectSubfolder(const std::string& name)
     const wxTreeItemId selected = GetSelection().item;
     wxTreeItemId subfolder = FindSubfolder(selected, name);
     if (!subfolder.IsOk()) {
-        Refill(selected);  // the selected folder may be new
+        Refill(selected);  // the subfolder may be newer than the items
         subfolder = FindSubfolder(selected, name);
     }
     if (!subfolder.IsOk())
@@ -245,7 +245,8 @@ void FolderTree::Dress(const wxTreeItemId& item, const Subfolder& folder)
     cursor.SetImage(folder.readable ? m_images.folder : m_images.unreadable, wxTreeItemIcon_Normal);
     cursor.SetImage(folder.readable ? m_images.open : m_images.unreadable, wxTreeItemIcon_Expanded);
     Colour(item, browser_settings::LoadFolderColour(PathOf(item)));
-    // An item that has been filled shows its button already, whatever the listing said about subfolders.
+    // Set the button only of an item without children: one with children shows its button, whatever the listing says
+    // about subfolders.
     if (GetChildrenCount(item, false) == 0)
         cursor.SetChildren(folder.mayHaveSubfolders);
 }

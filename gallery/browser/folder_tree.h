@@ -46,7 +46,7 @@ public:
     void Reread();
 
     /// Shows the selected folder in @a colour, or without a colour when @a colour is invalid. When the folder is read
-    /// again, it gets the colour from the settings.
+    /// again, it takes the colour from the settings.
     void ShowColour(const wxColour& colour);
 
     /// @name The expanded folders, kept apart for each root

@@ -18,7 +18,8 @@ namespace {
 
 constexpr int kBytesInMegabyte = 1000000;
 
-/// Returns a format for one byte to one petabyte.
+/// Returns a format for a number of megabytes: nine integer digits, for less than one petabyte, and six decimals, for
+/// single bytes.
 CNumberFormat MegabytesFormat()
 {
     CNumberFormat format = GroupingFormat();

@@ -10,7 +10,7 @@
 
 namespace gallery {
 
-/// Sent by a SizeFilter with each change of its number.
+/// Sent by a SizeFilter when its text changes.
 wxDECLARE_EVENT(EVT_SIZE_FILTER_CHANGED, wxCommandEvent);
 
 /// "At least ___ MB": asks for a size that the user may leave out. Escape empties the field.

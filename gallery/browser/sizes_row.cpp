@@ -103,7 +103,7 @@ SizeNews SizesRow::PassOnNews()
     return news;
 }
 
-/// Returns a text such as "8.7 GB in 171,661 items, 540,000 a second".
+/// Shows a text such as "8.7 GB in 171,661 items, 540,000 a second", and the progress in the bar.
 void SizesRow::ShowNumbers(const SizeNews& news, const wxString& state)
 {
     const auto grouped = [](double number) { return GroupedNumber(static_cast<std::uint64_t>(number)); };

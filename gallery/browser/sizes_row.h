@@ -20,14 +20,14 @@ namespace gallery {
 class SizesRow : public wxPanel
 {
 public:
-    /// @a onNews is called with each sum when it is ready.
+    /// @a onNews is called each time the worker has new results.
     SizesRow(wxWindow* parent, std::function<void(const SizeNews&)> onNews);
 
-    /// Starts to add up @a folder, and no longer adds up any other folder.
+    /// Stops adding up the earlier folder, if any, and starts to add up @a folder.
     void Start(const std::string& folder);
 
-    /// Stops the worker and waits for it, at most as long as its current call to the file system takes. All sums found
-    /// so far have been delivered, and no more follow.
+    /// Stops the worker and waits for it, at most as long as its current call to the file system takes. When the
+    /// function returns, all sums found so far have been delivered, and no more follow.
     void Stop();
 
     bool IsRunning() const { return m_worker != nullptr; }

@@ -36,7 +36,8 @@ void AlignRows(std::initializer_list<wxSizer*> grids)
             height = std::max(height, item->CalcMin().y);
     }
     for (const wxSizer* grid : grids) {
-        // A label draws its text at the top of its window. So the window keeps its height and is centred in its row.
+        // Leave out labels: a label draws its text at the top of its window, so the window keeps its height and is
+        // centred in its row.
         for (wxSizerItem* item : grid->GetChildren()) {
             if (!dynamic_cast<wxStaticText*>(item->GetWindow()))
                 item->SetMinSize(item->GetMinSize().x, height);
@@ -121,7 +122,7 @@ void ColourOptionFields::LoadSettings()
     m_default->SetColour(kColourSettings.LoadColour(m_default->GetName(), m_default->GetColour()));
 }
 
-/// Adds the controls for the two boxes and their texts.
+/// Makes the controls for the two boxes, their texts and the default colour.
 wxSizer* ColourOptionFields::MakeBoxes()
 {
     const ColourOptions first;

@@ -18,9 +18,10 @@ namespace gallery {
 /// Sent by a ColourOptionFields when its options change.
 wxDECLARE_EVENT(EVT_COLOUR_OPTIONS_CHANGED, wxCommandEvent);
 
-/// A control for each of the ColourOptions: "HasAutomatic", "Automatic", "CellSize".
+/// A panel with one control for each of the ColourOptions. The controls have names such as "HasAutomatic", "Automatic"
+/// and "CellSize".
 ///
-/// The options are restored as they were when SaveSettings() was last called.
+/// The constructor restores the options that SaveSettings() last saved.
 class ColourOptionFields : public wxPanel
 {
 public:

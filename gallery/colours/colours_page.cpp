@@ -59,7 +59,7 @@ wxBitmap SwatchOf(const wxColour& colour, int size)
     return wxBitmap(swatch);
 }
 
-/// Makes the row of a heading, as high as the row with the button beside it.
+/// Makes the row of a heading. Each such row is as high as the one that also has a button.
 wxSizer* MakeHeader(wxStaticText* heading)
 {
     auto* header = new wxBoxSizer(wxHORIZONTAL);
@@ -100,7 +100,7 @@ ColoursPage::ColoursPage(wxWindow* parent)
 
 ColoursPage::~ColoursPage()
 {
-    // Otherwise an open popup would call the destroyed page.
+    // Close the popup here: an open one would later call the destroyed page.
     m_combo->HidePopup(false);
 }
 
@@ -169,7 +169,7 @@ wxSizer* ColoursPage::MakeEvents()
     return rows;
 }
 
-/// Arranges the page for its width. The page scrolls when its contents are higher.
+/// Arranges the page for its width. The page scrolls when its contents are higher than the window.
 void ColoursPage::Arrange()
 {
     const int width = GetClientSize().x - FromDIP(kMargin);

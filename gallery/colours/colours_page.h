@@ -16,9 +16,9 @@ namespace gallery {
 
 class ColourOptionFields;
 
-/// A colour combo, controls for its options, a list of its calls and events, and a preview of the colour.
+/// A page with a colour combo, controls for its options, a list of its events, and a preview of the colour.
 ///
-/// Options and colour are restored as they were when SaveSettings() was last called. A change of the options makes a
+/// The constructor restores the options and the colour that SaveSettings() last saved. A change of the options makes a
 /// new combo, because the options must be set before the popup is shown.
 class ColoursPage : public wxScrolledWindow
 {

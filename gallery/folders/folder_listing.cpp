@@ -49,8 +49,8 @@ bool IsFolder(int folder, const dirent& entry)
     return fstatat(folder, entry.d_name, &status, kLookAtLinks) == 0 && S_ISDIR(status.st_mode);
 }
 
-/// Returns a text such as "PNG file" for picture.png. The extension counts when it is short, plain and not the whole
-/// name.
+/// Returns a text such as "PNG file" for picture.png. The extension counts if it has one to five ASCII letters and
+/// digits, among them a letter, and is not the whole name.
 std::string TypeOfFile(const std::string& name, bool executable)
 {
     const std::size_t dot = name.rfind('.');
@@ -94,7 +94,7 @@ std::string TargetOf(int folder, const char* name)
     return length > 0 ? std::string(target, static_cast<std::size_t>(length)) : std::string();
 }
 
-/// Fills in the results of lstat(). Returns 0, or the errno when it fails.
+/// Fills in everything but the name and the sort key. Returns 0, or the errno if fstatat() fails.
 int Describe(Entry& entry, int folder, const dirent& found)
 {
     struct stat status;
@@ -132,7 +132,7 @@ void LookInto(Subfolder& subfolder, int parent)
     }
 }
 
-/// Returns @a name without case and accents; bytes that are not UTF-8 stay as they are.
+/// Returns @a name without case and accents. If it is not UTF-8, changes only the case of its ASCII letters.
 std::string Folded(const std::string& name)
 {
     const bool ascii = std::all_of(name.begin(), name.end(), [](char c) { return static_cast<signed char>(c) >= 0; });
@@ -227,7 +227,8 @@ std::string SortKey(const std::string& name)
         std::size_t end = i;
         while (end < folded.size() && IsDigit(folded[end]))
             ++end;
-        // Compare numbers by their length first: the longer is the greater. A file name has at most 255 bytes.
+        // Put the length of a number before its digits, because the longer number is the greater. The length fits in a
+        // byte: a file name has at most 255 bytes.
         key += '0';
         key += static_cast<char>(end - i);
         key.append(folded, i, end - i);
@@ -242,7 +243,7 @@ std::vector<std::uint32_t> SortedPositions(const std::vector<Entry>& entries, So
     for (std::size_t i = 0; i < positions.size(); ++i)
         positions[i] = static_cast<std::uint32_t>(i);
 
-    // Negative when a comes before b in an ascending list.
+    // Returns a negative number when a comes before b in an ascending list, and 0 when the column does not decide.
     const auto compare = [column = order.column](const Entry& a, const Entry& b) {
         switch (column) {
         case SortColumn::Size:

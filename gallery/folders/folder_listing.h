@@ -13,7 +13,7 @@ enum class EntryKind { Folder, File, Link, Pipe, Socket, Device, Unknown };
 struct Entry
 {
     std::string name;     ///< The bytes, in no particular encoding.
-    std::string sortKey;  ///< Sorting by the bytes of the keys gives the order for people.
+    std::string sortKey;  ///< Compared byte by byte to sort names: see SortKey().
     std::string type;     ///< The shown type, such as "Folder" or "PNG file".
     std::string target;   ///< Where a link points.
     EntryKind kind = EntryKind::Unknown;
@@ -42,13 +42,13 @@ struct Subfolder
     bool readable = true;
 };
 
-/// Reads the folders in a folder, sorted by name. Links to folders are not among them.
+/// Returns the folders in a folder, sorted by name. Links to folders are not among them.
 ///
-/// Looks for subfolders in each of them, but stops after a twentieth of a second. The remaining folders count as having
-/// subfolders.
+/// Looks for subfolders in each of them, but stops after 50 milliseconds. The remaining folders count as readable and
+/// as having subfolders.
 std::vector<Subfolder> ReadSubfolders(const std::string& path);
 
-/// Returns the key of a name: case and accents do not count, and numbers count by their value.
+/// Returns the key by which a name is sorted: case and accents do not count, and numbers count by their value.
 std::string SortKey(const std::string& name);
 
 enum class SortColumn { Name, Size, Type, Modified };

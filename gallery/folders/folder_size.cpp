@@ -134,7 +134,7 @@ private:
         Finish();
     }
 
-    /// Continues after a finished subfolder.
+    /// Counts the current subfolder as finished, and reports it if it is directly below the top.
     void Finish()
     {
         Level& level = m_levels.back();
@@ -160,7 +160,8 @@ private:
 
     void TellProgress(double fraction)
     {
-        // Shares are rounded: the next folder may begin slightly before the end of the previous one.
+        // Never let the fraction fall: shares are rounded, so the next folder may begin slightly before the end of the
+        // previous one.
         m_fraction = std::max(m_fraction, fraction);
         m_goesOn = m_observer.OnProgress(m_sum, m_fraction);
     }

@@ -20,8 +20,8 @@ namespace gallery {
 /// pictures.
 wxString DisplayText(const std::string& bytes);
 
-/// Returns a path as a text that PathFromText() turns back into the same bytes. Printable UTF-8 stays as it is, the
-/// rest is percent-encoded. The text never holds a "|".
+/// Returns a path as a text that PathFromText() turns back into the same bytes. Printable UTF-8 other than "%" and "|"
+/// stays as it is; the rest is percent-encoded.
 std::wstring TextFromPath(const std::string& path);
 std::string PathFromText(const std::wstring& text);
 

@@ -14,7 +14,8 @@ struct CloseFolder
 };
 using Folder = std::unique_ptr<DIR, CloseFolder>;
 
-/// Opens a folder; null, with errno set, when it cannot be read.
+/// Opens the folder @a path, relative to the open folder @a base, with additional @a flags of openat(). Returns null,
+/// with errno set, when it cannot be read.
 Folder OpenFolder(int base, const char* path, int flags = 0);
 
 /// Returns the next entry other than "." and ".."; null at the end, with errno 0, or on an error.

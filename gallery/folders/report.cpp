@@ -50,7 +50,7 @@ std::string ReportText(const std::string& folder, const std::vector<Entry>& entr
 
 int SaveReport(const std::string& path, const std::string& text)
 {
-    // A link stays a link, and a file keeps its permissions.
+    // Write to the target of a link, which then stays a link, and keep the permissions of the file.
     std::error_code error;
     std::string file = std::filesystem::canonical(path, error);
     if (error)

@@ -10,10 +10,11 @@ namespace gallery {
 
 /// Returns a table of comma-separated values in UTF-8, as RFC 4180 describes it: a header, and a line for each entry.
 ///
-/// An unknown size, such as that of a folder that was not added up, is empty. Names are those of DisplayText().
+/// The field of an unknown size, such as that of a folder that was not added up, is empty. Names are those of
+/// DisplayText().
 std::string ReportText(const std::string& folder, const std::vector<Entry>& entries);
 
-/// Replaces the file in one step, or leaves it unchanged. Returns 0, or the errno of the failure.
+/// Replaces the file atomically, or leaves it unchanged. Returns 0, or the errno of the failure.
 int SaveReport(const std::string& path, const std::string& text);
 
 }  // namespace gallery

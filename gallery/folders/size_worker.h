@@ -23,12 +23,12 @@ struct SizeNews
 
 /// Adds up a folder and everything below it in the background.
 ///
-/// Its events say only that TakeNews() has something new. An event that is lost with its handler loses no result, and
-/// there is never more than one in the queue.
+/// Its events say only that TakeNews() has something new. If an event is lost with its handler, no result is lost. At
+/// most one event is in the queue.
 class SizeWorker : public wxGUIThreadEx, private SizeObserver
 {
 public:
-    /// @a handler gets events of @a eventType. Their int is @a number, which identifies the worker.
+    /// @a handler receives events of @a eventType. Their int is @a number, which identifies the worker.
     SizeWorker(wxEvtHandler* handler, int eventType, int number, std::string folder);
 
     /// Stops the work and waits until it has ended.

@@ -227,7 +227,7 @@ void NumberFormatFields::LoadSettings()
     }
     format.m_strTemplate = kFormatSettings.Load("Template").wc_str();
     SetFormat(format);
-    // A limit keeps its value while it is not in force.
+    // Load the limits that are not in force too: SetFormat() leaves their controls alone.
     for (std::size_t i = 0; i < std::size(kCounts); ++i) {
         m_counts[i]->SetValue(kFormatSettings.LoadNumber(kCounts[i].name, 0, kLargestCount, m_counts[i]->GetValue()));
     }
@@ -343,7 +343,7 @@ void NumberFormatFields::AddCharacter(wxSizer* grid, std::size_t index)
     m_codes.push_back(code);
 }
 
-/// Updates the fields from each other, and sends EVT_FORMAT_CHANGED.
+/// Enables the controls of the limits in force, shows the codes of the characters, and sends EVT_FORMAT_CHANGED.
 void NumberFormatFields::OnChange()
 {
     if (m_settingFormat)

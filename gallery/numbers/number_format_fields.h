@@ -22,9 +22,10 @@ namespace gallery {
 /// Sent by a NumberFormatFields when its format changes.
 wxDECLARE_EVENT(EVT_FORMAT_CHANGED, wxCommandEvent);
 
-/// A control for every field of a CNumberFormat, named after it: "AllowSign", "HasDecimals", "Decimals".
+/// A panel with one control per field of CNumberFormat. Each control is named after its field, such as "AllowSign" for
+/// m_bAllowSign and "Decimals" for m_nDecimals.
 ///
-/// The format is restored as it was when SaveSettings() was last called.
+/// The constructor restores the format that SaveSettings() last saved.
 class NumberFormatFields : public wxPanel
 {
 public:
@@ -33,8 +34,8 @@ public:
     /// Returns the format that the controls show.
     CNumberFormat GetFormat() const;
 
-    /// Sets the controls to @a format. A limit that is not in force keeps its value; an unknown template becomes the
-    /// plain one.
+    /// Sets the controls to @a format. A limit that is not in force keeps its value; a template that the control does
+    /// not offer becomes "%s".
     void SetFormat(const CNumberFormat& format);
 
     void SaveSettings() const;

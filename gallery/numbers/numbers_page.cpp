@@ -66,7 +66,7 @@ NumbersPage::NumbersPage(wxWindow* parent) : wxScrolledWindow(parent)
     m_fields->Bind(EVT_FORMAT_CHANGED, [this](wxCommandEvent&) { UseFormat(); });
     m_validates->Bind(wxEVT_CHECKBOX, [this](wxCommandEvent&) { UseFormat(); });
     m_number->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { ShowResults(); });
-    // A change to a text that is not a number sends no wxEVT_NUMBER_CHANGED.
+    // Bind both: a change from one text that is not a number to another sends no wxEVT_NUMBER_CHANGED.
     for (const auto& event : {wxEVT_NUMBER_CHANGED, wxEVT_TEXT})
         m_control->Bind(event, [this](wxCommandEvent&) { ShowControlNumber(); });
     m_keep->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { OnKeep(); });
@@ -169,7 +169,7 @@ wxSizer* NumbersPage::MakeControl()
     return rows;
 }
 
-/// Arranges the page for its width. The page scrolls when its contents are higher.
+/// Arranges the page for its width. The page scrolls when its contents are higher than the window.
 void NumbersPage::Arrange()
 {
     const int width = GetClientSize().x - FromDIP(kMargin);
@@ -191,7 +191,8 @@ void NumbersPage::UseFormat()
     m_keep->Enable(validates);
     m_bringBack->Enable(validates);
     ShowResults();
-    // While the user replaces the point, the format has none, and 1.5 would no longer be a number.
+    // Leave the control alone while the user replaces the point: the format then has none, and 1.5 would no longer be a
+    // number.
     if (format.m_chDecimalPoint != 0)
         m_control->SetFormat(format);
     ShowControlNumber();

@@ -18,9 +18,10 @@ namespace gallery {
 
 class NumberFormatFields;
 
-/// A field for a number, its format, and the results of both. Also a wxNumberCtrl with the same format.
+/// A page with a field for a number, controls for its format, and the results of formatting and checking the number. It
+/// also has a wxNumberCtrl with the same format.
 ///
-/// Numbers and format are restored as they were when SaveSettings() was last called.
+/// The constructor restores the numbers and the format that SaveSettings() last saved.
 class NumbersPage : public wxScrolledWindow
 {
 public:
@@ -28,7 +29,7 @@ public:
 
     NumberFormatFields* GetFields() const { return m_fields; }
 
-    /// Returns the number that was stored last.
+    /// Returns the number that the user kept last with the button "Check and keep".
     const wxString& GetKept() const { return m_kept; }
 
     void SaveSettings() const;

@@ -7,7 +7,7 @@
 namespace gallery {
 
 /// The settings of a page: values by name, in one section of a settings file. Each function reads or writes the file at
-/// once. A value that is missing or that someone has damaged gives @a otherwise.
+/// once. If a value is missing or cannot be read, a function with the parameter @a otherwise returns this parameter.
 class PageSettings
 {
 public:

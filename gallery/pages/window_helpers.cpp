@@ -8,7 +8,7 @@ namespace gallery {
 void SetAccessibleName(wxWindow* control, const wxString& name)
 {
     atk_object_set_name(gtk_widget_get_accessible(control->GetHandle()), name.utf8_str());
-    // The focus is on the tree view that the control scrolls.
+    // Name the tree view in the control too, because the focus is on that view.
     if (auto* const list = dynamic_cast<wxDataViewCtrl*>(control))
         atk_object_set_name(gtk_widget_get_accessible(list->GtkGetTreeView()), name.utf8_str());
 }

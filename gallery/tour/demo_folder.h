@@ -8,7 +8,7 @@ namespace gallery {
 /// Folders and files for the tour, with the same names, sizes and times on every machine, and a folder for its
 /// settings. The destructor removes them.
 ///
-/// The files are sparse: they have sizes, but take no space.
+/// The files are sparse: they have sizes, but their contents take no space.
 class DemoFolder
 {
 public:

@@ -15,7 +15,7 @@ inline void HandleEvents()
     wxEventLoopBase* const loop = wxEventLoopBase::GetActive();
     while (loop->Pending())
         loop->Dispatch();
-    // Pending() turns off the loop's idle handling, without which posted events never arrive.
+    // Deliver posted events here: Pending() turns off the loop's idle handling, which usually delivers them.
     wxTheApp->ProcessPendingEvents();
     loop->ProcessIdle();
 }

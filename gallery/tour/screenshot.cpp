@@ -41,7 +41,7 @@ bool AreEqual(const Pixels& a, const Pixels& b)
                        gdk_pixbuf_get_byte_length(a.get())) == 0;
 }
 
-// Returns true for a window that is not drawn yet.
+// Returns whether all pixels are equal, as in a window that is not drawn yet.
 bool IsOfOneColour(const Pixels& pixels)
 {
     const guint8* const bytes = gdk_pixbuf_read_pixels(pixels.get());

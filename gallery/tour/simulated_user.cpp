@@ -20,7 +20,7 @@ void Click(const wxPoint& point)
 void DoubleClick(const wxPoint& point)
 {
     PointAt(point);
-    // On a busy machine the second click may come too late for a double click.
+    // Allow a minute between the clicks: on a busy machine the second one may come too late for a double click.
     GdkDisplay* const display = gdk_display_get_default();
     gdk_display_set_double_click_time(display, 60000);
     wxUIActionSimulator().MouseDblClick();
@@ -106,7 +106,7 @@ wxRect HeaderRect(const ContentsList& list, SortColumn column)
 
 wxRect NameRect(const ContentsList& list, unsigned row)
 {
-    // Counted from the left in both reading directions.
+    // GetItemRect() measures x from the left edge, even in a right-to-left layout.
     wxRect rect = list.GetItemRect(list.ItemOf(row), list.GetColumn(0));
     rect.Offset(WindowRect(list).GetPosition());
     return rect;

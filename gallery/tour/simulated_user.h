@@ -26,12 +26,12 @@ void DoubleClick(const wxPoint& point);
 void Drag(const wxPoint& from, const wxPoint& to);
 void PointAt(const wxPoint& point);
 void Press(int key, int modifiers = wxMOD_NONE);
-/// Makes @a part of a window wider. Drags the border at its end in reading direction, or a point @a gap pixels after
-/// it.
+/// Makes @a part of a window wider by @a pixels. Drags the point that is @a gap pixels after the end of the part in
+/// reading direction.
 void Widen(const wxWindow& window, const wxRect& part, int pixels, int gap = 0);
 /// @}
 
-/// @name Rectangles on the screen to point at; empty when they are not visible
+/// @name Points and rectangles on the screen; a rectangle is empty when it is not visible
 /// @{
 wxPoint CentreOf(const wxRect& rect);
 wxRect WidgetRect(_GtkWidget* widget);

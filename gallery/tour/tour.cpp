@@ -126,7 +126,7 @@ Tour::Tour(const std::string& pictures, const std::string& folder)
     : m_pictures(pictures), m_folder(folder.empty() ? m_demo.Path() : folder)
 {
     std_file_paths::SetUserDataDir(file_util_ex::ConvertFromUTF8W(m_demo.SettingsPath()));
-    // A picture needs a window that no longer changes.
+    // Stop the caret from blinking: a picture is taken only of a window that no longer changes.
     g_object_set(gtk_settings_get_default(), "gtk-cursor-blink", FALSE, nullptr);
 }
 

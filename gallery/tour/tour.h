@@ -23,7 +23,7 @@ public:
     /// Pictures go into the folder @a pictures, which is made when it is missing.
     Tour(const std::string& pictures, const std::string& folder);
 
-    /// Prints the result of each step; returns true when all steps succeeded. Needs an active event loop.
+    /// Runs all steps and prints the result of each. Returns true when all steps succeeded. Needs an active event loop.
     bool Run();
 
 private:

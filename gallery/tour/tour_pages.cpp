@@ -24,7 +24,7 @@ using namespace simulated_user;
 
 namespace {
 
-// A colour of the palette.
+// Cells of the palette.
 constexpr int kOrange = 9;
 constexpr int kGreen = 11;
 constexpr int kViolet = 22;
@@ -45,7 +45,8 @@ bool Tour::OpenFolderColours()
     return Waits([&] { return combo.GetColourPopup()->IsShownOnScreen(); }, "Ctrl+T opens the colours");
 }
 
-/// Waits until the popup closes and the selected folder has the chosen colour. Returns whether that happens in time.
+/// Waits until the popup closes. Returns whether it closes in time, the selected folder is shown in the colour of @a
+/// cell, and that colour is stored.
 bool Tour::FolderGets(int cell)
 {
     const FolderColourCombo& combo = *m_frame->GetBrowser()->GetColour();
