@@ -6,7 +6,7 @@
 #include <fittings/base/export.h>
 #include <fittings/base/std_str.h>
 
-/// Paths, folders and UTF-8. Callable from any thread. A null text counts as empty.
+/// Paths, folders and UTF-8. Callable from any thread. A null pointer counts as an empty text.
 ///
 /// The separator is '/'; a backslash is an ordinary character. File names on disk are UTF-8, whatever the locale:
 /// ConvertToUTF8() converts each path. A file whose name is not UTF-8 cannot be accessed.

@@ -108,9 +108,9 @@ public:
     /// Everything that was read from a file and not changed since is written as it was read: comments, blank lines,
     /// meaningless lines, their order and their line ends.
     ///
-    /// A symbolic link is followed and kept. The mode of the file is kept; a new file has mode 0600. Other hard links
-    /// to the file keep the old content. A file that already has the same bytes is not touched. Returns false on any
-    /// error; the old file is then unchanged.
+    /// A symbolic link is followed and kept. The mode of the file is kept, and its owner if possible; a new file has
+    /// mode 0600. Other hard links to the file keep the old content. A file that already has the same bytes is not
+    /// touched. Returns false on any error; the old file is then unchanged.
     static bool Save(const CIniFile& ini, const wchar_t* path);
 
     /// Releases @a ini, which may be null.

@@ -187,7 +187,7 @@ struct Exchanged
     std::string_view put;
 };
 
-// What became of an exchange.
+// The result of an exchange and of the merges after it.
 struct Outcome
 {
     UpdateResult result;

@@ -90,11 +90,11 @@ struct FileUpdate
 
 /// Like ReplaceFileBytes(), but keeps every change that other processes have stored since the file was read.
 ///
-/// If the file has changed since it was read, returns Outdated and does not touch the file. Otherwise exchanges the
-/// file and a new one. A change between the check and the exchange is merged. If it cannot be merged, the function
-/// undoes the exchange and returns Outdated. If another process prevents the undoing, the displaced file is kept under
-/// a name from OtherName(). On file systems that cannot exchange two files atomically, such as NFS, a change in the few
-/// microseconds after the check can be lost.
+/// Does nothing if the new content is the one that was found. If the file has changed since it was read, returns
+/// Outdated and does not touch the file. Otherwise exchanges the file and a new one. A change between the check and the
+/// exchange is merged. If it cannot be merged, the function undoes the exchange and returns Outdated. If another
+/// process prevents the undoing, the displaced file is kept under a name from OtherName(). On file systems that cannot
+/// exchange two files atomically, such as NFS, a change in the few microseconds after the check can be lost.
 UpdateResult UpdateFileBytes(const std::string& path, const FileUpdate& update);
 
 /// Gives the file at @a path a second name that does not exist yet: its own name followed by ".unreadable", or

@@ -63,7 +63,7 @@ std::optional<FileIdentity> StateOf(int fd)
     return fstat(fd, &info) == 0 ? std::optional(FileIdentity(info)) : std::nullopt;
 }
 
-/// One wait for the lock.
+/// One wait for the lock: decides when it is over, and remembers in LockWait whether the holder is stuck.
 class Waiting
 {
 public:

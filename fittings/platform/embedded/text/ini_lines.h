@@ -17,7 +17,7 @@ enum class IniLineKind {
     Unknown,        ///< Every other line, for example one that starts with ';'.
 };
 
-/// One line: offsets into the text.
+/// One line. The numbers are offsets into the text.
 struct IniLine
 {
     IniLineKind kind;

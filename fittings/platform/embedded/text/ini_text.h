@@ -101,7 +101,7 @@ private:
         bool isRemoved = false;
     };
 
-    /// A line of a section or a key: offsets into the text.
+    /// A line of a section or a key: offsets into the text, and the indices of the section and of its entry.
     struct Line
     {
         std::size_t begin;

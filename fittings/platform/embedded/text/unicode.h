@@ -19,7 +19,7 @@ constexpr bool IsControl(char32_t code)
     return code < 0x20 || (code >= 0x7F && code < 0xA0);
 }
 
-/// The first character of a text.
+/// The result of decoding the first character of a text.
 struct DecodedUtf8
 {
     std::optional<char32_t> code;  ///< None if no valid UTF-8 character begins here.
