@@ -64,7 +64,7 @@ public:
     /// @param handler  receives the events, on the GUI thread. Null: the worker runs, and its events are dropped.
     explicit wxGUIThread(wxEvtHandler* handler);
 
-    /// The worker must have ended before this.
+    /// Destroy a worker only when it has ended.
     ~wxGUIThread() override;
 
     /// Makes the thread and runs it, and returns the result of Run(). Call this instead of Create() and Run().
@@ -171,7 +171,7 @@ public:
     /// @param eventType the type of every event, for example from wxNewEventType().
     wxGUIThreadEx(wxEvtHandler* handler, int eventType);
 
-    /// The worker must have ended before this.
+    /// Destroy a worker only when it has ended.
     ~wxGUIThreadEx() override;
 
     /// @name Posting

@@ -38,11 +38,11 @@ public:
     explicit wxThreadExImpl(wxThreadEx* owner) : wxThread(wxTHREAD_DETACHED), m_owner(owner) {}
 
 private:
-    // Tells the owner that the thread is over, even after an exception: Wait() must not hang.
+    // Reports to the owner that the thread is over, even after an exception: Wait() must not hang.
     //
-    // The C library first destroys a thread's thread-local objects, such as this one, and then the values of its keys,
-    // in rounds. The toolkit's values are destroyed in the first round, so the owner is told in the second. Otherwise a
-    // program that ends right after Wait() would shut down the toolkit while the thread still uses it.
+    // The C library first destroys a thread's thread-local objects, such as this one, and then the values of its
+    // pthread keys, in rounds. The toolkit's values are destroyed in the first round, so End reports in the second.
+    // Otherwise a program that ends right after Wait() would shut down the toolkit while the thread still uses it.
     struct End
     {
         explicit End(wxThreadEx* threadOwner) : owner(threadOwner) {}
@@ -128,7 +128,7 @@ wxThread::ExitCode wxThreadEx::Wait()
     if (m_detached || !m_running)
         return kNoExitCode;
     std::unique_lock<std::mutex> lock(m_mutex);
-    // A condition may wake up without a signal.
+    // Wait in a loop: a condition may wake up without a signal.
     while (!m_finished)
         m_condition.wait(lock);
     return m_exitCode;

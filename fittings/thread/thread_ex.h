@@ -68,7 +68,7 @@ public:
     ///         make another thread. wxTHREAD_RUNNING when the thread already exists; nothing happens then.
     wxThreadError Create(unsigned int stackSize);
 
-    /// Starts Entry() on the thread. Entry() may have returned before this does.
+    /// Starts Entry() on the thread. Entry() may return before Run() does.
     ///
     /// @return the result of the toolkit's Run(): wxTHREAD_NO_ERROR, or another value when nothing runs.
     ///         wxTHREAD_RUNNING when the object has run before; nothing happens then.
