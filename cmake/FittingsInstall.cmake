@@ -50,7 +50,7 @@ install(FILES
   ${PROJECT_BINARY_DIR}/fittings-config-version.cmake
   DESTINATION ${config_folder} COMPONENT fittings_development)
 
-# Files for pkg-config. The toolkit has none, so these contain the toolkit's flags.
+# Files for pkg-config. The toolkit installs none, so these contain the toolkit's flags.
 get_target_property(pc_include_folders fittings::wx INTERFACE_INCLUDE_DIRECTORIES)
 get_target_property(pc_definitions fittings::wx INTERFACE_COMPILE_DEFINITIONS)
 get_target_property(pc_options fittings::wx INTERFACE_COMPILE_OPTIONS)

@@ -1,6 +1,6 @@
 # Defines the targets fittings::fittings (link this one), fittings::platform, fittings::platform-headers and
-# fittings::wx. If the toolkit has its XML resources, the component xrc gives fittings::xrc: the handlers for XML
-# resources.
+# fittings::wx. If the toolkit has its XML resources, the component xrc defines fittings::xrc too, which contains
+# handlers for XML resources.
 include(${CMAKE_CURRENT_LIST_DIR}/FittingsWx.cmake)
 if(NOT TARGET fittings::wx)
   set(fittings_FOUND FALSE)

@@ -21,7 +21,7 @@ constexpr int kMostParts = 2000;
 constexpr std::int64_t kMostSteps = 10'000'000;
 constexpr std::int64_t kMostRows = 10'000;
 
-// The largest number that is accepted in a name or caption where the toolkit would read the number as a field.
+// If the toolkit would read a number in a name or caption as a field, this is the largest number that is accepted.
 constexpr long kMostInText = 100;
 
 // The largest coordinate or size, in pixels. The sum over the largest number of parts does not overflow.
@@ -162,7 +162,7 @@ bool AreReadAtOnce(std::wstring_view texts)
 
 bool IsPane(std::wstring_view text, Sums& sums)
 {
-    // Only numbers follow this field, so the last match is the field, whatever the caption holds.
+    // Only numbers follow this field, so the last match is the field, whatever the caption contains.
     const std::size_t numbers = text.rfind(L";state=");
     if (numbers == text.npos)
         return false;

@@ -127,7 +127,7 @@ wxStorePersistenceManager::~wxStorePersistenceManager() = default;
 
 wxStorePersistenceManager& wxStorePersistenceManager::Install()
 {
-    // Never destroyed: windows and managers may live longer than objects that are destroyed at the end of the program.
+    // Never destroyed: windows and managers may live longer than the static objects of the program.
     static auto* const manager = new wxStorePersistenceManager;
     Set(*manager);
     return *manager;
@@ -142,7 +142,7 @@ wxConfigBase* wxStorePersistenceManager::GetConfig() const
 {
     if (!m_config) {
         m_config = std::make_unique<wxStoreConfig>();
-        // A "$" in the label of a tree's item is not a variable.
+        // Expand nothing: a "$" in the label of a tree's item is not a variable.
         m_config->SetExpandEnvVars(false);
     }
     return m_config.get();

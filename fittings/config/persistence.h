@@ -69,7 +69,8 @@ public:
     bool SaveValue(const wxPersistentObject& who, const wxString& name, wxString value) override;  ///< Saves it later.
     /// Returns false if the stored value is neither 0 nor 1.
     bool RestoreValue(const wxPersistentObject& who, const wxString& name, bool* value) override;
-    /// Returns false if the stored value is not an int, or not a place or size that a window can have.
+    /// Returns false if the stored value is not an int, or not a place or size that a window can have. For a frame or
+    /// dialog, a request for "x" restores its whole place and size.
     bool RestoreValue(const wxPersistentObject& who, const wxString& name, int* value) override;
     /// Returns false if the stored value is not a number.
     bool RestoreValue(const wxPersistentObject& who, const wxString& name, long* value) override;
@@ -156,7 +157,7 @@ class FITTINGS_API wxPersistentAui : public wxPersistentObject
 {
 public:
     /// @param manager  must already manage a window.
-    /// @param name  empty: the name of that window.
+    /// @param name  identifies the layout in the store; if it is empty, the name of the managed window does.
     explicit wxPersistentAui(wxAuiManager* manager, const wxString& name = wxString());
     ~wxPersistentAui() override;
 
@@ -196,8 +197,8 @@ inline wxPersistentObject* wxCreatePersistentObject(wxAuiManager* manager)
     return new wxPersistentAui(manager);
 }
 
-/// Does the same as the toolkit's function for windows. The name is a parameter because a manager has no SetName(). For
-/// a class derived from wxAuiManager, convert the pointer.
+/// Does the same as the toolkit's function for windows. The name is a parameter because a manager has no SetName(). If
+/// the class is derived from wxAuiManager, convert the pointer to `wxAuiManager*`.
 inline bool wxPersistentRegisterAndRestore(wxAuiManager* manager, const wxString& name)
 {
     return wxPersistenceManager::Get().RegisterAndRestore(manager, new wxPersistentAui(manager, name));

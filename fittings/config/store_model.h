@@ -68,7 +68,7 @@ public:
     /// Removes everything from the store, including the sections that are not groups.
     void RemoveAll();
 
-    /// Returns a setting whose section is not a group.
+    /// Returns the value of a key in a section that is not a group, or an empty text when there is none.
     std::wstring HiddenText(const std::wstring& section, const std::wstring& key) const;
     void SetHidden(const std::wstring& section, const std::wstring& key, const std::wstring& value);
     /// @}

@@ -128,10 +128,10 @@ std::optional<StorePath> PathOfSection(std::wstring_view section);
 /// @a current. Empty steps and "." are skipped, ".." goes up.
 StorePath FollowedPath(const StorePath& current, std::wstring_view text);
 
-/// Returns null when there is no such group.
+/// Returns the group at @a path, or null when there is none.
 StoreGroup* FindStoreGroup(StoreGroup& root, const StorePath& path);
 
-/// Makes the groups that are missing, and returns the last one.
+/// Returns the group at @a path, and makes it and the groups above it as needed.
 StoreGroup& MakeStoreGroup(StoreGroup& root, const StorePath& path);
 
 }  // namespace fittings

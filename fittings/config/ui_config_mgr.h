@@ -34,11 +34,11 @@ FITTINGS_API std::wstring GetConfigString(const wchar_t* file, const wchar_t* se
 
 /// Removes the key from the *default store*, as CLocalRegStore::DeleteProfile() does.
 ///
-/// The named file keeps its key: it is only loaded and saved unchanged, or made empty when it does not exist.
+/// The named file keeps its key: it is only loaded and saved unchanged, or created empty when it does not exist.
 FITTINGS_API void DeleteConfig(const wchar_t* file, const wchar_t* section, const wchar_t* key);
 
-/// Returns the stored text as an integer, as std::stoi reads it in base 10: blanks before the digits and everything
-/// after them are ignored. Returns 0 for a missing or empty text.
+/// Returns the stored text as an integer, as std::stoi reads it in base 10: blanks before the number and everything
+/// after it are ignored. Returns 0 for a missing or empty text.
 ///
 /// @throws std::invalid_argument when the text does not begin with a number.
 /// @throws std::out_of_range when the number does not fit an `int`.

@@ -53,7 +53,7 @@ int DisplayOf(wxWindow& window)
 }
 
 /// Returns the part of @a rect that lies in @a area. A rectangle wholly outside the area, for example under a panel, is
-/// moved into the area.
+/// moved into the area, and made smaller if it is larger than the area.
 wxRect FitInto(const wxRect& area, const wxRect& rect)
 {
     const wxRect common = area.Intersect(rect);

@@ -23,7 +23,7 @@ constexpr wchar_t kMaximizedSection[] = L"wxWindowMaximize";
 constexpr wchar_t kLayoutFile[] = L"wxAuiManagerState.ini";
 constexpr wchar_t kLayoutSection[] = L"wxAuiManagerState";
 
-/// If the reference is narrower than this, half of the window extends past the corner.
+/// If the reference is narrower than this, half of the window extends past the reference's right edge.
 constexpr int kWideReference = 800;
 
 /// Reads "x;y;width;height" as scanf's "%d;%d;%d;%d" does: blanks before a number and any text after the last one are

@@ -61,7 +61,8 @@ FITTINGS_API bool LoadState(wxFrame* frame, const wchar_t* name);
 FITTINGS_API void MaximizeFrame(wxFrame* frame);
 
 /// Moves the window so that its top right corner is one pixel to the left of that of the reference on the screen. The
-/// window keeps its size. If the reference is narrower than 800 pixels, half of the window extends past the right edge.
+/// window keeps its size. If the reference is narrower than 800 pixels, half of the window extends past its right edge
+/// instead.
 FITTINGS_API void MoveWindowToRightCorner(wxWindow* window, wxWindow* reference);
 
 /// Stores the positions, sizes and captions of the manager's panes, as wxAuiManager::SavePerspective() returns them.

@@ -31,8 +31,8 @@ public:
     /// From now on, records the window's place and size while it is neither maximised, full screen nor iconised.
     void Follow(wxTopLevelWindow& window);
 
-    /// Returns true when the window is maximised, or was maximised when it was hidden. The system forgets this state of
-    /// a hidden window.
+    /// Returns true when the window is maximised, or is hidden and was maximised before. The system does not remember
+    /// this state of a hidden window.
     bool IsMaximized(const wxTopLevelWindow& window) const;
 
     /// Returns true when the window is maximised, full screen or iconised.
