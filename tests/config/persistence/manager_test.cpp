@@ -172,7 +172,7 @@ TEST(Manager, IsTheToolkitsOnceItIsInstalled)
     EXPECT_EQ(&wxStorePersistenceManager::Install(), &wxStorePersistenceManager::Install());
 }
 
-// The toolkit's classes cannot have written these values, so the values are ignored.
+// The toolkit's classes cannot have written these values. The windows must look as usual all the same.
 TEST(DamagedNumbers, DoNoHarm)
 {
     const TempPersistence data;

@@ -115,8 +115,8 @@ TEST(PersistentFrame, ThatWasOnTheFullScreenComesBackAtItsEarlierSize)
     InOneRun(true, [](wxFrame& frame) { EXPECT_TRUE(SettlesAt(frame, wxRect(300, 200, 400, 300))); });
 }
 
-// While another frame is open, a closed frame is hidden before it is destroyed. The window manager then forgets that
-// the closed frame is maximised.
+// If another frame is open, the toolkit hides a closed frame before it destroys it, as this test does. The window
+// manager then forgets that the closed frame is maximised.
 TEST(PersistentFrame, ThatIsClosedMaximizedBeforeAnotherIsRemembered)
 {
     const TempPersistence data;

@@ -1,4 +1,4 @@
-// Trees, each in a frame on the screen.
+// Persistent trees, each in a frame on the screen.
 
 #include <string>
 

@@ -1,4 +1,4 @@
-// Groups, entries and paths. wxWidgets' own tests of wxFileConfig hold here too, except those about its file.
+// Groups, entries and paths. Includes wxWidgets' own tests of wxFileConfig, except those about its file.
 
 #include <fittings/config/store_config.h>
 

@@ -1,4 +1,4 @@
-// Values of each type. wxWidgets' own tests of wxConfig hold here too.
+// Values of each type. Includes wxWidgets' own tests of wxConfig.
 
 #include <fittings/config/store_config.h>
 

@@ -6,10 +6,11 @@
 // Both wait until the geometry on the screen is the expected one and no longer changes, and print it. If that takes too
 // long, they print the last geometry.
 //
-// KIND is "plain", "menu" or "fixed"; "persistent" for a plain frame that the toolkit's persistence restores and
-// stores; "maximized" for such a frame that is also maximised before it is stored, comes back maximised and is then
-// unmaximised; "dragged" for one that is unmaximised while the left mouse button is down, after which only its size is
-// checked; or "corrected" for a plain frame that is restored after decorations of another size have been announced.
+// KIND is "plain"; "menu" for a frame with a menu bar, a status bar and a text field; "fixed" for one that cannot be
+// resized; "persistent" for a plain frame that the toolkit's persistence restores and stores; "maximized" for such a
+// frame that is also maximised before it is stored, comes back maximised and is then unmaximised; "dragged" for one
+// that is unmaximised while the left mouse button is down, after which only its size is checked; or "corrected" for a
+// plain frame that is restored after decorations of another size have been announced.
 
 #include <cstdio>
 #include <string>

@@ -30,7 +30,7 @@ private:
     std::vector<std::string> m_calls;
 };
 
-/// A frame that is hidden at first and destroyed with this object.
+/// A hidden frame that records such calls once it is constructed.
 class SpyFrame : public SpyWindow<wxFrame>
 {
 public:

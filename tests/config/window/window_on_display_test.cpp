@@ -22,7 +22,8 @@ TEST(Display, HasTheWorkAreaThatTheseTestsExpect)
     EXPECT_EQ(wxDisplay(0u).GetClientArea(), wxRect(16, 24, 1264, 960));
 }
 
-/// A stored geometry, the calls that restoring it makes, and the window's geometry afterwards.
+/// A stored geometry, the calls that restoring it makes after the two that apply it, and the window's geometry
+/// afterwards.
 struct Restored
 {
     const char* name;
