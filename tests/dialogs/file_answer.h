@@ -40,7 +40,7 @@ public:
     /// Called when a dialog is about to be shown, before it is answered.
     std::function<void()> whileShown;
 
-    /// Return the dialog that was shown last, and the number of dialogs shown.
+    /// Return the arguments and the state of the dialog that was shown last, and the number of dialogs shown.
     const AskedFile& Asked() const { return m_asked; }
     int Shown() const { return m_shown; }
 

@@ -175,6 +175,7 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& info) { return info.param.name; });
 
 // If GTK's dialog is told to start in a file, it shows nothing. If it is told to start below a file, it shows an error.
+// Therefore it starts in the nearest folder above the file.
 TEST(SaveDialogFolder, IsTheNearestFolderAboveAFile)
 {
     const TempFolder folder;
@@ -201,7 +202,7 @@ TEST(SaveDialogFolder, IsTheNearestFolderAboveARelativeFile)
     EXPECT_EQ(in.shownFolder, folder.Path());
 }
 
-// If the folder is missing, GTK's dialog itself goes up to an existing one.
+// If the folder is missing, GTK's dialog itself goes up to an existing one, so the folder is passed on as it is.
 TEST(SaveDialogFolder, IsAFolderThatIsGone)
 {
     const TempFolder folder;
