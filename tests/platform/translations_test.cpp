@@ -18,7 +18,7 @@ const wchar_t* Look(const wchar_t* key, const wchar_t* domainName = L"")
     return lng_util_internal::DoGetResourceString(key, &domain);
 }
 
-// The toolkit without windows, the catalogues of this build, and no translations set.
+// Starts the toolkit without windows, with the catalogues of this build, and with no translations set.
 class Translations : public testing::Test
 {
 protected:

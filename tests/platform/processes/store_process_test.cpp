@@ -132,7 +132,8 @@ TEST(FourThreads, KeepAllOfTheirUpdates)
         EXPECT_EQ(Stored(L"s", Name(L"k", number).c_str()), Name(L"v", number));
 }
 
-// The state of a writing process, in memory that outlives it.
+// The numbers of the updates that a writing process has begun and done. SharedProgress keeps them in memory that
+// outlives the process.
 struct Progress
 {
     std::atomic<int> begun;

@@ -98,7 +98,8 @@ std::string AnyLine(Random& random)
     return line;
 }
 
-// Every text with the line [s] in it can be loaded, keeps all its bytes, and keeps its other values when one changes.
+// Every text with the line [s] in it can be loaded, unless null characters damage this line. It keeps all its bytes,
+// and keeps its other values when one changes.
 TEST(ThousandsOfDirtyFiles, KeepWhatTheyHold)
 {
     constexpr unsigned kSeed = 77001;

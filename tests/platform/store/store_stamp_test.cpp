@@ -181,8 +181,8 @@ TEST_F(AReadInTheSameTick, SeesAnotherFile)
     EXPECT_EQ(Stored(L"s", L"k"), L"2");
 }
 
-// Not every file system sets the change time of a file that is replaced. Here the store knows the replacement by the
-// file's lack of links.
+// Not every file system sets the change time of a file that is replaced. The store must notice that the earlier file
+// has lost its name.
 TEST_F(AReadInTheSameTick, SeesAnotherFileByTheNamesOfTheEarlierOne)
 {
     g_stamp = timespec{1'700'000'000, 4'000'000};
