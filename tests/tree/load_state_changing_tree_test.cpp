@@ -144,7 +144,7 @@ TEST_F(LoadStateMeanwhile, GoesOnBehindAnItemThatDeletesItself)
     EXPECT_EQ(tree.askedOfTheDead, 0);
 }
 
-// The new item often has the same address as the deleted one.
+// The new item often has the same address as the deleted one, but must not be taken for it.
 TEST_F(LoadStateMeanwhile, GoesOnBehindAnItemThatIsMadeAnew)
 {
     when[L"A"] = [&] {
