@@ -190,7 +190,7 @@ void TakesItsPictures(const std::vector<std::string>& arguments, const std::stri
     Program program(arguments);
     EXPECT_EQ(program.Wait(), 0) << program.Output() << program.Errors();
     EXPECT_EQ(program.Output().find("FAILED"), std::string::npos);
-    // GTK prints this warning about a control that has less room than its borders take.
+    // GTK prints this warning about a control that has less room than its borders take, which must not happen.
     EXPECT_EQ(program.Errors().find("while allocating gadget"), std::string::npos) << program.Errors();
     for (const char* name : {"browser", "colour-popup", "colours", "filter", "folder-colours", "folder-dialog",
                              "numbers", "persistence", "save-dialog", "tree", "window-state"})

@@ -123,7 +123,7 @@ TEST(ReadFolder, SaysThatItMayNot)
     EXPECT_TRUE(listing.entries.empty());
 }
 
-// A folder that may be listed but not entered gives names without sizes.
+// If a folder may be listed but not entered, the names of its entries are known, but not their sizes.
 TEST(ReadFolder, ListsWhatItCannotDescribe)
 {
     TempFolder folder;

@@ -1,4 +1,4 @@
-// The page's wxNumberCtrl.
+// The wxNumberCtrl of the page of numbers.
 
 #include <fittings/numedit/number_ctrl.h>
 #include <tests/gallery/numbers/numbers_page_fixture.h>

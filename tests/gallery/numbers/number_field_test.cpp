@@ -1,4 +1,4 @@
-// The field for the number, its buttons, and the results that the page shows for it.
+// The page's field for the number, its buttons, and the results that the page shows for the number.
 
 #include <wx/button.h>
 #include <wx/checkbox.h>

@@ -1,4 +1,4 @@
-// What the page restores in the next session.
+// What the page of numbers restores in the next session.
 
 #include <wx/checkbox.h>
 
