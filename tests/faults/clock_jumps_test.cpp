@@ -197,8 +197,8 @@ TEST_P(ClockJumps, HideNoChangeByAnotherProcess)
     EXPECT_EQ(NamesIn(data.Path()), (std::vector<std::string>{"settings.ini", "settings.ini.lock"}));
 }
 
-// Overwrites the file with the same number of bytes. Sets its modification time to the earlier one, or by another
-// clock.
+// Each change overwrites the file with the same number of bytes, and sets its modification time to the earlier one or
+// to that of a clock that has jumped.
 TEST_P(ClockJumps, HideNoChangeInPlace)
 {
     TempUserData data;
