@@ -6,8 +6,9 @@
 
 /// Sets the process's locale while the object exists; fails the test when there is no such locale.
 ///
-/// In addition to the system's own locales, de_DE.UTF-8 (point ","), fr_FR.UTF-8 (thousands U+202F), fr_FR.ISO-8859-1
-/// (thousands the byte 0xA0), he_IL.UTF-8 (from right to left) and ps_AF.UTF-8 (point U+066B) exist on every machine.
+/// In addition to the system's own locales, de_DE.UTF-8 (decimal point ","), fr_FR.UTF-8 (thousands separator U+202F),
+/// fr_FR.ISO-8859-1 (thousands separator 0xA0, one byte), he_IL.UTF-8 (from right to left) and ps_AF.UTF-8 (decimal
+/// point U+066B) exist on every machine.
 ///
 /// @code
 /// const ScopedLocale german("de_DE.UTF-8");
