@@ -190,7 +190,6 @@ int wxColourPopup::GetRow(int index) const
 
 int wxColourPopup::GetColumn(int index) const
 {
-    // Outside the grid, the result is that of GetRow().
     const int row = GetRow(index);
     return row >= 0 ? index % m_nNumColumns : row;
 }

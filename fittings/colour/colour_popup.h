@@ -19,18 +19,18 @@
 class FITTINGS_API wxColorPopupListener
 {
 public:
-    /// The popup is about to be shown. If the combo's value names a colour of the palette, that colour's cell
-    /// becomes hot next.
+    /// Called before the popup is shown. If the combo's value names a colour of the palette, that colour's cell becomes
+    /// hot next.
     virtual void OnColourPopup();
 
-    /// Another cell became hot; @a colour is the colour of that cell.
+    /// Called when another cell has become hot; @a colour is the colour of that cell.
     virtual void OnColourSelChange(const wxColour& colour);
 
-    /// @a colour was chosen. If no cell was hot, or the dialog of "More Colours..." was cancelled, @a colour is the one
-    /// that was already in effect.
+    /// Called when the selection ends with the choice of @a colour. If no cell was hot, or the dialog of "More
+    /// Colours..." was cancelled, @a colour is the one that was already in effect.
     virtual void OnColourSelEnd(const wxColour& colour);
 
-    /// Nothing was chosen; @a colour stays in effect.
+    /// Called when the selection ends without a choice; @a colour stays in effect.
     virtual void OnColourSelCancel(const wxColour& colour);
 
     virtual ~wxColorPopupListener();

@@ -316,7 +316,7 @@ void wxColourPopup::RestoreValue()
 
 void wxColourPopup::OnMouseMove(wxMouseEvent& event)
 {
-    // The point is shifted by one margin, for the boxes too, but not by the margin below "Automatic".
+    // Shift the point by one margin, for the boxes too, but not by the margin below "Automatic".
     wxPoint point(event.GetX() - m_nMargin, event.GetY() - m_nMargin);
     int target = CELL_NONE;
     if (!m_strMoreColours.empty() && m_rectMoreColours.Contains(point)) {
@@ -431,7 +431,7 @@ void wxColourPopup::ChooseClosed(int index)
 // Returns the next hot cell. The cells form a circle: "Automatic", the grid row by row, "More Colours...".
 int wxColourPopup::CellTowards(int key) const
 {
-    // An absent box gives CELL_NONE.
+    // GetIndex() returns CELL_NONE for an absent box.
     const int automatic = GetIndex(CELL_AUTOMATIC, CELL_AUTOMATIC);
     const int more = GetIndex(CELL_MORE_COLOURS, CELL_MORE_COLOURS);
     const int first = GetIndex(0, 0);

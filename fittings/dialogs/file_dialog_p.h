@@ -13,7 +13,7 @@ class wxWindow;
 
 namespace fittings {
 
-/// The section of the default store that holds the last file of each registry entry.
+/// The section of the default store that contains the last file of each registry entry.
 inline constexpr char kLastFilesSection[] = "LastFiles";
 /// The application's folder that is proposed while no file is remembered.
 inline constexpr wchar_t kSamplesFolder[] = L"Samples";

@@ -53,7 +53,7 @@ public:
     /// @param wildcard  as in wxFileDialog: "Tables (*.csv)|*.csv|All files|*".
     /// @param style  any style of wxFileDialog.
     /// @param defaultName  a name without a folder; everything up to its last separator is removed. A name without an
-    ///     extension gets that of the filter.
+    ///     extension is completed with that of the filter.
     bool Create(wxWindow* parent, const wxString& entry, const wxString& message = wxASCII_STR(wxFileSelectorPromptStr),
                 const wxString& wildcard = wxASCII_STR(wxFileSelectorDefaultWildcardStr),
                 long style = wxFD_DEFAULT_STYLE, const wxString& defaultName = wxString());

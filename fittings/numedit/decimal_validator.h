@@ -63,8 +63,8 @@ public:
     /// Returns a new validator made by the copy constructor; the caller owns it.
     wxObject* Clone() const override;
 
-    /// Returns whether the field has a number that the format accepts and the variable can hold. If not, the field gets
-    /// the focus. A disabled field is always valid. Returns false on a window that is not a wxTextEntry.
+    /// Returns whether the field has a number that the format accepts and the variable can hold. If not, moves the
+    /// focus to the field. A disabled field is always valid. Returns false on a window that is not a wxTextEntry.
     bool Validate(wxWindow* parent) override;
 
     /// Shows the variable's number. Returns false if the variable has no number or the window is not a wxTextEntry.

@@ -25,8 +25,8 @@
 /// text; CNumberEditUtils::FormatControlText() does that.
 ///
 /// Pasted or dropped text, text that an input method inserts without a key event, and text that the program sets are
-/// not checked when they are inserted. Validate() and TransferFromWindow() check them, so that no dialog ends with a
-/// text that the format does not accept.
+/// not checked when they are inserted. Validate() and TransferFromWindow() check them, so no dialog ends with a text
+/// that the format does not accept.
 ///
 /// Both functions accept what CNumberEditUtils::ValidateString() accepts. This includes the beginning of a number: the
 /// empty text, "-", "+", "." if decimals are accepted, "1." and "1e-". A program that needs a value must check for one,
@@ -67,7 +67,7 @@ public:
     bool CheckValidator() const;
 
     /// Returns whether the format accepts the whole text as a number or as the beginning of one, such as the empty
-    /// text, "-" and ".". If not, the control gets the focus.
+    /// text, "-" and ".". If not, moves the focus to the control.
     ///
     /// A disabled control is always valid. Shows no message and rings no bell. @a parent is not used.
     bool Validate(wxWindow* parent) override;

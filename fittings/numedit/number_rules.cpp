@@ -138,8 +138,8 @@ bool GrowsInto(const Span& span, const Typed& typed, const NumberRules& rules)
     const Decimal begin = MakeDecimal(typed.integers, typed.Integers());
     if (begin.IsZero())
         return Meets(begin, MakeDecimal("1", more + 1), span, rules.mostDecimals);
-    // With fewer additional digits the number stays below the span; with many more it is above the beginning of the
-    // span.
+    // Try only a few numbers of additional digits. With fewer, the number stays below the span. With more, it lies
+    // further above the beginning of the span, so it cannot be in the span if it is not with these.
     const std::int64_t least = std::max<std::int64_t>(span.low.point - begin.point - 1, 0);
     for (std::int64_t digits = least; digits <= std::min(least + 3, more); ++digits) {
         if (Meets(MakeDecimal(typed.integers, typed.Integers() + digits),

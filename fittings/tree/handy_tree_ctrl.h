@@ -103,8 +103,8 @@ public:
     void SaveState(wxTreeCursor& start);
     void SaveState(const wxTreeCursor& start);  ///< Does the same for a constant cursor.
 
-    /// Expands the items whose labels were stored. Parents come first, so that children that OnItemExpanding() adds are
-    /// restored too. No item is collapsed.
+    /// Expands the items whose labels were stored. Parents are expanded first, so children that OnItemExpanding() adds
+    /// are restored too. No item is collapsed.
     void LoadState(const wxString& name, wxTreeCursor& start);
     void LoadState(const wxString& name, const wxTreeCursor& start);  ///< Does the same for a constant cursor.
 

@@ -6,9 +6,9 @@
 #include <fittings/base/export.h>
 #include <fittings/tree/tree_cursor.h>
 
-/// The toolkit's tree control, with a few operations that take and return cursors.
+/// The toolkit's tree control, with a few functions that take and return cursors.
 ///
-/// The operations of the base class with the same names remain available: wxTreeCtrl::GetSelection() for a constant
+/// The functions of the base class with the same names remain available: wxTreeCtrl::GetSelection() for a constant
 /// control or by its qualified name, and AddRoot() with an image.
 ///
 /// The toolkit's class information does not distinguish this class and wxHandyTreeCtrl from wxTreeCtrl: wxDynamicCast()
