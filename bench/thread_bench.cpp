@@ -22,7 +22,7 @@ wxThread::ExitCode Result()
     return &result;
 }
 
-// Makes a text of each event, which is the least work that an application does. Leaves the event loop after the last
+// Formats a text for each event, which is the least work that an application does. Leaves the event loop after the last
 // event.
 class Receiver : public wxEvtHandler
 {

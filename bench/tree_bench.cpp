@@ -40,8 +40,8 @@ public:
             m_tree->Expand(item);
     }
 
-    // Collapses while nothing is visible, because the toolkit lays out all visible items after each change, even when
-    // frozen.
+    // Collapses the root first, and the other items while they are not visible: the toolkit lays out all visible items
+    // after each change, even when frozen.
     void Collapse()
     {
         const wxWindowUpdateLocker frozen(m_tree);

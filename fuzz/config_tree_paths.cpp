@@ -1,5 +1,5 @@
 // The paths that a persistent tree stores. Any text is read like a saved one or rejected. Restoring it causes no
-// assertion, and the text that is saved afterwards gives the same state to a tree with the same items.
+// assertion, and the text that is saved afterwards restores the same state in a tree with the same items.
 
 #include <cstdint>
 #include <numeric>

@@ -176,7 +176,8 @@ void GalleryFrame::ShowPage(int index)
     m_pages->GetCurrentPage()->SetFocus();
 }
 
-/// Updates the title, the status texts and the commands for the selected page.
+/// Adds the browser's root folder to the recent ones, and updates the title, the status texts and the menus for the
+/// selected page.
 void GalleryFrame::ShowState()
 {
     if (!m_browser->GetTree()->GetRootFolder().empty())

@@ -53,7 +53,8 @@ public:
     /// the window.
     void LoadLayout();
 
-    /// Shows or hides the floating panes. Floating panes do not follow the page automatically.
+    /// Shows or hides the floating panes. Call it when the page is shown or hidden: floating panes do not follow the
+    /// page.
     void ShowFloatingPanes(bool show);
 
     void SaveSettings();

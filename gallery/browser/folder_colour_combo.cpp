@@ -51,7 +51,7 @@ void FolderColourCombo::ShowColour(const wxColour& colour, const wxColour& autom
 {
     m_colour = colour;
     m_colours->StartWith(colour, automatic);
-    // Otherwise the keyboard would start at the colour of another folder.
+    // Clear the text. Otherwise the keyboard would start at the colour of another folder.
     SetText("");
 }
 

@@ -12,7 +12,7 @@ struct Subfolder;
 
 /// The folders below a root folder, read when they are expanded, each in its colour.
 ///
-/// Each item holds an index into a table of names, because a label cannot hold every file name. Links are left out:
+/// Each item stores an index into a table of names, because a label cannot contain every file name. Links are left out:
 /// circular links would make the tree endless.
 class FolderTree : public wxHandyTreeCtrl
 {
@@ -35,10 +35,10 @@ public:
     void SelectPath(const std::string& path);
     /// @}
 
-    /// Selects the folder @a name in the selected one; false when there is none.
+    /// Selects the subfolder @a name of the selected folder. Returns false when it does not exist.
     bool SelectSubfolder(const std::string& name);
 
-    /// Selects the parent of the selected folder; false at the root.
+    /// Selects the parent of the selected folder. Returns false at the root, and when nothing is selected.
     bool SelectParent();
 
     /// Reads the known folders again: adds new ones and removes those that no longer exist. The others keep their

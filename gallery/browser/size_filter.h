@@ -19,7 +19,7 @@ class SizeFilter : public wxPanel
 public:
     explicit SizeFilter(wxWindow* parent);
 
-    /// Returns the size in bytes; 0 when the field is empty or does not hold a number.
+    /// Returns the size in bytes; 0 when the field is empty or does not contain an acceptable number.
     std::uint64_t GetMinimum() const;
 
     /// Returns a text such as "1,234.5 MB", in the locale's form.

@@ -23,7 +23,7 @@ public:
     /// Called when a direct subfolder of the summed folder is finished.
     virtual void OnSubfolder(const std::string& name, const FolderSum& sum) = 0;
 
-    /// Called after each item. @a fraction rises from 0 to 1; all subfolders of a folder have equal shares of it.
+    /// Called after each item. @a fraction rises from 0 to 1; the subfolders of a folder divide its share equally.
     /// Return false to end the walk.
     virtual bool OnProgress(const FolderSum& soFar, double fraction) = 0;
 };

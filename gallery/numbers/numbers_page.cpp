@@ -179,7 +179,7 @@ void NumbersPage::Arrange()
     FitInside();  // before the layout, which would otherwise squeeze the fields into a low window
 }
 
-/// Sets the current format in the control, and in the validator of the number's field if there is one.
+/// Sets or removes the validator of the number's field, sets the current format in the control, and shows the results.
 void NumbersPage::UseFormat()
 {
     const CNumberFormat format = m_fields->GetFormat();

@@ -14,7 +14,7 @@ namespace gallery {
 
 class GalleryFrame;
 
-/// A tour of the program: drives its window by simulated input and takes a picture of each component.
+/// A tour of the program. It drives the program's window by simulated input and takes a picture of each component.
 ///
 /// The tour browses a folder that it makes, or the given one, and keeps its settings apart from the user's.
 class Tour
