@@ -33,7 +33,7 @@ constexpr Budget kBudgets[] = {
     {"gallery/sum-usr", "du -s", 1.5},
 };
 
-/// A row that may be slower than its peer by a fixed time at most.
+/// A row that may be slower than its peer by at most @a mostNs nanoseconds.
 struct Extra
 {
     const char* row;

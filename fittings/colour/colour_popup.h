@@ -55,8 +55,7 @@ public:
 /// The texts are in the language that is set when the popup is made. The names of the colours are in the language that
 /// is set when the first popup of the process is made.
 ///
-/// While the popup is open, it takes the keys that it knows before a dialog does: Escape closes the popup and not the
-/// dialog.
+/// While the popup is open, it handles its keys before a dialog can: Escape closes the popup and not the dialog.
 ///
 /// The combo owns the popup from SetPopupControl() on. GUI thread only.
 class FITTINGS_API wxColourPopup : public wxWindow, public wxComboPopup

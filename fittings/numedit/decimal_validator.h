@@ -33,7 +33,8 @@ class wxTextEntry;
 class FITTINGS_API wxDecimalValidator : public wxValidator
 {
 public:
-    /// Checks the field and transfers nothing. The format applies to fields other than a wxNumberCtrl.
+    /// Checks the field and transfers nothing. The format for fields other than a wxNumberCtrl is
+    /// wxNumberCtrl::FromLocale().
     wxDecimalValidator();
 
     /// Transfers a `double`. The variable is not owned and must outlive the validator and each window that it was set

@@ -95,7 +95,8 @@ public:
     ///     the text.
     void OnChar(wxKeyEvent& event);
 
-    /// Records whether the key is the keypad's decimal key, for the characters that follow. Bound to wxEVT_KEY_DOWN.
+    /// Records whether the key is the keypad's decimal key, for the characters that follow. From then on, keeps the
+    /// text that the control deletes for a character, so that OnChar() can restore it. Bound to wxEVT_KEY_DOWN.
     void OnKeyDown(wxKeyEvent& event);
 
 protected:

@@ -27,7 +27,8 @@ wxDECLARE_EVENT(EVT_BROWSER_CHANGED, wxCommandEvent);
 
 /// The disk-usage browser: folders to the left, the contents of the selected one to the right.
 ///
-/// Panes, columns and folders are restored as they were when SaveSettings() was last called.
+/// The constructor restores the columns and the filter of the last session, Start() the folder, and LoadLayout() the
+/// panes.
 class BrowserPage : public wxPanel
 {
 public:

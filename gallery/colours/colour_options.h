@@ -18,7 +18,7 @@ struct ColourOptions
     wxString more;       ///< Empty: the popup's own text, in the user's language.
     wxColour defaultColour{0, 0, 0};
 
-    /// @name For a host with a popup of its own class
+    /// @name Options that only a class derived from wxColourPopup can set
     /// @{
     int columns = 8;
     int cellSize = 18;  ///< In pixels; a large margin makes a cell larger.

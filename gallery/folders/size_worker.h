@@ -23,7 +23,7 @@ struct SizeNews
 
 /// Adds up a folder and everything below it in the background.
 ///
-/// Its events say only that TakeNews() has something new. If an event is lost with its handler, no result is lost. At
+/// Its events report only that TakeNews() has new results. If an event is lost with its handler, no result is lost. At
 /// most one event is in the queue.
 class SizeWorker : public wxGUIThreadEx, private SizeObserver
 {

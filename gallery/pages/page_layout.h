@@ -22,8 +22,8 @@ constexpr int kGap = 6;            ///< The space between related controls.
 /// next.
 wxStaticText* MakeHeading(wxWindow* parent, const wxString& text);
 
-/// Aligns a label's text to the side where reading begins. From right to left the toolkit and GTK both mirror the
-/// alignment, which would put the text on the wrong side.
+/// Aligns a label's text to the side where reading begins. The toolkit's own alignment does not work in a right-to-left
+/// layout: the toolkit and GTK both mirror it, which puts the text on the wrong side.
 void BeginAtTheStart(wxStaticText* label);
 
 /// Puts columns next to each other if @a width pixels are enough, otherwise below each other.

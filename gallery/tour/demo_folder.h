@@ -5,7 +5,7 @@
 
 namespace gallery {
 
-/// Folders and files for the tour, with the same names, sizes and times on every machine, and a folder for its
+/// Folders and files for the tour, with the same names, sizes and times on every machine, and a place for the tour's
 /// settings. The destructor removes them.
 ///
 /// The files are sparse: they have sizes, but their contents take no space.
@@ -20,7 +20,7 @@ public:
     /// Returns the path of the folder; empty when the folder could not be made.
     const std::string& Path() const { return m_path; }
 
-    /// Returns the path of an empty folder for settings.
+    /// Returns the path of a folder for settings, which does not exist at first.
     std::string SettingsPath() const { return m_work + "/settings"; }
 
 private:

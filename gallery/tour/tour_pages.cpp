@@ -1,4 +1,4 @@
-// The tour's steps on the pages other than the browser.
+// The tour's steps with colours and numbers.
 
 #include <wx/dataview.h>
 #include <wx/notebook.h>
