@@ -18,7 +18,8 @@ namespace {
 // Expires when the popup is destroyed: a listener may destroy the control and with it the popup.
 using Life = std::weak_ptr<const bool>;
 
-// Sets a flag of the popup and clears it at the end of the scope, even if the listener throws.
+// Sets a flag of the popup. Clears it at the end of the scope, even if the listener throws, but not if the popup was
+// destroyed meanwhile.
 class ScopedFlag
 {
 public:

@@ -62,7 +62,7 @@ std::optional<std::wstring> PlainTextOf(std::wstring_view text, const CNumberFor
 /// Returns the number with `.` as its point, as programs read it: "+5." gives "5". Empty if there is no number.
 std::string DecimalTextOf(std::wstring_view plain, wchar_t point);
 
-/// Returns a decimal text as plain text with @a point as its point.
+/// Returns the plain text of a decimal text: replaces the point `.` by @a point.
 std::wstring WithPoint(std::string_view decimal, wchar_t point);
 
 }  // namespace fittings

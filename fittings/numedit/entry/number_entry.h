@@ -54,7 +54,8 @@ public:
     /// Replaces the selection by a text as if it were pasted. Returns whether the text was accepted.
     bool Take(const std::wstring& text);
 
-    /// While an object of this class exists, changes by the program are not checked.
+    /// While an object of this class exists, changes of the text are not checked. For changes by the program and by
+    /// NumberEntry itself.
     class Free;
 
     /// Calls @a action after the current event, before any other input.
