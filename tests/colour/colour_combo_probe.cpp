@@ -98,7 +98,7 @@ private:
     bool m_inCall = false;
 };
 
-// The toolkit's dialog uses GTK's colour selection, which is deprecated.
+// Disable the warnings about GTK's colour selection, which is deprecated: the toolkit's colour dialog uses it.
 G_GNUC_BEGIN_IGNORE_DEPRECATIONS
 std::string StateOf(GtkWindow* dialog)
 {

@@ -2,13 +2,13 @@
 // prints in UTF-8:
 //
 //   name I TEXT           the name of each colour
-//   automatic TEXT        the text of a box, and the size of its text in the popup's font
-//   automatic-size W H
-//   more TEXT
-//   more-size W H
+//   automatic TEXT        the text of the box "Automatic"
+//   automatic-size W H    the size of this text in the popup's font
+//   more TEXT             the text of the box "More Colours..."
+//   more-size W H         the size of this text in the popup's font
 //   window W H            the size of the popup
-//   hot I TEXT            the cell that becomes hot for the name of colour 16, and the combo's text and hint then
-//   hint TEXT
+//   hot I TEXT            the hot cell and its text after SetStringValue() with the name of colour 16
+//   hint TEXT             the tooltip of this cell
 
 #include <cstdio>
 #include <string>

@@ -11,7 +11,7 @@
 /// The calls that ColourListener records.
 using ColourCalls = std::vector<std::string>;
 
-/// Records each call with its colour, as "change #RRGGBB".
+/// Records the calls that it receives: "popup", and the others with their colour, as "change #RRGGBB".
 class ColourListener : public wxColorPopupListener
 {
 public:
@@ -23,7 +23,7 @@ public:
     /// Returns the calls since the last Take().
     ColourCalls Take() { return std::exchange(m_calls, {}); }
 
-    std::function<void(const std::string& call)> during;  ///< Called during each call of the listener, with its record.
+    std::function<void(const std::string& call)> during;  ///< Called during each call of the listener, with its name.
 
 private:
     void Note(std::string call, const wxColour* colour = nullptr)

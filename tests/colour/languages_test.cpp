@@ -1,4 +1,4 @@
-// The popup in other languages. The table is built once in a process, so each language needs its own process.
+// The popup in other languages. A process builds the table of colours only once, so each language needs its own process.
 
 #include <algorithm>
 #include <array>
@@ -14,8 +14,8 @@ namespace {
 
 using Lines = std::map<std::string, std::string>;
 
-// Returns the lines that the probe prints in that language. The key is the first word of a line, or the first two of a
-// numbered line.
+// Returns the lines that the probe prints in @a language. The key is the first word of a line, or the first two words
+// of a numbered line.
 Lines PopupIn(const std::string& language)
 {
     Lines lines;
@@ -48,7 +48,7 @@ void ExpectNames(const Lines& lines, const std::array<const char*, 40>& names)
         EXPECT_EQ(lines.at("name " + std::to_string(i)), names.at(i)) << i;
 }
 
-// Expects the popup to be as wide as the wider text needs, and as high as two boxes for the higher text need.
+// Expects the popup to be as wide as its wider text requires, and both boxes to be as high as the higher text requires.
 void ExpectSizeOfTexts(const Lines& lines)
 {
     const Size automatic = SizeIn(lines, "automatic-size");

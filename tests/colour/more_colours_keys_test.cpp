@@ -11,7 +11,7 @@ namespace {
 class MoreColoursByKeys : public testing::Test
 {
 protected:
-    // Opens the popup and moves up from "Automatic" to "More Colours...".
+    // Opens the popup, in which no cell is hot, moves down to "More Colours...", and opens the dialog.
     void OpenDialog()
     {
         Xdotool({"key", kF4});

@@ -1,4 +1,4 @@
-// The lookup of names, on a test platform that counts calls, throws and returns null.
+// The lookup of names, on a test platform that records calls, throws and returns null.
 
 #include <array>
 #include <atomic>
@@ -45,10 +45,10 @@ const wchar_t* Translated(const wchar_t* key)
 
 }  // namespace
 
-// Replaces the platform library's function.
+// Replaces the platform library's function, and records its calls.
 const wchar_t* lng_util_internal::DoGetResourceString(const wchar_t* key, CLanguageDomain* domain)
 {
-    // Let another thread run meanwhile.
+    // Give another thread the time to look up the same name.
     if (g_slow)
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
     const std::lock_guard lock(g_mutex);
@@ -114,7 +114,7 @@ TEST_F(ColourNames, AreLookedUpAgainAfterAFailure)
 {
     ASSERT_EQ(s_failed.size(), 3U);
     for (const auto& lookUps : s_failed) {
-        // Each lookup starts from the beginning and ends at the name that throws.
+        // Each call looks the names up from the first one to the one that throws.
         ASSERT_EQ(lookUps.size(), 10U);
         EXPECT_EQ(lookUps.front().key, L"Black");
         EXPECT_EQ(lookUps.back().key, L"Orange");

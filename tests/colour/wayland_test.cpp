@@ -1,5 +1,5 @@
 // The combo on Wayland, where no program can copy the screen, place its windows or draw between paint events. The
-// compositor runs in a window of the X display and gets its input from that display.
+// compositor runs in a window of the X display and receives its input from that display.
 
 #include <algorithm>
 #include <chrono>
@@ -101,7 +101,7 @@ protected:
         return numbers.size() == 2 ? wxPoint(numbers[0], numbers[1]) : wxPoint();
     }
 
-    // Returns whether the cell is hot. A hot cell has a dark line at its right, two pixels from its edge.
+    // Returns whether the cell is hot. A hot cell has a dark line one pixel inside its right edge.
     static bool IsHot(const wxPoint& middle) { return Pixel(middle + wxPoint(7, 0)) == 0; }
 
     // Expects that moving from cell 0 to cell 1 repaints the two cells and the sides of the frame, and that the whole
@@ -127,7 +127,7 @@ protected:
         EXPECT_EQ(part(last + 3), wxRect(0, height - 3, 148, 3));
         EXPECT_EQ(part(last + 4), wxRect(0, 0, 3, height));
         EXPECT_EQ(part(last + 5), wxRect(145, 0, 3, height));
-        // The first repaint was that of "More Colours...", which reaches the bottom.
+        // The first part that was repainted is "More Colours...", which reaches the bottom.
         EXPECT_EQ(part(1).GetBottom(), height - 1);
     }
 

@@ -18,7 +18,7 @@ namespace {
 
 using Notes = std::vector<std::string>;
 
-// Records the control's events and its listener's calls in their order.
+// Records, in their order, the events of a combo and the calls of its popup's listener except "change".
 class ComboLog
 {
 public:
@@ -120,14 +120,14 @@ TEST_P(AsComboCtrl, TellsOnceThatItOpensAndThatItIsDismissed)
     combo.Popup();
     EXPECT_TRUE(combo.IsPopupShown());
     EXPECT_EQ(log.Take(), (Notes{"dropdown", "popup"}));
-    Open();  // The popup is already open.
+    Open();  // Presses F4 while the popup is already open.
     EXPECT_EQ(log.Take(), Notes());
     ClickButton();
     ExpectClosed();
     EXPECT_EQ(log.Take().back(), "closeup");
 }
 
-// When the popup closes itself, only the listener is told. No event is sent.
+// When the popup closes itself, the listener is called, but no closeup event is sent.
 TEST_P(AsComboCtrl, TellsTheListenerAloneThatThePopupClosedItself)
 {
     for (const int key : {int(WXK_RETURN), int(WXK_SPACE), int(WXK_ESCAPE)}) {
@@ -178,7 +178,7 @@ TEST_P(AsComboCtrl, DoesNotTellOfTheNameOfAColourThatIsNotChosen)
     EXPECT_EQ(on.popup->GetStringValue(), "Red");
     Press(WXK_ESCAPE);
     ExpectClosed();
-    // As in the toolkit's own popups, a cancel restores the value that the popup was opened with.
+    // A cancel restores the value that the combo had when the popup opened. A text field reports this.
     EXPECT_EQ(log.Take(),
               hasField ? (Notes{"dropdown", "popup", "cancel", "text Lime"}) : (Notes{"dropdown", "popup", "cancel"}));
     EXPECT_EQ(combo.GetValue(), "Lime");

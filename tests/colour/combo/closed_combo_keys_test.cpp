@@ -38,12 +38,12 @@ protected:
 
     void TearDown() override
     {
-        // The listener is destroyed before the popup.
+        // Remove the listener, because it is destroyed before the popup.
         if (popup)
             popup->SetColorListener(nullptr);
     }
 
-    // Waits until the key is handled, so that the next key follows it.
+    // Presses a key, and waits until it has been released or has moved the focus.
     void Press(int key)
     {
         int seen = 0;
@@ -152,7 +152,7 @@ TEST_P(ClosedReadOnlyCombo, GoesOnFromTheColourInEffectAfterACancel)
     EXPECT_EQ(on.popup->m_nChosenColourSel, 19);
 }
 
-// If the combo does not have the focus, the wheel scrolls the page.
+// A combo without the focus skips the wheel's event, which then scrolls the page.
 TEST_P(ClosedReadOnlyCombo, ChangesItsColourByTheWheelWithTheFocusAlone)
 {
     on.popup->SetColour(wxColour(0, 0, 0));

@@ -86,7 +86,7 @@ TEST(ColourOutline, IsNoneInAnEmptyPlace)
 class ColourAnimation : public testing::Test
 {
 protected:
-    // The animation runs until a test ends it, however slow the machine is.
+    // Makes the animation so long that it runs until a test ends it, even on a slow machine.
     ColourAnimation()
     {
         EXPECT_EQ(on.combo->m_animDuration, 200);
@@ -100,7 +100,8 @@ protected:
         EXPECT_TRUE(PumpUntil([&] { return on.combo->IsPopupShown(); }));
     }
 
-    // Stops the animation at half of its time. The outline is then at (37, 41) and 74 x 81 pixels.
+    // Sets the animation to half of its time. The outline then has 74 x 81 pixels at (37, 41) in the animation's
+    // rectangle, and does not change for several seconds.
     void StandStill() { on.combo->m_animStart = wxGetLocalTimeMillis() - 1000500; }
 
     void Step()
@@ -181,7 +182,7 @@ TEST_F(ColourAnimation, CopiesTheScreenWhereThePopupWillBe)
         EXPECT_EQ(std::memcmp(copy.GetData(), seen.GetData(), std::size_t(3) * rect.width * rect.height), 0);
         ExpectShown();
         on.combo->Dismiss();
-        // Move to a place where the animation has not drawn.
+        // Move the combo: the next animation must copy an area where this one has not drawn.
         on.combo->Move(wxPoint(250, 60));
     }
 }
@@ -292,7 +293,7 @@ protected:
 
     ColourAnimationOnTheScreen()
     {
-        // The combo has no outline window yet, so the outline is drawn on the screen itself.
+        // AnimateShow(), which creates the outline window, is not called, so the outline is drawn only on the screen.
         combo = new SteppedCombo;
         combo->Create(on.panel, wxID_ANY, "", wxPoint(20, 200), wxSize(150, -1), wxCB_READONLY);
         combo->SetPopupControl(new OpenPopup);
@@ -408,7 +409,7 @@ TEST_F(ColourAnimation, StartsAnewWhenTheClockIsSetBack)
     on.combo->Dismiss();
 }
 
-// The animation's time is stored in 32 bits.
+// The elapsed time is truncated to 32 bits, so 2^32 + 50 milliseconds count as 50.
 TEST_F(ColourAnimation, CountsItsTimeModulo32Bits)
 {
     on.combo->Popup();
@@ -474,7 +475,7 @@ TEST_F(ColourAnimation, IsNotGoneThroughAgainByAnotherTimer)
     EXPECT_EQ(on.combo->shown.size(), shown);
 }
 
-// A host may handle timer events without skipping them.
+// The animation also ends if a host handles the timer events without skipping them.
 TEST_F(ColourAnimation, EndsWhateverTheHostBinds)
 {
     int ticks = 0;

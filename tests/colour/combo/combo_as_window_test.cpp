@@ -30,7 +30,8 @@ TEST(ColourComboCreate, TakesAllThatTheToolkitsTakes)
     EXPECT_EQ(wxWindow::FindWindowByName("line", frame), combo);
 }
 
-// Neither class has class information of its own: the toolkit sees a wxComboCtrl and a wxWindow.
+// wxColourCombo and wxColourPopup have no class information of their own: GetClassInfo() returns that of wxComboCtrl
+// and of wxWindow.
 TEST(ColourComboClass, IsTheToolkits)
 {
     const ComboOnScreen<> on;
@@ -65,7 +66,7 @@ TEST(ColourComboClass, MayBeTheHosts)
     EXPECT_FALSE(on.combo->IsKindOf(wxCLASSINFO(RecordedCombo)));
 }
 
-// The toolkit's combo control and the colour combo, each with a popup.
+// A combo control of the toolkit and a colour combo, each with a colour popup.
 class BesideTheToolkits : public testing::TestWithParam<long>
 {
 protected:
@@ -175,7 +176,7 @@ TEST_P(BesideTheToolkits, OpensAgainAfterBeingFrozen)
     EXPECT_EQ(on.combo->GetValue(), "Red");
 }
 
-// The popup is as large as its cells. The sizes that the host sets have no effect.
+// The popup has the size of its layout. The sizes that the host sets on the combo have no effect.
 TEST_P(BesideTheToolkits, HasAPopupOfItsOwnSize)
 {
     on.combo->SetPopupMinWidth(400);

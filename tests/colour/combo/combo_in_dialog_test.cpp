@@ -1,4 +1,4 @@
-// The control in a dialog whose buttons react to the same keys.
+// A colour combo in a dialog whose buttons react to Enter and Escape, as the popup does.
 
 #include <vector>
 
@@ -32,7 +32,7 @@ protected:
 
     ~ColourComboInADialog() override { DestroyNow(dialog); }
 
-    /// Uses a key in the popup. The key must not reach the buttons.
+    /// Opens the popup and presses a key that closes it. Expects that the key presses none of the dialog's buttons.
     void UsePopup(int key)
     {
         user.Char(WXK_F4);

@@ -1,4 +1,4 @@
-// The control in a window on the screen, operated with mouse and keyboard.
+// The colour combo in a window on the screen, operated with mouse and keyboard.
 
 #include <string>
 
@@ -56,7 +56,7 @@ protected:
     void ExpectShown()
     {
         EXPECT_TRUE(PumpUntil([&] { return combo->IsPopupShown(); })) << "the popup is not shown";
-        // Let the release of the mouse button be handled before the popup reacts to the mouse.
+        // Handle the release of the mouse button before the test uses the mouse in the popup.
         PumpPending();
     }
 
@@ -233,7 +233,7 @@ TEST_P(ColourComboByKeys, OpensByF4AndGivesTheColourOfReturn)
     EXPECT_EQ(combo->GetValue(), "Grey - 40");
 }
 
-// The pointer may be over another cell when the popup opens again.
+// When the popup opens again, it has no tooltip yet, because the pointer may be over another cell.
 TEST_P(ColourComboByKeys, ForgetsTheNameAtThePointerWhenItOpensAgain)
 {
     PointTo(frame->GetScreenRect().GetTopRight() + wxPoint(50, 0));

@@ -22,7 +22,7 @@ void Press(wxWindow& window, int key)
     window.ProcessWindowEvent(event);
 }
 
-// The parent owns the control. A test may destroy it.
+// A colour combo with a listener, in a panel of a frame. A test may destroy any of these windows.
 struct Control
 {
     explicit Control(bool animated = false)
@@ -60,7 +60,7 @@ struct Moment
     const char* name;
     const char* call;
     std::function<void(Control&)> act;
-    ColourCalls calls;  // all calls; if the selection has not ended, destroying the control cancels it
+    ColourCalls calls;  // all expected calls; destroying the control before the selection has ended cancels it
     bool inTheToolkit;  // the toolkit still uses the control after the call
 };
 
@@ -119,7 +119,7 @@ std::vector<std::pair<Removal, Moment>> RemovalsInCalls()
     std::vector<std::pair<Removal, Moment>> all;
     for (const Removal& removal : kRemovals) {
         for (const Moment& moment : kMoments) {
-            // A window must not be deleted within one of its own events.
+            // Leave out the deletion of a control that the toolkit still uses after the call.
             if (!removal.atOnce || !moment.inTheToolkit)
                 all.emplace_back(removal, moment);
         }
@@ -339,7 +339,7 @@ TEST(ColourComboDestroy, HidesItAtOnce)
     EXPECT_FALSE(control.combo);
 }
 
-// The last step of the animation may run between Destroy() and the deletion of the windows.
+// The last step of the animation may run between Destroy() and the deletion of the windows. It must not show the popup.
 TEST(ColourComboDestroy, KeepsThePopupFromBeingShown)
 {
     for (const bool withFrame : {false, true}) {

@@ -43,7 +43,7 @@ class ComboWithTextOpening : public ColourComboOpening
 INSTANTIATE_TEST_SUITE_P(, ReadOnlyComboOpening, testing::Values(wxCB_READONLY), [](const auto&) { return "Is"; });
 INSTANTIATE_TEST_SUITE_P(, ComboWithTextOpening, testing::Values(0), [](const auto&) { return "Is"; });
 
-// The first click only dismisses the popup, as while it is open.
+// The first click on another combo only dismisses the popup that is opening. The next click opens the other combo.
 TEST_P(ColourComboOpening, IsDismissedByAClickOnAnotherComboWhichStaysClosed)
 {
     Click(ButtonOf(*second));

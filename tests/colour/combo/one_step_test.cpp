@@ -1,4 +1,4 @@
-// The control that makes its own popup: construction, the colour that the host sets, and events.
+// A colour combo that creates its own popup: construction, the colour that the host sets, and events.
 
 #include <algorithm>
 #include <functional>
@@ -36,7 +36,8 @@ OwnedWindow<wxFrame> MakeFrame()
     return OwnedWindow(new wxFrame(nullptr, wxID_ANY, "combo", wxPoint(200, 150), wxSize(500, 400)));
 }
 
-// A combo made in one step, in a window on the screen, and the events that the window receives.
+// A combo that one constructor call creates, in a window on the screen. After Watch(), it records the events that reach
+// the frame.
 struct OneStep
 {
     explicit OneStep(const wxColour& colour = *wxBLUE, long style = wxCB_READONLY)
@@ -53,7 +54,7 @@ struct OneStep
         return seen.GetRed(0, 0) << 16 | seen.GetGreen(0, 0) << 8 | seen.GetBlue(0, 0);
     }
 
-    // Returns the chosen cell of the popup. The popup is a wxColourPopup, whose members only a derived class can read.
+    // Returns the chosen cell of the popup. It is a protected member of wxColourPopup, so a derived class reads it.
     int Chosen() const
     {
         struct Seen : wxColourPopup
@@ -364,7 +365,7 @@ TEST(ColourComboEvents, ComeBesideTheListenersCalls)
     on.combo->GetPopup()->SetColorListener(nullptr);
 }
 
-// A value that the program sets is not the user's choice.
+// A value that the program sets is not the user's choice, so it sends no event.
 TEST(ColourComboEvents, DoNotComeForValuesThatAreSetWhileThePopupIsClosed)
 {
     OneStep on(*wxBLUE);

@@ -31,12 +31,12 @@ protected:
 
     ~OpeningCombo()
     {
-        // The listener is destroyed before the popup.
+        // Remove the listener, because it is destroyed before the popup.
         if (popup)
             popup->SetColorListener(nullptr);
     }
 
-    /// Opens the popup by its key. Waits for the animation, or for the popup if the animation is disabled.
+    /// Opens the popup with F4. Waits until the animation runs or, if @a isAnimated is false, until the popup is shown.
     void Open(bool isAnimated = true)
     {
         combo.EnablePopupAnimation(isAnimated);

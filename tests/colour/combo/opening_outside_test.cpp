@@ -1,4 +1,4 @@
-// Clicks outside the program's windows while the popup opens. They do what they do while the popup is open.
+// Clicks outside the popup while it opens have the same effect as while it is open.
 
 #include <string>
 
@@ -13,7 +13,8 @@
 
 namespace {
 
-// The parameter says whether the popup is still opening. It is open otherwise, and the behaviour is the toolkit's.
+// The parameter says whether the popup is still opening at the click. Otherwise it is open, and the toolkit itself
+// dismisses it.
 class ClickOutsideThePopup : public testing::TestWithParam<bool>, protected OpeningCombo
 {
 protected:
@@ -41,7 +42,7 @@ TEST_P(ClickOutsideThePopup, DismissesItOnTheDesktop)
     ExpectShownAndDismissed();
 }
 
-// The click that dismisses the popup does not reach the other program, and the next one does.
+// The click that dismisses the popup does not reach the other program, but the next one does.
 TEST_P(ClickOutsideThePopup, DismissesItOnAnotherProgramsWindow)
 {
     ChildProcess other({"stdbuf", "-oL", "xev", "-geometry", "300x200+800+600", "-name", "other", "-event", "button"});
@@ -77,7 +78,7 @@ TEST_P(ClickOutsideThePopup, DismissesItOnTheMenuBarWithoutOpeningAMenu)
     PumpPending();
 }
 
-// A modal dialog keeps the clicks from the program's other windows.
+// The click dismisses the popup although the modal dialog keeps it from the window that was clicked.
 TEST_P(ClickOutsideThePopup, DismissesItOnAWindowThatADialogBlocks)
 {
     ASSERT_TRUE(ShowAndSettle(on.frame));

@@ -30,7 +30,7 @@ bool DrawsOnTheScreen(cairo_t* context)
 
 }  // namespace
 
-// Replaces cairo's function and calls it.
+// Replaces cairo's function: notes whether the outline is shown, and calls the original.
 void cairo_paint(cairo_t* context)
 {
     static const auto original = ReplacedFunction<decltype(cairo_paint)>("cairo_paint");

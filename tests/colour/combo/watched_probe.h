@@ -23,7 +23,7 @@ public:
         EXPECT_TRUE(Waits("combo ")) << "does not start";
     }
 
-    /// Waits for at least @a count lines that begin with @a start.
+    /// Waits for at least @a count lines that begin with @a start. Otherwise fails the test and returns false.
     bool Waits(const std::string& start, int count = 1)
     {
         const bool came = Becomes([&] { return !m_child.IsRunning() || Lines(start).size() >= std::size_t(count); }) &&

@@ -22,7 +22,8 @@ std::vector<int> g_centred;
 
 }  // namespace
 
-// Replaces the toolkit's function, which leaves the position of a native GTK dialog to the window manager.
+// Replaces the toolkit's function, which leaves the position of a native GTK dialog to the window manager. Records
+// how a colour dialog is centred.
 void wxTopLevelWindowBase::DoCentre(int directions)
 {
     if (dynamic_cast<wxColourDialog*>(this))
@@ -59,7 +60,7 @@ protected:
             during();
         if (duringDialog)
             duringDialog(dialog->GetHandle());
-        // The dialog reads its colour from the widget afterwards.
+        // Set the colour of GTK's widget: the dialog reads its colour from there after this answer.
         const GdkRGBA rgba{m_colour.Red() / 255.0, m_colour.Green() / 255.0, m_colour.Blue() / 255.0, 1};
         G_GNUC_BEGIN_IGNORE_DEPRECATIONS
         auto* const selection =

@@ -157,7 +157,7 @@ TEST_F(ColourDrawing, OfABoxWithoutTextIsThatOfACell)
 TEST_F(ColourDrawing, OfMoreColoursIsASeparatorAndAText)
 {
     AddBoxes();
-    // Both sizes leave an odd remainder, half of which is rounded down.
+    // The box of 139 x 33 pixels leaves 79 x 23 pixels around this text. Both halves are rounded down.
     dc.Record().textSize = wxSize(60, 10);
     EXPECT_EQ(DrawnCell(CELL_MORE_COLOURS), (Calls{
                                                 "rect 4,134 141x37 FACE FACE",
@@ -318,7 +318,8 @@ TEST_F(ColourDrawing, OfAutomaticFollowsTheMargin)
     EXPECT_EQ(popup->m_nMargin, 6);
 }
 
-// Divisions by three and by two round down.
+// The side of the swatch is a third of the box's height, and its distance from the box's edges is half of the remaining
+// height. Both are rounded down.
 TEST_F(ColourDrawing, OfTheAutomaticColourIsCentredInTheLeftSquare)
 {
     AddBoxes();
@@ -330,7 +331,7 @@ TEST_F(ColourDrawing, OfTheAutomaticColourIsCentredInTheLeftSquare)
     EXPECT_EQ(DrawnCell(CELL_AUTOMATIC).back(), "rect 12,13 9x9 SHADOW #040506");
 }
 
-// Halves round toward zero, even when the text is larger than the box.
+// Half of the space around a text is rounded toward zero, even when the text is larger than the box.
 TEST_F(ColourDrawing, OfATextLargerThanItsBoxStandsOutOnBothSides)
 {
     AddBoxes();
@@ -399,7 +400,7 @@ TEST_F(ColourDrawing, OfTheFrameIsRaised)
                                  }));
 }
 
-// The popup caches nothing between two drawings.
+// The popup reads the theme's colours anew each time it draws.
 TEST_F(ColourDrawing, FollowsTheThemeAtOnce)
 {
     AddBoxes();

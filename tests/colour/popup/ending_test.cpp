@@ -1,4 +1,4 @@
-// How a selection ends, which calls the listener gets, and what the combo shows afterwards.
+// How a selection ends, which calls the listener receives, and what the combo shows afterwards.
 
 #include <cstddef>
 #include <cstring>
@@ -226,7 +226,7 @@ TEST_F(ColourEnding, LeavesTheColourOfTheHotCellToAPopupWithoutListener)
     on.popup->m_crColour = *wxRED;
     on.popup->OnDismiss();
     EXPECT_EQ(on.popup->m_crColour, *wxRED);
-    // A later Enter does not choose that colour.
+    // While no cell is hot, a later Enter chooses the colour in effect, not that of the dismissed cell.
     Open();
     on.popup->EndSelection(true);
     EXPECT_EQ(on.popup->m_crInitialColour, *wxBLUE);
@@ -300,7 +300,7 @@ TEST_F(ColourEndingWithText, HasTheEarlierTextAfterADismissal)
     EXPECT_EQ(on.popup->m_crColour, *wxBLUE);
 }
 
-// When the popup opens again, it gets the combo's text. Enter must not choose the colour that was cancelled.
+// When the popup opens again, the combo passes its text to it. Enter must not choose the colour that was cancelled.
 TEST_F(ColourEndingWithText, DoesNotChooseACancelledColourTheNextTime)
 {
     for (const bool dismissed : {false, true}) {

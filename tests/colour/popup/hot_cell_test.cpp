@@ -102,7 +102,7 @@ TEST(ColourHotCell, CanBeSetBeforeTheWindowIsCreated)
     EXPECT_EQ(popup.m_nCurrentSel, 16);
     EXPECT_EQ(popup.m_strToolTip, "Red");
     EXPECT_EQ(listener.Take(), ColourCalls{"change #FF0000"});
-    // The popup has no rows yet, so no key can reach a cell.
+    // Before its window is created, the popup has no rows, and without texts no boxes, so no key can reach a cell.
     wxKeyEvent down(wxEVT_KEY_DOWN);
     down.m_keyCode = WXK_DOWN;
     popup.SetAutomaticText("");
@@ -188,7 +188,7 @@ TEST(ColourPreview, IsOffAtFirst)
 
 // --- What is redrawn -------------------------------------------------------------------------------------------------
 
-// Counts the drawing on windows.
+// The number of shapes that were drawn on windows.
 struct Drawn
 {
     int rectangles = 0;
@@ -205,7 +205,7 @@ void DrawByToolkit(const char* name, wxGCDCImpl* dc, Arguments... arguments)
 
 }  // namespace
 
-// The functions below replace the toolkit's functions.
+// The functions below replace the toolkit's functions: they count the shapes and draw them.
 
 void wxGCDCImpl::DoDrawRectangle(int x, int y, int width, int height)
 {
@@ -259,7 +259,8 @@ protected:
 
     bool Untouched(int x, int y) const { return Pixel(x, y) == kUntouched; }
 
-    // Expects that only the cells' rectangles and the frame were drawn, as far as the pixels show it.
+    // Expects that only the given rectangles and the frame were drawn. Ignores the pixels at the rectangles' edges and,
+    // except for the frame's lines, the outer four pixels of the popup.
     void ExpectDrawn(const std::vector<wxRect>& cells) const
     {
         const wxSize size = popup->GetClientSize();
@@ -312,7 +313,8 @@ TEST_F(HotCellOnScreen, RedrawsTheOldAndTheNewCellAndTheFrame)
     EXPECT_EQ(paints, 0);
 }
 
-// A cell has two rectangles; the hot cell and the frame have eight lines each. The whole popup has 89 rectangles.
+// A cell is drawn with two rectangles; the edge of the hot cell and the frame have eight lines each. The whole popup
+// would take 89 rectangles.
 TEST_F(HotCellOnScreen, DrawsNoMoreThanTwoCellsAndTheFrame)
 {
     popup->m_nChosenColourSel = CELL_NONE;
@@ -357,8 +359,8 @@ TEST_F(HotCellOnScreen, RedrawsTheBoxes)
     PaintOver();
     popup->ChangeSelection(M);
     PumpPending();
-    // "More Colours..." is drawn two margins below its rectangle. The area above the two lines of the separator is not
-    // drawn.
+    // "More Colours..." is drawn two margins below its rectangle, and the two lines of its separator at the top of that
+    // rectangle. The pixels between them are not drawn.
     wxRect more = Cell(M);
     more.y += 4;
     wxRect separator(more.x + 4, Cell(M).y, more.width - 8, 2);

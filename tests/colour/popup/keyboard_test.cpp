@@ -15,7 +15,7 @@ constexpr int A = CELL_AUTOMATIC;
 constexpr int M = CELL_MORE_COLOURS;
 constexpr int N = CELL_NONE;
 
-// Returns whether the popup skipped the event.
+// Returns whether the popup handled the key and did not skip the event.
 bool Press(wxWindow& window, int key)
 {
     wxKeyEvent event(wxEVT_KEY_DOWN);

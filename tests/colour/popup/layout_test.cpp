@@ -245,7 +245,7 @@ class ColourMargin : public testing::TestWithParam<Edge>
 {
 };
 
-// A cell leaves at least seven pixels for its colour.
+// A wide margin enlarges the cell, which leaves at least seven pixels for its colour.
 TEST_P(ColourMargin, IsTheSystemsEdge)
 {
     const PinnedEdge edge(GetParam().reported);
@@ -397,7 +397,7 @@ TEST(ColourLayout, FollowsATextSetLater)
     EXPECT_EQ(popup->GetPosition(), wxPoint(11, 12));
 }
 
-// Removing a box also removes its marks, so that the next opening marks the colour's own cell.
+// Removing a box also removes its marks. Otherwise "Automatic" would stay the chosen cell without its box.
 TEST(ColourLayout, UnmarksABoxThatGoes)
 {
     const PopupInFrame popup;

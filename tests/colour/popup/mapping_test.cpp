@@ -313,7 +313,7 @@ TEST_F(ColourByName, StaysWhatItWasForAnyOtherText)
     EXPECT_EQ(HotAfter("#FF0000"), 3);
 }
 
-// While the popup hides, the combo sets its text on the popup. That must not change the hot cell.
+// While the popup hides, the combo passes its text to the popup. This must not change the hot cell.
 TEST_F(ColourByName, StaysWhatItWasWhileThePopupHidesItself)
 {
     popup->m_bInternalHide = true;

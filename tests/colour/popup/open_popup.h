@@ -56,7 +56,7 @@ public:
     OpenPopup* popup;
 };
 
-/// Removes both boxes.
+/// Clears the texts of both boxes, which removes the boxes from the next layout.
 inline void WithoutBoxes(OpenPopup& popup)
 {
     popup.m_strAutomatic.clear();

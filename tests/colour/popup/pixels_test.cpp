@@ -82,7 +82,8 @@ TEST_F(ColourPixels, OfACell)
     EXPECT_EQ(Column(12, 24), "3. 3f 1s 10# 1s 3f 3.");
 }
 
-// From outside to inside: face, light over dark, face over shadow, and the outline of the colour.
+// From outside to inside: face; light at the left and top, dark at the right and bottom; face at the left and top,
+// shadow at the right and bottom; and the outline of the colour.
 TEST_F(ColourPixels, OfTheHotCell)
 {
     popup->m_nCurrentSel = 0;
@@ -91,7 +92,8 @@ TEST_F(ColourPixels, OfTheHotCell)
     EXPECT_EQ(Column(12, 24), "3. 1f 1H 1f 1s 10# 2s 1D 1f 3.");
 }
 
-// From outside to inside: shadow on the left and top only, dark over light, light over face, and the outline.
+// From outside to inside: shadow at the left and top only; dark at the left and top, light at the right and bottom;
+// light at the left and top, face at the right and bottom; and the outline of the colour.
 TEST_F(ColourPixels, OfTheChosenCell)
 {
     popup->m_nChosenColourSel = 0;

@@ -20,8 +20,8 @@ using Calls = std::vector<std::string>;
 ///   line 3,3-3,18 DARK
 ///   text 'Automatic' 10,5 transparent
 ///
-/// and also draws it on a picture. The record names any pen that is not solid and one pixel wide. Text has the size
-/// that the test sets.
+/// and also draws it on a picture. A colour is followed by "unusual" if the pen is not solid and one pixel wide, or if
+/// the brush is not solid. Text has the size that the test sets.
 class RecordingDCImpl : public wxMirrorDCImpl
 {
 public:
