@@ -13,7 +13,7 @@ struct TextCase
     const wchar_t* expected;
 };
 
-/// @name The operations on texts, each applied to one text
+/// @name Functions of CNumberEditUtils for std::wstring; those that edit their argument return the edited text
 /// @{
 inline std::wstring Cut(const std::wstring& text, const CNumberFormat& format = CNumberFormat(eFixedFormat))
 {

@@ -1,4 +1,4 @@
-// Tests of the two handlers, with one event each.
+// The handlers OnChar() and OnKeyDown() of wxNumValidator, called directly with events that the test makes.
 
 #include <fittings/numedit/num_validator.h>
 
