@@ -116,7 +116,7 @@ TEST(FormatControlText, RoundsHalfUp)
     // Rounding to zero keeps the minus.
     EXPECT_EQ(Rounded(L"-0.001", 2), L"-0.00");
     EXPECT_EQ(Rounded(L"-0.4", 0), L"-0");
-    // The digits that a double cannot hold are rounded, too.
+    // The text has more digits than a double can hold, but is rounded exactly.
     EXPECT_EQ(Rounded(L"12345678901234567890.12345678901234567895", 19), L"12345678901234567890.1234567890123456790");
 }
 
@@ -353,7 +353,7 @@ TEST(FormatControlText, LosesTheNumberInATemplateWithoutPlaceForIt)
     EXPECT_EQ(Shown(L"3", format), L"100%");
 }
 
-// printf() gets the number as an argument, never as the format.
+// The number is passed to printf() as an argument and not as the format, so a "%" in it is printed.
 TEST(FormatControlText, ShowsPercentSignsOfTheSeparators)
 {
     CNumberFormat format(eFixedFormat);

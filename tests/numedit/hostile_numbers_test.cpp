@@ -162,7 +162,7 @@ TEST(UnusualCharacters, AreSeparators)
     }
 }
 
-/// Makes a format: the low bits of @a flags set the fields for formatting, the higher bits the limits for validation.
+/// Makes a format: the low bits of @a flags set the fields for formatting, the higher bits what validation allows.
 CNumberFormat FromBits(unsigned flags)
 {
     CNumberFormat format(eLocaleFormat);

@@ -6,7 +6,7 @@
 /// Returns the locale's preset with every field changed.
 CNumberFormat UnusualFormat();
 
-/// Returns the fixed preset with every flag set to @a flag, tight limits and a template.
+/// Returns the fixed preset with every flag set to @a flag, with tight limits and another template.
 CNumberFormat FormatWithFlags(bool flag);
 
 /// Expects every field to equal that of UnusualFormat().

@@ -120,7 +120,7 @@ TEST(NumberFormat, AssignsEveryField)
     ExpectFixed(locale);
 }
 
-// This test fails if a field gets the value of another field.
+// This test fails if the assignment copies a flag to another flag.
 TEST(NumberFormat, AssignsEachFlagByItself)
 {
     bool CNumberFormat::*const flags[] = {&CNumberFormat::m_bPadDecimals,   &CNumberFormat::m_bRoundDecimals,

@@ -119,7 +119,7 @@ TEST(GermanLocale, DoesNotChangeTheZerosOnTheWay)
     EXPECT_FALSE(CNumberEditUtils::ValidateInput(L"0,0", format));
 }
 
-// A format keeps its separators. The locale's point is read at each call.
+// A format keeps its separators, but the locale's point, which is accepted too, is read at each call.
 TEST(GermanLocale, IsFollowedWhenItComesAndGoes)
 {
     CNumberFormat format(eFixedFormat);
@@ -226,8 +226,8 @@ TEST(CurrentConversion, ReadsSeparatorsBeyondAscii)
     EXPECT_EQ(Shown(L"1٫5", CNumberFormat(eFixedFormat)), L"1.50");
 }
 
-// The grammar and the format use only the first character of the locale's point. When the point is replaced, all of its
-// characters are.
+// The grammar and the locale preset use only the first character of the locale's point. Replacing the point replaces
+// all of its characters.
 TEST(CurrentConversion, MayMakeSeveralCharactersOfThePoint)
 {
     const ScopedLocale pashto("ps_AF.UTF-8");

@@ -77,7 +77,7 @@ TEST(ValidateInput, AcceptsAsManyZerosAsThereAreDecimals)
     format.m_nDecimals = UINT64_MAX;
     EXPECT_TRUE(Accepted((L"0." + std::wstring(1000, L'0')).c_str(), format));
     EXPECT_FALSE(Accepted((L"0." + std::wstring(1000, L'0') + L"1").c_str(), format));
-    // The number of decimals has 64 bits.
+    // The number of decimals has 64 bits, so it is not truncated to 0.
     format.m_nDecimals = std::uint64_t{1} << 32;
     EXPECT_TRUE(Accepted(L"0.", format));
     EXPECT_TRUE(Accepted(L"0.000", format));

@@ -101,7 +101,7 @@ TEST(ValidateString, CountsIntegerDigitsWithoutTheSign)
 
     format.m_nMaxIntDigits = UINT64_MAX;
     EXPECT_TRUE(Valid(L"123456789012345678901234567890", format));
-    // The number of digits has 64 bits.
+    // The highest number of digits has 64 bits, so it is not truncated to 0.
     format.m_nMaxIntDigits = std::uint64_t{1} << 32;
     EXPECT_TRUE(Valid(L"1234", format));
 }
@@ -252,7 +252,7 @@ TEST(ValidateString, ComparesBoundsAsDoubles)
     EXPECT_TRUE(Valid(L"16777216", WithMax(16777216)));
     EXPECT_FALSE(Valid(L"16777217", WithMax(16777216)));
     EXPECT_FALSE(Valid(L"16777217", WithMin(16777218)));
-    // The nearest double is 2^53.
+    // The double nearest to the first text is 2^53, which equals the bound.
     EXPECT_TRUE(Valid(L"9007199254740993", WithMax(9007199254740992)));
     EXPECT_FALSE(Valid(L"9007199254740994", WithMax(9007199254740992)));
 }

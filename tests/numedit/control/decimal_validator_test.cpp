@@ -1,4 +1,4 @@
-// Numbers that a validator copies between fields and the program's variables.
+// Numbers that a wxDecimalValidator copies between fields and the program's variables.
 
 #include <fittings/numedit/decimal_validator.h>
 

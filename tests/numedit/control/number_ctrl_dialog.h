@@ -11,7 +11,7 @@
 
 #include <tests/numedit/validator/number_dialog.h>
 
-/// A dialog on the screen with a plain text field, a wxNumberCtrl, OK and Cancel. The number control has the focus.
+/// A dialog with a plain text field, a wxNumberCtrl, OK and Cancel. Show() gives the focus to the number control.
 class NumberCtrlDialog : public KeysAndBells
 {
 public:

@@ -35,7 +35,7 @@ TEST_F(NumberFromAnInputMethod, IsNotInTheTextBeforeItIsCommitted)
     EXPECT_TRUE(screen.numbers.empty());
 }
 
-// GTK deletes the selection before it inserts the text, which is a change of its own, as in a wxTextCtrl.
+// GTK deletes the selection before it inserts the text, so the number changes twice, as the text of a wxTextCtrl does.
 TEST_F(NumberFromAnInputMethod, ReplacesTheSelection)
 {
     method.Compose(screen, "78");

@@ -60,7 +60,7 @@ protected:
         wxTheClipboard->Clear();
     }
 
-    /// Turns the wheel by three steps at once.
+    /// Sends one event of the wheel with three steps.
     void Turn()
     {
         wxMouseEvent wheel(wxEVT_MOUSEWHEEL);

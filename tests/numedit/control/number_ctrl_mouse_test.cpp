@@ -123,7 +123,7 @@ TEST_F(NumberContextMenu, RefusesToPasteAnotherText)
     EXPECT_EQ(screen.textEvents, 0);
 }
 
-/// Drags a selected text with the mouse.
+/// Tests that drag a selected text with the mouse.
 class NumberDrop : public testing::Test
 {
 protected:
@@ -132,7 +132,7 @@ protected:
     /// Drags from a field whose text is selected to another place on the screen.
     void Drag(wxTextCtrl& from, const wxPoint& grip, const wxPoint& to, bool moves)
     {
-        // The drop may destroy the controls.
+        // Hold the widgets, because the drop may destroy the controls.
         const wxWeakRef<wxTextCtrl> alive(&from);
         GtkWidget* const source = GTK_WIDGET(g_object_ref(from.m_widget));
         GtkWidget* const target = GTK_WIDGET(g_object_ref(screen.number->m_widget));
@@ -145,7 +145,7 @@ protected:
         long first = 0;
         long last = 0;
         from.GetSelection(&first, &last);
-        // While GTK still shows the end of a refused drag, a press does not begin another one.
+        // Repeat the press: while GTK still shows the end of a refused drag, a press begins no other drag.
         EXPECT_TRUE(PumpUntil([&] {
             from.SetSelection(first, last);
             mouse.MouseMove(grip);
@@ -179,7 +179,7 @@ protected:
         PumpPending();
     }
 
-    /// Drags a text from the other field onto the number.
+    /// Puts a text into the other field, and drags it from there onto the number.
     void Drop(const wxString& text, bool moves = false)
     {
         screen.first->SetValue(text);
@@ -269,8 +269,8 @@ TEST_F(NumberDrop, IsLeftToADropTargetOfTheProgram)
     EXPECT_TRUE(PumpUntil([&] { return dropped == "1,234.50-"; }));
 }
 
-// The digits are inserted at the new place before they are removed from the old one, so the text has too many digits in
-// between.
+// The digits are inserted at the new place before they are removed from the old one. In between, the text would have
+// too many digits, so the move is refused.
 TEST_F(NumberDrop, LosesNoDigitsThatItRefusesToMove)
 {
     screen.Restart("12345");
@@ -299,7 +299,7 @@ TEST_F(NumberDrop, MayDestroyTheControlByAHandlerOfTheValue)
     EXPECT_TRUE(PumpUntil([&] { return !number; }));
 }
 
-// The control is the source of the drag too.
+// The control that the handler destroys is both the source and the target of the drag.
 TEST_F(NumberDrop, MayDestroyTheControlWhoseDigitsAreMoved)
 {
     screen.Restart("123");

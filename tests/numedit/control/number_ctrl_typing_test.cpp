@@ -183,7 +183,7 @@ TEST_F(NumberTyping, RefusesOtherPastedTextWhole)
     }
 }
 
-/// Text that the control gets without a key: the middle button pastes the selection of another field.
+/// Text that the control receives without a key: the middle button pastes the selection of another field.
 class PasteOfASelection : public NumberTyping
 {
 protected:
@@ -238,7 +238,7 @@ TEST_F(NumberTyping, PutsASelectionBackThatATextWithoutAKeyWasToReplace)
     EXPECT_EQ(screen.BellsRung(), 1);
 }
 
-// A dead key and a letter make a character that has no key of its own.
+// A dead key and a letter compose a character that has no key of its own.
 TEST_F(NumberTyping, RefusesWhatAComposingLayoutMakes)
 {
     screen.Restart("12345");

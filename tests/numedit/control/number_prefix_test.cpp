@@ -43,8 +43,8 @@ std::vector<std::string> DigitTexts(int digits)
     return texts;
 }
 
-/// Writes every number within the bounds of a field, and stores each beginning of its text. A number with a minus
-/// counts only if it is below 0.
+/// The beginnings of all texts that are numbers within the bounds of a field. A text with a minus counts only if its
+/// number is below 0.
 class Beginnings
 {
 public:
@@ -177,7 +177,7 @@ std::size_t ExponentDigits(const std::string& text)
 int g_accepted = 0;
 int g_refused = 0;
 
-/// Types keys at random places, sometimes over a selection, and compares the texts that are accepted.
+/// Enters keys at the end or, sometimes, at a random place over up to two characters. Compares which are accepted.
 void TypeAndCompare(Keys& keys, const Field& field, const Beginnings& beginnings, const fittings::NumberRules& rules)
 {
     std::string text;
@@ -187,7 +187,7 @@ void TypeAndCompare(Keys& keys, const Field& field, const Beginnings& beginnings
             inside ? static_cast<std::size_t>(keys.Below(static_cast<int>(text.size()) + 1)) : text.size();
         std::string typed = text;
         typed.replace(at, inside ? static_cast<std::size_t>(keys.Below(3)) : 0, 1, keys.Next(field.exponent));
-        // The listed exponents have at most three digits, so the test compares only texts with shorter ones.
+        // The listed exponents have at most three digits, so the test compares only texts with at most two.
         if (ExponentDigits(typed) > 2)
             continue;
         const bool accepted = fittings::CanBeTyped(std::wstring(typed.begin(), typed.end()), rules);

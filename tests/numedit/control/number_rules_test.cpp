@@ -54,7 +54,7 @@ INSTANTIATE_TEST_SUITE_P(, Beginning,
                                          Case{"1000", "1999", 0, L"1", true}, Case{"1000", "1999", 0, L"2", false},
                                          Case{"1000", "1999", 0, L"", true}));
 
-// A double cannot represent a bound such as 0.3 exactly.
+// A double cannot represent 0.3 exactly. The text 0.30 must still be within that bound.
 TEST(ABoundOfAFormat, IsTheDecimalNumberThatItsDoubleIsWrittenAs)
 {
     CNumberFormat format(eFixedFormat);
@@ -130,7 +130,7 @@ TEST(ATextThatIsNoNumber, SaysWhy)
 struct Pasted
 {
     const wchar_t* text;
-    const wchar_t* plain;  ///< null if it is refused
+    const wchar_t* plain;  ///< The text without groups; null if the pasted text is refused.
 };
 
 class PastedText : public testing::TestWithParam<Pasted>
@@ -177,7 +177,7 @@ TEST(PastedTextOfOtherFormats, IsReadToo)
     unsigned_.m_bAllowSign = false;
     EXPECT_FALSE(fittings::PlainTextOf(L"5-", unsigned_));
 
-    // In the C locale, the thousands separator is the null character.
+    // A thousands separator of 0, as in the C locale, separates nothing.
     CNumberFormat plain(eFixedFormat);
     plain.m_chThousandsSep = 0;
     EXPECT_EQ(fittings::PlainTextOf(L"1234", plain), L"1234");

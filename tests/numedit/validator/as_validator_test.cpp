@@ -86,7 +86,7 @@ TEST_F(Numbers, AreAskedInOrderAsFarAsTheFirstBadOne)
     fields[1]->ChangeValue("2");
     EXPECT_FALSE(dialog->Validate());
     EXPECT_TRUE(PumpUntil([&] { return fields[2]->HasFocus(); }));
-    // The field already has the focus.
+    // The field already has the focus, so it receives no further focus event.
     EXPECT_FALSE(dialog->Validate());
     PumpPending();
     fields[2]->ChangeValue("3");
@@ -250,7 +250,7 @@ TEST_F(Numbers, GiveWayToAnotherValidator)
     EXPECT_TRUE(dialog->Validate());
 }
 
-// The validator itself writes the keypad's point. The host replaces the validator while the validator writes.
+// The validator itself writes the keypad's point. The host replaces the validator in the text event of this change.
 TEST_F(Numbers, MayBeReplacedWhileTheyTakeAKey)
 {
     Show();
@@ -341,7 +341,7 @@ TEST_F(Numbers, MayBeCheckedByAHostsClassToo)
     EXPECT_FALSE(dialog->Validate());
 }
 
-// As with the toolkit's validators, the control keeps a clone.
+// The control keeps a clone. A class that does not override Clone() is cloned as a wxNumValidator.
 TEST_F(Numbers, AreOfTheClassThatClonesThem)
 {
     class Forgetful : public wxNumValidator

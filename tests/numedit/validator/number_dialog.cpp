@@ -17,7 +17,7 @@ int g_bells = 0;
 
 }  // namespace
 
-// Replaces the toolkit's function, for the library too.
+// Replaces the toolkit's function, also where the library calls it.
 void wxBell()
 {
     ++g_bells;

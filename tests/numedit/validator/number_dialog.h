@@ -12,7 +12,7 @@
 
 #include <fittings/numedit/num_validator.h>
 
-/// Returns how often the toolkit's bell has rung. This program's wxBell() only counts.
+/// Returns how often wxBell() was called. This program replaces it with a function that only counts.
 int Bells();
 
 /// A validator whose members a test can read.
@@ -59,7 +59,7 @@ public:
     /// Types ASCII text on the keyboard, one key after the other.
     void Type(const std::string& characters);
 
-    /// Presses a key with the given code of the toolkit.
+    /// Presses the key with this key code of the toolkit.
     void Press(int keyCode, int modifiers = wxMOD_NONE);
 
     /// Presses a key that is given by its xdotool name or by its number on the keyboard.
@@ -76,7 +76,7 @@ private:
     int m_bellsBefore = Bells();
 };
 
-/// A dialog on the screen with two text controls, OK and Cancel. The second control has a validator.
+/// A dialog with two text controls, OK and Cancel. The second control has a validator.
 class NumberDialog : public KeysAndBells
 {
 public:
@@ -85,7 +85,7 @@ public:
     NumberDialog(const NumberDialog&) = delete;
     NumberDialog& operator=(const NumberDialog&) = delete;
 
-    /// Shows the dialog with @a text in the number's control and the caret at its end.
+    /// Shows the dialog with @a text and the focus in the number's control and the caret at the text's end.
     void Show(const wxString& text = wxString());
 
     /// Sets the text and the caret in a dialog that is already shown, and resets the counters.

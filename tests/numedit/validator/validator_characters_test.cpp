@@ -11,7 +11,7 @@ namespace {
 
 using Codes = std::vector<int>;
 
-// Newer versions of the toolkit report no key code for this letter.
+// Compare the characters and not the key codes: newer versions of the toolkit report no key code for this letter.
 TEST(LatinLetter, IsRefused)
 {
     const Layout french({"fr"}, kKey2, 0, "eacute");
@@ -122,7 +122,7 @@ TEST_F(DeadAccent, OnALetterIsRefusedOnce)
     EXPECT_EQ(screen.BellsRung(), 1);
 }
 
-// The control gets the accent and the digit at once. If one of them is refused, both are dropped.
+// The input method commits the accent and the digit together. If one of them is refused, neither is inserted.
 TEST_F(DeadAccent, BeforeADigitIsRefusedWithTheDigit)
 {
     screen.PressRaw(std::to_string(kKey1));

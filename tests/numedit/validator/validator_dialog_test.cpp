@@ -259,7 +259,7 @@ TEST_F(Validation, OfATransferAloneLeavesTheFocus)
 class ModalDialog : public testing::Test
 {
 protected:
-    /// Shows the dialog, calls @a act in it, and returns its result; wxID_ABORT if the test had to close it.
+    /// Shows the dialog, calls @a act in it, and returns the dialog's result; wxID_ABORT if @a act leaves it open.
     int ShowModal(const std::function<void()>& act)
     {
         screen.dialog->CallAfter([this, act] {
@@ -273,7 +273,7 @@ protected:
 
     bool Closed() const { return !screen.dialog->IsShown(); }
 
-    /// Enter closes the dialog before the key is released.
+    /// Presses Enter without waiting for its release, because Enter may close the dialog first.
     void PressEnter()
     {
         wxUIActionSimulator keyboard;

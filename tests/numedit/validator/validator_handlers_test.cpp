@@ -140,7 +140,7 @@ TEST_F(Handlers, JudgeTheUnicodeCharacterWhereThereIsNoCode)
     EXPECT_EQ(BellsRung(), 2);
 }
 
-// The new text ends at the zero character, so the validator checks only the text before it.
+// A zero character ends the new text at the caret, so the validator checks only the text before the caret.
 TEST_F(Handlers, JudgeWhatStandsBeforeAKeyWithoutAnyCharacter)
 {
     Start("1x", 1);

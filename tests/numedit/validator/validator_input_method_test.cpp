@@ -25,7 +25,7 @@ TEST_F(TypingByAnInputMethod, TakesDigits)
     EXPECT_EQ(screen.BellsRung(), 0);
 }
 
-// The toolkit sends no char event for such a text, so the validator sees it only at the end.
+// The toolkit sends no char event for a committed text, so only Validate() checks the text.
 TEST_F(TypingByAnInputMethod, IsRefusedByValidateIfItIsNoNumber)
 {
     screen.Restart("12", 2);

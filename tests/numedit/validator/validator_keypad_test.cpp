@@ -174,7 +174,7 @@ TEST(KeypadWithoutNumLock, MovesTheCaret)
     EXPECT_EQ(screen.BellsRung(), 0);
 }
 
-// This layout gives the key a comma and another code, so the key counts as a normal character.
+// The German layout gives the decimal key a comma and another key code, so the validator treats it as any character.
 class GermanKeypad : public testing::Test
 {
 protected:
@@ -222,7 +222,7 @@ TEST_F(Keypad, TypesTheLocalesPoint)
     EXPECT_EQ(screen.BellsRung(), 1);
 }
 
-// The French keypad types a point, but the format needs a comma.
+// The decimal key of the French keypad types a point. The validator inserts the format's comma instead.
 TEST(FrenchKeypad, TypesTheFormatsComma)
 {
     const Layout french({"fr"}, kKey2, 0, "eacute");

@@ -1,5 +1,5 @@
-// A refused key of a real keyboard has no visible effect: the text and its selection stay, and the program gets no
-// event.
+// A refused key of a real keyboard has no visible effect: the text and its selection stay, and the program receives
+// no text event.
 
 #include <fittings/numedit/num_validator.h>
 
@@ -151,7 +151,7 @@ TEST_F(RefusedKey, LeavesAModifiedTextModified)
     EXPECT_TRUE(screen.number->IsModified());
 }
 
-// In overwrite mode, the key would first delete the character that it replaces.
+// In overwrite mode, a key that is accepted replaces a character. A refused key must not delete this character.
 TEST_F(RefusedKey, LeavesTheTextWhereKeysReplaceWhatIsThere)
 {
     screen.Press(WXK_INSERT);
