@@ -1,4 +1,4 @@
-// The popup in other languages. A process builds the table of colours only once, so each language needs its own process.
+// The popup in other languages. A process builds the table of colours once, so each language needs its own process.
 
 #include <algorithm>
 #include <array>

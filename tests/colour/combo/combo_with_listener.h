@@ -6,7 +6,7 @@
 #include <tests/colour/colour_listener.h>
 #include <tests/colour/combo/combo_on_screen.h>
 
-/// A combo on the screen that shows a colour. Its popup opens without animation. Its listener has recorded no calls yet.
+/// A combo on the screen that shows a colour. Its popup opens without animation. Its listener has no recorded calls.
 class ComboWithListener
 {
 protected:
