@@ -51,7 +51,7 @@ std::vector<Accessible> ReadAccessibles()
 {
     PumpPending();
     ChildProcess reader({READ_ACCESSIBLES, std::to_string(getpid())});
-    // While it waits, this process answers the reader's requests.
+    // While this process waits for the reader to end, it answers the reader's requests.
     EXPECT_TRUE(PumpUntil([&] { return !reader.IsRunning(); })) << "the reader does not end";
     EXPECT_EQ(reader.ExitCode(), 0) << reader.Output();
     std::vector<Accessible> all;

@@ -31,7 +31,7 @@ protected:
 
     void Notify() override
     {
-        // A file dialog handles events before it becomes modal.
+        // Wait until the dialog is modal, because a file dialog already handles events before.
         if (!m_dialog->IsModal())
             return;
         Stop();

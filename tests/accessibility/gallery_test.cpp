@@ -36,7 +36,7 @@ protected:
         EXPECT_TRUE(PumpUntil([&] { return frame->GetPages()->GetSelection() == GetParam(); }));
     }
 
-    /// Returns the part that has the focus.
+    /// Returns the part that has the focus, or the combo box that contains it.
     Accessible FocusedPart() const
     {
         GtkWidget* const widget = gtk_window_get_focus(GTK_WINDOW(frame->GetHandle()));

@@ -1,4 +1,4 @@
-// read-accessibles PID: prints the accessible objects of a process, one per line:
+// read-accessibles PID: prints the visible accessible objects of a process, one per line:
 //
 //   <depth> <role>|<name>|<description>|<label>|<states>
 //

@@ -55,7 +55,7 @@ SampleInUse::SampleInUse(const std::string& sample, const std::string& title, co
                  {"XDG_CACHE_HOME", person.data.Path()}},
                 m_folder / "errors")
 {
-    // xdotool fails when it finds nothing, so its exit code does not count.
+    // Ignore the exit code of xdotool, which fails while there is no such window.
     const std::vector<std::string> search = {"xdotool", "search", "--onlyvisible", "--name", "^" + title + "$"};
     const bool isOver = Becomes([&] {
         ChildProcess found(search, {}, m_folder / "search-errors");

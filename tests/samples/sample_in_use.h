@@ -14,7 +14,7 @@ struct ScreenPoint
     int y;
 };
 
-/// A user's home folder and settings, which stay between two starts of a sample.
+/// A user's home folder and settings, which are kept between two runs of a sample.
 struct Person
 {
     TempFolder home;

@@ -217,7 +217,7 @@ TEST(NumeditSample, TakesOnlyAnAmountAndShowsItInGroups)
     payments.Close();
 }
 
-// Repeats the key: a dialog that reads folders in the background loses a key that comes too early.
+// Repeats the key: a dialog that reads folders in the background loses a key that is pressed too early.
 void PressUntil(const std::string& key, const std::function<bool()>& isDone)
 {
     bool done = false;

@@ -34,7 +34,7 @@ struct User<wxColourPickerCtrl>
     static constexpr const char* kName = "Picker";
     static constexpr const char* kResource = "picker";
 
-    // Has the effect of OK in GTK's dialog.
+    // Chooses teal, with the effect of OK in GTK's dialog.
     static wxColour Choose(wxColourPickerCtrl& control)
     {
         GtkWidget* const button = control.GetPickerCtrl()->GetHandle();
