@@ -75,8 +75,8 @@ TEST_P(ScreenReaderInTheGallery, HasANameForAllThatTakesTheFocus)
     EXPECT_THAT(said, IsSupersetOf(names[GetParam()]));
 }
 
-// Tab skips tool bar buttons. Each of them has a key, which its description names. In a scroll pane, the content takes
-// the focus. In a wxChoice, the part that takes the focus is not accessible.
+// Leaves out tool bar buttons, which Tab skips: each has a key, which its description names. Leaves out scroll panes,
+// whose content takes the focus. Adds combo boxes, because the focused part of a wxChoice is not accessible itself.
 TEST_P(ScreenReaderInTheGallery, IsLedByTabToAllThatTakesTheFocus)
 {
     std::set<std::string> expected;

@@ -24,7 +24,7 @@ using Key = std::string;
 struct Keyboard
 {
     const char* layout;
-    /// A key that differs between the layouts, and its symbol.
+    /// A key that differs between the layouts, and its symbol on a level of the layout.
     unsigned key;
     unsigned level;
     const char* symbol;
@@ -34,7 +34,7 @@ struct Keyboard
     Key plus;
     Key minus;
     Key asterisk;
-    /// The key code that a program gets for the keypad's decimal key, and the character that the key types.
+    /// The key code that a program receives for the keypad's decimal key, and the character that the key types.
     int keypadCode;
     wchar_t keypadCharacter;
 
@@ -104,7 +104,7 @@ TEST_P(KeyboardLayouts, LeadThroughTheColourPopup)
         const char* key;
         int cell;
     };
-    // The keys move down through "More Colours...", "Automatic" and the first cell, and then once around the popup.
+    // The keys move down through "More Colours...", "Automatic" and the first cell, and then around a square of four cells.
     for (const Step& step : {Step{"116", -2}, Step{"116", -3}, Step{"116", 0}, Step{"114", 1}, Step{"116", 9},
                              Step{"113", 8}, Step{"111", 0}, Step{"114", 1}}) {
         Press(step.key);

@@ -98,7 +98,8 @@ TEST_F(ColoursOnAScaledScreen, OpenWithAnOutlineThatGrowsWhereTheyWillBe)
     on.combo->Dismiss();
 }
 
-// No window is below, so the animation draws on the screen itself. The pattern has dots of one screen pixel.
+// The frame does not reach below the popup, so the animation draws on the root window, whose pattern has dots of one
+// screen pixel.
 TEST_F(ColoursOnAScaledScreen, LeaveTheScreenAsItWas)
 {
     RunChild({"xsetroot", "-mod", "3", "3"});

@@ -15,7 +15,7 @@
 
 namespace {
 
-// No digit can be added to any of these texts, neither before nor after the key.
+// A key, the text in which it is pressed, and the text afterwards. Most of these texts are no valid numbers.
 struct EditingKey
 {
     const char* name;
