@@ -104,7 +104,7 @@ TEST_P(KeyboardLayouts, LeadThroughTheColourPopup)
         const char* key;
         int cell;
     };
-    // The keys move down through "More Colours...", "Automatic" and the first cell, and then around a square of four cells.
+    // The keys move down through "More Colours...", "Automatic" and the first cell, then around a square of four cells.
     for (const Step& step : {Step{"116", -2}, Step{"116", -3}, Step{"116", 0}, Step{"114", 1}, Step{"116", 9},
                              Step{"113", 8}, Step{"111", 0}, Step{"114", 1}}) {
         Press(step.key);

@@ -1,4 +1,4 @@
-"""Gets the library's answers through number_driver."""
+"""Asks the library for its answers through number_driver."""
 
 import struct
 import subprocess

@@ -1,4 +1,4 @@
-// A refused key of a real keyboard has no visible effect: the text and its selection stay, and the program receives
+// A key that wxNumValidator refuses has no visible effect: the text and its selection stay, and the program receives
 // no text event.
 
 #include <fittings/numedit/num_validator.h>

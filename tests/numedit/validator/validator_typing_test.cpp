@@ -1,4 +1,4 @@
-// Typing into a number's control with the keys of a real keyboard.
+// Typing with the keys of a real keyboard into a text control with a wxNumValidator.
 
 #include <fittings/numedit/num_validator.h>
 
