@@ -209,7 +209,7 @@ TEST_P(ColourComboByKeys, IsReachedByTheMnemonicOfItsLabel)
     EXPECT_TRUE(PumpUntil([&] { return before->HasFocus(); }));
     Press('L', wxMOD_ALT);
     EXPECT_TRUE(PumpUntil([&] { return ContainsFocus(*combo); }));
-    // With this order, the toolkit gives the focus to the control itself.
+    // In this tab order, the toolkit gives the focus to the control itself.
     after->MoveBeforeInTabOrder(before);
     after->SetFocus();
     EXPECT_TRUE(PumpUntil([&] { return after->HasFocus(); }));
