@@ -45,6 +45,7 @@ private:
 
     const wxWeakRef<wxTopLevelWindow> m_window;
     const wxRect m_rect;
+    bool m_isOnScreen = false;
     bool m_isDragged = false;
     wxTimer m_release;      // Runs until the user releases the mouse button.
     wxSize m_requested;     // Without decorations; no size until the window is unmaximised.
@@ -76,17 +77,24 @@ void PlaceKeeper::AfterEvent(GtkWidget* widget, GdkEvent* event, PlaceKeeper* ke
     StopWatching(widget);
 }
 
-bool IsUnmaximized(const GdkEvent& event)
+bool ChangesMaximized(const GdkEvent& event)
 {
-    return event.type == GDK_WINDOW_STATE && (event.window_state.changed_mask & GDK_WINDOW_STATE_MAXIMIZED) &&
-           !(event.window_state.new_window_state & GDK_WINDOW_STATE_MAXIMIZED);
+    return event.type == GDK_WINDOW_STATE && (event.window_state.changed_mask & GDK_WINDOW_STATE_MAXIMIZED);
 }
 
+// A window manager may unmaximise a window for a moment before it shows the window maximised.
 bool PlaceKeeper::IsDoneAfter(const GdkEvent& event)
 {
-    // Ignore a window that is being hidden: it is unmaximised too, and is maximised again when it is shown.
-    if (IsUnmaximized(event) && m_window->IsShown()) {
-        if (m_deadline != 0 || DrawsItsDecorations(m_window->GetHandle()))
+    if (event.type == GDK_MAP)
+        m_isOnScreen = true;
+    if (!m_isOnScreen)
+        return false;
+    if (ChangesMaximized(event) && m_window->IsMaximized()) {
+        m_deadline = 0;
+        m_requested = wxSize();
+    } else if (ChangesMaximized(event) && m_window->IsShown()) {
+        // A window that is being hidden is unmaximised too, and is maximised again when it is shown.
+        if (DrawsItsDecorations(m_window->GetHandle()))
             return true;
         // The toolkit does not use the decorations of a maximised window to compute a position. Let it use them now.
         m_window->GTKUpdateDecorSize(m_window->m_decorSize);
