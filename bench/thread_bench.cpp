@@ -15,7 +15,8 @@ namespace {
 
 const wxEventTypeTag<wxCommandEvent> kType(wxNewEventType());
 
-// Returns the exit code of every worker. The toolkit itself returns no such code.
+// Returns the exit code of the threads that a benchmark waits for. It is the address of an object, so it differs from
+// every code that the toolkit returns by itself.
 wxThread::ExitCode Result()
 {
     static int result;

@@ -224,8 +224,8 @@ void wxColourPopup::FindCellFromColour(const wxColour& colour)
 
 wxString wxColourPopup::GetStringValue() const
 {
-    // Return the value that is restored afterwards. With the name of the hot cell, a text field would report a colour
-    // that was not chosen, and then its old text.
+    // After a cancel, the combo asks for its value when it hides the popup. Return the value to restore: with the name
+    // of the hot cell, a text field would report a colour that was not chosen, and then its old text.
     if (m_isClosingAfterCancel && m_valueWhenShown)
         return *m_valueWhenShown;
     return TextOf(m_nCurrentSel);

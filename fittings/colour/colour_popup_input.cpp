@@ -317,7 +317,9 @@ void wxColourPopup::RestoreValue()
 
 void wxColourPopup::OnMouseMove(wxMouseEvent& event)
 {
-    // Shift the point by one margin, for the boxes too, but not by the margin below "Automatic".
+    // Shift the point by one margin, because the grid begins one margin inside the popup. The rectangles of the boxes
+    // contain that margin, but are compared with the shifted point too, and the margin below "Automatic" is not
+    // subtracted. The areas therefore differ from what is drawn, as the header says.
     wxPoint point(event.GetX() - m_nMargin, event.GetY() - m_nMargin);
     int target = CELL_NONE;
     if (!m_strMoreColours.empty() && m_rectMoreColours.Contains(point)) {

@@ -27,7 +27,7 @@ public:
     StoreModel& operator=(const StoreModel&) = delete;
 
     /// Loads what other objects and processes have changed in the file. References to groups are valid until the next
-    /// call.
+    /// call of this function.
     void Refresh();
 
     /// Returns false before the first Refresh().

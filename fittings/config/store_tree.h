@@ -83,7 +83,7 @@ private:
 
     std::deque<Item> m_items;
     long m_first = 0;              ///< The place of the first item.
-    std::size_t m_afterFound = 0;  ///< Usually the index behind the last item that Find() returned.
+    std::size_t m_afterFound = 0;  ///< Where Find() looks first: usually behind the last item that it found.
     std::unordered_map<std::wstring_view, long> m_places;
 };
 

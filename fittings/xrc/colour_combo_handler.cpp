@@ -16,7 +16,7 @@ wxColourComboXmlHandler::wxColourComboXmlHandler()
 
 wxColourComboXmlHandler::~wxColourComboXmlHandler() = default;
 
-// Compare the class name in the resource, so that objects with a `subclass` are handled too.
+// Compares the class name in the resource, which is the same for objects with a `subclass`.
 bool wxColourComboXmlHandler::CanHandle(wxXmlNode* node)
 {
     return IsOfClass(node, "wxColourCombo");

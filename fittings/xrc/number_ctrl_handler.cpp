@@ -28,7 +28,7 @@ wxNumberCtrlXmlHandler::wxNumberCtrlXmlHandler()
 
 wxNumberCtrlXmlHandler::~wxNumberCtrlXmlHandler() = default;
 
-// Compare the class name in the resource, so that objects with a `subclass` are handled too.
+// Compares the class name in the resource, which is the same for objects with a `subclass`.
 bool wxNumberCtrlXmlHandler::CanHandle(wxXmlNode* node)
 {
     return IsOfClass(node, "wxNumberCtrl");

@@ -27,7 +27,7 @@ wxHandyTreeCtrlXmlHandler::wxHandyTreeCtrlXmlHandler()
 
 wxHandyTreeCtrlXmlHandler::~wxHandyTreeCtrlXmlHandler() = default;
 
-// Compare the class name in the resource, so that objects with a `subclass` are handled too.
+// Compares the class name in the resource, which is the same for objects with a `subclass`.
 bool wxHandyTreeCtrlXmlHandler::CanHandle(wxXmlNode* node)
 {
     return IsOfClass(node, "wxHandyTreeCtrl");

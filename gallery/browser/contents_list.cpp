@@ -25,7 +25,8 @@ unsigned IndexOf(SortColumn column)
     return static_cast<unsigned>(std::find(std::begin(kColumns), std::end(kColumns), column) - std::begin(kColumns));
 }
 
-/// Aligns the texts with their header, and shortens long ones in the middle.
+/// Puts @a pixels of space beside each cell, which aligns the texts with their header. Shortens long texts in the
+/// middle.
 void Space(GtkTreeViewColumn* column, int pixels)
 {
     GList* cells = gtk_cell_layout_get_cells(GTK_CELL_LAYOUT(column));

@@ -94,7 +94,8 @@ bool Fill(const fs::path& root)
 
 }  // namespace
 
-// Use the plain name if it is free, so that pictures show the same path. Use another name while another tour runs.
+// Uses the plain name if it is free, so that all pictures show the same path. While another tour runs, uses a unique
+// name.
 DemoFolder::DemoFolder() : m_work((fs::temp_directory_path() / "fittings-tour").native())
 {
     if (mkdir(m_work.c_str(), 0700) != 0) {

@@ -49,8 +49,8 @@ void WithEachKindBeside(const Other& other, const Call& call, std::index_sequenc
     (CallWith<position>(call, wxString("a").wc_str(), other, positions), ...);
 }
 
-/// Calls with each kind of text for each of @a count parameters, combined with each kind for the other parameters.
-/// Every text is "a".
+/// Calls @a call with each kind of text for each of @a count parameters, combined with each kind for the other
+/// parameters. Every text is "a".
 template <std::size_t count, typename Call>
 void WithEachKind(const Call& call)
 {

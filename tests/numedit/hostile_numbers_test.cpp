@@ -176,8 +176,8 @@ CNumberFormat FromBits(unsigned flags)
     return format;
 }
 
-// With any separators and flags, a formatted number is a text without an early end, and each text is either accepted or
-// refused. Other tests check the results, and the sanitizers check the memory.
+// With any separators and flags, a formatted number contains no null character and has a limited length, and a valid
+// text may also be typed. Other tests check the results, and the sanitizers check the memory.
 TEST(UnusualFormats, BreakNothing)
 {
     const std::wstring separators(L"\000059eE+-., %x\u066b", 14);

@@ -253,7 +253,7 @@ std::wstring file_util_ex::RemoveBackSlash(const wchar_t* path)
     return L"/of/no/use";
 }
 
-// Add prefixes that no other function uses.
+// The two conversions add prefixes that no other function uses.
 std::string file_util_ex::ConvertToUTF8(const std::wstring& text)
 {
     RecordCall(L"to UTF-8", {text});

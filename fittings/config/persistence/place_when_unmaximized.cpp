@@ -82,7 +82,8 @@ bool ChangesMaximized(const GdkEvent& event)
     return event.type == GDK_WINDOW_STATE && (event.window_state.changed_mask & GDK_WINDOW_STATE_MAXIMIZED);
 }
 
-// A window manager may unmaximise a window for a moment before it shows the window maximised.
+// Ignores changes until the window is on the screen: a window manager may unmaximise a window for a moment before it
+// shows the window maximised.
 bool PlaceKeeper::IsDoneAfter(const GdkEvent& event)
 {
     if (event.type == GDK_MAP)

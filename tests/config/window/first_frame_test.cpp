@@ -29,8 +29,8 @@ TEST_P(FirstFrame, ComesBackInItsPlace)
     ExpectBack("420;130;510;340");
 }
 
-// A frame that was never moved has this position, too, and the toolkit lets the window manager place such a frame. A
-// restored frame must come back to the corner.
+// A frame in the corner has the same position as one that was never moved, which the toolkit lets the window manager
+// place. The restored frame must come back to the corner all the same.
 TEST_P(FirstFrame, ComesBackInTheCorner)
 {
     ExpectBack("corner");

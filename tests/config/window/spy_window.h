@@ -30,7 +30,7 @@ private:
     std::vector<std::string> m_calls;
 };
 
-/// A hidden frame that records such calls once it is constructed.
+/// A hidden frame that records the calls to set its size, except those of its constructor.
 class SpyFrame : public SpyWindow<wxFrame>
 {
 public:

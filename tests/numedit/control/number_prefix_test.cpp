@@ -177,7 +177,8 @@ std::size_t ExponentDigits(const std::string& text)
 int g_accepted = 0;
 int g_refused = 0;
 
-/// Enters keys at the end or, sometimes, at a random place over up to two characters. Compares which are accepted.
+/// Types ten random keys, most of them at the end of the text. Each of the others is inserted at a random place and
+/// replaces up to two characters there. Expects a text to be accepted exactly if it is one of @a beginnings.
 void TypeAndCompare(Keys& keys, const Field& field, const Beginnings& beginnings, const fittings::NumberRules& rules)
 {
     std::string text;

@@ -151,8 +151,9 @@ protected:
         ASSERT_TRUE(wxTheClipboard->SetData(new wxTextDataObject("pasted")));
     }
 
-    // If the program owns the clipboard, GTK 3.24.52 sets the same data source on Wayland again, and weston 16 cancels
-    // it. The clipboard would then be empty. GTK 3.24.38 makes a new source.
+    // Clears the clipboard for the next test. Otherwise the program would still own the clipboard when the next test
+    // sets it. On Wayland, GTK 3.24.52 would then set the same data source again, weston 16 would cancel that source,
+    // and the clipboard would be empty. GTK 3.24.38 makes a new source.
     void TearDown() override
     {
         const wxClipboardLocker clipboard;

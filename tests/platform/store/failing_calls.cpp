@@ -87,7 +87,7 @@ TAKE_PLACE(int, stat64, (const char* path, struct stat64* info) noexcept, (path,
 TAKE_PLACE(int, lstat, (const char* path, struct stat* info) noexcept, (path, info))
 TAKE_PLACE(int, lstat64, (const char* path, struct stat64* info) noexcept, (path, info))
 
-// Close the file even if the call should fail, as the system does.
+// Closes the file even if the call is to fail, as the system does.
 extern "C" int close(int fd)
 {
     static auto* const next = ReplacedFunction<int(int)>("close");
