@@ -141,11 +141,11 @@ bool AreTexts(std::wstring_view texts)
            texts.substr(separator, kCaption.size()) == kCaption;
 }
 
-/// Returns whether the texts contain no number that the toolkit would read as a field and cannot use.
+/// Returns false if the toolkit would read a part of the texts as a field whose number is below 0 or above kMostInText.
 ///
-/// The toolkit does not read an escaped ";" as a part of the text: it reads what follows as the next field. With
-/// "a;row=99999999;" in a caption, the toolkit reads a row, and takes the empty field after the row for the end of the
-/// pane. "\b" is the toolkit's placeholder for an escaped ";".
+/// The toolkit ends a field even at an escaped ";", and reads what follows as the next field. In the caption
+/// "a;row=99999999;", it finds a row, and takes the empty field after the row for the end of the pane. "\b" is the
+/// toolkit's placeholder for an escaped ";".
 bool AreReadAtOnce(std::wstring_view texts)
 {
     for (std::size_t at = texts.find_first_of(L";\b"); at != texts.npos; at = texts.find_first_of(L";\b", at + 1)) {

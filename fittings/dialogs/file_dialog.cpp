@@ -98,7 +98,7 @@ CStdStr<wchar_t> CQVFileDialogI::LaunchSaveDialog(wxWindow* parent, const wchar_
     wxString folder = *initialFolder ? initialFolder : fittings::LoadLastPath(g_regEntry.c_str());
     wxString fileName = fittings::OrEmpty(initialFileName);
     if (!folder.empty()) {
-        // wxFileName takes the last part of a folder without a separator at its end for the file name.
+        // If the folder has no separator at its end, its last part becomes the file name.
         wxFileName path;
         path.Assign(folder, wxPATH_NATIVE);
         if (fileName.empty())

@@ -96,8 +96,8 @@ public:
     /// returns true when the worker may go on: the event was queued, or was dropped because there is no handler. Each
     /// overload returns false when the worker was asked to stop; nothing is queued then.
     ///
-    /// A worker that posts faster than the GUI thread handles is not slowed down: its events fill the memory and block
-    /// the GUI. Report results at intervals, not one by one.
+    /// A worker that posts events faster than the GUI thread handles them is not slowed down: its events fill the
+    /// memory and block the GUI. Report results at intervals, not one by one.
     ///
     /// Client data is passed on as it is, and the library never owns it. If an event is dropped, or is still queued
     /// when its handler is destroyed, its data is not freed.

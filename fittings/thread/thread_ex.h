@@ -103,7 +103,7 @@ public:
 private:
     friend class wxThreadExImpl;
 
-    mutable std::mutex m_mutex;           // guards m_finished and m_exitCode
+    mutable std::mutex m_mutex;           // guards m_finished; once that is true, m_exitCode no longer changes
     std::condition_variable m_condition;  // not the toolkit's, whose wait depends on the time of day
     const bool m_detached;
     bool m_running = false;

@@ -8,8 +8,8 @@
 
 namespace {
 
-// The toolkit has no getters for some of the arguments of a dialog, and GTK's dialog may return other paths than were
-// set. Therefore this file replaces functions of wxFileDialog.
+// This file replaces functions of wxFileDialog: the toolkit has no getters for some of a dialog's arguments, and GTK's
+// dialog may return another path than the one that was set.
 std::vector<AskedFile> g_made;
 wxString g_path;
 
