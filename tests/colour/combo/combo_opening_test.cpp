@@ -1,4 +1,4 @@
-// Clicks while the popup opens: during the animation no popup exists yet that could grab the pointer.
+// Clicks while the popup opens: during the animation the popup is not shown yet, so it cannot grab the pointer itself.
 
 #include <string>
 
