@@ -55,8 +55,8 @@ bool IsPastTick(const timespec& stamp, const timespec& now)
 
 bool ReadAll(int fd, std::size_t expected, std::string& bytes)
 {
-    std::size_t used = bytes.size();
-    bytes.resize(used + expected + 1);
+    std::size_t used = 0;
+    bytes.resize(expected + 1);
     for (;;) {
         const ssize_t count = read(fd, &bytes[used], bytes.size() - used);
         if (count < 0 && errno == EINTR)
@@ -105,7 +105,7 @@ void SyncFolder(const std::string& folder)
         fsync(descriptor.Get());
 }
 
-// Appends the whole content of the open file to @a bytes.
+// Replaces @a bytes with the whole content of the open file.
 FileContent ReadOpenFile(int fd, std::string& bytes)
 {
     timespec now;
@@ -121,7 +121,6 @@ template <typename Read>
 FileContent ReadUntilFilled(const Read& read, std::string& bytes, std::chrono::steady_clock::time_point deadline)
 {
     for (;;) {
-        bytes.clear();
         const FileContent content = read(bytes);
         if (!content.IsEmptyForNow() || std::chrono::steady_clock::now() >= deadline)
             return content;
@@ -319,17 +318,15 @@ std::optional<FileIdentity> IdentityOf(const std::string& path)
     return FileIdentity(info);
 }
 
-FileContent ReadFileBytes(const std::string& path, std::string& bytes)
+FileContent ReadFileBytes(const std::string& path, std::string& bytes, std::chrono::steady_clock::time_point deadline)
 {
-    const FileDescriptor file(open(path.c_str(), kForReading));
-    if (file.Get() < 0)
-        return {errno == ENOENT ? ReadResult::Missing : ReadResult::Failed, std::nullopt};
-    return ReadOpenFile(file.Get(), bytes);
-}
-
-FileContent ReadFilledBytes(const std::string& path, std::string& bytes, std::chrono::steady_clock::time_point deadline)
-{
-    return ReadUntilFilled([&path](std::string& read) { return ReadFileBytes(path, read); }, bytes, deadline);
+    const auto readOnce = [&path](std::string& read) -> FileContent {
+        const FileDescriptor file(open(path.c_str(), kForReading));
+        if (file.Get() < 0)
+            return {errno == ENOENT ? ReadResult::Missing : ReadResult::Failed, std::nullopt};
+        return ReadOpenFile(file.Get(), read);
+    };
+    return ReadUntilFilled(readOnce, bytes, deadline);
 }
 
 bool FileContent::IsEmptyForNow() const

@@ -52,13 +52,11 @@ struct FileContent
     bool IsEmptyForNow() const;
 };
 
-/// Appends the bytes of the file at @a path to @a bytes. Fails if the file has more than kMaxFileSize bytes.
-FileContent ReadFileBytes(const std::string& path, std::string& bytes);
-
-/// Replaces @a bytes with the content of the file, read as ReadFileBytes() does. If the file is empty for now, waits
-/// until it has content, but not longer than half a second after its last change, and not beyond @a deadline.
-FileContent ReadFilledBytes(const std::string& path, std::string& bytes,
-                            std::chrono::steady_clock::time_point deadline);
+/// Replaces @a bytes with the content of the file at @a path. Fails if the file has more than kMaxFileSize bytes. If
+/// the file is empty for now, waits until it has content, but not longer than half a second after its last change, and
+/// not beyond @a deadline. Does not wait without a deadline.
+FileContent ReadFileBytes(const std::string& path, std::string& bytes,
+                          std::chrono::steady_clock::time_point deadline = {});
 
 /// Larger files are neither read nor written: they are not settings files, and their keys would need too much memory.
 inline constexpr off_t kMaxFileSize = off_t{64} << 20;

@@ -39,9 +39,6 @@ public:
     FileLock(const FileLock&) = delete;
     FileLock& operator=(const FileLock&) = delete;
 
-    /// Returns whether this object holds the lock. It does not if the lock file cannot be opened or is a link.
-    bool IsHeld() const { return m_isHeld; }
-
 private:
     const FileDescriptor m_file;
     bool m_isHeld = false;

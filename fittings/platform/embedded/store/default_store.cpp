@@ -17,8 +17,7 @@ DefaultStore& DefaultStore::Instance()
 std::string DefaultStore::Path()
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    Locate();
-    return m_shared->Path();
+    return Locate().Path();
 }
 
 bool DefaultStore::Store(const std::vector<SettingsChange>& changes)
@@ -36,19 +35,19 @@ bool DefaultStore::Store(const std::vector<SettingsChange>& changes)
     return shared->Store(changes);
 }
 
-void DefaultStore::Locate()
+SharedFile& DefaultStore::Locate()
 {
     std::wstring folder = std_file_paths::GetUserDataDir();
-    if (m_shared && folder == m_folder)
-        return;
-    m_shared = &SharedFile::At(file_util_ex::ConvertToUTF8(file_util_ex::MakePath(folder, L"settings.ini")));
-    m_folder = std::move(folder);
+    if (!m_shared || folder != m_folder) {
+        m_shared = &SharedFile::At(file_util_ex::ConvertToUTF8(file_util_ex::MakePath(folder, L"settings.ini")));
+        m_folder = std::move(folder);
+    }
+    return *m_shared;
 }
 
 const CIniFile& DefaultStore::Refreshed()
 {
-    Locate();
-    m_file.Refresh(m_shared->Path());
+    m_file.Refresh(Locate().Path());
     return m_file;
 }
 

@@ -31,7 +31,7 @@ public:
     bool Store(const std::vector<SettingsChange>& changes);
 
 private:
-    void Locate();
+    SharedFile& Locate();
     const CIniFile& Refreshed();
 
     std::mutex m_mutex;  ///< Guards the members below.

@@ -33,22 +33,18 @@ bool SaveText(const std::string& path, const std::string& text)
 void CIniFile::Clear()
 {
     m_text = std::make_unique<IniText>("");
-    m_cannotBeParsed = false;
     m_unreadable.clear();
 }
 
-bool CIniFile::Load(const std::string& path, const Reader& read)
+bool CIniFile::Load(const std::string& path, std::chrono::steady_clock::time_point deadline)
 {
     Clear();
     m_path = path;
     std::string bytes;
-    m_content = read(path, bytes);
+    m_content = fittings::ReadFileBytes(path, bytes, deadline);
     if (HasTooManyLines(bytes))
         m_content.result = fittings::ReadResult::Failed;
-    if (m_content.result != fittings::ReadResult::Read)
-        return false;
-    m_cannotBeParsed = !Parse(std::move(bytes));
-    return !m_cannotBeParsed;
+    return m_content.result == fittings::ReadResult::Read && Parse(std::move(bytes));
 }
 
 bool CIniFile::Refresh(const std::string& path, const std::vector<Change>& changes, std::uint64_t revision)
@@ -112,7 +108,7 @@ bool CIniFile::Save(const std::string& path) const
     if (path.empty() || (HasFailed() && path == m_path))
         return false;
     // Keep the unreadable file under another name, unless another process has put a new file in its place.
-    if (m_cannotBeParsed) {
+    if (!m_unreadable.empty()) {
         const auto result = ReplaceUnreadable(path, std::chrono::steady_clock::now());
         if (result != fittings::UpdateResult::Outdated)
             return result == fittings::UpdateResult::Saved;
@@ -125,7 +121,7 @@ fittings::UpdateResult CIniFile::Update(std::chrono::steady_clock::time_point de
     using fittings::UpdateResult;
     if (HasFailed())
         return UpdateResult::Failed;
-    if (m_cannotBeParsed)
+    if (!m_unreadable.empty())
         return ReplaceUnreadable(m_path, deadline);
     std::string changed = m_text->Changed();
     if (HasTooManyLines(changed))

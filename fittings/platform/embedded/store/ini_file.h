@@ -3,7 +3,6 @@
 
 #include <chrono>
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -21,11 +20,9 @@
 class CIniFile
 {
 public:
-    using Reader = std::function<decltype(fittings::ReadFileBytes)>;
-
     /// Replaces the content with that of the file. Returns false when the file could not be read, or when its bytes
-    /// contain no settings and are not readable text.
-    bool Load(const std::string& path, const Reader& read = fittings::ReadFileBytes);
+    /// contain no settings and are not readable text. Waits until an empty file is filled, as ReadFileBytes() does.
+    bool Load(const std::string& path, std::chrono::steady_clock::time_point deadline = {});
 
     /// Loads the file and applies the changes to the loaded content, unless the file has certainly not changed since
     /// the last load and the revision of the changes is the same. Returns true when the content of the object may have
@@ -35,9 +32,6 @@ public:
 
     /// Does the same for a path in wide text. Does not convert the path again if it is that of the last call.
     bool Refresh(std::wstring_view path);
-
-    /// Replaces the content with @a text. Returns false when @a text contains no settings and is not readable.
-    bool Parse(std::string text);
 
     /// Writes the file if its bytes change. Returns false on any error.
     bool Save(const std::string& path) const;
@@ -82,6 +76,8 @@ public:
 
 private:
     void Clear();
+    /// Replaces the content with @a text. Returns false when @a text contains no settings and is not readable.
+    bool Parse(std::string text);
     fittings::UpdateResult ReplaceUnreadable(const std::string& path,
                                              std::chrono::steady_clock::time_point deadline) const;
     bool IsFresh();
@@ -94,8 +90,7 @@ private:
     std::unique_ptr<fittings::IniText> m_text = std::make_unique<fittings::IniText>("");
     std::string m_path;
     fittings::FileContent m_content = {fittings::ReadResult::Missing, std::nullopt};
-    bool m_cannotBeParsed = false;
-    std::string m_unreadable;  ///< The bytes that cannot be parsed.
+    std::string m_unreadable;  ///< The bytes of the file if they cannot be parsed, otherwise empty.
     fittings::FileWatch m_watch;
     std::uint64_t m_revision = 0;
 

@@ -63,9 +63,7 @@ UpdateResult SharedFile::StoreOnce(const std::vector<SettingsChange>& changes, L
 
     // Read what other processes have stored, and change only the given settings.
     CIniFile file;
-    file.Load(m_path, [deadline](const std::string& path, std::string& bytes) {
-        return ReadFilledBytes(path, bytes, deadline);
-    });
+    file.Load(m_path, deadline);
     file.Apply(changes);
     return file.Update(deadline);
 }
