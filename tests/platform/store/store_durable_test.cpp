@@ -1,6 +1,7 @@
 // What a call has stored is on the disk when the call returns. The file's bytes are synced before the rename, and the
 // folder after it.
 
+#include <cerrno>
 #include <cstdio>
 #include <functional>
 #include <string>
@@ -20,6 +21,7 @@
 namespace {
 
 std::vector<std::string>* g_calls = nullptr;
+bool g_interruptsFolderSync = false;
 
 }  // namespace
 
@@ -30,6 +32,11 @@ extern "C" int fsync(int fd)
     struct stat info;
     if (g_calls && fstat(fd, &info) == 0)
         g_calls->push_back(S_ISDIR(info.st_mode) ? "sync folder" : "sync file");
+    if (g_interruptsFolderSync && g_calls && g_calls->back() == "sync folder") {
+        g_interruptsFolderSync = false;
+        errno = EINTR;
+        return -1;
+    }
     return static_cast<int>(syscall(SYS_fsync, fd));
 }
 
@@ -67,6 +74,16 @@ TEST(StoringAValue, ReachesTheDiskBeforeItReturns)
               (Calls{"sync file", "rename", "sync folder"}));
     EXPECT_EQ(CallsOf([] { EXPECT_TRUE(CLocalRegStore::WriteString(L"Section", L"Key", L"other")); }),
               (Calls{"sync file", "exchange", "sync folder"}));
+}
+
+// A signal can interrupt the sync on some file systems, such as those of FUSE.
+TEST(StoringAValue, SyncsTheFolderAgainAfterASignal)
+{
+    const TempUserData data;
+    g_interruptsFolderSync = true;
+    EXPECT_EQ(CallsOf([] { EXPECT_TRUE(CLocalRegStore::WriteString(L"Section", L"Key", L"value")); }),
+              (Calls{"sync file", "rename", "sync folder", "sync folder"}));
+    EXPECT_FALSE(g_interruptsFolderSync);
 }
 
 TEST(ABatchOfTwentyTwoValues, ReachesTheDiskByOneSave)

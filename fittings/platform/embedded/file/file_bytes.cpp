@@ -102,7 +102,7 @@ void SyncFolder(const std::string& folder)
 {
     const FileDescriptor descriptor(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (descriptor.Get() >= 0)
-        fsync(descriptor.Get());
+        Sync(descriptor.Get());
 }
 
 // Replaces @a bytes with the whole content of the open file.

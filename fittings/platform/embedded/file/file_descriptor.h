@@ -1,6 +1,8 @@
 #ifndef FITTINGS_PLATFORM_EMBEDDED_FILE_FILE_DESCRIPTOR_H_
 #define FITTINGS_PLATFORM_EMBEDDED_FILE_FILE_DESCRIPTOR_H_
 
+#include <cerrno>
+
 #include <unistd.h>
 
 namespace fittings {
@@ -23,6 +25,15 @@ public:
 private:
     const int m_fd;
 };
+
+/// Writes the open file or folder to the disk, even if a signal interrupts the call. Returns false on an error.
+inline bool Sync(int fd)
+{
+    int result = fsync(fd);
+    while (result != 0 && errno == EINTR)
+        result = fsync(fd);
+    return result == 0;
+}
 
 }  // namespace fittings
 

@@ -11,7 +11,6 @@
 #include <unistd.h>
 
 #include <glib.h>
-#include <glib/gstdio.h>
 
 #include <fittings/platform/embedded/file/file_bytes.h>
 #include <fittings/platform/embedded/file/file_descriptor.h>
@@ -98,7 +97,7 @@ bool WriteDurably(int fd, std::string_view bytes)
             return false;
         bytes.remove_prefix(static_cast<std::size_t>(count));
     }
-    return g_fsync(fd) == 0;
+    return Sync(fd);
 }
 
 void KeepOwnerAndMode(int fd, const struct stat& old)
