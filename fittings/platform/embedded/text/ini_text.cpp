@@ -247,12 +247,12 @@ void IniText::AppendNewKeys(std::string& text, const Section& section) const
 void IniText::AppendNewSections(std::string& text) const
 {
     for (const Section& section : m_sections) {
-        if (section.lastLine != kNone || section.isRemoved)
+        if (section.lastLine != kNone || section.isRemoved || section.name == kEarlyKeys)
             continue;
         const std::string header = std::string("[").append(section.name).append("]").append(LineEnd());
         std::string lines = header;
         AppendNewKeys(lines, section);
-        if (section.name == kEarlyKeys || (lines == header && !section.isMade))
+        if (lines == header && !section.isMade)
             continue;
         if (text.size() > ByteOrderMarkSize(text)) {
             if (text.back() != '\n')
