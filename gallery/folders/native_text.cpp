@@ -1,7 +1,5 @@
 #include <gallery/folders/native_text.h>
 
-#include <string_view>
-
 #include <glib.h>
 #include <wx/datetime.h>
 #include <wx/filefn.h>
@@ -11,74 +9,24 @@
 
 namespace gallery {
 
-namespace {
-
-/// Returns how many bytes at the start of @a text are UTF-8.
-std::size_t Utf8Length(std::string_view text)
-{
-    const char* end = nullptr;
-    g_utf8_validate(text.data(), static_cast<gssize>(text.size()), &end);
-    return static_cast<std::size_t>(end - text.data());
-}
-
-/// Calls @a ofText for each byte of valid UTF-8, and @a other for all other bytes.
-template <typename OfText, typename Other>
-void ForEachByte(std::string_view bytes, OfText ofText, Other other)
-{
-    while (!bytes.empty()) {
-        const std::size_t good = Utf8Length(bytes);
-        for (const char byte : bytes.substr(0, good))
-            ofText(byte);
-        bytes.remove_prefix(good);
-        if (!bytes.empty()) {
-            other(bytes.front());
-            bytes.remove_prefix(1);
-        }
-    }
-}
-
-void AppendPercent(std::string& text, unsigned char byte)
-{
-    static constexpr char kDigits[] = "0123456789ABCDEF";
-    text += '%';
-    text += kDigits[byte >> 4];
-    text += kDigits[byte & 15];
-}
-
-bool IsControl(unsigned char byte)
-{
-    return byte < 0x20 || byte == 0x7F;
-}
-
-}  // namespace
-
 wxString DisplayText(const std::string& bytes)
 {
-    std::string text;
-    const auto appendPicture = [&text](char c) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (byte == 0x7F)
-            text += "\u2421";
-        else if (byte < 0x20)
-            text += {'\xE2', '\x90', static_cast<char>(0x80 + byte)};
-        else
-            text += c;
-    };
-    ForEachByte(bytes, appendPicture, [&text](char) { text += "\uFFFD"; });
-    return wxString::FromUTF8(text);
+    g_autofree gchar* valid = g_utf8_make_valid(bytes.data(), static_cast<gssize>(bytes.size()));
+    std::wstring text = file_util_ex::ConvertFromUTF8W(valid);
+    for (wchar_t& c : text) {
+        if (c == 0x7F)
+            c = L'\u2421';
+        else if (c < 0x20)
+            c = static_cast<wchar_t>(L'\u2400' + c);
+    }
+    return text;
 }
 
 std::wstring TextFromPath(const std::string& path)
 {
-    std::string text;
-    const auto appendPercent = [&text](char byte) { AppendPercent(text, static_cast<unsigned char>(byte)); };
-    const auto append = [&](char c) {
-        if (c == '%' || c == '|' || IsControl(static_cast<unsigned char>(c)))
-            appendPercent(c);
-        else
-            text += c;
-    };
-    ForEachByte(path, append, appendPercent);
+    // What stays as it is besides letters, digits and "-._~": the rest of printable ASCII except "%" and "|".
+    static constexpr char kKept[] = " !\"#$&'()*+,/:;<=>?@[\\]^`{}";
+    g_autofree gchar* text = g_uri_escape_string(path.c_str(), kKept, TRUE);
     return file_util_ex::ConvertFromUTF8W(text);
 }
 
@@ -107,10 +55,8 @@ std::string PathFromDialog(const wxString& path)
 
 wxString HumanSize(std::uint64_t bytes)
 {
-    gchar* text = g_format_size(bytes);
-    const wxString size = wxString::FromUTF8(text);
-    g_free(text);
-    return size;
+    g_autofree gchar* text = g_format_size(bytes);
+    return wxString::FromUTF8(text);
 }
 
 wxString ExactSize(std::uint64_t bytes)

@@ -74,10 +74,8 @@ private:
 
 std::string FileIn(GtkWidget* dialog)
 {
-    gchar* file = gtk_file_chooser_get_filename(GTK_FILE_CHOOSER(dialog));
-    std::string path = file ? file : "";
-    g_free(file);
-    return path;
+    g_autofree gchar* file = gtk_file_chooser_get_filename(GTK_FILE_CHOOSER(dialog));
+    return file ? file : "";
 }
 
 /// Returns the place of the accepting button on the screen; empty while the button is disabled.
