@@ -20,6 +20,9 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
+/// The shown types, in the order of EntryKind.
+constexpr const char* kTypes[] = {"Folder", "File", "Link", "Pipe", "Socket", "Device", "Unknown"};
+
 EntryKind KindOfMode(mode_t mode)
 {
     switch (mode & S_IFMT) {
@@ -66,27 +69,6 @@ std::string TypeOfFile(const std::string& name, bool executable)
     return executable ? "Program" : "File";
 }
 
-std::string TypeText(EntryKind kind, const std::string& name, bool executable)
-{
-    switch (kind) {
-    case EntryKind::Folder:
-        return "Folder";
-    case EntryKind::File:
-        return TypeOfFile(name, executable);
-    case EntryKind::Link:
-        return "Link";
-    case EntryKind::Pipe:
-        return "Pipe";
-    case EntryKind::Socket:
-        return "Socket";
-    case EntryKind::Device:
-        return "Device";
-    case EntryKind::Unknown:
-        break;
-    }
-    return "Unknown";
-}
-
 std::string TargetOf(int folder, const char* name)
 {
     char target[PATH_MAX];
@@ -112,7 +94,8 @@ int Describe(Entry& entry, int folder, const dirent& found)
     }
     if (entry.kind == EntryKind::Link)
         entry.target = TargetOf(folder, found.d_name);
-    entry.type = TypeText(entry.kind, entry.name, executable);
+    entry.type = entry.kind == EntryKind::File ? TypeOfFile(entry.name, executable)
+                                               : kTypes[static_cast<std::size_t>(entry.kind)];
     return error;
 }
 
@@ -142,22 +125,15 @@ std::string Folded(const std::string& name)
             c = g_ascii_tolower(c);
         return folded;
     }
-    gchar* decomposed = g_utf8_normalize(name.data(), static_cast<gssize>(name.size()), G_NORMALIZE_ALL);
-    gchar* lower = g_utf8_casefold(decomposed, -1);
+    g_autofree gchar* decomposed = g_utf8_normalize(name.data(), static_cast<gssize>(name.size()), G_NORMALIZE_ALL);
+    g_autofree gchar* lower = g_utf8_casefold(decomposed, -1);
     std::string folded;
     for (const gchar *c = lower, *next; *c; c = next) {
         next = g_utf8_next_char(c);
         if (!g_unichar_ismark(g_utf8_get_char(c)))
             folded.append(c, next);
     }
-    g_free(lower);
-    g_free(decomposed);
     return folded;
-}
-
-bool IsDigit(char c)
-{
-    return g_ascii_isdigit(c);
 }
 
 }  // namespace
@@ -218,14 +194,14 @@ std::string SortKey(const std::string& name)
     std::string key;
     key.reserve(folded.size() + 2);
     for (std::size_t i = 0; i < folded.size();) {
-        if (!IsDigit(folded[i])) {
+        if (!g_ascii_isdigit(folded[i])) {
             key += folded[i++];
             continue;
         }
-        while (i + 1 < folded.size() && folded[i] == '0' && IsDigit(folded[i + 1]))
+        while (i + 1 < folded.size() && folded[i] == '0' && g_ascii_isdigit(folded[i + 1]))
             ++i;
         std::size_t end = i;
-        while (end < folded.size() && IsDigit(folded[end]))
+        while (end < folded.size() && g_ascii_isdigit(folded[end]))
             ++end;
         // Put the length of a number before its digits, because the longer number is the greater. The length fits in a
         // byte: a file name has at most 255 bytes.

@@ -26,24 +26,19 @@ std::string Quoted(const std::string& text)
     return quoted + '"';
 }
 
-std::string Utf8(const wxString& text)
-{
-    return std::string(text.utf8_str());
-}
-
 }  // namespace
 
 std::string ReportText(const std::string& folder, const std::vector<Entry>& entries)
 {
     std::string text = "Name,Kind,Bytes,Modified,Path\r\n";
     for (const Entry& entry : entries) {
-        text += Quoted(Utf8(DisplayText(entry.name))) + ',' + Quoted(entry.type) + ',';
+        text += Quoted(DisplayText(entry.name).utf8_string()) + ',' + Quoted(entry.type) + ',';
         if (entry.HasSize())
             text += std::to_string(entry.size);
         text += ',';
         if (entry.known)
-            text += Utf8(HumanTime(entry.modified));
-        text += ',' + Quoted(Utf8(DisplayText(JoinPath(folder, entry.name)))) + "\r\n";
+            text += HumanTime(entry.modified).utf8_string();
+        text += ',' + Quoted(DisplayText(JoinPath(folder, entry.name)).utf8_string()) + "\r\n";
     }
     return text;
 }
