@@ -18,11 +18,10 @@ namespace gallery {
 namespace {
 
 constexpr int kNameCharacters = 24;
-constexpr SortColumn kColumns[] = {SortColumn::Name, SortColumn::Size, SortColumn::Type, SortColumn::Modified};
 
 unsigned IndexOf(SortColumn column)
 {
-    return static_cast<unsigned>(std::find(std::begin(kColumns), std::end(kColumns), column) - std::begin(kColumns));
+    return static_cast<unsigned>(column);
 }
 
 /// Puts @a pixels of space beside each cell, which aligns the texts with their header. Shortens long texts in the
@@ -108,19 +107,10 @@ public:
 
     const Entry& At(unsigned row) const { return m_entries[m_positions[row]]; }
 
-    /// Returns the row of an entry of this model, or the number of rows when it is not shown.
-    unsigned RowOf(const Entry& entry) const
-    {
-        const auto position = static_cast<std::uint32_t>(&entry - m_entries.data());
-        return static_cast<unsigned>(std::find(m_positions.begin(), m_positions.end(), position) - m_positions.begin());
-    }
-
-    const std::vector<Entry>& Entries() const { return m_entries; }
-
     void GetValueByRow(wxVariant& value, unsigned row, unsigned column) const override
     {
         const Entry& entry = At(row);
-        switch (kColumns[column]) {
+        switch (static_cast<SortColumn>(column)) {
         case SortColumn::Name:
             value << wxDataViewIconText(LabelOf(entry), IconOf(entry));
             break;
@@ -203,7 +193,7 @@ ContentsList::ContentsList(wxWindow* parent)
     GtkTreeViewColumn* name = GTK_TREE_VIEW_COLUMN(GetColumn(IndexOf(SortColumn::Name))->GetGtkHandle());
     gtk_tree_view_column_set_expand(name, TRUE);
 
-    Bind(wxEVT_DATAVIEW_COLUMN_SORTED, &ContentsList::OnColumnSorted, this);
+    Bind(wxEVT_DATAVIEW_COLUMN_SORTED, [this](wxDataViewEvent& event) { SortByColumn(event.GetDataViewColumn()); });
     ShowOrder();
 }
 
@@ -273,9 +263,9 @@ wxDataViewItem ContentsList::ItemOf(unsigned row) const
 
 void ContentsList::SelectEntry(const std::string& name)
 {
-    for (const Entry& entry : m_model->Entries()) {
-        if (entry.name == name && m_model->RowOf(entry) < CountRows()) {
-            const wxDataViewItem item = ItemOf(m_model->RowOf(entry));
+    for (unsigned row = 0; row < CountRows(); ++row) {
+        if (GetEntry(row).name == name) {
+            const wxDataViewItem item = ItemOf(row);
             Select(item);
             EnsureVisible(item);
             return;
@@ -288,25 +278,17 @@ void ContentsList::SortBy(SortOrder order)
     const Entry* selected = GetSelectedEntry();
     m_order = order;
     m_model->Sort(order);
-    if (selected) {
-        const wxDataViewItem item = ItemOf(m_model->RowOf(*selected));
-        Select(item);
-        EnsureVisible(item);
-    }
+    if (selected)
+        SelectEntry(selected->name);
     ShowOrder();
     Refresh();
-}
-
-void ContentsList::OnColumnSorted(wxDataViewEvent& event)
-{
-    SortByColumn(event.GetDataViewColumn());
 }
 
 /// Sorts by @a column in the order that its header shows; null changes nothing.
 void ContentsList::SortByColumn(const wxDataViewColumn* column)
 {
     if (column)
-        SortBy({kColumns[column->GetModelColumn()], column->IsSortOrderAscending()});
+        SortBy({static_cast<SortColumn>(column->GetModelColumn()), column->IsSortOrderAscending()});
 }
 
 /// Puts the arrow into the header of the column that the rows are sorted by.

@@ -65,7 +65,6 @@ public:
     void RememberColumns();
 
 private:
-    void OnColumnSorted(wxDataViewEvent& event);
     void SortByColumn(const wxDataViewColumn* column);
     void ShowOrder();
 

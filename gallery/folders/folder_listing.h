@@ -51,6 +51,7 @@ std::vector<Subfolder> ReadSubfolders(const std::string& path);
 /// Returns the key by which a name is sorted: case and accents do not count, and numbers count by their value.
 std::string SortKey(const std::string& name);
 
+/// The columns of the list, in their order.
 enum class SortColumn { Name, Size, Type, Modified };
 
 struct SortOrder
