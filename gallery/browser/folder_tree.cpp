@@ -23,19 +23,6 @@ wxBitmap Icon(const wxArtID& id, const wxWindow* window)
     return wxArtProvider::GetBitmapBundle(id, wxART_OTHER, wxSize(16, 16)).GetBitmapFor(window);
 }
 
-/// Makes GetItemText() return paths while the object exists.
-class NamePaths
-{
-public:
-    explicit NamePaths(bool& flag) : m_flag(flag) { m_flag = true; }
-    ~NamePaths() { m_flag = false; }
-    NamePaths(const NamePaths&) = delete;
-    NamePaths& operator=(const NamePaths&) = delete;
-
-private:
-    bool& m_flag;
-};
-
 /// Returns the parent folder. For the root folder, returns the root folder.
 std::string ParentPath(const std::string& path)
 {
@@ -88,13 +75,8 @@ void FolderTree::SetRootFolder(const std::string& path)
 
 std::string FolderTree::PathOf(const wxTreeItemId& item) const
 {
-    std::vector<wxTreeItemId> levels;
-    for (wxTreeItemId level = item; level != GetRootItem(); level = GetItemParent(level))
-        levels.push_back(level);
-    std::string path = m_root;
-    for (auto level = levels.rbegin(); level != levels.rend(); ++level)
-        path = JoinPath(path, NameOf(*level));
-    return path;
+    const std::string below = PathBelowRoot(item);
+    return m_root == "/" && !below.empty() ? below : m_root + below;
 }
 
 std::string FolderTree::GetSelectedPath()
@@ -174,17 +156,19 @@ void FolderTree::Reread()
 
 void FolderTree::SaveExpanded()
 {
-    const NamePaths paths(m_namesPaths);
     wxTreeCursor root(this, GetRootItem());
+    m_namesPaths = true;
     SaveState(root);
+    m_namesPaths = false;
 }
 
 void FolderTree::LoadExpanded()
 {
     const wxWindowUpdateLocker frozen(this);
-    const NamePaths paths(m_namesPaths);
     wxTreeCursor root(this, GetRootItem());
+    m_namesPaths = true;
     LoadState(root);
+    m_namesPaths = false;
 }
 
 void FolderTree::ForgetExpanded(const std::string& root)
@@ -199,7 +183,10 @@ void FolderTree::OnItemExpanding(const wxTreeCursor& item)
 
 wxString FolderTree::GetItemText(const wxTreeItemId& item) const
 {
-    return m_namesPaths ? wxString(StateTextOf(item)) : wxHandyTreeCtrl::GetItemText(item);
+    if (!m_namesPaths)
+        return wxHandyTreeCtrl::GetItemText(item);
+    const std::string path = PathBelowRoot(item);
+    return TextFromPath(path.empty() ? "/" : path);
 }
 
 void FolderTree::Fill(const wxTreeItemId& item)
@@ -284,12 +271,13 @@ const std::string& FolderTree::NameOf(const wxTreeItemId& item) const
     return m_names[static_cast<std::size_t>(data->GetValue())];
 }
 
-std::wstring FolderTree::StateTextOf(const wxTreeItemId& item) const
+/// Returns a path such as "/Photos/2026 Lake"; empty for the root.
+std::string FolderTree::PathBelowRoot(const wxTreeItemId& item) const
 {
     std::string path;
     for (wxTreeItemId level = item; level != GetRootItem(); level = GetItemParent(level))
         path.insert(0, "/" + NameOf(level));
-    return TextFromPath(path.empty() ? "/" : path);
+    return path;
 }
 
 }  // namespace gallery

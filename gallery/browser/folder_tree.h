@@ -78,12 +78,12 @@ private:
     std::vector<wxTreeItemId> ChildrenOf(const wxTreeItemId& item) const;
     wxTreeItemId FindSubfolder(const wxTreeItemId& item, const std::string& name);
     const std::string& NameOf(const wxTreeItemId& item) const;
-    std::wstring StateTextOf(const wxTreeItemId& item) const;
+    std::string PathBelowRoot(const wxTreeItemId& item) const;
 
     std::string m_root;
     std::vector<std::string> m_names;
     Images m_images{};
-    bool m_namesPaths = false;
+    bool m_namesPaths = false;  ///< True while GetItemText() returns paths.
 };
 
 }  // namespace gallery
