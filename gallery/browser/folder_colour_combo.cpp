@@ -55,11 +55,6 @@ void FolderColourCombo::ShowColour(const wxColour& colour, const wxColour& autom
     SetText("");
 }
 
-wxColourPopup* FolderColourCombo::GetColourPopup() const
-{
-    return m_colours;
-}
-
 void FolderColourCombo::OnColourSelChange(const wxColour& colour)
 {
     m_onLook(m_colours->FolderColour(colour, m_colour));

@@ -24,8 +24,6 @@ public:
     /// Shows the colour of another folder. @a automatic is the colour in which "Automatic" is shown.
     void ShowColour(const wxColour& colour, const wxColour& automatic);
 
-    wxColourPopup* GetColourPopup() const;
-
 private:
     class ColourPopup;
 

@@ -104,11 +104,6 @@ ColoursPage::~ColoursPage()
     m_combo->HidePopup(false);
 }
 
-wxColourPopup* ColoursPage::GetColourPopup() const
-{
-    return m_combo->GetPopup();
-}
-
 void ColoursPage::SaveSettings() const
 {
     m_options->SaveSettings();

@@ -7,7 +7,6 @@
 #include <fittings/colour/colour_combo.h>
 
 class wxBoxSizer;
-class wxColourPopup;
 class wxDataViewListCtrl;
 class wxSizer;
 class wxStaticText;
@@ -27,7 +26,6 @@ public:
     ~ColoursPage() override;
 
     wxColourCombo* GetCombo() const { return m_combo; }
-    wxColourPopup* GetColourPopup() const;
 
     /// Returns the list of the events and their colours, with the latest event at the bottom.
     wxDataViewListCtrl* GetEvents() const { return m_events; }

@@ -42,7 +42,7 @@ bool Tour::OpenFolderColours()
 {
     const FolderColourCombo& combo = *m_frame->GetBrowser()->GetColour();
     Press('T', wxMOD_CONTROL);
-    return Waits([&] { return combo.GetColourPopup()->IsShownOnScreen(); }, "Ctrl+T opens the colours");
+    return Waits([&] { return combo.GetPopup()->IsShownOnScreen(); }, "Ctrl+T opens the colours");
 }
 
 /// Waits until the popup closes. Returns whether it closes in time, the selected folder is shown in the colour of @a
@@ -51,7 +51,7 @@ bool Tour::FolderGets(int cell)
 {
     const FolderColourCombo& combo = *m_frame->GetBrowser()->GetColour();
     FolderTree& tree = *m_frame->GetBrowser()->GetTree();
-    const wxColour colour = combo.GetColourPopup()->GetColour(cell);
+    const wxColour colour = combo.GetPopup()->GetColour(cell);
     return Waits([&] { return !combo.IsPopupShown(); }, "a choice closes the colours") &&
            IsTrue(tree.GetItemTextColour(tree.GetSelection().item) == ReadableOn(tree.GetBackgroundColour(), colour),
                   "the folder is shown in its colour") &&
@@ -61,7 +61,7 @@ bool Tour::FolderGets(int cell)
 bool Tour::ColourFolder()
 {
     FolderTree& tree = *m_frame->GetBrowser()->GetTree();
-    const wxColourPopup& colours = *m_frame->GetBrowser()->GetColour()->GetColourPopup();
+    const wxColourPopup& colours = *m_frame->GetBrowser()->GetColour()->GetPopup();
     if (!OpenFolderColours())
         return false;
     // The keys move from "More Colours..." through "Automatic" and black to the second row, whose fourth cell is a
@@ -123,7 +123,7 @@ bool Tour::TypeNumber()
 bool Tour::ChooseColour()
 {
     ColoursPage& page = *m_frame->GetColours();
-    const wxColourPopup& colours = *page.GetColourPopup();
+    const wxColourPopup& colours = *page.GetCombo()->GetPopup();
     const wxDataViewListCtrl& events = *page.GetEvents();
     const auto lastEvent = [&events] { return events.GetTextValue(events.GetItemCount() - 1, 0); };
     if (!ShowPage('3', &page))
@@ -144,10 +144,11 @@ bool Tour::ChooseColour()
         return false;
 
     Press('A', wxMOD_ALT);
-    if (!Waits([&] { return page.GetColourPopup()->GetRow(CELL_AUTOMATIC) == -1; }, "\"Automatic\" can be left out"))
+    if (!Waits([&] { return page.GetCombo()->GetPopup()->GetRow(CELL_AUTOMATIC) == -1; },
+               "\"Automatic\" can be left out"))
         return false;
     Press('A', wxMOD_ALT);
-    return Waits([&] { return page.GetColourPopup()->GetRow(CELL_AUTOMATIC) == CELL_AUTOMATIC; },
+    return Waits([&] { return page.GetCombo()->GetPopup()->GetRow(CELL_AUTOMATIC) == CELL_AUTOMATIC; },
                  "\"Automatic\" can be brought back") &&
            ShowPage('1', m_frame->GetBrowser());
 }

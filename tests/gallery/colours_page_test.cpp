@@ -53,7 +53,7 @@ protected:
 
     ColoursPage& Page() { return *frame->GetColours(); }
     wxColourCombo& Combo() { return *Page().GetCombo(); }
-    wxColourPopup& Popup() { return *Page().GetColourPopup(); }
+    wxColourPopup& Popup() { return *Page().GetCombo()->GetPopup(); }
 
     template <typename Control>
     Control& Get(const wxString& name)

@@ -49,8 +49,7 @@ protected:
     void OpenColours()
     {
         Press('T', wxMOD_CONTROL);
-        ASSERT_TRUE(
-            PumpUntil([this] { return Combo().IsPopupShown() && Combo().GetColourPopup()->IsShownOnScreen(); }));
+        ASSERT_TRUE(PumpUntil([this] { return Combo().IsPopupShown() && Combo().GetPopup()->IsShownOnScreen(); }));
     }
 
     /// Points at a cell of the open colours, and clicks it.
@@ -64,8 +63,8 @@ protected:
     void PointAtCell(int cell)
     {
         wxRect rect;
-        ASSERT_TRUE(Combo().GetColourPopup()->GetCellRect(cell, rect));
-        PointAt(Combo().GetColourPopup()->ClientToScreen(CentreOf(rect)));
+        ASSERT_TRUE(Combo().GetPopup()->GetCellRect(cell, rect));
+        PointAt(Combo().GetPopup()->ClientToScreen(CentreOf(rect)));
     }
 
     void Select(const std::string& path)
@@ -92,13 +91,13 @@ TEST_F(FolderColours, AClickGivesAFolderOne)
     ClickCell(darkRedCell);
     EXPECT_TRUE(PumpUntil([&] { return ColourOf("docs") == shownRed.inTree; }));
     EXPECT_EQ(LocationColour(), shownRed.inLocation);
-    EXPECT_EQ(Combo().GetColourPopup()->GetInitialColour(), darkRed);
+    EXPECT_EQ(Combo().GetPopup()->GetInitialColour(), darkRed);
     EXPECT_FALSE(ColourOf("music").IsOk());
     EXPECT_FALSE(ColourOf("").IsOk());
     Select("music");
     EXPECT_EQ(ColourOf("docs"), shownRed.inTree);
     EXPECT_NE(LocationColour(), shownRed.inLocation);
-    EXPECT_EQ(Combo().GetColourPopup()->GetInitialColour(), Tree().GetForegroundColour());
+    EXPECT_EQ(Combo().GetPopup()->GetInitialColour(), Tree().GetForegroundColour());
 }
 
 // The first Down leads to "More Colours...", and the others lead on to "Automatic", to black and to dark red.
@@ -190,16 +189,16 @@ TEST_F(FolderColours, TheFoldersOwnIsMarked)
     };
     Select("docs");
     OpenColours();
-    EXPECT_EQ(Inside::Marked(*Combo().GetColourPopup()), CELL_AUTOMATIC);
+    EXPECT_EQ(Inside::Marked(*Combo().GetPopup()), CELL_AUTOMATIC);
     ClickCell(indigoCell);
     Select("music");
     OpenColours();
-    EXPECT_EQ(Inside::Marked(*Combo().GetColourPopup()), CELL_AUTOMATIC);
+    EXPECT_EQ(Inside::Marked(*Combo().GetPopup()), CELL_AUTOMATIC);
     Press(WXK_ESCAPE);
     ASSERT_TRUE(PumpUntil([&] { return !Combo().IsPopupShown(); }));
     Select("docs");
     OpenColours();
-    EXPECT_EQ(Inside::Marked(*Combo().GetColourPopup()), indigoCell);
+    EXPECT_EQ(Inside::Marked(*Combo().GetPopup()), indigoCell);
 }
 
 TEST_F(FolderColours, EachFolderStartsWithItsOwn)
