@@ -124,27 +124,22 @@ void GalleryFrame::ShareMenuKeys(wxWindow* pane)
 
 void GalleryFrame::BindEvents()
 {
-    const auto bindCommand = [this](int id, void (BrowserPage::*run)()) {
+    const auto bindCommand = [this](int id, const std::function<void()>& run) {
         Bind(
-            wxEVT_MENU, [this, run](wxCommandEvent&) { std::invoke(run, *m_browser); }, id);
+            wxEVT_MENU, [run](wxCommandEvent&) { run(); }, id);
     };
-    bindCommand(wxID_UP, &BrowserPage::GoUp);
-    bindCommand(wxID_REFRESH, &BrowserPage::RefreshFolders);
-    bindCommand(wxID_VIEW_LIST, &BrowserPage::ToggleFolders);
-    bindCommand(wxID_SAVEAS, &BrowserPage::SaveReport);
-    bindCommand(wxID_SELECT_COLOR, &BrowserPage::ChooseColour);
-    bindCommand(wxID_RESET, &BrowserPage::ResetLayout);
-    Bind(
-        wxEVT_MENU,
-        [this](wxCommandEvent&) {
-            ShowPage(m_pages->FindPage(m_browser));
-            m_browser->OpenFolder();
-        },
-        wxID_OPEN);
-    Bind(
-        wxEVT_MENU, [this](wxCommandEvent&) { Close(); }, wxID_EXIT);
-    Bind(
-        wxEVT_MENU, [this](wxCommandEvent&) { OnAbout(); }, wxID_ABOUT);
+    bindCommand(wxID_UP, [this] { m_browser->GoUp(); });
+    bindCommand(wxID_REFRESH, [this] { m_browser->RefreshFolders(); });
+    bindCommand(wxID_VIEW_LIST, [this] { m_browser->ToggleFolders(); });
+    bindCommand(wxID_SAVEAS, [this] { m_browser->SaveReport(); });
+    bindCommand(wxID_SELECT_COLOR, [this] { m_browser->ChooseColour(); });
+    bindCommand(wxID_RESET, [this] { m_browser->ResetLayout(); });
+    bindCommand(wxID_OPEN, [this] {
+        ShowPage(m_pages->FindPage(m_browser));
+        m_browser->OpenFolder();
+    });
+    bindCommand(wxID_EXIT, [this] { Close(); });
+    bindCommand(wxID_ABOUT, [this] { OnAbout(); });
     Bind(
         wxEVT_MENU, [this](wxCommandEvent& event) { ShowPage(event.GetId() - kFirstPageId); }, kFirstPageId,
         kFirstPageId + static_cast<int>(m_pages->GetPageCount()) - 1);
@@ -190,13 +185,10 @@ void GalleryFrame::ShowState()
 
     wxMenuBar* menus = GetMenuBar();
     menus->Check(kFirstPageId + m_pages->GetSelection(), true);
-    menus->Enable(wxID_REFRESH, browser);
-    menus->Enable(wxID_SAVEAS, browser);
+    for (const int id : {wxID_REFRESH, wxID_SAVEAS, wxID_VIEW_LIST, wxID_SELECT_COLOR, wxID_RESET})
+        menus->Enable(id, browser);
     menus->Enable(wxID_UP, browser && m_browser->HasFolderAbove());
-    menus->Enable(wxID_VIEW_LIST, browser);
     menus->Check(wxID_VIEW_LIST, m_browser->ShowsFolders());
-    menus->Enable(wxID_SELECT_COLOR, browser);
-    menus->Enable(wxID_RESET, browser);
 }
 
 /// Opens a recent folder. Removes it from the menu if it cannot be opened.

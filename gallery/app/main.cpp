@@ -19,8 +19,6 @@
 
 namespace {
 
-using gallery::GalleryFrame;
-
 constexpr const char* kUsage = "Usage: fittings-gallery [--tour DIR] [FOLDER]\n"
                                "Browse FOLDER, by default the folder of the last session.\n"
                                "\n"
@@ -139,7 +137,7 @@ public:
             return wxApp::OnRun();
         wxGUIEventLoop loop;
         const wxEventLoopActivator active(&loop);
-        return gallery::Tour(g_line.pictures, g_line.folder).Run() ? 0 : 1;
+        return Tour(g_line.pictures, g_line.folder).Run() ? 0 : 1;
     }
 
 private:
