@@ -42,7 +42,12 @@ SizesRow::SizesRow(wxWindow* parent, std::function<void(const SizeNews&)> onNews
     SetSizer(row);
 
     Bind(EVT_SIZE_NEWS, &SizesRow::OnNews, this);
-    m_button->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { OnButton(); });
+    m_button->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) {
+        if (IsRunning())
+            Stop();
+        else
+            Start(m_folder);
+    });
 }
 
 void SizesRow::Start(const std::string& folder)
@@ -88,14 +93,6 @@ void SizesRow::OnNews(wxCommandEvent& event)
     }
 }
 
-void SizesRow::OnButton()
-{
-    if (m_worker)
-        Stop();
-    else
-        Start(m_folder);
-}
-
 SizeNews SizesRow::PassOnNews()
 {
     SizeNews news = m_worker->TakeNews();
@@ -106,11 +103,11 @@ SizeNews SizesRow::PassOnNews()
 /// Shows a text such as "8.7 GB in 171,661 items, 540,000 a second", and the progress in the bar.
 void SizesRow::ShowNumbers(const SizeNews& news, const wxString& state)
 {
-    const auto grouped = [](double number) { return GroupedNumber(static_cast<std::uint64_t>(number)); };
     const double seconds = std::max(std::chrono::duration<double>(Clock::now() - m_start).count(), 1e-3);
+    const auto perSecond = static_cast<std::uint64_t>(static_cast<double>(news.soFar.items) / seconds);
     wxString text;
     text << HumanSize(news.soFar.bytes) << " in " << GroupedNumber(news.soFar.items) << " items, "
-         << grouped(static_cast<double>(news.soFar.items) / seconds) << " a second";
+         << GroupedNumber(perSecond) << " a second";
     if (news.soFar.unreadable > 0)
         text << ", " << GroupedNumber(news.soFar.unreadable) << " unreadable";
     if (!state.empty())

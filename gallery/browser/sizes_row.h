@@ -42,7 +42,6 @@ private:
     using Clock = std::chrono::steady_clock;
 
     void OnNews(wxCommandEvent& event);
-    void OnButton();
     SizeNews PassOnNews();
     void ShowNumbers(const SizeNews& news, const wxString& state);
     void ShowRunning(bool running);

@@ -22,11 +22,6 @@ namespace {
 
 constexpr int kFieldWidth = 130;
 
-wxFlexGridSizer* MakeGrid(const wxWindow& panel, int columns)
-{
-    return new wxFlexGridSizer(columns, panel.FromDIP(wxSize(kGap, kGap)));
-}
-
 /// Makes the rows of several columns equally high, so that they line up.
 void AlignRows(std::initializer_list<wxSizer*> grids)
 {
@@ -64,7 +59,7 @@ ColourOptionFields::ColourOptionFields(wxWindow* parent) : wxPanel(parent)
     SetSizer(m_columns);
 
     LoadSettings();
-    EnableFields();
+    OnChange();
     const auto onChange = [this](wxCommandEvent&) { OnChange(); };
     Bind(wxEVT_CHECKBOX, onChange);
     Bind(wxEVT_SPINCTRL, onChange);
@@ -126,7 +121,7 @@ void ColourOptionFields::LoadSettings()
 wxSizer* ColourOptionFields::MakeBoxes()
 {
     const ColourOptions first;
-    auto* grid = MakeGrid(*this, 2);
+    auto* grid = new wxFlexGridSizer(2, FromDIP(wxSize(kGap, kGap)));
     const auto makeText = [&](const char* name, const wxString& accessibleName) {
         auto* text = new wxTextCtrl(this, wxID_ANY, "", wxDefaultPosition, FromDIP(wxSize(kFieldWidth, -1)));
         text->SetName(name);
@@ -155,7 +150,7 @@ wxSizer* ColourOptionFields::MakeBoxes()
 wxSizer* ColourOptionFields::MakeCells()
 {
     const ColourOptions first;
-    auto* grid = MakeGrid(*this, 2);
+    auto* grid = new wxFlexGridSizer(2, FromDIP(wxSize(kGap, kGap)));
     const auto makeRow = [&](wxSpinCtrl*& field, const wxString& label, const char* name, int value, int least,
                              int most) {
         grid->Add(new wxStaticText(this, wxID_ANY, label), wxSizerFlags().CentreVertical());
@@ -182,7 +177,7 @@ wxSizer* ColourOptionFields::MakeBehaviour()
     animation->Add(m_animate, wxSizerFlags().CentreVertical().Border(wxRIGHT, FromDIP(kGap)));
     animation->Add(m_duration, wxSizerFlags().CentreVertical().Border(wxRIGHT, FromDIP(kGap)));
     animation->Add(new wxStaticText(this, wxID_ANY, "ms"), wxSizerFlags().CentreVertical());
-    auto* grid = MakeGrid(*this, 1);
+    auto* grid = new wxFlexGridSizer(1, FromDIP(wxSize(kGap, kGap)));
     for (wxCheckBox* box : {m_readOnly, m_refresh, m_centre})
         grid->Add(box, wxSizerFlags().CentreVertical());
     grid->Add(animation, wxSizerFlags().CentreVertical());
@@ -205,16 +200,12 @@ wxSpinCtrl* ColourOptionFields::MakeCount(const char* name, int first, int least
     return field;
 }
 
-void ColourOptionFields::EnableFields()
+/// Enables the fields of the options in force, and sends EVT_COLOUR_OPTIONS_CHANGED.
+void ColourOptionFields::OnChange()
 {
     m_automatic->Enable(m_hasAutomatic->GetValue());
     m_more->Enable(m_hasMore->GetValue());
     m_duration->Enable(m_animate->GetValue());
-}
-
-void ColourOptionFields::OnChange()
-{
-    EnableFields();
     TellChange(*this, EVT_COLOUR_OPTIONS_CHANGED);
 }
 

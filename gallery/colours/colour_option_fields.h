@@ -42,7 +42,6 @@ private:
     wxSizer* MakeBehaviour();
     wxCheckBox* MakeFlag(const char* name, const wxString& label, bool value);
     wxSpinCtrl* MakeCount(const char* name, int first, int least, int most);
-    void EnableFields();
     void OnChange();
 
     wxBoxSizer* m_columns = nullptr;

@@ -111,11 +111,6 @@ wchar_t CharacterIn(const wxTextCtrl& field)
     return text.empty() ? L'\0' : static_cast<wchar_t>(text[0]);
 }
 
-wxString TextOf(double number)
-{
-    return wxString::Format("%.15g", number);
-}
-
 wxString CodeOf(wchar_t character)
 {
     return character == 0 ? wxString("none") : wxString::Format("U+%04X", static_cast<unsigned>(character));
@@ -184,7 +179,7 @@ void NumberFormatFields::SetFormat(const CNumberFormat& format)
     }
     for (std::size_t i = 0; i < std::size(kBounds); ++i) {
         if (format.*kFlags[kBounds[i].flag].field)
-            m_bounds[i]->SetValue(TextOf(format.*kBounds[i].field));
+            m_bounds[i]->SetValue(wxString::Format("%.15g", format.*kBounds[i].field));
     }
     const auto* found = std::find(std::begin(kTemplates), std::end(kTemplates), format.m_strTemplate);
     m_template->SetSelection(found == std::end(kTemplates) ? 0 : static_cast<int>(found - std::begin(kTemplates)));

@@ -47,16 +47,11 @@ constexpr DemoFile kFiles[] = {
     {".hidden settings", 96, 7},
 };
 
-timespec DayTime(int day)
+void SetTime(const fs::path& path, int day)
 {
     timespec time{};
     time.tv_sec = (wxDateTime(1, wxDateTime::Mar, 2026, 9, 26) + wxDateSpan::Days(day)).GetTicks();
-    return time;
-}
-
-void SetTime(const fs::path& path, int day)
-{
-    const timespec times[] = {DayTime(day), DayTime(day)};
+    const timespec times[] = {time, time};
     utimensat(AT_FDCWD, path.c_str(), times, AT_SYMLINK_NOFOLLOW);
 }
 
