@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <optional>
 
 #include <gtk/gtk.h>
 #include <wx/uilocale.h>

@@ -4,6 +4,8 @@
 #include <fittings/thread/gui_thread.h>
 
 #include <algorithm>
+#include <functional>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>

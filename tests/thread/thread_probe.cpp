@@ -1,6 +1,7 @@
 // thread_probe QUESTION: uses thread objects in a process of its own, for example while the system has no room for
 // threads or while the process ends. Prints one result per line.
 
+#include <atomic>
 #include <cstdio>
 #include <cstdlib>
 #include <functional>

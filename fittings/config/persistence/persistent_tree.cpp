@@ -1,5 +1,7 @@
 #include <fittings/config/persistence.h>
 
+#include <optional>
+
 #include <fittings/config/persistence/ancestor_watch.h>
 #include <fittings/config/persistence/tree_paths.h>
 

@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 
 #include <wx/gdicmn.h>
 #include <wx/timer.h>
