@@ -171,8 +171,11 @@ bool Tour::Run()
         if (!m_frame)
             break;
     }
-    if (m_frame)
+    // Wait until the window is gone: it saves its settings into a folder that the tour removes.
+    if (m_frame) {
         m_frame->Destroy();
+        allWell = Waits([] { return wxTopLevelWindows.empty(); }, "the window is destroyed") && allWell;
+    }
     return allWell;
 }
 

@@ -31,7 +31,8 @@ std::vector<std::string> CommandOf(std::vector<std::string> arguments)
 class Program
 {
 public:
-    explicit Program(const std::vector<std::string>& arguments) : m_child(CommandOf(arguments), {}, m_folder / "errors")
+    explicit Program(const std::vector<std::string>& arguments)
+        : m_child(CommandOf(arguments), {{"TMPDIR", m_temporary.Path()}}, m_folder / "errors")
     {
     }
 
@@ -49,9 +50,11 @@ public:
 
     std::string Output() const { return m_child.Output(); }
     std::string Errors() const { return ReadFile(m_folder / "errors"); }
+    bool HasTemporaryFiles() const { return !fs::is_empty(m_temporary.Path()); }
 
 private:
     TempFolder m_folder;
+    TempFolder m_temporary;
     ChildProcess m_child;
 };
 
@@ -190,6 +193,7 @@ void TakesItsPictures(const std::vector<std::string>& arguments, const std::stri
     Program program(arguments);
     EXPECT_EQ(program.Wait(), 0) << program.Output() << program.Errors();
     EXPECT_EQ(program.Output().find("FAILED"), std::string::npos);
+    EXPECT_FALSE(program.HasTemporaryFiles());
     // GTK prints this warning about a control that has less room than its borders take, which must not happen.
     EXPECT_EQ(program.Errors().find("while allocating gadget"), std::string::npos) << program.Errors();
     for (const char* name : {"browser", "colour-popup", "colours", "filter", "folder-colours", "folder-dialog",
