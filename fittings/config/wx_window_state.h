@@ -10,10 +10,10 @@ class wxWindow;
 
 /// Window geometry, a frame's maximised state and AUI layouts, each stored under a name that the caller chooses.
 ///
-/// Call the load functions when the window or all panes exist, before the window is shown. A layout with floating panes
-/// is an exception: load it when the window is shown. Call the save functions when the window closes. Geometry and the
-/// maximised state are in the default store, sections "wxWindowState" and "wxWindowMaximize"; layouts are in the file
-/// "wxAuiManagerState.ini" of ui_config_mgr. GUI thread only.
+/// Load the state of a window before the window is shown. Load a layout when all panes exist: before the window is
+/// shown or, if panes can float, when the window is shown. Call the save functions when the window closes. Geometry and
+/// the maximised state are in the default store, sections "wxWindowState" and "wxWindowMaximize"; layouts are in the
+/// file "wxAuiManagerState.ini" of ui_config_mgr. GUI thread only.
 ///
 /// Windows and managers must not be null. A null name counts as empty. A name may be a text of any kind: see
 /// fittings::TextArgument. A failure to save is not reported.
@@ -60,9 +60,9 @@ FITTINGS_API bool LoadState(wxFrame* frame, const wchar_t* name);
 /// Maximises the frame on a later turn of the event loop, so the frame may still be hidden when this is called.
 FITTINGS_API void MaximizeFrame(wxFrame* frame);
 
-/// Moves the window so that its top right corner is one pixel to the left of that of the reference on the screen. The
-/// window keeps its size. If the reference is narrower than 800 pixels, half of the window extends past its right edge
-/// instead.
+/// Moves the window so that its top right corner is one pixel to the left of the reference's top right corner on the
+/// screen. The window keeps its size. If the reference is narrower than 800 pixels, half of the window extends past the
+/// reference's right edge instead.
 FITTINGS_API void MoveWindowToRightCorner(wxWindow* window, wxWindow* reference);
 
 /// Stores the positions, sizes and captions of the manager's panes, as wxAuiManager::SavePerspective() returns them.
@@ -70,9 +70,8 @@ FITTINGS_API void SaveAuiManagerState(wxAuiManager* manager, const wchar_t* name
 
 /// Restores a stored layout and updates the window. Returns false and changes nothing when no layout is stored.
 ///
-/// A text that the toolkit cannot have written counts as missing: one that is cut or damaged, or that has more rows or
-/// layers than the toolkit lays out quickly. wxAuiManager::LoadPerspective() asserts on some of these texts, and does
-/// not return with others.
+/// A stored text counts as missing if it is cut or damaged, or if it has more rows or layers than the toolkit lays out
+/// quickly. wxAuiManager::LoadPerspective() asserts on some of these texts, and does not return with others.
 ///
 /// As in wxAuiManager::LoadPerspective(), panes that the stored layout does not name are hidden, and captions are
 /// restored as they were stored. LoadPerspective() cannot read a caption with a ";" or with a "\" before a "|": do not
