@@ -41,8 +41,8 @@ public:
     /// @}
 
     /// Sets the entry, in UTF-8, under which the dialog remembers its file. Returns the earlier entry, so that the
-    /// caller can restore it. A process has one entry. While the entry is empty, as at first, nothing is proposed or
-    /// remembered.
+    /// caller can restore it. A process has one entry. While the entry is empty, as at first, the dialog does not
+    /// remember a file and does not propose a remembered one.
     static std::string SetRegEntry(const std::string& entry);
 
     /// Shows the dialog and returns the full path of the chosen file, or an empty text when the user cancelled. The
@@ -56,11 +56,12 @@ public:
     /// @param title  null or empty: no title.
     /// @param initialFolder  the folder to start in, with a separator at its end. Without the separator, its last part
     ///     is taken for a file name. Empty: the folder of the remembered file, or the application's folder "Samples" if
-    ///     no file is remembered. If the folder does not exist or cannot be read, the dialog starts in the nearest
-    ///     folder above it that can be read. Null asserts, and the result is empty.
-    /// @param initialFileName the proposed name. Null or empty: the name of the remembered file, or the part of @a
-    ///     initialFolder that was taken for a file name, without its extension. If the name has no extension, the
-    ///     toolkit adds that of the first pattern.
+    ///     the registry entry has no file yet. If the registry entry is empty too, the toolkit chooses the folder. If
+    ///     the folder does not exist or cannot be read, the dialog starts in the nearest folder above it that can be
+    ///     read. Null asserts, and the result is empty.
+    /// @param initialFileName  the proposed name. Null or empty: the file name that was taken from @a initialFolder, or
+    ///     the name of the remembered file if @a initialFolder is empty; without the extension. If the name has no
+    ///     extension, the toolkit adds that of the first pattern.
     ///
     /// A file whose path is not UTF-8 on disk cannot be chosen: the toolkit returns an empty path, as if the user had
     /// cancelled.

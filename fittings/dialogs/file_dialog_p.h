@@ -15,7 +15,7 @@ namespace fittings {
 
 /// The section of the default store that contains the last file of each registry entry.
 inline constexpr char kLastFilesSection[] = "LastFiles";
-/// The application's folder that is proposed while no file is remembered.
+/// The application's folder that is proposed while a registry entry has no file yet.
 inline constexpr wchar_t kSamplesFolder[] = L"Samples";
 /// The text that is put before an extension to make a wildcard.
 inline constexpr wchar_t kWildcardPrefix[] = L"*.";
@@ -25,8 +25,8 @@ inline constexpr char kLastProjectSave[] = "LastProjectSave";
 std::string GetRegEntry();
 
 /// Like CQVFileDialogI::LaunchSaveDialog(), but opens an existing file and uses the folder differently. With an empty
-/// @a folderSwitch the toolkit chooses where the dialog starts. With any other text, the dialog starts at the
-/// remembered file. @a folderSwitch must not be null.
+/// @a folderSwitch the toolkit chooses where the dialog starts. With any other text, the dialog starts at the path that
+/// LoadLastPath() returns. @a folderSwitch must not be null.
 CStdStr<wchar_t> LaunchOpenDialog(wxWindow* parent, const wchar_t* defaultExtension, const wchar_t* wildcard,
                                   const wchar_t* title, const wchar_t* folderSwitch);
 

@@ -100,8 +100,8 @@ bool wxRememberingFileDialog::Create(wxWindow* parent, const wxString& entry, co
     const wxString& pattern = filters[static_cast<std::size_t>(filter)];
     if (!defaultName.empty() && !name.empty())
         name = AppendExtension(name, pattern);
-    // In a dialog to open, set only a name that the filter shows: GTK's dialog drops the filter when it has to select a
-    // file that the filter hides.
+    // In a dialog to open, set only a name that the filter shows: GTK's dialog drops the filter when a file is selected
+    // that the filter hides.
     if (HasFlag(wxFD_SAVE) ? !name.empty() : Shows(pattern, name) && wxFileExists(folder + "/" + name))
         SetFilename(name);
     // Set the filter last: in a dialog to open, SetFilename() makes the toolkit choose another filter.
@@ -120,8 +120,8 @@ int wxRememberingFileDialog::ShowModal()
     const std::string key = file_util_ex::ConvertToUTF8(m_entry.ToStdWstring());
     fittings::SaveLastPath(path.wc_str(), key.c_str());
     const wxArrayString filters = PatternsOf(GetWildcard());
-    // Store a filter only if the dialog has one: GTK's dialog drops it when it has to select a file that the filter
-    // hides.
+    // Store a filter only if the dialog still has one: GTK's dialog drops the filter when a file is selected that the
+    // filter hides.
     if (filters.size() > 1 && gtk_file_chooser_get_filter(GTK_FILE_CHOOSER(GetHandle()))) {
         const wxString& filter = filters[static_cast<std::size_t>(GetFilterIndex())];
         CLocalRegStore::WriteString(kLastFiltersSection, m_entry.wc_str(), filter.wc_str());

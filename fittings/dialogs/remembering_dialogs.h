@@ -17,8 +17,9 @@
 ///     Load(dialog.GetPath());
 /// @endcode
 ///
-/// What is remembered belongs to an entry, a name that the program chooses. Dialogs with the same entry share it, both
-/// to open and to save. When ShowModal() returns wxID_OK, the choice is stored in the default store with one save:
+/// What is remembered belongs to an entry, a name that the program chooses. Dialogs with the same entry share what is
+/// remembered, dialogs to open as well as dialogs to save. When ShowModal() returns wxID_OK, the choice is stored in
+/// the default store with one save:
 ///
 /// - The full path, in section "LastFiles", with the entry as the key. CQVFileDialogI stores its file at the same
 ///   place. If several files were chosen, the path is the last one of GetPaths().
