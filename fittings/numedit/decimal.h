@@ -57,7 +57,7 @@ Decimal RoundedUp(const Decimal& number, std::int64_t decimals);
 Decimal RoundedDown(const Decimal& number, std::int64_t decimals);
 /// @}
 
-/// Returns the number of @a digits and @a point, as in MakeDecimal(), with one added in the place of the last digit.
+/// Makes a number as MakeDecimal() does, and adds one in the place of the last of @a digits.
 Decimal Following(std::string_view digits, std::int64_t point);
 
 }  // namespace fittings

@@ -14,8 +14,8 @@ namespace {
 
 using fittings::Decimal;
 
-/// Returns the decimal text of a field; empty for an empty field. Returns nothing if the field has no acceptable
-/// number.
+/// Returns the decimal text of a field; empty for an empty field. Returns nothing if the field's text is not
+/// acceptable.
 std::optional<std::string> DecimalIn(wxWindow* window, const CNumberFormat& format)
 {
     if (const auto* const control = dynamic_cast<const wxNumberCtrl*>(window))
@@ -32,7 +32,8 @@ std::optional<std::string> DecimalIn(wxWindow* window, const CNumberFormat& form
     return fittings::DecimalTextOf(*plain, format.m_chDecimalPoint);
 }
 
-/// Returns the text to show for a variable; nothing if it has no number.
+/// Returns the text to show for a variable; empty for an empty wxString. Returns nothing if there is no variable, or if
+/// its value is not a number.
 /// @{
 std::optional<std::string> TextOf(const std::monostate&)
 {

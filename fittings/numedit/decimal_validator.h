@@ -64,15 +64,18 @@ public:
     /// Returns a new validator made by the copy constructor; the caller owns it.
     wxObject* Clone() const override;
 
-    /// Returns whether the field has a number that the format accepts and the variable can hold. If not, moves the
-    /// focus to the field. A disabled field is always valid. Returns false on a window that is not a wxTextEntry.
+    /// Returns whether the format accepts the field's number and the variable can hold it. Whether an empty field is
+    /// valid depends on the variable: see the class. If the field is not valid, moves the focus to the field. A
+    /// disabled field is always valid. Returns false on a window that is not a wxTextEntry.
     bool Validate(wxWindow* parent) override;
 
-    /// Shows the variable's number. Returns false if the variable has no number or the window is not a wxTextEntry.
+    /// Shows the variable's number. An empty wxString empties the field. Without a variable, does nothing. Returns
+    /// false if the variable's value is not a number or the window is not a wxTextEntry.
     bool TransferToWindow() override;
 
-    /// Stores the field's number in the variable. Returns false and leaves the variable alone if Validate() would
-    /// refuse the field when it is enabled.
+    /// Stores the field's number in the variable. Checks the field as Validate() does, even if the field is disabled.
+    /// If the check fails, returns false and does not change the variable. Without a variable, checks nothing. Returns
+    /// false on a window that is not a wxTextEntry.
     bool TransferFromWindow() override;
 
 private:

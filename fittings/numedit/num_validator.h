@@ -19,10 +19,10 @@
 ///
 /// While the user types, a character is refused with a bell if the text would no longer be a number or the beginning of
 /// one. Bounds are checked at each character too: with a lowest value of 10, "1" is refused, so "12" cannot be typed.
-/// CNumberFormat lists the bounds with which every number within them can be typed. A refused key changes nothing: the
-/// selected text stays selected, and no event is sent. Keys that are not characters (Backspace, Delete, Tab, Enter,
-/// arrows, Control with a letter from A to Z) are never refused, whatever text results. The validator never formats the
-/// text; CNumberEditUtils::FormatControlText() does that.
+/// With some bounds, every number within the bounds can be typed: CNumberFormat lists these bounds. A refused key
+/// changes nothing: the selected text stays selected, and no event is sent. Keys that are not characters (Backspace,
+/// Delete, Tab, Enter, arrows, Control with a letter from A to Z) are never refused, whatever text results. The
+/// validator never formats the text; CNumberEditUtils::FormatControlText() does that.
 ///
 /// Pasted or dropped text, text that an input method inserts without a key event, and text that the program sets are
 /// not checked when they are inserted. Validate() and TransferFromWindow() check them, so no dialog ends with a text
@@ -100,7 +100,7 @@ public:
     void OnKeyDown(wxKeyEvent& event);
 
 protected:
-    CNumberFormat m_format;         ///< A copy of the host's.
+    CNumberFormat m_format;         ///< A copy of the host's format.
     wxString* m_pString;            ///< The host's text, not owned; may be null.
     bool m_bNumpadDecimal = false;  ///< The last key that went down was the keypad's decimal key.
 

@@ -130,7 +130,7 @@ bool IsWithinBounds(const wchar_t* text, const CNumberFormat& format)
     if (!format.m_bHasMax && !format.m_bHasMin)
         return true;
     const double value = std::wcstod(text, nullptr);
-    // Every comparison with NaN is false, so neither a bound nor a value that is NaN refuses anything.
+    // Every comparison with NaN is false: a bound that is NaN refuses no value, and a value that is NaN is accepted.
     return !(format.m_bHasMax && value > format.m_dMax) && !(format.m_bHasMin && format.m_dMin > value);
 }
 

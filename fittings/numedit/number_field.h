@@ -42,8 +42,9 @@ public:
     /// the step does not change the number.
     std::optional<std::wstring> Stepped(const std::wstring& plain, bool up, bool tenfold) const;
 
-    /// Returns the position in @a to that has as many digits between it and the decimal point, and on the same side, as
-    /// @a place has in @a from. The beginning and the end of @a from become those of @a to.
+    /// Returns the position in @a to that corresponds to the position @a place in @a from. Both are on the same side of
+    /// the decimal point, with the same number of digits between the position and the point. The beginning of @a from
+    /// corresponds to the beginning of @a to, and the end to the end.
     long Place(const std::wstring& from, const std::wstring& to, long place) const;
 
     CNumberFormat format;
@@ -59,7 +60,7 @@ public:
     wxString problem;                 ///< The problem that is shown.
     wxString hostTip;                 ///< The program's tooltip, while a problem is shown.
     std::string hostDescription;      ///< The program's accessible description, while a problem is shown.
-    int wheel = 0;                    ///< The rotation of the wheel that is less than a step.
+    int wheel = 0;                    ///< The wheel's rotation since its last whole step.
     std::unique_ptr<NumberEntry> entry;
 
 private:

@@ -58,7 +58,7 @@ public:
     bool m_bGroupDigits = false;      ///< Show m_chThousandsSep between groups of three integer digits.
     bool m_bTrailingMinus = false;    ///< Show the minus sign after the number.
     bool m_bAllowExponent = false;    ///< Accept an exponent, such as the `e-3` of 1.5e-3.
-    wchar_t m_chDecimalPoint = L'.';  ///< 0 if the locale's cannot be converted.
+    wchar_t m_chDecimalPoint = L'.';  ///< 0 if the locale's point cannot be converted.
     wchar_t m_chThousandsSep = L',';  ///< 0 if the locale has no groups: then leave m_bGroupDigits off.
 
     /// A printf format with exactly one `%s`, which the shown number replaces; a percent sign is `%%`.
@@ -73,8 +73,8 @@ public:
     /// While the user types, the part of the number that is typed so far is checked against the bounds. With these
     /// bounds, every number within them that has no exponent can be typed:
     /// - A lowest value of 0 or less and a highest value of 0 or more.
-    /// - A lowest value of 1, 0.1, 0.01 and so on, if the number is typed without a plus sign, and a fraction with "0."
-    ///   at its beginning.
+    /// - A lowest value of 1, 0.1, 0.01 and so on. The user must then omit the plus sign, and begin a number below 1
+    ///   with "0.".
     ///
     /// Other bounds refuse the beginning of numbers that they accept. A lowest value of 10 refuses the "1" of "12", and
     /// a highest value below 0 refuses each "-". Leave such a bound out, and check it when the dialog ends.

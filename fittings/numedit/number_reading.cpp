@@ -84,8 +84,8 @@ bool IsSeparator(wchar_t c, wchar_t separator)
     return separator != 0 && (c == separator || (IsBlank(c) && IsBlank(separator)));
 }
 
-/// Removes the separators. Returns false if they do not separate groups of three digits. The first group may have fewer
-/// digits, but not none.
+/// Removes the separators. Returns false if they do not separate groups of three digits. The first group may have one,
+/// two or three digits.
 bool Ungroup(std::wstring& text, const CNumberFormat& format)
 {
     const wchar_t separator = format.m_chThousandsSep;

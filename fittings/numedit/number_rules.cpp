@@ -138,8 +138,9 @@ bool GrowsInto(const Span& span, const Typed& typed, const NumberRules& rules)
     const Decimal begin = MakeDecimal(typed.integers, typed.Integers());
     if (begin.IsZero())
         return Meets(begin, MakeDecimal("1", more + 1), span, rules.mostDecimals);
-    // Try only a few numbers of additional digits. With fewer, the number stays below the span. With more, it lies
-    // further above the beginning of the span, so it cannot be in the span if it is not with these.
+    // Try the smallest counts of additional digits. With fewer digits, the number stays below the span. With more
+    // digits, the number lies further above the beginning of the span: if none of the tried counts leads into the span,
+    // a larger count does not either.
     const std::int64_t least = std::max<std::int64_t>(span.low.point - begin.point - 1, 0);
     for (std::int64_t digits = least; digits <= std::min(least + 3, more); ++digits) {
         if (Meets(MakeDecimal(typed.integers, typed.Integers() + digits),

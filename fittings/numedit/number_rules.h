@@ -9,8 +9,8 @@
 #include <fittings/numedit/decimal.h>
 #include <fittings/numedit/number_format.h>
 
-// Decides which texts are a number of a format, or the beginning of one, within bounds of any length. Private to the
-// library.
+// Decides whether a text is a number that a format accepts, or the beginning of one. The bounds may have any number of
+// digits. Private to the library.
 
 namespace fittings {
 

@@ -189,7 +189,7 @@ void NumberEntry::PutBack()
     Soon([this, selection = deleted.selection] { Select(m_entry, selection); });
 }
 
-/// Deletes without notifying the toolkit, which is notified of the insertion that follows.
+/// Deletes a text. The toolkit is not notified of the deletion, only of the insertion that follows.
 void NumberEntry::Replace(int begin, int end)
 {
     if (begin == end)

@@ -28,7 +28,7 @@ struct Key
 {
     wxTextCtrl& control;
     std::unique_ptr<Deletion> deletion;
-    std::unique_ptr<wxEventBlocker> quiet;  // set from the restoration to the end of the key
+    std::unique_ptr<wxEventBlocker> quiet;  // blocks wxEVT_TEXT from the restoration to the end of the key event
     bool wasModified = false;
     gulong selecting = 0;
 };
@@ -52,8 +52,7 @@ void OnInserted(GtkEditable*, const char*, int, int*, Key* key)
     key->deletion.reset();
 }
 
-// Restores the selection: GTK moves the caret to the end of the text that it believes to be inserted, which ends the
-// selection.
+// Restores the selection. GTK has ended it: GTK moves the caret to the end of a text that GTK believes to be inserted.
 void OnSelectionEnded(GtkEditable* editable, GParamSpec*, Key* key)
 {
     g_signal_handler_disconnect(editable, std::exchange(key->selecting, 0));
