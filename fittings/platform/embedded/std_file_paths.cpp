@@ -81,8 +81,8 @@ std::string RegisteredHome()
     return found && found->pw_dir ? found->pw_dir : "";
 }
 
-// Returns the home folder as an absolute path. Ignores a relative or empty HOME, which GLib returns as it is: settings
-// would be stored below the current folder.
+// Returns the home folder as an absolute path. Ignores a relative or empty HOME, which GLib returns as it is: with such
+// a HOME, settings would be stored below the current folder.
 std::wstring Home()
 {
     std::string home = g_get_home_dir();
@@ -94,7 +94,7 @@ std::wstring Home()
 std::wstring BaseDataDir()
 {
     const char* base = g_get_user_data_dir();
-    // Ignore a relative path, as the XDG Base Directory Specification demands. GLib returns it.
+    // Ignore a relative XDG_DATA_HOME, which is not valid. GLib returns it as it is.
     if (g_path_is_absolute(base))
         return file_util_ex::ConvertFromUTF8W(base);
     return file_util_ex::MakePath(Home(), L".local/share");
@@ -128,8 +128,8 @@ void SetUserDataDir(const CStdStr<wchar_t>& path)
 
 std::wstring GetAppFolderPath(const wchar_t* name)
 {
-    // Without an absolute HOME, do not ask for the documents folder: it is configured in a file in the home folder, and
-    // relative to the home folder.
+    // Without an absolute HOME, do not ask for the documents folder: a file in the home folder sets its path, relative
+    // to the home folder.
     const bool hasHome = g_path_is_absolute(g_get_home_dir());
     const char* documents = hasHome ? g_get_user_special_dir(G_USER_DIRECTORY_DOCUMENTS) : nullptr;
     const std::wstring base = documents ? file_util_ex::ConvertFromUTF8W(documents) : Home();

@@ -96,8 +96,8 @@ bool HoldsBytes(const std::string& path, const struct stat& info, std::string_vi
            ReadFileBytes(path, old).result == ReadResult::Read && old == bytes;
 }
 
-// Makes the renaming of a file in the folder durable. Ignores an error, after which only a power failure can undo the
-// renaming.
+// Makes the renaming of a file in the folder durable. Ignores an error: the renaming is done, and only a power failure
+// could still undo it.
 void SyncFolder(const std::string& folder)
 {
     const FileDescriptor descriptor(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
@@ -128,9 +128,9 @@ FileContent ReadUntilFilled(const Read& read, std::string& bytes, std::chrono::s
     }
 }
 
-// Returns the content of the displaced file. If another process has already removed that file as a leftover, reads the
-// file @a before, which was opened before the exchange: every other file is too new to count as a leftover. If the file
-// is empty for now, waits for content until @a deadline at the latest.
+// Returns the content of the displaced file. If another process has already removed the displaced file as a leftover,
+// reads @a before instead, the file that was the target before the exchange. No other file is old enough to count as a
+// leftover. If the file is empty for now, waits for content until @a deadline at the latest.
 std::optional<std::string> ReadDisplaced(const StagedFile& staged, int before,
                                          std::chrono::steady_clock::time_point deadline)
 {
@@ -190,7 +190,7 @@ struct Exchanged
 struct Outcome
 {
     UpdateResult result;
-    bool isUndone = false;  ///< Our file is no longer at the target, and no other process has changed it.
+    bool isUndone = false;  ///< True if our file was still at the target, unchanged, when it was taken back.
 };
 
 // Undoes an exchange whose displaced file cannot be merged.

@@ -89,15 +89,16 @@ struct FileUpdate
 /// Like ReplaceFileBytes(), but keeps every change that other processes have stored since the file was read.
 ///
 /// Does nothing if the new content is the one that was found. If the file has changed since it was read, returns
-/// Outdated and does not touch the file. Otherwise exchanges the file and a new one. A change between the check and the
-/// exchange is merged. If it cannot be merged, the function undoes the exchange and returns Outdated. If another
-/// process prevents the undoing, the displaced file is kept under a name from OtherName(). On file systems that cannot
-/// exchange two files atomically, such as NFS, a change in the few microseconds after the check can be lost.
+/// Outdated and does not touch the file. Otherwise exchanges the file and a new one, or makes the file if there was
+/// none. A change between the check and the exchange is merged. If it cannot be merged, the function undoes the
+/// exchange and returns Outdated. If another process prevents the undoing, the displaced file is kept under a name from
+/// OtherName(). On file systems that cannot exchange two files atomically, such as NFS, a change in the few
+/// microseconds after the check can be lost.
 UpdateResult UpdateFileBytes(const std::string& path, const FileUpdate& update);
 
 /// Gives the file at @a path a second name that does not exist yet: its own name followed by ".unreadable", or
-/// ".unreadable.2" and so on. A file that has such a name already keeps it. Follows links. Returns the second name, or
-/// an empty string on any error.
+/// ".unreadable.2" and so on. If the file already has such a name, adds no other one. Follows links. Returns the second
+/// name, or an empty string on any error.
 std::string KeepUnderOtherName(const std::string& path);
 
 /// Returns the second name that KeepUnderOtherName() tries as number @a number, from 1 on.

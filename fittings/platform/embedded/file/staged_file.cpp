@@ -152,8 +152,8 @@ PlaceResult StagedFile::Exchange()
     return result;
 }
 
-// If an exchange displaces another file than the one that was last put at the target, another process has stored that
-// file meanwhile. The next exchange then puts that file back.
+// An exchange may displace another file than the one that was last put at the target. Then another process has stored
+// the displaced file meanwhile, and the next exchange puts the displaced file back.
 PlaceResult StagedFile::PutBack()
 {
     const auto ours = m_placed;

@@ -23,9 +23,9 @@ enum class PlaceResult {
 class StagedFile
 {
 public:
-    /// Writes @a bytes to a new file beside @a target, which must not be a link. The new file takes over the owner and
-    /// mode in @a old, the state of the file at @a target; none when there is no file. Also removes the temporary files
-    /// that killed processes have left in the folder.
+    /// Writes @a bytes to a new file beside @a target, which must not be a link. @a old is the state of the file at
+    /// @a target, or nothing when there is no file. The new file gets the owner and the mode in @a old. Also removes
+    /// the temporary files that killed processes have left in the folder.
     StagedFile(std::string target, std::string_view bytes, const std::optional<struct stat>& old);
     ~StagedFile();
     StagedFile(const StagedFile&) = delete;

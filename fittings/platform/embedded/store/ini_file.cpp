@@ -54,7 +54,8 @@ bool CIniFile::Refresh(const std::string& path, const std::vector<Change>& chang
         return false;
     CIniFile now;
     now.Load(path);
-    // A read does not wait until another program has filled the file: it keeps the earlier content.
+    // If the file is empty for now, keep the earlier content: a read does not wait until another program has filled the
+    // file.
     if (isSameStore && now.m_content.IsEmptyForNow() && m_content.result == fittings::ReadResult::Read)
         return false;
     if (isSameStore && now.HasFailed() && HasFailed())

@@ -24,9 +24,9 @@ public:
     /// contain no settings and are not readable text. Waits until an empty file is filled, as ReadFileBytes() does.
     bool Load(const std::string& path, std::chrono::steady_clock::time_point deadline = {});
 
-    /// Loads the file and applies the changes to the loaded content, unless the file has certainly not changed since
-    /// the last load and the revision of the changes is the same. Returns true when the content of the object may have
-    /// changed.
+    /// Loads the file and applies the changes to the loaded content. Does nothing if the path and the revision of the
+    /// changes are those of the last call and the file has certainly not changed since. Returns true when the content
+    /// of the object may have changed.
     bool Refresh(const std::string& path, const std::vector<fittings::SettingsChange>& changes = {},
                  std::uint64_t revision = 0);
 
@@ -36,8 +36,9 @@ public:
     /// Writes the file if its bytes change. Returns false on any error.
     bool Save(const std::string& path) const;
 
-    /// Writes the file that was loaded last if its bytes change, unless the file has changed on the disk since. Changes
-    /// that other processes store at the same time are kept. Waits for other processes until @a deadline at the latest.
+    /// Writes the file that was loaded last if its bytes change. If the file has changed on the disk since it was
+    /// loaded, returns Outdated and does not write. Changes that other processes store during the call are kept. Waits
+    /// for other processes until @a deadline at the latest.
     fittings::UpdateResult Update(std::chrono::steady_clock::time_point deadline) const;
 
     std::optional<std::wstring> Get(std::wstring_view section, std::wstring_view key) const;
@@ -46,7 +47,8 @@ public:
     bool Has(std::wstring_view section, std::wstring_view key, std::optional<std::wstring_view> text) const;
 
     void Set(std::wstring_view section, std::wstring_view key, std::wstring_view value);
-    /// Removes a key. For the section with the empty name, also removes the key of that name before the first section.
+    /// Removes a key. For the section with the empty name, also removes the key with the same name before the first
+    /// section.
     void Delete(std::wstring_view section, std::wstring_view key);
 
     using Change = fittings::SettingsChange;
@@ -67,8 +69,8 @@ public:
     /// section come first.
     std::vector<fittings::SettingsEntry> Entries(std::wstring_view section) const;
 
-    /// Returns whether the file is still in the state whose content this object contains. False when Refresh() kept an
-    /// earlier content because the file was empty.
+    /// Returns true if the file has not changed since its content was read into this object. Returns false if Refresh()
+    /// kept an earlier content because the file was empty.
     bool IsCurrent() const;
 
     /// Returns whether the last Load() found a file that it could not read.
