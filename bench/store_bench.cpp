@@ -150,7 +150,7 @@ void FileSetPeer(benchmark::State& state)
 
 constexpr int kWindowValues = 22;
 
-// Stores as many values as a window that closes: its geometry, flags, columns and trees.
+// Stores as many values as a window stores when it closes: its geometry, flags, columns and trees.
 void CloseWindow(benchmark::State& state)
 {
     const Settings settings(1000);
