@@ -32,7 +32,7 @@ install(TARGETS fittings fittings-platform fittings-platform-headers EXPORT fitt
   FILE_SET HEADERS COMPONENT fittings_development
   FILE_SET generated COMPONENT fittings_development)
 
-# Files for CMake hosts. They accept only the same minor version, because until 1.0 a minor version may change the
+# Files for CMake hosts. A host must ask for the same minor version, because until 1.0 a minor version may change the
 # interface.
 set(config_folder ${CMAKE_INSTALL_LIBDIR}/cmake/fittings)
 install(EXPORT fittings-targets NAMESPACE fittings:: DESTINATION ${config_folder} COMPONENT fittings_development)

@@ -1,10 +1,11 @@
-# The toolkit as imported targets: fittings::wx and, with its resources, fittings::wx-xrc. CMake's own finder gives only
-# variables. A target exists only if the components of the toolkit are found. The build uses this file, and so does the
-# installed fittings-config.cmake.
+# Defines two imported targets for the toolkit, because CMake's own finder gives only variables. fittings::wx is the
+# toolkit with its aui library. fittings::wx-xrc is the toolkit with its library for XML resources. Each target exists
+# only if its components of the toolkit are found. The build uses this file, and so does the installed
+# fittings-config.cmake.
 
 # fittings_import_wx(target component...): defines the imported target for these components of the toolkit, if they are
-# found. This is a function and not a macro, so that the wxWidgets_... variables of a host that found other components
-# do not change.
+# found. The host may have found other components before. This is a function and not a macro, so that it does not change
+# the host's wxWidgets_... variables.
 function(fittings_import_wx target)
   if(TARGET ${target})
     return()

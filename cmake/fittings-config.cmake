@@ -1,6 +1,6 @@
 # Defines the targets fittings::fittings (link this one), fittings::platform, fittings::platform-headers and
-# fittings::wx. If the toolkit has its XML resources, the component xrc defines fittings::xrc too, which contains
-# handlers for XML resources.
+# fittings::wx. Also defines fittings::xrc, which contains handlers for XML resources, if the toolkit's xrc library is
+# found and fittings was built with it. A host that needs fittings::xrc asks for the component xrc.
 include(${CMAKE_CURRENT_LIST_DIR}/FittingsWx.cmake)
 if(NOT TARGET fittings::wx)
   set(fittings_FOUND FALSE)
