@@ -50,7 +50,7 @@ void Describe(wxWindow& window, AccessibleRole role, const wxString& label, cons
     const wxScopedCharBuffer name = (value.empty() ? label : value).utf8_str();
     Name(object, name);
     Name(gtk_widget_get_accessible(window.m_widget), name);
-    // Set no empty description: without one, GTK describes the window by its tooltip.
+    // Set no empty description: GTK describes a window by its tooltip only while no description is set.
     const wxScopedCharBuffer description = label.utf8_str();
     if (!label.empty() && !value.empty() && Differ(atk_object_get_description(object), description))
         atk_object_set_description(object, description);

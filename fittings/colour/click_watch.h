@@ -29,7 +29,7 @@ public:
     void Stop();
 
     /// Calls the callback for a click that the toolkit reports on a child of the owner or outside the program. Drops
-    /// such a click and every turn of the wheel. Passes a click on the owner itself and all other events on.
+    /// such a click and every turn of the wheel. Skips a click on the owner itself and all other events.
     int FilterEvent(wxEvent& event) override;
 
     /// Calls the callback.

@@ -255,7 +255,7 @@ void wxColourCombo::DrawStep(int elapsed)
 
 void wxColourCombo::EndAnimation(wxWindow& popup)
 {
-    // Hide the outline before the background is drawn, so that no part of it remains.
+    // Hide the outline before the background is drawn, so that no part of the outline remains.
     if (m_outline)
         m_outline->Hide();
     if (m_animBitmap.IsOk())

@@ -70,8 +70,8 @@ class OutlineWindow;
 /// wxEVT_TEXT is sent only by a control with a text field. If the button or Dismiss() closes the popup while a cell is
 /// hot, the field sends wxEVT_TEXT twice: with the name of that cell, and then with its old text.
 ///
-/// The toolkit's class information does not distinguish this class from wxComboCtrl, nor wxColourPopup from wxWindow:
-/// wxDynamicCast() to either of them would succeed for other objects too. Use dynamic_cast.
+/// Use dynamic_cast: wxDynamicCast() to wxColourCombo or wxColourPopup would succeed for other objects too. The
+/// toolkit's class information does not distinguish wxColourCombo from wxComboCtrl, nor wxColourPopup from wxWindow.
 ///
 /// GUI thread only.
 class FITTINGS_API wxColourCombo : public wxComboCtrl
@@ -94,7 +94,8 @@ public:
     /// it.
     using wxComboCtrl::Create;
 
-    /// Makes the control and its popup as the constructor with a colour does, for an object of the default constructor.
+    /// Makes the control and its popup as the constructor with a colour does. The object must be one that the default
+    /// constructor has made.
     ///
     /// @a colour must be a wxColour. A call with a string in its place is a call of the toolkit's Create(), which shows
     /// the string in the text field.
@@ -152,7 +153,7 @@ public:
 
 protected:
     /// Starts the animation, whose last step shows the popup, and returns false. Returns true and starts no animation
-    /// if the program cannot draw on the screen or @a rect, which is in screen coordinates, is empty.
+    /// if @a rect is empty or the program cannot draw on the screen. @a rect is in screen coordinates.
     bool AnimateShow(const wxRect& rect, int flags) override;
 
     /// Takes ownership of @a popup. If the earlier popup is still opening, it is dismissed first.

@@ -50,7 +50,7 @@ wxPoint FitToScreen(wxPoint at, const wxSize& size, const wxWindow& parent)
     int screenWidth = 0;
     int screenHeight = 0;
     wxDisplaySize(&screenWidth, &screenHeight);
-    // The first column beyond the screen counts as part of the screen.
+    // The first column and the first row beyond the screen count as parts of the screen.
     if (at.x + size.x - 1 > screenWidth)
         at.x = screenWidth - size.x + 1;
     at.x = std::max(at.x, 0);
@@ -129,7 +129,8 @@ bool wxColourPopup::SetColour(const wxColour& colour)
     if (!m_combo)
         return true;
     const wxString name = TextOf(m_nChosenColourSel);
-    // Remember the new name, to restore it when closing the popup has made the name of the hot cell the combo's value.
+    // Remember the new name. Closing the popup makes the name of the hot cell the combo's value. RestoreValue() then
+    // makes the remembered name the value again.
     if (m_valueWhenShown || m_ending)
         m_valueWhenShown = name;
     if (m_combo->GetValue() != name)
@@ -224,8 +225,8 @@ void wxColourPopup::FindCellFromColour(const wxColour& colour)
 
 wxString wxColourPopup::GetStringValue() const
 {
-    // After a cancel, the combo asks for its value when it hides the popup. Return the value to restore: with the name
-    // of the hot cell, a text field would report a colour that was not chosen, and then its old text.
+    // After a cancel, the combo asks for its value when it hides the popup. Return the value to restore. If this
+    // returned the name of the hot cell, a text field would report a colour that was not chosen, and then its old text.
     if (m_isClosingAfterCancel && m_valueWhenShown)
         return *m_valueWhenShown;
     return TextOf(m_nCurrentSel);

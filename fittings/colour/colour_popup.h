@@ -71,8 +71,8 @@ public:
     /// invalid colour asserts and changes nothing.
     ///
     /// The function redraws the combo, but changes neither its value nor the chosen cell. Call it before
-    /// wxComboCtrl::SetPopupControl(): when the window is created, the popup marks "Automatic" if this is the default
-    /// colour. That mark stays; SetColour() moves it.
+    /// wxComboCtrl::SetPopupControl(): when the window is created, the popup marks "Automatic" if @a colour is the
+    /// default colour. A later call of this function does not move that mark, but SetColour() does.
     void SetInitialColour(const wxColour& colour);
 
     /// Makes @a colour the colour in effect and updates the combo's face and value, the chosen cell and the mark of
@@ -138,8 +138,9 @@ public:
     /// Marks the cell of @a colour as chosen: the first cell of the palette with exactly this colour and opacity,
     /// otherwise "More Colours...". Marks none if that box is absent.
     ///
-    /// If no cell was chosen and @a colour is the default colour, "Automatic" becomes chosen. If "Automatic" was
-    /// chosen, it stays chosen whatever @a colour is, so a user who chose it finds it marked again.
+    /// If no cell was chosen and @a colour is the default colour, "Automatic" becomes chosen instead, unless its box
+    /// is absent. If "Automatic" was chosen, it stays chosen whatever @a colour is, so a user who chose it finds it
+    /// marked again.
     void FindCellFromColour(const wxColour& colour);
 
     /// Returns the text of the hot cell; empty when no cell is hot. While the popup closes after a cancelled selection,

@@ -264,7 +264,8 @@ void wxColourPopup::DoEndSel(bool ok)
         if (!HideCombo())
             return;
     }
-    // Restore the value even if the listener has closed the popup: the value is then the name of the hot cell.
+    // Restore the combo's value even if the listener has closed the popup: the combo's value is then the name of the
+    // hot cell.
     RestoreValue();
     if (life.expired())
         return;
