@@ -16,8 +16,9 @@ constexpr std::wstring_view kStart = L"layout2|";
 constexpr std::size_t kLongest = 1'000'000;
 constexpr int kMostParts = 2000;
 
-// The toolkit searches every row of every layer several times for each dock. More steps (layers times rows times panes
-// and docks) would take too long, and so would a larger number of a layer or row.
+// The toolkit searches every row of every layer several times for each dock. The number of steps is the number of
+// layers times the number of rows times the number of panes and docks together. More steps than these would take too
+// long, and so would a larger number of a layer or row.
 constexpr std::int64_t kMostSteps = 10'000'000;
 constexpr std::int64_t kMostRows = 10'000;
 

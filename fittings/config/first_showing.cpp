@@ -71,8 +71,8 @@ gboolean FirstShowing::OnEvent(GtkWidget* /*widget*/, GdkEvent* event, FirstShow
 
 // A window manager may first announce the decorations of windows in general, and then those of this window. The toolkit
 // subtracts only the decorations that are announced first, which would give the window a wrong size. So set the size
-// again after each announcement. The toolkit also computes the position only when the window is moved: let it compute
-// the position with the announced decorations.
+// again after each announcement. Also let the toolkit compute the position with the announced decorations: by itself,
+// it computes the position only when the window is moved.
 void FirstShowing::AfterEvent(GtkWidget* widget, GdkEvent* event, FirstShowing* showing)
 {
     const Window& window = showing->m_window;

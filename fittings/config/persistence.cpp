@@ -48,7 +48,7 @@ const int* Field(const wxRect& rect, const wxString& name)
 }
 
 /// Returns whether a stored number can be passed to the toolkit as a value of @a who. The toolkit would assert on a
-/// number that is not an int, and would accept places and sizes that no window can have.
+/// number that is not an int. In a splitter or data view, it would accept places and sizes that no window can have.
 bool IsPossible(long number, const wxPersistentObject& who)
 {
     if (dynamic_cast<const wxPersistentSplitter*>(&who) || dynamic_cast<const wxPersistentDataViewCtrl*>(&who))

@@ -39,9 +39,9 @@ class AncestorWatch;
 /// registers the window alone.
 ///
 /// A frame or dialog is restored as wx_window_state::LoadState() restores it: in its place, on a display that still
-/// exists, and within its work area. A window that was maximised is maximised again. When the user then unmaximises it,
-/// it returns to the place and size that it had before. The place and size before a window is maximised, iconised or
-/// made full screen are recorded from wxPersistentRegisterAndRestore() on.
+/// exists, and within that display's work area. A window that was maximised is maximised again. When the user then
+/// unmaximises it, it returns to the place and size that it had before. The place and size before a window is
+/// maximised, iconised or made full screen are recorded from wxPersistentRegisterAndRestore() on.
 ///
 /// The values of a window and of the controls in it are collected, and saved together when the window is destroyed. The
 /// values of a control that is destroyed before its window are saved on the next turn of the event loop.
@@ -69,8 +69,8 @@ public:
     bool SaveValue(const wxPersistentObject& who, const wxString& name, wxString value) override;  ///< Saves it later.
     /// Returns false if the stored value is neither 0 nor 1.
     bool RestoreValue(const wxPersistentObject& who, const wxString& name, bool* value) override;
-    /// Returns false if the stored value is not an int, or not a place or size that a window can have. For a frame or
-    /// dialog, a request for "x" restores its whole place and size.
+    /// Returns false if the stored value is not an int; for a splitter or data view, also if it is not a place or size
+    /// that a window can have. For a frame or dialog, a request for "x" restores the whole place and size.
     bool RestoreValue(const wxPersistentObject& who, const wxString& name, int* value) override;
     /// Returns false if the stored value is not a number.
     bool RestoreValue(const wxPersistentObject& who, const wxString& name, long* value) override;
@@ -121,8 +121,8 @@ private:
     std::unique_ptr<fittings::AncestorWatch> m_watch;
 };
 
-/// Remembers the widths of a report's columns, and their order if the toolkit lets the user change it. Stored widths
-/// for another number of columns than the list has count as missing.
+/// Remembers the widths of a report's columns, and their order if the toolkit lets the user change it. If the number of
+/// stored widths is not the number of the list's columns, the stored widths count as missing.
 class FITTINGS_API wxPersistentListCtrl : public wxPersistentWindow<wxListCtrl>
 {
 public:

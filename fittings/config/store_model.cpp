@@ -100,7 +100,7 @@ void StoreModel::SetCurrent(const StorePath& path)
 void StoreModel::Set(StoreGroup& group, std::wstring_view name, std::wstring_view value)
 {
     StoreEntry* const entry = group.entries.Find(name);
-    // A text that the file no longer holds must be saved again.
+    // If the file has changed since it was loaded, save even the same text: the file may have lost it.
     if (entry && entry->text == value && (entry->isChanged || CLocalRegStore::IsCurrent(*m_ini)))
         return;
     if (entry) {
@@ -116,7 +116,7 @@ void StoreModel::Set(StoreGroup& group, std::wstring_view name, std::wstring_vie
     }
     if (!group.isSection) {
         AddSection(group);
-        // As in wxFileConfig, a group stays when its last entry is deleted alone. The root needs no section.
+        // As in wxFileConfig, a group stays when only its last entry is deleted. The root needs no section.
         group.isMade = group.parent != nullptr;
     }
 }

@@ -9,7 +9,7 @@ namespace {
 
 constexpr wchar_t kSeparator = wxCONFIG_PATH_SEPARATOR;
 
-// Removes the first step from the text and returns it.
+// Removes the first step from the text and returns the step.
 std::wstring_view TakeStep(std::wstring_view& text)
 {
     const std::size_t end = text.find(kSeparator);

@@ -62,7 +62,7 @@ public:
             m_items.pop_front();
     }
 
-    /// Returns the first item at or after @a place, or null, and moves the place past it.
+    /// Returns the first item at or after @a place, or null, and moves @a place past that item.
     const Item* Next(long& place) const { return NextOf(*this, place); }
     Item* Next(long& place) { return NextOf(*this, place); }
 

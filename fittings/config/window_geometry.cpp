@@ -18,8 +18,8 @@ constexpr long kFarthest = 32767;
 
 /// Returns the window's rectangle on the screen.
 ///
-/// Inside a top-level window that is not shown yet, the toolkit cannot find this rectangle, and logs an error. The sum
-/// of the windows' positions is then used instead, which lacks only the decorations.
+/// Inside a top-level window that is not shown yet, the toolkit cannot find this rectangle, and logs an error. Then the
+/// positions of the window and its ancestors are added up instead. This sum lacks only the decorations.
 wxRect ScreenRect(wxWindow& window)
 {
     if (wxGetTopLevelParent(&window)->IsShown())
@@ -77,7 +77,8 @@ bool BringOntoDisplay(wxWindow& window)
 
     const wxRect area = wxDisplay(static_cast<unsigned>(display)).GetClientArea();
     wxRect rect(window.GetPosition(), window.GetSize());
-    // The window has no position yet. If it fits into the area, leave its place to the window manager.
+    // A window without a position is compared as if it lay in the area's corner. If it fits into the area, its place is
+    // left to the window manager.
     if (rect.GetPosition() == wxDefaultPosition)
         rect.SetPosition(area.GetPosition());
     if (!area.Contains(rect))

@@ -24,8 +24,8 @@ AncestorWatch::AncestorWatch(wxWindow& window, std::function<void()> onDestructi
         ancestor = ancestor->GetParent();
         ancestor->Bind(wxEVT_DESTROY, [call = m_onDestruction, ancestor, &window](wxWindowDestroyEvent& event) {
             event.Skip();
-            // Check whose event it is: the ancestor also receives the events of all windows below it. Check that it is
-            // still an ancestor: the window may have a new parent by now.
+            // Check whose event it is: the ancestor also receives the events of all windows below it. Check that the
+            // ancestor is still above the window: the window may have a new parent by now.
             if (*call && event.GetEventObject() == ancestor && IsAbove(ancestor, &window))
                 (*call)();
         });

@@ -11,7 +11,7 @@ class wxWindow;
 namespace fittings {
 
 /// Reports when a window's ancestor is about to be destroyed, while the window itself is still whole. Some windows,
-/// such as books, delete their children in a way that notifies the child too late.
+/// such as books, notify their children of the destruction too late.
 class AncestorWatch
 {
 public:

@@ -23,7 +23,8 @@ public:
         manager->Bind(wxEVT_AUI_RENDER, note);
         manager->Bind(wxEVT_CLOSE_WINDOW, note);
 
-        // Bind to both: the events of the window reach the manager until UnInit(), and afterwards only the window.
+        // Bind to the manager and to its window: the window's events reach the manager until UnInit(), and afterwards
+        // only the window.
         wxWindow* const window = manager->GetManagedWindow();
         const auto end = [watch, window](wxWindowDestroyEvent& event) {
             event.Skip();

@@ -17,11 +17,11 @@ namespace {
 
 constexpr char kData[] = "fittings-place-when-unmaximized";
 
-/// How long the place of an unmaximised window is corrected, in microseconds: its decorations may be announced several
-/// times, and each announcement may change the size without them.
+/// How long the place of an unmaximised window is corrected, in microseconds. The window manager may announce the
+/// decorations several times. When an announcement changes their size, the size without decorations must be set again.
 constexpr gint64 kCorrected = 2 * G_TIME_SPAN_SECOND;
 
-/// How often to look whether the mouse button is released, in milliseconds.
+/// How often to check whether the mouse button is released, in milliseconds.
 constexpr int kReleaseInterval = 50;
 
 /// Watches a window until it is unmaximised, and then gives it its place. Owned by the window's widget.
@@ -94,7 +94,8 @@ bool PlaceKeeper::IsDoneAfter(const GdkEvent& event)
         m_deadline = 0;
         m_requested = wxSize();
     } else if (ChangesMaximized(event) && m_window->IsShown()) {
-        // A window that is being hidden is unmaximised too, and is maximised again when it is shown.
+        // IsShown() excludes a window that is being hidden: that window is unmaximised too, and is maximised again when
+        // it is shown.
         if (DrawsItsDecorations(m_window->GetHandle()))
             return true;
         // The toolkit does not use the decorations of a maximised window to compute a position. Let it use them now.

@@ -9,8 +9,9 @@
 
 namespace {
 
-/// A window manager moves and sizes a window before it reports that it has maximised the window. So a new place or size
-/// counts as normal only if the window is still not maximised this many milliseconds later.
+/// A window manager moves and sizes a window before it reports that it has maximised the window. So a place or size
+/// that the window manager has set counts as normal only if the window is still not maximised this many milliseconds
+/// later.
 constexpr int kSettled = 500;
 
 /// Returns whether the program, and not the window manager, has moved or sized the window.
