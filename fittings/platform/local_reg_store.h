@@ -122,11 +122,10 @@ public:
 
     using Change = fittings::SettingsChange;  ///< One of several changes that are saved together.
 
-    /// Replaces the content of @a ini with that of the file at @a path, unless the file has not changed since the last
-    /// call.
+    /// If the file at @a path has changed since the last call, replaces the content of @a ini with that of the file.
     ///
-    /// Returns false when the content of @a ini was left as it is, including any changes made in it since that call. A
-    /// file that cannot be read counts as empty. A file that another program has emptied less than half a second ago
+    /// Returns false when the content of @a ini was left as it is, with any changes made in it since the last call.
+    /// A file that cannot be read counts as empty. A file that another program has emptied less than half a second ago
     /// counts as not changed. Use @a ini only for reading: do not pass it to Save().
     static bool Refresh(CIniFile& ini, const wchar_t* path);
 

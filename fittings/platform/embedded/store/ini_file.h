@@ -69,8 +69,8 @@ public:
     /// section come first.
     std::vector<fittings::SettingsEntry> Entries(std::wstring_view section) const;
 
-    /// Returns true if the file has not changed since its content was read into this object. Returns false if Refresh()
-    /// kept an earlier content because the file was empty.
+    /// Returns whether the file has not changed since its content was read into this object. False while Refresh()
+    /// keeps the earlier content of a file that was found empty.
     bool IsCurrent() const;
 
     /// Returns whether the last Load() found a file that it could not read.

@@ -18,7 +18,8 @@ std::string EncodeName(std::wstring_view text);
 /// Returns the text that a name in a file stands for, even if another program or a person wrote the name.
 std::wstring DecodeName(std::string_view name);
 
-/// Returns true only for bytes that need no encoding at any place in a name.
+/// Returns whether @a byte is an ASCII letter, an ASCII digit or one of "_-./:". EncodeName() leaves these bytes as
+/// they are, wherever they stand in a name.
 bool IsPlainInName(char byte);
 
 /// Returns @a text as a value: unchanged if it is then read back exactly, otherwise in quotes.

@@ -15,9 +15,10 @@ namespace fittings {
 
 /// The text of an INI file, an index of its sections and keys, and the changes made in it.
 ///
-/// Names and values are as EncodeName() and EncodeValue() write them. A name that a person has written in another way
-/// is found by its meaning. If several lines have the same key, the last one counts, but lines whose section and key
-/// are as EncodeName() writes them take precedence over the others.
+/// The functions take and return each name as EncodeName() writes it, even if the file spells the name differently.
+/// Values are as they stand in the file: EncodeValue() writes them, and DecodeValue() reads them. If several lines have
+/// the same key, the last one counts. However, lines that spell the section and the key as EncodeName() does take
+/// precedence over the others.
 class IniText
 {
 public:
@@ -73,7 +74,8 @@ public:
         std::optional<std::string_view> value;  ///< None when the key or the section was removed.
     };
 
-    /// Returns all changes, each key and each section once.
+    /// Returns all changes, each key and each section once. Only a key that was set again after RemoveSection() occurs
+    /// twice: first as removed, then with its new value.
     std::vector<Change> Changes() const;
 
 private:

@@ -29,9 +29,9 @@ struct DecodedUtf8
 /// Does the work of DecodeUtf8() for a character that is not ASCII.
 DecodedUtf8 DecodeMultibyte(std::string_view text);
 
-/// Decodes the first character of @a text, which must not be empty. An incomplete or invalid sequence takes the bytes
-/// before its first wrong byte, which may start the next sequence (the "maximal subpart" practice of the Unicode
-/// Standard).
+/// Decodes the first character of @a text, which must not be empty. A byte that cannot start a character is an invalid
+/// sequence by itself. Any other incomplete or invalid sequence ends before the first byte that cannot continue it.
+/// That byte may start the next character (the "maximal subpart" practice of the Unicode Standard).
 inline DecodedUtf8 DecodeUtf8(std::string_view text)
 {
     const auto lead = static_cast<unsigned char>(text.front());
