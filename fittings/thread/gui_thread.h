@@ -86,8 +86,8 @@ public:
     void SetEndEvent(int eventType);
 
     /// Returns a number that no other worker of the process has. The number is larger than those of the workers made
-    /// before. If a worker's events contain this number, their handler can ignore those that an earlier worker has left
-    /// queued.
+    /// before. If each worker puts its number into its events, the handler can recognise and ignore events that an
+    /// earlier worker has left queued.
     int GetRunNumber() const { return m_runNumber; }
 
     /// @name Posting
