@@ -63,8 +63,8 @@ void wxHandyTreeCtrl::CreateImageList()
     SetImageList(m_imageList);
 }
 
-// Sets the images. Without images, also lowers the row height: the toolkit raises it when it measures the items again,
-// but does not lower it from the height of the earlier images.
+// Sets the images. Without images, also lowers the row height, which would keep the height of the earlier images: when
+// the toolkit measures the items again, it raises the row height as needed, but never lowers it.
 void wxHandyTreeCtrl::SetImageList(wxImageList* images)
 {
     wxTreeCtrlEx::SetImageList(images);

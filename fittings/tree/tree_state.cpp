@@ -78,7 +78,8 @@ private:
         return true;
     }
 
-    // Moves to the next sibling of the last item of the path that has one. Returns false when no item has one.
+    // Shortens the path until its last item has a next sibling, and moves to that sibling. Returns false when no item
+    // of the path has a next sibling.
     bool Advance()
     {
         for (; m_path.size() > 1; m_path.pop_back()) {
@@ -93,8 +94,8 @@ private:
         return false;
     }
 
-    // Finds the place of an item again after its siblings have changed. If the item was deleted, its next sibling is
-    // now at its old place.
+    // Finds the place after a visited item again if its siblings have changed. If the item itself was deleted, takes
+    // the item's old place: the next sibling is there now.
     void FindAgain(VisitedItem& visited, const wxTreeItemId& parent) const
     {
         TreeChildren same = visited.here;
