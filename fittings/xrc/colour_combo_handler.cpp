@@ -16,7 +16,7 @@ wxColourComboXmlHandler::wxColourComboXmlHandler()
 
 wxColourComboXmlHandler::~wxColourComboXmlHandler() = default;
 
-// Compares the class name in the resource, which is the same for objects with a `subclass`.
+// Compares the `class` in the resource. An object with a `subclass` has the same `class` as one without.
 bool wxColourComboXmlHandler::CanHandle(wxXmlNode* node)
 {
     return IsOfClass(node, "wxColourCombo");

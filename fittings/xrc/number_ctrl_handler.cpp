@@ -28,7 +28,7 @@ wxNumberCtrlXmlHandler::wxNumberCtrlXmlHandler()
 
 wxNumberCtrlXmlHandler::~wxNumberCtrlXmlHandler() = default;
 
-// Compares the class name in the resource, which is the same for objects with a `subclass`.
+// Compares the `class` in the resource. An object with a `subclass` has the same `class` as one without.
 bool wxNumberCtrlXmlHandler::CanHandle(wxXmlNode* node)
 {
     return IsOfClass(node, "wxNumberCtrl");

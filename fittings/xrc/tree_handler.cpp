@@ -27,7 +27,7 @@ wxHandyTreeCtrlXmlHandler::wxHandyTreeCtrlXmlHandler()
 
 wxHandyTreeCtrlXmlHandler::~wxHandyTreeCtrlXmlHandler() = default;
 
-// Compares the class name in the resource, which is the same for objects with a `subclass`.
+// Compares the `class` in the resource. An object with a `subclass` has the same `class` as one without.
 bool wxHandyTreeCtrlXmlHandler::CanHandle(wxXmlNode* node)
 {
     return IsOfClass(node, "wxHandyTreeCtrl");
@@ -43,7 +43,7 @@ wxObject* wxHandyTreeCtrlXmlHandler::DoCreateResource()
     tree->Create(m_parentAsWindow, GetID(), GetPosition(), GetSize(),
                  GetStyle("style", wxTR_HAS_BUTTONS | wxTR_NO_LINES), wxDefaultValidator, GetName());
     std::unique_ptr<wxImageList> images(GetImageList());
-    // Without a size in the resource, the list takes that of its first bitmap. If there is no bitmap, use an empty
+    // Without a size in the resource, the list has the size of its first bitmap. Without a bitmap either, make an empty
     // list.
     if (images && images->GetSize() != wxSize(0, 0))
         tree->AssignImageList(images.release());
