@@ -40,8 +40,8 @@ std::vector<Item> ConsumeItems(FuzzedDataProvider& bytes)
     return items;
 }
 
-/// Returns the full path of each item that is expanded or selected, after its marks. Leaves out the mark of the first
-/// visible item, which only a tree that is shown restores.
+/// Returns a text for each item that is expanded or selected: its marks, followed by its full path. Leaves out the mark
+/// of the first visible item, which only a tree that is shown restores.
 std::vector<std::wstring> Marked(const std::wstring& text)
 {
     std::vector<std::wstring> marked;

@@ -1,4 +1,4 @@
-// Window geometry: whatever is stored, the user can reach the window, or the window stays unchanged.
+// Window geometry: whatever is stored, the window is completely visible after loading, or loading leaves it unchanged.
 
 #include <cstdint>
 #include <cwchar>

@@ -1,4 +1,4 @@
-// FormatControlText(): each field of the format has its effect, and the number shown is the number typed.
+// FormatControlText(): each field of the format has its effect, and only rounding changes the absolute value.
 
 #include <algorithm>
 #include <cmath>

@@ -21,7 +21,8 @@ struct NumberShape
 /// [0-9]*)?` and, after at least one digit or point, `[eE]? [+-]? [0-9]*`.
 bool HasShape(const std::wstring& text, const NumberShape& shape);
 
-/// Returns whether this point cannot be mistaken for another part of a number, for a blank or for the end of the text.
+/// Returns false if the character that serves as the point is also another part of a number, a blank or the end of the
+/// text.
 bool IsPlainPoint(wchar_t point);
 
 /// Returns the text without the blanks at both ends.
