@@ -268,7 +268,7 @@ void BrowserPage::MakeTools()
 wxWindow* BrowserPage::MakePanes()
 {
     auto* panel = new wxPanel(this);
-    // Give the panel a size, because the layout limits a pane to a share of it.
+    // Give the panel a size, because the layout limits each pane to a share of the panel's size.
     panel->SetSize(wxGetTopLevelParent(this)->GetClientSize());
     m_layout.SetManagedWindow(panel);
     m_layout.SetFlags(wxAUI_MGR_DEFAULT | wxAUI_MGR_LIVE_RESIZE);

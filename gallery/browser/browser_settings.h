@@ -16,8 +16,8 @@ namespace browser_settings {
 /// Returns the roots of earlier sessions, the latest first.
 std::vector<std::string> LoadRootFolders();
 
-/// Stores a root as the latest one. Only the latest 50 are kept: if there are more, removes the oldest one and the
-/// folder that was selected below it. Returns the removed root, or an empty path.
+/// Stores a root as the latest one. Only the settings of the latest 50 roots are kept: if there are more, forgets the
+/// oldest root and which folder was selected below it. Returns the forgotten root, or an empty path.
 std::string SaveRootFolder(const std::string& path);
 
 /// Returns the folder that was selected below a root; empty when there is none.

@@ -82,7 +82,7 @@ public:
             RowsDeleted(rows);
     }
 
-    /// Sets a size. It appears when its row is drawn again.
+    /// Sets the size of a folder. The list shows the size when it draws the folder's row again.
     void SetFolderSize(const std::string& name, std::uint64_t size)
     {
         if (m_folders.empty()) {

@@ -232,8 +232,8 @@ void FolderTree::Dress(const wxTreeItemId& item, const Subfolder& folder)
     cursor.SetImage(folder.readable ? m_images.folder : m_images.unreadable, wxTreeItemIcon_Normal);
     cursor.SetImage(folder.readable ? m_images.open : m_images.unreadable, wxTreeItemIcon_Expanded);
     Colour(item, browser_settings::LoadFolderColour(PathOf(item)));
-    // Set the button only of an item without children: one with children shows its button, whatever the listing says
-    // about subfolders.
+    // Decide on the button only if the item has no children. An item with children shows its button, whatever the
+    // listing says about subfolders.
     if (GetChildrenCount(item, false) == 0)
         cursor.SetChildren(folder.mayHaveSubfolders);
 }

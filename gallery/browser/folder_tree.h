@@ -12,7 +12,7 @@ struct Subfolder;
 
 /// The folders below a root folder, read when they are expanded, each in its colour.
 ///
-/// Each item stores an index into a table of names, because a label cannot contain every file name. Links are left out:
+/// Each item stores an index into a table of names, because some file names cannot be labels. Links are left out:
 /// circular links would make the tree endless.
 class FolderTree : public wxHandyTreeCtrl
 {

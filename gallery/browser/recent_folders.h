@@ -16,8 +16,8 @@ public:
     /// Loads the folders of earlier sessions.
     RecentFolders();
 
-    /// Returns a menu of the folders, owned by the menu bar that it is added to, and kept up to date. The ids of the
-    /// menu's items are wxID_FILE1 to wxID_FILE9.
+    /// Returns a new menu of the folders, which the caller adds to a menu bar. This object keeps the menu up to date.
+    /// The ids of the menu's items are wxID_FILE1 to wxID_FILE9.
     wxMenu* MakeMenu();
 
     /// Puts a folder at the beginning of the list.

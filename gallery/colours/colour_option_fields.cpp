@@ -200,7 +200,8 @@ wxSpinCtrl* ColourOptionFields::MakeCount(const char* name, int first, int least
     return field;
 }
 
-/// Enables the fields of the options in force, and sends EVT_COLOUR_OPTIONS_CHANGED.
+/// Enables each field that depends on a check box if the box is checked, otherwise disables the field. Then sends
+/// EVT_COLOUR_OPTIONS_CHANGED.
 void ColourOptionFields::OnChange()
 {
     m_automatic->Enable(m_hasAutomatic->GetValue());

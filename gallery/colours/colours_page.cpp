@@ -44,8 +44,8 @@ wxString NameOf(const wxColour& colour, const wxString& separator)
     return number;
 }
 
-/// Returns a square of the colour. For an invalid colour the square is transparent, because GTK leaves no room for
-/// pictures if the first row has none.
+/// Returns a square of the colour, which is transparent for an invalid colour. If the first row had no picture at all,
+/// GTK would leave no room for the pictures of the other rows.
 wxBitmap SwatchOf(const wxColour& colour, int size)
 {
     wxImage swatch(size, size);
@@ -59,7 +59,7 @@ wxBitmap SwatchOf(const wxColour& colour, int size)
     return wxBitmap(swatch);
 }
 
-/// Makes the row of a heading. Each such row is as high as the one that also has a button.
+/// Makes a row for a heading. Each of these rows is as high as the "Clear" button in one of them.
 wxSizer* MakeHeader(wxStaticText* heading)
 {
     auto* header = new wxBoxSizer(wxHORIZONTAL);
