@@ -197,15 +197,15 @@ TEST_P(ClockJumps, HideNoChangeByAnotherProcess)
     EXPECT_EQ(NamesIn(data.Path()), (std::vector<std::string>{"settings.ini", "settings.ini.lock"}));
 }
 
-// Each change overwrites the file with the same number of bytes, and sets its modification time to the earlier one or
-// to that of a clock that has jumped.
+// Each change overwrites the file with the same number of bytes. Then the test sets the file's modification time: to
+// that of the first content, or to the time of a clock that has jumped.
 TEST_P(ClockJumps, HideNoChangeInPlace)
 {
     TempUserData data;
     const std::string path = data / "settings.ini";
     WriteFile(path, "[s]\nk=1\n");
     const timespec first = TimeOf(path);
-    WaitPastStamp(path);  // so that the copy is kept
+    WaitPastStamp(path);  // so that the store keeps its copy of the file
     EXPECT_EQ(Stored(L"s", L"k"), L"1");
     clock.Jump(GetParam());
     WriteFile(path, "[s]\nk=2\n");

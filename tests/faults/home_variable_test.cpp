@@ -60,7 +60,8 @@ TEST_P(HomeThatIsNoFolder, GivesWayUnderARelativeDataHomeToo)
     EXPECT_EQ(SeenIn(here.Path(), GetParam(), "/home/ann", "", "data"), Below("/home/ann"));
 }
 
-// The file that names the documents folder is in the home folder, so that file is not found either.
+// The file that names the documents folder must not be read from the current folder. Without that file, the home folder
+// is the documents folder.
 TEST_P(HomeThatIsNoFolder, HasNoDocuments)
 {
     const TempFolder here;
