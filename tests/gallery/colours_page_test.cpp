@@ -230,7 +230,7 @@ TEST_F(ColoursPageTest, TheListForgetsWhatIsOld)
     OpenColours();
     PointAtCell(kDarkRedCell);
     ASSERT_TRUE(PumpUntil([&] { return Events().size() == 2; }));
-    // These are more events than a person could cause in this time.
+    // Together with the two events above, these are as many as the list keeps.
     for (int i = 0; i < 249; ++i) {
         Popup().ChangeSelection(0);
         Popup().ChangeSelection(kIndigoCell);

@@ -159,7 +159,7 @@ TEST_F(Pages, FloatingFoldersComeBackWhereTheyWereSeen)
     EXPECT_TRUE(FoldersComeTo(place));
 }
 
-// The layout is loaded when the page is shown: a layout that was never on the screen must not be stored.
+// The layout is loaded when the page is shown. A session that does not show the page must not store another layout.
 TEST_F(Pages, FoldersThatWereNotShownKeepTheirLayout)
 {
     Open(root);

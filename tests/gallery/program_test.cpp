@@ -133,7 +133,8 @@ TEST_F(TheProgram, SavesItsStateWhenItIsTerminatedInADialog)
     }
 }
 
-// At twice the usual size the window would not fit: the screen is 1280 by 1024, less the margins at its edges.
+// With scale factor 2, a window of the usual size does not fit on the screen. The screen has 1280 x 1024 pixels, less the
+// margins that the window manager reserves at its edges.
 TEST_F(TheProgram, FitsOnTheScreenAtFirst)
 {
     setenv("GDK_SCALE", "2", 1);
@@ -194,7 +195,7 @@ void TakesItsPictures(const std::vector<std::string>& arguments, const std::stri
     EXPECT_EQ(program.Wait(), 0) << program.Output() << program.Errors();
     EXPECT_EQ(program.Output().find("FAILED"), std::string::npos);
     EXPECT_FALSE(program.HasTemporaryFiles());
-    // GTK prints this warning about a control that has less room than its borders take, which must not happen.
+    // GTK prints this warning if a control has less room than its borders take.
     EXPECT_EQ(program.Errors().find("while allocating gadget"), std::string::npos) << program.Errors();
     for (const char* name : {"browser", "colour-popup", "colours", "filter", "folder-colours", "folder-dialog",
                              "numbers", "persistence", "save-dialog", "tree", "window-state"})

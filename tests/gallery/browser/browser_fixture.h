@@ -46,7 +46,7 @@ protected:
     /// Makes the pane of the folders float at a place on the screen.
     void FloatFolders(const wxPoint& place);
 
-    /// Waits until the pane of the folders floats at that place; returns false if it does not.
+    /// Waits until the pane of the folders floats at @a place; returns false if it does not.
     bool FoldersComeTo(const wxPoint& place);
 
     TempUserData settings;

@@ -79,7 +79,7 @@ TEST(Report, IsUtf8WhateverTheNamesAre)
     const std::string text = ReportText("/", {File("caf\xC3\xA9", 1), File("caf\xE9", 2), File("two\nlines", 3)});
     EXPECT_NE(text.find("\r\ncaf\xC3\xA9,File,1,"), std::string::npos);
     EXPECT_NE(text.find("\r\ncaf\xEF\xBF\xBD,File,2,"), std::string::npos);
-    // Control characters become their pictures, so that each entry is one line.
+    // Each control character becomes a visible symbol, so that each entry is one line.
     EXPECT_NE(text.find("\r\ntwo\xE2\x90\x8Alines,File,3,"), std::string::npos);
 }
 

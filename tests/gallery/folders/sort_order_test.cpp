@@ -105,7 +105,7 @@ TEST(NamesSort, WithUndecodableOnesToo)
     EXPECT_EQ(SortedNames({"b", "\xFF", "A\xFF", "a"}), (Strings{"a", "A\xFF", "b", "\xFF"}));
 }
 
-// The limit is for slow machines under a sanitizer. A plain build takes a twentieth of that time.
+// The limit is for slow machines under a sanitizer. A plain build takes a twentieth of the limit.
 TEST(SortedPositions, TakeAHundredThousandEntriesInAMoment)
 {
     std::mt19937 random(1);
