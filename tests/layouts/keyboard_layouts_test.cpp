@@ -24,7 +24,7 @@ using Key = std::string;
 struct Keyboard
 {
     const char* layout;
-    /// A key that differs between the layouts, and its symbol on a level of the layout.
+    /// A key whose symbol differs between the layouts, one of the key's levels, and the key's symbol on that level.
     unsigned key;
     unsigned level;
     const char* symbol;
@@ -75,7 +75,8 @@ TEST_P(KeyboardLayouts, TypeAMinus)
     EXPECT_EQ(screen.BellsRung(), 0);
 }
 
-// A key with the code of the keypad's decimal point types the format's point; any other key types its own character.
+// The keypad's decimal key types the format's point if the program receives the key code of the decimal point.
+// Otherwise, the key types its own character.
 TEST_P(KeyboardLayouts, TypeThePointOfTheKeypad)
 {
     const NumLock numLock;
