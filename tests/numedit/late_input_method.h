@@ -6,8 +6,8 @@
 #include <gtest/gtest.h>
 #include <gtk/gtk.h>
 
-/// An input method of all GTK entries while the object exists. It shows what is typed as preedit text, and commits only
-/// when the test says so, outside any key event.
+/// Acts as the input method of all GTK entries while the object exists. It shows what is typed as preedit text, and
+/// commits only when the test says so, outside any key event.
 class LateInputMethod
 {
 public:

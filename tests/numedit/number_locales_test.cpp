@@ -119,7 +119,8 @@ TEST(GermanLocale, DoesNotChangeTheZerosOnTheWay)
     EXPECT_FALSE(CNumberEditUtils::ValidateInput(L"0,0", format));
 }
 
-// A format keeps its separators, but the locale's point, which is accepted too, is read at each call.
+// When the locale changes, a format keeps its separators. The point of the new locale is accepted too, because each
+// call reads the locale's point.
 TEST(GermanLocale, IsFollowedWhenItComesAndGoes)
 {
     CNumberFormat format(eFixedFormat);
@@ -226,8 +227,8 @@ TEST(CurrentConversion, ReadsSeparatorsBeyondAscii)
     EXPECT_EQ(Shown(L"1٫5", CNumberFormat(eFixedFormat)), L"1.50");
 }
 
-// The grammar and the locale preset use only the first character of the locale's point. Replacing the point replaces
-// all of its characters.
+// With this conversion, the locale's point has two characters. The grammar and the locale preset use only the first.
+// Where the functions replace the format's point by the locale's or the other way round, they use both characters.
 TEST(CurrentConversion, MayMakeSeveralCharactersOfThePoint)
 {
     const ScopedLocale pashto("ps_AF.UTF-8");
@@ -239,7 +240,7 @@ TEST(CurrentConversion, MayMakeSeveralCharactersOfThePoint)
     EXPECT_EQ(Shown(L"1234\u00d95", fixed), L"1,234");
     EXPECT_FALSE(Valid(L"1.5", fixed));
     EXPECT_TRUE(Valid(L"1\u00d95", fixed));
-    // The point of this format is that first character.
+    // The point of this format is the first of the two characters.
     EXPECT_FALSE(Valid(L"1\u00d95", Amount()));
     EXPECT_EQ(Shown(L"1\u00d9\u00ab5", Amount()), L"1\u00d950");
 }

@@ -84,7 +84,7 @@ TEST(ValidateInput, AcceptsAsManyZerosAsThereAreDecimals)
     EXPECT_FALSE(Accepted(L"0.001", format));
 }
 
-// "0" has one digit too many, but is accepted as the beginning of a number.
+// The format allows no digit in front of the point. A zero is accepted there all the same.
 TEST(ValidateInput, AcceptsTheZeroWhateverTheIntegerDigits)
 {
     CNumberFormat format(eFixedFormat);
@@ -102,7 +102,7 @@ TEST(ValidateInput, KnowsTheFormatsPointInTheZeros)
     EXPECT_TRUE(Accepted(L",", format));
     EXPECT_TRUE(Accepted(L"0,", format));
     EXPECT_TRUE(Accepted(L"0,00", format));
-    // A complete number may have the locale's point. The beginning of a number may not.
+    // A complete number may have the locale's point. Zeros at the beginning of a number must have the format's point.
     EXPECT_FALSE(Accepted(L".", format));
     EXPECT_FALSE(Accepted(L"0.", format));
     EXPECT_FALSE(Accepted(L"0.0", format));

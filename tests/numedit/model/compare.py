@@ -16,7 +16,7 @@ from library import Answers, Case
 from number_cases import random_case
 from number_model import NumberFormat
 
-# Small enough to find the case that ends a driver, and so large that starting the drivers takes little time.
+# The number of cases for each start of the driver. With larger batches, the driver starts less often.
 BATCH = 5000
 
 

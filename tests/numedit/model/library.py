@@ -72,5 +72,5 @@ def _unpacked_text(data):
     return str(data[4:end], _WIDE, "surrogatepass"), data[end:]
 
 
-# The width of a wchar_t.
+# The encoding of wchar_t texts, in the machine's byte order.
 _WIDE = "utf-32-le" if struct.pack("=H", 1) == struct.pack("<H", 1) else "utf-32-be"

@@ -155,7 +155,7 @@ def validate_string(text, number_format, locale):
         return True
     if rest == unsigned or not number_format.allow_exponent:
         return False
-    # The letter is optional: 12-5 means 12e-5.
+    # The letter is optional: 12-5 is accepted like 12e-5.
     if rest[:1] in EXPONENT_LETTERS:
         rest = rest[1:]
     if rest[:1] in SIGNS:

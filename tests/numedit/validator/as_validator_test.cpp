@@ -250,7 +250,8 @@ TEST_F(Numbers, GiveWayToAnotherValidator)
     EXPECT_TRUE(dialog->Validate());
 }
 
-// The validator itself writes the keypad's point. The host replaces the validator in the text event of this change.
+// The validator itself writes the keypad's point. Meanwhile, the host's handler of the text event replaces the
+// validator.
 TEST_F(Numbers, MayBeReplacedWhileTheyTakeAKey)
 {
     Show();

@@ -28,7 +28,7 @@ public:
     Layout& operator=(const Layout&) = delete;
 };
 
-/// Puts a character on a key of the current layout. A change of the layout removes it.
+/// Puts a character on a key of the current layout. The next change of the layout removes the character from the key.
 void RemapKey(unsigned key, wchar_t character);
 
 /// Turns NumLock on while the object exists.

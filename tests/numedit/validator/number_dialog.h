@@ -85,7 +85,7 @@ public:
     NumberDialog(const NumberDialog&) = delete;
     NumberDialog& operator=(const NumberDialog&) = delete;
 
-    /// Shows the dialog with @a text and the focus in the number's control and the caret at the text's end.
+    /// Shows the dialog with @a text in the number's control. The control has the focus, and the caret is at the end.
     void Show(const wxString& text = wxString());
 
     /// Sets the text and the caret in a dialog that is already shown, and resets the counters.

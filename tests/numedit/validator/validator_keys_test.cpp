@@ -15,7 +15,8 @@
 
 namespace {
 
-// A key, the text in which it is pressed, and the text afterwards. Most of these texts are no valid numbers.
+// A key, the text and caret before it is pressed, and the text and caret afterwards. Most of these texts are not valid
+// numbers.
 struct EditingKey
 {
     const char* name;
