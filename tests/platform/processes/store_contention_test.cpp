@@ -1,5 +1,5 @@
 // Many processes store settings at the same time, on slow disks, with locks that are stuck, missing or ineffective. A
-// write that returns true is kept. FITTINGS_TEST_SOAK=N repeats each attack N times as often.
+// value is kept if its write has returned true. FITTINGS_TEST_SOAK=N makes the tests of many writes N times as long.
 
 #include <fittings/platform/local_reg_store.h>
 
@@ -215,8 +215,8 @@ TEST(AStoppedHolderOfTheLock, DelaysAWriteOnceWhileTheFileIsEmptiedAllTheTime)
     EXPECT_EQ(ReadFile(path), "[s]\na=1\nk=1\n");
 }
 
-// A process that saves without the lock does not show that the holder of the lock is running again, so later writes do
-// not wait for the lock.
+// Another process saves without the lock. This does not show that the holder of the lock is running again, so the later
+// writes of this process do not wait for the lock.
 TEST(AStoppedHolderOfTheLock, DelaysAProcessOnceWhileAnotherOneStoresTheSameWay)
 {
     const InMemory inMemory;
@@ -363,7 +363,7 @@ TEST(ALockFileThatCannotBeOpened, LosesNothing)
     const TempUserData data;
     WriteFile(data / "settings.ini.lock", "");
     ASSERT_EQ(chmod((data / "settings.ini.lock").c_str(), 0), 0);
-    // The lock file belongs to root, and the folder to a user, as after a program was run with sudo.
+    // The lock file belongs to root, and the folder to a user, as after the user ran a program with sudo.
     if (geteuid() == 0) {
         ASSERT_EQ(chown(data.Path().c_str(), 65534, 65534), 0);
     }

@@ -97,8 +97,8 @@ TEST_F(AnExchange, StoresItsOwnValueOverTheOneThatAnotherProcessHasJustStored)
     EXPECT_EQ(Now(), "[s]\nk=new\n");
 }
 
-// The second process starts from the file that the first exchange put in place. It does not know the change in the
-// file that this exchange displaced.
+// The first exchange displaces a file of another process. The next process starts from the file that this exchange put
+// in place, and does not know the change in the displaced file.
 TEST_F(AnExchange, KeepsTheChangesOfSeveralProcesses)
 {
     WriteFile(m_path, "[s]\na=1\nb=1\nk=old\n");
@@ -166,8 +166,8 @@ TEST_F(AnExchange, KeepsWhatAThirdProcessStoresBeforeAFileIsPutBack)
               (std::vector<std::string>{"settings.ini", "settings.ini.lock", "settings.ini.unreadable"}));
 }
 
-// A fourth process stores something after the second one's file has been put back, and before the third one's file is
-// put back.
+// The second process's file has been put back. Then a fourth process stores something before the third process's file
+// is put back.
 TEST_F(AnExchange, DestroysNothingThatThreeOtherProcessesStore)
 {
     WriteFile(m_path, "[s]\na=1\nk=old\n");
@@ -179,7 +179,7 @@ TEST_F(AnExchange, DestroysNothingThatThreeOtherProcessesStore)
     EXPECT_EQ(ReadFile(m_path + ".unreadable"), third);
 }
 
-// The second process's file is set aside. The content merged from it and ours is not kept.
+// The second process's file is set aside. The file into which the store has merged both changes is not kept.
 TEST_F(AnExchange, DestroysNothingOfASecondProcessWhenAThirdPutsAPipeInPlaceOfTheFile)
 {
     WriteFile(m_path, "[s]\na=1\nk=old\n");
@@ -263,8 +263,8 @@ TEST_F(AnExchange, LeavesNothingBehind)
     EXPECT_EQ(NamesIn(m_data.Path()), (std::vector<std::string>{"settings.ini", "settings.ini.lock"}));
 }
 
-// The time limit of this process has passed, as if the process had been stopped, but another process holds the folder's
-// lock to exchange its file. This process must wait for that lock.
+// This process has no time left, as if it had been stopped for a while. Another process holds the folder's lock to
+// exchange its file. This process must wait for that lock all the same.
 TEST_F(AnExchange, WaitsForTheExchangeOfAnotherProcessEvenWhenNoTimeIsLeft)
 {
     WriteFile(m_path, "[s]\nk=old\n");

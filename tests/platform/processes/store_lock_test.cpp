@@ -85,7 +85,8 @@ TEST(AHeldLock, GoesToWhoHasWaitedLongest)
     EXPECT_FALSE(IsTurnTaken(lockFile));
 }
 
-// A child that is forked while a thread stores something inherits the open lock file. It must not keep the lock.
+// A child that is forked while a thread stores something inherits the open lock file. The child must not keep
+// the lock.
 TEST(AChildForkedWhileTheLockIsHeld, DoesNotKeepIt)
 {
     const InMemory inMemory;

@@ -3,7 +3,8 @@
 
 #include <string>
 
-/// Which call on a file fails, counted from 1 since FailingCalls was constructed, and with which error.
+/// Says which call on a file fails, and with which error. The first call after the construction of FailingCalls has the
+/// number 1.
 struct Fault
 {
     int nth;
@@ -20,7 +21,7 @@ public:
     FailingCalls(const FailingCalls&) = delete;
     FailingCalls& operator=(const FailingCalls&) = delete;
 
-    /// Returns the name of the first call that failed; empty when there were fewer calls.
+    /// Returns the name of the first call that failed; empty if none failed.
     static const std::string& Failed();
 };
 

@@ -48,7 +48,7 @@ bool SaveKey(const std::string& path, const wchar_t* value)
 const std::string kOld = "# mine\n[s]\nk=old\nother=1\n";
 const std::string kNew = "# mine\n[s]\nk=new\nother=1\n";
 
-// Expects that every way of writing a value fails, keeps the old files, and leaves no other file behind.
+// Expects that every way of writing a value fails and keeps the old files. The only new file may be the lock file.
 void ExpectWritesToFail(const std::string& folder)
 {
     const std::string big(1 << 20, 'x');

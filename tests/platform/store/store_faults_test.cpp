@@ -20,8 +20,8 @@ namespace {
 
 constexpr int kErrors[] = {ENOSPC, EIO, EACCES, EROFS, ENOMEM, EMFILE, EINTR};
 
-/// Calls @a attempt with every fault until no call is left that could fail. Records how many faults there were, and
-/// which calls failed.
+/// Calls @a attempt for each error, with a fault at its first call on a file, then at its second call, and so on, until
+/// it makes no further call. Records how many faults there were, and which calls failed.
 void ForEveryFault(const std::function<void(const Fault&)>& attempt)
 {
     int faults = 0;

@@ -43,7 +43,7 @@ TEST(AFileOfFiveMillionKeys, IsNotReadAndNotReplaced)
     Ini ini;
     EXPECT_FALSE(ini.Load(data / "settings.ini"));
     EXPECT_EQ(ini.Get(L"s", L"1"), L"(none)");
-    EXPECT_LT(ResidentBytes(), before + 600 * kMiB);  // the sanitizers need a part of it
+    EXPECT_LT(ResidentBytes(), before + 600 * kMiB);  // a sanitizer uses some of this memory
     ini.Set(L"s", L"k", L"v");
     EXPECT_FALSE(ini.Save(data / "settings.ini"));
     EXPECT_EQ(Stored(L"s", L"1"), L"(none)");

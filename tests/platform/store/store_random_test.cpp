@@ -98,8 +98,8 @@ std::string AnyLine(Random& random)
     return line;
 }
 
-// Every text with the line [s] in it can be loaded, unless null characters damage this line. It keeps all its bytes,
-// and keeps its other values when one changes.
+// Every file with the line [s] in it can be loaded, unless null characters damage this line. A save keeps all bytes of
+// the file. When one value changes, the file keeps its other values.
 TEST(ThousandsOfDirtyFiles, KeepWhatTheyHold)
 {
     constexpr unsigned kSeed = 77001;

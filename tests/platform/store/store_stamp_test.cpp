@@ -1,5 +1,5 @@
 // The default store compares the file's timestamps to know whether its copy is out of date. These tests set the
-// timestamps and the clocks: where a test needs it, two changes or two reads fall into one tick.
+// timestamps and the clocks, so that two changes or two reads can fall into one tick.
 
 #include <filesystem>
 #include <optional>
@@ -106,8 +106,8 @@ TEST_F(AnUnchangedStamp, IsNotTrustedWhenTheClockWasPutBack)
     EXPECT_EQ(ReadAfterChange(), L"2");
 }
 
-// Some file systems keep only whole seconds, and some only even ones. Therefore such a stamp is trusted only after two
-// seconds.
+// Some file systems keep only whole seconds, and some only even ones. Therefore a timestamp of whole seconds is trusted
+// only after two seconds.
 TEST_F(AnUnchangedStamp, OfWholeSecondsIsNotTrustedForTwoOfThem)
 {
     ReadOnce({1'700'000'000, 0}, {1'700'000'001, 996'000'000});
