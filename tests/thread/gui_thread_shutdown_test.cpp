@@ -164,7 +164,7 @@ TEST(Handler, MayBeDestroyedWithEventsQueued)
 }
 
 // Expects Entry() right after the destructor's two entries in the virtual table of @a Thread. For binary compatibility
-// with hosts, wxGUIThread and wxGUIThreadEx must not put an entry before it.
+// with hosts, wxGUIThread and wxGUIThreadEx must not put an entry before Entry().
 template <typename Thread, typename... Arguments>
 void ExpectEntryAfterTheDestructor(Arguments... arguments)
 {

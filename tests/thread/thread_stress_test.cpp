@@ -13,7 +13,7 @@
 
 namespace {
 
-// Counts the events of each worker, whose number is in the extra long, and checks their order.
+// Counts the events of each worker, and checks their order. The extra long of an event is the worker's number.
 class Counter : public wxEvtHandler
 {
 public:
