@@ -1,4 +1,4 @@
-// Counts the calls of the toolkit's functions by which wide and deep trees are saved and restored.
+// Saves and restores wide and deep trees, and counts the calls of the toolkit's functions.
 
 #include <fittings/tree/handy_tree_ctrl.h>
 

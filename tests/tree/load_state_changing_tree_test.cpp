@@ -77,7 +77,7 @@ protected:
     MortalTree& tree = *screen.tree;
     wxTreeCursor root;
     std::map<std::wstring, wxTreeCursor> items;
-    std::map<std::wstring, std::function<void()>> when;  ///< What to do when the item is first expanded, by its label.
+    std::map<std::wstring, std::function<void()>> when;  ///< The actions for the first expansions of items, by label.
 };
 
 TEST_F(LoadStateMeanwhile, VisitsAnAppendedSibling)
