@@ -133,8 +133,8 @@ TEST_F(TheProgram, SavesItsStateWhenItIsTerminatedInADialog)
     }
 }
 
-// With scale factor 2, a window of the usual size does not fit on the screen. The screen has 1280 x 1024 pixels, less the
-// margins that the window manager reserves at its edges.
+// With scale factor 2, a window of the usual size does not fit on the screen. The screen has 1280 x 1024 pixels, less
+// the margins that the window manager reserves at its edges.
 TEST_F(TheProgram, FitsOnTheScreenAtFirst)
 {
     setenv("GDK_SCALE", "2", 1);
