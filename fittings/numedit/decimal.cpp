@@ -57,8 +57,8 @@ bool Increment(std::string& digits)
     return true;
 }
 
-/// Returns how many leading digits of @a number remain when it is cut off after @a decimals decimals. The result may be
-/// larger than the number of its digits, or negative.
+/// Returns how many leading digits of @a number remain when @a number is cut off after @a decimals decimals. The result
+/// may be negative, or larger than the count of the digits.
 std::int64_t DigitsKept(const Decimal& number, std::int64_t decimals)
 {
     return number.point + std::clamp(decimals, -kMostExponent, kMostExponent);

@@ -144,7 +144,8 @@ public:
     /// what SetIncrement() returns for the text of that number, and false for an infinity and NaN.
     bool SetIncrement(double increment);
 
-    /// Returns whether IsAcceptable() is true and the validator accepts the field.
+    /// Returns true if IsAcceptable() is true and the validator accepts the field. The text of a disabled field need
+    /// not be acceptable.
     bool Validate() override;
 
     /// @cond

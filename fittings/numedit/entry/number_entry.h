@@ -33,7 +33,7 @@ public:
         std::wstring before;
         std::wstring text;
         std::wstring behind;
-        bool typed;        ///< True for one character and for text from a key.
+        bool typed;        ///< True for text from a key, and for one character that Take() does not insert.
         bool keypadPoint;  ///< True for the keypad's decimal key.
     };
 
