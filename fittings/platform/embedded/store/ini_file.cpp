@@ -279,10 +279,10 @@ std::vector<IniText::Key> CIniFile::WithEarlyKeys(const std::vector<IniText::Key
     return all;
 }
 
-// Merges three ways: makes the changes that lead from @a expected to @a put in the content @a displaced. For a key that
-// has changed in @a displaced too, a change of this object counts. Otherwise the value in @a displaced counts, because
-// it is newer than the rest of @a put. Only a change of this object removes a key: a key that is merely missing in
-// @a put may be one that another process has not merged yet.
+// Merges three ways: starts with @a displaced, and makes the changes that lead from @a expected to @a put. If a key has
+// changed in @a displaced too, a change of this object replaces the value in @a displaced. Any other change in @a put
+// does not, because the value in @a displaced is newer. Only a change of this object removes a key: a key that is
+// merely missing in @a put may be one that another process has not merged yet.
 std::optional<std::string> CIniFile::Merged(std::string_view expected, std::string_view put,
                                             std::string_view displaced) const
 {

@@ -65,8 +65,8 @@ public:
     /// Returns the names of a section's keys, each once, in the order of the file. New ones come last.
     std::vector<std::wstring> KeyNames(std::wstring_view section) const;
 
-    /// Returns the keys of KeyNames() with their values. For the section with the empty name, the keys before the first
-    /// section come first.
+    /// Returns the keys of a section with their values, in the order of KeyNames(). For the section with the empty
+    /// name, also returns the keys before the first section, and returns these first.
     std::vector<fittings::SettingsEntry> Entries(std::wstring_view section) const;
 
     /// Returns whether the file has not changed since its content was read into this object. False while Refresh()
