@@ -59,9 +59,9 @@ class OutlineWindow;
 /// leads to the control. While the popup is open, a screen reader announces the name of each hot cell.
 ///
 /// Where a program cannot place its windows or copy the screen, as on Wayland, the popup opens without an animation.
-/// Closing the popup while the animation runs ends the animation and shows the popup; neither the listener nor an event
-/// reports an end until the popup closes again. A click on another window of the program, or in the text field, also
-/// ends the animation, and dismisses the popup as soon as it is shown. Keys have no effect until then.
+/// Closing the popup while the animation runs ends the animation and shows the popup. The listener and the events
+/// report an end only when the popup closes again. A click on another window of the program, or in the text field, also
+/// ends the animation, and dismisses the popup as soon as it is shown. Keys have no effect during the animation.
 /// wxComboCtrl::EnablePopupAnimation() turns the animation off.
 ///
 /// wxEVT_COMBOBOX_DROPDOWN is sent when the popup opens. wxEVT_COMBOBOX_CLOSEUP is sent when the popup is dismissed
@@ -131,7 +131,7 @@ public:
     /// not delete the control in another way from a handler of one of its own events.
     bool Destroy() override;
 
-    /// Sends wxEVT_COMBOBOX_DROPDOWN and opens the popup. Does nothing while the popup opens.
+    /// Sends wxEVT_COMBOBOX_DROPDOWN and opens the popup. Does nothing during the animation.
     void Popup() override;
 
     /// Opens the popup. Without a popup, asserts and does nothing.

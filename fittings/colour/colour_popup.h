@@ -108,8 +108,8 @@ public:
     /// Sets the listener, which is not owned. The listener must outlive the popup or be replaced by null.
     void SetColorListener(wxColorPopupListener* listener) { m_pListener = listener; }
 
-    /// Sets the parent of the dialog of "More Colours..." and centres the dialog on it. The popup does not own @a
-    /// window. With null, the combo is the parent. The popup itself is not moved.
+    /// Sets the parent of the dialog of "More Colours...". The dialog will be centred on @a window, but the popup does
+    /// not move. The popup does not own @a window. With null, the combo is the parent.
     void SetCenterOn(wxWindow* window) { m_pCenterOn = window; }
 
     /// Resets every setting, the listener included, to its initial value. The constructor calls it. If the window

@@ -124,8 +124,8 @@ void wxColourPopup::OnPopup()
 
 void wxColourPopup::OnDismiss()
 {
-    // Report no end when the popup hides itself, and no second end when a listener that is notified of the end closes
-    // the popup.
+    // Report no end when the popup hides itself. Report no second end when a listener closes the popup while the
+    // listener is notified of the end.
     if (m_bInternalHide || m_ending)
         return;
     const Life life(m_life);
@@ -194,7 +194,7 @@ void wxColourPopup::RedrawHotCells(int old)
         wxRect rect;
         if (!GetCellRect(cell, rect))
             continue;
-        // This box is drawn two margins below its rectangle, under the separator.
+        // This box is drawn two margins lower than its rectangle, under the separator.
         if (cell == CELL_MORE_COLOURS)
             rect.height += 2 * m_nMargin;
         RefreshRect(rect);
