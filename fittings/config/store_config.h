@@ -52,9 +52,9 @@ public:
     wxStoreConfig(const wxStoreConfig&) = delete;
     wxStoreConfig& operator=(const wxStoreConfig&) = delete;
 
-    /// Takes over all groups and entries of @a old once. A later call changes nothing, even in a later run of the
-    /// program or with another @a old. An entry that already exists keeps its value. Texts are taken literally:
-    /// environment variables are not expanded. @a old keeps its path and options.
+    /// Takes over all groups and entries of @a old that can be stored, once. A later call takes over nothing, even in a
+    /// later run of the program or with another @a old. An entry that already exists keeps its value. Texts are taken
+    /// literally: environment variables are not expanded. @a old keeps its path and options.
     ///
     /// Saves at once as Flush() does, with everything that was collected. Returns false when that failed; the next call
     /// then tries again.
