@@ -52,8 +52,8 @@ bool IsFolder(int folder, const dirent& entry)
     return fstatat(folder, entry.d_name, &status, kLookAtLinks) == 0 && S_ISDIR(status.st_mode);
 }
 
-/// Returns a text such as "PNG file" for picture.png. The extension counts if it has one to five ASCII letters and
-/// digits, among them a letter, and is not the whole name.
+/// Returns a text such as "PNG file" for picture.png. Returns "Program" or "File" for a file without an extension. An
+/// extension has one to five ASCII letters and digits, at least one of them a letter, and does not begin the name.
 std::string TypeOfFile(const std::string& name, bool executable)
 {
     const std::size_t dot = name.rfind('.');

@@ -67,8 +67,8 @@ std::vector<std::uint32_t> SortedPositions(const std::vector<Entry>& entries, So
 /// Joins a folder's path and the name of an entry in it.
 std::string JoinPath(const std::string& folder, const std::string& name);
 
-/// Returns the absolute path, without links, of the folder that @a path leads to. Empty, with errno set, when that is
-/// not a folder.
+/// Returns the absolute path of the folder that @a path leads to, with all links resolved. If @a path does not lead to
+/// a folder, sets errno and returns an empty path.
 std::string ResolveFolder(const std::string& path);
 
 }  // namespace gallery

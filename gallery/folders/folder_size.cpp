@@ -189,7 +189,7 @@ private:
 
     SizeObserver& m_observer;
     FolderSum m_sum;
-    FolderSum m_before;  ///< The sum when the walk entered the current folder of the first level.
+    FolderSum m_before;  ///< The sum before the walk entered the current direct subfolder of the top.
     double m_fraction = 0;
     bool m_goesOn = true;
     std::vector<Level> m_levels;

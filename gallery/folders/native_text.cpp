@@ -24,7 +24,7 @@ wxString DisplayText(const std::string& bytes)
 
 std::wstring TextFromPath(const std::string& path)
 {
-    // What stays as it is besides letters, digits and "-._~": the rest of printable ASCII except "%" and "|".
+    // Besides letters, digits and "-._~", the rest of printable ASCII stays as it is, except "%" and "|".
     static constexpr char kKept[] = " !\"#$&'()*+,/:;<=>?@[\\]^`{}";
     g_autofree gchar* text = g_uri_escape_string(path.c_str(), kKept, TRUE);
     return file_util_ex::ConvertFromUTF8W(text);

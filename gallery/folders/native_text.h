@@ -20,8 +20,8 @@ namespace gallery {
 /// pictures.
 wxString DisplayText(const std::string& bytes);
 
-/// Returns a path as a text that PathFromText() turns back into the same bytes. Printable UTF-8 other than "%" and "|"
-/// stays as it is; the rest is percent-encoded.
+/// Returns a path as a text that PathFromText() turns back into the same bytes. "%", "|", the control characters of
+/// ASCII, and bytes that are not UTF-8 are percent-encoded; the rest stays as it is.
 std::wstring TextFromPath(const std::string& path);
 std::string PathFromText(const std::wstring& text);
 

@@ -18,7 +18,8 @@ using Folder = std::unique_ptr<DIR, CloseFolder>;
 /// with errno set, when it cannot be read.
 Folder OpenFolder(int base, const char* path, int flags = 0);
 
-/// Returns the next entry other than "." and ".."; null at the end, with errno 0, or on an error.
+/// Returns the next entry other than "." and "..". Returns null at the end, with errno 0, and after an error, with the
+/// error in errno.
 const dirent* NextEntry(DIR* folder);
 
 /// Flags for fstatat(): describe a link itself, and mount nothing.

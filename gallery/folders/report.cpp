@@ -45,7 +45,7 @@ std::string ReportText(const std::string& folder, const std::vector<Entry>& entr
 
 int SaveReport(const std::string& path, const std::string& text)
 {
-    // Write to the target of a link, which then stays a link, and keep the permissions of the file.
+    // If the path is a link, write to its target, so that the link stays a link. Keep the permissions of the file.
     std::error_code error;
     std::string file = std::filesystem::canonical(path, error);
     if (error)

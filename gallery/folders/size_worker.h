@@ -12,10 +12,10 @@
 
 namespace gallery {
 
-/// The results of a worker since TakeNews() was last called.
+/// The results of a worker.
 struct SizeNews
 {
-    std::vector<std::pair<std::string, FolderSum>> folders;  ///< The finished folders, with their sums.
+    std::vector<std::pair<std::string, FolderSum>> folders;  ///< Finished since the last TakeNews(), with their sums.
     FolderSum soFar;
     double fraction = 0;  ///< How much is done, from 0 to 1.
     bool done = false;
@@ -23,7 +23,7 @@ struct SizeNews
 
 /// Adds up a folder and everything below it in the background.
 ///
-/// Its events report only that TakeNews() has new results. If an event is lost with its handler, no result is lost. At
+/// Its events contain no results. They only report that TakeNews() has new ones, so a lost event loses no result. At
 /// most one event is in the queue.
 class SizeWorker : public wxGUIThreadEx, private SizeObserver
 {

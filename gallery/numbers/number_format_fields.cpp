@@ -206,7 +206,8 @@ void NumberFormatFields::Arrange(int width)
     InvalidateBestSize();
 }
 
-/// Loads the format. A field whose stored value is missing or wrong keeps its default.
+/// Loads the format. A field whose stored value is missing or invalid keeps its default. A field for a bound, however,
+/// shows the stored text as it is.
 void NumberFormatFields::LoadSettings()
 {
     CNumberFormat format(eFixedFormat);
@@ -319,8 +320,8 @@ wxCheckBox* NumberFormatFields::MakeFlag(std::size_t index)
     return box;
 }
 
-/// Adds a field for one character, between its label and the character's code: many separators are blanks that look
-/// alike.
+/// Adds a label, a field for one character, and the code of this character. Users need the code because many separators
+/// are blanks that look alike.
 void NumberFormatFields::AddCharacter(wxSizer* grid, std::size_t index)
 {
     auto* label = new wxStaticText(this, wxID_ANY, kCharacters[index].label);

@@ -66,7 +66,7 @@ NumbersPage::NumbersPage(wxWindow* parent) : wxScrolledWindow(parent)
     m_fields->Bind(EVT_FORMAT_CHANGED, [this](wxCommandEvent&) { UseFormat(); });
     m_validates->Bind(wxEVT_CHECKBOX, [this](wxCommandEvent&) { UseFormat(); });
     m_number->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { ShowResults(); });
-    // Bind both: a change from one text that is not a number to another sends no wxEVT_NUMBER_CHANGED.
+    // Bind wxEVT_TEXT too, because wxEVT_NUMBER_CHANGED is not sent if neither the old nor the new text is a number.
     for (const auto& event : {wxEVT_NUMBER_CHANGED, wxEVT_TEXT})
         m_control->Bind(event, [this](wxCommandEvent&) { ShowControlNumber(); });
     m_keep->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { OnKeep(); });
@@ -85,7 +85,7 @@ void NumbersPage::SaveSettings() const
 
 void NumbersPage::LoadSettings()
 {
-    // The stored number may be empty, so look for another setting.
+    // Look for a setting that is never stored as empty: the stored number may be empty.
     const bool isFirstSession = kNumberSettings.Load("Validates").empty();
     m_number->ChangeValue(isFirstSession ? wxString(kFirstNumber) : kNumberSettings.Load("Typed"));
     m_control->SetDecimal(isFirstSession ? wxString(kFirstNumber) : kNumberSettings.Load("InControl"));

@@ -14,12 +14,12 @@ namespace gallery {
 /// @{
 constexpr int kMargin = 18;        ///< The space around a page.
 constexpr int kColumnGap = 24;     ///< The space beside and below a column.
-constexpr int kColumnWidth = 260;  ///< The least width of the first column.
+constexpr int kColumnWidth = 260;  ///< The width of a number field, and the least width of some columns.
 constexpr int kGap = 6;            ///< The space between related controls.
 /// @}
 
-/// Makes a heading: a label in bold. @a text is the toolkit's markup; a mnemonic leads to the control that is made
-/// next.
+/// Makes a heading, which is a label in bold. @a text may contain the toolkit's markup. A mnemonic in it leads to the
+/// control that is made next.
 wxStaticText* MakeHeading(wxWindow* parent, const wxString& text);
 
 /// Aligns a label's text to the side where reading begins. The toolkit's own alignment does not work in a right-to-left

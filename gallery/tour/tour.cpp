@@ -434,7 +434,7 @@ bool Tour::SavePicture(const char* component, const wxPoint& pointer)
     return IsTrue(SaveScreenshot(m_frame->GetHandle(), m_pictures + "/" + component + ".png"), "the picture is taken");
 }
 
-/// Closes the window as a person does, and opens that of the next session.
+/// Closes the window as a person does, and opens the window of the next session.
 bool Tour::Reopen()
 {
     m_frame->Close();

@@ -1,4 +1,4 @@
-// The tour's step with a window that is not the gallery's, and that the library restores with one call.
+// A step of the tour: one call restores a window of another kind than the gallery's, with everything in it.
 
 #include <utility>
 #include <vector>
