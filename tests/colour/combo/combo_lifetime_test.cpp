@@ -60,7 +60,7 @@ struct Moment
     const char* name;
     const char* call;
     std::function<void(Control&)> act;
-    ColourCalls calls;  // all expected calls; destroying the control before the selection has ended cancels it
+    ColourCalls calls;  // all expected calls; destroying the control cancels a selection that has not ended
     bool inTheToolkit;  // the toolkit still uses the control after the call
 };
 
@@ -198,7 +198,7 @@ TEST(ColourListenerInItsCalls, MayChooseAnotherColour)
     EXPECT_EQ(control.popup->m_crInitialColour, *wxGREEN);
 }
 
-// The new value makes no other cell hot, and the combo ends with the name of the chosen colour.
+// The new value makes no other cell hot. In the end, the combo shows the name of the chosen colour.
 TEST(ColourListenerInItsCalls, MaySetTheValueOfTheCombo)
 {
     Control control;

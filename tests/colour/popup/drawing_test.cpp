@@ -157,7 +157,7 @@ TEST_F(ColourDrawing, OfABoxWithoutTextIsThatOfACell)
 TEST_F(ColourDrawing, OfMoreColoursIsASeparatorAndAText)
 {
     AddBoxes();
-    // The box of 139 x 33 pixels leaves 79 x 23 pixels around this text. Both halves are rounded down.
+    // The box of 139 x 33 pixels leaves 79 x 23 pixels around this text. Half of 79 and half of 23 are rounded down.
     dc.Record().textSize = wxSize(60, 10);
     EXPECT_EQ(DrawnCell(CELL_MORE_COLOURS), (Calls{
                                                 "rect 4,134 141x37 FACE FACE",

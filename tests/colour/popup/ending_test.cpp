@@ -300,7 +300,7 @@ TEST_F(ColourEndingWithText, HasTheEarlierTextAfterADismissal)
     EXPECT_EQ(on.popup->m_crColour, *wxBLUE);
 }
 
-// When the popup opens again, the combo passes its text to it. Enter must not choose the colour that was cancelled.
+// When the popup opens again, the combo passes its text to the popup. Enter must not choose the cancelled colour.
 TEST_F(ColourEndingWithText, DoesNotChooseACancelledColourTheNextTime)
 {
     for (const bool dismissed : {false, true}) {

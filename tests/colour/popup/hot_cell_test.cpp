@@ -102,7 +102,8 @@ TEST(ColourHotCell, CanBeSetBeforeTheWindowIsCreated)
     EXPECT_EQ(popup.m_nCurrentSel, 16);
     EXPECT_EQ(popup.m_strToolTip, "Red");
     EXPECT_EQ(listener.Take(), ColourCalls{"change #FF0000"});
-    // Before its window is created, the popup has no rows, and without texts no boxes, so no key can reach a cell.
+    // The popup has no rows before its window is created, and no boxes because their texts are empty. Therefore no key
+    // can reach a cell.
     wxKeyEvent down(wxEVT_KEY_DOWN);
     down.m_keyCode = WXK_DOWN;
     popup.SetAutomaticText("");
@@ -259,8 +260,8 @@ protected:
 
     bool Untouched(int x, int y) const { return Pixel(x, y) == kUntouched; }
 
-    // Expects that only the given rectangles and the frame were drawn. Ignores the pixels at the rectangles' edges and,
-    // except for the frame's lines, the outer four pixels of the popup.
+    // Expects that only the given rectangles and the frame were drawn. Ignores the pixels at the rectangles' edges. In
+    // the outer four pixels of the popup, looks only at one pixel of the frame on each side.
     void ExpectDrawn(const std::vector<wxRect>& cells) const
     {
         const wxSize size = popup->GetClientSize();
@@ -359,8 +360,8 @@ TEST_F(HotCellOnScreen, RedrawsTheBoxes)
     PaintOver();
     popup->ChangeSelection(M);
     PumpPending();
-    // "More Colours..." is drawn two margins below its rectangle, and the two lines of its separator at the top of that
-    // rectangle. The pixels between them are not drawn.
+    // "More Colours..." is drawn two margins lower than its rectangle. The two lines of its separator are drawn at the
+    // top of the rectangle. The pixels between the separator and "More Colours..." are not drawn.
     wxRect more = Cell(M);
     more.y += 4;
     wxRect separator(more.x + 4, Cell(M).y, more.width - 8, 2);

@@ -245,7 +245,7 @@ class ColourMargin : public testing::TestWithParam<Edge>
 {
 };
 
-// A wide margin enlarges the cell, which leaves at least seven pixels for its colour.
+// If the margin is wide, the cells are larger, so that at least seven pixels remain for the colour of a cell.
 TEST_P(ColourMargin, IsTheSystemsEdge)
 {
     const PinnedEdge edge(GetParam().reported);

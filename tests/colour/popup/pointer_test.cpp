@@ -1,5 +1,5 @@
-// Which cell the pointer makes hot. The popup moves the point up and left by one margin before it searches the boxes
-// and rows, and ignores the margin below "Automatic". OnMouseMove() documents this.
+// Which cell the pointer makes hot. The areas that react to the pointer differ from the drawn ones, as the comment on
+// OnMouseMove() describes.
 
 #include <vector>
 
@@ -88,8 +88,8 @@ TEST(ColourPointer, FindsTheCellsBetweenBothBoxes)
                        });
 }
 
-// Division truncates toward zero. Therefore points less than a cell left of the grid count as its first column, and
-// points less than a cell above the grid as its first row.
+// Division truncates toward zero. Therefore a point that is left of the grid by less than a cell counts as part of the
+// first column. A point that is above the grid by less than a cell counts as part of the first row.
 TEST(ColourPointer, FindsTheFirstColumnInTheMarginBesideIt)
 {
     const PopupInFrame popup;

@@ -13,15 +13,15 @@
 
 using Calls = std::vector<std::string>;
 
-/// Records what is drawn, one call per line:
+/// Draws on a picture, and records what is drawn, one call per line:
 ///
 ///   palette                            the palette is set
 ///   rect 2,2 18x18 FACE FACE           position, size, colour of the outline and of the inside
 ///   line 3,3-3,18 DARK                 from one point to the other, colour
 ///   text 'Automatic' 10,5 transparent  position, background mode
 ///
-/// and also draws it on a picture. A colour is followed by "unusual" if the pen is not solid and one pixel wide, or if
-/// the brush is not solid. Text has the size that the test sets.
+/// A colour is followed by "unusual" if the pen is not solid or not one pixel wide, or if the brush is not solid. Text
+/// has the size that the test sets.
 class RecordingDCImpl : public wxMirrorDCImpl
 {
 public:
