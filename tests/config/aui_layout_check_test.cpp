@@ -22,7 +22,7 @@ const std::wstring kList = L"name=list;caption=;state=768;dir=5;layer=0;row=0;po
 const std::wstring kDocks = L"dock_size(4,1,0)=152|dock_size(5,0,0)=22|";
 const std::wstring kWhole = L"layout2|" + kTree + kList + kDocks;
 
-/// Returns the complete layout with the first @a part replaced.
+/// Returns the complete layout with the first occurrence of @a part replaced.
 std::wstring With(const std::wstring& part, const std::wstring& replacement)
 {
     std::wstring layout = kWhole;

@@ -182,7 +182,7 @@ protected:
         before = frame.manager.SavePerspective();
     }
 
-    /// Returns the complete layout with the first @a part replaced.
+    /// Returns the complete layout with the first occurrence of @a part replaced.
     wxString With(const wxString& part, const wxString& replacement) const
     {
         wxString layout = whole;
@@ -228,7 +228,7 @@ TEST_F(DamagedLayout, WithAnUnknownFieldIsNotLoaded)
     ExpectNotLoaded(With(";floath=", ";floath=1;more="));
 }
 
-// The toolkit takes minutes for a layout with such a number.
+// The toolkit takes minutes for a layout in which the number of a row or layer is this large.
 TEST_F(DamagedLayout, WithARowFarOutIsNotLoaded)
 {
     ExpectNotLoaded(With("row=0", "row=2147483647"));

@@ -98,8 +98,8 @@ TEST(PersistentFrame, ThatIsMovedAsSoonAsItIsUnmaximizedStaysThere)
         ASSERT_TRUE(PumpUntil([&] { return !frame.IsMaximized(); }));
         frame.SetSize(200, 180, 400, 300);
         ASSERT_TRUE(ShowAndSettle(&frame));
-        // The frame may be larger than it was set: decorations that are announced after SetSize() are added to the
-        // size.
+        // The frame may be larger than the size that was set: decorations that are announced after SetSize() are added
+        // to this size.
         EXPECT_TRUE(PumpUntil([&] { return frame.GetPosition() == wxPoint(200, 180) && frame.GetSize().x < 450; }))
             << frame.GetPosition().x << ";" << frame.GetPosition().y << ";" << frame.GetSize().x;
     });
@@ -115,7 +115,7 @@ TEST(PersistentFrame, ThatWasOnTheFullScreenComesBackAtItsEarlierSize)
     InOneRun(true, [](wxFrame& frame) { EXPECT_TRUE(SettlesAt(frame, wxRect(300, 200, 400, 300))); });
 }
 
-// If another frame is open, the toolkit hides a closed frame before it destroys it, as this test does. The window
+// If another frame is open, the toolkit hides a closed frame before destroying it. This test does the same. The window
 // manager then forgets that the closed frame is maximised.
 TEST(PersistentFrame, ThatIsClosedMaximizedBeforeAnotherIsRemembered)
 {

@@ -166,8 +166,8 @@ TEST(PersistentTree, ScrollsToTheItemThatWasFirstInView)
     }
 }
 
-/// A tree that fills an item when it is expanded: it replaces the item's children with three that have the same label.
-/// Each of the three has one child, which keeps the place of its own children.
+/// A tree that fills an item when the item is expanded. It replaces the item's children with three new children, which
+/// have the same label. Each new child has one child of its own, as a placeholder until the new child is expanded.
 class LazyTree : public wxHandyTreeCtrl
 {
 public:

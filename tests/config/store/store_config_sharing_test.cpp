@@ -109,7 +109,7 @@ TEST_F(StoreConfig, StaysInAGroupThatAnotherDeletes)
     Open("[a/b]\nk=1\n");
     m_config->SetPath("a/b");
     WriteFile(Path(), "");
-    // Write something into the file, because an empty file is taken for half a second for one that another program is
+    // Write something into the file: for half a second, the store treats an empty file as one that another program is
     // still writing.
     WriteFile(Path(), "[x]\n");
     EXPECT_FALSE(m_config->HasEntry("k"));

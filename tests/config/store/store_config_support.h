@@ -33,7 +33,7 @@ inline std::vector<wxString> GroupNames(const wxConfigBase& config)
     return names;
 }
 
-/// Returns the contents of the current group as an INI file, with a line for each group.
+/// Returns the contents of the current group, with all groups in it, as an INI file without empty lines.
 inline wxString Dump(wxConfigBase& config)
 {
     wxString text;

@@ -4,13 +4,18 @@
 // first_frame_probe KIND restore: restores a frame and shows it as the first window of the process.
 //
 // Both wait until the geometry on the screen is the expected one and no longer changes, and print it. If that takes too
-// long, they print the last geometry.
+// long, they print the last geometry. A maximised frame is stored with the given geometry, so this geometry is printed.
 //
-// KIND is "plain"; "menu" for a frame with a menu bar, a status bar and a text field; "fixed" for one that cannot be
-// resized; "persistent" for a plain frame that the toolkit's persistence restores and stores; "maximized" for such a
-// frame that is also maximised before it is stored, comes back maximised and is then unmaximised; "dragged" for one
-// that is unmaximised while the left mouse button is down, after which only its size is checked; or "corrected" for a
-// plain frame that is restored after decorations of another size have been announced.
+// KIND is one of these words:
+//
+//   plain       a frame
+//   menu        a frame with a menu bar, a status bar and a text field
+//   fixed       a frame that the user cannot resize
+//   persistent  a frame that the toolkit's persistence stores and restores
+//   maximized   like persistent, but the frame is maximised before it is stored, and unmaximised after it is restored
+//   dragged     like maximized, but the left mouse button is down while the restored frame is unmaximised, and only the
+//               size of the frame must then be the expected one
+//   corrected   like plain, but decorations of a wrong size are announced for the restored frame
 
 #include <cstdio>
 #include <string>
@@ -81,8 +86,8 @@ wxRect OnScreen(const wxFrame& frame)
     return rect;
 }
 
-/// Announces decorations of another size than the frame has, as some window managers do, and waits until the toolkit
-/// has noticed.
+/// Announces decorations whose size differs from that of the frame's decorations, as some window managers do. Waits
+/// until the toolkit has noticed.
 void TellOtherDecorations(wxFrame& frame)
 {
     GdkWindow* const window = gtk_widget_get_window(frame.GetHandle());

@@ -29,8 +29,8 @@ TEST_P(FirstFrame, ComesBackInItsPlace)
     ExpectBack("420;130;510;340");
 }
 
-// A frame in the corner has the same position as one that was never moved, which the toolkit lets the window manager
-// place. The restored frame must come back to the corner all the same.
+// A frame in the corner has the same position as a frame that was never moved. The toolkit lets the window manager
+// place a frame that was never moved. The restored frame must come back to the corner all the same.
 TEST_P(FirstFrame, ComesBackInTheCorner)
 {
     ExpectBack("corner");
@@ -40,8 +40,8 @@ INSTANTIATE_TEST_SUITE_P(, FirstFrame,
                          testing::Values("plain", "menu", "fixed", "persistent", "maximized", "corrected"),
                          [](const auto& info) { return std::string(info.param); });
 
-// The user chooses the place of a frame that is unmaximised by dragging its title bar, so only its size is restored. A
-// window manager that does not know the earlier place then leaves the frame elsewhere.
+// By dragging the title bar of a maximised frame, the user unmaximises the frame and chooses its place. Therefore only
+// the size is restored. A window manager that does not know the earlier place then leaves the frame elsewhere.
 TEST(DraggedFrame, GetsItsSizeAlone)
 {
     const std::string stored = RunChild({FIRST_FRAME_PROBE, "dragged", "store", "420;130;510;340"});

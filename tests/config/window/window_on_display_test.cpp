@@ -22,8 +22,8 @@ TEST(Display, HasTheWorkAreaThatTheseTestsExpect)
     EXPECT_EQ(wxDisplay(0u).GetClientArea(), wxRect(16, 24, 1264, 960));
 }
 
-/// A stored geometry, the calls that restoring it makes after the two that apply it, and the window's geometry
-/// afterwards.
+/// A stored geometry and what LoadState() makes of it: the calls, without the first two, which apply the stored
+/// geometry, and the resulting geometry of the window.
 struct Restored
 {
     const char* name;
@@ -84,13 +84,13 @@ INSTANTIATE_TEST_SUITE_P(
         Restored{"UnderTheLeftPanel", L"-290;100;300;200", {"16;100;300;200 3"}, wxRect(16, 100, 300, 200)},
         Restored{"UnderTheBottomPanelOversize", L"-9;984;3000;2000", {"16;24;1264;960 3"}, wxRect(16, 24, 1264, 960)},
         Restored{"OffAndLow", L"5000;5000;300;20", {"0;0;-1;-1 0", "16;24;300;20 3"}, wxRect(16, 24, 300, 20)},
-        // Without a position, the window manager chooses the place.
+        // The position -1;-1 means that the window manager chooses the place.
         Restored{"NoPosition", L"-1;-1;300;200", {}, wxRect(-1, -1, 300, 200)},
         Restored{"NoPositionOversize", L"-1;-1;1280;1024", {"16;24;1264;960 3"}, wxRect(16, 24, 1264, 960)},
         Restored{"HalfAPosition", L"-1;100;300;200", {"16;100;283;200 3"}, wxRect(16, 100, 283, 200)}),
     [](const auto& info) { return info.param.name; });
 
-/// A stored position of -1 is applied like any other position, with two calls. The tests above ignore these calls.
+/// LoadState() applies the position -1;-1 like any other position, with two calls. The tests above ignore these calls.
 TEST(StoredPositionMinusOne, IsApplied)
 {
     const TempUserData data;

@@ -40,7 +40,7 @@ INSTANTIATE_TEST_SUITE_P(
                            "-231;90;-1;-1 0"}),
     [](const auto& info) { return info.param.name; });
 
-// The corner of the reference on the screen counts, although the position of a child window is relative to its parent.
+// The reference is a child window. Its position on the screen counts, not its position in its parent.
 TEST(RightCornerOfAChild, IsOnTheScreen)
 {
     SpyFrame frame(wxRect(200, 150, 400, 300));
