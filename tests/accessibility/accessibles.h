@@ -19,7 +19,8 @@ struct Accessible
 
 void PrintTo(const Accessible& accessible, std::ostream* out);
 
-/// Returns the name of a role in the installed release. Newer releases of AT-SPI and ATK call a push button a button.
+/// Returns the name of a role in older releases of AT-SPI and ATK, which call a button a push button. @a told is the
+/// name in the installed release.
 std::string RoleName(const std::string& told);
 
 /// Reads the accessible objects of this process's windows, parents before their children.

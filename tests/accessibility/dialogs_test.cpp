@@ -31,7 +31,7 @@ protected:
 
     void Notify() override
     {
-        // Wait until the dialog is modal, because a file dialog already handles events before.
+        // Wait until the dialog is modal, because a file dialog handles events even before that.
         if (!m_dialog->IsModal())
             return;
         Stop();

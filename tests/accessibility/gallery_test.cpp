@@ -75,8 +75,9 @@ TEST_P(ScreenReaderInTheGallery, HasANameForAllThatTakesTheFocus)
     EXPECT_THAT(said, IsSupersetOf(names[GetParam()]));
 }
 
-// Leaves out tool bar buttons, which Tab skips: each has a key, which its description names. Leaves out scroll panes,
-// whose content takes the focus. Adds combo boxes, because the focused part of a wxChoice is not accessible itself.
+// Leaves out the buttons of the tool bar, because Tab skips them: each has a key, and its description names this key.
+// Leaves out scroll panes, because their content takes the focus. Adds combo boxes, because the focused part of a
+// wxChoice is not accessible itself.
 TEST_P(ScreenReaderInTheGallery, IsLedByTabToAllThatTakesTheFocus)
 {
     std::set<std::string> expected;

@@ -49,8 +49,8 @@ void WithEachKindBeside(const Other& other, const Call& call, std::index_sequenc
     (CallWith<position>(call, wxString("a").wc_str(), other, positions), ...);
 }
 
-/// Calls @a call with each kind of text for each of @a count parameters, combined with each kind for the other
-/// parameters. Every text is "a".
+/// Calls @a call many times with @a count texts, all of them "a". Each parameter gets each of the seven kinds of text
+/// in turn. The other parameters then all get the same kind, one of five in turn.
 template <std::size_t count, typename Call>
 void WithEachKind(const Call& call)
 {

@@ -48,8 +48,8 @@ inline int ShowAndChoose(wxFileDialog&& dialog, const std::string& path)
     return ShowAndChoose(dialog, path);
 }
 
-/// Shows the dialog on the screen. Accepts it as a user does when the condition becomes true. If that does not happen
-/// in time, cancels it.
+/// Shows the dialog on the screen. When the condition becomes true, accepts the dialog as a user does. If the dialog
+/// does not close in time, cancels the dialog.
 int AcceptWhen(wxFileDialog& dialog, const std::function<bool()>& isReady);
 
 /// Settings that are empty at first, and a folder to choose from.

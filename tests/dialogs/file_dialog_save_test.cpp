@@ -175,7 +175,7 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& info) { return info.param.name; });
 
 // If GTK's dialog is told to start in a file, it shows nothing. If it is told to start below a file, it shows an error.
-// Therefore it starts in the nearest folder above the file.
+// Therefore the library lets the dialog start in the nearest folder above the file.
 TEST(SaveDialogFolder, IsTheNearestFolderAboveAFile)
 {
     const TempFolder folder;

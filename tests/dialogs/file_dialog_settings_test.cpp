@@ -8,7 +8,7 @@
 
 namespace {
 
-// Read during static initialisation, as a host's globals may, and before any test sets them.
+// These globals read the settings during static initialisation, as a host's globals may, before a test sets anything.
 const CStdStr<wchar_t> g_firstExtension = CQVFileDialogI::GetFileExtension();
 const CStdStr<wchar_t> g_firstFilter = CQVFileDialogI::GetFileFilter();
 const std::string g_firstEntry = CQVFileDialogI::SetRegEntry("");

@@ -7,21 +7,25 @@
 
 class wxWindow;
 
-/// A program that shows a dialog over a frame, for a test that sends it keys. Its first argument is the folder of the
-/// settings. It prints the place of the frame:
+/// A program that shows a dialog over a frame, for a test that sends keys to the dialog. The program's first argument
+/// is the folder of the settings. The program prints these lines:
 ///
-///   frame X Y WIDTH HEIGHT
+///   frame X Y WIDTH HEIGHT   the place of the frame
+///   state FIELD...           the state of the dialog, at every change
+///   chosen PATH              the chosen path, after the dialog has closed
 ///
-/// then the state of the dialog at every change:
+/// Tabs separate the eight fields of a state:
 ///
-///   state ACTIVE FOCUS POPUP ACCEPT FOLDER FILE TEXT MESSAGE
+///   1. "active" if the dialog has the input focus, otherwise "inactive"
+///   2. the type of the focused widget
+///   3. "popup" while a list of completions is shown
+///   4. "accept" while the accepting button can be pressed
+///   5. the folder that the dialog shows
+///   6. the file or folder that would be chosen now
+///   7. the text of the focused entry
+///   8. while a message is shown: "active" or "inactive" for the message's window, and the text of the message
 ///
-/// Tabs separate the fields: "active" when the dialog has the input focus, else "inactive"; the kind of the focused
-/// widget; "popup" while a list of completions is shown; "accept" while the accepting button can be pressed; the folder
-/// shown; the file or folder that would be chosen now; the text of the entry while that has the focus; and, while there
-/// is a message, "active" or "inactive" for its window, and its text. At its end it prints
-///
-///   chosen PATH
+/// A field that does not apply is empty.
 class DialogProbe : public wxApp
 {
 public:

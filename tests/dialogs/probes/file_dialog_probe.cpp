@@ -1,8 +1,8 @@
 // file_dialog_probe SETTINGS save ENTRY TITLE EXTENSION WILDCARD FOLDER NAME
 // file_dialog_probe SETTINGS open ENTRY TITLE EXTENSION WILDCARD SWITCH
 //
-// A DialogProbe for the file dialog. If FILE_DIALOG_AS_NOBODY is in the environment and root runs the probe, it gives
-// up root's rights.
+// A DialogProbe for the file dialog. If FILE_DIALOG_AS_NOBODY is in the environment and root runs the probe, the probe
+// gives up root's rights.
 
 #include <cstdlib>
 #include <string>
