@@ -152,7 +152,7 @@ TEST(FormatControlText, RoundsToAnInteger)
     EXPECT_EQ(Rounded(L"+.4", 0), L"");
 }
 
-// Rounding to no decimals drops the point. With decimals, trimming keeps a point if text follows it.
+// A number that is rounded to no decimals loses its point. Otherwise, the point stays if text follows it.
 TEST(FormatControlText, DropsThePointOfAnIntegerBeforeJunk)
 {
     EXPECT_EQ(Rounded(L"5.x", 0), L"5");

@@ -72,7 +72,7 @@ protected:
     }
 
     TempUserData settings;
-    Labels deleted;  // declared before the tree, whose destructor deletes items and so may append to this
+    Labels deleted;  // must outlive the tree, whose destructor may still report deleted items
     TreeOnScreen<MortalTree> screen;
     MortalTree& tree = *screen.tree;
     wxTreeCursor root;

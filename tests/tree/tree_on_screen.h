@@ -72,7 +72,7 @@ inline std::wstring StoredState(const wchar_t* name)
     return Stored(L"TreeControlState", name);
 }
 
-/// Adds a root that is marked as having children, but without any.
+/// Adds a root that has no children, but is marked as if it had some.
 inline wxTreeCursor AddLazyRoot(wxTreeCtrlEx& tree, const wxString& label)
 {
     wxTreeCursor root = tree.AddRoot(label);

@@ -18,8 +18,8 @@ namespace fs = std::filesystem;
 const wxColour darkRed(139, 0, 0);
 const wxColour kIndigo(75, 0, 130);
 
-/// How a colour of the palette looks in the tree and in the label next to the combo. In the dark theme, both make it
-/// light enough to be read.
+/// How a colour of the palette looks in the tree and in the label next to the combo. In the dark theme, the tree and
+/// the label make the colour light enough to be read.
 struct Look
 {
     wxColour inTree;

@@ -129,7 +129,7 @@ class NumberDrop : public testing::Test
 protected:
     void SetUp() override { screen.Show(); }
 
-    /// Drags from a field whose text is selected to another place on the screen.
+    /// Drags the selected text of a field to another place on the screen.
     void Drag(wxTextCtrl& from, const wxPoint& grip, const wxPoint& to, bool moves)
     {
         // Hold the widgets, because the drop may destroy the controls.

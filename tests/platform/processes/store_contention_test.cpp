@@ -1,5 +1,5 @@
 // Many processes store settings at the same time, on slow disks, with locks that are stuck, missing or ineffective. A
-// value is kept if its write has returned true. FITTINGS_TEST_SOAK=N makes the tests of many writes N times as long.
+// value is kept if its write has returned true. With FITTINGS_TEST_SOAK=N, most tests write N times as often.
 
 #include <fittings/platform/local_reg_store.h>
 
