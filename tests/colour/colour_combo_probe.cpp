@@ -1,5 +1,5 @@
-// colour_combo_probe ENDS: shows a frame with a colour combo on the current display and prints what happens to it, for
-// a test that sends it input. It exits after ENDS selections have ended.
+// colour_combo_probe ENDS: shows a frame with a colour combo on the current display, for a test that sends input to the
+// combo. Prints what happens, and exits after ENDS selections have ended.
 //
 //   display x11|wayland
 //   combo X Y WIDTH HEIGHT     in the frame's client area

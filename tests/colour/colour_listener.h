@@ -23,7 +23,7 @@ public:
     /// Returns the calls since the last Take().
     ColourCalls Take() { return std::exchange(m_calls, {}); }
 
-    std::function<void(const std::string& call)> during;  ///< Called during each call of the listener, with its name.
+    std::function<void(const std::string& call)> during;  ///< Called in each listener call, with the call's name.
 
 private:
     void Note(std::string call, const wxColour* colour = nullptr)

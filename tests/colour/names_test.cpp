@@ -114,7 +114,7 @@ TEST_F(ColourNames, AreLookedUpAgainAfterAFailure)
 {
     ASSERT_EQ(s_failed.size(), 3U);
     for (const auto& lookUps : s_failed) {
-        // Each call looks the names up from the first one to the one that throws.
+        // Each call looks up the names from the first one to the one whose look-up throws.
         ASSERT_EQ(lookUps.size(), 10U);
         EXPECT_EQ(lookUps.front().key, L"Black");
         EXPECT_EQ(lookUps.back().key, L"Orange");

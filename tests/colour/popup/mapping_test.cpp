@@ -170,7 +170,7 @@ TEST(ColourIndex, IsNoneBesideAPartialLastRow)
 class ChosenCell : public testing::Test
 {
 protected:
-    // Returns the cell that is chosen for the colour if @a before was chosen.
+    // Makes @a before the chosen cell, calls FindCellFromColour(), and returns the chosen cell.
     int For(const wxColour& colour, int before = CELL_NONE)
     {
         popup->m_nChosenColourSel = before;
