@@ -2,8 +2,8 @@
 //
 //   <depth> <role>|<name>|<description>|<label>|<states>
 //
-// The label is the names of the objects that label it. The states are those of "showing", "sensitive", "focusable" and
-// "focused" that it has. The items of menus and tables are left out.
+// The label consists of the names of the objects that label the object. The possible states are "showing", "sensitive",
+// "focusable" and "focused". The items of menus and tables are left out.
 
 #include <cstdio>
 #include <cstdlib>

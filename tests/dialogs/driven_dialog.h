@@ -25,13 +25,14 @@ struct DialogState
     std::string message;
 };
 
-/// A program that shows a file or folder dialog, and its simulated user. Keys are sent only when the program has
-/// printed that it is ready for them: the dialog reads folders in the background, and a Return that comes too early is
-/// lost.
+/// A program that shows a file or folder dialog, and its simulated user. Before a test sends a key, it waits until the
+/// program has printed the state in which the dialog is ready for the key. The dialog reads folders in the background,
+/// so a Return that comes too early is lost.
 class DrivenDialog
 {
 public:
-    /// Starts the program, finds the dialog by its title, and returns when it has the input focus or shows a message.
+    /// Starts the program, and finds the dialog by its title. Returns when the dialog has the input focus or shows a
+    /// message.
     DrivenDialog(const std::vector<std::string>& command, const std::string& title,
                  const std::map<std::string, std::optional<std::string>>& environment = {});
 
