@@ -235,9 +235,16 @@ TEST_F(ColoursPageTest, TheListForgetsWhatIsOld)
         Popup().ChangeSelection(0);
         Popup().ChangeSelection(kIndigoCell);
     }
-    EXPECT_EQ(Events().size(), 500u);
-    EXPECT_EQ(Events().front(), "wxEVT_COMBOBOX_DROPDOWN");
-    EXPECT_EQ(Events().back(), "wxEVT_COLOURPICKER_CURRENT_CHANGED Indigo #4B0082");
+    const auto all = Events();
+    EXPECT_EQ(all.size(), 500u);
+    EXPECT_EQ(all.front(), "wxEVT_COMBOBOX_DROPDOWN");
+    EXPECT_EQ(all.back(), "wxEVT_COLOURPICKER_CURRENT_CHANGED Indigo #4B0082");
+
+    Popup().ChangeSelection(kDarkRedCell);
+    const auto latest = Events();
+    EXPECT_EQ(latest.size(), 500u);
+    EXPECT_EQ(latest.front(), all[1]);
+    EXPECT_NE(latest.back(), all.back());
 }
 
 TEST_F(ColoursPageTest, TheBoxesAreLeftOutOrHaveOtherTexts)
