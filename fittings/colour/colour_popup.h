@@ -307,7 +307,7 @@ private:
     bool m_ending = false;
     bool m_isClosingAfterCancel = false;
     bool m_dialogCancelled = false;            ///< True from a cancelled dialog to the end of the selection.
-    std::optional<wxString> m_valueWhenShown;  ///< The combo's value, while the popup is open.
+    std::optional<wxString> m_valueWhenShown;  ///< What the combo gets back if nothing is chosen; none while closed.
     const std::shared_ptr<const bool> m_life = std::make_shared<const bool>(true);  ///< Expires with the popup.
 
     wxDECLARE_EVENT_TABLE();

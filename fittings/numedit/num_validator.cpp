@@ -10,7 +10,7 @@
 
 namespace {
 
-// Returns whether a key can type a character. A character without a key code has code 0 and its Unicode value.
+// Returns whether a key can type a character. The code is 0 for a character that has a Unicode value alone.
 bool IsCharacter(int keyCode)
 {
     if (keyCode == WXK_DELETE || keyCode < WXK_SPACE)

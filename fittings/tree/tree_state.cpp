@@ -94,8 +94,8 @@ private:
         return false;
     }
 
-    // Finds the place after a visited item again if its siblings have changed. If the item itself was deleted, takes
-    // the item's old place: the next sibling is there now.
+    // If the siblings of a visited item have changed, looks up the place after the item anew. If the item itself was
+    // deleted, continues at its old place, where its next sibling is now.
     void FindAgain(VisitedItem& visited, const wxTreeItemId& parent) const
     {
         TreeChildren same = visited.here;

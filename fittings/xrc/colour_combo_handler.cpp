@@ -16,7 +16,7 @@ wxColourComboXmlHandler::wxColourComboXmlHandler()
 
 wxColourComboXmlHandler::~wxColourComboXmlHandler() = default;
 
-// Compares the `class` in the resource. An object with a `subclass` has the same `class` as one without.
+// Compares the `class` in the resource, so that an object with a `subclass` is handled too.
 bool wxColourComboXmlHandler::CanHandle(wxXmlNode* node)
 {
     return IsOfClass(node, "wxColourCombo");

@@ -28,7 +28,7 @@ wxNumberCtrlXmlHandler::wxNumberCtrlXmlHandler()
 
 wxNumberCtrlXmlHandler::~wxNumberCtrlXmlHandler() = default;
 
-// Compares the `class` in the resource. An object with a `subclass` has the same `class` as one without.
+// Compares the `class` in the resource, so that an object with a `subclass` is handled too.
 bool wxNumberCtrlXmlHandler::CanHandle(wxXmlNode* node)
 {
     return IsOfClass(node, "wxNumberCtrl");

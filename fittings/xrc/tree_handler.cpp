@@ -27,7 +27,7 @@ wxHandyTreeCtrlXmlHandler::wxHandyTreeCtrlXmlHandler()
 
 wxHandyTreeCtrlXmlHandler::~wxHandyTreeCtrlXmlHandler() = default;
 
-// Compares the `class` in the resource. An object with a `subclass` has the same `class` as one without.
+// Compares the `class` in the resource, so that an object with a `subclass` is handled too.
 bool wxHandyTreeCtrlXmlHandler::CanHandle(wxXmlNode* node)
 {
     return IsOfClass(node, "wxHandyTreeCtrl");

@@ -68,8 +68,8 @@ public:
         Reset(static_cast<unsigned>(m_positions.size()));
     }
 
-    /// Removes the rows that have proved too small. Does not call Reset(), after which GTK would redraw the list only
-    /// later.
+    /// Removes the rows that have proved too small. Does not call Reset(), after which GTK would redraw the list
+    /// with a delay.
     void RemoveSmallOnes()
     {
         wxArrayInt rows;

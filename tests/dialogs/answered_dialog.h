@@ -58,7 +58,7 @@ class RememberingDialog : public testing::Test
 protected:
     RememberingDialog();
 
-    /// Returns the folder of the program's documents.
+    /// Returns the user's documents folder, which contains the program's folder.
     static std::string Documents();
     std::string Settings() const { return ReadFile(m_settings / "settings.ini"); }
 

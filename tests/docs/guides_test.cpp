@@ -236,7 +236,8 @@ void UseLanguage(wxLanguage language)
     translations->AddCatalog("planets");
 }
 
-// A configuration of the toolkit in memory, set as the current one, and a user data directory for the store.
+// Makes a wxFileConfig in a temporary folder the toolkit's current configuration, and gives the store a temporary user
+// data directory.
 class Guide : public testing::Test
 {
 protected:

@@ -279,7 +279,7 @@ INSTANTIATE_TEST_SUITE_P(
         Broken{"\xC0\xAF", L"\xFFFD\xFFFD"}, Broken{"\xC1\xBF", L"\xFFFD\xFFFD"},
         Broken{"\xE0\x80\xAF", L"\xFFFD\xFFFD\xFFFD"}, Broken{"\xE0\x9F\xBF", L"\xFFFD\xFFFD\xFFFD"},
         Broken{"\xF0\x8F\xBF\xBF", L"\xFFFD\xFFFD\xFFFD\xFFFD"},
-        // Surrogates, and numbers above the last character.
+        // Surrogates, and code points above U+10FFFF.
         Broken{"\xED\xA0\x80", L"\xFFFD\xFFFD\xFFFD"}, Broken{"\xED\xBF\xBF", L"\xFFFD\xFFFD\xFFFD"},
         Broken{"\xF4\x90\x80\x80", L"\xFFFD\xFFFD\xFFFD\xFFFD"},
         Broken{"\xF5\x80\x80\x80", L"\xFFFD\xFFFD\xFFFD\xFFFD"},

@@ -60,7 +60,7 @@ protected:
             during();
         if (duringDialog)
             duringDialog(dialog->GetHandle());
-        // Set the colour of GTK's widget: the dialog reads its colour from there after this answer.
+        // Set the colour of GTK's widget: the dialog reads its colour from there after this function returns.
         const GdkRGBA rgba{m_colour.Red() / 255.0, m_colour.Green() / 255.0, m_colour.Blue() / 255.0, 1};
         G_GNUC_BEGIN_IGNORE_DEPRECATIONS
         auto* const selection =

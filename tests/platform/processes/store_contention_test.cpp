@@ -419,7 +419,7 @@ TEST(AnEmptiedFile, IsGivenTheValueAgainThatIsWritten)
     EXPECT_EQ(ReadFile(data / "settings.ini"), "[s]\nk=1\n");
 }
 
-// The folder's owner may put a link in place of the new file while a program of root writes it.
+// The folder's owner may put a link in place of the new file while a program that runs as root writes it.
 TEST(ALinkInPlaceOfTheNewFile, ChangesNoOtherFile)
 {
     const TempUserData data;
