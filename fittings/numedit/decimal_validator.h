@@ -25,8 +25,8 @@ class wxTextEntry;
 ///
 /// An empty field has no number. A validator for a wxString accepts an empty field and transfers it as the empty text.
 /// A validator without a variable accepts an empty field too. A validator for a `double` or an integer refuses an empty
-/// field, because these types cannot express that there is no number. A validator for an integer also refuses a number
-/// that has a fraction or does not fit. A `double` takes the nearest value.
+/// field, which has no number to store. A validator for an integer also refuses a number that has a fraction or does
+/// not fit. A `double` takes the nearest value.
 ///
 /// A derived class must override Clone(). The toolkit's class information does not distinguish this class from
 /// wxValidator: use dynamic_cast. GUI thread only.

@@ -10,7 +10,8 @@
 
 namespace {
 
-// Returns whether a key can type a character. The code is 0 for a character that has a Unicode value alone.
+// Returns whether a key with this code can type a character. WXK_NONE counts: some characters have only a Unicode value
+// and no key code.
 bool IsCharacter(int keyCode)
 {
     if (keyCode == WXK_DELETE || keyCode < WXK_SPACE)

@@ -43,8 +43,8 @@
 /// class information does not distinguish this class from wxValidator: use dynamic_cast. The host may set another
 /// validator on the control while this one handles a key.
 ///
-/// For single-line wxTextCtrl controls. On any other window, such as a wxComboBox, Validate() and both transfers assert
-/// and return false, and typing is not checked. GUI thread only.
+/// For single-line wxTextCtrl controls. On any other window, such as a wxComboBox, typing is not checked, Validate()
+/// asserts and returns false, and so does each transfer unless the value is null. GUI thread only.
 class FITTINGS_API wxNumValidator : public wxValidator
 {
 public:

@@ -416,7 +416,8 @@ void wxNumberCtrl::ShowText(const std::wstring& text, const std::pair<long, long
     SetSelection(selection.first, selection.second);
 }
 
-/// Sets the number. @a byUser is true for a step that the user makes.
+/// Sets the plain text. @a byUser is true for a step that the user makes: only then are events sent, and the field
+/// counts as modified.
 void wxNumberCtrl::SetPlain(const std::wstring& plain, bool byUser)
 {
     const wxWeakRef<wxWindow> self(this);

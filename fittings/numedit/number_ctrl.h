@@ -50,10 +50,10 @@ class NumberField;
 /// | Up and Down, the wheel | step by SetIncrement() within the bounds |
 /// | Page Up and Page Down | step ten times as far |
 ///
-/// Deleting is never refused, and neither is a text that the program sets. A text that is not a number within the
-/// bounds is shown in the theme's colour for errors. The reason replaces the program's tooltip and accessible
-/// description meanwhile. The validator refuses such a text, but the control never changes it. An empty field has no
-/// number, which is not an error.
+/// Deleting is never refused, and neither is a text that the program sets. While IsAcceptable() returns false, the text
+/// is shown in the theme's colour for errors, and the reason replaces the program's tooltip and accessible description.
+/// The validator refuses the text, but the control never changes it. An empty field has no number, which is not an
+/// error.
 ///
 /// Everything else works as in a text control: SetValue() takes any text, and GetValue() returns the shown text.
 /// SetNumber() and SetDecimal() send no event.
@@ -67,8 +67,8 @@ public:
     /// Makes the object. Call Create() before anything else.
     wxNumberCtrl();
 
-    /// Makes an empty field. Without a @a validator, the field uses one that refuses a text that is not a number within
-    /// the bounds.
+    /// Makes an empty field. Without a @a validator, the field uses a wxDecimalValidator without a variable, which
+    /// accepts a field if IsAcceptable() returns true.
     explicit wxNumberCtrl(wxWindow* parent, wxWindowID id = wxID_ANY, const CNumberFormat& format = FromLocale(),
                           const wxPoint& pos = wxDefaultPosition, const wxSize& size = wxDefaultSize, long style = 0,
                           const wxValidator& validator = wxDefaultValidator,
@@ -76,7 +76,7 @@ public:
 
     ~wxNumberCtrl() override;
 
-    /// Makes the control as the constructor with a parent does, for an object of the default constructor.
+    /// Makes the control of an object that the default constructor has made, as the constructor with a parent does.
     bool Create(wxWindow* parent, wxWindowID id = wxID_ANY, const CNumberFormat& format = FromLocale(),
                 const wxPoint& pos = wxDefaultPosition, const wxSize& size = wxDefaultSize, long style = 0,
                 const wxValidator& validator = wxDefaultValidator, const wxString& name = wxNumberCtrlNameStr);
@@ -109,6 +109,9 @@ public:
 
     /// Shows a number of any length, with a dot as its point. The empty text empties the field. Returns false and
     /// changes nothing if @a text is not a number.
+    ///
+    /// If the format accepts no exponent, a number with an exponent is shown without one. If that takes more than
+    /// 100,000 digits, returns false and changes nothing.
     bool SetDecimal(const wxString& text);
 
     /// Stores the number in @a value as the nearest double. Returns false and leaves @a value alone if the field has no
@@ -122,7 +125,8 @@ public:
     /// Returns the number with all its digits and a dot as its point; empty if the field has no number.
     wxString GetDecimal() const;
 
-    /// Returns whether the field is empty or has a number within the bounds.
+    /// Returns whether the field is empty, or has a number within the bounds that has no more digits than the format
+    /// allows. Until the user changes it, a number from SetNumber() or SetDecimal() may have more decimals.
     bool IsAcceptable() const;
 
     /// Returns why the field is not acceptable, in the user's language; empty if it is acceptable.

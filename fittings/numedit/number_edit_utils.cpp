@@ -46,8 +46,8 @@ const wchar_t* AfterDigits(const wchar_t* text)
 
 /// Stores @a text in @a result with @a from replaced by @a to. Returns false if there is nothing to replace.
 ///
-/// An empty point means that the locale's point cannot be converted. Usually both points are the same character: the
-/// function then returns without a search.
+/// If @a from or @a to is empty, the locale's point cannot be converted: then nothing is replaced. Usually both are the
+/// same character: then the function returns without a search.
 bool ReplacePoint(std::wstring& result, const wchar_t* text, std::wstring_view from, std::wstring_view to)
 {
     if (from.empty() || to.empty() || (from.size() == 1 && to.size() == 1 && from[0] == to[0]))
@@ -115,7 +115,7 @@ std::size_t Group(std::wstring& text, std::size_t begin, std::size_t end, const 
     return end;
 }
 
-/// Cuts the number in @a text from @a begin to @a end at its first zero character, and returns the new end.
+/// Cuts the number in @a text from @a begin to @a end at its first L'\0', and returns the new end.
 std::size_t CutAtZeroCharacter(std::wstring& text, std::size_t begin, std::size_t end)
 {
     const std::size_t zero = text.find(L'\0', begin);
@@ -209,7 +209,7 @@ private:
 
     const CNumberFormat& m_format;
     std::wstring m_text;
-    std::size_t m_begin;     ///< the beginning of the mantissa, without its sign
+    std::size_t m_begin;     ///< the beginning of the mantissa, after its sign; PutMinus() may move it to the minus
     std::size_t m_end = 0;   ///< the end of the shown part of the mantissa
     std::size_t m_read = 0;  ///< the end of the mantissa
 };
@@ -259,7 +259,7 @@ void ShownNumber::Round(std::size_t fraction)
         --m_end;
 }
 
-/// Appends zeros to a number at the end of the text.
+/// Fills a number at the end of the text with zeros up to the decimals of the format, but at most kMostPadding zeros.
 void ShownNumber::Pad(bool hasPoint, std::size_t decimals)
 {
     if (!hasPoint)

@@ -24,10 +24,12 @@ public:
 
     void SetFormat(const CNumberFormat& format);
 
-    /// Returns the plain text that a text of the control stands for.
+    /// Returns a text of the control as plain text: without groups, blanks and the template, with the sign in front. A
+    /// text that is not a number stays as it is.
     std::wstring Reading(const std::wstring& text) const;
 
-    /// Returns a plain text as it is shown without the focus. A text that is not a number stays as it is.
+    /// Returns a plain text as it is shown without the focus. A text stays as it is if it is not a number, or has more
+    /// digits than are allowed.
     std::wstring Shown(const std::wstring& plain) const;
 
     /// Returns the problem of a plain text, in the user's language; empty if there is none.
@@ -54,8 +56,8 @@ public:
     std::wstring plain;           ///< While the text is formatted: the plain text.
     std::wstring shown;           ///< While the text is formatted: the formatted text.
     std::wstring exact;           ///< The number that the program has set. It may have more decimals than the format.
-    std::optional<Decimal> told;  ///< The number that was last reported to the program.
-    std::pair<long, long> selection;  ///< The selection in the plain text, when it was formatted.
+    std::optional<Decimal> told;  ///< The number that the program has last set or has last been told.
+    std::pair<long, long> selection;  ///< The selection in the plain text at the time when the text was formatted.
     std::pair<long, long> mapped;     ///< The same selection in the formatted text.
     wxString problem;                 ///< The problem that is shown.
     wxString hostTip;                 ///< The program's tooltip, while a problem is shown.

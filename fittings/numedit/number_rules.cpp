@@ -127,7 +127,7 @@ bool Meets(const Decimal& begin, const std::optional<Decimal>& end, const Span& 
     return Compare(low, high) <= 0 && Compare(begin, high) <= 0;
 }
 
-/// Returns whether more digits can bring a number without an exponent into the span.
+/// Returns whether a number without an exponent is in the span, or more digits can bring it there.
 bool GrowsInto(const Span& span, const Typed& typed, const NumberRules& rules)
 {
     if (typed.hasPoint) {
@@ -138,9 +138,9 @@ bool GrowsInto(const Span& span, const Typed& typed, const NumberRules& rules)
     const Decimal begin = MakeDecimal(typed.integers, typed.Integers());
     if (begin.IsZero())
         return Meets(begin, MakeDecimal("1", more + 1), span, rules.mostDecimals);
-    // Try the smallest counts of additional digits. With fewer digits, the number stays below the span. With more
-    // digits, the number lies further above the beginning of the span: if none of the tried counts leads into the span,
-    // a larger count does not either.
+    // Try `least` additional digits and up to three more. With fewer digits, the number stays below the span. With
+    // more digits, the number lies further above the beginning of the span: if none of the tried counts leads into the
+    // span, a larger count does not either.
     const std::int64_t least = std::max<std::int64_t>(span.low.point - begin.point - 1, 0);
     for (std::int64_t digits = least; digits <= std::min(least + 3, more); ++digits) {
         if (Meets(MakeDecimal(typed.integers, typed.Integers() + digits),

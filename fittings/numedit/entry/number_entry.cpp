@@ -44,7 +44,8 @@ int NumberEntry::Filter(const GdkEventKey* key, const std::function<int()>& filt
     if (m_hasRefused) {
         Select(m_entry, selected);
     } else if (m_waiting) {
-        // Delete now, because no insertion followed: an input method has deleted text around the caret.
+        // No insertion followed the deletion that OnDelete() postponed: an input method has only deleted text around
+        // the caret. Delete the text now.
         const auto [begin, end] = *m_waiting;
         const Free free(this);
         gtk_editable_delete_text(GTK_EDITABLE(m_entry), begin, end);
@@ -145,7 +146,8 @@ void NumberEntry::Deleting(int begin, int end)
         m_source = g_idle_add_full(G_PRIORITY_HIGH, OnSoon, this, nullptr);
 }
 
-/// Checks a text and inserts it. Returns whether the text was accepted.
+/// Asks m_judge about a text. If the text is accepted, deletes the part that waits for its deletion, and inserts the
+/// text that m_judge has returned. Returns whether the text was accepted.
 bool NumberEntry::Inserting(const std::wstring& text, int& position)
 {
     const std::wstring all = Text();
@@ -202,7 +204,7 @@ void NumberEntry::Replace(int begin, int end)
 void NumberEntry::Insert(const std::wstring& text, int& position)
 {
     const Free free(this);
-    // The toolkit has already reported the character, so the text must not count as typed.
+    // The text must not count as typed: if it comes from a key, the toolkit has already reported the character.
     InsertUntyped(m_entry, m_toolkit, wxString(text).utf8_string(), position);
 }
 

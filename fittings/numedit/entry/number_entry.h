@@ -33,11 +33,11 @@ public:
         std::wstring before;
         std::wstring text;
         std::wstring behind;
-        bool typed;        ///< True for text from a key, and for one character that Take() does not insert.
+        bool typed;        ///< True while a key is handled, and for one character unless Take() inserts it.
         bool keypadPoint;  ///< True for the keypad's decimal key.
     };
 
-    /// Returns the text to insert instead; nothing to refuse the insertion.
+    /// Returns the text to insert, which may differ from Insertion::text. Returns nothing to refuse the insertion.
     using Judge = std::function<std::optional<std::wstring>(const Insertion&)>;
 
     /// @a entry must outlive the object. @a toolkit is the user data of the toolkit's own signal handlers on the entry.
@@ -58,7 +58,7 @@ public:
     /// NumberEntry itself.
     class Free;
 
-    /// Calls @a action after the current event, before any other input.
+    /// Calls @a action after the current event, before any other input. Replaces an action that still waits.
     void Soon(std::function<void()> action);
 
 private:

@@ -12,7 +12,7 @@ namespace fittings {
 void BeginKey(wxTextCtrl& control);
 
 /// Restores the text that the current key has deleted, with the caret and the selection. No event is sent, and the
-/// modified state does not change. Does nothing if nothing was deleted.
+/// modified state does not change. Does nothing if nothing was deleted, or if no key press is being handled.
 void UndoKey(wxTextCtrl& control);
 
 }  // namespace fittings
