@@ -73,8 +73,8 @@ bool ReadAll(int fd, std::size_t expected, std::string& bytes)
     }
 }
 
-// Returns the path that the links at the end of @a path lead to, even if there is no file yet. Returns nothing on an
-// error. For a loop of links, returns a path that cannot be opened.
+// If @a path is a link, returns the path that the link leads to, through further links, even if there is no file yet.
+// Otherwise returns @a path. Returns nothing on an error. For a loop of links, returns a path that cannot be opened.
 std::optional<std::string> FollowLinks(std::string path)
 {
     for (int links = 0; links < 40; ++links) {
@@ -128,14 +128,15 @@ FileContent ReadUntilFilled(const Read& read, std::string& bytes, std::chrono::s
     }
 }
 
-// Returns the content of the displaced file. If another process has already removed the displaced file as a leftover,
-// reads @a before instead, the file that was the target before the exchange. No other file is old enough to count as a
-// leftover. If the file is empty for now, waits for content until @a deadline at the latest.
+// Returns the content of the displaced file. If the displaced file is gone, another process has removed it as a
+// leftover. Only one file can be old enough for that: the file that was the target before the exchange. The function
+// reads this file instead, which is open as @a before. If the file to read is empty for now, waits for content until
+// @a deadline at the latest.
 std::optional<std::string> ReadDisplaced(const StagedFile& staged, int before,
                                          std::chrono::steady_clock::time_point deadline)
 {
     std::string bytes;
-    // If another process has put a link in place of the file, do not read its target: the link itself must be put back.
+    // If another process has put a link in place of the file, do not follow the link: the link itself must be put back.
     const FileDescriptor file(open(staged.Path().c_str(), kForReading | O_NOFOLLOW));
     if (file.Get() < 0 && errno != ENOENT)
         return std::nullopt;
@@ -208,7 +209,7 @@ Outcome Undo(StagedFile& staged)
 Outcome MergeDisplaced(const Target& target, const Exchanged& done, const FileUpdate& update, int merges = 0)
 {
     const auto now = std::chrono::steady_clock::now();
-    // Do not wait again if the expected content is empty: the write has already waited for new content.
+    // Do not wait if the expected content is empty: ReadFileBytes() has already waited for content before the update.
     const auto displaced = ReadDisplaced(
         done.staged, done.before, done.expected.empty() ? now : std::min(now + kTimeToFillAFile, update.deadline));
     if (displaced && *displaced == done.expected)
@@ -392,7 +393,7 @@ std::string KeepUnderOtherName(const std::string& path)
             return other;
         if (errno != EEXIST)
             break;
-        // Another process may have given the file this name just now.
+        // The name may already lead to the same file: this process or another one may have given it before.
         const auto named = IdentityOf(other);
         const auto file = IdentityOf(*target);
         if (named && file && named->HasContentOf(*file))

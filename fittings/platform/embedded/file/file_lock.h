@@ -19,7 +19,7 @@ struct LockWait
     /// state changes, the holder counts as stuck.
     using Stuck = std::optional<FileIdentity>;
 
-    std::chrono::milliseconds longest;  ///< The wait ends when no process has taken the lock for this long.
+    std::chrono::milliseconds longest;  ///< How long to wait after each time that another process takes the lock.
     Clock::time_point deadline;         ///< Postponed when another process takes the lock, but not beyond @a end.
     Clock::time_point end;
     Stuck& stuck;

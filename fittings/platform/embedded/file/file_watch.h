@@ -26,7 +26,7 @@ public:
 private:
     bool IsOpenIn(const FileIdentity& state) const;
 
-    std::unique_ptr<const FileDescriptor> m_file;  ///< Null until the path has led to the known state once.
+    std::unique_ptr<const FileDescriptor> m_file;  ///< Null if the last lookup did not find the known state.
     timespec m_tick = {};                          ///< The tick at which the path was last looked up.
 };
 
