@@ -100,7 +100,7 @@ public:
 
     /// Returns the keys of @a section with their values, in the order of GetKeyNames(). The time is proportional to the
     /// number of keys. For the section with the empty name, the result begins with the keys before the first section,
-    /// because wxFileConfig writes them there.
+    /// because wxFileConfig writes the keys of its root group there.
     static std::vector<Entry> GetEntries(const CIniFile& ini, const wchar_t* section);
 
     /// Writes the content of @a ini to the file at @a path, which is created or replaced atomically.

@@ -8,9 +8,9 @@
 
 /// The folders of an application's files. Callable from any thread while no thread renames the application.
 ///
-/// `<application>` is wxTheApp->GetAppName(), or the name of the program if that is empty or wxTheApp is null, made
-/// safe as a file name: '/' and control characters become '_', and so does each '.' of the names "." and "..". A name
-/// that is too long is cut off.
+/// `<application>` is wxTheApp->GetAppName(). If wxTheApp is null or the application has no name, `<application>` is
+/// the name of the program. The name is made safe as a file name: '/' and control characters become '_', and so does
+/// each '.' of the names "." and "..". A name that is too long is cut off.
 namespace std_file_paths {
 
 /// Returns the folder for this user's settings, without a separator at its end.
@@ -26,8 +26,8 @@ FITTINGS_API std::wstring GetUserDataDir();
 /// Makes GetUserDataDir() return @a path from now on; an empty path restores the default. Nothing is moved.
 FITTINGS_API void SetUserDataDir(const CStdStr<wchar_t>& path);
 
-/// Returns `<documents>/<application>/`@a name. The folder may not exist. If the user has no documents folder (no entry
-/// in the user-dirs.dirs file of xdg-user-dirs), the home folder replaces it, found as for GetUserDataDir().
+/// Returns `<documents>/<application>/`@a name. Creates no folder. If the user has no documents folder (no entry in the
+/// user-dirs.dirs file of xdg-user-dirs), the home folder replaces it: the same one as for GetUserDataDir().
 FITTINGS_API std::wstring GetAppFolderPath(const wchar_t* name);
 
 }  // namespace std_file_paths

@@ -92,7 +92,8 @@ using IfNot =
     std::enable_if_t<(kIsWideText<Text> || kIsNarrowText<Text>)&&!std::is_convertible_v<const Text&, Taken>, int>;
 
 /// Like IfTexts, for a function that has an overload for `const char*` too: enables the function for texts of any kind,
-/// unless the texts suit exactly one of the two overloads.
+/// except in two cases. Either all convert to `const wchar_t*` and not all are narrow text, or all convert to
+/// `const char*` and none is wide text. The compiler then chooses the right overload.
 template <typename... Texts>
 using IfMixedTexts =
     std::enable_if_t<((kIsWideText<Texts> || kIsNarrowText<Texts>)&&...) &&

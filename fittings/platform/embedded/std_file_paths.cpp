@@ -128,8 +128,8 @@ void SetUserDataDir(const CStdStr<wchar_t>& path)
 
 std::wstring GetAppFolderPath(const wchar_t* name)
 {
-    // Without an absolute HOME, do not ask for the documents folder: a file in the home folder sets its path, relative
-    // to the home folder.
+    // If GLib knows no absolute home folder, do not ask it for the documents folder: GLib would return a path below the
+    // relative home folder.
     const bool hasHome = g_path_is_absolute(g_get_home_dir());
     const char* documents = hasHome ? g_get_user_special_dir(G_USER_DIRECTORY_DOCUMENTS) : nullptr;
     const std::wstring base = documents ? file_util_ex::ConvertFromUTF8W(documents) : Home();

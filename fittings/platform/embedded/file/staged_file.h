@@ -15,7 +15,7 @@ enum class PlaceResult {
     Done,
     Failed,
     NotAsExpected,  ///< A file exists that was not expected, or an expected one is missing.
-    Unsupported,    ///< The file system cannot do this atomically.
+    Unsupported,    ///< The file system or the kernel cannot do this atomically.
 };
 
 /// New content on the disk beside the file that it will replace, under a temporary name. The destructor removes the
@@ -24,8 +24,9 @@ class StagedFile
 {
 public:
     /// Writes @a bytes to a new file beside @a target, which must not be a link. @a old is the state of the file at
-    /// @a target, or nothing when there is no file. The new file gets the owner and the mode in @a old. Also removes
-    /// the temporary files that killed processes have left in the folder.
+    /// @a target, or nothing when there is no file. The new file gets the owner and the mode in @a old if the file
+    /// system allows it. Without @a old, calls GiveToOwnerOfFolder(). Also removes the temporary files that killed
+    /// processes have left in the folder more than a minute ago.
     StagedFile(std::string target, std::string_view bytes, const std::optional<struct stat>& old);
     ~StagedFile();
     StagedFile(const StagedFile&) = delete;
@@ -48,8 +49,8 @@ public:
     /// name.
     PlaceResult PutBack();
 
-    /// Renames the displaced file to a name from OtherName(), which a user notices. The destructor then does not remove
-    /// the file. Ignores errors.
+    /// Renames the displaced file to a name from OtherName(), so that a user notices the file and the destructor does
+    /// not remove it. If the renaming fails, the destructor removes the file.
     void SetAside();
 
     /// Returns the temporary name.

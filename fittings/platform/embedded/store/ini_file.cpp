@@ -108,7 +108,7 @@ bool CIniFile::Save(const std::string& path) const
 {
     if (path.empty() || (HasFailed() && path == m_path))
         return false;
-    // Keep the unreadable file under another name, unless another process has put a new file in its place.
+    // If the unreadable file is still at @a path, keep it under another name.
     if (!m_unreadable.empty()) {
         const auto result = ReplaceUnreadable(path, std::chrono::steady_clock::now());
         if (result != fittings::UpdateResult::Outdated)
@@ -134,8 +134,8 @@ fittings::UpdateResult CIniFile::Update(std::chrono::steady_clock::time_point de
     return fittings::UpdateFileBytes(m_path, {m_content, m_text->Original(), std::move(changed), merge, deadline});
 }
 
-// Keeps the unreadable file under another name, and puts a new file in its place. If another process puts a file at
-// @a path meanwhile, that file stays.
+// Keeps the unreadable file under another name, and puts a new file in its place. Does nothing if there are no changes
+// to save. If another process has put a file at @a path, that file stays and the result is Outdated.
 fittings::UpdateResult CIniFile::ReplaceUnreadable(const std::string& path,
                                                    std::chrono::steady_clock::time_point deadline) const
 {
@@ -279,10 +279,10 @@ std::vector<IniText::Key> CIniFile::WithEarlyKeys(const std::vector<IniText::Key
     return all;
 }
 
-// Merges three ways: starts with @a displaced, and makes the changes that lead from @a expected to @a put. If a key has
-// changed in @a displaced too, a change of this object replaces the value in @a displaced. Any other change in @a put
-// does not, because the value in @a displaced is newer. Only a change of this object removes a key: a key that is
-// merely missing in @a put may be one that another process has not merged yet.
+// Merges three ways: starts with @a displaced, and makes the changes that lead from @a expected to @a put. A change of
+// this object always counts. Any other change in @a put counts only if the key has the same value in @a displaced as in
+// @a expected: otherwise the value in @a displaced is newer. Only a change of this object removes a key: a key that
+// @a put lacks may belong to a change that has not been merged into @a put yet.
 std::optional<std::string> CIniFile::Merged(std::string_view expected, std::string_view put,
                                             std::string_view displaced) const
 {

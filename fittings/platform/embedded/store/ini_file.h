@@ -25,12 +25,14 @@ public:
     bool Load(const std::string& path, std::chrono::steady_clock::time_point deadline = {});
 
     /// Loads the file and applies the changes to the loaded content. Does nothing if the path and the revision of the
-    /// changes are those of the last call and the file has certainly not changed since. Returns true when the content
-    /// of the object may have changed.
+    /// changes are those of the last call and the file has certainly not changed since. Keeps the earlier content while
+    /// another program may be about to fill the empty file. Returns true when the content of the object may have
+    /// changed.
     bool Refresh(const std::string& path, const std::vector<fittings::SettingsChange>& changes = {},
                  std::uint64_t revision = 0);
 
-    /// Does the same for a path in wide text. Does not convert the path again if it is that of the last call.
+    /// Does the same, without changes, for a path in wide text. Does not convert the path again if it is that of
+    /// the last call.
     bool Refresh(std::wstring_view path);
 
     /// Writes the file if its bytes change. Returns false on any error.
@@ -73,7 +75,7 @@ public:
     /// keeps the earlier content of a file that was found empty.
     bool IsCurrent() const;
 
-    /// Returns whether the last Load() found a file that it could not read.
+    /// Returns whether the last Load() found a file that it could not read or that has too many lines.
     bool HasFailed() const { return m_content.result == fittings::ReadResult::Failed; }
 
 private:

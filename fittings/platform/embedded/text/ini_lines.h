@@ -13,7 +13,7 @@ enum class IniLineKind {
     Section,        ///< [name]
     Key,            ///< name=value below a section.
     EarlyKey,       ///< name=value before the first section.
-    BrokenSection,  ///< Starts with '[' but is not a section line. Keys below it belong to no section.
+    BrokenSection,  ///< Starts with '[' but is not a section line. The keys below it are Unknown.
     Unknown,        ///< Every other line, for example one that starts with ';'.
 };
 

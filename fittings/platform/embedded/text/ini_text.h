@@ -74,8 +74,8 @@ public:
         std::optional<std::string_view> value;  ///< None when the key or the section was removed.
     };
 
-    /// Returns all changes, each key and each section once. Only a key that was set again after RemoveSection() occurs
-    /// twice: first as removed, then with its new value.
+    /// Returns all changes. Each key and each section occurs once, unless it was set or added again after
+    /// RemoveSection(). Then the last of its changes counts.
     std::vector<Change> Changes() const;
 
 private:
@@ -98,7 +98,7 @@ private:
         std::vector<Entry> entries = {};
         std::unordered_map<std::string_view, std::size_t> indices = {};  ///< Indices of the entries, by name.
         std::size_t lastLine = kNone;  ///< The line after which new keys are inserted. kNone: the section is new.
-        bool hasOwnName = false;       ///< True if the last line is below a section line as EncodeName() writes it.
+        bool hasOwnName = false;       ///< True if lastLine is, or is below, a section line as EncodeName() writes it.
         bool isMade = false;           ///< True after AddSection().
         bool isRemoved = false;
     };
