@@ -129,7 +129,7 @@ protected:
     /// StartKill() comes between them.
     wxMutex m_continueMutex{wxMUTEX_RECURSIVE};
 
-    /// Held while an event is made and posted. Lock it before m_continueMutex, never after it.
+    /// Held while PostEvent() makes and posts an event of its own. Lock it before m_continueMutex, never after it.
     wxMutex m_postMutex{wxMUTEX_DEFAULT};
 
 private:
@@ -176,8 +176,9 @@ public:
 
     /// @name Posting
     ///
-    /// Does the same as wxGUIThread::PostEvent() with the type that was passed to the constructor. The results and the
-    /// ownership of the data are described there. A call PostEvent(value, 0) is ambiguous: write 0L or nullptr.
+    /// These functions do the same as wxGUIThread::PostEvent() with the type that was passed to the constructor. The
+    /// results and the ownership of the data are described there. A call PostEvent(value, 0) is ambiguous: write 0L
+    /// or nullptr.
     /// @{
     bool PostEvent(int value);              ///< Posts an event with that int.
     bool PostEvent(int value, long extra);  ///< Posts an event with that int and extra long.

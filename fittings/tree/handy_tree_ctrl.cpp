@@ -63,8 +63,8 @@ void wxHandyTreeCtrl::CreateImageList()
     SetImageList(m_imageList);
 }
 
-// Sets the images. Without images, also lowers the row height, which would keep the height of the earlier images: when
-// the toolkit measures the items again, it raises the row height as needed, but never lowers it.
+// Sets the images. Without images, also lowers the row height. Otherwise the rows would stay as high as the earlier
+// images: when the toolkit measures the items again, it raises the row height as needed, but never lowers it.
 void wxHandyTreeCtrl::SetImageList(wxImageList* images)
 {
     wxTreeCtrlEx::SetImageList(images);

@@ -33,8 +33,8 @@ class wxImageList;
 /// @endcode
 ///
 /// The state is the set of the labels of expanded items, not of their paths. If several items have the same label, the
-/// last one in the tree decides whether the label is saved, and loading expands all of them. A label that contains "|"
-/// counts as two labels. The state is kept in the default store, section "TreeControlState".
+/// last one in the tree decides whether the label is saved, and loading expands all of them. A "|" in a label splits
+/// it into two labels. The state is kept in the default store, section "TreeControlState".
 ///
 /// A screen reader announces the label of the item that has the focus. It also announces the label of the control: the
 /// static text that is created just before the control, or the text of SetLabel().
@@ -76,8 +76,8 @@ public:
     /// height of the text.
     void SetImageList(wxImageList* images) override;
 
-    /// Deletes the list of CreateImageList(), if there is one. The control must not be drawn with its images
-    /// afterwards.
+    /// Deletes the list of CreateImageList(), if there is one. If the control still uses the list, call SetImageList()
+    /// before the control is drawn again.
     void DetroyImageList();
 
     /// Sets the name under which SaveState() and LoadState() without a name keep the state. Empty at first.
@@ -117,9 +117,9 @@ public:
     /// Calls OnItemExpanding() and shows the busy cursor in the whole application meanwhile. Afterwards the default
     /// cursor is shown, even if the host had set another. The constructor binds this to wxEVT_TREE_ITEM_EXPANDING.
     ///
-    /// The event is not passed on, neither to the event table of a derived class nor to a parent window. A host that
-    /// needs the event, for example to veto it, calls Bind() on the control: its handler is called first. If the
-    /// handler does not skip the event, the item is not filled.
+    /// The event reaches neither the event table of a derived class nor a parent window. A host that needs the
+    /// event, for example to veto it, calls Bind() on the control: its handler is called first. If the handler does not
+    /// skip the event, the item is not filled.
     void OnEvtItemExpanding(wxTreeEvent& event);
 
     /// Describes the item that has the focus in the tree to assistive technologies.
