@@ -40,8 +40,8 @@ class AncestorWatch;
 ///
 /// A frame or dialog is restored as wx_window_state::LoadState() restores it: in its place, on a display that still
 /// exists, and within that display's work area. A window that was maximised is maximised again. When the user then
-/// unmaximises it, it returns to the place and size that it had before. The place and size before a window is
-/// maximised, iconised or made full screen are recorded from wxPersistentRegisterAndRestore() on.
+/// unmaximises it, it returns to the place and size that it had before. From wxPersistentRegisterAndRestore() on, the
+/// place and size of a window are recorded while it is neither maximised, iconised nor full screen.
 ///
 /// The values of a window and of the controls in it are collected, and saved together when the window is destroyed. The
 /// values of a control that is destroyed before its window are saved on the next turn of the event loop.
@@ -70,7 +70,8 @@ public:
     /// Returns false if the stored value is neither 0 nor 1.
     bool RestoreValue(const wxPersistentObject& who, const wxString& name, bool* value) override;
     /// Returns false if the stored value is not an int; for a splitter or data view, also if it is not a place or size
-    /// that a window can have. For a frame or dialog, a request for "x" restores the whole place and size.
+    /// that a window can have. For a frame or dialog, a request for "x" restores the whole place and size. A request
+    /// for "y" then returns the current y, and a request for "w", "h" or the decorations returns false.
     bool RestoreValue(const wxPersistentObject& who, const wxString& name, int* value) override;
     /// Returns false if the stored value is not a number.
     bool RestoreValue(const wxPersistentObject& who, const wxString& name, long* value) override;
@@ -116,7 +117,7 @@ private:
     void OnIdle(wxIdleEvent& event);
     void ForgetFirstInView();
 
-    wxString m_scrollTo;              ///< The restored state, until its first item in view is scrolled to.
+    wxString m_scrollTo;              ///< The restored state, until OnIdle() has scrolled the tree.
     std::optional<wxString> m_state;  ///< The state when the destruction of an ancestor began.
     std::unique_ptr<fittings::AncestorWatch> m_watch;
 };
@@ -210,11 +211,12 @@ inline bool wxPersistentRegisterAndRestore(wxAuiManager* manager, const wxString
 ///
 /// An inner window is registered under the outer window's name followed by its own, such as "Planets/treeCtrl" for a
 /// tree without a name of its own. If several inner windows have the same name, the second one is registered with " 2"
-/// appended to that name, and so on in the order of their creation. Give a name to each window whose place in this
-/// order may change in a later version of the program. The windows' own names do not change.
+/// appended to that name, and so on. Children are counted in the order of their creation, and pages of a book in the
+/// order of the pages. The windows inside a child are counted right after that child. Give a name to each window whose
+/// place in this order may change in a later version of the program. The windows' own names do not change.
 ///
-/// The function does not register windows that were registered before, other frames and dialogs, data views that are a
-/// page of a book, and AUI managers.
+/// The function leaves out windows that were registered before, other frames and dialogs, data views that are a page of
+/// a book, and AUI managers.
 FITTINGS_API bool wxPersistentRegisterAndRestoreAll(wxWindow* window, const wxString& name);
 
 #endif

@@ -15,8 +15,8 @@ class StoreModel;
 /// The settings store as a wxConfigBase, for wxFileHistory, wxPersistenceManager and everything else that uses one.
 ///
 /// The group "A/B" is the section `A/B` of the store, and its entries are the keys of that section. So
-/// `/LastFiles/Report` is the value that CQVFileDialogI stores. Entries of the root are in the section with the empty
-/// name, `[%]` in the file.
+/// `/LastFiles/Report` is the file that CQVFileDialogI stores for the registry entry "Report". Entries of the
+/// root are in the section with the empty name, `[%]` in the file.
 ///
 /// Reads return what the store holds at that moment, whoever stored it, together with this object's own changes.
 /// Changes are collected. Flush() and the destructor save only the changed entries, with one save that keeps what other
@@ -64,7 +64,7 @@ public:
     /// @{
 
     /// Makes the group at @a path current. The path may be relative and contain "..". A group that does not exist is
-    /// made, and is stored with its first entry.
+    /// made, and is stored with its first entry. A path that cannot be stored is ignored.
     void SetPath(const wxString& path) override;
 
     /// Returns the path of the current group: absolute, without a separator at its end, empty for the root.
@@ -79,10 +79,12 @@ public:
     size_t GetNumberOfEntries(bool recursive = false) const override;  ///< Counts all levels if @a recursive.
     size_t GetNumberOfGroups(bool recursive = false) const override;   ///< Counts all levels if @a recursive.
 
-    /// Renames an entry of the current group. Returns false when the old name does not exist or the new one does.
+    /// Renames an entry of the current group. Returns false when the old name does not exist, and when the new name
+    /// exists or is not valid.
     bool RenameEntry(const wxString& oldName, const wxString& newName) override;
 
-    /// Renames a group in the current group. Returns false when the old name does not exist or the new one does.
+    /// Renames a group in the current group. Returns false when the old name does not exist, and when the new name
+    /// exists or is not valid.
     bool RenameGroup(const wxString& oldName, const wxString& newName) override;
     /// @}
 
@@ -93,8 +95,8 @@ public:
     /// there is no such entry.
     bool DeleteEntry(const wxString& path, bool deleteGroupIfEmpty = true) override;
 
-    /// Removes a group with its contents. If the current group is removed, the nearest remaining one becomes current.
-    /// Returns false when there is no such group.
+    /// Removes a group with its contents. If this removes the current group, the parent of the group at @a path
+    /// becomes current. Returns false when there is no such group, and for the root.
     bool DeleteGroup(const wxString& path) override;
 
     /// Removes all groups and entries, and the sections that are not groups. Returns true.

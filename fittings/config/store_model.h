@@ -26,8 +26,8 @@ public:
     StoreModel(const StoreModel&) = delete;
     StoreModel& operator=(const StoreModel&) = delete;
 
-    /// Loads what other objects and processes have changed in the file. References to groups are valid until the next
-    /// call of this function.
+    /// Loads what other objects and processes have changed in the file. A reference to a group is valid until the next
+    /// call of this function, or until the group is removed.
     void Refresh();
 
     /// Returns false before the first Refresh().
@@ -56,7 +56,7 @@ public:
     /// Stores the group even if it has no entries.
     void AddSection(StoreGroup& group);
 
-    /// No longer stores the group when it is empty.
+    /// Removes the group's section from the store. The section stays if another process has put keys into it.
     void DropSection(StoreGroup& group);
 
     /// Removes a group with its contents. When that removes the current group, the parent of @a group becomes current.
@@ -88,13 +88,14 @@ private:
     static void ForgetChanges(StoreGroup& group);
 
     const std::optional<std::wstring> m_file;
-    OwnedIniFile m_ini;  ///< The store as it was loaded, with the changes at that time.
+    OwnedIniFile m_ini;  ///< The store as Refresh() loaded it, with the changes not saved then. Empty after Save().
     bool m_isLoaded = false;
     std::unique_ptr<StoreGroup> m_root;
 
     StorePath m_currentPath;
     StoreGroup* m_current = nullptr;
-    std::set<StorePath> m_made;  ///< Groups without a section, made by SetCurrent() or RenameGroup().
+    /// Groups made by SetCurrent() or RenameGroup(). These exist even without a section.
+    std::set<StorePath> m_made;
 
     std::wstring m_lastPath;
     StoreGroup* m_lastFound = nullptr;  ///< The last result of Find(); null when it may be out of date.

@@ -31,7 +31,7 @@ public:
 
     Value* Find(std::wstring_view name)
     {
-        // Programs often ask for items one after the other. Comparing one name is faster than the search.
+        // Programs often ask for items in the order of the list. Comparing one name is faster than the search.
         if (m_afterFound >= m_items.size() || m_items[m_afterFound].isRemoved || m_items[m_afterFound].name != name) {
             const auto found = m_places.find(name);
             if (found == m_places.end())
@@ -107,7 +107,7 @@ struct StoreGroup
     StoreGroup* const parent;  ///< Null for the root.
     const std::wstring name;
     bool isSection = false;  ///< True if the store has the section or will have it.
-    bool isMade = false;     ///< True if the section is stored even without entries.
+    bool isMade = false;     ///< True if the next save stores the section even without entries.
     NamedList<StoreEntry> entries;
     NamedList<std::unique_ptr<StoreGroup>> groups;
 };

@@ -30,10 +30,10 @@ wxRect ScreenRect(wxWindow& window)
     return rect;
 }
 
-/// Returns the display that shows most of the window, as wxDisplay::GetFromWindow() is meant to.
+/// Returns the display that shows most of the window; wxNOT_FOUND when no display shows any of it.
 ///
-/// The toolkit's own function is right for a window that is not created yet. But it returns a display even for a window
-/// that is far away from all displays, and uses the earlier place of a hidden window that was moved.
+/// wxDisplay::GetFromWindow() is right only about a window that is not created yet. It returns a display even for a
+/// window that is far away from all displays, and uses the earlier place of a hidden window that was moved.
 int DisplayOf(wxWindow& window)
 {
     if (wxDisplay::GetFromWindow(&window) == wxNOT_FOUND)

@@ -48,13 +48,15 @@ FITTINGS_API void SaveState(wxFrame* frame, const wchar_t* name);
 /// A hidden window appears in its place when it is shown. This includes the first window of a process, under any window
 /// manager that lets programs place their windows. The host only needs to call wxWindow::Show().
 ///
-/// Meant for top-level windows: a child's position in its parent is compared with the work area as it is.
+/// The function is meant for top-level windows. It compares a child's position with the work area too, although that
+/// position is relative to the parent.
 ///
 /// Returns false and changes nothing when no geometry is stored or the stored one is not four integers. Also returns
 /// false for a window that is on no display at (0, 0) either, and leaves it there.
 FITTINGS_API bool LoadState(wxWindow* window, const wchar_t* name);
 
-/// Does the same as for any window. A frame that was stored as maximised is then maximised by MaximizeFrame().
+/// Does the same as for any window. If that returns true and the frame was stored as maximised, MaximizeFrame() then
+/// maximises the frame.
 FITTINGS_API bool LoadState(wxFrame* frame, const wchar_t* name);
 
 /// Maximises the frame on a later turn of the event loop, so the frame may still be hidden when this is called.

@@ -44,7 +44,7 @@ bool HasEachOnce(std::vector<int> order)
     return order == all;
 }
 
-/// Returns the list; null if the list was deleted without Destroy(), which leaves only its base class.
+/// Returns the list. Returns null if the list was deleted without Destroy(): by then, only its base class is left.
 wxListCtrl* ListOf(wxWindow* window)
 {
     return dynamic_cast<wxListCtrl*>(window);

@@ -48,8 +48,8 @@ private:
     bool m_isOnScreen = false;
     bool m_isDragged = false;
     wxTimer m_release;      // Runs until the user releases the mouse button.
-    wxSize m_requested;     // Without decorations; no size until the window is unmaximised.
-    gint64 m_deadline = 0;  // In monotonic time.
+    wxSize m_requested;     // The size requested last, without decorations; 0 x 0 until the window is unmaximised.
+    gint64 m_deadline = 0;  // When the corrections end, in monotonic time; 0 before they begin.
 };
 
 bool DrawsItsDecorations(GtkWidget* widget)

@@ -13,11 +13,11 @@ namespace fittings {
 /// A window manager remembers the rectangle of a window before it maximises the window. It cannot know the rectangle of
 /// a window that is maximised from the start: it adds the decorations to the size, or chooses a place of its own.
 ///
-/// If the left mouse button is down, the user may be dragging the window. The window then gets the size alone, as soon
-/// as the button is released. Does nothing if GTK draws the decorations, as on Wayland.
+/// If the left mouse button is down when the window is unmaximised, the user may be dragging it. The window then gets
+/// only the size, as soon as the button is released. Does nothing if GTK draws the decorations, as on Wayland.
 void PlaceWhenUnmaximized(wxTopLevelWindow& window, const wxRect& rect);
 
-/// Undoes PlaceWhenUnmaximized().
+/// Stops what PlaceWhenUnmaximized() has started. A window that is already placed stays where it is.
 void LeavePlaceWhenUnmaximized(wxTopLevelWindow& window);
 
 }  // namespace fittings

@@ -24,7 +24,7 @@ private:
     const wxString m_name;
 };
 
-/// Makes the object if the window is of the class; otherwise returns null.
+/// Makes a Persistent object if the window is a Window; otherwise returns null.
 template <typename Persistent, typename Window>
 std::unique_ptr<wxPersistentObject> MakeFor(wxWindow& window, const wxString& name)
 {
@@ -32,7 +32,7 @@ std::unique_ptr<wxPersistentObject> MakeFor(wxWindow& window, const wxString& na
     return found ? std::make_unique<Named<Persistent>>(found, name) : nullptr;
 }
 
-/// Returns whether the window's class has persistence that works for this window.
+/// Returns whether Make() can make an object that works for the window.
 bool CanRemember(wxWindow& window)
 {
     if (auto* const list = dynamic_cast<wxListCtrl*>(&window))
@@ -106,7 +106,7 @@ private:
     }
 
     const wxString m_name;
-    std::map<wxString, int> m_numbers;  // The number of windows with each name.
+    std::map<wxString, int> m_numbers;  // How many windows have had each name so far.
 };
 
 }  // namespace

@@ -35,7 +35,7 @@ wxTreeItemId FirstInView(const wxTreeCtrl& tree)
     return {};
 }
 
-/// Walks over a tree and records the expanded, selected and first visible items, each with the steps to it.
+/// Walks over a tree and records the steps to each expanded or selected item and to the first item in view.
 class Walk
 {
 public:
@@ -69,7 +69,8 @@ private:
         wxTreeItemId item;
         TreeChildren children;
         bool isNoted;
-        // For numbering equal labels: how often each occurs up to the child that was recorded last.
+        // For numbering siblings with the same label: the place of the child that was recorded last, and how often
+        // each label occurs up to that child.
         TreeChildren counting;
         std::unordered_map<std::wstring, std::size_t> counts;
     };

@@ -26,13 +26,13 @@ struct TreeStep
 
 using TreeSteps = std::vector<TreeStep>;
 
-/// Returns the steps to the expanded and selected items of a tree, and to the first one whose top is in view, in the
+/// Returns the steps to the expanded and selected items of a tree, and to the first item whose top is in view, in the
 /// order of the tree. Includes items inside collapsed levels.
 TreeSteps StepsOf(const wxTreeCtrl& tree);
 
-/// Returns the steps as a text, such as "0+:|1+:Sun|2*:Earth|2#2:Earth|3^:Moon|". A step is its level; "+" if expanded,
-/// "*" if selected, "^" if it is the first in view; "#" and the number if that is not 1; and the label. In the label,
-/// "|" and "\" have a "\" before them, and a null character is "\0".
+/// Returns the steps as a text, such as "0+:|1+:Sun|2*:Earth|2+#2:Earth|3^:Moon|". The text of a step consists of its
+/// level; "+" if it is expanded, "*" if it is selected, "^" if it is the first in view; "#" and the number if that is
+/// not 1; ":", the label and "|". In the label, "|" and "\" have a "\" before them, and a null character is "\0".
 std::wstring ToText(const TreeSteps& steps);
 
 /// Reads a text from ToText(). Returns nothing for a text that ToText() cannot have written.

@@ -23,7 +23,7 @@ public:
     Descent(const Descent&) = delete;
     Descent& operator=(const Descent&) = delete;
 
-    /// Returns the item that the next step leads to; null when there is none.
+    /// Follows the next step of the path. Returns the item of the step; null when there is none.
     wxTreeItemId Go(const fittings::TreeStep& step)
     {
         // The step's parent was not found.
@@ -91,7 +91,7 @@ private:
     }
 
     wxTreeCtrl& m_tree;
-    std::vector<Level> m_levels;  // the root and the steps below it that were followed last
+    std::vector<Level> m_levels;  // the items of the path that was followed last, from the root down
     std::vector<wxTreeItemId> m_kept;
     std::size_t m_taken = 0;
 };

@@ -21,7 +21,8 @@ namespace fittings {
 class WindowRecord
 {
 public:
-    /// Attaches a new object to @a window. @a atEnd is called when the window and all of its children are destroyed.
+    /// Attaches a new object to @a window. @a atEnd is called at the end of the window's destruction, when all of its
+    /// children are destroyed.
     static std::shared_ptr<WindowRecord> Attach(wxWindow& window, std::function<void()> atEnd);
 
     explicit WindowRecord(std::function<void()> atEnd) : m_atEnd(std::move(atEnd)) {}
@@ -32,8 +33,8 @@ public:
     /// From now on, records the window's place and size while it is neither maximised, full screen nor iconised.
     void Follow(wxTopLevelWindow& window);
 
-    /// Returns true when the window is maximised, or is hidden and was maximised before. The system does not remember
-    /// this state of a hidden window.
+    /// Returns true when the window is maximised. A hidden window counts as maximised if it was maximised when it was
+    /// hidden: the system does not remember that.
     bool IsMaximized(const wxTopLevelWindow& window) const;
 
     /// Returns true when the window is maximised, full screen or iconised.
