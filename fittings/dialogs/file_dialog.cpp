@@ -55,8 +55,8 @@ bool CanBeShown(const wxFileName& folder)
 }
 
 // If @a start cannot be shown, starts the dialog in the nearest folder above it that can. GTK's dialog goes up from a
-// missing folder by itself. For a file, or for a folder that the user may not read, it would show an error or nothing,
-// and nothing could be chosen.
+// missing folder by itself. For a file, or for a folder that the user may not read, that dialog would show an error
+// or stay empty, and the user could choose nothing.
 void StartInReadableFolder(wxFileDialog& dialog, const wxString& start)
 {
     if (!CanBeShown(wxFileName::DirName(start)) && !IsGone(start))
