@@ -64,7 +64,9 @@ std::int64_t DigitsKept(const Decimal& number, std::int64_t decimals)
     return number.point + std::clamp(decimals, -kMostExponent, kMostExponent);
 }
 
-/// Returns the digits between the places @a top and @a bottom, which are counted from the decimal point to the left.
+/// Returns the digits from the place @a top down to the place @a bottom, with zeros where the number has no digits. All
+/// digits of the number must be between these places. Places are counted from the decimal point to the left; below 0,
+/// they are to the right of the point.
 std::string DigitsBetween(const Decimal& number, std::int64_t top, std::int64_t bottom)
 {
     std::string result(static_cast<std::size_t>(top - bottom), '0');

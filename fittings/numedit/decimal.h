@@ -28,7 +28,7 @@ constexpr std::int64_t kMostExponent = 100'000'000'000'000'000;
 /// zeros.
 Decimal MakeDecimal(std::string_view digits, std::int64_t point, bool negative = false);
 
-/// Reads a sign, digits with an optional `.`, and an exponent. Returns nothing for any other text.
+/// Reads an optional sign, digits with an optional `.`, and an optional exponent. Returns nothing for any other text.
 std::optional<Decimal> ParseDecimal(std::string_view text);
 
 /// Returns the shortest decimal number that reads as @a value. Returns nothing for an infinity and NaN.
@@ -48,7 +48,7 @@ Decimal Negated(Decimal number);
 /// Returns the number with at least @a decimals decimals and no exponent; nothing if it has more than 100,000 digits.
 std::optional<std::string> PlainText(const Decimal& number, std::int64_t decimals = 0);
 
-/// Returns the sum; nothing if it has more than 100,000 digits.
+/// Returns the sum; nothing if the digits of the two numbers together span 100,000 places or more.
 std::optional<Decimal> Sum(const Decimal& left, const Decimal& right);
 
 /// Rounds a non-negative number up or down to @a decimals decimals. With -2, it rounds to hundreds.
@@ -57,7 +57,7 @@ Decimal RoundedUp(const Decimal& number, std::int64_t decimals);
 Decimal RoundedDown(const Decimal& number, std::int64_t decimals);
 /// @}
 
-/// Makes a number as MakeDecimal() does, and adds one in the place of the last of @a digits.
+/// Makes a number as MakeDecimal() does, and adds one to the last of @a digits.
 Decimal Following(std::string_view digits, std::int64_t point);
 
 }  // namespace fittings
