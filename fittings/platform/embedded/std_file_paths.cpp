@@ -37,11 +37,11 @@ DataDir& TheDataDir()
     return dataDir;
 }
 
-// Returns @a text as a file name. Each character that a file name cannot or should not contain becomes an underscore,
-// and a name that is too long is cut off.
+// Returns @a text as a file name. Each '/', each control character, and each dot of the names "." and ".." becomes an
+// underscore. A name that is too long is cut off.
 std::wstring SafeFileName(const std::wstring& text)
 {
-    // Replace each code that is not a Unicode character: it could not be read back from the disk.
+    // Each code that is not a Unicode character becomes U+FFFD: the code could not be read back from the disk.
     std::wstring name = file_util_ex::ConvertFromUTF8W(file_util_ex::ConvertToUTF8(text));
     for (wchar_t& character : name) {
         if (character == L'/' || fittings::IsControl(static_cast<char32_t>(character)))

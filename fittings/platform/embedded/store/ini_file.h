@@ -16,7 +16,7 @@
 
 /// An INI file whose settings are read and changed as wide text.
 ///
-/// Saving writes the text that was read, with only the changed keys changed. Every other byte stays as it was.
+/// Saving writes the text that was read, with the changes made in it. Every other byte stays as it was.
 class CIniFile
 {
 public:

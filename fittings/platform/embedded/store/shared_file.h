@@ -31,7 +31,7 @@ private:
 
     const std::string m_path;
 
-    std::mutex m_writing;  ///< Guards the member below.
+    std::mutex m_writing;  ///< Held during a write. Guards the member below.
     LockWait::Stuck m_stuckLock;
 };
 

@@ -161,7 +161,7 @@ void AppendQuoted(std::string& out, char32_t code)
         AppendUtf8(out, code);
 }
 
-// Reads an escape at the beginning of @a text, which follows the backslash.
+// Reads an escape whose backslash stands directly before @a text.
 std::optional<Decoded> ReadEscape(std::string_view text)
 {
     if (text.empty())
