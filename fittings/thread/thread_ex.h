@@ -39,7 +39,7 @@ class wxThreadExImpl;
 /// again: make another one.
 ///
 /// - The class does not pause the work or end it early. Entry() may ask wxThread::This(), the toolkit's detached
-///   thread, for its id or TestDestroy(). Whether some code calls that thread's Pause() or Delete() is up to the host.
+///   thread, for its id or TestDestroy(). This class never calls that thread's Pause() or Delete(); only the host can.
 /// - The destructor waits, but only after the members of the derived class are destroyed. A thread that begins only
 ///   then finds no Entry() to call and aborts the process. So call Wait() before, in the owner or in the destructor of
 ///   the most derived class.
@@ -55,7 +55,7 @@ public:
     /// @param kind wxTHREAD_JOINABLE, or wxTHREAD_DETACHED for an object that is never waited for.
     explicit wxThreadEx(wxThreadKind kind);
 
-    /// Waits until Entry() has returned, if the object is not detached and has run.
+    /// Calls Wait(), unless the object is detached.
     virtual ~wxThreadEx();
 
     wxThreadEx(const wxThreadEx&) = delete;
