@@ -94,7 +94,7 @@ void NumbersPage::LoadSettings()
     m_validates->SetValue(kNumberSettings.LoadFlag("Validates", true));
 }
 
-/// Makes the field for the number, and its buttons.
+/// Makes the first column: the field for the number, its check box and buttons, and the text with the kept number.
 wxSizer* NumbersPage::MakeTrial()
 {
     wxStaticText* label = MakeHeading(this, "&Number");
@@ -176,7 +176,7 @@ void NumbersPage::Arrange()
     ArrangeColumns(m_columns, width);
     ArrangeColumns(m_controlColumns, width);
     m_fields->Arrange(width);
-    FitInside();  // before the layout, which would otherwise squeeze the fields into a low window
+    FitInside();  // before the layout: otherwise the layout would squeeze the fields into a low window
 }
 
 /// Sets or removes the validator of the number's field, sets the current format in the control, and shows the results.
@@ -191,8 +191,8 @@ void NumbersPage::UseFormat()
     m_keep->Enable(validates);
     m_bringBack->Enable(validates);
     ShowResults();
-    // Leave the control alone while the user replaces the point: the format then has none, and 1.5 would no longer be a
-    // number.
+    // While the user replaces the decimal point in its field, the format has no point, and a number such as 1.5 is
+    // invalid in it. The control therefore keeps the earlier format.
     if (format.m_chDecimalPoint != 0)
         m_control->SetFormat(format);
     ShowControlNumber();

@@ -12,7 +12,7 @@ namespace gallery {
 
 /// @name Distances in a page, in device-independent pixels
 /// @{
-constexpr int kMargin = 18;        ///< The space around a page.
+constexpr int kMargin = 18;        ///< The space at the edges of a page, and between a heading and its buttons.
 constexpr int kColumnGap = 24;     ///< The space beside and below a column.
 constexpr int kColumnWidth = 260;  ///< The width of a number field, and the least width of some columns.
 constexpr int kGap = 6;            ///< The space between related controls.
@@ -29,8 +29,8 @@ void BeginAtTheStart(wxStaticText* label);
 /// Puts columns next to each other if @a width pixels are enough, otherwise below each other.
 void ArrangeColumns(wxBoxSizer* columns, int width);
 
-/// Scrolls @a page whenever the focus moves, to show all of the focused control. The toolkit does this only for direct
-/// children of the page. Call this function when the page is in its window.
+/// From now on, scrolls @a page up or down whenever the focus moves to a control in it that is not fully visible. The
+/// toolkit does this only for direct children of the page. The page must already be in a top-level window.
 void KeepFocusInSight(wxScrolledWindow* page);
 
 }  // namespace gallery

@@ -17,10 +17,10 @@ public:
     DemoFolder(const DemoFolder&) = delete;
     DemoFolder& operator=(const DemoFolder&) = delete;
 
-    /// Returns the path of the folder; empty when the folder could not be made.
+    /// Returns the path of the folder that contains the files; empty when the files could not be made.
     const std::string& Path() const { return m_path; }
 
-    /// Returns the path of a folder for settings, which does not exist at first.
+    /// Returns the path of the folder for the tour's settings. The constructor does not make this folder.
     std::string SettingsPath() const { return m_work + "/settings"; }
 
 private:

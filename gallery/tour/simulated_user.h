@@ -19,7 +19,7 @@ enum class SortColumn;
 /// Simulates a person at the mouse and the keyboard with real input events. X11 only; a top-level window must exist.
 namespace simulated_user {
 
-/// @name Input, at points of the screen
+/// @name Input. Points are points of the screen.
 /// @{
 void Click(const wxPoint& point);
 void DoubleClick(const wxPoint& point);
@@ -31,7 +31,7 @@ void Press(int key, int modifiers = wxMOD_NONE);
 void Widen(const wxWindow& window, const wxRect& part, int pixels, int gap = 0);
 /// @}
 
-/// @name Points and rectangles on the screen; a rectangle is empty when it is not visible
+/// @name Points and rectangles on the screen. The rectangle of a part that is not shown yet is empty.
 /// @{
 wxPoint CentreOf(const wxRect& rect);
 wxRect WidgetRect(_GtkWidget* widget);

@@ -85,7 +85,7 @@ wxRect AcceptButton(GtkWidget* dialog)
     return button && gtk_widget_is_sensitive(button) ? WidgetRect(button) : wxRect();
 }
 
-/// The state that must be the same in the next session.
+/// The state that must be the same after a cancelled dialog, after a folder is opened again, and in the next session.
 struct State
 {
     explicit State(GalleryFrame& frame) : window(frame.GetRect())
@@ -202,7 +202,7 @@ bool Tour::ExpandByKeyboard()
     if (!Waits([&] { return tree.HasFocus() && tree.GetSelection().item == tree.GetRootItem(); }, "a click selects"))
         return false;
 
-    // On two levels, expand the last folder that can be expanded among the first twelve.
+    // On each of two levels, expand one folder: of the first twelve, the last one that can be expanded.
     for (int level = 0; level < 2; ++level) {
         const wxTreeItemId start = tree.GetSelection().item;
         wxTreeItemIdValue cookie;

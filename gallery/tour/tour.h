@@ -16,11 +16,12 @@ class GalleryFrame;
 
 /// A tour of the program. It drives the program's window by simulated input and takes a picture of each component.
 ///
-/// The tour browses a folder that it makes, or the given one, and keeps its settings apart from the user's.
+/// The tour keeps its settings apart from the user's.
 class Tour
 {
 public:
-    /// Pictures go into the folder @a pictures, which is made when it is missing.
+    /// Puts the pictures into the folder @a pictures, which Run() makes when it is missing. Browses @a folder, or a
+    /// folder that the tour makes if @a folder is empty.
     Tour(const std::string& pictures, const std::string& folder);
 
     /// Runs all steps and prints the result of each. Returns true when all steps succeeded. Needs an active event loop.

@@ -45,8 +45,8 @@ bool Tour::OpenFolderColours()
     return Waits([&] { return combo.GetPopup()->IsShownOnScreen(); }, "Ctrl+T opens the colours");
 }
 
-/// Waits until the popup closes. Returns whether it closes in time, the selected folder is shown in the colour of @a
-/// cell, and that colour is stored.
+/// Waits until the popup closes. Returns true if it closes in time, the selected folder is shown in the colour of
+/// @a cell as ReadableOn() changes it, and the colour of @a cell is stored.
 bool Tour::FolderGets(int cell)
 {
     const FolderColourCombo& combo = *m_frame->GetBrowser()->GetColour();
@@ -64,8 +64,8 @@ bool Tour::ColourFolder()
     const wxColourPopup& colours = *m_frame->GetBrowser()->GetColour()->GetPopup();
     if (!OpenFolderColours())
         return false;
-    // The keys move from "More Colours..." through "Automatic" and black to the second row, whose fourth cell is a
-    // green.
+    // Down goes to "More Colours...", "Automatic", the first cell of the first row, and the first cell of the second
+    // row. Right goes to the fourth cell of that row, which is a green.
     for (const int key : {WXK_DOWN, WXK_DOWN, WXK_DOWN, WXK_DOWN, WXK_RIGHT, WXK_RIGHT, WXK_RIGHT})
         Press(key);
     if (!Waits([&] { return colours.GetStringValue() == GetColourName(kGreen); },
