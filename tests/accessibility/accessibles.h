@@ -23,7 +23,7 @@ void PrintTo(const Accessible& accessible, std::ostream* out);
 /// name in the installed release.
 std::string RoleName(const std::string& told);
 
-/// Reads the accessible objects of this process's windows, parents before their children.
+/// Reads the visible accessible objects of this process's windows, parents before their children.
 std::vector<Accessible> ReadAccessibles();
 
 /// Returns the focused object; its role is empty when there is none.

@@ -1,9 +1,9 @@
-// read-accessibles PID: prints the visible accessible objects of a process, one per line:
+// read_accessibles PID: prints the visible accessible objects of a process, one per line:
 //
 //   <depth> <role>|<name>|<description>|<label>|<states>
 //
 // The label consists of the names of the objects that label the object. The possible states are "showing", "sensitive",
-// "focusable" and "focused". The items of menus and tables are left out.
+// "focusable" and "focused". The contents of menu bars and tables are left out.
 
 #include <cstdio>
 #include <cstdlib>

@@ -1,4 +1,4 @@
-// Functions accept text of every kind for each parameter. Calls that compiled before keep their meaning.
+// The library's functions accept text of every kind for each parameter. The earlier overloads keep their types.
 
 #include <fittings/platform/text_argument.h>
 

@@ -3,7 +3,7 @@
 //
 //   display x11|wayland
 //   combo X Y WIDTH HEIGHT     in the frame's client area
-//   frame X Y WIDTH HEIGHT     its client area on the screen, if the display reports it
+//   frame X Y WIDTH HEIGHT     the frame's client area on the screen, as far as the display reports positions
 //   opens at once|later        the popup is being shown: in the call to open it, or at the end of an animation
 //   cell N X Y                 the middle of that cell, in the popup that is shown now
 //   popup X Y                  the popup is shown; its place on the screen according to the toolkit

@@ -101,7 +101,7 @@ protected:
         return numbers.size() == 2 ? wxPoint(numbers[0], numbers[1]) : wxPoint();
     }
 
-    // Returns whether the cell is hot. A hot cell has a dark line one pixel inside its right edge.
+    // Returns whether the cell with this middle is hot. A hot cell has a dark line one pixel inside its right edge.
     static bool IsHot(const wxPoint& middle) { return Pixel(middle + wxPoint(7, 0)) == 0; }
 
     // Expects that moving from cell 0 to cell 1 repaints the two cells and the sides of the frame, and that the whole
@@ -131,8 +131,8 @@ protected:
         EXPECT_EQ(part(1).GetBottom(), height - 1);
     }
 
-    // Moves the pointer to a place until the program reports it. The compositor trusts the pointer's position only when
-    // the pointer enters its window, and does not always report a single move.
+    // Moves the pointer to a place, again and again until @a done returns true. The compositor trusts the pointer's
+    // position only when the pointer enters its window, and does not always report a single move.
     static void Move(const wxPoint& at, const std::function<bool()>& done)
     {
         const auto deadline = std::chrono::steady_clock::now() + Patience() * std::chrono::seconds(15);

@@ -57,7 +57,7 @@ TEST(LoadAuiManagerState, LeavesAManagerAloneWhenNothingIsStored)
 {
     const TempUserData data;
     AuiFrame frame;
-    // The manager is not updated here. If LoadAuiManagerState() updated it, the window would be hidden.
+    // The manager is not updated here. If LoadAuiManagerState() updated it, the window of the log would be hidden.
     frame.Pane("log").Hide();
     const wxString before = frame.manager.SavePerspective();
     EXPECT_FALSE(wx_window_state::LoadAuiManagerState(&frame.manager, L"Main"));
@@ -67,7 +67,7 @@ TEST(LoadAuiManagerState, LeavesAManagerAloneWhenNothingIsStored)
     EXPECT_TRUE(frame.Pane("log").window->IsShown());
 }
 
-/// Rearranges a shown frame as a user would.
+/// Hides the log, floats the properties, and changes the side, caption and size of the tree's pane.
 void Rearrange(AuiFrame& frame)
 {
     frame.Pane("log").Hide();
@@ -236,7 +236,7 @@ TEST_F(DamagedLayout, WithARowFarOutIsNotLoaded)
     ExpectNotLoaded(With("dock_size(4,0,0)", "dock_size(4,0,2147483647)"));
 }
 
-// The proportions of the two panes at the bottom add up to zero, and the toolkit divides by the sum.
+// In this layout, the proportions of the two panes at the bottom add up to zero. The toolkit would divide by the sum.
 TEST_F(DamagedLayout, WithANegativeProportionIsNotLoaded)
 {
     ExpectNotLoaded(With("dir=4;layer=0;row=0;pos=0;prop=100000", "dir=3;layer=0;row=0;pos=0;prop=-100000"));

@@ -1,4 +1,4 @@
-// ui_config_mgr on a platform that records every call and can fail any of them.
+// ui_config_mgr on a platform that records every call and can let a call fail.
 
 #include <fittings/config/ui_config_mgr.h>
 

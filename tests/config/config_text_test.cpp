@@ -100,7 +100,7 @@ TEST(WriteConfigString, ReplacesOneValueAndKeepsTheOthers)
     EXPECT_EQ(ui_config_mgr::GetConfigString(L"a.ini", L"two", L"k"), L"3");
 }
 
-// The default store keeps a lock file beside its file; named files have none.
+// The default store keeps a lock file beside its file. ui_config_mgr makes no lock file beside its files.
 TEST(WriteConfigString, TakesNoLock)
 {
     const TempUserData data;

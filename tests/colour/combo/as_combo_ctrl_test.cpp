@@ -178,7 +178,8 @@ TEST_P(AsComboCtrl, DoesNotTellOfTheNameOfAColourThatIsNotChosen)
     EXPECT_EQ(on.popup->GetStringValue(), "Red");
     Press(WXK_ESCAPE);
     ExpectClosed();
-    // A cancel restores the value that the combo had when the popup opened. A text field reports this.
+    // Escape gives the combo back the value that it had when the popup opened. A combo with a text field sends a text
+    // event for this.
     EXPECT_EQ(log.Take(),
               hasField ? (Notes{"dropdown", "popup", "cancel", "text Lime"}) : (Notes{"dropdown", "popup", "cancel"}));
     EXPECT_EQ(combo.GetValue(), "Lime");

@@ -31,7 +31,7 @@ TEST(ColourComboCreate, TakesAllThatTheToolkitsTakes)
 }
 
 // wxColourCombo and wxColourPopup have no class information of their own: GetClassInfo() returns that of wxComboCtrl
-// and of wxWindow.
+// for the combo, and that of wxWindow for the popup.
 TEST(ColourComboClass, IsTheToolkits)
 {
     const ComboOnScreen<> on;

@@ -209,7 +209,7 @@ TEST_P(ColourComboByKeys, IsReachedByTheMnemonicOfItsLabel)
     EXPECT_TRUE(PumpUntil([&] { return before->HasFocus(); }));
     Press('L', wxMOD_ALT);
     EXPECT_TRUE(PumpUntil([&] { return ContainsFocus(*combo); }));
-    // In this tab order, the toolkit gives the focus to the control itself.
+    // Put both buttons before the label in the tab order. The mnemonic must still lead to the combo.
     after->MoveBeforeInTabOrder(before);
     after->SetFocus();
     EXPECT_TRUE(PumpUntil([&] { return after->HasFocus(); }));

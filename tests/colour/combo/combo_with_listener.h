@@ -6,7 +6,8 @@
 #include <tests/colour/colour_listener.h>
 #include <tests/colour/combo/combo_on_screen.h>
 
-/// A combo on the screen that shows a colour. Its popup opens without animation. Its listener has no recorded calls.
+/// A combo on the screen that shows a colour, and its listener. The popup opens without animation. The listener records
+/// the calls after the construction.
 class ComboWithListener
 {
 protected:

@@ -23,7 +23,8 @@ public:
         EXPECT_TRUE(Waits("combo ")) << "does not start";
     }
 
-    /// Waits for at least @a count lines that begin with @a start. Otherwise fails the test and returns false.
+    /// Waits for at least @a count lines that begin with @a start. If they do not come in time, or the program ends
+    /// without them, fails the test and returns false.
     bool Waits(const std::string& start, int count = 1)
     {
         const bool came = Becomes([&] { return !m_child.IsRunning() || Lines(start).size() >= std::size_t(count); }) &&

@@ -226,7 +226,7 @@ TEST_F(ColourEnding, LeavesTheColourOfTheHotCellToAPopupWithoutListener)
     on.popup->m_crColour = *wxRED;
     on.popup->OnDismiss();
     EXPECT_EQ(on.popup->m_crColour, *wxRED);
-    // While no cell is hot, a later Enter chooses the colour in effect, not that of the dismissed cell.
+    // Opening the popup again sets m_crColour to the colour in effect. A choice without a hot cell then keeps blue.
     Open();
     on.popup->EndSelection(true);
     EXPECT_EQ(on.popup->m_crInitialColour, *wxBLUE);

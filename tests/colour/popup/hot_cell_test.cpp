@@ -35,8 +35,8 @@ TEST(ColourHotCell, BringsItsColour)
     EXPECT_EQ(popup->m_crInitialColour, *wxBLUE);
 }
 
-// A new hot cell does not change the chosen cell. A popup chooses "Automatic" at first, because its initial colour is
-// black, the colour of "Automatic".
+// A new hot cell does not change the chosen cell. At first, the chosen cell is "Automatic", because its colour and the
+// initial colour are both black.
 TEST(ColourHotCell, IsNotTheChosenOneYet)
 {
     const PopupInFrame popup;

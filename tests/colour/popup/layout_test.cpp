@@ -245,7 +245,7 @@ class ColourMargin : public testing::TestWithParam<Edge>
 {
 };
 
-// If the margin is wide, the cells are larger, so that at least seven pixels remain for the colour of a cell.
+// The side of a cell is 18 pixels, but at least seven pixels more than two margins.
 TEST_P(ColourMargin, IsTheSystemsEdge)
 {
     const PinnedEdge edge(GetParam().reported);

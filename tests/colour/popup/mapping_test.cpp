@@ -144,7 +144,7 @@ TEST(ColourIndex, IsNoneBeforeThereAreRows)
     EXPECT_EQ(popup.GetIndex(0, 0), -1);
 }
 
-// One coordinate is enough to name a box. If the two coordinates name different boxes, the lower box wins.
+// One coordinate is enough to name a box. If the two coordinates name different boxes, the result is "More Colours...".
 TEST(ColourIndex, IsTheBoxThatEitherCoordinateNames)
 {
     const PopupInFrame popup;
@@ -170,7 +170,7 @@ TEST(ColourIndex, IsNoneBesideAPartialLastRow)
 class ChosenCell : public testing::Test
 {
 protected:
-    // Makes @a before the chosen cell, calls FindCellFromColour(), and returns the chosen cell.
+    // Sets the chosen cell to @a before, calls FindCellFromColour(), and returns the cell that is chosen then.
     int For(const wxColour& colour, int before = CELL_NONE)
     {
         popup->m_nChosenColourSel = before;

@@ -123,7 +123,7 @@ TEST_F(ColourPixels, OfTheGrid)
     EXPECT_EQ(picture.At(11, 29), wxColour(139, 0, 0));
 }
 
-// The text is a blank, so the box shows only its face.
+// The texts are blanks, so no letters are drawn in the boxes.
 TEST_F(ColourPixels, OfTheBoxes)
 {
     popup->m_strAutomatic = " ";

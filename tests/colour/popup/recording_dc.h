@@ -19,6 +19,7 @@ using Calls = std::vector<std::string>;
 ///   rect 2,2 18x18 FACE FACE           position, size, colour of the outline and of the inside
 ///   line 3,3-3,18 DARK                 from one point to the other, colour
 ///   text 'Automatic' 10,5 transparent  position, background mode
+///   text colour DARK                   the colour of the texts is set
 ///
 /// A colour is followed by "unusual" if the pen is not solid or not one pixel wide, or if the brush is not solid. Text
 /// has the size that the test sets.

@@ -1,4 +1,4 @@
-// When the values of windows are saved, and how often that calls fsync().
+// When the values of windows are saved, and how often saving them calls fsync().
 
 #include <gtest/gtest.h>
 #include <sys/syscall.h>

@@ -26,7 +26,7 @@ inline void StoreValue(const std::wstring& kind, const wchar_t* key, const std::
     CLocalRegStore::WriteString(StoredSection(kind).c_str(), key, text.c_str());
 }
 
-/// Returns the value that the file on the disk contains for this key of the object "w".
+/// Returns the value that the default store has for this key of the object "w", or "(none)".
 inline std::wstring StoredValue(const std::wstring& kind, const wchar_t* key)
 {
     return Stored(StoredSection(kind).c_str(), key);
