@@ -39,7 +39,7 @@ public:
         }
     }
 
-    /// Returns the median of the benchmark @a name; 0 when the benchmark was not run.
+    /// Returns the median of the benchmark @a name; 0 if there is none.
     double Of(const std::string& name) const
     {
         const auto found = m_ns.find(name);

@@ -1,7 +1,7 @@
 #ifndef FITTINGS_BENCH_BUDGETS_H_
 #define FITTINGS_BENCH_BUDGETS_H_
 
-/// A row of the table. It compares the benchmark @a row with the benchmark "<row>/peer", which @a peer describes.
+/// A row of the table. It compares the benchmark @a row with its peer, which @a peer describes.
 struct Budget
 {
     const char* row;

@@ -1,4 +1,4 @@
-// Adding up a folder in the gallery's worker, compared with the command du, both with a warm cache.
+// Adding up the sizes in a folder by the gallery's worker, compared with the command du, both with a warm cache.
 
 #include <benchmark/benchmark.h>
 

@@ -86,8 +86,8 @@ private:
     const int m_count;
 };
 
-// Measures an event from the worker to the end of its handler. All events are posted before the first is delivered.
-// Otherwise the toolkit's locks decide by chance how often one thread waits for the other.
+// Measures a worker that posts @a count events, and then the handling of these events. The worker posts all events
+// before the first is handled. Otherwise chance would decide how often the two threads wait for each other's locks.
 template <typename Worker>
 void Post(benchmark::State& state, int count)
 {
