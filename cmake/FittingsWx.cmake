@@ -4,8 +4,8 @@
 # fittings-config.cmake.
 
 # fittings_import_wx(target component...): defines the imported target for these components of the toolkit, if they are
-# found. The host may have found other components before. This is a function and not a macro, so that it does not change
-# the host's wxWidgets_... variables.
+# found. This is a function and not a macro, so that it does not change the host's wxWidgets_... variables: the host may
+# have set them by a search for other components.
 function(fittings_import_wx target)
   if(TARGET ${target})
     return()
@@ -16,7 +16,7 @@ function(fittings_import_wx target)
   endif()
   # The targets are global, because a host that uses add_subdirectory() links to the library from its own folders.
   add_library(${target} INTERFACE IMPORTED GLOBAL)
-  # Do not use the finder's compiler flags: they repeat -pthread, and the directories and definitions contain the rest.
+  # Do not use wxWidgets_CXX_FLAGS: apart from -pthread, they only repeat the directories and definitions.
   target_include_directories(${target} SYSTEM INTERFACE ${wxWidgets_INCLUDE_DIRS})
   target_compile_definitions(${target} INTERFACE ${wxWidgets_DEFINITIONS})
   target_compile_options(${target} INTERFACE -pthread)
