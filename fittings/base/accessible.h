@@ -12,11 +12,11 @@ enum class AccessibleRole { ComboBox, Grid, Text, Tree };
 /// every idle event.
 ///
 /// @a value, the current choice, becomes the accessible name, as for GTK's own combo boxes. @a label becomes the
-/// description. If @a value is empty, @a label becomes the name, and the description is not set.
+/// description. If @a value is empty, @a label becomes the name. If either is empty, the description does not change.
 void Describe(wxWindow& window, AccessibleRole role, const wxString& label, const wxString& value);
 
-/// Makes the static texts that label a window, and their mnemonics, point to the part of the window that takes the
-/// focus. The toolkit makes them point to the window itself each time the Tab order changes, so call this again then.
+/// Makes the static texts that label @a window, and their mnemonics, lead to @a part, the part of the window that takes
+/// the focus. When the Tab order changes, the toolkit makes them lead to the window itself. Call this again then.
 void LabelPart(wxWindow& window, wxWindow& part);
 
 }  // namespace fittings
