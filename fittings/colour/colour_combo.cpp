@@ -50,7 +50,8 @@ wxEND_EVENT_TABLE()
 
 wxColourCombo::wxColourCombo() : m_clicks(std::make_unique<fittings::ClickWatch>(*this, [this] { DismissOpening(); }))
 {
-    // Drop keys during the animation: they belong to the opening popup and must not close a dialog around it.
+    // Drop keys during the animation. They belong to the opening popup, and must not close the dialog that contains the
+    // control.
     Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) { event.Skip(!m_animTimer.IsRunning()); });
 }
 

@@ -60,9 +60,9 @@ class OutlineWindow;
 ///
 /// Where a program cannot place its windows or copy the screen, as on Wayland, the popup opens without an animation.
 /// Closing the popup while the animation runs ends the animation and shows the popup. The listener and the events
-/// report an end only when the popup closes again. A click on another window of the program, or in the text field, also
-/// ends the animation, and dismisses the popup as soon as it is shown. Keys have no effect during the animation.
-/// wxComboCtrl::EnablePopupAnimation() turns the animation off.
+/// report an end only when the popup closes again. A click outside the control, or in its text field, also ends the
+/// animation, and dismisses the popup as soon as it is shown. Keys have no effect during the animation.
+/// EnablePopupAnimation(false) turns the animation off.
 ///
 /// wxEVT_COMBOBOX_DROPDOWN is sent when the popup opens. wxEVT_COMBOBOX_CLOSEUP is sent when the popup is dismissed
 /// from outside, but not when the popup closes itself because a colour was chosen or the selection was cancelled. The
@@ -118,8 +118,8 @@ public:
     /// nothing for an invalid colour and while there is no wxColourPopup.
     bool SetColour(const wxColour& colour);
 
-    /// Sets the colour that "Automatic" stands for; black at first. If that colour is the one in effect, "Automatic"
-    /// becomes marked. The colour in effect does not change.
+    /// Sets the colour that "Automatic" stands for; black at first. Marks "Automatic" if that colour is the one in
+    /// effect, and otherwise removes the mark. The colour in effect does not change.
     ///
     /// Returns false and changes nothing for an invalid colour and while there is no wxColourPopup.
     bool SetAutomaticColour(const wxColour& colour);
@@ -134,7 +134,7 @@ public:
     /// Sends wxEVT_COMBOBOX_DROPDOWN and opens the popup. Does nothing during the animation.
     void Popup() override;
 
-    /// Opens the popup. Without a popup, asserts and does nothing.
+    /// Opens the popup. Does nothing during the animation. Without a popup, asserts and does nothing.
     void ShowPopup() override;
 
     /// Closes the popup. A popup that is still opening is shown anyway.
@@ -148,12 +148,14 @@ public:
     void OnInternalIdle() override;
 
     /// Makes one step of the animation; the last step shows the popup. The event is not used. The control calls this
-    /// only for the ticks of the animation's timer. The host's handlers receive these ticks too.
+    /// when the animation starts, and at each tick of the animation's timer. The host's handlers receive these ticks
+    /// too.
     void OnTimerEvent(wxTimerEvent& event);
 
 protected:
-    /// Starts the animation, whose last step shows the popup, and returns false. Returns true and starts no animation
-    /// if @a rect is empty or the program cannot draw on the screen. @a rect is in screen coordinates.
+    /// Starts the animation, whose last step shows the popup, and returns false. If @a rect is empty or the program
+    /// cannot draw on the screen, starts no animation and returns true: the toolkit then shows the popup. @a rect is in
+    /// screen coordinates.
     bool AnimateShow(const wxRect& rect, int flags) override;
 
     /// Takes ownership of @a popup. If the earlier popup is still opening, it is dismissed first.
@@ -166,8 +168,8 @@ protected:
     /// the focus, because the face shows only the colour.
     void DrawButton(wxDC& dc, const wxRect& rect, int flags) override;
 
-    /// Returns the outline after @a elapsed milliseconds, from 0 to m_animDuration, in screen coordinates. The outline
-    /// grows in 256 steps.
+    /// Returns the outline after @a elapsed milliseconds, from 0 to m_animDuration, in screen coordinates. Its width is
+    /// a multiple of 1/256 of the popup's width, rounded down to pixels.
     wxRect OutlineAt(int elapsed) const;
 
     wxLongLong m_animStart;    ///< When the animation began, in milliseconds of local time.

@@ -43,8 +43,8 @@ wxSize TextExtent(wxDC& dc, const wxString& text)
     return text.empty() ? wxSize(0, 0) : dc.GetTextExtent(text);
 }
 
-// Returns the place for the popup: moved left until the popup fits on the screen, and above the control if there is no
-// room below.
+// Returns the place for the popup: @a at, moved left or right until the popup is on the screen, and moved above the
+// control if there is no room below.
 wxPoint FitToScreen(wxPoint at, const wxSize& size, const wxWindow& parent)
 {
     int screenWidth = 0;
@@ -255,8 +255,8 @@ void wxColourPopup::SetStringValue(const wxString& value)
     for (int i = 0; i < fittings::kColourCount; ++i) {
         const wchar_t* const name = GetColourName(i);
         if (name && value == name) {
-            // Change nothing when a combo that dismisses its popup passes the name of the hot cell: that cell is
-            // already current.
+            // Change nothing when a combo that dismisses its popup passes the name of the hot cell: that cell is hot
+            // already.
             if (i != m_nCurrentSel || !m_valueWhenShown || m_crColour != GetColour(i))
                 ChangeSelection(i);
             // While a combo opens its popup, it passes its text to this function. The pointer may be over another cell
@@ -293,7 +293,7 @@ void wxColourPopup::SetWindowSize(const wxRect& rect)
     const int margin = m_nMargin;
     m_nNumRows = (m_nNumColours + m_nNumColumns - 1) / m_nNumColumns;
     const wxSize text = MeasureTexts();
-    // The popup is as wide as the grid or the wider of the two texts, whichever is wider.
+    // The popup is as wide as the widest of three: the grid and the two boxes with their texts.
     const int width = std::max(m_nNumColumns * m_nBoxSize + 2 * margin, text.x);
     int height = m_nNumRows * m_nBoxSize + 2 * margin;
     m_rectAutomatic = {};

@@ -53,7 +53,7 @@ public:
 /// under the pointer or reached by the keyboard. The *chosen* cell is the cell of the colour in effect.
 ///
 /// The texts are in the language that is set when the popup is made. The names of the colours are in the language that
-/// is set when the first popup of the process is made.
+/// was set at the first call of GetColourTable(). The first popup of the process makes this call at the latest.
 ///
 /// While the popup is open, it handles its keys before a dialog can: Escape closes the popup and not the dialog.
 ///
@@ -67,8 +67,8 @@ public:
     /// @name Settings
     /// @{
 
-    /// Sets the colour in effect, which the combo's face and the "More Colours..." cell show. Black at first. An
-    /// invalid colour asserts and changes nothing.
+    /// Sets the colour in effect. The combo's face shows it, and the dialog of "More Colours..." starts with it. Black
+    /// at first. An invalid colour asserts and changes nothing.
     ///
     /// The function redraws the combo, but changes neither its value nor the chosen cell. Call it before
     /// wxComboCtrl::SetPopupControl(): when the window is created, the popup marks "Automatic" if @a colour is the
@@ -144,13 +144,14 @@ public:
     void FindCellFromColour(const wxColour& colour);
 
     /// Returns the text of the hot cell; empty when no cell is hot. While the popup closes after a cancelled selection,
-    /// or after one whose colour SetColour() has replaced, the result is the combo's value.
+    /// or after one whose colour SetColour() has replaced, the result is the value that the combo gets back.
     wxString GetStringValue() const override;
 
     /// Makes the cell with the name @a value hot. The language and the letter case must be those of the table. Any
     /// other text changes nothing, and neither does the text of a box. The name of the hot cell changes nothing while
     /// the popup is open. No name changes anything while the popup hides itself, because the combo then passes back a
-    /// value that the user did not choose.
+    /// value that the user did not choose, nor while the popup notifies the listener and the event handlers of the end
+    /// of the selection.
     ///
     /// A value that the host sets while the popup is open stays the combo's value if the user chooses nothing.
     void SetStringValue(const wxString& value) override;
@@ -211,8 +212,8 @@ public:
     /// removes the name at the pointer, and notifies the listener.
     void OnPopup() override;
 
-    /// Called when the combo hides the popup. Unless the popup hides itself, notifies the listener that nothing was
-    /// chosen, and the combo sends its event.
+    /// Called when the combo hides the popup. Notifies the listener that nothing was chosen, and has the combo send its
+    /// event. Does nothing if the popup hides itself or is just notifying the listener of the end of the selection.
     void OnDismiss() override;
 
     /// Makes a cell hot, redraws it and notifies the listener. An index above the number of the palette's cells counts
@@ -238,9 +239,10 @@ public:
 
     /// Makes the cell under the pointer hot. If there is none, the hot cell does not change.
     ///
-    /// The areas that react to the pointer differ from the drawn ones. The areas of the boxes lie one margin lower and
-    /// further right. The palette below an "Automatic" box lies one margin higher, so the lowest pixels of a cell
-    /// belong to the cell below.
+    /// The areas that react to the pointer differ from the drawn ones. The areas of the boxes lie one margin further
+    /// right. The area of "Automatic" lies one margin lower, and that of "More Colours..." one margin higher. Below an
+    /// "Automatic" box, the areas of the palette lie one margin higher, so the lowest pixels of a cell belong to the
+    /// cell below.
     void OnMouseMove(wxMouseEvent& event);
 
     /// Ends the selection. Anywhere within the popup, even between the cells, the colour of the hot cell is chosen.
@@ -249,8 +251,10 @@ public:
 
     /// The arrow keys move the hot cell, Enter and the space bar choose it, and Escape cancels. Other keys are skipped.
     ///
-    /// The cells form a circle: "Automatic", the palette row by row, "More Colours...". While no cell is hot, Down and
-    /// Right begin with "More Colours...", and Up and Left with "Automatic".
+    /// Left and Right move in a circle: "Automatic", the palette row by row, "More Colours...". On a box, Up and Down
+    /// move in the same circle. On the palette, they move within a column: Up from the first row leads to "Automatic",
+    /// and Down from the last row to "More Colours...". While no cell is hot, Down and Right begin with "More
+    /// Colours...", and Up and Left with "Automatic".
     void OnKeyDown(wxKeyEvent& event);
 
     /// Handles a key of the combo while the popup is closed and the combo has the focus. With wxCB_READONLY, Up chooses
@@ -263,7 +267,7 @@ public:
 protected:
     wxString m_strMoreColours;          ///< The text of the lower box.
     wxString m_strAutomatic;            ///< The text of the upper box.
-    wxPalette m_palette;                ///< The table's colours, selected for drawing cells.
+    wxPalette m_palette;                ///< The palette's colours, selected for drawing cells.
     wxRect m_rectMoreColours;           ///< The lower box.
     wxRect m_rectAutomatic;             ///< The upper box.
     wxRect m_rectWindow;                ///< The popup itself.

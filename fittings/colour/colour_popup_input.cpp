@@ -395,7 +395,9 @@ void wxColourPopup::OnComboKeyEvent(wxKeyEvent& event)
 }
 
 // Returns the cell after the chosen one if @a step is above 0, otherwise the cell before it. The order is "Automatic",
-// then the grid row by row, without "More Colours...". Returns CELL_NONE before the first and after the last.
+// then the grid row by row. Returns CELL_NONE before the first cell and after the last one. "More Colours..." is never
+// the result: as the chosen cell, it counts as a cell after the last one. If no cell is chosen, returns the first cell
+// or the last one.
 int wxColourPopup::CellBeside(int step) const
 {
     const int automatic = GetIndex(CELL_AUTOMATIC, CELL_AUTOMATIC);
@@ -432,7 +434,7 @@ void wxColourPopup::ChooseClosed(int index)
     m_combo->Refresh();
 }
 
-// Returns the next hot cell. The cells form a circle: "Automatic", the grid row by row, "More Colours...".
+// Returns the cell that the arrow key @a key makes hot. OnKeyDown() describes the order of the cells.
 int wxColourPopup::CellTowards(int key) const
 {
     // GetIndex() returns CELL_NONE for an absent box.

@@ -41,7 +41,7 @@ public:
     bool Validate(wxWindow* parent) override;
 
     /// Shows the host's colour in the control, which sends no event. Returns false and changes nothing for an invalid
-    /// colour and for a control of another class.
+    /// colour, for a control of another class, and for a wxColourCombo without a wxColourPopup.
     bool TransferToWindow() override;
 
     /// Copies the control's colour to the host's variable. Returns false and changes nothing for a control of another

@@ -12,8 +12,8 @@ public:
     /// Makes a hidden window, which @a parent owns.
     explicit OutlineWindow(wxWindow* parent);
 
-    /// Shows the rectangle @a outline, a part of @a area, both in screen coordinates. An empty @a outline shows
-    /// nothing.
+    /// Shows the rectangle @a outline, a part of @a area, both in screen coordinates. Hides the window if @a outline is
+    /// empty.
     void ShowOutline(const wxRect& area, const wxRect& outline);
 };
 
