@@ -17,8 +17,8 @@ constexpr std::size_t kLongest = 1'000'000;
 constexpr int kMostParts = 2000;
 
 // The toolkit searches every row of every layer several times for each dock. The number of steps is the number of
-// layers times the number of rows times the number of panes and docks together. More steps than these would take too
-// long, and so would a larger number of a layer or row.
+// layers times the number of rows times the number of panes and docks together. More than kMostSteps steps would take
+// too long, and so would a layer or row with a number above kMostRows.
 constexpr std::int64_t kMostSteps = 10'000'000;
 constexpr std::int64_t kMostRows = 10'000;
 
@@ -59,7 +59,7 @@ public:
         return taken;
     }
 
-    /// Takes a number as printf's "%d" writes it.
+    /// Takes a number from @a least to @a most. It must look as printf writes an integer: no "+", no needless zero.
     std::int64_t TakeNumber(std::int64_t least, std::int64_t most)
     {
         const bool isNegative = IsBefore(L"-");
@@ -163,7 +163,8 @@ bool AreReadAtOnce(std::wstring_view texts)
 
 bool IsPane(std::wstring_view text, Sums& sums)
 {
-    // Only numbers follow this field, so the last match is the field, whatever the caption contains.
+    // Only fields with numbers follow the field "state". So the last match is that field, whatever the caption
+    // contains.
     const std::size_t numbers = text.rfind(L";state=");
     if (numbers == text.npos)
         return false;

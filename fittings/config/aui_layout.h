@@ -11,7 +11,7 @@ namespace fittings {
 /// False for a text that is cut off, lacks a field or has an invalid number. Also false for a text with which the
 /// toolkit would count rows for minutes or divide by zero.
 ///
-/// A caption with a ";" is accepted, although LoadPerspective() asserts on it and cuts the caption.
+/// A caption such as "a;b" is accepted, although LoadPerspective() asserts on its ";" and cuts the caption there.
 bool IsAuiLayout(std::wstring_view text);
 
 }  // namespace fittings

@@ -53,8 +53,8 @@ void FirstShowing::Watch(GtkWidget* widget)
     g_signal_connect(widget, "event-after", G_CALLBACK(&AfterEvent), this);
 }
 
-// Called while the toolkit asks for the decorations. Show the window only after this request, but before any answer is
-// read.
+// Called while the toolkit asks the window manager for the size of the decorations. Show the window after this request,
+// but before the toolkit reads the answer.
 void FirstShowing::OnRealize(GtkWidget* /*widget*/, FirstShowing* showing)
 {
     if (showing->m_window)

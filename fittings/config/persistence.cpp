@@ -96,8 +96,8 @@ public:
     /// they are saved when the window is destroyed.
     void SaveSoon(const wxPersistentObject& who)
     {
-        // Use the nearest window that has a record already, or else the outermost parent: a window that is being
-        // destroyed may be partly destroyed already.
+        // Use the nearest window that has a record already. If there is none, give a record to the outermost parent and
+        // not to the window itself, which may be partly destroyed by now.
         wxWindow* outermost = WindowOf(who);
         for (wxWindow* window = outermost; window; window = window->GetParent()) {
             outermost = window;
