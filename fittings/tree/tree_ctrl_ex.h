@@ -8,12 +8,12 @@
 
 /// The toolkit's tree control, with a few functions that take and return cursors.
 ///
-/// The functions of the base class with the same names remain available: wxTreeCtrl::GetSelection() for a constant
-/// control or by its qualified name, and AddRoot() with an image.
+/// The functions of the base class with the same names remain available. Call wxTreeCtrl::GetSelection() by this full
+/// name, or call GetSelection() on a constant control. AddRoot() with an image calls wxTreeCtrl::AddRoot().
 ///
 /// The toolkit's class information does not distinguish this class and wxHandyTreeCtrl from wxTreeCtrl: wxDynamicCast()
-/// to either of them would succeed for every tree control. Use dynamic_cast, or use wxDynamicCast() with a derived
-/// class of the host's own that has wxDECLARE_DYNAMIC_CLASS().
+/// to either of them would succeed for every tree control. Use dynamic_cast instead. wxDynamicCast() does work with a
+/// class of the host that is derived from one of them and has wxDECLARE_DYNAMIC_CLASS().
 ///
 /// GUI thread only.
 class FITTINGS_API wxTreeCtrlEx : public wxTreeCtrl

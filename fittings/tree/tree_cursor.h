@@ -81,7 +81,7 @@ public:
     /// Returns the label.
     std::wstring GetText() const;
 
-    /// Returns the index of an image in the tree's image list; -1 when the item has none of that kind.
+    /// Returns the index of the item's image for the state @a which in the tree's image list; -1 when there is none.
     int GetImage(wxTreeItemIcon which) const;
 
     /// Shows an image of the tree's image list, by its index.
@@ -98,7 +98,7 @@ public:
     /// Returns the integer of SetData(); -1 when the item has none, or data of another class.
     int GetData() const;
 
-    /// Shows or hides the expand button, even if the item has no children yet.
+    /// Shows or hides the expand button of an item that has no children yet. An item with children always shows it.
     void SetChildren(bool has);
 
     /// Appends a child without image and data, and returns it.
@@ -107,7 +107,7 @@ public:
     /// Shows the children, as wxTreeCtrl::Expand() does.
     void Expand();
 
-    /// Returns whether the item is expanded, even if its parent is collapsed.
+    /// Returns whether the item itself is expanded. Its parent may be collapsed.
     bool IsExpanded() const;
 
     /// Removes the item with all its children.

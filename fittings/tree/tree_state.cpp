@@ -53,8 +53,8 @@ private:
     struct VisitedItem
     {
         wxTreeItemId item;  // Invalid once it is deleted.
-        TreeChildren here;  // Where the item was among its siblings when it was found.
-        TreeChildren next;
+        TreeChildren here;  // The place before the item: a copy of the iterator that found it.
+        TreeChildren next;  // The place after the item.
     };
 
     void Visit()
@@ -150,8 +150,8 @@ struct Item
     bool isExpanded;
 };
 
-// Joins the labels of expanded items, each once, in ascending order. If several items have the same label, the last one
-// decides.
+// Joins the labels of the expanded items, each once, in ascending order. If several items have the same label, the text
+// contains the label only if the last of these items is expanded.
 std::wstring JoinExpanded(std::vector<Item> items)
 {
     const auto isBefore = [](const Item& a, const Item& b) { return a.label < b.label; };

@@ -24,8 +24,8 @@ bool wxColourComboXmlHandler::CanHandle(wxXmlNode* node)
 
 namespace {
 
-// Accepts the notations that wxColourPickerCtrl's handler accepts. The name of a colour is not one of them: it becomes
-// the field's text.
+// Returns whether the text is a colour such as "#FF0000" or "rgb(255, 0, 0)". Returns false for the name of a colour,
+// because a name becomes the field's text.
 bool IsColour(const wxString& value)
 {
     return (value.StartsWith("#") || value.StartsWith("rgb")) && wxColour(value).IsOk();

@@ -43,8 +43,8 @@ wxObject* wxHandyTreeCtrlXmlHandler::DoCreateResource()
     tree->Create(m_parentAsWindow, GetID(), GetPosition(), GetSize(),
                  GetStyle("style", wxTR_HAS_BUTTONS | wxTR_NO_LINES), wxDefaultValidator, GetName());
     std::unique_ptr<wxImageList> images(GetImageList());
-    // Without a size in the resource, the list has the size of its first bitmap. Without a bitmap either, make an empty
-    // list.
+    // The list has the size that the resource gives, or the size of its first bitmap. If it has no size, or if the
+    // resource has no list, make an empty list.
     if (images && images->GetSize() != wxSize(0, 0))
         tree->AssignImageList(images.release());
     else
