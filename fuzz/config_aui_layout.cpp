@@ -1,6 +1,6 @@
 // AUI layouts: every layout that the toolkit writes can be loaded. Other text is loaded, or leaves the panes unchanged.
-// No text causes an assertion of the toolkit, except one with a ";" in a caption: the toolkit asserts when it loads
-// such a text, even one that it has written.
+// No text causes an assertion of the toolkit, except a layout with a ";" in a caption. The toolkit can write such a
+// layout, but asserts when it loads the layout.
 
 #include <array>
 #include <cstdint>
@@ -88,8 +88,8 @@ std::wstring Damage(std::wstring layout, FuzzedDataProvider& bytes)
     return layout;
 }
 
-/// Returns whether the layout contains an escaped ";", as in a caption, or the "\b" by which the toolkit replaces it
-/// while loading. The toolkit writes a layout with an escaped ";", but asserts when it loads one.
+/// Returns whether the layout contains "\;" or the control character "\b". The toolkit asserts when it loads a layout
+/// with one of them: it writes the ";" of a caption as "\;", and replaces "\;" by "\b" while it loads.
 bool HasDelimiterInText(const std::wstring& layout)
 {
     return layout.find(L"\\;") != layout.npos || layout.find(L'\b') != layout.npos;

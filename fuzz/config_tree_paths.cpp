@@ -1,5 +1,5 @@
-// The paths that a persistent tree stores. Any text is read like a saved one or rejected. Restoring it causes no
-// assertion, and the text that is saved afterwards restores the same state in a tree with the same items.
+// The paths that a persistent tree stores: any text is either restored or rejected, without an assertion. The text that
+// the tree saves afterwards restores the same state in a tree with the same items.
 
 #include <cstdint>
 #include <numeric>
@@ -41,7 +41,7 @@ std::vector<Item> ConsumeItems(FuzzedDataProvider& bytes)
 }
 
 /// Returns a text for each item that is expanded or selected: its marks, followed by its full path. Leaves out the mark
-/// of the first visible item, which only a tree that is shown restores.
+/// for the first item in view: only a tree that is shown scrolls to that item.
 std::vector<std::wstring> Marked(const std::wstring& text)
 {
     std::vector<std::wstring> marked;

@@ -72,8 +72,7 @@ std::size_t DecimalsOf(const std::wstring& number, wchar_t point)
     return end - at - 1;
 }
 
-// Checks the fields of the format that change the number. The point must not be a character that another part of a
-// number can have.
+// Checks the fields of the format that change the number. IsPlainPoint() must accept the point of the format.
 void CheckNumber(const std::wstring& number, const NumberInput& input, const std::wstring& bare)
 {
     const CNumberFormat& format = input.format;
@@ -87,8 +86,8 @@ void CheckNumber(const std::wstring& number, const NumberInput& input, const std
         Check(shownDecimals <= decimals, "a rounded number has at most the given decimals");
     if (isPadded && !hasExponent)
         Check(shownDecimals >= std::min<std::uint64_t>(decimals, 1'000'000), "a padded number has all its decimals");
-    // Leave out two kinds of numbers that a second call may change. One kind has lost its plus sign, so its zeros are
-    // now trimmed. The other kind is rounded and ends in zeros.
+    // Leave out two kinds of numbers that a second call may change. "+07" becomes "07", and then "7". "1.96" may be
+    // rounded to "2.0", which then becomes "2".
     if (number[0] != L'+' && (!isRounded || (isPadded && !hasExponent)))
         Check(Show(bare, Bare(format)) == bare, "a second call changes nothing");
 

@@ -1,4 +1,4 @@
-// ValidateString(): accepts exactly what the automaton of its grammar accepts and the bounds allow.
+// ValidateString() accepts a text exactly if HasShape() accepts it and its value is within the bounds.
 
 #include <algorithm>
 
@@ -22,7 +22,7 @@ NumberShape ShapeOf(const CNumberFormat& format, wchar_t localePoint)
     return shape;
 }
 
-// Returns whether the bounds accept the value. A bound that is NaN refuses no number, and no bound refuses NaN.
+// Returns whether the bounds accept the value. A bound that is NaN accepts every value, and every bound accepts NaN.
 bool IsWithinBounds(double value, const CNumberFormat& format)
 {
     const bool isTooSmall = format.m_bHasMin && value < format.m_dMin;

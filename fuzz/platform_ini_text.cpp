@@ -1,5 +1,5 @@
-// The grammar of INI files: our reader finds every section and key that GKeyFile finds under a name as the library
-// writes it, and both read the same values.
+// The grammar of INI files: IniText finds every section and key that GKeyFile finds, if IsOwnName() accepts the name.
+// IniText and GKeyFile read the same values.
 
 #include <cstdint>
 #include <memory>
@@ -39,8 +39,8 @@ std::vector<std::string> Taken(gchar** names)
     return taken;
 }
 
-// Returns whether the name is spelled as the library writes it. Other spellings are not compared: of two spellings of
-// one name, the library finds only one.
+// Returns whether the name is spelled as the library writes it. Names with other spellings are not looked up: if a file
+// has two spellings of one name, the library finds only one of them.
 bool IsOwnName(const std::string& name)
 {
     return fittings::EncodeName(fittings::DecodeName(name)) == name;

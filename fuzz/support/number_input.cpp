@@ -55,8 +55,8 @@ std::uint64_t ConsumeCount(FuzzedDataProvider& bytes)
 {
     constexpr std::uint64_t kHuge[] = {0xFFFF'FFFF'FFFF'FFFF, 0xFFFF'FFFF, 0x8000'0000'0000'0000};
     const auto count = bytes.ConsumeIntegral<std::uint8_t>();
-    // Only three bytes give a huge count, which is slow because up to a million zeros are added. The highest byte gives
-    // a small count, because fuzzers often try it.
+    // Only three of the 256 values of the byte give a huge count. A huge count is slow, because up to a million zeros
+    // are added. The value 0xFF gives a small count, because fuzzers often try 0xFF.
     const unsigned huge = count - 0xA5U;
     return huge < std::size(kHuge) ? kHuge[huge] : count % 10;
 }

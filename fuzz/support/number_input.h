@@ -14,7 +14,7 @@
 /// Therefore a text file is a good first input.
 struct NumberInput
 {
-    /// Makes the format and the text from the bytes, and sets the locale that the bytes name.
+    /// Makes the format and the text from the bytes, and sets the locale that the bytes choose.
     NumberInput(const std::uint8_t* data, std::size_t size);
 
     /// Returns the text up to its first null character.

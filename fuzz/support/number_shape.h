@@ -17,12 +17,11 @@ struct NumberShape
     std::uint64_t maxDecimals = std::numeric_limits<std::uint64_t>::max();
 };
 
-/// Returns whether @a text is a number of that shape, or the beginning of one. The automaton accepts `[+-]? [0-9]* (P
-/// [0-9]*)?` and, after at least one digit or point, `[eE]? [+-]? [0-9]*`.
+/// Returns whether @a text is a number of that shape, or the beginning of one. A number with all parts is `[+-]? [0-9]*
+/// (P [0-9]*)?`, in which P is the point. After a digit or the point, `[eE]? [+-]? [0-9]*` may follow.
 bool HasShape(const std::wstring& text, const NumberShape& shape);
 
-/// Returns false if the character that serves as the point is also another part of a number, a blank or the end of the
-/// text.
+/// Returns false if @a point is a digit, a sign, an exponent letter, a blank or the null character.
 bool IsPlainPoint(wchar_t point);
 
 /// Returns the text without the blanks at both ends.
