@@ -162,7 +162,7 @@ bool GalleryFrame::ShowsBrowser() const
     return m_pages->GetCurrentPage() == m_browser;
 }
 
-/// Selects a page and restores the focus in it; a negative index changes nothing.
+/// Selects a page and restores the focus in it. A negative index, or the index of the selected page, changes nothing.
 void GalleryFrame::ShowPage(int index)
 {
     if (index < 0 || index == m_pages->GetSelection())

@@ -354,7 +354,7 @@ void BrowserPage::OpenRoot(const std::string& path)
     RememberRoot();
     const std::string selected = browser_settings::LoadSelectedFolder(path);
     {
-        // Handle no selection on the way: only the folder that is selected last is shown.
+        // Block the selection events: ShowFolder() below shows the folder that is selected in the end.
         const wxEventBlocker noSelection(m_tree, wxEVT_TREE_SEL_CHANGED);
         m_tree->SetRootFolder(path);
         if (selected.empty())

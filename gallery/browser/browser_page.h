@@ -21,8 +21,8 @@ class SizeFilter;
 class SizesRow;
 struct SizeNews;
 
-/// Sent by a BrowserPage when the folder, the selected entry or the set of shown panes changes. The event propagates to
-/// the window, which shows the change.
+/// Sent by a BrowserPage when the folder, its sizes, the filter, the selected entry or the set of shown panes changes.
+/// The event propagates to the window, which shows the change.
 wxDECLARE_EVENT(EVT_BROWSER_CHANGED, wxCommandEvent);
 
 /// The disk-usage browser: folders to the left, the contents of the selected one to the right.
@@ -35,8 +35,8 @@ public:
     explicit BrowserPage(wxWindow* parent);
     ~BrowserPage() override;
 
-    /// Opens @a folder. If @a folder is empty or not a folder, opens the folder of the last session, or the home folder
-    /// in the first session.
+    /// Opens @a folder. If @a folder is empty or not a folder, opens the folder of the last session. If there is no
+    /// such folder, opens the home folder.
     ///
     /// If @a folder is neither empty nor a folder, the page shows the reason, and the function returns it.
     wxString Start(const std::string& folder);

@@ -13,7 +13,7 @@ namespace gallery {
 /// What the browser remembers about folders.
 namespace browser_settings {
 
-/// Returns the roots of earlier sessions, the latest first.
+/// Returns the root folders that SaveRootFolder() has stored, the latest first.
 std::vector<std::string> LoadRootFolders();
 
 /// Stores a root as the latest one. Only the settings of the latest 50 roots are kept: if there are more, forgets the
@@ -28,7 +28,7 @@ void SaveSelectedFolder(const std::string& root, const std::string& path);
 wxColour LoadFolderColour(const std::string& path);
 void SaveFolderColour(const std::string& path, const wxColour& colour);
 
-/// @name Settings of an earlier version, which kept the columns here
+/// @name The order and the widths of the columns, as an earlier version stored them
 /// @{
 SortOrder LoadEarlierSortOrder();
 

@@ -165,7 +165,7 @@ private:
     std::vector<std::uint32_t> m_sorted;
     std::vector<std::uint32_t> m_positions;  ///< The elements of m_sorted that are shown.
     std::uint64_t m_minimum = 0;
-    std::unordered_map<std::string_view, std::size_t> m_folders;  ///< Indices of m_entries by name; made when needed.
+    std::unordered_map<std::string_view, std::size_t> m_folders;  ///< Names to indices of m_entries; made when needed.
     wxBitmapBundle m_folder, m_file, m_program, m_link;
 };
 

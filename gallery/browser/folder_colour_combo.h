@@ -8,8 +8,8 @@
 
 namespace gallery {
 
-/// Asks for the colour of a folder. "Automatic" means that the folder has no colour of its own, which is an invalid
-/// colour here.
+/// Asks for the colour of a folder. "Automatic" means that the folder has no colour of its own. The colour is then
+/// invalid, also in the calls of the handlers.
 class FolderColourCombo : public wxColourCombo, private wxColorPopupListener
 {
 public:

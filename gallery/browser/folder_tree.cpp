@@ -17,13 +17,13 @@ namespace gallery {
 
 namespace {
 
-/// Returns an image in the resolution of the screen of @a window.
+/// Returns an image in the resolution of the screen that shows @a window.
 wxBitmap Icon(const wxArtID& id, const wxWindow* window)
 {
     return wxArtProvider::GetBitmapBundle(id, wxART_OTHER, wxSize(16, 16)).GetBitmapFor(window);
 }
 
-/// Returns the parent folder. For the root folder, returns the root folder.
+/// Returns the parent folder. For "/", returns "/".
 std::string ParentPath(const std::string& path)
 {
     const std::size_t slash = path.rfind('/');

@@ -9,7 +9,7 @@ class wxWindow;
 
 namespace gallery {
 
-/// The options of a colour combo and its popup, with the library's defaults.
+/// The options of a colour combo and its popup, with their values in a first session.
 struct ColourOptions
 {
     bool hasAutomatic = true;

@@ -24,7 +24,8 @@ wxString DisplayText(const std::string& bytes)
 
 std::wstring TextFromPath(const std::string& path)
 {
-    // Besides letters, digits and "-._~", the rest of printable ASCII stays as it is, except "%" and "|".
+    // g_uri_escape_string() always keeps letters, digits and "-._~". Keep the rest of printable ASCII too, except "%"
+    // and "|".
     static constexpr char kKept[] = " !\"#$&'()*+,/:;<=>?@[\\]^`{}";
     g_autofree gchar* text = g_uri_escape_string(path.c_str(), kKept, TRUE);
     return file_util_ex::ConvertFromUTF8W(text);

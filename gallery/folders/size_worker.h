@@ -23,8 +23,8 @@ struct SizeNews
 
 /// Adds up a folder and everything below it in the background.
 ///
-/// Its events contain no results. They only report that TakeNews() has new ones, so a lost event loses no result. At
-/// most one event is in the queue.
+/// Its events contain no results. An event only reports that TakeNews() has new results. No further event is sent until
+/// TakeNews() is called.
 class SizeWorker : public wxGUIThreadEx, private SizeObserver
 {
 public:
@@ -51,7 +51,7 @@ private:
 
     wxMutex m_newsMutex;  ///< Guards the members below.
     SizeNews m_news;
-    bool m_told = false;  ///< True while an event is in the queue.
+    bool m_told = false;  ///< True from an event to the next TakeNews().
 };
 
 }  // namespace gallery
