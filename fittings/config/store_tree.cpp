@@ -72,7 +72,7 @@ StorePath FollowedPath(const StorePath& current, std::wstring_view text)
         }
     }
     if (leavesRoot) {
-        // Let the toolkit report the error.
+        // The text leads above the root. Let the toolkit report this error.
         wxArrayString ignored;
         wxSplitPath(ignored, kSeparator + SectionOf(current) + kSeparator + wxString(std::wstring(whole)));
     }

@@ -12,8 +12,8 @@ namespace {
 /// A stored geometry with a width or height up to this is not applied.
 constexpr int kTooSmall = 10;
 
-/// The largest coordinate or size on an X display, where these numbers have 16 bits. Sums of larger numbers could
-/// overflow.
+/// The largest coordinate or size on an X display, where these numbers have 16 bits. Stored numbers are limited to
+/// this, so that sums of them do not overflow.
 constexpr long kFarthest = 32767;
 
 /// Returns the window's rectangle on the screen.

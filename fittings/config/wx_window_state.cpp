@@ -23,7 +23,8 @@ constexpr wchar_t kMaximizedSection[] = L"wxWindowMaximize";
 constexpr wchar_t kLayoutFile[] = L"wxAuiManagerState.ini";
 constexpr wchar_t kLayoutSection[] = L"wxAuiManagerState";
 
-/// If the reference is narrower than this, half of the window extends past the reference's right edge.
+/// If the reference of MoveWindowToRightCorner() is narrower than this, in pixels, half of the window extends past the
+/// reference's right edge.
 constexpr int kWideReference = 800;
 
 /// Reads "x;y;width;height" as scanf's "%d;%d;%d;%d" does: blanks before a number and any text after the last one are
@@ -44,8 +45,8 @@ std::optional<wxRect> ParseGeometry(const std::wstring& text)
     return wxRect(fields[0], fields[1], fields[2], fields[3]);
 }
 
-/// Maximises one frame when the event posted for it arrives, and then destroys itself. If the frame is destroyed first,
-/// the handler leaks.
+/// Post() makes a handler and posts an event to the frame. When the event arrives, the handler maximises the frame and
+/// deletes itself. If the frame is destroyed first, the handler leaks.
 class wxMaximizeEvtHandler : public wxEvtHandler
 {
 public:
