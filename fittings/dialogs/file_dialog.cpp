@@ -28,7 +28,7 @@ wxString EffectiveWildcard(const wxString& wildcard, const wxString& extension)
     return fittings::kWildcardPrefix + extension;
 }
 
-// Returns the index of the first filter of the wildcard whose pattern contains the extension; 0 when there is none.
+// Returns the index of the first filter whose pattern contains the extension; 0 when there is none.
 int FilterIndexOf(const wxString& wildcard, const wxString& extension)
 {
     if (extension.empty() || !wildcard.Contains("|"))
@@ -98,7 +98,8 @@ CStdStr<wchar_t> CQVFileDialogI::LaunchSaveDialog(wxWindow* parent, const wchar_
     wxString folder = *initialFolder ? initialFolder : fittings::LoadLastPath(g_regEntry.c_str());
     wxString fileName = fittings::OrEmpty(initialFileName);
     if (!folder.empty()) {
-        // If the folder has no separator at its end, its last part becomes the file name.
+        // What follows the last separator is not a folder. Without its extension, it becomes the file name, unless the
+        // caller has given one.
         wxFileName path;
         path.Assign(folder, wxPATH_NATIVE);
         if (fileName.empty())

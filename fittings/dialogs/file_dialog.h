@@ -24,7 +24,8 @@ class wxWindow;
 /// @endcode
 ///
 /// The full path of the chosen file is stored in UTF-8 in the default store, section "LastFiles", with the registry
-/// entry as the key. Each dialog reads the stored path again. A cancelled dialog does not change it.
+/// entry as the key. Nothing is cached: a dialog that needs the stored path reads it anew. A cancelled dialog does
+/// not change the stored path.
 ///
 /// Each text may be of any kind: see fittings::TextArgument.
 class FITTINGS_API CQVFileDialogI
@@ -60,8 +61,8 @@ public:
     ///     the folder does not exist or cannot be read, the dialog starts in the nearest folder above it that can be
     ///     read. Null asserts, and the result is empty.
     /// @param initialFileName  the proposed name. Null or empty: the file name that was taken from @a initialFolder, or
-    ///     the name of the remembered file if @a initialFolder is empty; without the extension. If the name has no
-    ///     extension, the toolkit adds that of the first pattern.
+    ///     the name of the remembered file if @a initialFolder is empty. The extension is dropped from either. If the
+    ///     proposed name has no extension, the toolkit adds that of the first pattern.
     ///
     /// A file whose path is not UTF-8 on disk cannot be chosen: the toolkit returns an empty path, as if the user had
     /// cancelled.

@@ -9,7 +9,7 @@
 
 class wxWindow;
 
-// The functions behind CQVFileDialogI, and the open dialog, which hosts cannot use. Private to the library.
+// The functions behind CQVFileDialogI, and a dialog that opens a file. Private to the library.
 
 namespace fittings {
 

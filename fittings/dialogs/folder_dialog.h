@@ -28,7 +28,8 @@ public:
     static wxString DoModal(wxWindow* parent, const wchar_t* initialFolder, const wchar_t* message);
 
     /// Does the same as DoModal(), but starts in the folder that was chosen last under @a section, and remembers the
-    /// new choice: in the default store, key "Path" of that section. A cancelled dialog does not change it.
+    /// new choice: in the default store, key "Path" of that section. A cancelled dialog does not change the
+    /// remembered folder.
     static wxString DoModalReg(wxWindow* parent, const wchar_t* section, const wchar_t* message);
 
     /// Does the same as the function for wide text.

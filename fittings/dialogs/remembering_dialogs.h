@@ -39,7 +39,7 @@ public:
                             long style = wxFD_DEFAULT_STYLE, const wxString& defaultName = wxString());
 
     /// Makes the dialog as wxFileDialog::Create() does, and reads what is remembered. Setters of the toolkit that are
-    /// called between this and ShowModal() take precedence.
+    /// called between Create() and ShowModal() take precedence.
     ///
     /// - Folder: the remembered one, or the nearest one above it that exists and can be read. If none is remembered,
     ///   the user's documents.
