@@ -24,8 +24,7 @@ struct Decimal
 
 constexpr std::int64_t kMostExponent = 100'000'000'000'000'000;
 
-/// Makes a number of @a digits, @a point of which stand before the decimal point. @a digits may begin or end with
-/// zeros.
+/// Makes the number 0.DIGITS times ten to the power of @a point. @a digits may begin or end with zeros.
 Decimal MakeDecimal(std::string_view digits, std::int64_t point, bool negative = false);
 
 /// Reads an optional sign, digits with an optional `.`, and an optional exponent. Returns nothing for any other text.
@@ -40,7 +39,7 @@ std::optional<double> DoubleOf(const Decimal& number);
 /// Returns the number as an integer; nothing if it has a fraction or does not fit.
 std::optional<std::int64_t> IntegerOf(const Decimal& number);
 
-/// Returns a value below 0, 0 or a value above 0 if @a left is less than, equal to or more than @a right.
+/// Returns 0 if the numbers are equal, a value below 0 if @a left is the smaller one, and otherwise a value above 0.
 int Compare(const Decimal& left, const Decimal& right);
 
 Decimal Negated(Decimal number);
@@ -51,7 +50,7 @@ std::optional<std::string> PlainText(const Decimal& number, std::int64_t decimal
 /// Returns the sum; nothing if the digits of the two numbers together span 100,000 places or more.
 std::optional<Decimal> Sum(const Decimal& left, const Decimal& right);
 
-/// Rounds a non-negative number up or down to @a decimals decimals. With -2, it rounds to hundreds.
+/// Rounds a non-negative number up or down to @a decimals decimals. With -2 decimals, it is rounded to hundreds.
 /// @{
 Decimal RoundedUp(const Decimal& number, std::int64_t decimals);
 Decimal RoundedDown(const Decimal& number, std::int64_t decimals);
