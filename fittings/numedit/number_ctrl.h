@@ -18,7 +18,8 @@
 
 /// A wxNumberCtrl sends this after wxEVT_TEXT when its number has changed. A change to or from a text that is not a
 /// number counts too. The event's GetString() returns the number as wxNumberCtrl::GetDecimal() does. The event is not
-/// sent if only the text has changed: 1.5 and 1.50 are the same number.
+/// sent if only the text has changed: 1.5 and 1.50 are the same number. SetValue(), SetNumber() and SetDecimal() do not
+/// send it.
 extern const FITTINGS_API wxEventTypeTag<wxCommandEvent> wxEVT_NUMBER_CHANGED;
 
 /// The default name of a wxNumberCtrl.

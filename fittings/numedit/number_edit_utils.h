@@ -16,9 +16,9 @@
 /// @endcode
 ///
 /// A null text counts as empty, and any other text may be passed. The time grows in proportion to the length of the
-/// text. Digits are `0` to `9`. Blanks are the characters for which iswspace() is true in the process's locale. Every
-/// call reads the decimal point of that locale again. Call on the GUI thread: localeconv() and the toolkit's current
-/// conversion require it.
+/// text. Digits are `0` to `9`. Blanks are the characters for which iswspace() is true in the process's locale. No
+/// function remembers the decimal point of that locale: it is read again when it is needed. Call on the GUI thread:
+/// localeconv() and the toolkit's current conversion require it.
 class FITTINGS_API CNumberEditUtils
 {
 public:
@@ -42,15 +42,15 @@ public:
     ///
     /// Accepts a sign, digits, a point and digits, and then an exponent, each if the format allows it. Accepts the
     /// beginning of such a number too: the empty text, a lone sign, a lone point, "1." and "1e-". The exponent's letter
-    /// may be missing, as in "12-5". Refuses group separators, blanks and a trailing minus, and therefore some results
-    /// of FormatControlText().
+    /// may be missing, as in "12-5". Refuses group separators and blanks. Refuses a trailing minus too, unless an
+    /// exponent is allowed: "12-" is the beginning of "12-5". So some results of FormatControlText() are refused.
     ///
     /// The point is the format's or the locale's. If the toolkit's current conversion cannot read the locale's point,
     /// no point is accepted. If the format's point is a digit, that digit always counts as the point.
     ///
-    /// Bounds are compared with the value that wcstod() reads, which is 0 for a text that is not a number yet. So with
-    /// a lowest value above 0 or a highest value below 0, the empty text and a lone sign are refused. If the lowest
-    /// value is above the highest, every text is refused.
+    /// Bounds are compared with the value that wcstod() reads, which is 0 for a text without digits. So with a lowest
+    /// value above 0 or a highest value below 0, the empty text and a lone sign are refused. If the lowest value is
+    /// above the highest, every text is refused.
     static bool ValidateString(const wchar_t* text, const CNumberFormat& format);
 
     /// Returns whether a field may have @a text while a user types.

@@ -20,8 +20,8 @@ struct NumberRules
     wchar_t point = L'.';
     bool allowsSign = true;
     bool allowsExponent = false;
-    std::int64_t mostIntegers = kMostExponent;  ///< digits before the point
-    std::int64_t mostDecimals = 0;              ///< digits after the point
+    std::int64_t mostIntegers = kMostExponent;  ///< the largest number of digits before the point
+    std::int64_t mostDecimals = 0;              ///< the largest number of digits after the point
     std::optional<Decimal> min;
     std::optional<Decimal> max;
 };
@@ -46,8 +46,9 @@ NumberState Judge(std::wstring_view text, const NumberRules& rules);
 
 /// Returns whether @a text is empty, a number within the bounds, or the beginning of one.
 ///
-/// Zeros in front do not matter: "007" is 7. A minus sign is only accepted if numbers below 0 are within the bounds:
-/// with a lowest value of 0, "-" is refused, although "-0" is a number within the bounds.
+/// Zeros in front do not change the number: "007" is 7. They count as digits before the point. A minus sign is only
+/// accepted if numbers below 0 are within the bounds: with a lowest value of 0, "-" is refused, although "-0" is a
+/// number within the bounds.
 bool CanBeTyped(std::wstring_view text, const NumberRules& rules);
 
 /// Returns the number that the plain text @a text represents, whatever the bounds and limits are. Returns nothing if it
