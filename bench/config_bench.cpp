@@ -83,8 +83,8 @@ void Load(benchmark::State& state, Open open, int count)
         Expect(state, open(entries)->HasEntry(entries.SomePath()));
 }
 
-// Measures reading all entries. Loading is not measured: wxStoreConfig loads its file for the first value, and
-// wxFileConfig when it is opened.
+// Measures reading all entries. Loading is not measured: wxStoreConfig loads its file when it is first
+// asked for an entry, and wxFileConfig when it is opened.
 void Read(benchmark::State& state, Open open, int count)
 {
     const Entries entries(count);

@@ -115,7 +115,7 @@ void FormatLong(benchmark::State& state)
 }
 
 /// Measures ICU's formatter. Each round reuses the formatter and the memory of its result. The text and the result stay
-/// in ICU's types; a host would have to convert both.
+/// in ICU's types; a host would have to convert them.
 void FormatIcu(benchmark::State& state, const std::string& text)
 {
     UErrorCode status = U_ZERO_ERROR;
