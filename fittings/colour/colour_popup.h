@@ -99,10 +99,10 @@ public:
     /// Returns whether the combo is redrawn each time another cell becomes hot.
     bool GetRefreshCombo() const { return m_bRefreshCombo; }
 
-    /// Sets the text of the upper box. With an empty text there is no such box.
+    /// Sets the text of the upper box. With an empty text, the popup has no upper box.
     void SetAutomaticText(const wxString& text);
 
-    /// Sets the text of the lower box. With an empty text there is no such box.
+    /// Sets the text of the lower box. With an empty text, the popup has no lower box.
     void SetMoreColoursText(const wxString& text);
 
     /// Sets the listener, which is not owned. The listener must outlive the popup or be replaced by null.
@@ -241,8 +241,8 @@ public:
     ///
     /// The areas that react to the pointer differ from the drawn ones. The areas of the boxes lie one margin further
     /// right. The area of "Automatic" lies one margin lower, and that of "More Colours..." one margin higher. Below an
-    /// "Automatic" box, the areas of the palette lie one margin higher, so the lowest pixels of a cell belong to the
-    /// cell below.
+    /// "Automatic" box, the areas of the palette's cells lie one margin higher, so the lowest pixels of a cell belong
+    /// to the cell below.
     void OnMouseMove(wxMouseEvent& event);
 
     /// Ends the selection. Anywhere within the popup, even between the cells, the colour of the hot cell is chosen.
@@ -270,7 +270,7 @@ protected:
     wxPalette m_palette;                ///< The palette's colours, selected for drawing cells.
     wxRect m_rectMoreColours;           ///< The lower box.
     wxRect m_rectAutomatic;             ///< The upper box.
-    wxRect m_rectWindow;                ///< The popup itself.
+    wxRect m_rectWindow;                ///< The place and size of the popup.
     int m_nNumColours;                  ///< Cells of the palette.
     int m_nNumColumns;                  ///< Columns of the grid.
     int m_nNumRows;                     ///< Rows of the grid.
