@@ -11,10 +11,10 @@ namespace fittings {
 /// Makes a hidden window appear as soon as it is shown, with the outer size that it has then.
 ///
 /// The toolkit shows the first window of a kind only after the window manager has announced the size of its
-/// decorations. By then GTK has made the window at (0, 0), where some window managers leave it, and warns of negative
-/// sizes. Other window managers never announce the decorations, which then enlarge the window. After a call of this
-/// function, the window appears before the announcement. The toolkit subtracts the decorations from the window's size
-/// as soon as they are announced.
+/// decorations. By then GTK has made the window at (0, 0), and some window managers leave it there. GTK also warns of
+/// negative sizes. Other window managers never announce the decorations: the window is then too large by their size.
+/// After a call of this function, the window appears before the announcement. The toolkit subtracts the decorations
+/// from the window's size as soon as they are announced.
 ///
 /// Does nothing for a child window or a window that is already shown, and nothing on Wayland.
 void ShowWithoutDelay(wxWindow& window);
