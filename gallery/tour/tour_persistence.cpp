@@ -1,4 +1,4 @@
-// A step of the tour: one call restores a window of another kind than the gallery's, with everything in it.
+// A step of the tour with a window of its own: one call restores this window with everything in it.
 
 #include <utility>
 #include <vector>
