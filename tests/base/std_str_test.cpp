@@ -58,7 +58,8 @@ TEST(StdStr, TakesTheTextOfAPointer)
     EXPECT_EQ(text, L"second");
 }
 
-// The text is too long for the object itself, so the assignments read from the buffer that they change or free.
+// The text is too long to be stored inside the object. The assignments therefore read from the buffer that they change
+// or free.
 TEST(StdStr, SurvivesAssignmentFromItsOwnBuffer)
 {
     Text text(L"0123456789012345678901234567890123456789");

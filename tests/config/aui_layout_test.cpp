@@ -169,7 +169,7 @@ TEST(LoadAuiManagerState, TakesALayoutWithPanesThatAreGone)
     EXPECT_TRUE(frame.Pane("list").IsShown());
 }
 
-/// Tests that a text that the toolkit cannot have written is not loaded.
+/// LoadAuiManagerState() must refuse each text that the toolkit cannot have written.
 class DamagedLayout : public testing::Test
 {
 protected:

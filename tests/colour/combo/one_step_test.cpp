@@ -365,7 +365,7 @@ TEST(ColourComboEvents, ComeBesideTheListenersCalls)
     on.combo->GetPopup()->SetColorListener(nullptr);
 }
 
-// A value that the program sets is not the user's choice, so it sends no event.
+// Setting a value in the program sends no event, because the user has chosen nothing.
 TEST(ColourComboEvents, DoNotComeForValuesThatAreSetWhileThePopupIsClosed)
 {
     OneStep on(*wxBLUE);

@@ -189,7 +189,7 @@ TEST(ColourPreview, IsOffAtFirst)
 
 // --- What is redrawn -------------------------------------------------------------------------------------------------
 
-// The number of shapes that were drawn on windows.
+// The number of shapes that were drawn.
 struct Drawn
 {
     int rectangles = 0;

@@ -1,4 +1,4 @@
-// Persistent report lists, and the toolkit's persistent data views beside them.
+// Persistent report lists, and persistent data views. The class that makes data views persistent is the toolkit's.
 
 #include <vector>
 

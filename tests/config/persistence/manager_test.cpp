@@ -28,7 +28,8 @@ extern "C" int fsync(int fd)
 
 namespace {
 
-/// A frame that contains a splitter, a book of two pages, a list and a tree, all of them persistent.
+/// A frame that contains a splitter, a book of two pages, a list and a tree. RestoreAll() registers and restores the
+/// frame and each of them.
 class FullFrame : public wxFrame
 {
 public:

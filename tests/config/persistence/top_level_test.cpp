@@ -1,5 +1,5 @@
-// Frames and dialogs that the toolkit's own wxPersistentTLW saves and restores. The display of these tests is 1280 x
-// 1024 with the work area 16;24;1264;960.
+// Frames and dialogs that the toolkit's own wxPersistentTLW saves and restores. The display of these tests has 1280 x
+// 1024 pixels. Its work area begins at (16, 24) and has 1264 x 960 pixels.
 
 #include <string>
 

@@ -1,4 +1,4 @@
-// Persistent trees, each in a frame on the screen.
+// Persistent trees, each in a frame.
 
 #include <string>
 
