@@ -53,8 +53,8 @@ public:
     NumberRules rules;
     Decimal increment = MakeDecimal("1", 1);
     bool showsPlain = false;
-    std::wstring plain;           ///< While the text is formatted: the plain text.
-    std::wstring shown;           ///< While the text is formatted: the formatted text.
+    std::wstring plain;           ///< The plain text that stands for `shown`.
+    std::wstring shown;           ///< The last text that was shown without the focus.
     std::wstring exact;           ///< The number that the program has set. It may have more decimals than the format.
     std::optional<Decimal> told;  ///< The number that the program has last set or has last been told.
     std::pair<long, long> selection;  ///< The selection in the plain text at the time when the text was formatted.

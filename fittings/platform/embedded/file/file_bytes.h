@@ -101,7 +101,7 @@ UpdateResult UpdateFileBytes(const std::string& path, const FileUpdate& update);
 /// name, or an empty string on any error.
 std::string KeepUnderOtherName(const std::string& path);
 
-/// Returns the second name that KeepUnderOtherName() tries as number @a number, from 1 on.
+/// Returns the second name with the number @a number. KeepUnderOtherName() tries the numbers from 1 on.
 std::string OtherName(const std::string& path, int number);
 
 /// Only second names with numbers below this one are tried.
