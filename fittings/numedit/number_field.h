@@ -53,7 +53,7 @@ public:
     NumberRules rules;
     Decimal increment = MakeDecimal("1", 1);
     bool showsPlain = false;
-    std::wstring plain;           ///< The plain text that stands for `shown`.
+    std::wstring plain;           ///< The plain text of `shown`.
     std::wstring shown;           ///< The last text that was shown without the focus.
     std::wstring exact;           ///< The number that the program has set. It may have more decimals than the format.
     std::optional<Decimal> told;  ///< The number that the program has last set or has last been told.
