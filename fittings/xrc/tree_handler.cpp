@@ -43,8 +43,8 @@ wxObject* wxHandyTreeCtrlXmlHandler::DoCreateResource()
     tree->Create(m_parentAsWindow, GetID(), GetPosition(), GetSize(),
                  GetStyle("style", wxTR_HAS_BUTTONS | wxTR_NO_LINES), wxDefaultValidator, GetName());
     std::unique_ptr<wxImageList> images(GetImageList());
-    // The list has the size that the resource gives, or the size of its first bitmap. If it has no size, or if the
-    // resource has no list, make an empty list.
+    // The toolkit returns null if the resource names no bitmap. The list has the size 0 if it takes its size from a
+    // bitmap that cannot be loaded. Make an empty list in both cases.
     if (images && images->GetSize() != wxSize(0, 0))
         tree->AssignImageList(images.release());
     else
