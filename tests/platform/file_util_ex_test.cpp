@@ -174,7 +174,7 @@ TEST_F(Mkdir, LeavesAFolderThatExistsAsItIs)
 
 TEST_F(Mkdir, TakesNamesThatAreNotAsciiInAnyLocale)
 {
-    // A graphical program is in the C locale until it sets another one.
+    // Every program runs in the C locale until it sets another one.
     const std::string locale = setlocale(LC_ALL, nullptr);
     setlocale(LC_ALL, "C");
     EXPECT_TRUE(file_util_ex::Mkdir(Wide(m_folder.Path()) + L"/\x5E33 \x00E4\x1F4D2"));
@@ -283,7 +283,7 @@ INSTANTIATE_TEST_SUITE_P(
         Broken{"\xED\xA0\x80", L"\xFFFD\xFFFD\xFFFD"}, Broken{"\xED\xBF\xBF", L"\xFFFD\xFFFD\xFFFD"},
         Broken{"\xF4\x90\x80\x80", L"\xFFFD\xFFFD\xFFFD\xFFFD"},
         Broken{"\xF5\x80\x80\x80", L"\xFFFD\xFFFD\xFFFD\xFFFD"},
-        // Sequences cut short by the end or by the next byte.
+        // Sequences cut short by the end or by the next byte, and one sequence with a byte too many.
         Broken{"\xC3", L"\xFFFD"}, Broken{"\xE5\xB8", L"\xFFFD"}, Broken{"\xF0\x9F\x93", L"\xFFFD"},
         Broken{"\xC3z", L"\xFFFDz"}, Broken{"\xE5\xB8z", L"\xFFFDz"}, Broken{"\xF0\x9F\x93z", L"\xFFFDz"},
         Broken{"\xE5\xC3\xA4", L"\xFFFD\xE4"}, Broken{"\xF0\x9F\xE5\xB8\xB3", L"\xFFFD\x5E33"},

@@ -1,5 +1,5 @@
-// paths_probe [--app [NAME]]: prints the user data directory and the folder "Samples" of the application's documents,
-// one per line. With --app it has an application object, named NAME if that is given.
+// paths_probe [--app [NAME]]: prints GetUserDataDir() and GetAppFolderPath(L"Samples"), one per line. With --app, the
+// program has an application object. NAME, if it is given, becomes the name of this object.
 
 #include <cstdio>
 #include <string>

@@ -1,5 +1,6 @@
 // Many processes store settings at the same time, on slow disks, with locks that are stuck, missing or ineffective. A
-// value is kept if its write has returned true. With FITTINGS_TEST_SOAK=N, most tests write N times as often.
+// value is kept if its write has returned true. With FITTINGS_TEST_SOAK=N, many of the tests write N times as
+// often.
 
 #include <fittings/platform/local_reg_store.h>
 
@@ -191,7 +192,8 @@ TEST(AStoppedHolderOfTheLock, DelaysEightThreadsByTwoSecondsTogether)
     waitpid(holder, nullptr, 0);
 }
 
-// The file changes during each attempt to save: the write starts again each time, but waits for the lock only once.
+// The file changes eight times while WriteString() tries to save. The write starts again after each change, but waits
+// for the lock only once.
 TEST(AStoppedHolderOfTheLock, DelaysAWriteOnceWhileTheFileIsEmptiedAllTheTime)
 {
     const InMemory inMemory;

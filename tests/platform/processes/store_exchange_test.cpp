@@ -1,4 +1,5 @@
-// Other processes change the settings file between the store's last check of the file and the exchange.
+// A save exchanges the settings file with a new file. In these tests, other processes change the settings file between
+// the store's last check of the file and this exchange.
 
 #include <fittings/platform/local_reg_store.h>
 
@@ -141,7 +142,8 @@ TEST_F(AnExchange, WaitsForAnEditorThatHasJustEmptiedTheFile)
     EXPECT_EQ(Now(), "[s]\na=2\nk=new\n");
 }
 
-// A file that is not text cannot be merged: it is put back, and then set aside like any unreadable file.
+// A file that is not text cannot be merged. The store puts it back, and then keeps it as settings.ini.unreadable like
+// any unreadable file.
 TEST_F(AnExchange, PutsBackWhatIsNoText)
 {
     WriteFile(m_path, "[s]\na=1\nk=old\n");
@@ -153,7 +155,8 @@ TEST_F(AnExchange, PutsBackWhatIsNoText)
     EXPECT_EQ(ReadFile(m_path + ".unreadable"), zeros);
 }
 
-// A third process replaces our file before the second process's file is put back.
+// The store has displaced the file of a second process and has to put it back. Before that, a third process replaces
+// the file that the store has put in place.
 TEST_F(AnExchange, KeepsWhatAThirdProcessStoresBeforeAFileIsPutBack)
 {
     WriteFile(m_path, "[s]\na=1\nk=old\n");
@@ -166,8 +169,8 @@ TEST_F(AnExchange, KeepsWhatAThirdProcessStoresBeforeAFileIsPutBack)
               (std::vector<std::string>{"settings.ini", "settings.ini.lock", "settings.ini.unreadable"}));
 }
 
-// The second process's file has been put back. Then a fourth process stores something before the third process's file
-// is put back.
+// As in the previous test, but a fourth process also stores something: after the store has put back the file of the
+// second process, and before it puts back the file of the third process.
 TEST_F(AnExchange, DestroysNothingThatThreeOtherProcessesStore)
 {
     WriteFile(m_path, "[s]\na=1\nk=old\n");
@@ -179,7 +182,8 @@ TEST_F(AnExchange, DestroysNothingThatThreeOtherProcessesStore)
     EXPECT_EQ(ReadFile(m_path + ".unreadable"), third);
 }
 
-// The second process's file is set aside. The file into which the store has merged both changes is not kept.
+// The file of the second process is kept as settings.ini.unreadable. The store has merged its own change into a copy of
+// that file, but does not keep this copy.
 TEST_F(AnExchange, DestroysNothingOfASecondProcessWhenAThirdPutsAPipeInPlaceOfTheFile)
 {
     WriteFile(m_path, "[s]\na=1\nk=old\n");

@@ -1,4 +1,4 @@
-// The default store among several processes and threads, some of which are killed.
+// Several processes or threads use the default store or a named file. Some of the processes are killed.
 
 #include <fittings/platform/local_reg_store.h>
 
@@ -69,7 +69,7 @@ TEST(SixProcesses, KeepAllOfTheirTwoHundredAndFortyUpdates)
 }
 
 // Runs @a work as process 1 of a new PID namespace, as in a container. Processes in different containers may have the
-// same number.
+// same number, so this number alone does not make the names of temporary files unique.
 void InOwnContainer(const std::function<void()>& work)
 {
     ASSERT_TRUE(unshare(CLONE_NEWPID) == 0 || unshare(CLONE_NEWUSER | CLONE_NEWPID) == 0);
@@ -194,7 +194,7 @@ protected:
                 m_progress->done = update;
             }
         });
-        // The time until the kill ranges from before the first write to well into a later one.
+        // The kill comes at a random moment: before the first write, during it, or during a later one.
         std::this_thread::sleep_for(std::chrono::microseconds(m_random() % (Patience() * 3000 + 2 * m_saving.count())));
         ASSERT_EQ(kill(child, SIGKILL), 0);
         int status = 0;
@@ -211,7 +211,7 @@ protected:
             ASSERT_EQ(ini.Get(Name(L"Others", other % 4).c_str(), Name(L"other", other).c_str()), Name(L"value", other))
                 << "round " << round;
         }
-        // The next writer continues from the values in the file.
+        // The next writer continues from the value in the file.
         m_progress->done = m_progress->begun =
             found == UpdateText(m_progress->begun) ? +m_progress->begun : +m_progress->done;
     }

@@ -3,16 +3,18 @@
 
 #include <functional>
 
-/// Functions that run before this process syncs a file, renames or exchanges one, or locks a folder.
+/// Functions that run before this process calls fsync(), renameat2() or flock(). The store uses these functions to sync
+/// files and folders, to rename or exchange files, and to lock a folder.
 struct WatchedCalls
 {
     std::function<void()> beforeSync;
 
-    /// Called before a file is renamed or exchanged. If it returns an error number instead of 0, the call fails with
-    /// this error.
+    /// Called before renameat2(). If it returns an error number instead of 0, renameat2() fails with this error. Not
+    /// called before rename().
     std::function<int()> beforeExchange;
 
-    /// Called before a folder is locked. If it returns an error number instead of 0, the call fails with this error.
+    /// Called before flock(), except to unlock. If it returns an error number instead of 0, flock() fails with this
+    /// error.
     std::function<int()> beforeFolderLock;
 };
 

@@ -360,8 +360,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Deletion{"AnotherCase", "[s]\nK%25=1\n[S]\nk%25=2\n", "[s]\nK%25=1\n[S]\nk%25=2\n"}),
     [](const auto& info) { return info.param.name; });
 
-// Returns the name of 24 letters k as a file may write it. Each bit of @a n says whether a letter is written as it is
-// (1) or encoded (0).
+// A file may write a name of 24 letters k in many ways. Returns one of them: each bit of @a n says whether a letter is
+// written as it is (1) or encoded (0).
 std::string NthName(unsigned n)
 {
     std::string name;

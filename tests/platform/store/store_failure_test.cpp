@@ -48,7 +48,8 @@ bool SaveKey(const std::string& path, const wchar_t* value)
 const std::string kOld = "# mine\n[s]\nk=old\nother=1\n";
 const std::string kNew = "# mine\n[s]\nk=new\nother=1\n";
 
-// Expects that every way of writing a value fails and keeps the old files. The only new file may be the lock file.
+// Expects that no function can write a value of 1 MiB, and that the old files stay as they are. The only new file may
+// be the lock file.
 void ExpectWritesToFail(const std::string& folder)
 {
     const std::string big(1 << 20, 'x');
@@ -187,8 +188,8 @@ TEST(AFileInTheFoldersPlace, MakesWritingFail)
     EXPECT_EQ(ReadFile(folder / "data"), "precious");
 }
 
-// The folder cannot be searched, so the system does not report whether the file exists. Then even deleting a missing
-// key fails.
+// A file takes the place of the folder, so the store can no longer find out whether the key exists. Then even deleting
+// a missing key fails.
 TEST(AFolderThatBecomesAFile, MakesWritingFail)
 {
     TempFolder folder;
@@ -408,7 +409,8 @@ TEST(TheDefaultStore, MakesNothingUntilSomethingIsStored)
     EXPECT_FALSE(fs::exists(data / "new"));
 }
 
-// Temporary files have a name that no person would choose: a prefix and a UUID. Only files with such names are removed.
+// Temporary files have a name that no person would choose: a prefix and a UUID. A save removes only files with such a
+// name, and only if they are at least a minute old.
 TEST(LeftoversOfAKilledProcess, GoAMinuteLaterAndNothingElseDoes)
 {
     const TempFolder folder;

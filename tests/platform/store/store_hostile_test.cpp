@@ -1,4 +1,4 @@
-// Texts that an INI file cannot hold without encoding.
+// Texts with characters that have a meaning in an INI file. The store encodes such characters where it has to.
 
 #include <fittings/platform/local_reg_store.h>
 

@@ -125,7 +125,7 @@ TEST(ThousandsOfDirtyFiles, KeepWhatTheyHold)
             ASSERT_NE(bytes.find('\0'), std::string::npos) << "file " << file << ":\n" << bytes;
             continue;
         }
-        // A file that already has these bytes is not written, which saves the wait for the disk.
+        // Save() does not write a file that already has the right bytes. This saves the wait for the disk.
         WriteFile(folder / "b.ini", bytes);
         ASSERT_TRUE(before.Save(folder / "b.ini"));
         ASSERT_EQ(ReadFile(folder / "b.ini"), bytes) << "file " << file;

@@ -8,7 +8,7 @@
 #include <fittings/platform/local_reg_store.h>
 #include <tests/support/temp_folder.h>
 
-/// Owns a CIniFile. Its paths are in UTF-8.
+/// Owns a CIniFile. The functions take paths in UTF-8.
 class Ini
 {
 public:
