@@ -45,7 +45,8 @@ public:
     static void Click();
     static void Drag(ScreenPoint from, ScreenPoint to);
 
-    /// Returns the centre of all pixels of the screen with a colour, given as "#RRGGBB"; nothing if no pixel has it.
+    /// Returns the point midway between the first and the last pixel of the screen that have this colour ("#RRGGBB").
+    /// For a rectangle, this is its centre. Returns nothing if no pixel has the colour.
     static std::optional<ScreenPoint> Find(const std::string& colour);
 
     void Resize(int width, int height) const;
@@ -57,7 +58,8 @@ public:
     std::string Title() const;
     void WaitForTitle(const std::string& title) const;
 
-    /// Returns the colour of a pixel of the window as "#RRGGBB". The position is relative to its top left corner.
+    /// Returns the colour of a pixel of the window as "#RRGGBB". The position is relative to the window's top left
+    /// corner.
     std::string ColourAt(int x, int y) const;
 
     /// Closes the window through the window manager, and expects the program to succeed.

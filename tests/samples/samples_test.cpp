@@ -1,4 +1,4 @@
-// Each sample, used as a user does.
+// These tests use each sample as a user does.
 
 #include <filesystem>
 #include <functional>

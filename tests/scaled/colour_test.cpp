@@ -98,8 +98,8 @@ TEST_F(ColoursOnAScaledScreen, OpenWithAnOutlineThatGrowsWhereTheyWillBe)
     on.combo->Dismiss();
 }
 
-// The frame is lower than the popup, so below the frame the animation draws on the root window. The pattern of the root
-// window has dots of one screen pixel.
+// The popup reaches below the end of the frame, so the animation draws on the root window there. The pattern of the
+// root window has dots of one screen pixel.
 TEST_F(ColoursOnAScaledScreen, LeaveTheScreenAsItWas)
 {
     RunChild({"xsetroot", "-mod", "3", "3"});

@@ -10,7 +10,7 @@ namespace {
 namespace fs = std::filesystem;
 using namespace gallery::simulated_user;
 
-/// Returns whether each column of the image equals a column beside it, as in an enlarged image.
+/// Returns whether each inner column of the image equals a column beside it, as in an enlarged image.
 bool WasMadeLarger(const wxImage& image)
 {
     const auto areAlike = [&](int x, int other) {

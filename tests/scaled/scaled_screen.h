@@ -7,7 +7,7 @@
 /// Returns a part of the screen, with two screen pixels in each direction for each of the toolkit's pixels.
 wxImage GrabScaled(const wxRect& rect);
 
-/// Returns the screen pixel in the middle of one of the toolkit's pixels, as 0xRRGGBB.
+/// Returns the lower right one of the four screen pixels of one of the toolkit's pixels, as 0xRRGGBB.
 int PixelAt(const wxPoint& place);
 
 /// Returns whether each of the toolkit's pixels has one colour, for any offset of the first one. Returns false for a

@@ -46,7 +46,7 @@ private:
     int m_count = 0;
 };
 
-/// Counts an assertion; returns false when none is expected.
+/// Counts an assertion if assertions are expected. Otherwise returns false.
 bool NoteAssertion();
 
 #endif

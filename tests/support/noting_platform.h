@@ -7,8 +7,9 @@
 /// Calls to the platform, each as "operation [argument] [argument]".
 using Calls = std::vector<std::wstring>;
 
-/// The state of a platform that records the calls and can make any of them throw. In a program that links this library,
-/// it takes the place of the settings, paths and UTF-8 conversions of the platform library.
+/// The state of a platform that records calls and can make one of them throw. A program that links
+/// fittings-noting-platform uses this platform instead of the settings, paths and UTF-8 conversions of the platform
+/// library.
 struct NotingPlatform
 {
     Calls calls;
@@ -16,7 +17,7 @@ struct NotingPlatform
     bool folderExists = true;
     bool loads = true;
     bool saves = true;
-    std::wstring stored = L"stored";  ///< The text that every read returns; ASCII.
+    std::wstring stored = L"stored";  ///< The text that every read of a text returns; ASCII.
     int files = 0;                    ///< The number of existing file objects.
     int batches = 0;                  ///< The number of existing batches.
     int savesWithoutBatch = 0;        ///< The number of wide texts, flags and sets of changes stored outside a batch.

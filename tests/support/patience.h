@@ -4,7 +4,7 @@
 #include <cstdlib>
 
 /// Returns how many times longer than usual the tests wait: FITTINGS_TEST_PATIENCE, which is set if a tool makes
-/// everything slow, otherwise 1. Every deadline is multiplied by this number.
+/// everything slow, otherwise 1. The tests multiply their deadlines by this number.
 inline int Patience()
 {
     static const int patience = [] {

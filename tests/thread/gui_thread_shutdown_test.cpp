@@ -88,7 +88,7 @@ TEST(StartKill, DoesNotWait)
     worker.RunThread();
     ASSERT_TRUE(worker.started.Wait());
     worker.StartKill();
-    go.Set();  // not before StartKill() has returned
+    go.Set();  // StartKill() has returned although the worker was still waiting
     EXPECT_EQ(worker.Wait(), Code(42));
 }
 

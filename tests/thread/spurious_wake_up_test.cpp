@@ -1,4 +1,4 @@
-// A condition that wakes up without a signal, which POSIX allows.
+// A wait for a condition may end without a signal, as POSIX allows. Then the wait for a thread must go on.
 
 #include <atomic>
 #include <chrono>
@@ -16,8 +16,9 @@ std::atomic<int> g_wakeUpsToCome{0};
 
 }  // namespace
 
-// Replaces the standard library's wait for a condition. It waits in the same way, but returns early if a test asks for
-// it. The thread object's condition is private, and the library should have no code that only this test needs.
+// Replaces the standard library's wait for a condition. It waits in the same way, but returns early if a test has set
+// g_wakeUpsToCome. The thread object's condition is private, and the library should have no code that only this test
+// needs.
 extern "C" void WaitForCondition(std::condition_variable* condition, std::unique_lock<std::mutex>* lock) __asm__(
     "_ZNSt18condition_variable4waitERSt11unique_lockISt5mutexE");
 

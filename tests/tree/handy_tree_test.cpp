@@ -111,7 +111,7 @@ TEST(HandyTree, KeepsMasksInItsImageList)
     EXPECT_NE(screen.tree->GetImageList()->GetBitmap(0).GetMask(), nullptr);
 }
 
-// Adds a bitmap to the list, and returns it. Its reference count shows whether the list still exists.
+// Adds a bitmap to the list, and returns the bitmap. The bitmap's reference count shows whether the list still exists.
 wxBitmap Held(wxImageList& list)
 {
     wxBitmap bitmap(16, 16, 24);

@@ -14,7 +14,8 @@
 
 namespace {
 
-/// Counts the calls that pass a deleted item. In such a call, the toolkit would read freed memory.
+/// Counts the calls of ItemHasChildren() and GetNextChild() that pass a deleted item. In such a call, the toolkit would
+/// read freed memory.
 class MortalTree : public LazyTree
 {
 public:

@@ -8,7 +8,7 @@
 
 #include <fittings/tree/handy_tree_ctrl.h>
 
-/// The toolkit's tree control, and the controls of this library that do the same.
+/// The toolkit's tree control, and this library's controls, which must pass the same tests.
 using Trees = testing::Types<wxTreeCtrl, wxTreeCtrlEx, wxHandyTreeCtrl>;
 
 /// Names the tests of each type in Trees.

@@ -9,7 +9,7 @@
 #include <wx/xrc/xmlres.h>
 
 /// Loads controls.xrc with the toolkit's handlers and ours, and creates a frame or a panel from it. The destructor
-/// destroys that window.
+/// destroys the window.
 class LoadedResource : public wxXmlResource
 {
 public:

@@ -257,7 +257,7 @@ TEST_F(Typing, RingsAgainWhenValidatorsAreNoLongerSilent)
     EXPECT_EQ(screen.BellsRung(), 1);
 }
 
-// A read-only control reports no characters, so the validator refuses none.
+// A read-only control sends no character events, so the validator refuses no key and rings no bell.
 TEST(TypingIntoAReadOnlyControl, ChangesNothing)
 {
     NumberDialog screen(FixedFormat(), nullptr, wxTE_READONLY);

@@ -13,7 +13,7 @@
 set(FITTINGS_TEST_LOCALES ${PROJECT_BINARY_DIR}/locales)
 find_program(LOCALEDEF localedef REQUIRED)
 
-# One after the other: each locale is linked with the files that it shares with earlier ones.
+# Make the locales one after the other: localedef links the files that a locale shares with an earlier one.
 set(make_locales)
 foreach(locale IN ITEMS de_DE.UTF-8 fr_FR.UTF-8 fr_FR.ISO-8859-1 he_IL.UTF-8 ps_AF.UTF-8)
   string(REGEX MATCH "^([^.]*)\\.(.*)$" whole ${locale})

@@ -6,16 +6,17 @@
 
 /// Sets the process's locale while the object exists; fails the test when there is no such locale.
 ///
-/// In addition to the system's own locales, de_DE.UTF-8 (decimal point ","), fr_FR.UTF-8 (thousands separator U+202F),
-/// fr_FR.ISO-8859-1 (thousands separator 0xA0, one byte), he_IL.UTF-8 (from right to left) and ps_AF.UTF-8 (decimal
-/// point U+066B) exist on every machine.
+/// These locales exist on every machine: de_DE.UTF-8 (decimal point ","), fr_FR.UTF-8 (thousands separator U+202F),
+/// fr_FR.ISO-8859-1 (thousands separator 0xA0, one byte), he_IL.UTF-8 (from right to left), ps_AF.UTF-8 (decimal point
+/// U+066B), "C" and C.UTF-8. The system's other locales may be missing, because LOCPATH hides the locales in its
+/// archive.
 ///
 /// @code
 /// const ScopedLocale german("de_DE.UTF-8");
 /// const ScopedLocale pointAlone("ps_AF.UTF-8", LC_NUMERIC);  // cannot be converted in the C locale
 /// @endcode
 ///
-/// The first object sets LOCPATH, for child processes too.
+/// The constructor sets LOCPATH, for child processes too. The destructor does not restore it.
 class ScopedLocale
 {
 public:

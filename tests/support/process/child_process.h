@@ -37,7 +37,7 @@ public:
     /// Returns the output so far.
     std::string Output() const { return ReadFile(m_folder / "output"); }
 
-    /// Returns the complete lines of the output so far, as LinesOf() does.
+    /// Returns what LinesOf() returns for the output so far.
     std::vector<std::string> Lines(const std::string& start = {}) const;
 
 private:
