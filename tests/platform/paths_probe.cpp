@@ -1,5 +1,5 @@
 // paths_probe [--app [NAME]]: prints GetUserDataDir() and GetAppFolderPath(L"Samples"), one per line. With --app, the
-// program has an application object. NAME, if it is given, becomes the name of this object.
+// program has an application object. NAME, if it is given, becomes the name of the application.
 
 #include <cstdio>
 #include <string>
