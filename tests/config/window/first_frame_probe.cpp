@@ -1,10 +1,11 @@
 // first_frame_probe KIND store X;Y;WIDTH;HEIGHT: shows a frame with this geometry and stores the geometry. If "corner"
-// takes the place of the geometry, the frame has 500 x 340 pixels and is in the corner of the work area.
+// takes the place of the geometry, the frame has 500 x 340 pixels and is in the top left corner of the work area.
 //
 // first_frame_probe KIND restore: restores a frame and shows it as the first window of the process.
 //
-// Both wait until the geometry on the screen is the expected one and no longer changes, and print it. If that takes too
-// long, they print the last geometry. A maximised frame is stored with the given geometry, so this geometry is printed.
+// Both commands wait until the geometry on the screen is the expected one and no longer changes, and print this
+// geometry. If that takes too long, they print the last geometry. While the frame is maximised, "store" prints the
+// given geometry, because this is the geometry that is stored.
 //
 // KIND is one of these words:
 //
@@ -53,8 +54,8 @@ std::string SizeText(const wxRect& rect)
     return wxString::Format(";%d;%d", rect.width, rect.height).utf8_string();
 }
 
-/// Returns the frame's rectangle on the screen according to the X server, with the decorations; empty until the window
-/// manager has announced the decorations.
+/// Asks the X server for the frame's rectangle on the screen, with the decorations. Returns an empty rectangle until
+/// the frame is mapped and the window manager has announced the decorations.
 wxRect OnScreen(const wxFrame& frame)
 {
     GdkWindow* const window = gtk_widget_get_window(frame.GetHandle());
@@ -173,7 +174,7 @@ private:
         if (m_isDragged && !m_isToBeSeenMaximized && !m_frame->IsMaximized() && wxGetMouseState().LeftIsDown())
             Xdotool({"mouseup", "1"});
         const wxRect now = OnScreen(*m_frame);
-        // Do not compare the places of a maximised frame: the toolkit may report a wrong one.
+        // While the frame is maximised, ignore the toolkit's rectangle: its position may be wrong.
         const bool isTold = m_frame->IsMaximized() || now == m_frame->GetScreenRect();
         m_same = now == m_last && !now.IsEmpty() && isTold ? m_same + 1 : 0;
         m_last = now;

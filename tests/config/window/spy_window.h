@@ -8,7 +8,7 @@
 #include <wx/frame.h>
 #include <wx/panel.h>
 
-/// A window that records each call to set its size, as "x;y;width;height flags".
+/// A window that records each call that sets its position or size, as "x;y;width;height flags".
 template <typename Window>
 class SpyWindow : public Window
 {
@@ -30,7 +30,7 @@ private:
     std::vector<std::string> m_calls;
 };
 
-/// A hidden frame that records the calls to set its size, except those of its constructor.
+/// A hidden frame that records the same calls, except those of its constructor.
 class SpyFrame : public SpyWindow<wxFrame>
 {
 public:

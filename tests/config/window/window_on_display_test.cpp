@@ -22,8 +22,8 @@ TEST(Display, HasTheWorkAreaThatTheseTestsExpect)
     EXPECT_EQ(wxDisplay(0u).GetClientArea(), wxRect(16, 24, 1264, 960));
 }
 
-/// A stored geometry and what LoadState() makes of it: the calls, without the first two, which apply the stored
-/// geometry, and the resulting geometry of the window.
+/// A stored geometry, the calls by which LoadState() corrects it, and the resulting geometry of the window. The first
+/// two calls of LoadState() apply the stored geometry and are left out.
 struct Restored
 {
     const char* name;
@@ -84,7 +84,7 @@ INSTANTIATE_TEST_SUITE_P(
         Restored{"UnderTheLeftPanel", L"-290;100;300;200", {"16;100;300;200 3"}, wxRect(16, 100, 300, 200)},
         Restored{"UnderTheBottomPanelOversize", L"-9;984;3000;2000", {"16;24;1264;960 3"}, wxRect(16, 24, 1264, 960)},
         Restored{"OffAndLow", L"5000;5000;300;20", {"0;0;-1;-1 0", "16;24;300;20 3"}, wxRect(16, 24, 300, 20)},
-        // The position -1;-1 means that the window manager chooses the place.
+        // The position -1;-1 means that the window manager chooses the place. One -1 alone is an ordinary number.
         Restored{"NoPosition", L"-1;-1;300;200", {}, wxRect(-1, -1, 300, 200)},
         Restored{"NoPositionOversize", L"-1;-1;1280;1024", {"16;24;1264;960 3"}, wxRect(16, 24, 1264, 960)},
         Restored{"HalfAPosition", L"-1;100;300;200", {"16;100;283;200 3"}, wxRect(16, 100, 283, 200)}),
