@@ -91,7 +91,8 @@ TEST_F(SaveDialogCalls, OfADialogWithoutAnEntry)
     EXPECT_EQ(g_platform.calls, Calls{L"show"});
 }
 
-// FileAnswer answers only the save dialog, so this hook and GetPath() answer the remembering dialogs.
+// FileAnswer cannot answer a wxRememberingFileDialog, which calls another constructor of wxFileDialog than the save
+// dialog does. Therefore Enter() answers the dialog, and Dialog::GetPath() returns the chosen path.
 class RememberingDialogCalls : public testing::Test, private wxModalDialogHook
 {
 protected:
@@ -145,7 +146,7 @@ protected:
     FolderDialogCalls() { g_platform = {}; }
 
 private:
-    const FileAnswer m_cancel{wxID_CANCEL, ""};  // Fails the test if a dialog is shown.
+    const FileAnswer m_cancel{wxID_CANCEL, ""};  // Fails the test if the toolkit shows a folder dialog.
 };
 
 TEST_F(FolderDialogCalls, OfADialogThatIsAccepted)

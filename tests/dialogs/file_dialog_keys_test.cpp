@@ -272,8 +272,8 @@ TEST_F(SaveDialogByKeys, StartsInTheFolderOfSamples)
 TEST_F(SaveDialogByKeys, StartsAboveSamplesThatAreNotThereWithoutAnError)
 {
     const std::string home = HomeFolder();
-    // GTK completes an empty entry with the common beginning of all names. This file keeps it from adding the dot of
-    // hidden files.
+    // GTK completes an empty entry with the common beginning of all names in the folder. If all names belonged to
+    // hidden files, this beginning would be a dot. Therefore add a visible file.
     WriteFile(home + "/visible", "");
     Dialog dialog(m_settings.Path(), CallAgain());
     dialog.WaitForProposal(home, "");
@@ -347,7 +347,8 @@ TEST_F(SaveDialogByKeys, GivesAFileInAFolderThatCannotBeWritten)
     fs::permissions(m_plain, fs::perms::owner_all);
 }
 
-// The toolkit turns the character U+1000FF into the byte 0xFF, but returns no path that is not UTF-8.
+// The toolkit turns the character U+1000FF into the byte 0xFF, so the dialog starts in a folder whose name is not
+// UTF-8. For a file in this folder, the toolkit returns an empty path.
 TEST_F(SaveDialogByKeys, GivesNothingInAFolderWhoseNameIsNotUtf8)
 {
     const std::string folder = m_plain + "/\xFF";

@@ -51,7 +51,7 @@ public:
 
     std::function<void()> whileShown;
 
-    // How often a dialog was shown, and how often it was centred before that.
+    // The number of dialogs shown, and the number of centrings before the last dialog was shown.
     int Shown() const { return m_shown; }
     std::size_t CentredBefore() const { return m_centredBefore; }
 

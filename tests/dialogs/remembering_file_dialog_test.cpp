@@ -339,8 +339,8 @@ TEST_F(OpenedFile, IsNotSelectedWhenTheFilterHidesIt)
     EXPECT_EQ(StoredFile(), m_plain + "/two.csv");
 }
 
-// When each filter hides the selected file, GTK's dialog drops its filter, and the toolkit asserts if it is asked for
-// the filter's index. The file must be remembered all the same.
+// If every filter hides the selected file, GTK's dialog has no filter any more, and wxFileDialog::GetFilterIndex()
+// asserts. The file must be remembered all the same.
 TEST_F(OpenedFile, IsRememberedWhenTheProgramSelectsOneThatEachFilterHides)
 {
     StoreFilter("*.txt");

@@ -80,7 +80,7 @@ std::string StateOf(const Windows& windows)
     return state;
 }
 
-// Shows the parent frame and returns it; returns null when the frame does not appear.
+// Shows the parent frame, prints its place, and returns the frame; returns null when the frame does not appear.
 wxFrame* ShowParent()
 {
     auto* const frame = new wxFrame(nullptr, wxID_ANY, "parent", wxPoint(100, 150), wxSize(1000, 700));

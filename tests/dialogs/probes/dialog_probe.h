@@ -17,7 +17,7 @@ class wxWindow;
 /// Tabs separate the eight fields of a state:
 ///
 ///   1. "active" if the dialog has the input focus, otherwise "inactive"
-///   2. the type of the focused widget
+///   2. the type of the focused widget, or "none"
 ///   3. "popup" while a list of completions is shown
 ///   4. "accept" while the accepting button can be pressed
 ///   5. the folder that the dialog shows
