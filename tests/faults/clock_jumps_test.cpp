@@ -159,7 +159,7 @@ TEST_P(ClockJumps, DoNotDisturbATreeThatIsFilledWhileItIsLoaded)
 
 // --- Files -----------------------------------------------------------------------------------------------------------
 
-/// Sets the modification time of a file to @a seconds from now.
+/// Sets the modification time of a file to @a seconds after the time of the changed clock.
 void SetTime(const std::string& path, long seconds)
 {
     timespec now = {};
