@@ -153,7 +153,7 @@ TEST_F(TheProgram, FitsOnTheScreenAtFirst)
     EXPECT_NEAR(height, 480, 1);
 }
 
-// Returns the program's own messages. On newer releases, the image loader also reports that it runs without its
+// Returns only the program's own messages: on newer releases, the image loader also reports that it runs without its
 // sandbox.
 std::string OwnLines(const std::string& errors)
 {

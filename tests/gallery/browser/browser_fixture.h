@@ -21,7 +21,8 @@ protected:
     BrowserTest();
     ~BrowserTest() override;
 
-    /// Opens a window on @a path, or on the last session's folder, and waits until it is shown.
+    /// Opens a window on @a path, and waits until the window is shown. If @a path is empty, the window shows the folder
+    /// of the last session.
     void Open(const std::string& path);
 
     /// Closes the window as a user does, and waits until it is destroyed.

@@ -52,7 +52,7 @@ protected:
         ASSERT_TRUE(PumpUntil([this] { return Combo().IsPopupShown() && Combo().GetPopup()->IsShownOnScreen(); }));
     }
 
-    /// Points at a cell of the open colours, and clicks it.
+    /// Clicks a cell of the open popup, and waits until the popup is closed.
     void ClickCell(int cell)
     {
         PointAtCell(cell);

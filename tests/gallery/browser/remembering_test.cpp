@@ -71,7 +71,7 @@ TEST_F(Remembering, ThePanesComeBackAsTheyWereDragged)
     EXPECT_TRUE(PumpUntil([&] { return Tree().GetSize().x == first; }));
 }
 
-// The floating pane must be above the window, or it could not be clicked.
+// The floating pane must stay above the window, even after a click on the window. Otherwise the window would hide it.
 TEST_F(Remembering, FloatingFoldersComeBackAboveTheWindow)
 {
     Open(root);
@@ -236,7 +236,7 @@ TEST_F(Remembering, OrderAndColumnWidthsComeBack)
     EXPECT_EQ(List().GetSortOrder().column, SortColumn::Modified);
 }
 
-// Earlier versions stored the columns in a file of the gallery.
+// Earlier versions of the gallery stored the columns in ui_config/browser.ini.
 TEST_F(Remembering, OrderAndColumnWidthsOfAnEarlierVersionComeBack)
 {
     fs::create_directories(settings / "ui_config");

@@ -185,8 +185,8 @@ TEST_F(SizeFilterTest, TheSelectedEntryStaysSelectedWhileItIsListed)
     EXPECT_EQ(Status(1), "");
 }
 
-// While rows are being removed, the toolkit's list may return a selected row that no longer exists, so no selection
-// event may be sent then.
+// While rows are being removed, the toolkit's list can return a selected row that no longer exists. Therefore the list
+// must not send a selection event before all these rows are removed.
 TEST_F(SizeFilterTest, TheSelectedFolderMayProveTooSmall)
 {
     ASSERT_TRUE(PumpUntil([&] { return !frame->GetBrowser()->GetSizes()->IsRunning(); }));

@@ -148,7 +148,7 @@ TEST_F(Sizes, StoppingTakesAMomentAndKeepsWhatIsKnown)
 {
     Open(MakeLargeFolder());
     ASSERT_TRUE(ComesToRest());
-    // On a busy machine the worker may finish before the window has received an event. Then it is started again.
+    // On a busy machine, the worker may finish before the window has received an event. Then start the worker again.
     ASSERT_TRUE(PumpUntil([&] {
         if (!Row().IsRunning())
             Row().Start(memory.Path());

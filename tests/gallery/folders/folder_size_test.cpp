@@ -224,7 +224,7 @@ TEST(SumFolder, ComesBackToEveryFolderOnTheWayUp)
     EXPECT_EQ(sum.bytes, ListedSize(folder.Path()));
 }
 
-/// Moves a part of the chain away after 200 items, when the walk has reached the end of the chain.
+/// Moves a part of a chain away after 200 items. The walk is then about 100 levels deep in one of the chains.
 class Mover : public Notes
 {
 public:

@@ -16,7 +16,7 @@ TEST_F(NumbersPageTest, TheControlTellsItsNumberAtEachKey)
     Press('A', wxMOD_CONTROL);
     Type("-12x345.67");
     EXPECT_TRUE(PumpUntil([&] { return Label("NumberCtrlNumber") == L"\u2713 -12345.67"; }));
-    // The control follows the format.
+    // When the format changes, the control shows its number in the new format.
     Press('P', wxMOD_ALT);
     ASSERT_TRUE(FocusComesTo("DecimalPoint"));
     Type(",");

@@ -72,7 +72,8 @@ TEST_F(NumbersPageTest, AnEmptyNumberAndNoValidatorComeBackToo)
     EXPECT_EQ(Number().GetValue(), "x");
 }
 
-// A stored template is never used: it would be a printf format from outside the program.
+// The page uses a stored template only if it is one of those that the page offers. Any other template is a printf
+// format from outside the program.
 TEST_F(NumbersPageTest, NonsenseInTheSettingsDoesNoHarm)
 {
     Close();
