@@ -152,7 +152,7 @@ TEST(FormatControlText, RoundsToAnInteger)
     EXPECT_EQ(Rounded(L"+.4", 0), L"");
 }
 
-// A number that is rounded to no decimals loses its point. Otherwise, the point stays if text follows it.
+// A number that is rounded to an integer loses its point. If decimals are allowed, a point before other text stays.
 TEST(FormatControlText, DropsThePointOfAnIntegerBeforeJunk)
 {
     EXPECT_EQ(Rounded(L"5.x", 0), L"5");

@@ -16,7 +16,7 @@ std::wstring Many(wchar_t c, std::size_t count = kLong)
     return std::wstring(count, c);
 }
 
-/// Accepts any number of digits, a fraction and an exponent.
+/// Returns a format that allows any number of digits, a fraction and an exponent.
 CNumberFormat Endless()
 {
     CNumberFormat format(eLocaleFormat);
@@ -176,8 +176,9 @@ CNumberFormat FromBits(unsigned flags)
     return format;
 }
 
-// With any separators and flags, a formatted number contains no null character and has a limited length, and a valid
-// text may also be typed. Other tests check the results, and the sanitizers check the memory.
+// With any separators and flags, FormatControlText() returns a text of limited length without a null character, and
+// ValidateInput() accepts each text that ValidateString() accepts. Other tests check the results, and the sanitizers
+// check the memory.
 TEST(UnusualFormats, BreakNothing)
 {
     const std::wstring separators(L"\000059eE+-., %x\u066b", 14);

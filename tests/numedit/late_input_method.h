@@ -6,8 +6,9 @@
 #include <gtest/gtest.h>
 #include <gtk/gtk.h>
 
-/// Acts as the input method of all GTK entries while the object exists. It shows what is typed as preedit text, and
-/// commits only when the test says so, outside any key event.
+/// Acts as the input method of all GTK entries while the object exists. It shows what is typed as preedit text. It
+/// commits this text outside any key event: when the test calls Commit(), and, if commitsWhenTheFocusLeaves is true,
+/// when the entry loses the focus.
 class LateInputMethod
 {
 public:

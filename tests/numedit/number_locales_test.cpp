@@ -228,7 +228,8 @@ TEST(CurrentConversion, ReadsSeparatorsBeyondAscii)
 }
 
 // With this conversion, the locale's point has two characters. The grammar and the locale preset use only the first.
-// Where the functions replace the format's point by the locale's or the other way round, they use both characters.
+// ValidateString() replaces the format's point by both characters, and FormatControlText() replaces both characters by
+// the format's point.
 TEST(CurrentConversion, MayMakeSeveralCharactersOfThePoint)
 {
     const ScopedLocale pashto("ps_AF.UTF-8");

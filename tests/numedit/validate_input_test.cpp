@@ -13,7 +13,7 @@ bool Accepted(const wchar_t* text, const CNumberFormat& format)
     return CNumberEditUtils::ValidateInput(text, format);
 }
 
-/// Accepts only numbers of at least 1, with two decimals.
+/// Returns a format for numbers of at least 1 with at most two decimals.
 CNumberFormat FromOne()
 {
     CNumberFormat format(eFixedFormat);

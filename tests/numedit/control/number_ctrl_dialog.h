@@ -41,7 +41,7 @@ public:
     wxDialog* dialog;
     wxTextCtrl* first;
     wxNumberCtrl* number;
-    int textEvents = 0;                ///< wxEVT_TEXT of the number control
+    int textEvents = 0;                ///< the number of wxEVT_TEXT events of the number control
     std::vector<std::string> numbers;  ///< the values of the wxEVT_NUMBER_CHANGED events
 };
 

@@ -129,7 +129,8 @@ class NumberDrop : public testing::Test
 protected:
     void SetUp() override { screen.Show(); }
 
-    /// Drags the selected text of a field to another place on the screen.
+    /// Drags the selected text of a field from @a grip to @a to, both on the screen. If @a moves is true, holds Shift,
+    /// with which GTK moves the text to another field instead of copying it.
     void Drag(wxTextCtrl& from, const wxPoint& grip, const wxPoint& to, bool moves)
     {
         // Hold the widgets, because the drop may destroy the controls.
@@ -145,7 +146,7 @@ protected:
         long first = 0;
         long last = 0;
         from.GetSelection(&first, &last);
-        // Repeat the press: while GTK still shows the end of a refused drag, a press begins no other drag.
+        // Press until a drag begins: while GTK still shows the end of a refused drag, a press does not begin another.
         EXPECT_TRUE(PumpUntil([&] {
             from.SetSelection(first, last);
             mouse.MouseMove(grip);

@@ -1,4 +1,4 @@
-// Compares 100,000 sequences of random keys with a list of all numbers within the bounds.
+// Types 100,000 sequences of random keys. A text must be accepted exactly if a number within the bounds begins with it.
 
 #include <fittings/numedit/number_rules.h>
 
@@ -13,7 +13,8 @@
 
 namespace {
 
-/// The numbers that a field accepts. The bounds are in hundredths.
+/// The numbers that a field accepts: the highest numbers of digits before and after the point, whether an exponent is
+/// allowed, and the bounds in hundredths.
 struct Field
 {
     int integers;
@@ -188,7 +189,8 @@ void TypeAndCompare(Keys& keys, const Field& field, const Beginnings& beginnings
             inside ? static_cast<std::size_t>(keys.Below(static_cast<int>(text.size()) + 1)) : text.size();
         std::string typed = text;
         typed.replace(at, inside ? static_cast<std::size_t>(keys.Below(3)) : 0, 1, keys.Next(field.exponent));
-        // The listed exponents have at most three digits, so the test compares only texts with at most two.
+        // No exponent in the list has more than three digits. A text with three of them may need a fourth, as 1e-000
+        // does for 1e-0001. Therefore compare only texts with at most two.
         if (ExponentDigits(typed) > 2)
             continue;
         const bool accepted = fittings::CanBeTyped(std::wstring(typed.begin(), typed.end()), rules);

@@ -15,7 +15,8 @@ HUGE_COUNTS = [2**31, 2**32, 2**63 - 1, 2**63, 2**64 - 2, 2**64 - 1]
 BOUNDS = [0.0, -0.0, 1.0, -1.0, 0.5, 0.05, 5.0, 12.0, 99.0, 1000.0, -1000.0, 1e5, 1e300, -1e300, 5e-324]
 ODD_BOUNDS = [math.nan, math.inf, -math.inf]
 BLANKS = [" ", "\t", "\n", "\v", "\f", "\r", "\u2003", "\u3000", "\u1680", "\u2028"]
-# Blanks that iswspace() rejects, digits that iswdigit() rejects, and the ASCII neighbours of the digits.
+# Blanks that iswspace() rejects, digits that iswdigit() rejects, a minus sign beyond ASCII, and the ASCII neighbours of
+# the digits.
 LOOKALIKES = ["\u00a0", "\u202f", "\u200b", "\ufeff", "\u0665", "\u0967", "\uff11", "\u00b2", "\u2212", "/", ":"]
 WORDS = ["inf", "nan", "-infinity", "0x1F", "0x1p3", "1e400", "-1e-400", "1e+", "1-5", "12+5", "--1", "+-1", "1e5e5"]
 SOUP = list("0123456789" "000599" "..,,++--eeEE  xX%'n") + POINTS + BLANKS + LOOKALIKES
@@ -88,7 +89,7 @@ def _point(rng, locale_point):
 
 
 def _digits(rng, longest):
-    # Rows of nines, fives and trailing zeros, for the carry, for rounding and for trimming.
+    # Nines, fives and zeros are frequent, because they lead to carries, to rounding and to trimming.
     alphabet = rng.choice(["0123456789", "0123456789", "09", "0", "9", "499995"])
     return "".join(rng.choice(alphabet) for _ in range(rng.randint(0, longest)))
 

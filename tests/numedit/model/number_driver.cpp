@@ -92,7 +92,7 @@ void RunCase()
     WriteFlag(CNumberEditUtils::ValidateString(pointer, format));
     WriteFlag(CNumberEditUtils::ValidateInput(pointer, format));
     WriteText(CNumberEditUtils::FormatControlText(pointer, format));
-    // Write the answers at once: if the next case ends the process, the script knows by their number which case it was.
+    // Write the answers at once: if the next case ends the process, the script counts the answers to find that case.
     std::fflush(stdout);
 }
 

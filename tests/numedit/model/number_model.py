@@ -87,7 +87,7 @@ def cut_zeros(text, number_format, locale):
     start = 0
     while start < len(text) and locale.is_blank(text[start]):
         start += 1
-    # The last character stays, even if it is a zero. After a sign, no zeros are cut.
+    # The last character stays, even if it is a zero. Leading zeros after a sign are not cut.
     while start < len(text) - 1 and text[start] == "0":
         start += 1
     end = len(text)

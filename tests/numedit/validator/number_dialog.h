@@ -12,7 +12,7 @@
 
 #include <fittings/numedit/num_validator.h>
 
-/// Returns how often wxBell() was called. This program replaces it with a function that only counts.
+/// Returns how often wxBell() was called. This program replaces wxBell() with a function that only counts the calls.
 int Bells();
 
 /// A validator whose members a test can read.
@@ -26,7 +26,7 @@ public:
     using wxNumValidator::wxNumValidator;
 };
 
-/// Returns a format with two decimals, five integer digits and the given decimal point.
+/// Returns the fixed preset with the given decimal point. It allows two decimals and five integer digits.
 CNumberFormat FixedFormat(wchar_t point = L'.');
 
 /// Records each key that reaches any window of the program.
@@ -96,7 +96,7 @@ public:
     wxDialog* dialog;
     wxTextCtrl* first;
     wxTextCtrl* number;
-    int textEvents = 0;  ///< wxEVT_TEXT of the number's control
+    int textEvents = 0;  ///< The number of wxEVT_TEXT events of the number's control.
 };
 
 /// Turns the bells of all validators off while the object exists.

@@ -46,7 +46,7 @@ protected:
         EXPECT_EQ(screen.keys.chars, Codes{0});
     }
 
-    // The destructor restores the key's letter.
+    // The destructor of Layout restores the letter of the key that TypeBehindOne() changes.
     Layout layout{{"us"}, kKeyA, 0, "a"};
 };
 

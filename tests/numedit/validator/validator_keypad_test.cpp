@@ -174,7 +174,8 @@ TEST(KeypadWithoutNumLock, MovesTheCaret)
     EXPECT_EQ(screen.BellsRung(), 0);
 }
 
-// The German layout gives the decimal key a comma and another key code, so the validator treats it as any character.
+// In the German layout, the decimal key types a comma and has another key code. Therefore the validator treats the
+// comma like any other character.
 class GermanKeypad : public testing::Test
 {
 protected:

@@ -232,7 +232,8 @@ class Chords : public testing::TestWithParam<Chord>
 {
 };
 
-// Control changes a letter to a control character. Other keys keep their code.
+// With Control, a letter becomes a control character, and a digit stays a digit. With Alt, letters and digits do not
+// change.
 TEST_P(Chords, AreCheckedByTheirCodeAlone)
 {
     NumberDialog screen{FixedFormat()};
