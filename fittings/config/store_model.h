@@ -88,7 +88,7 @@ private:
     static void ForgetChanges(StoreGroup& group);
 
     const std::optional<std::wstring> m_file;
-    OwnedIniFile m_ini;  ///< The store as Refresh() loaded it, with the changes not saved then. Empty after Save().
+    OwnedIniFile m_ini;  ///< The store as Refresh() loaded it, with the changes not saved then. Emptied with each save.
     bool m_isLoaded = false;
     std::unique_ptr<StoreGroup> m_root;
 
