@@ -171,18 +171,23 @@ std::optional<double> DoubleOf(const Decimal& number)
     return value;
 }
 
-std::optional<std::int64_t> IntegerOf(const Decimal& number)
+template <typename Integer>
+std::optional<Integer> IntegerOf(const Decimal& number)
 {
     if (number.IsZero())
-        return 0;
-    if (LowestPlace(number) < 0 || number.point > std::numeric_limits<std::int64_t>::digits10 + 1)
+        return Integer{0};
+    if (LowestPlace(number) < 0 || number.point > std::numeric_limits<Integer>::digits10 + 1)
         return std::nullopt;
     const std::string text = *PlainText(number);
-    std::int64_t value = 0;
+    Integer value = 0;
     if (std::from_chars(text.data(), text.data() + text.size(), value).ec != std::errc())
         return std::nullopt;
     return value;
 }
+
+template std::optional<std::int64_t> IntegerOf(const Decimal& number);
+template std::optional<int> IntegerOf(const Decimal& number);
+template std::optional<unsigned> IntegerOf(const Decimal& number);
 
 int Compare(const Decimal& left, const Decimal& right)
 {

@@ -36,8 +36,9 @@ std::optional<Decimal> DecimalOf(double value);
 /// Returns the nearest double; nothing if that is infinite.
 std::optional<double> DoubleOf(const Decimal& number);
 
-/// Returns the number as an integer; nothing if it has a fraction or does not fit.
-std::optional<std::int64_t> IntegerOf(const Decimal& number);
+/// Returns the number as a std::int64_t, `int` or `unsigned`; nothing if it has a fraction or does not fit.
+template <typename Integer>
+std::optional<Integer> IntegerOf(const Decimal& number);
 
 /// Returns 0 if the numbers are equal, a value below 0 if @a left is the smaller one, and otherwise a value above 0.
 int Compare(const Decimal& left, const Decimal& right);

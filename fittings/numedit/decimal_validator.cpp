@@ -46,7 +46,8 @@ std::optional<std::string> TextOf(const double* value)
     return number ? fittings::PlainText(*number) : std::nullopt;
 }
 
-std::optional<std::string> TextOf(const std::int64_t* value)
+template <typename Integer>
+std::optional<std::string> TextOf(const Integer* value)
 {
     return std::to_string(*value);
 }
@@ -74,10 +75,11 @@ bool Take(const std::string& text, double* variable, bool store)
     return value.has_value();
 }
 
-bool Take(const std::string& text, std::int64_t* variable, bool store)
+template <typename Integer>
+bool Take(const std::string& text, Integer* variable, bool store)
 {
     const std::optional<Decimal> number = fittings::ParseDecimal(text);
-    const std::optional<std::int64_t> value = number ? fittings::IntegerOf(*number) : std::nullopt;
+    const std::optional<Integer> value = number ? fittings::IntegerOf<Integer>(*number) : std::nullopt;
     if (value && store)
         *variable = *value;
     return value.has_value();
@@ -104,6 +106,17 @@ wxDecimalValidator::wxDecimalValidator(double* value, const CNumberFormat& forma
 wxDecimalValidator::wxDecimalValidator(std::int64_t* value) : wxDecimalValidator(value, wxNumberCtrl::FromLocale()) {}
 
 wxDecimalValidator::wxDecimalValidator(std::int64_t* value, const CNumberFormat& format)
+    : m_format(format), m_variable(value)
+{
+}
+
+wxDecimalValidator::wxDecimalValidator(int* value) : wxDecimalValidator(value, wxNumberCtrl::FromLocale()) {}
+
+wxDecimalValidator::wxDecimalValidator(int* value, const CNumberFormat& format) : m_format(format), m_variable(value) {}
+
+wxDecimalValidator::wxDecimalValidator(unsigned* value) : wxDecimalValidator(value, wxNumberCtrl::FromLocale()) {}
+
+wxDecimalValidator::wxDecimalValidator(unsigned* value, const CNumberFormat& format)
     : m_format(format), m_variable(value)
 {
 }

@@ -12,8 +12,8 @@
 
 class wxTextEntry;
 
-/// Transfers a number between a field and a variable of the program. The variable is a `double`, a `std::int64_t`, or a
-/// wxString with decimal digits of any length and a dot as the point.
+/// Transfers a number between a field and a variable of the program. The variable is a `double`, an `int`, an
+/// `unsigned`, a `std::int64_t`, or a wxString with decimal digits of any length and a dot as the point.
 ///
 /// @code
 /// new wxNumberCtrl(&dialog, wxID_ANY, wxNumberCtrl::FromLocale(), wxDefaultPosition, wxDefaultSize, 0,
@@ -50,6 +50,18 @@ public:
     /// Transfers a whole number. @a format applies to fields other than a wxNumberCtrl.
     wxDecimalValidator(std::int64_t* value, const CNumberFormat& format);
 
+    /// Transfers a whole number that fits an `int`.
+    explicit wxDecimalValidator(int* value);
+
+    /// Transfers a whole number that fits an `int`. @a format applies to fields other than a wxNumberCtrl.
+    wxDecimalValidator(int* value, const CNumberFormat& format);
+
+    /// Transfers a whole number that fits an `unsigned`: none below 0.
+    explicit wxDecimalValidator(unsigned* value);
+
+    /// Transfers a whole number that fits an `unsigned`. @a format applies to fields other than a wxNumberCtrl.
+    wxDecimalValidator(unsigned* value, const CNumberFormat& format);
+
     /// Transfers decimal text.
     explicit wxDecimalValidator(wxString* value);
 
@@ -80,7 +92,7 @@ public:
 
 private:
     /// @cond
-    using Variable = std::variant<std::monostate, double*, std::int64_t*, wxString*>;
+    using Variable = std::variant<std::monostate, double*, std::int64_t*, wxString*, int*, unsigned*>;
     /// @endcond
 
     bool Move(bool store) const;

@@ -123,6 +123,12 @@ public:
     /// or if the number has a fraction or does not fit.
     bool GetNumber(std::int64_t* value) const;
 
+    /// Stores the number in @a value as GetNumber(std::int64_t*) does.
+    bool GetNumber(int* value) const;
+
+    /// Stores the number in @a value as GetNumber(std::int64_t*) does. A number below 0 does not fit.
+    bool GetNumber(unsigned* value) const;
+
     /// Returns the number with all its digits and a dot as its point; empty if the field has no number.
     wxString GetDecimal() const;
 

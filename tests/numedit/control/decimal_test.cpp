@@ -89,14 +89,28 @@ TEST(Doubles, GoInAndOutWithoutLoss)
 
 TEST(Integers, ComeOutExactlyOrNotAtAll)
 {
-    EXPECT_EQ(fittings::IntegerOf(Number("9223372036854775807")), std::numeric_limits<std::int64_t>::max());
-    EXPECT_EQ(fittings::IntegerOf(Number("-9223372036854775808")), std::numeric_limits<std::int64_t>::min());
-    EXPECT_EQ(fittings::IntegerOf(Number("5.00")), 5);
-    EXPECT_EQ(fittings::IntegerOf(Number("12e2")), 1200);
-    EXPECT_EQ(fittings::IntegerOf(Number("-0")), 0);
-    EXPECT_FALSE(fittings::IntegerOf(Number("9223372036854775808")));
-    EXPECT_FALSE(fittings::IntegerOf(Number("0.5")));
-    EXPECT_FALSE(fittings::IntegerOf(Number("1e999999999")));
+    EXPECT_EQ(fittings::IntegerOf<std::int64_t>(Number("9223372036854775807")),
+              std::numeric_limits<std::int64_t>::max());
+    EXPECT_EQ(fittings::IntegerOf<std::int64_t>(Number("-9223372036854775808")),
+              std::numeric_limits<std::int64_t>::min());
+    EXPECT_EQ(fittings::IntegerOf<std::int64_t>(Number("5.00")), 5);
+    EXPECT_EQ(fittings::IntegerOf<std::int64_t>(Number("12e2")), 1200);
+    EXPECT_EQ(fittings::IntegerOf<std::int64_t>(Number("-0")), 0);
+    EXPECT_FALSE(fittings::IntegerOf<std::int64_t>(Number("9223372036854775808")));
+    EXPECT_FALSE(fittings::IntegerOf<std::int64_t>(Number("0.5")));
+    EXPECT_FALSE(fittings::IntegerOf<std::int64_t>(Number("1e999999999")));
+}
+
+TEST(DecimalInteger, FitsItsType)
+{
+    EXPECT_EQ(fittings::IntegerOf<int>(Number("2147483647")), 2147483647);
+    EXPECT_EQ(fittings::IntegerOf<int>(Number("-2147483648")), std::numeric_limits<int>::min());
+    EXPECT_EQ(fittings::IntegerOf<unsigned>(Number("4294967295")), 4294967295u);
+    EXPECT_EQ(fittings::IntegerOf<unsigned>(Number("-0.0")), 0u);
+    for (const char* const refused : {"2147483648", "-2147483649", "3000000000", "1e10", "1.5", "0.1"})
+        EXPECT_FALSE(fittings::IntegerOf<int>(Number(refused))) << refused;
+    for (const char* const refused : {"4294967296", "-1", "1e10", "1.5"})
+        EXPECT_FALSE(fittings::IntegerOf<unsigned>(Number(refused))) << refused;
 }
 
 TEST(ADecimal, IsRoundedToDecimals)

@@ -78,6 +78,50 @@ TEST(AValidatorOnANumberCtrl, RefusesWhatTheControlRefuses)
     EXPECT_EQ(screen.Text(), L"5");
 }
 
+CNumberFormat WithoutLimits()
+{
+    CNumberFormat format(eFixedFormat);
+    format.m_bHasMaxIntDigits = false;
+    return format;
+}
+
+TEST(AValidatorOnANumberCtrl, MovesAnInt)
+{
+    int count = std::numeric_limits<int>::min();
+    NumberCtrlDialog screen(WithoutLimits(), wxDecimalValidator(&count));
+    screen.Show();
+    ASSERT_TRUE(screen.dialog->TransferDataToWindow());
+    EXPECT_EQ(screen.Text(), L"-2147483648");
+    for (const char* const text : {"2147483648", "-2147483649", "2.5", "12345678901234567890", ""}) {
+        screen.Restart(text);
+        EXPECT_FALSE(screen.dialog->Validate()) << text;
+        EXPECT_FALSE(screen.number->GetValidator()->TransferFromWindow()) << text;
+        EXPECT_EQ(count, std::numeric_limits<int>::min());
+    }
+    screen.Restart("2147483647");
+    EXPECT_TRUE(screen.dialog->Validate());
+    EXPECT_TRUE(screen.dialog->TransferDataFromWindow());
+    EXPECT_EQ(count, std::numeric_limits<int>::max());
+}
+
+TEST(AValidatorOnANumberCtrl, MovesAnUnsigned)
+{
+    unsigned count = std::numeric_limits<unsigned>::max();
+    NumberCtrlDialog screen(WithoutLimits(), wxDecimalValidator(&count));
+    screen.Show();
+    ASSERT_TRUE(screen.dialog->TransferDataToWindow());
+    EXPECT_EQ(screen.Text(), L"4294967295");
+    for (const char* const text : {"4294967296", "-1", "2.5", ""}) {
+        screen.Restart(text);
+        EXPECT_FALSE(screen.dialog->Validate()) << text;
+        EXPECT_FALSE(screen.number->GetValidator()->TransferFromWindow()) << text;
+        EXPECT_EQ(count, std::numeric_limits<unsigned>::max());
+    }
+    screen.Restart("0.00");
+    EXPECT_TRUE(screen.dialog->TransferDataFromWindow());
+    EXPECT_EQ(count, 0u);
+}
+
 class AValidatorOnAComboBox : public testing::Test
 {
 protected:
@@ -111,6 +155,21 @@ TEST_F(AValidatorOnAComboBox, MovesNumbersByItsOwnFormat)
         EXPECT_FALSE(combo->GetValidator()->TransferFromWindow());
     }
     EXPECT_EQ(price, -77.25);
+}
+
+TEST_F(AValidatorOnAComboBox, MovesIntegersByItsOwnFormat)
+{
+    int change = -7;
+    combo->SetValidator(wxDecimalValidator(&change, FixedFormat(L',')));
+    ASSERT_TRUE(frame->TransferDataToWindow());
+    EXPECT_EQ(combo->GetValue(), "-7");
+    combo->SetValue("77-");
+    EXPECT_TRUE(frame->TransferDataFromWindow());
+    EXPECT_EQ(change, -77);
+    unsigned count = 7;
+    combo->SetValidator(wxDecimalValidator(&count, FixedFormat(L',')));
+    EXPECT_FALSE(frame->TransferDataFromWindow());
+    EXPECT_EQ(count, 7u);
 }
 
 TEST_F(AValidatorOnAComboBox, ChecksWithoutAVariable)

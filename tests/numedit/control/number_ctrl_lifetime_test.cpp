@@ -21,6 +21,8 @@ TEST(NumberLifetime, BeginsWithCreate)
     const std::unique_ptr<wxNumberCtrl> number = std::make_unique<wxNumberCtrl>();
     double real = 77;
     std::int64_t whole = 77;
+    int small = 77;
+    unsigned count = 77;
     const ExpectAssertions assertions;
     number->SetFormat(FixedFormat());
     number->GetFormat();
@@ -40,6 +42,11 @@ TEST(NumberLifetime, BeginsWithCreate)
     EXPECT_FALSE(number->SetIncrement(2));
     EXPECT_FALSE(number->Validate());
     EXPECT_EQ(assertions.Count(), 15);
+    EXPECT_FALSE(number->GetNumber(&small));
+    EXPECT_FALSE(number->GetNumber(&count));
+    EXPECT_EQ(assertions.Count(), 17);
+    EXPECT_EQ(small, 77);
+    EXPECT_EQ(count, 77u);
     EXPECT_EQ(real, 77);
     EXPECT_EQ(whole, 77);
 }

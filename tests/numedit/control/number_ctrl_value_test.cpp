@@ -78,6 +78,25 @@ TEST_F(NumberValue, OfAnIntegerComesBackExactly)
     EXPECT_FALSE(screen.number->GetNumber(&whole)) << "the number does not fit an integer";
 }
 
+TEST_F(NumberValue, IsReadAsAnIntegerOfASmallerType)
+{
+    int number = 77;
+    unsigned count = 77;
+    ASSERT_TRUE(screen.number->SetNumber(-5));
+    EXPECT_TRUE(screen.number->GetNumber(&number));
+    EXPECT_EQ(number, -5);
+    EXPECT_FALSE(screen.number->GetNumber(&count));
+    ASSERT_TRUE(screen.number->SetNumber(3000000000));
+    EXPECT_FALSE(screen.number->GetNumber(&number));
+    EXPECT_TRUE(screen.number->GetNumber(&count));
+    EXPECT_EQ(count, 3000000000u);
+    ASSERT_TRUE(screen.number->SetDecimal("1.5"));
+    EXPECT_FALSE(screen.number->GetNumber(&number));
+    EXPECT_FALSE(screen.number->GetNumber(&count));
+    EXPECT_EQ(number, -5);
+    EXPECT_EQ(count, 3000000000u);
+}
+
 TEST_F(NumberValue, OfAThousandDigitsComesBackExactly)
 {
     const std::string digits = "-1" + std::string(998, '0') + "7.05";
