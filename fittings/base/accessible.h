@@ -15,8 +15,9 @@ enum class AccessibleRole { ComboBox, Grid, Text, Tree };
 /// description. If @a value is empty, @a label becomes the name. If either is empty, the description does not change.
 void Describe(wxWindow& window, AccessibleRole role, const wxString& label, const wxString& value);
 
-/// Makes the static texts that label @a window, and their mnemonics, lead to @a part, the part of the window that takes
-/// the focus. When the Tab order changes, the toolkit makes them lead to the window itself. Call this again then.
+/// Connects the labels of @a window to @a part, the part of the window that takes the focus. The labels are static
+/// texts; their mnemonics then lead to @a part. When the Tab order changes, the toolkit connects the labels to the
+/// window itself: then call this function again.
 void LabelPart(wxWindow& window, wxWindow& part);
 
 }  // namespace fittings

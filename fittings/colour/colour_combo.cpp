@@ -249,7 +249,7 @@ void wxColourCombo::DrawStep(int elapsed)
     if (m_animBitmap.IsOk())
         screen.DrawBitmap(m_animBitmap, m_animRect.GetPosition());
     screen.DrawRectangle(outline);
-    // Show the outline in a window of its own too: what is drawn directly on the screen appears below all windows.
+    // Also show the outline in a window of its own: all windows cover what is drawn directly on the screen.
     if (m_outline)
         m_outline->ShowOutline(m_animRect, outline);
 }

@@ -143,15 +143,19 @@ public:
     /// marked again.
     void FindCellFromColour(const wxColour& colour);
 
-    /// Returns the text of the hot cell; empty when no cell is hot. While the popup closes after a cancelled selection,
-    /// or after one whose colour SetColour() has replaced, the result is the value that the combo gets back.
+    /// Returns the text of the hot cell; empty when no cell is hot.
+    ///
+    /// If the selection was cancelled, or if SetColour() has replaced the chosen colour, DoEndSel() restores the
+    /// combo's value. In these cases, the result is that value while DoEndSel() closes the popup.
     wxString GetStringValue() const override;
 
     /// Makes the cell with the name @a value hot. The language and the letter case must be those of the table. Any
-    /// other text changes nothing, and neither does the text of a box. The name of the hot cell changes nothing while
-    /// the popup is open. No name changes anything while the popup hides itself, because the combo then passes back a
-    /// value that the user did not choose, nor while the popup notifies the listener and the event handlers of the end
-    /// of the selection.
+    /// other text, such as the text of a box, changes nothing. While the popup is open, the name of the hot cell
+    /// changes nothing.
+    ///
+    /// Every name is ignored while the popup hides itself or restores the combo's value: the combo then passes names
+    /// that the user has not chosen. Every name is also ignored while the popup notifies the listener and the event
+    /// handlers of the end of the selection.
     ///
     /// A value that the host sets while the popup is open stays the combo's value if the user chooses nothing.
     void SetStringValue(const wxString& value) override;
@@ -279,12 +283,12 @@ protected:
     int m_nChosenColourSel;             ///< The chosen cell.
     int m_nCurrentSel;                  ///< The hot cell.
     wxFont m_font;                      ///< The font of the boxes.
-    wxColour m_crColour;                ///< The colour of the hot cell.
+    wxColour m_crColour;                ///< The colour of the hot cell; the one in effect while none is hot.
     wxColour m_crInitialColour;         ///< The colour in effect.
     wxColour m_crDefaultColour;         ///< What "Automatic" stands for.
     wxColorPopupListener* m_pListener;  ///< Not owned.
     bool m_bRefreshCombo;               ///< Whether the combo is redrawn with each hot cell.
-    bool m_bInternalHide;               ///< True while the popup hides itself.
+    bool m_bInternalHide;               ///< True while the popup hides itself or restores the combo's value.
     wxWindow* m_pCenterOn;              ///< Not owned.
     wxString m_strToolTip;              ///< The name that is shown at the pointer.
 
@@ -312,7 +316,8 @@ private:
     bool m_isClosingAfterCancel = false;
     bool m_dialogCancelled = false;            ///< True from a cancelled dialog to the end of the selection.
     std::optional<wxString> m_valueWhenShown;  ///< What the combo gets back if nothing is chosen; none while closed.
-    const std::shared_ptr<const bool> m_life = std::make_shared<const bool>(true);  ///< Expires with the popup.
+    /// Weak pointers to this expire when the popup is destroyed.
+    const std::shared_ptr<const bool> m_life = std::make_shared<const bool>(true);
 
     wxDECLARE_EVENT_TABLE();
 };

@@ -160,7 +160,7 @@ void wxColourPopup::DrawAutomatic(wxDC& dc)
     DrawEdge(dc, base, CELL_AUTOMATIC);
     DrawCentredText(dc, base, m_font, m_strAutomatic);
 
-    // The colour covers the whole swatch; in a cell of the palette it leaves a margin.
+    // Fill the whole swatch with the colour. In a cell of the palette, there is a margin around the colour.
     const int side = box.height / 3;
     const int inset = (box.height - side) / 2;
     wxRect swatch(box.x + inset, box.y + inset, side, side);
