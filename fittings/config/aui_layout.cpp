@@ -11,8 +11,8 @@ namespace {
 
 constexpr std::wstring_view kStart = L"layout2|";
 
-// The greatest length of a layout, and the largest number of its panes and docks together. The toolkit copies the rest
-// of the text for each of them, so more would take too long.
+// The greatest length of a layout, and the largest number of its panes and docks together. For each pane and each dock,
+// the toolkit copies the rest of the text. A larger layout would therefore take too long.
 constexpr std::size_t kLongest = 1'000'000;
 constexpr int kMostParts = 2000;
 
@@ -22,10 +22,11 @@ constexpr int kMostParts = 2000;
 constexpr std::int64_t kMostSteps = 10'000'000;
 constexpr std::int64_t kMostRows = 10'000;
 
-// If the toolkit would read a number in a name or caption as a field, this is the largest number that is accepted.
+// The toolkit may read part of a name or caption as a field: see AreReadAtOnce(). This is the largest value that such a
+// field may have.
 constexpr long kMostInText = 100;
 
-// The largest coordinate or size, in pixels. The sum over the largest number of parts does not overflow.
+// The largest coordinate or size, in pixels. The sum of kMostParts such numbers does not overflow.
 constexpr std::int64_t kFarthest = 1'000'000;
 
 constexpr std::int64_t kLastDirection = 5;                   // wxAUI_DOCK_CENTER
@@ -59,7 +60,7 @@ public:
         return taken;
     }
 
-    /// Takes a number from @a least to @a most. It must look as printf writes an integer: no "+", no needless zero.
+    /// Takes a number from @a least to @a most. The number must look as printf writes it: no "+", no needless zero.
     std::int64_t TakeNumber(std::int64_t least, std::int64_t most)
     {
         const bool isNegative = IsBefore(L"-");
@@ -135,18 +136,19 @@ bool AreTexts(std::wstring_view texts)
             return false;
         separator = at;
     }
-    // If the name ends with a "\", the separator looks escaped: find it by the field after it.
+    // If the name ends with a "\", the separator looks escaped: find ";caption=", which begins with the separator.
     if (separator == texts.npos)
         separator = texts.find(kCaption);
     return separator != texts.npos && texts.substr(0, 5) == L"name=" &&
            texts.substr(separator, kCaption.size()) == kCaption;
 }
 
-/// Returns false if the toolkit would read a part of the texts as a field whose number is below 0 or above kMostInText.
+/// Returns false if the toolkit would read part of the texts as a field, and the field's value is below 0 or above
+/// kMostInText.
 ///
-/// The toolkit ends a field even at an escaped ";", and reads what follows as the next field. In the caption
-/// "a;row=99999999;", it finds a row, and takes the empty field after the row for the end of the pane. "\b" is the
-/// toolkit's placeholder for an escaped ";".
+/// The toolkit ends a field even at an escaped ";", and reads what follows as the next field. From the caption
+/// "a;row=99999999;", it reads a row of 99999999. The field after the row is empty, and the toolkit treats an empty field
+/// as the end of the pane. "\b" is the toolkit's placeholder for an escaped ";".
 bool AreReadAtOnce(std::wstring_view texts)
 {
     for (std::size_t at = texts.find_first_of(L";\b"); at != texts.npos; at = texts.find_first_of(L";\b", at + 1)) {

@@ -8,7 +8,7 @@ class wxWindow;
 
 namespace fittings {
 
-/// Makes a hidden window appear as soon as it is shown, with the outer size that it has then.
+/// Makes a hidden window appear as soon as Show() is called, with the outer size that it has then.
 ///
 /// The toolkit shows the first window of a kind only after the window manager has announced the size of its
 /// decorations. By then GTK has made the window at (0, 0), and some window managers leave it there. GTK also warns of

@@ -48,7 +48,8 @@ const int* Field(const wxRect& rect, const wxString& name)
 }
 
 /// Returns whether a stored number can be passed to the toolkit as a value of @a who. The toolkit would assert on a
-/// number that is not an int. In a splitter or data view, it would accept places and sizes that no window can have.
+/// number that does not fit an int. In a splitter or data view, the toolkit would also accept a place or size that no
+/// window can have.
 bool IsPossible(long number, const wxPersistentObject& who)
 {
     if (dynamic_cast<const wxPersistentSplitter*>(&who) || dynamic_cast<const wxPersistentDataViewCtrl*>(&who))
@@ -92,8 +93,8 @@ public:
         return found == m_records.end() ? nullptr : found->second.lock().get();
     }
 
-    /// Saves the collected values on the next turn of the event loop at the latest. If the program ends before that,
-    /// they are saved when the window is destroyed.
+    /// Saves the collected values on the next turn of the event loop. If the program ends before that turn, the
+    /// destruction of the window saves the values.
     void SaveSoon(const wxPersistentObject& who)
     {
         // Use the nearest window that has a record already. If there is none, give a record to the outermost parent and

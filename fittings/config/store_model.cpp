@@ -116,8 +116,8 @@ void StoreModel::Set(StoreGroup& group, std::wstring_view name, std::wstring_vie
     }
     if (!group.isSection) {
         AddSection(group);
-        // As in wxFileConfig, a group remains when its last entry is deleted but not the group. The root needs no
-        // section.
+        // As in wxFileConfig, a group remains when only its last entry is deleted. So store the group even without
+        // entries, except for the root.
         group.isMade = group.parent != nullptr;
     }
 }

@@ -88,7 +88,8 @@ private:
     static void ForgetChanges(StoreGroup& group);
 
     const std::optional<std::wstring> m_file;
-    OwnedIniFile m_ini;  ///< The store as Refresh() loaded it, with the changes not saved then. Emptied with each save.
+    /// The store as Refresh() loaded it, with the changes that were not saved then. Emptied when Save() saves changes.
+    OwnedIniFile m_ini;
     bool m_isLoaded = false;
     std::unique_ptr<StoreGroup> m_root;
 

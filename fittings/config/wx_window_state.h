@@ -51,8 +51,8 @@ FITTINGS_API void SaveState(wxFrame* frame, const wchar_t* name);
 /// The function is meant for top-level windows. It compares a child's position with the work area too, although that
 /// position is relative to the parent.
 ///
-/// Returns false and changes nothing when no geometry is stored or the stored one is not four integers. Also returns
-/// false for a window that is on no display at (0, 0) either, and leaves it there.
+/// Returns false and does not move or size the window when no geometry is stored, or when the stored one is not four
+/// integers. Also returns false for a window that is on no display at (0, 0) either, and leaves the window there.
 FITTINGS_API bool LoadState(wxWindow* window, const wchar_t* name);
 
 /// Does the same as for any window. If that returns true and the frame was stored as maximised, MaximizeFrame() then

@@ -18,7 +18,7 @@ namespace {
 constexpr char kData[] = "fittings-place-when-unmaximized";
 
 /// How long the place of an unmaximised window is corrected, in microseconds. The window manager may announce the
-/// decorations several times. When an announcement changes their size, the size without decorations must be set again.
+/// decorations several times. When an announcement changes their size, the window's size must be set again.
 constexpr gint64 kCorrected = 2 * G_TIME_SPAN_SECOND;
 
 /// How often to check whether the mouse button is released, in milliseconds.
@@ -126,7 +126,8 @@ void PlaceKeeper::StartPlacing()
     Place();
 }
 
-// Asks the window system directly: GTK does not repeat its last request, even if the window manager did not comply.
+// Sends the request directly to the window system. GTK would drop a request that is the same as its last one, even if
+// the window manager did not comply with the last one.
 void PlaceKeeper::Place()
 {
     const wxSize decorations = m_window->GetSize() - fittings::SizeWithoutDecorations(*m_window);

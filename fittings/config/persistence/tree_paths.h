@@ -27,7 +27,7 @@ struct TreeStep
 using TreeSteps = std::vector<TreeStep>;
 
 /// Returns the steps to the expanded and selected items of a tree, and to the first item whose top is in view, in the
-/// order of the tree. Includes items inside collapsed levels.
+/// order of the tree. Includes expanded and selected items inside collapsed ones.
 TreeSteps StepsOf(const wxTreeCtrl& tree);
 
 /// Returns the steps as a text, such as "0+:|1+:Sun|2*:Earth|2+#2:Earth|3^:Moon|". The text of a step consists of its
