@@ -38,7 +38,8 @@ wxArrayString PatternsOf(const wxString& wildcard)
     return patterns;
 }
 
-// Returns true when GTK's dialog shows the name with a filter such as "*.csv;*.tsv".
+// Returns whether GTK's dialog shows the name while @a filter is selected. A filter may contain several patterns, such
+// as "*.csv;*.tsv".
 bool Shows(const wxString& filter, const wxString& name)
 {
     for (const wxString& pattern : wxSplit(filter, ';', '\0')) {

@@ -29,8 +29,9 @@
 /// that the format does not accept.
 ///
 /// Both functions accept what CNumberEditUtils::ValidateString() accepts. This includes the beginning of a number: the
-/// empty text, "-", "+", "." if decimals are accepted, "1." and "1e-". A program that needs a value must check for one,
-/// for example with wxString::ToCDouble().
+/// empty text; "-" and "+" if the format accepts a sign; "." and "1." if it accepts decimals; "1e-" if it accepts an
+/// exponent. The value must be within the bounds; it is 0 for a text without digits. A program that needs a number must
+/// check for one, for example with wxString::ToCDouble().
 ///
 /// If the keypad's decimal key is reported as WXK_NUMPAD_DECIMAL, it types the format's decimal point and not the
 /// layout's character. If the layout gives the key another code, such as WXK_NUMPAD_SEPARATOR in the German layout, the
@@ -66,8 +67,8 @@ public:
     /// Returns whether the validator is set on a wxTextCtrl.
     bool CheckValidator() const;
 
-    /// Returns whether the format accepts the whole text as a number or as the beginning of one, such as the empty
-    /// text, "-" and ".". If not, moves the focus to the control.
+    /// Returns whether the format accepts the whole text as a number or as the beginning of one: see the class. If not,
+    /// moves the focus to the control.
     ///
     /// A disabled control is always valid. Shows no message and rings no bell. @a parent is not used.
     bool Validate(wxWindow* parent) override;

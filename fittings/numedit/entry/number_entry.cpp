@@ -114,7 +114,8 @@ void NumberEntry::OnDelete(GtkEditable* entry, int begin, int end, NumberEntry* 
 void NumberEntry::OnDropped(GtkWidget* entry, GdkDragContext* drag, int x, int, GtkSelectionData* data, unsigned,
                             unsigned time, NumberEntry* self)
 {
-    // If the program has set its own wxDropTarget, GTK's list is empty: leave the drop to that target.
+    // If the program has set its own wxDropTarget, GTK has no list of data types for the entry: leave the drop to the
+    // wxDropTarget.
     if (!gtk_drag_dest_get_target_list(entry))
         return;
     g_signal_stop_emission_by_name(entry, "drag-data-received");
@@ -146,8 +147,8 @@ void NumberEntry::Deleting(int begin, int end)
         m_source = g_idle_add_full(G_PRIORITY_HIGH, OnSoon, this, nullptr);
 }
 
-/// Asks m_judge about a text. If the text is accepted, deletes the part that waits for its deletion, and inserts the
-/// text that m_judge has returned. Returns whether the text was accepted.
+/// Asks m_judge about a text. If m_judge accepts it, carries out the deletion that waits, and inserts the text that
+/// m_judge has returned. Returns whether the text was accepted.
 bool NumberEntry::Inserting(const std::wstring& text, int& position)
 {
     const std::wstring all = Text();

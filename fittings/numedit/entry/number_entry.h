@@ -33,7 +33,7 @@ public:
         std::wstring before;
         std::wstring text;
         std::wstring behind;
-        bool typed;        ///< True while a key is handled, and for one character unless Take() inserts it.
+        bool typed;        ///< True while a key is handled. Otherwise true for a single character, except in Take().
         bool keypadPoint;  ///< True for the keypad's decimal key.
     };
 

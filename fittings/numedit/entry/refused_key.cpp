@@ -23,7 +23,7 @@ struct Deletion
     EntrySelection selection;
 };
 
-/// The text that a control has lost to the current key. The control's GtkEntry owns the object.
+/// The text that the current key has deleted from a control. The control's GtkEntry owns the object.
 struct Key
 {
     wxTextCtrl& control;
@@ -52,7 +52,7 @@ void OnInserted(GtkEditable*, const char*, int, int*, Key* key)
     key->deletion.reset();
 }
 
-// Restores the selection. GTK has ended it: GTK moves the caret to the end of a text that GTK believes to be inserted.
+// Restores the selection, which GTK has just ended: GTK moves the caret after each insertion, even after a refused one.
 void OnSelectionEnded(GtkEditable* editable, GParamSpec*, Key* key)
 {
     g_signal_handler_disconnect(editable, std::exchange(key->selecting, 0));
