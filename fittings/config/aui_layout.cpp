@@ -147,8 +147,8 @@ bool AreTexts(std::wstring_view texts)
 /// kMostInText.
 ///
 /// The toolkit ends a field even at an escaped ";", and reads what follows as the next field. From the caption
-/// "a;row=99999999;", it reads a row of 99999999. The field after the row is empty, and the toolkit treats an empty field
-/// as the end of the pane. "\b" is the toolkit's placeholder for an escaped ";".
+/// "a;row=99999999;", it reads a row of 99999999. The field after the row is empty, and the toolkit treats an empty
+/// field as the end of the pane. "\b" is the toolkit's placeholder for an escaped ";".
 bool AreReadAtOnce(std::wstring_view texts)
 {
     for (std::size_t at = texts.find_first_of(L";\b"); at != texts.npos; at = texts.find_first_of(L";\b", at + 1)) {

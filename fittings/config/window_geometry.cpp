@@ -32,9 +32,9 @@ wxRect ScreenRect(wxWindow& window)
 
 /// Returns the display that shows most of the window; wxNOT_FOUND when no display shows any of it.
 ///
-/// Uses wxDisplay::GetFromWindow() only to recognise a window that is not created yet. The displays that GetFromWindow()
-/// returns may be wrong: it returns one even for a window that is far away from all displays, and uses the earlier place
-/// of a hidden window that was moved.
+/// Uses wxDisplay::GetFromWindow() only to recognise a window that is not created yet. The displays that this function
+/// returns may be wrong: it returns one even for a window that is far away from all displays, and uses the earlier
+/// place of a hidden window that was moved.
 int DisplayOf(wxWindow& window)
 {
     if (wxDisplay::GetFromWindow(&window) == wxNOT_FOUND)
