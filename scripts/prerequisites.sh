@@ -1,6 +1,6 @@
 # shellcheck shell=bash disable=SC2034
 # What several scripts share: the packages for each job, and the build of a preset. Source it in the project's folder.
-# "one|other" means the first of the packages that the release has.
+# A package such as "one|other" has several names, of which first_known() chooses one.
 
 build_packages=(g++ cmake ninja-build pkg-config gettext libwxgtk3.2-dev libglib2.0-dev libgtk-3-dev)
 display_packages=(xvfb xauth openbox x11-utils x11-xkb-utils librsvg2-common
