@@ -127,7 +127,7 @@ protected:
         EXPECT_EQ(part(last + 3), wxRect(0, height - 3, 148, 3));
         EXPECT_EQ(part(last + 4), wxRect(0, 0, 3, height));
         EXPECT_EQ(part(last + 5), wxRect(145, 0, 3, height));
-        // The first part that was repainted is "More Colours...", which reaches the bottom.
+        // The first line is "all", and the second is "More Colours...", which reaches the bottom.
         EXPECT_EQ(part(1).GetBottom(), height - 1);
     }
 

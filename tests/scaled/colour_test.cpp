@@ -81,7 +81,7 @@ TEST_F(ColoursOnAScaledScreen, AreChosenByAClickWhereTheyAreSeen)
     EXPECT_TRUE(PumpUntil([&] { return PixelAt(face.GetPosition() + wxPoint(20, face.height / 2)) == kRed; }));
 }
 
-// After half of its time, the outline has 74 x 81 pixels at (37, 41) in the animation's rectangle.
+// After half of the animation's time, the outline has 74 x 81 pixels at (37, 41) in the animation's rectangle.
 TEST_F(ColoursOnAScaledScreen, OpenWithAnOutlineThatGrowsWhereTheyWillBe)
 {
     on.combo->m_animDuration = 2000000;

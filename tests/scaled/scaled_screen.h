@@ -10,8 +10,8 @@ wxImage GrabScaled(const wxRect& rect);
 /// Returns the lower right one of the four screen pixels of one of the toolkit's pixels, as 0xRRGGBB.
 int PixelAt(const wxPoint& place);
 
-/// Returns whether each of the toolkit's pixels has one colour, for any offset of the first one. Returns false for a
-/// blurred or finer image.
+/// Returns whether each of the toolkit's pixels has one colour. The first of these pixels may be cut at the edge of the
+/// image. Returns false for a blurred or finer image.
 bool IsOfWholePixels(const wxImage& scaled);
 
 #endif

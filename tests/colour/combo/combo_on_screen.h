@@ -61,7 +61,7 @@ inline std::string NameOfStyle(const testing::TestParamInfo<long>& info)
     return info.param == wxCB_READONLY ? "ReadOnly" : "WithText";
 }
 
-/// Opens a combo's popup as its button does. Returns false if it is not shown in time.
+/// Opens a combo's popup as its button does. Returns false if the popup is not shown in time.
 inline bool Opens(wxComboCtrl& combo)
 {
     combo.Popup();

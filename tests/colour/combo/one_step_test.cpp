@@ -54,7 +54,7 @@ struct OneStep
         return seen.GetRed(0, 0) << 16 | seen.GetGreen(0, 0) << 8 | seen.GetBlue(0, 0);
     }
 
-    // Returns the chosen cell of the popup. Only a class derived from wxColourPopup can read the member.
+    // Returns the chosen cell of the popup. Only a class derived from wxColourPopup can read m_nChosenColourSel.
     int Chosen() const
     {
         struct Seen : wxColourPopup

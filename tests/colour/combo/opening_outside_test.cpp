@@ -78,7 +78,7 @@ TEST_P(ClickOutsideThePopup, DismissesItOnTheMenuBarWithoutOpeningAMenu)
     PumpPending();
 }
 
-// The click dismisses the popup although the modal dialog keeps it from the window that was clicked.
+// The modal dialog keeps the click from the window under the pointer. The click dismisses the popup all the same.
 TEST_P(ClickOutsideThePopup, DismissesItOnAWindowThatADialogBlocks)
 {
     ASSERT_TRUE(ShowAndSettle(on.frame));

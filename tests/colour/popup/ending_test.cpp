@@ -226,7 +226,8 @@ TEST_F(ColourEnding, LeavesTheColourOfTheHotCellToAPopupWithoutListener)
     on.popup->m_crColour = *wxRED;
     on.popup->OnDismiss();
     EXPECT_EQ(on.popup->m_crColour, *wxRED);
-    // Opening the popup again sets m_crColour to the colour in effect. A choice without a hot cell then keeps blue.
+    // When the popup opens again, m_crColour becomes blue, the colour in effect. EndSelection() then chooses blue,
+    // because no cell is hot.
     Open();
     on.popup->EndSelection(true);
     EXPECT_EQ(on.popup->m_crInitialColour, *wxBLUE);

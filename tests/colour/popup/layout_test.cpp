@@ -397,7 +397,7 @@ TEST(ColourLayout, FollowsATextSetLater)
     EXPECT_EQ(popup->GetPosition(), wxPoint(11, 12));
 }
 
-// Removing a box also removes its marks. Otherwise "Automatic" would stay the chosen cell without its box.
+// A box that is removed is no longer the hot or the chosen cell.
 TEST(ColourLayout, UnmarksABoxThatGoes)
 {
     const PopupInFrame popup;

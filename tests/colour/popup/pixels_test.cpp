@@ -1,4 +1,5 @@
-// What is seen, pixel by pixel. The ends of lines and the corners are excluded, because the toolkit smooths them.
+// The pixels of the popup and of the combo's face. The ends of lines and the corners are excluded, because the toolkit
+// smooths them.
 
 #include <functional>
 #include <string>
@@ -82,8 +83,8 @@ TEST_F(ColourPixels, OfACell)
     EXPECT_EQ(Column(12, 24), "3. 3f 1s 10# 1s 3f 3.");
 }
 
-// From outside to inside: face; light at the left and top, dark at the right and bottom; face at the left and top,
-// shadow at the right and bottom; and the outline of the colour.
+// From outside to inside, the left and top edges are face, highlight and face. The right and bottom edges are face,
+// dark and shadow. The outline of the colour follows.
 TEST_F(ColourPixels, OfTheHotCell)
 {
     popup->m_nCurrentSel = 0;
@@ -92,8 +93,8 @@ TEST_F(ColourPixels, OfTheHotCell)
     EXPECT_EQ(Column(12, 24), "3. 1f 1H 1f 1s 10# 2s 1D 1f 3.");
 }
 
-// From outside to inside: shadow at the left and top only; dark at the left and top, light at the right and bottom;
-// light at the left and top, face at the right and bottom; and the outline of the colour.
+// From outside to inside, the left and top edges are shadow, dark and highlight. The right and bottom edges are
+// highlight, highlight and face. The outline of the colour follows.
 TEST_F(ColourPixels, OfTheChosenCell)
 {
     popup->m_nChosenColourSel = 0;
