@@ -148,8 +148,8 @@ TEST(AuiLayout, HasNoMorePartsThanTheToolkitReadsAtOnce)
     EXPECT_FALSE(IsLayout(With(L"Folders", std::wstring(2000000, L'a'))));
 }
 
-// In a caption, the toolkit takes the text after a ";" for the next field, and an empty field for the end of the pane.
-// Therefore the check limits the numbers in captions, too.
+// The toolkit reads the text after a ";" in a caption as the next field. If the field after that is empty, the toolkit
+// takes it for the end of the pane. Therefore the check limits the numbers in captions, too.
 TEST(AuiLayout, HasNoNumberInACaptionThatTheToolkitLaysOutForLong)
 {
     EXPECT_TRUE(IsLayout(With(L"Folders", L"Folders\\; row=7\\;")));

@@ -57,7 +57,8 @@ TEST(LoadAuiManagerState, LeavesAManagerAloneWhenNothingIsStored)
 {
     const TempUserData data;
     AuiFrame frame;
-    // The manager is not updated here. If LoadAuiManagerState() updated it, the window of the log would be hidden.
+    // Until the manager is updated, the window of the log stays shown. A hidden window would mean that
+    // LoadAuiManagerState() has updated the manager.
     frame.Pane("log").Hide();
     const wxString before = frame.manager.SavePerspective();
     EXPECT_FALSE(wx_window_state::LoadAuiManagerState(&frame.manager, L"Main"));

@@ -84,8 +84,8 @@ TEST(ClosedFrame, SavesAllThatIsInItByOneSave)
     DestroyNow(frame);
 }
 
-// The values of a window are stored when it is destroyed, even if other windows are still open. A signal that later
-// ends the process loses none of them.
+// The values of a window are stored when it is destroyed, even if other windows are still open. Therefore a signal that
+// later ends the process cannot lose these values.
 TEST(ClosedFrame, IsSavedWhenItIsGone)
 {
     const TempPersistence data;

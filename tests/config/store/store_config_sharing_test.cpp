@@ -240,7 +240,8 @@ TEST(TheDefaultStoreAsAConfig, LeavesItsChangesToTheBatchThatSavesThemLater)
     EXPECT_EQ(config.Read("g/k"), "1");
     std::filesystem::remove(data / "settings.ini");
     EXPECT_TRUE(CLocalRegStore::WriteString(L"g", L"k", L"2"));
-    // The batch contains the earlier value and the later one, so Flush() does not store the earlier value again.
+    // The batch still contains the value 1, which it could not save, and then the value 2. Therefore Flush() must not
+    // store 1 again.
     EXPECT_TRUE(config.Flush());
     EXPECT_TRUE(batch.Save());
     EXPECT_EQ(ReadFile(data / "settings.ini"), "[g]\nk=2\n");

@@ -196,7 +196,7 @@ private:
             return true;
         if (now == m_wanted && !m_isToBeSeenMaximized)
             return true;
-        // Set the geometry until the frame has it, and only then maximise the frame.
+        // Set the geometry again if the frame does not have it yet. Maximise the frame only when it has this geometry.
         if (now == m_wanted)
             m_frame->Maximize();
         else

@@ -78,7 +78,8 @@ INSTANTIATE_TEST_SUITE_P(
         Restored{"JustAbove", L"100;-200;300;200", {"0;0;-1;-1 0", "16;24;284;176 3"}, wxRect(16, 24, 284, 176)},
         Restored{
             "OffAndOversize", L"5000;5000;3000;3000", {"0;0;-1;-1 0", "16;24;1264;960 3"}, wxRect(16, 24, 1264, 960)},
-        // On the display, but wholly under a panel: clipping to the work area would leave nothing.
+        // These windows would lie wholly under a panel. Clipping them to the work area would leave nothing of them, so
+        // LoadState() moves them.
         Restored{"UnderTheBottomPanel", L"100;990;300;30", {"100;954;300;30 3"}, wxRect(100, 954, 300, 30)},
         Restored{"UnderTheTopPanel", L"100;-180;300;200", {"100;24;300;200 3"}, wxRect(100, 24, 300, 200)},
         Restored{"UnderTheLeftPanel", L"-290;100;300;200", {"16;100;300;200 3"}, wxRect(16, 100, 300, 200)},

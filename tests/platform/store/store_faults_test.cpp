@@ -1,4 +1,4 @@
-// Every call on a file that the store makes fails in turn, with each of several errors, alone or together with all
+// While the store works, every call on a file fails in turn, with each of several errors, alone or together with all
 // later calls. In each case the old or the new value is stored, and the result says which. All other values are kept.
 // The store works again as soon as the system does.
 
@@ -20,8 +20,9 @@ namespace {
 
 constexpr int kErrors[] = {ENOSPC, EIO, EACCES, EROFS, ENOMEM, EMFILE, EINTR};
 
-/// Calls @a attempt for each error, with a fault at its first call on a file, then at its second call, and so on, until
-/// it makes no further call. Records how many faults there were, and which calls failed.
+/// For each error, runs @a attempt again and again. The fault is at the first call on a file that @a attempt makes,
+/// then at the second call, and so on, until @a attempt makes no further call. Records how many faults there were, and
+/// which calls failed.
 void ForEveryFault(const std::function<void(const Fault&)>& attempt)
 {
     int faults = 0;
