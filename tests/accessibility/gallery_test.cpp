@@ -75,9 +75,9 @@ TEST_P(ScreenReaderInTheGallery, HasANameForAllThatTakesTheFocus)
     EXPECT_THAT(said, IsSupersetOf(names[GetParam()]));
 }
 
-// Leaves out the buttons of the tool bar, because Tab skips them: each has a key, and its description names this key.
-// Leaves out scroll panes, because their content takes the focus. Adds combo boxes, because the focused part of a
-// wxChoice is not accessible itself.
+// Tab must lead to exactly the focusable parts, with three exceptions. Tab skips the buttons of the tool bar, which
+// have a key in their description. In a scroll pane, the content takes the focus. In a wxChoice, the focused part is
+// not accessible, so the combo box is expected in its place.
 TEST_P(ScreenReaderInTheGallery, IsLedByTabToAllThatTakesTheFocus)
 {
     std::set<std::string> expected;

@@ -83,7 +83,7 @@ protected:
         return {};
     }
 
-    /// Moves the focus to the control of an option by its mnemonic.
+    /// Presses the mnemonic of an option, which moves the focus to the option's control.
     void GoTo(char mnemonic, const wxString& name)
     {
         Press(mnemonic, wxMOD_ALT);
@@ -98,7 +98,7 @@ protected:
             Press(key);
     }
 
-    /// Moves the focus to a field by its mnemonic, and enters another number.
+    /// Moves the focus to a field by the mnemonic of the field, and enters another number.
     void SetNumber(char mnemonic, const wxString& name, int number)
     {
         GoTo(mnemonic, name);
@@ -230,7 +230,7 @@ TEST_F(ColoursPageTest, TheListForgetsWhatIsOld)
     OpenColours();
     PointAtCell(kDarkRedCell);
     ASSERT_TRUE(PumpUntil([&] { return Events().size() == 2; }));
-    // Together with the two events above, these are as many as the list keeps.
+    // The list keeps 500 events: the two above and the 498 of this loop.
     for (int i = 0; i < 249; ++i) {
         Popup().ChangeSelection(0);
         Popup().ChangeSelection(kIndigoCell);

@@ -76,7 +76,7 @@ TEST_P(KeyboardLayouts, TypeAMinus)
 }
 
 // The keypad's decimal key types the format's point if the program receives the key code of the decimal point.
-// Otherwise, the key types its own character.
+// Otherwise, the key types its own character, which is refused if it is not the format's point.
 TEST_P(KeyboardLayouts, TypeThePointOfTheKeypad)
 {
     const NumLock numLock;

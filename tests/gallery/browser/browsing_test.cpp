@@ -47,7 +47,7 @@ TEST_F(Browsing, AllLabelsAreWholeInAnyLocale)
 
 TEST_F(Browsing, RightAndLeftKeysExpandAndCollapse)
 {
-    // With a right-to-left layout, the two keys are exchanged.
+    // With a right-to-left layout, Left expands a folder and Right collapses it.
     const bool isRightToLeft = Tree().GetLayoutDirection() == wxLayout_RightToLeft;
     ClickFolder("docs");
     ASSERT_TRUE(SelectionComesTo("docs"));

@@ -161,7 +161,8 @@ TEST_F(FolderColours, AutomaticTakesItAway)
     EXPECT_FALSE(ColourOf("docs").IsOk());
 }
 
-// Black, the colour of plain text, is one of the palette's colours, too.
+// The palette's black looks like plain text in the light theme. If the user chooses black for a folder, the folder must
+// have this colour all the same.
 TEST_F(FolderColours, BlackIsNotAutomatic)
 {
     Select("docs");

@@ -72,8 +72,8 @@ TEST_F(NumbersPageTest, AnEmptyNumberAndNoValidatorComeBackToo)
     EXPECT_EQ(Number().GetValue(), "x");
 }
 
-// The page uses a stored template only if it is one of those that the page offers. Any other template is a printf
-// format from outside the program.
+// A template is a printf format, so a template that somebody else has written could do harm. Therefore the page uses a
+// stored template only if the page itself offers this template.
 TEST_F(NumbersPageTest, NonsenseInTheSettingsDoesNoHarm)
 {
     Close();
