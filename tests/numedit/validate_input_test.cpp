@@ -84,7 +84,7 @@ TEST(ValidateInput, AcceptsAsManyZerosAsThereAreDecimals)
     EXPECT_FALSE(Accepted(L"0.001", format));
 }
 
-// The format allows no digit in front of the point. A zero is accepted there all the same.
+// The format allows no digit in front of the point. ValidateInput() accepts the zero of "0" and "0.00" all the same.
 TEST(ValidateInput, AcceptsTheZeroWhateverTheIntegerDigits)
 {
     CNumberFormat format(eFixedFormat);
@@ -102,7 +102,8 @@ TEST(ValidateInput, KnowsTheFormatsPointInTheZeros)
     EXPECT_TRUE(Accepted(L",", format));
     EXPECT_TRUE(Accepted(L"0,", format));
     EXPECT_TRUE(Accepted(L"0,00", format));
-    // A complete number may have the locale's point. Zeros at the beginning of a number must have the format's point.
+    // A complete number may have the locale's point. The beginnings of a number that ValidateInput() accepts below the
+    // minimum must have the format's point.
     EXPECT_FALSE(Accepted(L".", format));
     EXPECT_FALSE(Accepted(L"0.", format));
     EXPECT_FALSE(Accepted(L"0.0", format));

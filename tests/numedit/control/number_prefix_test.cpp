@@ -189,8 +189,8 @@ void TypeAndCompare(Keys& keys, const Field& field, const Beginnings& beginnings
             inside ? static_cast<std::size_t>(keys.Below(static_cast<int>(text.size()) + 1)) : text.size();
         std::string typed = text;
         typed.replace(at, inside ? static_cast<std::size_t>(keys.Below(3)) : 0, 1, keys.Next(field.exponent));
-        // No exponent in the list has more than three digits. A text with three of them may need a fourth, as 1e-000
-        // does for 1e-0001. Therefore compare only texts with at most two.
+        // The exponents in @a beginnings have at most three digits. A text whose exponent has three digits may need a
+        // fourth, as 1e-000 does for 1e-0001. Therefore compare only texts whose exponents have at most two digits.
         if (ExponentDigits(typed) > 2)
             continue;
         const bool accepted = fittings::CanBeTyped(std::wstring(typed.begin(), typed.end()), rules);

@@ -54,7 +54,7 @@ INSTANTIATE_TEST_SUITE_P(, Beginning,
                                          Case{"1000", "1999", 0, L"1", true}, Case{"1000", "1999", 0, L"2", false},
                                          Case{"1000", "1999", 0, L"", true}));
 
-// A double cannot represent 0.3 exactly. The text 0.30 must still be within that bound.
+// The bound 0.3 is a double, which cannot represent 0.3 exactly. The text 0.30 must still be within the bound.
 TEST(ABoundOfAFormat, IsTheDecimalNumberThatItsDoubleIsWrittenAs)
 {
     CNumberFormat format(eFixedFormat);

@@ -30,7 +30,8 @@ class CutZeros(unittest.TestCase):
             (" 000.500 ", "0.5"), ("1.500e10", "1.5e10"), ("10", "10"), ("1.0", "1"), (".", "0"), ("", "0"),
             (" \t ", "0"), ("-0.0", "-0"), ("-.5", "-.5"), ("-007", "-007"), ("0", "0"), ("00", "0"), ("0001", "1"),
             ("100.000", "100"), ("1e05", "1e05"), ("000 ", "0"), ("0.50E0", "0.5E0"), ("e5", "0e5"),
-            # All text in front of the exponent is the mantissa. If it contains a point, its last zeros are cut.
+            # All text in front of the exponent is the mantissa. If the mantissa contains a point, the zeros at the end
+            # of the mantissa are cut.
             ("1.x00", "1.x"), ("\u20031\u3000", "\u20031\u3000"),
         ]:
             with self.subTest(text=text):

@@ -112,7 +112,8 @@ TEST_F(Transfer, FromTheWindowLeavesTheValueForABadText)
     EXPECT_EQ(Bells(), bellsBefore);
 }
 
-// Some texts that may be typed are only the beginning of a number.
+// The text "0.0" may be typed, because "0.05" begins with it. As a complete number it is refused, because it is below
+// the minimum.
 TEST_F(Transfer, FromTheWindowChecksTheCompleteNumber)
 {
     CNumberFormat format = FixedFormat();
