@@ -49,8 +49,8 @@ void WithEachKindBeside(const Other& other, const Call& call, std::index_sequenc
     (CallWith<position>(call, wxString("a").wc_str(), other, positions), ...);
 }
 
-/// Calls @a call many times with @a count texts, all of them "a". Each parameter gets each of the seven kinds of text
-/// in turn. The other parameters then all get the same kind, one of five in turn.
+/// Calls @a call many times with @a count texts, all of them "a". In each call, one parameter has a text of one of
+/// seven kinds. The other parameters share one of five kinds. Every combination occurs.
 template <std::size_t count, typename Call>
 void WithEachKind(const Call& call)
 {

@@ -52,9 +52,9 @@ public:
         auto* frame = new wxFrame(nullptr, wxID_ANY, "warm-up");
         ShowAndSettle(frame);
         DestroyNow(frame);
-        // The first thread makes data that the toolkit keeps for all threads. Make these data before any test. The
-        // toolkit is built without the thread sanitizer, which therefore cannot see how the toolkit guards them, and
-        // would report a race between two first threads.
+        // The first thread makes data that the toolkit keeps for all threads. Make the data before any test: if a
+        // test's first two threads made it at the same time, the thread sanitizer would report a race. The toolkit is
+        // built without the sanitizer, which therefore cannot see how the toolkit guards the data.
         FirstThread thread;
         thread.Run();
         thread.Wait();

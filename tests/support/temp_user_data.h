@@ -3,8 +3,8 @@
 
 #include <string>
 
-/// While this object exists, new temporary folders are made in memory, if the system allows it. On a disk, a test that
-/// saves a thousand files is slow, and on a busy disk its locks time out.
+/// While this object exists, new temporary folders are made in memory, if the system allows it. A test that saves a
+/// thousand files is slow on a disk. On a busy disk, the test's waits for locks time out.
 class InMemory
 {
 public:

@@ -70,7 +70,8 @@ TEST(Wait, BlocksUntilEntryHasReturned)
     EXPECT_EQ(code, Code(42));
 }
 
-// Three threads wait one after the other. The condition is signalled only once, but the flag stays set.
+// Three threads call Wait() one after the other. The thread object signals its condition only once, but m_finished
+// stays true.
 TEST(Wait, EndsForLaterCallersToo)
 {
     Thread thread(Returning(7), wxTHREAD_JOINABLE);
