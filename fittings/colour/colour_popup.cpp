@@ -43,8 +43,8 @@ wxSize TextExtent(wxDC& dc, const wxString& text)
     return text.empty() ? wxSize(0, 0) : dc.GetTextExtent(text);
 }
 
-// Returns the place for the popup: @a at, moved left or right until the popup is on the screen, and moved above the
-// control if there is no room below.
+// Returns the place for the popup. This is @a at, moved left or right until the popup is on the screen, and moved above
+// the control if the popup would extend below the screen.
 wxPoint FitToScreen(wxPoint at, const wxSize& size, const wxWindow& parent)
 {
     int screenWidth = 0;
