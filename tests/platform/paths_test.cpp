@@ -21,8 +21,8 @@ struct Paths
     std::string samples;
 };
 
-// Returns the folders that a new process prints. A process reads the environment only once, so each call starts
-// another.
+// Returns the folders that a new process prints. A process reads the environment only once, so each call starts a new
+// process.
 Paths PathsIn(const Environment& environment, const std::vector<std::string>& arguments = {"--app", "Ledger"},
               const std::string& program = PATHS_PROBE)
 {

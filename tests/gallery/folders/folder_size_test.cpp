@@ -52,8 +52,8 @@ std::uint64_t OwnSize(const std::string& path)
     return static_cast<std::uint64_t>(status.st_size);
 }
 
-/// Makes @a levels folders named "d", one in the other, below @a path. Each contains a file of one byte. Works even
-/// where the path is too long for the system.
+/// Makes @a levels folders named "d" below @a path, each in the one before. Each contains a file of one byte. The path
+/// of the last folder may be too long for the system.
 void MakeChain(const std::string& path, int levels)
 {
     int folder = open(path.c_str(), O_RDONLY | O_DIRECTORY);
