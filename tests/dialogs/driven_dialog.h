@@ -31,8 +31,8 @@ struct DialogState
 class DrivenDialog
 {
 public:
-    /// Starts the program. On X11, finds the dialog by its title and activates it. Returns when the dialog has the
-    /// input focus or shows a message.
+    /// Starts the program. On X11, finds the dialog by its title. Returns when the dialog has the input focus or shows
+    /// a message.
     DrivenDialog(const std::vector<std::string>& command, const std::string& title,
                  const std::map<std::string, std::optional<std::string>>& environment = {});
 
