@@ -54,6 +54,17 @@ bool IsKeyName(std::string_view name)
     return bracket > 0 && name[bracket] == '[' && name[bracket - 1] != ' ' && IsLocaleSuffix(name.substr(bracket));
 }
 
+bool ParseSection(IniLine& line, std::string_view text)
+{
+    const std::size_t close = text.find(']');
+    if (close == std::string_view::npos || text.find_first_not_of(" \t", close + 1) != std::string_view::npos)
+        return false;
+    line.name = text.substr(1, close - 1);
+    line.isPlainName = PlainLength(line.name) == line.name.size();
+    return !line.name.empty() && std::none_of(line.name.begin(), line.name.end(),
+                                              [](char byte) { return byte == '[' || g_ascii_iscntrl(byte); });
+}
+
 }  // namespace
 
 IniLines::IniLines(std::string_view text)
@@ -63,71 +74,56 @@ IniLines::IniLines(std::string_view text)
 
 bool IniLines::Next(IniLine& line)
 {
-    if (m_at == m_text.size())
-        return false;
-    line.begin = m_at;
-    const std::size_t lineFeed = m_text.find('\n', m_at);
-    if (lineFeed == std::string_view::npos) {
-        line.end = line.next = m_text.size();
-    } else {
-        line.next = lineFeed + 1;
-        line.end = lineFeed > m_at && m_text[lineFeed - 1] == '\r' ? lineFeed - 1 : lineFeed;
+    while (m_at < m_text.size()) {
+        line.begin = m_at;
+        const std::size_t lineFeed = m_text.find('\n', m_at);
+        if (lineFeed == std::string_view::npos) {
+            line.end = line.next = m_text.size();
+        } else {
+            line.next = lineFeed + 1;
+            line.end = lineFeed > m_at && m_text[lineFeed - 1] == '\r' ? lineFeed - 1 : lineFeed;
+        }
+        m_at = line.next;
+        if (Parse(line))
+            return true;
     }
-    m_at = line.next;
-    line.kind = Classify(line);
-    if (line.kind == IniLineKind::Section || line.kind == IniLineKind::BrokenSection) {
-        m_hasSection = true;
-        m_inSection = line.kind == IniLineKind::Section;
-    }
-    return true;
+    return false;
 }
 
-IniLineKind IniLines::Classify(IniLine& line)
+// Returns whether the line has a section or a key that counts. The keys below a broken section line do not count.
+bool IniLines::Parse(IniLine& line)
 {
     std::string_view text = m_text.substr(line.begin, line.end - line.begin);
     while (!text.empty() && g_ascii_isspace(text.front()))
         text.remove_prefix(1);
-    if (text.empty() || text.front() == '#')
-        return IniLineKind::Comment;
-    if (text.front() == '[')
-        return ClassifySection(line, text);
-    if (text.front() == ';' || (m_hasSection && !m_inSection))
-        return IniLineKind::Unknown;
-    const IniLineKind kind = ClassifyKey(line, text);
-    return kind == IniLineKind::Key && !m_hasSection ? IniLineKind::EarlyKey : kind;
+    if (text.empty() || text.front() == '#' || text.front() == ';')
+        return false;
+    line.isSection = text.front() == '[';
+    if (!line.isSection)
+        return !m_isBelowBrokenSection && ParseKey(line, text);
+    m_isBelowBrokenSection = !ParseSection(line, text);
+    return !m_isBelowBrokenSection;
 }
 
-IniLineKind IniLines::ClassifySection(IniLine& line, std::string_view text) const
-{
-    const std::size_t close = text.find(']');
-    if (close == std::string_view::npos || text.find_first_not_of(" \t", close + 1) != std::string_view::npos)
-        return IniLineKind::BrokenSection;
-    line.name = text.substr(1, close - 1);
-    line.isPlainName = PlainLength(line.name) == line.name.size();
-    const bool hasWrongCharacter = std::any_of(line.name.begin(), line.name.end(),
-                                               [](char byte) { return byte == '[' || g_ascii_iscntrl(byte) || !byte; });
-    return line.name.empty() || hasWrongCharacter ? IniLineKind::BrokenSection : IniLineKind::Section;
-}
-
-IniLineKind IniLines::ClassifyKey(IniLine& line, std::string_view text) const
+bool IniLines::ParseKey(IniLine& line, std::string_view text) const
 {
     const std::size_t plainLength = PlainLength(text);
     const std::size_t equals = text.find('=', plainLength);
     if (equals == std::string_view::npos || equals == 0)
-        return IniLineKind::Unknown;
+        return false;
     // A line with a NUL was cut or overwritten, so it is not a setting.
     if (m_hasNul && text.find('\0') != std::string_view::npos)
-        return IniLineKind::Unknown;
+        return false;
     line.name = text.substr(0, equals);
     while (g_ascii_isspace(line.name.back()))
         line.name.remove_suffix(1);
     line.isPlainName = line.name.size() <= plainLength;
     if (!line.isPlainName && !IsKeyName(line.name))
-        return IniLineKind::Unknown;
+        return false;
     line.value = line.end - (text.size() - equals - 1);
     while (line.value < line.end && g_ascii_isspace(m_text[line.value]))
         ++line.value;
-    return IniLineKind::Key;
+    return true;
 }
 
 std::size_t ByteOrderMarkSize(std::string_view text)

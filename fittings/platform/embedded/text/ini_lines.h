@@ -8,19 +8,10 @@
 
 namespace fittings {
 
-enum class IniLineKind {
-    Comment,        ///< A blank line or one that starts with '#'.
-    Section,        ///< [name]
-    Key,            ///< name=value below a section.
-    EarlyKey,       ///< name=value before the first section.
-    BrokenSection,  ///< Starts with '[' but is not a section line. The keys below it are Unknown.
-    Unknown,        ///< Every other line, for example one that starts with ';'.
-};
-
-/// One line. The numbers are offsets into the text.
+/// A section line, [name], or a key line, name=value. The numbers are offsets into the text.
 struct IniLine
 {
-    IniLineKind kind;
+    bool isSection;
     std::size_t begin;
     std::size_t end;   ///< The place of the line end.
     std::size_t next;  ///< Where the next line begins.
@@ -29,27 +20,26 @@ struct IniLine
     std::size_t value;  ///< The beginning of a key's value.
 };
 
-/// Walks through a text line by line. It recognises every section and key that GKeyFile does.
+/// Finds the lines with the sections and keys of a text. It recognises every section and key that GKeyFile does, and
+/// keys before the first section.
 class IniLines
 {
 public:
     explicit IniLines(std::string_view text);
 
-    /// Stores the next line in @a line. Returns false at the end of the text.
+    /// Stores the next section or key in @a line. Returns false when there is none.
     bool Next(IniLine& line);
 
     bool HasNul() const { return m_hasNul; }
 
 private:
-    IniLineKind Classify(IniLine& line);
-    IniLineKind ClassifySection(IniLine& line, std::string_view text) const;
-    IniLineKind ClassifyKey(IniLine& line, std::string_view text) const;
+    bool Parse(IniLine& line);
+    bool ParseKey(IniLine& line, std::string_view text) const;
 
     std::string_view m_text;
     std::size_t m_at = 0;
     bool m_hasNul;
-    bool m_hasSection = false;
-    bool m_inSection = false;
+    bool m_isBelowBrokenSection = false;  ///< Below a line that starts with '[' but is not a section line.
 };
 
 /// Returns the number of bytes of the byte order mark that @a text begins with; 0 if there is none.

@@ -25,18 +25,16 @@ bool EndsWithBlankLine(std::string_view text)
 
 IniText::IniText(std::string text) : m_text(std::move(text))
 {
-    std::size_t section = SectionIndex(kEarlyKeys);
+    Section* section = &SectionOf(kEarlyKeys);
     bool hasOwnName = true;
     IniLines lines(m_text);
-    for (IniLine line; lines.Next(line);) {
-        if (line.kind == IniLineKind::Section) {
+    for (IniLine line = {}; lines.Next(line);) {
+        if (line.isSection) {
             const std::string_view name = NameOf(line);
-            section = SectionIndex(name);
+            section = &SectionOf(name);
             hasOwnName = name == line.name;
-            AddLine(section, line, hasOwnName);
-        } else if (line.kind == IniLineKind::Key || line.kind == IniLineKind::EarlyKey) {
-            AddLine(section, line, hasOwnName);
         }
+        AddLine(*section, line, hasOwnName);
     }
     m_isSettings = m_sections.size() > 1 || !(lines.HasNul() || IsUtf16(m_text));
 }
@@ -50,27 +48,32 @@ std::string_view IniText::NameOf(const IniLine& line)
     return name == line.name ? line.name : std::string_view(m_names.emplace_back(std::move(name)));
 }
 
-std::size_t IniText::SectionIndex(std::string_view name)
+IniText::Section& IniText::SectionOf(std::string_view name)
 {
-    const auto [index, isNew] = m_sectionIndices.try_emplace(name, m_sections.size());
+    Section*& section = m_sectionsByName[name];
+    if (!section)
+        section = &m_sections.emplace_back(Section{name});
+    return *section;
+}
+
+std::size_t IniText::EntryIndex(Section& section, std::string_view name)
+{
+    const auto [index, isNew] = section.indices.try_emplace(name, section.entries.size());
     if (isNew)
-        m_sections.push_back({name});
+        section.entries.push_back({name});
     return index->second;
 }
 
-void IniText::AddLine(std::size_t sectionIndex, const IniLine& line, bool hasOwnSection)
+void IniText::AddLine(Section& section, const IniLine& line, bool hasOwnSection)
 {
-    Section& section = m_sections[sectionIndex];
     if (hasOwnSection || !section.hasOwnName) {
         section.lastLine = m_lines.size();
         section.hasOwnName = hasOwnSection;
     }
     std::size_t entryIndex = kNone;
-    if (line.kind != IniLineKind::Section) {
+    if (!line.isSection) {
         const std::string_view name = NameOf(line);
-        entryIndex = section.indices.try_emplace(name, section.entries.size()).first->second;
-        if (entryIndex == section.entries.size())
-            section.entries.push_back({name});
+        entryIndex = EntryIndex(section, name);
         Entry& entry = section.entries[entryIndex];
         const bool hasOwnName = hasOwnSection && name == line.name;
         if (hasOwnName || !entry.hasOwnName) {
@@ -78,69 +81,62 @@ void IniText::AddLine(std::size_t sectionIndex, const IniLine& line, bool hasOwn
             entry.hasOwnName = hasOwnName;
         }
     }
-    m_lines.push_back({line.begin, line.value, line.end, line.next, sectionIndex, entryIndex});
+    m_lines.push_back({line.begin, line.value, line.end, line.next, &section, entryIndex});
 }
 
 std::optional<std::string_view> IniText::Find(std::string_view section, std::string_view key) const
 {
-    const auto place = Locate(section, key);
-    return place ? ValueOf(m_sections[place->section].entries[place->entry]) : std::nullopt;
+    const Entry* const entry = FindEntry(section, key);
+    return entry ? ValueOf(*entry) : std::nullopt;
 }
 
 void IniText::Set(const std::string& sectionName, const std::string& key, std::string value)
 {
-    auto place = Locate(sectionName, key);
-    if (!place) {
-        const std::size_t sectionIndex =
-            SectionIndex(HasSection(sectionName) ? sectionName : m_names.emplace_back(sectionName));
-        Section& section = m_sections[sectionIndex];
-        place = {sectionIndex, section.entries.size()};
-        const std::string_view name = m_names.emplace_back(key);
-        section.indices.emplace(name, place->entry);
-        section.entries.push_back({name});
+    Entry* entry = FindEntry(sectionName, key);
+    if (!entry) {
+        Section* const found = FindSection(sectionName);
+        Section& section = found ? *found : SectionOf(m_names.emplace_back(sectionName));
+        entry = &section.entries[EntryIndex(section, m_names.emplace_back(key))];
     }
-    Entry& entry = m_sections[place->section].entries[place->entry];
-    entry.state = State::Set;
-    entry.value = std::move(value);
+    entry->state = State::Set;
+    entry->value = std::move(value);
     m_isChanged = true;
 }
 
 void IniText::Remove(std::string_view section, std::string_view key)
 {
-    const auto place = Locate(section, key);
-    if (!place)
-        return;
-    m_sections[place->section].entries[place->entry].state = State::Removed;
-    m_isChanged = true;
+    if (Entry* const entry = FindEntry(section, key)) {
+        entry->state = State::Removed;
+        m_isChanged = true;
+    }
 }
 
 void IniText::AddSection(const std::string& section)
 {
     if (HasSection(section))
         return;
-    m_sections[SectionIndex(m_names.emplace_back(section))].isMade = true;
+    SectionOf(m_names.emplace_back(section)).isMade = true;
     m_isChanged = true;
 }
 
 void IniText::RemoveSection(std::string_view name)
 {
-    const auto index = m_sectionIndices.find(name);
-    if (index == m_sectionIndices.end())
+    Section* const section = FindSection(name);
+    if (!section)
         return;
-    Section& section = m_sections[index->second];
-    for (Entry& entry : section.entries)
+    for (Entry& entry : section->entries)
         entry.state = State::Removed;
-    section.isRemoved = true;
-    m_sectionIndices.erase(index);
+    section->isRemoved = true;
+    m_sectionsByName.erase(section->name);
     m_isChanged = true;
 }
 
 std::vector<std::string_view> IniText::Sections() const
 {
     std::vector<std::string_view> names;
-    for (std::size_t i = 1; i < m_sections.size(); ++i) {
-        if (!m_sections[i].isRemoved)
-            names.push_back(m_sections[i].name);
+    for (const Section& section : m_sections) {
+        if (!section.isRemoved && section.name != kEarlyKeys)
+            names.push_back(section.name);
     }
     return names;
 }
@@ -148,12 +144,11 @@ std::vector<std::string_view> IniText::Sections() const
 std::vector<IniText::Key> IniText::Keys(std::string_view name) const
 {
     std::vector<Key> keys;
-    const auto index = m_sectionIndices.find(name);
-    if (index == m_sectionIndices.end())
+    const Section* const section = FindSection(name);
+    if (!section)
         return keys;
-    const Section& section = m_sections[index->second];
-    keys.reserve(section.entries.size());
-    for (const Entry& entry : section.entries) {
+    keys.reserve(section->entries.size());
+    for (const Entry& entry : section->entries) {
         if (const auto value = ValueOf(entry))
             keys.push_back({entry.name, *value});
     }
@@ -186,7 +181,7 @@ std::string IniText::Changed() const
     const auto copyUpTo = [&](std::size_t end) { result.append(m_text, at, end - at); };
     for (std::size_t i = 0; i < m_lines.size(); ++i) {
         const Line& line = m_lines[i];
-        const Section& section = m_sections[line.section];
+        const Section& section = *line.section;
         const Entry* const entry = line.entry == kNone ? nullptr : &section.entries[line.entry];
         if (entry ? entry->state == State::Removed : section.isRemoved) {
             copyUpTo(line.begin);
@@ -207,14 +202,19 @@ std::string IniText::Changed() const
     return result;
 }
 
-std::optional<IniText::Place> IniText::Locate(std::string_view sectionName, std::string_view key) const
+IniText::Section* IniText::FindSection(std::string_view name) const
 {
-    const auto section = m_sectionIndices.find(sectionName);
-    if (section == m_sectionIndices.end())
-        return std::nullopt;
-    const auto& indices = m_sections[section->second].indices;
-    const auto entry = indices.find(key);
-    return entry == indices.end() ? std::nullopt : std::optional<Place>({section->second, entry->second});
+    const auto section = m_sectionsByName.find(name);
+    return section == m_sectionsByName.end() ? nullptr : section->second;
+}
+
+IniText::Entry* IniText::FindEntry(std::string_view sectionName, std::string_view key) const
+{
+    Section* const section = FindSection(sectionName);
+    if (!section)
+        return nullptr;
+    const auto index = section->indices.find(key);
+    return index == section->indices.end() ? nullptr : &section->entries[index->second];
 }
 
 std::optional<std::string_view> IniText::ValueOf(const Entry& entry) const
@@ -247,7 +247,7 @@ void IniText::AppendNewKeys(std::string& text, const Section& section) const
 void IniText::AppendNewSections(std::string& text) const
 {
     for (const Section& section : m_sections) {
-        if (section.lastLine != kNone || section.isRemoved || section.name == kEarlyKeys)
+        if (section.lastLine != kNone || section.isRemoved)
             continue;
         const std::string header = std::string("[").append(section.name).append("]").append(LineEnd());
         std::string lines = header;

@@ -49,7 +49,7 @@ public:
     void Set(const std::string& section, const std::string& key, std::string value);
     void Remove(std::string_view section, std::string_view key);
 
-    bool HasSection(std::string_view section) const { return m_sectionIndices.count(section) != 0; }
+    bool HasSection(std::string_view section) const { return FindSection(section) != nullptr; }
     /// Makes a section, which may have no keys.
     void AddSection(const std::string& section);
     /// Removes a section and all its keys.
@@ -103,36 +103,32 @@ private:
         bool isRemoved = false;
     };
 
-    /// A line of a section or a key: offsets into the text, and the indices of the section and of its entry.
+    /// A line of a section or a key: offsets into the text, the section, and the index of its entry.
     struct Line
     {
         std::size_t begin;
         std::size_t value;
         std::size_t end;   ///< The place of the line end.
         std::size_t next;  ///< Where the next line begins.
-        std::size_t section;
+        const Section* section;
         std::size_t entry;  ///< kNone: the line of the section itself.
     };
 
-    struct Place
-    {
-        std::size_t section;
-        std::size_t entry;
-    };
-
     std::string_view NameOf(const IniLine& line);
-    std::size_t SectionIndex(std::string_view name);
-    void AddLine(std::size_t section, const IniLine& line, bool hasOwnName);
-    std::optional<Place> Locate(std::string_view section, std::string_view key) const;
+    Section& SectionOf(std::string_view name);
+    static std::size_t EntryIndex(Section& section, std::string_view name);
+    void AddLine(Section& section, const IniLine& line, bool hasOwnName);
+    Section* FindSection(std::string_view name) const;
+    Entry* FindEntry(std::string_view section, std::string_view key) const;
     std::optional<std::string_view> ValueOf(const Entry& entry) const;
     void AppendNewKeys(std::string& text, const Section& section) const;
     void AppendNewSections(std::string& text) const;
     const char* LineEnd() const;
 
     const std::string m_text;
-    std::deque<std::string> m_names;  ///< Names that are not in the text.
-    std::deque<Section> m_sections;   ///< Includes removed sections. The first one has the early keys.
-    std::unordered_map<std::string_view, std::size_t> m_sectionIndices;  ///< Without removed sections.
+    std::deque<std::string> m_names;                                  ///< Names that are not in the text.
+    std::deque<Section> m_sections;                                   ///< Includes removed sections.
+    std::unordered_map<std::string_view, Section*> m_sectionsByName;  ///< Without removed sections.
     std::vector<Line> m_lines;
     bool m_isSettings = false;
     bool m_isChanged = false;
