@@ -49,14 +49,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string value = fittings::EncodeValue(text);
     Check(IsOneLine(value), "an encoded value is one line");
     Check(fittings::DecodeValue(value) == text, "a value is read back");
-    Check(fittings::DecodesTo(value, text), "a value is recognised");
-    Check(fittings::DecodesTo(value, other) == (other == text), "no other value is recognised");
 
     Check(fittings::WideToNarrow(fittings::NarrowToWide(file)) == file, "every byte is read back");
     const std::wstring decoded = fittings::DecodeValue(file);
     Check(fittings::DecodeValue(fittings::EncodeValue(decoded)) == decoded, "a decoded value can be encoded");
-    Check(fittings::DecodesTo(file, decoded), "a value in a file is recognised");
-    Check(fittings::DecodesTo(file, text) == (decoded == text), "no other value in a file is recognised");
     const std::wstring decodedName = fittings::DecodeName(file);
     Check(fittings::DecodeName(fittings::EncodeName(decodedName)) == decodedName, "a decoded name can be encoded");
     return 0;

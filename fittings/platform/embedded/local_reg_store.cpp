@@ -120,7 +120,7 @@ void CLocalRegStore::WriteString(CIniFile& ini, const wchar_t* section, const wc
 
 bool CLocalRegStore::DeleteKey(CIniFile& ini, const wchar_t* section, const wchar_t* key)
 {
-    if (ini.Has(View(section), View(key), std::nullopt))
+    if (!ini.Get(View(section), View(key)))
         return false;
     ini.Delete(View(section), View(key));
     return true;

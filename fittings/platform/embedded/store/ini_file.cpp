@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstddef>
-#include <unordered_map>
 #include <utility>
 
 #include <unistd.h>
@@ -169,19 +168,13 @@ fittings::UpdateResult CIniFile::ReplaceUnreadable(const std::string& path,
 
 std::optional<std::wstring> CIniFile::Get(std::wstring_view section, std::wstring_view key) const
 {
-    const auto value = Find(section, key);
+    const auto value = m_text->Find(fittings::EncodeName(section), fittings::EncodeName(key));
     return value ? std::optional(fittings::DecodeValue(*value)) : std::nullopt;
-}
-
-bool CIniFile::Has(std::wstring_view section, std::wstring_view key, std::optional<std::wstring_view> text) const
-{
-    const auto value = Find(section, key);
-    return value ? text && fittings::DecodesTo(*value, *text) : !text;
 }
 
 void CIniFile::Set(std::wstring_view section, std::wstring_view key, std::wstring_view value)
 {
-    if (!Has(section, key, value))
+    if (Get(section, key) != value)
         m_text->Set(fittings::EncodeName(section), fittings::EncodeName(key), fittings::EncodeValue(value));
 }
 
@@ -216,7 +209,7 @@ bool CIniFile::HoldsAll(const std::vector<Change>& changes) const
 {
     return std::all_of(changes.begin(), changes.end(), [this](const Change& change) {
         if (!change.isOfSection)
-            return Has(change.section, change.key, change.value) &&
+            return Get(change.section, change.key) == change.value &&
                    (change.value || !change.section.empty() || !HasEarlyKey(change.key));
         const std::string section = fittings::EncodeName(change.section);
         const bool isThere = m_text->HasSection(section);
@@ -242,9 +235,17 @@ std::vector<std::wstring> CIniFile::KeyNames(std::wstring_view section) const
 
 std::vector<fittings::SettingsEntry> CIniFile::Entries(std::wstring_view section) const
 {
-    std::vector<IniText::Key> keys = m_text->Keys(fittings::EncodeName(section));
-    if (section.empty())
-        keys = WithEarlyKeys(keys);
+    const std::string name = fittings::EncodeName(section);
+    std::vector<IniText::Key> keys;
+    if (section.empty()) {
+        keys = m_text->Keys(IniText::kEarlyKeys);
+        for (IniText::Key& key : keys)
+            key.value = m_text->Find(name, key.name).value_or(key.value);
+    }
+    for (const IniText::Key& key : m_text->Keys(name)) {
+        if (!section.empty() || !m_text->Find(IniText::kEarlyKeys, key.name))
+            keys.push_back(key);
+    }
     std::vector<fittings::SettingsEntry> entries;
     entries.reserve(keys.size());
     for (const IniText::Key& key : keys)
@@ -252,31 +253,9 @@ std::vector<fittings::SettingsEntry> CIniFile::Entries(std::wstring_view section
     return entries;
 }
 
-std::optional<std::string_view> CIniFile::Find(std::wstring_view section, std::wstring_view key) const
-{
-    return m_text->Find(fittings::EncodeName(section), fittings::EncodeName(key));
-}
-
 bool CIniFile::HasEarlyKey(std::wstring_view key) const
 {
     return m_text->Find(IniText::kEarlyKeys, fittings::EncodeName(key)).has_value();
-}
-
-// Returns the keys before the first section, followed by @a keys of the section with the empty name. For a key in both,
-// the value in @a keys counts.
-std::vector<IniText::Key> CIniFile::WithEarlyKeys(const std::vector<IniText::Key>& keys) const
-{
-    std::vector<IniText::Key> all = m_text->Keys(IniText::kEarlyKeys);
-    std::unordered_map<std::string_view, std::size_t> indices;
-    for (const IniText::Key& early : all)
-        indices.emplace(early.name, indices.size());
-    for (const IniText::Key& key : keys) {
-        if (const auto index = indices.find(key.name); index != indices.end())
-            all[index->second].value = key.value;
-        else
-            all.push_back(key);
-    }
-    return all;
 }
 
 // Merges three ways: starts with @a displaced, and makes the changes that lead from @a expected to @a put. A change of
@@ -295,7 +274,7 @@ std::optional<std::string> CIniFile::Merged(std::string_view expected, std::stri
         for (const std::wstring& key : ours.KeyNames(section)) {
             const auto old = before.Get(section, key);
             const auto value = ours.Get(section, key);
-            if (value != old && result.Has(section, key, old))
+            if (value != old && result.Get(section, key) == old)
                 result.Set(section, key, *value);
         }
     }

@@ -45,9 +45,6 @@ public:
 
     std::optional<std::wstring> Get(std::wstring_view section, std::wstring_view key) const;
 
-    /// Returns whether Get() returns @a text.
-    bool Has(std::wstring_view section, std::wstring_view key, std::optional<std::wstring_view> text) const;
-
     void Set(std::wstring_view section, std::wstring_view key, std::wstring_view value);
     /// Removes a key. For the section with the empty name, also removes the key with the same name before the first
     /// section.
@@ -85,9 +82,7 @@ private:
     fittings::UpdateResult ReplaceUnreadable(const std::string& path,
                                              std::chrono::steady_clock::time_point deadline) const;
     bool IsFresh();
-    std::optional<std::string_view> Find(std::wstring_view section, std::wstring_view key) const;
     bool HasEarlyKey(std::wstring_view key) const;
-    std::vector<fittings::IniText::Key> WithEarlyKeys(const std::vector<fittings::IniText::Key>& keys) const;
     std::optional<std::string> Merged(std::string_view expected, std::string_view put,
                                       std::string_view displaced) const;
 

@@ -1,7 +1,9 @@
 #include <fittings/platform/embedded/text/ini_codec.h>
 
 #include <algorithm>
+#include <charconv>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <utility>
 
@@ -19,11 +21,6 @@ constexpr char32_t kByteBase = 0xDC00;
 bool IsByte(char32_t code)
 {
     return code >= kByteBase + 0x80 && code <= kByteBase + 0xFF;
-}
-
-bool IsBlank(char32_t code)
-{
-    return code < 0x80 && g_ascii_isspace(static_cast<char>(code));
 }
 
 std::string_view WithoutBlanksAtEnd(std::string_view text)
@@ -69,73 +66,56 @@ void AppendNumber(std::string& out, char32_t code, std::string_view byteMark, st
     }
 }
 
-// Reads a number if @a digits is 1 to 8 hexadecimal digits. Refuses 0, because no text of the store contains a NUL.
+// Reads a number of hexadecimal digits. Refuses 0, because no text of the store contains a NUL.
 std::optional<char32_t> ReadHex(std::string_view digits)
 {
-    if (digits.empty() || digits.size() > 8)
-        return std::nullopt;
-    char32_t code = 0;
-    for (const char digit : digits) {
-        const int value = g_ascii_xdigit_value(digit);
-        if (value < 0)
-            return std::nullopt;
-        code = code << 4 | static_cast<char32_t>(value);
+    std::uint32_t code = 0;
+    const char* const end = digits.data() + digits.size();
+    const auto read = std::from_chars(digits.data(), end, code, 16);
+    return read.ptr == end && code != 0 ? std::optional<char32_t>(code) : std::nullopt;
+}
+
+bool StartsWith(std::string_view text, std::string_view start)
+{
+    return text.substr(0, start.size()) == start;
+}
+
+// Reverses AppendNumber(): reads a character at the beginning of @a text. Returns nothing if none is escaped there.
+std::optional<Decoded> ReadNumber(std::string_view text, std::string_view byteMark, std::string_view codeMark)
+{
+    if (StartsWith(text, codeMark)) {
+        constexpr std::size_t kMaxDigits = 8;
+        const std::string_view digits = text.substr(codeMark.size());
+        const std::size_t count = digits.substr(0, kMaxDigits + 1).find('}');
+        const auto code = count == std::string_view::npos ? std::nullopt : ReadHex(digits.substr(0, count));
+        return code ? std::optional(Decoded{*code, codeMark.size() + count + 1}) : std::nullopt;
     }
-    if (code == 0)
-        return std::nullopt;
-    return code;
+    const std::size_t end = byteMark.size() + 2;
+    const auto code =
+        StartsWith(text, byteMark) && text.size() >= end ? ReadHex(text.substr(byteMark.size(), 2)) : std::nullopt;
+    return code ? std::optional(Decoded{*code < 0x80 ? *code : kByteBase + *code, end}) : std::nullopt;
 }
 
-// Reverses AppendNumber(). ReadByteDigits() reads the form HH at the beginning of @a text, ReadBraces() the form
-// {digits}.
-std::optional<Decoded> ReadByteDigits(std::string_view text)
+bool MustEscape(char32_t code)
 {
-    const auto code = text.size() < 2 ? std::nullopt : ReadHex(text.substr(0, 2));
-    if (!code)
-        return std::nullopt;
-    return Decoded{*code < 0x80 ? *code : kByteBase + *code, 2};
-}
-
-std::optional<Decoded> ReadBraces(std::string_view text)
-{
-    const std::size_t close = text.substr(0, 10).find('}');
-    if (close == std::string_view::npos || text.front() != '{')
-        return std::nullopt;
-    const auto code = ReadHex(text.substr(1, close - 1));
-    if (!code)
-        return std::nullopt;
-    return Decoded{*code, close + 1};
+    return IsControl(code) || !IsUnicode(code);
 }
 
 bool MustEncodeInName(char32_t code, bool first, bool last)
 {
-    switch (code) {
-    case '%':
-    case '=':
-    case '[':
-    case ']':
-        return true;
-    case '#':
-    case ';':
+    if (code == '#' || code == ';')
         return first;
-    case ' ':
+    if (code == ' ')
         return first || last;
-    default:
-        return IsControl(code) || !IsUnicode(code);
-    }
+    return code == '%' || code == '=' || code == '[' || code == ']' || MustEscape(code);
 }
 
 bool MustQuote(std::wstring_view text)
 {
     if (text.empty())
         return false;
-    if (text.front() == L'"' || IsBlank(static_cast<char32_t>(text.front())) ||
-        IsBlank(static_cast<char32_t>(text.back())))
-        return true;
-    return std::any_of(text.begin(), text.end(), [](wchar_t unit) {
-        const auto code = static_cast<char32_t>(unit);
-        return IsControl(code) || !IsUnicode(code);
-    });
+    return text.front() == L'"' || text.front() == L' ' || text.back() == L' ' ||
+           std::any_of(text.begin(), text.end(), [](wchar_t unit) { return MustEscape(static_cast<char32_t>(unit)); });
 }
 
 struct ShortEscape
@@ -155,29 +135,20 @@ void AppendQuoted(std::string& out, char32_t code)
             return;
         }
     }
-    if (IsControl(code) || !IsUnicode(code))
+    if (MustEscape(code))
         AppendNumber(out, code, "\\x", "\\u{");
     else
         AppendUtf8(out, code);
 }
 
-// Reads an escape whose backslash stands directly before @a text.
+// Reads an escaped character. Its backslash is the first character of @a text.
 std::optional<Decoded> ReadEscape(std::string_view text)
 {
-    if (text.empty())
-        return std::nullopt;
     for (const ShortEscape& escape : kShortEscapes) {
-        if (escape.letter == text.front())
-            return Decoded{escape.code, 1};
+        if (text.size() > 1 && escape.letter == text[1])
+            return Decoded{escape.code, 2};
     }
-    std::optional<Decoded> number;
-    if (text.front() == 'x')
-        number = ReadByteDigits(text.substr(1));
-    else if (text.front() == 'u' && text.size() > 1)
-        number = ReadBraces(text.substr(1));
-    if (number)
-        ++number->bytes;
-    return number;
+    return ReadNumber(text, "\\x", "\\u{");
 }
 
 bool IsQuoted(std::string_view value)
@@ -193,17 +164,11 @@ std::optional<std::wstring> Unquoted(std::string_view inner)
     while (!inner.empty()) {
         if (inner.front() == '"')
             return std::nullopt;
-        Decoded next = {0, 0};
-        if (inner.front() == '\\') {
-            const auto escape = ReadEscape(inner.substr(1));
-            if (!escape)
-                return std::nullopt;
-            next = {escape->code, escape->bytes + 1};
-        } else {
-            next = DecodeNext(inner);
-        }
-        text += static_cast<wchar_t>(next.code);
-        inner.remove_prefix(next.bytes);
+        const auto next = inner.front() == '\\' ? ReadEscape(inner) : DecodeNext(inner);
+        if (!next)
+            return std::nullopt;
+        text += static_cast<wchar_t>(next->code);
+        inner.remove_prefix(next->bytes);
     }
     return text;
 }
@@ -233,13 +198,7 @@ std::wstring DecodeName(std::string_view name)
         return text;
     text.reserve(name.size());
     while (!name.empty()) {
-        Decoded next = DecodeNext(name);
-        if (name.front() == '%') {
-            const std::string_view rest = name.substr(1);
-            const bool braces = rest.substr(0, 2) == "u{";
-            if (const auto number = braces ? ReadBraces(rest.substr(1)) : ReadByteDigits(rest))
-                next = {number->code, number->bytes + (braces ? 2 : 1)};
-        }
+        const Decoded next = ReadNumber(name, "%", "%u{").value_or(DecodeNext(name));
         text += static_cast<wchar_t>(next.code);
         name.remove_prefix(next.bytes);
     }
@@ -270,20 +229,6 @@ std::wstring DecodeValue(std::string_view value)
             return *std::move(text);
     }
     return NarrowToWide(value);
-}
-
-bool DecodesTo(std::string_view value, std::wstring_view text)
-{
-    value = WithoutBlanksAtEnd(value);
-    if (IsQuoted(value))
-        return DecodeValue(value) == text;
-    for (; !value.empty() && !text.empty(); text.remove_prefix(1)) {
-        const Decoded next = DecodeNext(value);
-        if (static_cast<wchar_t>(next.code) != text.front())
-            return false;
-        value.remove_prefix(next.bytes);
-    }
-    return value.empty() && text.empty();
 }
 
 std::wstring NarrowToWide(std::string_view text)

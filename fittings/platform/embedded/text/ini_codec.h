@@ -29,10 +29,6 @@ std::string EncodeValue(std::wstring_view text);
 /// taken literally, with its quotes.
 std::wstring DecodeValue(std::string_view value);
 
-/// Returns whether DecodeValue() returns @a text for @a value. If @a value has no quotes, stops decoding at the first
-/// difference.
-bool DecodesTo(std::string_view value, std::wstring_view text);
-
 std::wstring NarrowToWide(std::string_view text);
 
 /// Reverses NarrowToWide(). A code that represents a byte becomes that byte. Any other code that is not a Unicode
