@@ -23,7 +23,7 @@ struct SettingsChange
 {
     std::wstring section;               ///< No null character is allowed here, in the key or in the value.
     std::wstring key;                   ///< The key to set or to remove.
-    std::optional<std::wstring> value;  ///< The new value; none removes the key.
+    std::optional<std::wstring> value;  ///< The new value; none removes the key as DeleteKey() does.
 
     /// True for a change of the section itself, which ignores the key. With a value, the change creates the section,
     /// even without keys. Without a value, it removes the section, unless the section still has a key after all changes
@@ -85,7 +85,8 @@ public:
     /// Sets a value in memory and creates section and key as needed. Save() stores it in a file.
     static void WriteString(CIniFile& ini, const wchar_t* section, const wchar_t* key, const wchar_t* value);
 
-    /// Removes a key in memory. Returns true when there was such a key.
+    /// Removes a key in memory. For the section with the empty name, also removes the key with the same name before the
+    /// first section. Returns true when there was such a key.
     static bool DeleteKey(CIniFile& ini, const wchar_t* section, const wchar_t* key);
 
     /// Returns the names of all sections, each once, in the order of the file; new ones come last. The keys before the

@@ -120,10 +120,7 @@ void CLocalRegStore::WriteString(CIniFile& ini, const wchar_t* section, const wc
 
 bool CLocalRegStore::DeleteKey(CIniFile& ini, const wchar_t* section, const wchar_t* key)
 {
-    if (!ini.Get(View(section), View(key)))
-        return false;
-    ini.Delete(View(section), View(key));
-    return true;
+    return ini.Delete(View(section), View(key));
 }
 
 std::vector<std::wstring> CLocalRegStore::GetSectionNames(const CIniFile& ini)

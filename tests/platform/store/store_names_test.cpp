@@ -108,6 +108,22 @@ TEST(DeletingAKeyOfAnIniFile, SaysWhetherItWasThere)
     EXPECT_EQ(ReadFile(folder / "a.ini"), "# mine\n[s]\n# of b\nb=2\n");
 }
 
+TEST(DeletingAKeyOfTheEmptySection, IncludesTheOneBeforeTheFirstSection)
+{
+    const TempFolder folder;
+    const std::wstring path = file_util_ex::ConvertFromUTF8W(folder / "a.ini");
+    WriteFile(folder / "a.ini", "a=1\nb=2\n[%]\na=3\nc=4\n[s]\nb=5\n");
+    const fittings::OwnedIniFile file(CLocalRegStore::CreateInitFile(false));
+    EXPECT_TRUE(CLocalRegStore::Load(*file, path.c_str()));
+    EXPECT_FALSE(CLocalRegStore::DeleteKey(*file, L"s", L"a"));
+    EXPECT_TRUE(CLocalRegStore::DeleteKey(*file, L"", L"a"));
+    EXPECT_TRUE(CLocalRegStore::DeleteKey(*file, nullptr, L"b"));
+    EXPECT_FALSE(CLocalRegStore::DeleteKey(*file, L"", L"a"));
+    EXPECT_FALSE(CLocalRegStore::DeleteKey(*file, L"", L"b"));
+    EXPECT_TRUE(CLocalRegStore::Save(*file, path.c_str()));
+    EXPECT_EQ(ReadFile(folder / "a.ini"), "[%]\nc=4\n[s]\nb=5\n");
+}
+
 TEST(AStoredInteger, ComesBack)
 {
     const TempUserData data;

@@ -178,12 +178,12 @@ void CIniFile::Set(std::wstring_view section, std::wstring_view key, std::wstrin
         m_text->Set(fittings::EncodeName(section), fittings::EncodeName(key), fittings::EncodeValue(value));
 }
 
-void CIniFile::Delete(std::wstring_view section, std::wstring_view key)
+bool CIniFile::Delete(std::wstring_view section, std::wstring_view key)
 {
     const std::string name = fittings::EncodeName(key);
-    m_text->Remove(fittings::EncodeName(section), name);
-    if (section.empty())
-        m_text->Remove(IniText::kEarlyKeys, name);
+    const bool isRemoved = m_text->Remove(fittings::EncodeName(section), name);
+    const bool isEarlyRemoved = section.empty() && m_text->Remove(IniText::kEarlyKeys, name);
+    return isRemoved || isEarlyRemoved;
 }
 
 void CIniFile::Apply(const std::vector<Change>& changes)

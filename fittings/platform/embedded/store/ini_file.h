@@ -47,8 +47,8 @@ public:
 
     void Set(std::wstring_view section, std::wstring_view key, std::wstring_view value);
     /// Removes a key. For the section with the empty name, also removes the key with the same name before the first
-    /// section.
-    void Delete(std::wstring_view section, std::wstring_view key);
+    /// section. Returns whether there was such a key.
+    bool Delete(std::wstring_view section, std::wstring_view key);
 
     using Change = fittings::SettingsChange;
 

@@ -103,12 +103,14 @@ void IniText::Set(const std::string& sectionName, const std::string& key, std::s
     m_isChanged = true;
 }
 
-void IniText::Remove(std::string_view section, std::string_view key)
+bool IniText::Remove(std::string_view section, std::string_view key)
 {
-    if (Entry* const entry = FindEntry(section, key)) {
-        entry->state = State::Removed;
-        m_isChanged = true;
-    }
+    Entry* const entry = FindEntry(section, key);
+    if (!entry || entry->state == State::Removed)
+        return false;
+    entry->state = State::Removed;
+    m_isChanged = true;
+    return true;
 }
 
 void IniText::AddSection(const std::string& section)

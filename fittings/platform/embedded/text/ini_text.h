@@ -47,7 +47,8 @@ public:
 
     std::optional<std::string_view> Find(std::string_view section, std::string_view key) const;
     void Set(const std::string& section, const std::string& key, std::string value);
-    void Remove(std::string_view section, std::string_view key);
+    /// Returns whether there was such a key.
+    bool Remove(std::string_view section, std::string_view key);
 
     bool HasSection(std::string_view section) const { return FindSection(section) != nullptr; }
     /// Makes a section, which may have no keys.
