@@ -92,8 +92,12 @@ struct FileUpdate
 /// Outdated and does not touch the file. Otherwise exchanges the file and a new one, or makes the file if there was
 /// none. A change between the check and the exchange is merged. If it cannot be merged, the function undoes the
 /// exchange and returns Outdated. If another process prevents the undoing, the displaced file is kept under a name from
-/// OtherName(). On file systems that cannot exchange two files atomically, such as NFS, a change in the few
-/// microseconds after the check can be lost.
+/// OtherName(). If the undoing fails with an error, the displaced file is kept in the same way; the new file stays in
+/// place and the result is Saved. If the file has changed again after each of a hundred merges, undoes the last
+/// exchange, keeps the file that was displaced before that one, and returns Failed.
+///
+/// On file systems that cannot exchange two files atomically, such as NFS, a change in the few microseconds after the
+/// check can be lost.
 UpdateResult UpdateFileBytes(const std::string& path, const FileUpdate& update);
 
 /// Gives the file at @a path a second name that does not exist yet: its own name followed by ".unreadable", or
