@@ -28,7 +28,7 @@ namespace {
 // because a name becomes the field's text.
 bool IsColour(const wxString& value)
 {
-    return (value.StartsWith("#") || value.StartsWith("rgb")) && wxColour(value).IsOk();
+    return (value.StartsWith("#") || value.Lower().StartsWith("rgb")) && wxColour(value).IsOk();
 }
 
 }  // namespace

@@ -58,8 +58,13 @@ wxObject* wxNumberCtrlXmlHandler::DoCreateResource()
     const auto report = [this](const wxString& name) {
         ReportParamError(name, wxString::Format("\"%s\" is refused", GetParamValue(name)));
     };
-    if (!control->SetRange(GetParamValue("min"), GetParamValue("max")))
-        report(GetParamValue("max").empty() ? "min" : "max");
+    wxString min = GetParamValue("min");
+    if (!control->SetRange(min, wxString())) {
+        report("min");
+        min.clear();
+    }
+    if (!control->SetRange(min, GetParamValue("max")))
+        report("max");
     if (HasParam("inc") && !control->SetIncrement(GetParamValue("inc")))
         report("inc");
     if (!control->SetDecimal(GetParamValue("value")))

@@ -193,6 +193,8 @@ TEST(ColourComboXmlHandler, GivesTheColourWithItsNameAndItsMark)
     EXPECT_EQ(get("by-number")->GetValue(), "No line");
     EXPECT_EQ(get("as-value")->GetColour(), *wxBLUE);
     EXPECT_EQ(get("as-value")->GetValue(), "Blue");
+    EXPECT_EQ(get("as-capital-value")->GetColour(), *wxBLUE) << "the toolkit accepts both cases";
+    EXPECT_EQ(get("as-capital-value")->GetValue(), "Blue");
     EXPECT_EQ(get("as-text")->GetColour(), *wxBLACK);
     EXPECT_EQ(get("as-text")->GetValue(), "#12");
     EXPECT_EQ(get("bad")->GetColour(), *wxBLACK);

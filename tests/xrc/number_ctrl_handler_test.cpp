@@ -77,6 +77,27 @@ TEST(NumberCtrlXmlHandler, ReportsWhatItCannotUnderstandAndTakesWhatIsUsual)
     EXPECT_TRUE(number->IsAcceptable());
 }
 
+TEST(NumberCtrlXmlHandler, ReportsTheBoundThatIsInvalidAndTakesTheOther)
+{
+    LoadedResource resource;
+    wxPanel* const panel = resource.MakePanel("bad-bounds");
+    ASSERT_NE(panel, nullptr);
+    ASSERT_EQ(resource.errors.size(), 3U);
+    EXPECT_THAT(resource.errors[0], HasSubstr("\"few\""));
+    EXPECT_THAT(resource.errors[1], HasSubstr("\"lots\""));
+    EXPECT_THAT(resource.errors[2], HasSubstr("\"5\""));
+    const auto accepts = [panel](const char* name, const char* number) {
+        auto* const control = dynamic_cast<wxNumberCtrl*>(panel->FindWindow(name));
+        return control->SetDecimal(number) && control->IsAcceptable();
+    };
+    EXPECT_TRUE(accepts("bad-min", "-7"));
+    EXPECT_FALSE(accepts("bad-min", "21"));
+    EXPECT_TRUE(accepts("bad-max", "700"));
+    EXPECT_FALSE(accepts("bad-max", "9"));
+    EXPECT_TRUE(accepts("low-max", "700"));
+    EXPECT_FALSE(accepts("low-max", "9"));
+}
+
 TEST(NumberCtrlXmlHandler, MakesAPlainControlInsteadOfASubclassThatIsNone)
 {
     LoadedResource resource;
