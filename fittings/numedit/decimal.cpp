@@ -220,11 +220,11 @@ std::optional<Decimal> Sum(const Decimal& left, const Decimal& right)
 {
     if (left.IsZero() || right.IsZero())
         return left.IsZero() ? right : left;
-    // Add one place at the top for a carry.
-    const std::int64_t top = std::max(left.point, right.point) + 1;
+    const std::int64_t highest = std::max(left.point, right.point);
     const std::int64_t bottom = std::min(LowestPlace(left), LowestPlace(right));
-    if (top - bottom > kMostDigits)
+    if (highest - bottom > kMostDigits)
         return std::nullopt;
+    const std::int64_t top = highest + 1;  // one place more, for a carry
     const std::string first = DigitsBetween(left, top, bottom);
     const std::string second = DigitsBetween(right, top, bottom);
     if (left.negative == right.negative)

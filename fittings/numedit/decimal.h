@@ -48,7 +48,7 @@ Decimal Negated(Decimal number);
 /// Returns the number with at least @a decimals decimals and no exponent; nothing if it has more than 100,000 digits.
 std::optional<std::string> PlainText(const Decimal& number, std::int64_t decimals = 0);
 
-/// Returns the sum. Returns nothing if neither number is 0 and their digits together span 100,000 places or more.
+/// Returns the sum. Returns nothing if neither number is 0 and their digits together span more than 100,000 places.
 std::optional<Decimal> Sum(const Decimal& left, const Decimal& right);
 
 /// Rounds a non-negative number up or down to @a decimals decimals. With -2 decimals, it is rounded to hundreds.

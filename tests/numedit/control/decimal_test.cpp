@@ -71,6 +71,18 @@ TEST(Decimals, AreAdded)
     EXPECT_FALSE(fittings::Sum(Number("1e200000"), Number("1")));
 }
 
+TEST(Decimals, AreAddedIfTheirDigitsSpanNoMoreThanAHundredThousandPlaces)
+{
+    const std::string nines(100'000, '9');
+    const auto sum = [](const std::string& left, const char* right) {
+        return fittings::Sum(Number(left), Number(right)).value_or(Decimal());
+    };
+    EXPECT_EQ(sum("1e99999", "1").digits, "1" + std::string(99'998, '0') + "1");
+    EXPECT_EQ(sum(nines, "1").point, 100'001) << "the carry is not counted";
+    EXPECT_FALSE(fittings::Sum(Number("1e100000"), Number("1")));
+    EXPECT_FALSE(fittings::Sum(Number("1e99999"), Number("0.1")));
+}
+
 TEST(Doubles, GoInAndOutWithoutLoss)
 {
     for (const double value :
