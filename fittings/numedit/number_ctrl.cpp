@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <optional>
+#include <utility>
 
 #include <gtk/gtk.h>
 #include <wx/uilocale.h>
@@ -148,7 +149,7 @@ void wxNumberCtrl::GTKOnTextChanged()
         return;
     TellNumber();
     if (self && !m_field->showsPlain)
-        m_field->entry->Soon([this] { ShowFormatted(); });
+        SettleSoon();
 }
 
 void wxNumberCtrl::WriteText(const wxString& text)
@@ -192,21 +193,20 @@ void wxNumberCtrl::OnSetFocus(wxFocusEvent& event)
     const bool clicked = present && present->type == GDK_BUTTON_PRESS;
     if (present)
         gdk_event_free(present);
-    if (clicked) {
-        m_field->entry->Soon([this] {
-            if (HasFocus())
-                ShowPlain();
-        });
-    } else {
+    m_field->awaitsPlain = clicked;
+    if (clicked)
+        SettleSoon();
+    else
         ShowPlain();
-    }
 }
 
 void wxNumberCtrl::OnKillFocus(wxFocusEvent& event)
 {
     event.Skip();
-    if (m_field && !IsBeingDeleted())
-        ShowFormatted();
+    if (!m_field || IsBeingDeleted())
+        return;
+    m_field->awaitsPlain = false;
+    ShowFormatted();
 }
 
 void wxNumberCtrl::OnChar(wxKeyEvent& event)
@@ -255,6 +255,17 @@ void wxNumberCtrl::OnPaste(wxClipboardTextEvent& event)
     g_free(text);
     if (self && !pasted.empty())
         m_field->entry->Take(pasted);
+}
+
+/// Shows the number plain or formatted after the current event.
+void wxNumberCtrl::SettleSoon()
+{
+    m_field->entry->Soon([this] {
+        if (std::exchange(m_field->awaitsPlain, false))
+            ShowPlain();
+        else if (!m_field->showsPlain)
+            ShowFormatted();
+    });
 }
 
 void wxNumberCtrl::ShowPlain()

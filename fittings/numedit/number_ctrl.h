@@ -177,6 +177,7 @@ private:
     void OnChar(wxKeyEvent& event);
     void OnWheel(wxMouseEvent& event);
     void OnPaste(wxClipboardTextEvent& event);
+    void SettleSoon();
     void ShowPlain();
     void ShowFormatted();
     std::wstring Plain() const;

@@ -168,22 +168,32 @@ bool NumberField::MayStay(const std::wstring& text) const
     return CanBeTyped(text, rules) || Judge(text, rules) == NumberState::Good;
 }
 
-std::optional<std::wstring> NumberField::Accepted(const NumberEntry::Insertion& insertion) const
+std::optional<NumberEntry::Insertion> NumberField::Accepted(NumberEntry::Insertion insertion) const
 {
-    std::wstring text = insertion.text;
+    const bool isFormatted = !showsPlain && insertion.before + insertion.replaced + insertion.behind == shown;
+    if (isFormatted) {
+        const auto place = [this](std::size_t at) {
+            return static_cast<std::size_t>(Place(shown, plain, static_cast<long>(at)));
+        };
+        const std::size_t end = insertion.before.size() + insertion.replaced.size();
+        insertion.before = plain.substr(0, place(insertion.before.size()));
+        insertion.behind = plain.substr(std::max(place(end), insertion.before.size()));
+    }
+    std::wstring& text = insertion.text;
     if (insertion.keypadPoint && text.size() == 1 && !IsDigit(text[0]))
         text[0] = rules.point;
     if (insertion.typed || !showsPlain) {
-        std::wstring all = insertion.before + text + insertion.behind;
-        if (CanBeTyped(showsPlain ? all : Reading(all), rules))
-            return text;
+        const std::wstring all = insertion.before + text + insertion.behind;
+        if (CanBeTyped(showsPlain || isFormatted ? all : Reading(all), rules))
+            return insertion;
         if (insertion.typed)
             return std::nullopt;
     }
-    std::optional<std::wstring> read = PlainTextOf(text, format);
+    const std::optional<std::wstring> read = PlainTextOf(text, format);
     if (!read || !MayStay(insertion.before + *read + insertion.behind))
         return std::nullopt;
-    return read;
+    text = *read;
+    return insertion;
 }
 
 std::optional<std::wstring> NumberField::Stepped(const std::wstring& text, bool up, bool tenfold) const

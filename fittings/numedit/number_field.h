@@ -37,8 +37,8 @@ public:
 
     NumberState State(const std::wstring& plain) const;
 
-    /// Returns the text to insert; nothing if the insertion is refused.
-    std::optional<std::wstring> Accepted(const NumberEntry::Insertion& insertion) const;
+    /// Returns the insertion into the plain text; nothing if it is refused.
+    std::optional<NumberEntry::Insertion> Accepted(NumberEntry::Insertion insertion) const;
 
     /// Returns the plain text after one step, or ten steps, up or down. Returns nothing if there is no such number or
     /// the step does not change the number.
@@ -53,6 +53,7 @@ public:
     NumberRules rules;
     Decimal increment = MakeDecimal("1", 1);
     bool showsPlain = false;
+    bool awaitsPlain = false;     ///< The plain text is to be shown after the current event.
     std::wstring plain;           ///< The plain text of `shown`.
     std::wstring shown;           ///< The last text that was shown without the focus.
     std::wstring exact;           ///< The number that the program has set. It may have more decimals than the format.

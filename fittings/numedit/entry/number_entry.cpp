@@ -74,6 +74,11 @@ bool NumberEntry::Take(const std::wstring& text)
 void NumberEntry::Soon(std::function<void()> action)
 {
     m_soon = std::move(action);
+    Wake();
+}
+
+void NumberEntry::Wake()
+{
     if (m_source == 0)
         m_source = g_idle_add_full(G_PRIORITY_HIGH, OnSoon, this, nullptr);
 }
@@ -83,7 +88,11 @@ int NumberEntry::OnSoon(void* self)
     auto* const entry = static_cast<NumberEntry*>(self);
     entry->m_source = 0;
     entry->m_deleted.reset();
-    if (const std::function<void()> action = std::exchange(entry->m_soon, nullptr))
+    const std::function<void()> action = std::exchange(entry->m_soon, nullptr);
+    // The selection is a place in the text before the action, which may change the text.
+    if (const auto selection = std::exchange(entry->m_selectSoon, std::nullopt))
+        Select(entry->m_entry, *selection);
+    if (action)
         action();
     return G_SOURCE_REMOVE;
 }
@@ -143,12 +152,11 @@ void NumberEntry::Deleting(int begin, int end)
     const auto from = std::min(static_cast<std::size_t>(begin), text.size());
     m_deleted = Deleted{text.substr(from, end < 0 ? text.npos : static_cast<std::size_t>(end - begin)), begin,
                         SelectionOf(m_entry)};
-    if (m_source == 0)
-        m_source = g_idle_add_full(G_PRIORITY_HIGH, OnSoon, this, nullptr);
+    Wake();
 }
 
-/// Asks m_judge about a text. If m_judge accepts it, carries out the deletion that waits, and inserts the text that
-/// m_judge has returned. Returns whether the text was accepted.
+/// Asks m_judge about a text. If m_judge accepts it, carries out the deletion that waits, and makes the insertion
+/// that m_judge has returned. Returns whether the text was accepted.
 bool NumberEntry::Inserting(const std::wstring& text, int& position)
 {
     const std::wstring all = Text();
@@ -160,9 +168,10 @@ bool NumberEntry::Inserting(const std::wstring& text, int& position)
     insertion.before = all.substr(0, static_cast<std::size_t>(begin));
     insertion.text = text;
     insertion.behind = all.substr(static_cast<std::size_t>(end));
+    insertion.replaced = all.substr(static_cast<std::size_t>(begin), static_cast<std::size_t>(end - begin));
     insertion.typed = m_filtering || (!m_waiting && text.size() == 1);
     insertion.keypadPoint = m_keypadPoint;
-    const std::optional<std::wstring> accepted = m_judge(insertion);
+    const std::optional<Insertion> accepted = m_judge(insertion);
     if (!accepted) {
         m_hasRefused = true;
         m_refused();
@@ -171,9 +180,16 @@ bool NumberEntry::Inserting(const std::wstring& text, int& position)
     }
     m_waiting.reset();
     m_deleted.reset();
-    Replace(begin, end);
-    position = begin;
-    Insert(*accepted, position);
+    if (accepted->before == insertion.before && accepted->behind == insertion.behind) {
+        Replace(begin, end);
+        position = begin;
+        Insert(accepted->text, position);
+        return true;
+    }
+    Replace(0, length);
+    position = 0;
+    Insert(accepted->before + accepted->text + accepted->behind, position);
+    position = static_cast<int>(accepted->before.size() + accepted->text.size());
     return true;
 }
 
@@ -189,7 +205,8 @@ void NumberEntry::PutBack()
     if (!self)
         return;
     // GTK moves the caret after this handler returns, so restore the selection later.
-    Soon([this, selection = deleted.selection] { Select(m_entry, selection); });
+    m_selectSoon = deleted.selection;
+    Wake();
 }
 
 /// Deletes a text. The toolkit is not notified of the deletion, only of the insertion that follows.

@@ -33,12 +33,13 @@ public:
         std::wstring before;
         std::wstring text;
         std::wstring behind;
+        std::wstring replaced;  ///< The text between `before` and `behind` that the insertion replaces.
         bool typed;        ///< True while a key is handled. Otherwise true for a single character, except in Take().
         bool keypadPoint;  ///< True for the keypad's decimal key.
     };
 
-    /// Returns the text to insert, which may differ from Insertion::text. Returns nothing to refuse the insertion.
-    using Judge = std::function<std::optional<std::wstring>(const Insertion&)>;
+    /// Returns the insertion to make, whose texts may differ. Returns nothing to refuse the insertion.
+    using Judge = std::function<std::optional<Insertion>(const Insertion&)>;
 
     /// @a entry must outlive the object. @a toolkit is the user data of the toolkit's own signal handlers on the entry.
     /// @a refused is called for each refusal.
@@ -79,6 +80,7 @@ private:
     void Deleting(int begin, int end);
     bool Dropped(const char* text, int x);
     void PutBack();
+    void Wake();
     void Replace(int begin, int end);
     void Insert(const std::wstring& text, int& position);
     std::wstring Text() const;
@@ -93,6 +95,7 @@ private:
     bool m_hasRefused = false;
     std::optional<std::pair<int, int>> m_waiting;  ///< The deletion that waits until an insertion is accepted.
     std::optional<Deleted> m_deleted;              ///< The last deletion, until the next input.
+    std::optional<EntrySelection> m_selectSoon;    ///< The selection to restore after the current event.
     std::function<void()> m_soon;
     unsigned m_source = 0;
 };

@@ -211,6 +211,31 @@ TEST_F(NumberDrop, TakesANumber)
     EXPECT_EQ(screen.BellsRung(), 0);
 }
 
+// The text is dropped between the digits of the formatted number, 1,234.00.
+TEST_F(NumberDrop, TakesADigitBetweenGroups)
+{
+    screen.Restart("1234");
+    screen.Leave();
+    ASSERT_EQ(screen.Text(), L"1,234.00");
+    screen.first->SetValue("7");
+    screen.first->SetFocus();
+    screen.first->SelectAll();
+    PumpPending();
+    const wxPoint middle = MiddleOf(*screen.number);
+    PangoRectangle place;
+    int left = 0;
+    auto* const entry = GTK_ENTRY(screen.number->m_widget);
+    pango_layout_get_cursor_pos(gtk_entry_get_layout(entry), 3, &place, nullptr);
+    gtk_entry_get_layout_offsets(entry, &left, nullptr);
+    const int x = screen.number->ClientToScreen(wxPoint(left + PANGO_PIXELS(place.x), 0)).x;
+    Drag(*screen.first, screen.first->ClientToScreen(wxPoint(12, screen.first->GetSize().y / 2)), wxPoint(x, middle.y),
+         false);
+    EXPECT_TRUE(PumpUntil([&] { return screen.number->GetDecimal() == "12734"; })) << screen.number->GetDecimal();
+    EXPECT_EQ(screen.Text(), L"12,734.00");
+    EXPECT_EQ(screen.textEvents, 1);
+    EXPECT_EQ(screen.BellsRung(), 0);
+}
+
 TEST_F(NumberDrop, MovesANumber)
 {
     Drop("1,234.50-", true);

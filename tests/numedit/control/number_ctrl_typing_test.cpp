@@ -217,6 +217,30 @@ TEST_F(PasteOfASelection, IsRefusedWholeWhereItIsNone)
     EXPECT_EQ(screen.textEvents, 0);
 }
 
+// The click sets the focus, and pastes before the event ends.
+TEST_F(PasteOfASelection, LeavesTheNumberPlainInTheFieldThatTheClickFocuses)
+{
+    screen.Restart("123.4");
+    Paste("5");
+    ASSERT_TRUE(PumpUntil([&] { return screen.number->HasFocus() && screen.textEvents != 0; }));
+    PumpPending();
+    EXPECT_EQ(screen.Text(), L"123.45") << "the end of 123.40 is the end of 123.4";
+    EXPECT_EQ(screen.number->GetInsertionPoint(), 6);
+    EXPECT_EQ(screen.textEvents, 1);
+    EXPECT_EQ(screen.numbers, std::vector<std::string>{"123.45"});
+    EXPECT_EQ(screen.BellsRung(), 0);
+}
+
+TEST_F(PasteOfASelection, LeavesTheNumberPlainIfItIsRefused)
+{
+    screen.Restart("1234");
+    Paste("12abc");
+    ASSERT_TRUE(PumpUntil([&] { return screen.number->HasFocus() && screen.BellsRung() == 1; }));
+    PumpPending();
+    EXPECT_EQ(screen.Text(), L"1234");
+    EXPECT_EQ(screen.textEvents, 0);
+}
+
 // An input method in another process inserts its text as this test does, without a key event.
 TEST_F(NumberTyping, PutsASelectionBackThatATextWithoutAKeyWasToReplace)
 {
