@@ -132,8 +132,9 @@ public:
     /// Returns the number with all its digits and a dot as its point; empty if the field has no number.
     wxString GetDecimal() const;
 
-    /// Returns whether the field is empty, or has a number within the bounds that has no more digits than the format
-    /// allows. Until the user changes it, a number from SetNumber() or SetDecimal() may have more decimals.
+    /// Returns whether the field is empty or has a number within the bounds. The number must not have more digits than
+    /// the format allows, but a number from SetNumber() or SetDecimal() may have more decimals until the user changes
+    /// the text.
     bool IsAcceptable() const;
 
     /// Returns why the field is not acceptable, in the user's language; empty if it is acceptable.

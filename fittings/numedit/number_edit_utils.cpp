@@ -46,8 +46,8 @@ const wchar_t* AfterDigits(const wchar_t* text)
 
 /// Stores @a text in @a result with @a from replaced by @a to. Returns false if there is nothing to replace.
 ///
-/// If @a from or @a to is empty, the locale's point cannot be converted: then nothing is replaced. Usually both are the
-/// same character: then the function returns without a search.
+/// One of @a from and @a to is the locale's point. It is empty if it cannot be converted: then nothing is replaced.
+/// Usually both points are the same character: then the function returns without a search.
 bool ReplacePoint(std::wstring& result, const wchar_t* text, std::wstring_view from, std::wstring_view to)
 {
     if (from.empty() || to.empty() || (from.size() == 1 && to.size() == 1 && from[0] == to[0]))
@@ -259,7 +259,8 @@ void ShownNumber::Round(std::size_t fraction)
         --m_end;
 }
 
-/// Fills a number at the end of the text with zeros up to the decimals of the format, but at most kMostPadding zeros.
+/// Appends zeros, at most kMostPadding, until the number has the decimals of the format. If the number has no point,
+/// appends the point first. The text must end with the number.
 void ShownNumber::Pad(bool hasPoint, std::size_t decimals)
 {
     if (!hasPoint)

@@ -40,13 +40,14 @@ public:
     /// Returns the insertion into the plain text; nothing if it is refused.
     std::optional<NumberEntry::Insertion> Accepted(NumberEntry::Insertion insertion) const;
 
-    /// Returns the plain text after one step, or ten steps, up or down. Returns nothing if there is no such number or
-    /// the step does not change the number.
+    /// Returns the plain text after a step up or down, which is ten times as far if @a tenfold is true. A step beyond a
+    /// bound ends at the bound. Returns nothing if the step does not change the number, or if its result is not
+    /// acceptable.
     std::optional<std::wstring> Stepped(const std::wstring& plain, bool up, bool tenfold) const;
 
-    /// Returns the position in @a to that corresponds to the position @a place in @a from. Both are on the same side of
-    /// the decimal point, with the same number of digits between the position and the point. The beginning of @a from
-    /// corresponds to the beginning of @a to, and the end to the end.
+    /// Returns the position in @a to that corresponds to the position @a place in @a from. The two positions are on the
+    /// same side of the decimal point, and have the same number of digits between them and the point. The beginning of
+    /// @a from corresponds to the beginning of @a to, and the end to the end.
     long Place(const std::wstring& from, const std::wstring& to, long place) const;
 
     CNumberFormat format;
@@ -57,12 +58,12 @@ public:
     std::wstring plain;           ///< The plain text of `shown`.
     std::wstring shown;           ///< The last text that was shown without the focus.
     std::wstring exact;           ///< The number that the program has set. It may have more decimals than the format.
-    std::optional<Decimal> told;  ///< The number that the program has last set or has last been told.
+    std::optional<Decimal> told;  ///< The number that the program last set, or that the last event reported.
     std::pair<long, long> selection;  ///< The selection in the plain text at the time when the text was formatted.
     std::pair<long, long> mapped;     ///< The same selection in the formatted text.
     wxString problem;                 ///< The problem that is shown.
-    wxString hostTip;                 ///< The program's tooltip, while a problem is shown.
-    std::string hostDescription;      ///< The program's accessible description, while a problem is shown.
+    wxString hostTip;                 ///< The program's own tooltip, kept while a problem is shown in its place.
+    std::string hostDescription;      ///< The program's own accessible description, kept in the same way.
     int wheel = 0;                    ///< The wheel's rotation since its last whole step.
     std::unique_ptr<NumberEntry> entry;
 

@@ -70,8 +70,8 @@ public:
     /// @name Limits, each in force only while its flag is set
     /// A limit that is not in force is never read.
     ///
-    /// While the user types, the part of the number that is typed so far is checked against the bounds. With these
-    /// bounds, every number within them that has no exponent can be typed:
+    /// While the user types, the part of the number that is typed so far is checked against the bounds. If the bounds
+    /// are as follows, the user can type every number within them, except numbers with an exponent:
     /// - A lowest value of 0 or less and a highest value of 0 or more.
     /// - A lowest value of 1, 0.1, 0.01 and so on. The user must then omit the plus sign, and begin a number below 1
     ///   with "0.".

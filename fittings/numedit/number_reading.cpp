@@ -14,8 +14,8 @@ bool IsDigit(wchar_t c)
     return c >= L'0' && c <= L'9';
 }
 
-/// Returns whether a character is a blank. iswspace() does not accept no-break spaces, but they group digits in many
-/// languages.
+/// Returns whether a character is a blank. Accepts the no-break spaces too, which iswspace() does not accept: many
+/// languages group digits with them.
 bool IsBlank(wchar_t c)
 {
     return std::iswspace(static_cast<std::wint_t>(c)) || c == L'\u00A0' || c == L'\u2007' || c == L'\u202F';

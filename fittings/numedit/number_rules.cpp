@@ -112,8 +112,7 @@ std::optional<Span> SpanOf(bool negative, const NumberRules& rules)
     return span;
 }
 
-/// Returns whether the span has a number from @a begin up to, but not including, @a end with at most @a decimals
-/// decimals.
+/// Returns whether a number in the span is at least @a begin, less than @a end, and has at most @a decimals decimals.
 bool Meets(const Decimal& begin, const std::optional<Decimal>& end, const Span& span, std::int64_t decimals)
 {
     Decimal low = RoundedUp(span.low, decimals);
@@ -138,9 +137,8 @@ bool GrowsInto(const Span& span, const Typed& typed, const NumberRules& rules)
     const Decimal begin = MakeDecimal(typed.integers, typed.Integers());
     if (begin.IsZero())
         return Meets(begin, MakeDecimal("1", more + 1), span, rules.mostDecimals);
-    // Try `least` additional digits and up to three more. With fewer digits, the number stays below the span. With
-    // more digits, the number lies further above the beginning of the span: if none of the tried counts leads into the
-    // span, a larger count does not either.
+    // Try `least` additional digits and up to three more. Fewer digits leave the number below the span. The last tried
+    // count already makes the number larger than the lowest of the span, so more digits only lead further away.
     const std::int64_t least = std::max<std::int64_t>(span.low.point - begin.point - 1, 0);
     for (std::int64_t digits = least; digits <= std::min(least + 3, more); ++digits) {
         if (Meets(MakeDecimal(typed.integers, typed.Integers() + digits),
