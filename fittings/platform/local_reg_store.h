@@ -11,7 +11,7 @@
 
 namespace fittings {
 
-/// A key of a section and its value.
+/// A key and its value.
 struct SettingsEntry
 {
     std::wstring key;    ///< Any text.
@@ -53,7 +53,7 @@ class CIniFile;
 /// the same few microseconds can be lost.
 ///
 /// A file of more than 64 MiB or of more than a million lines does not count as a settings file: it is not read. A
-/// write that would make such a file fails.
+/// write fails if the file would become larger than that.
 ///
 /// Any thread may use the default store, until the process ends. Only one thread at a time may use a CIniFile.
 ///
@@ -125,9 +125,9 @@ public:
 
     /// If the file at @a path has changed since the last call, replaces the content of @a ini with that of the file.
     ///
-    /// Returns false when the content of @a ini was left as it is, with any changes made in it since the last call.
-    /// A file that cannot be read counts as empty. A file that another program has emptied less than half a second ago
-    /// counts as not changed. Use @a ini only for reading: do not pass it to Save().
+    /// Returns false when @a ini was left as it was; changes made in it since the last call are then still there. A
+    /// file that cannot be read counts as empty. A file that another program has emptied less than half a second ago
+    /// counts as not changed. Do not pass @a ini to Save(): store changes with SaveChanges().
     static bool Refresh(CIniFile& ini, const wchar_t* path);
 
     /// Returns whether the file is still as the last Refresh() of @a ini read it. False after Refresh() has kept the

@@ -91,9 +91,10 @@ template <typename Taken, typename Text>
 using IfNot =
     std::enable_if_t<(kIsWideText<Text> || kIsNarrowText<Text>)&&!std::is_convertible_v<const Text&, Taken>, int>;
 
-/// Like IfTexts, for a function that has an overload for `const char*` too: enables the function for texts of any kind,
-/// except in two cases. Either all convert to `const wchar_t*` and not all are narrow text, or all convert to
-/// `const char*` and none is wide text. The compiler then chooses the right overload.
+/// Like IfTexts, for a function that has overloads for `const wchar_t*` and for `const char*`. Enables the function for
+/// texts of any kind, unless the compiler chooses the right overload without it:
+/// - the overload for `const wchar_t*` if all texts convert to this type and at least one of them is not narrow text;
+/// - the overload for `const char*` if all texts convert to this type and none of them is wide text.
 template <typename... Texts>
 using IfMixedTexts =
     std::enable_if_t<((kIsWideText<Texts> || kIsNarrowText<Texts>)&&...) &&

@@ -81,7 +81,7 @@ std::optional<std::string> FollowLinks(std::string path)
         std::error_code error;
         const std::filesystem::path target = std::filesystem::read_symlink(path, error);
         if (error == std::errc::invalid_argument || error == std::errc::no_such_file_or_directory)
-            return path;  // not a link
+            return path;  // not a link, or no file yet
         if (error)
             return std::nullopt;
         path = FolderOf(path) / target;
@@ -204,8 +204,8 @@ Outcome Undo(StagedFile& staged)
     return {undone == PlaceResult::Failed ? UpdateResult::Saved : UpdateResult::Outdated, undone == PlaceResult::Done};
 }
 
-// Called after an exchange. If the displaced content is not the expected one, merges it with our change and exchanges
-// again. A change that another process makes meanwhile is displaced and merged in the same way.
+// Called after an exchange. If the displaced content is not the expected one, merges the displaced content with our
+// change and exchanges again. A change that another process makes meanwhile is displaced and merged in the same way.
 Outcome MergeDisplaced(const Target& target, const Exchanged& done, const FileUpdate& update, int merges = 0)
 {
     const auto now = std::chrono::steady_clock::now();
@@ -393,7 +393,7 @@ std::string KeepUnderOtherName(const std::string& path)
             return other;
         if (errno != EEXIST)
             break;
-        // The name may already lead to the same file: this process or another one may have given it before.
+        // Another file may have the name, or the same file: this process or another one may have added the name before.
         const auto named = IdentityOf(other);
         const auto file = IdentityOf(*target);
         if (named && file && named->HasContentOf(*file))

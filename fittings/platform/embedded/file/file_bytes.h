@@ -76,8 +76,9 @@ struct FileUpdate
     std::string_view foundBytes;
     std::string newBytes;
 
-    /// Returns the merged content for a file that contained @a displaced instead of @a expected when @a put replaced
-    /// it. Returns nothing when @a displaced is not a settings file.
+    /// Called when @a put has replaced the file, and the file contained @a displaced instead of @a expected. Returns
+    /// the merged content for the file. Returns nothing when @a displaced cannot be merged, for example because it is
+    /// not a settings file.
     using Merge = std::function<std::optional<std::string>(std::string_view expected, std::string_view put,
                                                            std::string_view displaced)>;
     Merge merge;

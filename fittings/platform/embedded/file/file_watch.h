@@ -16,11 +16,11 @@ namespace fittings {
 class FileWatch
 {
 public:
-    /// Whether @a path leads to a file in the state @a known. Pass the same path in each call.
+    /// Returns whether @a path leads to a file in the state @a known. Pass the same path in each call.
     ///
-    /// Notices at once when the file was written, replaced, renamed or removed. When the path leads elsewhere because a
-    /// folder above was moved, a link was changed or a file system was mounted, the open file does not show it. Notices
-    /// this at the next tick of the system's clock, at most 10 ms later.
+    /// Notices at once when the file was written, replaced, renamed or removed. The path can also lead elsewhere,
+    /// because a folder above was moved, a link was changed or a file system was mounted. The open file does not show
+    /// this: the function notices it at the next tick of the system's clock, at most 10 ms later.
     bool IsUnchanged(const std::string& path, const FileIdentity& known);
 
 private:

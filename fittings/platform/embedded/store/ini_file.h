@@ -68,7 +68,7 @@ public:
     /// name, also returns the keys before the first section, and returns these first.
     std::vector<fittings::SettingsEntry> Entries(std::wstring_view section) const;
 
-    /// Returns whether the file has not changed since its content was read into this object. False while Refresh()
+    /// Returns whether the file is still as it was when its content was read into this object. False while Refresh()
     /// keeps the earlier content of a file that was found empty.
     bool IsCurrent() const;
 

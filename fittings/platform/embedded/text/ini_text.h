@@ -51,7 +51,7 @@ public:
     bool Remove(std::string_view section, std::string_view key);
 
     bool HasSection(std::string_view section) const { return FindSection(section) != nullptr; }
-    /// Makes a section, which may have no keys.
+    /// Makes a section if there is none with that name. The section is written even if no key is set in it.
     void AddSection(const std::string& section);
     /// Removes a section and all its keys.
     void RemoveSection(std::string_view section);
@@ -99,7 +99,7 @@ private:
         std::vector<Entry> entries = {};
         std::unordered_map<std::string_view, std::size_t> indices = {};  ///< Indices of the entries, by name.
         std::size_t lastLine = kNone;  ///< The line after which new keys are inserted. kNone: the section is new.
-        bool hasOwnName = false;       ///< True if lastLine is, or is below, a section line as EncodeName() writes it.
+        bool hasOwnName = false;       ///< True if lastLine is or follows a section line as EncodeName() writes it.
         bool isMade = false;           ///< True after AddSection().
         bool isRemoved = false;
     };
