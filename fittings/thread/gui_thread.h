@@ -77,9 +77,9 @@ public:
     /// arrive.
     void StartKill();
 
-    /// Makes the worker post one event of type @a eventType to the handler when Entry() has returned, whether the work
-    /// was done, StartKill() was called or an exception was thrown. Call this before RunThread(). Without a call, no
-    /// such event is posted.
+    /// Makes the worker post one event of type @a eventType to the handler when Entry() has ended: after its work is
+    /// done, after StartKill() and even after an exception. Call SetEndEvent() before RunThread(). By default, no such
+    /// event is posted.
     ///
     /// The event is a wxCommandEvent. Its int is GetRunNumber(), and its client data is the result of Entry(). When the
     /// event arrives, HasEnded() is true and Wait() returns at once.
@@ -129,7 +129,7 @@ protected:
     /// StartKill() comes between them.
     wxMutex m_continueMutex{wxMUTEX_RECURSIVE};
 
-    /// Held while PostEvent() makes and posts an event of its own. Lock it before m_continueMutex, never after it.
+    /// Held while PostEvent() makes and posts an event of a given type. Lock it before m_continueMutex, never after it.
     wxMutex m_postMutex{wxMUTEX_DEFAULT};
 
 private:

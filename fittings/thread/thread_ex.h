@@ -46,9 +46,9 @@ class wxThreadExImpl;
 /// - A detached object must outlive its Entry(): the thread writes into the object when Entry() has returned, and
 ///   neither Wait() nor the destructor waits for that. So keep such an object until the process ends. Do not
 ///   shut the toolkit down while its thread runs.
-/// - The thread itself frees the toolkit's thread object behind this one when it ends. If this object never ran, or its
-///   Run() failed, the toolkit's object stays allocated until the process ends. After Create() a waiting thread stays
-///   too, which may disturb the toolkit's shutdown. So call Create() only if you call Run().
+/// - Behind this object is a thread object of the toolkit, which the thread frees when it ends. If this object never
+///   ran, or its Run() failed, the toolkit's object stays allocated until the process ends. After Create() a waiting
+///   thread stays too, which may disturb the toolkit's shutdown. So call Create() only if you call Run().
 class FITTINGS_API wxThreadEx
 {
 public:
