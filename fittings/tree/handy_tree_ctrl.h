@@ -122,7 +122,7 @@ public:
     /// skip the event, the item is not filled.
     void OnEvtItemExpanding(wxTreeEvent& event);
 
-    /// Describes the item that has the focus in the tree to assistive technologies.
+    /// Tells assistive technologies which item of the tree has the focus.
     void OnInternalIdle() override;
 
     /// Called each time an item is about to expand. Override it to add the children. The default does nothing.

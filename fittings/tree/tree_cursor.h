@@ -81,7 +81,7 @@ public:
     /// Returns the label.
     std::wstring GetText() const;
 
-    /// Returns the index of the item's image for the state @a which in the tree's image list; -1 when there is none.
+    /// Returns the item's image for the state @a which, as an index into the tree's image list; -1 when there is none.
     int GetImage(wxTreeItemIcon which) const;
 
     /// Shows an image of the tree's image list, by its index.
