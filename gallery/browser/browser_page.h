@@ -27,8 +27,8 @@ wxDECLARE_EVENT(EVT_BROWSER_CHANGED, wxCommandEvent);
 
 /// The disk-usage browser: folders to the left, the contents of the selected one to the right.
 ///
-/// The constructor restores the columns and the filter of the last session, Start() the folder, and LoadLayout() the
-/// panes.
+/// The constructor restores the columns and the filter of the last session. Start() restores the folder, and
+/// LoadLayout() restores the panes.
 class BrowserPage : public wxPanel
 {
 public:

@@ -200,8 +200,8 @@ wxSpinCtrl* ColourOptionFields::MakeCount(const char* name, int first, int least
     return field;
 }
 
-/// Enables each field that depends on a check box if the box is checked, otherwise disables the field. Then sends
-/// EVT_COLOUR_OPTIONS_CHANGED.
+/// Three fields each depend on a check box. Enables the fields whose boxes are checked, and disables the others. Then
+/// sends EVT_COLOUR_OPTIONS_CHANGED.
 void ColourOptionFields::OnChange()
 {
     m_automatic->Enable(m_hasAutomatic->GetValue());

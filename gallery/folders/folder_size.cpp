@@ -46,7 +46,7 @@ struct Level
     FileId id{};    ///< Identifies the folder while it is closed.
     std::vector<Pending> subfolders;
     std::size_t next = 0;
-    double start = 0;  ///< The beginning of the folder's share of the whole.
+    double start = 0;  ///< Where the folder's share of the progress begins, from 0 to 1.
     double span = 1;
 
     double Share() const { return span / static_cast<double>(subfolders.size()); }

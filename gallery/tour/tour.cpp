@@ -202,7 +202,7 @@ bool Tour::ExpandByKeyboard()
     if (!Waits([&] { return tree.HasFocus() && tree.GetSelection().item == tree.GetRootItem(); }, "a click selects"))
         return false;
 
-    // On each of two levels, expand one folder: of the first twelve, the last one that can be expanded.
+    // Expand one folder on each of two levels: look at the first twelve, and take the last that can be expanded.
     for (int level = 0; level < 2; ++level) {
         const wxTreeItemId start = tree.GetSelection().item;
         wxTreeItemIdValue cookie;
@@ -411,7 +411,7 @@ bool Tour::VisitDialog(char key, const char* claim, const std::function<bool(Gtk
            Waits([&] { return m_frame->IsActive(); }, "the window is active again");
 }
 
-/// Waits until a dialog has the file or folder to choose, takes a picture, and chooses the file or folder with a click.
+/// Waits until the dialog names @a file, which may be a folder. Then takes a picture, and clicks the accepting button.
 bool Tour::AcceptFile(GtkWidget* dialog, const std::string& file, const char* picture)
 {
     if (!Waits([&] { return FileIn(dialog) == file && !AcceptButton(dialog).IsEmpty(); }, "the name is taken") ||
