@@ -1,4 +1,4 @@
-// colour_language_probe CATALOGUES LANGUAGE: creates a colour popup in a host of that language, with a large font, and
+// colour_language_probe LANGUAGE: creates a colour popup in a host of that language, with a large font, and
 // prints in UTF-8:
 //
 //   name I TEXT           the name of each colour
@@ -38,10 +38,9 @@ class Probe : public wxApp
 public:
     bool OnInit() override
     {
-        wxFileTranslationsLoader::AddCatalogLookupPathPrefix(argv[1]);
         auto* const translations = new wxTranslations;
         wxTranslations::Set(translations);
-        translations->SetLanguage(argv[2]);
+        translations->SetLanguage(argv[1]);
         return true;
     }
 

@@ -19,7 +19,7 @@ using Lines = std::map<std::string, std::string>;
 Lines PopupIn(const std::string& language)
 {
     Lines lines;
-    for (const std::string& line : LinesOf(RunChild({COLOUR_LANGUAGE_PROBE, LIBRARY_LOCALE_DIR, language}))) {
+    for (const std::string& line : LinesOf(RunChild({COLOUR_LANGUAGE_PROBE, language}))) {
         std::size_t end = line.find(' ');
         const std::string first = line.substr(0, end);
         if (first == "name" || first == "hot")

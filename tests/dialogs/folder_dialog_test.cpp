@@ -159,7 +159,6 @@ TEST(FolderDialogMessage, IsTheCallersOtherwise)
 
 TEST(FolderDialogMessage, IsTranslatedWhenItIsTheDefault)
 {
-    wxFileTranslationsLoader::AddCatalogLookupPathPrefix(wxString::FromUTF8(LIBRARY_LOCALE_DIR));
     auto* const german = new wxTranslations;
     wxTranslations::Set(german);
     german->SetLanguage("de");

@@ -467,7 +467,6 @@ TEST_F(Guide, ReadsAStoredNumberInAnyLocale)
 
 TEST_F(Guide, LooksUpTheLanguageThatWasSet)
 {
-    wxFileTranslationsLoader::AddCatalogLookupPathPrefix(wxString::FromUTF8(LIBRARY_LOCALE_DIR));
     UseLanguage(wxLANGUAGE_GERMAN);
     EXPECT_STREQ(lng_util_internal::DoGetResourceString(L"Current folder is:", nullptr), L"Aktueller Ordner:");
 }

@@ -18,14 +18,14 @@ const wchar_t* Look(const wchar_t* key, const wchar_t* domainName = L"")
     return lng_util_internal::DoGetResourceString(key, &domain);
 }
 
-// Starts the toolkit without windows, with the catalogues of this build, and with no translations set.
+// Starts the toolkit without windows, with the host's catalogues, and with no translations set. The library finds its
+// own catalogues in the build tree.
 class Translations : public testing::Test
 {
 protected:
     Translations()
     {
         EXPECT_TRUE(m_toolkit.IsOk());
-        wxFileTranslationsLoader::AddCatalogLookupPathPrefix(wxString::FromUTF8(LIBRARY_LOCALE_DIR));
         wxFileTranslationsLoader::AddCatalogLookupPathPrefix(wxString::FromUTF8(HOST_LOCALE_DIR));
         wxTranslations::Set(nullptr);
     }
