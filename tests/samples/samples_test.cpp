@@ -217,6 +217,23 @@ TEST(NumeditSample, TakesOnlyAnAmountAndShowsItInGroups)
     payments.Close();
 }
 
+TEST(OrderSample, SendsOnlyWhatTheFieldsAccept)
+{
+    const Person person;
+    SampleInUse order("order", "Order", person);
+    order.Press("ctrl+a");
+    order.Press("Delete");
+    order.Press("alt+s");
+    order.WaitForTitle("Not ordered");
+    order.Type("3");
+    order.Press("Tab");
+    order.Press("ctrl+a");
+    order.Type("7.5");
+    order.Press("alt+s");
+    order.WaitForTitle("Ordered 3 for 22.50");
+    order.Close();
+}
+
 // Repeats the key: a dialog that reads folders in the background loses a key that is pressed too early.
 void PressUntil(const std::string& key, const std::function<bool()>& isDone)
 {
@@ -264,6 +281,35 @@ TEST(RememberingSample, OpensAndSavesWhereItDidLast)
     EXPECT_EQ(person.FileOf("remembering", "settings.ini"),
               settings + "\n[LastFilters]\nOpenedText=*.txt\nSavedText=*.txt\n");
     texts.Close();
+}
+
+TEST(HistorySample, ListsTheTextsThatWereOpenedLast)
+{
+    const Person person;
+    const std::string air = person.home / "air.txt";
+    const std::string fugue = person.home / "fugue.txt";
+    WriteFile(air, "a melody");
+    WriteFile(fugue, "a subject, and its answer");
+    fs::create_directories(person.PathOf("history", ""));
+    WriteFile(person.PathOf("history", "settings.ini"),
+              "[LastFiles]\nText=" + fugue + "\n\n[RecentTexts]\nfile1=" + air + "\n");
+    {
+        SampleInUse texts("history", "Recent texts", person);
+        texts.Press("ctrl+o");
+        PressUntil("alt+o", [&] { return texts.Title() == fugue; });
+        texts.Close();
+    }
+    // The toolkit writes nine entries; those without a file are empty.
+    const auto isList = [&](const std::string& first, const std::string& second) {
+        const std::string list = "[RecentTexts]\nfile1=" + first + "\nfile2=" + second + "\nfile3=\n";
+        return person.FileOf("history", "settings.ini").find(list) != std::string::npos;
+    };
+    EXPECT_TRUE(isList(fugue, air)) << person.FileOf("history", "settings.ini");
+    SampleInUse texts("history", "Recent texts", person);
+    texts.Press("alt+f");
+    PressUntil("2", [&] { return texts.Title() == air; });
+    texts.Close();
+    EXPECT_TRUE(isList(air, fugue)) << person.FileOf("history", "settings.ini");
 }
 
 TEST(ThreadSample, CountsOnWhileItsWindowAnswers)
