@@ -25,9 +25,9 @@ struct SettingsChange
     std::wstring key;                   ///< The key to set or to remove.
     std::optional<std::wstring> value;  ///< The new value; none removes the key as DeleteKey() does.
 
-    /// True for a change of the section itself, which ignores the key. With a value, the change creates the section,
-    /// even without keys. Without a value, it removes the section, unless the section still has a key after all changes
-    /// of keys.
+    /// True for a change of the section itself; the key is then ignored. With a value, the change creates the section,
+    /// even without keys. Without a value, the change removes the section, unless the section still has a key after all
+    /// changes of keys.
     bool isOfSection = false;
 };
 

@@ -26,8 +26,8 @@ namespace {
 constexpr std::chrono::milliseconds kTimeToFillAFile(500);
 constexpr std::chrono::milliseconds kTimeToExchange(500);
 
-// Each wait for the lock of an exchange may last this long, even past the deadline. Otherwise a process that was
-// stopped until its deadline had passed would not wait, and could exchange the file at the same time as another
+// Each wait for the lock of an exchange may last this long, even past the deadline. A process may have been stopped
+// until after its deadline. If it then did not wait at all, it could exchange the file at the same time as another
 // process. An exchange takes only microseconds.
 constexpr std::chrono::milliseconds kLeastTimeToExchange(30);
 

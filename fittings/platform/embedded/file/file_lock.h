@@ -19,7 +19,7 @@ struct LockWait
     /// state changes, the holder counts as stuck.
     using Stuck = std::optional<FileIdentity>;
 
-    std::chrono::milliseconds longest;  ///< How long to wait after each time that another process takes the lock.
+    std::chrono::milliseconds longest;  ///< The wait may go on this long after another process has taken the lock.
     Clock::time_point deadline;         ///< Postponed when another process takes the lock, but not beyond @a end.
     Clock::time_point end;
     Stuck& stuck;
