@@ -10,7 +10,7 @@ namespace gallery {
 
 struct Subfolder;
 
-/// The folders below a root folder, read when they are expanded, each in its colour.
+/// The folders below a root folder, each in its colour. A folder is read when it is expanded.
 ///
 /// Each item stores an index into a table of names, because some file names cannot be labels. Links are left out:
 /// circular links would make the tree endless.

@@ -45,8 +45,8 @@ bool Tour::OpenFolderColours()
     return Waits([&] { return combo.GetPopup()->IsShownOnScreen(); }, "Ctrl+T opens the colours");
 }
 
-/// Waits until the popup closes. Returns true if it closes in time, the selected folder is shown in the colour of
-/// @a cell as ReadableOn() changes it, and the colour of @a cell is stored.
+/// Waits until the popup closes. Returns true if it closes in time, the colour of @a cell is stored for the selected
+/// folder, and the folder is shown in this colour, which ReadableOn() has made readable.
 bool Tour::FolderGets(int cell)
 {
     const FolderColourCombo& combo = *m_frame->GetBrowser()->GetColour();
