@@ -11,7 +11,7 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
-#include <fittings/numedit/num_validator.h>
+#include <fittings/numedit/number_ctrl.h>
 
 #include <gallery/pages/page_layout.h>
 #include <gallery/pages/page_settings.h>
@@ -97,11 +97,12 @@ constexpr Bound kBounds[] = {
 // Offer a choice and not a text field: a template is a printf format, and users must not enter printf formats.
 const wchar_t* const kTemplates[] = {L"%s", L"%s kg", L"%s \u20AC", L"EUR %s", L"%s %%", L"about %s", L"(%s)"};
 
-/// Returns the field's number in the current locale; 0 while the text is not a number.
-double NumberIn(const wxTextCtrl& field)
+/// Returns the field's number; 0 while the text is not a number.
+double NumberIn(const wxNumberCtrl& field)
 {
     double number = 0;
-    return field.GetValue().ToDouble(&number) ? number : 0;
+    field.GetNumber(&number);
+    return number;
 }
 
 /// Returns the field's character; 0 while the field is empty.
@@ -179,7 +180,7 @@ void NumberFormatFields::SetFormat(const CNumberFormat& format)
     }
     for (std::size_t i = 0; i < std::size(kBounds); ++i) {
         if (format.*kFlags[kBounds[i].flag].field)
-            m_bounds[i]->SetValue(wxString::Format("%.15g", format.*kBounds[i].field));
+            m_bounds[i]->SetNumber(format.*kBounds[i].field);
     }
     const auto* found = std::find(std::begin(kTemplates), std::end(kTemplates), format.m_strTemplate);
     m_template->SetSelection(found == std::end(kTemplates) ? 0 : static_cast<int>(found - std::begin(kTemplates)));
@@ -196,7 +197,7 @@ void NumberFormatFields::SaveSettings() const
     for (std::size_t i = 0; i < std::size(kCounts); ++i)
         kFormatSettings.SaveNumber(kCounts[i].name, m_counts[i]->GetValue());
     for (std::size_t i = 0; i < std::size(kBounds); ++i)
-        kFormatSettings.Save(kBounds[i].name, m_bounds[i]->GetValue());
+        kFormatSettings.Save(kBounds[i].name, m_bounds[i]->GetDecimal());
     kFormatSettings.Save("Template", kTemplates[m_template->GetSelection()]);
 }
 
@@ -206,8 +207,8 @@ void NumberFormatFields::Arrange(int width)
     InvalidateBestSize();
 }
 
-/// Loads the format. A field whose stored value is missing or invalid keeps its default. A field for a bound, however,
-/// shows the stored text as it is.
+/// Loads the format. A field whose stored value is missing or invalid keeps its default. The default of a bound is an
+/// empty field or "0", which both mean 0.
 void NumberFormatFields::LoadSettings()
 {
     CNumberFormat format(eFixedFormat);
@@ -227,8 +228,11 @@ void NumberFormatFields::LoadSettings()
     for (std::size_t i = 0; i < std::size(kCounts); ++i) {
         m_counts[i]->SetValue(kFormatSettings.LoadNumber(kCounts[i].name, 0, kLargestCount, m_counts[i]->GetValue()));
     }
-    for (std::size_t i = 0; i < std::size(kBounds); ++i)
-        m_bounds[i]->ChangeValue(kFormatSettings.Load(kBounds[i].name));
+    for (std::size_t i = 0; i < std::size(kBounds); ++i) {
+        wxString text = kFormatSettings.Load(kBounds[i].name);
+        text.Replace(",", ".");  // earlier versions stored the locale's point, and never groups
+        m_bounds[i]->SetDecimal(text);
+    }
 }
 
 wxSizer* NumberFormatFields::MakePresets()
@@ -279,8 +283,7 @@ wxSizer* NumberFormatFields::MakeLimits()
     for (const Bound& bound : kBounds) {
         wxCheckBox* const flag = MakeFlag(bound.flag);
         grid->Add(flag, wxSizerFlags().CentreVertical());
-        auto* field = new wxTextCtrl(this, wxID_ANY, "", wxDefaultPosition, FromDIP(wxSize(130, -1)), 0,
-                                     wxNumValidator(BoundFormat(), nullptr));
+        auto* field = new wxNumberCtrl(this, wxID_ANY, BoundFormat(), wxDefaultPosition, FromDIP(wxSize(130, -1)));
         field->SetName(bound.name);
         SetAccessibleName(field, flag->GetLabelText());
         m_bounds.push_back(field);

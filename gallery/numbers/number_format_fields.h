@@ -12,6 +12,7 @@
 class wxBoxSizer;
 class wxCheckBox;
 class wxChoice;
+class wxNumberCtrl;
 class wxSizer;
 class wxSpinCtrl;
 class wxStaticText;
@@ -58,7 +59,7 @@ private:
     std::vector<wxTextCtrl*> m_characters;
     std::vector<wxStaticText*> m_codes;
     std::vector<wxSpinCtrl*> m_counts;
-    std::vector<wxTextCtrl*> m_bounds;
+    std::vector<wxNumberCtrl*> m_bounds;
     wxChoice* m_template = nullptr;
     bool m_settingFormat = false;
 };

@@ -3,6 +3,7 @@
 #include <wx/checkbox.h>
 
 #include <tests/gallery/numbers/numbers_page_fixture.h>
+#include <tests/support/locale/scoped_locale.h>
 
 namespace {
 
@@ -72,13 +73,44 @@ TEST_F(NumbersPageTest, AnEmptyNumberAndNoValidatorComeBackToo)
     EXPECT_EQ(Number().GetValue(), "x");
 }
 
+TEST_F(NumbersPageTest, ABoundComesBackInAnotherLocale)
+{
+    Close();
+    {
+        const ScopedLocale german("de_DE.UTF-8");
+        OpenPage();
+        Press('M', wxMOD_ALT);
+        Press(WXK_TAB);
+        ASSERT_TRUE(FocusComesTo("Min"));
+        Type("-1,5");
+        EXPECT_EQ(Format().m_dMin, -1.5);
+        Close();
+    }
+    Open("");
+    EXPECT_EQ(Get<wxTextCtrl>("Min").GetValue(), "-1.5");
+    EXPECT_EQ(Format().m_dMin, -1.5);
+}
+
+// Earlier versions stored a bound with the decimal point of the locale.
+TEST_F(NumbersPageTest, ABoundOfAnEarlierVersionComesBackInEveryLocale)
+{
+    for (const char* const locale : {"de_DE.UTF-8", "C"}) {
+        Close();
+        const ScopedLocale scoped(locale);
+        WriteFile(settings / "ui_config/numbers.ini", "[Format]\nHasMin=1\nMin=1,5\nHasMax=1\nMax=2.5e3\n");
+        Open("");
+        EXPECT_EQ(Format().m_dMin, 1.5) << locale;
+        EXPECT_EQ(Format().m_dMax, 2500) << locale;
+    }
+}
+
 // A template is a printf format, so a template that somebody else has written could do harm. Therefore the page uses a
 // stored template only if the page itself offers this template.
 TEST_F(NumbersPageTest, NonsenseInTheSettingsDoesNoHarm)
 {
     Close();
     WriteFile(settings / "ui_config/numbers.ini", "[Format]\nAllowSign=yes\nHasDecimals=\nDecimals=-1\n"
-                                                  "MaxIntDigits=99999999999999999999\nMin=abc\nHasMin=1\n"
+                                                  "MaxIntDigits=99999999999999999999\nMin=abc\nHasMin=1\nMax=1,234.5\n"
                                                   "DecimalPoint=U+ZZ\nThousandsSep=U+110000\nTemplate=%n%n%s%s\n");
     Open("");
     const CNumberFormat format = Format();
@@ -88,6 +120,8 @@ TEST_F(NumbersPageTest, NonsenseInTheSettingsDoesNoHarm)
     EXPECT_EQ(format.m_nMaxIntDigits, 5u);
     EXPECT_TRUE(format.m_bHasMin);
     EXPECT_EQ(format.m_dMin, 0);
+    EXPECT_EQ(Get<wxTextCtrl>("Min").GetValue(), "0");
+    EXPECT_EQ(Get<wxTextCtrl>("Max").GetValue(), "");
     EXPECT_EQ(format.m_chDecimalPoint, L'.');
     EXPECT_EQ(format.m_chThousandsSep, L',');
     EXPECT_EQ(format.m_strTemplate, L"%s");
