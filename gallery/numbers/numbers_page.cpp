@@ -132,7 +132,7 @@ wxSizer* NumbersPage::MakeResults()
     auto* grid = new wxFlexGridSizer(2, FromDIP(wxSize(18, 8)));
     for (const char* name : kResultNames) {
         grid->Add(new wxStaticText(this, wxID_ANY, name), wxSizerFlags().CentreVertical());
-        auto* result = new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, FromDIP(wxSize(260, -1)),
+        auto* result = new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, FromDIP(wxSize(kColumnWidth, -1)),
                                         wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END);
         result->SetName(wxString(name) + "Result");
         BeginAtTheStart(result);
@@ -140,7 +140,7 @@ wxSizer* NumbersPage::MakeResults()
         grid->Add(result, wxSizerFlags().CentreVertical());
     }
     m_results[Shown]->SetFont(m_results[Shown]->GetFont().Bold().Scaled(1.4F));
-    m_results[Shown]->SetMinSize(wxSize(FromDIP(260), m_results[Shown]->GetCharHeight()));
+    m_results[Shown]->SetMinSize(wxSize(FromDIP(kColumnWidth), m_results[Shown]->GetCharHeight()));
     auto* rows = new wxBoxSizer(wxVERTICAL);
     rows->Add(MakeHeading(this, "What the format makes of it"), wxSizerFlags().Border(wxBOTTOM, FromDIP(kGap)));
     rows->Add(grid);
