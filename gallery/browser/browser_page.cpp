@@ -103,8 +103,9 @@ wxString BrowserPage::Start(const std::string& folder)
     std::string root;
     if (!folder.empty()) {
         root = ResolveFolder(folder);
+        const int error = errno;
         if (root.empty())
-            note = DisplayText(folder) + ": " + ReasonText(errno);
+            note = DisplayText(folder) + ": " + ReasonText(error);
     }
     const std::vector<std::string> earlier = browser_settings::LoadRootFolders();
     if (root.empty() && !earlier.empty())
