@@ -168,15 +168,10 @@ bool Tour::Run()
         std::printf("%s: %s\n", step.name, well ? "done" : "FAILED");
         std::fflush(stdout);
         allWell = allWell && well;
-        if (!m_frame)
-            break;
     }
     // Wait until the window is gone: it saves its settings into a folder that the tour removes.
-    if (m_frame) {
-        m_frame->Destroy();
-        allWell = Waits([] { return wxTopLevelWindows.empty(); }, "the window is destroyed") && allWell;
-    }
-    return allWell;
+    m_frame->Destroy();
+    return Waits([] { return wxTopLevelWindows.empty(); }, "the window is destroyed") && allWell;
 }
 
 bool Tour::OpenWindow()
