@@ -4,6 +4,7 @@
 
 #include <wx/artprov.h>
 #include <wx/imaglist.h>
+#include <wx/scopeguard.h>
 #include <wx/wupdlock.h>
 
 #include <fittings/platform/local_reg_store.h>
@@ -158,8 +159,8 @@ void FolderTree::SaveExpanded()
 {
     wxTreeCursor root(this, GetRootItem());
     m_namesPaths = true;
+    wxON_BLOCK_EXIT_SET(m_namesPaths, false);
     SaveState(root);
-    m_namesPaths = false;
 }
 
 void FolderTree::LoadExpanded()
@@ -167,8 +168,8 @@ void FolderTree::LoadExpanded()
     const wxWindowUpdateLocker frozen(this);
     wxTreeCursor root(this, GetRootItem());
     m_namesPaths = true;
+    wxON_BLOCK_EXIT_SET(m_namesPaths, false);
     LoadState(root);
-    m_namesPaths = false;
 }
 
 void FolderTree::ForgetExpanded(const std::string& root)
