@@ -224,35 +224,41 @@ TEST(SumFolder, ComesBackToEveryFolderOnTheWayUp)
     EXPECT_EQ(sum.bytes, ListedSize(folder.Path()));
 }
 
-/// Moves a part of a chain away after 200 items. The walk is then about 100 levels deep in one of the chains.
+/// Moves a part of each of two chains after 200 items. The walk is then about 100 levels deep in one of the chains, and
+/// has not entered the other one.
 class Mover : public Notes
 {
 public:
-    Mover(const std::string& from, const std::string& to) : m_from(from), m_to(to) {}
+    explicit Mover(const TempFolder& folder) : m_folder(folder) {}
 
     bool OnProgress(const FolderSum& soFar, double fraction) override
     {
-        if (soFar.items == 200)
-            fs::rename(m_from, m_to);
+        if (soFar.items == 200) {
+            for (const std::string name : {"a", "b"})
+                fs::rename(m_folder / ("top/" + name + "/d/d/d"), m_folder / ("elsewhere/1/2/" + name + "/d"));
+        }
         return Notes::OnProgress(soFar, fraction);
     }
 
 private:
-    std::string m_from;
-    std::string m_to;
+    const TempFolder& m_folder;
 };
 
-TEST(SumFolder, AFolderMovedAwayDuringTheWalkEndsItsPartOnly)
+// The folder "elsewhere" is as far above the moved part as "top" was, and it has subfolders with the same names. The walk
+// must not count it in place of "top", which it closed on the way down and cannot reach again.
+TEST(SumFolder, AFolderMovedAwayDuringTheWalkLeadsToNoOtherFolder)
 {
     TempFolder folder;
-    fs::create_directories(folder / "elsewhere");
-    fs::create_directories(folder / "top/a");
-    fs::create_directories(folder / "top/b");
-    for (const char* name : {"top/a", "top/b"})
-        MakeChain(folder / name, 120);
-    Mover mover(folder / "top/a/d/d/d", folder / "elsewhere/d");
+    for (const char* const name : {"a", "b"}) {
+        fs::create_directories(folder / ("elsewhere/1/2/" + std::string(name)));
+        fs::create_directories(folder / ("elsewhere/" + std::string(name) + "/more"));
+        fs::create_directories(folder / ("top/" + std::string(name)));
+        MakeChain(folder / ("top/" + std::string(name)), 150);
+    }
+    Mover mover(folder);
     const FolderSum sum = SumFolder(folder / "top", mover);
-    EXPECT_GT(sum.items, 200u);
+    EXPECT_EQ(sum.items, 3u + 2 * 150u) << "top, a and b, and the folders and files of one chain";
+    EXPECT_EQ(sum.unreadable, 1u) << "the other chain";
     EXPECT_EQ(mover.last, 1.0);
 }
 
