@@ -144,9 +144,10 @@ class FolderDialogCalls : public testing::Test
 {
 protected:
     FolderDialogCalls() { g_platform = {}; }
+    ~FolderDialogCalls() override { EXPECT_EQ(m_cancel.Shown(), 0) << "the toolkit has shown a dialog of its own"; }
 
 private:
-    const FileAnswer m_cancel{wxID_CANCEL, ""};  // Fails the test if the toolkit shows a folder dialog.
+    const FileAnswer m_cancel{wxID_CANCEL, ""};
 };
 
 TEST_F(FolderDialogCalls, OfADialogThatIsAccepted)
