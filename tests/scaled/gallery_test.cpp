@@ -15,7 +15,8 @@ bool WasMadeLarger(const wxImage& image)
 {
     const auto areAlike = [&](int x, int other) {
         for (int y = 0; y < image.GetHeight(); ++y) {
-            if (image.GetRed(x, y) != image.GetRed(other, y) || image.GetBlue(x, y) != image.GetBlue(other, y))
+            if (image.GetRed(x, y) != image.GetRed(other, y) || image.GetGreen(x, y) != image.GetGreen(other, y) ||
+                image.GetBlue(x, y) != image.GetBlue(other, y))
                 return false;
         }
         return true;
