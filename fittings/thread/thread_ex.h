@@ -43,16 +43,17 @@ class wxThreadExImpl;
 /// - The destructor waits, but only after the members of the derived class are destroyed. A thread that begins only
 ///   then finds no Entry() to call and aborts the process. So call Wait() before, in the owner or in the destructor of
 ///   the most derived class.
-/// - A detached object must outlive its Entry(): the thread writes into the object when Entry() has returned, and
-///   neither Wait() nor the destructor waits for that. So keep such an object until the process ends. Do not
-///   shut the toolkit down while its thread runs.
+/// - A detached object must outlive its thread: the thread writes into the object when Entry() has returned, and
+///   neither Wait() nor the destructor waits for that. So destroy such an object when HasEnded() or WaitFor() has
+///   returned true, or keep it until the process ends. Do not shut the toolkit down while its thread runs.
 /// - Behind this object is a thread object of the toolkit, which the thread frees when it ends. If this object never
 ///   ran, or its Run() failed, the toolkit's object stays allocated until the process ends. After Create() a waiting
 ///   thread stays too, which may disturb the toolkit's shutdown. So call Create() only if you call Run().
 class FITTINGS_API wxThreadEx
 {
 public:
-    /// @param kind wxTHREAD_JOINABLE, or wxTHREAD_DETACHED for an object that is never waited for.
+    /// @param kind wxTHREAD_JOINABLE, or wxTHREAD_DETACHED for an object that Wait() and the destructor do not wait
+    ///        for.
     explicit wxThreadEx(wxThreadKind kind);
 
     /// Calls Wait(), unless the object is detached.
@@ -84,14 +85,14 @@ public:
     /// @return the result of Entry(). (wxThread::ExitCode)-1 at once when the object is detached or has not run.
     wxThread::ExitCode Wait();
 
-    /// Waits until the thread is over, but at most @a milliseconds. On the GUI thread, windows are painted and timers
-    /// run meanwhile. The user's input and the events of workers are handled afterwards.
+    /// Waits until the thread is over, but at most @a milliseconds, also for a detached object. On the GUI thread,
+    /// windows are painted and timers run meanwhile. The user's input and the events of workers are handled afterwards.
     ///
     /// @return HasEnded(); false at once when the object has not run.
     bool WaitFor(unsigned long milliseconds);
 
     /// Returns whether Entry() has returned or thrown an exception and the thread is over. Wait() then returns at once.
-    /// Any thread may call this.
+    /// The object may be destroyed then, also a detached one. Any thread may call this.
     bool HasEnded() const;
 
     /// Does the work. The function is called once, on the new thread, and its result is the exit code.

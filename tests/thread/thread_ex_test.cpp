@@ -137,12 +137,11 @@ TEST(Wait, BlocksUntilTheValuesOfKeysAreDestroyed)
     pthread_key_delete(key);
 }
 
-// No call reports when a detached thread object may be destroyed, so this one is never destroyed.
 TEST(Detached, IsNotWaitedFor)
 {
-    static Signal go;
-    static auto& thread = *new Thread(
-        [](Thread&) {
+    Signal go;
+    Thread thread(
+        [&](Thread&) {
             go.Wait();
             return Code(42);
         },
@@ -153,8 +152,25 @@ TEST(Detached, IsNotWaitedFor)
     ASSERT_TRUE(thread.started.Wait());
     EXPECT_EQ(thread.Wait(), Code(-1));
     go.Set();
-    ASSERT_TRUE(HasEnded(thread.thread));
+    ASSERT_TRUE(thread.WaitFor(1'000'000));
     EXPECT_EQ(thread.Wait(), Code(-1));
+}
+
+// A sanitizer reports it if the thread still uses the destroyed object.
+TEST(Detached, MayBeDestroyedOnceItHasEnded)
+{
+    for (const bool waits : {true, false}) {
+        Signal go;
+        auto thread = std::make_unique<Thread>([&](Thread&) { go.Wait(); }, wxTHREAD_DETACHED);
+        EXPECT_FALSE(thread->WaitFor(1'000'000)) << "it has not run";
+        ASSERT_EQ(thread->Run(), wxTHREAD_NO_ERROR);
+        ASSERT_TRUE(thread->started.Wait());
+        EXPECT_FALSE(thread->HasEnded());
+        EXPECT_FALSE(thread->WaitFor(1));
+        go.Set();
+        ASSERT_TRUE(waits ? thread->WaitFor(1'000'000) : Becomes([&] { return thread->HasEnded(); }));
+        thread.reset();
+    }
 }
 
 TEST(Destructor, WaitsUntilEntryHasReturned)
