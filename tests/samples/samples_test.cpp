@@ -221,13 +221,12 @@ TEST(OrderSample, SendsOnlyWhatTheFieldsAccept)
 {
     const Person person;
     SampleInUse order("order", "Order", person);
-    order.Press("ctrl+a");
-    order.Press("Delete");
-    order.Press("alt+s");
+    for (const char* const key : {"ctrl+a", "Delete", "alt+s"})
+        order.Press(key);
     order.WaitForTitle("Not ordered");
     order.Type("3");
-    order.Press("Tab");
-    order.Press("ctrl+a");
+    for (const char* const key : {"Tab", "ctrl+a"})
+        order.Press(key);
     order.Type("7.5");
     order.Press("alt+s");
     order.WaitForTitle("Ordered 3 for 22.50");
