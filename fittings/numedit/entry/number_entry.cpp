@@ -34,12 +34,15 @@ NumberEntry::~NumberEntry()
 
 int NumberEntry::Filter(const GdkEventKey* key, const std::function<int()>& filter)
 {
+    const wxWeakRef<NumberEntry> self(this);
     const EntrySelection selected = SelectionOf(m_entry);
     m_filtering = true;
     m_hasRefused = false;
     // The keypad of the US layout has the first of these keys, the keypad of the German layout the second.
     m_keypadPoint = key->keyval == GDK_KEY_KP_Decimal || key->keyval == GDK_KEY_KP_Separator;
     const int result = filter();
+    if (!self)
+        return result;
     m_filtering = m_keypadPoint = false;
     if (m_hasRefused) {
         Select(m_entry, selected);
@@ -50,7 +53,8 @@ int NumberEntry::Filter(const GdkEventKey* key, const std::function<int()>& filt
         const Free free(this);
         gtk_editable_delete_text(GTK_EDITABLE(m_entry), begin, end);
     }
-    m_waiting.reset();
+    if (self)
+        m_waiting.reset();
     return result;
 }
 

@@ -9,6 +9,7 @@
 
 #include <wx/clipbrd.h>
 #include <wx/dataobj.h>
+#include <wx/uiaction.h>
 #include <wx/weakref.h>
 
 #include <tests/numedit/control/number_ctrl_dialog.h>
@@ -44,7 +45,8 @@ TEST(NumberLifetime, BeginsWithCreate)
     EXPECT_EQ(assertions.Count(), 15);
     EXPECT_FALSE(number->GetNumber(&small));
     EXPECT_FALSE(number->GetNumber(&count));
-    EXPECT_EQ(assertions.Count(), 17);
+    number->SetMaxLength(5);
+    EXPECT_EQ(assertions.Count(), 18);
     EXPECT_EQ(small, 77);
     EXPECT_EQ(count, 77u);
     EXPECT_EQ(real, 77);
@@ -101,6 +103,22 @@ TEST_F(NumberEnd, MayComeWhenAPastedNumberReplacesAnother)
     DestroyOn(wxEVT_NUMBER_CHANGED);
     Paste("5");
     EXPECT_FALSE(number);
+}
+
+TEST_F(NumberEnd, MayComeWhenACharacterIsTyped)
+{
+    DestroyOn(wxEVT_TEXT);
+    wxUIActionSimulator().Char('5');
+    EXPECT_TRUE(PumpUntil([&] { return !number; }));
+}
+
+TEST_F(NumberEnd, MayComeWhenACharacterReplacesANumber)
+{
+    screen.Restart("12");
+    number->SelectAll();
+    DestroyOn(wxEVT_NUMBER_CHANGED);
+    wxUIActionSimulator().Char('5');
+    EXPECT_TRUE(PumpUntil([&] { return !number; }));
 }
 
 TEST_F(NumberEnd, MayComeWhenTheWheelSteps)
