@@ -170,8 +170,9 @@ bool wxDecimalValidator::TransferToWindow()
         return false;
     if (auto* const control = dynamic_cast<wxNumberCtrl*>(GetWindow()))
         return control->SetDecimal(*text);
-    entry->SetValue(fittings::WithPoint(*text, m_format.m_chDecimalPoint));
-    return true;
+    const wxString shown = fittings::WithPoint(*text, m_format.m_chDecimalPoint);
+    entry->SetValue(shown);
+    return entry->GetValue() == shown;
 }
 
 bool wxDecimalValidator::TransferFromWindow()

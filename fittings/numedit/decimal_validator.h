@@ -82,8 +82,8 @@ public:
     bool Validate(wxWindow* parent) override;
 
     /// Shows the variable's number. An empty wxString empties the field. Without a variable, does nothing. Returns
-    /// false if the variable's value is not a number, if wxNumberCtrl::SetDecimal() refuses it, or if the window is not
-    /// a wxTextEntry.
+    /// false if the variable's value is not a number, if wxNumberCtrl::SetDecimal() refuses it, if the window is not a
+    /// wxTextEntry, or if another control than a wxNumberCtrl does not show all of the number.
     bool TransferToWindow() override;
 
     /// Stores the field's number in the variable. Checks the field as Validate() does, even if the field is disabled.

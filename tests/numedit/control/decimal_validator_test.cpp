@@ -172,6 +172,15 @@ TEST_F(AValidatorOnAComboBox, MovesIntegersByItsOwnFormat)
     EXPECT_EQ(count, 7u);
 }
 
+TEST_F(AValidatorOnAComboBox, ReportsANumberThatIsNotShownWhole)
+{
+    wxString digits("123456");
+    combo->SetValidator(wxDecimalValidator(&digits, FixedFormat()));
+    EXPECT_TRUE(combo->GetValidator()->TransferToWindow());
+    combo->SetMaxLength(3);
+    EXPECT_FALSE(combo->GetValidator()->TransferToWindow());
+}
+
 TEST_F(AValidatorOnAComboBox, ChecksWithoutAVariable)
 {
     combo->SetValidator(wxDecimalValidator());
