@@ -49,6 +49,21 @@ wchar_t FirstCharacter(const wxString& text)
     return text.empty() ? L'\0' : static_cast<wchar_t>(text[0].GetValue());
 }
 
+/// Returns the insertion to make. Returns nothing if it is refused, and tells the program if that is because of
+/// wxNumberCtrl::SetMaxLength().
+std::optional<NumberEntry::Insertion> Accepted(wxNumberCtrl& control, const NumberField& field,
+                                               const NumberEntry::Insertion& insertion)
+{
+    std::optional<NumberEntry::Insertion> accepted = field.Accepted(insertion);
+    if (!accepted || !field.IsTooLong(*accepted))
+        return accepted;
+    wxCommandEvent event(wxEVT_TEXT_MAXLEN, control.GetId());
+    event.SetEventObject(&control);
+    event.SetString(control.GetValue());
+    wxPostEvent(&control, event);  // a handler may destroy the control
+    return std::nullopt;
+}
+
 }  // namespace
 
 wxNumberCtrl::wxNumberCtrl() = default;
@@ -71,7 +86,7 @@ bool wxNumberCtrl::Create(wxWindow* parent, wxWindowID id, const CNumberFormat& 
     wxTextEntry* const toolkit = this;
     m_field->entry = std::make_unique<NumberEntry>(
         GTK_ENTRY(m_widget), toolkit,
-        [this](const NumberEntry::Insertion& insertion) { return m_field->Accepted(insertion); },
+        [this](const NumberEntry::Insertion& insertion) { return Accepted(*this, *m_field, insertion); },
         [] {
             if (!wxValidator::IsSilent())
                 wxBell();
@@ -118,6 +133,13 @@ void wxNumberCtrl::SetFormat(const CNumberFormat& format)
         SetPlain(plain, false);
     else
         SetDecimal(number);
+}
+
+// GTK's own limit would also cut the formatted text.
+void wxNumberCtrl::SetMaxLength(unsigned long length)
+{
+    wxCHECK_RET(m_field, "call Create() first");
+    m_field->mostCharacters = length;
 }
 
 bool wxNumberCtrl::Validate()

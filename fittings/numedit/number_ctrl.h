@@ -109,10 +109,10 @@ public:
     }
 
     /// Shows a number of any length, with a dot as its point. The empty text empties the field. Returns false and
-    /// changes nothing if @a text is not a number.
+    /// changes nothing if @a text is not a number, or takes more than the 65,534 bytes that GTK's text field can hold.
     ///
-    /// If the format accepts no exponent, a number with an exponent is shown without one. If that takes more than
-    /// 100,000 digits, returns false and changes nothing.
+    /// If the format accepts no exponent, a number with an exponent is shown without one. If the formatted text is too
+    /// long for the field, the number is shown without a format.
     bool SetDecimal(const wxString& text);
 
     /// Stores the number in @a value as the nearest double. Returns false and leaves @a value alone if the field has no
@@ -155,6 +155,10 @@ public:
     /// Sets how far Up, Down and the wheel step, to the shortest decimal number that reads as @a increment. Returns
     /// what SetIncrement() returns for the text of that number, and false for an infinity and NaN.
     bool SetIncrement(double increment);
+
+    /// Limits how many characters the user can type; 0 for no limit. The limit applies to the number as it is typed, and
+    /// not to the formatted text. Text that is refused for this reason sends wxEVT_TEXT_MAXLEN after the current event.
+    void SetMaxLength(unsigned long length) override;
 
     /// Returns true if IsAcceptable() is true and the validator accepts the field. The text of a disabled field need
     /// not be acceptable.

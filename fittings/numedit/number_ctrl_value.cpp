@@ -5,6 +5,7 @@
 #include <fittings/numedit/number_field.h>
 
 using fittings::Decimal;
+using fittings::NumberField;
 
 namespace {
 
@@ -50,7 +51,11 @@ bool wxNumberCtrl::SetDecimal(const wxString& text)
             return false;
         decimal = *plain;
     }
+    if (!decimal.empty() && decimal.front() == '+')
+        decimal.erase(0, 1);
     const std::wstring plain = fittings::WithPoint(decimal, m_field->rules.point);
+    if (!NumberField::FitsEntry(plain))
+        return false;
     m_field->exact = plain;
     SetPlain(plain, false);
     return true;

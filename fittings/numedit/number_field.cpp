@@ -12,6 +12,7 @@ namespace fittings {
 namespace {
 
 constexpr std::int64_t kAnyDecimals = kMostExponent / 4;
+constexpr std::size_t kMostBytes = 65'534;  // of a GtkEntry, which drops the end of a longer text
 
 wxString Translated(const wchar_t* key)
 {
@@ -123,11 +124,18 @@ std::wstring NumberField::Shown(const std::wstring& text) const
     switch (State(text)) {
     case NumberState::Good:
     case NumberState::TooLow:
-    case NumberState::TooHigh:
-        return CNumberEditUtils::FormatControlText(text.c_str(), format).ToStdWstring();
+    case NumberState::TooHigh: {
+        const std::wstring formatted = CNumberEditUtils::FormatControlText(text.c_str(), format).ToStdWstring();
+        return FitsEntry(formatted) ? formatted : text;
+    }
     default:
         return text;
     }
+}
+
+bool NumberField::FitsEntry(const std::wstring& text)
+{
+    return wxString(text).utf8_str().length() <= kMostBytes;
 }
 
 wxString NumberField::Problem(const std::wstring& text) const
@@ -165,7 +173,13 @@ wxString NumberField::Problem(const std::wstring& text) const
 
 bool NumberField::MayStay(const std::wstring& text) const
 {
-    return CanBeTyped(text, rules) || Judge(text, rules) == NumberState::Good;
+    return FitsEntry(text) && (CanBeTyped(text, rules) || Judge(text, rules) == NumberState::Good);
+}
+
+bool NumberField::IsTooLong(const NumberEntry::Insertion& insertion) const
+{
+    return mostCharacters != 0 &&
+           insertion.before.size() + insertion.text.size() + insertion.behind.size() > mostCharacters;
 }
 
 std::optional<NumberEntry::Insertion> NumberField::Accepted(NumberEntry::Insertion insertion) const
@@ -184,7 +198,7 @@ std::optional<NumberEntry::Insertion> NumberField::Accepted(NumberEntry::Inserti
         text[0] = rules.point;
     if (insertion.typed || !showsPlain) {
         const std::wstring all = insertion.before + text + insertion.behind;
-        if (CanBeTyped(showsPlain || isFormatted ? all : Reading(all), rules))
+        if (FitsEntry(all) && CanBeTyped(showsPlain || isFormatted ? all : Reading(all), rules))
             return insertion;
         if (insertion.typed)
             return std::nullopt;
@@ -215,7 +229,7 @@ std::optional<std::wstring> NumberField::Stepped(const std::wstring& text, bool 
     if (!decimal)
         return std::nullopt;
     const std::wstring result = WithPoint(*decimal, rules.point);
-    if ((present && Compare(*sum, *present) == 0) || Judge(result, rules) != NumberState::Good)
+    if ((present && Compare(*sum, *present) == 0) || Judge(result, rules) != NumberState::Good || !FitsEntry(result))
         return std::nullopt;
     return result;
 }

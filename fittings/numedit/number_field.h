@@ -37,6 +37,12 @@ public:
 
     NumberState State(const std::wstring& plain) const;
 
+    /// Returns whether a GtkEntry can hold a text.
+    static bool FitsEntry(const std::wstring& text);
+
+    /// Returns whether an insertion makes a plain text longer than `mostCharacters`.
+    bool IsTooLong(const NumberEntry::Insertion& insertion) const;
+
     /// Returns the insertion into the plain text; nothing if it is refused.
     std::optional<NumberEntry::Insertion> Accepted(NumberEntry::Insertion insertion) const;
 
@@ -53,6 +59,7 @@ public:
     CNumberFormat format;
     NumberRules rules;
     Decimal increment = MakeDecimal("1", 1);
+    std::size_t mostCharacters = 0;  ///< The most characters that the user can type; 0 for any number.
     bool showsPlain = false;
     bool awaitsPlain = false;     ///< The plain text is to be shown after the current event.
     std::wstring plain;           ///< The plain text of `shown`.

@@ -86,6 +86,26 @@ TEST_F(NumberTyping, NeverRefusesToDelete)
     EXPECT_EQ(screen.numbers, (std::vector<std::string>{"12345", ""}));
 }
 
+TEST_F(NumberTyping, StopsAtTheLongestTextThatTheProgramAllows)
+{
+    int longest = 0;
+    screen.number->Bind(wxEVT_TEXT_MAXLEN, [&](wxCommandEvent&) { ++longest; });
+    screen.number->SetMaxLength(4);
+    screen.Type("12345");
+    screen.Paste("6");
+    EXPECT_EQ(screen.Text(), L"1234");
+    EXPECT_EQ(screen.BellsRung(), 2);
+    EXPECT_TRUE(PumpUntil([&] { return longest == 2; }));
+    screen.Leave();
+    EXPECT_EQ(screen.Text(), L"1,234.00") << "the formatted text may be longer";
+    EXPECT_EQ(screen.number->GetDecimal(), "1234");
+    screen.Enter();
+    screen.number->SetMaxLength(0);
+    screen.number->SetInsertionPointEnd();
+    screen.Type("5");
+    EXPECT_EQ(screen.Text(), L"12345");
+}
+
 TEST_F(NumberTyping, IsRefusedInSilenceWhereValidatorsAreSilent)
 {
     const SilentValidators silence;

@@ -109,6 +109,25 @@ TEST_F(NumberValue, OfAThousandDigitsComesBackExactly)
     EXPECT_EQ(screen.Text(), std::wstring(digits.begin(), digits.end()));
 }
 
+// GTK drops the end of a longer text.
+TEST_F(NumberValue, HasAsManyDigitsAsTheFieldCanHold)
+{
+    const wxString most('7', 65534);
+    ASSERT_TRUE(screen.number->SetDecimal(most));
+    EXPECT_TRUE(screen.number->GetDecimal() == most);
+    EXPECT_FALSE(screen.number->SetDecimal(most + "7"));
+    EXPECT_FALSE(screen.number->SetDecimal("1e65534"));
+    screen.Type("7");
+    EXPECT_EQ(screen.BellsRung(), 1);
+    screen.Leave();
+    EXPECT_TRUE(screen.number->GetValue() == most) << "with groups the text would be too long";
+    EXPECT_TRUE(screen.number->GetDecimal() == most);
+    ASSERT_TRUE(screen.number->SetDecimal(wxString('9', 65534)));
+    screen.Enter();
+    screen.Press(WXK_UP);
+    EXPECT_TRUE(screen.number->GetDecimal() == wxString('9', 65534));
+}
+
 TEST_F(NumberValue, IsLeftAloneByWhatIsNoNumber)
 {
     screen.number->SetNumber(5);
@@ -119,6 +138,16 @@ TEST_F(NumberValue, IsLeftAloneByWhatIsNoNumber)
     EXPECT_EQ(screen.number->GetDecimal(), "5");
     EXPECT_TRUE(screen.number->SetDecimal(""));
     EXPECT_EQ(screen.number->GetDecimal(), "");
+}
+
+TEST_F(NumberValue, IsShownWithoutAPlus)
+{
+    CNumberFormat unsignedFormat = Wide();
+    unsignedFormat.m_bAllowSign = false;
+    screen.number->SetFormat(unsignedFormat);
+    ASSERT_TRUE(screen.number->SetDecimal("+5"));
+    EXPECT_EQ(screen.Text(), L"5");
+    EXPECT_TRUE(screen.number->IsAcceptable());
 }
 
 TEST_F(NumberValue, WithAnExponentIsWrittenOutWhereNoneIsAllowed)
