@@ -57,8 +57,13 @@ wxArrayString PathsOf(const wxFileDialog& dialog)
 int Choose(wxFileDialog& dialog, const std::string& path)
 {
     const wxString chosen = wxString::FromUTF8(path);
-    dialog.SetPath(chosen);
-    EXPECT_TRUE(PumpUntil([&] { return PathsOf(dialog).Index(chosen) != wxNOT_FOUND; })) << path;
+    const auto isShown = [&] { return PathsOf(dialog).Index(chosen) != wxNOT_FOUND; };
+    bool shown = false;
+    for (int i = 0; i < 15 && !shown; ++i) {
+        dialog.SetPath(chosen);  // GTK may drop it while it loads the first folder
+        shown = PumpUntil(isShown, 3000);
+    }
+    EXPECT_TRUE(shown) << path;
     return wxID_OK;
 }
 
