@@ -67,7 +67,8 @@ TEST(ConfigSample, KeepsTheHeightThatAPaneWasGiven)
     }
     const int before = paneHeight();
     ASSERT_GT(before, 0);
-    {
+    // Try again in another run: on a busy machine the window may not be ready for the drag.
+    for (int i = 0; i < 15 && paneHeight() == before; ++i) {
         SampleInUse notes("config", "Notes", person);
         std::istringstream geometry(notes.Geometry());
         int x = 0;
