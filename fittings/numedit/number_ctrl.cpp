@@ -337,9 +337,11 @@ void wxNumberCtrl::SetPlain(const std::wstring& plain, bool byUser)
     const wxWeakRef<wxWindow> self(this);
     if (m_field->showsPlain) {
         const std::wstring before = wxTextCtrl::DoGetValue().ToStdWstring();
-        const long place = m_field->Place(before, plain, GetInsertionPoint());
-        wxTextCtrl::DoSetValue(plain, SetValue_NoEvent);
-        SetInsertionPoint(byUser ? place : 0);
+        const long place = byUser ? m_field->Place(before, plain, GetInsertionPoint()) : 0;
+        if (before != plain) {
+            wxTextCtrl::DoSetValue(plain, SetValue_NoEvent);
+            SetInsertionPoint(place);
+        }
     } else {
         m_field->plain = plain;
         m_field->shown = m_field->Shown(plain);

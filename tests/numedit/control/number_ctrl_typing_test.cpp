@@ -38,6 +38,21 @@ TEST_F(NumberTyping, RefusesWhatCannotBecomeANumber)
     EXPECT_EQ(screen.textEvents, 5);
 }
 
+// A program that keeps a copy of the number sets it again when the copy changes.
+TEST_F(NumberTyping, GoesOnWhereItWasWhenTheProgramSetsTheSameNumber)
+{
+    screen.number->Bind(wxEVT_NUMBER_CHANGED, [this](wxCommandEvent& event) {
+        screen.number->SetDecimal(event.GetString());
+        screen.number->SetFormat(screen.number->GetFormat());
+    });
+    screen.Type("12.5");
+    EXPECT_EQ(screen.Text(), L"12.5");
+    EXPECT_EQ(screen.number->GetInsertionPoint(), 4);
+    screen.number->SetSelection(1, 3);
+    screen.number->SetNumber(12.5);
+    EXPECT_EQ(screen.Selection(), "2.");
+}
+
 TEST_F(NumberTyping, ReplacesASelectionWithOneEvent)
 {
     screen.Restart("12345");
