@@ -7,7 +7,6 @@
 #include <unistd.h>
 #include <wx/button.h>
 #include <wx/menu.h>
-#include <wx/textctrl.h>
 #include <wx/timer.h>
 
 #include <fittings/platform/file_util_ex.h>
@@ -280,14 +279,14 @@ bool Tour::AddUpFolders()
 bool Tour::LeaveOutSmallOnes()
 {
     const ContentsList& list = *m_frame->GetBrowser()->GetList();
-    const wxTextCtrl& field = *m_frame->GetBrowser()->GetFilter()->GetField();
+    const wxNumberCtrl& field = *m_frame->GetBrowser()->GetFilter()->GetField();
     const unsigned before = list.CountRows();
     Press('L', wxMOD_ALT);
     if (!Waits([&] { return field.HasFocus(); }, "Alt+L leads to the filter"))
         return false;
-    for (const char key : {'6', 'x', '.', '5'})
+    for (const wchar_t key : {L'6', L'x', field.GetFormat().m_chDecimalPoint, L'5'})
         Press(key);
-    if (!Waits([&] { return field.GetValue() == "6.5"; }, "only a size can be typed"))
+    if (!Waits([&] { return field.GetDecimal() == "6.5"; }, "only a size can be typed"))
         return false;
     for (const Entry& entry : list.GetEntriesInOrder()) {
         if (!IsTrue(entry.size >= 6500000, "what is smaller is left out"))

@@ -209,13 +209,23 @@ TEST_F(TheTour, ShowsEachComponentOnAFolderOfItsOwn)
     EXPECT_FALSE(fs::exists(data / "fittings-gallery")) << "the tour touched the user's settings";
 }
 
-TEST_F(TheTour, GoesFromRightToLeftAsTheLanguageDoes)
+void TakesItsPicturesIn(const char* locale)
 {
     TempFolder folder;
-    const ScopedLocale hebrew("he_IL.UTF-8");
-    setenv("LC_ALL", "he_IL.UTF-8", 1);
+    const ScopedLocale scoped(locale);
+    setenv("LC_ALL", locale, 1);
     TakesItsPictures({"--tour", folder / "pictures"}, folder / "pictures");
     setenv("LC_ALL", "C.UTF-8", 1);
+}
+
+TEST_F(TheTour, GoesFromRightToLeftAsTheLanguageDoes)
+{
+    TakesItsPicturesIn("he_IL.UTF-8");
+}
+
+TEST_F(TheTour, TypesTheDecimalPointOfTheLocale)
+{
+    TakesItsPicturesIn("de_DE.UTF-8");
 }
 
 TEST_F(TheTour, ShowsAFolderThatItIsGiven)
