@@ -20,7 +20,7 @@ wxDEFINE_EVENT(EVT_COLOUR_OPTIONS_CHANGED, wxCommandEvent);
 
 namespace {
 
-constexpr int kFieldWidth = 130;
+constexpr int kFieldCharacters = 16;
 
 /// Makes the rows of several columns equally high, so that they line up.
 void AlignRows(std::initializer_list<wxSizer*> grids)
@@ -123,7 +123,8 @@ wxSizer* ColourOptionFields::MakeBoxes()
     const ColourOptions first;
     auto* grid = new wxFlexGridSizer(2, FromDIP(wxSize(kGap, kGap)));
     const auto makeText = [&](const char* name, const wxString& accessibleName) {
-        auto* text = new wxTextCtrl(this, wxID_ANY, "", wxDefaultPosition, FromDIP(wxSize(kFieldWidth, -1)));
+        auto* text =
+            new wxTextCtrl(this, wxID_ANY, "", wxDefaultPosition, wxSize(kFieldCharacters * GetCharWidth(), -1));
         text->SetName(name);
         text->SetHint("Its own text");
         SetAccessibleName(text, accessibleName);

@@ -1,5 +1,7 @@
 #include <gallery/colours/colours_page.h>
 
+#include <algorithm>
+
 #include <wx/bitmap.h>
 #include <wx/button.h>
 #include <wx/dataview.h>
@@ -23,11 +25,10 @@ namespace {
 
 constexpr const char* kColourKey = "Colour";
 constexpr int kBlockHeight = 176;  ///< The height of the preview, and the least height of the list of events.
-constexpr int kHeaderHeight = 28;
 constexpr int kChoiceWidth = 180;
 constexpr int kPreviewWidth = 160;
-constexpr int kEventWidth = 336;
-constexpr int kColourWidth = 180;
+constexpr int kEventCharacters = 42;
+constexpr int kColourCharacters = 23;
 constexpr int kSwatchSize = 16;
 constexpr int kMostEvents = 500;
 
@@ -59,11 +60,16 @@ wxBitmap SwatchOf(const wxColour& colour, int size)
     return wxBitmap(swatch);
 }
 
-/// Makes a row for a heading. Each of these rows is as high as the "Clear" button in one of them.
+int HeaderHeight(const wxWindow* window)
+{
+    return std::max(window->FromDIP(28), window->GetCharHeight() + window->FromDIP(8));
+}
+
+/// Makes a row for a heading, as high as the row with the "Clear" button.
 wxSizer* MakeHeader(wxStaticText* heading)
 {
     auto* header = new wxBoxSizer(wxHORIZONTAL);
-    header->SetMinSize(heading->FromDIP(wxSize(-1, kHeaderHeight)));
+    header->SetMinSize(wxSize(-1, HeaderHeight(heading)));
     header->Add(heading, wxSizerFlags(1).CentreVertical());
     return header;
 }
@@ -149,10 +155,10 @@ wxSizer* ColoursPage::MakeEvents()
     m_events->SetName("Events");
     SetAccessibleName(m_events, "What the host learns");
     m_events->SetMinSize(FromDIP(wxSize(320, kBlockHeight)));
-    m_events->AppendTextColumn("Event", wxDATAVIEW_CELL_INERT, FromDIP(kEventWidth));
-    m_events->AppendIconTextColumn("Colour", wxDATAVIEW_CELL_INERT, FromDIP(kColourWidth));
-    auto* clear =
-        new wxButton(this, wxID_ANY, "Cl&ear", wxDefaultPosition, FromDIP(wxSize(72, kHeaderHeight)), wxBU_EXACTFIT);
+    m_events->AppendTextColumn("Event", wxDATAVIEW_CELL_INERT, kEventCharacters * GetCharWidth());
+    m_events->AppendIconTextColumn("Colour", wxDATAVIEW_CELL_INERT, kColourCharacters * GetCharWidth());
+    auto* clear = new wxButton(this, wxID_ANY, "Cl&ear", wxDefaultPosition, wxDefaultSize, wxBU_EXACTFIT);
+    clear->SetMinSize({std::max(FromDIP(72), GetTextExtent("Clear").x + FromDIP(24)), HeaderHeight(this)});
     clear->SetName("Clear");
     clear->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { m_events->DeleteAllItems(); });
 

@@ -440,4 +440,47 @@ TEST_F(ColoursPageTest, FitsIntoASmallWindow)
     }
 }
 
+/// Makes the texts of all windows twice as large as usual while the object exists.
+class LargeTexts
+{
+public:
+    LargeTexts() { SetResolution(2 * m_before); }
+    ~LargeTexts() { SetResolution(m_before); }
+    LargeTexts(const LargeTexts&) = delete;
+    LargeTexts& operator=(const LargeTexts&) = delete;
+
+private:
+    static int Resolution()
+    {
+        int resolution = 0;
+        g_object_get(gtk_settings_get_default(), "gtk-xft-dpi", &resolution, nullptr);
+        return resolution > 0 ? resolution : 96 * 1024;
+    }
+
+    static void SetResolution(int resolution)
+    {
+        g_object_set(gtk_settings_get_default(), "gtk-xft-dpi", resolution, nullptr);
+    }
+
+    const int m_before = Resolution();
+};
+
+TEST_F(ColoursPageTest, LargeTextsAreNotCut)
+{
+    Close();
+    const LargeTexts large;
+    Open("");
+    ShowPage();
+    const wxDataViewListCtrl& events = *Page().GetEvents();
+    const int longest = events.GetTextExtent("wxEVT_COLOURPICKER_DIALOG_CANCELLED").x;
+    EXPECT_GT(longest, events.FromDIP(336)) << "the texts are not large";
+    EXPECT_GE(events.GetColumn(0)->GetWidth(), longest);
+    EXPECT_GE(events.GetColumn(1)->GetWidth(), events.GetTextExtent("Orange #FF6820").x + events.FromDIP(24));
+    const auto& clear = Get<wxWindow>("Clear");
+    EXPECT_GE(clear.GetSize().x, clear.GetTextExtent("Clear").x + clear.FromDIP(16));
+    EXPECT_GE(clear.GetSize().y, clear.GetCharHeight());
+    const auto& automatic = Get<wxTextCtrl>("Automatic");
+    EXPECT_GE(automatic.GetSize().x, automatic.GetTextExtent("Its own text").x + automatic.FromDIP(16));
+}
+
 }  // namespace
