@@ -97,14 +97,6 @@ constexpr Bound kBounds[] = {
 // Offer a choice and not a text field: a template is a printf format, and users must not enter printf formats.
 const wchar_t* const kTemplates[] = {L"%s", L"%s kg", L"%s \u20AC", L"EUR %s", L"%s %%", L"about %s", L"(%s)"};
 
-/// Returns the field's number; 0 while the text is not a number.
-double NumberIn(const wxNumberCtrl& field)
-{
-    double number = 0;
-    field.GetNumber(&number);
-    return number;
-}
-
 /// Returns the field's character; 0 while the field is empty.
 wchar_t CharacterIn(const wxTextCtrl& field)
 {
@@ -160,7 +152,7 @@ CNumberFormat NumberFormatFields::GetFormat() const
     for (std::size_t i = 0; i < std::size(kCounts); ++i)
         format.*kCounts[i].field = static_cast<std::uint64_t>(m_counts[i]->GetValue());
     for (std::size_t i = 0; i < std::size(kBounds); ++i)
-        format.*kBounds[i].field = NumberIn(*m_bounds[i]);
+        m_bounds[i]->GetNumber(&(format.*kBounds[i].field));  // stays 0 while the text is not a number
     format.m_strTemplate = kTemplates[std::max(m_template->GetSelection(), 0)];
     return format;
 }
