@@ -6,8 +6,6 @@
 #include <wx/toplevel.h>
 #include <wx/weakref.h>
 
-#include <fittings/config/window_geometry.h>
-
 #include <gdk/gdkx.h>
 
 namespace {
@@ -24,16 +22,12 @@ public:
 
     void Watch(GtkWidget* widget);
 
-    /// Notes the place in which the program wants the window.
-    void KeepPlace();
-
 private:
     static void OnRealize(GtkWidget* widget, FirstShowing* showing);
     static gboolean OnEvent(GtkWidget* widget, GdkEvent* event, FirstShowing* showing);
     static void AfterEvent(GtkWidget* widget, GdkEvent* event, FirstShowing* showing);
 
     const Window m_window;
-    wxPoint m_position = wxDefaultPosition;
     wxSize m_size;
 };
 
@@ -47,18 +41,9 @@ void Delete(gpointer data)
 gboolean ShowNow(gpointer data)
 {
     const Window& window = *static_cast<Window*>(data);
-    if (!window || !window->IsShown())
-        return G_SOURCE_REMOVE;
-    GtkWidget* const widget = window->GetHandle();
-    if (auto* const showing = static_cast<FirstShowing*>(g_object_get_data(G_OBJECT(widget), kData)))
-        showing->KeepPlace();
-    gtk_widget_show(widget);
+    if (window && window->IsShown())
+        gtk_widget_show(window->GetHandle());
     return G_SOURCE_REMOVE;
-}
-
-void FirstShowing::KeepPlace()
-{
-    m_position = m_window->GetPosition();
 }
 
 void FirstShowing::Watch(GtkWidget* widget)
@@ -86,20 +71,14 @@ gboolean FirstShowing::OnEvent(GtkWidget* /*widget*/, GdkEvent* event, FirstShow
 
 // A window manager may first announce the decorations of windows in general, and then those of this window. The toolkit
 // subtracts only the decorations that are announced first, which would give the window a wrong size. So set the size
-// again after each announcement. Set the place with it, in one request: a window manager may have moved the window into
-// the work area while the window was too large. Also let the toolkit compute the position with the announced
-// decorations: by itself, it computes the position only when the window is moved.
+// again after each announcement. Also let the toolkit compute the position with the announced decorations: by itself,
+// it computes the position only when the window is moved.
 void FirstShowing::AfterEvent(GtkWidget* widget, GdkEvent* event, FirstShowing* showing)
 {
     const Window& window = showing->m_window;
     if (window && fittings::TellsDecorations(*event)) {
-        if (!window->IsMaximized() && !window->IsFullScreen()) {
+        if (!window->IsMaximized() && !window->IsFullScreen())
             window->SetSize(showing->m_size);
-            const wxPoint& place = showing->m_position;
-            const wxSize size = fittings::SizeWithoutDecorations(*window);
-            if (place != wxDefaultPosition && size.x > 0 && size.y > 0)
-                gdk_window_move_resize(event->property.window, place.x, place.y, size.x, size.y);
-        }
         wxPoint origin;
         gdk_window_get_origin(event->property.window, &origin.x, &origin.y);
         window->GTKConfigureEvent(origin.x, origin.y);
