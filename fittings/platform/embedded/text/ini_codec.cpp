@@ -43,27 +43,14 @@ Decoded DecodeNext(std::string_view text)
                      : Decoded{kByteBase + static_cast<unsigned char>(text.front()), 1};
 }
 
-void AppendHex(std::string& out, char32_t code, int minDigits)
-{
-    int digits = minDigits;
-    while (digits < 8 && code >> (4 * digits) != 0)
-        ++digits;
-    while (digits-- > 0)
-        out += "0123456789ABCDEF"[(code >> (4 * digits)) & 0xF];
-}
-
 // Appends an escaped character. For a byte or an ASCII character: @a byteMark and two hexadecimal digits. For any other
 // character: @a codeMark, a hexadecimal number and a closing brace.
-void AppendNumber(std::string& out, char32_t code, std::string_view byteMark, std::string_view codeMark)
+void AppendNumber(std::string& out, char32_t code, const char* byteMark, const char* codeMark)
 {
-    if (code < 0x80 || IsByte(code)) {
-        out += byteMark;
-        AppendHex(out, IsByte(code) ? code - kByteBase : code, 2);
-    } else {
-        out += codeMark;
-        AppendHex(out, code, 1);
-        out += '}';
-    }
+    const bool isByte = code < 0x80 || IsByte(code);
+    char digits[9];
+    g_snprintf(digits, sizeof digits, isByte ? "%02X" : "%X", IsByte(code) ? code - kByteBase : code);
+    out.append(isByte ? byteMark : codeMark).append(digits).append(isByte ? "" : "}");
 }
 
 // Reads a number of hexadecimal digits. Refuses 0, because no text of the store contains a NUL.
