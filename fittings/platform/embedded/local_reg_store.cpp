@@ -6,7 +6,6 @@
 #include <optional>
 #include <string_view>
 #include <system_error>
-#include <utility>
 
 #include <glib.h>
 
@@ -109,8 +108,7 @@ bool CLocalRegStore::Load(CIniFile& ini, const wchar_t* path)
 std::wstring CLocalRegStore::GetString(const CIniFile& ini, const wchar_t* section, const wchar_t* key,
                                        const wchar_t* defaultValue)
 {
-    auto value = ini.Get(View(section), View(key));
-    return value ? *std::move(value) : std::wstring(View(defaultValue));
+    return ini.Get(View(section), View(key)).value_or(std::wstring(View(defaultValue)));
 }
 
 void CLocalRegStore::WriteString(CIniFile& ini, const wchar_t* section, const wchar_t* key, const wchar_t* value)
@@ -171,8 +169,7 @@ void CLocalRegStore::DestroyIniFile(CIniFile* ini)
 
 std::wstring CLocalRegStore::GetString(const wchar_t* section, const wchar_t* key, const wchar_t* defaultValue)
 {
-    auto value = GetSetting(View(section), View(key));
-    return value ? *std::move(value) : std::wstring(View(defaultValue));
+    return GetSetting(View(section), View(key)).value_or(std::wstring(View(defaultValue)));
 }
 
 bool CLocalRegStore::WriteString(const wchar_t* section, const wchar_t* key, const wchar_t* value)
@@ -221,7 +218,7 @@ bool CLocalRegStore::SaveChanges(const std::vector<Change>& changes)
 bool CLocalRegStore::Refresh(CIniFile& ini)
 {
     const CollectedSettings* const collected = CollectedSettings::OfThread();
-    const std::string path = DefaultStore::Instance().Path();
+    const std::wstring path = DefaultStore::Path();
     return collected ? ini.Refresh(path, collected->Changes(), collected->Revision()) : ini.Refresh(path);
 }
 

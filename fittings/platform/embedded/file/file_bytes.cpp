@@ -4,6 +4,7 @@
 #include <atomic>
 #include <cerrno>
 #include <chrono>
+#include <cstddef>
 #include <filesystem>
 #include <system_error>
 #include <thread>
@@ -36,6 +37,9 @@ constexpr std::chrono::milliseconds kPause(1);
 // Do not block: opening a pipe would wait for a writer.
 constexpr int kForReading = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
 
+constexpr off_t kMaxFileSize = off_t{64} << 20;
+constexpr std::ptrdiff_t kMaxLines = 1'000'000;
+
 // The largest number of merges in one save. Each merge is caused by another change at the very moment of an exchange.
 constexpr int kMaxMerges = 100;
 
@@ -51,6 +55,12 @@ std::pair<time_t, long> Comparable(const timespec& time)
 bool IsPastTick(const timespec& stamp, const timespec& now)
 {
     return stamp.tv_nsec == 0 ? stamp.tv_sec + 2 <= now.tv_sec : Comparable(stamp) < Comparable(now);
+}
+
+bool IsTooLarge(std::string_view bytes)
+{
+    return bytes.size() > static_cast<std::size_t>(kMaxFileSize) ||
+           std::count(bytes.begin(), bytes.end(), '\n') > kMaxLines;
 }
 
 bool ReadAll(int fd, std::size_t expected, std::string& bytes)
@@ -114,7 +124,8 @@ FileContent ReadOpenFile(int fd, std::string& bytes)
     if (fstat(fd, &info) != 0 || !S_ISREG(info.st_mode) || info.st_size > kMaxFileSize || lseek(fd, 0, SEEK_SET) != 0 ||
         !ReadAll(fd, static_cast<std::size_t>(info.st_size), bytes))
         return {ReadResult::Failed, std::nullopt};
-    return {ReadResult::Read, FileIdentity(info), IsPastTick(info.st_ctim, now)};
+    return {IsTooLarge(bytes) ? ReadResult::Failed : ReadResult::Read, FileIdentity(info),
+            IsPastTick(info.st_ctim, now)};
 }
 
 template <typename Read>
@@ -217,7 +228,7 @@ Outcome MergeDisplaced(const Target& target, const Exchanged& done, const FileUp
     if (merges == kMaxMerges)
         return {UpdateResult::Failed, Undo(done.staged).isUndone};
     const auto merged = displaced ? update.merge(done.expected, done.put, *displaced) : std::nullopt;
-    if (!merged)
+    if (!merged || IsTooLarge(*merged))
         return Undo(done.staged);
     StagedFile next(target.path, *merged, target.old);
     const FileDescriptor ours(open(target.path.c_str(), kForReading | O_NOFOLLOW));
@@ -302,13 +313,13 @@ FileIdentity::FileIdentity(const struct stat& info)
 
 bool FileIdentity::operator==(const FileIdentity& other) const
 {
-    return HasContentOf(other) && Comparable(changed) == Comparable(other.changed);
+    return HaveSameContent(*this, other) && Comparable(changed) == Comparable(other.changed);
 }
 
-bool FileIdentity::HasContentOf(const FileIdentity& other) const
+bool HaveSameContent(const std::optional<FileIdentity>& a, const std::optional<FileIdentity>& b)
 {
-    return device == other.device && inode == other.inode && size == other.size &&
-           Comparable(modified) == Comparable(other.modified);
+    return a && b && a->device == b->device && a->inode == b->inode && a->size == b->size &&
+           Comparable(a->modified) == Comparable(b->modified);
 }
 
 std::optional<FileIdentity> IdentityOf(const std::string& path)
@@ -344,7 +355,7 @@ bool FileContent::IsEmptyForNow() const
 bool ReplaceFileBytes(const std::string& path, std::string_view bytes)
 {
     const auto target = PrepareTarget(path);
-    if (!target || bytes.size() > static_cast<std::size_t>(kMaxFileSize))
+    if (!target || IsTooLarge(bytes))
         return false;
     if (target->old && HoldsBytes(target->path, *target->old, bytes))
         return true;
@@ -360,7 +371,7 @@ UpdateResult UpdateFileBytes(const std::string& path, const FileUpdate& update)
     if (update.found.result == ReadResult::Read && update.newBytes == update.foundBytes)
         return UpdateResult::Saved;
     const auto target = PrepareTarget(path);
-    if (!target || update.newBytes.size() > static_cast<std::size_t>(kMaxFileSize))
+    if (!target || IsTooLarge(update.newBytes))
         return UpdateResult::Failed;
     if (target->old.has_value() != (update.found.result == ReadResult::Read))
         return UpdateResult::Outdated;
@@ -394,9 +405,7 @@ std::string KeepUnderOtherName(const std::string& path)
         if (errno != EEXIST)
             break;
         // Another file may have the name, or the same file: this process or another one may have added the name before.
-        const auto named = IdentityOf(other);
-        const auto file = IdentityOf(*target);
-        if (named && file && named->HasContentOf(*file))
+        if (HaveSameContent(IdentityOf(other), IdentityOf(*target)))
             return other;
     }
     return {};

@@ -27,11 +27,11 @@ struct FileIdentity
 
     explicit FileIdentity(const struct stat& info);
     bool operator==(const FileIdentity& other) const;
-
-    /// Returns whether both are states of the same file with the same content, judged by its size and modification
-    /// time. The file may have been renamed.
-    bool HasContentOf(const FileIdentity& other) const;
 };
+
+/// Returns whether both are states of the same file with the same content, judged by its size and modification time.
+/// The file may have been renamed. Returns false if there is no file.
+bool HaveSameContent(const std::optional<FileIdentity>& a, const std::optional<FileIdentity>& b);
 
 /// Follows links and returns the state of the file at @a path. If there is no file, returns nothing and leaves the
 /// reason in errno.
@@ -52,19 +52,18 @@ struct FileContent
     bool IsEmptyForNow() const;
 };
 
-/// Replaces @a bytes with the content of the file at @a path. Fails if the file has more than kMaxFileSize bytes. If
-/// the file is empty for now, waits until it has content, but not longer than half a second after its last change, and
-/// not beyond @a deadline. Does not wait without a deadline.
+/// Replaces @a bytes with the content of the file at @a path. Fails if the file has more than 64 MiB or a million lines:
+/// such a file is not a settings file, and its keys would need too much memory. If the file is empty for now, waits
+/// until it has content, but not longer than half a second after its last change, and not beyond @a deadline. Does not
+/// wait without a deadline.
 FileContent ReadFileBytes(const std::string& path, std::string& bytes,
                           std::chrono::steady_clock::time_point deadline = {});
-
-/// Larger files are neither read nor written: they are not settings files, and their keys would need too much memory.
-inline constexpr off_t kMaxFileSize = off_t{64} << 20;
 
 /// Replaces the content of the file at @a path with @a bytes. Follows links, and creates the folder if it is missing.
 ///
 /// The file keeps its mode and, if possible, its owner; a new file has mode 0600. A file that already contains the
-/// bytes is not written. Returns false on any error; the old file is then unchanged.
+/// bytes is not written. Returns false on any error, or if ReadFileBytes() could not read the bytes again; the old file
+/// is then unchanged.
 bool ReplaceFileBytes(const std::string& path, std::string_view bytes);
 
 enum class UpdateResult { Saved, Failed, Outdated };

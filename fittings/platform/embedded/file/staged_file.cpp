@@ -81,11 +81,6 @@ std::optional<FileIdentity> IdentityOfName(const std::string& path)
     return FileIdentity(info);
 }
 
-bool HaveSameContent(const std::optional<FileIdentity>& a, const std::optional<FileIdentity>& b)
-{
-    return a && b && a->HasContentOf(*b);
-}
-
 // Writes the bytes. When the function returns true, the bytes are on the disk.
 bool WriteDurably(int fd, std::string_view bytes)
 {

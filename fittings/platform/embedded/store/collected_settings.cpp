@@ -54,7 +54,7 @@ const SettingsChange* CollectedSettings::Find(std::wstring_view section, std::ws
 
 const CIniFile& CollectedSettings::Preview()
 {
-    m_preview.Refresh(DefaultStore::Instance().Path(), m_changes, m_revision);
+    m_preview.Refresh(DefaultStore::Path(), m_changes, m_revision);
     return m_preview;
 }
 

@@ -1,7 +1,6 @@
 #include <fittings/platform/embedded/store/default_store.h>
 
-#include <utility>
-
+#include <fittings/platform/embedded/store/shared_file.h>
 #include <fittings/platform/file_util_ex.h>
 #include <fittings/platform/std_file_paths.h>
 
@@ -14,41 +13,24 @@ DefaultStore& DefaultStore::Instance()
     return store;
 }
 
-std::string DefaultStore::Path()
+std::wstring DefaultStore::Path()
 {
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    return Locate().Path();
+    // Every access makes the path. MakePath() would take longer, because it copies the folder several times.
+    return std_file_paths::GetUserDataDir() + L"/settings.ini";
 }
 
 bool DefaultStore::Store(const std::vector<SettingsChange>& changes)
 {
-    SharedFile* shared = nullptr;
+    const std::wstring path = Path();
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        const CIniFile& file = Refreshed();
-        if (file.HasFailed())
+        m_file.Refresh(path);
+        if (m_file.HasFailed())
             return false;
-        if (file.HoldsAll(changes) && file.IsCurrent())
+        if (m_file.HoldsAll(changes) && m_file.IsCurrent())
             return true;
-        shared = m_shared;
     }
-    return shared->Store(changes);
-}
-
-SharedFile& DefaultStore::Locate()
-{
-    std::wstring folder = std_file_paths::GetUserDataDir();
-    if (!m_shared || folder != m_folder) {
-        m_shared = &SharedFile::At(file_util_ex::ConvertToUTF8(file_util_ex::MakePath(folder, L"settings.ini")));
-        m_folder = std::move(folder);
-    }
-    return *m_shared;
-}
-
-const CIniFile& DefaultStore::Refreshed()
-{
-    m_file.Refresh(Locate().Path());
-    return m_file;
+    return SharedFile::At(file_util_ex::ConvertToUTF8(path)).Store(changes);
 }
 
 }  // namespace fittings

@@ -3,10 +3,10 @@
 
 #include <mutex>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <fittings/platform/embedded/store/ini_file.h>
-#include <fittings/platform/embedded/store/shared_file.h>
 
 namespace fittings {
 
@@ -17,26 +17,22 @@ public:
     static DefaultStore& Instance();
 
     /// Returns the path of the file in the current user data directory.
-    std::string Path();
+    static std::wstring Path();
 
     /// Calls @a read with the stored settings and returns its result.
     template <typename Read>
     auto With(const Read& read)
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        return read(Refreshed());
+        m_file.Refresh(Path());
+        return read(std::as_const(m_file));
     }
 
     /// Makes all changes with one save. Returns false when they could not be saved; none is then stored.
     bool Store(const std::vector<SettingsChange>& changes);
 
 private:
-    SharedFile& Locate();
-    const CIniFile& Refreshed();
-
-    std::mutex m_mutex;  ///< Guards the members below.
-    std::wstring m_folder;
-    SharedFile* m_shared = nullptr;
+    std::mutex m_mutex;  ///< Guards the member below.
     CIniFile m_file;
 };
 

@@ -12,47 +12,23 @@
 
 using fittings::IniText;
 
-namespace {
-
-// A file with more lines is not a settings file, and its keys would need too much memory.
-constexpr std::ptrdiff_t kMaxLines = 1'000'000;
-
-bool HasTooManyLines(std::string_view text)
-{
-    return std::count(text.begin(), text.end(), '\n') > kMaxLines;
-}
-
-bool SaveText(const std::string& path, const std::string& text)
-{
-    return !HasTooManyLines(text) && fittings::ReplaceFileBytes(path, text);
-}
-
-}  // namespace
-
-void CIniFile::Clear()
-{
-    m_text = std::make_unique<IniText>("");
-    m_unreadable.clear();
-}
-
 bool CIniFile::Load(const std::string& path, std::chrono::steady_clock::time_point deadline)
 {
-    Clear();
     m_path = path;
+    m_refreshedPath.reset();
     std::string bytes;
     m_content = fittings::ReadFileBytes(path, bytes, deadline);
-    if (HasTooManyLines(bytes))
-        m_content.result = fittings::ReadResult::Failed;
-    return m_content.result == fittings::ReadResult::Read && Parse(std::move(bytes));
+    const bool isRead = m_content.result == fittings::ReadResult::Read;
+    return Parse(isRead ? std::move(bytes) : "") && isRead;
 }
 
-bool CIniFile::Refresh(const std::string& path, const std::vector<Change>& changes, std::uint64_t revision)
+bool CIniFile::Refresh(std::wstring_view path, const std::vector<Change>& changes, std::uint64_t revision)
 {
-    const bool isSameStore = path == m_path && revision == m_revision;
+    const bool isSameStore = path == m_refreshedPath && revision == m_revision;
     if (isSameStore && IsFresh())
         return false;
     CIniFile now;
-    now.Load(path);
+    now.Load(file_util_ex::ConvertToUTF8(std::wstring(path)));
     // If the file is empty for now, keep the earlier content: a read does not wait until another program has filled the
     // file.
     if (isSameStore && now.m_content.IsEmptyForNow() && m_content.result == fittings::ReadResult::Read)
@@ -62,21 +38,10 @@ bool CIniFile::Refresh(const std::string& path, const std::vector<Change>& chang
     const bool isSame = isSameStore && now.HasFailed() == HasFailed() && !m_text->IsChanged() &&
                         now.m_text->Original() == m_text->Original();
     now.Apply(changes);
+    now.m_refreshedPath = path;
     now.m_revision = revision;
     *this = std::move(now);
     return !isSame;
-}
-
-bool CIniFile::Refresh(std::wstring_view path)
-{
-    auto asked = std::exchange(m_asked, {});
-    if (asked.path != path) {
-        asked.path = path;
-        asked.inUtf8 = file_util_ex::ConvertToUTF8(asked.path);
-    }
-    const bool isOther = Refresh(asked.inUtf8);
-    m_asked = std::move(asked);
-    return isOther;
 }
 
 bool CIniFile::IsFresh()
@@ -94,12 +59,12 @@ bool CIniFile::IsCurrent() const
 
 bool CIniFile::Parse(std::string text)
 {
+    m_unreadable.clear();
     m_text = std::make_unique<IniText>(std::move(text));
     if (m_text->IsSettings())
         return true;
-    std::string unreadable = m_text->Original();
-    Clear();
-    m_unreadable = std::move(unreadable);
+    m_unreadable = m_text->Original();
+    m_text = std::make_unique<IniText>("");
     return false;
 }
 
@@ -113,7 +78,7 @@ bool CIniFile::Save(const std::string& path) const
         if (result != fittings::UpdateResult::Outdated)
             return result == fittings::UpdateResult::Saved;
     }
-    return SaveText(path, m_text->Changed());
+    return fittings::ReplaceFileBytes(path, m_text->Changed());
 }
 
 fittings::UpdateResult CIniFile::Update(std::chrono::steady_clock::time_point deadline) const
@@ -123,14 +88,10 @@ fittings::UpdateResult CIniFile::Update(std::chrono::steady_clock::time_point de
         return UpdateResult::Failed;
     if (!m_unreadable.empty())
         return ReplaceUnreadable(m_path, deadline);
-    std::string changed = m_text->Changed();
-    if (HasTooManyLines(changed))
-        return UpdateResult::Failed;
     const auto merge = [this](std::string_view expected, std::string_view put, std::string_view displaced) {
-        auto text = Merged(expected, put, displaced);
-        return text && HasTooManyLines(*text) ? std::nullopt : text;
+        return Merged(expected, put, displaced);
     };
-    return fittings::UpdateFileBytes(m_path, {m_content, m_text->Original(), std::move(changed), merge, deadline});
+    return fittings::UpdateFileBytes(m_path, {m_content, m_text->Original(), m_text->Changed(), merge, deadline});
 }
 
 // Keeps the unreadable file under another name, and puts a new file in its place. Does nothing if there are no changes
@@ -139,15 +100,10 @@ fittings::UpdateResult CIniFile::ReplaceUnreadable(const std::string& path,
                                                    std::chrono::steady_clock::time_point deadline) const
 {
     using fittings::UpdateResult;
-    const auto isUnreadable = [this](const std::optional<fittings::FileIdentity>& identity) {
-        return identity && identity->HasContentOf(*m_content.identity);
-    };
-    if (!isUnreadable(fittings::IdentityOf(path)))
+    if (!fittings::HaveSameContent(fittings::IdentityOf(path), m_content.identity))
         return UpdateResult::Outdated;
     if (!m_text->IsChanged())
         return UpdateResult::Saved;
-    if (HasTooManyLines(m_text->Changed()))
-        return UpdateResult::Failed;
     const std::string other = fittings::KeepUnderOtherName(path);
     if (other.empty())
         return UpdateResult::Failed;
@@ -156,7 +112,7 @@ fittings::UpdateResult CIniFile::ReplaceUnreadable(const std::string& path,
     found.identity = fittings::IdentityOf(other);
     const auto keepDisplaced = [](std::string_view, std::string_view, std::string_view) { return std::nullopt; };
     const UpdateResult result =
-        isUnreadable(found.identity)
+        fittings::HaveSameContent(found.identity, m_content.identity)
             ? fittings::UpdateFileBytes(path, {found, m_unreadable, m_text->Changed(), keepDisplaced, deadline})
             : UpdateResult::Outdated;
     // Remove the second name only if the file still has its first name. Otherwise another process may have replaced the
@@ -210,7 +166,8 @@ bool CIniFile::HoldsAll(const std::vector<Change>& changes) const
     return std::all_of(changes.begin(), changes.end(), [this](const Change& change) {
         if (!change.isOfSection)
             return Get(change.section, change.key) == change.value &&
-                   (change.value || !change.section.empty() || !HasEarlyKey(change.key));
+                   (change.value || !change.section.empty() ||
+                    !m_text->Find(IniText::kEarlyKeys, fittings::EncodeName(change.key)));
         const std::string section = fittings::EncodeName(change.section);
         const bool isThere = m_text->HasSection(section);
         return change.value ? isThere : !isThere || !m_text->Keys(section).empty();
@@ -251,11 +208,6 @@ std::vector<fittings::SettingsEntry> CIniFile::Entries(std::wstring_view section
     for (const IniText::Key& key : keys)
         entries.push_back({fittings::DecodeName(key.name), fittings::DecodeValue(key.value)});
     return entries;
-}
-
-bool CIniFile::HasEarlyKey(std::wstring_view key) const
-{
-    return m_text->Find(IniText::kEarlyKeys, fittings::EncodeName(key)).has_value();
 }
 
 // Merges three ways: starts with @a displaced, and makes the changes that lead from @a expected to @a put. A change of

@@ -28,12 +28,8 @@ public:
     /// changes are those of the last call and the file has certainly not changed since. Keeps the earlier content while
     /// another program may be about to fill the empty file. Returns true when the content of the object may have
     /// changed.
-    bool Refresh(const std::string& path, const std::vector<fittings::SettingsChange>& changes = {},
+    bool Refresh(std::wstring_view path, const std::vector<fittings::SettingsChange>& changes = {},
                  std::uint64_t revision = 0);
-
-    /// Does the same, without changes, for a path in wide text. Does not convert the path again if it is that of
-    /// the last call.
-    bool Refresh(std::wstring_view path);
 
     /// Writes the file if its bytes change. Returns false on any error.
     bool Save(const std::string& path) const;
@@ -72,17 +68,15 @@ public:
     /// keeps the earlier content of a file that was found empty.
     bool IsCurrent() const;
 
-    /// Returns whether the last Load() found a file that it could not read or that has too many lines.
+    /// Returns whether the last Load() found a file that it could not read or that is too large.
     bool HasFailed() const { return m_content.result == fittings::ReadResult::Failed; }
 
 private:
-    void Clear();
     /// Replaces the content with @a text. Returns false when @a text contains no settings and is not readable.
     bool Parse(std::string text);
     fittings::UpdateResult ReplaceUnreadable(const std::string& path,
                                              std::chrono::steady_clock::time_point deadline) const;
     bool IsFresh();
-    bool HasEarlyKey(std::wstring_view key) const;
     std::optional<std::string> Merged(std::string_view expected, std::string_view put,
                                       std::string_view displaced) const;
 
@@ -91,14 +85,8 @@ private:
     fittings::FileContent m_content = {fittings::ReadResult::Missing, std::nullopt};
     std::string m_unreadable;  ///< The bytes of the file if they cannot be parsed, otherwise empty.
     fittings::FileWatch m_watch;
-    std::uint64_t m_revision = 0;
-
-    /// The path of the last Refresh() with a wide path.
-    struct
-    {
-        std::wstring path;
-        std::string inUtf8;
-    } m_asked;
+    std::optional<std::wstring> m_refreshedPath;  ///< The path of the last Refresh(); none after Load().
+    std::uint64_t m_revision = 0;                 ///< The revision of the last Refresh().
 };
 
 #endif

@@ -2,7 +2,6 @@
 
 #include <chrono>
 #include <map>
-#include <memory>
 
 #include <fittings/platform/file_util_ex.h>
 
@@ -32,12 +31,9 @@ SharedFile& SharedFile::At(const std::string& path)
 {
     // Never destroyed: an application's own objects may store settings while the process ends.
     static auto& mutex = *new std::mutex;
-    static auto& files = *new std::map<std::string, std::unique_ptr<SharedFile>>;
+    static auto& files = *new std::map<std::string, SharedFile>;
     const std::lock_guard<std::mutex> lock(mutex);
-    std::unique_ptr<SharedFile>& file = files[path];
-    if (!file)
-        file = std::make_unique<SharedFile>(path);
-    return *file;
+    return files.try_emplace(path, path).first->second;
 }
 
 bool SharedFile::Store(const std::vector<SettingsChange>& changes)

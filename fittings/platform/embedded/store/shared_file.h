@@ -21,8 +21,6 @@ public:
 
     explicit SharedFile(std::string path) : m_path(std::move(path)) {}
 
-    const std::string& Path() const { return m_path; }
-
     /// Makes all changes with one save. Returns false when they could not be saved; none is then stored.
     bool Store(const std::vector<SettingsChange>& changes);
 
