@@ -1,10 +1,13 @@
 #include <fittings/config/first_showing.h>
 
 #include <memory>
+#include <optional>
 
 #include <gtk/gtk.h>
 #include <wx/toplevel.h>
 #include <wx/weakref.h>
+
+#include <fittings/config/window_geometry.h>
 
 #include <gdk/gdkx.h>
 
@@ -22,12 +25,18 @@ public:
 
     void Watch(GtkWidget* widget);
 
+    /// Makes the window keep its place. Otherwise the window manager chooses the place.
+    void KeepPlace() { m_keepsPlace = true; }
+
 private:
+    static gboolean ShowNow(gpointer data);
     static void OnRealize(GtkWidget* widget, FirstShowing* showing);
     static gboolean OnEvent(GtkWidget* widget, GdkEvent* event, FirstShowing* showing);
     static void AfterEvent(GtkWidget* widget, GdkEvent* event, FirstShowing* showing);
 
     const Window m_window;
+    bool m_keepsPlace = false;
+    std::optional<wxPoint> m_place;  // where the window was when it was shown, if it keeps its place
     wxSize m_size;
 };
 
@@ -37,13 +46,9 @@ void Delete(gpointer data)
     const std::unique_ptr<T> owned(static_cast<T*>(data));
 }
 
-// Shows the widget of a window on which Show() was called. The toolkit already counts such a window as shown.
-gboolean ShowNow(gpointer data)
+FirstShowing* ShowingOf(GtkWidget* widget)
 {
-    const Window& window = *static_cast<Window*>(data);
-    if (window && window->IsShown())
-        gtk_widget_show(window->GetHandle());
-    return G_SOURCE_REMOVE;
+    return static_cast<FirstShowing*>(g_object_get_data(G_OBJECT(widget), kData));
 }
 
 void FirstShowing::Watch(GtkWidget* widget)
@@ -51,6 +56,19 @@ void FirstShowing::Watch(GtkWidget* widget)
     g_signal_connect(widget, "realize", G_CALLBACK(&OnRealize), this);
     g_signal_connect(widget, "event", G_CALLBACK(&OnEvent), this);
     g_signal_connect(widget, "event-after", G_CALLBACK(&AfterEvent), this);
+}
+
+// Shows the widget of a window on which Show() was called. The toolkit already counts such a window as shown.
+gboolean FirstShowing::ShowNow(gpointer data)
+{
+    const Window& window = *static_cast<Window*>(data);
+    if (window && window->IsShown()) {
+        FirstShowing* const showing = ShowingOf(window->GetHandle());
+        if (showing && showing->m_keepsPlace)
+            showing->m_place = window->GetPosition();
+        gtk_widget_show(window->GetHandle());
+    }
+    return G_SOURCE_REMOVE;
 }
 
 // Called while the toolkit asks the window manager for the size of the decorations. Show the window after this request,
@@ -71,14 +89,20 @@ gboolean FirstShowing::OnEvent(GtkWidget* /*widget*/, GdkEvent* event, FirstShow
 
 // A window manager may first announce the decorations of windows in general, and then those of this window. The toolkit
 // subtracts only the decorations that are announced first, which would give the window a wrong size. So set the size
-// again after each announcement. Also let the toolkit compute the position with the announced decorations: by itself,
-// it computes the position only when the window is moved.
+// again after each announcement. Set the place with it, in one request: a window manager may have moved the window into
+// the work area while the window was too large. Also let the toolkit compute the position with the announced
+// decorations: by itself, it computes the position only when the window is moved.
 void FirstShowing::AfterEvent(GtkWidget* widget, GdkEvent* event, FirstShowing* showing)
 {
     const Window& window = showing->m_window;
     if (window && fittings::TellsDecorations(*event)) {
-        if (!window->IsMaximized() && !window->IsFullScreen())
+        if (!window->IsMaximized() && !window->IsFullScreen()) {
             window->SetSize(showing->m_size);
+            const std::optional<wxPoint>& place = showing->m_place;
+            const wxSize size = fittings::SizeWithoutDecorations(*window);
+            if (place && size.x > 0 && size.y > 0)
+                gdk_window_move_resize(event->property.window, place->x, place->y, size.x, size.y);
+        }
         wxPoint origin;
         gdk_window_get_origin(event->property.window, &origin.x, &origin.y);
         window->GTKConfigureEvent(origin.x, origin.y);
@@ -102,7 +126,7 @@ void fittings::ShowWithoutDelay(wxWindow& window)
     auto* const topLevel = dynamic_cast<wxTopLevelWindow*>(&window);
     GtkWidget* const widget = window.GetHandle();
     if (!topLevel || !widget || window.IsShown() || !GDK_IS_X11_DISPLAY(gtk_widget_get_display(widget)) ||
-        g_object_get_data(G_OBJECT(widget), kData))
+        ShowingOf(widget))
         return;
     auto showing = std::make_unique<FirstShowing>(*topLevel);
     showing->Watch(widget);
@@ -112,6 +136,9 @@ void fittings::ShowWithoutDelay(wxWindow& window)
 void fittings::KeepPlace(wxTopLevelWindow& window)
 {
     const wxPoint position = window.GetPosition();
-    if (window.GetHandle() && position != wxDefaultPosition)
-        gtk_window_move(GTK_WINDOW(window.GetHandle()), position.x, position.y);
+    if (!window.GetHandle() || position == wxDefaultPosition)
+        return;
+    gtk_window_move(GTK_WINDOW(window.GetHandle()), position.x, position.y);
+    if (FirstShowing* const showing = ShowingOf(window.GetHandle()))
+        showing->KeepPlace();
 }

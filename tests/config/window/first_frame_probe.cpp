@@ -1,5 +1,6 @@
 // first_frame_probe KIND store X;Y;WIDTH;HEIGHT: shows a frame with this geometry and stores the geometry. If "corner"
-// takes the place of the geometry, the frame has 500 x 340 pixels and is in the top left corner of the work area.
+// takes the place of the geometry, the frame has 500 x 340 pixels and is in the top left corner of the work area; with
+// "last-corner" it is in the bottom right corner.
 //
 // first_frame_probe KIND restore: restores a frame and shows it as the first window of the process.
 //
@@ -163,8 +164,11 @@ private:
 
     wxRect Wanted(const wxString& text)
     {
-        m_wanted = wxRect(wxDisplay(0U).GetClientArea().GetPosition(), wxSize(500, 340));
-        if (text != "corner")
+        const wxRect area = wxDisplay(0U).GetClientArea();
+        m_wanted = wxRect(area.GetPosition(), wxSize(500, 340));
+        if (text == "last-corner")
+            m_wanted.Offset(area.width - m_wanted.width, area.height - m_wanted.height);
+        else if (text != "corner")
             wxSscanf(text, "%d;%d;%d;%d", &m_wanted.x, &m_wanted.y, &m_wanted.width, &m_wanted.height);
         return m_wanted;
     }

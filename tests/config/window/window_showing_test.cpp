@@ -4,10 +4,13 @@
 
 #include <gtest/gtest.h>
 #include <gtk/gtk.h>
+#include <wx/dialog.h>
+#include <wx/display.h>
 #include <wx/frame.h>
 
 #include <fittings/platform/local_reg_store.h>
 #include <tests/support/gui.h>
+#include <tests/support/owned_window.h>
 #include <tests/support/temp_folder.h>
 
 namespace {
@@ -64,6 +67,17 @@ TEST_F(RestoredFrame, GoesWhereItsProgramPutsIt)
     ASSERT_TRUE(ShowAndSettle(frame));
     EXPECT_EQ(frame->GetScreenRect(), wxRect(310, 220, 420, 320));
     frame->Destroy();
+}
+
+// Without a stored geometry, the library leaves the place to the window manager, which puts a dialog beside the corner.
+TEST(DialogWithoutAStoredGeometry, IsNotMovedToTheCorner)
+{
+    const TempUserData data;
+    const OwnedWindow<wxDialog> dialog(
+        new wxDialog(nullptr, wxID_ANY, "new", wxDefaultPosition, wxSize(400, 300), wxDEFAULT_DIALOG_STYLE));
+    EXPECT_FALSE(wx_window_state::LoadState(dialog.get(), L"Main"));
+    ASSERT_TRUE(ShowAndSettle(dialog.get()));
+    EXPECT_NE(dialog->GetScreenPosition(), wxDisplay(0U).GetClientArea().GetPosition());
 }
 
 }  // namespace
