@@ -18,7 +18,7 @@ constexpr long kFarthest = 32767;
 
 /// Returns the window's rectangle on the screen.
 ///
-/// Inside a top-level window that is not shown yet, the toolkit cannot find this rectangle, and logs an error. Then the
+/// If the top-level window is not shown yet, the toolkit cannot find this rectangle, and logs an error. Then the
 /// positions of the window and its ancestors are added up instead. This sum lacks only the decorations.
 wxRect ScreenRect(wxWindow& window)
 {

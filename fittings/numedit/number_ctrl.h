@@ -156,8 +156,9 @@ public:
     /// what SetIncrement() returns for the text of that number, and false for an infinity and NaN.
     bool SetIncrement(double increment);
 
-    /// Limits how many characters the user can type; 0 for no limit. The limit applies to the number as it is typed, and
-    /// not to the formatted text. Text that is refused for this reason sends wxEVT_TEXT_MAXLEN after the current event.
+    /// Limits how many characters the user can type; 0 for no limit. The limit applies to the number as it is typed,
+    /// and not to the formatted text. Text that is refused for this reason sends wxEVT_TEXT_MAXLEN after the current
+    /// event.
     void SetMaxLength(unsigned long length) override;
 
     /// Returns true if IsAcceptable() is true and the validator accepts the field. The text of a disabled field need

@@ -63,7 +63,7 @@ public:
     bool showsPlain = false;
     bool awaitsPlain = false;     ///< The plain text is to be shown after the current event.
     std::wstring plain;           ///< The plain text of `shown`.
-    std::wstring shown;           ///< The last text that was shown without the focus.
+    std::wstring shown;           ///< The last formatted text, which the field shows while it lacks the focus.
     std::wstring exact;           ///< The number that the program has set. It may have more decimals than the format.
     std::optional<Decimal> told;  ///< The number that the program last set, or that the last event reported.
     std::pair<long, long> selection;  ///< The selection in the plain text at the time when the text was formatted.

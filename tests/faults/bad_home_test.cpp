@@ -1,5 +1,5 @@
-// A home folder that cannot be written: earlier settings are still read, a failed write does not break anything else,
-// and everything is stored again when the folder becomes writable.
+// A home folder that cannot be written: earlier settings are still read, and a failed write does not break anything
+// else. New writes succeed as soon as the folder is writable again.
 
 #include <cerrno>
 #include <cstdlib>

@@ -353,7 +353,7 @@ TEST(FormatControlText, LosesTheNumberInATemplateWithoutPlaceForIt)
     EXPECT_EQ(Shown(L"3", format), L"100%");
 }
 
-// The number is passed to printf() as an argument and not as the format, so a "%" in it is printed.
+// The number is an argument of the template and not a part of it, so a "%" in the number is shown.
 TEST(FormatControlText, ShowsPercentSignsOfTheSeparators)
 {
     CNumberFormat format(eFixedFormat);

@@ -13,7 +13,7 @@
 
 namespace fittings {
 
-/// A step of a path in a tree. Its parent is the nearest step before it that is one level higher.
+/// A step of a path in a tree. Its parent is the nearest step before it whose level is one less.
 struct TreeStep
 {
     std::size_t level = 0;   ///< 0 for the root.

@@ -244,8 +244,8 @@ private:
     const TempFolder& m_folder;
 };
 
-// The folder "elsewhere" is as far above the moved part as "top" was, and it has subfolders with the same names. The walk
-// must not count it in place of "top", which it closed on the way down and cannot reach again.
+// The folder "elsewhere" is as far above the moved part as "top" was, and it has subfolders with the same names. The
+// walk must not count it in place of "top", which it closed on the way down and cannot reach again.
 TEST(SumFolder, AFolderMovedAwayDuringTheWalkLeadsToNoOtherFolder)
 {
     TempFolder folder;

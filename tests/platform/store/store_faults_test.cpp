@@ -1,6 +1,6 @@
-// While the store works, every call on a file fails in turn, with each of several errors, alone or together with all
-// later calls. In each case the old or the new value is stored, and the result says which. All other values are kept.
-// The store works again as soon as the system does.
+// Lets each call that the store makes on a file fail in turn, with each of several errors, alone or together with all
+// later calls. Afterwards the old or the new value is stored. If the function returns a result, the result says which.
+// All other values are kept. As soon as the calls succeed again, the store can save again.
 
 #include <cerrno>
 #include <functional>

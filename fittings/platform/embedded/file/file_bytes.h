@@ -52,10 +52,10 @@ struct FileContent
     bool IsEmptyForNow() const;
 };
 
-/// Replaces @a bytes with the content of the file at @a path. Fails if the file has more than 64 MiB or a million lines:
-/// such a file is not a settings file, and its keys would need too much memory. If the file is empty for now, waits
-/// until it has content, but not longer than half a second after its last change, and not beyond @a deadline. Does not
-/// wait without a deadline.
+/// Replaces @a bytes with the content of the file at @a path. Fails if the file has more than 64 MiB or a million
+/// lines: such a file is not a settings file, and its keys would need too much memory. If the file is empty for now,
+/// waits until it has content, but not longer than half a second after its last change, and not beyond @a deadline.
+/// Does not wait without a deadline.
 FileContent ReadFileBytes(const std::string& path, std::string& bytes,
                           std::chrono::steady_clock::time_point deadline = {});
 

@@ -25,7 +25,7 @@ bool IsPlainInName(char byte);
 /// Returns @a text as a value: unchanged if it is then read back exactly, otherwise in quotes.
 std::string EncodeValue(std::wstring_view text);
 
-/// Returns the text of a value, which must not begin with a blank. If the quotes are not well formed, the value is
+/// Returns the text of @a value, which must not begin with a blank. If the quotes are not well formed, the value is
 /// taken literally, with its quotes.
 std::wstring DecodeValue(std::string_view value);
 

@@ -51,8 +51,10 @@ std::string_view IniText::NameOf(const IniLine& line)
 IniText::Section& IniText::SectionOf(std::string_view name)
 {
     Section*& section = m_sectionsByName[name];
-    if (!section)
-        section = &m_sections.emplace_back(Section{name});
+    if (!section) {
+        m_sections.push_back({name});
+        section = &m_sections.back();
+    }
     return *section;
 }
 
