@@ -43,8 +43,8 @@ wxSize TextExtent(wxDC& dc, const wxString& text)
     return text.empty() ? wxSize(0, 0) : dc.GetTextExtent(text);
 }
 
-// Returns the place for the popup. This is @a at, moved left or right until the popup is on the screen, and moved above
-// the control if the popup would extend below the screen.
+// Returns the place for the popup. This is @a at, moved left or right until the popup is on the screen. If the popup
+// would extend below the screen, the place is higher by the heights of the popup and of @a parent.
 wxPoint FitToScreen(wxPoint at, const wxSize& size, const wxWindow& parent)
 {
     int screenWidth = 0;

@@ -386,7 +386,8 @@ void wxNumberCtrl::TellProblem()
         return;
     GtkStyleContext* const style = gtk_widget_get_style_context(m_widget);
     AtkObject* const accessible = gtk_widget_get_accessible(m_widget);
-    // Keep a tooltip or a description that the program has set meanwhile.
+    // The program may have changed the tooltip or the description. Remember its texts, to restore them when the text of
+    // the field has no problem.
     const bool hasOurTip = !m_field->problem.empty() && GetToolTipText() == m_field->problem;
     const bool hasOurDescription = !m_field->problem.empty() && accessible->description &&
                                    wxString::FromUTF8(accessible->description) == m_field->problem;

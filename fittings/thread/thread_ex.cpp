@@ -107,8 +107,8 @@ wxThreadEx::~wxThreadEx()
 
 wxThreadError wxThreadEx::Create(unsigned int WXUNUSED(stackSize))
 {
-    // Do not make a thread twice. Once the thread runs, m_impl may have been deleted. Before that, the toolkit would
-    // make a second thread for m_impl, and that thread would outlive m_impl.
+    // Do not make a thread twice. Once the thread runs, m_impl may have been deleted. After Create() but before Run(),
+    // the toolkit would make a second thread for m_impl, and that thread would outlive m_impl.
     if (m_running || m_impl->GetId() != 0)
         return wxTHREAD_RUNNING;
     return m_impl->Create(0);

@@ -382,7 +382,7 @@ TEST(HeaderExamples, ListTheColours)
     EXPECT_EQ(list->GetCount(), 40U);
 }
 
-// Examples with dialogs or resources are only built here. The tests of the samples run such code.
+// The examples below need a user or resources. They are built but not run; the tests of the samples run such code.
 class DialogsFrame : public wxFrame
 {
 public:

@@ -277,8 +277,8 @@ TEST(TheToolkitsConfig, IsSavedWhenTheToolkitEnds)
     EXPECT_EQ(history.GetHistoryFile(1), "/tmp/a.txt");
 }
 
-// This object is constructed before the store is first used. Therefore it is destroyed after the objects that the store
-// constructs at its first use.
+// This object is constructed before the store is first used. If the store destroyed its own objects at the end of the
+// process, they would be gone before this object saves its changes.
 std::unique_ptr<wxStoreConfig> g_config;
 
 TEST(AConfigThatOutlivesMain, IsSavedWhenTheProcessEnds)

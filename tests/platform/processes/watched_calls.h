@@ -3,7 +3,7 @@
 
 #include <functional>
 
-/// Functions that run before this process calls fsync(), renameat2() or flock(). The store uses these functions to sync
+/// Functions that run before this process calls fsync(), renameat2() or flock(). The store calls these three to sync
 /// files and folders, to rename or exchange files, and to lock a folder.
 struct WatchedCalls
 {

@@ -156,7 +156,7 @@ protected:
 
     std::string Path() const { return m_data / "settings.ini"; }
 
-    // Moves the folder of the file to another place, and puts a new folder with another file there.
+    // Moves the file's folder to another place, and puts a new folder with another file in its old place.
     void ReplaceFolder(const std::string& bytes)
     {
         std::filesystem::rename(m_data.Path(), m_earlier / "moved");

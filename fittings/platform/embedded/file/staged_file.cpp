@@ -147,7 +147,7 @@ PlaceResult StagedFile::Exchange()
     return result;
 }
 
-// An exchange may displace another file than the one that was last put at the target. Then another process has stored
+// An exchange may displace a file other than the one that was last put at the target. Then another process has stored
 // the displaced file meanwhile, and the next exchange puts the displaced file back.
 PlaceResult StagedFile::PutBack()
 {
