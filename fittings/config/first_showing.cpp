@@ -7,9 +7,9 @@
 #include <wx/toplevel.h>
 #include <wx/weakref.h>
 
-#include <fittings/config/window_geometry.h>
-
 #include <gdk/gdkx.h>
+
+#include <fittings/config/window_geometry.h>
 
 namespace {
 

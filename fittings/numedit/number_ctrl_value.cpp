@@ -1,5 +1,9 @@
 #include <cmath>
+#include <cstdint>
 #include <optional>
+#include <string>
+#include <type_traits>
+#include <utility>
 
 #include <fittings/numedit/number_ctrl.h>
 #include <fittings/numedit/number_field.h>
@@ -9,10 +13,17 @@ using fittings::NumberField;
 
 namespace {
 
-/// Stores a result in a variable. Returns false and leaves the variable alone if there is none.
+/// Stores the number of a plain text in a variable. Returns false and leaves the variable alone if there is no number
+/// or the number does not fit the variable.
 template <typename Number>
-bool Store(const std::optional<Number>& result, Number* variable)
+bool StoreNumber(const std::wstring& plain, const NumberField& field, Number* variable)
 {
+    const std::optional<Decimal> number = fittings::NumberIn(plain, field.rules.point);
+    std::optional<Number> result;
+    if constexpr (std::is_integral_v<Number>)
+        result = number ? fittings::IntegerOf<Number>(*number) : std::nullopt;
+    else
+        result = number ? fittings::DoubleOf(*number) : std::nullopt;
     if (result)
         *variable = *result;
     return result.has_value();
@@ -64,29 +75,25 @@ bool wxNumberCtrl::SetDecimal(const wxString& text)
 bool wxNumberCtrl::GetNumber(double* value) const
 {
     wxCHECK_MSG(m_field, false, "call Create() first");
-    const std::optional<Decimal> number = fittings::NumberIn(Plain(), m_field->rules.point);
-    return number && Store(fittings::DoubleOf(*number), value);
+    return StoreNumber(Plain(), *m_field, value);
 }
 
 bool wxNumberCtrl::GetNumber(std::int64_t* value) const
 {
     wxCHECK_MSG(m_field, false, "call Create() first");
-    const std::optional<Decimal> number = fittings::NumberIn(Plain(), m_field->rules.point);
-    return number && Store(fittings::IntegerOf<std::int64_t>(*number), value);
+    return StoreNumber(Plain(), *m_field, value);
 }
 
 bool wxNumberCtrl::GetNumber(int* value) const
 {
     wxCHECK_MSG(m_field, false, "call Create() first");
-    const std::optional<Decimal> number = fittings::NumberIn(Plain(), m_field->rules.point);
-    return number && Store(fittings::IntegerOf<int>(*number), value);
+    return StoreNumber(Plain(), *m_field, value);
 }
 
 bool wxNumberCtrl::GetNumber(unsigned* value) const
 {
     wxCHECK_MSG(m_field, false, "call Create() first");
-    const std::optional<Decimal> number = fittings::NumberIn(Plain(), m_field->rules.point);
-    return number && Store(fittings::IntegerOf<unsigned>(*number), value);
+    return StoreNumber(Plain(), *m_field, value);
 }
 
 wxString wxNumberCtrl::GetDecimal() const

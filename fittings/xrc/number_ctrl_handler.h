@@ -31,9 +31,9 @@
 /// format follows the user's settings; wxNumberCtrl::SetFormat() sets another one.
 ///
 /// An invalid value is reported through wxXmlResource::ReportError() and ignored, and so is a `max` below `min`. A
-/// template is valid if it has exactly
-/// one `%s` and no other `%` than `%%`. A `subclass` that is not a wxNumberCtrl is reported and ignored too: the
-/// control is then a plain wxNumberCtrl. A host class that `subclass` names must use wxDECLARE_DYNAMIC_CLASS().
+/// template is valid if it has exactly one `%s` and no other `%` than `%%`. A `subclass` that is not a wxNumberCtrl is
+/// reported and ignored too: the control is then a plain wxNumberCtrl. A host class that `subclass` names must use
+/// wxDECLARE_DYNAMIC_CLASS().
 ///
 /// GUI thread only.
 class FITTINGS_API wxNumberCtrlXmlHandler : public wxXmlResourceHandler

@@ -3,6 +3,7 @@
 #include <fittings/numedit/decimal_validator.h>
 
 #include <cstdint>
+#include <initializer_list>
 #include <limits>
 
 #include <gtest/gtest.h>
@@ -85,6 +86,19 @@ CNumberFormat WithoutLimits()
     return format;
 }
 
+/// Expects that none of the numbers passes, and that the host's variable keeps its value.
+template <typename Integer>
+void ExpectRefused(NumberCtrlDialog& screen, const Integer& variable, std::initializer_list<const char*> texts)
+{
+    const Integer before = variable;
+    for (const char* const text : texts) {
+        screen.Restart(text);
+        EXPECT_FALSE(screen.dialog->Validate()) << text;
+        EXPECT_FALSE(screen.number->GetValidator()->TransferFromWindow()) << text;
+        EXPECT_EQ(variable, before) << text;
+    }
+}
+
 TEST(AValidatorOnANumberCtrl, MovesAnInt)
 {
     int count = std::numeric_limits<int>::min();
@@ -92,12 +106,7 @@ TEST(AValidatorOnANumberCtrl, MovesAnInt)
     screen.Show();
     ASSERT_TRUE(screen.dialog->TransferDataToWindow());
     EXPECT_EQ(screen.Text(), L"-2147483648");
-    for (const char* const text : {"2147483648", "-2147483649", "2.5", "12345678901234567890", ""}) {
-        screen.Restart(text);
-        EXPECT_FALSE(screen.dialog->Validate()) << text;
-        EXPECT_FALSE(screen.number->GetValidator()->TransferFromWindow()) << text;
-        EXPECT_EQ(count, std::numeric_limits<int>::min());
-    }
+    ExpectRefused(screen, count, {"2147483648", "-2147483649", "2.5", "12345678901234567890", ""});
     screen.Restart("2147483647");
     EXPECT_TRUE(screen.dialog->Validate());
     EXPECT_TRUE(screen.dialog->TransferDataFromWindow());
@@ -111,12 +120,7 @@ TEST(AValidatorOnANumberCtrl, MovesAnUnsigned)
     screen.Show();
     ASSERT_TRUE(screen.dialog->TransferDataToWindow());
     EXPECT_EQ(screen.Text(), L"4294967295");
-    for (const char* const text : {"4294967296", "-1", "2.5", ""}) {
-        screen.Restart(text);
-        EXPECT_FALSE(screen.dialog->Validate()) << text;
-        EXPECT_FALSE(screen.number->GetValidator()->TransferFromWindow()) << text;
-        EXPECT_EQ(count, std::numeric_limits<unsigned>::max());
-    }
+    ExpectRefused(screen, count, {"4294967296", "-1", "2.5", ""});
     screen.Restart("0.00");
     EXPECT_TRUE(screen.dialog->TransferDataFromWindow());
     EXPECT_EQ(count, 0u);

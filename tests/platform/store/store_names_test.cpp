@@ -94,33 +94,31 @@ TEST(NamesInTheDefaultStore, StandInTheOrderOfTheFile)
 TEST(DeletingAKeyOfAnIniFile, SaysWhetherItWasThere)
 {
     const TempFolder folder;
-    const std::wstring path = file_util_ex::ConvertFromUTF8W(folder / "a.ini");
     WriteFile(folder / "a.ini", "# mine\n[s]\na=1\n# of b\nb=2\n");
-    const fittings::OwnedIniFile file(CLocalRegStore::CreateInitFile(false));
-    EXPECT_TRUE(CLocalRegStore::Load(*file, path.c_str()));
-    EXPECT_FALSE(CLocalRegStore::DeleteKey(*file, L"s", L"c"));
-    EXPECT_FALSE(CLocalRegStore::DeleteKey(*file, L"t", L"a"));
-    EXPECT_FALSE(CLocalRegStore::DeleteKey(*file, nullptr, nullptr));
-    EXPECT_TRUE(CLocalRegStore::DeleteKey(*file, L"s", L"a"));
-    EXPECT_FALSE(CLocalRegStore::DeleteKey(*file, L"s", L"a"));
+    Ini file;
+    EXPECT_TRUE(file.Load(folder / "a.ini"));
+    EXPECT_FALSE(file.Delete(L"s", L"c"));
+    EXPECT_FALSE(file.Delete(L"t", L"a"));
+    EXPECT_FALSE(file.Delete(nullptr, nullptr));
+    EXPECT_TRUE(file.Delete(L"s", L"a"));
+    EXPECT_FALSE(file.Delete(L"s", L"a"));
     EXPECT_EQ(ReadFile(folder / "a.ini"), "# mine\n[s]\na=1\n# of b\nb=2\n");
-    EXPECT_TRUE(CLocalRegStore::Save(*file, path.c_str()));
+    EXPECT_TRUE(file.Save(folder / "a.ini"));
     EXPECT_EQ(ReadFile(folder / "a.ini"), "# mine\n[s]\n# of b\nb=2\n");
 }
 
 TEST(DeletingAKeyOfTheEmptySection, IncludesTheOneBeforeTheFirstSection)
 {
     const TempFolder folder;
-    const std::wstring path = file_util_ex::ConvertFromUTF8W(folder / "a.ini");
     WriteFile(folder / "a.ini", "a=1\nb=2\n[%]\na=3\nc=4\n[s]\nb=5\n");
-    const fittings::OwnedIniFile file(CLocalRegStore::CreateInitFile(false));
-    EXPECT_TRUE(CLocalRegStore::Load(*file, path.c_str()));
-    EXPECT_FALSE(CLocalRegStore::DeleteKey(*file, L"s", L"a"));
-    EXPECT_TRUE(CLocalRegStore::DeleteKey(*file, L"", L"a"));
-    EXPECT_TRUE(CLocalRegStore::DeleteKey(*file, nullptr, L"b"));
-    EXPECT_FALSE(CLocalRegStore::DeleteKey(*file, L"", L"a"));
-    EXPECT_FALSE(CLocalRegStore::DeleteKey(*file, L"", L"b"));
-    EXPECT_TRUE(CLocalRegStore::Save(*file, path.c_str()));
+    Ini file;
+    EXPECT_TRUE(file.Load(folder / "a.ini"));
+    EXPECT_FALSE(file.Delete(L"s", L"a"));
+    EXPECT_TRUE(file.Delete(L"", L"a"));
+    EXPECT_TRUE(file.Delete(nullptr, L"b"));
+    EXPECT_FALSE(file.Delete(L"", L"a"));
+    EXPECT_FALSE(file.Delete(L"", L"b"));
+    EXPECT_TRUE(file.Save(folder / "a.ini"));
     EXPECT_EQ(ReadFile(folder / "a.ini"), "[%]\nc=4\n[s]\nb=5\n");
 }
 

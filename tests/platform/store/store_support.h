@@ -35,6 +35,8 @@ public:
         CLocalRegStore::WriteString(*m_file, section, key, value);
     }
 
+    bool Delete(const wchar_t* section, const wchar_t* key) { return CLocalRegStore::DeleteKey(*m_file, section, key); }
+
 private:
     fittings::OwnedIniFile m_file{CLocalRegStore::CreateInitFile(false)};
 };
