@@ -23,7 +23,7 @@ AtkRole RoleOf(AccessibleRole role)
     return ATK_ROLE_TEXT;
 }
 
-/// Returns the widget that takes the focus; in a scrolled window, the part that is scrolled.
+/// Returns the widget that takes the focus. In a scrolled window, this is an inner widget.
 GtkWidget* FocusedPart(const wxWindow& window)
 {
     return window.m_wxwindow ? window.m_wxwindow : window.m_widget;
@@ -50,7 +50,7 @@ void Describe(wxWindow& window, AccessibleRole role, const wxString& label, cons
     const wxScopedCharBuffer name = (value.empty() ? label : value).utf8_str();
     Name(object, name);
     Name(gtk_widget_get_accessible(window.m_widget), name);
-    // Set no empty description: GTK describes a window by its tooltip only while no description is set.
+    // Do not set an empty description: GTK uses the tooltip as the description only while no description is set.
     const wxScopedCharBuffer description = label.utf8_str();
     if (!label.empty() && !value.empty() && Differ(atk_object_get_description(object), description))
         atk_object_set_description(object, description);

@@ -11,13 +11,14 @@ enum class AccessibleRole { ComboBox, Grid, Text, Tree };
 /// Describes a window to assistive technologies. A call that changes nothing is cheap, so the function may be called on
 /// every idle event.
 ///
-/// @a value, the current choice, becomes the accessible name, as for GTK's own combo boxes. @a label becomes the
-/// description. If @a value is empty, @a label becomes the name. If either is empty, the description does not change.
+/// @a value, the current choice, becomes the accessible name, as in GTK's own combo boxes. @a label becomes the
+/// description. If @a value is empty, @a label becomes the name. If @a value or @a label is empty, the description does
+/// not change.
 void Describe(wxWindow& window, AccessibleRole role, const wxString& label, const wxString& value);
 
 /// Connects the labels of @a window to @a part, the part of the window that takes the focus. The labels are static
-/// texts; their mnemonics then lead to @a part. When the Tab order changes, the toolkit connects the labels to the
-/// window itself: then call this function again.
+/// texts. Their mnemonics then move the focus to @a part. Call this function again after each change of the Tab order:
+/// the change makes the toolkit connect the labels to the window itself.
 void LabelPart(wxWindow& window, wxWindow& part);
 
 }  // namespace fittings

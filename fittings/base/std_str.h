@@ -4,9 +4,10 @@
 #include <string>
 #include <utility>
 
-/// A standard string that treats a null pointer as the empty text. It has all the constructors of a standard string.
+/// A standard string that is empty after it is made or assigned from a null pointer. It has all the constructors of a
+/// standard string.
 ///
-/// Assigning from a pointer into the string's own buffer is safe, as with std::basic_string. The class has no virtual
+/// As with std::basic_string, the assigned pointer may point into the string's own buffer. The class has no virtual
 /// destructor, so use it by value.
 template <typename CharT>
 class CStdStr : public std::basic_string<CharT>
@@ -19,7 +20,7 @@ public:
     CStdStr() = default;
     CStdStr(const CharT* text) : Base(text ? Base(text) : Base()) {}  ///< Copies the text; null counts as empty.
     CStdStr(const Base& text) : Base(text) {}                         ///< Copies the text.
-    CStdStr(Base&& text) noexcept : Base(std::move(text)) {}          ///< Takes the text over.
+    CStdStr(Base&& text) noexcept : Base(std::move(text)) {}          ///< Moves the text.
 
     /// Copies the text; null counts as empty.
     CStdStr& operator=(const CharT* text)

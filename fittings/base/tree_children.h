@@ -9,8 +9,8 @@
 
 namespace fittings {
 
-/// Iterates over the children of an item. A step takes constant time, but wxTreeCtrl::GetNextSibling() would search for
-/// the item.
+/// Iterates over the children of an item. Each step takes constant time. wxTreeCtrl::GetNextSibling() would search the
+/// siblings for the item.
 class TreeChildren
 {
 public:
@@ -26,8 +26,8 @@ private:
     wxTreeItemIdValue m_cookie = nullptr;
 };
 
-/// Returns whether the item is a root that is not shown. The toolkit keeps it expanded, and asserts when a program
-/// expands it again.
+/// Returns whether the item is a root that is not shown. The toolkit keeps this root expanded, and asserts when a
+/// program expands it.
 inline bool IsHiddenRoot(const wxTreeCtrl& tree, const wxTreeItemId& item)
 {
     return tree.HasFlag(wxTR_HIDE_ROOT) && item == tree.GetRootItem();

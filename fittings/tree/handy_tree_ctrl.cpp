@@ -13,10 +13,10 @@ namespace {
 
 constexpr wchar_t kStateSection[] = L"TreeControlState";
 
-/// Less than the height of any text: the toolkit raises the row height to that of the highest item that it measures.
+/// Less than the height of any text. The toolkit raises the row height to fit the highest item.
 constexpr int kLeastRowHeight = 10;
 
-// Shows the busy cursor in the whole application: no window responds while a tree is filled.
+// Shows the busy cursor in the whole application, because no window responds while a tree is filled.
 class BusyCursor
 {
 public:
@@ -63,8 +63,8 @@ void wxHandyTreeCtrl::CreateImageList()
     SetImageList(m_imageList);
 }
 
-// Sets the images. Without images, also lowers the row height. Otherwise the rows would stay as high as the earlier
-// images: when the toolkit measures the items again, it raises the row height as needed, but never lowers it.
+// Sets the images. If there is no list, also lowers the row height: the toolkit would leave the rows as high as the
+// earlier images. When the toolkit measures the items again, it raises the row height as needed, but never lowers it.
 void wxHandyTreeCtrl::SetImageList(wxImageList* images)
 {
     wxTreeCtrlEx::SetImageList(images);

@@ -8,8 +8,8 @@
 
 class wxImageList;
 
-/// A tree for browsing. It calls OnItemExpanding() to fill an item when the item is expanded, shows a busy cursor
-/// meanwhile, and can remember which items were expanded.
+/// A tree for browsing. When an item is expanded, the tree calls OnItemExpanding() to fill the item. The busy cursor is
+/// shown during this call. The tree can also remember which items were expanded.
 ///
 /// @code
 /// class FolderTree : public wxHandyTreeCtrl
@@ -32,9 +32,10 @@ class wxImageList;
 /// tree->LoadState(root);
 /// @endcode
 ///
-/// The state is the set of the labels of expanded items, not of their paths. If several items have the same label, the
-/// last one in the tree decides whether the label is saved, and loading expands all of them. A "|" in a label splits
-/// it into two labels. The state is kept in the default store, section "TreeControlState".
+/// The saved state consists of the labels of the expanded items, not of their paths. If several items have the same
+/// label, SaveState() saves the label only if the last of these items is expanded. LoadState() expands all of these
+/// items, and reads a label with a "|" as two labels. The state is in the section "TreeControlState" of the default
+/// store.
 ///
 /// A screen reader announces the label of the item that has the focus. It also announces the label of the control: the
 /// static text that is created just before the control, or the text of SetLabel().
@@ -58,8 +59,8 @@ public:
     /// little higher.
     void Create(wxWindow* parent);
 
-    /// Creates the control as the toolkit's Create() does: without an image list. Returns false when it could not be
-    /// created.
+    /// Creates the control as the toolkit's Create() does: without an image list. Returns false if the control could
+    /// not be created.
     bool Create(wxWindow* parent, wxWindowID id, const wxPoint& pos = wxDefaultPosition,
                 const wxSize& size = wxDefaultSize, long style = wxTR_DEFAULT_STYLE,
                 const wxValidator& validator = wxDefaultValidator,
@@ -68,67 +69,68 @@ public:
     /// Gives the control an empty list for 16 × 16 images. This object owns the list.
     ///
     /// The size is in logical pixels: on a high-density screen, bitmaps from wxBitmapBundle::GetBitmapFor() for this
-    /// control have more physical pixels and look sharp. Create() with only a parent calls this. The list of an earlier
-    /// call is not released: call DetroyImageList() first.
+    /// control have more physical pixels and look sharp. Create() with only a parent calls this function. Another call
+    /// does not delete the earlier list: call DetroyImageList() first.
     void CreateImageList();
 
-    /// Shows the images of another list, which this object does not own. With null, the row height shrinks to the
-    /// height of the text.
+    /// Shows the images of another list, which this object does not own. If @a images is null, the row height shrinks
+    /// to the height of the text.
     void SetImageList(wxImageList* images) override;
 
     /// Deletes the list of CreateImageList(), if there is one. If the control still uses the list, call SetImageList()
     /// before the control is drawn again.
     void DetroyImageList();
 
-    /// Sets the name under which SaveState() and LoadState() without a name keep the state. Empty at first.
+    /// Sets the name that SaveState() and LoadState() use when no name is passed. The name is empty at first.
     void SetProfile(const wxString& profile);
 
     /// Selects the root and gives the control the focus; returns false when there is no root.
     ///
-    /// With wxTR_MULTIPLE, the other selected items stay selected. If a host vetoes the selection in
-    /// wxEVT_TREE_SEL_CHANGING, the result is still true.
+    /// With wxTR_MULTIPLE, the other selected items stay selected. If a handler of wxEVT_TREE_SEL_CHANGING vetoes the
+    /// selection, the function still returns true.
     bool SelectRootItem();
 
     /// @name Expanded items
     ///
-    /// The functions work on @a start and the items below it, not on its siblings. They take time in proportion to the
-    /// number of items. The depth of the tree is not limited.
+    /// The functions work on @a start and the items below it, not on its siblings. Their time grows almost in
+    /// proportion to the number of items. The depth of the tree is not limited.
     /// @{
 
-    /// Stores which items are expanded, including the items below a collapsed one.
+    /// Stores under @a name which items are expanded. This includes expanded items below a collapsed one.
     void SaveState(const wxString& name, wxTreeCursor& start);
     void SaveState(const wxString& name, const wxTreeCursor& start);  ///< Does the same for a constant cursor.
 
-    /// Stores the expanded items under the name of SetProfile().
+    /// Stores which items are expanded, under the name of SetProfile().
     void SaveState(wxTreeCursor& start);
     void SaveState(const wxTreeCursor& start);  ///< Does the same for a constant cursor.
 
-    /// Expands the items whose labels were stored. Parents are expanded first, so children that OnItemExpanding() adds
-    /// are restored too. No item is collapsed.
+    /// Expands the items whose labels are stored under @a name. Parents are expanded first, so this includes
+    /// children that OnItemExpanding() adds. No item is collapsed.
     void LoadState(const wxString& name, wxTreeCursor& start);
     void LoadState(const wxString& name, const wxTreeCursor& start);  ///< Does the same for a constant cursor.
 
-    /// Expands the items stored under the name of SetProfile().
+    /// Expands the items whose labels are stored under the name of SetProfile().
     void LoadState(wxTreeCursor& start);
     void LoadState(const wxTreeCursor& start);  ///< Does the same for a constant cursor.
 
     /// @}
 
-    /// Calls OnItemExpanding() and shows the busy cursor in the whole application meanwhile. Afterwards the default
-    /// cursor is shown, even if the host had set another. The constructor binds this to wxEVT_TREE_ITEM_EXPANDING.
+    /// Calls OnItemExpanding(), and shows the busy cursor in the whole application during this call. Then shows the
+    /// default cursor, even if the host had set another. The constructor binds this function to
+    /// wxEVT_TREE_ITEM_EXPANDING.
     ///
-    /// The event reaches neither the event table of a derived class nor a parent window. A host that needs the
-    /// event, for example to veto it, calls Bind() on the control: its handler is called first. If the handler does not
-    /// skip the event, the item is not filled.
+    /// The event reaches neither the event table of a derived class nor a parent window. A host that needs the event,
+    /// for example to veto it, calls Bind() on the control: the host's handler is then called first. If this handler
+    /// does not skip the event, the item is not filled.
     void OnEvtItemExpanding(wxTreeEvent& event);
 
     /// Tells assistive technologies which item of the tree has the focus.
     void OnInternalIdle() override;
 
-    /// Called each time an item is about to expand. Override it to add the children. The default does nothing.
+    /// Called each time before an item expands. Override this function to add the children. The default does nothing.
     ///
     /// The function must not delete @a item, because the item expands afterwards. A handler of wxEVT_TREE_ITEM_EXPANDED
-    /// may delete the item, and so may a handler that vetoes the expansion.
+    /// may delete the item. A handler that vetoes the expansion may delete the item too.
     virtual void OnItemExpanding(const wxTreeCursor& item);
 
 private:

@@ -6,14 +6,14 @@
 #include <fittings/base/export.h>
 #include <fittings/tree/tree_cursor.h>
 
-/// The toolkit's tree control, with a few functions that take and return cursors.
+/// The toolkit's tree control, with a few functions that take or return cursors.
 ///
-/// The functions of the base class with the same names remain available. Call wxTreeCtrl::GetSelection() by this full
-/// name, or call GetSelection() on a constant control. AddRoot() with an image calls wxTreeCtrl::AddRoot().
+/// The base class's functions of the same names remain available. Call wxTreeCtrl::GetSelection() by this full name, or
+/// call GetSelection() on a constant control. AddRoot() with an image returns what wxTreeCtrl::AddRoot() returns.
 ///
 /// The toolkit's class information does not distinguish this class and wxHandyTreeCtrl from wxTreeCtrl: wxDynamicCast()
-/// to either of them would succeed for every tree control. Use dynamic_cast instead. wxDynamicCast() does work with a
-/// class of the host that is derived from one of them and has wxDECLARE_DYNAMIC_CLASS().
+/// to one of these two classes would succeed for every tree control. Use dynamic_cast instead. wxDynamicCast() works
+/// for a class of the host that is derived from one of them and has wxDECLARE_DYNAMIC_CLASS().
 ///
 /// GUI thread only.
 class FITTINGS_API wxTreeCtrlEx : public wxTreeCtrl
@@ -32,14 +32,14 @@ public:
 
     /// Returns the selected item. When nothing is selected, the cursor is invalid and has this control as its tree.
     ///
-    /// Asserts with wxTR_MULTIPLE, as wxTreeCtrl::GetSelection() does: use GetSelections() there.
+    /// With wxTR_MULTIPLE, asserts as wxTreeCtrl::GetSelection() does: use GetSelections() instead.
     wxTreeCursor GetSelection();
     using wxTreeCtrl::GetSelection;
 
-    /// Deletes the item from the cursor's tree, which may be another control than this one.
+    /// Deletes the item from the cursor's tree, even if that tree is not this control.
     void DeleteItem(const wxTreeCursor& item);
 
-    /// Adds the root item, without images and data.
+    /// Adds the root item without images or data.
     wxTreeCursor AddRoot(const wxString& text);
 
     /// Adds the root item as wxTreeCtrl::AddRoot() does.

@@ -4,8 +4,8 @@
 
 #include <wx/imaglist.h>
 
-// Checks that there is an item. The toolkit's own checks suffice for most operations, but Delete() has no check and
-// AppendItem() would make a root.
+// Checks that there is an item. The toolkit's own checks suffice for most operations. But Delete() has no check, and
+// without an item, AppendItem() would add a root.
 #define CHECK_ITEM_MSG(result) wxCHECK_MSG(tree&& item.IsOk(), result, "invalid tree item")
 #define CHECK_ITEM_RET() wxCHECK_RET(tree&& item.IsOk(), "invalid tree item")
 
@@ -39,7 +39,7 @@ int wxTreeCursor::SetImage(const wxBitmap& bitmap, const wxColour& mask, wxTreeI
 void wxTreeCursor::SetData(int value)
 {
     CHECK_ITEM_RET();
-    // Delete the earlier data here: the control deletes data with its item, but not when other data replaces it.
+    // Delete the earlier data here: the control deletes the data of a deleted item, but not data that is replaced.
     const std::unique_ptr<wxTreeItemData> earlier(tree->GetItemData(item));
     tree->SetItemData(item, new wxGenericTreeItemData(value));
 }

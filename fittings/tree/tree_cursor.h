@@ -30,8 +30,8 @@ private:
 ///     child.SetTextColour(0x0000FF);  // red
 /// @endcode
 ///
-/// Each step of that loop searches from the first sibling, as wxTreeCtrl::GetNextSibling() does. For many thousands of
-/// siblings, use wxTreeCtrl::GetNextChild(). An operation on an invalid cursor asserts, as in the toolkit, and returns
+/// Each step of this loop calls wxTreeCtrl::GetNextSibling(), which searches from the first sibling. For many thousands
+/// of siblings, use wxTreeCtrl::GetNextChild(). An operation on an invalid cursor asserts, as in the toolkit, and returns
 /// a default value. GUI thread only.
 class FITTINGS_API wxTreeCursor
 {
@@ -48,16 +48,16 @@ public:
     /// Returns true when there is an item.
     bool IsOk() const { return item.IsOk(); }
 
-    /// @name As the toolkit's wxTreeItemId
+    /// @name Functions of the toolkit's wxTreeItemId
     /// @{
 
     /// Returns true when there is an item.
     explicit operator bool() const { return IsOk(); }
 
-    /// Returns the item, so that the toolkit's operations take a cursor: tree->EnsureVisible(tree->GetSelection()).
+    /// Returns the item, for toolkit functions that take an item: tree->EnsureVisible(tree->GetSelection()).
     operator wxTreeItemId() const { return item; }
 
-    /// Returns what identifies the item in the toolkit; null when there is no item.
+    /// Returns the toolkit's identifier of the item; null when there is no item.
     wxTreeItemIdValue GetID() const { return item.GetID(); }
 
     /// Makes the cursor invalid; the tree is kept.
@@ -70,10 +70,10 @@ public:
     friend bool operator!=(const wxTreeItemId& left, const wxTreeCursor& right) { return !(left == right); }
     /// @endcond
 
-    /// Returns whether both have the same item, or both have none. Either may be the toolkit's wxTreeItemId.
+    /// Returns whether the two cursors have the same item, or have no item. One of them may be a wxTreeItemId.
     friend bool operator==(const wxTreeCursor& left, const wxTreeCursor& right) { return left.item == right.item; }
 
-    /// Returns whether they have different items. Either may be the toolkit's wxTreeItemId.
+    /// Returns whether the two cursors are not equal. One of them may be a wxTreeItemId.
     friend bool operator!=(const wxTreeCursor& left, const wxTreeCursor& right) { return !(left == right); }
 
     /// @}
@@ -84,10 +84,10 @@ public:
     /// Returns the item's image for the state @a which, as an index into the tree's image list; -1 when there is none.
     int GetImage(wxTreeItemIcon which) const;
 
-    /// Shows an image of the tree's image list, by its index.
+    /// Sets the item's image for the state @a which, as an index into the tree's image list.
     void SetImage(int image, wxTreeItemIcon which);
 
-    /// Adds @a bitmap to the tree's normal image list, which must exist, and shows it as the item's image.
+    /// Adds @a bitmap to the tree's normal image list, which must exist, and shows the bitmap as the item's image.
     ///
     /// Returns @a which, not the index of the image; GetImage() returns the index.
     int SetImage(const wxBitmap& bitmap, const wxColour& mask, wxTreeItemIcon which);
@@ -95,13 +95,14 @@ public:
     /// Attaches an integer to the item. Deletes the item's earlier data object.
     void SetData(int value);
 
-    /// Returns the integer of SetData(); -1 when the item has none, or data of another class.
+    /// Returns the integer of SetData(). Returns -1 if the item has no data, or data of another class.
     int GetData() const;
 
-    /// Shows or hides the expand button of an item that has no children yet. An item with children always shows it.
+    /// Shows or hides the expand button of an item that has no children yet. An item with children always has the
+    /// button.
     void SetChildren(bool has);
 
-    /// Appends a child without image and data, and returns it.
+    /// Appends a child without an image or data, and returns the child.
     wxTreeCursor AppendItem(const wxString& text);
 
     /// Shows the children, as wxTreeCtrl::Expand() does.
@@ -110,23 +111,23 @@ public:
     /// Returns whether the item itself is expanded. Its parent may be collapsed.
     bool IsExpanded() const;
 
-    /// Removes the item with all its children.
+    /// Deletes the item and all items below it.
     void Delete() const;
 
     /// Returns the parent; invalid for the root.
     wxTreeCursor GetParent() const;
 
-    /// Returns the first child. For an item without children, both members of the result are null. If SetChildren() has
-    /// announced children but none exist, the result is invalid and keeps the tree.
+    /// Returns the first child. If there is no child, the result is invalid. The invalid result has the tree if
+    /// SetChildren() has announced children, and otherwise a null tree.
     wxTreeCursor GetChild() const;
 
-    /// Returns the next sibling. After the last one, the result is invalid and keeps the tree.
+    /// Returns the next sibling. For the last sibling, the result is invalid, but has the tree.
     wxTreeCursor GetNextSibling() const;
 
-    /// Sets the colour of the text: 0x00BBGGRR, higher bits ignored.
+    /// Sets the colour of the text, as 0x00BBGGRR. Higher bits are ignored.
     void SetTextColour(unsigned long colour);
 
-    /// Returns the colour of the text as 0x00BBGGRR; 0 when the item has none of its own.
+    /// Returns the colour of the text as 0x00BBGGRR; 0 when the item has no colour of its own.
     unsigned long GetTextColour() const;
 };
 

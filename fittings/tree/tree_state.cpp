@@ -26,8 +26,9 @@ std::wstring_view View(const wxString& text)
     return std::wstring_view(text.wc_str(), text.length());
 }
 
-// Walks a subtree and expands items on the way. Event handlers may change the tree anywhere during an expansion. The
-// walk still visits the items that GetChild() and GetNextSibling() would return, and never uses a deleted item.
+// Visits the items of a subtree and expands some of them. Event handlers may change any part of the tree during an
+// expansion. The walk still visits the items that GetChild() and GetNextSibling() would return, and never uses a
+// deleted item.
 class ExpandingWalk
 {
 public:
@@ -52,8 +53,8 @@ public:
 private:
     struct VisitedItem
     {
-        wxTreeItemId item;  // Invalid once it is deleted.
-        TreeChildren here;  // The place before the item: a copy of the iterator that found it.
+        wxTreeItemId item;  // Invalid after the item was deleted.
+        TreeChildren here;  // The place before the item: Next() returns the item.
         TreeChildren next;  // The place after the item.
     };
 
@@ -78,8 +79,8 @@ private:
         return true;
     }
 
-    // Shortens the path until its last item has a next sibling, and moves to that sibling. Returns false when no item
-    // of the path has a next sibling.
+    // Shortens the path until its last item has a next sibling, and moves to that sibling. Returns false when only the
+    // first item of the path is left: its siblings are not visited.
     bool Advance()
     {
         for (; m_path.size() > 1; m_path.pop_back()) {
@@ -94,8 +95,8 @@ private:
         return false;
     }
 
-    // If the siblings of a visited item have changed, looks up the place after the item anew. If the item itself was
-    // deleted, continues at its old place, where its next sibling is now.
+    // If a visited item is no longer at its old place among its siblings, finds the place after the item again. If the
+    // item was deleted, uses its old place, where its next sibling is now.
     void FindAgain(VisitedItem& visited, const wxTreeItemId& parent) const
     {
         TreeChildren same = visited.here;
@@ -133,8 +134,8 @@ private:
 Labels SplitLabels(std::wstring_view text)
 {
     Labels labels;
-    // Keep most buckets empty: most labels of a tree are not in the set, and the look-up of such a label then usually
-    // ends at an empty bucket.
+    // Keep most buckets empty. Most labels of a tree are not in the set, and their look-up is short if it finds an
+    // empty bucket.
     labels.max_load_factor(0.25F);
     labels.reserve(static_cast<std::size_t>(std::count(text.begin(), text.end(), kSeparator)));
     for (std::size_t end = text.find(kSeparator); end != text.npos; end = text.find(kSeparator)) {
@@ -155,8 +156,8 @@ struct Item
 std::wstring JoinExpanded(std::vector<Item> items)
 {
     const auto isBefore = [](const Item& a, const Item& b) { return a.label < b.label; };
-    // Siblings usually are in order, so sort only if needed. The first item is the one that the walk starts with: leave
-    // it out, and merge it afterwards.
+    // Siblings are usually in order, so sort only if needed. The first item is the parent of siblings: do
+    // not sort it with the others, but merge it afterwards.
     const auto second = items.begin() + (items.empty() ? 0 : 1);
     if (!std::is_sorted(second, items.end(), isBefore))
         std::stable_sort(second, items.end(), isBefore);
@@ -206,8 +207,8 @@ void ExpandLabels(const std::wstring& text, const wxTreeCursor& start)
 {
     wxCHECK_RET(start.tree && start.IsOk(), "invalid tree item");
     const Labels labels = SplitLabels(text);
-    // Freeze the tree: each expansion would otherwise lay out the whole tree again. A control that is not created
-    // cannot be frozen.
+    // Without a freeze, each expansion would lay out the whole tree again. A control that is not created yet cannot be
+    // frozen.
     wxWindowUpdateLocker frozen;
     if (start.tree->GetHandle())
         frozen.Lock(start.tree);

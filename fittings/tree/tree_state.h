@@ -14,8 +14,8 @@ namespace fittings {
 /// expanded.
 std::wstring ExpandedLabels(const wxTreeCursor& start);
 
-/// Expands each item from @a start downwards whose label is in @a text, parents first. Event handlers may meanwhile add
-/// and delete items, including the item that is being visited.
+/// Expands each item from @a start downwards if its label is in @a text, parents first. During an expansion, event
+/// handlers may add and delete items, including the item that is being expanded.
 void ExpandLabels(const std::wstring& text, const wxTreeCursor& start);
 
 }  // namespace fittings
