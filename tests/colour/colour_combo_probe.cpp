@@ -3,16 +3,18 @@
 //
 //   display x11|wayland
 //   combo X Y WIDTH HEIGHT     in the frame's client area
-//   frame X Y WIDTH HEIGHT     the frame's client area on the screen, as far as the display reports positions
-//   opens at once|later        the popup is being shown: in the call to open it, or at the end of an animation
-//   cell N X Y                 the middle of that cell, in the popup that is shown now
-//   popup X Y                  the popup is shown; its place on the screen according to the toolkit
+//   frame X Y WIDTH HEIGHT     the frame's client area on the screen; on Wayland, the position is not the real one
+//   opens at once              ShowPopup() is about to show the popup, without an animation
+//   opens later                the popup is about to be shown at the end of an animation
+//   cell N X Y                 the middle of cell N, relative to the popup; printed when the popup is shown
+//   popup X Y                  the popup is shown at this place on the screen, according to the toolkit
 //   repaints X Y WIDTH HEIGHT  a part of the popup must be painted again
 //   repaints all               the whole popup must be painted again
-//   change|end|cancel #RRGGBB  a call of the listener
+//   change|end|cancel #RRGGBB  a call of the popup's listener
 //   over combo                 the pointer moves over the combo
-//   dialog ACTIVE FOCUS #RRGGBB  a change of the colour dialog: whether it is active, the type of its focused
-//                              widget, and its colour
+//   dialog active|inactive FOCUS #RRGGBB
+//                              the new state of the colour dialog, with its colour; FOCUS is the type of the focused
+//                              widget, or "none"
 //   value TEXT                 the combo's value at the end
 
 #include <cstdio>
@@ -98,7 +100,7 @@ private:
     bool m_inCall = false;
 };
 
-// Disable the warnings about GTK's colour selection, which is deprecated: the toolkit's colour dialog uses it.
+// Disable the warnings: GTK's colour selection is deprecated, but the toolkit's colour dialog uses it.
 G_GNUC_BEGIN_IGNORE_DEPRECATIONS
 std::string StateOf(GtkWindow* dialog)
 {

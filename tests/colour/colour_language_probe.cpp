@@ -1,13 +1,13 @@
-// colour_language_probe LANGUAGE: creates a colour popup in a host of that language, with a large font, and
-// prints in UTF-8:
+// colour_language_probe LANGUAGE: creates a colour popup with a large font in a program of this language, and prints in
+// UTF-8:
 //
-//   name I TEXT           the name of each colour
+//   name I TEXT           the name of colour I; one such line for each colour
 //   automatic TEXT        the text of the box "Automatic"
 //   automatic-size W H    the size of this text in the popup's font
 //   more TEXT             the text of the box "More Colours..."
 //   more-size W H         the size of this text in the popup's font
 //   window W H            the size of the popup
-//   hot I TEXT            the hot cell and its text after SetStringValue() with the name of colour 16
+//   hot I TEXT            the hot cell I and its text after SetStringValue() with the name of colour 16
 //   hint TEXT             the tooltip of this cell
 
 #include <cstdio>

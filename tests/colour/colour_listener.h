@@ -11,7 +11,7 @@
 /// The calls that ColourListener records.
 using ColourCalls = std::vector<std::string>;
 
-/// Records the calls that it receives: "popup", and the others with their colour, as "change #RRGGBB".
+/// Records the calls of a popup, as "popup", "change #RRGGBB", "end #RRGGBB" or "cancel #RRGGBB".
 class ColourListener : public wxColorPopupListener
 {
 public:
@@ -23,7 +23,7 @@ public:
     /// Returns the calls since the last Take().
     ColourCalls Take() { return std::exchange(m_calls, {}); }
 
-    std::function<void(const std::string& call)> during;  ///< Called in each listener call, with the call's name.
+    std::function<void(const std::string& call)> during;  ///< Runs within each call; receives the call's name.
 
 private:
     void Note(std::string call, const wxColour* colour = nullptr)
@@ -32,7 +32,7 @@ private:
         m_calls.push_back(call);
         if (during)
             during(call);
-        // Read the colour only after the callback, to check that the colour still exists then.
+        // Read the colour only after during(), to check that the colour still exists then.
         if (colour)
             m_calls.at(index) += " " + colour->GetAsString(wxC2S_HTML_SYNTAX).ToStdString();
     }

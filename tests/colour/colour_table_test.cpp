@@ -14,7 +14,7 @@ struct Colour
     unsigned blue;
 };
 
-// This program loads no translations, so the expected name of each colour is its key.
+// This program loads no translations, so it expects the English names.
 constexpr Colour kExpected[] = {
     {L"Black", 0, 0, 0},
     {L"Brown", 165, 42, 0},

@@ -1,4 +1,5 @@
-// The popup in other languages. A process builds the table of colours once, so each language needs its own process.
+// The popup in several languages. A process builds the table of colours only once, so each language needs its own
+// process.
 
 #include <algorithm>
 #include <array>
@@ -14,8 +15,8 @@ namespace {
 
 using Lines = std::map<std::string, std::string>;
 
-// Returns the lines that the probe prints in @a language. The key is the first word of a line, or the first two words
-// of a numbered line.
+// Returns the lines that the probe prints in @a language. The key of a line is its first word. For the lines "name" and
+// "hot", the key is the first two words.
 Lines PopupIn(const std::string& language)
 {
     Lines lines;

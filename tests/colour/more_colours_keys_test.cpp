@@ -1,4 +1,4 @@
-// "More Colours..." as a user opens it: the real dialog, in a separate program, operated with keys.
+// The real dialog of "More Colours...", shown by a separate program and operated with keys.
 
 #include <string>
 
@@ -11,7 +11,7 @@ namespace {
 class MoreColoursByKeys : public testing::Test
 {
 protected:
-    // Opens the popup, in which no cell is hot, moves down to "More Colours...", and opens the dialog.
+    // Opens the popup, and then the dialog. No cell is hot at first, so Down leads to "More Colours...".
     void OpenDialog()
     {
         Xdotool({"key", kF4});

@@ -1,4 +1,5 @@
-// The lookup of names, on a test platform that records calls, throws and returns null.
+// The look-up of names. This program replaces the function of the platform library. The replacement records each call,
+// and can throw or return null.
 
 #include <array>
 #include <atomic>
@@ -37,7 +38,7 @@ const wchar_t* Translated(const wchar_t* key)
         return nullptr;
     if (text == L"Plum")
         return L"Zwetschge";
-    // Two colours have the same name.
+    // Give two colours the same name.
     if (text == L"Rose" || text == L"Pink")
         return L"Rosa";
     return key;
@@ -60,8 +61,8 @@ const wchar_t* lng_util_internal::DoGetResourceString(const wchar_t* key, CLangu
 
 namespace {
 
-// A process builds the table only once, so the suite's setup records everything that happens until the table is
-// complete.
+// A process builds the table only once, so SetUpTestSuite() makes all calls that build it. The tests check what was
+// recorded.
 class ColourNames : public testing::Test
 {
 protected:

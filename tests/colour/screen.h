@@ -4,8 +4,8 @@
 #include <wx/gdicmn.h>
 #include <wx/image.h>
 
-/// Returns what the user sees in that part of the screen. Reads it from the X server over a separate connection,
-/// because the toolkit's screen DC answers from a copy.
+/// Returns what the user sees in the part @a rect of the screen. Reads the pixels from the X server over a separate
+/// connection, because wxScreenDC can return old pixels.
 wxImage GrabScreen(const wxRect& rect);
 
 #endif

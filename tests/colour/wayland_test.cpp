@@ -59,7 +59,7 @@ wxPoint CompositorsPlace()
 class ColourOnWayland : public testing::Test
 {
 protected:
-    // The compositor runs with kiosk-shell, which lets its only program fill the whole window.
+    // With kiosk-shell, the probe's frame fills the whole window of the compositor.
     ColourOnWayland()
         : compositor({"weston", "--backend=x11-backend.so", "--use-pixman", "--width=900", "--height=600",
                       "--shell=kiosk-shell.so", "--no-config", "--idle-time=0", std::string("--socket=") + kSocket},
@@ -101,11 +101,11 @@ protected:
         return numbers.size() == 2 ? wxPoint(numbers[0], numbers[1]) : wxPoint();
     }
 
-    // Returns whether the cell with this middle is hot. A hot cell has a dark line one pixel inside its right edge.
+    // Returns whether the cell with this middle is hot. A hot cell has a black line one pixel inside its right edge.
     static bool IsHot(const wxPoint& middle) { return Pixel(middle + wxPoint(7, 0)) == 0; }
 
-    // Expects that moving from cell 0 to cell 1 repaints the two cells and the sides of the frame, and that the whole
-    // popup is repainted only when it opens.
+    // Call this after the hot cell has moved from cell 0 to cell 1. Expects that this move repainted the two cells and
+    // the four sides of the frame. Expects that the whole popup was repainted only once, when it opened.
     static void ExpectLastRepaint(const WatchedProbe& probe)
     {
         const std::vector<std::string> parts = probe.Lines("repaints ");
@@ -127,12 +127,12 @@ protected:
         EXPECT_EQ(part(last + 3), wxRect(0, height - 3, 148, 3));
         EXPECT_EQ(part(last + 4), wxRect(0, 0, 3, height));
         EXPECT_EQ(part(last + 5), wxRect(145, 0, 3, height));
-        // The first line is "all", and the second is "More Colours...", which reaches the bottom.
+        // The first line is "all". The second line is the box "More Colours...", which reaches the bottom of the popup.
         EXPECT_EQ(part(1).GetBottom(), height - 1);
     }
 
-    // Moves the pointer to a place, again and again until @a done returns true. The compositor trusts the pointer's
-    // position only when the pointer enters its window, and does not always report a single move.
+    // Moves the pointer to @a at, again and again until @a done returns true. The compositor reads the pointer's
+    // position only when the pointer enters the compositor's window, and does not always report a single move.
     static void Move(const wxPoint& at, const std::function<bool()>& done)
     {
         const auto deadline = std::chrono::steady_clock::now() + Patience() * std::chrono::seconds(15);

@@ -18,7 +18,7 @@ namespace {
 
 using Notes = std::vector<std::string>;
 
-// Records, in their order, the events of a combo and the calls of its popup's listener except "change".
+// Records the events of a combo and the calls of the popup's listener in one list. Leaves out the call "change".
 class ComboLog
 {
 public:
@@ -178,8 +178,8 @@ TEST_P(AsComboCtrl, DoesNotTellOfTheNameOfAColourThatIsNotChosen)
     EXPECT_EQ(on.popup->GetStringValue(), "Red");
     Press(WXK_ESCAPE);
     ExpectClosed();
-    // Escape gives the combo back the value that it had when the popup opened. A combo with a text field sends a text
-    // event for this.
+    // Escape restores the value that the combo had when the popup opened. A combo with a text field then sends a text
+    // event.
     EXPECT_EQ(log.Take(),
               hasField ? (Notes{"dropdown", "popup", "cancel", "text Lime"}) : (Notes{"dropdown", "popup", "cancel"}));
     EXPECT_EQ(combo.GetValue(), "Lime");
@@ -237,7 +237,7 @@ TEST(ColourComboWithText, OpensWithTheColourOfItsTextHot)
     EXPECT_EQ(on.popup->GetInitialColour(), *wxRED);
 }
 
-// --- Disabled, hidden, elsewhere -------------------------------------------------------------------------------------
+// --- Disabled, hidden, moved, destroyed ------------------------------------------------------------------------------
 
 TEST_P(AsComboCtrl, DoesNotOpenByTheUserWhileDisabled)
 {

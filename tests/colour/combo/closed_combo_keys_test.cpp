@@ -38,12 +38,12 @@ protected:
 
     void TearDown() override
     {
-        // Remove the listener, because it is destroyed before the popup.
+        // Remove the listener, so that the destruction of the popup does not call it.
         if (popup)
             popup->SetColorListener(nullptr);
     }
 
-    // Presses a key, and waits until it has been released or has moved the focus.
+    // Presses a key, and waits until the key has been released or the focus has moved.
     void Press(int key)
     {
         int seen = 0;
@@ -152,7 +152,7 @@ TEST_P(ClosedReadOnlyCombo, GoesOnFromTheColourInEffectAfterACancel)
     EXPECT_EQ(on.popup->m_nChosenColourSel, 19);
 }
 
-// A combo without the focus skips the wheel's event, which then scrolls the page.
+// A combo without the focus skips the wheel's event, so that the page scrolls.
 TEST_P(ClosedReadOnlyCombo, ChangesItsColourByTheWheelWithTheFocusAlone)
 {
     on.popup->SetColour(wxColour(0, 0, 0));

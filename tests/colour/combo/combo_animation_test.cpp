@@ -100,8 +100,8 @@ protected:
         EXPECT_TRUE(PumpUntil([&] { return on.combo->IsPopupShown(); }));
     }
 
-    // Sets the animation to half of its time. The outline then has 74 x 81 pixels at (37, 41) in the animation's
-    // rectangle, and does not change for several seconds.
+    // Sets the animation to just over half of its time. The outline then has 74 x 81 pixels at (37, 41) in the
+    // animation's rectangle, and does not change for several seconds.
     void StandStill() { on.combo->m_animStart = wxGetLocalTimeMillis() - 1000500; }
 
     void Step()
@@ -293,7 +293,8 @@ protected:
 
     ColourAnimationOnTheScreen()
     {
-        // AnimateShow(), which creates the outline window, is not called, so the outline is drawn only on the screen.
+        // The test does not call AnimateShow(), which creates the outline window. So the outline is drawn only on the
+        // screen.
         combo = new SteppedCombo;
         combo->Create(on.panel, wxID_ANY, "", wxPoint(20, 200), wxSize(150, -1), wxCB_READONLY);
         combo->SetPopupControl(new OpenPopup);

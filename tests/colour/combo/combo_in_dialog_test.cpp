@@ -1,4 +1,4 @@
-// A colour combo in a dialog whose buttons react to Enter and Escape, as the popup does.
+// A colour combo in a dialog. Both the open popup and the dialog's buttons react to Enter and Escape.
 
 #include <vector>
 

@@ -60,8 +60,8 @@ struct Moment
     const char* name;
     const char* call;
     std::function<void(Control&)> act;
-    ColourCalls calls;  // all expected calls; destroying the control cancels a selection that has not ended
-    bool inTheToolkit;  // the toolkit still uses the control after the call
+    ColourCalls calls;  // all expected calls; "cancel" also if the control is destroyed before the end
+    bool inTheToolkit;  // whether the toolkit still uses the control after the call
 };
 
 const Removal kRemovals[] = {
@@ -253,7 +253,7 @@ TEST(ColourListenerInItsCalls, MayCloseThePopup)
     EXPECT_EQ(control.listener.Take(), (ColourCalls{"popup", "cancel #FF0000"}));
 }
 
-// A listener may close the popup on "cancel". The combo must show its own value again, not the name of the hot cell.
+// A listener may close the popup on "cancel". The combo must show its old value again, not the name of the hot cell.
 TEST(ColourListenerInItsCalls, MayCloseThePopupOfACancelledSelection)
 {
     Control control;
@@ -270,7 +270,7 @@ TEST(ColourListenerInItsCalls, MayCloseThePopupOfACancelledSelection)
     EXPECT_EQ(control.combo->GetValue(), "Teal");
 }
 
-// Destroying the combo while its popup is open calls "cancel". A host may destroy the combo in that call, too.
+// If the combo is destroyed while its popup is open, OnColourSelCancel() is called. That function may call Destroy().
 TEST(ColourListenerInItsCalls, MayDestroyWhatIsBeingDestroyed)
 {
     for (const bool deleted : {true, false}) {
@@ -290,7 +290,7 @@ TEST(ColourListenerInItsCalls, MayDestroyWhatIsBeingDestroyed)
     }
 }
 
-// --- While the popup is open or opens --------------------------------------------------------------------------------
+// --- While the popup opens or is open --------------------------------------------------------------------------------
 
 class RemovedWhileItOpens : public testing::TestWithParam<Removal>
 {
@@ -339,7 +339,8 @@ TEST(ColourComboDestroy, HidesItAtOnce)
     EXPECT_FALSE(control.combo);
 }
 
-// The last step of the animation may run between Destroy() and the deletion of the windows. It must not show the popup.
+// The last step of the animation may run between Destroy() and the deletion of the windows. This step must not show the
+// popup.
 TEST(ColourComboDestroy, KeepsThePopupFromBeingShown)
 {
     for (const bool withFrame : {false, true}) {

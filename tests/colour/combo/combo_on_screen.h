@@ -68,13 +68,13 @@ inline bool Opens(wxComboCtrl& combo)
     return PumpUntil([&] { return combo.IsPopupShown(); });
 }
 
-/// Returns a point on the combo's button, on the screen.
+/// Returns the position on the screen of a point in the combo's button.
 inline wxPoint ButtonOf(const wxComboCtrl& combo)
 {
     return combo.ClientToScreen(wxPoint(combo.GetClientSize().x - 10, combo.GetClientSize().y / 2));
 }
 
-/// A frame with a combo of the given class and its popup. The destructor destroys all three.
+/// A frame with a combo, and the combo's popup. The destructor destroys all three.
 template <typename Combo = OpenCombo, typename Popup = OpenPopup>
 class ComboOnScreen
 {

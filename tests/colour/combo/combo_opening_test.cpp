@@ -1,4 +1,4 @@
-// Clicks while the popup opens: during the animation the popup is not shown yet, so it cannot grab the pointer itself.
+// Clicks during the animation. The popup is not shown yet, so the toolkit does not grab the pointer for it.
 
 #include <string>
 

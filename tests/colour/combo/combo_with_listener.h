@@ -6,8 +6,7 @@
 #include <tests/colour/colour_listener.h>
 #include <tests/colour/combo/combo_on_screen.h>
 
-/// A combo on the screen that shows a colour, and its listener. The popup opens without animation. The listener records
-/// the calls after the construction.
+/// A combo on the screen, and the listener of its popup. The popup opens without an animation.
 class ComboWithListener
 {
 protected:

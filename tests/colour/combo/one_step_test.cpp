@@ -36,8 +36,8 @@ OwnedWindow<wxFrame> MakeFrame()
     return OwnedWindow(new wxFrame(nullptr, wxID_ANY, "combo", wxPoint(200, 150), wxSize(500, 400)));
 }
 
-// A combo that one constructor call creates, in a window on the screen. After Watch(), it records the events that reach
-// the frame.
+// A combo in a window on the screen. One call of its constructor creates the combo and its popup. After Watch(), the
+// events that reach the frame are recorded.
 struct OneStep
 {
     explicit OneStep(const wxColour& colour = *wxBLUE, long style = wxCB_READONLY)
@@ -164,7 +164,8 @@ TEST(ColourComboInOneStep, MayBeCreatedLater)
     EXPECT_EQ(combo->GetColour(), *wxRED);
 }
 
-// Create() with a colour was added later. Calls that were valid before still call the toolkit's Create().
+// Without a colour, Create() is the toolkit's function, which makes no popup. The overload with a colour must not take
+// these calls.
 TEST(ColourComboInOneStep, LeavesTheOldCreateAsItIs)
 {
     const auto frame = MakeFrame();
@@ -365,7 +366,7 @@ TEST(ColourComboEvents, ComeBesideTheListenersCalls)
     on.combo->GetPopup()->SetColorListener(nullptr);
 }
 
-// Setting a value in the program sends no event, because the user has chosen nothing.
+// A value that the program sets sends no event, because the user has chosen nothing.
 TEST(ColourComboEvents, DoNotComeForValuesThatAreSetWhileThePopupIsClosed)
 {
     OneStep on(*wxBLUE);

@@ -13,10 +13,10 @@
 #include <tests/colour/colour_listener.h>
 #include <tests/colour/combo/combo_on_screen.h>
 
-/// The events of a combo and the calls of its listener.
+/// The names of a combo's events and of its listener's calls.
 using Notes = std::vector<std::string>;
 
-/// A combo on the screen whose animation does not end by itself, and the mouse that a test clicks with.
+/// A combo on the screen, and a simulated user. The animation is longer than any test.
 class OpeningCombo
 {
 protected:
@@ -31,7 +31,7 @@ protected:
 
     ~OpeningCombo()
     {
-        // Remove the listener, because it is destroyed before the popup.
+        // Remove the listener, so that the destruction of the popup does not call it.
         if (popup)
             popup->SetColorListener(nullptr);
     }

@@ -13,7 +13,7 @@
 
 namespace {
 
-// The parameter says whether the popup is still opening at the click. Otherwise it is open, and the toolkit itself
+// If the parameter is true, the popup is still opening at the click. Otherwise the popup is open, and the toolkit
 // dismisses it.
 class ClickOutsideThePopup : public testing::TestWithParam<bool>, protected OpeningCombo
 {
@@ -42,7 +42,7 @@ TEST_P(ClickOutsideThePopup, DismissesItOnTheDesktop)
     ExpectShownAndDismissed();
 }
 
-// The click that dismisses the popup does not reach the other program, but the next one does.
+// The click that dismisses the popup does not reach the other program. The next click does.
 TEST_P(ClickOutsideThePopup, DismissesItOnAnotherProgramsWindow)
 {
     ChildProcess other({"stdbuf", "-oL", "xev", "-geometry", "300x200+800+600", "-name", "other", "-event", "button"});

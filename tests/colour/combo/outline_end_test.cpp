@@ -18,7 +18,7 @@ constexpr int kLong = 2000000;
 
 const wxWindow* g_outline = nullptr;
 
-/// For each time that a picture was drawn on the screen itself: whether the outline window was shown then.
+/// One element for each picture drawn on the screen itself: whether the outline window was shown at that moment.
 std::vector<bool> g_wasShown;
 
 bool DrawsOnTheScreen(cairo_t* context)
@@ -30,7 +30,7 @@ bool DrawsOnTheScreen(cairo_t* context)
 
 }  // namespace
 
-// Replaces cairo's function: notes whether the outline is shown, and calls the original.
+// Replaces cairo's function: records whether the outline window is shown, and calls the original.
 void cairo_paint(cairo_t* context)
 {
     static const auto original = ReplacedFunction<decltype(cairo_paint)>("cairo_paint");

@@ -12,7 +12,8 @@
 
 namespace {
 
-/// Waits for an area of @a colour on the screen, and returns a point inside; wxDefaultPosition if there is none.
+/// Waits until the screen shows an area of @a colour. Returns a point in this area; wxDefaultPosition if it does not
+/// appear.
 wxPoint PlaceOf(const wxColour& colour)
 {
     const wxRect where(wxGetDisplaySize());

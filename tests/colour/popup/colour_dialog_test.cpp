@@ -22,8 +22,8 @@ std::vector<int> g_centred;
 
 }  // namespace
 
-// Replaces the toolkit's function, which leaves the position of a native GTK dialog to the window manager. Records
-// how a colour dialog is centred.
+// Replaces the toolkit's function, which leaves the position of a native GTK dialog to the window manager. Records the
+// directions in which a colour dialog is centred.
 void wxTopLevelWindowBase::DoCentre(int directions)
 {
     if (dynamic_cast<wxColourDialog*>(this))
@@ -32,7 +32,7 @@ void wxTopLevelWindowBase::DoCentre(int directions)
 
 namespace {
 
-// Answers the colour dialog, and records the data that it opens with.
+// Answers the colour dialog, and records the data with which the dialog opens.
 class Answer : public wxModalDialogHook
 {
 public:
@@ -44,7 +44,7 @@ public:
     wxColour proposed;
     bool full = false;
     wxWindow* parent = nullptr;
-    std::vector<int> centred;  ///< The argument of each DoCentre() before the dialog opens.
+    std::vector<int> centred;  ///< The arguments of the DoCentre() calls before the dialog opens.
 
 protected:
     int Enter(wxDialog* shown) override
@@ -115,7 +115,7 @@ TEST_F(MoreColours, GivesTheColourOfTheDialog)
     EXPECT_EQ(on.combo->hidden.size(), 1u) << "the popup is hidden only once";
 }
 
-// After a cancelled dialog, the listener is told that the current colour was chosen, but the event reports a cancel.
+// When the dialog is cancelled, OnColourSelEnd() is called with the colour in effect, but the event reports a cancel.
 TEST_F(MoreColours, SendsAnEventOfItsCancelAndNoneOfAChoice)
 {
     const Answer answer(wxID_CANCEL, wxColour(10, 200, 30));
@@ -138,7 +138,7 @@ TEST_F(MoreColours, SendsAnEventOfItsCancelAndNoneOfAChoice)
     EXPECT_EQ(events, std::vector<std::string>{"changed #FF0000"}) << "the earlier cancel has no effect";
 }
 
-// A cancelled dialog chooses the current colour.
+// A cancelled dialog ends the selection with the colour in effect.
 TEST_F(MoreColours, KeepsTheColourInEffectWhenTheDialogIsCancelled)
 {
     Answer answer(wxID_CANCEL, wxColour(10, 200, 30));

@@ -23,7 +23,7 @@ protected:
         popup->m_nChosenColourSel = CELL_NONE;
     }
 
-    // Gives the popup boxes with distinct coordinates and sizes.
+    // Adds both boxes to the popup. Their coordinates and sizes all differ.
     void AddBoxes()
     {
         popup->m_strAutomatic = "Auto";
@@ -143,7 +143,8 @@ TEST_F(ColourDrawing, OfNoCellIsNothing)
     EXPECT_EQ(DrawnCell(-4), Calls{});
 }
 
-// A box whose text was removed keeps its rectangle until the next layout, and is drawn there as a cell.
+// A box whose text was removed keeps its rectangle until the next layout. Until then, DrawCell() draws the box like a
+// cell of the palette.
 TEST_F(ColourDrawing, OfABoxWithoutTextIsThatOfACell)
 {
     popup->m_rectMoreColours = wxRect(10, 20, 30, 40);
@@ -318,8 +319,8 @@ TEST_F(ColourDrawing, OfAutomaticFollowsTheMargin)
     EXPECT_EQ(popup->m_nMargin, 6);
 }
 
-// The side of the swatch is a third of the box's height, and its distance from the box's edges is half of the remaining
-// height. Both are rounded down.
+// The side of the swatch is a third of the box's height. The distance from the swatch to the top and to the left of the
+// box is half of the remaining height. Both numbers are rounded down.
 TEST_F(ColourDrawing, OfTheAutomaticColourIsCentredInTheLeftSquare)
 {
     AddBoxes();
@@ -331,7 +332,7 @@ TEST_F(ColourDrawing, OfTheAutomaticColourIsCentredInTheLeftSquare)
     EXPECT_EQ(DrawnCell(CELL_AUTOMATIC).back(), "rect 12,13 9x9 SHADOW #040506");
 }
 
-// Half of the space around a text is rounded toward zero, even when the text is larger than the box.
+// Half of the difference between the sizes of the box and the text is rounded toward zero, even if the text is larger.
 TEST_F(ColourDrawing, OfATextLargerThanItsBoxStandsOutOnBothSides)
 {
     AddBoxes();

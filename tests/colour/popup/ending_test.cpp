@@ -161,7 +161,7 @@ TEST_F(ColourEnding, TellsTheListenerBeforeThePopupCloses)
     EXPECT_GT(on.combo->refreshes, 0);
 }
 
-// Ending a selection while the popup is not shown redraws the combo and hides nothing.
+// If a selection ends while the popup is not shown, the combo is redrawn and HidePopup() is not called.
 TEST_F(ColourEnding, RefreshesTheComboOfAHiddenPopup)
 {
     for (const bool ok : {true, false}) {
@@ -226,14 +226,14 @@ TEST_F(ColourEnding, LeavesTheColourOfTheHotCellToAPopupWithoutListener)
     on.popup->m_crColour = *wxRED;
     on.popup->OnDismiss();
     EXPECT_EQ(on.popup->m_crColour, *wxRED);
-    // When the popup opens again, m_crColour becomes blue, the colour in effect. EndSelection() then chooses blue,
-    // because no cell is hot.
+    // When the popup opens, m_crColour becomes blue, the colour in effect. EndSelection() then chooses blue, because no
+    // cell is hot.
     Open();
     on.popup->EndSelection(true);
     EXPECT_EQ(on.popup->m_crInitialColour, *wxBLUE);
 }
 
-// A dismissal that is reported late does not change a value that the host has set while no popup was open.
+// A late call of OnDismiss() does not change a value that the host has set after the popup closed.
 TEST_F(ColourEnding, LeavesAValueAloneThatWasSetAfterAChoice)
 {
     Open();
@@ -443,7 +443,7 @@ TEST(ColourPopupAlone, WorksWithoutAWindow)
               (ColourCalls{"change #FF0000", "end #FF0000", "change #32CD32", "cancel #FF0000", "cancel #FF0000"}));
 }
 
-// Returns the index of a function in its class's virtual table.
+// Returns the index of a virtual function in the virtual table of its class.
 template <typename Function>
 int SlotOf(Function function)
 {

@@ -102,8 +102,8 @@ TEST(ColourHotCell, CanBeSetBeforeTheWindowIsCreated)
     EXPECT_EQ(popup.m_nCurrentSel, 16);
     EXPECT_EQ(popup.m_strToolTip, "Red");
     EXPECT_EQ(listener.Take(), ColourCalls{"change #FF0000"});
-    // The popup has no rows before its window is created, and no boxes because their texts are empty. Therefore no key
-    // can reach a cell.
+    // No key can reach a cell now. The popup has no rows before its window is created, and no boxes after their texts
+    // are removed.
     wxKeyEvent down(wxEVT_KEY_DOWN);
     down.m_keyCode = WXK_DOWN;
     popup.SetAutomaticText("");
@@ -189,7 +189,7 @@ TEST(ColourPreview, IsOffAtFirst)
 
 // --- What is redrawn -------------------------------------------------------------------------------------------------
 
-// The number of shapes that were drawn.
+// How many shapes of each kind were drawn.
 struct Drawn
 {
     int rectangles = 0;
@@ -206,7 +206,7 @@ void DrawByToolkit(const char* name, wxGCDCImpl* dc, Arguments... arguments)
 
 }  // namespace
 
-// The functions below replace the toolkit's functions: they count the shapes and draw them.
+// The functions below replace the toolkit's functions. They count the shapes, and call the original functions.
 
 void wxGCDCImpl::DoDrawRectangle(int x, int y, int width, int height)
 {
@@ -260,8 +260,8 @@ protected:
 
     bool Untouched(int x, int y) const { return Pixel(x, y) == kUntouched; }
 
-    // Expects that only the given rectangles and the frame were drawn. Ignores the pixels at the rectangles' edges. In
-    // the outer four pixels of the popup, looks only at one pixel of the frame on each side.
+    // Expects that the rectangles @a cells and the frame were drawn, and nothing else. Does not check the pixels at the
+    // edges of the rectangles. Of the outer four pixels of the popup, checks only one pixel of the frame on each side.
     void ExpectDrawn(const std::vector<wxRect>& cells) const
     {
         const wxSize size = popup->GetClientSize();
@@ -382,7 +382,7 @@ TEST_F(HotCellOnScreen, TakesTheHotLookFromTheOldCell)
     popup->m_nChosenColourSel = CELL_NONE;
     const wxRect rect = Cell(10);
     popup->ChangeSelection(10);
-    // A raised cell has a dark line at its right and bottom edge, one pixel inside its rectangle.
+    // A hot cell has a black line along its right edge, one pixel inside its rectangle.
     const wxPoint edge(rect.GetRight() - 1, rect.y + 9);
     EXPECT_TRUE(PumpUntil([&] { return Pixel(edge.x, edge.y) == 0; }));
     popup->ChangeSelection(11);

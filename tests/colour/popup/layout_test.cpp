@@ -305,7 +305,6 @@ TEST(ColourLayout, IsAsWideAsTheWiderText)
     }
 }
 
-// A text of two lines is higher than a text of one line.
 TEST(ColourLayout, HasBoxesAsHighAsTheHigherText)
 {
     for (const bool upper : {true, false}) {

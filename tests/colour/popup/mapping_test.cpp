@@ -170,7 +170,7 @@ TEST(ColourIndex, IsNoneBesideAPartialLastRow)
 class ChosenCell : public testing::Test
 {
 protected:
-    // Sets the chosen cell to @a before, calls FindCellFromColour(), and returns the cell that is chosen then.
+    // Sets the chosen cell to @a before, calls FindCellFromColour(), and returns the new chosen cell.
     int For(const wxColour& colour, int before = CELL_NONE)
     {
         popup->m_nChosenColourSel = before;
@@ -313,7 +313,7 @@ TEST_F(ColourByName, StaysWhatItWasForAnyOtherText)
     EXPECT_EQ(HotAfter("#FF0000"), 3);
 }
 
-// While the popup hides, the combo passes its text to the popup. This must not change the hot cell.
+// While the popup hides itself, the combo passes its text to SetStringValue(). This must not change the hot cell.
 TEST_F(ColourByName, StaysWhatItWasWhileThePopupHidesItself)
 {
     popup->m_bInternalHide = true;

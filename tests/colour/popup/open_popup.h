@@ -41,7 +41,7 @@ public:
 class PopupInFrame
 {
 public:
-    /// Calls @a prepare with the popup before its window is created.
+    /// Calls @a prepare with the popup before Create().
     explicit PopupInFrame(const std::function<void(OpenPopup&)>& prepare = {})
         : frame(new wxFrame(nullptr, wxID_ANY, "colours", wxPoint(100, 100), wxSize(300, 260))), popup(new OpenPopup)
     {

@@ -1,5 +1,5 @@
-// The pixels of the popup and of the combo's face. The ends of lines and the corners are excluded, because the toolkit
-// smooths them.
+// The pixels of the popup and of the combo's face. The tests do not check the ends of lines and the corners, because
+// the toolkit smooths them.
 
 #include <functional>
 #include <string>
@@ -59,7 +59,7 @@ protected:
         return Runs([&](int y) { return picture.At(x, y); }, height);
     }
 
-    // Draws a black cell of 18 pixels at (3, 3). BlackRow() returns the row through the middle of this cell.
+    // Draws a black cell of 18 x 18 pixels at (3, 3). BlackRow() returns the row through the middle of this cell.
     void DrawBlack()
     {
         wxRect rect(3, 3, 18, 18);
@@ -133,8 +133,8 @@ TEST_F(ColourPixels, OfTheBoxes)
     popup->m_rectMoreColours = wxRect(2, 128, 145, 30);
     popup->SetSize(148, 162);
     popup->DoDrawControl(&picture.dc);
-    // A column between two colours: the frame, the upper box and its line, a gap, the grid, a gap, the separator, a
-    // gap, the lower box and the frame.
+    // This column lies between two columns of cells. It crosses the frame, the upper box with its outline, a gap, the
+    // grid, a gap, the separator, a gap, the lower box and the frame.
     EXPECT_EQ(Column(75, 162), "1. 1H 5f 1s 18f 1s 5f 2. 90f 4. 1s 1H 2. 27f 1s 1D 1f");
     EXPECT_EQ(Row(10), "1. 1H 5f 1s 133f 1s 3f 1s 1D 1.");
     // The automatic colour is black.

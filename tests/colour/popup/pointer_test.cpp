@@ -55,8 +55,8 @@ TEST(ColourPointer, FindsTheCellsBetweenBothBoxes)
     const PopupInFrame popup;
     SetBoxes(popup);
     ExpectCells(popup, {
-                           // "Automatic" has the rectangle (2, 2) to (146, 31), and reacts one margin lower and further
-                           // right.
+                           // "Automatic" has the rectangle (2, 2) to (146, 31). The area that reacts lies one margin
+                           // lower and one margin further right.
                            {4, 4, A},
                            {148, 4, A},
                            {4, 33, A},

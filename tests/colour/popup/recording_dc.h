@@ -21,8 +21,8 @@ using Calls = std::vector<std::string>;
 ///   text 'Automatic' 10,5 transparent  position, background mode
 ///   text colour DARK                   the colour of the texts is set
 ///
-/// A colour is followed by "unusual" if the pen is not solid or not one pixel wide, or if the brush is not solid. Text
-/// has the size that the test sets.
+/// A colour is followed by "unusual" if the pen is not solid or not one pixel wide, or if the brush is not solid. Every
+/// text has the size textSize.
 class RecordingDCImpl : public wxMirrorDCImpl
 {
 public:
@@ -128,7 +128,7 @@ public:
     RecordingDCImpl& Record() { return *static_cast<RecordingDCImpl*>(m_pimpl); }
 };
 
-/// A picture of one colour to draw on. Its pixels can be read after drawing.
+/// A picture of one colour to draw on. At() returns a pixel. After the first At(), nothing more can be drawn.
 class Picture
 {
 public:

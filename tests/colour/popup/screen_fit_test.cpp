@@ -61,7 +61,7 @@ TEST_F(ColourScreenFit, FlipsAboveTheParent)
     EXPECT_EQ(Placed(10, 931), wxPoint(10, 931));
     EXPECT_EQ(Placed(10, 932), wxPoint(10, 932 - 77 - 94));
     EXPECT_EQ(Placed(1200, 1000), wxPoint(1133, 1000 - 77 - 94));
-    // There is no room below the parent, so the popup is above it, although that place is off the screen too.
+    // The given place is below the screen, so the popup is moved up, although the new place is below the screen too.
     EXPECT_EQ(Placed(10, 5000), wxPoint(10, 5000 - 77 - 94));
 }
 

@@ -5,7 +5,7 @@
 
 #include <wx/colour.h>
 
-/// The colours of the test theme, all different. They replace the desktop's while a PinnedTheme exists.
+/// The colours of the test theme, all different. While a PinnedTheme exists, they replace the colours of the desktop.
 inline const wxColour kFace(201, 202, 203);
 inline const wxColour kShadow(121, 122, 123);
 inline const wxColour kHighlight(251, 252, 253);
@@ -20,7 +20,7 @@ public:
     PinnedTheme& operator=(const PinnedTheme&) = delete;
 };
 
-/// While the object exists, the system reports this width of an edge.
+/// While the object exists, wxSYS_EDGE_X has the value @a width.
 class PinnedEdge
 {
 public:
