@@ -1,4 +1,5 @@
-// The library's functions accept text of every kind for each parameter. The earlier overloads keep their types.
+// Each text parameter of the library's functions accepts every kind of text. The types of overloads
+// and results must not change.
 
 #include <fittings/platform/text_argument.h>
 
@@ -49,8 +50,8 @@ void WithEachKindBeside(const Other& other, const Call& call, std::index_sequenc
     (CallWith<position>(call, wxString("a").wc_str(), other, positions), ...);
 }
 
-/// Calls @a call many times with @a count texts, all of them "a". In each call, one parameter has a text of one of
-/// seven kinds. The other parameters share one of five kinds. Every combination occurs.
+/// Calls @a call many times with @a count texts, all of them "a". In each call, one parameter has one of seven
+/// kinds of text. One of five kinds is used for all other parameters. Every combination occurs.
 template <std::size_t count, typename Call>
 void WithEachKind(const Call& call)
 {
@@ -131,7 +132,6 @@ TEST(TextsOfAnyKind, ReachAFile)
     std::filesystem::current_path(earlier);
 }
 
-// Each text reaches its own parameter.
 TEST(TextsOfAnyKind, KeepTheirOrder)
 {
     ui_config_mgr::WriteConfigString("file.ini", std::string("section"), std::wstring(L"key"), wxString("value"));
@@ -143,7 +143,7 @@ TEST(TextsOfAnyKind, KeepTheirOrder)
     EXPECT_EQ(Stored(L"section", L"number"), L"3");
 }
 
-// Other tests call these functions, with a platform or a display of their own. Here they only need to compile.
+// Other tests run these calls, with a platform or a display of their own. Here the calls only need to compile.
 [[maybe_unused]] void CompilesForDialogsAndWindows(wxFrame* frame, wxAuiManager* panes, wxHandyTreeCtrl& tree)
 {
     WithEachKind<5>([](const auto&... texts) { CQVFileDialogI::LaunchSaveDialog(nullptr, texts...); });

@@ -45,7 +45,7 @@ TEST(AuiLayout, IsWhatTheToolkitWrites)
 TEST(AuiLayout, IsNotATextThatIsCut)
 {
     for (std::size_t length = 0; length < kWhole.size(); ++length) {
-        // A text that is cut between two panes or docks is still a complete layout.
+        // A text that is cut after a "|" is still a complete layout.
         const bool isBetweenParts = length > 0 && kWhole[length - 1] == L'|';
         EXPECT_EQ(IsLayout(kWhole.substr(0, length)), isBetweenParts) << "after " << length;
     }
@@ -148,8 +148,8 @@ TEST(AuiLayout, HasNoMorePartsThanTheToolkitReadsAtOnce)
     EXPECT_FALSE(IsLayout(With(L"Folders", std::wstring(2000000, L'a'))));
 }
 
-// The toolkit reads the text after a ";" in a caption as the next field. If the field after that is empty, the toolkit
-// takes it for the end of the pane. Therefore the check limits the numbers in captions, too.
+// After a ";" in a caption, the toolkit reads a field of the pane. At an empty field, it stops reading the pane. A row
+// in a caption can therefore replace the row of the pane, so the check limits the numbers in captions, too.
 TEST(AuiLayout, HasNoNumberInACaptionThatTheToolkitLaysOutForLong)
 {
     EXPECT_TRUE(IsLayout(With(L"Folders", L"Folders\\; row=7\\;")));

@@ -222,7 +222,7 @@ TEST_F(DamagedLayout, ThatIsCutIsNotLoaded)
     }
 }
 
-// The toolkit asserts on a layout with an unknown field.
+// An unknown field in a layout makes an assertion of the toolkit fail.
 TEST_F(DamagedLayout, WithAnUnknownFieldIsNotLoaded)
 {
     ExpectNotLoaded(With("state=", "stat="));

@@ -119,7 +119,7 @@ TEST_F(ConfigCalls, LeaveNoFileObjectBehindABadNumber)
     EXPECT_EQ(g_platform.calls.back(), L"destroy");
 }
 
-/// An operation of the platform that throws, and a call that uses it.
+/// The platform operation that throws, and a call that uses this operation.
 struct Failure
 {
     const wchar_t* operation;

@@ -1,4 +1,4 @@
-// Layouts of AUI panes, which are stored when the manager or its window is destroyed.
+// A layout of AUI panes is stored when the manager or its window is destroyed.
 
 #include <memory>
 
@@ -31,7 +31,7 @@ void ExpectLogAtTheTop()
     EXPECT_TRUE(IsLogAtTheTop(frame.manager));
 }
 
-// The destructor of AuiFrame calls UnInit() before the frame is destroyed. The layout must be stored all the same.
+// The destructor of AuiFrame calls UnInit() before the window is destroyed. The layout must still be stored.
 TEST(PersistentAui, OfAFrameThatEndsItsManagerIsRemembered)
 {
     const TempPersistence data;
@@ -126,7 +126,7 @@ TEST(DamagedLayout, LoadsNothing)
         layout = frame.manager.SavePerspective().ToStdWstring();
     }
     for (std::size_t length = 1; length + 1 < layout.size(); length += 9) {
-        // Skip a text that is cut between two panes or docks: it is still a complete layout.
+        // Skip a text that ends with "|": it is still a complete layout.
         if (layout[length - 1] == L'|')
             continue;
         StoreValue(kKind, L"Layout", layout.substr(0, length));

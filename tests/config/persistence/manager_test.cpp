@@ -19,7 +19,7 @@ int g_syncs = 0;
 
 }  // namespace
 
-// Replaces the C library's function: counts the call and makes it.
+// Replaces the C library's function: counts the call and makes the system call.
 extern "C" int fsync(int fd)
 {
     ++g_syncs;
@@ -29,7 +29,7 @@ extern "C" int fsync(int fd)
 namespace {
 
 /// A frame that contains a splitter, a book of two pages, a list and a tree. RestoreAll() registers and restores the
-/// frame and each of them.
+/// frame and these four controls.
 class FullFrame : public wxFrame
 {
 public:
@@ -84,8 +84,8 @@ TEST(ClosedFrame, SavesAllThatIsInItByOneSave)
     DestroyNow(frame);
 }
 
-// The values of a window are stored when it is destroyed, even if other windows are still open. Therefore a signal that
-// later ends the process cannot lose these values.
+// The values of a window are stored when the window is destroyed, even if other windows are still open. Therefore these
+// values are not lost if a signal ends the process later.
 TEST(ClosedFrame, IsSavedWhenItIsGone)
 {
     const TempPersistence data;
@@ -173,7 +173,7 @@ TEST(Manager, IsTheToolkitsOnceItIsInstalled)
     EXPECT_EQ(&wxStorePersistenceManager::Install(), &wxStorePersistenceManager::Install());
 }
 
-// The toolkit's classes cannot have written these values. The windows must look as usual all the same.
+// The toolkit's classes cannot have written these values. The windows must still look as usual.
 TEST(DamagedNumbers, DoNoHarm)
 {
     const TempPersistence data;

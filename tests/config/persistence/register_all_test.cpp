@@ -1,4 +1,4 @@
-// One call registers a window and everything in it.
+// wxPersistentRegisterAndRestoreAll() registers a window and the windows in it.
 
 #include <gtest/gtest.h>
 #include <wx/dialog.h>

@@ -20,13 +20,13 @@ inline std::wstring StoredSection(const std::wstring& kind)
     return L"Persistent_Options/" + kind + L"/w";
 }
 
-/// Stores a value of the object "w" as an earlier run of the program would have.
+/// Stores a value of the object "w" as an earlier run of the program would have stored it.
 inline void StoreValue(const std::wstring& kind, const wchar_t* key, const std::wstring& text)
 {
     CLocalRegStore::WriteString(StoredSection(kind).c_str(), key, text.c_str());
 }
 
-/// Returns the value that the default store has for this key of the object "w", or "(none)".
+/// Returns the stored value of this key of the object "w", or "(none)" if no value is stored.
 inline std::wstring StoredValue(const std::wstring& kind, const wchar_t* key)
 {
     return Stored(StoredSection(kind).c_str(), key);

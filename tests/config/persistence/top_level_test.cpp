@@ -133,7 +133,7 @@ TEST(PersistentFrame, ThatIsClosedMaximizedBeforeAnotherIsRemembered)
     EXPECT_EQ(StoredValue(kKind, L"w"), L"400");
 }
 
-// The frame was not restored, so its earlier size is not known, and the stored one must stay.
+// The frame is registered but not restored. Its size before it was maximised is unknown, so the stored size must stay.
 TEST(PersistentFrame, ThatIsMaximizedAndWasNotRestoredLeavesTheStoredPlace)
 {
     const TempPersistence data;
@@ -189,7 +189,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Restored{"HugeSize", {L"100", L"100", L"2147483647", L"2147483647"}, wxRect(100, 100, 1180, 884)}),
     [](const auto& info) { return info.param.name; });
 
-/// A stored geometry in which one field cannot be read as a number. The parameter is the key of this field.
+/// A stored geometry in which one field is no integer, or is too large for a long. The parameter is the key of this
+/// field.
 class DamagedPlace : public testing::TestWithParam<const wchar_t*>
 {
 };

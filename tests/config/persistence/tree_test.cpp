@@ -1,5 +1,3 @@
-// Persistent trees, each in a frame.
-
 #include <string>
 
 #include <gtest/gtest.h>
@@ -40,7 +38,7 @@ wxTreeItemId Add(wxTreeCtrl& tree, const wxTreeItemId& parent, const wxString& l
     return tree.AppendItem(parent, label);
 }
 
-/// Returns the child of @a parent at the index @a number, or an invalid item if there are fewer children.
+/// Returns the child of @a parent at the index @a number, or an invalid item if there is no such child.
 wxTreeItemId Child(const wxTreeCtrl& tree, const wxTreeItemId& parent, int number)
 {
     wxTreeItemIdValue cookie = nullptr;
@@ -311,7 +309,7 @@ TEST(StoredItems, OfMegabytesAndDeepAreRestoredAtOnce)
         EXPECT_LT(ProcessorSeconds([&] { wxPersistentRegisterAndRestore(frame.tree, "w"); }), 20);
         PumpPending();
     }
-    // An endless tree: each level is created when its parent is expanded.
+    // A tree without end: the children of an item are created when the item is expanded.
     StoreValue(kKind, L"Items", deep);
     const OwnedWindow<wxFrame> frame(new wxFrame(nullptr, wxID_ANY, "tree"));
     auto* const tree = new LazyTree(frame);

@@ -1,4 +1,4 @@
-// Groups, entries and paths. Includes wxWidgets' own tests of wxFileConfig, except those about its file.
+// Groups, entries and paths. Includes wxWidgets' own tests of wxFileConfig, except the tests of the file itself.
 
 #include <fittings/config/store_config.h>
 

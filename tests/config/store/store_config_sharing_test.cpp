@@ -1,5 +1,5 @@
-// Objects that share a store with other objects, with a thread's batch or with other processes, and a store that cannot
-// be saved.
+// wxStoreConfig objects that share a store with other objects, with a batch or with other processes. Also a store that
+// cannot be saved.
 
 #include <fittings/config/store_config.h>
 
@@ -129,8 +129,8 @@ TEST_F(StoreConfig, StoresAnEqualTextInAFileThatAnotherHasEmptied)
     EXPECT_EQ(ReadFile(Path()), "[g]\na=1\n");
 }
 
-// The object has just read the file, so a read might not notice yet that the path leads elsewhere. The write must
-// notice it.
+// The object has just read the file. Another read might not notice yet that the file is no longer at its path, but the
+// write must notice that.
 TEST_F(StoreConfig, StoresAnEqualTextInAFolderThatAnotherHasReplaced)
 {
     Open("[g]\na=1\n");
@@ -240,8 +240,8 @@ TEST(TheDefaultStoreAsAConfig, LeavesItsChangesToTheBatchThatSavesThemLater)
     EXPECT_EQ(config.Read("g/k"), "1");
     std::filesystem::remove(data / "settings.ini");
     EXPECT_TRUE(CLocalRegStore::WriteString(L"g", L"k", L"2"));
-    // The batch still contains the value 1, which it could not save, and then the value 2. Therefore Flush() must not
-    // store 1 again.
+    // The batch still has two changes to save: first the value 1, then the value 2. Flush() must not add the value 1
+    // again.
     EXPECT_TRUE(config.Flush());
     EXPECT_TRUE(batch.Save());
     EXPECT_EQ(ReadFile(data / "settings.ini"), "[g]\nk=2\n");
@@ -277,8 +277,8 @@ TEST(TheToolkitsConfig, IsSavedWhenTheToolkitEnds)
     EXPECT_EQ(history.GetHistoryFile(1), "/tmp/a.txt");
 }
 
-// This object is constructed before the store is first used. If the store destroyed its own objects at the end of the
-// process, they would be gone before this object saves its changes.
+// This pointer is constructed before the store is first used, so it is destroyed after any static objects of the store.
+// The store must still work at that time, because the wxStoreConfig object then saves its changes.
 std::unique_ptr<wxStoreConfig> g_config;
 
 TEST(AConfigThatOutlivesMain, IsSavedWhenTheProcessEnds)

@@ -22,7 +22,7 @@ inline std::vector<wxString> EntryNames(const wxConfigBase& config)
     return names;
 }
 
-/// Returns the names of the current group's groups, in order.
+/// Returns the names of the groups in the current group, in order.
 inline std::vector<wxString> GroupNames(const wxConfigBase& config)
 {
     std::vector<wxString> names;

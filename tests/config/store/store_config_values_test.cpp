@@ -68,8 +68,8 @@ TEST_F(StoreConfig, ReadsWhatWasWritten)
     EXPECT_EQ(m_config->ReadObject("colour1", wxColour()), colour);
 }
 
-// Reads ten values with a default for each, and returns their number. Seven of the calls report whether the value
-// exists: expects each of them to return @a areThere.
+// Reads ten values with a default for each, and returns the number of reads. Seven of the reads return whether the
+// value exists: they must return @a areThere.
 std::size_t ReadWithDefaults(const wxConfigBase& config, bool areThere)
 {
     EXPECT_EQ(config.Read("string1", "abc"), "abc");

@@ -1,6 +1,6 @@
-// first_frame_probe KIND store X;Y;WIDTH;HEIGHT: shows a frame with this geometry and stores the geometry. If "corner"
-// takes the place of the geometry, the frame has 500 x 340 pixels and is in the top left corner of the work area; with
-// "last-corner" it is in the bottom right corner.
+// first_frame_probe KIND store X;Y;WIDTH;HEIGHT: shows a frame with this geometry and stores the geometry. Instead of
+// the geometry, the argument can be "corner" or "last-corner": the frame then has 500 x 340 pixels and is in the top
+// left or bottom right corner of the work area.
 //
 // first_frame_probe KIND restore: restores a frame and shows it as the first window of the process.
 //
@@ -88,13 +88,13 @@ wxRect OnScreen(const wxFrame& frame)
     return rect;
 }
 
-/// Announces decorations whose size differs from that of the frame's decorations, as some window managers do. Waits
-/// until the toolkit has noticed.
+/// Announces decorations of a wrong size for the frame, as some window managers do. Waits until the toolkit knows this
+/// size.
 void TellOtherDecorations(wxFrame& frame)
 {
     GdkWindow* const window = gtk_widget_get_window(frame.GetHandle());
     Display* const display = GDK_WINDOW_XDISPLAY(window);
-    // Until the ungrab, the X server serves no other program, so the window manager cannot correct the sizes.
+    // Until XUngrabServer(), the X server serves no other program, so the window manager cannot correct the sizes.
     XGrabServer(display);
     const long extents[] = {3, 4, 30, 40};
     XChangeProperty(display, GDK_WINDOW_XID(window), XInternAtom(display, "_NET_FRAME_EXTENTS", False), XA_CARDINAL, 32,

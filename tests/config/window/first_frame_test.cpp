@@ -30,14 +30,14 @@ TEST_P(FirstFrame, ComesBackInItsPlace)
 }
 
 // A frame in the corner has the same position as a frame that was never moved. The toolkit lets the window manager
-// place a frame that was never moved. The restored frame must come back to the corner all the same.
+// place a frame that was never moved. The restored frame must still come back to the corner.
 TEST_P(FirstFrame, ComesBackInTheCorner)
 {
     ExpectBack("corner");
 }
 
-// Until the toolkit knows the decorations, the frame is too large by their size, and would extend beyond the work area.
-// The window manager must not move it for that reason.
+// Until the toolkit knows the decorations, the frame is too large by their size and extends beyond the work area. If
+// the window manager therefore moves the frame, the frame must still come back to the corner.
 TEST_P(FirstFrame, ComesBackInTheLastCorner)
 {
     ExpectBack("last-corner");

@@ -15,7 +15,7 @@ class SpyWindow : public Window
 public:
     using Window::Window;
 
-    /// Returns the calls since the previous call of this function.
+    /// Returns the calls recorded since the previous TakeCalls().
     std::vector<std::string> TakeCalls() { return std::exchange(m_calls, {}); }
 
 protected:
@@ -30,7 +30,7 @@ private:
     std::vector<std::string> m_calls;
 };
 
-/// A hidden frame that records the same calls, except those of its constructor.
+/// A hidden frame that records the calls after its construction.
 class SpyFrame : public SpyWindow<wxFrame>
 {
 public:

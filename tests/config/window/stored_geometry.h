@@ -5,13 +5,13 @@
 
 #include <fittings/platform/local_reg_store.h>
 
-/// Returns the geometry stored for the window of that name, or "none".
+/// Returns the geometry that is stored under @a name, or "none" if there is none.
 inline std::wstring StoredGeometry(const wchar_t* name = L"w")
 {
     return CLocalRegStore::GetString(L"wxWindowState", name, L"none");
 }
 
-/// Stores a geometry as an earlier run of the program would have.
+/// Stores a geometry as an earlier run of the program would have stored it.
 inline void StoreGeometry(const std::wstring& text, const wchar_t* name = L"w")
 {
     CLocalRegStore::WriteString(L"wxWindowState", name, text.c_str());

@@ -18,8 +18,8 @@ int g_handlersDestroyed = 0;
 
 }  // namespace
 
-// Replaces the toolkit's destructor of event handlers: counts the call, and calls the original. The library's handler
-// is private and destroys itself, so only its destructor shows that it is gone.
+// Replaces the destructor of wxEvtHandler: counts the call, and calls the original. The library's handler is private
+// and deletes itself, so a test can notice only the call of the destructor.
 extern "C" void DestroyHandler(wxEvtHandler* handler) __asm__("_ZN12wxEvtHandlerD2Ev");
 
 extern "C" void DestroyHandler(wxEvtHandler* handler)
@@ -31,7 +31,7 @@ extern "C" void DestroyHandler(wxEvtHandler* handler)
 
 namespace {
 
-/// A frame that counts the calls to maximise it and to restore it.
+/// A frame that counts the calls of Maximize(true) and of Maximize(false).
 class CountingFrame : public wxFrame
 {
 public:

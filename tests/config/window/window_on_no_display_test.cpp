@@ -34,7 +34,7 @@ int wxDisplay::GetFromWindow(const wxWindow* window)
 
 namespace {
 
-// The first two calls apply the stored geometry. The third moves the frame to (0, 0).
+// The first two recorded calls apply the stored geometry. The third call moves the frame to (0, 0).
 TEST(WindowOnNoDisplay, IsMovedToTheFirstAndStaysThereIfThatDoesNotHelp)
 {
     const TempUserData data;

@@ -1,4 +1,4 @@
-// Windows on Wayland, where no program may place its windows or know where they are.
+// Windows on Wayland, where a program can neither place its windows nor find out where they are.
 
 #include <fittings/config/wx_window_state.h>
 
@@ -32,7 +32,7 @@ TEST(DisplayOfTheseTests, IsWayland)
     EXPECT_EQ(wxGetDisplayInfo().type, wxDisplayWayland);
 }
 
-// The compositor decides the position that the frame reports, but the position must not drift from run to run.
+// The compositor decides which position the frame reports, but this position must be the same after each run.
 TEST(FrameOnWayland, ComesBackInTheSameSizeEachTime)
 {
     const TempUserData data;

@@ -55,7 +55,7 @@ TEST_F(RestoredFrame, MayBeDestroyedAtOnce)
     PumpPending();
 }
 
-// A position and size that the program sets after restoring take precedence.
+// A position and size that the program sets after LoadState() replace the restored ones.
 TEST_F(RestoredFrame, GoesWhereItsProgramPutsIt)
 {
     EXPECT_TRUE(wx_window_state::LoadState(frame, L"Main"));
@@ -69,7 +69,7 @@ TEST_F(RestoredFrame, GoesWhereItsProgramPutsIt)
     frame->Destroy();
 }
 
-// Without a stored geometry, the library leaves the place to the window manager, which puts a dialog beside the corner.
+// Without a stored geometry, the window manager chooses the place, and it does not choose the corner for a dialog.
 TEST(DialogWithoutAStoredGeometry, IsNotMovedToTheCorner)
 {
     const TempUserData data;
