@@ -128,7 +128,7 @@ TEST(PathWithNul, NamesNoFolder)
     EXPECT_FALSE(std::filesystem::exists(folder / "new"));
 }
 
-// The mask of the process may reduce the mode 0700, so these tests set it to 0.
+// The umask of the process may remove bits of the mode 0700, so these tests set the umask to 0.
 class Mkdir : public testing::Test
 {
 protected:
@@ -247,7 +247,7 @@ INSTANTIATE_TEST_SUITE_P(, NoCharacter,
                          testing::Values(0xD800L, 0xDBFFL, 0xDC00L, 0xDFFFL, 0x110000L, 0x7FFFFFFFL, -1L,
                                          -2147483647L - 1));
 
-// A wide character is a whole character here, so the two halves of a surrogate pair are two invalid characters.
+// On Linux, a wide character is a whole character, so the two halves of a surrogate pair are two invalid characters.
 TEST(SurrogatePair, BecomesTwoReplacementCharacters)
 {
     EXPECT_EQ(ConvertToUTF8(std::wstring{static_cast<wchar_t>(0xD83D), static_cast<wchar_t>(0xDCD2)}),
@@ -284,7 +284,7 @@ INSTANTIATE_TEST_SUITE_P(
         Broken{"\xED\xA0\x80", L"\xFFFD\xFFFD\xFFFD"}, Broken{"\xED\xBF\xBF", L"\xFFFD\xFFFD\xFFFD"},
         Broken{"\xF4\x90\x80\x80", L"\xFFFD\xFFFD\xFFFD\xFFFD"},
         Broken{"\xF5\x80\x80\x80", L"\xFFFD\xFFFD\xFFFD\xFFFD"},
-        // Sequences cut short by the end or by the next byte.
+        // Incomplete sequences, at the end of the text or before another character.
         Broken{"\xC3", L"\xFFFD"}, Broken{"\xE5\xB8", L"\xFFFD"}, Broken{"\xF0\x9F\x93", L"\xFFFD"},
         Broken{"\xC3z", L"\xFFFDz"}, Broken{"\xE5\xB8z", L"\xFFFDz"}, Broken{"\xF0\x9F\x93z", L"\xFFFDz"},
         Broken{"\xE5\xC3\xA4", L"\xFFFD\xE4"}, Broken{"\xF0\x9F\xE5\xB8\xB3", L"\xFFFD\x5E33"},

@@ -1,4 +1,4 @@
-// The paths in a process whose application changes its name, and the paths on several threads.
+// The paths while the application changes its name, and while several threads use them.
 
 #include <fittings/platform/std_file_paths.h>
 

@@ -8,8 +8,8 @@
 
 #include <gtest/gtest.h>
 
-/// Describes some bytes of the lock file for fcntl(). The first byte is the lock. The second byte is the queue: the
-/// process that holds it gets the lock next.
+/// Describes bytes of the lock file for fcntl(). The first byte is the lock. The process that locks the second byte
+/// gets the lock next.
 inline struct flock BytesOfLock(off_t begin, off_t count)
 {
     struct flock lock = {};
@@ -20,7 +20,7 @@ inline struct flock BytesOfLock(off_t begin, off_t count)
     return lock;
 }
 
-/// Returns whether a process is next in the queue for the lock.
+/// Returns whether a process has locked the second byte.
 inline bool IsTurnTaken(const std::string& path)
 {
     const int file = open(path.c_str(), O_RDWR | O_CLOEXEC);
@@ -30,7 +30,7 @@ inline bool IsTurnTaken(const std::string& path)
     return lock.l_type != F_UNLCK;
 }
 
-/// Holds the default store's lock, or some bytes of it, as another process would.
+/// Locks @a count bytes of the default store's lock file, as another process would. By default, locks both bytes.
 class HeldLock
 {
 public:
@@ -48,7 +48,7 @@ public:
     {
         if (m_fd < 0)
             return;
-        // Unlock first: closing alone would leave the lock to processes that were forked meanwhile.
+        // Unlock before closing: a process that was forked while the lock was held would otherwise keep it.
         struct flock lock = BytesOfLock(0, 0);
         lock.l_type = F_UNLCK;
         EXPECT_EQ(fcntl(m_fd, F_OFD_SETLK, &lock), 0);

@@ -1,6 +1,6 @@
-// Many processes store settings at the same time, on slow disks, with locks that are stuck, missing or ineffective. A
-// value is kept if its write has returned true. With FITTINGS_TEST_SOAK=N, many of the tests write N times as
-// often.
+// Many processes store settings at the same time: on slow disks, or with locks that are stuck, missing or without
+// effect. Each value whose write has returned true must be kept. With FITTINGS_TEST_SOAK=N in the environment, many of
+// the tests write N times as often.
 
 #include <fittings/platform/local_reg_store.h>
 
@@ -217,8 +217,8 @@ TEST(AStoppedHolderOfTheLock, DelaysAWriteOnceWhileTheFileIsEmptiedAllTheTime)
     EXPECT_EQ(ReadFile(path), "[s]\na=1\nk=1\n");
 }
 
-// Another process saves without the lock. This does not show that the holder of the lock is running again, so the later
-// writes of this process do not wait for the lock.
+// Another process saves without the lock. Its save does not mean that the holder of the lock is running again.
+// Therefore the later writes of the test's own process do not wait for the lock.
 TEST(AStoppedHolderOfTheLock, DelaysAProcessOnceWhileAnotherOneStoresTheSameWay)
 {
     const InMemory inMemory;
@@ -365,7 +365,7 @@ TEST(ALockFileThatCannotBeOpened, LosesNothing)
     const TempUserData data;
     WriteFile(data / "settings.ini.lock", "");
     ASSERT_EQ(chmod((data / "settings.ini.lock").c_str(), 0), 0);
-    // The lock file belongs to root, and the folder to a user, as after the user ran a program with sudo.
+    // The lock file belongs to root, and the folder to a user. This happens when the user has run a program with sudo.
     if (geteuid() == 0) {
         ASSERT_EQ(chown(data.Path().c_str(), 65534, 65534), 0);
     }
@@ -421,7 +421,7 @@ TEST(AnEmptiedFile, IsGivenTheValueAgainThatIsWritten)
     EXPECT_EQ(ReadFile(data / "settings.ini"), "[s]\nk=1\n");
 }
 
-// The folder's owner may put a link in place of the new file while a program that runs as root writes it.
+// While a program that runs as root writes the new file, the folder's owner can replace that file with a link.
 TEST(ALinkInPlaceOfTheNewFile, ChangesNoOtherFile)
 {
     const TempUserData data;

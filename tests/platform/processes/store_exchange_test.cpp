@@ -26,7 +26,7 @@
 
 namespace {
 
-/// Acts as other processes: runs one of the given actions before each exchange, in turn.
+/// Acts as other processes: runs the given actions in order, one before each exchange.
 class Others
 {
 public:
@@ -142,8 +142,8 @@ TEST_F(AnExchange, WaitsForAnEditorThatHasJustEmptiedTheFile)
     EXPECT_EQ(Now(), "[s]\na=2\nk=new\n");
 }
 
-// A file that is not text cannot be merged. The store puts it back, and then keeps it as settings.ini.unreadable like
-// any unreadable file.
+// A file that is not text cannot be merged. The store puts it back, and then keeps it as settings.ini.unreadable, as
+// it does with every unreadable file.
 TEST_F(AnExchange, PutsBackWhatIsNoText)
 {
     WriteFile(m_path, "[s]\na=1\nk=old\n");
@@ -267,8 +267,8 @@ TEST_F(AnExchange, LeavesNothingBehind)
     EXPECT_EQ(NamesIn(m_data.Path()), (std::vector<std::string>{"settings.ini", "settings.ini.lock"}));
 }
 
-// This process has no time left, as if it had been stopped for a while. Another process holds the folder's lock to
-// exchange its file. This process must wait for that lock all the same.
+// The time limit of the write is over, as if the process had been stopped for a while. Another process holds the
+// folder's lock to exchange its file. The write must still wait for that lock.
 TEST_F(AnExchange, WaitsForTheExchangeOfAnotherProcessEvenWhenNoTimeIsLeft)
 {
     WriteFile(m_path, "[s]\nk=old\n");

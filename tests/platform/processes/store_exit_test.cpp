@@ -1,4 +1,4 @@
-// The store while a process ends.
+// The store is used while the process ends.
 
 #include <cstdlib>
 

@@ -132,8 +132,8 @@ TEST(FourThreads, KeepAllOfTheirUpdates)
         EXPECT_EQ(Stored(L"s", Name(L"k", number).c_str()), Name(L"v", number));
 }
 
-// The numbers of the updates that a writing process has begun and done. SharedProgress keeps them in memory that
-// outlives the process.
+// The numbers of the last updates that a writing process has begun and completed. SharedProgress keeps these numbers in
+// memory that outlives the process.
 struct Progress
 {
     std::atomic<int> begun;
@@ -194,7 +194,7 @@ protected:
                 m_progress->done = update;
             }
         });
-        // The kill comes at a random moment: before the first write, during it, or during a later one.
+        // Kill the writer at a random moment: before, during or after its first write.
         std::this_thread::sleep_for(std::chrono::microseconds(m_random() % (Patience() * 3000 + 2 * m_saving.count())));
         ASSERT_EQ(kill(child, SIGKILL), 0);
         int status = 0;
@@ -296,8 +296,7 @@ TEST(AChangeByAnotherProcess, IsNotUndoneByTheNextWrite)
     EXPECT_EQ(ReadFile(data / "settings.ini"), "[s]\nmine=3\ntheirs=2\n");
 }
 
-// Successive states of the file have the same size, and many fall into one tick of the file system's clock: they differ
-// only in their bytes.
+// All states of the file have the same size, and many have the same timestamp. Such states differ only in their bytes.
 TEST(AChangeInPlace, IsSeenHoweverFastItFollowsAnother)
 {
     TempUserData data;

@@ -1,5 +1,5 @@
-// This file replaces both variants of some functions, for example stat() and stat64(). If this macro were defined, the
-// compiler would take the two for the same function.
+// This file replaces both variants of some functions, for example stat() and stat64(). With _FILE_OFFSET_BITS defined,
+// the compiler would take the two variants for one function.
 #undef _FILE_OFFSET_BITS
 
 #include <tests/platform/store/failing_calls.h>

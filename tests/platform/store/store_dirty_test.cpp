@@ -1,4 +1,4 @@
-// Files in states that the store does not write: left by a person, another program or a power failure.
+// Files that the store itself would not write: a person, another program or a power failure has left them.
 
 #include <fittings/platform/local_reg_store.h>
 
@@ -360,7 +360,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Deletion{"AnotherCase", "[s]\nK%25=1\n[S]\nk%25=2\n", "[s]\nK%25=1\n[S]\nk%25=2\n"}),
     [](const auto& info) { return info.param.name; });
 
-// A file may write a name of 24 letters k in many ways. Returns one of them: each bit of @a n says whether a letter is
+// A name of 24 letters k can be written in many ways. Returns one of them: each bit of @a n says whether a letter is
 // written as it is (1) or encoded (0).
 std::string NthName(unsigned n)
 {

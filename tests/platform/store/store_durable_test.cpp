@@ -1,5 +1,5 @@
-// What a call has stored is on the disk when the call returns. The file's bytes are synced before the rename, and the
-// folder after it.
+// A stored value is on the disk when the call returns. The file's bytes are synced before the rename or exchange, and
+// the folder is synced after it.
 
 #include <cerrno>
 #include <cstdio>
@@ -76,7 +76,7 @@ TEST(StoringAValue, ReachesTheDiskBeforeItReturns)
               (Calls{"sync file", "exchange", "sync folder"}));
 }
 
-// A signal can interrupt the sync on some file systems, such as those of FUSE.
+// On some file systems, such as those of FUSE, a signal can interrupt fsync().
 TEST(StoringAValue, SyncsTheFolderAgainAfterASignal)
 {
     const TempUserData data;

@@ -48,8 +48,8 @@ bool SaveKey(const std::string& path, const wchar_t* value)
 const std::string kOld = "# mine\n[s]\nk=old\nother=1\n";
 const std::string kNew = "# mine\n[s]\nk=new\nother=1\n";
 
-// Expects that no function can write a value of 1 MiB, and that the old files stay as they are. The only new file may
-// be the lock file.
+// Expects that no function can write a value of 1 MiB, and that the old files stay as they are. Only the lock file may
+// be new.
 void ExpectWritesToFail(const std::string& folder)
 {
     const std::string big(1 << 20, 'x');
@@ -75,7 +75,7 @@ TEST(AWriteThatTheSystemCutsShort, LeavesTheOldFile)
         const rlimit limit = {4096, 4096};
         ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
         ExpectWritesToFail(data.Path());
-        // A value that still fits is saved.
+        // A value that fits is saved.
         EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
         EXPECT_EQ(ReadFile(data / "settings.ini"), kNew);
     });
@@ -140,7 +140,8 @@ TEST(AFileThatMayNotBeRead, IsNotReplaced)
     EXPECT_EQ(ReadFile(data / "settings.ini"), kNew);
 }
 
-// In a folder with the sticky bit, all users may add files, but replace only their own: the last step of saving fails.
+// In a folder with the sticky bit, all users may add files, but may replace only their own files. Therefore the last
+// step of the save fails.
 TEST(AFileOfAnotherUser, StandsWhereItMayNotBeReplaced)
 {
     if (geteuid() != 0)

@@ -1,6 +1,6 @@
-// Lets each call that the store makes on a file fail in turn, with each of several errors, alone or together with all
-// later calls. Afterwards the old or the new value is stored. If the function returns a result, the result says which.
-// All other values are kept. As soon as the calls succeed again, the store can save again.
+// In each run, one call of the store on a file fails with one of several errors, alone or with all later calls.
+// Afterwards the file must contain the old or the new value, and all other values. If the function returns a result,
+// the result must say which value it is. When the calls succeed again, the store must save again.
 
 #include <cerrno>
 #include <functional>
@@ -20,9 +20,9 @@ namespace {
 
 constexpr int kErrors[] = {ENOSPC, EIO, EACCES, EROFS, ENOMEM, EMFILE, EINTR};
 
-/// For each error, runs @a attempt again and again. The fault is at the first call on a file that @a attempt makes,
-/// then at the second call, and so on, until @a attempt makes no further call. Records how many faults there were, and
-/// which calls failed.
+/// For each error, runs @a attempt again and again. In the first run, the first call on a file fails. In the second
+/// run, the second call fails, and so on, until no call fails in a run. Records the number of faults and the names of
+/// the failed calls.
 void ForEveryFault(const std::function<void(const Fault&)>& attempt)
 {
     int faults = 0;
@@ -58,8 +58,8 @@ bool Under(const Fault& fault, const std::function<bool()>& work)
     return work();
 }
 
-// Expects the folder to contain only the file, its lock, and at most one temporary file that could not be removed. A
-// later save removes that file.
+// Expects the folder to contain only the file, its lock file, and at most one temporary file that could not be removed.
+// A later save removes the temporary file.
 void ExpectNoStrangers(const TempFolder& folder, const std::string& file)
 {
     int leftovers = 0;

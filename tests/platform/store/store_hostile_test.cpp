@@ -1,4 +1,5 @@
-// Texts with characters that have a meaning in an INI file. The store encodes such characters where it has to.
+// Texts with characters that have a meaning in an INI file. The store encodes these characters where they would be
+// misread.
 
 #include <fittings/platform/local_reg_store.h>
 

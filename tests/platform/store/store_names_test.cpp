@@ -1,4 +1,4 @@
-// The names of sections and keys, integers, and keys that are removed.
+// The names of sections and keys, the deletion of keys, and integer values.
 
 #include <fittings/platform/local_reg_store.h>
 

@@ -1,4 +1,4 @@
-// Random texts and files, from fixed seeds that a failure names.
+// Random texts and files. The seeds are fixed, and the message of a failure contains the seed.
 
 #include <fittings/platform/local_reg_store.h>
 
@@ -98,8 +98,8 @@ std::string AnyLine(Random& random)
     return line;
 }
 
-// Every file with the line [s] in it can be loaded, unless null characters damage this line. A save keeps all bytes of
-// the file. When one value changes, the file keeps its other values.
+// Every file with the line [s] in it can be loaded, unless null characters damage this line. Without a change, a save
+// keeps all bytes of the file. When one value changes, the file keeps its other values.
 TEST(ThousandsOfDirtyFiles, KeepWhatTheyHold)
 {
     constexpr unsigned kSeed = 77001;
@@ -125,7 +125,7 @@ TEST(ThousandsOfDirtyFiles, KeepWhatTheyHold)
             ASSERT_NE(bytes.find('\0'), std::string::npos) << "file " << file << ":\n" << bytes;
             continue;
         }
-        // Save() does not write a file that already has the right bytes. This saves the wait for the disk.
+        // Write the same bytes to b.ini first: Save() then has nothing to write, and does not wait for the disk.
         WriteFile(folder / "b.ini", bytes);
         ASSERT_TRUE(before.Save(folder / "b.ini"));
         ASSERT_EQ(ReadFile(folder / "b.ini"), bytes) << "file " << file;

@@ -1,4 +1,4 @@
-// The default store compares the file's timestamps to know whether its copy is out of date. These tests set the
+// The default store knows from the file's timestamps whether its copy in memory is out of date. These tests set the
 // timestamps and the clocks, so that two changes or two reads can fall into one tick.
 
 #include <filesystem>
@@ -60,7 +60,7 @@ extern "C" int clock_gettime(clockid_t clock, timespec* now) noexcept
 
 namespace {
 
-// A file whose timestamps never change, read once at a time that the test sets.
+// A file whose timestamps never change. The test sets the time at which the store reads the file.
 class AnUnchangedStamp : public testing::Test
 {
 protected:
@@ -106,8 +106,8 @@ TEST_F(AnUnchangedStamp, IsNotTrustedWhenTheClockWasPutBack)
     EXPECT_EQ(ReadAfterChange(), L"2");
 }
 
-// Some file systems keep only whole seconds, and some only even ones. Therefore a timestamp of whole seconds is trusted
-// only after two seconds.
+// Some file systems keep only whole seconds, and some only even seconds. Therefore a timestamp of whole seconds is
+// trusted only after two seconds.
 TEST_F(AnUnchangedStamp, OfWholeSecondsIsNotTrustedForTwoOfThem)
 {
     ReadOnce({1'700'000'000, 0}, {1'700'000'001, 996'000'000});
@@ -156,7 +156,7 @@ protected:
 
     std::string Path() const { return m_data / "settings.ini"; }
 
-    // Moves the file's folder to another place, and puts a new folder with another file in its old place.
+    // Moves the file's folder away, and makes a new folder with a new file at the old path.
     void ReplaceFolder(const std::string& bytes)
     {
         std::filesystem::rename(m_data.Path(), m_earlier / "moved");
