@@ -43,7 +43,7 @@ std::string DataFolder()
     return HomeFolder() + "/.local/share/fittings-test";
 }
 
-/// Returns the contents of every file in the data folder, by relative path.
+/// Returns the contents of every file in the data folder. The keys are the relative paths of the files.
 std::map<std::string, std::string> Files()
 {
     std::map<std::string, std::string> files;
@@ -64,7 +64,7 @@ protected:
         if (!own_home::IsThere())
             GTEST_SKIP() << "no right to mount a disk";
         EXPECT_EQ(std_file_paths::GetUserDataDir(), file_util_ex::ConvertFromUTF8W(DataFolder()));
-        // Settings from an earlier run of the application.
+        // These stand for the settings of an earlier run of the application.
         ASSERT_TRUE(CLocalRegStore::WriteString(L"Application", L"Before", L"kept"));
         ui_config_mgr::WriteConfigString(L"application.ini", L"Application", L"Before", L"kept too");
     }
@@ -90,7 +90,7 @@ protected:
         EXPECT_EQ(errno, GetParam().error);
     }
 
-    /// Expects all files to be as they were before the fault.
+    /// Expects all files to be as they were before the fault, and the earlier settings to be readable.
     void ExpectAllKept() const
     {
         EXPECT_EQ(Files(), m_before);

@@ -159,7 +159,7 @@ TEST_P(ClockJumps, DoNotDisturbATreeThatIsFilledWhileItIsLoaded)
 
 // --- Files -----------------------------------------------------------------------------------------------------------
 
-/// Sets the modification time of a file to @a seconds after the time of the changed clock.
+/// Sets the modification time of a file to the time of the changed clock plus @a seconds.
 void SetTime(const std::string& path, long seconds)
 {
     timespec now = {};
@@ -187,7 +187,7 @@ TEST_P(ClockJumps, HideNoChangeByAnotherProcess)
         clock.Jump(ahead);
         const std::wstring value = std::to_wstring(i);
         InChild([&] { EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", value.c_str())); });
-        // Give the file the time of the changed clock, as the system would.
+        // The system has given the file the true time. Give the file the time of the changed clock instead.
         SetTime(path, 0);
         EXPECT_EQ(Stored(L"s", L"k"), value);
         EXPECT_EQ(Stored(L"s", L"k"), value);
@@ -198,7 +198,7 @@ TEST_P(ClockJumps, HideNoChangeByAnotherProcess)
 }
 
 // Each change overwrites the file with the same number of bytes. Then the test sets the file's modification time: to
-// that of the first content, or to the time of a clock that has jumped.
+// the time of the first contents, or to the time of a clock that has jumped.
 TEST_P(ClockJumps, HideNoChangeInPlace)
 {
     TempUserData data;

@@ -1,6 +1,6 @@
 // home_probe REGISTERED [store]: prints the user data directory and the folder "Samples" of the application's
 // documents, one per line. The user's home folder in the password database is REGISTERED; with "none" the user is not
-// in the database. With "store" it first stores a value, and exits with 1 if that fails.
+// in the database. With "store", the program first stores a value, and its exit code is 1 if that fails.
 
 #include <cerrno>
 #include <cstdio>
@@ -22,7 +22,7 @@ std::string g_registered;
 
 }  // namespace
 
-// Replaces the C library's function: returns the home folder of the command line for every user.
+// Replaces the C library's function: returns REGISTERED as the home folder of every user.
 int getpwuid_r(uid_t user, passwd* entry, char* texts, std::size_t size, passwd** found)
 {
     static char nothing[] = "";

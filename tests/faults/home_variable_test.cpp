@@ -1,4 +1,4 @@
-// If HOME does not name a folder, nothing is stored in the current folder.
+// If HOME is not an absolute path, nothing is stored in the current folder.
 
 #include <filesystem>
 #include <optional>

@@ -1,8 +1,8 @@
 #ifndef FITTINGS_TESTS_FAULTS_JUMPING_CLOCK_H_
 #define FITTINGS_TESTS_FAULTS_JUMPING_CLOCK_H_
 
-/// Sets this process's time of day ahead of the true time by a number of seconds, or behind it, while the object
-/// exists. It works like setting the system clock. The monotonic clock does not change.
+/// While the object exists, this process's time of day is ahead of the true time by a number of seconds. A negative
+/// number sets it behind the true time. The monotonic clock does not change, as when the system clock is set.
 class JumpingClock
 {
 public:
@@ -11,7 +11,7 @@ public:
     JumpingClock(const JumpingClock&) = delete;
     JumpingClock& operator=(const JumpingClock&) = delete;
 
-    /// Sets a new offset.
+    /// Replaces the earlier number of seconds.
     void Jump(long secondsAhead);
 };
 

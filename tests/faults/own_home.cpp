@@ -19,8 +19,8 @@ std::string Home()
     return home ? home : "/nonexistent";
 }
 
-// If the system has no font cache, each program writes its own, which would fill the small disk. So the caches are on
-// another disk.
+// If the system has no font cache, each program writes its own cache, which would fill the small disk. Therefore the
+// caches are on another disk.
 bool MountCaches()
 {
     const std::string caches = Home() + "/.cache";

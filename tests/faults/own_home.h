@@ -9,7 +9,7 @@ namespace own_home {
 
 bool IsThere();
 
-/// Makes the disk refuse every change as a read-only mount does, or accept changes again.
+/// Mounts the disk read-only, or makes it writable again.
 void MakeReadOnly(bool isReadOnly);
 
 /// Fills the disk completely or removes what fills it.

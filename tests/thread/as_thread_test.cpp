@@ -1,4 +1,4 @@
-// The toolkit's own tests of wxThread, for the thread objects of this library.
+// The toolkit's own tests of wxThread, applied to the thread objects of this library.
 
 #include <atomic>
 #include <memory>

@@ -40,7 +40,7 @@ public:
     std::function<void()> whileQueueing;
 };
 
-// Returns whether another thread could take the mutex now.
+// Returns whether another thread can lock the mutex now.
 bool IsFree(wxMutex& mutex)
 {
     bool free = false;

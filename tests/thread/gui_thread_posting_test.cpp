@@ -20,8 +20,8 @@ using WorkerEx = Working<wxGUIThreadEx>;
 static_assert(std::is_base_of_v<wxThreadEx, wxGUIThread> && std::is_base_of_v<wxGUIThread, wxGUIThreadEx>);
 static_assert(std::is_abstract_v<wxGUIThread> && std::is_abstract_v<wxGUIThreadEx>);
 
-// Whether PostEvent() takes a literal 0 as its last argument. It must not: 0 converts to a long and to a null pointer
-// alike, so the call is ambiguous.
+// Whether PostEvent() accepts a literal 0 as its last argument. The call must be ambiguous, because 0 converts both to
+// a long and to a null pointer.
 template <typename Thread, typename = void>
 struct TakesZero : std::false_type
 {
@@ -41,7 +41,7 @@ struct TakesZeroEx<Thread, std::void_t<decltype(std::declval<Thread&>().PostEven
 static_assert(!TakesZero<wxGUIThread>::value);
 static_assert(!TakesZeroEx<wxGUIThreadEx>::value);
 
-// Runs @a work on a worker that is constructed with @a arguments, waits for its end, and delivers the posted events.
+// Runs @a work on a worker that is constructed with @a arguments. Waits for the worker, and delivers the posted events.
 template <typename Thread, typename Work, typename... Arguments>
 void RunAndDeliver(Work work, Arguments... arguments)
 {

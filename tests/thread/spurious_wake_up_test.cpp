@@ -1,4 +1,4 @@
-// A wait for a condition may end without a signal, as POSIX allows. Then the wait for a thread must go on.
+// POSIX allows a wait for a condition to end without a signal. Then wxThreadEx::Wait() must continue to wait.
 
 #include <atomic>
 #include <chrono>
@@ -16,9 +16,9 @@ std::atomic<int> g_wakeUpsToCome{0};
 
 }  // namespace
 
-// Replaces the standard library's wait for a condition. It waits in the same way, but returns early if a test has set
-// g_wakeUpsToCome. The thread object's condition is private, and the library should have no code that only this test
-// needs.
+// Replaces the standard library's wait for a condition. The replacement waits in the same way, but returns early if a
+// test has set g_wakeUpsToCome. A test cannot reach the thread object's private condition, and the library should have
+// no code that only this test needs.
 extern "C" void WaitForCondition(std::condition_variable* condition, std::unique_lock<std::mutex>* lock) __asm__(
     "_ZNSt18condition_variable4waitERSt11unique_lockISt5mutexE");
 

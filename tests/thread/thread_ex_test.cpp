@@ -95,8 +95,8 @@ TEST(Wait, IsRefusedBeforeRun)
     EXPECT_EQ(constructed.Wait(), Code(42));
 }
 
-// Expects that Wait() returns only after @a over is set. A program may end right after Wait(), so nothing may be left
-// to do on the thread.
+// Expects that Wait() returns only after @a over is set. A program may end right after Wait(), so the thread must then
+// have nothing left to do.
 void ExpectWaitBlocksUntil(Signal& over, Thread::Work work)
 {
     Thread thread(std::move(work), wxTHREAD_JOINABLE);
@@ -156,7 +156,7 @@ TEST(Detached, IsNotWaitedFor)
     EXPECT_EQ(thread.Wait(), Code(-1));
 }
 
-// A sanitizer reports it if the thread still uses the destroyed object.
+// If the thread still used the destroyed object, a sanitizer would report that.
 TEST(Detached, MayBeDestroyedOnceItHasEnded)
 {
     for (const bool waits : {true, false}) {

@@ -86,7 +86,7 @@ void NoRoom()
     Say("wait", Number(uncreated.Wait()));
 }
 
-// Ends by _exit(): the toolkit's shutdown would wait for the thread that was never run.
+// Ends the process with _exit(), because the toolkit's shutdown would wait for the thread that was never run.
 void Created()
 {
     {

@@ -1,4 +1,4 @@
-// Many workers and many events. The thread sanitizer watches these runs too.
+// Many workers and many events. These tests also run under the thread sanitizer.
 
 #include <fittings/thread/gui_thread.h>
 
@@ -35,7 +35,7 @@ public:
     std::vector<int> counts;
     int outOfOrder = 0;
     int total = 0;
-    std::atomic<int> handled{0};  ///< The total, for other threads.
+    std::atomic<int> handled{0};  ///< The same number as total, readable from other threads.
 };
 
 class Poster : public wxGUIThreadEx
@@ -59,8 +59,8 @@ private:
     const int m_count;
 };
 
-/// Posts until it is stopped, but never gets far ahead of the handler. Otherwise a slow GUI thread would do nothing but
-/// handle events, and the events would fill the memory.
+/// Posts events until it is stopped, but pauses while more than 100 of them are not handled yet. Otherwise the events
+/// would keep a slow GUI thread busy and fill the memory.
 class EndlessPoster : public wxGUIThreadEx
 {
 public:

@@ -47,7 +47,7 @@ public:
         return m_set;
     }
 
-    /// Waits for the event. Returns false when it did not happen within the deadline.
+    /// Waits for the event. Returns false if the event does not happen before the deadline.
     bool Wait()
     {
         std::unique_lock<std::mutex> lock(m_mutex);
@@ -65,7 +65,8 @@ inline std::string TaskFile(pid_t thread, const char* name)
     return "/proc/self/task/" + std::to_string(thread) + "/" + name;
 }
 
-/// Waits until the thread sleeps on a lock or condition and stays asleep. Returns false when that does not happen.
+/// Waits until the thread sleeps on a lock or condition and stays asleep. Returns false if that does not happen before
+/// the deadline of Becomes().
 inline bool IsBlocked(pid_t thread)
 {
     std::string last;
@@ -80,7 +81,8 @@ inline bool IsBlocked(pid_t thread)
     });
 }
 
-/// Waits until the system no longer knows the thread. Returns false when that does not happen.
+/// Waits until the system no longer knows the thread. Returns false if that does not happen before the deadline of
+/// Becomes().
 inline bool HasEnded(pid_t thread)
 {
     return Becomes([&] { return access(TaskFile(thread, "").c_str(), F_OK) != 0; });
@@ -148,8 +150,7 @@ private:
     Work m_work;
 };
 
-/// A running thread object. Its work ends with the code 42 when the test lets it go on, or when this object is
-/// destroyed.
+/// A running thread object. Its work ends with the code 42 when the test sets @a go or destroys this object.
 struct HeldThread
 {
     HeldThread()
