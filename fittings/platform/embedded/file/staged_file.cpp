@@ -35,9 +35,7 @@ constexpr int kMaxExchanges = 100;
 int MakeFile(const std::string& folder, std::string& path)
 {
     for (int attempt = 0; attempt < 1000; ++attempt) {
-        const std::string name = std::string(kPrefix) + GText(g_uuid_string_random(), g_free).get();
-        std::string made = folder;
-        made.append("/").append(name);
+        std::string made = folder + "/" + std::string(kPrefix) + GText(g_uuid_string_random(), g_free).get();
         const int file = open(made.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOCTTY, 0600);
         if (file >= 0) {
             path = std::move(made);
@@ -126,16 +124,6 @@ StagedFile::~StagedFile()
 {
     if (!m_path.empty())
         unlink(m_path.c_str());
-}
-
-PlaceResult StagedFile::Replace()
-{
-    return Rename(0);
-}
-
-PlaceResult StagedFile::PutNew()
-{
-    return Rename(RENAME_NOREPLACE);
 }
 
 PlaceResult StagedFile::Exchange()

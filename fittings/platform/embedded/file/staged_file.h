@@ -1,6 +1,7 @@
 #ifndef FITTINGS_PLATFORM_EMBEDDED_FILE_STAGED_FILE_H_
 #define FITTINGS_PLATFORM_EMBEDDED_FILE_STAGED_FILE_H_
 
+#include <cstdio>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -36,10 +37,10 @@ public:
     bool IsWritten() const { return m_isWritten; }
 
     /// Puts the new file at the target, whether there is a file or not.
-    PlaceResult Replace();
+    PlaceResult Replace() { return Rename(0); }
 
     /// Puts the new file at the target, where no file may exist.
-    PlaceResult PutNew();
+    PlaceResult PutNew() { return Rename(RENAME_NOREPLACE); }
 
     /// Exchanges the new file and the target. The displaced file then has the temporary name.
     PlaceResult Exchange();

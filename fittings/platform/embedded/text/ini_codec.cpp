@@ -105,20 +105,14 @@ bool MustQuote(std::wstring_view text)
            std::any_of(text.begin(), text.end(), [](wchar_t unit) { return MustEscape(static_cast<char32_t>(unit)); });
 }
 
-struct ShortEscape
-{
-    char32_t code;
-    char letter;
-};
-
-constexpr ShortEscape kShortEscapes[] = {{'\n', 'n'}, {'\t', 't'}, {'\r', 'r'}, {'\\', '\\'}, {'"', '"'}};
+// Characters and the letters that stand for them after a backslash.
+constexpr std::pair<char32_t, char> kShortEscapes[] = {{'\n', 'n'}, {'\t', 't'}, {'\r', 'r'}, {'\\', '\\'}, {'"', '"'}};
 
 void AppendQuoted(std::string& out, char32_t code)
 {
-    for (const ShortEscape& escape : kShortEscapes) {
-        if (escape.code == code) {
-            out += '\\';
-            out += escape.letter;
+    for (const auto& [escaped, letter] : kShortEscapes) {
+        if (escaped == code) {
+            out.append(1, '\\').append(1, letter);
             return;
         }
     }
@@ -131,9 +125,9 @@ void AppendQuoted(std::string& out, char32_t code)
 // Reads an escaped character. Its backslash is the first character of @a text.
 std::optional<Decoded> ReadEscape(std::string_view text)
 {
-    for (const ShortEscape& escape : kShortEscapes) {
-        if (text.size() > 1 && escape.letter == text[1])
-            return Decoded{escape.code, 2};
+    for (const auto& [escaped, letter] : kShortEscapes) {
+        if (text.size() > 1 && letter == text[1])
+            return Decoded{escaped, 2};
     }
     return ReadNumber(text, "\\x", "\\u{");
 }

@@ -8,27 +8,13 @@ DecodedUtf8 DecodeMultibyte(std::string_view text)
 {
     const auto byteAt = [text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
     const unsigned char lead = byteAt(0);
-    std::size_t length = 0;
-    char32_t code = 0;
-    // Bounds of the second byte: they exclude overlong forms, surrogates and codes above U+10FFFF.
-    unsigned char low = 0x80;
-    unsigned char high = 0xBF;
-    if (lead >= 0xC2 && lead <= 0xDF) {
-        length = 2;
-        code = lead & 0x1F;
-    } else if (lead >= 0xE0 && lead <= 0xEF) {
-        length = 3;
-        code = lead & 0x0F;
-        low = lead == 0xE0 ? 0xA0 : 0x80;
-        high = lead == 0xED ? 0x9F : 0xBF;
-    } else if (lead >= 0xF0 && lead <= 0xF4) {
-        length = 4;
-        code = lead & 0x07;
-        low = lead == 0xF0 ? 0x90 : 0x80;
-        high = lead == 0xF4 ? 0x8F : 0xBF;
-    } else {
+    if (lead < 0xC2 || lead > 0xF4)
         return {std::nullopt, 1};
-    }
+    const std::size_t length = lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+    char32_t code = lead & (0xFF >> (length + 1));
+    // Bounds of the second byte: they exclude overlong forms, surrogates and codes above U+10FFFF.
+    unsigned char low = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
+    unsigned char high = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
     for (std::size_t i = 1; i < length; ++i) {
         if (i == text.size() || byteAt(i) < low || byteAt(i) > high)
             return {std::nullopt, i};
