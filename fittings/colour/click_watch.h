@@ -10,13 +10,13 @@ class wxWindow;
 
 namespace fittings {
 
-/// Grabs the pointer from Start() to Stop(), while a popup is opening, as the toolkit does while a popup is open.
-/// Meanwhile clicks have no effect outside the owner: neither on other windows of this program, nor on title bars, nor
-/// on other programs.
+/// Grabs the pointer from Start() to Stop(). The toolkit itself grabs it only while a popup is open, not while the
+/// popup is opening. During the grab, a click outside the owner has no effect on other windows of this program, on
+/// title bars or on other programs.
 class ClickWatch : public wxEventFilter
 {
 public:
-    /// Calls @a onClick at a click of any mouse button outside @a owner or on one of its children.
+    /// During the grab, a click of any mouse button outside @a owner or on one of its children calls @a onClick.
     ClickWatch(wxWindow& owner, std::function<void()> onClick) : m_owner(owner), m_onClick(std::move(onClick)) {}
     ~ClickWatch() override { Stop(); }
 
@@ -29,7 +29,7 @@ public:
     void Stop();
 
     /// Calls the callback for a click that the toolkit reports on a child of the owner or outside the program. Drops
-    /// such a click and every turn of the wheel. Skips a click on the owner itself and all other events.
+    /// such a click and every turn of the wheel. The toolkit handles a click on the owner itself and all other events.
     int FilterEvent(wxEvent& event) override;
 
     /// Calls the callback.

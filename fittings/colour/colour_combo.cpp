@@ -25,7 +25,7 @@ constexpr int kFocusInset = 3;
 wxBitmap CopyOfScreen(const wxRect& rect)
 {
     wxScreenDC screen;
-    // Tell Cairo that the screen has changed. It does not notice what other programs draw, and would copy stale pixels.
+    // Tell Cairo that the screen has changed. Cairo does not notice what other programs draw: it would copy old pixels.
     if (void* const context = screen.GetImpl()->GetCairoContext())
         cairo_surface_mark_dirty(cairo_get_target(static_cast<cairo_t*>(context)));
     wxBitmap bitmap(rect.GetSize());
@@ -35,7 +35,7 @@ wxBitmap CopyOfScreen(const wxRect& rect)
     return bitmap;
 }
 
-// Returns whether the window or one of its ancestors is being deleted, or will be as soon as no event is being handled.
+// Returns whether the window or one of its ancestors is being deleted or is scheduled for deletion.
 bool IsScheduledForDeletion(wxWindow* window)
 {
     return window && (window->IsBeingDeleted() || wxTheApp->IsScheduledForDestruction(window) ||
@@ -50,8 +50,8 @@ wxEND_EVENT_TABLE()
 
 wxColourCombo::wxColourCombo() : m_clicks(std::make_unique<fittings::ClickWatch>(*this, [this] { DismissOpening(); }))
 {
-    // Drop keys during the animation. They belong to the opening popup, and must not close the dialog that contains the
-    // control.
+    // Drop keys during the animation. The user means them for the opening popup: they must not close the dialog that
+    // contains the control.
     Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) { event.Skip(!m_animTimer.IsRunning()); });
 }
 
@@ -74,14 +74,14 @@ bool wxColourCombo::CreateWithColour(wxWindow* parent, wxWindowID id, const wxCo
 
 wxColourCombo::~wxColourCombo()
 {
-    // A popup that was closed during the animation has not reported its end. Mark the popup as opening, so that
-    // HidePopup() reports the end.
+    // A popup that was closed during the animation has not reported the end of the selection. Set the state Animating,
+    // so that HidePopup() reports the end.
     if (m_animTimer.IsRunning() && IsPopupWindowState(Hidden))
         m_popupWinState = Animating;
     m_animTimer.Stop();
     m_clicks->Stop();
-    // Announce the destruction and close the popup here, not in the base. A listener may call Destroy() now, and
-    // Destroy() must find that the control is already being deleted.
+    // Announce the destruction and close the popup here, not in the destructor of the base class. A listener may call
+    // Destroy() at this point, and Destroy() must find that the control is already being deleted.
     SendDestroyEvent();
     wxColourCombo::HidePopup(true);
 }
@@ -131,16 +131,16 @@ void wxColourCombo::ShowPopup()
 {
     if (!GetPopupControl() || m_animTimer.IsRunning())
         return;
-    // Store the typed text as the value. Otherwise wxComboCtrl would see no change, and do nothing, when the old value
-    // is set again.
+    // Store the typed text as the value. Otherwise, when the old value is set again, wxComboCtrl would find no
+    // difference and do nothing.
     m_valueString = GetValue();
     wxComboCtrl::ShowPopup();
 }
 
 void wxColourCombo::HidePopup(bool generateEvent)
 {
-    // During the animation, only mark the popup as hidden. The next step of the animation shows the popup, and the
-    // popup reports its end when it closes.
+    // During the animation, only mark the popup as hidden. The next step of the animation then shows the popup. The
+    // popup reports the end of the selection when it is closed later.
     if (m_animTimer.IsRunning() && !IsScheduledForDeletion(this))
         m_popupWinState = Hidden;
     else
@@ -265,7 +265,8 @@ void wxColourCombo::EndAnimation(wxWindow& popup)
     const bool animated = m_animTimer.IsRunning();
     m_animTimer.Stop();
     m_clicks->Stop();
-    // If the popup was closed during the animation, show it anyway. The base shows only a popup that is being opened.
+    // If the popup was closed during the animation, show it anyway. The base class shows a popup only in the state
+    // Animating.
     if (animated && IsPopupWindowState(Hidden)) {
         m_popupWinState = Animating;
         m_winPopup->Enable();

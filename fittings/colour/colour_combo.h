@@ -39,36 +39,40 @@ class OutlineWindow;
 /// @endcode
 ///
 /// It is a combo control whose popup opens with an animation: a black outline grows from the middle of the popup's
-/// place to its full size. The constructor with a colour and Create() with a colour make the popup, a wxColourPopup. To
-/// use another popup, make the control without a colour and call SetPopupControl().
+/// place to the full size of the popup. The constructor with a colour and Create() with a colour make the popup, a
+/// wxColourPopup. To use another popup, make the control without a colour and call SetPopupControl().
 ///
 /// The face shows the colour in effect. Tab moves the focus to the control; F4 and Alt+Down open the popup. These keys
-/// work with wxCB_READONLY too, although the toolkit's own combo control then refuses the focus. While the control is
-/// closed, has the focus and is read-only, Up and Down choose the previous and the next colour. The mouse wheel does
-/// the same. The order is "Automatic", then the grid row by row.
+/// work with wxCB_READONLY too, although the toolkit's own combo control refuses the focus with that style. While the
+/// control is closed, has the focus and is read-only, Up chooses the previous colour and Down the next one. The mouse
+/// wheel does the same. The order of the colours is "Automatic", then the grid row by row.
 ///
-/// The events are those of wxColourPickerCtrl, with the control's id. The popup's listener is called before each event
-/// is sent:
+/// The popup's listener is called before each event is sent. The events are those of wxColourPickerCtrl, with the
+/// control's id:
 /// - wxEVT_COLOURPICKER_CURRENT_CHANGED, with the colour of each cell that becomes hot while the popup is open.
 /// - wxEVT_COLOURPICKER_CHANGED, with the colour that was chosen, even if it is the one that was in effect.
 /// - wxEVT_COLOURPICKER_DIALOG_CANCELLED, with the colour that stays, when the popup closes without a choice or the
-///   dialog of "More Colours..." is cancelled. A control that is being destroyed sends none.
+///   dialog of "More Colours..." is cancelled.
 ///
-/// A screen reader announces the label of the control and then the name of the colour in effect. The label is the
-/// static text that is created just before the control, or the text of SetLabel(). The mnemonic of that static text
-/// leads to the control. While the popup is open, a screen reader announces the name of each hot cell.
+/// A control that is being destroyed sends none of these three events.
+///
+/// A screen reader announces the label of the control and the colour in effect. The label is the static text that is
+/// created just before the control, or the text of SetLabel(). The mnemonic of that static text moves the focus to the
+/// control. While the popup is open, a screen reader announces the text of each cell that becomes hot.
 ///
 /// Where a program cannot place its windows or copy the screen, as on Wayland, the popup opens without an animation.
-/// Closing the popup while the animation runs ends the animation and shows the popup. The listener and the events
-/// report an end only when the popup closes again. A click outside the control, or in its text field, also ends the
-/// animation, and dismisses the popup as soon as it is shown. Keys have no effect during the animation.
-/// EnablePopupAnimation(false) turns the animation off.
+/// Closing the popup during the animation ends only the animation: the popup is then shown. The listener and the events
+/// report the end of the selection only when the shown popup is closed. A click outside the control, or in its text
+/// field, also ends the animation; the popup is then shown and dismissed at once. Keys have no effect during the
+/// animation. EnablePopupAnimation(false) turns the animation off.
 ///
 /// wxEVT_COMBOBOX_DROPDOWN is sent when the popup opens. wxEVT_COMBOBOX_CLOSEUP is sent when the popup is dismissed
 /// from outside, but not when the popup closes itself because a colour was chosen or the selection was cancelled. The
-/// popup's listener is called in both cases. The value of the control is the name of a colour. As in the toolkit,
-/// wxEVT_TEXT is sent only by a control with a text field. If the button or Dismiss() closes the popup while a cell is
-/// hot, the field sends wxEVT_TEXT twice: with the name of that cell, and then with its old text.
+/// popup's listener is called in all these cases.
+///
+/// The value of the control is the text of a cell, such as the name of a colour. As in the toolkit, wxEVT_TEXT is sent
+/// only by a control with a text field. If the button or Dismiss() closes the popup while a cell is hot, the field
+/// sends wxEVT_TEXT twice: with the text of that cell, and then with the old text of the field.
 ///
 /// Use dynamic_cast: wxDynamicCast() to wxColourCombo or wxColourPopup would succeed for other objects too. The
 /// toolkit's class information does not distinguish wxColourCombo from wxComboCtrl, nor wxColourPopup from wxWindow.
@@ -80,7 +84,7 @@ public:
     /// Makes the object; Create() makes the control.
     wxColourCombo();
 
-    /// Makes the control and its popup. @a colour becomes the colour in effect; black replaces an invalid one. The
+    /// Makes the control and its popup. @a colour becomes the colour in effect, or black if @a colour is invalid. The
     /// other parameters are those of wxComboCtrl. If @a style lacks wxCB_READONLY, the control has a text field for the
     /// colour's name.
     wxColourCombo(wxWindow* parent, wxWindowID id, const wxColour& colour = *wxBLACK,
@@ -94,7 +98,7 @@ public:
     /// it.
     using wxComboCtrl::Create;
 
-    /// Makes the control and its popup as the constructor with a colour does. The object must be one that the default
+    /// Makes the control and its popup as the constructor with a colour does. Call it on an object that the default
     /// constructor has made.
     ///
     /// @a colour must be a wxColour. A call with a string in its place is a call of the toolkit's Create(), which shows
@@ -113,9 +117,9 @@ public:
 
     /// Makes @a colour the colour in effect. A string is converted as by wxColour::Set().
     ///
-    /// The face, the text, the chosen cell and the mark of "Automatic" change at once, and no event is sent. If this is
-    /// called while the popup is open, @a colour stays in effect if the user chooses nothing. Returns false and changes
-    /// nothing for an invalid colour and while there is no wxColourPopup.
+    /// The face, the text, the chosen cell and the mark of "Automatic" change at once, and no event is sent. The popup
+    /// may be open: @a colour then stays in effect if the user chooses nothing. Returns false and changes nothing for
+    /// an invalid colour and while there is no wxColourPopup.
     bool SetColour(const wxColour& colour);
 
     /// Sets the colour that "Automatic" stands for; black at first. Marks "Automatic" if that colour is the one in
@@ -124,11 +128,11 @@ public:
     /// Returns false and changes nothing for an invalid colour and while there is no wxColourPopup.
     bool SetAutomaticColour(const wxColour& colour);
 
-    /// Returns the popup, for its other settings; null while there is none or it is not a wxColourPopup.
+    /// Returns the popup, which has more settings; null while there is no wxColourPopup.
     wxColourPopup* GetPopup() const;
 
-    /// Hides the control and deletes it once no event is being handled, so a listener of its popup may call this. Do
-    /// not delete the control in another way from a handler of one of its own events.
+    /// Hides the control and deletes it as soon as no event is being handled. A listener of its popup may therefore
+    /// call this function. A handler of one of the control's events must not delete the control in another way.
     bool Destroy() override;
 
     /// Sends wxEVT_COMBOBOX_DROPDOWN and opens the popup. Does nothing during the animation.
@@ -137,19 +141,19 @@ public:
     /// Opens the popup. Does nothing during the animation. Without a popup, asserts and does nothing.
     void ShowPopup() override;
 
-    /// Closes the popup. A popup that is still opening is shown anyway.
+    /// Closes the popup. During the animation, ends only the animation: the popup is then shown.
     void HidePopup(bool generateEvent = false) override;
 
-    /// Excludes the popup from the children that take the focus for the control. Otherwise the control would refuse the
-    /// focus.
+    /// Excludes the popup from the children that can take the focus in place of the control. Otherwise the control
+    /// itself would refuse the focus.
     bool IsClientAreaChild(const wxWindow* child) const override;
 
     /// Describes the control to assistive technologies: its label, and the hot cell or the colour in effect.
     void OnInternalIdle() override;
 
     /// Makes one step of the animation; the last step shows the popup. The event is not used. The control calls this
-    /// when the animation starts, and at each tick of the animation's timer. The host's handlers receive these ticks
-    /// too.
+    /// function when the animation starts, and at each tick of the animation's timer. The host's handlers receive these
+    /// ticks too.
     void OnTimerEvent(wxTimerEvent& event);
 
 protected:
@@ -164,18 +168,18 @@ protected:
     /// Makes a step when the animation's timer ticks, whatever handlers the host has bound.
     bool TryBefore(wxEvent& event) override;
 
-    /// Draws the button. Also draws the focus rectangle on it while a control without a text field is closed and has
-    /// the focus, because the face shows only the colour.
+    /// Draws the button. If the control is closed, has the focus and has no text field, also draws the focus rectangle
+    /// on the button, because the face shows only the colour.
     void DrawButton(wxDC& dc, const wxRect& rect, int flags) override;
 
-    /// Returns the outline after @a elapsed milliseconds, from 0 to m_animDuration, in screen coordinates. Its width is
-    /// a multiple of 1/256 of the popup's width, rounded down to pixels.
+    /// Returns the outline after @a elapsed milliseconds, in screen coordinates. @a elapsed is from 0 to
+    /// m_animDuration. The width of the outline is a multiple of 1/256 of the popup's width, rounded down to pixels.
     wxRect OutlineAt(int elapsed) const;
 
     wxLongLong m_animStart;    ///< When the animation began, in milliseconds of local time.
-    wxTimer m_animTimer;       ///< Ticks once for each step.
+    wxTimer m_animTimer;       ///< Each tick makes a step.
     wxRect m_animRect;         ///< Where the popup will be on the screen.
-    wxBitmap m_animBitmap;     ///< What the screen showed in m_animRect.
+    wxBitmap m_animBitmap;     ///< What the screen showed in m_animRect at the start.
     int m_animFlags = 0;       ///< The flags for DoShowPopup().
     int m_animDuration = 200;  ///< Milliseconds.
 

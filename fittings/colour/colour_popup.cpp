@@ -43,8 +43,8 @@ wxSize TextExtent(wxDC& dc, const wxString& text)
     return text.empty() ? wxSize(0, 0) : dc.GetTextExtent(text);
 }
 
-// Returns the place for the popup. This is @a at, moved left or right until the popup is on the screen. If the popup
-// would extend below the screen, the place is higher by the heights of the popup and of @a parent.
+// Returns the place for the popup: @a at, moved left or right if the popup would extend beyond a side of the screen. If
+// the popup would extend below the screen, the place is higher by the sum of the heights of the popup and @a parent.
 wxPoint FitToScreen(wxPoint at, const wxSize& size, const wxWindow& parent)
 {
     int screenWidth = 0;
@@ -225,8 +225,8 @@ void wxColourPopup::FindCellFromColour(const wxColour& colour)
 
 wxString wxColourPopup::GetStringValue() const
 {
-    // After a cancel, the combo asks for its value when it hides the popup. Return the value to restore. If this
-    // returned the name of the hot cell, a text field would report a colour that was not chosen, and then its old text.
+    // While DoEndSel() hides the popup, the combo calls this function. Return the value that DoEndSel() restores next.
+    // With the name of the hot cell, a text field would report a colour that was not chosen, and then the old text.
     if (m_isClosingAfterCancel && m_valueWhenShown)
         return *m_valueWhenShown;
     return TextOf(m_nCurrentSel);

@@ -45,19 +45,22 @@ public:
 /// combo->GetPopup()->SetColorListener(this);
 /// @endcode
 ///
-/// To use a class that is derived from this one, pass an object to wxComboCtrl::SetPopupControl().
+/// To use a class that is derived from this one, pass an object of that class to wxComboCtrl::SetPopupControl().
 ///
-/// Make all settings but the colour before the popup is shown. The colour that the user chooses becomes the initial
-/// colour; the listener and the combo's wxEVT_COLOURPICKER_CHANGED report it. A cell is identified by its index: 0 to
-/// 39 for a colour of the palette, otherwise CELL_NONE, CELL_MORE_COLOURS or CELL_AUTOMATIC. The *hot* cell is the one
-/// under the pointer or reached by the keyboard. The *chosen* cell is the cell of the colour in effect.
+/// Change the settings, except the colour, before the popup is shown. The colour that the user chooses becomes the
+/// colour in effect, which is also called the initial colour. The listener and the combo's wxEVT_COLOURPICKER_CHANGED
+/// report it.
 ///
-/// The texts are in the language that is set when the popup is made. The names of the colours are in the language that
-/// was set at the first call of GetColourTable(). The first popup of the process makes this call at the latest.
+/// A cell is identified by its index: 0 to 39 for a colour of the palette, otherwise CELL_NONE, CELL_MORE_COLOURS or
+/// CELL_AUTOMATIC. The *hot* cell is the one that the pointer or the keyboard reached last. The *chosen* cell is the
+/// cell of the colour in effect.
+///
+/// The texts of the boxes are in the language that is set when the popup is made. The names of the colours are in the
+/// language that was set at the first call of GetColourTable(). The constructor of a popup calls GetColourTable() too.
 ///
 /// While the popup is open, it handles its keys before a dialog can: Escape closes the popup and not the dialog.
 ///
-/// The combo owns the popup from SetPopupControl() on. GUI thread only.
+/// From SetPopupControl() on, the combo owns the popup. GUI thread only.
 class FITTINGS_API wxColourPopup : public wxWindow, public wxComboPopup
 {
 public:
@@ -79,8 +82,8 @@ public:
     /// "Automatic". The listener is not called, and no event is sent. Returns false and changes nothing for an invalid
     /// colour.
     ///
-    /// It may be called at any time. While the popup is open, @a colour stays in effect if the user chooses nothing. A
-    /// listener or event handler that is notified of a chosen colour may call it: @a colour then replaces the chosen
+    /// It may be called at any time. If the popup is open and the user then chooses nothing, @a colour stays in effect.
+    /// A listener or event handler that is notified of a chosen colour may call it: @a colour then replaces the chosen
     /// one.
     bool SetColour(const wxColour& colour);
 
@@ -135,12 +138,12 @@ public:
     /// of a box that is present, the result is that box, whatever the other coordinate is.
     int GetIndex(int row, int col) const;
 
-    /// Marks the cell of @a colour as chosen: the first cell of the palette with exactly this colour and opacity,
-    /// otherwise "More Colours...". Marks none if that box is absent.
+    /// Marks the cell of @a colour as chosen: the first cell of the palette with exactly this colour and opacity. If
+    /// there is no such cell, marks "More Colours...", or no cell if that box is absent.
     ///
-    /// If no cell was chosen and @a colour is the default colour, "Automatic" becomes chosen instead, unless its box
-    /// is absent. If "Automatic" was chosen, it stays chosen whatever @a colour is, so a user who chose it finds it
-    /// marked again.
+    /// If no cell was chosen and @a colour is the default colour, "Automatic" becomes chosen instead, provided that its
+    /// box is present. If "Automatic" was chosen, it stays chosen whatever @a colour is, so a user who chose it finds
+    /// it marked again.
     void FindCellFromColour(const wxColour& colour);
 
     /// Returns the text of the hot cell; empty when no cell is hot.
@@ -167,8 +170,8 @@ public:
     /// Creates the window. The combo calls it.
     bool Create(wxWindow* parent) override;
 
-    /// Lays out the popup and moves the window to the position of @a rect, or to one where it fits on the screen. The
-    /// size of @a rect is ignored. Does nothing before Create().
+    /// Lays out the popup and moves the window to the position of @a rect, or to a position where the window fits on
+    /// the screen. The size of @a rect is ignored. Does nothing before Create().
     void SetWindowSize(const wxRect& rect);
 
     /// Stores the rectangle of a cell in @a rect and returns true. If there is no such cell, returns false and leaves
@@ -184,7 +187,7 @@ public:
     wxWindow* GetControl() override { return this; }
     /// @}
 
-    /// Describes the hot cell, or else the colour in effect, to assistive technologies.
+    /// Describes the hot cell to assistive technologies, or the colour in effect if no cell is hot.
     void OnInternalIdle() override;
 
     /// @name Drawing
@@ -212,41 +215,42 @@ public:
     /// @name Mouse and keyboard
     /// @{
 
-    /// Called when the combo shows the popup. Marks the cell of the colour in effect as chosen, makes no cell hot,
-    /// removes the name at the pointer, and notifies the listener.
+    /// Called when the combo shows the popup. Marks the cell of the colour in effect as chosen, sets the hot cell to
+    /// CELL_NONE, removes the tooltip, and notifies the listener.
     void OnPopup() override;
 
-    /// Called when the combo hides the popup. Notifies the listener that nothing was chosen, and has the combo send its
-    /// event. Does nothing if the popup hides itself or is just notifying the listener of the end of the selection.
+    /// Called when the combo hides the popup. Restores the combo's value, notifies the listener that nothing was
+    /// chosen, and has the combo send wxEVT_COLOURPICKER_DIALOG_CANCELLED. Does nothing while the popup hides itself or
+    /// reports the end of the selection.
     void OnDismiss() override;
 
-    /// Makes a cell hot, redraws it and notifies the listener. An index above the number of the palette's cells counts
-    /// as CELL_MORE_COLOURS. Any other index that is not a cell is kept; no cell looks hot then, and the reported
-    /// colour is the one in effect.
+    /// Makes a cell hot, redraws the old and the new hot cell, and notifies the listener. An index above the number of
+    /// the palette's cells counts as CELL_MORE_COLOURS. Any other index that is not a cell is stored as it is: no cell
+    /// looks hot then, and the reported colour is the one in effect.
     void ChangeSelection(int index);
 
-    /// Notifies the listener of the hot cell's colour. While the popup is open, the combo sends its event. Redraws the
-    /// combo if GetRefreshCombo() is true.
+    /// Notifies the listener of the hot cell's colour. While the popup is open, the combo then sends
+    /// wxEVT_COLOURPICKER_CURRENT_CHANGED. Redraws the combo if GetRefreshCombo() is true.
     void DoSelChange();
 
-    /// Ends the selection. If @a ok, the colour of the hot cell is chosen; for CELL_MORE_COLOURS, the dialog asks for
-    /// the colour. Otherwise the colour in effect stays.
+    /// Ends the selection. If @a ok is true, the colour of the hot cell is chosen; for CELL_MORE_COLOURS, the dialog
+    /// asks for the colour. If @a ok is false, the colour in effect stays.
     void EndSelection(bool ok);
 
-    /// Makes a chosen colour the initial colour, notifies the listener of the end, has the combo send its event, and
-    /// closes the popup.
+    /// Ends the selection. If @a ok is true, makes the chosen colour the initial colour. Notifies the listener of the
+    /// end, has the combo send the event for it, and closes the popup.
     void DoEndSel(bool ok);
 
     /// Asks for a colour in the toolkit's dialog, which starts with the colour in effect. The colour of the dialog
     /// becomes the one in effect, unless the dialog is cancelled.
     void DoShowColorDlg();
 
-    /// Makes the cell under the pointer hot. If there is none, the hot cell does not change.
+    /// Makes the cell under the pointer hot. If the pointer is not over a cell, the hot cell does not change.
     ///
     /// The areas that react to the pointer differ from the drawn ones. The areas of the boxes lie one margin further
-    /// right. The area of "Automatic" lies one margin lower, and that of "More Colours..." one margin higher. Below an
-    /// "Automatic" box, the areas of the palette's cells lie one margin higher, so the lowest pixels of a cell belong
-    /// to the cell below.
+    /// right. The area of "Automatic" lies one margin lower, and that of "More Colours..." one margin higher. If there
+    /// is an "Automatic" box, the areas of the palette's cells lie one margin higher, so the lowest pixels of a cell
+    /// belong to the cell below.
     void OnMouseMove(wxMouseEvent& event);
 
     /// Ends the selection. Anywhere within the popup, even between the cells, the colour of the hot cell is chosen.
@@ -263,8 +267,8 @@ public:
 
     /// Handles a key of the combo while the popup is closed and the combo has the focus. With wxCB_READONLY, Up chooses
     /// the colour before the one in effect and Down the one after it. The listener is notified of the choice, and the
-    /// combo sends its event. Up does nothing at the first cell and Down nothing at the last one; neither moves the
-    /// focus. Other keys are skipped.
+    /// combo sends wxEVT_COLOURPICKER_CHANGED. Up at the first cell and Down at the last one do nothing. Neither key
+    /// moves the focus. Other keys, and keys with a modifier, are skipped.
     void OnComboKeyEvent(wxKeyEvent& event) override;
     /// @}
 
@@ -279,7 +283,7 @@ protected:
     int m_nNumColumns;                  ///< Columns of the grid.
     int m_nNumRows;                     ///< Rows of the grid.
     int m_nBoxSize;                     ///< The side of a cell of the palette.
-    int m_nMargin;                      ///< The unit of all distances.
+    int m_nMargin;                      ///< The margin around and between the parts.
     int m_nChosenColourSel;             ///< The chosen cell.
     int m_nCurrentSel;                  ///< The hot cell.
     wxFont m_font;                      ///< The font of the boxes.
@@ -287,7 +291,7 @@ protected:
     wxColour m_crInitialColour;         ///< The colour in effect.
     wxColour m_crDefaultColour;         ///< What "Automatic" stands for.
     wxColorPopupListener* m_pListener;  ///< Not owned.
-    bool m_bRefreshCombo;               ///< Whether the combo is redrawn with each hot cell.
+    bool m_bRefreshCombo;               ///< Whether the combo is redrawn when another cell becomes hot.
     bool m_bInternalHide;               ///< True while the popup hides itself or restores the combo's value.
     wxWindow* m_pCenterOn;              ///< Not owned.
     wxString m_strToolTip;              ///< The name that is shown at the pointer.
@@ -314,9 +318,9 @@ private:
     /// True while the listener and the event handlers are notified of the end of the selection.
     bool m_ending = false;
     bool m_isClosingAfterCancel = false;
-    bool m_dialogCancelled = false;            ///< True from a cancelled dialog to the end of the selection.
-    std::optional<wxString> m_valueWhenShown;  ///< What the combo gets back if nothing is chosen; none while closed.
-    /// Weak pointers to this expire when the popup is destroyed.
+    bool m_dialogCancelled = false;            ///< True after the dialog was cancelled, until the selection ends.
+    std::optional<wxString> m_valueWhenShown;  ///< The value to restore if nothing is chosen; none while closed.
+    /// Weak pointers to this object expire when the popup is destroyed.
     const std::shared_ptr<const bool> m_life = std::make_shared<const bool>(true);
 
     wxDECLARE_EVENT_TABLE();

@@ -63,7 +63,7 @@ void DrawRaisedEdge(wxDC& dc, const wxRect& rect)
     DrawRightBottom(dc, inner, Shadow());
 }
 
-// Draws a sunken edge: only the left and the top have the outermost lines.
+// Draws a sunken edge of three rings. The outermost ring is drawn only at the left and at the top.
 void DrawSunkenEdge(wxDC& dc, const wxRect& rect)
 {
     DrawLeftTop(dc, rect, Shadow());

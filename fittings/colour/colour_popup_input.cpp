@@ -18,8 +18,8 @@ namespace {
 // Expires when the popup is destroyed: a listener may destroy the control and with it the popup.
 using Life = std::weak_ptr<const bool>;
 
-// Sets a flag of the popup. Clears it at the end of the scope, even if the listener throws, but not if the popup was
-// destroyed meanwhile.
+// Sets a flag of the popup. Clears it at the end of the scope, even if the listener throws, but not if the popup has
+// been destroyed by then.
 class ScopedFlag
 {
 public:
@@ -76,7 +76,7 @@ int FirstPresent(std::initializer_list<int> cells)
     return CELL_NONE;
 }
 
-// Centres the dialog on the window itself; the toolkit's Centre() would use its top-level window.
+// Centres the dialog on @a window itself. The toolkit's Centre() uses the top-level window that contains @a window.
 void CentreOn(const wxWindow& window, wxDialog& dialog)
 {
     dialog.Centre(wxBOTH);
@@ -111,7 +111,7 @@ void wxColourPopup::OnPopup()
 {
     FindCellFromColour(m_crInitialColour);
     m_nCurrentSel = CELL_NONE;
-    // Remove the old name: the pointer may now be over another cell than the one that was hot when the popup closed.
+    // Remove the old name: the pointer may no longer be over the cell that was hot when the popup closed.
     ShowNameAtPointer("");
     // While no cell is hot, Enter or a click chooses the colour in effect.
     m_crColour = m_crInitialColour;
@@ -304,8 +304,8 @@ bool wxColourPopup::HideCombo()
     return !life.expired();
 }
 
-// Restores the combo's value, which closing the popup has set to the name of the hot cell. Otherwise the combo would
-// pass that name when the popup opens again, and Enter would choose a colour that the user has not chosen.
+// Restores the combo's value, because closing the popup has made the name of the hot cell the value. The combo would
+// pass that name when the popup opens again, and Enter would then choose a colour that the user has not chosen.
 void wxColourPopup::RestoreValue()
 {
     const std::optional<wxString> kept = std::exchange(m_valueWhenShown, std::nullopt);
@@ -318,8 +318,8 @@ void wxColourPopup::RestoreValue()
 
 void wxColourPopup::OnMouseMove(wxMouseEvent& event)
 {
-    // Shift the point by one margin, because the grid begins one margin inside the popup. The rectangles of the boxes
-    // contain that margin, but are compared with the shifted point too, and the margin below "Automatic" is not
+    // Shift the point by one margin, because the grid begins one margin inside the popup. The positions of the boxes
+    // include that margin, but the boxes are compared with the shifted point too. The margin below "Automatic" is not
     // subtracted. The areas therefore differ from what is drawn, as the header says.
     wxPoint point(event.GetX() - m_nMargin, event.GetY() - m_nMargin);
     int target = CELL_NONE;
@@ -394,10 +394,10 @@ void wxColourPopup::OnComboKeyEvent(wxKeyEvent& event)
     ChooseClosed(CellBeside(isDown ? 1 : -1));
 }
 
-// Returns the cell after the chosen one if @a step is above 0, otherwise the cell before it. The order is "Automatic",
-// then the grid row by row. Returns CELL_NONE before the first cell and after the last one. "More Colours..." is never
-// the result: as the chosen cell, it counts as a cell after the last one. If no cell is chosen, returns the first cell
-// or the last one.
+// Returns the cell after the chosen one if @a step is above 0, otherwise the cell before it. Returns CELL_NONE if there
+// is no such cell. The order is "Automatic", then the grid row by row. "More Colours..." is never the result. If it is
+// the chosen cell, it comes after the last cell of the grid. If no cell is chosen, returns the first cell or the last
+// one.
 int wxColourPopup::CellBeside(int step) const
 {
     const int automatic = GetIndex(CELL_AUTOMATIC, CELL_AUTOMATIC);

@@ -10,7 +10,7 @@
 
 /// @name Cells of the colour popup
 ///
-/// Cells 0 to 39 are the colours of the palette, row by row. The other cells have these constants.
+/// Cells 0 to 39 are the colours of the palette, row by row. These constants are the other indices.
 /// @{
 inline constexpr int CELL_NONE = -1;          ///< No cell.
 inline constexpr int CELL_MORE_COLOURS = -2;  ///< The box "More Colours..." below the palette.
@@ -32,7 +32,7 @@ struct ColourTableEntry
     const wchar_t* szName;   ///< In the user's language; null when the platform has none.
 };
 
-/// Returns the first of the palette's 40 colours.
+/// Returns a pointer to the first of the palette's 40 colours.
 ///
 /// @code
 /// for (int i = 0; i < fittings::kColourCount; ++i)
@@ -45,7 +45,8 @@ struct ColourTableEntry
 /// until the process ends.
 FITTINGS_API const ColourTableEntry* GetColourTable();
 
-/// Returns the name of the palette's colour @a index, from 0 to 39. The index is not checked.
+/// Returns the name of the palette's colour @a index; null when the platform has none. @a index must be from 0 to 39;
+/// it is not checked.
 FITTINGS_API const wchar_t* GetColourName(int index);
 
 #endif

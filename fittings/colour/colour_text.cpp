@@ -11,7 +11,7 @@ namespace fittings {
 
 namespace {
 
-// Returns the name of a colour in the palette, otherwise its number, such as "#0000FE".
+// Returns the name of @a colour in the palette; if it has none, its number, such as "#0000FE".
 wxString ColourName(const wxColour& colour)
 {
     for (int i = 0; i < kColourCount; ++i) {

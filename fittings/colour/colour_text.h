@@ -10,8 +10,8 @@ namespace fittings {
 const wchar_t* ColourText(const wchar_t* key);
 
 /// Returns the text that a screen reader announces for a popup: the text of the hot cell, or the colour in effect if
-/// the popup is closed or no cell is hot. That colour is given by its name in the palette, or by its number, such as
-/// "#0000FE".
+/// the popup is closed or no cell is hot. The text for that colour is its name in the palette; if it has none, its
+/// number, such as "#0000FE".
 wxString SpokenText(const wxColourPopup& popup);
 
 }  // namespace fittings

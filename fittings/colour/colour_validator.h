@@ -19,14 +19,14 @@ class wxColour;
 ///     Draw(line);
 /// @endcode
 ///
-/// Every colour is valid. The toolkit's class information does not distinguish this class from wxValidator: use
-/// dynamic_cast. A derived class must override Clone(); otherwise the control's validator is a plain wxColourValidator.
-/// GUI thread only.
+/// Validate() accepts every colour. The toolkit's class information does not distinguish this class from wxValidator:
+/// use dynamic_cast. A derived class must override Clone(); otherwise the control's validator is a plain
+/// wxColourValidator. GUI thread only.
 class FITTINGS_API wxColourValidator : public wxValidator
 {
 public:
-    /// @a colour is not owned and must outlive the validator and each control that it was set on. If @a colour is null,
-    /// nothing is transferred.
+    /// @a colour is not owned. It must outlive the validator and each control that the validator was set on. If
+    /// @a colour is null, nothing is transferred, and both transfers return true.
     explicit wxColourValidator(wxColour* colour);
 
     /// Copies the pointer to the colour, but not the window.

@@ -5,14 +5,14 @@
 
 namespace fittings {
 
-/// A black outline above all windows of the screen, one pixel wide. Clicks pass through it.
+/// A black outline, one pixel wide, above all windows of the screen. Clicks pass through it.
 class OutlineWindow : public wxPopupWindow
 {
 public:
     /// Makes a hidden window, which @a parent owns.
     explicit OutlineWindow(wxWindow* parent);
 
-    /// Shows the rectangle @a outline, a part of @a area, both in screen coordinates. Hides the window if @a outline is
+    /// Shows @a outline, a rectangle inside @a area. Both are in screen coordinates. Hides the window if @a outline is
     /// empty.
     void ShowOutline(const wxRect& area, const wxRect& outline);
 };
