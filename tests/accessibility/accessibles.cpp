@@ -51,7 +51,7 @@ std::vector<Accessible> ReadAccessibles()
 {
     PumpPending();
     ChildProcess reader({READ_ACCESSIBLES, std::to_string(getpid())});
-    // While this process waits for the reader to end, it answers the reader's requests.
+    // Handle events until the reader ends, because this process must answer the reader's requests.
     EXPECT_TRUE(PumpUntil([&] { return !reader.IsRunning(); })) << "the reader does not end";
     EXPECT_EQ(reader.ExitCode(), 0) << reader.Output();
     std::vector<Accessible> all;

@@ -11,7 +11,7 @@ struct Accessible
     std::string role;  ///< The name that RoleName() returns.
     std::string name;
     std::string description;
-    std::string label;  ///< The text of its label.
+    std::string label;  ///< The text of the label for this part.
     bool showing = false;
     bool focusable = false;  ///< Focusable and enabled.
     bool focused = false;
@@ -23,13 +23,14 @@ void PrintTo(const Accessible& accessible, std::ostream* out);
 /// name in the installed release.
 std::string RoleName(const std::string& told);
 
-/// Reads the visible accessible objects of this process's windows, parents before their children.
+/// Returns the visible accessible objects of this process's windows, parents before their children. Leaves out the
+/// contents of menu bars and tables.
 std::vector<Accessible> ReadAccessibles();
 
-/// Returns the focused object; its role is empty when there is none.
+/// Returns the focused object. If no object is focused, returns one with an empty role.
 Accessible ReadFocused();
 
-/// Returns the first visible object of that role; its role is empty when there is none.
+/// Returns the first visible object with the role @a role. If there is none, returns an object with an empty role.
 Accessible ReadFirst(const std::string& role);
 
 #endif

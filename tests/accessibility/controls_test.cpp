@@ -70,8 +70,8 @@ TEST_F(WhatAScreenReaderSays, IsTheColourOfACombo)
     EXPECT_EQ(said.label, "Line:");
     EXPECT_TRUE(said.showing && said.focusable);
 
-    // For a colour without a name, the number is read. In the table of colours, "Pale green " ends with a blank. This
-    // blank is not read.
+    // A colour without a name is announced by its number. In the table of colours, the name "Pale green " ends with a
+    // blank. The announced name has no blank at its end.
     popup->SetInitialColour(wxColour(1, 2, 254));
     EXPECT_EQ(ReadFocused().name, "#0102FE");
     popup->SetInitialColour(wxColour(152, 251, 152));

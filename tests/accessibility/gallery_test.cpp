@@ -36,7 +36,7 @@ protected:
         EXPECT_TRUE(PumpUntil([&] { return frame->GetPages()->GetSelection() == GetParam(); }));
     }
 
-    /// Returns the part that has the focus, or the combo box that contains it.
+    /// Returns the part that has the focus. If a combo box contains that part, returns the combo box instead.
     Accessible FocusedPart() const
     {
         GtkWidget* const widget = gtk_window_get_focus(GTK_WINDOW(frame->GetHandle()));

@@ -12,7 +12,7 @@
 
 namespace {
 
-// Frees a string that GLib allocated, and returns a copy. A null pointer counts as empty.
+// Returns a copy of a string that GLib allocated, and frees the string. Returns an empty copy for null.
 std::string Take(char* text)
 {
     std::string result = text ? text : "";
@@ -60,7 +60,7 @@ int Choose(wxFileDialog& dialog, const std::string& path)
     const auto isShown = [&] { return PathsOf(dialog).Index(chosen) != wxNOT_FOUND; };
     bool shown = false;
     for (int i = 0; i < 15 && !shown; ++i) {
-        dialog.SetPath(chosen);  // GTK may drop it while it loads the first folder
+        dialog.SetPath(chosen);  // GTK can ignore the path while the first folder is loading
         shown = PumpUntil(isShown, 3000);
     }
     EXPECT_TRUE(shown) << path;
@@ -82,7 +82,7 @@ int AcceptWhen(wxFileDialog& dialog, const std::function<bool()>& isReady)
         if (watch.Time() > 60000)
             gtk_dialog_response(shown, GTK_RESPONSE_CANCEL);
         else if (gtk_widget_get_mapped(GTK_WIDGET(shown)) && isReady())
-            gtk_dialog_response(shown, GTK_RESPONSE_ACCEPT);  // ignored while the dialog is not ready
+            gtk_dialog_response(shown, GTK_RESPONSE_ACCEPT);  // GTK ignores this until the dialog is ready
     });
     timer.Start(10);
     return dialog.ShowModal();

@@ -13,7 +13,7 @@
 
 #include <tests/support/temp_folder.h>
 
-/// Answers every dialog before it is shown, while the object exists.
+/// While the object exists, answers every dialog before the dialog is shown.
 class Answer : public wxModalDialogHook
 {
 public:
@@ -38,21 +38,21 @@ std::string NameOf(const wxWindow& saveDialog);
 
 wxArrayString PathsOf(const wxFileDialog& dialog);
 
-/// Makes the dialog choose a file, and waits until it reports that file. Returns wxID_OK.
+/// Selects a file in the dialog, and waits until GetPaths() returns that file. Returns wxID_OK.
 int Choose(wxFileDialog& dialog, const std::string& path);
 
-/// Calls ShowModal(), chooses the file as the answer, and returns the result of ShowModal().
+/// Calls ShowModal(), and answers the dialog with Choose(). Returns the result of ShowModal().
 int ShowAndChoose(wxFileDialog& dialog, const std::string& path);
 inline int ShowAndChoose(wxFileDialog&& dialog, const std::string& path)
 {
     return ShowAndChoose(dialog, path);
 }
 
-/// Shows the dialog on the screen. When the condition becomes true, accepts the dialog as a user does. If the dialog
-/// does not close in time, cancels the dialog.
+/// Shows the dialog on the screen. When @a isReady returns true, accepts the dialog as a user does. Cancels the dialog
+/// if it is still open after a minute. Returns the result of ShowModal().
 int AcceptWhen(wxFileDialog& dialog, const std::function<bool()>& isReady);
 
-/// Settings that are empty at first, and a folder to choose from.
+/// Each test starts with empty settings and with an empty folder, m_plain.
 class RememberingDialog : public testing::Test
 {
 protected:

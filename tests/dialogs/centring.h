@@ -3,7 +3,8 @@
 
 #include <vector>
 
-/// Returns the directions in which file and folder dialogs have been centred, in order. Tests read and clear the list.
+/// Returns the list of the directions in which file and folder dialogs have been centred. Tests read and clear the
+/// list.
 std::vector<int>& CentredDialogs();
 
 #endif

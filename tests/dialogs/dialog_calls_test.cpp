@@ -1,4 +1,5 @@
-// The save dialog and the folder dialog's DoModalReg() on a platform that records every call.
+// The calls that the save dialog, the remembering file dialog and wxFolderDlg::DoModalReg() make to the platform. The
+// test's platform records every call.
 
 #include <string>
 
@@ -91,8 +92,8 @@ TEST_F(SaveDialogCalls, OfADialogWithoutAnEntry)
     EXPECT_EQ(g_platform.calls, Calls{L"show"});
 }
 
-// FileAnswer cannot answer a wxRememberingFileDialog, which calls another constructor of wxFileDialog than the save
-// dialog does. Therefore Enter() answers the dialog, and Dialog::GetPath() returns the chosen path.
+// file_answer.cpp does not replace the default constructor of wxFileDialog, so FileAnswer cannot answer a
+// wxRememberingFileDialog. Here Enter() answers the dialog, and Dialog::GetPath() returns the chosen path.
 class RememberingDialogCalls : public testing::Test, private wxModalDialogHook
 {
 protected:

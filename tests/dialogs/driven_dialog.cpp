@@ -161,7 +161,7 @@ void DrivenDialog::ExpectCentred() const
     Rect parent;
     line >> parent.x >> parent.y >> parent.width >> parent.height;
     const Rect window = RectOf(m_window);
-    // Twice the distance between the centres: unlike the distance itself, it is always a whole number.
+    // Compare twice the distance between the centres, because the distance itself can end in a half.
     const int right = 2 * window.x + window.width - 2 * parent.x - parent.width;
     const int down = 2 * window.y + window.height - 2 * parent.y - parent.height;
     EXPECT_NEAR(right, 0, 8);

@@ -9,10 +9,10 @@
 
 #include <tests/support/process/child_process.h>
 
-/// Returns the home folder of the test. The program with the dialog has the same one.
+/// Returns the home folder of the test. By default, the program with the dialog has the same home folder.
 std::string HomeFolder();
 
-/// The state that the program with the dialog printed last, see DialogProbe.
+/// The last state that the program with the dialog has printed. DialogProbe describes the fields.
 struct DialogState
 {
     bool isActive = false;
@@ -25,9 +25,9 @@ struct DialogState
     std::string message;
 };
 
-/// A program that shows a file or folder dialog, and its simulated user. Before a test sends a key, it waits until the
-/// program has printed the state in which the dialog is ready for the key. The dialog reads folders in the background,
-/// so a Return that comes too early is lost.
+/// A program that shows a file or folder dialog, and a simulated user of the dialog. Before a test sends a key, the
+/// test waits until the program has printed the state in which the dialog is ready for the key. The dialog reads
+/// folders in the background, so a Return that comes too early is lost.
 class DrivenDialog
 {
 public:
@@ -38,13 +38,14 @@ public:
 
     static void Press(const std::string& key);
 
-    /// Types into the entry that has the focus, and replaces its text.
+    /// Replaces the text of the entry that has the focus.
     static void Type(const std::string& text);
 
-    /// Opens the location entry and types a path; returns when the dialog shows that path.
+    /// Opens the location entry and types a path. Returns when the dialog would choose that path.
     void TypePath(const std::string& path);
 
-    /// Waits for a state; fails the test if it does not appear.
+    /// Waits until @a isThere returns true for the state. Fails the test if this does not happen; the failure message
+    /// contains @a what.
     void WaitFor(const std::string& what, const std::function<bool(const DialogState&)>& isThere);
 
     /// Waits for a message and returns its text.

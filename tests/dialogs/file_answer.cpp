@@ -8,8 +8,8 @@
 
 namespace {
 
-// This file replaces functions of wxFileDialog: the toolkit has no getters for some of a dialog's arguments, and GTK's
-// dialog may return another path than the one that was set.
+// This file replaces functions of wxFileDialog. The toolkit has no getters for some of the constructor's arguments, and
+// GTK's dialog does not always return the path that was set.
 std::vector<AskedFile> g_made;
 wxString g_path;
 
@@ -67,8 +67,8 @@ wxFileDialog::wxFileDialog(wxWindow* parent, const wxString& title, const wxStri
     g_made.push_back(made);
 }
 
-// Replaces the toolkit's function: records the index, and calls the original. The calls that the toolkit itself makes
-// while it creates a dialog are not recorded.
+// Replaces the toolkit's function: records the index, and calls the original. Calls that the toolkit makes while it
+// creates the dialog are not recorded, because g_made is still empty then.
 void wxFileDialog::SetFilterIndex(int index)
 {
     if (!g_made.empty()) {

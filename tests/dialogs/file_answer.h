@@ -10,7 +10,7 @@
 
 class wxWindow;
 
-/// The arguments that a file dialog was made with, and its state when it was about to be shown.
+/// The arguments of a file dialog's constructor, and the dialog's state just before the dialog was answered.
 struct AskedFile
 {
     wxWindow* parent = nullptr;
@@ -24,24 +24,26 @@ struct AskedFile
     wxString name;
 
     int filterIndex = -1;         // stays -1 without a wildcard
-    std::vector<int> filtersSet;  // by SetFilterIndex() after the dialog was made
+    std::vector<int> filtersSet;  // the arguments of SetFilterIndex() after the construction
     wxString shownFolder;
     std::vector<int> centred;
 };
 
-/// Answers file dialogs in place of the user while the object exists. There is only one such object at a time. The
-/// dialog's GetPath() returns the path of the answer, whatever GTK's dialog would return.
+/// While the object exists, answers file dialogs in place of the user. Only one such object may exist at a time.
+/// GetPath() of the dialogs returns the path of the answer, whatever GTK's dialog would return.
 class FileAnswer : public wxModalDialogHook
 {
 public:
     FileAnswer(int result, const wxString& path);
     ~FileAnswer() override;
 
-    /// Called when a dialog is about to be shown, before it is answered.
+    /// Called just before a dialog is answered.
     std::function<void()> whileShown;
 
-    /// Return the arguments and the state of the dialog that was shown last, and the number of dialogs shown.
+    /// Returns the arguments and the state of the dialog that was answered last.
     const AskedFile& Asked() const { return m_asked; }
+
+    /// Returns how many dialogs have been answered.
     int Shown() const { return m_shown; }
 
 protected:

@@ -1,5 +1,5 @@
-// The internals of the save dialog, and the open dialog, which the library does not export. This program compiles the
-// module's source again.
+// The internals of the save dialog, and the open dialog. The library exports neither, so this program compiles
+// file_dialog.cpp again.
 
 #include <fittings/dialogs/file_dialog_p.h>
 

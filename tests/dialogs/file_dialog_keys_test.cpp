@@ -51,7 +51,7 @@ public:
         });
     }
 
-    /// Types a name in place of the proposed one; returns when the dialog shows that name.
+    /// Types a name in place of the proposed one. Returns when the dialog shows that name.
     void TypeName(const std::string& name)
     {
         const std::string folder = State().folder;
@@ -64,7 +64,7 @@ private:
     {
         if (!call.asNobody)
             return {};
-        // The home folder belongs to root, so the folder of the settings takes its place.
+        // Without root's rights, the probe cannot use the test's home folder, so HOME is the folder of the settings.
         return {{"FILE_DIALOG_AS_NOBODY", "1"}, {"HOME", settings}};
     }
 };
@@ -90,7 +90,7 @@ protected:
         return call;
     }
 
-    // Returns a call without a folder and a name, for which the dialog proposes the remembered file.
+    // Returns a call with neither folder nor name. The dialog then proposes the remembered file.
     Call CallAgain() const
     {
         Call call;

@@ -214,7 +214,7 @@ TEST_F(LastFile, IsReadAnewEachTime)
     EXPECT_EQ(Proposed().folder, SamplesFolder());
 }
 
-// A text that begins with a null character counts as empty.
+// An entry that begins with a null character counts as empty.
 TEST_F(LastFile, IsNeitherReadNorKeptWithoutAnEntry)
 {
     CLocalRegStore::WriteString(L"LastFiles", L"", L"/usr/one");

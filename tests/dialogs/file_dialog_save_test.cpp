@@ -174,8 +174,8 @@ INSTANTIATE_TEST_SUITE_P(
         Start{"VeryLong", L"/" + kLong + L"/" + kLong + L"/" + kLong + L".prj", L"/" + kLong + L"/" + kLong, kLong}),
     [](const auto& info) { return info.param.name; });
 
-// If GTK's dialog is told to start in a file, it shows nothing. If it is told to start below a file, it shows an error.
-// Therefore the library lets the dialog start in the nearest folder above the file.
+// If the start folder is a file, GTK's dialog shows nothing. If the start folder is below a file, GTK's dialog shows an
+// error. Therefore the library lets the dialog start in the nearest folder above the file.
 TEST(SaveDialogFolder, IsTheNearestFolderAboveAFile)
 {
     const TempFolder folder;
@@ -202,7 +202,8 @@ TEST(SaveDialogFolder, IsTheNearestFolderAboveARelativeFile)
     EXPECT_EQ(in.shownFolder, folder.Path());
 }
 
-// If the folder is missing, GTK's dialog itself goes up to an existing one, so the folder is passed on as it is.
+// If the folder does not exist, GTK's dialog itself starts in an existing folder above it. So the library passes the
+// folder on as it is.
 TEST(SaveDialogFolder, IsAFolderThatIsGone)
 {
     const TempFolder folder;
@@ -240,7 +241,7 @@ TEST_P(SaveDialogFilter, IsMadeOfWildcardAndExtension)
     const AskedFile asked = AskedFor(GetParam().extension, GetParam().wildcard);
     EXPECT_EQ(asked.wildcard, GetParam().effective);
     EXPECT_EQ(asked.filterIndex, GetParam().index);
-    // The first filter is selected by default, without a call.
+    // The first filter is selected without a call of SetFilterIndex().
     EXPECT_EQ(asked.filtersSet, GetParam().index > 0 ? std::vector<int>{GetParam().index} : std::vector<int>());
 }
 

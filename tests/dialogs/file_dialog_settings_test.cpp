@@ -8,7 +8,8 @@
 
 namespace {
 
-// These globals read the settings during static initialisation, as a host's globals may, before a test sets anything.
+// These globals read the settings during static initialisation, before a test sets anything. A host's globals may do
+// the same.
 const CStdStr<wchar_t> g_firstExtension = CQVFileDialogI::GetFileExtension();
 const CStdStr<wchar_t> g_firstFilter = CQVFileDialogI::GetFileFilter();
 const std::string g_firstEntry = CQVFileDialogI::SetRegEntry("");

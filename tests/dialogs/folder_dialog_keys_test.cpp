@@ -21,7 +21,7 @@ public:
     {
     }
 
-    /// Waits until the dialog shows the home folder, where wxFolderDlg starts if no folder is given. On its own, GTK's
+    /// Waits until the dialog shows the home folder. wxFolderDlg starts there if no folder is given. By default, GTK's
     /// dialog would show the files used last, and its Open button would stay disabled whatever is typed.
     void WaitForHome() { WaitForFolder(HomeFolder()); }
 

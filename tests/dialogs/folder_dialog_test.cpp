@@ -1,5 +1,5 @@
 // How wxFolderDlg sets up the toolkit's dialog, and how it uses the answer. A modal hook answers the dialog. The
-// toolkit has no getters for some of the arguments, so its constructor and its centring are replaced.
+// toolkit has no getters for some of the arguments, so this program replaces the dialog's constructor and DoCentre().
 
 #include <fittings/dialogs/folder_dialog.h>
 
@@ -38,7 +38,7 @@ struct Made
 
 std::vector<Made> g_made;
 
-// Answers every folder dialog in place of the user.
+// While the object exists, answers every folder dialog in place of the user.
 class Answer : public wxModalDialogHook
 {
 public:
@@ -51,8 +51,10 @@ public:
 
     std::function<void()> whileShown;
 
-    // The number of dialogs shown, and the number of centrings before the last dialog was shown.
+    // Returns how many dialogs have been answered.
     int Shown() const { return m_shown; }
+
+    // Returns how often dialogs had been centred just before the last answer.
     std::size_t CentredBefore() const { return m_centredBefore; }
 
 protected:
@@ -283,7 +285,7 @@ TEST_F(RememberedFolder, IsReadBeforeTheDialogAndStoredAfterIt)
     EXPECT_EQ(Stored(L"Import", L"Path"), L"/another");
 }
 
-// Not even root can create a folder in /proc, so nothing can be stored.
+// Nothing can be stored, because not even root can create a folder in /proc.
 TEST_F(RememberedFolder, IsGivenAllTheSameWhereItCannotBeStored)
 {
     std_file_paths::SetUserDataDir(L"/proc/fittings");
@@ -317,7 +319,7 @@ TEST_F(RememberedFolder, ComesWithTheSameDialog)
 
 }  // namespace
 
-// Replaces the toolkit's constructor: does the same, and records the arguments.
+// Replaces the toolkit's constructor: records the arguments, and creates the dialog.
 wxDirDialog::wxDirDialog(wxWindow* parent, const wxString& message, const wxString& folder, long style,
                          const wxPoint& position, const wxSize& size, const wxString& name)
 {

@@ -63,7 +63,7 @@ TEST_F(RememberingFileDialog, RemembersFolderNameAndFilter)
     SaveDialog first;
     const Answer answer([&](wxDialog*) {
         Choose(first, m_plain + "/report.old.csv");
-        first.SetFilterIndex(1);  // in place of the filter that the toolkit has chosen by the extension
+        first.SetFilterIndex(1);  // replaces the filter that the toolkit has chosen for the extension
         return wxID_OK;
     });
     EXPECT_EQ(first.ShowModal(), wxID_OK);

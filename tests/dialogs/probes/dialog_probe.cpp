@@ -19,7 +19,7 @@ void PrintLine(const std::string& line)
     std::fflush(stdout);
 }
 
-// Frees a string that GLib allocated, and returns a copy. A null pointer counts as empty.
+// Returns a copy of a string that GLib allocated, and frees the string. Returns an empty copy for null.
 std::string Take(char* text)
 {
     std::string result = text ? text : "";
@@ -80,7 +80,7 @@ std::string StateOf(const Windows& windows)
     return state;
 }
 
-// Shows the parent frame, prints its place, and returns the frame; returns null when the frame does not appear.
+// Shows the parent frame, prints its place, and returns the frame. Returns null if the frame does not appear.
 wxFrame* ShowParent()
 {
     auto* const frame = new wxFrame(nullptr, wxID_ANY, "parent", wxPoint(100, 150), wxSize(1000, 700));

@@ -33,7 +33,7 @@ public:
     int OnRun() override;
 
 protected:
-    /// Returns the argument with this number; empty when there is no such argument.
+    /// Returns the program's argument @a index; empty if there is no such argument.
     std::wstring Argument(int index) const;
 
 private:

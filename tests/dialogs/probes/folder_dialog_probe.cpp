@@ -1,4 +1,7 @@
-// folder_dialog_probe SETTINGS modal TITLE [FOLDER] | reg TITLE SECTION: a DialogProbe for the folder dialog.
+// folder_dialog_probe SETTINGS modal TITLE [FOLDER]
+// folder_dialog_probe SETTINGS reg TITLE SECTION
+//
+// A DialogProbe for the folder dialog: calls DoModal() or DoModalReg().
 
 #include <string>
 
