@@ -1,6 +1,5 @@
-// AUI layouts: every layout that the toolkit writes can be loaded. Other text is loaded, or leaves the panes unchanged.
-// No text causes an assertion of the toolkit, except a layout with a ";" in a caption. The toolkit can write such a
-// layout, but asserts when it loads the layout.
+// AUI layouts: every layout that the toolkit writes can be loaded. Any other text is loaded, or leaves the panes
+// unchanged. No text causes an assertion of the toolkit, except the texts that HasDelimiterInText() finds.
 
 #include <array>
 #include <cstdint>
@@ -88,8 +87,8 @@ std::wstring Damage(std::wstring layout, FuzzedDataProvider& bytes)
     return layout;
 }
 
-/// Returns whether the layout contains "\;" or the control character "\b". The toolkit asserts when it loads a layout
-/// with one of them: it writes the ";" of a caption as "\;", and replaces "\;" by "\b" while it loads.
+/// Returns whether the layout contains "\;" or the control character "\b". The toolkit asserts when it loads such a
+/// layout: it writes the ";" of a caption as "\;", and replaces "\;" by "\b" during the loading.
 bool HasDelimiterInText(const std::wstring& layout)
 {
     return layout.find(L"\\;") != layout.npos || layout.find(L'\b') != layout.npos;

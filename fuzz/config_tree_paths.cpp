@@ -59,8 +59,8 @@ std::vector<std::wstring> Marked(const std::wstring& text)
     return marked;
 }
 
-/// Restores the text in a new tree, and returns what the tree saves then. @a isRestored is false if the text was
-/// rejected.
+/// Restores the text in a new tree, and returns what the tree saves when it is destroyed. @a isRestored is false if the
+/// text was rejected.
 std::wstring SavedAfterRestoring(const std::wstring& text, const std::vector<Item>& items, long style, bool& isRestored)
 {
     Check(CLocalRegStore::WriteString("Persistent_Options/Tree/tree", "Items", text), "the text can be stored");

@@ -1,4 +1,4 @@
-// Window geometry: whatever is stored, the window is completely visible after loading, or loading leaves it unchanged.
+// Window geometry: loading any stored text leaves the window unchanged, or makes the whole window visible.
 
 #include <cstdint>
 #include <cwchar>

@@ -1,5 +1,5 @@
-// Wildcards and extensions: whatever a program asks for, the save dialog shows the first filter that contains the
-// extension, or the first filter of all if none contains it. A cancelled dialog stores nothing.
+// Wildcards and extensions: the save dialog shows the first filter that contains the extension. If no filter contains
+// the extension, the dialog shows the first filter. A cancelled dialog stores nothing.
 
 #include <cstdint>
 #include <string>

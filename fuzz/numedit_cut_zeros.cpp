@@ -1,5 +1,5 @@
-// CutZeros() removes only blanks, zeros and points, and adds at most one zero. A number keeps its value, and a second
-// call changes nothing.
+// CutZeros() removes only blanks, zeros and points, and adds at most one zero. A number keeps its value. A second call
+// does not change the number again.
 
 #include <cwctype>
 

@@ -1,4 +1,4 @@
-// GroupDigits(): without the separators the result is the text, and the separators are in the right places.
+// GroupDigits() inserts the separators at the right places. It changes nothing else in a text without null characters.
 
 #include <fittings/numedit/number_edit_utils.h>
 #include <fuzz/support/check.h>

@@ -1,4 +1,4 @@
-// ValidateString() accepts a text exactly if HasShape() accepts it and its value is within the bounds.
+// ValidateString() accepts a text if and only if HasShape() accepts it and its value is within the bounds.
 
 #include <algorithm>
 

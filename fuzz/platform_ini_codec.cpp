@@ -12,7 +12,7 @@
 
 namespace {
 
-// Returns a text with characters of every kind, including invalid ones, except the null character.
+// Returns a text of any characters, valid or invalid, except the null character.
 std::wstring ConsumeText(FuzzedDataProvider& bytes)
 {
     std::wstring text;

@@ -1,5 +1,5 @@
-// The expanded items of a tree: any text expands the items that it names and no others, and a saved text names the
-// expanded items.
+// The expanded items of a tree: loading a text expands exactly the named items that have children. A saved text
+// contains a label if the last item with this label is expanded.
 
 #include <cstdint>
 #include <functional>

@@ -98,7 +98,7 @@ CNumberFormat ConsumeFormat(FuzzedDataProvider& bytes)
 
 std::wstring ConsumeText(FuzzedDataProvider& bytes)
 {
-    // A large text causes a timeout if the time grows faster than the length of the text.
+    // Make a few texts large: the fuzzer reports a timeout if a function takes more than linear time.
     const bool isLarge = bytes.ConsumeIntegral<std::uint16_t>() == 0x4040;
     std::wstring text;
     for (const char byte : bytes.ConsumeRemainingBytesAsString())

@@ -9,9 +9,9 @@
 
 /// A format, a text and a locale, made from a fuzzer's bytes.
 ///
-/// The text comes first, one character for each byte. ASCII bytes are the characters themselves. Higher bytes are
-/// blanks, digits and points of other scripts, and invalid characters. The last bytes are the locale and the format.
-/// Therefore a text file is a good first input.
+/// The first bytes are the text, one character for each byte. ASCII bytes are the characters themselves. Higher bytes
+/// are blanks, digits and points of other scripts, and invalid characters. The last bytes are the locale and the
+/// format. Therefore a text file is a good first input.
 struct NumberInput
 {
     /// Makes the format and the text from the bytes, and sets the locale that the bytes choose.

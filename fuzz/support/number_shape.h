@@ -17,8 +17,8 @@ struct NumberShape
     std::uint64_t maxDecimals = std::numeric_limits<std::uint64_t>::max();
 };
 
-/// Returns whether @a text is a number of that shape, or the beginning of one. A number with all parts is `[+-]? [0-9]*
-/// (P [0-9]*)?`, in which P is the point. After a digit or the point, `[eE]? [+-]? [0-9]*` may follow.
+/// Returns whether @a text is a number of the given shape, or the beginning of such a number. A number with all parts
+/// is `[+-]? [0-9]* (P [0-9]*)?`, in which P is the point. After a digit or the point, `[eE]? [+-]? [0-9]*` may follow.
 bool HasShape(const std::wstring& text, const NumberShape& shape);
 
 /// Returns false if @a point is a digit, a sign, an exponent letter, a blank or the null character.

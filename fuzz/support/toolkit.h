@@ -5,9 +5,9 @@
 
 class FuzzedDataProvider;
 
-/// The first call starts the toolkit on the display, with an empty user data directory, in memory if possible. Later
-/// calls do nothing. Every assertion of the toolkit is a finding, except those about an invalid wildcard and those that
-/// an AssertionsAllowed object allows.
+/// The first call starts the toolkit on the display, and makes an empty user data directory, in memory if possible.
+/// Later calls do nothing. Every assertion of the toolkit is a finding, except those about an invalid wildcard and
+/// those that an AssertionsAllowed object allows.
 void StartToolkit();
 
 /// Allows assertions of the toolkit while the object exists, if @a allowed is true.
@@ -20,7 +20,7 @@ public:
     AssertionsAllowed& operator=(const AssertionsAllowed&) = delete;
 };
 
-/// Returns the remaining bytes as text, up to the first null character: ASCII as it is, high bytes as unusual
+/// Returns the remaining bytes as text, up to the first null character: ASCII bytes unchanged, other bytes as unusual
 /// characters.
 std::wstring ConsumeWideText(FuzzedDataProvider& bytes);
 
