@@ -1,4 +1,4 @@
-// The examples of docs/guides for colours, word for word.
+// The examples about colours in docs/guides, word for word.
 
 #include <gtest/gtest.h>
 

@@ -162,7 +162,7 @@ void EditPrice(wxDialog& dialog, wxTextCtrl* field, double& price)
     field->SetValidator(wxNumValidator(format, &text));
     if (dialog.ShowModal() == wxID_OK)
         price = NumberIn(text, format).value_or(price);
-    field->SetValidator(wxDefaultValidator);  // the old one points to text
+    field->SetValidator(wxDefaultValidator);  // the old validator points to text
 }
 
 wxString WithUnit(const wxString& number, wxString unit)
@@ -178,7 +178,7 @@ void UseStore(wxConfigBase& earlier)
     auto store = std::make_unique<wxStoreConfig>();
     // Takes over what users have stored, once. If saving fails, the next start tries again.
     store->ImportFrom(earlier);
-    // The toolkit deletes the new one when the program ends.
+    // The toolkit deletes the new configuration when the program ends.
     delete wxConfigBase::Set(store.release());
 }
 
@@ -197,7 +197,7 @@ bool WriteNumber(const wchar_t* section, const wchar_t* key, double value)
 
 void SaveSettings(wxFrame* frame, const wxString& folder, bool whole, int pageSize, double zoom)
 {
-    CLocalRegStore::Batch batch;  // saves all of it together
+    CLocalRegStore::Batch batch;  // saves all of the following together
     wx_window_state::SaveState(frame, L"Main");
     CLocalRegStore::WriteString(L"Search", L"Folder", folder);
     CLocalRegStore::WriteProfileBool(L"Search", L"WholeWords", whole);
@@ -222,7 +222,7 @@ void TakeOverOnce(wxConfigBase& earlier)
 {
     if (CLocalRegStore::GetProfileBool(L"Settings", L"TakenOver", false))
         return;
-    CLocalRegStore::Batch batch;  // saves all of it or nothing
+    CLocalRegStore::Batch batch;  // saves all of the following or nothing
     TakeOverGroup(earlier);
     CLocalRegStore::WriteProfileBool(L"Settings", L"TakenOver", true);
 }
@@ -231,13 +231,13 @@ void UseLanguage(wxLanguage language)
 {
     auto* translations = new wxTranslations;
     wxTranslations::Set(translations);
-    translations->SetLanguage(language);   // wxLANGUAGE_DEFAULT is the user's
-    translations->AddCatalog("fittings");  // before the program's own, which takes precedence
+    translations->SetLanguage(language);   // wxLANGUAGE_DEFAULT is the user's language
+    translations->AddCatalog("fittings");  // before the program's own catalogue, which takes precedence
     translations->AddCatalog("planets");
 }
 
-// Makes a wxFileConfig in a temporary folder the toolkit's current configuration, and gives the store a temporary user
-// data directory.
+// The toolkit's current configuration is a wxFileConfig in a temporary folder. The store uses a temporary user data
+// directory.
 class Guide : public testing::Test
 {
 protected:

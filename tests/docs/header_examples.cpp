@@ -1,5 +1,5 @@
-// The examples in the comments of the public headers, word for word, each with the code that it needs around it. The
-// tests run the examples that need no user.
+// The examples in the comments of the public headers, word for word, each inside the code that it needs. The tests run
+// the examples that need no user.
 
 #include <cstdint>
 #include <memory>
@@ -345,7 +345,7 @@ TEST(HeaderExamples, LetAColourBeChosen)
     frame->Destroy();
 }
 
-// Ends a dialog as OK does.
+// Chooses red in the first control of a dialog, and returns wxID_OK without showing the dialog.
 class EndDialogs : public wxModalDialogHook
 {
 public:
@@ -382,7 +382,7 @@ TEST(HeaderExamples, ListTheColours)
     EXPECT_EQ(list->GetCount(), 40U);
 }
 
-// The examples below need a user or resources. They are built but not run; the tests of the samples run such code.
+// The examples below need a user or resources. They are built but not run. The tests of the samples run similar code.
 class DialogsFrame : public wxFrame
 {
 public:

@@ -1,4 +1,4 @@
-// The examples of docs/guides/move.md for windows that the toolkit has remembered, and for dialogs, word for word.
+// The examples of docs/guides/move.md about dialogs, and about windows that the toolkit has remembered, word for word.
 
 #include <fstream>
 #include <string>
@@ -49,7 +49,7 @@ wxString AskForNote(wxWindow* parent, const wxString& notes)
 
 void Restore(wxFrame* frame, wxSplitterWindow* splitter, wxBookCtrlBase* book)
 {
-    // Under the names that the earlier version has given them.
+    // Use the names that the earlier version has given to these windows.
     wxPersistentRegisterAndRestore(splitter, "MainSplitter");
     wxPersistentRegisterAndRestore(book, "MainBook");
     // The frame, and everything in it that is not registered yet.
@@ -71,7 +71,7 @@ struct NotesFrame : wxFrame
     wxNotebook* book = new wxNotebook(splitter, wxID_ANY);
 };
 
-/// The persistence of the store, in place of the toolkit's.
+/// Replaces the toolkit's persistence by the persistence of the store while the object exists.
 class StorePersistence
 {
 public:
@@ -125,7 +125,7 @@ class NotesDialog : public RememberingDialog
 protected:
     using Ask = wxString (*)(wxWindow*, const wxString&);
 
-    /// Accepts a note in the folder that the dialog shows, and returns that folder.
+    /// Chooses @a note in the dialog, and returns the folder that the dialog showed at first.
     std::string Accept(Ask ask, const std::string& notes, const std::string& note)
     {
         std::string shown;
