@@ -90,7 +90,7 @@ protected:
         ASSERT_TRUE(PumpUntil([&] { return HasFocus(Get<wxWindow>(name)); })) << name;
     }
 
-    /// Replaces the text of a field by typing.
+    /// Types a text in place of the text of the focused field.
     void Type(const std::string& text)
     {
         Press('A', wxMOD_CONTROL);
@@ -98,7 +98,7 @@ protected:
             Press(key);
     }
 
-    /// Moves the focus to a field by the mnemonic of the field, and enters another number.
+    /// Moves the focus to a field by its mnemonic, and enters another number.
     void SetNumber(char mnemonic, const wxString& name, int number)
     {
         GoTo(mnemonic, name);

@@ -133,8 +133,8 @@ TEST_F(TheProgram, SavesItsStateWhenItIsTerminatedInADialog)
     }
 }
 
-// With scale factor 2, a window of the usual size does not fit on the screen. The screen has 1280 x 1024 pixels, less
-// the margins that the window manager reserves at its edges.
+// With scale factor 2, a window of the usual size does not fit on the screen. The screen has 1280 x 1024 pixels, and
+// the window manager reserves margins at the edges.
 TEST_F(TheProgram, FitsOnTheScreenAtFirst)
 {
     setenv("GDK_SCALE", "2", 1);
@@ -153,7 +153,7 @@ TEST_F(TheProgram, FitsOnTheScreenAtFirst)
     EXPECT_NEAR(height, 480, 1);
 }
 
-// Returns only the program's own messages: on newer releases, the image loader also reports that it runs without its
+// Returns only the program's own messages: newer versions of the image loader also report that they run without a
 // sandbox.
 std::string OwnLines(const std::string& errors)
 {

@@ -18,7 +18,7 @@
 
 namespace {
 
-/// The number of a key, with a modifier if it needs one, as in "shift+61".
+/// A key for xdotool, by its number or name. A modifier may precede the key, as in "shift+61".
 using Key = std::string;
 
 struct Keyboard
@@ -28,7 +28,7 @@ struct Keyboard
     unsigned key;
     unsigned level;
     const char* symbol;
-    /// The keys that type the characters.
+    /// The keys that type these characters.
     Key point;
     Key comma;
     Key plus;
@@ -105,7 +105,8 @@ TEST_P(KeyboardLayouts, LeadThroughTheColourPopup)
         const char* key;
         int cell;
     };
-    // The keys move down through "More Colours...", "Automatic" and the first cell, then around a square of four cells.
+    // The keys move down through "More Colours...", "Automatic" and the first cell, then around a square of four cells
+    // and to the second cell.
     for (const Step& step : {Step{"116", -2}, Step{"116", -3}, Step{"116", 0}, Step{"114", 1}, Step{"116", 9},
                              Step{"113", 8}, Step{"111", 0}, Step{"114", 1}}) {
         Press(step.key);

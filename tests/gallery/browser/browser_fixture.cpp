@@ -101,7 +101,7 @@ void BrowserTest::FloatFolders(const wxPoint& place)
     pane.Float().FloatingSize(300, 260);
     frame->GetBrowser()->GetLayout().Update();
     ASSERT_TRUE(PumpUntil([&] { return Tree().IsShownOnScreen() && Tree().GetSize().y < 300; }));
-    // The window manager chooses where a window first appears, so move the pane once it is shown.
+    // The window manager chooses where a window first appears, so move the pane after it is shown.
     pane.frame->Move(place);
     ASSERT_TRUE(FoldersComeTo(place));
 }

@@ -38,7 +38,8 @@ protected:
     std::vector<std::string> Rows();
     unsigned RowOf(const std::string& name);
 
-    /// Returns the tree item of a folder, given by its path below the root. The levels above it must be filled.
+    /// Returns the tree item of the folder at @a path, which is relative to the root. The result is invalid if the tree
+    /// does not contain the item.
     wxTreeItemId Item(const std::string& path);
 
     void ClickFolder(const std::string& path);
@@ -47,7 +48,7 @@ protected:
     /// Makes the pane of the folders float at a place on the screen.
     void FloatFolders(const wxPoint& place);
 
-    /// Waits until the pane of the folders floats at @a place; returns false if it does not.
+    /// Waits until the pane of the folders floats at @a place; returns false if this takes too long.
     bool FoldersComeTo(const wxPoint& place);
 
     TempUserData settings;

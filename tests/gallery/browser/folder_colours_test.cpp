@@ -161,8 +161,8 @@ TEST_F(FolderColours, AutomaticTakesItAway)
     EXPECT_FALSE(ColourOf("docs").IsOk());
 }
 
-// The palette's black looks like plain text in the light theme. If the user chooses black for a folder, the folder must
-// have this colour all the same.
+// The palette's black looks like plain text in the light theme. Nevertheless, a folder for which the user chooses black
+// must get this colour.
 TEST_F(FolderColours, BlackIsNotAutomatic)
 {
     Select("docs");
@@ -213,7 +213,7 @@ TEST_F(FolderColours, EachFolderStartsWithItsOwn)
     Select("docs");
     Select("music");
     OpenColours();
-    // Pressing Enter without moving keeps the folder's colour.
+    // Enter without an arrow key keeps the folder's colour.
     Press(WXK_RETURN);
     EXPECT_TRUE(PumpUntil([&] { return !Combo().IsPopupShown(); }));
     EXPECT_EQ(browser_settings::LoadFolderColour(root + "/music"), kIndigo);

@@ -71,7 +71,8 @@ TEST_F(Remembering, ThePanesComeBackAsTheyWereDragged)
     EXPECT_TRUE(PumpUntil([&] { return Tree().GetSize().x == first; }));
 }
 
-// The floating pane must stay above the window, even after a click on the window. Otherwise the window would hide it.
+// The floating pane must stay above the window, even after a click on the window. Otherwise the window would hide the
+// pane.
 TEST_F(Remembering, FloatingFoldersComeBackAboveTheWindow)
 {
     Open(root);

@@ -149,7 +149,7 @@ TEST_F(SizeFilterTest, EscapeEmptiesIt)
     EXPECT_TRUE(Field().HasFocus());
 }
 
-// The process is in the C locale, which has no thousands separator. The digits are grouped all the same.
+// The process is in the C locale, which has no thousands separator. Nevertheless, the digits are grouped.
 TEST_F(SizeFilterTest, ShowsTheNumberWithItsDigitsGrouped)
 {
     Filter("1234567.50");
@@ -185,8 +185,8 @@ TEST_F(SizeFilterTest, TheSelectedEntryStaysSelectedWhileItIsListed)
     EXPECT_EQ(Status(1), "");
 }
 
-// While rows are being removed, the toolkit's list can return a selected row that no longer exists. Therefore the list
-// must not send a selection event before all these rows are removed.
+// While rows are being removed, a wxDataViewCtrl can return a selected row that no longer exists. Therefore
+// ContentsList must send no selection event during the removal.
 TEST_F(SizeFilterTest, TheSelectedFolderMayProveTooSmall)
 {
     ASSERT_TRUE(PumpUntil([&] { return !frame->GetBrowser()->GetSizes()->IsRunning(); }));

@@ -45,7 +45,7 @@ protected:
     }
     const Entry& EntryNamed(const std::string& name) { return List().GetEntry(RowOf(name)); }
 
-    /// Makes a folder that is so large that adding it up takes a while, and returns its path.
+    /// Makes a folder whose size takes a while to add up, and returns the path of the folder.
     std::string MakeLargeFolder()
     {
         for (int i = 0; i < 40; ++i) {
@@ -148,7 +148,8 @@ TEST_F(Sizes, StoppingTakesAMomentAndKeepsWhatIsKnown)
 {
     Open(MakeLargeFolder());
     ASSERT_TRUE(ComesToRest());
-    // On a busy machine, the worker may finish before the window has received an event. Then start the worker again.
+    // On a busy machine, the worker may finish before the window has received an event. In that case, start the worker
+    // again.
     ASSERT_TRUE(PumpUntil([&] {
         if (!Row().IsRunning())
             Row().Start(memory.Path());

@@ -52,8 +52,8 @@ std::uint64_t OwnSize(const std::string& path)
     return static_cast<std::uint64_t>(status.st_size);
 }
 
-/// Makes @a levels folders named "d" below @a path, each in the one before. Each contains a file of one byte. The path
-/// of the last folder may be too long for the system.
+/// Makes @a levels folders named "d" below @a path, each inside the previous one. Each folder contains a file of one
+/// byte. The path of the last folder may be too long for the system.
 void MakeChain(const std::string& path, int levels)
 {
     int folder = open(path.c_str(), O_RDONLY | O_DIRECTORY);
@@ -177,7 +177,7 @@ TEST(SumFolder, CountsWhatCannotBeRead)
     Notes notes;
     const FolderSum sum = SumFolder(folder.Path(), notes);
     EXPECT_EQ(sum.unreadable, 2u);
-    EXPECT_EQ(sum.items, 5u);  // "in" has a name but no size
+    EXPECT_EQ(sum.items, 5u);  // "names-only/in" is counted, but its size is unknown
     EXPECT_EQ(sum.bytes, 5 + OwnSize(folder.Path()) + OwnSize(folder / "closed") + OwnSize(folder / "names-only"));
     EXPECT_EQ(notes.subfolders["closed"].unreadable, 1u);
     EXPECT_EQ(notes.subfolders["names-only"].unreadable, 1u);
@@ -245,7 +245,7 @@ private:
 };
 
 // The folder "elsewhere" is as far above the moved part as "top" was, and it has subfolders with the same names. The
-// walk must not count it in place of "top", which it closed on the way down and cannot reach again.
+// walk must not count "elsewhere" in place of "top". The walk closed "top" on the way down, and cannot reach it again.
 TEST(SumFolder, AFolderMovedAwayDuringTheWalkLeadsToNoOtherFolder)
 {
     TempFolder folder;

@@ -105,7 +105,7 @@ TEST(NamesSort, WithUndecodableOnesToo)
     EXPECT_EQ(SortedNames({"b", "\xFF", "A\xFF", "a"}), (Strings{"a", "A\xFF", "b", "\xFF"}));
 }
 
-// The limit is for slow machines under a sanitizer. A plain build takes a twentieth of the limit.
+// The limit allows for a sanitizer on a slow machine. Without a sanitizer, the sorting takes a twentieth of the limit.
 TEST(SortedPositions, TakeAHundredThousandEntriesInAMoment)
 {
     std::mt19937 random(1);

@@ -29,7 +29,8 @@ class NumbersPageFlag : public NumbersPageTest, public testing::WithParamInterfa
 {
 };
 
-// The focus is in the number's field, whose validator would refuse the letter. The mnemonic must work all the same.
+// The focus is in the number's field, whose validator refuses the letter of the mnemonic. Nevertheless, the mnemonic
+// must work.
 TEST_P(NumbersPageFlag, IsSwitchedByItsMnemonicAndByAClick)
 {
     const FlagCase& flag = GetParam();

@@ -41,7 +41,7 @@ TEST_F(NumbersPageTest, FitsIntoASmallWindow)
             EXPECT_GE(WindowRect(*part).GetLeft(), WindowRect(page).GetLeft()) << part->GetName();
             EXPECT_LE(WindowRect(*part).GetRight(), WindowRect(page).GetRight()) << part->GetName();
         }
-        // A control below the window's border is scrolled into view when it gets the focus.
+        // A control outside the visible part of the page is scrolled into view when it gets the focus.
         Press('N', wxMOD_ALT);
         ASSERT_TRUE(FocusComesTo("Number"));
         Press('L', wxMOD_ALT);

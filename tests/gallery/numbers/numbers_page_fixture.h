@@ -39,7 +39,7 @@ protected:
 
     void Type(const std::string& text);
 
-    /// Replaces the text of the number's field by typing; keys may be refused.
+    /// Types a text in place of the text of the number's field. The field may refuse some of the keys.
     void TypeNumber(const std::string& text);
 };
 
