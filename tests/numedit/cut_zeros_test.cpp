@@ -27,7 +27,8 @@ TEST_P(CutZeros, Gives)
     EXPECT_EQ(Cut(GetParam().text), GetParam().expected);
 }
 
-// The rows follow the order of the steps: blanks, leading zeros, exponent, trailing zeros, point, zero in front.
+// The rows follow the order of the steps of CutZeros(): blanks, leading zeros, exponent, trailing zeros, point, zero in
+// front.
 INSTANTIATE_TEST_SUITE_P(
     , CutZeros,
     testing::Values(Case{"EverythingAtOnce", L"  000.500  ", L"0.5"}, Case{"BlanksInFront", L" \t\n5", L"5"},

@@ -61,7 +61,7 @@ TEST(GroupDigitsFormat, IsAskedForTheSeparatorsAlone)
         EXPECT_EQ(Group(L"-1234567.8900e5", FormatWithFlags(flag)), L"-1,234,567.8900e5");
 }
 
-// A separator of 0, as in the default locale, ends the text where the first separator is inserted.
+// A separator of 0, as in the C locale, ends the text where the first separator is inserted.
 TEST(GroupDigitsSeparator, EndsTheTextWhereItIsZero)
 {
     EXPECT_EQ(GroupBy(L'\0', L"1234"), L"1");

@@ -162,7 +162,8 @@ TEST(UnusualCharacters, AreSeparators)
     }
 }
 
-/// Makes a format: the low bits of @a flags set the fields for formatting, the higher bits what validation allows.
+/// Makes a format. The four low bits of @a flags choose how numbers are shown. The other three bits choose what a
+/// number may contain.
 CNumberFormat FromBits(unsigned flags)
 {
     CNumberFormat format(eLocaleFormat);

@@ -3,7 +3,7 @@
 
 #include <fittings/numedit/number_format.h>
 
-/// Returns the locale's preset with every field changed.
+/// Returns the locale preset with every field changed.
 CNumberFormat UnusualFormat();
 
 /// Returns the fixed preset with every flag set to @a flag, with tight limits and another template.

@@ -6,9 +6,9 @@
 #include <gtest/gtest.h>
 #include <gtk/gtk.h>
 
-/// Acts as the input method of all GTK entries while the object exists. It shows what is typed as preedit text. It
-/// commits this text outside any key event: when the test calls Commit(), and, if commitsWhenTheFocusLeaves is true,
-/// when the entry loses the focus.
+/// Acts as the input method of all GTK entries while the object exists. It shows the typed characters as preedit text.
+/// It commits this text outside any key event, when the test calls Commit(). If commitsWhenTheFocusLeaves is true, it
+/// also commits the text when the entry loses the focus.
 class LateInputMethod
 {
 public:
@@ -44,10 +44,9 @@ public:
         EXPECT_EQ(m_preedit, characters);
     }
 
-    /// Commits the preedit text.
     void Commit() { CommitText(std::string(m_preedit)); }
 
-    /// Commits a text in the place of the preedit text.
+    /// Commits @a text instead of the preedit text.
     void CommitText(const std::string& text)
     {
         SetPreedit("");

@@ -13,7 +13,7 @@ struct TextCase
     const wchar_t* expected;
 };
 
-/// @name Functions of CNumberEditUtils for std::wstring; those that edit their argument return the edited text
+/// @name Functions of CNumberEditUtils for std::wstring; Cut() and Group() return the edited text
 /// @{
 inline std::wstring Cut(const std::wstring& text, const CNumberFormat& format = CNumberFormat(eFixedFormat))
 {

@@ -77,14 +77,14 @@ TEST(ValidateInput, AcceptsAsManyZerosAsThereAreDecimals)
     format.m_nDecimals = UINT64_MAX;
     EXPECT_TRUE(Accepted((L"0." + std::wstring(1000, L'0')).c_str(), format));
     EXPECT_FALSE(Accepted((L"0." + std::wstring(1000, L'0') + L"1").c_str(), format));
-    // The number of decimals has 64 bits, so it is not truncated to 0.
+    // The field m_nDecimals has 64 bits, so 2^32 is not truncated to 0.
     format.m_nDecimals = std::uint64_t{1} << 32;
     EXPECT_TRUE(Accepted(L"0.", format));
     EXPECT_TRUE(Accepted(L"0.000", format));
     EXPECT_FALSE(Accepted(L"0.001", format));
 }
 
-// The format allows no digit in front of the point. ValidateInput() accepts the zero of "0" and "0.00" all the same.
+// The format allows no digit in front of the point. Nevertheless, ValidateInput() accepts the zero of "0" and "0.00".
 TEST(ValidateInput, AcceptsTheZeroWhateverTheIntegerDigits)
 {
     CNumberFormat format(eFixedFormat);
@@ -102,8 +102,8 @@ TEST(ValidateInput, KnowsTheFormatsPointInTheZeros)
     EXPECT_TRUE(Accepted(L",", format));
     EXPECT_TRUE(Accepted(L"0,", format));
     EXPECT_TRUE(Accepted(L"0,00", format));
-    // A complete number may have the locale's point. The beginnings of a number that ValidateInput() accepts below the
-    // minimum must have the format's point.
+    // A complete number may have the locale's point. Below the minimum, ValidateInput() accepts the beginning of a
+    // number only with the format's point.
     EXPECT_FALSE(Accepted(L".", format));
     EXPECT_FALSE(Accepted(L"0.", format));
     EXPECT_FALSE(Accepted(L"0.0", format));

@@ -101,7 +101,7 @@ TEST(ValidateString, CountsIntegerDigitsWithoutTheSign)
 
     format.m_nMaxIntDigits = UINT64_MAX;
     EXPECT_TRUE(Valid(L"123456789012345678901234567890", format));
-    // The highest number of digits has 64 bits, so it is not truncated to 0.
+    // The field m_nMaxIntDigits has 64 bits, so 2^32 is not truncated to 0.
     format.m_nMaxIntDigits = std::uint64_t{1} << 32;
     EXPECT_TRUE(Valid(L"1234", format));
 }
@@ -228,7 +228,7 @@ TEST(ValidateString, ChecksBoundsOfTheExponentToo)
     EXPECT_FALSE(Valid(L"1e999999999999", format));
 }
 
-// The bounds apply to the number at the beginning of the text. The grammar checks the rest.
+// The bounds apply to the longest number at the beginning of the text. The grammar applies to the whole text.
 TEST(ValidateString, ChecksBoundsOfTheLongestNumberThatTheTextBeginsWith)
 {
     CNumberFormat format = WithMin(10);

@@ -86,7 +86,7 @@ CNumberFormat WithoutLimits()
     return format;
 }
 
-/// Expects that none of the numbers passes, and that the host's variable keeps its value.
+/// Expects that the validator refuses each text, and that the host's variable keeps its value.
 template <typename Integer>
 void ExpectRefused(NumberCtrlDialog& screen, const Integer& variable, std::initializer_list<const char*> texts)
 {

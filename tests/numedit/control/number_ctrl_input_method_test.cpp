@@ -1,4 +1,4 @@
-// Text that an input method commits to a wxNumberCtrl later than its key events.
+// Text that an input method commits to a wxNumberCtrl after the key events.
 
 #include <string>
 #include <vector>

@@ -69,7 +69,7 @@ protected:
         wxTheClipboard->Clear();
     }
 
-    /// Sends one event of the wheel with three steps.
+    /// Sends one mouse event that turns the wheel by three steps.
     void Turn()
     {
         wxMouseEvent wheel(wxEVT_MOUSEWHEEL);

@@ -1,4 +1,4 @@
-// The context menu of a wxNumberCtrl, and text that is dropped onto it, with a real mouse.
+// The context menu of a wxNumberCtrl, and text that the mouse drops onto the control.
 
 #include <fittings/numedit/number_ctrl.h>
 
@@ -129,11 +129,11 @@ class NumberDrop : public testing::Test
 protected:
     void SetUp() override { screen.Show(); }
 
-    /// Drags the selected text of a field from @a grip to @a to, both on the screen. If @a moves is true, holds Shift,
-    /// with which GTK moves the text to another field instead of copying it.
+    /// Drags the selected text of a field from @a grip to @a to, in screen coordinates. If @a moves is true, holds
+    /// Shift: GTK then moves the text to another field instead of copying it.
     void Drag(wxTextCtrl& from, const wxPoint& grip, const wxPoint& to, bool moves)
     {
-        // Hold the widgets, because the drop may destroy the controls.
+        // Keep the widgets alive, because the drop may destroy the controls.
         const wxWeakRef<wxTextCtrl> alive(&from);
         GtkWidget* const source = GTK_WIDGET(g_object_ref(from.m_widget));
         GtkWidget* const target = GTK_WIDGET(g_object_ref(screen.number->m_widget));
@@ -146,7 +146,7 @@ protected:
         long first = 0;
         long last = 0;
         from.GetSelection(&first, &last);
-        // Press until a drag begins: while GTK still shows the end of a refused drag, a press does not begin another.
+        // Press until a drag begins: a press begins no drag while GTK still shows the end of a refused drag.
         EXPECT_TRUE(PumpUntil([&] {
             from.SetSelection(first, last);
             mouse.MouseMove(grip);
@@ -180,7 +180,7 @@ protected:
         PumpPending();
     }
 
-    /// Puts a text into the other field, and drags it from there onto the number.
+    /// Puts a text into the other field, and drags the text from there onto the number control.
     void Drop(const wxString& text, bool moves = false)
     {
         screen.first->SetValue(text);
@@ -295,8 +295,8 @@ TEST_F(NumberDrop, IsLeftToADropTargetOfTheProgram)
     EXPECT_TRUE(PumpUntil([&] { return dropped == "1,234.50-"; }));
 }
 
-// The digits are inserted at the new place before they are removed from the old one. In between, the text would have
-// too many digits, so the move is refused.
+// A move inserts the digits at the new place, and then removes the digits at the old place. Between these two steps the
+// text would have too many digits, so the move is refused.
 TEST_F(NumberDrop, LosesNoDigitsThatItRefusesToMove)
 {
     screen.Restart("12345");

@@ -1,4 +1,4 @@
-// Steps by keys and the wheel, and what a wxNumberCtrl shows for a text that is not a number within the bounds.
+// Steps by keys and by the mouse wheel. What a wxNumberCtrl shows if its text is not a number within the bounds.
 
 #include <fittings/numedit/number_ctrl.h>
 

@@ -1,4 +1,4 @@
-// Typing and pasting into a wxNumberCtrl, with real keys.
+// Typing and pasting into a wxNumberCtrl, with the keyboard and the mouse.
 
 #include <fittings/numedit/number_ctrl.h>
 
@@ -38,7 +38,7 @@ TEST_F(NumberTyping, RefusesWhatCannotBecomeANumber)
     EXPECT_EQ(screen.textEvents, 5);
 }
 
-// A program that keeps a copy of the number sets it again when the copy changes.
+// A program may keep a copy of the number, and set the same number in the control whenever the copy changes.
 TEST_F(NumberTyping, GoesOnWhereItWasWhenTheProgramSetsTheSameNumber)
 {
     screen.number->Bind(wxEVT_NUMBER_CHANGED, [this](wxCommandEvent& event) {
@@ -218,7 +218,7 @@ TEST_F(NumberTyping, RefusesOtherPastedTextWhole)
     }
 }
 
-/// Text that the control receives without a key: the middle button pastes the selection of another field.
+/// Text that the control receives without a key: the middle mouse button pastes the selected text of another field.
 class PasteOfASelection : public NumberTyping
 {
 protected:
@@ -252,7 +252,7 @@ TEST_F(PasteOfASelection, IsRefusedWholeWhereItIsNone)
     EXPECT_EQ(screen.textEvents, 0);
 }
 
-// The click sets the focus, and pastes before the event ends.
+// The click sets the focus, and pastes the text during the same event.
 TEST_F(PasteOfASelection, LeavesTheNumberPlainInTheFieldThatTheClickFocuses)
 {
     screen.Restart("123.4");

@@ -1,4 +1,4 @@
-// Setting and reading the numbers of a wxNumberCtrl, and how it shows them.
+// Setting, reading and showing the numbers of a wxNumberCtrl.
 
 #include <fittings/numedit/number_ctrl.h>
 
@@ -109,7 +109,7 @@ TEST_F(NumberValue, OfAThousandDigitsComesBackExactly)
     EXPECT_EQ(screen.Text(), std::wstring(digits.begin(), digits.end()));
 }
 
-// GTK drops the end of a longer text.
+// A GtkEntry drops the end of a text of more than 65,534 bytes.
 TEST_F(NumberValue, HasAsManyDigitsAsTheFieldCanHold)
 {
     const wxString most('7', 65534);

@@ -1,4 +1,5 @@
-// Types 100,000 sequences of random keys. A text must be accepted exactly if a number within the bounds begins with it.
+// Types 100,000 sequences of random keys. A text must be accepted if and only if it is the beginning of a number within
+// the bounds.
 
 #include <fittings/numedit/number_rules.h>
 
@@ -13,8 +14,8 @@
 
 namespace {
 
-/// The numbers that a field accepts: the highest numbers of digits before and after the point, whether an exponent is
-/// allowed, and the bounds in hundredths.
+/// What a field accepts: at most `integers` digits before the point and `decimals` digits after it, and an exponent if
+/// `exponent` is true. The bounds are in hundredths.
 struct Field
 {
     int integers;
@@ -106,7 +107,8 @@ private:
         }
     }
 
-    /// Returns whether @a value times 10 to the power @a power is less than @a bound. Both numbers have few digits.
+    /// Returns whether @a value times 10 to the power @a power is less than @a bound. @a value and @a bound have few
+    /// digits.
     static bool IsLess(std::int64_t value, int power, std::int64_t bound)
     {
         for (; power > 0 && std::abs(value) < 1'000'000'000; --power)
@@ -178,8 +180,8 @@ std::size_t ExponentDigits(const std::string& text)
 int g_accepted = 0;
 int g_refused = 0;
 
-/// Types ten random keys, most of them at the end of the text. Each of the others is inserted at a random place and
-/// replaces up to two characters there. Expects a text to be accepted exactly if it is one of @a beginnings.
+/// Types ten random keys, most of them at the end of the text. Each other key is inserted at a random place, and
+/// replaces up to two characters there. Expects a text to be accepted if and only if it is one of @a beginnings.
 void TypeAndCompare(Keys& keys, const Field& field, const Beginnings& beginnings, const fittings::NumberRules& rules)
 {
     std::string text;
@@ -189,8 +191,9 @@ void TypeAndCompare(Keys& keys, const Field& field, const Beginnings& beginnings
             inside ? static_cast<std::size_t>(keys.Below(static_cast<int>(text.size()) + 1)) : text.size();
         std::string typed = text;
         typed.replace(at, inside ? static_cast<std::size_t>(keys.Below(3)) : 0, 1, keys.Next(field.exponent));
-        // The exponents in @a beginnings have at most three digits. A text whose exponent has three digits may need a
-        // fourth, as 1e-000 does for 1e-0001. Therefore compare only texts whose exponents have at most two digits.
+        // The exponents in @a beginnings have at most three digits. An exponent of three digits may need a fourth
+        // digit: 1e-000 is the beginning of 1e-0001. Therefore compare only texts whose exponents have at most two
+        // digits.
         if (ExponentDigits(typed) > 2)
             continue;
         const bool accepted = fittings::CanBeTyped(std::wstring(typed.begin(), typed.end()), rules);

@@ -1,4 +1,5 @@
-// Which texts are numbers of a format, which are beginnings of one, and which pasted texts are read as one.
+// Which texts are numbers of a format, which texts are beginnings of such numbers, and which pasted texts are read as
+// such numbers.
 
 #include <fittings/numedit/number_rules.h>
 

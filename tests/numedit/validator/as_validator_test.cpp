@@ -19,7 +19,7 @@
 
 namespace {
 
-// Three number fields in a row, in a panel of a dialog.
+// Three number fields, one below the other, in a panel of a dialog.
 class Numbers : public testing::Test
 {
 protected:
@@ -250,8 +250,8 @@ TEST_F(Numbers, GiveWayToAnotherValidator)
     EXPECT_TRUE(dialog->Validate());
 }
 
-// The validator itself writes the keypad's point. Meanwhile, the host's handler of the text event replaces the
-// validator.
+// The validator itself writes the keypad's point. This sends a text event, and the host's handler of this event
+// replaces the validator.
 TEST_F(Numbers, MayBeReplacedWhileTheyTakeAKey)
 {
     Show();

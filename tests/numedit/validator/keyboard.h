@@ -20,8 +20,7 @@ constexpr unsigned kKeypadDecimal = 91;
 class Layout
 {
 public:
-    /// @a arguments are those of setxkbmap. Returns when this program sees that @a key has the given symbol on @a
-    /// level.
+    /// Passes @a arguments to setxkbmap. Returns when this program sees that @a key has the given symbol on @a level.
     Layout(const std::vector<std::string>& arguments, unsigned key, unsigned level, const std::string& symbol);
     ~Layout();
     Layout(const Layout&) = delete;

@@ -17,7 +17,7 @@ int g_bells = 0;
 
 }  // namespace
 
-// Replaces the toolkit's function, also where the library calls it: rings no bell, and counts the call.
+// Replaces the toolkit's function, also for calls from the library. Rings no bell, and counts the calls.
 void wxBell()
 {
     ++g_bells;

@@ -52,7 +52,7 @@ private:
     bool m_wentDown = false;
 };
 
-/// The keyboard of a dialog, and the bells that its keys ring.
+/// Presses keys, records them, and counts the bells that they ring.
 class KeysAndBells
 {
 public:
@@ -99,7 +99,7 @@ public:
     int textEvents = 0;  ///< The number of wxEVT_TEXT events of the number's control.
 };
 
-/// Turns the bells of all validators off while the object exists.
+/// Turns off the bells of all validators while the object exists.
 class SilentValidators
 {
 public:

@@ -260,7 +260,8 @@ TEST_F(Validation, OfATransferAloneLeavesTheFocus)
 class ModalDialog : public testing::Test
 {
 protected:
-    /// Shows the dialog, calls @a act in it, and returns the dialog's result; wxID_ABORT if @a act leaves it open.
+    /// Shows the dialog, calls @a act, and returns the dialog's result. If @a act leaves the dialog open, the result is
+    /// wxID_ABORT.
     int ShowModal(const std::function<void()>& act)
     {
         screen.dialog->CallAfter([this, act] {

@@ -92,7 +92,7 @@ class HandlerForCode : public Handlers, public testing::WithParamInterface<Code>
 {
 };
 
-// The text is full, so a code passes only if the handler does not check it.
+// The text is full, so a code passes only if the handler does not check this code.
 TEST_P(HandlerForCode, ChecksCharactersOnly)
 {
     Start("12345,67", 8);

@@ -1,4 +1,4 @@
-// Text that an input method commits to a control with a wxNumValidator later than its key events.
+// Text that an input method commits to a control with a wxNumValidator after the key events.
 
 #include <gtest/gtest.h>
 

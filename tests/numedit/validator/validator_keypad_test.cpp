@@ -1,4 +1,4 @@
-// The keypad's decimal key with real keyboard layouts.
+// The keypad's decimal key with several keyboard layouts.
 
 #include <fittings/numedit/num_validator.h>
 
@@ -142,7 +142,7 @@ TEST_F(Keypad, TypesDigits)
     EXPECT_EQ(screen.BellsRung(), 1);
 }
 
-// The point of the main keyboard is not a keypad key, even if it types the same character.
+// The main keyboard's key for the point is not a keypad key, even if it types the same character as the keypad's key.
 TEST_F(Keypad, IsNotTheMainKeyboardsPoint)
 {
     NumberDialog screen{FixedFormat(L',')};

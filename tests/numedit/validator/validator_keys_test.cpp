@@ -1,4 +1,4 @@
-// Keys that type no character always work, whatever text they leave.
+// Keys that type no character always work, even if the text is not a valid number afterwards.
 
 #include <fittings/numedit/num_validator.h>
 
@@ -239,7 +239,8 @@ TEST_P(Chords, AreCheckedByTheirCodeAlone)
     NumberDialog screen{FixedFormat()};
     screen.Show("12345");
     screen.Press(GetParam().key, GetParam().modifiers);
-    // Newer versions of the toolkit report no character for Control and a digit, so the validator has none to refuse.
+    // Newer versions of the toolkit report no character for Control and a digit, so the validator has no character to
+    // refuse.
     const bool isReported = std::string(GetParam().name) != "ControlDigit" || !screen.keys.chars.empty();
     EXPECT_EQ(screen.keys.chars, std::vector<int>(isReported ? 1 : 0, GetParam().code));
     EXPECT_EQ(screen.Text(), L"12345");

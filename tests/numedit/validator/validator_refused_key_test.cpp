@@ -162,7 +162,7 @@ TEST_F(RefusedKey, LeavesTheTextWhereKeysReplaceWhatIsThere)
     EXPECT_EQ(screen.Text(), L"92345");
 }
 
-// Control+Shift+U begins the input of a character by its code, here 78 for "x". The space ends it.
+// Control+Shift+U begins the input of a character by its code, here 78 for "x". The space ends the input.
 TEST_F(RefusedKey, OfAnInputMethodLeavesTheSelection)
 {
     Select(1, 3);

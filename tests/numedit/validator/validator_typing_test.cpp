@@ -1,4 +1,4 @@
-// Typing with the keys of a real keyboard into a text control with a wxNumValidator.
+// Typing into a text control that has a wxNumValidator.
 
 #include <fittings/numedit/num_validator.h>
 
