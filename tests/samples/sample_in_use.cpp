@@ -23,8 +23,8 @@ std::string Shortened(const std::string& text)
     return text.size() <= kMost ? text : text.substr(0, kMost) + " [and more]";
 }
 
-// Runs a program and returns its output. A failure ends the test, because the caller may repeat the call a thousand
-// times and each would fail.
+// Runs a program and returns its output. A failure throws an exception, which ends the test: a caller may repeat the
+// call a thousand times, and each call would fail.
 std::string Run(const std::vector<std::string>& command)
 {
     const TempFolder folder;
@@ -55,7 +55,7 @@ SampleInUse::SampleInUse(const std::string& sample, const std::string& title, co
                  {"XDG_CACHE_HOME", person.data.Path()}},
                 m_folder / "errors")
 {
-    // Ignore the exit code of xdotool, which fails while there is no such window.
+    // Ignore the exit code of xdotool, which fails while no window has this title.
     const std::vector<std::string> search = {"xdotool", "search", "--onlyvisible", "--name", "^" + title + "$"};
     const bool isOver = Becomes([&] {
         ChildProcess found(search, {}, m_folder / "search-errors");

@@ -7,7 +7,6 @@
 #include <tests/support/process/child_process.h>
 #include <tests/support/temp_folder.h>
 
-/// A point of the screen.
 struct ScreenPoint
 {
     int x;
@@ -62,7 +61,7 @@ public:
     /// corner.
     std::string ColourAt(int x, int y) const;
 
-    /// Closes the window through the window manager, and expects the program to succeed.
+    /// Closes the window with Alt+F4, and expects the program to end with the exit code 0.
     void Close();
 
 private:

@@ -166,7 +166,7 @@ TEST(TreeSample, OpensAgainWhatWasOpen)
 constexpr const char* kOrange = "#FF6820";
 constexpr const char* kLime = "#32CD32";
 
-// Opens the drop-down and moves the pointer over a colour until the sheet shows it.
+// Opens the drop-down, and moves the pointer over a colour until the sheet shows the colour.
 void PointAtColour(const SampleInUse& sheet, const char* colour)
 {
     SampleInUse::Press(kF4);
@@ -234,7 +234,7 @@ TEST(OrderSample, SendsOnlyWhatTheFieldsAccept)
     order.Close();
 }
 
-// Repeats the key: a dialog that reads folders in the background loses a key that is pressed too early.
+// Repeats the key press, because a dialog that reads folders in the background loses a key press that is too early.
 void PressUntil(const std::string& key, const std::function<bool()>& isDone)
 {
     bool done = false;

@@ -54,8 +54,8 @@ TEST_F(ColoursOnAScaledScreen, AreBelowTheirControl)
     on.combo->Dismiss();
 }
 
-// The test looks along the middle of each cell, because the corners of a cell are rounded. Letters are finer than the
-// toolkit's pixels, which shows that the popup is not enlarged.
+// The test looks along the middle of each cell, because the corners of a cell are rounded. Letters have details finer
+// than the toolkit's pixels. These details show that the popup is not an enlarged image.
 TEST_F(ColoursOnAScaledScreen, AreSharp)
 {
     Open();
@@ -98,8 +98,8 @@ TEST_F(ColoursOnAScaledScreen, OpenWithAnOutlineThatGrowsWhereTheyWillBe)
     on.combo->Dismiss();
 }
 
-// The popup reaches below the end of the frame, so the animation draws on the root window there. The pattern of the
-// root window has dots of one screen pixel.
+// The popup extends below the frame. There the animation draws on the root window, which has a pattern of dots of one
+// screen pixel.
 TEST_F(ColoursOnAScaledScreen, LeaveTheScreenAsItWas)
 {
     RunChild({"xsetroot", "-mod", "3", "3"});

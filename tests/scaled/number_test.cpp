@@ -10,7 +10,7 @@
 
 namespace {
 
-// Letters that are finer than the toolkit's pixels show that the field is not enlarged.
+// Letters have details finer than the toolkit's pixels. These details show that the field is not an enlarged image.
 TEST(ANumberOnAScaledScreen, IsSharpAndAsHighAsATextField)
 {
     const OwnedWindow<wxFrame> frame(new wxFrame(nullptr, wxID_ANY, "Number"));

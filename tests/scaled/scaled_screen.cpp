@@ -6,7 +6,8 @@
 
 namespace {
 
-/// Returns whether each of the toolkit's pixels has one colour. The first complete one begins at (@a left, @a top).
+/// Returns whether each of the toolkit's pixels has one colour. The first complete pixel of the toolkit begins at (@a
+/// left, @a top).
 bool IsOfWholePixels(const wxImage& scaled, int left, int top)
 {
     const unsigned char* const data = scaled.GetData();

@@ -4,10 +4,10 @@
 #include <wx/gdicmn.h>
 #include <wx/image.h>
 
-/// Returns a part of the screen, with two screen pixels in each direction for each of the toolkit's pixels.
+/// Returns a part of the screen. Each of the toolkit's pixels is two screen pixels wide and two high.
 wxImage GrabScaled(const wxRect& rect);
 
-/// Returns the lower right one of the four screen pixels of one of the toolkit's pixels, as 0xRRGGBB.
+/// One pixel of the toolkit is four screen pixels. Returns the lower right screen pixel of these as 0xRRGGBB.
 int PixelAt(const wxPoint& place);
 
 /// Returns whether each of the toolkit's pixels has one colour. The first of these pixels may be cut at the edge of the

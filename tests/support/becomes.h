@@ -7,8 +7,8 @@
 
 #include <tests/support/patience.h>
 
-/// Polls a condition; returns false when it did not become true within @a milliseconds. Unlike PumpUntil(), it handles
-/// no events meanwhile.
+/// Waits until @a isTrue returns true. Returns false if this takes longer than @a milliseconds times Patience(). Unlike
+/// PumpUntil(), handles no events.
 [[nodiscard]] inline bool Becomes(const std::function<bool()>& isTrue, int milliseconds = 60000)
 {
     const auto deadline = std::chrono::steady_clock::now() + Patience() * std::chrono::milliseconds(milliseconds);

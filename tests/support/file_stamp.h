@@ -11,14 +11,14 @@
 
 #include <tests/support/becomes.h>
 
-/// Waits until a change of the file would give it a later change time (ctime).
+/// Waits until a change of the file would give the file a later change time (ctime).
 inline void WaitPastStamp(const std::string& path)
 {
     struct stat info = {};
     ASSERT_EQ(stat(path.c_str(), &info), 0);
     EXPECT_TRUE(Becomes([&] {
         timespec now = {};
-        clock_gettime(CLOCK_REALTIME_COARSE, &now);  // the clock that the kernel takes a file's times from
+        clock_gettime(CLOCK_REALTIME_COARSE, &now);  // the kernel uses this clock for the times of files
         return std::pair(now.tv_sec, now.tv_nsec) > std::pair(info.st_ctim.tv_sec, info.st_ctim.tv_nsec);
     }));
 }

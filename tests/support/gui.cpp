@@ -29,7 +29,7 @@ bool ShowAndSettle(wxTopLevelWindow* window)
 {
     window->Show();
     window->Raise();
-    // The window counts as settled when it is active and has the same geometry over several turns.
+    // The window counts as settled when it is shown and active and has the same geometry in ten checks in a row.
     wxRect seen;
     int same = 0;
     return PumpUntil([&] {

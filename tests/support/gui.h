@@ -8,11 +8,11 @@
 class wxTopLevelWindow;
 class wxWindow;
 
-/// Runs the event loop until @a done returns true; returns false when that did not happen within @a milliseconds. The
-/// default leaves room for a busy machine.
+/// Runs the event loop until @a done returns true. Returns false if this takes longer than @a milliseconds times
+/// Patience(). The default is long enough for a busy machine.
 [[nodiscard]] bool PumpUntil(const std::function<bool()>& done, int milliseconds = 30000);
 
-/// Handles every event that has arrived, idle processing included.
+/// Handles every event that has arrived, and does the idle processing.
 void PumpPending();
 
 /// Shows a window and waits until it is active and its geometry no longer changes. Returns false if that takes too
@@ -28,8 +28,7 @@ bool ContainsFocus(const wxWindow& window);
 /// Moves the pointer to a place on the screen, and handles the events that follow.
 void PointTo(const wxPoint& place);
 
-/// Expects assertions of the toolkit, and counts them, while the object exists. Without such an object, an assertion
-/// fails the test.
+/// Counts the assertions of the toolkit while the object exists. Without such an object, an assertion fails the test.
 class ExpectAssertions
 {
 public:
@@ -46,7 +45,7 @@ private:
     int m_count = 0;
 };
 
-/// Counts an assertion if assertions are expected. Otherwise returns false.
+/// Counts an assertion and returns true if an ExpectAssertions object exists. Otherwise returns false.
 bool NoteAssertion();
 
 #endif

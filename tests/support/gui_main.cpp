@@ -48,7 +48,7 @@ public:
             gtk_widget_set_default_direction(GTK_TEXT_DIR_RTL);
         wxGUIEventLoop loop;
         wxEventLoopActivator activate(&loop);
-        // The first frame of a process is placed differently from all later ones, so show one before the tests.
+        // The first frame of a process is placed differently from all later frames, so show a frame before the tests.
         auto* frame = new wxFrame(nullptr, wxID_ANY, "warm-up");
         ShowAndSettle(frame);
         DestroyNow(frame);

@@ -7,7 +7,7 @@
 /// Calls to the platform, each as "operation [argument] [argument]".
 using Calls = std::vector<std::wstring>;
 
-/// The state of a platform that records calls and can make one of them throw. A program that links
+/// The state of a platform that records calls, and can throw in one operation. A program that links
 /// fittings-noting-platform uses this platform instead of the settings, paths and UTF-8 conversions of the platform
 /// library.
 struct NotingPlatform
@@ -17,15 +17,16 @@ struct NotingPlatform
     bool folderExists = true;
     bool loads = true;
     bool saves = true;
-    std::wstring stored = L"stored";  ///< The text that every read of a text returns; ASCII.
+    std::wstring stored = L"stored";  ///< The text that every GetString() returns; ASCII.
     int files = 0;                    ///< The number of existing file objects.
     int batches = 0;                  ///< The number of existing batches.
-    int savesWithoutBatch = 0;        ///< The number of wide texts, flags and sets of changes stored outside a batch.
+    /// The number of wide texts, flags and sets of changes that the default store received outside a batch.
+    int savesWithoutBatch = 0;
 };
 
 extern NotingPlatform g_platform;
 
-/// Records a call, and throws if @a operation is the one that should throw.
+/// Records a call, and throws if @a operation is the operation that should throw.
 void RecordCall(const std::wstring& operation, const std::vector<std::wstring>& arguments = {});
 
 #endif

@@ -5,7 +5,7 @@
 
 #include <tests/support/gui.h>
 
-/// A pointer to a window that is destroyed with this object, unless it is destroyed earlier.
+/// A pointer to a window. The destructor destroys the window if it still exists.
 template <typename Window>
 class OwnedWindow : public wxWeakRef<Window>
 {

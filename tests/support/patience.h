@@ -3,8 +3,8 @@
 
 #include <cstdlib>
 
-/// Returns how many times longer than usual the tests wait: FITTINGS_TEST_PATIENCE, which is set if a tool makes
-/// everything slow, otherwise 1. The tests multiply their deadlines by this number.
+/// Returns the number by which the tests multiply their deadlines. The number is the value of FITTINGS_TEST_PATIENCE,
+/// which is set if a tool makes the tests slow, or else 1.
 inline int Patience()
 {
     static const int patience = [] {

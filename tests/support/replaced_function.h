@@ -3,7 +3,8 @@
 
 #include <dlfcn.h>
 
-/// Returns the library's function that a definition in the test program replaces. @a name is mangled for C++.
+/// Returns the original function of a library that the test program replaces by its own function. @a name is the
+/// mangled name of a C++ function, or the name of a C function.
 template <typename Function>
 Function* ReplacedFunction(const char* name)
 {

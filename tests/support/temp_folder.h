@@ -23,7 +23,7 @@ std::vector<std::string> NamesIn(const std::string& folder);
 /// Returns the bytes of a file; empty when it cannot be read.
 std::string ReadFile(const std::string& path);
 
-/// Writes a file, replacing its contents; fails the test when that fails.
+/// Creates a file, or replaces its contents. Fails the test if the file cannot be written.
 void WriteFile(const std::string& path, const std::string& bytes);
 
 #endif

@@ -14,7 +14,8 @@ namespace {
 
 constexpr const char* kMemory = "/dev/shm";
 
-/// Restores the rights that a test has removed from folders. Otherwise only root could empty them.
+/// Restores the owner's rights on the folder and its subfolders, which a test may have removed. Otherwise only root
+/// could empty the folders.
 void OpenFolders(const std::filesystem::path& folder)
 {
     std::error_code ignored;

@@ -4,7 +4,7 @@
 #include <string>
 
 /// While this object exists, new temporary folders are made in memory, if the system allows it. A test that saves a
-/// thousand files is slow on a disk. On a busy disk, the test's waits for locks time out.
+/// thousand files is slow on a disk. On a busy disk, the library's waits for locks time out.
 class InMemory
 {
 public:

@@ -67,7 +67,8 @@ protected:
     CountingTree& tree = *screen.tree;
     wxTreeCursor root = tree.AddRoot("root");
 
-    /// Appends kWidth children to the root. If @a step is not 0, expands the first and every @a step-th after it.
+    /// Appends kWidth children to the root. If @a step is not 0, expands the first child and every @a step-th child
+    /// after it.
     void MakeWide(int step)
     {
         const wxWindowUpdateLocker frozen(&tree);
@@ -79,7 +80,7 @@ protected:
         }
     }
 
-    /// Appends a chain of @a depth items to the root, and returns the last one.
+    /// Appends a chain of @a depth items to the root, and returns the last item.
     wxTreeCursor MakeDeep(int depth)
     {
         const wxWindowUpdateLocker frozen(&tree);
@@ -142,7 +143,7 @@ TEST_F(LargeTree, IsVisitedAlsoWhenNothingIsStored)
     EXPECT_EQ(tree.expansions, 0);
 }
 
-// Of many items with one label, alternately collapsed and expanded, only the last one counts.
+// Many items have the same label, and every second one is expanded. Only the state of the last item counts.
 TEST_F(LargeTree, OfOneLabelIsSavedAsOne)
 {
     {
@@ -161,7 +162,7 @@ TEST_F(LargeTree, OfOneLabelIsSavedAsOne)
     EXPECT_EQ(StoredState(L"state"), L"");
 }
 
-// Among so many labels, some would have equal 32-bit hashes. Each label must be stored all the same.
+// Some of so many labels have equal 32-bit hashes. Nevertheless, each label must be stored.
 TEST_F(LargeTree, TellsAllItsLabelsApart)
 {
     constexpr int kCount = 300'000;

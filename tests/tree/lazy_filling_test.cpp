@@ -122,7 +122,7 @@ TEST_F(LazyFilling, HappensByTheRightArrowKey)
     EXPECT_EQ(tree.hooked, (Labels{L"R"}));
 
     keyboard.Char(WXK_RIGHT);  // moves to the first child
-    keyboard.Char(WXK_RIGHT);  // expands it
+    keyboard.Char(WXK_RIGHT);  // expands the first child
     EXPECT_TRUE(PumpUntil([&] { return root.GetChild().IsExpanded(); }));
     EXPECT_EQ(tree.hooked, (Labels{L"R", L"A"}));
 }

@@ -57,7 +57,7 @@ protected:
         });
     }
 
-    /// Loads a state in which every item is expanded, and returns the labels passed to Expand().
+    /// Loads a state in which every item is expanded, and returns the labels of the items passed to Expand().
     Labels Load()
     {
         const auto note = [this](wxTreeEvent& event) {
@@ -78,7 +78,7 @@ protected:
     MortalTree& tree = *screen.tree;
     wxTreeCursor root;
     std::map<std::wstring, wxTreeCursor> items;
-    std::map<std::wstring, std::function<void()>> when;  ///< The actions for the first expansions of items, by label.
+    std::map<std::wstring, std::function<void()>> when;  ///< The actions at the first expansion of an item, by label.
 };
 
 TEST_F(LoadStateMeanwhile, VisitsAnAppendedSibling)
@@ -145,7 +145,7 @@ TEST_F(LoadStateMeanwhile, GoesOnBehindAnItemThatDeletesItself)
     EXPECT_EQ(tree.askedOfTheDead, 0);
 }
 
-// The new item often has the same address as the deleted one, but must not be taken for it.
+// The new item often has the same address as the deleted one, but LoadState() must not confuse the two items.
 TEST_F(LoadStateMeanwhile, GoesOnBehindAnItemThatIsMadeAnew)
 {
     when[L"A"] = [&] {

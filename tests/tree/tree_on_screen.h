@@ -39,7 +39,8 @@ public:
     Tree* tree;
 };
 
-/// A tree that adds an item's children when the item is expanded, as listed in a map. Records the calls.
+/// A tree that adds an item's children when the item is expanded. The map `folders` lists the children. Records the
+/// calls.
 class LazyTree : public wxHandyTreeCtrl
 {
 public:
@@ -72,7 +73,7 @@ inline std::wstring StoredState(const wchar_t* name)
     return Stored(L"TreeControlState", name);
 }
 
-/// Adds a root that has no children, but is marked as if it had some.
+/// Adds a root without children, but marks the root as an item with children.
 inline wxTreeCursor AddLazyRoot(wxTreeCtrlEx& tree, const wxString& label)
 {
     wxTreeCursor root = tree.AddRoot(label);

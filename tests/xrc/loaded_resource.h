@@ -8,8 +8,8 @@
 #include <wx/panel.h>
 #include <wx/xrc/xmlres.h>
 
-/// Loads controls.xrc with the toolkit's handlers and ours, and creates a frame or a panel from it. The destructor
-/// destroys the window.
+/// Loads controls.xrc with the handlers of the toolkit and of this library, and creates a frame or a panel from it. The
+/// destructor destroys the window.
 class LoadedResource : public wxXmlResource
 {
 public:
@@ -32,7 +32,7 @@ private:
     wxFrame* m_frame = nullptr;
 };
 
-/// This class is not a control, although the resource uses it as the subclass of one. Nobody owns the objects in
+/// This class is not a control, although the resource uses it as the subclass of a control. Nobody owns the objects in
 /// `made`.
 class StrayObject : public wxObject
 {

@@ -1,4 +1,4 @@
-// Stores values and reads them back through the library, then prints what its own platform has stored.
+// Stores values through the library and reads them back. Then prints what this program's platform has stored.
 
 #include <cstdio>
 

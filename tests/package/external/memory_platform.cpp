@@ -114,7 +114,7 @@ std::vector<CLocalRegStore::Entry> CLocalRegStore::GetEntries(const CIniFile& in
     return entries;
 }
 
-// Reading is cheap on this platform, so the file always counts as changed.
+// Reading a file is cheap on this platform, so every call reads the file and returns true.
 bool CLocalRegStore::Refresh(CIniFile& ini, const wchar_t* path)
 {
     Load(ini, path);
@@ -126,7 +126,7 @@ bool CLocalRegStore::IsCurrent(const CIniFile&)
     return true;
 }
 
-// A section exists only while it has keys.
+// On this platform a section without keys does not exist, so changes of sections do nothing.
 void CLocalRegStore::ApplyChanges(CIniFile& ini, const std::vector<Change>& changes)
 {
     for (const Change& change : changes) {

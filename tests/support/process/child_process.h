@@ -10,12 +10,13 @@
 
 #include <tests/support/temp_folder.h>
 
-/// A program that a test runs, and its output. It never outlives the object.
+/// A program that a test runs, and its output. The destructor ends the program.
 class ChildProcess
 {
 public:
     /// Starts the program in this process's environment with the changes in @a environment; an entry without a value
-    /// removes the variable. The program's standard error goes where this process's goes, or into the file @a errors.
+    /// removes the variable. The program writes its standard error to the file @a errors. Without this argument, it
+    /// inherits the standard error of this process.
     explicit ChildProcess(const std::vector<std::string>& command,
                           const std::map<std::string, std::optional<std::string>>& environment = {},
                           const std::string& errors = {});
@@ -27,11 +28,12 @@ public:
 
     void Send(int signal);
 
-    /// Waits for the program to end; returns false when it still runs after @a milliseconds.
+    /// Waits for the end of the program. Returns false if the program still runs after @a milliseconds times
+    /// Patience().
     bool WaitForEnd(int milliseconds = 60000);
 
-    /// Returns the exit code of the program, which must have ended. If a signal ended it, the result is minus the
-    /// signal's number.
+    /// Returns the exit code of the program, which must have ended. If a signal ended the program, the result is minus
+    /// the signal's number.
     int ExitCode() const { return m_exitCode; }
 
     /// Returns the output so far.

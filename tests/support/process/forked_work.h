@@ -6,14 +6,15 @@
 
 #include <sys/types.h>
 
-/// Starts a child process that runs @a work and ends. The parent goes on; WaitForSuccess() waits for the child.
+/// Starts a child process that runs @a work and then ends. Returns at once in the parent; WaitForSuccess() waits for
+/// the child.
 pid_t StartChild(const std::function<void()>& work);
 
 /// Waits for the child to end. Returns whether it ended by itself and none of its expectations failed.
 bool WaitForSuccess(pid_t child);
 
-/// Runs @a work in a child process, waits for it, and fails the test if an expectation in it fails. Changes that @a
-/// work makes to its process do not affect the calling process.
+/// Runs @a work in a child process, waits for the end of the child, and fails the test if the child fails. Changes that
+/// @a work makes to the child process do not affect the calling process.
 void InChild(const std::function<void()>& work);
 
 #endif

@@ -8,8 +8,8 @@
 
 namespace {
 
-// Enters a new mount namespace. A user who is not root may mount as the root of a user namespace, if the system allows
-// that.
+// Enters a new mount namespace. A user who is not root also enters a new user namespace, and becomes root there if the
+// system allows it.
 bool EnterMountNamespace()
 {
     if (unshare(CLONE_NEWNS) == 0)

@@ -3,14 +3,15 @@
 
 #include <string>
 
-/// Gives this process a mount namespace that only it and its children see, and that ends with them. The process must
-/// have one thread. Returns false where the system does not allow it; users other than root need user namespaces.
+/// Moves this process to a new mount namespace, which ends with this process and its children. Other processes do not
+/// see the mounts in this namespace. This process must have only one thread. Returns false if the system does not allow
+/// the namespace; users other than root need user namespaces.
 bool EnterOwnMounts();
 
-/// Mounts an empty file system of 64 KiB, in memory. Only after EnterOwnMounts().
+/// Mounts an empty file system of 64 KiB, in memory. Call EnterOwnMounts() first.
 bool MountSmallDisk(const std::string& folder);
 
-/// Mounts an empty file system in memory. Only after EnterOwnMounts().
+/// Mounts an empty file system in memory. Call EnterOwnMounts() first.
 bool MountDisk(const std::string& folder);
 
 /// Makes the disk of MountSmallDisk() read-only, or writable again.

@@ -6,8 +6,8 @@
 
 #include <tests/support/patience.h>
 
-/// Returns the seconds that the processor spends on @a work, divided by Patience(). The machine's other work does not
-/// count.
+/// Returns the seconds that the processor spends on @a work, divided by Patience(). The time of other processes does
+/// not count.
 inline double ProcessorSeconds(const std::function<void()>& work)
 {
     const std::clock_t start = std::clock();
