@@ -54,9 +54,9 @@ bool CanBeShown(const wxFileName& folder)
     return folder.DirExists() && folder.IsDirReadable();
 }
 
-// If @a start cannot be shown, starts the dialog in the nearest folder above it that can. GTK's dialog goes up from a
-// missing folder by itself. For a file, or for a folder that the user may not read, that dialog would show an error
-// or stay empty, and the user could choose nothing.
+// Starts the dialog in the nearest folder above @a start that can be shown, unless @a start can be shown or is missing.
+// From a missing folder, GTK's dialog goes up by itself. With a file, or with a folder that the user is not allowed to
+// read, GTK's dialog would show an error or stay empty, and the user could choose nothing.
 void StartInReadableFolder(wxFileDialog& dialog, const wxString& start)
 {
     if (!CanBeShown(wxFileName::DirName(start)) && !IsGone(start))
@@ -98,8 +98,8 @@ CStdStr<wchar_t> CQVFileDialogI::LaunchSaveDialog(wxWindow* parent, const wchar_
     wxString folder = *initialFolder ? initialFolder : fittings::LoadLastPath(g_regEntry.c_str());
     wxString fileName = fittings::OrEmpty(initialFileName);
     if (!folder.empty()) {
-        // What follows the last separator is not a folder. Without its extension, it becomes the file name, unless the
-        // caller has given one.
+        // The text after the last separator is not a folder. It becomes the file name, without its extension, unless
+        // the caller has given a file name.
         wxFileName path;
         path.Assign(folder, wxPATH_NATIVE);
         if (fileName.empty())

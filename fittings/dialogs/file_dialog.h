@@ -12,7 +12,8 @@ class wxWindow;
 /// Asks the user where to save a file, in a modal dialog centred on its parent. The dialog proposes the file that was
 /// chosen last in the same context. GUI thread only.
 ///
-/// The context is the registry entry, a name that the host chooses and sets around the call:
+/// The context is the registry entry, a name that the host chooses. The host sets it before the call and restores the
+/// earlier entry after the call:
 ///
 /// @code
 /// const std::string earlier = CQVFileDialogI::SetRegEntry("LastReport");
@@ -33,7 +34,8 @@ class FITTINGS_API CQVFileDialogI
 public:
     /// @name A file extension and a file filter
     ///
-    /// Two texts that are stored for the host, once per process, and are empty at first. The dialog does not use them.
+    /// These two texts are stored for the host, once per process. They are empty at first. The dialog does not use
+    /// them.
     /// @{
     static void SetFileExtension(const CStdStr<wchar_t>& ext);  ///< Keeps a copy.
     static void SetFileFilter(const CStdStr<wchar_t>& filter);  ///< Keeps a copy.
@@ -42,8 +44,8 @@ public:
     /// @}
 
     /// Sets the entry, in UTF-8, under which the dialog remembers its file. Returns the earlier entry, so that the
-    /// caller can restore it. A process has one entry. While the entry is empty, as at first, the dialog does not
-    /// remember a file and does not propose a remembered one.
+    /// caller can restore it. A process has one entry, which is empty at first. While the entry is empty, the dialog
+    /// does not remember a file and does not propose a remembered one.
     static std::string SetRegEntry(const std::string& entry);
 
     /// Shows the dialog and returns the full path of the chosen file, or an empty text when the user cancelled. The
@@ -61,8 +63,8 @@ public:
     ///     the folder does not exist or cannot be read, the dialog starts in the nearest folder above it that can be
     ///     read. Null asserts, and the result is empty.
     /// @param initialFileName  the proposed name. Null or empty: the file name that was taken from @a initialFolder, or
-    ///     the name of the remembered file if @a initialFolder is empty. The extension is dropped from either. If the
-    ///     proposed name has no extension, the toolkit adds that of the first pattern.
+    ///     the name of the remembered file if @a initialFolder is empty. In these two cases, the extension is dropped.
+    ///     If the proposed name has no extension, the toolkit adds that of the first pattern.
     ///
     /// A file whose path is not UTF-8 on disk cannot be chosen: the toolkit returns an empty path, as if the user had
     /// cancelled.
@@ -94,8 +96,8 @@ public:
         return SetRegEntry(fittings::NarrowText(entry));
     }
 
-    /// Does the same as the function for wide text. The texts are default extension, wildcard, title, initial folder
-    /// and initial name.
+    /// Does the same as the function for wide text. The texts are the default extension, the wildcard, the title, the
+    /// initial folder and the initial name, in this order.
     template <typename... Texts, fittings::IfTexts<5, Texts...> = 0>
     static CStdStr<wchar_t> LaunchSaveDialog(wxWindow* parent, const Texts&... texts)
     {

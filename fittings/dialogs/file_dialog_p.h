@@ -24,13 +24,13 @@ inline constexpr char kLastProjectSave[] = "LastProjectSave";
 
 std::string GetRegEntry();
 
-/// Like CQVFileDialogI::LaunchSaveDialog(), but opens an existing file and uses the folder differently. With an empty
-/// @a folderSwitch the toolkit chooses where the dialog starts. With any other text, the dialog starts at the path that
-/// LoadLastPath() returns. @a folderSwitch must not be null.
+/// Like CQVFileDialogI::LaunchSaveDialog(), but asks for an existing file. If @a folderSwitch is empty, the toolkit
+/// chooses where the dialog starts. With any other text, the dialog starts at the path that LoadLastPath() returns.
+/// @a folderSwitch must not be null.
 CStdStr<wchar_t> LaunchOpenDialog(wxWindow* parent, const wchar_t* defaultExtension, const wchar_t* wildcard,
                                   const wchar_t* title, const wchar_t* folderSwitch);
 
-/// Shows a file dialog with a @a style of wxFileDialog and returns the chosen path; empty when the user cancelled.
+/// Shows a file dialog and returns the chosen path; empty when the user cancelled. @a style is a style of wxFileDialog.
 wxString FileSelector(const wchar_t* title, const wchar_t* defaultDir, const wchar_t* defaultFile,
                       const wchar_t* defaultExt, const wchar_t* wildcard, long style, wxWindow* parent, int x, int y);
 

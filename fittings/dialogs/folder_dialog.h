@@ -16,20 +16,20 @@ class wxWindow;
 ///     Import(folder);
 /// @endcode
 ///
-/// Folders are neither checked, made nor changed. A remembered folder that no longer exists is passed to the dialog as
-/// it is. Without a folder, or with one that does not exist, the dialog shows the home folder. Each text may be of any
+/// No folder is checked, made or changed. A remembered folder that no longer exists is passed to the dialog as it is.
+/// Without a folder, or with one that does not exist, the dialog shows the home folder. Each text may be of any
 /// kind: see fittings::TextArgument.
 class FITTINGS_API wxFolderDlg
 {
 public:
-    /// Starts in @a initialFolder and returns the chosen folder; empty when the user cancelled. With a null or empty @a
-    /// initialFolder it starts in the home folder. A null @a message shows "Current folder is:" in the language of the
-    /// host; an empty one shows nothing.
+    /// Shows the dialog and returns the chosen folder; empty when the user cancelled. The dialog starts in
+    /// @a initialFolder, or in the home folder if @a initialFolder is null or empty. If @a message is null, the dialog
+    /// shows "Current folder is:" in the language of the host. If @a message is empty, the dialog shows none.
     static wxString DoModal(wxWindow* parent, const wchar_t* initialFolder, const wchar_t* message);
 
     /// Does the same as DoModal(), but starts in the folder that was chosen last under @a section, and remembers the
-    /// new choice: in the default store, key "Path" of that section. A cancelled dialog does not change the
-    /// remembered folder.
+    /// new choice. The folder is stored in the default store, key "Path" of that section. A cancelled dialog does not
+    /// change the remembered folder.
     static wxString DoModalReg(wxWindow* parent, const wchar_t* section, const wchar_t* message);
 
     /// Does the same as the function for wide text.

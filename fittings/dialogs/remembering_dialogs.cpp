@@ -18,8 +18,8 @@ namespace {
 
 constexpr wchar_t kLastFiltersSection[] = L"LastFilters";
 
-// Returns the remembered folder, or the user's documents folder when none is remembered. If that folder cannot be read,
-// returns the nearest one above it that can.
+// Returns the remembered folder, or the user's documents folder when none is remembered. If this folder cannot be read,
+// returns the nearest folder above it that can be read.
 wxString StartFolder(const wxString& remembered)
 {
     if (remembered.StartsWith("/"))
@@ -101,11 +101,11 @@ bool wxRememberingFileDialog::Create(wxWindow* parent, const wxString& entry, co
     const wxString& pattern = filters[static_cast<std::size_t>(filter)];
     if (!defaultName.empty() && !name.empty())
         name = AppendExtension(name, pattern);
-    // In a dialog to open, set only a name that the filter shows: GTK's dialog drops the filter when a file is selected
-    // that the filter hides.
+    // In a dialog to open a file, set the name only if the file exists and the filter shows it. If a selected file is
+    // hidden by the filter, GTK's dialog drops the filter.
     if (HasFlag(wxFD_SAVE) ? !name.empty() : Shows(pattern, name) && wxFileExists(folder + "/" + name))
         SetFilename(name);
-    // Set the filter last: in a dialog to open, SetFilename() makes the toolkit choose another filter.
+    // Set the filter last: in a dialog to open a file, SetFilename() makes the toolkit choose another filter.
     SetFilterIndex(filter);
     return true;
 }
@@ -121,8 +121,8 @@ int wxRememberingFileDialog::ShowModal()
     const std::string key = file_util_ex::ConvertToUTF8(m_entry.ToStdWstring());
     fittings::SaveLastPath(path.wc_str(), key.c_str());
     const wxArrayString filters = PatternsOf(GetWildcard());
-    // Store a filter only if the dialog still has one: GTK's dialog drops the filter when a file is selected that the
-    // filter hides.
+    // Store a filter only if the dialog still has one. If a selected file is hidden by the filter, GTK's dialog drops
+    // the filter.
     if (filters.size() > 1 && gtk_file_chooser_get_filter(GTK_FILE_CHOOSER(GetHandle()))) {
         const wxString& filter = filters[static_cast<std::size_t>(GetFilterIndex())];
         CLocalRegStore::WriteString(kLastFiltersSection, m_entry.wc_str(), filter.wc_str());

@@ -17,15 +17,16 @@
 ///     Load(dialog.GetPath());
 /// @endcode
 ///
-/// What is remembered belongs to an entry, a name that the program chooses. Dialogs with the same entry share what is
-/// remembered, dialogs to open as well as dialogs to save. When ShowModal() returns wxID_OK, the choice is stored in
-/// the default store with one save:
+/// What is remembered belongs to an entry, a name that the program chooses. All dialogs with the same entry share what
+/// is remembered, whether they open or save files. When ShowModal() returns wxID_OK, the choice is stored in the
+/// default store with one save:
 ///
 /// - The full path, in section "LastFiles", with the entry as the key. CQVFileDialogI stores its file at the same
 ///   place. If several files were chosen, the path is the last one of GetPaths().
-/// - The pattern of the filter, such as "*.csv", in section "LastFilters", if there is more than one filter.
+/// - The pattern of the filter, such as "*.csv", in section "LastFilters", with the entry as the key. The pattern is
+///   stored only if there is more than one filter and one of them is selected.
 ///
-/// A cancelled dialog stores nothing, and neither does one whose entry is empty. A failure to store is not reported.
+/// A dialog that is cancelled or has an empty entry stores nothing. A failure to store is not reported.
 class FITTINGS_API wxRememberingFileDialog : public wxFileDialog
 {
 public:
@@ -43,10 +44,10 @@ public:
     ///
     /// - Folder: the remembered one, or the nearest one above it that exists and can be read. If none is remembered,
     ///   the user's documents.
-    /// - Filter: the remembered one. If the wildcard does not contain it, the first one that shows the proposed name,
-    ///   provided that the name has an extension. Otherwise the first one.
-    /// - Name: @a defaultName, otherwise the remembered name with its extension. A dialog to open selects the file only
-    ///   if it exists and the filter shows it.
+    /// - Filter: the remembered one, if the wildcard contains it. Otherwise the first filter that shows the proposed
+    ///   name, if that name has an extension. Otherwise the first filter of all.
+    /// - Name: @a defaultName, otherwise the remembered name with its extension. A dialog to open a file selects the
+    ///   proposed file only if it exists and the filter shows it.
     ///
     /// @param parent  may be null.
     /// @param entry  any text.
@@ -54,7 +55,7 @@ public:
     /// @param wildcard  as in wxFileDialog: "Tables (*.csv)|*.csv|All files|*".
     /// @param style  any style of wxFileDialog.
     /// @param defaultName  a name without a folder; everything up to its last separator is removed. A name without an
-    ///     extension is completed with that of the filter.
+    ///     extension gets that of the filter.
     bool Create(wxWindow* parent, const wxString& entry, const wxString& message = wxASCII_STR(wxFileSelectorPromptStr),
                 const wxString& wildcard = wxASCII_STR(wxFileSelectorDefaultWildcardStr),
                 long style = wxFD_DEFAULT_STYLE, const wxString& defaultName = wxString());
@@ -76,9 +77,9 @@ protected:
 /// @endcode
 ///
 /// The folder belongs to an entry, a name that the program chooses. When ShowModal() returns wxID_OK, the full path is
-/// stored in the default store: key "Path" of the section with the entry's name, as wxFolderDlg::DoModalReg() does. If
-/// several folders were chosen, the path is the last one of GetPaths(). A cancelled dialog stores nothing, and neither
-/// does one whose entry is empty. A failure to store is not reported.
+/// stored in the default store: key "Path" of the section with the entry's name. wxFolderDlg::DoModalReg() stores its
+/// folder at the same place. If several folders were chosen, the path is the last one of GetPaths(). A dialog that is
+/// cancelled or has an empty entry stores nothing. A failure to store is not reported.
 class FITTINGS_API wxRememberingDirDialog : public wxDirDialog
 {
 public:
@@ -91,8 +92,8 @@ public:
                            long style = wxDD_DEFAULT_STYLE);
 
     /// Makes the dialog as wxDirDialog::Create() does. The dialog starts in the remembered folder, or in the nearest
-    /// one above it that exists and can be read. If none is remembered, it starts in the user's documents. SetPath()
-    /// takes precedence.
+    /// one above it that exists and can be read. If none is remembered, it starts in the user's documents. A call of
+    /// SetPath() between Create() and ShowModal() takes precedence.
     ///
     /// @param parent  may be null.
     /// @param entry  any text.
