@@ -75,7 +75,7 @@ void Expect(benchmark::State& state, bool holds)
         state.SkipWithError("a wrong result");
 }
 
-// Measures from opening the file to reading the first value.
+// Measures opening the file and looking up one entry.
 void Load(benchmark::State& state, Open open, int count)
 {
     const Entries entries(count);
@@ -83,8 +83,8 @@ void Load(benchmark::State& state, Open open, int count)
         Expect(state, open(entries)->HasEntry(entries.SomePath()));
 }
 
-// Measures reading all entries. Loading is not measured: wxStoreConfig loads its file when it is first
-// asked for an entry, and wxFileConfig when it is opened.
+// Measures reading all entries. The file is loaded before that: wxStoreConfig loads it at the first look-up, and
+// wxFileConfig when it is opened.
 void Read(benchmark::State& state, Open open, int count)
 {
     const Entries entries(count);

@@ -1,4 +1,4 @@
-// Adding up the sizes in a folder by the gallery's worker, compared with the command du, both with a warm cache.
+// Compares the gallery's worker, which adds up the sizes in a folder, with the command du. Both run with a warm cache.
 
 #include <benchmark/benchmark.h>
 

@@ -1,5 +1,5 @@
-// fittings-memory: measures the peak memory of the library while it works with a hundred thousand items, and compares
-// it with that of a peer.
+// fittings-memory: measures the peak memory of the library while it works with a hundred thousand items. Compares this
+// peak with that of a peer.
 
 #include <cstdio>
 #include <fstream>

@@ -1,4 +1,4 @@
-// Checking and formatting numbers, compared with the alternatives.
+// Checking and formatting numbers, compared with functions of other libraries.
 
 #include <cwchar>
 #include <string>
@@ -63,7 +63,7 @@ void ValidateLong(benchmark::State& state)
     Validate(state, Digits<wchar_t>(state.range(0)), SixDecimals());
 }
 
-/// Validates with the grammar of SixDecimals() as a regular expression. The text needs no conversion.
+/// Validates with the grammar of SixDecimals() as a regular expression. The text is passed without a conversion.
 void ValidateRegEx(benchmark::State& state, const std::wstring& text)
 {
     const wxRegEx grammar("^[+-]?[0-9]*(\\.[0-9]{0,6})?$", wxRE_EXTENDED | wxRE_NOSUB);
@@ -142,7 +142,7 @@ void FormatLongIcu(benchmark::State& state)
     FormatIcu(state, Digits<char>(state.range(0)));
 }
 
-/// Measures the toolkit's formatter. The C locale has no separator for groups, so the toolkit has less to do.
+/// Measures the toolkit's formatter. The C locale has no separator for groups, so the toolkit inserts none.
 void FormatToolkit(benchmark::State& state)
 {
     for (auto _ : state)

@@ -87,7 +87,7 @@ private:
 };
 
 // Measures a worker that posts @a count events, and then the handling of these events. The worker posts all events
-// before the first is handled. Otherwise chance would decide how often the two threads wait for each other's locks.
+// before the first is handled. Otherwise it would be random how often the two threads wait for each other's locks.
 template <typename Worker>
 void Post(benchmark::State& state, int count)
 {
@@ -124,7 +124,7 @@ struct End
     wxThread::ExitCode exitCode = nullptr;
 };
 
-// Counts the threads that still run. The program must not end before them, or the toolkit crashes.
+// Counts the threads that still run. If the program ends before these threads, the toolkit crashes.
 class Alive
 {
 public:

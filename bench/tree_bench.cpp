@@ -1,4 +1,4 @@
-// Saving and restoring the expanded items of a large tree, compared with the minimal work in the toolkit.
+// Saving and restoring the expanded items of a large tree, compared with the calls of the toolkit that this needs.
 
 #include <ctime>
 #include <memory>
@@ -40,8 +40,8 @@ public:
             m_tree->Expand(item);
     }
 
-    // Collapses the root first, and the other items while they are not visible: the toolkit lays out all visible items
-    // after each change, even when frozen.
+    // Collapses the root first, so that the other items are not visible when they are collapsed. The toolkit lays out
+    // all visible items after each change, even while the tree is frozen.
     void Collapse()
     {
         const wxWindowUpdateLocker frozen(m_tree);
@@ -108,7 +108,8 @@ double ProcessorTime(Work work)
     return static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
 }
 
-// Loading and its peer take turns on the same tree, so that the memory layout and the machine's load affect both alike.
+// Each round measures the peer and then LoadState() on the same tree, so that the memory layout and other programs on
+// the machine affect both alike.
 void Load(benchmark::State& state, int count)
 {
     Siblings siblings(count, 10);
