@@ -11,8 +11,8 @@ namespace {
 
 constexpr std::wstring_view kStart = L"layout2|";
 
-// The greatest length of a layout, and the largest number of its panes and docks together. For each pane and each dock,
-// the toolkit copies the rest of the text. A larger layout would therefore take too long.
+// The largest length of a layout in characters, and the largest number of panes and docks together. For each pane and
+// each dock, the toolkit copies the rest of the text. A larger layout would therefore take too long.
 constexpr std::size_t kLongest = 1'000'000;
 constexpr int kMostParts = 2000;
 
@@ -49,7 +49,7 @@ public:
             m_rest.remove_prefix(expected.size());
     }
 
-    /// Takes and returns the text before the position @a end, and skips the character there.
+    /// Takes and returns the text before the position @a end, and skips the character at @a end.
     std::wstring_view TakeUpTo(std::size_t end)
     {
         m_isOk = m_isOk && end < m_rest.size();
@@ -124,7 +124,7 @@ struct Sums
     }
 };
 
-/// Returns whether the texts are "name=A;caption=B" with a "\" before each ";" of A and B.
+/// Returns whether the texts are "name=A;caption=B" with a "\" before each ";" in A or B.
 bool AreTexts(std::wstring_view texts)
 {
     constexpr std::wstring_view kCaption = L";caption=";
@@ -146,9 +146,9 @@ bool AreTexts(std::wstring_view texts)
 /// Returns false if the toolkit would read part of the texts as a field, and the field's value is below 0 or above
 /// kMostInText.
 ///
-/// The toolkit ends a field even at an escaped ";", and reads what follows as the next field. From the caption
+/// The toolkit ends a field even at an escaped ";", and reads the text after it as the next field. From the caption
 /// "a;row=99999999;", it reads a row of 99999999. The field after the row is empty, and the toolkit treats an empty
-/// field as the end of the pane. "\b" is the toolkit's placeholder for an escaped ";".
+/// field as the end of the pane. A "\b" is the toolkit's placeholder for an escaped ";".
 bool AreReadAtOnce(std::wstring_view texts)
 {
     for (std::size_t at = texts.find_first_of(L";\b"); at != texts.npos; at = texts.find_first_of(L";\b", at + 1)) {

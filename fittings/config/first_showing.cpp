@@ -36,7 +36,7 @@ private:
 
     const Window m_window;
     bool m_keepsPlace = false;
-    std::optional<wxPoint> m_place;  // where the window was when it was shown, if it keeps its place
+    std::optional<wxPoint> m_place;  // the position when the window was shown, if m_keepsPlace
     wxSize m_size;
 };
 
@@ -71,8 +71,8 @@ gboolean FirstShowing::ShowNow(gpointer data)
     return G_SOURCE_REMOVE;
 }
 
-// Called while the toolkit asks the window manager for the size of the decorations. Show the window after this request,
-// but before the toolkit reads the answer.
+// Called before the toolkit asks the window manager for the size of the decorations. The idle handler shows the window
+// after this request, but before the toolkit reads the answer.
 void FirstShowing::OnRealize(GtkWidget* /*widget*/, FirstShowing* showing)
 {
     if (showing->m_window)
@@ -87,11 +87,10 @@ gboolean FirstShowing::OnEvent(GtkWidget* /*widget*/, GdkEvent* event, FirstShow
     return FALSE;
 }
 
-// A window manager may first announce the decorations of windows in general, and then those of this window. The toolkit
-// subtracts only the decorations that are announced first, which would give the window a wrong size. So set the size
-// again after each announcement. Set the place with it, in one request: a window manager may have moved the window into
-// the work area while the window was too large. Also let the toolkit compute the position with the announced
-// decorations: by itself, it computes the position only when the window is moved.
+// A window manager may first announce the decorations of windows in general, and then the decorations of this window.
+// The toolkit subtracts only the decorations that are announced first. So set the size again after each announcement.
+// Set the place in the same request: the window manager may have moved the window into the work area while the window
+// was too large.
 void FirstShowing::AfterEvent(GtkWidget* widget, GdkEvent* event, FirstShowing* showing)
 {
     const Window& window = showing->m_window;
@@ -103,6 +102,8 @@ void FirstShowing::AfterEvent(GtkWidget* widget, GdkEvent* event, FirstShowing* 
             if (place && size.x > 0 && size.y > 0)
                 gdk_window_move_resize(event->property.window, place->x, place->y, size.x, size.y);
         }
+        // The toolkit itself computes the position only when the window is moved. Let it compute the position with the
+        // announced decorations now.
         wxPoint origin;
         gdk_window_get_origin(event->property.window, &origin.x, &origin.y);
         window->GTKConfigureEvent(origin.x, origin.y);

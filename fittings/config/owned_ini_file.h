@@ -12,7 +12,6 @@ struct DestroyIniFile
     void operator()(CIniFile* ini) const { CLocalRegStore::DestroyIniFile(ini); }
 };
 
-/// Owns a file object of CLocalRegStore and releases it, even when an exception is thrown.
 using OwnedIniFile = std::unique_ptr<CIniFile, DestroyIniFile>;
 
 }  // namespace fittings

@@ -24,8 +24,8 @@ namespace {
 
 constexpr wchar_t kSeparator = wxCONFIG_PATH_SEPARATOR;
 
-// The section that records that another configuration was taken over. Its name is not a path of groups, so that no
-// enumeration finds the section.
+// ImportFrom() records in this section that it has copied a configuration. The section's name is not a path of groups,
+// so that no enumeration finds the section.
 constexpr const wchar_t* kImportSection = L"wxStoreConfig/";
 constexpr const wchar_t* kImportKey = L"Imported";
 
@@ -100,7 +100,7 @@ const fittings::StoreEntry* FindEntry(StoreModel& model, const wxString& path)
 }
 
 // Returns whether the entry already has the value @a text in the model. Another process may have changed the stored
-// value since.
+// value since the last Refresh().
 bool HasText(StoreModel& model, const EntryPath& entry, std::wstring_view text)
 {
     StoreGroup* const group = model.Find(entry.group);

@@ -12,23 +12,27 @@ namespace fittings {
 class StoreModel;
 }
 
-/// The settings store as a wxConfigBase, for wxFileHistory, wxPersistenceManager and everything else that uses one.
+/// The settings store as a wxConfigBase, for wxFileHistory, wxPersistenceManager and all other code that uses a
+/// wxConfigBase.
 ///
 /// The group "A/B" is the section `A/B` of the store, and its entries are the keys of that section. So
 /// `/LastFiles/Report` is the file that CQVFileDialogI stores for the registry entry "Report". Entries of the
 /// root are in the section with the empty name, `[%]` in the file.
 ///
-/// Reads return what the store holds at that moment, whoever stored it, together with this object's own changes.
-/// Changes are collected. Flush() and the destructor save only the changed entries, with one save that keeps what other
-/// processes have stored meanwhile. While the thread has a CLocalRegStore::Batch, that batch saves the changes of the
+/// Each read returns the current value in the store, even if another object or process has stored it. If this object
+/// has changed the value and not saved the change yet, the read returns the changed value.
+///
+/// Changes are collected until Flush() or the destructor saves them. One save writes all changed entries. It keeps what
+/// other processes have stored. While the thread has a CLocalRegStore::Batch, the batch saves the changes of the
 /// default store.
 ///
 /// Paths, "..", groups without entries, the texts of numbers, and binary data are as in wxFileConfig. What differs:
 /// - Names are compared exactly, including upper and lower case.
 /// - Groups and entries are enumerated in the order of the file; new and renamed ones come last.
 /// - A '!' at the beginning of a name has no meaning; there are no immutable entries.
-/// - Reading an entry makes no group. A failure to save is not logged: Flush() returns it.
-/// - DeleteAll() is collected, too. In the default store it removes the settings of all components.
+/// - Reading an entry makes no group.
+/// - A failure to save is not logged: Flush() returns false.
+/// - DeleteAll() is saved like any other change. In the default store, it removes the settings of all components.
 ///
 /// A name or value with a null character cannot be stored, and neither can a path of more than 100 groups: the write
 /// returns false. A section whose name is not a path of groups, such as `A//B`, is kept but cannot be reached. Only one
@@ -46,25 +50,25 @@ public:
     /// Opens a named file as ui_config_mgr does: in the folder "ui_config" of the current user data directory.
     explicit wxStoreConfig(const wxString& file);
 
-    /// Saves what has not been saved yet. Call Flush() to learn whether that succeeds.
+    /// Saves the changes that are not saved yet. Does not report a failure: call Flush() first if you need the result.
     ~wxStoreConfig() override;
 
     wxStoreConfig(const wxStoreConfig&) = delete;
     wxStoreConfig& operator=(const wxStoreConfig&) = delete;
 
-    /// Takes over all groups and entries of @a old that can be stored, once. A later call takes over nothing, even in a
-    /// later run of the program or with another @a old. An entry that already exists keeps its value. Texts are taken
-    /// literally: environment variables are not expanded. @a old keeps its path and options.
+    /// Copies all groups and entries of @a old that can be stored. Does so only once: a later call copies nothing, even
+    /// in a later run of the program or with another @a old. An entry that already exists keeps its value. Texts are
+    /// copied literally: environment variables are not expanded. @a old keeps its path and options.
     ///
-    /// Saves at once as Flush() does, with everything that was collected. Returns false when that failed; the next call
-    /// then tries again.
+    /// Then saves all collected changes at once, as Flush() does. Returns false when the save failed; the next call
+    /// then tries to save again.
     bool ImportFrom(wxConfigBase& old);
 
     /// @name The current group
     /// @{
 
-    /// Makes the group at @a path current. The path may be relative and contain "..". A group that does not exist is
-    /// made, and is stored with its first entry. A path that cannot be stored is ignored.
+    /// Makes the group at @a path the current group. The path may be relative and contain "..". A group that does not
+    /// exist is made; it is stored when it gets its first entry. A path that cannot be stored is ignored.
     void SetPath(const wxString& path) override;
 
     /// Returns the path of the current group: absolute, without a separator at its end, empty for the root.
@@ -79,35 +83,35 @@ public:
     size_t GetNumberOfEntries(bool recursive = false) const override;  ///< Counts all levels if @a recursive.
     size_t GetNumberOfGroups(bool recursive = false) const override;   ///< Counts all levels if @a recursive.
 
-    /// Renames an entry of the current group. Returns false when the old name does not exist, and when the new name
-    /// exists or is not valid.
+    /// Renames an entry of the current group. Returns false if there is no entry @a oldName, or if @a newName is
+    /// already used or not valid.
     bool RenameEntry(const wxString& oldName, const wxString& newName) override;
 
-    /// Renames a group in the current group. Returns false when the old name does not exist, and when the new name
-    /// exists or is not valid.
+    /// Renames a group in the current group. Returns false if there is no group @a oldName, or if @a newName is already
+    /// used or not valid.
     bool RenameGroup(const wxString& oldName, const wxString& newName) override;
     /// @}
 
     bool HasGroup(const wxString& path) const override;  ///< True when there is such a group; false for an empty path.
     bool HasEntry(const wxString& path) const override;  ///< True when there is such an entry.
 
-    /// Removes an entry, and its group if that is then empty and @a deleteGroupIfEmpty is true. Returns false when
-    /// there is no such entry.
+    /// Removes an entry. If @a deleteGroupIfEmpty is true and the group of the entry is then empty, removes the group
+    /// too. Returns false when there is no such entry.
     bool DeleteEntry(const wxString& path, bool deleteGroupIfEmpty = true) override;
 
-    /// Removes a group with its contents. If this removes the current group, the parent of the group at @a path
-    /// becomes current. Returns false when there is no such group, and for the root.
+    /// Removes a group with its contents. If this removes the current group, the parent of the group at @a path becomes
+    /// current. Returns false when there is no such group, or when it is the root.
     bool DeleteGroup(const wxString& path) override;
 
     /// Removes all groups and entries, and the sections that are not groups. Returns true.
     bool DeleteAll() override;
 
-    /// Saves the changes since the last save, in all groups. Returns false when that failed; the changes are then kept
-    /// for the next call.
+    /// Saves the changes in all groups, even if @a currentOnly is true. Returns false when the save failed; the changes
+    /// are then kept for the next call.
     ///
     /// While the thread has a CLocalRegStore::Batch, the changes of the default store pass to the batch, and the result
-    /// is true. This object then no longer keeps the changes. The batch saves them when it ends, at the latest. If that
-    /// fails, the changes are lost. Call CLocalRegStore::Batch::Save() to learn whether they are stored.
+    /// is true. This object then no longer keeps the changes. The batch saves them at its end or before. If the save at
+    /// its end fails, the changes are lost. Call CLocalRegStore::Batch::Save() to learn whether they are stored.
     bool Flush(bool currentOnly = false) override;
 
 protected:

@@ -100,7 +100,8 @@ void StoreModel::SetCurrent(const StorePath& path)
 void StoreModel::Set(StoreGroup& group, std::wstring_view name, std::wstring_view value)
 {
     StoreEntry* const entry = group.entries.Find(name);
-    // If the file has changed since it was loaded, save even the same text: the file may have lost it.
+    // If the file has changed since it was loaded, record even the same text: another process may have changed or
+    // removed the entry.
     if (entry && entry->text == value && (entry->isChanged || CLocalRegStore::IsCurrent(*m_ini)))
         return;
     if (entry) {
@@ -116,8 +117,8 @@ void StoreModel::Set(StoreGroup& group, std::wstring_view name, std::wstring_vie
     }
     if (!group.isSection) {
         AddSection(group);
-        // As in wxFileConfig, a group remains when only its last entry is deleted. So store the group even without
-        // entries, except for the root.
+        // As in wxFileConfig, a group still exists after its last entry is deleted. So the next save stores this
+        // section even without entries, except for the root.
         group.isMade = group.parent != nullptr;
     }
 }

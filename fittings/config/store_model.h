@@ -35,17 +35,17 @@ public:
 
     StoreGroup& Root() { return *m_root; }
 
-    /// @name The current group, which exists even when others have removed it
+    /// @name The current group, which exists even when another process has removed it from the file
     /// @{
     const StorePath& CurrentPath() const { return m_currentPath; }
     StoreGroup& Current() { return *m_current; }
 
-    /// Makes the group if it is missing. The new group is stored with its first entry.
+    /// Makes the group if it is missing. The new group is stored when it gets its first entry.
     void SetCurrent(const StorePath& path);
     /// @}
 
-    /// Returns the group that a path from the current group leads to, or null. Fast when the path is the same as
-    /// before.
+    /// Returns the group at @a path, or null when there is none. A relative path starts at the current group. Fast when
+    /// the path is the same as in the last call.
     StoreGroup* Find(std::wstring_view path);
 
     /// @name Changes, collected for Save()
@@ -73,8 +73,8 @@ public:
     void SetHidden(const std::wstring& section, const std::wstring& key, const std::wstring& value);
     /// @}
 
-    /// Returns false when saving failed; the changes are then kept for the next call. A batch of the thread takes over
-    /// the changes of the default store, and the result is true.
+    /// Returns false when saving failed; the changes are then kept for the next call. If the thread has a
+    /// CLocalRegStore::Batch, the batch takes over the changes of the default store, and the result is true.
     bool Save();
 
 private:
@@ -95,7 +95,7 @@ private:
 
     StorePath m_currentPath;
     StoreGroup* m_current = nullptr;
-    /// Groups made by SetCurrent() or RenameGroup(). These exist even without a section.
+    /// The groups that SetCurrent() or RenameGroup() has made. They exist even if the store has no sections for them.
     std::set<StorePath> m_made;
 
     std::wstring m_lastPath;

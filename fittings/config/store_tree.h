@@ -31,7 +31,8 @@ public:
 
     Value* Find(std::wstring_view name)
     {
-        // Programs often ask for items in the order of the list. Comparing one name is faster than the search.
+        // Programs often ask for items in the order of the list. So compare the next name first, which is faster than a
+        // search.
         if (m_afterFound >= m_items.size() || m_items[m_afterFound].isRemoved || m_items[m_afterFound].name != name) {
             const auto found = m_places.find(name);
             if (found == m_places.end())
@@ -62,7 +63,7 @@ public:
             m_items.pop_front();
     }
 
-    /// Returns the first item at or after @a place, or null, and moves @a place past that item.
+    /// Returns the first item at or after @a place, and moves @a place past that item. Returns null when there is none.
     const Item* Next(long& place) const { return NextOf(*this, place); }
     Item* Next(long& place) { return NextOf(*this, place); }
 
@@ -121,17 +122,17 @@ inline constexpr std::size_t kMaxStoreDepth = 100;
 /// Returns the name of the section that contains the entries of the group at @a path.
 std::wstring SectionOf(const StorePath& path);
 
-/// Returns the path of the group for a section; none when its name is not a path of groups.
+/// Returns the path of the group that a section represents; none when the section's name is not a path of groups.
 std::optional<StorePath> PathOfSection(std::wstring_view section);
 
 /// Resolves @a text as the toolkit does: from the root when it is empty or begins with the separator, otherwise from
-/// @a current. Empty steps and "." are skipped, ".." goes up.
+/// @a current. Empty steps and "." are skipped; ".." leads to the parent.
 StorePath FollowedPath(const StorePath& current, std::wstring_view text);
 
 /// Returns the group at @a path, or null when there is none.
 StoreGroup* FindStoreGroup(StoreGroup& root, const StorePath& path);
 
-/// Returns the group at @a path, and makes it and the groups above it as needed.
+/// Returns the group at @a path. First makes this group and the groups above it if they are missing.
 StoreGroup& MakeStoreGroup(StoreGroup& root, const StorePath& path);
 
 }  // namespace fittings

@@ -9,14 +9,14 @@
 /// Text and integers in named INI files below the folder "ui_config" of the user data directory.
 ///
 /// Every call opens its file, reads or changes one value, saves the change and closes the file. Nothing is cached and
-/// no lock is taken: if two processes write one file at the same moment, the later one wins. The first call of any kind
-/// makes the folder. Null texts count as empty. GUI thread only.
+/// no lock is taken: if two processes write one file at the same moment, one of the changes is lost. The first call of
+/// any kind makes the folder. Null texts count as empty. GUI thread only.
 ///
 /// Each text may be a wxString, a std::string, a std::wstring, or a wide or narrow literal. One call may mix them: see
 /// fittings::TextArgument.
 ///
-/// A file name is appended to the folder and not checked. "../x.ini" is a file outside the folder, and a name that
-/// contains a folder needs that folder to exist. Use names of the program, never one that a user can choose.
+/// A file name is appended to the folder without a check. "../x.ini" is a file outside the folder. If a name contains a
+/// folder, that folder must exist. Use file names that the program defines, never a name that a user can choose.
 ///
 /// @code
 /// ui_config_mgr::WriteConfigInt(L"search.ini", L"Results", L"PageSize", 50);

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// A stored geometry with a width or height up to this is not applied.
+/// A stored geometry is not applied if its width or height is this many pixels or less.
 constexpr int kTooSmall = 10;
 
 /// The largest coordinate or size on an X display, where these numbers have 16 bits. Stored numbers are limited to
@@ -18,8 +18,8 @@ constexpr long kFarthest = 32767;
 
 /// Returns the window's rectangle on the screen.
 ///
-/// If the top-level window is not shown yet, the toolkit cannot find this rectangle, and logs an error. Then the
-/// positions of the window and its ancestors are added up instead. This sum lacks only the decorations.
+/// If the top-level window is not shown yet, the toolkit cannot find this rectangle, and logs an error. In that case,
+/// this function adds up the positions of the window and its ancestors. Only the decorations are missing in the sum.
 wxRect ScreenRect(wxWindow& window)
 {
     if (wxGetTopLevelParent(&window)->IsShown())
@@ -30,11 +30,11 @@ wxRect ScreenRect(wxWindow& window)
     return rect;
 }
 
-/// Returns the display that shows most of the window; wxNOT_FOUND when no display shows any of it.
+/// Returns the number of the display that shows most of the window; wxNOT_FOUND when no display shows any part of it.
 ///
-/// Uses wxDisplay::GetFromWindow() only to recognise a window that is not created yet. The displays that this function
-/// returns may be wrong: it returns one even for a window that is far away from all displays, and uses the earlier
-/// place of a hidden window that was moved.
+/// Uses wxDisplay::GetFromWindow() only to recognise a window that is not created yet. The display that GetFromWindow()
+/// returns may be wrong. It returns a display even for a window that is far away from all displays. For a hidden window
+/// that was moved, it uses the earlier place.
 int DisplayOf(wxWindow& window)
 {
     if (wxDisplay::GetFromWindow(&window) == wxNOT_FOUND)
@@ -67,7 +67,7 @@ wxRect FitInto(const wxRect& area, const wxRect& rect)
 }
 
 /// Brings a window into the work area of its display. A window that is on no display is first moved to (0, 0). Returns
-/// false when it is on no display there either.
+/// false if it is on no display even there.
 bool BringOntoDisplay(wxWindow& window)
 {
     if (DisplayOf(window) == wxNOT_FOUND)
@@ -78,8 +78,8 @@ bool BringOntoDisplay(wxWindow& window)
 
     const wxRect area = wxDisplay(static_cast<unsigned>(display)).GetClientArea();
     wxRect rect(window.GetPosition(), window.GetSize());
-    // A window without a position is compared as if it lay in the area's corner. If it fits into the area, its place is
-    // left to the window manager.
+    // A window without a position is compared as if it lay in the area's top left corner. If the window fits into the
+    // area, the window manager chooses its place.
     if (rect.GetPosition() == wxDefaultPosition)
         rect.SetPosition(area.GetPosition());
     if (!area.Contains(rect))

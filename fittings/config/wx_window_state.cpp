@@ -27,8 +27,8 @@ constexpr wchar_t kLayoutSection[] = L"wxAuiManagerState";
 /// reference's right edge.
 constexpr int kWideReference = 800;
 
-/// Reads "x;y;width;height" as scanf's "%d;%d;%d;%d" does: blanks before a number and any text after the last one are
-/// allowed. A number out of range, for which scanf's result is undefined, becomes the nearest one in range.
+/// Reads "x;y;width;height" as scanf's "%d;%d;%d;%d" does: blanks before a number and any text after the last number
+/// are allowed. ToPixels() limits each number, even a number that is too large for scanf.
 std::optional<wxRect> ParseGeometry(const std::wstring& text)
 {
     int fields[4];

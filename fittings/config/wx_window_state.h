@@ -34,29 +34,29 @@ namespace wx_window_state {
 /// the screen for a top-level window. A hidden or iconised window is stored as the toolkit reports it.
 FITTINGS_API void SaveState(wxWindow* window, const wchar_t* name);
 
-/// Stores the geometry as for any window, and whether the frame is maximised. The geometry of a maximised frame is the
-/// maximised one.
+/// Stores the geometry as for any window, and whether the frame is maximised. For a maximised frame, this is the
+/// geometry of the maximised frame.
 FITTINGS_API void SaveState(wxFrame* frame, const wchar_t* name);
 
 /// Gives a window its stored geometry and moves it onto a display.
 ///
 /// If the stored width or height is 10 or less, the window keeps its own geometry. A window that is on no display moves
-/// to (0, 0). A window that extends beyond its display's work area is clipped to the area. A window that is wholly
-/// outside the area, for example under a panel, moves into the area. Numbers that do not fit the 16 bits of an X
-/// coordinate are limited to the nearest that do.
+/// to (0, 0). If only a part of the window lies in its display's work area, the window gets the place and size of that
+/// part. A window that is wholly outside the area, for example under a panel, moves into the area. Numbers beyond the
+/// 16 bits of an X coordinate are limited to that range.
 ///
-/// A hidden window appears in its place when it is shown. This includes the first window of a process, under any window
-/// manager that lets programs place their windows. The host only needs to call wxWindow::Show().
+/// A hidden window appears in its place when the host calls wxWindow::Show(); no other call is needed. This includes
+/// the first window of a process. It holds under any window manager that lets programs place their windows.
 ///
 /// The function is meant for top-level windows. It compares a child's position with the work area too, although that
 /// position is relative to the parent.
 ///
-/// Returns false and does not move or size the window when no geometry is stored, or when the stored one is not four
-/// integers. Also returns false for a window that is on no display at (0, 0) either, and leaves the window there.
+/// Returns false if no geometry is stored, or if the stored text is not four integers. The window then keeps its place
+/// and size. Also returns false if the window is on no display even at (0, 0). The window then stays there.
 FITTINGS_API bool LoadState(wxWindow* window, const wchar_t* name);
 
-/// Does the same as for any window. If that returns true and the frame was stored as maximised, MaximizeFrame() then
-/// maximises the frame.
+/// Does the same as the overload for a wxWindow. If that returns true and the frame was stored as maximised, also calls
+/// MaximizeFrame().
 FITTINGS_API bool LoadState(wxFrame* frame, const wchar_t* name);
 
 /// Maximises the frame on a later turn of the event loop, so the frame may still be hidden when this is called.
@@ -72,16 +72,16 @@ FITTINGS_API void SaveAuiManagerState(wxAuiManager* manager, const wchar_t* name
 
 /// Restores a stored layout and updates the window. Returns false and changes nothing when no layout is stored.
 ///
-/// A stored text counts as missing if it is cut or damaged, or if it has more rows or layers than the toolkit lays out
-/// quickly. wxAuiManager::LoadPerspective() asserts on some of these texts, and does not return with others.
+/// A stored text counts as missing if it is cut off or damaged, or if it has more rows or layers than the toolkit lays
+/// out quickly. wxAuiManager::LoadPerspective() asserts on some of these texts, and does not return for others.
 ///
 /// As in wxAuiManager::LoadPerspective(), panes that the stored layout does not name are hidden, and captions are
 /// restored as they were stored. LoadPerspective() cannot read a caption with a ";" or with a "\" before a "|": do not
 /// use these in captions.
 ///
 /// A floating pane is shown at once. Before the frame is on the screen, a window manager does not keep the pane above
-/// the frame. If panes can float, load the layout when GTK reports the frame as mapped ("map-event"), before it is
-/// drawn.
+/// the frame. If panes can float, load the layout when GTK reports the frame as mapped ("map-event"). At that moment,
+/// the frame is not drawn yet.
 FITTINGS_API bool LoadAuiManagerState(wxAuiManager* manager, const wchar_t* name);
 
 /// @name With names of any kind
