@@ -2,7 +2,7 @@
 // combo. Prints what happens, and exits after ENDS selections have ended.
 //
 //   display x11|wayland
-//   combo X Y WIDTH HEIGHT     in the frame's client area
+//   combo X Y WIDTH HEIGHT     the combo's rectangle in the frame's client area
 //   frame X Y WIDTH HEIGHT     the frame's client area on the screen; on Wayland, the position is not the real one
 //   opens at once              ShowPopup() is about to show the popup, without an animation
 //   opens later                the popup is about to be shown at the end of an animation

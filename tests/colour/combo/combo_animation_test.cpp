@@ -446,7 +446,7 @@ TEST_F(ColourAnimation, WorksAtAndBeyondTheScreensEdge)
     }
 }
 
-// A host's own timer whose owner is the combo does not open the popup.
+// A host may start a timer of its own with the combo as the owner. The ticks of that timer do not open the popup.
 TEST_F(ColourAnimation, IsNotStartedByAnotherTimer)
 {
     int ticks = 0;

@@ -30,8 +30,8 @@ TEST(ColourComboCreate, TakesAllThatTheToolkitsTakes)
     EXPECT_EQ(wxWindow::FindWindowByName("line", frame), combo);
 }
 
-// wxColourCombo and wxColourPopup have no class information of their own: GetClassInfo() returns that of wxComboCtrl
-// for the combo, and that of wxWindow for the popup.
+// wxColourCombo and wxColourPopup have no class information of their own. GetClassInfo() returns the class information
+// of wxComboCtrl for the combo, and of wxWindow for the popup.
 TEST(ColourComboClass, IsTheToolkits)
 {
     const ComboOnScreen<> on;

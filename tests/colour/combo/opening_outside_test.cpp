@@ -1,4 +1,4 @@
-// Clicks outside the popup while it opens have the same effect as while it is open.
+// A click outside the popup has the same effect while the popup opens as while it is open.
 
 #include <string>
 
@@ -78,7 +78,8 @@ TEST_P(ClickOutsideThePopup, DismissesItOnTheMenuBarWithoutOpeningAMenu)
     PumpPending();
 }
 
-// The modal dialog keeps the click from the window under the pointer. The click dismisses the popup all the same.
+// The modal dialog blocks the window under the pointer. A click there does not reach that window, but dismisses the
+// popup.
 TEST_P(ClickOutsideThePopup, DismissesItOnAWindowThatADialogBlocks)
 {
     ASSERT_TRUE(ShowAndSettle(on.frame));

@@ -245,7 +245,7 @@ class ColourMargin : public testing::TestWithParam<Edge>
 {
 };
 
-// The side of a cell is 18 pixels, but at least seven pixels more than two margins.
+// The side of a cell is 18 pixels, or seven pixels more than two margins if that is larger.
 TEST_P(ColourMargin, IsTheSystemsEdge)
 {
     const PinnedEdge edge(GetParam().reported);

@@ -41,7 +41,7 @@ void ExpectCells(const PopupInFrame& popup, const std::vector<Place>& places)
     }
 }
 
-// Makes the layout independent of the font: margin 2, cells of 18 pixels.
+// Sets a fixed layout, because the calculated one depends on the font.
 void SetBoxes(const PopupInFrame& popup)
 {
     popup->m_nMargin = 2;
