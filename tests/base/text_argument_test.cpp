@@ -178,7 +178,7 @@ TEST(TextsOfAnyKind, ReachTheSaveDialogsProperties)
     });
 }
 
-// Narrow text is UTF-8 even in the C locale, in which the toolkit cannot convert it.
+// The library reads narrow text as UTF-8 even in the C locale, in which the toolkit cannot convert such text.
 TEST(NarrowTextOfAnyKind, IsUtf8InEachLocale)
 {
     const ScopedLocale plain("C");

@@ -12,7 +12,7 @@ bool IsThere();
 /// Mounts the disk read-only, or makes it writable again.
 void MakeReadOnly(bool isReadOnly);
 
-/// Fills the disk completely or removes what fills it.
+/// Fills the disk completely, or removes the file that fills it.
 void Fill(bool isFull);
 
 }  // namespace own_home

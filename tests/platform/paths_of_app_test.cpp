@@ -1,4 +1,4 @@
-// The paths while the application changes its name, and while several threads use them.
+// The paths when the application changes its name, and when several threads use the paths.
 
 #include <fittings/platform/std_file_paths.h>
 

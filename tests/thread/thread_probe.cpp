@@ -61,7 +61,7 @@ long Number(wxThread::ExitCode code)
     return static_cast<long>(reinterpret_cast<std::intptr_t>(code));
 }
 
-// Keeps this process from starting threads. The limit does not apply to root, so root changes to another user.
+// Keeps this process from starting threads. The limit does not apply to root, so a process of root changes its user.
 bool LeaveNoRoomForThreads()
 {
     const rlimit none{0, 0};
@@ -100,7 +100,7 @@ void Created()
 }
 
 // Makes three threads that are never run, and one that is run. At its shutdown, the toolkit logs the number of threads
-// that are left. Its log goes to stderr, which leads to stdout here.
+// that are left. The log goes to stderr, which is redirected to stdout here.
 void NeverRun()
 {
     dup2(STDOUT_FILENO, STDERR_FILENO);

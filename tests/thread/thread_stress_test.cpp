@@ -121,7 +121,7 @@ TEST(SixtyFourWorkers, PostTenThousandEventsEachInOrder)
     EXPECT_EQ(handler.outOfOrder, 0);
 }
 
-// Other threads may post for the worker, too: the events of each thread stay in order.
+// Other threads may also post with the worker's PostEvent(). The events of each thread must stay in order.
 TEST(OneWorker, LetsSeveralThreadsPost)
 {
     Counter handler(4);

@@ -1,4 +1,4 @@
-// Persistent report lists, and persistent data views. The class that makes data views persistent is the toolkit's.
+// Persistent report lists, and persistent data views. The class that makes data views persistent is in the toolkit.
 
 #include <vector>
 

@@ -11,7 +11,7 @@
 #include <fittings/config/store_config.h>
 #include <tests/support/temp_folder.h>
 
-/// Returns the names of the current group's entries, in order.
+/// Returns the names of the entries in the current group, in the order of the file.
 inline std::vector<wxString> EntryNames(const wxConfigBase& config)
 {
     std::vector<wxString> names;
@@ -22,7 +22,7 @@ inline std::vector<wxString> EntryNames(const wxConfigBase& config)
     return names;
 }
 
-/// Returns the names of the groups in the current group, in order.
+/// Returns the names of the groups in the current group, in the order of the file.
 inline std::vector<wxString> GroupNames(const wxConfigBase& config)
 {
     std::vector<wxString> names;

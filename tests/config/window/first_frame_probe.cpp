@@ -5,7 +5,7 @@
 // first_frame_probe KIND restore: restores a frame and shows it as the first window of the process.
 //
 // Both commands wait until the geometry on the screen is the expected one and no longer changes, and print this
-// geometry. If that takes too long, they print the last geometry. While the frame is maximised, "store" prints the
+// geometry. If the wait takes too long, they print the last geometry. While the frame is maximised, "store" prints the
 // given geometry, because this is the geometry that is stored.
 //
 // KIND is one of these words:

@@ -64,7 +64,7 @@ bool MaximizeAndSettle(wxFrame* frame)
     return PumpUntil([&] { return frame->IsMaximized() && frame->GetSize() == wxSize(1264, 960); });
 }
 
-/// Posts an event such as the toolkit sends when a frame is maximised. @a object becomes the event's object.
+/// Posts an event like the one that the toolkit sends when a frame is maximised. @a object becomes the event's object.
 void PostMaximizeEvent(wxFrame* frame, wxObject* object)
 {
     wxMaximizeEvent event(frame->GetId());

@@ -22,8 +22,8 @@ TEST(Display, HasTheWorkAreaThatTheseTestsExpect)
     EXPECT_EQ(wxDisplay(0u).GetClientArea(), wxRect(16, 24, 1264, 960));
 }
 
-/// A stored geometry, the calls by which LoadState() corrects it, and the resulting geometry of the window. The first
-/// two calls of LoadState() apply the stored geometry and are left out.
+/// A stored geometry, the calls by which LoadState() corrects it, and the resulting geometry of the window.
+/// LoadState() first applies the stored geometry with two calls, which are left out here.
 struct Restored
 {
     const char* name;

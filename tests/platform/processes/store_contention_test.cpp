@@ -126,7 +126,7 @@ TEST(TwelveProcesses, LoseNothingInAStoreOfAHundredThousandKeys)
     EXPECT_EQ(ReadFile(data / "settings.ini").substr(0, text.size()), text);
 }
 
-// Starts a process that stops itself while it holds the lock, as under a debugger or in a suspended container.
+// Starts a process that stops itself while it holds the lock, as happens under a debugger or in a suspended container.
 pid_t StartHolderThatStops(const wchar_t* key)
 {
     const pid_t child = StartChild([key] {

@@ -21,7 +21,7 @@ unsigned Below(Random& random, unsigned limit)
     return static_cast<unsigned>(random() % limit);
 }
 
-// Returns a random character. About every fourth character is in the list of special ones.
+// Returns a random character. About every fourth character comes from the list of special characters.
 wchar_t AnyCharacter(Random& random)
 {
     static const std::wstring special = L"=[]#;%\"\\/ \t\r\n{}ux0189abAF.:-_\x7F\x85\xA0\xFEFF\x2028";
