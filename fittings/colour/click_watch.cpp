@@ -33,8 +33,8 @@ void ClickWatch::Start()
     wxEvtHandler::AddFilter(this);
     GtkWidget* const widget = m_owner.GetHandle();
     m_handler = g_signal_connect(widget, "button-press-event", G_CALLBACK(OnPress), this);
-    // GTK's grab takes the clicks on the windows of this program, and the display's grab those on title bars and other
-    // programs.
+    // GTK's grab takes the clicks on the windows of this program. The display's grab takes the clicks on title bars and
+    // other programs.
     gtk_grab_add(widget);
     if (gtk_widget_get_mapped(widget))
         gdk_seat_grab(PointerOf(widget), gtk_widget_get_window(widget), GDK_SEAT_CAPABILITY_ALL_POINTING, true, nullptr,

@@ -50,8 +50,7 @@ wxEND_EVENT_TABLE()
 
 wxColourCombo::wxColourCombo() : m_clicks(std::make_unique<fittings::ClickWatch>(*this, [this] { DismissOpening(); }))
 {
-    // Drop keys during the animation. The user means them for the opening popup: they must not close the dialog that
-    // contains the control.
+    // Drop keys during the animation: Escape and Enter must not close the dialog that contains the control.
     Bind(wxEVT_CHAR_HOOK, [this](wxKeyEvent& event) { event.Skip(!m_animTimer.IsRunning()); });
 }
 

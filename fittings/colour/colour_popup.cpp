@@ -203,7 +203,7 @@ int wxColourPopup::GetIndex(int row, int col) const
         return CELL_AUTOMATIC;
     if (row < 0 || col < 0 || row >= m_nNumRows || col >= m_nNumColumns)
         return CELL_NONE;
-    // The last row may be a partial one.
+    // The last row may have fewer cells.
     const int index = m_nNumColumns * row + col;
     return index < m_nNumColours ? index : CELL_NONE;
 }

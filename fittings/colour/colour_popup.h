@@ -47,7 +47,7 @@ public:
 ///
 /// To use a class that is derived from this one, pass an object of that class to wxComboCtrl::SetPopupControl().
 ///
-/// Change the settings, except the colour, before the popup is shown. The colour that the user chooses becomes the
+/// All settings except the colour must be set before the popup is shown. The colour that the user chooses becomes the
 /// colour in effect, which is also called the initial colour. The listener and the combo's wxEVT_COLOURPICKER_CHANGED
 /// report it.
 ///
@@ -127,14 +127,14 @@ public:
     /// default colour). Do not pass any other index: it is not checked.
     wxColour GetColour(int index) const;
 
-    /// Returns the row of a cell in the grid. For a box, the result is @a index itself. For an absent box and for any
-    /// other index, the result is -1.
+    /// Returns the row of a cell in the grid. For a box that is present, the result is @a index itself. For an absent
+    /// box and for any other index, the result is -1.
     int GetRow(int index) const;
 
     /// Returns the column of a cell in the grid. For an index outside the grid, the result is that of GetRow().
     int GetColumn(int index) const;
 
-    /// Returns the cell at a place of the grid; CELL_NONE if there is no cell. If either @a row or @a col is the index
+    /// Returns the cell of the grid at @a row and @a col; CELL_NONE if there is none. If @a row or @a col is the index
     /// of a box that is present, the result is that box, whatever the other coordinate is.
     int GetIndex(int row, int col) const;
 
@@ -257,12 +257,13 @@ public:
     /// Outside the popup, the selection is cancelled.
     void OnLButtonUp(wxMouseEvent& event);
 
-    /// The arrow keys move the hot cell, Enter and the space bar choose it, and Escape cancels. Other keys are skipped.
+    /// The arrow keys make another cell hot, Enter and the space bar choose the hot cell, and Escape cancels. Other
+    /// keys are skipped.
     ///
     /// Left and Right move in a circle: "Automatic", the palette row by row, "More Colours...". On a box, Up and Down
-    /// move in the same circle. On the palette, they move within a column: Up from the first row leads to "Automatic",
-    /// and Down from the last row to "More Colours...". While no cell is hot, Down and Right begin with "More
-    /// Colours...", and Up and Left with "Automatic".
+    /// move in the same circle. On the palette, Up and Down move within a column: Up from the first row leads to
+    /// "Automatic", and Down from the last row to "More Colours...". While no cell is hot, Down and Right begin with
+    /// "More Colours...", and Up and Left with "Automatic".
     void OnKeyDown(wxKeyEvent& event);
 
     /// Handles a key of the combo while the popup is closed and the combo has the focus. With wxCB_READONLY, Up chooses

@@ -145,8 +145,8 @@ void wxColourPopup::OnDismiss()
 bool wxColourPopup::Send(wxEventType type, const wxColour& colour)
 {
     const Life life(m_life);
-    // Send nothing while the combo is being deleted: objects whose handlers are bound to it may be partly destroyed by
-    // then.
+    // Send nothing while the combo is being deleted: the objects whose handlers are bound to the combo may already be
+    // partly destroyed.
     if (m_combo && !m_combo->IsBeingDeleted()) {
         wxColourPickerEvent event(m_combo, m_combo->GetId(), colour, type);
         m_combo->HandleWindowEvent(event);

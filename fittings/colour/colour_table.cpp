@@ -20,7 +20,7 @@ struct KeyedColour
     std::uint32_t colour;
 };
 
-// The palette defines its own values. For some names, the colour differs from the one that is commonly known.
+// The palette defines its own values: some of the names usually stand for a different colour.
 constexpr KeyedColour kColours[] = {
     // Translators: one of 40 names of colours in a palette, shown as hints. No two may be alike in a language.
     {wxTRANSLATE(L"Black"), Rgb(0, 0, 0)},

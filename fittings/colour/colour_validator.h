@@ -40,12 +40,12 @@ public:
     /// Returns true. @a parent is not used.
     bool Validate(wxWindow* parent) override;
 
-    /// Shows the host's colour in the control, which sends no event. Returns false and changes nothing for an invalid
-    /// colour, for a control of another class, and for a wxColourCombo without a wxColourPopup.
+    /// Shows the host's colour in the control. The control sends no event. Returns false and changes nothing for an
+    /// invalid colour, for a control of another class, and for a wxColourCombo without a wxColourPopup.
     bool TransferToWindow() override;
 
     /// Copies the control's colour to the host's variable. Returns false and changes nothing for a control of another
-    /// class and for one that has no colour.
+    /// class and for a control that has no colour.
     bool TransferFromWindow() override;
 
 protected:

@@ -174,7 +174,7 @@ void SaveLastPath(const wchar_t* path, const char* entry)
 {
     if (!*entry || !*path)
         return;
-    // Call this because a host's platform may rely on the call. The result is not used: the path is stored as it was
+    // Make this call, because a host's platform may rely on it. The result is not used: the path is stored as it was
     // chosen.
     file_util_ex::RemoveBackSlash(path);
     CLocalRegStore::WriteString(kLastFilesSection, entry, file_util_ex::ConvertToUTF8(path).c_str());

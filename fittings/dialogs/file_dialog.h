@@ -28,7 +28,7 @@ class wxWindow;
 /// entry as the key. Nothing is cached: a dialog that needs the stored path reads it anew. A cancelled dialog does
 /// not change the stored path.
 ///
-/// Each text may be of any kind: see fittings::TextArgument.
+/// Each text argument may be of any kind: see fittings::TextArgument.
 class FITTINGS_API CQVFileDialogI
 {
 public:
@@ -57,11 +57,11 @@ public:
     /// @param wildcard  the files that are shown, as in wxFileDialog: "Tables (*.csv)|*.csv|All files|*". Null or
     ///     empty: files with the default extension, or all files if that is empty too.
     /// @param title  null or empty: no title.
-    /// @param initialFolder  the folder to start in, with a separator at its end. Without the separator, its last part
-    ///     is taken for a file name. Empty: the folder of the remembered file, or the application's folder "Samples" if
-    ///     the registry entry has no file yet. If the registry entry is empty too, the toolkit chooses the folder. If
-    ///     the folder does not exist or cannot be read, the dialog starts in the nearest folder above it that can be
-    ///     read. Null asserts, and the result is empty.
+    /// @param initialFolder  the folder to start in, with a separator at its end. Without the separator, the last part
+    ///     of this path is taken for a file name. Empty: the folder of the remembered file, or the application's folder
+    ///     "Samples" if the registry entry has no file yet. If the registry entry is empty too, the toolkit chooses the
+    ///     folder. If the folder does not exist or cannot be read, the dialog starts in the nearest folder above it that
+    ///     can be read. Null asserts, and the result is empty.
     /// @param initialFileName  the proposed name. Null or empty: the file name that was taken from @a initialFolder, or
     ///     the name of the remembered file if @a initialFolder is empty. In these two cases, the extension is dropped.
     ///     If the proposed name has no extension, the toolkit adds that of the first pattern.
