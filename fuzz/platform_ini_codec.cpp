@@ -1,5 +1,5 @@
 // Texts in INI files: every text without null characters can be encoded in one line and read back exactly. Every byte
-// of a file except NUL can be decoded.
+// of a file can be decoded, except NUL.
 
 #include <algorithm>
 #include <cstdint>

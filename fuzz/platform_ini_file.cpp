@@ -77,8 +77,8 @@ bool HasName(const Ini& ini, const Address& address)
            contains(CLocalRegStore::GetKeyNames(*ini, address.section.c_str()), address.key);
 }
 
-// Returns a part of the file, which is often the name of a section or key. Bytes that are not ASCII become unusual
-// characters.
+// Returns a part of the file. Such a part is often the name of a section or key. Bytes that are not ASCII become
+// unusual characters.
 std::wstring ConsumeText(FuzzedDataProvider& bytes, const std::string& file)
 {
     constexpr wchar_t kUnusual[] = {0x1, 0x85, 0xA0, 0x2028, 0xD800, 0xDFFF, 0xFEFF, 0x10FFFF, 0x110000};

@@ -33,9 +33,9 @@
 #include <tests/support/gui.h>
 #include <tests/support/temp_folder.h>
 
-// What the examples expect the program to have.
 namespace header_examples {
 
+// The examples use these parts of a program.
 using Bytes = std::vector<unsigned char>;
 
 std::uintptr_t Adler32(const Bytes& bytes)

@@ -41,7 +41,7 @@ wxString AskForNote(wxWindow* parent, const wxString& notes)
 {
     wxRememberingFileDialog dialog(parent, "Notes", "Open a note", "Notes (*.txt)|*.txt|All files|*",
                                    wxFD_OPEN | wxFD_FILE_MUST_EXIST);
-    // Without this, the first dialog starts in the user's documents.
+    // Without this call, the first dialog starts in the user's documents.
     if (CLocalRegStore::GetString(L"LastFiles", L"Notes", L"").empty())
         dialog.SetDirectory(notes);
     return dialog.ShowModal() == wxID_OK ? dialog.GetPath() : wxString();

@@ -1,4 +1,4 @@
-// The examples of the number control in its header and in the pages, word for word.
+// The examples of the number control in the public headers and in docs, word for word.
 
 #include <cstdint>
 

@@ -71,7 +71,7 @@ protected:
         return focus && (focus == window.GetHandle() || gtk_widget_is_ancestor(focus, window.GetHandle()));
     }
 
-    /// Returns the name of the page's control that has the focus; empty when none has.
+    /// Returns the name of the page's control that has the focus, or an empty text.
     std::string FocusName()
     {
         for (const wxWindow* parent : std::initializer_list<wxWindow*>{Page().GetFields(), &Page()}) {
@@ -110,7 +110,7 @@ protected:
 
     void OpenColours()
     {
-        // Keep the pointer off the popup: otherwise a cell would become hot at once.
+        // Keep the pointer away from the popup: otherwise the cell below the pointer would become hot at once.
         PointAt(frame->GetScreenPosition());
         GoTo('C', "Combo");
         Press(WXK_F4);

@@ -1,4 +1,4 @@
-// The program, started as from a shell.
+// The program, started as a shell starts it.
 
 #include <csignal>
 #include <cstdio>

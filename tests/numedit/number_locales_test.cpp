@@ -227,9 +227,9 @@ TEST(CurrentConversion, ReadsSeparatorsBeyondAscii)
     EXPECT_EQ(Shown(L"1٫5", CNumberFormat(eFixedFormat)), L"1.50");
 }
 
-// With this conversion, the locale's point has two characters. The grammar and the locale preset use only the first.
-// ValidateString() replaces the format's point by both characters, and FormatControlText() replaces both characters by
-// the format's point.
+// With this conversion, the locale's point has two characters. The grammar and the locale preset use only the first
+// character. ValidateString() replaces the format's point by both characters, and FormatControlText() replaces both
+// characters by the format's point.
 TEST(CurrentConversion, MayMakeSeveralCharactersOfThePoint)
 {
     const ScopedLocale pashto("ps_AF.UTF-8");

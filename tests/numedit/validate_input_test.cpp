@@ -84,7 +84,7 @@ TEST(ValidateInput, AcceptsAsManyZerosAsThereAreDecimals)
     EXPECT_FALSE(Accepted(L"0.001", format));
 }
 
-// The format allows no digit in front of the point. Nevertheless, ValidateInput() accepts the zero of "0" and "0.00".
+// The format allows no digit in front of the point. Even so, ValidateInput() accepts the zero of "0" and "0.00".
 TEST(ValidateInput, AcceptsTheZeroWhateverTheIntegerDigits)
 {
     CNumberFormat format(eFixedFormat);

@@ -54,7 +54,7 @@ public:
         DestroyNow(frame);
         // The first thread makes data that the toolkit keeps for all threads. Make the data before any test: if a
         // test's first two threads made it at the same time, the thread sanitizer would report a race. The toolkit is
-        // built without the sanitizer, which therefore cannot see how the toolkit guards the data.
+        // built without the sanitizer, so the sanitizer cannot see how the toolkit guards the data.
         FirstThread thread;
         thread.Run();
         thread.Wait();

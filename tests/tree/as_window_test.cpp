@@ -310,7 +310,7 @@ TEST(TreesInOtherColoursAndFont, LookLikeTheToolkits)
     }
     EXPECT_GT(sizes[0].y, 25);
     EXPECT_EQ(sizes[1], sizes[0]);
-    // The cursor reports black for an item without a colour of its own, whatever the colour of the control.
+    // The cursor reports black for an item without its own colour. The colour of the control does not matter.
     EXPECT_EQ(root.GetTextColour(), 0u);
     root.SetTextColour(0x00FF0000);
     EXPECT_EQ(handy.tree->GetItemTextColour(root.item), *wxBLUE);

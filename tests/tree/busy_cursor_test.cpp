@@ -16,8 +16,8 @@
 
 namespace {
 
-// Returns the name of the cursor under the pointer. Asks over the program's own connection, so the display answers
-// after it has handled all earlier requests of the program.
+// Returns the name of the cursor under the pointer. Uses the program's own connection, so the display first handles all
+// earlier requests of the program.
 std::string CursorOnDisplay()
 {
     Display* display = gdk_x11_get_default_xdisplay();

@@ -162,7 +162,7 @@ TEST_F(LargeTree, OfOneLabelIsSavedAsOne)
     EXPECT_EQ(StoredState(L"state"), L"");
 }
 
-// Some of so many labels have equal 32-bit hashes. Nevertheless, each label must be stored.
+// Some of so many labels have equal 32-bit hashes. Even so, each label must be stored.
 TEST_F(LargeTree, TellsAllItsLabelsApart)
 {
     constexpr int kCount = 300'000;

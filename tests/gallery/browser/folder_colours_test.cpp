@@ -161,8 +161,8 @@ TEST_F(FolderColours, AutomaticTakesItAway)
     EXPECT_FALSE(ColourOf("docs").IsOk());
 }
 
-// The palette's black looks like plain text in the light theme. Nevertheless, a folder for which the user chooses black
-// must get this colour.
+// The palette's black looks like plain text in the light theme. A folder for which the user chooses black must still
+// get this colour.
 TEST_F(FolderColours, BlackIsNotAutomatic)
 {
     Select("docs");

@@ -149,7 +149,7 @@ TEST_F(SizeFilterTest, EscapeEmptiesIt)
     EXPECT_TRUE(Field().HasFocus());
 }
 
-// The process is in the C locale, which has no thousands separator. Nevertheless, the digits are grouped.
+// The process is in the C locale, which has no thousands separator. Even so, the digits are grouped.
 TEST_F(SizeFilterTest, ShowsTheNumberWithItsDigitsGrouped)
 {
     Filter("1234567.50");

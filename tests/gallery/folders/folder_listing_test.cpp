@@ -123,7 +123,7 @@ TEST(ReadFolder, SaysThatItMayNot)
     EXPECT_TRUE(listing.entries.empty());
 }
 
-// If a folder may be listed but not entered, the names of its entries are known, but not their sizes.
+// If a folder is readable but cannot be entered, the names of its entries are known, but their sizes are not.
 TEST(ReadFolder, ListsWhatItCannotDescribe)
 {
     TempFolder folder;

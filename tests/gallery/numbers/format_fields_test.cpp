@@ -29,8 +29,8 @@ class NumbersPageFlag : public NumbersPageTest, public testing::WithParamInterfa
 {
 };
 
-// The focus is in the number's field, whose validator refuses the letter of the mnemonic. Nevertheless, the mnemonic
-// must work.
+// The focus is in the number's field, whose validator refuses the letter of the mnemonic. Even so, the mnemonic must
+// work.
 TEST_P(NumbersPageFlag, IsSwitchedByItsMnemonicAndByAClick)
 {
     const FlagCase& flag = GetParam();

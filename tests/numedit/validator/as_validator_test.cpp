@@ -165,7 +165,7 @@ TEST_F(Numbers, StandBesideTheToolkitsValidators)
     EXPECT_FALSE(checked);
 }
 
-// --- On its control --------------------------------------------------------------------------------------------------
+// --- On a control ----------------------------------------------------------------------------------------------------
 
 TEST_F(Numbers, GiveTheHostTheKeysThatTheyTakeOnce)
 {

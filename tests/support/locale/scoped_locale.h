@@ -16,7 +16,7 @@
 /// const ScopedLocale pointAlone("ps_AF.UTF-8", LC_NUMERIC);  // its point cannot be converted in the C locale
 /// @endcode
 ///
-/// The constructor sets LOCPATH, for child processes too. The destructor does not restore it.
+/// The constructor sets LOCPATH, for child processes too. The destructor does not restore LOCPATH.
 class ScopedLocale
 {
 public:

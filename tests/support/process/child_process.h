@@ -15,8 +15,8 @@ class ChildProcess
 {
 public:
     /// Starts the program in this process's environment with the changes in @a environment; an entry without a value
-    /// removes the variable. The program writes its standard error to the file @a errors. Without this argument, it
-    /// inherits the standard error of this process.
+    /// removes the variable. The program writes its standard error to the file @a errors. Without this argument, the
+    /// program inherits the standard error of this process.
     explicit ChildProcess(const std::vector<std::string>& command,
                           const std::map<std::string, std::optional<std::string>>& environment = {},
                           const std::string& errors = {});

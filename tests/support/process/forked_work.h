@@ -10,7 +10,7 @@
 /// the child.
 pid_t StartChild(const std::function<void()>& work);
 
-/// Waits for the child to end. Returns whether it ended by itself and none of its expectations failed.
+/// Waits for the child to end. Returns whether the child ended by itself and none of its expectations failed.
 bool WaitForSuccess(pid_t child);
 
 /// Runs @a work in a child process, waits for the end of the child, and fails the test if the child fails. Changes that
