@@ -60,8 +60,8 @@ public:
     /// @param initialFolder  the folder to start in, with a separator at its end. Without the separator, the last part
     ///     of this path is taken for a file name. Empty: the folder of the remembered file, or the application's folder
     ///     "Samples" if the registry entry has no file yet. If the registry entry is empty too, the toolkit chooses the
-    ///     folder. If the folder does not exist or cannot be read, the dialog starts in the nearest folder above it that
-    ///     can be read. Null asserts, and the result is empty.
+    ///     folder. If the folder does not exist or cannot be read, the dialog starts in the nearest folder above it
+    ///     that can be read. Null asserts, and the result is empty.
     /// @param initialFileName  the proposed name. Null or empty: the file name that was taken from @a initialFolder, or
     ///     the name of the remembered file if @a initialFolder is empty. In these two cases, the extension is dropped.
     ///     If the proposed name has no extension, the toolkit adds that of the first pattern.
