@@ -48,8 +48,8 @@ const int* Field(const wxRect& rect, const wxString& name)
 }
 
 /// Returns whether a stored number can be passed to the toolkit as a value of @a who. The toolkit would assert on a
-/// number that does not fit an int. In a splitter or data view, the toolkit would also accept a place or size that no
-/// window can have.
+/// number that does not fit an int. For a splitter or data view, the number must also be a place or size that a window
+/// can have: the toolkit does not check this.
 bool IsPossible(long number, const wxPersistentObject& who)
 {
     if (dynamic_cast<const wxPersistentSplitter*>(&who) || dynamic_cast<const wxPersistentDataViewCtrl*>(&who))
@@ -59,7 +59,7 @@ bool IsPossible(long number, const wxPersistentObject& who)
 
 }  // namespace
 
-/// The windows whose values are collected, and the pending save.
+/// The windows whose values are collected, and whether a save is due.
 class wxStorePersistenceManager::Windows
 {
 public:
@@ -202,7 +202,7 @@ bool wxStorePersistenceManager::RestoreValue(const wxPersistentObject& who, cons
             *value = window->GetPosition().x;
             return isRestored;
         }
-        // Restoring x has restored the whole place. Return the current value, so that the toolkit does not change it.
+        // The call for "x" has restored the whole place. Return the current y, so that the toolkit does not change it.
         if (name == kY) {
             *value = window->GetPosition().y;
             return true;

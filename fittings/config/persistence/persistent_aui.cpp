@@ -37,8 +37,8 @@ public:
         if (window)
             window->Bind(wxEVT_DESTROY, end);
 
-        // The guard is owned by a handler of the manager. The manager destroys its handlers last, so the guard notices
-        // when the manager is destroyed.
+        // A handler of the manager owns the guard. The manager destroys its handlers last, so ~Guard() runs at the end
+        // of the manager's destruction.
         struct Guard
         {
             explicit Guard(std::shared_ptr<Watch> toEnd) : watch(std::move(toEnd)) {}

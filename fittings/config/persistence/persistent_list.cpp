@@ -21,7 +21,7 @@ wxString ToText(const std::vector<int>& numbers)
     return text;
 }
 
-/// Reads one number from 0 to @a most for each column; returns none when the text is anything else.
+/// Returns the numbers in a text: one number for each column, each from 0 to @a most. Returns none for any other text.
 std::optional<std::vector<int>> FromText(const wxString& text, std::size_t columns, long most)
 {
     std::vector<int> numbers;

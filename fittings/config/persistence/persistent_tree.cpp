@@ -48,7 +48,7 @@ bool wxPersistentTreeCtrl::Restore()
     if (!steps)
         return false;
     fittings::RestoreSteps(*tree, *steps);
-    // Scroll only when the tree is shown: before that, it does not have its final size.
+    // OnIdle() scrolls when the tree is shown: before that, the tree does not have its final size.
     ForgetFirstInView();
     m_scrollTo = text;
     if (!text.empty())

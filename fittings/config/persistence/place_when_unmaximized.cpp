@@ -24,7 +24,7 @@ constexpr gint64 kCorrected = 2 * G_TIME_SPAN_SECOND;
 /// How often to check whether the mouse button is released, in milliseconds.
 constexpr int kReleaseInterval = 50;
 
-/// Watches a window until it is unmaximised, and then gives it its place. Owned by the window's widget.
+/// Watches a window until the window is unmaximised, and then sets its place and size. Owned by the window's widget.
 class PlaceKeeper
 {
 public:
@@ -94,11 +94,12 @@ bool PlaceKeeper::IsDoneAfter(const GdkEvent& event)
         m_deadline = 0;
         m_requested = wxSize();
     } else if (ChangesMaximized(event) && m_window->IsShown()) {
-        // IsShown() excludes a window that is being hidden: that window is unmaximised too, and is maximised again when
-        // it is shown.
+        // A window that is being hidden is unmaximised too, and is maximised again when it is shown. IsShown() is false
+        // for such a window.
         if (DrawsItsDecorations(m_window->GetHandle()))
             return true;
-        // The toolkit does not use the decorations of a maximised window to compute a position. Let it use them now.
+        // The toolkit computes positions without the decorations that were announced for the maximised window. Let it
+        // use these decorations now.
         m_window->GTKUpdateDecorSize(m_window->m_decorSize);
         m_isDragged = wxGetMouseState().LeftIsDown();
         if (m_isDragged)

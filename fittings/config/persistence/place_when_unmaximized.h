@@ -8,13 +8,16 @@ class wxTopLevelWindow;
 
 namespace fittings {
 
-/// Gives a hidden window, which will be shown maximised, the outer rectangle @a rect when it is first unmaximised.
+/// Gives a window the outer rectangle @a rect when it is unmaximised for the first time. Call this for a hidden window
+/// that will be shown maximised.
 ///
 /// A window manager remembers the rectangle of a window before it maximises the window. It cannot know the rectangle of
-/// a window that is maximised from the start: it adds the decorations to the size, or chooses a place of its own.
+/// a window that is maximised from the start. When such a window is unmaximised, the window manager adds the
+/// decorations to the size, or chooses a place itself.
 ///
-/// If the left mouse button is down when the window is unmaximised, the user may be dragging it. The window then gets
-/// only the size, as soon as the button is released. Does nothing if GTK draws the decorations, as on Wayland.
+/// If the left mouse button is down when the window is unmaximised, the user may be dragging the window. The window
+/// then gets only the size of @a rect, as soon as the button is released. Does nothing if GTK draws the decorations, as
+/// on Wayland.
 void PlaceWhenUnmaximized(wxTopLevelWindow& window, const wxRect& rect);
 
 /// Stops what PlaceWhenUnmaximized() has started. A window that is already placed stays where it is.

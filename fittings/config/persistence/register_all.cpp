@@ -7,8 +7,8 @@
 
 namespace {
 
-/// A persistent object with a name of its own. The name of the window does not change, because the program may find the
-/// window by it.
+/// A persistent object with a name of its own. The name of the window does not change, because the program may use that
+/// name to find the window.
 template <typename Persistent>
 class Named : public Persistent
 {
@@ -47,7 +47,7 @@ bool CanRemember(wxWindow& window)
 std::unique_ptr<wxPersistentObject> Make(wxWindow& window, const wxString& name)
 {
     using Maker = std::unique_ptr<wxPersistentObject> (*)(wxWindow&, const wxString&);
-    // wxTreebook comes before wxBookCtrlBase, from which it is derived.
+    // wxTreebook comes before its base class, wxBookCtrlBase.
     for (const Maker make :
          {Maker(MakeFor<wxPersistentTLW, wxTopLevelWindow>), Maker(MakeFor<wxPersistentSplitter, wxSplitterWindow>),
           Maker(MakeFor<wxPersistentTreeBookCtrl, wxTreebook>), Maker(MakeFor<wxPersistentBookCtrl, wxBookCtrlBase>),

@@ -69,8 +69,8 @@ private:
         wxTreeItemId item;
         TreeChildren children;
         bool isNoted;
-        // For numbering siblings with the same label: the place of the child that was recorded last, and how often
-        // each label occurs up to that child.
+        // NumberOf() uses these to number siblings with the same label: the place of the child that it numbered last,
+        // and how often each label occurs up to that child.
         TreeChildren counting;
         std::unordered_map<std::wstring, std::size_t> counts;
     };
@@ -234,7 +234,7 @@ std::optional<TreeSteps> FromText(std::wstring_view text)
         auto step = TakeStep(text);
         if (!step)
             return std::nullopt;
-        // The root comes first, once, and each step is at most one level below the one before it.
+        // The root comes first and only once. Each other step is at most one level deeper than the step before it.
         const bool isRoot = step->level == 0;
         if (isRoot != steps.empty() || (!isRoot && step->level > steps.back().level + 1))
             return std::nullopt;

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Follows paths down a tree. Event handlers may change the tree meanwhile; deleted items are not used.
+/// Follows paths down a tree. Event handlers may change the tree between the steps; deleted items are not used.
 class Descent
 {
 public:

@@ -9,9 +9,8 @@
 
 namespace {
 
-/// A window manager moves and sizes a window before it reports that it has maximised the window. So a place or size
-/// that the window manager has set counts as normal only if the window is still not maximised this many milliseconds
-/// later.
+/// How long a place or size that the window manager has set must last before it is recorded, in milliseconds. A window
+/// manager that maximises a window moves and sizes the window before it reports the maximised state.
 constexpr int kSettled = 500;
 
 /// Returns whether the program, and not the window manager, has moved or sized the window.
@@ -34,7 +33,7 @@ std::shared_ptr<WindowRecord> WindowRecord::Attach(wxWindow& window, std::functi
 {
     auto record = std::make_shared<WindowRecord>(std::move(atEnd));
     record->m_self = record;
-    // The handler keeps the record: a window destroys its handlers last, after its children.
+    // The handler owns the record. A window destroys its handlers last, after its children.
     window.Bind(wxEVT_DESTROY, [record](wxWindowDestroyEvent& event) { event.Skip(); });
     return record;
 }
