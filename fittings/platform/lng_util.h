@@ -14,8 +14,8 @@ namespace lng_util_internal {
 /// Returns the translation of the English text @a key, or a copy of @a key when there is none.
 ///
 /// Translations come from the host's wxTranslations. A look-up adds the library's own catalogue, "fittings", unless
-/// that catalogue is already loaded. The toolkit prefers the catalogue that was loaded last. So a host with its own
-/// translations of the same texts should load "fittings" before its own catalogue.
+/// that catalogue is already loaded. The toolkit prefers the catalogue that was loaded last. So a host that has its own
+/// translations of the library's texts should load "fittings" first, and then the host's catalogue.
 ///
 /// The result stays valid until the process ends. Returns null for a null key. A null @a domain counts as a domain with
 /// an empty name. GUI thread only.

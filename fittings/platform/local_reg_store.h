@@ -18,16 +18,16 @@ struct SettingsEntry
     std::wstring value;  ///< Any text.
 };
 
-/// One of several changes of settings that are saved together.
+/// A change of a key or of a section. CLocalRegStore::SaveChanges() saves several changes together.
 struct SettingsChange
 {
-    std::wstring section;               ///< No null character is allowed here, in the key or in the value.
+    std::wstring section;               ///< The section. Section, key and value must not contain a null character.
     std::wstring key;                   ///< The key to set or to remove.
-    std::optional<std::wstring> value;  ///< The new value; none removes the key as DeleteKey() does.
+    std::optional<std::wstring> value;  ///< The new value. Without a value, removes the key as DeleteKey() does.
 
-    /// True for a change of the section itself; the key is then ignored. With a value, the change creates the section,
-    /// even without keys. Without a value, the change removes the section, unless the section still has a key after all
-    /// changes of keys.
+    /// True for a change of the section itself; the key is then ignored. With any value, the change creates the
+    /// section, even if the section has no key. Without a value, the change removes the section if no key is left in it
+    /// after all changes of keys.
     bool isOfSection = false;
 };
 
@@ -38,24 +38,24 @@ class CIniFile;
 
 /// The settings store: single INI files, and the default store that a whole application shares.
 ///
-/// A text may contain any character except the null character, even line breaks and lone surrogates, and is read back
-/// exactly. A null pointer counts as an empty text. Names of sections and keys are compared exactly, including upper
-/// and lower case.
+/// A text may contain any character, even line breaks and lone surrogates, but no null character. It is read back
+/// exactly. A null pointer counts as an empty text. Names of sections and keys are compared exactly: upper and lower
+/// case differ.
 ///
 /// Each text may be a wxString, a std::string, a std::wstring, or a wide or narrow literal. One call may mix them: see
 /// fittings::TextArgument.
 ///
 /// The default store is the file settings.ini in std_file_paths::GetUserDataDir(). All processes of one application
-/// share it. A write reads the file again and changes only its own keys. When it returns true, the file with the change
-/// is on the disk. Changes that other processes write at the same time are kept. A write waits at most two seconds for
-/// another process that is stuck; a read never waits. Some file systems, such as NFS, cannot exchange two files
-/// atomically. If the lock file settings.ini.lock cannot be used on such a file system either, one of two writes within
-/// the same few microseconds can be lost.
+/// share it. Each write first reads the file again, and then changes only the given keys. When the write returns true,
+/// the file with the change is on the disk, except in a Batch. Changes that other processes write at the same time are
+/// kept. A write waits at most two seconds for another process that is stuck; a read never waits. Some file systems,
+/// such as NFS, cannot exchange two files atomically. There, one of two writes within the same few microseconds can be
+/// lost if the lock file settings.ini.lock cannot be used.
 ///
-/// A file of more than 64 MiB or of more than a million lines does not count as a settings file: it is not read. A
-/// write fails if the file would become larger than that.
+/// A file of more than 64 MiB or of more than a million lines counts as a file that cannot be read. A write fails if
+/// the file would exceed one of these limits.
 ///
-/// Any thread may use the default store, until the process ends. Only one thread at a time may use a CIniFile.
+/// Any thread may use the default store, even while the process ends. Only one thread at a time may use a CIniFile.
 ///
 /// @code
 /// CLocalRegStore::WriteString(L"Search", L"LastText", field->GetValue());
@@ -72,29 +72,29 @@ public:
 
     /// Replaces the content of @a ini with that of the file at @a path.
     ///
-    /// Returns false when the file could not be read; @a ini is then empty and usable. If the file exists but could not
-    /// be read, a later Save() to the same path fails, so that the file is not lost. Also returns false for a file that
-    /// contains neither settings nor readable text, for example only zeros or UTF-16. If changes are then saved to the
-    /// same path, Save() first renames that file by appending ".unreadable" to its name.
+    /// Returns false in two cases, and @a ini is then empty and usable:
+    /// - The file could not be read. If it exists, a later Save() to the same path fails, so that the file is not lost.
+    /// - The file contains neither settings nor readable text, for example only null bytes or UTF-16. If a later Save()
+    ///   to the same path has changes to write, Save() first renames the file by appending ".unreadable" to its name.
     static bool Load(CIniFile& ini, const wchar_t* path);
 
     /// Returns the value of @a key in @a section, or @a defaultValue when there is none.
     static std::wstring GetString(const CIniFile& ini, const wchar_t* section, const wchar_t* key,
                                   const wchar_t* defaultValue);
 
-    /// Sets a value in memory and creates section and key as needed. Save() stores it in a file.
+    /// Sets a value in memory, and creates the section and the key as needed. Save() writes the file.
     static void WriteString(CIniFile& ini, const wchar_t* section, const wchar_t* key, const wchar_t* value);
 
-    /// Removes a key in memory. For the section with the empty name, also removes the key with the same name before the
-    /// first section. Returns true when there was such a key.
+    /// Removes a key in memory. For the section with the empty name, also removes the key with the same name that
+    /// stands before the first section. Returns whether a key was removed.
     static bool DeleteKey(CIniFile& ini, const wchar_t* section, const wchar_t* key);
 
     /// Returns the names of all sections, each once, in the order of the file; new ones come last. The keys before the
     /// first section belong to no section.
     static std::vector<std::wstring> GetSectionNames(const CIniFile& ini);
 
-    /// Returns the names of the keys of @a section, each once, in the order of the file; new ones come last. Empty when
-    /// there is no such section.
+    /// Returns the names of the keys of @a section, each once, in the order of the file; new ones come last. Returns an
+    /// empty list when there is no such section.
     static std::vector<std::wstring> GetKeyNames(const CIniFile& ini, const wchar_t* section);
 
     using Entry = fittings::SettingsEntry;  ///< A key and its value.
@@ -106,8 +106,8 @@ public:
 
     /// Writes the content of @a ini to the file at @a path, which is created or replaced atomically.
     ///
-    /// Everything that was read from a file and not changed since is written as it was read: comments, blank lines,
-    /// meaningless lines, their order and their line ends.
+    /// Everything that was read from a file and has not changed since then is written as it was read: comments, blank
+    /// lines, meaningless lines, their order and their line ends.
     ///
     /// A symbolic link is followed and kept. The mode of the file is kept, and its owner if possible; a new file has
     /// mode 0600. Other hard links to the file keep the old content. A file that already has the same bytes is not
@@ -121,17 +121,19 @@ public:
     /// @name One INI file that others change as well
     /// @{
 
-    using Change = fittings::SettingsChange;  ///< One of several changes that are saved together.
+    using Change = fittings::SettingsChange;  ///< A change of a key or of a section.
 
     /// If the file at @a path has changed since the last call, replaces the content of @a ini with that of the file.
+    /// The first call with @a ini always replaces the content. So does a call whose path differs from that of the last
+    /// call.
     ///
-    /// Returns false when @a ini was left as it was; changes made in it since the last call are then still there. A
-    /// file that cannot be read counts as empty. A file that another program has emptied less than half a second ago
-    /// counts as not changed. Do not pass @a ini to Save(): store changes with SaveChanges().
+    /// Returns false when @a ini was left as it was, with the changes that were made in it since the last call. A file
+    /// that cannot be read counts as empty. A file that another program has emptied less than half a second ago counts
+    /// as not changed. Do not pass @a ini to Save(): store changes with SaveChanges().
     static bool Refresh(CIniFile& ini, const wchar_t* path);
 
-    /// Returns whether the file is still as the last Refresh() of @a ini read it. False after Refresh() has kept the
-    /// earlier content of a file that another program has emptied.
+    /// Returns whether the file is still as the last Refresh() of @a ini read it. Returns false after Refresh() has
+    /// kept the earlier content of a file that another program has emptied.
     static bool IsCurrent(const CIniFile& ini);
 
     /// Makes the changes in @a ini: first the changes of keys, then those of sections.
@@ -160,8 +162,8 @@ public:
     /// Stores a boolean. Returns the result of WriteString().
     static bool WriteProfileBool(const wchar_t* section, const wchar_t* key, bool value);
 
-    /// Returns a stored integer, or @a defaultValue when there is none or the stored text is not a decimal number that
-    /// fits.
+    /// Returns a stored integer, or @a defaultValue when there is none or the stored text is not a decimal number in
+    /// the range of int.
     static int GetProfileInt(const wchar_t* section, const wchar_t* key, int defaultValue);
 
     /// Stores an integer as decimal text. Returns the result of WriteString().
@@ -180,8 +182,8 @@ public:
     /// Returns the names of all sections, each once, in the order of the file.
     static std::vector<std::wstring> GetSectionNames();
 
-    /// Returns the names of the keys of @a section, each once, in the order of the file. Empty when there is no such
-    /// section.
+    /// Returns the names of the keys of @a section, each once, in the order of the file. Returns an empty list when
+    /// there is no such section.
     static std::vector<std::wstring> GetKeyNames(const wchar_t* section);
 
     class Batch;
@@ -279,7 +281,7 @@ public:
                              fittings::TextArgument(defaultValue));
     }
 
-    /// Calls the overload that GetString() would call for these texts.
+    /// Chooses between the overloads for narrow text and for wide text as GetString() does.
     template <typename Section, typename Key, typename Value, fittings::IfMixedTexts<Section, Key, Value> = 0>
     static bool WriteString(const Section& section, const Key& key, const Value& value)
     {
@@ -336,10 +338,10 @@ public:
     /// @}
 };
 
-/// Collects everything that its thread stores in the default store, and saves it with one write. Use it, for example,
+/// Collects the changes that a thread makes in the default store, and saves them with one write. Use it, for example,
 /// for all settings of a window that closes.
 ///
-/// While an object lives, each write of its thread to the default store returns true, and that thread's reads return
+/// While an object exists, each write of its thread to the default store returns true, and that thread's reads return
 /// the new value. Other threads and processes see the new value after the save. Objects may be nested; the destructor
 /// of the outermost object saves. Destroy each object in the thread that made it, in the reverse order of construction.
 ///
@@ -360,9 +362,9 @@ public:
     Batch(const Batch&) = delete;
     Batch& operator=(const Batch&) = delete;
 
-    /// Saves everything that this thread has collected so far, including what the objects around this one have
-    /// collected: all of it or nothing. Returns false when it could not be saved. The changes then stay collected, and
-    /// the outermost object tries again.
+    /// Saves all changes that this thread has collected so far, including those that the objects around this one have
+    /// collected: all of them or none. Returns false when the changes could not be saved. They then stay collected, and
+    /// the destructor of the outermost object tries again.
     bool Save();
 
 private:

@@ -32,7 +32,7 @@ constexpr bool kAreNarrowTexts = (kIsNarrowText<Texts> && ...) && !(kIsWideText<
 class TextArgument
 {
 public:
-    /// Refers to @a text, or to a converted copy.
+    /// Points to @a text itself if it converts to `const wchar_t*`, otherwise to a copy.
     template <typename Text>
     explicit TextArgument(const Text& text)
     {
@@ -92,7 +92,7 @@ using IfNot =
     std::enable_if_t<(kIsWideText<Text> || kIsNarrowText<Text>)&&!std::is_convertible_v<const Text&, Taken>, int>;
 
 /// Like IfTexts, for a function that has overloads for `const wchar_t*` and for `const char*`. Enables the function for
-/// texts of any kind, unless the compiler chooses the right overload without it:
+/// texts of any kind, except when the compiler already chooses the right overload:
 /// - the overload for `const wchar_t*` if all texts convert to this type and at least one of them is not narrow text;
 /// - the overload for `const char*` if all texts convert to this type and none of them is wide text.
 template <typename... Texts>
