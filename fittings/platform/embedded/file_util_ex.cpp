@@ -20,7 +20,7 @@ std::wstring WithoutTrailingSeparators(std::wstring path)
     return path;
 }
 
-// Returns whether a text can be a path. A file name cannot contain a NUL: the system would use only the part before it.
+// A path with a NUL is refused, because the system would use only the part before the NUL.
 bool CanBePath(const std::wstring& path)
 {
     return !path.empty() && path.find(L'\0') == std::wstring::npos;

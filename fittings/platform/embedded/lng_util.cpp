@@ -34,8 +34,7 @@ wxString CatalogueFolder()
     return wxString((file.parent_path() / FITTINGS_LOCALE_DIR).lexically_normal().c_str(), *wxConvFileName);
 }
 
-// Loads the library's own catalogue if it is not loaded. Called at every look-up, because the host may replace its
-// wxTranslations at any time.
+// Called at every look-up, because the host may replace its wxTranslations object at any time.
 void LoadOwnCatalogue(wxTranslations& translations)
 {
     if (translations.IsLoaded(kLibraryDomain))

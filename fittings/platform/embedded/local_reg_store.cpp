@@ -48,7 +48,7 @@ std::optional<std::wstring> GetSetting(std::wstring_view section, std::wstring_v
                   : DefaultStore::Instance().With([&](const CIniFile& file) { return file.Get(section, key); });
 }
 
-// Calls @a read with the settings that this thread sees and returns its result.
+// Calls @a read with the stored settings, including the changes that this thread has collected.
 template <typename Read>
 auto WithSettings(const Read& read)
 {
@@ -66,7 +66,7 @@ bool StoreChanges(const std::vector<fittings::SettingsChange>& changes)
     return true;
 }
 
-// Stores a value. Without a value, removes the key.
+// Stores @a value, or removes the key if @a value is nullopt.
 bool StoreSetting(std::wstring_view section, std::wstring_view key, std::optional<std::wstring_view> value)
 {
     return StoreChanges({{std::wstring(section), std::wstring(key), std::optional<std::wstring>(value)}});

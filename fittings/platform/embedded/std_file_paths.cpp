@@ -32,13 +32,11 @@ struct DataDir
 
 DataDir& TheDataDir()
 {
-    // Never destroyed, because the default store is in this folder and is never destroyed.
+    // Never destroyed: the default store needs the path until the process ends.
     static auto& dataDir = *new DataDir;
     return dataDir;
 }
 
-// Returns @a text as a file name. Each '/', each control character, and each dot of the names "." and ".." becomes an
-// underscore. A name that is too long is cut off.
 std::wstring SafeFileName(const std::wstring& text)
 {
     // Each code that is not a Unicode character becomes U+FFFD: the code could not be read back from the disk.
@@ -69,7 +67,7 @@ std::wstring ApplicationFolderName(const wxString& applicationName)
     return name.empty() ? L"application" : name;
 }
 
-// Returns the user's home folder in the password database, or an empty path if there is none.
+// Returns the home folder that the password database has for the user, or an empty path if there is none.
 std::string RegisteredHome()
 {
     constexpr std::size_t kMostBytes = std::size_t{1} << 20;
@@ -94,7 +92,7 @@ std::wstring Home()
 std::wstring BaseDataDir()
 {
     const char* base = g_get_user_data_dir();
-    // Ignore a relative XDG_DATA_HOME, which is not valid. GLib returns it as it is.
+    // GLib returns a relative folder if XDG_DATA_HOME is relative, which is not valid, or if HOME is empty or relative.
     if (g_path_is_absolute(base))
         return file_util_ex::ConvertFromUTF8W(base);
     return file_util_ex::MakePath(Home(), L".local/share");
@@ -128,8 +126,7 @@ void SetUserDataDir(const CStdStr<wchar_t>& path)
 
 std::wstring GetAppFolderPath(const wchar_t* name)
 {
-    // If GLib knows no absolute home folder, do not ask it for the documents folder: GLib would return a path below the
-    // relative home folder.
+    // If HOME is relative, GLib could return a documents folder below that relative folder.
     const bool hasHome = g_path_is_absolute(g_get_home_dir());
     const char* documents = hasHome ? g_get_user_special_dir(G_USER_DIRECTORY_DOCUMENTS) : nullptr;
     const std::wstring base = documents ? file_util_ex::ConvertFromUTF8W(documents) : Home();

@@ -27,20 +27,19 @@ namespace {
 constexpr std::chrono::milliseconds kTimeToFillAFile(500);
 constexpr std::chrono::milliseconds kTimeToExchange(500);
 
-// Each wait for the lock of an exchange may last this long, even past the deadline. A process may have been stopped
-// until after its deadline. If it then did not wait at all, it could exchange the file at the same time as another
-// process. An exchange takes only microseconds.
+// Each wait for an ExchangeLock may last this long, even past the deadline. Otherwise a process that was stopped until
+// after its deadline could exchange the file at the same time as another process. An exchange takes only microseconds.
 constexpr std::chrono::milliseconds kLeastTimeToExchange(30);
 
 constexpr std::chrono::milliseconds kPause(1);
 
-// Do not block: opening a pipe would wait for a writer.
+// O_NONBLOCK, because opening a pipe would otherwise wait for a writer.
 constexpr int kForReading = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
 
 constexpr off_t kMaxFileSize = off_t{64} << 20;
 constexpr std::ptrdiff_t kMaxLines = 1'000'000;
 
-// The largest number of merges in one save. Each merge is caused by another change at the very moment of an exchange.
+// The largest number of merges in one save. Each merge is due to another process that stores at the same moment.
 constexpr int kMaxMerges = 100;
 
 // Returns the time as a pair, because a timespec has no comparison operators.
@@ -83,8 +82,8 @@ bool ReadAll(int fd, std::size_t expected, std::string& bytes)
     }
 }
 
-// If @a path is a link, returns the path that the link leads to, through further links, even if there is no file yet.
-// Otherwise returns @a path. Returns nothing on an error. For a loop of links, returns a path that cannot be opened.
+// Returns the path of the file that @a path leads to through links, even if there is no file yet. Returns nothing on an
+// error. For a loop of links, returns a path that cannot be opened.
 std::optional<std::string> FollowLinks(std::string path)
 {
     for (int links = 0; links < 40; ++links) {
@@ -139,15 +138,14 @@ FileContent ReadUntilFilled(const Read& read, std::string& bytes, std::chrono::s
     }
 }
 
-// Returns the content of the displaced file. If the displaced file is gone, another process has removed it as a
-// leftover. Only one file can be old enough for that: the file that was the target before the exchange. The function
-// reads this file instead, which is open as @a before. If the file to read is empty for now, waits for content until
-// @a deadline at the latest.
+// Returns the content of the displaced file. If another process has removed the displaced file as a leftover, reads
+// @a before instead, the open file that was the target before the exchange: only that file can be old enough to be
+// removed. Waits for content until @a deadline, as ReadFileBytes() does.
 std::optional<std::string> ReadDisplaced(const StagedFile& staged, int before,
                                          std::chrono::steady_clock::time_point deadline)
 {
     std::string bytes;
-    // If another process has put a link in place of the file, do not follow the link: the link itself must be put back.
+    // Do not follow a link that another process has put at the target: the link itself must be put back.
     const FileDescriptor file(open(staged.Path().c_str(), kForReading | O_NOFOLLOW));
     if (file.Get() < 0 && errno != ENOENT)
         return std::nullopt;
@@ -157,7 +155,6 @@ std::optional<std::string> ReadDisplaced(const StagedFile& staged, int before,
     return content.result == ReadResult::Read ? std::optional(std::move(bytes)) : std::nullopt;
 }
 
-// The target of an update and its state.
 struct Target
 {
     std::string path;
@@ -193,7 +190,7 @@ UpdateResult ResultOf(PlaceResult placed)
 struct Exchanged
 {
     StagedFile& staged;
-    int before;                 ///< The file that was the target before the exchange, open.
+    int before;                 ///< The open file that was the target before the exchange.
     std::string_view expected;  ///< The content that the target should have had.
     std::string_view put;
 };
@@ -202,10 +199,9 @@ struct Exchanged
 struct Outcome
 {
     UpdateResult result;
-    bool isUndone = false;  ///< True if our file was still at the target, unchanged, when it was taken back.
+    bool isUndone = false;  ///< True if the exchange was undone, and no other process had changed our file.
 };
 
-// Undoes an exchange whose displaced file cannot be merged.
 Outcome Undo(StagedFile& staged)
 {
     const PlaceResult undone = staged.PutBack();
@@ -216,7 +212,7 @@ Outcome Undo(StagedFile& staged)
 }
 
 // Called after an exchange. If the displaced content is not the expected one, merges the displaced content with our
-// change and exchanges again. A change that another process makes meanwhile is displaced and merged in the same way.
+// change and exchanges again. Then does the same for the file that the new exchange displaced.
 Outcome MergeDisplaced(const Target& target, const Exchanged& done, const FileUpdate& update, int merges = 0)
 {
     const auto now = std::chrono::steady_clock::now();
@@ -240,8 +236,8 @@ Outcome MergeDisplaced(const Target& target, const Exchanged& done, const FileUp
     return {outcome.result};
 }
 
-// A lock of the folder, held for the microseconds between the last check of a file in the folder and its exchange. The
-// lock is advisory: a caller that cannot get it continues without it. Unlike a lock file, this lock cannot be removed.
+// A lock of a folder, held for the microseconds in which a file in the folder is checked and exchanged. The lock is
+// advisory: a caller that cannot get it continues without it. Unlike a lock file, this lock cannot be removed.
 class ExchangeLock
 {
 public:
@@ -251,7 +247,7 @@ public:
     }
     ~ExchangeLock()
     {
-        // Unlock explicitly: after closing, a child that was forked meanwhile would still hold the lock.
+        // Closing does not release the lock while a forked child has the folder open.
         if (m_isHeld)
             flock(m_folder.Get(), LOCK_UN);
     }
@@ -259,7 +255,7 @@ public:
     ExchangeLock& operator=(const ExchangeLock&) = delete;
 
     // Waits for the lock while @a isAsItWas returns true. Gives up at the deadline, because the holder may be stopped.
-    // The next waits are then shorter, until one of them gets the lock.
+    // Each later wait then lasts only kLeastTimeToExchange, until one of these waits gets the lock.
     void WaitWhile(const std::function<bool()>& isAsItWas, std::chrono::steady_clock::time_point deadline)
     {
         static std::atomic<bool> isStuck = false;

@@ -29,12 +29,12 @@ struct FileIdentity
     bool operator==(const FileIdentity& other) const;
 };
 
-/// Returns whether both are states of the same file with the same content, judged by its size and modification time.
-/// The file may have been renamed. Returns false if there is no file.
+/// Returns whether @a a and @a b are states of one file with the same size and modification time. The file may have
+/// been renamed between the two states. Returns false if one of the states is missing.
 bool HaveSameContent(const std::optional<FileIdentity>& a, const std::optional<FileIdentity>& b);
 
-/// Follows links and returns the state of the file at @a path. If there is no file, returns nothing and leaves the
-/// reason in errno.
+/// Follows links and returns the state of the file at @a path. On any error, returns nothing and leaves the reason in
+/// errno.
 std::optional<FileIdentity> IdentityOf(const std::string& path);
 
 enum class ReadResult { Read, Missing, Failed };
@@ -43,8 +43,8 @@ struct FileContent
 {
     ReadResult result;
     std::optional<FileIdentity> identity;
-    /// Whether every later change of the file changes its identity. False when the file was changed so recently that
-    /// another change could leave it with the same timestamp.
+    /// Whether a later change of the file certainly gives the file another identity. False when the file was changed so
+    /// recently that the next change could set the same timestamp.
     bool isSettled = false;
 
     /// Returns whether the file is empty and was changed less than half a second ago: a program that writes files in
@@ -52,18 +52,17 @@ struct FileContent
     bool IsEmptyForNow() const;
 };
 
-/// Replaces @a bytes with the content of the file at @a path. Fails if the file has more than 64 MiB or a million
-/// lines: such a file is not a settings file, and its keys would need too much memory. If the file is empty for now,
-/// waits until it has content, but not longer than half a second after its last change, and not beyond @a deadline.
-/// Does not wait without a deadline.
+/// Replaces @a bytes with the content of the file at @a path. Fails if the file has more than 64 MiB or more than a
+/// million lines: such a file is not a settings file, and its keys would need too much memory. Waits while
+/// FileContent::IsEmptyForNow() is true, until @a deadline at the latest. Without a deadline, does not wait.
 FileContent ReadFileBytes(const std::string& path, std::string& bytes,
                           std::chrono::steady_clock::time_point deadline = {});
 
 /// Replaces the content of the file at @a path with @a bytes. Follows links, and creates the folder if it is missing.
 ///
 /// The file keeps its mode and, if possible, its owner; a new file has mode 0600. A file that already contains the
-/// bytes is not written. Returns false on any error, or if ReadFileBytes() could not read the bytes again; the old file
-/// is then unchanged.
+/// bytes is not written. Returns false on any error, or if @a bytes exceeds a limit of ReadFileBytes(); the old file is
+/// then unchanged.
 bool ReplaceFileBytes(const std::string& path, std::string_view bytes);
 
 enum class UpdateResult { Saved, Failed, Outdated };
@@ -75,9 +74,8 @@ struct FileUpdate
     std::string_view foundBytes;
     std::string newBytes;
 
-    /// Called when @a put has replaced the file, and the file contained @a displaced instead of @a expected. Returns
-    /// the merged content for the file. Returns nothing when @a displaced cannot be merged, for example because it is
-    /// not a settings file.
+    /// Called after @a put has replaced the file, if the file contained @a displaced instead of @a expected. Returns
+    /// the merged content, or nothing when @a displaced cannot be merged, for example because it has no settings.
     using Merge = std::function<std::optional<std::string>(std::string_view expected, std::string_view put,
                                                            std::string_view displaced)>;
     Merge merge;
@@ -88,13 +86,15 @@ struct FileUpdate
 
 /// Like ReplaceFileBytes(), but keeps every change that other processes have stored since the file was read.
 ///
-/// Does nothing if the new content is the one that was found. If the file has changed since it was read, returns
-/// Outdated and does not touch the file. Otherwise exchanges the file and a new one, or makes the file if there was
-/// none. A change between the check and the exchange is merged. If it cannot be merged, the function undoes the
-/// exchange and returns Outdated. If another process prevents the undoing, the displaced file is kept under a name from
-/// OtherName(). If the undoing fails with an error, the displaced file is kept in the same way; the new file stays in
-/// place and the result is Saved. If the file has changed again after each of a hundred merges, undoes the last
-/// exchange, keeps the file that was displaced before that one, and returns Failed.
+/// - If the new content is the one that was found, does nothing and returns Saved.
+/// - If the file has changed since it was read, returns Outdated and does not touch the file.
+/// - Otherwise exchanges the file and a new one, or makes the file if there was none. If the file changes between the
+///   check and the exchange, merges that change. If the change cannot be merged, undoes the exchange and returns
+///   Outdated.
+/// - If the exchange cannot be undone, keeps the displaced file under a name from OtherName(). Returns Outdated if
+///   another process has changed the file again. After an error, returns Saved: the new file then stays in place.
+/// - If the file has changed again after each of a hundred merges, undoes the last exchange and returns Failed. Keeps
+///   the file that the exchange before the last one displaced, under a name from OtherName().
 ///
 /// On file systems that cannot exchange two files atomically, such as NFS, a change in the few microseconds after the
 /// check can be lost.
@@ -105,14 +105,14 @@ UpdateResult UpdateFileBytes(const std::string& path, const FileUpdate& update);
 /// name, or an empty string on any error.
 std::string KeepUnderOtherName(const std::string& path);
 
-/// Returns the second name with the number @a number. KeepUnderOtherName() tries the numbers from 1 on.
+/// Returns the second name that KeepUnderOtherName() tries in attempt @a number. The first attempt has the number 1.
 std::string OtherName(const std::string& path, int number);
 
-/// Only second names with numbers below this one are tried.
+/// OtherName() is called only with numbers below this one.
 inline constexpr int kMaxOtherNames = 1000;
 
 /// If this process runs as root and the folder belongs to another user, makes that user the owner of the open file.
-/// Otherwise that user could not use the file. Only for a file that this process has just made.
+/// That user could not use a file of root. Call the function only for a file that this process has just made.
 void GiveToOwnerOfFolder(int fd, const std::string& folder);
 
 /// Returns the folder that the file at @a path is in.

@@ -16,7 +16,7 @@ using Clock = LockWait::Clock;
 
 constexpr std::chrono::milliseconds kPause(1);
 
-// The longest time that the lock may be free while another process has the turn to take it. Without this limit, a
+// How long a process waits for the turn while the lock is free and another process has the turn. Without this limit, a
 // process that was stopped while it had the turn would block all others.
 constexpr std::chrono::milliseconds kTimeToUseTheTurn(25);
 
@@ -63,7 +63,7 @@ std::optional<FileIdentity> StateOf(int fd)
     return fstat(fd, &info) == 0 ? std::optional(FileIdentity(info)) : std::nullopt;
 }
 
-/// One wait for the lock: decides when it is over, and remembers in LockWait whether the holder is stuck.
+/// One wait for the lock. Decides when the wait is over, and remembers in LockWait whether the holder is stuck.
 class Waiting
 {
 public:
@@ -100,7 +100,7 @@ private:
     bool m_isStuck = false;
 };
 
-// Waits for the turn. Gives up at the deadline, or when the process that has the turn seems to be stuck.
+// Waits for the turn. Gives up when @a waiting is over, or when the process that has the turn does not use it.
 Attempt WaitForTurn(int fd, Waiting& waiting)
 {
     auto lastTaken = Clock::now();
@@ -127,8 +127,8 @@ bool WaitForLock(int fd, Waiting& waiting)
     }
 }
 
-// Opens the lock file and makes it if missing. Does not follow a link, because its target could be any file of another
-// user. Returns -1 on any error.
+// Opens the lock file, and creates it if it is missing. Does not follow a link: the link could lead to any file of
+// another user. Returns -1 on any error.
 int OpenLockFile(const std::string& path)
 {
     constexpr int kFlags = O_RDWR | O_CLOEXEC | O_NONBLOCK | O_NOCTTY | O_NOFOLLOW;
@@ -161,7 +161,7 @@ FileLock::FileLock(const std::string& path, LockWait& wait) : m_file(OpenLockFil
 
 FileLock::~FileLock()
 {
-    // Unlock explicitly: after closing, a child that was forked meanwhile would still hold the lock.
+    // Closing does not release the lock while a forked child has the file open.
     if (m_isHeld)
         Unlock(m_file.Get(), kLockByte);
 }

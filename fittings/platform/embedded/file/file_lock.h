@@ -25,11 +25,11 @@ struct LockWait
     Stuck& stuck;
 };
 
-/// While the object exists, other processes and threads that take the same lock wait.
+/// While the object exists, other processes and threads that need the same lock wait.
 ///
-/// The lock is advisory: a caller that cannot get it continues without it. The lock file is made when missing and never
-/// removed, because another process may be waiting for it. A process that gets the lock updates the timestamp of the
-/// lock file, which shows the waiting processes that the holder is not stuck.
+/// The lock is advisory: a caller that cannot get it continues without it. The lock file is created if it is missing.
+/// The file is never removed, because another process may be waiting for the lock. A process that gets the lock updates
+/// the timestamp of the lock file, so that the waiting processes can see that the holder is not stuck.
 class FileLock
 {
 public:

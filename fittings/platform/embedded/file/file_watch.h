@@ -11,16 +11,16 @@
 
 namespace fittings {
 
-/// Reports whether a file has changed. Most calls examine the open file instead of looking up its path, which would
-/// take three times as long.
+/// Reports whether a file has changed. Most calls only examine the open file, because a look-up of its path takes three
+/// times as long.
 class FileWatch
 {
 public:
     /// Returns whether @a path leads to a file in the state @a known. Pass the same path in each call.
     ///
-    /// Notices at once when the file was written, replaced, renamed or removed. The path can also lead elsewhere,
-    /// because a folder above was moved, a link was changed or a file system was mounted. The open file does not show
-    /// this: the function notices it at the next tick of the system's clock, at most 10 ms later.
+    /// Notices at once that the file was written, replaced, renamed or removed. When a folder is moved, a link is
+    /// changed or a file system is mounted, the path can lead to another file. The function notices this at the next
+    /// tick of the system's clock, at most 10 ms later.
     bool IsUnchanged(const std::string& path, const FileIdentity& known);
 
 private:

@@ -23,11 +23,11 @@ using GText = std::unique_ptr<char, decltype(&g_free)>;
 
 constexpr std::string_view kPrefix = ".fittings-save-";
 
-// Older temporary files were left by processes that were killed while they saved.
+// Temporary files that are older than this were left by processes that were killed while they saved.
 constexpr time_t kLifetimeSeconds = 60;
 
-// The largest number of exchanges that put one file back. Each one after the first is caused by another process that
-// stores something at the very moment of an exchange.
+// The largest number of exchanges in one PutBack(). Each exchange after the first is due to another process that stores
+// something at the same moment.
 constexpr int kMaxExchanges = 100;
 
 // Makes an empty file with a name that no person would choose, and opens it. Sets @a path only on success. Returns -1
@@ -41,7 +41,7 @@ int MakeFile(const std::string& folder, std::string& path)
             path = std::move(made);
             return file;
         }
-        // Try again: a forked process gets the same random numbers as its parent.
+        // The name may exist: a forked process gets the same random numbers as its parent.
         if (errno != EEXIST)
             break;
     }
@@ -79,7 +79,6 @@ std::optional<FileIdentity> IdentityOfName(const std::string& path)
     return FileIdentity(info);
 }
 
-// Writes the bytes. When the function returns true, the bytes are on the disk.
 bool WriteDurably(int fd, std::string_view bytes)
 {
     while (!bytes.empty()) {
@@ -108,8 +107,7 @@ StagedFile::StagedFile(std::string target, std::string_view bytes, const std::op
 {
     const std::string folder = FolderOf(m_target);
     RemoveLeftovers(folder);
-    // Use the open file and not its name: the folder's owner can meanwhile replace the file by a link to a file that
-    // belongs to root.
+    // Use the descriptor and not the path: the folder's owner could replace the new file by a link to a file of root.
     const FileDescriptor file(MakeFile(folder, m_path));
     if (file.Get() < 0)
         return;
@@ -135,8 +133,8 @@ PlaceResult StagedFile::Exchange()
     return result;
 }
 
-// An exchange may displace a file other than the one that was last put at the target. Then another process has stored
-// the displaced file meanwhile, and the next exchange puts the displaced file back.
+// If an exchange displaces a file that this object did not put at the target, another process has stored that file. The
+// next exchange then puts that file back.
 PlaceResult StagedFile::PutBack()
 {
     const auto ours = m_placed;
@@ -175,8 +173,8 @@ PlaceResult StagedFile::Rename(unsigned int flags)
     case EEXIST:
     case ENOENT:
         return PlaceResult::NotAsExpected;
-    case EINVAL:  // the file system cannot do it
-    case ENOSYS:  // the kernel or a sandbox does not allow it
+    case EINVAL:  // the file system does not support the flag
+    case ENOSYS:  // the kernel or a sandbox does not allow the call
     case EPERM:
         return flags ? PlaceResult::Unsupported : PlaceResult::Failed;
     default:

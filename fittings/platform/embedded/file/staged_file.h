@@ -19,13 +19,13 @@ enum class PlaceResult {
     Unsupported,    ///< The file system or the kernel cannot do this atomically.
 };
 
-/// New content on the disk beside the file that it will replace, under a temporary name. The destructor removes the
-/// file with the temporary name.
+/// A new file with a temporary name, beside the target that it will replace. The destructor removes the file that then
+/// has the temporary name.
 class StagedFile
 {
 public:
     /// Writes @a bytes to a new file beside @a target, which must not be a link. @a old is the state of the file at
-    /// @a target, or nothing when there is no file. The new file gets the owner and the mode in @a old if the file
+    /// @a target, or nothing when there is no file. The new file gets the owner and the mode of @a old if the file
     /// system allows it. Without @a old, calls GiveToOwnerOfFolder(). Also removes the temporary files that killed
     /// processes have left in the folder more than a minute ago.
     StagedFile(std::string target, std::string_view bytes, const std::optional<struct stat>& old);
@@ -39,14 +39,14 @@ public:
     /// Puts the new file at the target, whether there is a file or not.
     PlaceResult Replace() { return Rename(0); }
 
-    /// Puts the new file at the target, where no file may exist.
+    /// Puts the new file at the target if there is no file. Otherwise returns NotAsExpected.
     PlaceResult PutNew() { return Rename(RENAME_NOREPLACE); }
 
     /// Exchanges the new file and the target. The displaced file then has the temporary name.
     PlaceResult Exchange();
 
     /// Undoes Exchange(). If another process has replaced, changed or removed the new file since then, keeps what that
-    /// process has stored and returns NotAsExpected. Unless the result is Done, the displaced file keeps the temporary
+    /// process has stored and returns NotAsExpected. If the result is not Done, the displaced file keeps the temporary
     /// name.
     PlaceResult PutBack();
 

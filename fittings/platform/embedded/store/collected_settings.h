@@ -34,8 +34,8 @@ public:
     /// Returns the collected changes, in the order of the first change of each key or section.
     const std::vector<SettingsChange>& Changes() const { return m_changes; }
 
-    /// Returns a number that changes whenever Changes() does. The number is never 0 and differs from those of earlier
-    /// objects.
+    /// Returns a number that identifies the current state of Changes(). No other state has the same number, even in
+    /// another object, and no state has the number 0.
     std::uint64_t Revision() const { return m_revision; }
 
     /// Returns the content of the default store with the collected changes made in it.

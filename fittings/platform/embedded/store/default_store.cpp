@@ -15,7 +15,7 @@ DefaultStore& DefaultStore::Instance()
 
 std::wstring DefaultStore::Path()
 {
-    // Every access makes the path. MakePath() would take longer, because it copies the folder several times.
+    // Called at every access: MakePath() would take longer, because it copies the folder several times.
     return std_file_paths::GetUserDataDir() + L"/settings.ini";
 }
 

@@ -19,7 +19,7 @@ public:
     /// Returns the path of the file in the current user data directory.
     static std::wstring Path();
 
-    /// Calls @a read with the stored settings and returns its result.
+    /// Calls @a read with the stored settings and returns the result of @a read.
     template <typename Read>
     auto With(const Read& read)
     {
@@ -28,11 +28,11 @@ public:
         return read(std::as_const(m_file));
     }
 
-    /// Makes all changes with one save. Returns false when they could not be saved; none is then stored.
+    /// Makes all changes with one save. Returns false when they could not be saved; none of them is then stored.
     bool Store(const std::vector<SettingsChange>& changes);
 
 private:
-    std::mutex m_mutex;  ///< Guards the member below.
+    std::mutex m_mutex;  ///< Guards m_file.
     CIniFile m_file;
 };
 

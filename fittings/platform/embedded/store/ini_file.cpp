@@ -29,8 +29,7 @@ bool CIniFile::Refresh(std::wstring_view path, const std::vector<Change>& change
         return false;
     CIniFile now;
     now.Load(file_util_ex::ConvertToUTF8(std::wstring(path)));
-    // If the file is empty for now, keep the earlier content: a read does not wait until another program has filled the
-    // file.
+    // Keep the earlier content, because a read does not wait until another program has filled the file.
     if (isSameStore && now.m_content.IsEmptyForNow() && m_content.result == fittings::ReadResult::Read)
         return false;
     if (isSameStore && now.HasFailed() && HasFailed())
@@ -51,7 +50,7 @@ bool CIniFile::IsFresh()
     return m_content.result == fittings::ReadResult::Missing && !fittings::IdentityOf(m_path) && errno == ENOENT;
 }
 
-// Looks the path up instead of asking the watch, which may notice late that the path leads elsewhere.
+// Looks up the path instead of using m_watch, which may notice late that the path leads elsewhere.
 bool CIniFile::IsCurrent() const
 {
     return fittings::IdentityOf(m_path) == m_content.identity;
@@ -94,8 +93,8 @@ fittings::UpdateResult CIniFile::Update(std::chrono::steady_clock::time_point de
     return fittings::UpdateFileBytes(m_path, {m_content, m_text->Original(), m_text->Changed(), merge, deadline});
 }
 
-// Keeps the unreadable file under another name, and puts a new file in its place. Does nothing if there are no changes
-// to save. If another process has put a file at @a path, that file stays and the result is Outdated.
+// Keeps the unreadable file under another name, and puts a new file at @a path. Does nothing if there are no changes to
+// save. If the unreadable file is not at @a path, changes nothing there and returns Outdated.
 fittings::UpdateResult CIniFile::ReplaceUnreadable(const std::string& path,
                                                    std::chrono::steady_clock::time_point deadline) const
 {
@@ -212,8 +211,8 @@ std::vector<fittings::SettingsEntry> CIniFile::Entries(std::wstring_view section
 
 // Merges three ways: starts with @a displaced, and makes the changes that lead from @a expected to @a put. A change of
 // this object always counts. Any other change in @a put counts only if the key has the same value in @a displaced as in
-// @a expected: otherwise the value in @a displaced is newer. Only a change of this object removes a key: a key that
-// @a put lacks may belong to a change that has not been merged into @a put yet.
+// @a expected: otherwise the value in @a displaced is newer. Only a change of this object removes a key: a key that is
+// missing in @a put may belong to a change that has not been merged into @a put yet.
 std::optional<std::string> CIniFile::Merged(std::string_view expected, std::string_view put,
                                             std::string_view displaced) const
 {

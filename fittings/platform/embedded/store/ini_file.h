@@ -16,7 +16,7 @@
 
 /// An INI file whose settings are read and changed as wide text.
 ///
-/// Saving writes the text that was read, with the changes made in it. Every other byte stays as it was.
+/// Save() and Update() write the text that was read, with the changes made in it. Every other byte stays as it was.
 class CIniFile
 {
 public:
@@ -26,24 +26,22 @@ public:
 
     /// Loads the file and applies the changes to the loaded content. Does nothing if the path and the revision of the
     /// changes are those of the last call and the file has certainly not changed since. Keeps the earlier content while
-    /// another program may be about to fill the empty file. Returns true when the content of the object may have
-    /// changed.
+    /// FileContent::IsEmptyForNow() is true. Returns true when the content of the object may have changed.
     bool Refresh(std::wstring_view path, const std::vector<fittings::SettingsChange>& changes = {},
                  std::uint64_t revision = 0);
 
-    /// Writes the file if its bytes change. Returns false on any error.
+    /// Writes the file, unless it already has the same bytes. Returns false on any error.
     bool Save(const std::string& path) const;
 
-    /// Writes the file that was loaded last if its bytes change. If the file has changed on the disk since it was
-    /// loaded, returns Outdated and does not write. Changes that other processes store during the call are kept. Waits
-    /// for other processes until @a deadline at the latest.
+    /// Writes the changes to the file that was loaded last. If the file has changed on the disk since it was loaded,
+    /// returns Outdated and does not write. Changes that other processes store during the call are kept. Waits for
+    /// other processes until @a deadline at the latest.
     fittings::UpdateResult Update(std::chrono::steady_clock::time_point deadline) const;
 
     std::optional<std::wstring> Get(std::wstring_view section, std::wstring_view key) const;
 
     void Set(std::wstring_view section, std::wstring_view key, std::wstring_view value);
-    /// Removes a key. For the section with the empty name, also removes the key with the same name before the first
-    /// section. Returns whether there was such a key.
+    /// Removes a key as CLocalRegStore::DeleteKey() does. Returns whether a key was removed.
     bool Delete(std::wstring_view section, std::wstring_view key);
 
     using Change = fittings::SettingsChange;
@@ -60,8 +58,7 @@ public:
     /// Returns the names of a section's keys, each once, in the order of the file. New ones come last.
     std::vector<std::wstring> KeyNames(std::wstring_view section) const;
 
-    /// Returns the keys of a section with their values, in the order of KeyNames(). For the section with the empty
-    /// name, also returns the keys before the first section, and returns these first.
+    /// Returns the keys of a section with their values, as CLocalRegStore::GetEntries() does.
     std::vector<fittings::SettingsEntry> Entries(std::wstring_view section) const;
 
     /// Returns whether the file is still as it was when its content was read into this object. False while Refresh()
@@ -72,7 +69,7 @@ public:
     bool HasFailed() const { return m_content.result == fittings::ReadResult::Failed; }
 
 private:
-    /// Replaces the content with @a text. Returns false when @a text contains no settings and is not readable.
+    /// Replaces the content with @a text. Returns false when @a text has no settings and is not readable text.
     bool Parse(std::string text);
     fittings::UpdateResult ReplaceUnreadable(const std::string& path,
                                              std::chrono::steady_clock::time_point deadline) const;

@@ -17,12 +17,12 @@ constexpr std::chrono::milliseconds kTimeToGetTheLock(1800);
 // How long a write waits for the lock while other processes get it, one after another.
 constexpr std::chrono::seconds kTimeInABusyQueue(10);
 
-// How much longer a write waits, in total, for a file that is being filled and for another process that exchanges its
-// file. If a process is stuck, all waits together stay below two seconds.
+// How much longer a write waits, in total, for a file that is being filled and for an exchange by another process. If a
+// process is stuck, all waits together stay below two seconds.
 constexpr std::chrono::milliseconds kTimeBeyondTheLock(100);
 
-// A save is attempted again each time that another process saves first. It fails after this many attempts, but not
-// before LockWait::deadline.
+// A save is attempted again each time that another process saves first. The save fails after this many attempts, but
+// not before LockWait::deadline.
 constexpr int kMaxAttempts = 100;
 
 }  // namespace

@@ -21,7 +21,7 @@ public:
 
     explicit SharedFile(std::string path) : m_path(std::move(path)) {}
 
-    /// Makes all changes with one save. Returns false when they could not be saved; none is then stored.
+    /// Makes all changes with one save. Returns false when they could not be saved; none of them is then stored.
     bool Store(const std::vector<SettingsChange>& changes);
 
 private:
@@ -29,7 +29,7 @@ private:
 
     const std::string m_path;
 
-    std::mutex m_writing;  ///< Held during a write. Guards the member below.
+    std::mutex m_writing;  ///< Held during a write. Guards m_stuckLock.
     LockWait::Stuck m_stuckLock;
 };
 

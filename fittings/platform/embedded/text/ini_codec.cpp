@@ -15,7 +15,7 @@ namespace fittings {
 
 namespace {
 
-// A byte that is not UTF-8, from 0x80 to 0xFF, is represented by this character plus the byte.
+// The code of a byte that is not UTF-8 is this number plus the byte, which is from 0x80 to 0xFF.
 constexpr char32_t kByteBase = 0xDC00;
 
 bool IsByte(char32_t code)
@@ -53,7 +53,7 @@ void AppendNumber(std::string& out, char32_t code, const char* byteMark, const c
     out.append(isByte ? byteMark : codeMark).append(digits).append(isByte ? "" : "}");
 }
 
-// Reads a number of hexadecimal digits. Refuses 0, because no text of the store contains a NUL.
+// Reads a hexadecimal number. Refuses 0, because no text of the store contains a NUL.
 std::optional<char32_t> ReadHex(std::string_view digits)
 {
     std::uint32_t code = 0;
@@ -67,7 +67,7 @@ bool StartsWith(std::string_view text, std::string_view start)
     return text.substr(0, start.size()) == start;
 }
 
-// Reverses AppendNumber(): reads a character at the beginning of @a text. Returns nothing if none is escaped there.
+// Reads an escaped character in the form of AppendNumber(). Returns nothing if @a text does not begin with one.
 std::optional<Decoded> ReadNumber(std::string_view text, std::string_view byteMark, std::string_view codeMark)
 {
     if (StartsWith(text, codeMark)) {
@@ -122,7 +122,7 @@ void AppendQuoted(std::string& out, char32_t code)
         AppendUtf8(out, code);
 }
 
-// Reads an escaped character. Its backslash is the first character of @a text.
+// Reads an escaped character. @a text begins with the backslash of that character.
 std::optional<Decoded> ReadEscape(std::string_view text)
 {
     for (const auto& [escaped, letter] : kShortEscapes) {
@@ -137,7 +137,7 @@ bool IsQuoted(std::string_view value)
     return value.size() >= 2 && value.front() == '"' && value.back() == '"';
 }
 
-// Decodes @a inner, the part of a value between its quotes. Returns nothing if it is not well formed.
+// Decodes the part of a value between the quotes. Returns nothing if this part is not well formed.
 std::optional<std::wstring> Unquoted(std::string_view inner)
 {
     std::wstring text;

@@ -6,13 +6,13 @@
 
 // Conversion of text to and from its form in an INI file. Private to the library.
 //
-// In wide text, a byte that is not UTF-8 is represented by the code U+DC00 plus the byte, so that a conversion to wide
-// text and back keeps it.
+// In wide text, a byte that is not UTF-8 is represented by the code U+DC00 plus the byte. So the conversion back to
+// narrow text returns the same byte.
 
 namespace fittings {
 
 /// Returns @a text as the name of a section or key. Characters that a name cannot contain are percent-encoded; the
-/// empty text is "%". Different texts have different names.
+/// empty text becomes "%". Different texts have different names.
 std::string EncodeName(std::wstring_view text);
 
 /// Returns the text that a name in a file stands for, even if another program or a person wrote the name.
@@ -25,14 +25,14 @@ bool IsPlainInName(char byte);
 /// Returns @a text as a value: unchanged if it is then read back exactly, otherwise in quotes.
 std::string EncodeValue(std::wstring_view text);
 
-/// Returns the text of @a value, which must not begin with a blank. If the quotes are not well formed, the value is
-/// taken literally, with its quotes.
+/// Returns the text of @a value, which must not begin with a blank. A value in quotes that is not well formed is taken
+/// literally, with its quotes.
 std::wstring DecodeValue(std::string_view value);
 
 std::wstring NarrowToWide(std::string_view text);
 
-/// Reverses NarrowToWide(). A code that represents a byte becomes that byte. Any other code that is not a Unicode
-/// character, such as the surrogate U+D800, is encoded by the scheme of UTF-8 all the same.
+/// Reverses NarrowToWide(). A code that represents a byte becomes that byte. Any other code is encoded by AppendUtf8(),
+/// even a surrogate such as U+D800.
 std::string WideToNarrow(std::wstring_view text);
 
 }  // namespace fittings

@@ -29,8 +29,8 @@ std::size_t PlainLength(std::string_view text)
     return length;
 }
 
-// Returns whether @a suffix, which begins with a bracket, has the form of "[de]" in the key Name[de]: letters, digits
-// and a few marks, and then the closing bracket as the last character.
+// Returns whether @a suffix, which begins with '[', is like "[de]" in the key Name[de]: it may contain letters, digits
+// and the marks "-_.@", and it must end with ']'.
 bool IsLocaleSuffix(std::string_view suffix)
 {
     if (suffix.size() < 2 || suffix.back() != ']')

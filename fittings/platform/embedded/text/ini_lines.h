@@ -13,15 +13,15 @@ struct IniLine
 {
     bool isSection;
     std::size_t begin;
-    std::size_t end;   ///< The place of the line end.
+    std::size_t end;   ///< Where the line end begins.
     std::size_t next;  ///< Where the next line begins.
     std::string_view name;
     bool isPlainName;   ///< True if the name is certainly as EncodeName() writes it.
-    std::size_t value;  ///< The beginning of a key's value.
+    std::size_t value;  ///< Where the value of a key begins.
 };
 
-/// Finds the lines with the sections and keys of a text. It recognises every section and key that GKeyFile does, and
-/// keys before the first section.
+/// Finds the lines with the sections and keys of a text. It recognises every section and key that GKeyFile recognises,
+/// and also keys before the first section.
 class IniLines
 {
 public:
@@ -39,7 +39,7 @@ private:
     std::string_view m_text;
     std::size_t m_at = 0;
     bool m_hasNul;
-    bool m_isBelowBrokenSection = false;  ///< Below a line that starts with '[' but is not a section line.
+    bool m_isBelowBrokenSection = false;  ///< True below a line that starts with '[' but is not a section line.
 };
 
 /// Returns the number of bytes of the byte order mark that @a text begins with; 0 if there is none.

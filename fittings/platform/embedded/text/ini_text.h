@@ -17,12 +17,12 @@ namespace fittings {
 ///
 /// The functions take and return each name as EncodeName() writes it, even if the file spells the name differently.
 /// Values are as they stand in the file: EncodeValue() writes them, and DecodeValue() reads them. If several lines have
-/// the same key, the last one counts. However, lines that spell the section and the key as EncodeName() does take
-/// precedence over the others.
+/// the same key, the last one counts. However, a line whose section and key are spelled as EncodeName() writes them has
+/// precedence over the other lines.
 class IniText
 {
 public:
-    /// The name of the section that holds the keys before the first section line. No section line can have it.
+    /// The name of the section that holds the keys before the first section line. No section line can have this name.
     static constexpr std::string_view kEarlyKeys = "";
 
     explicit IniText(std::string text);
@@ -41,8 +41,8 @@ public:
     /// Returns the text with the changes.
     ///
     /// A value is replaced in its line. The lines of removed keys and sections are left out. New keys follow the last
-    /// key of their section. New sections are appended at the end, each after a blank line. Every other byte stays as
-    /// it is, including the comments in a removed section.
+    /// key of their section, or its section line. New sections are appended at the end, separated by blank lines. Every
+    /// other byte stays as it is, including the comments in a removed section.
     std::string Changed() const;
 
     std::optional<std::string_view> Find(std::string_view section, std::string_view key) const;
@@ -62,7 +62,7 @@ public:
         std::string_view value;
     };
 
-    /// Returns all sections except the early keys, in the order of the text. New ones come last.
+    /// Returns all sections except kEarlyKeys, in the order of the text. New ones come last.
     std::vector<std::string_view> Sections() const;
 
     /// Returns the keys of a section, in the order of the text. New ones come last.
@@ -75,8 +75,8 @@ public:
         std::optional<std::string_view> value;  ///< None when the key or the section was removed.
     };
 
-    /// Returns all changes. Each key and each section occurs once, unless it was set or added again after
-    /// RemoveSection(). Then the last of its changes counts.
+    /// Returns all changes. A key or section can occur more than once if it was set or added again after
+    /// RemoveSection(). Then the last of these changes counts.
     std::vector<Change> Changes() const;
 
 private:
@@ -99,17 +99,17 @@ private:
         std::vector<Entry> entries = {};
         std::unordered_map<std::string_view, std::size_t> indices = {};  ///< Indices of the entries, by name.
         std::size_t lastLine = kNone;  ///< The line after which new keys are inserted. kNone: the section is new.
-        bool hasOwnName = false;       ///< True if lastLine is or follows a section line as EncodeName() writes it.
+        bool hasOwnName = false;       ///< True if the section line of lastLine is as EncodeName() writes it.
         bool isMade = false;           ///< True after AddSection().
         bool isRemoved = false;
     };
 
-    /// A line of a section or a key: offsets into the text, the section, and the index of its entry.
+    /// A section line or a key line: offsets into the text, the section, and the index of the entry in the section.
     struct Line
     {
         std::size_t begin;
         std::size_t value;
-        std::size_t end;   ///< The place of the line end.
+        std::size_t end;   ///< Where the line end begins.
         std::size_t next;  ///< Where the next line begins.
         const Section* section;
         std::size_t entry;  ///< kNone: the line of the section itself.

@@ -8,7 +8,7 @@
 
 namespace fittings {
 
-/// Returns whether a code is a Unicode character: false for surrogates and above U+10FFFF.
+/// Returns whether a code is a Unicode character: false for surrogates and for codes above U+10FFFF.
 constexpr bool IsUnicode(char32_t code)
 {
     return code < 0xD800 || (code > 0xDFFF && code <= 0x10FFFF);
