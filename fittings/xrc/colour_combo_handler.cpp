@@ -68,7 +68,7 @@ wxColourPopup* wxColourComboXmlHandler::MakePopup()
         popup->SetAutomaticText(GetNodeText(GetParamNode("automatic-text"), wxXRC_TEXT_NO_ESCAPE));
     if (HasParam("more-colours-text"))
         popup->SetMoreColoursText(GetNodeText(GetParamNode("more-colours-text"), wxXRC_TEXT_NO_ESCAPE));
-    // Report an invalid text here: the toolkit reads every text but "1" as false.
+    // Report an invalid text here: the toolkit takes every text except "1" as false.
     const wxString refresh = GetParamValue("refresh-combo");
     if (!refresh.empty() && refresh != "0" && refresh != "1")
         ReportParamError("refresh-combo", wxString::Format("\"%s\" is neither 0 nor 1", refresh));

@@ -30,12 +30,12 @@ class wxColourPopup;
 /// | --- | --- | --- |
 /// | `style` | style | styles of wxComboCtrl and of every window; none, which gives a text field |
 /// | `colour` | colour | wxColourCombo::SetColour(); none |
-/// | `value` | text or colour | of the text field, or as `colour` if it is like "#FF0000" or "rgb(255, 0, 0)"; empty |
+/// | `value` | text or colour | text of the field, or `colour` if it is like "#FF0000" or "rgb(255, 0, 0)"; empty |
 /// | `buttonsize` | size | of the drop-down button; the toolkit's default |
 /// | `initial-colour` | colour | wxColourPopup::SetInitialColour(), which does not change the text; black |
 /// | `default-colour` | colour | wxColourPopup::SetDefaultColour(); black |
-/// | `automatic-text` | text | wxColourPopup::SetAutomaticText(), with an empty text no box; "Automatic" |
-/// | `more-colours-text` | text | wxColourPopup::SetMoreColoursText(), with an empty text no box; "More Colours..." |
+/// | `automatic-text` | text | wxColourPopup::SetAutomaticText(), no box if empty; "Automatic" |
+/// | `more-colours-text` | text | wxColourPopup::SetMoreColoursText(), no box if empty; "More Colours..." |
 /// | `refresh-combo` | boolean | wxColourPopup::SetRefreshCombo(); 0 |
 ///
 /// The properties of every window work too: `pos`, `size`, `tooltip`, `enabled`, `hidden`, `font` and the rest. The
@@ -43,7 +43,7 @@ class wxColourPopup;
 /// mark a mnemonic as it does in a label.
 ///
 /// An invalid value is reported through wxXmlResource::ReportError() and ignored. The same holds for a `subclass` that
-/// is not a wxColourCombo: the control is then a plain wxColourCombo. A host class that `subclass` names must use
+/// is not a wxColourCombo: the control is then a plain wxColourCombo. The class in `subclass` must use
 /// wxDECLARE_DYNAMIC_CLASS().
 ///
 /// GUI thread only.

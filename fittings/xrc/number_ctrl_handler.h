@@ -6,7 +6,7 @@
 #include <fittings/base/export.h>
 
 /// Makes a wxNumberCtrl from an XML resource, for an object of class "wxNumberCtrl". If the object has a `subclass`,
-/// makes an object of that class of the host, which must be derived from wxNumberCtrl.
+/// makes an object of that class, which must be derived from wxNumberCtrl.
 ///
 /// @code{.xml}
 /// <object class="wxNumberCtrl" name="weight">
@@ -24,15 +24,15 @@
 /// | `value` | decimal text with a dot as its point, never translated | wxNumberCtrl::SetDecimal(); an empty field |
 /// | `min`, `max` | the same | wxNumberCtrl::SetRange(); no bound |
 /// | `inc` | the same | wxNumberCtrl::SetIncrement(); 1 |
-/// | `decimals` | integer | of wxNumberCtrl::FromLocale(); 2 |
+/// | `decimals` | integer | decimals of wxNumberCtrl::FromLocale(); 2 |
 /// | `template` | text, with one `%s` | CNumberFormat::m_strTemplate; `%s` |
 ///
 /// The properties of every window work too: `pos`, `size`, `tooltip`, `enabled`, `hidden`, `font` and the rest. The
 /// format follows the user's settings; wxNumberCtrl::SetFormat() sets another one.
 ///
 /// An invalid value is reported through wxXmlResource::ReportError() and ignored, and so is a `max` below `min`. A
-/// template is valid if it has exactly one `%s` and no other `%` than `%%`. A `subclass` that is not a wxNumberCtrl is
-/// reported and ignored too: the control is then a plain wxNumberCtrl. A host class that `subclass` names must use
+/// template is valid if it has exactly one `%s` and each other percent sign is doubled. A `subclass` that is not a
+/// wxNumberCtrl is reported and ignored too: the control is then a plain wxNumberCtrl. The class in `subclass` must use
 /// wxDECLARE_DYNAMIC_CLASS().
 ///
 /// GUI thread only.

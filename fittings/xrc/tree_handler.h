@@ -6,7 +6,7 @@
 #include <fittings/base/export.h>
 
 /// Makes a wxHandyTreeCtrl from an XML resource, for an object of class "wxHandyTreeCtrl". If the object has a
-/// `subclass`, makes an object of that class of the host, which must be derived from wxHandyTreeCtrl.
+/// `subclass`, makes an object of that class, which must be derived from wxHandyTreeCtrl.
 ///
 /// @code{.xml}
 /// <object class="wxHandyTreeCtrl" name="folders" subclass="FolderTree">
@@ -36,7 +36,7 @@
 /// program adds the items.
 ///
 /// An invalid value is reported through wxXmlResource::ReportError() and ignored. The same holds for a `subclass` that
-/// is not a wxHandyTreeCtrl: the control is then a plain wxHandyTreeCtrl. A host class that `subclass` names must use
+/// is not a wxHandyTreeCtrl: the control is then a plain wxHandyTreeCtrl. The class in `subclass` must use
 /// wxDECLARE_DYNAMIC_CLASS().
 ///
 /// GUI thread only.
