@@ -175,8 +175,8 @@ TEST(TreeInOneStep, TakesItsImagesBackAndItsRowsWithThem)
 
     tree->SetImageList(nullptr);
     EXPECT_EQ(tree->GetImageList(), nullptr);
-    // Newer versions of the toolkit make the rows of a tree without images a little higher than their text, so the
-    // height of the text is only a lower bound.
+    // Newer versions of the toolkit make the rows of a tree without images a little higher than their text. Therefore
+    // the height of the text is only a lower bound.
     wxRect after;
     EXPECT_TRUE(PumpUntil([&] { return tree->GetBoundingRect(root, after) && after.height <= before.height; }))
         << after.height;

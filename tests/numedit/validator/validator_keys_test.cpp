@@ -152,9 +152,9 @@ protected:
         ASSERT_TRUE(wxTheClipboard->SetData(new wxTextDataObject("pasted")));
     }
 
-    // Clears the clipboard for the next test. Otherwise the program would still own the clipboard when the next test
-    // sets it. On Wayland, GTK 3.24.52 would then set the same data source again, weston 16 would cancel that source,
-    // and the clipboard would be empty. GTK 3.24.38 makes a new source.
+    // Clears the clipboard, so that the program no longer owns the clipboard when the next test fills it. On Wayland,
+    // GTK 3.24.52 would otherwise set the same data source again, and weston 16 would cancel this source. The clipboard
+    // would then be empty. GTK 3.24.38 makes a new source.
     void TearDown() override
     {
         const wxClipboardLocker clipboard;
