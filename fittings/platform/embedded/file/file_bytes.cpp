@@ -400,7 +400,7 @@ std::string KeepUnderOtherName(const std::string& path)
             return other;
         if (errno != EEXIST)
             break;
-        // Another file may have the name, or the same file: this process or another one may have added the name before.
+        // The file may already have this name: this process or another one may have added the name before.
         if (HaveSameContent(IdentityOf(other), IdentityOf(*target)))
             return other;
     }

@@ -61,8 +61,8 @@ public:
     /// Returns the keys of a section with their values, as CLocalRegStore::GetEntries() does.
     std::vector<fittings::SettingsEntry> Entries(std::wstring_view section) const;
 
-    /// Returns whether the file is still as it was when its content was read into this object. False while Refresh()
-    /// keeps the earlier content of a file that was found empty.
+    /// Returns whether the file is still as it was when its content was read into this object. Returns false while
+    /// Refresh() keeps the earlier content of a file that was found empty.
     bool IsCurrent() const;
 
     /// Returns whether the last Load() found a file that it could not read or that is too large.

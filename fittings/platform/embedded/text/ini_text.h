@@ -88,7 +88,7 @@ private:
     {
         std::string_view name;
         std::size_t line = kNone;  ///< The line that counts. kNone: the key is new.
-        bool hasOwnName = false;   ///< True if the line has section and key as EncodeName() writes them.
+        bool hasOwnName = false;   ///< True if the section and the key of the line are as EncodeName() writes them.
         State state = State::AsRead;
         std::string value = {};  ///< The value that was set.
     };
