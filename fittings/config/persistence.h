@@ -65,11 +65,10 @@ public:
 
     /// @name Functions that the persistent objects call
     /// @{
-    bool SaveValue(const wxPersistentObject& who, const wxString& name, bool value) override;  ///< Collects the value.
-    bool SaveValue(const wxPersistentObject& who, const wxString& name, int value) override;   ///< Collects the value.
-    bool SaveValue(const wxPersistentObject& who, const wxString& name, long value) override;  ///< Collects the value.
-    bool SaveValue(const wxPersistentObject& who, const wxString& name,
-                   wxString value) override;  ///< Collects the value.
+    bool SaveValue(const wxPersistentObject& who, const wxString& name, bool value) override;      ///< Saves it later.
+    bool SaveValue(const wxPersistentObject& who, const wxString& name, int value) override;       ///< Saves it later.
+    bool SaveValue(const wxPersistentObject& who, const wxString& name, long value) override;      ///< Saves it later.
+    bool SaveValue(const wxPersistentObject& who, const wxString& name, wxString value) override;  ///< Saves it later.
     /// Returns false if the stored value is missing or neither 0 nor 1.
     bool RestoreValue(const wxPersistentObject& who, const wxString& name, bool* value) override;
     /// Returns false if the stored value is missing or not an int. For a splitter or data view, also returns false if

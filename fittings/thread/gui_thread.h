@@ -49,52 +49,52 @@
 /// };
 /// @endcode
 ///
-/// The owner must shut down in that order: StartKill(), Wait(), destroy. Do not destroy a worker that still runs. The
-/// destructor does not stop the worker and waits too late: the mutexes that PostEvent() uses are destroyed before the
-/// base class waits.
+/// The owner must shut the worker down in this order: StartKill(), Wait(), destroy. Do not destroy a worker that still
+/// runs. The destructor does not stop the worker and waits too late: the mutexes that PostEvent() uses are destroyed
+/// before the base class waits.
 ///
-/// The handler is not owned and must live until Wait() has returned. Then the handler may be destroyed even if events
-/// are still queued: the toolkit drops them. The owner's thread makes, runs, stops, waits for and destroys the object.
-/// Any thread may call DoContinue() and PostEvent().
+/// The worker does not own the handler. The handler must live until Wait() has returned. It may then be destroyed even
+/// if events are still queued: the toolkit drops these events. The owner's thread makes, runs, stops, waits for and
+/// destroys the object. Any thread may call DoContinue() and PostEvent().
 class FITTINGS_API wxGUIThread : public wxThreadEx
 {
 public:
-    /// Makes a worker that can be waited for.
+    /// Makes a joinable worker.
     ///
-    /// @param handler  receives the events, on the GUI thread. Null: the worker runs, and its events are dropped.
+    /// @param handler  receives the events, on the GUI thread. If null, the worker runs and its events are dropped.
     explicit wxGUIThread(wxEvtHandler* handler);
 
-    /// Destroy a worker only when it has ended.
+    /// Do not destroy a worker that still runs.
     ~wxGUIThread() override;
 
-    /// Makes the thread and runs it, and returns the result of Run(). Call this instead of Create() and Run().
+    /// Makes and starts the thread. Returns the result of Run(). Call this instead of Create() and Run().
     wxThreadError RunThread();
 
     /// Returns true until StartKill() is called.
     bool DoContinue();
 
-    /// Asks the worker to stop, which cannot be taken back, and returns at once. Events that are already queued still
-    /// arrive.
+    /// Asks the worker to stop, and returns at once. The request cannot be taken back. Events that are already queued
+    /// still arrive.
     void StartKill();
 
-    /// Makes the worker post one event of type @a eventType to the handler when Entry() has ended: after its work is
-    /// done, after StartKill() and even after an exception. Call SetEndEvent() before RunThread(). By default, no such
-    /// event is posted.
+    /// Makes the worker post one event of type @a eventType to the handler when Entry() has ended. This includes an end
+    /// after StartKill() or by an exception. Call SetEndEvent() before RunThread(). By default, no such event is
+    /// posted.
     ///
     /// The event is a wxCommandEvent. Its int is GetRunNumber(), and its client data is the result of Entry(). When the
     /// event arrives, HasEnded() is true and Wait() returns at once.
     void SetEndEvent(int eventType);
 
-    /// Returns a number that no other worker of the process has. The number is larger than those of the workers made
-    /// before. If each worker puts its number into its events, the handler can recognise and ignore events that an
-    /// earlier worker has left queued.
+    /// Returns a number that no other worker of the process has. The number is larger than the numbers of all workers
+    /// that were made before. If each worker puts its number into its events, the handler can recognise and ignore late
+    /// events of an earlier worker.
     int GetRunNumber() const { return m_runNumber; }
 
     /// @name Posting
     ///
-    /// The handler receives a copy of the event on the GUI thread, as a pending event of the toolkit. Each overload
-    /// returns true when the worker may go on: the event was queued, or was dropped because there is no handler. Each
-    /// overload returns false when the worker was asked to stop; nothing is queued then.
+    /// The handler receives a copy of the event on the GUI thread, as a pending event of the toolkit. Each overload of
+    /// PostEvent() returns true when the worker may go on: the event was queued, or was dropped because there is no
+    /// handler. It returns false when the worker was asked to stop; nothing is queued then.
     ///
     /// A worker that posts events faster than the GUI thread handles them is not slowed down: its events fill the
     /// memory and block the GUI. Report results at intervals, not one by one.
@@ -115,8 +115,8 @@ public:
     bool PostEvent(int eventType, int value, long extra);  ///< Does the same with an extra long.
     bool PostEvent(int eventType, int value, void* data);  ///< Does the same with client data.
 
-    /// Posts a copy of the event as it is, even after StartKill(), so that a stopped worker can report a last result.
-    /// Returns false when there is no handler.
+    /// Posts a copy of the event as it is, even after StartKill(). Call this to report the last result of a stopped
+    /// worker. Returns false when there is no handler.
     bool PostResult(const wxCommandEvent& event);
 
     /// @}
@@ -125,11 +125,12 @@ protected:
     wxEvtHandler* const m_handler;  ///< Receives the events; not owned.
     bool m_continue = true;         ///< True until StartKill().
 
-    /// Guards m_continue. It is recursive: a derived class may hold it during several calls of this class, so that no
-    /// StartKill() comes between them.
+    /// Guards m_continue. The mutex is recursive, so a derived class may hold it during several calls of this class. No
+    /// StartKill() then comes between these calls.
     wxMutex m_continueMutex{wxMUTEX_RECURSIVE};
 
-    /// Held while PostEvent() makes and posts an event of a given type. Lock it before m_continueMutex, never after it.
+    /// Held while PostEvent(eventType, ...) makes and posts an event. Lock it before m_continueMutex, never after that
+    /// mutex.
     wxMutex m_postMutex{wxMUTEX_DEFAULT};
 
 private:
@@ -138,8 +139,9 @@ private:
 
 /// A wxGUIThread whose events all have one type, which is passed to the constructor.
 ///
-/// Its PostEvent() hides that of the base class. Otherwise the compiler would choose an overload of the base class for
-/// PostEvent(value, number). For another event, call wxGUIThread::PostEvent(...).
+/// The PostEvent() of this class hides the PostEvent() of the base class. Otherwise the compiler would choose an
+/// overload of the base class for PostEvent(value, number). To post an event of another type, call
+/// wxGUIThread::PostEvent(...).
 ///
 /// @code
 /// class Lines : public wxGUIThreadEx
@@ -161,9 +163,9 @@ private:
 /// };
 /// @endcode
 ///
-/// If the handler outlives the worker, events may arrive after the worker is destroyed. What an event refers to must
-/// therefore belong to the handler or live as long as the handler, like the lines in this example. Do not post client
-/// data that points into the worker.
+/// If the handler outlives the worker, events may arrive after the worker is destroyed. The data that an event refers
+/// to must therefore belong to the handler or live as long as the handler, like the lines in this example. Do not post
+/// client data that points into the worker.
 class FITTINGS_API wxGUIThreadEx : public wxGUIThread
 {
 public:
@@ -171,18 +173,18 @@ public:
     /// @param eventType the type of every event, for example from wxNewEventType().
     wxGUIThreadEx(wxEvtHandler* handler, int eventType);
 
-    /// Destroy a worker only when it has ended.
+    /// Do not destroy a worker that still runs.
     ~wxGUIThreadEx() override;
 
     /// @name Posting
     ///
-    /// These functions do the same as wxGUIThread::PostEvent() with the type that was passed to the constructor. The
-    /// results and the ownership of the data are described there. A call PostEvent(value, 0) is ambiguous: write 0L
-    /// or nullptr.
+    /// These functions do the same as wxGUIThread::PostEvent() with the type that was passed to the constructor.
+    /// wxGUIThread describes the results and the ownership of the data. A call PostEvent(value, 0) is ambiguous: write
+    /// 0L or nullptr.
     /// @{
-    bool PostEvent(int value);              ///< Posts an event with that int.
-    bool PostEvent(int value, long extra);  ///< Posts an event with that int and extra long.
-    bool PostEvent(int value, void* data);  ///< Posts an event with that int and client data.
+    bool PostEvent(int value);              ///< Posts an event with the int @a value.
+    bool PostEvent(int value, long extra);  ///< Posts an event with the int @a value and the extra long @a extra.
+    bool PostEvent(int value, void* data);  ///< Posts an event with the int @a value and the client data @a data.
     /// @}
 
 protected:

@@ -13,7 +13,8 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-// In milliseconds: about thirty years. Adding this to the current time does not overflow the clock.
+// The longest time to wait, in milliseconds: about thirty years. Adding it to the current time does not overflow the
+// clock.
 constexpr std::uint64_t kLongestWait = 1'000'000'000'000;
 
 // The longest time that a wait keeps windows from being painted.
@@ -38,7 +39,7 @@ public:
     explicit wxThreadExImpl(wxThreadEx* owner) : wxThread(wxTHREAD_DETACHED), m_owner(owner) {}
 
 private:
-    // Reports to the owner that the thread is over, even after an exception: Wait() must not hang.
+    // Reports to the owner that the thread is over, even after an exception. Otherwise Wait() would not return.
     //
     // The C library first destroys a thread's thread-local objects, such as this one, and then the values of its
     // pthread keys, in rounds. The toolkit's values are destroyed in the first round, so End reports in the second.

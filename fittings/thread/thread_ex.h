@@ -11,9 +11,9 @@
 
 class wxThreadExImpl;
 
-/// Work on a thread of its own, in an object that its owner makes, waits for and destroys.
+/// An object that does work on a thread of its own. Its owner makes it, waits for it and destroys it.
 ///
-/// Derive from it and do the work in Entry(). The result of Entry() is the exit code that Wait() returns.
+/// Derive from this class and do the work in Entry(). The result of Entry() is the exit code that Wait() returns.
 ///
 /// @code
 /// class Checksum : public wxThreadEx
@@ -35,20 +35,21 @@ class wxThreadExImpl;
 /// @endcode
 ///
 /// The owner's thread makes the object, calls Create(), Run() and Wait(), and destroys the object, in this order. The
-/// toolkit must be initialised before. An object runs once. If Create() or Run() fails, the object cannot be used
-/// again: make another one.
+/// toolkit must be initialised before. An object runs only once. If Create() or Run() fails, the object cannot be used
+/// again: make another object.
 ///
-/// - The class does not pause the work or end it early. Entry() may ask wxThread::This(), the toolkit's detached
-///   thread, for its id or TestDestroy(). This class never calls that thread's Pause() or Delete(); only the host can.
-/// - The destructor waits, but only after the members of the derived class are destroyed. A thread that begins only
-///   then finds no Entry() to call and aborts the process. So call Wait() before, in the owner or in the destructor of
-///   the most derived class.
+/// - The class does not pause the work or end it early. In Entry(), wxThread::This() is a detached thread of the
+///   toolkit. Entry() may call GetId() and TestDestroy() of this thread. This class never calls Pause() or Delete() of
+///   this thread, but the host may.
+/// - The destructor waits, but only after the members of the derived class are destroyed. If the thread begins to run
+///   only then, the Entry() of the derived class no longer exists, and the process aborts. So call Wait() before, in
+///   the owner or in the destructor of the most derived class.
 /// - A detached object must outlive its thread: the thread writes into the object when Entry() has returned, and
-///   neither Wait() nor the destructor waits for that. So destroy such an object when HasEnded() or WaitFor() has
-///   returned true, or keep it until the process ends. Do not shut the toolkit down while its thread runs.
-/// - Behind this object is a thread object of the toolkit, which the thread frees when it ends. If this object never
-///   ran, or its Run() failed, the toolkit's object stays allocated until the process ends. After Create() a waiting
-///   thread stays too, which may disturb the toolkit's shutdown. So call Create() only if you call Run().
+///   neither Wait() nor the destructor waits for that. So destroy a detached object only when HasEnded() or WaitFor()
+///   has returned true, or keep it until the process ends. Do not shut the toolkit down while the thread runs.
+/// - Each object makes a thread object of the toolkit, which is freed when the thread ends. If Run() was not called or
+///   failed, the toolkit's object stays allocated until the process ends. After Create() without Run(), a waiting
+///   thread stays too, and may disturb the toolkit's shutdown. So call Create() only if you then call Run().
 class FITTINGS_API wxThreadEx
 {
 public:
@@ -78,21 +79,22 @@ public:
     /// Waits until Entry() has returned and the thread is over: its thread-local objects are destroyed, and the toolkit
     /// no longer uses the thread.
     ///
-    /// Another call returns the same exit code. Only one thread at a time may wait, because only one is woken. No
-    /// events are handled meanwhile: if Entry() waits for the GUI thread or calls Wait() itself, this call never
-    /// returns.
+    /// A further call returns the same exit code. Only one thread at a time may wait, because only one thread is woken.
+    /// No events are handled during the wait: if Entry() waits for the GUI thread or calls Wait() itself, this call
+    /// never returns.
     ///
     /// @return the result of Entry(). (wxThread::ExitCode)-1 at once when the object is detached or has not run.
     wxThread::ExitCode Wait();
 
-    /// Waits until the thread is over, but at most @a milliseconds, also for a detached object. On the GUI thread,
-    /// windows are painted and timers run meanwhile. The user's input and the events of workers are handled afterwards.
+    /// Waits until the thread is over, but at most @a milliseconds. Works for a detached object, too. On the GUI
+    /// thread, windows are painted and timers run during the wait. The user's input and the events of workers are
+    /// handled after the wait.
     ///
     /// @return HasEnded(); false at once when the object has not run.
     bool WaitFor(unsigned long milliseconds);
 
-    /// Returns whether Entry() has returned or thrown an exception and the thread is over. Wait() then returns at once.
-    /// The object may be destroyed then, also a detached one. Any thread may call this.
+    /// Returns true when the thread is over, after Entry() has returned or thrown an exception. Wait() then returns at
+    /// once, and the object may be destroyed, even if it is detached. Any thread may call this function.
     bool HasEnded() const;
 
     /// Does the work. The function is called once, on the new thread, and its result is the exit code.
@@ -104,8 +106,8 @@ public:
 private:
     friend class wxThreadExImpl;
 
-    mutable std::mutex m_mutex;           // guards m_finished; once that is true, m_exitCode no longer changes
-    std::condition_variable m_condition;  // not the toolkit's, whose wait depends on the time of day
+    mutable std::mutex m_mutex;           // guards m_finished; once m_finished is true, m_exitCode no longer changes
+    std::condition_variable m_condition;  // not a wxCondition, whose timed wait depends on the time of day
     const bool m_detached;
     bool m_running = false;
     bool m_finished = false;
@@ -114,7 +116,7 @@ private:
 
 protected:
     /// Called on the thread with the exit code when Entry() has returned or thrown an exception. The function must not
-    /// call HasEnded() or Wait(), which wait for the function to return. Set it before Run().
+    /// call HasEnded(), Wait() or WaitFor(): these wait for the function to return. Set m_atEnd before Run().
     std::function<void(wxThread::ExitCode)> m_atEnd;
 };
 
