@@ -27,7 +27,7 @@ void ShowWithoutDelay(wxWindow& window);
 /// moved.
 void KeepPlace(wxTopLevelWindow& window);
 
-/// Returns whether @a event is the one by which the window manager announces the size of a window's decorations.
+/// Returns whether @a event is the event by which the window manager announces the size of a window's decorations.
 bool TellsDecorations(const GdkEvent& event);
 
 }  // namespace fittings

@@ -55,8 +55,8 @@ public:
     ~wxStorePersistenceManager() override;
 
     /// Makes wxPersistenceManager::Get() return the only object of this class, and returns this object too. The object
-    /// is never destroyed. Call this before the first window is registered, for example in wxApp::OnInit(). Further
-    /// calls only return the object.
+    /// is never destroyed. Call this before the first window is registered, for example in wxApp::OnInit(). The
+    /// function may be called again.
     static wxStorePersistenceManager& Install();
 
     /// Saves the collected values. Returns false when the save failed; the values then stay collected. While the thread
@@ -186,19 +186,19 @@ private:
 /// @name wxPersistentRegisterAndRestore() for trees, lists and AUI managers
 /// @{
 
-/// Makes the object; the toolkit takes ownership.
+/// Makes the persistent object; the toolkit takes ownership.
 inline wxPersistentObject* wxCreatePersistentObject(wxTreeCtrl* tree)
 {
     return new wxPersistentTreeCtrl(tree);
 }
 
-/// Makes the object; the toolkit takes ownership.
+/// Makes the persistent object; the toolkit takes ownership.
 inline wxPersistentObject* wxCreatePersistentObject(wxListCtrl* list)
 {
     return new wxPersistentListCtrl(list);
 }
 
-/// Makes the object; the toolkit takes ownership.
+/// Makes the persistent object; the toolkit takes ownership.
 inline wxPersistentObject* wxCreatePersistentObject(wxAuiManager* manager)
 {
     return new wxPersistentAui(manager);

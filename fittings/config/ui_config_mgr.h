@@ -9,8 +9,8 @@
 /// Text and integers in named INI files below the folder "ui_config" of the user data directory.
 ///
 /// Every call opens its file, reads or changes one value, saves the change and closes the file. Nothing is cached and
-/// no lock is taken: if two processes write one file at the same moment, one of the changes is lost. The first call of
-/// any kind makes the folder. Null texts count as empty. GUI thread only.
+/// no lock is taken: if two processes write one file at the same moment, one of the changes can be lost. The first call
+/// of any kind makes the folder. Null texts count as empty. GUI thread only.
 ///
 /// Each text may be a wxString, a std::string, a std::wstring, or a wide or narrow literal. One call may mix them: see
 /// fittings::TextArgument.

@@ -34,8 +34,8 @@ namespace wx_window_state {
 /// the screen for a top-level window. A hidden or iconised window is stored as the toolkit reports it.
 FITTINGS_API void SaveState(wxWindow* window, const wchar_t* name);
 
-/// Stores the geometry as for any window, and whether the frame is maximised. For a maximised frame, this is the
-/// geometry of the maximised frame.
+/// Stores the geometry as for any window, and whether the frame is maximised. If the frame is maximised, its maximised
+/// geometry is stored.
 FITTINGS_API void SaveState(wxFrame* frame, const wchar_t* name);
 
 /// Gives a window its stored geometry and moves it onto a display.
@@ -45,8 +45,8 @@ FITTINGS_API void SaveState(wxFrame* frame, const wchar_t* name);
 /// part. A window that is wholly outside the area, for example under a panel, moves into the area. Numbers beyond the
 /// 16 bits of an X coordinate are limited to that range.
 ///
-/// A hidden window appears in its place when the host calls wxWindow::Show(); no other call is needed. This includes
-/// the first window of a process. It holds under any window manager that lets programs place their windows.
+/// A hidden window appears in its place when the host calls wxWindow::Show(); no other call is needed. This is also
+/// true for the first window of a process, under any window manager that lets programs place their windows.
 ///
 /// The function is meant for top-level windows. It compares a child's position with the work area too, although that
 /// position is relative to the parent.

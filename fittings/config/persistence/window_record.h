@@ -34,7 +34,7 @@ public:
     void Follow(wxTopLevelWindow& window);
 
     /// Returns true when the window is maximised. A hidden window counts as maximised if it was maximised when it was
-    /// hidden: the system does not remember that.
+    /// hidden, because the toolkit no longer reports this state.
     bool IsMaximized(const wxTopLevelWindow& window) const;
 
     /// Returns true when the window is maximised, full screen or iconised.
