@@ -43,7 +43,7 @@ std::int64_t ExponentOf(std::string_view digits)
     return value;
 }
 
-/// Adds one to the last digit. If that carries out of the first digit, puts a 1 before it and returns true.
+/// Adds one to the last digit. If all digits are 9, also puts a 1 before the digits and returns true.
 bool Increment(std::string& digits)
 {
     for (auto at = digits.rbegin(); at != digits.rend(); ++at) {
@@ -65,8 +65,8 @@ std::int64_t DigitsKept(const Decimal& number, std::int64_t decimals)
 }
 
 /// Returns the digits from the place @a top down to the place @a bottom, with zeros where the number has no digits. All
-/// digits of the number must be between these places. Places are counted from the decimal point to the left; below 0,
-/// they are to the right of the point.
+/// digits of the number must be between these places. Place 0 is the decimal point. Places above 0 are to the left of
+/// the point, and places below 0 are to the right.
 std::string DigitsBetween(const Decimal& number, std::int64_t top, std::int64_t bottom)
 {
     std::string result(static_cast<std::size_t>(top - bottom), '0');
@@ -79,7 +79,7 @@ std::int64_t LowestPlace(const Decimal& number)
     return number.point - static_cast<std::int64_t>(number.digits.size());
 }
 
-/// Subtracts @a less from @a digits. Both have the same length, and @a less is not the larger one.
+/// Subtracts @a less from @a digits. The texts must have the same length, and @a less must not be the larger number.
 std::string Difference(std::string digits, const std::string& less)
 {
     int borrowed = 0;

@@ -33,7 +33,7 @@ std::optional<std::string> DecimalIn(wxWindow* window, const CNumberFormat& form
 }
 
 /// Returns the text to show for a variable; empty for an empty wxString. Returns nothing if there is no variable, or if
-/// its value is not a number.
+/// the variable's value is not a number.
 /// @{
 std::optional<std::string> TextOf(const std::monostate&)
 {
@@ -59,7 +59,7 @@ std::optional<std::string> TextOf(const wxString* value)
 }
 /// @}
 
-/// Checks whether a number fits a variable. On request, stores the number in the variable.
+/// Returns whether the number in @a text fits in a variable. If @a store is true, also stores the number.
 /// @{
 bool Take(const std::string&, std::monostate, bool)
 {

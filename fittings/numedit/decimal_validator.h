@@ -21,12 +21,12 @@ class wxTextEntry;
 /// @endcode
 ///
 /// On a wxNumberCtrl, the validator uses the control's format and bounds. On any other wxTextEntry, such as a
-/// wxComboBox, the validator uses its own format, reads groups and the template too, and does not check typing.
+/// wxComboBox, the validator uses its own format, accepts groups and the template too, and does not check typing.
 ///
 /// An empty field has no number. A validator for a wxString accepts an empty field and transfers it as the empty text.
 /// A validator without a variable accepts an empty field too. A validator for a `double` or an integer refuses an empty
 /// field, which has no number to store. A validator for an integer also refuses a number that has a fraction or does
-/// not fit. A `double` takes the nearest value.
+/// not fit in the variable. A `double` gets the nearest value.
 ///
 /// A derived class must override Clone(). The toolkit's class information does not distinguish this class from
 /// wxValidator: use dynamic_cast. GUI thread only.
@@ -37,8 +37,8 @@ public:
     /// wxNumberCtrl::FromLocale().
     wxDecimalValidator();
 
-    /// Transfers a `double`. The variable is not owned and must outlive the validator and each window that it was set
-    /// on.
+    /// Transfers a `double`. The variable is not owned and must outlive the validator and each window that the
+    /// validator was set on.
     explicit wxDecimalValidator(double* value);
 
     /// Transfers a `double`. @a format applies to fields other than a wxNumberCtrl.
@@ -50,16 +50,16 @@ public:
     /// Transfers a whole number. @a format applies to fields other than a wxNumberCtrl.
     wxDecimalValidator(std::int64_t* value, const CNumberFormat& format);
 
-    /// Transfers a whole number that fits an `int`.
+    /// Transfers a whole number that fits in an `int`.
     explicit wxDecimalValidator(int* value);
 
-    /// Transfers a whole number that fits an `int`. @a format applies to fields other than a wxNumberCtrl.
+    /// Transfers a whole number that fits in an `int`. @a format applies to fields other than a wxNumberCtrl.
     wxDecimalValidator(int* value, const CNumberFormat& format);
 
-    /// Transfers a whole number that fits an `unsigned`: none below 0.
+    /// Transfers a whole number that fits in an `unsigned`: 0 or above.
     explicit wxDecimalValidator(unsigned* value);
 
-    /// Transfers a whole number that fits an `unsigned`. @a format applies to fields other than a wxNumberCtrl.
+    /// Transfers a whole number that fits in an `unsigned`. @a format applies to fields other than a wxNumberCtrl.
     wxDecimalValidator(unsigned* value, const CNumberFormat& format);
 
     /// Transfers decimal text.
@@ -81,9 +81,12 @@ public:
     /// disabled field is always valid. Returns false on a window that is not a wxTextEntry.
     bool Validate(wxWindow* parent) override;
 
-    /// Shows the variable's number. An empty wxString empties the field. Without a variable, does nothing. Returns
-    /// false if the variable's value is not a number, if wxNumberCtrl::SetDecimal() refuses it, if the window is not a
-    /// wxTextEntry, or if another control than a wxNumberCtrl does not show all of the number.
+    /// Shows the variable's number. An empty wxString empties the field. Without a variable, shows nothing. Returns
+    /// false in these cases:
+    /// - The window is not a wxTextEntry.
+    /// - The variable's value is neither a number nor an empty wxString.
+    /// - The field is a wxNumberCtrl, and wxNumberCtrl::SetDecimal() refuses the value.
+    /// - The field is not a wxNumberCtrl, and does not show the whole number.
     bool TransferToWindow() override;
 
     /// Stores the field's number in the variable. Checks the field as Validate() does, even if the field is disabled.

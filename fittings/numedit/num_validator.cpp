@@ -30,8 +30,8 @@ std::wstring TextWith(wchar_t character, const wxTextCtrl& control)
     return text;
 }
 
-// Returns whether the validator is on a text control. Asserts on any other control, where the number would otherwise be
-// lost silently.
+// Returns whether the validator is on a text control. Asserts on any other control, because the number would be lost
+// there without a message.
 bool HasTextControl(const wxNumValidator& validator)
 {
     const bool hasTextControl = validator.CheckValidator();

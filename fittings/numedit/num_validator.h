@@ -8,7 +8,7 @@
 #include <fittings/base/export.h>
 #include <fittings/numedit/number_format.h>
 
-/// Lets the user type only a number into a wxTextCtrl, checks it, and transfers it to and from the host's text.
+/// Lets the user type only a number into a wxTextCtrl, checks the text, and transfers it to and from the host's text.
 ///
 /// @code
 /// wxString price = "9.95";
@@ -18,39 +18,39 @@
 /// @endcode
 ///
 /// While the user types, a character is refused with a bell if the text would no longer be a number or the beginning of
-/// one. Bounds are checked at each character too: with a lowest value of 10, "1" is refused, so "12" cannot be typed.
-/// With some bounds, every number within the bounds can be typed: CNumberFormat lists these bounds. A refused key
-/// changes nothing: the selected text stays selected, and no event is sent. Keys that are not characters (Backspace,
-/// Delete, Tab, Enter, arrows, Control with a letter from A to Z) are never refused, whatever text results. The
-/// validator never formats the text; CNumberEditUtils::FormatControlText() does that.
+/// a number. Bounds are checked at each character too: with a lowest value of 10, "1" is refused, so "12" cannot be
+/// typed. With some bounds, every number within the bounds can be typed: CNumberFormat lists these bounds. A refused
+/// key changes nothing: the selected text stays selected, and no event is sent. Keys that are not characters
+/// (Backspace, Delete, Tab, Enter, arrows, Control with a letter from A to Z) are never refused, whatever text results.
+/// The validator never formats the text; CNumberEditUtils::FormatControlText() does that.
 ///
 /// Pasted or dropped text, text that an input method inserts without a key event, and text that the program sets are
-/// not checked when they are inserted. Validate() and TransferFromWindow() check them, so no dialog ends with a text
-/// that the format does not accept.
+/// not checked when they are inserted. Validate() and TransferFromWindow() check them, so OK closes a dialog only if
+/// the format accepts the text.
 ///
-/// Both functions accept what CNumberEditUtils::ValidateString() accepts. This includes the beginning of a number: the
-/// empty text; "-" and "+" if the format accepts a sign; "." and "1." if it accepts decimals; "1e-" if it accepts an
-/// exponent. The value must be within the bounds; it is 0 for a text without digits. A program that needs a number must
-/// check for one, for example with wxString::ToCDouble().
+/// Validate() and TransferFromWindow() accept what CNumberEditUtils::ValidateString() accepts. This includes the
+/// beginning of a number: the empty text; "-" and "+" if the format accepts a sign; "." and "1." if the format accepts
+/// decimals; "1e-" if the format accepts an exponent. The value must be within the bounds; a text without digits has
+/// the value 0. A program that needs a number must check for a complete number, for example with wxString::ToCDouble().
 ///
-/// If the keypad's decimal key is reported as WXK_NUMPAD_DECIMAL, it types the format's decimal point and not the
-/// layout's character. If the layout gives the key another code, such as WXK_NUMPAD_SEPARATOR in the German layout, the
-/// key types the layout's character. That character is checked like any other.
+/// If the keypad's decimal key is reported as WXK_NUMPAD_DECIMAL, the key types the format's decimal point and not the
+/// character of the keyboard layout. If the layout gives the key another code, such as WXK_NUMPAD_SEPARATOR in the
+/// German layout, the key types the layout's character. That character is checked like any other.
 ///
 /// wxNumberCtrl does more than this validator: it accepts the beginning of each number within any bounds, checks pasted
 /// text, formats, steps, and returns a `double`. wxDecimalValidator works on every wxTextEntry.
 ///
 /// A derived class must override Clone(); otherwise the control's validator is a plain wxNumValidator. The toolkit's
 /// class information does not distinguish this class from wxValidator: use dynamic_cast. The host may set another
-/// validator on the control while this one handles a key.
+/// validator on the control while this validator handles a key.
 ///
-/// For single-line wxTextCtrl controls. On any other window, such as a wxComboBox, typing is not checked, Validate()
-/// asserts and returns false, and so does each transfer unless the value is null. GUI thread only.
+/// Only for single-line wxTextCtrl controls. On any other window, such as a wxComboBox, typing is not checked, and
+/// Validate() asserts and returns false. A transfer does the same if the value is not null. GUI thread only.
 class FITTINGS_API wxNumValidator : public wxValidator
 {
 public:
-    /// Copies @a format. @a value is not owned and must outlive the validator and each control that it was set on. If
-    /// @a value is null, nothing is transferred.
+    /// Copies @a format. @a value is not owned and must outlive the validator and each control that the validator was
+    /// set on. If @a value is null, nothing is transferred.
     wxNumValidator(const CNumberFormat& format, wxString* value);
 
     /// Copies the format and the pointer to the value, but neither the window nor the state of the keypad key.
@@ -78,32 +78,32 @@ public:
     /// With a null value, does nothing and returns true. Otherwise returns CheckValidator().
     bool TransferToWindow() override;
 
-    /// Copies the control's text to the host's text if the format accepts it. Otherwise leaves the host's text and
-    /// returns false.
+    /// Copies the control's text to the host's text if the format accepts the control's text. Otherwise leaves the
+    /// host's text unchanged and returns false.
     ///
     /// Unlike Validate(), checks a disabled control too. With a null value, does nothing and returns true.
     bool TransferFromWindow() override;
 
-    /// Refuses a character if the text would no longer be a number or the beginning of one. Then rings the bell, unless
-    /// wxValidator::IsSilent(), and restores the selection that the control has deleted for the character. Bound to
-    /// wxEVT_CHAR.
+    /// Refuses a character if the text would no longer be a number or the beginning of a number. After a refusal, rings
+    /// the bell unless wxValidator::IsSilent() is true, and restores the selection that the control has deleted for the
+    /// character. Bound to wxEVT_CHAR.
     ///
-    /// It checks key codes 32 to 300 except WXK_DELETE, and characters that have only a Unicode value. Modifiers do not
-    /// matter: Alt with a letter is refused too if no menu or label takes it. A selection counts as beginning at the
-    /// insertion point.
+    /// The function checks key codes 32 to 300 except WXK_DELETE, and characters that have only a Unicode value.
+    /// Modifiers do not matter: if no menu or label takes Alt with a letter, the letter is checked too. If text is
+    /// selected, the selection is assumed to begin at the insertion point.
     ///
     /// @throws std::out_of_range if the control, for example one of a derived class, returns an insertion point beyond
     ///     the text.
     void OnChar(wxKeyEvent& event);
 
-    /// Records whether the key is the keypad's decimal key, for the characters that follow. From then on, keeps the
-    /// text that the control deletes for a character, so that OnChar() can restore it. Bound to wxEVT_KEY_DOWN.
+    /// Records for OnChar() whether the key is the keypad's decimal key. From then on, keeps the text that the control
+    /// deletes for a character, so that OnChar() can restore the text. Bound to wxEVT_KEY_DOWN.
     void OnKeyDown(wxKeyEvent& event);
 
 protected:
     CNumberFormat m_format;         ///< A copy of the host's format.
     wxString* m_pString;            ///< The host's text, not owned; may be null.
-    bool m_bNumpadDecimal = false;  ///< The last key that went down was the keypad's decimal key.
+    bool m_bNumpadDecimal = false;  ///< True if the last key pressed was the keypad's decimal key.
 
     wxDECLARE_EVENT_TABLE();
 };

@@ -49,8 +49,8 @@ wchar_t FirstCharacter(const wxString& text)
     return text.empty() ? L'\0' : static_cast<wchar_t>(text[0].GetValue());
 }
 
-/// Returns the insertion to make. Returns nothing if it is refused, and tells the program if that is because of
-/// wxNumberCtrl::SetMaxLength().
+/// Returns the insertion to make; nothing if the insertion is refused. If wxNumberCtrl::SetMaxLength() is the reason,
+/// sends wxEVT_TEXT_MAXLEN.
 std::optional<NumberEntry::Insertion> Accepted(wxNumberCtrl& control, const NumberField& field,
                                                const NumberEntry::Insertion& insertion)
 {
@@ -60,7 +60,7 @@ std::optional<NumberEntry::Insertion> Accepted(wxNumberCtrl& control, const Numb
     wxCommandEvent event(wxEVT_TEXT_MAXLEN, control.GetId());
     event.SetEventObject(&control);
     event.SetString(control.GetValue());
-    wxPostEvent(&control, event);  // a handler may destroy the control
+    wxPostEvent(&control, event);  // not sent at once: a handler may destroy the control
     return std::nullopt;
 }
 
@@ -91,7 +91,7 @@ bool wxNumberCtrl::Create(wxWindow* parent, wxWindowID id, const CNumberFormat& 
             if (!wxValidator::IsSilent())
                 wxBell();
         });
-    // Receive the wheel, which a text control leaves to its parent by default.
+    // Receive wheel events: by default, a text control leaves them to its parent.
     gtk_widget_add_events(m_widget, GDK_SCROLL_MASK);
     if (!GetValidator())
         SetValidator(wxDecimalValidator());
@@ -135,7 +135,7 @@ void wxNumberCtrl::SetFormat(const CNumberFormat& format)
         SetDecimal(number);
 }
 
-// GTK's own limit would also cut the formatted text.
+// Sets no limit in GTK, because that limit would cut the formatted text too.
 void wxNumberCtrl::SetMaxLength(unsigned long length)
 {
     wxCHECK_RET(m_field, "call Create() first");
@@ -210,7 +210,7 @@ void wxNumberCtrl::OnSetFocus(wxFocusEvent& event)
     if (!m_field || m_field->showsPlain)
         return;
     // On a click, GTK finds the place of the caret before it sets the focus, and moves the caret to this place
-    // afterwards. Change the text only after that.
+    // afterwards. Change the text only after GTK has moved the caret.
     GdkEvent* const present = gtk_get_current_event();
     const bool clicked = present && present->type == GDK_BUTTON_PRESS;
     if (present)
@@ -330,8 +330,8 @@ void wxNumberCtrl::ShowText(const std::wstring& text, const std::pair<long, long
     SetSelection(selection.first, selection.second);
 }
 
-/// Sets the plain text. @a byUser is true for a step that the user makes: only then are events sent, and the field
-/// counts as modified.
+/// Sets the plain text. If @a byUser is true, the user has made a step: then sends events, and marks the field as
+/// modified.
 void wxNumberCtrl::SetPlain(const std::wstring& plain, bool byUser)
 {
     const wxWeakRef<wxWindow> self(this);
@@ -378,7 +378,7 @@ void wxNumberCtrl::TellNumber()
     HandleWindowEvent(event);
 }
 
-/// Shows the problem of the text. If the text has no problem, stops showing an earlier one.
+/// Shows the problem of the text. If the text has no problem, stops showing an earlier problem.
 void wxNumberCtrl::TellProblem()
 {
     const wxString problem = GetProblem();
@@ -386,8 +386,8 @@ void wxNumberCtrl::TellProblem()
         return;
     GtkStyleContext* const style = gtk_widget_get_style_context(m_widget);
     AtkObject* const accessible = gtk_widget_get_accessible(m_widget);
-    // The program may have changed the tooltip or the description. Remember its texts, to restore them when the text of
-    // the field has no problem.
+    // The program may have changed the tooltip or the description. Remember the program's texts, to restore them when
+    // the text of the field has no problem.
     const bool hasOurTip = !m_field->problem.empty() && GetToolTipText() == m_field->problem;
     const bool hasOurDescription = !m_field->problem.empty() && accessible->description &&
                                    wxString::FromUTF8(accessible->description) == m_field->problem;

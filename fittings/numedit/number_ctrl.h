@@ -16,10 +16,10 @@
 /// @file
 /// A text field for one number: wxNumberCtrl and its event.
 
-/// A wxNumberCtrl sends this after wxEVT_TEXT when its number has changed. A change to or from a text that is not a
-/// number counts too. The event's GetString() returns the number as wxNumberCtrl::GetDecimal() does. The event is not
+/// A wxNumberCtrl sends this event after wxEVT_TEXT when its number has changed. A change to or from a text that is not
+/// a number counts too. The event's GetString() returns the number as wxNumberCtrl::GetDecimal() does. The event is not
 /// sent if only the text has changed: 1.5 and 1.50 are the same number. SetValue(), SetNumber() and SetDecimal() do not
-/// send it.
+/// send the event.
 extern const FITTINGS_API wxEventTypeTag<wxCommandEvent> wxEVT_NUMBER_CHANGED;
 
 /// The default name of a wxNumberCtrl.
@@ -29,7 +29,7 @@ namespace fittings {
 class NumberField;
 }
 
-/// A wxTextCtrl for one number of any length. A CNumberFormat sets the look of the number and its bounds.
+/// A wxTextCtrl for one number of any length. A CNumberFormat sets the look and the bounds of the number.
 ///
 /// @code
 /// auto* const weight = new wxNumberCtrl(this, wxID_ANY, wxNumberCtrl::FromLocale(3));
@@ -38,30 +38,31 @@ class NumberField;
 /// weight->Bind(wxEVT_NUMBER_CHANGED, [this](wxCommandEvent&) { ShowWeight(); });
 /// @endcode
 ///
-/// With the focus, the field shows the number as it is typed, such as `1234.5`. Without the focus, it shows the number
-/// as CNumberEditUtils::FormatControlText() does, such as `1,234.50 kg`. Input by keyboard, input method, clipboard or
-/// mouse is accepted if the field then holds a number within the bounds or the beginning of one. Otherwise all of the
-/// input is refused, with a bell unless wxValidator::IsSilent(). A refusal changes nothing: the selection stays.
+/// With the focus, the field shows the number as it is typed, such as `1234.5`. Without the focus, the field shows the
+/// number as CNumberEditUtils::FormatControlText() returns it, such as `1,234.50 kg`. Input by keyboard, input method,
+/// clipboard or mouse is accepted if the field then holds a number within the bounds or the beginning of such a number.
+/// Otherwise all of the input is refused, and a bell rings unless wxValidator::IsSilent() is true. A refusal changes
+/// nothing: the selection stays.
 ///
 /// | Input | What it does |
 /// | --- | --- |
-/// | a character | is accepted if a number within the bounds can begin with it: with 10 to 20, "1" but not "3" |
+/// | a character | is accepted if a number within the bounds can begin with it: for 10 to 20, "1" but not "3" |
 /// | the keypad's decimal key | types the format's point under every keyboard layout |
 /// | pasted or dropped text | may have groups, the template and a trailing minus |
-/// | Up and Down, the wheel | step by SetIncrement() within the bounds |
+/// | Up and Down, the wheel | step by the increment within the bounds: see SetIncrement() |
 /// | Page Up and Page Down | step ten times as far |
 ///
-/// Deleting is never refused, and neither is a text that the program sets. While IsAcceptable() returns false, the text
-/// is shown in the theme's colour for errors, and the reason replaces the program's tooltip and accessible description.
-/// The validator refuses the text, but the control never changes it. An empty field has no number, which is not an
-/// error.
+/// A deletion is never refused, and neither is a text from SetValue() or WriteText(). While IsAcceptable() returns
+/// false, the text is shown in the theme's colour for errors, and the reason replaces the program's tooltip and
+/// accessible description. The validator refuses the text, but the control never corrects the text. An empty field has
+/// no number, which is not an error.
 ///
-/// Everything else works as in a text control: SetValue() takes any text, and GetValue() returns the shown text.
-/// SetNumber() and SetDecimal() send no event.
+/// Everything else works as in a text control: for example, GetValue() returns the shown text. SetNumber() and
+/// SetDecimal() send no event.
 ///
-/// If a handler for wxEVT_SET_FOCUS or wxEVT_KILL_FOCUS does not skip the event, the shown text does not change. For
-/// single-line fields: wxTE_MULTILINE has no effect. The format's point and separator must not be digits. GUI thread
-/// only.
+/// If a handler for wxEVT_SET_FOCUS or wxEVT_KILL_FOCUS does not skip the event, the shown text does not change. The
+/// field always has a single line: wxTE_MULTILINE has no effect. The format's point and separator must not be digits.
+/// GUI thread only.
 class FITTINGS_API wxNumberCtrl : public wxTextCtrl
 {
 public:
@@ -69,7 +70,7 @@ public:
     wxNumberCtrl();
 
     /// Makes an empty field. Without a @a validator, the field uses a wxDecimalValidator without a variable, which
-    /// accepts a field if IsAcceptable() returns true.
+    /// accepts the field if IsAcceptable() returns true.
     explicit wxNumberCtrl(wxWindow* parent, wxWindowID id = wxID_ANY, const CNumberFormat& format = FromLocale(),
                           const wxPoint& pos = wxDefaultPosition, const wxSize& size = wxDefaultSize, long style = 0,
                           const wxValidator& validator = wxDefaultValidator,
@@ -77,13 +78,14 @@ public:
 
     ~wxNumberCtrl() override;
 
-    /// Makes the control of an object that the default constructor has made, as the constructor with a parent does.
+    /// Makes the control after the default constructor, as the constructor with a parent does. Returns false if the
+    /// control could not be made.
     bool Create(wxWindow* parent, wxWindowID id = wxID_ANY, const CNumberFormat& format = FromLocale(),
                 const wxPoint& pos = wxDefaultPosition, const wxSize& size = wxDefaultSize, long style = 0,
                 const wxValidator& validator = wxDefaultValidator, const wxString& name = wxNumberCtrlNameStr);
 
-    /// Returns a format with @a decimals decimals, filled with zeros. The point and the groups follow the user's
-    /// settings for numbers, whatever the process's locale is.
+    /// Returns a format with @a decimals decimals. Zeros are added if a number has fewer decimals. The point and the
+    /// groups follow the user's settings for numbers, whatever the process's locale is.
     static CNumberFormat FromLocale(std::uint64_t decimals);
 
     /// Returns FromLocale(2).
@@ -92,13 +94,13 @@ public:
     /// Returns the control's own copy of the format.
     const CNumberFormat& GetFormat() const;
 
-    /// Sets another format with its bounds, and shows the number in it. The number does not change.
+    /// Sets another format and its bounds, and shows the number in this format. The number does not change.
     void SetFormat(const CNumberFormat& format);
 
-    /// Shows the shortest decimal number that reads as @a value. Returns false and changes nothing for an infinity and
-    /// NaN.
+    /// Shows the shortest decimal number that converts to @a value. Returns false and changes nothing if @a value is
+    /// infinite or NaN.
     ///
-    /// Digits beyond the format's decimals stay until the user changes the text.
+    /// If the number has more decimals than the format allows, all decimals stay until the user changes the text.
     bool SetNumber(double value);
 
     /// Shows a whole number.
@@ -115,8 +117,8 @@ public:
     /// long for the field, the number is shown without a format.
     bool SetDecimal(const wxString& text);
 
-    /// Stores the number in @a value as the nearest double. Returns false and leaves @a value alone if the field has no
-    /// number or the double would be infinite. The number may be out of bounds: see IsAcceptable().
+    /// Stores the number in @a value as the nearest `double`. Returns false and leaves @a value alone if the field has
+    /// no number or the `double` would be infinite. The number may be out of bounds: see IsAcceptable().
     bool GetNumber(double* value) const;
 
     /// Stores the number in @a value as an integer. Returns false and leaves @a value alone if the field has no number,
@@ -141,28 +143,28 @@ public:
     wxString GetProblem() const;
 
     /// Sets the bounds, which are numbers of any length with a dot as the point. An empty text means no bound. Returns
-    /// false and changes nothing if one is not a number or @a min is above @a max.
+    /// false and changes nothing if a text is neither empty nor a number, or if @a min is above @a max.
     bool SetRange(const wxString& min, const wxString& max);
 
-    /// Sets the bounds to the shortest decimal numbers that read as @a min and @a max. An infinite value means no
-    /// bound. Returns false and changes nothing if one is NaN or @a min is above @a max.
+    /// Sets the bounds to the shortest decimal numbers that convert to @a min and @a max. An infinite value means no
+    /// bound. Returns false and changes nothing if a value is NaN or if @a min is above @a max.
     bool SetRange(double min, double max);
 
-    /// Sets how far Up, Down and the wheel step; 1 at first. Returns false and changes nothing unless @a increment is a
-    /// number above 0 with no more decimals than the format has.
+    /// Sets how far Up, Down and the wheel step; 1 at first. Returns false and changes nothing if @a increment is not a
+    /// number, is not above 0, or has more decimals than the format allows.
     bool SetIncrement(const wxString& increment);
 
-    /// Sets how far Up, Down and the wheel step, to the shortest decimal number that reads as @a increment. Returns
-    /// what SetIncrement() returns for the text of that number, and false for an infinity and NaN.
+    /// Passes the shortest decimal number that converts to @a increment to the other SetIncrement(), and returns its
+    /// result. Returns false and changes nothing if @a increment is infinite or NaN.
     bool SetIncrement(double increment);
 
     /// Limits how many characters the user can type; 0 for no limit. The limit applies to the number as it is typed,
-    /// and not to the formatted text. Text that is refused for this reason sends wxEVT_TEXT_MAXLEN after the current
-    /// event.
+    /// and not to the formatted text. When a text is refused for this reason, the control sends wxEVT_TEXT_MAXLEN after
+    /// the current event.
     void SetMaxLength(unsigned long length) override;
 
-    /// Returns true if IsAcceptable() is true and the validator accepts the field. The text of a disabled field need
-    /// not be acceptable.
+    /// Returns whether IsAcceptable() is true and the validator accepts the field. If the field is disabled,
+    /// IsAcceptable() does not matter.
     bool Validate() override;
 
     /// @cond

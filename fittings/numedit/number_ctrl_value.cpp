@@ -14,7 +14,7 @@ using fittings::NumberField;
 namespace {
 
 /// Stores the number of a plain text in a variable. Returns false and leaves the variable alone if there is no number
-/// or the number does not fit the variable.
+/// or the number does not fit in the variable.
 template <typename Number>
 bool StoreNumber(const std::wstring& plain, const NumberField& field, Number* variable)
 {
@@ -29,7 +29,8 @@ bool StoreNumber(const std::wstring& plain, const NumberField& field, Number* va
     return result.has_value();
 }
 
-/// Reads a bound. The outer optional is empty if the text is not a number, the inner one if there is no bound.
+/// Reads a bound. If the text is empty, there is no bound, and the inner optional is empty. If another text is not a
+/// number, the outer optional is empty.
 std::optional<std::optional<Decimal>> ParsedBound(const wxString& text)
 {
     if (text.empty())

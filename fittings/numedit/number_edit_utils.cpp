@@ -44,10 +44,11 @@ const wchar_t* AfterDigits(const wchar_t* text)
     return text;
 }
 
-/// Stores @a text in @a result with @a from replaced by @a to. Returns false if there is nothing to replace.
+/// Stores in @a result a copy of @a text in which @a to replaces each @a from. Returns false and stores nothing if
+/// there is nothing to replace.
 ///
-/// One of @a from and @a to is the locale's point. It is empty if it cannot be converted: then nothing is replaced.
-/// Usually both points are the same character: then the function returns without a search.
+/// One of @a from and @a to is the locale's point, which is empty if it cannot be converted: then nothing is replaced.
+/// Usually @a from and @a to are the same character: then the function returns without a search.
 bool ReplacePoint(std::wstring& result, const wchar_t* text, std::wstring_view from, std::wstring_view to)
 {
     if (from.empty() || to.empty() || (from.size() == 1 && to.size() == 1 && from[0] == to[0]))
@@ -95,7 +96,7 @@ void AppendWithoutZeros(std::wstring& result, std::wstring_view text, wchar_t po
     result.append(mantissa).append(text, exponent, text.npos);
 }
 
-/// Groups the digits of the number in @a text from @a begin to @a end, and returns the new end.
+/// Groups the digits of the number between @a begin and @a end of @a text. Returns the new end of the number.
 std::size_t Group(std::wstring& text, std::size_t begin, std::size_t end, const CNumberFormat& format)
 {
     const std::wstring_view number = std::wstring_view(text).substr(begin, end - begin);
@@ -104,7 +105,7 @@ std::size_t Group(std::wstring& text, std::size_t begin, std::size_t end, const 
         const std::size_t separators = (integers - 1) / 3;
         text.insert(begin + integers, separators, format.m_chThousandsSep);
         end += separators;
-        // The last group moves furthest; each group before it moves one character less.
+        // The last group moves furthest. Each other group moves one character less than the group after it.
         wchar_t* from = &text[begin + integers];
         for (wchar_t* to = from + separators; to != from; --to) {
             from -= 3;
@@ -115,7 +116,8 @@ std::size_t Group(std::wstring& text, std::size_t begin, std::size_t end, const 
     return end;
 }
 
-/// Cuts the number in @a text from @a begin to @a end at its first L'\0', and returns the new end.
+/// If the number between @a begin and @a end of @a text contains L'\0', cuts off the number there. Returns the new end
+/// of the number.
 std::size_t CutAtZeroCharacter(std::wstring& text, std::size_t begin, std::size_t end)
 {
     const std::size_t zero = text.find(L'\0', begin);
@@ -259,8 +261,8 @@ void ShownNumber::Round(std::size_t fraction)
         --m_end;
 }
 
-/// Appends zeros, at most kMostPadding, until the number has the decimals of the format. If the number has no point,
-/// appends the point first. The text must end with the number.
+/// Appends zeros until the number has as many decimals as the format, but at most kMostPadding zeros. If the number has
+/// no point, appends the point first. The text must end with the number.
 void ShownNumber::Pad(bool hasPoint, std::size_t decimals)
 {
     if (!hasPoint)

@@ -12,7 +12,7 @@ namespace fittings {
 namespace {
 
 constexpr std::int64_t kAnyDecimals = kMostExponent / 4;
-constexpr std::size_t kMostBytes = 65'534;  // of a GtkEntry, which drops the end of a longer text
+constexpr std::size_t kMostBytes = 65'534;  // A GtkEntry drops the end of a longer text.
 
 wxString Translated(const wchar_t* key)
 {
@@ -20,7 +20,7 @@ wxString Translated(const wchar_t* key)
     return lng_util_internal::DoGetResourceString(key, &everyCatalogue);
 }
 
-// Returns the translated text with @a number in place of its %s.
+// Returns the translated text with @a number in place of %s.
 wxString Translated(const wchar_t* key, const wxString& number)
 {
     wxString text = Translated(key);
@@ -50,7 +50,7 @@ struct Offset
     long digits;
 };
 
-/// Returns the place of the decimal point in a text, or the place where it would be.
+/// Returns the place of the decimal point in a text. Without a point, returns the place where the point would be.
 std::size_t PointIn(const std::wstring& text, wchar_t point)
 {
     const std::size_t found = text.find(point);

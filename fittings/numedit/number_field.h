@@ -24,12 +24,12 @@ public:
 
     void SetFormat(const CNumberFormat& format);
 
-    /// Returns a text of the control as plain text: without groups, blanks and the template, with the sign in front. A
-    /// text that is not a number stays as it is.
+    /// Converts a text of the control to plain text: without groups, blanks and the template, and with the sign in
+    /// front. A text that is not a number stays as it is.
     std::wstring Reading(const std::wstring& text) const;
 
-    /// Returns a plain text as it is shown without the focus. A text stays as it is if it is not a number, or has more
-    /// digits than are allowed.
+    /// Converts a plain text to the text that the field shows without the focus. A text stays as it is if it is not a
+    /// number, has more digits than are allowed, or is too long for a GtkEntry after formatting.
     std::wstring Shown(const std::wstring& plain) const;
 
     /// Returns the problem of a plain text, in the user's language; empty if there is none.
@@ -40,42 +40,42 @@ public:
     /// Returns whether a GtkEntry can hold a text.
     static bool FitsEntry(const std::wstring& text);
 
-    /// Returns whether an insertion makes a plain text longer than `mostCharacters`.
+    /// Returns whether an insertion makes the plain text longer than `mostCharacters` allows.
     bool IsTooLong(const NumberEntry::Insertion& insertion) const;
 
-    /// Returns the insertion into the plain text; nothing if it is refused.
+    /// Returns the insertion into the plain text; nothing if the insertion is refused.
     std::optional<NumberEntry::Insertion> Accepted(NumberEntry::Insertion insertion) const;
 
-    /// Returns the plain text after a step up or down, which is ten times as far if @a tenfold is true. A step beyond a
-    /// bound ends at the bound. Returns nothing if the step does not change the number, or if its result is not
-    /// acceptable.
+    /// Returns the plain text after a step up or down. If @a tenfold is true, the step is ten times as large. A step
+    /// beyond a bound ends at the bound. Returns nothing if the step does not change the number, or if the new number
+    /// is not acceptable.
     std::optional<std::wstring> Stepped(const std::wstring& plain, bool up, bool tenfold) const;
 
     /// Returns the position in @a to that corresponds to the position @a place in @a from. The two positions are on the
-    /// same side of the decimal point, and have the same number of digits between them and the point. The beginning of
-    /// @a from corresponds to the beginning of @a to, and the end to the end.
+    /// same side of the decimal point and the same number of digits away from the point. The beginnings of @a from and
+    /// @a to correspond to each other, and so do the ends.
     long Place(const std::wstring& from, const std::wstring& to, long place) const;
 
     CNumberFormat format;
     NumberRules rules;
     Decimal increment = MakeDecimal("1", 1);
-    std::size_t mostCharacters = 0;  ///< The most characters that the user can type; 0 for any number.
+    std::size_t mostCharacters = 0;  ///< The largest number of characters that the user can type; 0 for no limit.
     bool showsPlain = false;
-    bool awaitsPlain = false;     ///< The plain text is to be shown after the current event.
-    std::wstring plain;           ///< The plain text of `shown`.
-    std::wstring shown;           ///< The last formatted text, which the field shows while it lacks the focus.
-    std::wstring exact;           ///< The number that the program has set. It may have more decimals than the format.
-    std::optional<Decimal> told;  ///< The number that the program last set, or that the last event reported.
+    bool awaitsPlain = false;         ///< True if ShowPlain() will be called after the current event.
+    std::wstring plain;               ///< The plain text of `shown`.
+    std::wstring shown;               ///< The last formatted text, which the field shows while it lacks the focus.
+    std::wstring exact;               ///< The plain text of SetDecimal(), which may have more decimals than the format.
+    std::optional<Decimal> told;      ///< The number that the program last set, or that the last event reported.
     std::pair<long, long> selection;  ///< The selection in the plain text at the time when the text was formatted.
     std::pair<long, long> mapped;     ///< The same selection in the formatted text.
     wxString problem;                 ///< The problem that is shown.
     wxString hostTip;                 ///< The program's own tooltip, kept while a problem is shown in its place.
-    std::string hostDescription;      ///< The program's own accessible description, kept in the same way.
-    int wheel = 0;                    ///< The wheel's rotation since its last whole step.
+    std::string hostDescription;      ///< The program's own accessible description, kept like the tooltip.
+    int wheel = 0;                    ///< The wheel's rotation since the last whole step.
     std::unique_ptr<NumberEntry> entry;
 
 private:
-    /// Returns whether a text is acceptable while typing: a number within the bounds or the beginning of one.
+    /// Returns whether a text fits a GtkEntry, and is a number within the bounds or the beginning of such a number.
     bool MayStay(const std::wstring& text) const;
 };
 

@@ -17,8 +17,8 @@ enum EGeneralFormat : int {
 
 /// How a number looks in a text control, and which input the control accepts.
 ///
-/// A plain record: choose a preset and change the fields that differ. Then pass the format to CNumberEditUtils, or to a
-/// wxNumValidator, which copies it. Copies are deep.
+/// A plain record: choose a preset, and change fields as needed. Then pass the format to CNumberEditUtils, or to a
+/// validator or wxNumberCtrl, which copies the format. Copies are deep.
 ///
 /// @code
 /// CNumberFormat weight(eFixedFormat);
@@ -30,18 +30,18 @@ enum EGeneralFormat : int {
 /// @endcode
 ///
 /// The constructor reads the locale once. A format that was made before the host calls setlocale() keeps its
-/// separators. Every field but m_strTemplate may have any value; the functions that read a field describe the effect of
-/// unusual values. Make and change a format on the GUI thread.
+/// separators. Every field except m_strTemplate may have any value. The effect of an unusual value is described at the
+/// functions that read the field. Make and change a format on the GUI thread.
 class FITTINGS_API CNumberFormat
 {
 public:
-    /// Fills every field from @a format. Any value but zero means eFixedFormat.
+    /// Fills every field from @a format. Any value except 0 means eFixedFormat.
     ///
     /// | Field | eLocaleFormat | eFixedFormat |
     /// | --- | --- | --- |
     /// | m_bPadDecimals, m_bGroupDigits, m_bTrailingMinus | false | true |
     /// | m_chDecimalPoint, m_chThousandsSep | the locale's | `.` and `,` |
-    /// | m_nDecimals, m_nMaxIntDigits | not in force | 2 and 5 |
+    /// | m_nDecimals, m_nMaxIntDigits | not applied | 2 and 5 |
     ///
     /// The other fields have the values below.
     CNumberFormat(EGeneralFormat format);
@@ -49,7 +49,7 @@ public:
     /// Copies every field.
     CNumberFormat(const CNumberFormat& other) = default;
 
-    /// Copies every field; assigning a format to itself changes nothing.
+    /// Copies every field, but the template only up to its first zero character. A format may be assigned to itself.
     CNumberFormat& operator=(const CNumberFormat& other);
 
     bool m_bPadDecimals = false;      ///< Show at least m_nDecimals decimals: fill with zeros.
@@ -59,35 +59,37 @@ public:
     bool m_bTrailingMinus = false;    ///< Show the minus sign after the number.
     bool m_bAllowExponent = false;    ///< Accept an exponent, such as the `e-3` of 1.5e-3.
     wchar_t m_chDecimalPoint = L'.';  ///< 0 if the locale's point cannot be converted.
-    wchar_t m_chThousandsSep = L',';  ///< 0 if the locale has no groups: then leave m_bGroupDigits off.
+    wchar_t m_chThousandsSep = L',';  ///< 0 if the locale has no separator: then leave m_bGroupDigits off.
 
-    /// A printf format with exactly one `%s`, which the shown number replaces; a percent sign is `%%`.
+    /// A printf format with exactly one `%s`, which the shown number replaces. Write a percent sign as `%%`.
     ///
-    /// Use only texts of the program, never one that a user can change: as with every printf format, a wrong one reads
-    /// memory beyond its arguments.
+    /// Use only texts of the program, and never a text that a user can change. As with every printf format, a wrong
+    /// format reads memory beyond the arguments.
     CStdStr<wchar_t> m_strTemplate = L"%s";
 
-    /// @name Limits, each in force only while its flag is set
-    /// A limit that is not in force is never read.
+    /// @name Limits: each applies only while its flag is set
+    /// A limit that does not apply is never read.
     ///
-    /// While the user types, the part of the number that is typed so far is checked against the bounds. If the bounds
-    /// are as follows, the user can type every number within them, except numbers with an exponent:
+    /// CNumberEditUtils::ValidateInput() and wxNumValidator check the part of the number that is typed so far against
+    /// the bounds. With the following bounds, the user can type every number within the bounds, except numbers with an
+    /// exponent:
     /// - A lowest value of 0 or less and a highest value of 0 or more.
     /// - A lowest value of 1, 0.1, 0.01 and so on. The user must then omit the plus sign, and begin a number below 1
     ///   with "0.".
     ///
-    /// Other bounds refuse the beginning of numbers that they accept. A lowest value of 10 refuses the "1" of "12", and
-    /// a highest value below 0 refuses each "-". Leave such a bound out, and check it when the dialog ends.
+    /// With other bounds, the beginning of some accepted numbers is refused: the "1" of "12" with a lowest value of 10,
+    /// and each "-" with a highest value below 0. Leave out such a bound and check it when the dialog ends, or use a
+    /// wxNumberCtrl.
     /// @{
 
-    /// If false, no decimals are accepted, and the decimals of a shown number stay as they are.
+    /// If false, no decimals are accepted, and the decimals of a shown number are neither rounded nor padded.
     bool m_bHasDecimals = false;
     std::uint64_t m_nDecimals = 0;      ///< The largest number of decimals.
-    bool m_bHasMaxIntDigits = false;    ///< Whether m_nMaxIntDigits is in force.
+    bool m_bHasMaxIntDigits = false;    ///< Whether m_nMaxIntDigits applies.
     std::uint64_t m_nMaxIntDigits = 0;  ///< The largest number of digits before the point; the sign does not count.
-    bool m_bHasMin = false;             ///< Whether m_dMin is in force.
+    bool m_bHasMin = false;             ///< Whether m_dMin applies.
     double m_dMin = 0;                  ///< The lowest accepted value; NaN accepts every value.
-    bool m_bHasMax = false;             ///< Whether m_dMax is in force.
+    bool m_bHasMax = false;             ///< Whether m_dMax applies.
     double m_dMax = 0;                  ///< The highest accepted value; NaN accepts every value.
     /// @}
 };

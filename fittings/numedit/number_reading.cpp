@@ -15,7 +15,7 @@ bool IsDigit(wchar_t c)
 }
 
 /// Returns whether a character is a blank. Accepts the no-break spaces too, which iswspace() does not accept: many
-/// languages group digits with them.
+/// languages put them between groups of digits.
 bool IsBlank(wchar_t c)
 {
     return std::iswspace(static_cast<std::wint_t>(c)) || c == L'\u00A0' || c == L'\u2007' || c == L'\u202F';
@@ -66,7 +66,7 @@ std::wstring_view WithoutTemplate(std::wstring_view text, const CNumberFormat& f
     return text;
 }
 
-/// Returns the text with each U+2212 replaced by "-", and with a minus that follows the mantissa moved to the front.
+/// Replaces each minus sign U+2212 by "-". If a minus follows the mantissa, moves that minus to the front.
 std::wstring WithMinusInFront(std::wstring_view text)
 {
     std::wstring result(text);

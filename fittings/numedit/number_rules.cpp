@@ -86,7 +86,7 @@ std::optional<Decimal> ValueOf(const Typed& typed)
     return ParseDecimal(text);
 }
 
-/// The magnitudes within the bounds, for the numbers of one sign.
+/// The numbers of one sign within the bounds, as a range of absolute values.
 struct Span
 {
     Decimal low;
@@ -112,7 +112,8 @@ std::optional<Span> SpanOf(bool negative, const NumberRules& rules)
     return span;
 }
 
-/// Returns whether a number in the span is at least @a begin, less than @a end, and has at most @a decimals decimals.
+/// Returns whether the span has a number that is at least @a begin, is less than @a end, and has at most @a decimals
+/// decimals.
 bool Meets(const Decimal& begin, const std::optional<Decimal>& end, const Span& span, std::int64_t decimals)
 {
     Decimal low = RoundedUp(span.low, decimals);
@@ -126,7 +127,7 @@ bool Meets(const Decimal& begin, const std::optional<Decimal>& end, const Span& 
     return Compare(low, high) <= 0 && Compare(begin, high) <= 0;
 }
 
-/// Returns whether a number without an exponent is in the span, or more digits can bring it there.
+/// Returns whether a number without an exponent is in the span, or can get into the span with more digits.
 bool GrowsInto(const Span& span, const Typed& typed, const NumberRules& rules)
 {
     if (typed.hasPoint) {
@@ -137,8 +138,8 @@ bool GrowsInto(const Span& span, const Typed& typed, const NumberRules& rules)
     const Decimal begin = MakeDecimal(typed.integers, typed.Integers());
     if (begin.IsZero())
         return Meets(begin, MakeDecimal("1", more + 1), span, rules.mostDecimals);
-    // Try `least` additional digits and up to three more. Fewer digits leave the number below the span. The last tried
-    // count already makes the number larger than the lowest of the span, so more digits only lead further away.
+    // Try `least` to `least` + 3 additional digits. With fewer digits, the number is below the span. With `least` + 3
+    // digits, the number is above the lowest number of the span, so even more digits cannot help.
     const std::int64_t least = std::max<std::int64_t>(span.low.point - begin.point - 1, 0);
     for (std::int64_t digits = least; digits <= std::min(least + 3, more); ++digits) {
         if (Meets(MakeDecimal(typed.integers, typed.Integers() + digits),
@@ -148,8 +149,8 @@ bool GrowsInto(const Span& span, const Typed& typed, const NumberRules& rules)
     return false;
 }
 
-/// Returns whether the span has a number that begins with @a digits, has at most @a more digits after them, and has its
-/// point at any place. The first of @a digits is not a zero.
+/// Returns whether the span has a number that begins with @a digits and has at most @a more digits after them. The
+/// point may be at any place. The first of @a digits must not be a zero.
 bool HasWithDigits(const Span& span, const std::string& digits, std::int64_t more)
 {
     if (span.high && span.high->IsZero())
@@ -164,7 +165,7 @@ bool HasWithDigits(const Span& span, const std::string& digits, std::int64_t mor
     return false;
 }
 
-/// Returns whether more digits and an exponent can bring a number that has no exponent yet into the span.
+/// Returns whether a number without an exponent can get into the span with more digits and an exponent.
 bool ScalesInto(const Span& span, const Typed& typed, const NumberRules& rules)
 {
     const std::int64_t more =
@@ -182,7 +183,7 @@ bool ScalesInto(const Span& span, const Typed& typed, const NumberRules& rules)
     return false;
 }
 
-/// Returns whether an exponent that begins with the typed one can bring the number into the span.
+/// Returns whether the number can get into the span with an exponent that begins with the typed exponent.
 bool ExponentLeadsInto(const Span& span, const Typed& typed)
 {
     const Decimal number = MakeDecimal(typed.Digits(), typed.Integers());

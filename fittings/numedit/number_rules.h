@@ -9,8 +9,8 @@
 #include <fittings/numedit/decimal.h>
 #include <fittings/numedit/number_format.h>
 
-// Decides whether a text is a number that a format accepts, or the beginning of one. The bounds may have any number of
-// digits. Private to the library.
+// Checks whether a text is a number that a format accepts, or the beginning of such a number. The bounds may have any
+// number of digits. Private to the library.
 
 namespace fittings {
 
@@ -26,8 +26,8 @@ struct NumberRules
     std::optional<Decimal> max;
 };
 
-/// Returns the rules of a format. Each bound becomes the shortest decimal number that reads as the same `double`: 0.3
-/// stays 0.3.
+/// Returns the rules of a format. Each bound becomes the shortest decimal number that converts to the same `double`:
+/// 0.3 stays 0.3.
 NumberRules RulesOf(const CNumberFormat& format);
 
 enum class NumberState {
@@ -41,29 +41,30 @@ enum class NumberState {
     TooHigh
 };
 
-/// Returns the state of @a text, which is plain text: no groups, no blanks, the sign in front.
+/// Returns the state of @a text, which must be plain text: without groups and blanks, and with the sign in front.
 NumberState Judge(std::wstring_view text, const NumberRules& rules);
 
-/// Returns whether @a text is empty, a number within the bounds, or the beginning of one.
+/// Returns whether @a text is empty, a number within the bounds, or the beginning of such a number.
 ///
-/// Zeros in front do not change the number: "007" is 7. They count as digits before the point. A minus sign is only
-/// accepted if numbers below 0 are within the bounds: with a lowest value of 0, "-" is refused, although "-0" is a
+/// Zeros in front do not change the number: "007" is 7. These zeros count as digits before the point. A minus sign is
+/// accepted only if a number below 0 is within the bounds. With a lowest value of 0, "-" is refused, although "-0" is a
 /// number within the bounds.
 bool CanBeTyped(std::wstring_view text, const NumberRules& rules);
 
-/// Returns the number that the plain text @a text represents, whatever the bounds and limits are. Returns nothing if it
-/// is not a complete number.
+/// Returns the number that the plain text @a text represents, whatever the bounds and limits are. Returns nothing if
+/// @a text is not a complete number.
 std::optional<Decimal> NumberIn(std::wstring_view text, wchar_t point);
 
-/// Converts a formatted text, such as CNumberEditUtils::FormatControlText() returns, to plain text. The formatted text
-/// may have blanks around it, the template, groups of three digits, and the minus in front or at the end. Returns
-/// nothing if the text is not a number or has more digits than are allowed.
+/// Converts a formatted text, for example from CNumberEditUtils::FormatControlText(), to plain text. The formatted text
+/// may have blanks at its ends, the template, groups of three digits, and the minus in front or after the number.
+/// Returns nothing if the text is not a complete number or has more digits than are allowed.
 std::optional<std::wstring> PlainTextOf(std::wstring_view text, const CNumberFormat& format);
 
-/// Returns the number with `.` as its point, as programs read it: "+5." gives "5". Empty if there is no number.
+/// Converts a plain text to a text for ParseDecimal(), with `.` as the point: "+5." gives "5". Returns an empty text if
+/// there is no complete number.
 std::string DecimalTextOf(std::wstring_view plain, wchar_t point);
 
-/// Returns the plain text of a decimal text: replaces the point `.` by @a point.
+/// Returns the decimal text with the point `.` replaced by @a point. If @a point is 0, nothing is replaced.
 std::wstring WithPoint(std::string_view decimal, wchar_t point);
 
 }  // namespace fittings

@@ -31,8 +31,8 @@ private:
 /// @endcode
 ///
 /// Each step of this loop calls wxTreeCtrl::GetNextSibling(), which searches from the first sibling. For many thousands
-/// of siblings, use wxTreeCtrl::GetNextChild(). An operation on an invalid cursor asserts, as in the toolkit, and returns
-/// a default value. GUI thread only.
+/// of siblings, use wxTreeCtrl::GetNextChild(). As in the toolkit, an operation on an invalid cursor asserts and
+/// returns a default value. GUI thread only.
 class FITTINGS_API wxTreeCursor
 {
 public:

@@ -156,8 +156,8 @@ struct Item
 std::wstring JoinExpanded(std::vector<Item> items)
 {
     const auto isBefore = [](const Item& a, const Item& b) { return a.label < b.label; };
-    // Siblings are usually in order, so sort only if needed. The first item is the parent of siblings: do
-    // not sort it with the others, but merge it afterwards.
+    // Siblings are usually in order, so sort only if needed. The first item is the start of the walk, above the others:
+    // do not sort it with them, but merge it afterwards.
     const auto second = items.begin() + (items.empty() ? 0 : 1);
     if (!std::is_sorted(second, items.end(), isBefore))
         std::stable_sort(second, items.end(), isBefore);

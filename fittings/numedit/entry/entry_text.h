@@ -22,7 +22,7 @@ void Select(GtkEntry* entry, const EntrySelection& selection);
 /// Returns the place in the text that is nearest to a horizontal position in the entry.
 int PlaceAt(GtkEntry* entry, int x);
 
-/// While the object exists, a signal of the entry does not reach the toolkit. GTK's own handlers, for example for
+/// While the object exists, one signal of the entry does not reach the toolkit. GTK's own handlers, for example for
 /// assistive technologies, are still called. A handler of the signal may destroy the entry.
 class KeptFromToolkit
 {
@@ -39,8 +39,8 @@ private:
     guint m_signal;
 };
 
-/// Inserts a text in UTF-8, and moves @a position to the end of the inserted text. The toolkit does not take the text
-/// for typed characters.
+/// Inserts a text in UTF-8, and moves @a position to the end of the inserted text. The toolkit does not treat the text
+/// as typed.
 void InsertUntyped(GtkEntry* entry, void* toolkit, const std::string& text, int& position);
 
 }  // namespace fittings

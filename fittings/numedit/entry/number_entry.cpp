@@ -93,7 +93,7 @@ int NumberEntry::OnSoon(void* self)
     entry->m_source = 0;
     entry->m_deleted.reset();
     const std::function<void()> action = std::exchange(entry->m_soon, nullptr);
-    // The selection is a place in the text before the action, which may change the text.
+    // Restore the selection before the action, because the action may change the text.
     if (const auto selection = std::exchange(entry->m_selectSoon, std::nullopt))
         Select(entry->m_entry, *selection);
     if (action)
@@ -122,8 +122,8 @@ void NumberEntry::OnDelete(GtkEditable* entry, int begin, int end, NumberEntry* 
     self->Deleting(begin, end);
 }
 
-/// Inserts a dropped text as GTK does, but reports a refusal to the source. GTK would report every text as taken, and a
-/// source that moves its text would then delete a refused one.
+/// Inserts a dropped text as GTK does, but reports a refusal to the source of the drag. GTK would report every text as
+/// taken. When a text is moved, the source would then delete the text even after a refusal.
 void NumberEntry::OnDropped(GtkWidget* entry, GdkDragContext* drag, int x, int, GtkSelectionData* data, unsigned,
                             unsigned time, NumberEntry* self)
 {
@@ -148,8 +148,8 @@ bool NumberEntry::Dropped(const char* text, int x)
     return isOnSelection ? Take(dropped) : Inserting(dropped, position);
 }
 
-/// Keeps the deleted text until the next input. If an insertion that replaces this text is refused, the text is
-/// restored.
+/// Keeps a copy of the deleted text until the next input. If the insertion that replaces this text is refused, the text
+/// is restored.
 void NumberEntry::Deleting(int begin, int end)
 {
     const std::wstring text = Text();
@@ -159,8 +159,8 @@ void NumberEntry::Deleting(int begin, int end)
     Wake();
 }
 
-/// Asks m_judge about a text. If m_judge accepts it, carries out the deletion that waits, and makes the insertion
-/// that m_judge has returned. Returns whether the text was accepted.
+/// Asks m_judge about a text. If m_judge accepts the text, makes the postponed deletion, and then the insertion that
+/// m_judge has returned. Returns whether the text was accepted.
 bool NumberEntry::Inserting(const std::wstring& text, int& position)
 {
     const std::wstring all = Text();
@@ -197,7 +197,7 @@ bool NumberEntry::Inserting(const std::wstring& text, int& position)
     return true;
 }
 
-/// Restores the text that was deleted just before a refusal.
+/// Restores the deleted text after the insertion that replaces it was refused.
 void NumberEntry::PutBack()
 {
     if (m_filtering || !m_deleted)
@@ -208,7 +208,7 @@ void NumberEntry::PutBack()
     Insert(deleted.text, position);
     if (!self)
         return;
-    // GTK moves the caret after this handler returns, so restore the selection later.
+    // GTK moves the caret after the handler of "insert-text" returns, so restore the selection later.
     m_selectSoon = deleted.selection;
     Wake();
 }
@@ -226,7 +226,7 @@ void NumberEntry::Replace(int begin, int end)
 void NumberEntry::Insert(const std::wstring& text, int& position)
 {
     const Free free(this);
-    // The text must not count as typed: if it comes from a key, the toolkit has already reported the character.
+    // The text must not count as typed: if the text comes from a key, the toolkit has already reported the character.
     InsertUntyped(m_entry, m_toolkit, wxString(text).utf8_string(), position);
 }
 

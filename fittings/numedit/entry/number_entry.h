@@ -16,12 +16,13 @@
 
 namespace fittings {
 
-/// Checks what keyboard, input method, clipboard and mouse insert into a GtkEntry, before it is inserted.
+/// Checks each text from the keyboard, an input method, the clipboard or the mouse before it is inserted into a
+/// GtkEntry.
 ///
-/// GTK deletes a selection before it inserts the text that replaces it. While a key is being handled, that deletion
-/// waits until the insertion is accepted, so a refused key changes nothing. A text that an input method inserts later
-/// does not come with a key: if such a text is refused, the deleted selection is restored. A text that is dropped on
-/// the selection replaces the selection only if the text is accepted.
+/// GTK deletes the selection before it inserts the new text. While a key is handled, the deletion is postponed until
+/// the insertion is accepted, so a refused key changes nothing. An input method may also insert a text later, without a
+/// key. If that text is refused, the deleted selection is restored. A text that is dropped on the selection replaces
+/// the selection only if the text is accepted.
 ///
 /// The program is notified of an insertion at once, and a handler of the program may destroy the object.
 class NumberEntry : public wxTrackable
@@ -38,7 +39,8 @@ public:
         bool keypadPoint;  ///< True for the keypad's decimal key.
     };
 
-    /// Returns the insertion to make, whose texts may differ. Returns nothing to refuse the insertion.
+    /// Returns the insertion to make, whose texts may differ from the argument's. Returns nothing to refuse the
+    /// insertion.
     using Judge = std::function<std::optional<Insertion>(const Insertion&)>;
 
     /// @a entry must outlive the object. @a toolkit is the user data of the toolkit's own signal handlers on the entry.
@@ -48,18 +50,19 @@ public:
     NumberEntry(const NumberEntry&) = delete;
     NumberEntry& operator=(const NumberEntry&) = delete;
 
-    /// Calls @a filter, which passes a key to GTK's input method, and returns its result. What the input method inserts
-    /// meanwhile counts as input by the key.
+    /// Calls @a filter, which passes @a key to GTK's input method. Returns the result of @a filter. A text that the
+    /// input method inserts during this call counts as typed with the key.
     int Filter(const GdkEventKey* key, const std::function<int()>& filter);
 
-    /// Replaces the selection by a text as if it were pasted. Returns whether the text was accepted.
+    /// Replaces the selection by a text as if the text were pasted. Returns whether the text was accepted.
     bool Take(const std::wstring& text);
 
-    /// While an object of this class exists, changes of the text are not checked. For changes by the program and by
-    /// NumberEntry itself.
+    /// While an object of this class exists, changes of the text are not checked. Used for changes by the program and
+    /// by NumberEntry itself.
     class Free;
 
-    /// Calls @a action after the current event, before any other input. Replaces an action that still waits.
+    /// Calls @a action after the current event, before any other input. Replaces an earlier action that has not been
+    /// called yet.
     void Soon(std::function<void()> action);
 
 private:
@@ -93,7 +96,7 @@ private:
     bool m_filtering = false;
     bool m_keypadPoint = false;
     bool m_hasRefused = false;
-    std::optional<std::pair<int, int>> m_waiting;  ///< The deletion that waits until an insertion is accepted.
+    std::optional<std::pair<int, int>> m_waiting;  ///< The deletion that is postponed until an insertion.
     std::optional<Deleted> m_deleted;              ///< The last deletion, until the next input.
     std::optional<EntrySelection> m_selectSoon;    ///< The selection to restore after the current event.
     std::function<void()> m_soon;

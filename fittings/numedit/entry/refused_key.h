@@ -7,8 +7,8 @@ class wxTextCtrl;
 
 namespace fittings {
 
-/// Call this when a key goes down in a single-line control. From now on, the text that GTK deletes before it inserts a
-/// character is kept.
+/// Call this function when a key is pressed in a single-line control. From then on, the text that GTK deletes before it
+/// inserts a character is kept for UndoKey().
 void BeginKey(wxTextCtrl& control);
 
 /// Restores the text that the current key has deleted, with the caret and the selection. No event is sent, and the
