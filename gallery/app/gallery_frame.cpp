@@ -171,7 +171,7 @@ void GalleryFrame::ShowPage(int index)
     m_pages->GetCurrentPage()->SetFocus();
 }
 
-/// Adds the browser's root folder to the recent ones, and updates the title, the status texts and the menus for the
+/// Adds the browser's root folder to the recent folders. Updates the title, the status texts and the menus for the
 /// selected page.
 void GalleryFrame::ShowState()
 {
@@ -215,7 +215,7 @@ void GalleryFrame::OnPageChanged(wxBookCtrlEvent& event)
     event.Skip();
 }
 
-/// Passes Alt with a letter first to the control or menu with that mnemonic: a number field would refuse the letter.
+/// Handles mnemonics and menu keys with Alt before the focused control gets the key: a number field would refuse it.
 void GalleryFrame::OnCharHook(wxKeyEvent& event)
 {
     const std::unique_ptr<GdkEvent, void (*)(GdkEvent*)> key(gtk_get_current_event(), gdk_event_free);

@@ -17,16 +17,16 @@ class BrowserPage;
 class ColoursPage;
 class NumbersPage;
 
-/// The gallery's window: the disk-usage browser, and a page for each component that is shown by itself.
+/// The gallery's window. Its pages are the disk-usage browser, a page for numbers and a page for colours.
 ///
-/// The window and its pages are restored as they were when the last window was closed.
+/// A new window starts in the state that the previous window had when it was closed.
 class GalleryFrame : public wxFrame
 {
 public:
     GalleryFrame();
 
-    /// Opens a folder in the browser, see BrowserPage::Start(). When a folder is given, also selects the browser's
-    /// page.
+    /// Opens a folder in the browser, and returns what BrowserPage::Start() returns. If @a folder is not empty, also
+    /// selects the browser's page.
     wxString Start(const std::string& folder);
 
     wxNotebook* GetPages() const { return m_pages; }

@@ -53,8 +53,8 @@ CommandLine Parse(int count, char** arguments)
 
 CommandLine g_line;
 
-/// Ends the program as a person would: cancels the open dialogs and closes the window, so that the window's state is
-/// stored. The code that opened a dialog still uses the window, so the window is closed after the last dialog.
+/// Ends the program as a person does: cancels the open dialogs, then closes the window, which stores its state. The
+/// window is closed last, because the code that opened a dialog still uses the window.
 class Stop : public wxModalDialogHook
 {
 public:
@@ -66,8 +66,8 @@ public:
             if (window)
                 window->Close();
         } else if (m_dialogs.back()->IsModal()) {
-            // A dialog that is no longer modal has been cancelled already. It still waits for an answer to GTK's
-            // question whether to replace a file.
+            // Cancel only a modal dialog. A dialog that is not modal is already cancelled, and closes when GTK's
+            // question whether to replace a file is answered.
             m_dialogs.back()->EndModal(wxID_CANCEL);
         }
     }
@@ -93,8 +93,8 @@ private:
 
 gboolean OnStopSignal(gpointer stop)
 {
-    // Close the window from an event of the toolkit. If GLib's event loop closes a window, the window is not destroyed
-    // until the toolkit's next event.
+    // Call Begin() in an event of the toolkit: a window that is closed in a callback of GLib is not destroyed until the
+    // toolkit's next event.
     wxTheApp->CallAfter([stop] { static_cast<Stop*>(stop)->Begin(); });
     return G_SOURCE_CONTINUE;
 }
@@ -111,8 +111,8 @@ public:
         SetAppName("fittings-gallery");
         SetAppDisplayName("Fittings Gallery");
         wxUILocale::UseDefault();
-        // Set GTK's direction too. GTK chose it before the program had a language: the windows of wxWidgets would
-        // follow the language, but GTK's widgets in them would not.
+        // Set GTK's direction too: GTK chose it before the program had a language. Without this call, the windows of
+        // wxWidgets follow the language, but GTK's widgets in them do not.
         if (GetLayoutDirection() == wxLayout_RightToLeft)
             gtk_widget_set_default_direction(GTK_TEXT_DIR_RTL);
         for (const int signal : {SIGTERM, SIGINT, SIGHUP})

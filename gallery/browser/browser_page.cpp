@@ -66,8 +66,8 @@ wxString Summary(const std::vector<Entry>& entries)
     return text;
 }
 
-/// Returns where a window is according to X. Until the window manager has framed a new window, the toolkit may believe
-/// that the window is in the corner of the screen.
+/// Returns where a window is according to GDK. Until the window manager has put a frame around a new window, the
+/// toolkit may report the corner of the screen.
 wxPoint PlaceOf(const wxFrame& window)
 {
     return FrameRect(window.GetHandle()).GetPosition();
@@ -355,7 +355,7 @@ void BrowserPage::OpenRoot(const std::string& path)
     RememberRoot();
     const std::string selected = browser_settings::LoadSelectedFolder(path);
     {
-        // Block the selection events: ShowFolder() below shows the folder that is selected in the end.
+        // Block the selection events: ShowFolder() below shows the folder that is selected after these calls.
         const wxEventBlocker noSelection(m_tree, wxEVT_TREE_SEL_CHANGED);
         m_tree->SetRootFolder(path);
         if (selected.empty())

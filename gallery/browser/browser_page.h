@@ -35,10 +35,10 @@ public:
     explicit BrowserPage(wxWindow* parent);
     ~BrowserPage() override;
 
-    /// Opens @a folder. If @a folder is empty or not a folder, opens the folder of the last session. If there is no
-    /// such folder, opens the home folder.
+    /// Opens the first of these that is a folder: @a folder, the root folder of the last session, the home folder, "/".
     ///
-    /// If @a folder is neither empty nor a folder, the page shows the reason, and the function returns it.
+    /// If @a folder is neither empty nor a folder, the page shows the reason, and the function returns the reason.
+    /// Otherwise returns an empty text.
     wxString Start(const std::string& folder);
 
     FolderTree* GetTree() const { return m_tree; }
@@ -50,12 +50,12 @@ public:
     wxAuiManager& GetLayout() { return m_layout; }
 
     /// Puts the panes where they were in the last session. Only the first call has an effect. Make this call when the
-    /// page is on the screen: window managers keep a floating pane above its window only when the pane appears after
-    /// the window.
+    /// page is on the screen: window managers keep a floating pane above the main window only if the pane appears
+    /// later.
     void LoadLayout();
 
-    /// Shows or hides the floating panes. Call it when the page is shown or hidden: floating panes do not follow the
-    /// page.
+    /// Shows or hides the floating panes. Call this function when the page is shown or hidden: the toolkit does not
+    /// show or hide floating panes with the page.
     void ShowFloatingPanes(bool show);
 
     void SaveSettings();
@@ -82,7 +82,7 @@ public:
     /// Opens the drop-down with the colours for the folder.
     void ChooseColour();
 
-    /// Asks for a file and writes the entries of the list into it.
+    /// Writes the entries of the list into a file that the user chooses.
     void SaveReport();
 
     /// Puts the panes back to their initial places.

@@ -24,8 +24,8 @@ unsigned IndexOf(SortColumn column)
     return static_cast<unsigned>(column);
 }
 
-/// Puts @a pixels of space beside each cell, which aligns the texts with their header. Shortens long texts in the
-/// middle.
+/// Puts @a pixels of space on both sides of each cell, so that the texts line up with their header. Shortens long texts
+/// in the middle.
 void Space(GtkTreeViewColumn* column, int pixels)
 {
     GList* cells = gtk_cell_layout_get_cells(GTK_CELL_LAYOUT(column));
@@ -68,8 +68,8 @@ public:
         Reset(static_cast<unsigned>(m_positions.size()));
     }
 
-    /// Removes the rows that have proved too small. Does not call Reset(), after which GTK would redraw the list
-    /// with a delay.
+    /// Removes the rows of the entries that are now known to be too small. Does not call Reset(): after a reset, GTK
+    /// redraws the list with a delay.
     void RemoveSmallOnes()
     {
         wxArrayInt rows;
@@ -165,7 +165,8 @@ private:
     std::vector<std::uint32_t> m_sorted;
     std::vector<std::uint32_t> m_positions;  ///< The elements of m_sorted that are shown.
     std::uint64_t m_minimum = 0;
-    std::unordered_map<std::string_view, std::size_t> m_folders;  ///< Names to indices of m_entries; made when needed.
+    /// Maps the name of a folder to its index in m_entries. SetFolderSize() fills it.
+    std::unordered_map<std::string_view, std::size_t> m_folders;
     wxBitmapBundle m_folder, m_file, m_program, m_link;
 };
 
@@ -210,12 +211,12 @@ void ContentsList::SetFolderSizes(const std::vector<std::pair<std::string, Folde
     for (const auto& [name, sum] : sums)
         m_model->SetFolderSize(name, sum.bytes);
     {
-        // Send no selection events: the rows are removed one by one, and until all are removed, no handler may ask for
-        // the selected row.
+        // Send no selection events: the rows are removed one by one, and a handler must not ask for the selected row
+        // before all are removed.
         const wxEventBlocker quiet(this, wxEVT_DATAVIEW_SELECTION_CHANGED);
         m_model->RemoveSmallOnes();
     }
-    // Refresh() redraws only the frame around the rows, not the rows that GTK has drawn already.
+    // Redraw GTK's view: Refresh() would redraw only the frame around the rows.
     gtk_widget_queue_draw(GtkGetTreeView());
 }
 
@@ -314,7 +315,7 @@ void ContentsList::SetColumnWidths(const std::vector<int>& widths)
 void ContentsList::RememberColumns()
 {
     wxPersistentRegisterAndRestore(this, GetName());
-    // Restore the first width of the name column: a width that was stored in a larger window would be the column's
+    // Give the name column its initial width again: a width that was stored in a larger window would be the column's
     // minimum.
     GetColumn(IndexOf(SortColumn::Name))->SetWidth(kNameCharacters * GetCharWidth());
     SortByColumn(GetSortingColumn());

@@ -16,7 +16,8 @@ class ContentsModel;
 
 /// The entries of one folder with their sizes, sorted by the column whose header was clicked.
 ///
-/// Rows are made when they are drawn. A folder of 100,000 entries therefore takes only the time to read and sort it.
+/// The texts of a row are made when the row is drawn. Showing a folder of 100,000 entries therefore takes little more
+/// time than reading and sorting it.
 class ContentsList : public wxDataViewCtrl
 {
 public:
@@ -31,8 +32,8 @@ public:
     /// is known.
     void SetMinimum(std::uint64_t bytes);
 
-    /// Sets the sizes of the folders that are listed, and hides those that prove too small. The order of the rows stays
-    /// until SortBy().
+    /// Sets the sizes of listed folders, and hides the folders that are smaller than the minimum. The rows keep their
+    /// order until SortBy() is called.
     void SetFolderSizes(const std::vector<std::pair<std::string, FolderSum>>& sums);
     /// @}
 
@@ -49,19 +50,20 @@ public:
     const Entry* EntryOf(const wxDataViewItem& item) const;
     wxDataViewItem ItemOf(unsigned row) const;
 
-    /// Selects the entry @a name and scrolls to it, if it is shown.
+    /// If the entry @a name is shown, selects it and scrolls to it.
     void SelectEntry(const std::string& name);
 
     SortOrder GetSortOrder() const { return m_order; }
     void SortBy(SortOrder order);
 
-    /// @name Column widths, except that of the name column, which takes the rest
+    /// @name The widths of all columns except the name column, which takes the rest of the width
     /// @{
     std::vector<int> GetColumnWidths() const;
     void SetColumnWidths(const std::vector<int>& widths);
     /// @}
 
-    /// Restores the widths and the order of the last session, if any, and remembers those of this session.
+    /// Restores the column widths and the sort order that the last session stored, if any. This session will store its
+    /// own.
     void RememberColumns();
 
 private:

@@ -7,14 +7,14 @@ namespace gallery {
 class FolderColourCombo::ColourPopup : public wxColourPopup
 {
 public:
-    /// Returns the folder's colour for the hot cell. @a colour is what the popup reports, and @a own the folder's
-    /// current colour.
+    /// Returns the colour that the folder gets for the hot cell. @a colour is the colour that the popup reports. @a own
+    /// is the folder's current colour.
     wxColour FolderColour(const wxColour& colour, const wxColour& own) const
     {
         if (m_nCurrentSel == CELL_AUTOMATIC)
             return {};
         // Keep the folder's own colour if the user presses Enter without moving, or cancels the dialog. The popup then
-        // reports the colour that it shows, which may be that of "Automatic".
+        // reports this colour, or the default colour if the folder has none.
         const bool ofPalette = m_nCurrentSel >= 0;
         return !ofPalette && colour == (own.IsOk() ? own : GetDefaultColour()) ? own : colour;
     }
@@ -42,8 +42,8 @@ FolderColourCombo::FolderColourCombo(wxWindow* parent, Handler onLook, Handler o
 
 FolderColourCombo::~FolderColourCombo()
 {
-    // Remove the listener, which is this object: the base class closes an open popup after this object's part is
-    // destroyed.
+    // Remove this object as the listener: the base class closes an open popup when this class's part of the object is
+    // already destroyed.
     m_colours->SetColorListener(nullptr);
 }
 

@@ -8,20 +8,20 @@
 
 namespace gallery {
 
-/// Asks for the colour of a folder. "Automatic" means that the folder has no colour of its own. The colour is then
-/// invalid, also in the calls of the handlers.
+/// Asks for the colour of a folder. An invalid colour means that the folder has no colour of its own, which the popup
+/// shows as "Automatic".
 class FolderColourCombo : public wxColourCombo, private wxColorPopupListener
 {
 public:
     using Handler = std::function<void(const wxColour&)>;
 
-    /// @a onLook is called with each colour that becomes hot, and finally with the colour in effect. @a onChoose is
-    /// called with the chosen colour.
+    /// @a onLook is called with the colour of each cell that the user moves to, and at the end with the colour in
+    /// effect. If the user chooses a colour, @a onChoose is then called with this colour.
     FolderColourCombo(wxWindow* parent, Handler onLook, Handler onChoose);
 
     ~FolderColourCombo() override;
 
-    /// Shows the colour of another folder. @a automatic is the colour in which "Automatic" is shown.
+    /// Shows the colour of another folder. @a automatic is the colour that "Automatic" stands for.
     void ShowColour(const wxColour& colour, const wxColour& automatic);
 
 private:

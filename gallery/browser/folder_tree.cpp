@@ -112,7 +112,7 @@ bool FolderTree::SelectSubfolder(const std::string& name)
     const wxTreeItemId selected = GetSelection().item;
     wxTreeItemId subfolder = FindSubfolder(selected, name);
     if (!subfolder.IsOk()) {
-        Refill(selected);  // the subfolder may be newer than the items
+        Refill(selected);  // the subfolder may be newer than the tree's items
         subfolder = FindSubfolder(selected, name);
     }
     if (!subfolder.IsOk())
@@ -222,7 +222,7 @@ void FolderTree::Refill(const wxTreeItemId& item)
     SetItemHasChildren(item, !subfolders.empty());
 }
 
-/// Shows the properties of a folder in its item, except the label.
+/// Sets the data, the images, the colour and the button of a folder's item.
 void FolderTree::Dress(const wxTreeItemId& item, const Subfolder& folder)
 {
     wxTreeCursor cursor(this, item);

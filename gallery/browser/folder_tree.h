@@ -23,33 +23,34 @@ public:
     void SetRootFolder(const std::string& path);
     const std::string& GetRootFolder() const { return m_root; }
 
-    /// @name Paths, as the file system takes them
+    /// @name Paths of the file system
     /// @{
     std::string PathOf(const wxTreeItemId& item) const;
 
     /// Returns the path of the selected folder; empty when nothing is selected.
     std::string GetSelectedPath();
 
-    /// Selects the folder and shows it; reads the levels above it as needed. If the folder no longer exists, selects
-    /// the nearest one above it.
+    /// Selects the folder @a path and scrolls to it. Reads the folders above it that are not read yet. If the folder no
+    /// longer exists, selects the nearest folder above it that exists.
     void SelectPath(const std::string& path);
     /// @}
 
-    /// Selects the subfolder @a name of the selected folder. Returns false when it does not exist.
+    /// Selects the subfolder @a name of the selected folder. Returns false when the subfolder does not exist.
     bool SelectSubfolder(const std::string& name);
 
     /// Selects the parent of the selected folder. Returns false at the root, and when nothing is selected.
     bool SelectParent();
 
-    /// Reads the known folders again: adds new ones and removes those that no longer exist. The others keep their
-    /// state. If the selected folder no longer exists, selects the nearest folder above it that exists.
+    /// Reads again each folder that the tree has read: adds new subfolders and removes those that no longer exist. The
+    /// other items keep their state. If the selected folder no longer exists, selects the nearest folder above it that
+    /// exists.
     void Reread();
 
-    /// Shows the selected folder in @a colour, or without a colour when @a colour is invalid. When the folder is read
-    /// again, it takes the colour from the settings.
+    /// Shows the selected folder in @a colour, or without a colour when @a colour is invalid. Does not store the
+    /// colour: when the tree reads the parent folder again, the item gets the stored colour.
     void ShowColour(const wxColour& colour);
 
-    /// @name The expanded folders, kept apart for each root
+    /// @name The expanded folders, stored separately for each root
     /// @{
     void SaveExpanded();
     void LoadExpanded();
@@ -58,8 +59,8 @@ public:
 
     void OnItemExpanding(const wxTreeCursor& item) override;
 
-    /// Returns the label, or the path below the root while the state is saved or loaded. With labels alone, all folders
-    /// named "share" would be the same.
+    /// Returns the label. While SaveExpanded() or LoadExpanded() runs, returns the path below the root instead, because
+    /// several folders can have the same label.
     wxString GetItemText(const wxTreeItemId& item) const override;
 
 private:

@@ -9,15 +9,15 @@ class wxMenu;
 
 namespace gallery {
 
-/// The folders that were opened last, in a menu: the toolkit's file history, kept in the settings store.
+/// A menu of the folders that were opened last. The folders are kept in the settings store.
 class RecentFolders
 {
 public:
     /// Loads the folders of earlier sessions.
     RecentFolders();
 
-    /// Returns a new menu of the folders, which the caller adds to a menu bar. This object keeps the menu up to date.
-    /// The ids of the menu's items are wxID_FILE1 to wxID_FILE9.
+    /// Returns a new menu of the folders. The caller adds it to another menu, which then owns it. This object keeps the
+    /// menu up to date. The ids of the menu's items are wxID_FILE1 to wxID_FILE9.
     wxMenu* MakeMenu();
 
     /// Puts a folder at the beginning of the list.

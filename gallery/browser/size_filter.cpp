@@ -18,7 +18,7 @@ namespace {
 
 constexpr int kBytesInMegabyte = 1000000;
 
-/// Returns a format for a number of megabytes: nine integer digits, for less than one petabyte, and six decimals, for
+/// Returns a format for a number of megabytes. Nine integer digits allow sizes below one petabyte. Six decimals allow
 /// single bytes.
 CNumberFormat MegabytesFormat()
 {

@@ -25,7 +25,7 @@ public:
     /// Returns a text such as "1,234.5 MB", in the locale's form.
     wxString GetText() const;
 
-    /// @name The number as it was typed, with a dot as the decimal point in every locale
+    /// @name The number in the field, with a dot as the decimal point in every locale
     /// @{
     wxString GetMegabytes() const;
     void SetMegabytes(const wxString& megabytes);

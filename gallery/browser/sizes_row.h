@@ -16,7 +16,7 @@ class wxStaticText;
 
 namespace gallery {
 
-/// Adds up a folder in the background, and shows the progress: a bar, numbers and a button to stop it.
+/// Adds up a folder in the background. Shows a bar, numbers, and a button that stops the work or starts it again.
 class SizesRow : public wxPanel
 {
 public:
@@ -26,13 +26,13 @@ public:
     /// Stops adding up the earlier folder, if any, and starts to add up @a folder.
     void Start(const std::string& folder);
 
-    /// Stops the worker and waits for it, at most as long as its current call to the file system takes. When the
-    /// function returns, all sums found so far have been delivered, and no more follow.
+    /// Stops the worker and waits until its current call to the file system returns. Then passes all sums found so far
+    /// to the handler of the constructor. No further sums follow.
     void Stop();
 
     bool IsRunning() const { return m_worker != nullptr; }
 
-    /// Returns the shown numbers as a text.
+    /// Returns the text beside the bar.
     wxString GetText() const;
 
     wxButton* GetButton() const { return m_button; }
@@ -52,7 +52,7 @@ private:
     wxButton* m_button;
     std::string m_folder;
     std::unique_ptr<SizeWorker> m_worker;
-    int m_number = 0;  ///< The number of the current worker. Events of earlier ones may still arrive.
+    int m_number = 0;  ///< The number of the current worker. Events of earlier workers can still arrive.
     Clock::time_point m_start;
 };
 

@@ -31,8 +31,8 @@ void AlignRows(std::initializer_list<wxSizer*> grids)
             height = std::max(height, item->CalcMin().y);
     }
     for (const wxSizer* grid : grids) {
-        // Leave out labels: a label draws its text at the top of its window, so the window keeps its height and is
-        // centred in its row.
+        // Leave out labels: a label draws its text at the top of its window. The window keeps its height and is centred
+        // in the row instead.
         for (wxSizerItem* item : grid->GetChildren()) {
             if (!dynamic_cast<wxStaticText*>(item->GetWindow()))
                 item->SetMinSize(item->GetMinSize().x, height);
@@ -201,8 +201,7 @@ wxSpinCtrl* ColourOptionFields::MakeCount(const char* name, int first, int least
     return field;
 }
 
-/// Three fields each depend on a check box. Enables the fields whose boxes are checked, and disables the others. Then
-/// sends EVT_COLOUR_OPTIONS_CHANGED.
+/// Enables or disables the three fields that depend on a check box. Then sends EVT_COLOUR_OPTIONS_CHANGED.
 void ColourOptionFields::OnChange()
 {
     m_automatic->Enable(m_hasAutomatic->GetValue());

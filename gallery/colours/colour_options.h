@@ -9,7 +9,7 @@ class wxWindow;
 
 namespace gallery {
 
-/// The options of a colour combo and its popup, with their values in a first session.
+/// The options of a colour combo and its popup, with their default values.
 struct ColourOptions
 {
     bool hasAutomatic = true;

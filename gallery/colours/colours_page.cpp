@@ -45,8 +45,8 @@ wxString NameOf(const wxColour& colour, const wxString& separator)
     return number;
 }
 
-/// Returns a square of the colour, which is transparent for an invalid colour. If the first row had no picture at all,
-/// GTK would leave no room for the pictures of the other rows.
+/// Returns a square of @a colour. For an invalid colour, the square is transparent: without a picture in the first row,
+/// GTK would leave no room for the pictures in the other rows.
 wxBitmap SwatchOf(const wxColour& colour, int size)
 {
     wxImage swatch(size, size);
@@ -65,7 +65,7 @@ int HeaderHeight(const wxWindow* window)
     return std::max(window->FromDIP(28), window->GetCharHeight() + window->FromDIP(8));
 }
 
-/// Makes a row for a heading, as high as the row with the "Clear" button.
+/// Makes a row for a heading, as high as the "Clear" button.
 wxSizer* MakeHeader(wxStaticText* heading)
 {
     auto* header = new wxBoxSizer(wxHORIZONTAL);
@@ -106,7 +106,7 @@ ColoursPage::ColoursPage(wxWindow* parent)
 
 ColoursPage::~ColoursPage()
 {
-    // Close the popup here: an open one would later call the destroyed page.
+    // Close the popup here: an open popup would later call the destroyed page.
     m_combo->HidePopup(false);
 }
 
@@ -178,7 +178,7 @@ void ColoursPage::Arrange()
     m_options->Arrange(width);
 }
 
-/// Replaces the combo by one with the current options.
+/// Makes a combo with the current options. Destroys the previous combo, if any.
 void ColoursPage::MakeCombo()
 {
     if (m_combo) {

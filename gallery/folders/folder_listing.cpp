@@ -53,7 +53,8 @@ bool IsFolder(int folder, const dirent& entry)
 }
 
 /// Returns a text such as "PNG file" for picture.png. Returns "Program" or "File" for a file without an extension. An
-/// extension has one to five ASCII letters and digits, at least one of them a letter, and does not begin the name.
+/// extension has one to five ASCII letters and digits, at least one of them a letter. Its dot is not the first
+/// character of the name.
 std::string TypeOfFile(const std::string& name, bool executable)
 {
     const std::size_t dot = name.rfind('.');
@@ -76,7 +77,7 @@ std::string TargetOf(int folder, const char* name)
     return length > 0 ? std::string(target, static_cast<std::size_t>(length)) : std::string();
 }
 
-/// Fills in everything but the name and the sort key. Returns 0, or the errno if fstatat() fails.
+/// Fills in the kind, the type, the target, the size and the time. Returns 0, or the errno if fstatat() fails.
 int Describe(Entry& entry, int folder, const dirent& found)
 {
     struct stat status;
@@ -115,7 +116,7 @@ void LookInto(Subfolder& subfolder, int parent)
     }
 }
 
-/// Returns @a name without case and accents. If it is not UTF-8, changes only the case of its ASCII letters.
+/// Returns @a name without case and accents. If @a name is not UTF-8, changes only the case of its ASCII letters.
 std::string Folded(const std::string& name)
 {
     const bool ascii = std::all_of(name.begin(), name.end(), [](char c) { return static_cast<signed char>(c) >= 0; });
@@ -203,8 +204,8 @@ std::string SortKey(const std::string& name)
         std::size_t end = i;
         while (end < folded.size() && g_ascii_isdigit(folded[end]))
             ++end;
-        // Put the length of a number before its digits, because the longer number is the greater. The length fits in a
-        // byte: a file name has at most 255 bytes.
+        // Put the length of a number before its digits, because a longer number is greater. The length fits in a byte:
+        // a file name has at most 255 bytes.
         key += '0';
         key += static_cast<char>(end - i);
         key.append(folded, i, end - i);

@@ -9,7 +9,7 @@ namespace gallery {
 
 enum class EntryKind { Folder, File, Link, Pipe, Socket, Device, Unknown };
 
-/// One entry of a folder, as the file system describes it. Links are described themselves, never followed.
+/// One entry of a folder, as the file system describes it. For a link, the fields describe the link and not its target.
 struct Entry
 {
     std::string name;     ///< The bytes, in no particular encoding.
@@ -28,10 +28,10 @@ struct Entry
 struct Listing
 {
     std::vector<Entry> entries;
-    int error = 0;  ///< The errno of the first thing that could not be read.
+    int error = 0;  ///< The errno of the first failure; 0 for none.
 };
 
-/// Reads all of one folder, hidden entries included. Nothing in it is opened.
+/// Reads all entries of a folder, hidden ones included. Opens none of them.
 Listing ReadFolder(const std::string& path);
 
 struct Subfolder
@@ -42,10 +42,10 @@ struct Subfolder
     bool readable = true;
 };
 
-/// Returns the folders in a folder, sorted by name. Links to folders are not among them.
+/// Returns the subfolders of a folder, sorted by name. Links to folders are not included.
 ///
-/// Looks for subfolders in each of them, but stops after 50 milliseconds. The remaining folders count as readable and
-/// as having subfolders.
+/// Looks into each subfolder, but stops after 50 milliseconds. The remaining subfolders count as readable and as having
+/// subfolders.
 std::vector<Subfolder> ReadSubfolders(const std::string& path);
 
 /// Returns the key by which a name is sorted: case and accents do not count, and numbers count by their value.
@@ -60,8 +60,8 @@ struct SortOrder
     bool ascending = true;
 };
 
-/// Returns the positions of @a entries in the order of display. Folders come first in either direction; entries that
-/// compare equal are in ascending order of their names.
+/// Returns the positions of @a entries in the order of display. Folders always come first. Entries that are equal in
+/// the column are in ascending order of their names.
 std::vector<std::uint32_t> SortedPositions(const std::vector<Entry>& entries, SortOrder order);
 
 /// Joins a folder's path and the name of an entry in it.

@@ -14,7 +14,8 @@ namespace gallery {
 
 namespace {
 
-/// The number of folders that stay open on the way down; those above are opened again through "..".
+/// The number of folders that stay open, counted upwards from the current folder. The folders above these are closed,
+/// and later opened again through "..".
 constexpr std::size_t kMostOpen = 64;
 
 struct FileId
@@ -39,7 +40,7 @@ struct Pending
     std::uint64_t bytes;  ///< The size of the folder itself, without its contents.
 };
 
-/// A folder on the path from the top to the current one.
+/// A folder on the path from the top folder to the current folder.
 struct Level
 {
     Folder folder;  ///< Null while it is closed to save descriptors.
@@ -134,7 +135,7 @@ private:
         Finish();
     }
 
-    /// Counts the current subfolder as finished, and reports it if it is directly below the top.
+    /// Counts the current subfolder as finished, and reports it if its parent is the top folder.
     void Finish()
     {
         Level& level = m_levels.back();
@@ -177,7 +178,8 @@ private:
         }
     }
 
-    /// Opens the parent folder again; null when it is a different folder now, as after a move.
+    /// Opens the parent of @a below. Returns null if this fails, or if the parent is not the folder @a id, as after a
+    /// move.
     static Folder Reopen(DIR* below, const FileId& id)
     {
         Folder folder = below ? OpenFolder(dirfd(below), "..") : nullptr;
@@ -189,7 +191,7 @@ private:
 
     SizeObserver& m_observer;
     FolderSum m_sum;
-    FolderSum m_before;  ///< The sum before the walk entered the current direct subfolder of the top.
+    FolderSum m_before;  ///< The sum before the walk entered the current subfolder of the top folder.
     double m_fraction = 0;
     bool m_goesOn = true;
     std::vector<Level> m_levels;

@@ -10,11 +10,11 @@ namespace gallery {
 struct FolderSum
 {
     std::uint64_t bytes = 0;       ///< The sizes of all files and folders; a file with several names counts once.
-    std::uint64_t items = 0;       ///< The number of names of any kind.
+    std::uint64_t items = 0;       ///< The number of entries of all kinds; each name of a file counts.
     std::uint64_t unreadable = 0;  ///< How many sizes and how many folders could not be read.
 };
 
-/// Receives the progress of a sum, on the thread that adds it up.
+/// Receives the progress of SumFolder(), on the thread that calls it.
 class SizeObserver
 {
 public:
@@ -23,14 +23,14 @@ public:
     /// Called when a direct subfolder of the summed folder is finished.
     virtual void OnSubfolder(const std::string& name, const FolderSum& sum) = 0;
 
-    /// Called after each item and after each finished subfolder. @a fraction rises from 0 to 1. Each folder divides its
-    /// share equally among its subfolders. Return false to end the walk.
+    /// Called after each item and after each finished subfolder. @a fraction rises from 0 to 1: the share of a folder
+    /// is divided equally among its subfolders. Return false to end the walk.
     virtual bool OnProgress(const FolderSum& soFar, double fraction) = 0;
 };
 
 /// Adds up the folder @a path and everything below it, to any depth and across mounts; links are not followed.
 ///
-/// Returns the sum. If @a observer ends the walk, this is the sum of what was seen until then. Safe on any thread.
+/// If @a observer ends the walk, returns the sum until then. Safe on any thread.
 FolderSum SumFolder(const std::string& path, SizeObserver& observer);
 
 }  // namespace gallery

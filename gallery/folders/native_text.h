@@ -16,8 +16,8 @@ namespace gallery {
 /// display and for the settings.
 /// @{
 
-/// Returns a name or path for display: bytes that are not UTF-8 become U+FFFD, control characters become their
-/// pictures.
+/// Returns a name or path for display: bytes that are not UTF-8 become U+FFFD, control characters become visible
+/// symbols.
 wxString DisplayText(const std::string& bytes);
 
 /// Returns a path as a text that PathFromText() turns back into the same bytes. "%", "|", the control characters of
@@ -35,7 +35,7 @@ std::string PathFromDialog(const wxString& path);
 /// Returns a text such as "1.2 kB".
 wxString HumanSize(std::uint64_t bytes);
 
-/// Returns a text such as "1.2 kB (1,234 bytes)", or "1 byte" if the short form is exact.
+/// Returns a text such as "1.2 kB (1,234 bytes)"; below 1000 bytes, a text such as "999 bytes".
 wxString ExactSize(std::uint64_t bytes);
 
 /// Returns the locale's format with grouped digits. If the locale has no separator, a no-break space is used.

@@ -14,12 +14,12 @@ struct CloseFolder
 };
 using Folder = std::unique_ptr<DIR, CloseFolder>;
 
-/// Opens the folder @a path, relative to the open folder @a base, with additional @a flags of openat(). Returns null,
-/// with errno set, when it cannot be read.
+/// Opens the folder @a path, relative to the open folder @a base, with additional @a flags of openat(). If the folder
+/// cannot be opened, sets errno and returns null.
 Folder OpenFolder(int base, const char* path, int flags = 0);
 
-/// Returns the next entry other than "." and "..". Returns null at the end, with errno 0, and after an error, with the
-/// error in errno.
+/// Returns the next entry other than "." and "..". At the end, sets errno to 0 and returns null. After an error, sets
+/// errno to the error and returns null.
 const dirent* NextEntry(DIR* folder);
 
 /// Flags for fstatat(): describe a link itself, and mount nothing.

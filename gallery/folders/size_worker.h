@@ -21,7 +21,7 @@ struct SizeNews
     bool done = false;
 };
 
-/// Adds up a folder and everything below it in the background.
+/// In the background, adds up a folder and everything below it.
 ///
 /// Its events contain no results. An event only reports that TakeNews() has new results. No further event is sent until
 /// TakeNews() is called.

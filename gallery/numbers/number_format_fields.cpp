@@ -152,7 +152,7 @@ CNumberFormat NumberFormatFields::GetFormat() const
     for (std::size_t i = 0; i < std::size(kCounts); ++i)
         format.*kCounts[i].field = static_cast<std::uint64_t>(m_counts[i]->GetValue());
     for (std::size_t i = 0; i < std::size(kBounds); ++i)
-        m_bounds[i]->GetNumber(&(format.*kBounds[i].field));  // stays 0 while the text is not a number
+        m_bounds[i]->GetNumber(&(format.*kBounds[i].field));  // the bound stays 0 if the text is not a number
     format.m_strTemplate = kTemplates[std::max(m_template->GetSelection(), 0)];
     return format;
 }
@@ -199,8 +199,8 @@ void NumberFormatFields::Arrange(int width)
     InvalidateBestSize();
 }
 
-/// Loads the format. A field whose stored value is missing or invalid keeps its default. The default of a bound is an
-/// empty field or "0", which both mean 0.
+/// Loads the format. If a stored value is missing or invalid, the control keeps its default. The control of a bound is
+/// then empty or shows "0", and both mean 0.
 void NumberFormatFields::LoadSettings()
 {
     CNumberFormat format(eFixedFormat);
@@ -216,13 +216,13 @@ void NumberFormatFields::LoadSettings()
     }
     format.m_strTemplate = kFormatSettings.Load("Template").wc_str();
     SetFormat(format);
-    // Load the limits that are not in force too: SetFormat() leaves their controls alone.
+    // Also load the limits whose boxes are not checked: SetFormat() does not change their controls.
     for (std::size_t i = 0; i < std::size(kCounts); ++i) {
         m_counts[i]->SetValue(kFormatSettings.LoadNumber(kCounts[i].name, 0, kLargestCount, m_counts[i]->GetValue()));
     }
     for (std::size_t i = 0; i < std::size(kBounds); ++i) {
         wxString text = kFormatSettings.Load(kBounds[i].name);
-        text.Replace(",", ".");  // earlier versions stored the locale's point, and never groups
+        text.Replace(",", ".");  // earlier versions stored the locale's point, and no groups
         m_bounds[i]->SetDecimal(text);
     }
 }
@@ -334,7 +334,7 @@ void NumberFormatFields::AddCharacter(wxSizer* grid, std::size_t index)
     m_codes.push_back(code);
 }
 
-/// Enables the controls of the limits in force, shows the codes of the characters, and sends EVT_FORMAT_CHANGED.
+/// Enables or disables the control of each limit, shows the codes of the characters, and sends EVT_FORMAT_CHANGED.
 void NumberFormatFields::OnChange()
 {
     if (m_settingFormat)

@@ -35,8 +35,8 @@ public:
     /// Returns the format that the controls show.
     CNumberFormat GetFormat() const;
 
-    /// Sets the controls to @a format. The control of a limit that is not in force keeps its value. A number of digits
-    /// above 99 becomes 99. A template that the control does not offer becomes "%s".
+    /// Sets the controls to @a format. The control of a limit that @a format does not use keeps its value. A number of
+    /// digits above 99 becomes 99. A template that the control does not offer becomes "%s".
     void SetFormat(const CNumberFormat& format);
 
     void SaveSettings() const;

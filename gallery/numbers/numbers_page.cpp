@@ -85,7 +85,7 @@ void NumbersPage::SaveSettings() const
 
 void NumbersPage::LoadSettings()
 {
-    // Look for a setting that is never stored as empty: the stored number may be empty.
+    // Test "Validates", which is never stored as an empty text. A stored number can be empty.
     const bool isFirstSession = kNumberSettings.Load("Validates").empty();
     m_number->ChangeValue(isFirstSession ? wxString(kFirstNumber) : kNumberSettings.Load("Typed"));
     m_control->SetDecimal(isFirstSession ? wxString(kFirstNumber) : kNumberSettings.Load("InControl"));
@@ -126,7 +126,7 @@ wxSizer* NumbersPage::MakeTrial()
     return rows;
 }
 
-/// Makes the rows for the results of the text functions.
+/// Makes a row for the result of each function in kResultNames.
 wxSizer* NumbersPage::MakeResults()
 {
     auto* grid = new wxFlexGridSizer(2, FromDIP(wxSize(18, 8)));
@@ -191,8 +191,8 @@ void NumbersPage::UseFormat()
     m_keep->Enable(validates);
     m_bringBack->Enable(validates);
     ShowResults();
-    // While the user replaces the decimal point in its field, the format has no point, and a number such as 1.5 is
-    // invalid in it. The control therefore keeps the earlier format.
+    // Keep the control's format if the new one has no decimal point: the user may be replacing the point. A number such
+    // as 1.5 would be invalid without a point.
     if (format.m_chDecimalPoint != 0)
         m_control->SetFormat(format);
     ShowControlNumber();

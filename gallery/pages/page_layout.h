@@ -18,8 +18,8 @@ constexpr int kColumnWidth = 260;  ///< The width of a number field, and the lea
 constexpr int kGap = 6;            ///< The space between related controls.
 /// @}
 
-/// Makes a heading, which is a label in bold. @a text may contain the toolkit's markup. A mnemonic in it leads to the
-/// control that is made next.
+/// Makes a heading, which is a label in bold. @a text may contain the toolkit's markup. A mnemonic in @a text leads to
+/// the control that is made next.
 wxStaticText* MakeHeading(wxWindow* parent, const wxString& text);
 
 /// Aligns a label's text to the side where reading begins. The toolkit's own alignment does not work in a right-to-left
@@ -29,8 +29,8 @@ void BeginAtTheStart(wxStaticText* label);
 /// Puts columns next to each other if @a width pixels are enough, otherwise below each other.
 void ArrangeColumns(wxBoxSizer* columns, int width);
 
-/// From now on, scrolls @a page up or down whenever the focus moves to a control in it that is not fully visible. The
-/// toolkit does this only for direct children of the page. The page must already be in a top-level window.
+/// Makes @a page scroll up or down whenever a control in it gets the focus and is not fully visible. The toolkit does
+/// this only for direct children of the page. The page must already be in a top-level window.
 void KeepFocusInSight(wxScrolledWindow* page);
 
 }  // namespace gallery

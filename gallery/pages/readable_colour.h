@@ -9,11 +9,10 @@ namespace gallery {
 /// and white.
 double ContrastRatio(const wxColour& a, const wxColour& b);
 
-/// Returns black or white, whichever is the easier to read on @a background.
+/// Returns black or white, whichever is easier to read on @a background.
 const wxColour& BlackOrWhiteOn(const wxColour& background);
 
-/// Returns @a colour, made lighter or darker just enough to be read on @a background: with a contrast ratio of at least
-/// 4.5.
+/// Returns @a colour, made lighter or darker until its contrast ratio with @a background is at least 4.5.
 wxColour ReadableOn(const wxColour& background, const wxColour& colour);
 
 }  // namespace gallery

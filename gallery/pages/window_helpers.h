@@ -13,7 +13,7 @@ namespace gallery {
 /// Gives a control of the toolkit a name for assistive technologies. Needed if no static text precedes the control.
 void SetAccessibleName(wxWindow* control, const wxString& name);
 
-/// Returns where a top-level window is on the screen, with its decorations.
+/// Returns the rectangle of a top-level window on the screen, decorations included.
 wxRect FrameRect(_GtkWidget* window);
 
 /// Sends a command event from @a window, as the toolkit's controls do when the user changes them.

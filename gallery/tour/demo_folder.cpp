@@ -89,8 +89,8 @@ bool Fill(const fs::path& root)
 
 }  // namespace
 
-// Uses the plain name if it is free, so that all pictures show the same path. If the name is taken, for example by
-// another running tour, uses a unique name.
+// Uses the name "fittings-tour" if it is free, so that all pictures show the same path. If the name is taken, for
+// example by another running tour, uses a unique name.
 DemoFolder::DemoFolder() : m_work((fs::temp_directory_path() / "fittings-tour").native())
 {
     if (mkdir(m_work.c_str(), 0700) != 0) {

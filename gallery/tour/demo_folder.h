@@ -5,8 +5,8 @@
 
 namespace gallery {
 
-/// Folders and files for the tour, with the same names, sizes and times on every machine, and a place for the tour's
-/// settings. The destructor removes them.
+/// Folders and files for the tour, and a place for the tour's settings. The names, sizes and times of the files are the
+/// same on every machine. The destructor removes everything.
 ///
 /// The files are sparse: they have sizes, but their contents take no space.
 class DemoFolder

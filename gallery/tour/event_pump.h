@@ -20,7 +20,7 @@ inline void HandleEvents()
     loop->ProcessIdle();
 }
 
-/// Runs the event loop until @a done returns true. Returns false when that did not happen within @a milliseconds.
+/// Runs the event loop until @a done returns true. Returns false if this takes longer than @a milliseconds.
 inline bool WaitUntil(const std::function<bool()>& done, int milliseconds = 30000)
 {
     const auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);

@@ -68,7 +68,7 @@ bool SaveScreenshot(GtkWidget* window, const std::string& path)
     Pixels seen;
     Clock::time_point changed = Clock::now();
     const bool stands = simulated_user::WaitUntil([&] {
-        // Ask each time: a window that was just shown may not have its place and decorations yet.
+        // Get the rectangle each time: the place and the decorations of a window that was just shown can still change.
         Pixels now = ReadScreen(FrameRect(window));
         if (!AreEqual(seen, now) || IsOfOneColour(now))
             changed = Clock::now();

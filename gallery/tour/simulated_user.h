@@ -19,15 +19,15 @@ enum class SortColumn;
 /// Simulates a person at the mouse and the keyboard with real input events. X11 only; a top-level window must exist.
 namespace simulated_user {
 
-/// @name Input. Points are points of the screen.
+/// @name Input. Points are in screen coordinates.
 /// @{
 void Click(const wxPoint& point);
 void DoubleClick(const wxPoint& point);
 void Drag(const wxPoint& from, const wxPoint& to);
 void PointAt(const wxPoint& point);
 void Press(int key, int modifiers = wxMOD_NONE);
-/// Makes @a part of a window wider by @a pixels. Drags the point that is @a gap pixels after the end of the part in
-/// reading direction.
+/// Makes @a part of a window wider by @a pixels: drags the border, which is @a gap pixels beyond the end of the part.
+/// In a right-to-left layout, the end is the left side.
 void Widen(const wxWindow& window, const wxRect& part, int pixels, int gap = 0);
 /// @}
 
@@ -35,7 +35,7 @@ void Widen(const wxWindow& window, const wxRect& part, int pixels, int gap = 0);
 /// @{
 wxPoint CentreOf(const wxRect& rect);
 wxRect WidgetRect(_GtkWidget* widget);
-/// Use this in place of GetScreenRect(), which begins at the wrong side for languages read from right to left.
+/// Use this function instead of GetScreenRect(), which returns a wrong place in a right-to-left layout.
 wxRect WindowRect(const wxWindow& window);
 wxRect LabelRect(const wxTreeCtrl& tree, const wxTreeItemId& item);
 wxRect HeaderRect(const ContentsList& list, SortColumn column);

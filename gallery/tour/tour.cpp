@@ -30,7 +30,7 @@ namespace {
 
 using namespace simulated_user;
 
-/// Returns the open file or folder dialog, if any. The toolkit does not list it among its windows.
+/// Returns the open file or folder dialog, or null. Asks GTK, because wxTopLevelWindows does not contain these dialogs.
 GtkWidget* FindFileDialog()
 {
     GList* windows = gtk_window_list_toplevels();
@@ -43,8 +43,7 @@ GtkWidget* FindFileDialog()
     return dialog;
 }
 
-/// Visits a file or folder dialog from inside the dialog's own event loop. Closes the dialog if the visit has not
-/// closed it.
+/// Calls a function in the event loop of the next file or folder dialog. Then cancels the dialog if it is still open.
 class DialogVisitor : public wxTimer
 {
 public:
@@ -77,7 +76,7 @@ std::string FileIn(GtkWidget* dialog)
     return file ? file : "";
 }
 
-/// Returns the place of the accepting button on the screen; empty while the button is disabled.
+/// Returns the screen rectangle of the button that accepts the choice; empty while the button is disabled.
 wxRect AcceptButton(GtkWidget* dialog)
 {
     GtkWidget* button = gtk_dialog_get_widget_for_response(GTK_DIALOG(dialog), GTK_RESPONSE_ACCEPT);
@@ -137,7 +136,7 @@ bool Tour::Run()
         std::puts("The tour cannot make its folders.");
         return false;
     }
-    // End the program even when a step hangs.
+    // End the program even if a step hangs.
     alarm(120);
 
     const struct
@@ -168,7 +167,7 @@ bool Tour::Run()
         std::fflush(stdout);
         allWell = allWell && well;
     }
-    // Wait until the window is gone: it saves its settings into a folder that the tour removes.
+    // Wait until the window is destroyed: it saves settings into a folder that the tour then removes.
     m_frame->Destroy();
     return Waits([] { return wxTopLevelWindows.empty(); }, "the window is destroyed") && allWell;
 }
@@ -196,7 +195,7 @@ bool Tour::ExpandByKeyboard()
     if (!Waits([&] { return tree.HasFocus() && tree.GetSelection().item == tree.GetRootItem(); }, "a click selects"))
         return false;
 
-    // Expand one folder on each of two levels: look at the first twelve, and take the last that can be expanded.
+    // Expand one folder on each of two levels. Of the first twelve folders, take the last one that can be expanded.
     for (int level = 0; level < 2; ++level) {
         const wxTreeItemId start = tree.GetSelection().item;
         wxTreeItemIdValue cookie;
@@ -405,7 +404,8 @@ bool Tour::VisitDialog(char key, const char* claim, const std::function<bool(Gtk
            Waits([&] { return m_frame->IsActive(); }, "the window is active again");
 }
 
-/// Waits until the dialog names @a file, which may be a folder. Then takes a picture, and clicks the accepting button.
+/// Waits until @a file, which may be a folder, is selected in the dialog. Then takes a picture, and clicks the button
+/// that accepts the choice.
 bool Tour::AcceptFile(GtkWidget* dialog, const std::string& file, const char* picture)
 {
     if (!Waits([&] { return FileIn(dialog) == file && !AcceptButton(dialog).IsEmpty(); }, "the name is taken") ||

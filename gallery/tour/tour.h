@@ -20,8 +20,8 @@ class GalleryFrame;
 class Tour
 {
 public:
-    /// Puts the pictures into the folder @a pictures, which Run() makes when it is missing. Browses @a folder, or a
-    /// folder that the tour makes if @a folder is empty.
+    /// Run() makes the folder @a pictures if it is missing, and puts the pictures into it. The tour browses @a folder.
+    /// If @a folder is empty, the tour browses a folder that the constructor makes.
     Tour(const std::string& pictures, const std::string& folder);
 
     /// Runs all steps and prints the result of each. Returns true when all steps succeeded. Needs an active event loop.

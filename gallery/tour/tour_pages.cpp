@@ -45,8 +45,8 @@ bool Tour::OpenFolderColours()
     return Waits([&] { return combo.GetPopup()->IsShownOnScreen(); }, "Ctrl+T opens the colours");
 }
 
-/// Waits until the popup closes. Returns true if it closes in time, the colour of @a cell is stored for the selected
-/// folder, and the folder is shown in this colour, which ReadableOn() has made readable.
+/// Waits until the popup closes. Then checks that the colour of @a cell is stored for the selected folder. The tree
+/// must show the folder in the colour that ReadableOn() returns for the stored colour.
 bool Tour::FolderGets(int cell)
 {
     const FolderColourCombo& combo = *m_frame->GetBrowser()->GetColour();
@@ -64,8 +64,8 @@ bool Tour::ColourFolder()
     const wxColourPopup& colours = *m_frame->GetBrowser()->GetColour()->GetPopup();
     if (!OpenFolderColours())
         return false;
-    // Down goes to "More Colours...", "Automatic", the first cell of the first row, and the first cell of the second
-    // row. Right goes to the fourth cell of that row, which is a green.
+    // The Down keys move to "More Colours...", "Automatic", the first cell of the first row, and the first cell of the
+    // second row. The Right keys move to the fourth cell of the second row, which is kGreen.
     for (const int key : {WXK_DOWN, WXK_DOWN, WXK_DOWN, WXK_DOWN, WXK_RIGHT, WXK_RIGHT, WXK_RIGHT})
         Press(key);
     if (!Waits([&] { return colours.GetStringValue() == GetColourName(kGreen); },

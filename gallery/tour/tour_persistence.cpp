@@ -1,4 +1,4 @@
-// A step of the tour with a window of its own: one call restores this window with everything in it.
+// A step of the tour that opens another window. One call restores this window and everything in it.
 
 #include <utility>
 #include <vector>
@@ -21,7 +21,7 @@ using namespace simulated_user;
 
 namespace {
 
-/// A window with a splitter, a tree, and a list with columns. The toolkit deletes it after it was closed.
+/// A window with a splitter, a tree, and a list with columns. The toolkit deletes it after it is closed.
 class PlanetsFrame : public wxFrame
 {
 public:
@@ -39,7 +39,7 @@ public:
         Raise();
     }
 
-    /// Arranges what is in the window as a person may leave it.
+    /// Changes the splitter, the tree and the columns as a person may change them.
     void Arrange()
     {
         m_splitter->SetSashPosition(230);
