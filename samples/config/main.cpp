@@ -1,5 +1,5 @@
-// A window that restores its position, size and maximised state, the sizes of its panes, and the text and the number in
-// them.
+// A window that restores its position, size and maximised state. It also restores the sizes of its panes, and the text
+// and the number in them.
 
 #include <stdexcept>
 

@@ -1,4 +1,4 @@
-// Shows texts. The menu lists the texts that were opened last, which are kept in the store of the program's settings.
+// Shows texts. The menu lists the texts that were opened last. This list is kept in the program's settings.
 
 #include <wx/filehistory.h>
 #include <wx/wx.h>

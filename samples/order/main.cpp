@@ -24,7 +24,7 @@ public:
         panel->SetFocus();
 
         send->Bind(wxEVT_BUTTON, [this, panel](wxCommandEvent&) {
-            // Validate() moves the focus to the first field that is wrong. Its tooltip says why.
+            // Validate() moves the focus to the first field that is wrong. The field's tooltip says why.
             if (panel->Validate() && panel->TransferDataFromWindow())
                 SetTitle(wxString::Format("Ordered %d for %.2f", m_count, m_count * m_price));
             else

@@ -1,4 +1,5 @@
-// A search that remembers the last text and choice in the store that all windows and processes of the program share.
+// A search that keeps its text and its check box in the settings store. All windows and processes of the program share
+// this store.
 
 #include <wx/srchctrl.h>
 #include <wx/wx.h>

@@ -1,4 +1,5 @@
-// Shows texts and saves them. The open dialog and the save dialog each start at the last file that was chosen in them.
+// Shows texts and saves them. The open dialog and the save dialog each start at the file that was last chosen in that
+// dialog.
 
 #include <wx/wx.h>
 

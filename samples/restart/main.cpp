@@ -1,4 +1,4 @@
-// Adds up all numbers up to the one in the field, on a thread that restarts at each change of the field.
+// Adds up the numbers from 1 to the number in the field, on a thread. Each change of the field starts a new thread.
 
 #include <optional>
 
@@ -6,7 +6,7 @@
 
 #include <fittings/thread/gui_thread.h>
 
-wxDEFINE_EVENT(EVT_ADDED_UP, wxCommandEvent);  // the int is the worker's run number, the extra long the sum
+wxDEFINE_EVENT(EVT_ADDED_UP, wxCommandEvent);  // the int is the worker's run number, the extra long is the sum
 
 class Adder final : public wxGUIThreadEx
 {
@@ -14,15 +14,15 @@ public:
     Adder(wxEvtHandler* handler, long last) : wxGUIThreadEx(handler, EVT_ADDED_UP), m_last(last) {}
     ~Adder() override
     {
-        StartKill();  // ask it to stop,
-        Wait();       // and wait until it has: Entry() uses the members below
+        StartKill();  // asks the thread to stop
+        Wait();       // waits until the thread has ended, because Entry() uses the members below
     }
     wxThread::ExitCode Entry() override
     {
         long sum = 0;
         for (long number = 1; number <= m_last && DoContinue(); ++number)
             sum += number;
-        PostEvent(GetRunNumber(), sum);  // does nothing when asked to stop
+        PostEvent(GetRunNumber(), sum);  // does nothing after StartKill()
         return nullptr;
     }
 
@@ -36,7 +36,7 @@ public:
     SumFrame() : wxFrame(nullptr, wxID_ANY, "Sum")
     {
         (new wxTextCtrl(this, wxID_ANY))->Bind(wxEVT_TEXT, [this](wxCommandEvent& event) {
-            m_adder.emplace(this, wxAtol(event.GetString()));  // stops the earlier one
+            m_adder.emplace(this, wxAtol(event.GetString()));  // stops the earlier worker
             SetTitle(m_adder->RunThread() == wxTHREAD_NO_ERROR ? "Adding up" : "No thread to add up on");
         });
         Bind(EVT_ADDED_UP, [this](wxCommandEvent& event) {

@@ -4,7 +4,7 @@
 
 #include <fittings/thread/gui_thread.h>
 
-wxDEFINE_EVENT(EVT_COUNTED, wxCommandEvent);  // the int is how many per cent are done, the extra long how many primes
+wxDEFINE_EVENT(EVT_COUNTED, wxCommandEvent);  // the int is the percentage done, the extra long is the number of primes
 
 static bool IsPrime(int n)
 {
@@ -43,8 +43,8 @@ public:
     }
     ~PrimesFrame() override
     {
-        m_counter.StartKill();  // ask it to stop,
-        m_counter.Wait();       // wait until it has, before the window is destroyed
+        m_counter.StartKill();  // asks the thread to stop
+        m_counter.Wait();       // waits until the thread has ended, before the window is destroyed
     }
 
 private:
