@@ -5,7 +5,7 @@
 
 #include <wx/treectrl.h>
 
-// How the library walks over a tree. Private to the library.
+// How the library iterates over a tree. Private to the library.
 
 namespace fittings {
 

@@ -59,7 +59,7 @@ std::optional<std::string> TextOf(const wxString* value)
 }
 /// @}
 
-/// Returns whether the number in @a text fits in a variable. If @a store is true, also stores the number.
+/// Returns whether the number in @a text fits in a variable. If the number fits and @a store is true, stores it.
 /// @{
 bool Take(const std::string&, std::monostate, bool)
 {

@@ -38,7 +38,8 @@
 /// German layout, the key types the layout's character. That character is checked like any other.
 ///
 /// wxNumberCtrl does more than this validator: it accepts the beginning of each number within any bounds, checks pasted
-/// text, formats, steps, and returns a `double`. wxDecimalValidator works on every wxTextEntry.
+/// text, formats the number, changes it in steps, and returns a `double`. wxDecimalValidator works on every
+/// wxTextEntry.
 ///
 /// A derived class must override Clone(); otherwise the control's validator is a plain wxNumValidator. The toolkit's
 /// class information does not distinguish this class from wxValidator: use dynamic_cast. The host may set another

@@ -330,8 +330,8 @@ void wxNumberCtrl::ShowText(const std::wstring& text, const std::pair<long, long
     SetSelection(selection.first, selection.second);
 }
 
-/// Sets the plain text. If @a byUser is true, the user has made a step: then sends events, and marks the field as
-/// modified.
+/// Sets the plain text. If @a byUser is true, the user has made a step: then the function also sends events and marks
+/// the field as modified.
 void wxNumberCtrl::SetPlain(const std::wstring& plain, bool byUser)
 {
     const wxWeakRef<wxWindow> self(this);

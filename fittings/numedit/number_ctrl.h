@@ -40,9 +40,9 @@ class NumberField;
 ///
 /// With the focus, the field shows the number as it is typed, such as `1234.5`. Without the focus, the field shows the
 /// number as CNumberEditUtils::FormatControlText() returns it, such as `1,234.50 kg`. Input by keyboard, input method,
-/// clipboard or mouse is accepted if the field then holds a number within the bounds or the beginning of such a number.
-/// Otherwise all of the input is refused, and a bell rings unless wxValidator::IsSilent() is true. A refusal changes
-/// nothing: the selection stays.
+/// clipboard or mouse is accepted if the field would then hold a number within the bounds or the beginning of such a
+/// number. Otherwise all of the input is refused, and a bell rings unless wxValidator::IsSilent() is true. A refusal
+/// changes nothing: the selection stays.
 ///
 /// | Input | What it does |
 /// | --- | --- |
@@ -78,13 +78,13 @@ public:
 
     ~wxNumberCtrl() override;
 
-    /// Makes the control after the default constructor, as the constructor with a parent does. Returns false if the
-    /// control could not be made.
+    /// Makes the control after the default constructor was called, in the same way as the other constructor. Returns
+    /// false if the control could not be made.
     bool Create(wxWindow* parent, wxWindowID id = wxID_ANY, const CNumberFormat& format = FromLocale(),
                 const wxPoint& pos = wxDefaultPosition, const wxSize& size = wxDefaultSize, long style = 0,
                 const wxValidator& validator = wxDefaultValidator, const wxString& name = wxNumberCtrlNameStr);
 
-    /// Returns a format with @a decimals decimals. Zeros are added if a number has fewer decimals. The point and the
+    /// Returns a format with @a decimals decimals. Zeros are added to a number with fewer decimals. The point and the
     /// groups follow the user's settings for numbers, whatever the process's locale is.
     static CNumberFormat FromLocale(std::uint64_t decimals);
 

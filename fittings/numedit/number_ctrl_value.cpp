@@ -29,8 +29,8 @@ bool StoreNumber(const std::wstring& plain, const NumberField& field, Number* va
     return result.has_value();
 }
 
-/// Reads a bound. If the text is empty, there is no bound, and the inner optional is empty. If another text is not a
-/// number, the outer optional is empty.
+/// Reads a bound. If the text is neither empty nor a number, the outer optional is empty. If the text is empty, there
+/// is no bound: only the inner optional is empty.
 std::optional<std::optional<Decimal>> ParsedBound(const wxString& text)
 {
     if (text.empty())

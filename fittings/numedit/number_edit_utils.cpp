@@ -151,7 +151,7 @@ bool IsExponent(const wchar_t* text)
     return *AfterDigits(text) == L'\0';
 }
 
-/// Returns whether @a text, with @a point as its decimal point, is a number or the beginning of one, whatever its
+/// Returns whether @a text, with @a point as its decimal point, is a number or the beginning of a number, whatever its
 /// value.
 bool IsNumber(const wchar_t* text, wchar_t point, const CNumberFormat& format)
 {

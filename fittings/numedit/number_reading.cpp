@@ -30,7 +30,7 @@ std::wstring_view Trimmed(std::wstring_view text)
     return text;
 }
 
-/// The texts of a template before and after its %s, each without blanks at its ends.
+/// The parts of a template before and after its %s, each without blanks at its ends.
 struct Around
 {
     std::wstring before;

@@ -17,7 +17,7 @@ bool IsSign(wchar_t c)
     return c == L'-' || c == L'+';
 }
 
-/// The parts of a number, as far as it has been typed.
+/// The parts of a number that have been typed so far.
 struct Typed
 {
     wchar_t sign = 0;
@@ -127,7 +127,7 @@ bool Meets(const Decimal& begin, const std::optional<Decimal>& end, const Span& 
     return Compare(low, high) <= 0 && Compare(begin, high) <= 0;
 }
 
-/// Returns whether a number without an exponent is in the span, or can get into the span with more digits.
+/// Returns whether the typed number, which has no exponent, is in the span or can get there with more digits.
 bool GrowsInto(const Span& span, const Typed& typed, const NumberRules& rules)
 {
     if (typed.hasPoint) {
@@ -165,7 +165,7 @@ bool HasWithDigits(const Span& span, const std::string& digits, std::int64_t mor
     return false;
 }
 
-/// Returns whether a number without an exponent can get into the span with more digits and an exponent.
+/// Returns whether the typed number, which has no exponent yet, can get into the span with more digits and an exponent.
 bool ScalesInto(const Span& span, const Typed& typed, const NumberRules& rules)
 {
     const std::int64_t more =
@@ -183,7 +183,7 @@ bool ScalesInto(const Span& span, const Typed& typed, const NumberRules& rules)
     return false;
 }
 
-/// Returns whether the number can get into the span with an exponent that begins with the typed exponent.
+/// Returns whether the typed number can get into the span with an exponent that begins with the typed exponent.
 bool ExponentLeadsInto(const Span& span, const Typed& typed)
 {
     const Decimal number = MakeDecimal(typed.Digits(), typed.Integers());

@@ -14,7 +14,6 @@
 
 namespace fittings {
 
-/// The rules for the text of a number field.
 struct NumberRules
 {
     wchar_t point = L'.';

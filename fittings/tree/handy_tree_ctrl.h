@@ -104,8 +104,8 @@ public:
     void SaveState(wxTreeCursor& start);
     void SaveState(const wxTreeCursor& start);  ///< Does the same for a constant cursor.
 
-    /// Expands the items whose labels are stored under @a name. Parents are expanded first, so this includes
-    /// children that OnItemExpanding() adds. No item is collapsed.
+    /// Expands the items whose labels are stored under @a name. Parents are expanded first, so children that
+    /// OnItemExpanding() adds are expanded too. No item is collapsed.
     void LoadState(const wxString& name, wxTreeCursor& start);
     void LoadState(const wxString& name, const wxTreeCursor& start);  ///< Does the same for a constant cursor.
 
@@ -116,7 +116,7 @@ public:
     /// @}
 
     /// Calls OnItemExpanding(), and shows the busy cursor in the whole application during this call. Then shows the
-    /// default cursor, even if the host had set another. The constructor binds this function to
+    /// default cursor, even if the host had set another cursor. The constructor binds this function to
     /// wxEVT_TREE_ITEM_EXPANDING.
     ///
     /// The event reaches neither the event table of a derived class nor a parent window. A host that needs the event,

@@ -60,8 +60,8 @@ void OnSelectionEnded(GtkEditable* editable, GParamSpec*, Key* key)
         Select(GTK_ENTRY(editable), key->deletion->selection);
 }
 
-// Stops blocking wxEVT_TEXT after the key event, and restores the modified state. The toolkit has then sent every
-// wxEVT_TEXT for the key.
+// At the end of the key event, stops blocking wxEVT_TEXT and restores the modified state. The toolkit has then sent
+// every wxEVT_TEXT for the key.
 void OnKeyEnd(GtkWidget* entry, GdkEvent*, Key* key)
 {
     if (!key->quiet)
