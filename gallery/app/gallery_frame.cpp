@@ -191,7 +191,6 @@ void GalleryFrame::ShowState()
     menus->Check(wxID_VIEW_LIST, m_browser->ShowsFolders());
 }
 
-/// Opens a recent folder. Removes it from the menu if it cannot be opened.
 void GalleryFrame::OpenRecent(int id)
 {
     ShowPage(m_pages->FindPage(m_browser));

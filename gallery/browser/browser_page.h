@@ -25,7 +25,7 @@ struct SizeNews;
 /// The event propagates to the window, which shows the change.
 wxDECLARE_EVENT(EVT_BROWSER_CHANGED, wxCommandEvent);
 
-/// The disk-usage browser: folders to the left, the contents of the selected one to the right.
+/// The disk-usage browser: folders to the left, the contents of the selected folder to the right.
 ///
 /// The constructor restores the columns and the filter of the last session. Start() restores the folder, and
 /// LoadLayout() restores the panes.

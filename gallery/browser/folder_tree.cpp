@@ -233,8 +233,8 @@ void FolderTree::Dress(const wxTreeItemId& item, const Subfolder& folder)
     cursor.SetImage(folder.readable ? m_images.folder : m_images.unreadable, wxTreeItemIcon_Normal);
     cursor.SetImage(folder.readable ? m_images.open : m_images.unreadable, wxTreeItemIcon_Expanded);
     Colour(item, browser_settings::LoadFolderColour(PathOf(item)));
-    // Decide on the button only if the item has no children. An item with children shows its button, whatever the
-    // listing says about subfolders.
+    // Set the button only if the item has no children. An item with children shows its button even if
+    // folder.mayHaveSubfolders is false.
     if (GetChildrenCount(item, false) == 0)
         cursor.SetChildren(folder.mayHaveSubfolders);
 }

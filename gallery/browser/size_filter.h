@@ -13,7 +13,7 @@ namespace gallery {
 /// Sent by a SizeFilter when its text changes.
 wxDECLARE_EVENT(EVT_SIZE_FILTER_CHANGED, wxCommandEvent);
 
-/// "At least ___ MB": asks for a size that the user may leave out. Escape empties the field.
+/// The field "At least ___ MB", which the user may leave empty. Escape empties the field.
 class SizeFilter : public wxPanel
 {
 public:

@@ -26,8 +26,8 @@ public:
     /// Stops adding up the earlier folder, if any, and starts to add up @a folder.
     void Start(const std::string& folder);
 
-    /// Stops the worker and waits until its current call to the file system returns. Then passes all sums found so far
-    /// to the handler of the constructor. No further sums follow.
+    /// Stops the worker and waits until its current call to the file system returns. Then calls the constructor's
+    /// onNews with the sums found since the previous call. No further sums follow.
     void Stop();
 
     bool IsRunning() const { return m_worker != nullptr; }

@@ -27,7 +27,6 @@ class ColourOptionFields : public wxPanel
 public:
     explicit ColourOptionFields(wxWindow* parent);
 
-    /// Returns the options that the controls show.
     ColourOptions GetOptions() const;
 
     void SaveSettings() const;

@@ -32,7 +32,6 @@ struct ColourOptions
     int duration = 200;  ///< In milliseconds.
 };
 
-/// Makes a combo and its popup with @a options. The combo shows @a colour.
 wxColourCombo* MakeColourCombo(wxWindow* parent, const ColourOptions& options, const wxColour& colour);
 
 }  // namespace gallery

@@ -64,7 +64,6 @@ struct SortOrder
 /// the column are in ascending order of their names.
 std::vector<std::uint32_t> SortedPositions(const std::vector<Entry>& entries, SortOrder order);
 
-/// Joins a folder's path and the name of an entry in it.
 std::string JoinPath(const std::string& folder, const std::string& name);
 
 /// Returns the absolute path of the folder that @a path leads to, with all links resolved. If @a path does not lead to

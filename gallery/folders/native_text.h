@@ -12,7 +12,7 @@ namespace gallery {
 
 /// @name File names
 ///
-/// A file name is bytes in no particular encoding. Files are opened by these bytes; texts made from them are for
+/// A file name is bytes in no particular encoding. Files are opened by these bytes. Texts made from the bytes are for
 /// display and for the settings.
 /// @{
 

@@ -23,8 +23,8 @@ struct SizeNews
 
 /// In the background, adds up a folder and everything below it.
 ///
-/// Its events contain no results. An event only reports that TakeNews() has new results. No further event is sent until
-/// TakeNews() is called.
+/// The worker's events contain no results. An event only reports that TakeNews() has new results. No further event is
+/// sent until TakeNews() is called.
 class SizeWorker : public wxGUIThreadEx, private SizeObserver
 {
 public:

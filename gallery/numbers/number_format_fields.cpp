@@ -97,7 +97,6 @@ constexpr Bound kBounds[] = {
 // Offer a choice and not a text field: a template is a printf format, and users must not enter printf formats.
 const wchar_t* const kTemplates[] = {L"%s", L"%s kg", L"%s \u20AC", L"EUR %s", L"%s %%", L"about %s", L"(%s)"};
 
-/// Returns the field's character; 0 while the field is empty.
 wchar_t CharacterIn(const wxTextCtrl& field)
 {
     const wxString text = field.GetValue();

@@ -32,7 +32,6 @@ class NumberFormatFields : public wxPanel
 public:
     explicit NumberFormatFields(wxWindow* parent);
 
-    /// Returns the format that the controls show.
     CNumberFormat GetFormat() const;
 
     /// Sets the controls to @a format. The control of a limit that @a format does not use keeps its value. A number of

@@ -9,7 +9,7 @@
 
 namespace gallery::simulated_user {
 
-/// Handles every event that has arrived, idle processing included.
+/// Handles every event that has arrived, then does the idle processing.
 inline void HandleEvents()
 {
     wxEventLoopBase* const loop = wxEventLoopBase::GetActive();
