@@ -10,11 +10,6 @@ namespace {
 
 using Case = TextCase;
 
-std::wstring Fixed(const std::wstring& text)
-{
-    return Shown(text, CNumberFormat(eFixedFormat));
-}
-
 CNumberFormat Rounding(std::uint64_t decimals)
 {
     CNumberFormat format(eLocaleFormat);
@@ -24,18 +19,13 @@ CNumberFormat Rounding(std::uint64_t decimals)
     return format;
 }
 
-std::wstring Rounded(const std::wstring& text, std::uint64_t decimals)
-{
-    return Shown(text, Rounding(decimals));
-}
-
 class FormatFixed : public testing::TestWithParam<Case>
 {
 };
 
 TEST_P(FormatFixed, Gives)
 {
-    EXPECT_EQ(Fixed(GetParam().text), GetParam().expected);
+    EXPECT_EQ(Shown(GetParam().text, eFixedFormat), GetParam().expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -68,14 +58,13 @@ TEST(FormatControlText, LeavesTheEmptyTextWithoutTemplate)
 
 TEST(FormatControlText, ShowsPlainNumbersByTheLocalePreset)
 {
-    const CNumberFormat format(eLocaleFormat);
-    EXPECT_EQ(Shown(L"1234.50", format), L"1234.5");
-    EXPECT_EQ(Shown(L"0010", format), L"10");
-    EXPECT_EQ(Shown(L"-1234.567", format), L"-1234.567");
-    EXPECT_EQ(Shown(L"+5", format), L"5");
-    EXPECT_EQ(Shown(L"-.5", format), L"-.5");
-    EXPECT_EQ(Shown(L"-", format), L"-");
-    EXPECT_EQ(Shown(L"+", format), L"");
+    ExpectShown(eLocaleFormat, {{L"1234.50", L"1234.5"},
+                                {L"0010", L"10"},
+                                {L"-1234.567", L"-1234.567"},
+                                {L"+5", L"5"},
+                                {L"-.5", L"-.5"},
+                                {L"-", L"-"},
+                                {L"+", L""}});
 }
 
 TEST(FormatControlText, RefusesNothingThatValidationRefuses)
@@ -84,80 +73,70 @@ TEST(FormatControlText, RefusesNothingThatValidationRefuses)
     format.m_bAllowSign = false;
     format.m_bHasMin = format.m_bHasMax = true;
     format.m_dMin = format.m_dMax = 1;
-    EXPECT_EQ(Shown(L"-1234567890.5", format), L"1,234,567,890.50-");
-    EXPECT_EQ(Shown(L"+1234.5", format), L"1,234.50");
-    EXPECT_EQ(Shown(L"5e3", format), L"5e3");
+    ExpectShown(format, {{L"-1234567890.5", L"1,234,567,890.50-"}, {L"+1234.5", L"1,234.50"}, {L"5e3", L"5e3"}});
 }
 
 TEST(FormatControlText, CarriesTheSameExponentsOverWhereTheyAreAllowed)
 {
     CNumberFormat format(eFixedFormat);
     format.m_bAllowExponent = true;
-    EXPECT_EQ(Shown(L"-1.5E+03", format), L"1.5-E+03");
-    EXPECT_EQ(Shown(L"1e", format), L"1e");
-    EXPECT_EQ(Shown(L"12-5", format), L"12");
-    EXPECT_EQ(Shown(L"12+5", format), L"12");
+    ExpectShown(format, {{L"-1.5E+03", L"1.5-E+03"}, {L"1e", L"1e"}, {L"12-5", L"12"}, {L"12+5", L"12"}});
 }
 
 TEST(FormatControlText, RoundsHalfUp)
 {
-    EXPECT_EQ(Rounded(L"1.234", 2), L"1.23");
-    EXPECT_EQ(Rounded(L"1.235", 2), L"1.24");
-    EXPECT_EQ(Rounded(L"1.2349", 2), L"1.23");
-    EXPECT_EQ(Rounded(L"1.2350001", 2), L"1.24");
-    EXPECT_EQ(Rounded(L"1.23", 2), L"1.23");
-    EXPECT_EQ(Rounded(L"1.2", 2), L"1.2");
-    EXPECT_EQ(Rounded(L"1", 2), L"1");
-    EXPECT_EQ(Rounded(L"-1.235", 2), L"-1.24");
-    EXPECT_EQ(Rounded(L"-1.234", 2), L"-1.23");
-    EXPECT_EQ(Rounded(L"0.000000015", 8), L"0.00000002");
-    EXPECT_EQ(Rounded(L"0.05", 1), L"0.1");
-    EXPECT_EQ(Rounded(L"0.04", 1), L"0.0");
+    ExpectShown(Rounding(2), {{L"1.234", L"1.23"},
+                              {L"1.235", L"1.24"},
+                              {L"1.2349", L"1.23"},
+                              {L"1.2350001", L"1.24"},
+                              {L"1.23", L"1.23"},
+                              {L"1.2", L"1.2"},
+                              {L"1", L"1"},
+                              {L"-1.235", L"-1.24"},
+                              {L"-1.234", L"-1.23"}});
+    EXPECT_EQ(Shown(L"0.000000015", Rounding(8)), L"0.00000002");
+    ExpectShown(Rounding(1), {{L"0.05", L"0.1"}, {L"0.04", L"0.0"}});
     // Rounding to zero keeps the minus.
-    EXPECT_EQ(Rounded(L"-0.001", 2), L"-0.00");
-    EXPECT_EQ(Rounded(L"-0.4", 0), L"-0");
+    EXPECT_EQ(Shown(L"-0.001", Rounding(2)), L"-0.00");
+    EXPECT_EQ(Shown(L"-0.4", Rounding(0)), L"-0");
     // The text has more digits than a double can hold, but is rounded exactly.
-    EXPECT_EQ(Rounded(L"12345678901234567890.12345678901234567895", 19), L"12345678901234567890.1234567890123456790");
+    EXPECT_EQ(Shown(L"12345678901234567890.12345678901234567895", Rounding(19)),
+              L"12345678901234567890.1234567890123456790");
 }
 
 TEST(FormatControlText, CarriesARoundingThroughNines)
 {
-    EXPECT_EQ(Rounded(L"9.996", 2), L"10.00");
-    EXPECT_EQ(Rounded(L"-0.999", 2), L"-1.00");
-    EXPECT_EQ(Rounded(L"1.995", 2), L"2.00");
-    EXPECT_EQ(Rounded(L"0.196", 2), L"0.20");
-    EXPECT_EQ(Rounded(L"99999.9999", 3), L"100000.000");
-    EXPECT_EQ(Rounded(L"19.96", 1), L"20.0");
-    EXPECT_EQ(Rounded(L"199.96", 1), L"200.0");
-    EXPECT_EQ(Rounded(L"-.996", 2), L"-1.00");
-    EXPECT_EQ(Rounded(L"-.985", 2), L"-.99");
+    ExpectShown(Rounding(2), {{L"9.996", L"10.00"},
+                              {L"-0.999", L"-1.00"},
+                              {L"1.995", L"2.00"},
+                              {L"0.196", L"0.20"},
+                              {L"-.996", L"-1.00"},
+                              {L"-.985", L"-.99"}});
+    EXPECT_EQ(Shown(L"99999.9999", Rounding(3)), L"100000.000");
+    ExpectShown(Rounding(1), {{L"19.96", L"20.0"}, {L"199.96", L"200.0"}});
 }
 
 TEST(FormatControlText, RoundsToAnInteger)
 {
-    EXPECT_EQ(Rounded(L"2.5", 0), L"3");
-    EXPECT_EQ(Rounded(L"2.4", 0), L"2");
-    EXPECT_EQ(Rounded(L"9.5", 0), L"10");
-    EXPECT_EQ(Rounded(L"99.5", 0), L"100");
-    EXPECT_EQ(Rounded(L"0.5", 0), L"1");
-    EXPECT_EQ(Rounded(L"0.4", 0), L"0");
-    EXPECT_EQ(Rounded(L"-2.5", 0), L"-3");
-    EXPECT_EQ(Rounded(L"2.", 0), L"2");
-    EXPECT_EQ(Rounded(L"5.", 0), L"5");
-    EXPECT_EQ(Rounded(L"5", 0), L"5");
+    ExpectShown(Rounding(0), {{L"2.5", L"3"},
+                              {L"2.4", L"2"},
+                              {L"9.5", L"10"},
+                              {L"99.5", L"100"},
+                              {L"0.5", L"1"},
+                              {L"0.4", L"0"},
+                              {L"-2.5", L"-3"},
+                              {L"2.", L"2"},
+                              {L"5.", L"5"},
+                              {L"5", L"5"}});
     // If no digit precedes the point, a carry becomes the only digit. Without a carry, no digit is left.
-    EXPECT_EQ(Rounded(L"-.5", 0), L"-1");
-    EXPECT_EQ(Rounded(L"-.4", 0), L"-");
-    EXPECT_EQ(Rounded(L"+.9", 0), L"1");
-    EXPECT_EQ(Rounded(L"+.4", 0), L"");
+    ExpectShown(Rounding(0), {{L"-.5", L"-1"}, {L"-.4", L"-"}, {L"+.9", L"1"}, {L"+.4", L""}});
 }
 
 // A number that is rounded to an integer loses its point. If decimals are allowed, a point before other text stays.
 TEST(FormatControlText, DropsThePointOfAnIntegerBeforeJunk)
 {
-    EXPECT_EQ(Rounded(L"5.x", 0), L"5");
-    EXPECT_EQ(Rounded(L"5.x", 1), L"5.");
-    EXPECT_EQ(Rounded(L"5.. ", 0), L"5");
+    ExpectShown(Rounding(0), {{L"5.x", L"5"}, {L"5.. ", L"5"}});
+    EXPECT_EQ(Shown(L"5.x", Rounding(1)), L"5.");
 }
 
 TEST(FormatControlText, KeepsTheFractionWhereNoDecimalsAreInForce)
@@ -166,8 +145,7 @@ TEST(FormatControlText, KeepsTheFractionWhereNoDecimalsAreInForce)
     format.m_bHasDecimals = false;
     EXPECT_EQ(Shown(L"1.2345678", format), L"1.2345678");
     format.m_nDecimals = 0;
-    EXPECT_EQ(Shown(L"1.99", format), L"1.99");
-    EXPECT_EQ(Shown(L"5.x", format), L"5.");
+    ExpectShown(format, {{L"1.99", L"1.99"}, {L"5.x", L"5."}});
     format.m_bPadDecimals = true;
     EXPECT_EQ(Shown(L"1", format), L"1");
 }
@@ -177,8 +155,7 @@ TEST(FormatControlText, RoundsBeforeItGroups)
     CNumberFormat format = Rounding(2);
     format.m_bGroupDigits = true;
     format.m_chThousandsSep = L',';
-    EXPECT_EQ(Shown(L"999.999", format), L"1,000.00");
-    EXPECT_EQ(Shown(L"-999999.995", format), L"-1,000,000.00");
+    ExpectShown(format, {{L"999.999", L"1,000.00"}, {L"-999999.995", L"-1,000,000.00"}});
     format.m_nDecimals = 0;
     EXPECT_EQ(Shown(L"999999.5", format), L"1,000,000");
     format.m_bTrailingMinus = true;
@@ -189,18 +166,17 @@ TEST(FormatControlText, PadsAfterRounding)
 {
     CNumberFormat format = Rounding(3);
     format.m_bPadDecimals = true;
-    EXPECT_EQ(Shown(L"1", format), L"1.000");
-    EXPECT_EQ(Shown(L"1.5", format), L"1.500");
-    EXPECT_EQ(Shown(L"1.2345", format), L"1.235");
-    EXPECT_EQ(Shown(L"9.9999", format), L"10.000");
-    EXPECT_EQ(Shown(L"-9.9", format), L"-9.900");
-    EXPECT_EQ(Shown(L"1.5e3", format), L"1.5e3");
-    EXPECT_EQ(Shown(L"1.23456e3", format), L"1.235e3");
-    EXPECT_EQ(Shown(L"1.5x", format), L"1.5");
-    EXPECT_EQ(Shown(L"5.x", format), L"5.");
+    ExpectShown(format, {{L"1", L"1.000"},
+                         {L"1.5", L"1.500"},
+                         {L"1.2345", L"1.235"},
+                         {L"9.9999", L"10.000"},
+                         {L"-9.9", L"-9.900"},
+                         {L"1.5e3", L"1.5e3"},
+                         {L"1.23456e3", L"1.235e3"},
+                         {L"1.5x", L"1.5"},
+                         {L"5.x", L"5."}});
     format.m_nDecimals = 0;
-    EXPECT_EQ(Shown(L"1", format), L"1");
-    EXPECT_EQ(Shown(L"1.5", format), L"2");
+    ExpectShown(format, {{L"1", L"1"}, {L"1.5", L"2"}});
 }
 
 TEST(FormatControlText, PadsOnlyWhereAllOfItIsAsked)
@@ -213,8 +189,7 @@ TEST(FormatControlText, PadsOnlyWhereAllOfItIsAsked)
     EXPECT_EQ(Shown(L"1.5", format), L"1.5");
     format.m_bHasDecimals = true;
     format.m_nDecimals = 0;
-    EXPECT_EQ(Shown(L"1.5", format), L"1.5");
-    EXPECT_EQ(Shown(L"1", format), L"1");
+    ExpectShown(format, {{L"1.5", L"1.5"}, {L"1", L"1"}});
     format.m_nDecimals = 1;
     EXPECT_EQ(Shown(L"1", format), L"1.0");
     format.m_nDecimals = 10;
@@ -223,37 +198,31 @@ TEST(FormatControlText, PadsOnlyWhereAllOfItIsAsked)
 
 TEST(FormatControlText, CarriesTheExponentOver)
 {
-    CNumberFormat format(eLocaleFormat);
-    EXPECT_EQ(Shown(L"1.50e3", format), L"1.5e3");
-    EXPECT_EQ(Shown(L"1.50E+3", format), L"1.5E+3");
-    EXPECT_EQ(Shown(L"1e-007", format), L"1e-007");
-    EXPECT_EQ(Shown(L"1e", format), L"1e");
-    EXPECT_EQ(Shown(L"1e-", format), L"1e-");
-    EXPECT_EQ(Shown(L"1e5x", format), L"1e5");
-    EXPECT_EQ(Shown(L"1e5.5", format), L"1e5");
-    EXPECT_EQ(Shown(L"1e+-5", format), L"1e+");
-    EXPECT_EQ(Shown(L"1ee5", format), L"1e");
-    EXPECT_EQ(Shown(L"e5", format), L"0e5");
-    EXPECT_EQ(Shown(L"-e5", format), L"-e5");
-    EXPECT_EQ(Shown(L"1 e5", format), L"1");
-    EXPECT_EQ(Shown(L"1-5", format), L"1");
-    EXPECT_EQ(Shown(L"-1.5e3", format), L"-1.5e3");
+    ExpectShown(eLocaleFormat, {{L"1.50e3", L"1.5e3"},
+                                {L"1.50E+3", L"1.5E+3"},
+                                {L"1e-007", L"1e-007"},
+                                {L"1e", L"1e"},
+                                {L"1e-", L"1e-"},
+                                {L"1e5x", L"1e5"},
+                                {L"1e5.5", L"1e5"},
+                                {L"1e+-5", L"1e+"},
+                                {L"1ee5", L"1e"},
+                                {L"e5", L"0e5"},
+                                {L"-e5", L"-e5"},
+                                {L"1 e5", L"1"},
+                                {L"1-5", L"1"},
+                                {L"-1.5e3", L"-1.5e3"}});
 }
 
 TEST(FormatControlText, PutsTheTrailingMinusBeforeTheExponent)
 {
-    const CNumberFormat format(eFixedFormat);
-    EXPECT_EQ(Shown(L"-1.5e3", format), L"1.5-e3");
-    EXPECT_EQ(Shown(L"-1234567.5E-3", format), L"1,234,567.5-E-3");
-    EXPECT_EQ(Shown(L"-12abc", format), L"12-");
+    ExpectShown(eFixedFormat, {{L"-1.5e3", L"1.5-e3"}, {L"-1234567.5E-3", L"1,234,567.5-E-3"}, {L"-12abc", L"12-"}});
 }
 
 TEST(FormatControlText, RoundsTheMantissaBeforeAnExponent)
 {
-    EXPECT_EQ(Rounded(L"1.2367e5", 2), L"1.24e5");
-    EXPECT_EQ(Rounded(L"9.999e5", 2), L"10.00e5");
-    EXPECT_EQ(Rounded(L"9.5e5", 0), L"10e5");
-    EXPECT_EQ(Rounded(L"-9.5e-5", 0), L"-10e-5");
+    ExpectShown(Rounding(2), {{L"1.2367e5", L"1.24e5"}, {L"9.999e5", L"10.00e5"}});
+    ExpectShown(Rounding(0), {{L"9.5e5", L"10e5"}, {L"-9.5e-5", L"-10e-5"}});
 }
 
 TEST(FormatControlText, ReadsTheLocalesPointAsTheFormats)
@@ -261,12 +230,12 @@ TEST(FormatControlText, ReadsTheLocalesPointAsTheFormats)
     CNumberFormat format(eFixedFormat);
     format.m_chDecimalPoint = L',';
     format.m_chThousandsSep = L'.';
-    EXPECT_EQ(Shown(L"1.5", format), L"1,50");
-    EXPECT_EQ(Shown(L"1,5", format), L"1,50");
-    EXPECT_EQ(Shown(L"1234567.891", format), L"1.234.567,891");
-    EXPECT_EQ(Shown(L".5", format), L"0,50");
-    EXPECT_EQ(Shown(L"1.5,5", format), L"1,5");
-    EXPECT_EQ(Shown(L"2", format), L"2,00");
+    ExpectShown(format, {{L"1.5", L"1,50"},
+                         {L"1,5", L"1,50"},
+                         {L"1234567.891", L"1.234.567,891"},
+                         {L".5", L"0,50"},
+                         {L"1.5,5", L"1,5"},
+                         {L"2", L"2,00"}});
     format.m_chDecimalPoint = L'\u066b';
     EXPECT_EQ(Shown(L"1.5", format), L"1\u066b50");
 }
@@ -284,9 +253,7 @@ TEST(FormatControlText, EndsTheGroupsAtASeparatorOfZero)
 {
     CNumberFormat format(eFixedFormat);
     format.m_chThousandsSep = L'\0';
-    EXPECT_EQ(Shown(L"1234", format), L"1");
-    EXPECT_EQ(Shown(L"-12345.6e7", format), L"12-e7");
-    EXPECT_EQ(Shown(L"123", format), L"123.00");
+    ExpectShown(format, {{L"1234", L"1"}, {L"-12345.6e7", L"12-e7"}, {L"123", L"123.00"}});
 }
 
 TEST(FormatControlText, EndsTheNumberAtAPointOfZero)
@@ -295,10 +262,7 @@ TEST(FormatControlText, EndsTheNumberAtAPointOfZero)
     format.m_chDecimalPoint = L'\0';
     for (const bool group : {true, false}) {
         format.m_bGroupDigits = group;
-        EXPECT_EQ(Shown(L"12", format), L"12");
-        EXPECT_EQ(Shown(L"12.50", format), L"12");
-        EXPECT_EQ(Shown(L"-12.5e7", format), L"12-e7");
-        EXPECT_EQ(Shown(L".5", format), L"0");
+        ExpectShown(format, {{L"12", L"12"}, {L"12.50", L"12"}, {L"-12.5e7", L"12-e7"}, {L".5", L"0"}});
     }
     format.m_bTrailingMinus = false;
     EXPECT_EQ(Shown(L"-12.5", format), L"-12");
@@ -311,24 +275,20 @@ TEST(FormatControlText, TakesAnyCharacterForThePoint)
 {
     CNumberFormat format(eLocaleFormat);
     format.m_chDecimalPoint = L'5';
-    EXPECT_EQ(Shown(L"1.2", format), L"152");
-    EXPECT_EQ(Shown(L"1500", format), L"1");
+    ExpectShown(format, {{L"1.2", L"152"}, {L"1500", L"1"}});
     format.m_chDecimalPoint = L'e';
-    EXPECT_EQ(Shown(L"1.50", format), L"1e50");
-    EXPECT_EQ(Shown(L"1.5e3", format), L"1e5e3");
+    ExpectShown(format, {{L"1.50", L"1e50"}, {L"1.5e3", L"1e5e3"}});
     // Every "." becomes the format's point "e". The second "e" is read as the letter of an exponent.
     EXPECT_EQ(Shown(L"1.5.3", format), L"1e5e3");
     format.m_chDecimalPoint = L'-';
-    EXPECT_EQ(Shown(L".5", format), L"0-5");
-    EXPECT_EQ(Shown(L"-5", format), L"0-5");
+    ExpectShown(format, {{L".5", L"0-5"}, {L"-5", L"0-5"}});
 }
 
 TEST(FormatControlText, PutsTheNumberIntoTheTemplate)
 {
     CNumberFormat format(eLocaleFormat);
     format.m_strTemplate = L"%s kg";
-    EXPECT_EQ(Shown(L"3", format), L"3 kg");
-    EXPECT_EQ(Shown(L"-1.5e3", format), L"-1.5e3 kg");
+    ExpectShown(format, {{L"3", L"3 kg"}, {L"-1.5e3", L"-1.5e3 kg"}});
     format.m_strTemplate = L"\u20ac %s";
     EXPECT_EQ(Shown(L"3", format), L"\u20ac 3");
     format.m_strTemplate = L"%s %%";
@@ -379,8 +339,7 @@ TEST(FormatControlText, AppendsNoMoreThanAMillionZeros)
     format.m_bRoundDecimals = true;
     EXPECT_EQ(Shown(L"1.99999", format), L"1.99999");
     format.m_nDecimals = std::uint64_t{1} << 32;
-    EXPECT_EQ(Shown(L"1.99999", format), L"1.99999");
-    EXPECT_EQ(Shown(L"5.x", format), L"5.");
+    ExpectShown(format, {{L"1.99999", L"1.99999"}, {L"5.x", L"5."}});
 }
 
 }  // namespace

@@ -32,6 +32,12 @@ CNumberFormat Between(double min, double max)
     return format;
 }
 
+void ExpectSeparators(const CNumberFormat& format, wchar_t decimalPoint, wchar_t thousandsSeparator)
+{
+    EXPECT_EQ(format.m_chDecimalPoint, decimalPoint);
+    EXPECT_EQ(format.m_chThousandsSep, thousandsSeparator);
+}
+
 /// Replaces the toolkit's current conversion while the object exists.
 class ScopedConversion
 {
@@ -49,17 +55,14 @@ TEST(GermanLocale, HasItsSeparatorsInTheLocalePreset)
 {
     const ScopedLocale german("de_DE.UTF-8");
     const CNumberFormat format(eLocaleFormat);
-    EXPECT_EQ(format.m_chDecimalPoint, L',');
-    EXPECT_EQ(format.m_chThousandsSep, L'.');
+    ExpectSeparators(format, L',', L'.');
     EXPECT_FALSE(format.m_bGroupDigits);
 }
 
 TEST(GermanLocale, IsNotConsultedForTheFixedPreset)
 {
     const ScopedLocale german("de_DE.UTF-8");
-    const CNumberFormat format(eFixedFormat);
-    EXPECT_EQ(format.m_chDecimalPoint, L'.');
-    EXPECT_EQ(format.m_chThousandsSep, L',');
+    ExpectSeparators(eFixedFormat, L'.', L',');
 }
 
 TEST(GermanLocale, IsReadOnceByAFormat)
@@ -68,44 +71,33 @@ TEST(GermanLocale, IsReadOnceByAFormat)
     CNumberFormat german(eFixedFormat);
     {
         const ScopedLocale locale("de_DE.UTF-8");
-        EXPECT_EQ(plain.m_chDecimalPoint, L'.');
-        EXPECT_EQ(plain.m_chThousandsSep, L'\0');
+        ExpectSeparators(plain, L'.', L'\0');
         german = CNumberFormat(eLocaleFormat);
     }
-    EXPECT_EQ(german.m_chDecimalPoint, L',');
-    EXPECT_EQ(german.m_chThousandsSep, L'.');
+    ExpectSeparators(german, L',', L'.');
 }
 
 // A format with the point "." also accepts the locale's point: "1.5" and "1,5" are the same number.
 TEST(GermanLocale, ReadsTheFormatsPointAndItsOwn)
 {
     const ScopedLocale german("de_DE.UTF-8");
-    const CNumberFormat fixed(eFixedFormat);
-    EXPECT_TRUE(Valid(L"1.5", fixed));
-    EXPECT_TRUE(Valid(L"1,5", fixed));
-    EXPECT_FALSE(Valid(L"1,5.5", fixed));
-    EXPECT_FALSE(Valid(L"1.555", fixed));
+    ExpectValid(eFixedFormat, {L"1.5", L"1,5"});
+    ExpectInvalid(eFixedFormat, {L"1,5.5", L"1.555"});
     EXPECT_TRUE(Valid(L"1,5", Amount()));
     EXPECT_FALSE(Valid(L"1.5", Amount()));
-    EXPECT_EQ(Shown(L"1234,5", fixed), L"1,234.50");
-    EXPECT_EQ(Shown(L"1234.5", fixed), L"1,234.50");
-    EXPECT_EQ(Shown(L"1234567,885", Amount()), L"1.234.567,89");
-    EXPECT_EQ(Shown(L"1234.5", Amount()), L"1.234");
-    EXPECT_EQ(Shown(L",5", Amount()), L"0,50");
+    ExpectShown(eFixedFormat, {{L"1234,5", L"1,234.50"}, {L"1234.5", L"1,234.50"}});
+    ExpectShown(Amount(), {{L"1234567,885", L"1.234.567,89"}, {L"1234.5", L"1.234"}, {L",5", L"0,50"}});
 }
 
 TEST(GermanLocale, ChecksBoundsOfTheFraction)
 {
     const ScopedLocale german("de_DE.UTF-8");
     CNumberFormat format = Between(1.5, 1.75);
-    EXPECT_TRUE(Valid(L"1,5", format));
-    EXPECT_TRUE(Valid(L"1,75", format));
-    EXPECT_FALSE(Valid(L"1,49", format));
-    EXPECT_FALSE(Valid(L"1,76", format));
+    ExpectValid(format, {L"1,5", L"1,75"});
+    ExpectInvalid(format, {L"1,49", L"1,76"});
     format.m_chDecimalPoint = L'.';
     EXPECT_TRUE(Valid(L"1.5", format));
-    EXPECT_FALSE(Valid(L"1.49", format));
-    EXPECT_FALSE(Valid(L"1.76", format));
+    ExpectInvalid(format, {L"1.49", L"1.76"});
 }
 
 TEST(GermanLocale, DoesNotChangeTheZerosOnTheWay)
@@ -125,14 +117,12 @@ TEST(GermanLocale, IsFollowedWhenItComesAndGoes)
 {
     CNumberFormat format(eFixedFormat);
     format.m_chDecimalPoint = L'x';
-    EXPECT_EQ(Shown(L"1.5", format), L"1x50");
-    EXPECT_EQ(Shown(L"1,5", format), L"1");
+    ExpectShown(format, {{L"1.5", L"1x50"}, {L"1,5", L"1"}});
     EXPECT_TRUE(Valid(L"1.5", format));
     EXPECT_FALSE(Valid(L"1,5", format));
     {
         const ScopedLocale german("de_DE.UTF-8");
-        EXPECT_EQ(Shown(L"1.5", format), L"1");
-        EXPECT_EQ(Shown(L"1,5", format), L"1x50");
+        ExpectShown(format, {{L"1.5", L"1"}, {L"1,5", L"1x50"}});
         EXPECT_FALSE(Valid(L"1.5", format));
         EXPECT_TRUE(Valid(L"1,5", format));
     }
@@ -157,12 +147,9 @@ TEST(FrenchLocale, SeparatesGroupsByASpaceThatIsOneByteBeyondAscii)
 TEST(PashtoLocale, HasSeparatorsBeyondAscii)
 {
     const ScopedLocale pashto("ps_AF.UTF-8");
-    const CNumberFormat format(eLocaleFormat);
-    EXPECT_EQ(format.m_chDecimalPoint, L'\u066b');
-    EXPECT_EQ(format.m_chThousandsSep, L'\u066c');
+    ExpectSeparators(eLocaleFormat, L'\u066b', L'\u066c');
     EXPECT_EQ(Shown(L"1234567٫885", Amount()), L"1٬234٬567٫89");
-    EXPECT_EQ(Shown(L"1234٫5", CNumberFormat(eFixedFormat)), L"1,234.50");
-    EXPECT_EQ(Shown(L"1234.5", CNumberFormat(eFixedFormat)), L"1,234.50");
+    ExpectShown(eFixedFormat, {{L"1234٫5", L"1,234.50"}, {L"1234.5", L"1,234.50"}});
 }
 
 TEST(PashtoLocale, ChecksBoundsOfTheFraction)
@@ -170,14 +157,10 @@ TEST(PashtoLocale, ChecksBoundsOfTheFraction)
     const ScopedLocale pashto("ps_AF.UTF-8");
     CNumberFormat format = Between(1.5, 1.75);
     EXPECT_TRUE(Valid(L"1٫5", format));
-    EXPECT_FALSE(Valid(L"1٫49", format));
-    EXPECT_FALSE(Valid(L"1٫76", format));
-    EXPECT_FALSE(Valid(L"1.5", format));
+    ExpectInvalid(format, {L"1٫49", L"1٫76", L"1.5"});
     format.m_chDecimalPoint = L'.';
-    EXPECT_TRUE(Valid(L"1.5", format));
-    EXPECT_TRUE(Valid(L"1٫5", format));
-    EXPECT_FALSE(Valid(L"1.49", format));
-    EXPECT_FALSE(Valid(L"1.76", format));
+    ExpectValid(format, {L"1.5", L"1٫5"});
+    ExpectInvalid(format, {L"1.49", L"1.76"});
 }
 
 // The digits of the Pashto script are not ASCII, and are not accepted as digits.
@@ -192,24 +175,17 @@ TEST(UnconvertibleLocale, HasSeparatorsOfZero)
 {
     const ScopedLocale plain("C");
     const ScopedLocale pashto("ps_AF.UTF-8", LC_NUMERIC);
-    const CNumberFormat format(eLocaleFormat);
-    EXPECT_EQ(format.m_chDecimalPoint, L'\0');
-    EXPECT_EQ(format.m_chThousandsSep, L'\0');
+    ExpectSeparators(eLocaleFormat, L'\0', L'\0');
 }
 
 TEST(UnconvertibleLocale, ReplacesNoPoint)
 {
     const ScopedLocale plain("C");
     const ScopedLocale pashto("ps_AF.UTF-8", LC_NUMERIC);
-    const CNumberFormat fixed(eFixedFormat);
-    EXPECT_EQ(Shown(L"1234.5", fixed), L"1,234.50");
-    EXPECT_EQ(Shown(L"-12.5e3", fixed), L"12.5-e3");
-    EXPECT_TRUE(Valid(L"12", fixed));
-    EXPECT_TRUE(Valid(L"-", fixed));
-    EXPECT_FALSE(Valid(L"1.5", fixed));
-    EXPECT_FALSE(Valid(L"1٫5", fixed));
-    EXPECT_FALSE(Valid(L"1,5", fixed));
-    CNumberFormat bounded = fixed;
+    ExpectShown(eFixedFormat, {{L"1234.5", L"1,234.50"}, {L"-12.5e3", L"12.5-e3"}});
+    ExpectValid(eFixedFormat, {L"12", L"-"});
+    ExpectInvalid(eFixedFormat, {L"1.5", L"1٫5", L"1,5"});
+    CNumberFormat bounded = eFixedFormat;
     bounded.m_bHasMin = true;
     bounded.m_dMin = 12;
     EXPECT_TRUE(Valid(L"12", bounded));
@@ -221,10 +197,9 @@ TEST(CurrentConversion, ReadsSeparatorsBeyondAscii)
     const ScopedLocale plain("C");
     const ScopedLocale pashto("ps_AF.UTF-8", LC_NUMERIC);
     const ScopedConversion utf8(wxConvUTF8);
-    EXPECT_EQ(CNumberFormat(eLocaleFormat).m_chDecimalPoint, L'\u066b');
-    EXPECT_EQ(CNumberFormat(eLocaleFormat).m_chThousandsSep, L'\u066c');
-    EXPECT_TRUE(Valid(L"1.5", CNumberFormat(eFixedFormat)));
-    EXPECT_EQ(Shown(L"1٫5", CNumberFormat(eFixedFormat)), L"1.50");
+    ExpectSeparators(eLocaleFormat, L'\u066b', L'\u066c');
+    EXPECT_TRUE(Valid(L"1.5", eFixedFormat));
+    EXPECT_EQ(Shown(L"1٫5", eFixedFormat), L"1.50");
 }
 
 // With this conversion, the locale's point has two characters. The grammar and the locale preset use only the first
@@ -234,13 +209,10 @@ TEST(CurrentConversion, MayMakeSeveralCharactersOfThePoint)
 {
     const ScopedLocale pashto("ps_AF.UTF-8");
     const ScopedConversion bytes(wxConvISO8859_1);
-    EXPECT_EQ(CNumberFormat(eLocaleFormat).m_chDecimalPoint, L'\u00d9');
-    EXPECT_EQ(CNumberFormat(eLocaleFormat).m_chThousandsSep, L'\u00d9');
-    const CNumberFormat fixed(eFixedFormat);
-    EXPECT_EQ(Shown(L"1234\u00d9\u00ab5", fixed), L"1,234.50");
-    EXPECT_EQ(Shown(L"1234\u00d95", fixed), L"1,234");
-    EXPECT_FALSE(Valid(L"1.5", fixed));
-    EXPECT_TRUE(Valid(L"1\u00d95", fixed));
+    ExpectSeparators(eLocaleFormat, L'\u00d9', L'\u00d9');
+    ExpectShown(eFixedFormat, {{L"1234\u00d9\u00ab5", L"1,234.50"}, {L"1234\u00d95", L"1,234"}});
+    EXPECT_FALSE(Valid(L"1.5", eFixedFormat));
+    EXPECT_TRUE(Valid(L"1\u00d95", eFixedFormat));
     // The point of this format is the first of the two characters.
     EXPECT_FALSE(Valid(L"1\u00d95", Amount()));
     EXPECT_EQ(Shown(L"1\u00d9\u00ab5", Amount()), L"1\u00d950");
@@ -251,9 +223,8 @@ TEST(CurrentConversion, IsNotAskedForAsciiSeparators)
     const ScopedLocale german("de_DE.UTF-8");
     wxMBConvUTF32LE conversion;
     const ScopedConversion utf32(conversion);
-    EXPECT_EQ(CNumberFormat(eLocaleFormat).m_chDecimalPoint, L',');
-    EXPECT_EQ(CNumberFormat(eLocaleFormat).m_chThousandsSep, L'.');
-    EXPECT_TRUE(Valid(L"1,5", CNumberFormat(eFixedFormat)));
+    ExpectSeparators(eLocaleFormat, L',', L'.');
+    EXPECT_TRUE(Valid(L"1,5", eFixedFormat));
 }
 
 TEST(BlanksOfTheLocale, AreCut)
@@ -266,7 +237,7 @@ TEST(BlanksOfTheLocale, AreCut)
     const ScopedLocale utf8("C.UTF-8");
     EXPECT_EQ(Cut(emSpaces), L"1.5");
     EXPECT_EQ(Cut(L"\u3000\u2028"), L"0");
-    EXPECT_EQ(Shown(emSpaces, CNumberFormat(eFixedFormat)), L"1.50");
+    EXPECT_EQ(Shown(emSpaces, eFixedFormat), L"1.50");
     // A no-break space is not a blank.
     EXPECT_EQ(Cut(L"\u00a01.50"), L"\u00a01.5");
 }

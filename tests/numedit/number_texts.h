@@ -1,7 +1,11 @@
 #ifndef FITTINGS_TESTS_NUMEDIT_NUMBER_TEXTS_H_
 #define FITTINGS_TESTS_NUMEDIT_NUMBER_TEXTS_H_
 
+#include <initializer_list>
 #include <string>
+#include <utility>
+
+#include <gtest/gtest.h>
 
 #include <fittings/numedit/number_edit_utils.h>
 
@@ -44,5 +48,27 @@ inline bool Valid(const std::wstring& text, const CNumberFormat& format)
     return Valid(text.c_str(), format);
 }
 /// @}
+
+/// Expects that FormatControlText() makes the second text of each pair from the first one.
+inline void ExpectShown(const CNumberFormat& format,
+                        std::initializer_list<std::pair<const wchar_t*, const wchar_t*>> pairs)
+{
+    for (const auto& [text, expected] : pairs)
+        EXPECT_EQ(Shown(text, format), expected) << text;
+}
+
+/// Expects that ValidateString() accepts each text.
+inline void ExpectValid(const CNumberFormat& format, std::initializer_list<std::wstring> texts)
+{
+    for (const std::wstring& text : texts)
+        EXPECT_TRUE(Valid(text, format)) << text;
+}
+
+/// Expects that ValidateString() refuses each text.
+inline void ExpectInvalid(const CNumberFormat& format, std::initializer_list<std::wstring> texts)
+{
+    for (const std::wstring& text : texts)
+        EXPECT_FALSE(Valid(text, format)) << text;
+}
 
 #endif

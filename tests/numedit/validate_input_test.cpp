@@ -1,16 +1,30 @@
 #include <fittings/numedit/number_edit_utils.h>
 
+#include <initializer_list>
 #include <string>
 
 #include <gtest/gtest.h>
 
 #include <tests/numedit/known_formats.h>
+#include <tests/numedit/number_texts.h>
 
 namespace {
 
 bool Accepted(const wchar_t* text, const CNumberFormat& format)
 {
     return CNumberEditUtils::ValidateInput(text, format);
+}
+
+void ExpectAccepted(const CNumberFormat& format, std::initializer_list<const wchar_t*> texts)
+{
+    for (const wchar_t* text : texts)
+        EXPECT_TRUE(Accepted(text, format)) << text;
+}
+
+void ExpectRefused(const CNumberFormat& format, std::initializer_list<const wchar_t*> texts)
+{
+    for (const wchar_t* text : texts)
+        EXPECT_FALSE(Accepted(text, format)) << text;
 }
 
 /// Returns a format for numbers of at least 1 with at most two decimals.
@@ -24,19 +38,14 @@ CNumberFormat FromOne()
 
 TEST(ValidateInput, AcceptsZerosOnTheWayToASmallFraction)
 {
-    for (const wchar_t* text : {L".", L"0", L"0.", L"0.0", L"0.00"}) {
-        EXPECT_TRUE(Accepted(text, FromOne())) << text;
-        if (text[0] == L'0') {
-            EXPECT_FALSE(CNumberEditUtils::ValidateString(text, FromOne())) << text;
-        }
-    }
+    ExpectAccepted(FromOne(), {L".", L"0", L"0.", L"0.0", L"0.00"});
+    ExpectInvalid(FromOne(), {L"0", L"0.", L"0.0", L"0.00"});
 }
 
 TEST(ValidateInput, AcceptsNothingElseOutsideTheBounds)
 {
-    for (const wchar_t* text : {L"", L"0.000", L"0.5", L"0.01", L"0.05", L"00", L"00.", L"00.0", L".0", L"-", L"-0",
-                                L"0.0.", L"0..", L"0,", L"0.0x", L" 0", L"0 "})
-        EXPECT_FALSE(Accepted(text, FromOne())) << text;
+    ExpectRefused(FromOne(), {L"", L"0.000", L"0.5", L"0.01", L"0.05", L"00", L"00.", L"00.0", L".0", L"-", L"-0",
+                              L"0.0.", L"0..", L"0,", L"0.0x", L" 0", L"0 "});
     EXPECT_TRUE(Accepted(L"1.05", FromOne()));
 }
 
@@ -45,24 +54,18 @@ TEST(ValidateInput, AcceptsZerosBelowAHighestValueToo)
     CNumberFormat format(eFixedFormat);
     format.m_bHasMax = true;
     format.m_dMax = -1;
-    EXPECT_TRUE(Accepted(L"0", format));
-    EXPECT_TRUE(Accepted(L".", format));
-    EXPECT_TRUE(Accepted(L"0.00", format));
-    EXPECT_FALSE(Accepted(L"", format));
-    EXPECT_FALSE(Accepted(L"5", format));
-    EXPECT_TRUE(Accepted(L"-5", format));
+    ExpectAccepted(format, {L"0", L".", L"0.00", L"-5"});
+    ExpectRefused(format, {L"", L"5"});
 }
 
 TEST(ValidateInput, AcceptsNoZerosWhereDecimalsAreNotInForce)
 {
     CNumberFormat format = FromOne();
     format.m_bHasDecimals = false;
-    for (const wchar_t* text : {L"0", L".", L"0.", L"0.0"})
-        EXPECT_FALSE(Accepted(text, format)) << text;
+    ExpectRefused(format, {L"0", L".", L"0.", L"0.0"});
     format.m_bHasDecimals = true;
     format.m_nDecimals = 0;
-    for (const wchar_t* text : {L"0", L".", L"0.", L"0.0"})
-        EXPECT_FALSE(Accepted(text, format)) << text;
+    ExpectRefused(format, {L"0", L".", L"0.", L"0.0"});
 }
 
 TEST(ValidateInput, AcceptsAsManyZerosAsThereAreDecimals)
@@ -79,8 +82,7 @@ TEST(ValidateInput, AcceptsAsManyZerosAsThereAreDecimals)
     EXPECT_FALSE(Accepted((L"0." + std::wstring(1000, L'0') + L"1").c_str(), format));
     // The field m_nDecimals has 64 bits, so 2^32 is not truncated to 0.
     format.m_nDecimals = std::uint64_t{1} << 32;
-    EXPECT_TRUE(Accepted(L"0.", format));
-    EXPECT_TRUE(Accepted(L"0.000", format));
+    ExpectAccepted(format, {L"0.", L"0.000"});
     EXPECT_FALSE(Accepted(L"0.001", format));
 }
 
@@ -89,24 +91,18 @@ TEST(ValidateInput, AcceptsTheZeroWhateverTheIntegerDigits)
 {
     CNumberFormat format(eFixedFormat);
     format.m_nMaxIntDigits = 0;
-    EXPECT_TRUE(Accepted(L"0", format));
-    EXPECT_TRUE(Accepted(L"0.00", format));
-    EXPECT_FALSE(Accepted(L"1", format));
-    EXPECT_FALSE(Accepted(L"0.01", format));
+    ExpectAccepted(format, {L"0", L"0.00"});
+    ExpectRefused(format, {L"1", L"0.01"});
 }
 
 TEST(ValidateInput, KnowsTheFormatsPointInTheZeros)
 {
     CNumberFormat format = FromOne();
     format.m_chDecimalPoint = L',';
-    EXPECT_TRUE(Accepted(L",", format));
-    EXPECT_TRUE(Accepted(L"0,", format));
-    EXPECT_TRUE(Accepted(L"0,00", format));
+    ExpectAccepted(format, {L",", L"0,", L"0,00"});
     // A complete number may have the locale's point. Below the minimum, ValidateInput() accepts the beginning of a
     // number only with the format's point.
-    EXPECT_FALSE(Accepted(L".", format));
-    EXPECT_FALSE(Accepted(L"0.", format));
-    EXPECT_FALSE(Accepted(L"0.0", format));
+    ExpectRefused(format, {L".", L"0.", L"0.0"});
     EXPECT_TRUE(Accepted(L"1.5", format));
 }
 
@@ -114,20 +110,13 @@ TEST(ValidateInput, TakesAnyCharacterForThePoint)
 {
     CNumberFormat format = FromOne();
     format.m_chDecimalPoint = L'0';
-    EXPECT_TRUE(Accepted(L"0", format));
-    EXPECT_TRUE(Accepted(L"00", format));
-    EXPECT_TRUE(Accepted(L"000", format));
-    EXPECT_TRUE(Accepted(L"0000", format));
+    ExpectAccepted(format, {L"0", L"00", L"000", L"0000"});
     EXPECT_FALSE(Accepted(L"00000", format));
     format.m_chDecimalPoint = L'x';
-    EXPECT_TRUE(Accepted(L"x", format));
-    EXPECT_TRUE(Accepted(L"0x", format));
-    EXPECT_TRUE(Accepted(L"0x0", format));
+    ExpectAccepted(format, {L"x", L"0x", L"0x0"});
     format.m_chDecimalPoint = L'\0';
-    EXPECT_FALSE(Accepted(L"", format));
+    ExpectRefused(format, {L"", L"0.", L"00"});
     EXPECT_TRUE(Accepted(L"0", format));
-    EXPECT_FALSE(Accepted(L"0.", format));
-    EXPECT_FALSE(Accepted(L"00", format));
 }
 
 TEST(ValidateInput, LooksAtNoOtherFieldForTheZeros)
@@ -141,26 +130,21 @@ TEST(ValidateInput, LooksAtNoOtherFieldForTheZeros)
         format.m_nMaxIntDigits = 0;
         format.m_chThousandsSep = L'0';
         format.m_strTemplate = L"";
-        for (const wchar_t* text : {L".", L"0", L"0.", L"0.0", L"0.00"})
-            EXPECT_TRUE(Accepted(text, format)) << text;
-        for (const wchar_t* text : {L"", L"0.000", L"00", L"-0", L"0e", L".0"})
-            EXPECT_FALSE(Accepted(text, format)) << text;
+        ExpectAccepted(format, {L".", L"0", L"0.", L"0.0", L"0.00"});
+        ExpectRefused(format, {L"", L"0.000", L"00", L"-0", L"0e", L".0"});
     }
 }
 
 TEST(ValidateInput, TakesANullTextForTheEmptyOne)
 {
-    EXPECT_TRUE(Accepted(nullptr, CNumberFormat(eFixedFormat)));
+    EXPECT_TRUE(Accepted(nullptr, eFixedFormat));
     EXPECT_FALSE(Accepted(nullptr, FromOne()));
 }
 
 TEST(ValidateInput, JudgesEverythingElseAsACompleteValue)
 {
-    const CNumberFormat format(eFixedFormat);
-    for (const wchar_t* text : {L"", L"-", L"12345.67", L"-1.5", L".5", L"1.", L"0.05"})
-        EXPECT_TRUE(Accepted(text, format)) << text;
-    for (const wchar_t* text : {L"123456", L"1.234", L"x", L"1e5", L"1.00-", L"0.000", L"0x"})
-        EXPECT_FALSE(Accepted(text, format)) << text;
+    ExpectAccepted(eFixedFormat, {L"", L"-", L"12345.67", L"-1.5", L".5", L"1.", L"0.05"});
+    ExpectRefused(eFixedFormat, {L"123456", L"1.234", L"x", L"1e5", L"1.00-", L"0.000", L"0x"});
 }
 
 }  // namespace
