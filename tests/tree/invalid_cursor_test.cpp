@@ -1,5 +1,8 @@
 #include <fittings/tree/tree_cursor.h>
 
+#include <string>
+#include <tuple>
+
 #include <gtest/gtest.h>
 
 #include <wx/bitmap.h>
@@ -8,116 +11,65 @@
 
 namespace {
 
-// Runs each test with both kinds of invalid cursors: one without an item, and one without a tree.
-class InvalidCursor : public testing::TestWithParam<bool>
+struct Operation
 {
-protected:
-    InvalidCursor()
-    {
-        screen.tree->AddRoot("root").AppendItem("child");
-        cursor =
-            GetParam() ? wxTreeCursor(screen.tree, wxTreeItemId()) : wxTreeCursor(nullptr, screen.tree->GetRootItem());
-    }
-
-    ~InvalidCursor() override
-    {
-        EXPECT_EQ(assertions.Count(), 1);
-        EXPECT_EQ(screen.tree->GetCount(), 2u);
-    }
-
-    TreeOnScreen<> screen;
-    wxTreeCursor cursor;
-    ExpectAssertions assertions;
+    const char* name;
+    void (*run)(wxTreeCursor& cursor, wxTreeCtrlEx& tree);
 };
 
-INSTANTIATE_TEST_SUITE_P(, InvalidCursor, testing::Bool(),
-                         [](const auto& info) { return info.param ? "WithoutItem" : "WithoutTree"; });
-
-TEST_P(InvalidCursor, HasNoText)
+void ExpectInvalid(const wxTreeCursor& cursor, const wxTreeCtrl* tree)
 {
-    EXPECT_EQ(cursor.GetText(), L"");
-}
-TEST_P(InvalidCursor, HasNoImage)
-{
-    EXPECT_EQ(cursor.GetImage(wxTreeItemIcon_Normal), -1);
-}
-TEST_P(InvalidCursor, TakesNoImage)
-{
-    cursor.SetImage(0, wxTreeItemIcon_Normal);
+    EXPECT_FALSE(cursor.IsOk());
+    EXPECT_EQ(cursor.tree, tree);
 }
 
-TEST_P(InvalidCursor, TakesNoBitmap)
+const Operation kOperations[] = {
+    {"HasNoText", [](auto& cursor, auto&) { EXPECT_EQ(cursor.GetText(), L""); }},
+    {"HasNoImage", [](auto& cursor, auto&) { EXPECT_EQ(cursor.GetImage(wxTreeItemIcon_Normal), -1); }},
+    {"TakesNoImage", [](auto& cursor, auto&) { cursor.SetImage(0, wxTreeItemIcon_Normal); }},
+    {"TakesNoBitmap",
+     [](auto& cursor, auto& tree) {
+         EXPECT_EQ(cursor.SetImage(wxBitmap(16, 16), *wxBLACK, wxTreeItemIcon_Expanded), wxTreeItemIcon_Expanded);
+         EXPECT_EQ(tree.GetImageList()->GetImageCount(), 0);
+     }},
+    {"TakesNoData", [](auto& cursor, auto&) { cursor.SetData(1); }},
+    {"HasNoData", [](auto& cursor, auto&) { EXPECT_EQ(cursor.GetData(), -1); }},
+    {"TakesNoChildrenFlag", [](auto& cursor, auto&) { cursor.SetChildren(true); }},
+    {"AppendsNothing", [](auto& cursor, auto&) { ExpectInvalid(cursor.AppendItem("new"), cursor.tree); }},
+    {"ExpandsNothing", [](auto& cursor, auto&) { cursor.Expand(); }},
+    {"IsNotExpanded", [](auto& cursor, auto&) { EXPECT_FALSE(cursor.IsExpanded()); }},
+    {"DeletesNothing", [](auto& cursor, auto&) { cursor.Delete(); }},
+    {"HasNoParent", [](auto& cursor, auto&) { ExpectInvalid(cursor.GetParent(), cursor.tree); }},
+    {"HasNoChild", [](auto& cursor, auto&) { ExpectInvalid(cursor.GetChild(), nullptr); }},
+    {"HasNoSibling", [](auto& cursor, auto&) { ExpectInvalid(cursor.GetNextSibling(), cursor.tree); }},
+    {"TakesNoColour", [](auto& cursor, auto&) { cursor.SetTextColour(255); }},
+    {"HasNoColour", [](auto& cursor, auto&) { EXPECT_EQ(cursor.GetTextColour(), 0u); }},
+    {"IsNotDeletedByAControl", [](auto& cursor, auto& tree) { tree.DeleteItem(cursor); }},
+};
+
+// Runs each operation on both kinds of invalid cursors: one without an item, and one without a tree.
+class InvalidCursor : public testing::TestWithParam<std::tuple<Operation, bool>>
 {
-    EXPECT_EQ(cursor.SetImage(wxBitmap(16, 16), *wxBLACK, wxTreeItemIcon_Expanded), wxTreeItemIcon_Expanded);
-    EXPECT_EQ(screen.tree->GetImageList()->GetImageCount(), 0);
+};
+
+TEST_P(InvalidCursor, AssertsOnceAndLeavesTheTreeAlone)
+{
+    const auto& [operation, withoutItem] = GetParam();
+    TreeOnScreen<> screen;
+    screen.tree->AddRoot("root").AppendItem("child");
+    wxTreeCursor cursor =
+        withoutItem ? wxTreeCursor(screen.tree, wxTreeItemId()) : wxTreeCursor(nullptr, screen.tree->GetRootItem());
+    const ExpectAssertions assertions;
+    operation.run(cursor, *screen.tree);
+    EXPECT_EQ(assertions.Count(), 1);
+    EXPECT_EQ(screen.tree->GetCount(), 2u);
 }
 
-TEST_P(InvalidCursor, TakesNoData)
-{
-    cursor.SetData(1);
-}
-TEST_P(InvalidCursor, HasNoData)
-{
-    EXPECT_EQ(cursor.GetData(), -1);
-}
-TEST_P(InvalidCursor, TakesNoChildrenFlag)
-{
-    cursor.SetChildren(true);
-}
-
-TEST_P(InvalidCursor, AppendsNothing)
-{
-    const wxTreeCursor child = cursor.AppendItem("new");
-    EXPECT_FALSE(child.IsOk());
-    EXPECT_EQ(child.tree, cursor.tree);
-}
-
-TEST_P(InvalidCursor, ExpandsNothing)
-{
-    cursor.Expand();
-}
-TEST_P(InvalidCursor, IsNotExpanded)
-{
-    EXPECT_FALSE(cursor.IsExpanded());
-}
-TEST_P(InvalidCursor, DeletesNothing)
-{
-    cursor.Delete();
-}
-
-TEST_P(InvalidCursor, HasNoParent)
-{
-    const wxTreeCursor parent = cursor.GetParent();
-    EXPECT_FALSE(parent.IsOk());
-    EXPECT_EQ(parent.tree, cursor.tree);
-}
-
-TEST_P(InvalidCursor, HasNoChild)
-{
-    const wxTreeCursor child = cursor.GetChild();
-    EXPECT_FALSE(child.IsOk());
-    EXPECT_EQ(child.tree, nullptr);
-}
-
-TEST_P(InvalidCursor, HasNoSibling)
-{
-    const wxTreeCursor sibling = cursor.GetNextSibling();
-    EXPECT_FALSE(sibling.IsOk());
-    EXPECT_EQ(sibling.tree, cursor.tree);
-}
-
-TEST_P(InvalidCursor, TakesNoColour)
-{
-    cursor.SetTextColour(255);
-}
-TEST_P(InvalidCursor, HasNoColour)
-{
-    EXPECT_EQ(cursor.GetTextColour(), 0u);
-}
-TEST_P(InvalidCursor, IsNotDeletedByAControl)
-{
-    screen.tree->DeleteItem(cursor);
-}
+INSTANTIATE_TEST_SUITE_P(, InvalidCursor, testing::Combine(testing::ValuesIn(kOperations), testing::Bool()),
+                         [](const auto& info) {
+                             return std::get<0>(info.param).name +
+                                    std::string(std::get<1>(info.param) ? "WithoutItem" : "WithoutTree");
+                         });
 
 TEST(CursorOfAnEmptyTree, DoesNotBecomeTheRootByAppending)
 {
