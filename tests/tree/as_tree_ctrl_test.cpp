@@ -95,11 +95,9 @@ TYPED_TEST(AsTreeCtrl, SelectsARangeWithShift)
 
 TYPED_TEST(AsTreeCtrl, TellsOfTheButtonBeforeAndAfter)
 {
-    PointTo(PointOn(this->a, wxTREE_HITTEST_ONITEMBUTTON));
-    this->user.MouseClick();
+    this->Click(this->a, wxMOUSE_BTN_LEFT, wxTREE_HITTEST_ONITEMBUTTON);
     this->ExpectEvents({L"expanding a", L"expanded a"});
-    PointTo(PointOn(this->root, wxTREE_HITTEST_ONITEMBUTTON));
-    this->user.MouseClick();
+    this->Click(this->root, wxMOUSE_BTN_LEFT, wxTREE_HITTEST_ONITEMBUTTON);
     this->ExpectEvents({L"collapsing root", L"collapsed root"});
     EXPECT_EQ(this->Selected(), (Labels{L"root"}));
 }
@@ -297,8 +295,7 @@ TYPED_TEST(AsTreeCtrl, LetsTheHostDeleteTheItemThatIsActivated)
 TYPED_TEST(AsTreeCtrl, LetsTheHostDeleteTheItemThatHasExpanded)
 {
     this->log.on[L"expanded a"] = [this](wxTreeEvent& event) { this->tree.Delete(event.GetItem()); };
-    PointTo(PointOn(this->a, wxTREE_HITTEST_ONITEMBUTTON));
-    this->user.MouseClick();
+    this->Click(this->a, wxMOUSE_BTN_LEFT, wxTREE_HITTEST_ONITEMBUTTON);
     this->ExpectEvents({L"expanding a", L"expanded a", L"deleted a1", L"deleted a2", L"deleted a"});
     EXPECT_EQ(ChildrenOf(this->root), (Labels{L"b", L"c"}));
 }
@@ -309,8 +306,7 @@ TYPED_TEST(AsTreeCtrl, LetsTheHostDeleteTheItemThatItDoesNotLetExpand)
         event.Veto();
         this->tree.Delete(event.GetItem());
     };
-    PointTo(PointOn(this->a, wxTREE_HITTEST_ONITEMBUTTON));
-    this->user.MouseClick();
+    this->Click(this->a, wxMOUSE_BTN_LEFT, wxTREE_HITTEST_ONITEMBUTTON);
     this->ExpectEvents({L"expanding a", L"deleted a1", L"deleted a2", L"deleted a"});
     EXPECT_EQ(ChildrenOf(this->root), (Labels{L"b", L"c"}));
 }

@@ -278,8 +278,7 @@ TEST(HandyTreeReparented, TakesItsItemsImagesAndHookAlong)
     EXPECT_TRUE(PumpUntil([&] { return tree.GetSelection().GetText() == L"a"; }));
     EXPECT_EQ(before, 0);
     EXPECT_GE(after, 1);
-    other->Destroy();
-    PumpPending();
+    DestroyNow(other);
 }
 
 // --- Looks -----------------------------------------------------------------------------------------------------------

@@ -127,23 +127,21 @@ TEST_F(Cursor, AddsABitmapToTheImageListAndAnswersWhichKindItWas)
     EXPECT_FALSE(image.IsTransparent(8, 8));
 }
 
-struct TrackedData : wxTreeItemData
+// An item's data that counts its objects.
+template <typename Data>
+struct Tracked : Data
 {
-    TrackedData() { ++alive; }
-    ~TrackedData() override { --alive; }
-    static int alive;
+    template <typename... Arguments>
+    explicit Tracked(Arguments... arguments) : Data(arguments...)
+    {
+        ++alive;
+    }
+    ~Tracked() override { --alive; }
+    inline static int alive = 0;
 };
 
-int TrackedData::alive = 0;
-
-struct TrackedNumber : wxGenericTreeItemData
-{
-    explicit TrackedNumber(int value) : wxGenericTreeItemData(value) { ++alive; }
-    ~TrackedNumber() override { --alive; }
-    static int alive;
-};
-
-int TrackedNumber::alive = 0;
+using TrackedData = Tracked<wxTreeItemData>;
+using TrackedNumber = Tracked<wxGenericTreeItemData>;
 
 TEST_F(Cursor, CarriesANumber)
 {

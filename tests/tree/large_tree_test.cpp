@@ -67,12 +67,12 @@ protected:
     CountingTree& tree = *screen.tree;
     wxTreeCursor root = tree.AddRoot("root");
 
-    /// Appends kWidth children to the root. If @a step is not 0, expands the first child and every @a step-th child
+    /// Appends @a count children to the root. If @a step is not 0, expands the first child and every @a step-th child
     /// after it.
-    void MakeWide(int step)
+    void MakeWide(int step, int count = kWidth)
     {
         const wxWindowUpdateLocker frozen(&tree);
-        for (int i = 0; i < kWidth; ++i) {
+        for (int i = 0; i < count; ++i) {
             wxTreeCursor item = root.AppendItem(wxString::Format("%06d", i));
             item.SetChildren(true);
             if (step && i % step == 0)
@@ -165,17 +165,9 @@ TEST_F(LargeTree, OfOneLabelIsSavedAsOne)
 // Some of so many labels have equal 32-bit hashes. Even so, each label must be stored.
 TEST_F(LargeTree, TellsAllItsLabelsApart)
 {
-    constexpr int kCount = 300'000;
-    {
-        const wxWindowUpdateLocker frozen(&tree);
-        for (int i = 0; i < kCount; ++i) {
-            wxTreeCursor item = root.AppendItem(wxString::Format("%06d", i));
-            item.SetChildren(true);
-            item.Expand();
-        }
-    }
+    MakeWide(1, 300'000);
     tree.SaveState("state", root);
-    EXPECT_EQ(StoredState(L"state").size(), kCount * 7u);
+    EXPECT_EQ(StoredState(L"state").size(), 300'000 * 7u);
 }
 
 TEST_F(LargeTree, FindsEachLabelAgain)

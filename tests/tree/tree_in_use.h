@@ -5,12 +5,10 @@
 #include <map>
 #include <string>
 #include <utility>
-#include <vector>
 
 #include <gtest/gtest.h>
 
 #include <wx/uiaction.h>
-#include <wx/utils.h>
 
 #include <tests/tree/tree_on_screen.h>
 
@@ -101,9 +99,9 @@ protected:
         log.Take();
     }
 
-    void Click(const wxTreeCursor& item, int button = wxMOUSE_BTN_LEFT)
+    void Click(const wxTreeCursor& item, int button = wxMOUSE_BTN_LEFT, int part = wxTREE_HITTEST_ONITEMLABEL)
     {
-        PointTo(PointOn(item, wxTREE_HITTEST_ONITEMLABEL));
+        PointTo(PointOn(item, part));
         user.MouseClick(button);
     }
 
