@@ -230,9 +230,7 @@ TEST(WaitFor, MayBeCalledByAnotherThread)
 {
     bool hasEnded = false;
     Helper helper([&] {
-        Working<wxThreadEx> thread([](auto&) { return Code(42); }, wxTHREAD_JOINABLE);
-        thread.Create(0);
-        thread.Run();
+        Running thread([](auto&) { return Code(42); });
         hasEnded = thread.WaitFor(1'000'000);
     });
     EXPECT_TRUE(helper.Ends());

@@ -39,9 +39,7 @@ INSTANTIATE_TEST_SUITE_P(, ExitCode, testing::Values(42, 0, -1, 0x123456789ABCDE
 
 TEST(Wait, GivesTheSameCodeEachTime)
 {
-    Thread thread(Returning(42), wxTHREAD_JOINABLE);
-    thread.Create(0);
-    thread.Run();
+    Running thread(Returning(42));
     EXPECT_EQ(thread.Wait(), Code(42));
     EXPECT_EQ(thread.Wait(), Code(42));
     EXPECT_EQ(thread.Wait(), Code(42));
@@ -49,34 +47,17 @@ TEST(Wait, GivesTheSameCodeEachTime)
 
 TEST(Wait, GivesTheCodeOfAnEntryThatReturnedLongBefore)
 {
-    Thread thread(Returning(42), wxTHREAD_JOINABLE);
-    thread.Create(0);
-    thread.Run();
+    Running thread(Returning(42));
     ASSERT_TRUE(thread.started.Wait());
     ASSERT_TRUE(HasEnded(thread.thread));
     EXPECT_EQ(thread.Wait(), Code(42));
-}
-
-TEST(Wait, BlocksUntilEntryHasReturned)
-{
-    HeldThread held;
-    ASSERT_TRUE(held.thread.started.Wait());
-    wxThread::ExitCode code = nullptr;
-    Helper waiter([&] { code = held.thread.Wait(); });
-    EXPECT_TRUE(waiter.IsBlocked());
-    EXPECT_FALSE(waiter.IsDone());
-    held.go.Set();
-    EXPECT_TRUE(waiter.Ends());
-    EXPECT_EQ(code, Code(42));
 }
 
 // Three threads call Wait() one after the other. The thread object signals its condition only once, but m_finished
 // stays true.
 TEST(Wait, EndsForLaterCallersToo)
 {
-    Thread thread(Returning(7), wxTHREAD_JOINABLE);
-    thread.Create(0);
-    thread.Run();
+    Running thread(Returning(7));
     for (int i = 0; i < 3; ++i) {
         wxThread::ExitCode code = nullptr;
         Helper waiter([&] { code = thread.Wait(); });
@@ -95,13 +76,9 @@ TEST(Wait, IsRefusedBeforeRun)
     EXPECT_EQ(constructed.Wait(), Code(42));
 }
 
-// Expects that Wait() returns only after @a over is set. A program may end right after Wait(), so the thread must then
-// have nothing left to do.
-void ExpectWaitBlocksUntil(Signal& over, Thread::Work work)
+// Expects that Wait() returns the code 42, but only after @a over is set.
+void ExpectWaitBlocksUntil(Signal& over, wxThreadEx& thread)
 {
-    Thread thread(std::move(work), wxTHREAD_JOINABLE);
-    thread.Create(0);
-    thread.Run();
     wxThread::ExitCode code = nullptr;
     Helper waiter([&] { code = thread.Wait(); });
     EXPECT_TRUE(waiter.IsBlocked());
@@ -111,6 +88,14 @@ void ExpectWaitBlocksUntil(Signal& over, Thread::Work work)
     EXPECT_EQ(code, Code(42));
 }
 
+TEST(Wait, BlocksUntilEntryHasReturned)
+{
+    HeldThread held;
+    ASSERT_TRUE(held.thread.started.Wait());
+    ExpectWaitBlocksUntil(held.go, held.thread);
+}
+
+// A program may end right after Wait(), so the thread must then have nothing left to do.
 TEST(Wait, BlocksUntilThreadLocalObjectsAreDestroyed)
 {
     static Signal over;
@@ -118,10 +103,11 @@ TEST(Wait, BlocksUntilThreadLocalObjectsAreDestroyed)
     {
         ~Last() { over.Wait(); }
     };
-    ExpectWaitBlocksUntil(over, [](Thread&) {
+    Running thread([](auto&) {
         static thread_local const Last last;
         return Code(42);
     });
+    ExpectWaitBlocksUntil(over, thread);
 }
 
 // The toolkit stores its data for each thread with pthread_setspecific(), as this test does.
@@ -130,10 +116,11 @@ TEST(Wait, BlocksUntilTheValuesOfKeysAreDestroyed)
     static Signal over;
     static pthread_key_t key;
     ASSERT_EQ(pthread_key_create(&key, [](void*) { over.Wait(); }), 0);
-    ExpectWaitBlocksUntil(over, [](Thread&) {
+    Running thread([](auto&) {
         pthread_setspecific(key, &over);
         return Code(42);
     });
+    ExpectWaitBlocksUntil(over, thread);
     pthread_key_delete(key);
 }
 
@@ -177,15 +164,10 @@ TEST(Destructor, WaitsUntilEntryHasReturned)
 {
     Signal go;
     std::atomic<bool> returned{false};
-    auto thread = std::make_unique<Thread>(
-        [&](Thread&) {
-            go.Wait();
-            returned = true;
-            return Code(42);
-        },
-        wxTHREAD_JOINABLE);
-    thread->Create(0);
-    thread->Run();
+    auto thread = std::make_unique<Running>([&](auto&) {
+        go.Wait();
+        returned = true;
+    });
     ASSERT_TRUE(thread->started.Wait());
     bool returnedBefore = false;
     Helper owner([&] {
@@ -283,15 +265,10 @@ TEST(Entry, RunsOnADetachedThreadOfTheToolkit)
 {
     bool main = true;
     bool detached = false;
-    Thread thread(
-        [&](Thread&) {
-            main = wxThread::IsMain();
-            detached = wxThread::This() && wxThread::This()->IsDetached();
-        },
-        wxTHREAD_JOINABLE);
-    thread.Create(0);
-    thread.Run();
-    thread.Wait();
+    Running([&](auto&) {
+        main = wxThread::IsMain();
+        detached = wxThread::This() && wxThread::This()->IsDetached();
+    }).Wait();
     EXPECT_FALSE(main);
     EXPECT_TRUE(detached);
 }

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
+#include <map>
 #include <memory>
 #include <new>
 #include <stdexcept>
@@ -107,9 +108,7 @@ void NeverRun()
     for (int i = 0; i < 2; ++i)
         const Thread constructed([](Thread&) { return Code(42); }, wxTHREAD_JOINABLE);
     const Thread detached([](Thread&) { return Code(42); }, wxTHREAD_DETACHED);
-    Thread run([](Thread&) { return Code(42); }, wxTHREAD_JOINABLE);
-    run.Create(0);
-    run.Run();
+    Running run([](auto&) { return Code(42); });
     run.Wait();
     Say("ended", HasEnded(run.thread));
 }
@@ -160,12 +159,7 @@ long AllocationsLeftBy(const std::function<void()>& work)
 
 void Memory()
 {
-    Say("run", AllocationsLeftBy([] {
-            Thread thread([](Thread&) { return Code(42); }, wxTHREAD_JOINABLE);
-            thread.Create(0);
-            thread.Run();
-            thread.Wait();
-        }));
+    Say("run", AllocationsLeftBy([] { Running([](auto&) { return Code(42); }).Wait(); }));
     Say("posted", AllocationsLeftBy([] {
             wxEvtHandler handler;
             Working<wxGUIThreadEx> worker(
@@ -203,17 +197,12 @@ public:
 // The process ends right after Wait(). The thread must have left the toolkit before the toolkit is shut down.
 void EndAtOnce()
 {
-    Thread thread([](Thread&) { return Code(42); }, wxTHREAD_JOINABLE);
-    thread.Create(0);
-    thread.Run();
-    Say("wait", Number(thread.Wait()));
+    Say("wait", Number(Running([](auto&) { return Code(42); }).Wait()));
 }
 
 void Throw()
 {
-    Thread thread([](Thread&) -> wxThread::ExitCode { throw std::runtime_error("of Entry"); }, wxTHREAD_JOINABLE);
-    thread.Create(0);
-    thread.Run();
+    Running thread([](auto&) -> wxThread::ExitCode { throw std::runtime_error("of Entry"); });
     Say("wait", Number(thread.Wait()));
     Say("ended", HasEnded(thread.thread));
 
@@ -234,24 +223,15 @@ int main(int argc, char** argv)
 {
     wxApp::SetInstance(new App);
     const wxInitializer toolkit;
-    const std::string question = argc > 1 ? argv[1] : "";
-    if (question == "no-room")
-        NoRoom();
-    else if (question == "created")
-        Created();
-    else if (question == "never-run")
-        NeverRun();
-    else if (question == "destroy-detached")
-        DestroyDetached();
-    else if (question == "two-waiters")
-        TwoWaiters();
-    else if (question == "memory")
-        Memory();
-    else if (question == "end-at-once")
-        EndAtOnce();
-    else if (question == "throw")
-        Throw();
-    else
+    const std::map<std::string, void (*)()> answers{
+        {"no-room", NoRoom},         {"created", Created},
+        {"never-run", NeverRun},     {"destroy-detached", DestroyDetached},
+        {"two-waiters", TwoWaiters}, {"memory", Memory},
+        {"end-at-once", EndAtOnce},  {"throw", Throw},
+    };
+    const auto answer = answers.find(argc > 1 ? argv[1] : "");
+    if (answer == answers.end())
         return 2;
+    answer->second();
     return 0;
 }

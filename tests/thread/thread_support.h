@@ -150,22 +150,28 @@ private:
     Work m_work;
 };
 
+/// A thread object that runs from its construction on.
+class Running : public Working<wxThreadEx>
+{
+public:
+    template <typename Function>
+    explicit Running(Function work) : Working(std::move(work), wxTHREAD_JOINABLE)
+    {
+        Create(0);
+        Run();
+    }
+};
+
 /// A running thread object. Its work ends with the code 42 when the test sets @a go or destroys this object.
 struct HeldThread
 {
-    HeldThread()
-    {
-        thread.Create(0);
-        thread.Run();
-    }
     ~HeldThread() { go.Set(); }
 
     Signal go;
-    Working<wxThreadEx> thread{[this](auto&) {
-                                   go.Wait();
-                                   return Code(42);
-                               },
-                               wxTHREAD_JOINABLE};
+    Running thread{[this](auto&) {
+        go.Wait();
+        return Code(42);
+    }};
 };
 
 /// An event as a handler received it.
