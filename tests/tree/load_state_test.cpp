@@ -46,39 +46,39 @@ TEST_F(LoadState, RestoresLazilyFilledLevels)
     EXPECT_EQ(tree.hooked, (Labels{L"R", L"B"}));
 }
 
-TEST_F(LoadState, ExpandsParentsFirstInTheOrderOfTheTree)
+struct StoredLabels
 {
-    Load(L"A|A1|B|B2|R|deep|");
-    EXPECT_EQ(tree.expanded, (Labels{L"R", L"A", L"A1", L"B", L"B2", L"deep"}));
-    EXPECT_EQ(tree.hooked, (Labels{L"R", L"A", L"B", L"B2"}));
+    const char* name;
+    const wchar_t* labels;
+    Labels expanded;
+    Labels filled;
+};
+
+class LoadStateFromRoot : public LoadState, public testing::WithParamInterface<StoredLabels>
+{
+};
+
+TEST_P(LoadStateFromRoot, ExpandsItems)
+{
+    Load(GetParam().labels);
+    EXPECT_EQ(tree.expanded, GetParam().expanded);
+    EXPECT_EQ(tree.hooked, GetParam().filled);
+    EXPECT_EQ(root.IsExpanded(), !GetParam().expanded.empty());
 }
 
-TEST_F(LoadState, DropsALastLabelWithoutSeparator)
-{
-    Load(L"R|B");
-    EXPECT_TRUE(root.IsExpanded());
-    EXPECT_EQ(tree.expanded, (Labels{L"R"}));
-}
-
-TEST_F(LoadState, OfALoneLabelWithoutSeparatorExpandsNothing)
-{
-    Load(L"R");
-    EXPECT_TRUE(tree.expanded.empty());
-    EXPECT_FALSE(root.IsExpanded());
-}
-
-TEST_F(LoadState, DoesNotMindTheOrderOrRepetition)
-{
-    Load(L"R|B|R|B|");
-    EXPECT_EQ(tree.expanded, (Labels{L"R", L"B"}));
-}
-
-TEST_F(LoadState, StopsAtCollapsedLevelsThatAreNotFilled)
-{
-    Load(L"B|");
-    EXPECT_FALSE(root.IsExpanded());
-    EXPECT_TRUE(tree.hooked.empty());
-}
+INSTANTIATE_TEST_SUITE_P(
+    , LoadStateFromRoot,
+    testing::Values(StoredLabels{"ParentsFirstInTheOrderOfTheTree",
+                                 L"A|A1|B|B2|R|deep|",
+                                 {L"R", L"A", L"A1", L"B", L"B2", L"deep"},
+                                 {L"R", L"A", L"B", L"B2"}},
+                    StoredLabels{"ButDropsALastLabelWithoutSeparator", L"R|B", {L"R"}, {L"R"}},
+                    StoredLabels{"ButNoneForALoneLabelWithoutSeparator", L"R", {}, {}},
+                    StoredLabels{"WhateverTheOrderOrRepetition", L"R|B|R|B|", {L"R", L"B"}, {L"R", L"B"}},
+                    StoredLabels{"ButStopsAtCollapsedLevelsThatAreNotFilled", L"B|", {}, {}},
+                    StoredLabels{"ButIgnoresLabelsThatMatchNothing", L"gone|R|missing|", {L"R"}, {L"R"}},
+                    StoredLabels{"ButTellsLabelsApartExactly", L"r| R|R |", {}, {}}),
+    [](const auto& info) { return info.param.name; });
 
 TEST_F(LoadState, LooksIntoCollapsedLevelsThatAreFilled)
 {
@@ -87,18 +87,6 @@ TEST_F(LoadState, LooksIntoCollapsedLevelsThatAreFilled)
     Load(L"B|");
     EXPECT_FALSE(root.IsExpanded());
     EXPECT_TRUE(root.GetChild().GetNextSibling().IsExpanded());
-}
-
-TEST_F(LoadState, IgnoresLabelsThatMatchNothing)
-{
-    Load(L"gone|R|missing|");
-    EXPECT_EQ(tree.expanded, (Labels{L"R"}));
-}
-
-TEST_F(LoadState, TellsLabelsApartExactly)
-{
-    Load(L"r| R|R |");
-    EXPECT_TRUE(tree.expanded.empty());
 }
 
 TEST_F(LoadState, WithNothingStoredExpandsNothing)
