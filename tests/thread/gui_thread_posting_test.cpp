@@ -22,24 +22,17 @@ static_assert(std::is_abstract_v<wxGUIThread> && std::is_abstract_v<wxGUIThreadE
 
 // Whether PostEvent() accepts a literal 0 as its last argument. The call must be ambiguous, because 0 converts both to
 // a long and to a null pointer.
-template <typename Thread, typename = void>
+template <typename Void, typename Thread, typename... Arguments>
 struct TakesZero : std::false_type
 {
 };
-template <typename Thread>
-struct TakesZero<Thread, std::void_t<decltype(std::declval<Thread&>().PostEvent(7, 3, 0))>> : std::true_type
+template <typename Thread, typename... Arguments>
+struct TakesZero<std::void_t<decltype(std::declval<Thread&>().PostEvent(std::declval<Arguments>()..., 0))>, Thread,
+                 Arguments...> : std::true_type
 {
 };
-template <typename Thread, typename = void>
-struct TakesZeroEx : std::false_type
-{
-};
-template <typename Thread>
-struct TakesZeroEx<Thread, std::void_t<decltype(std::declval<Thread&>().PostEvent(3, 0))>> : std::true_type
-{
-};
-static_assert(!TakesZero<wxGUIThread>::value);
-static_assert(!TakesZeroEx<wxGUIThreadEx>::value);
+static_assert(!TakesZero<void, wxGUIThread, int, int>::value);
+static_assert(!TakesZero<void, wxGUIThreadEx, int>::value);
 
 // Runs @a work on a worker that is constructed with @a arguments. Waits for the worker, and delivers the posted events.
 template <typename Thread, typename Work, typename... Arguments>
