@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <gallery/folders/native_text.h>
 #include <tests/support/process/as_nobody.h>
@@ -27,11 +26,6 @@ Entry File(const std::string& name, std::uint64_t size)
     return entry;
 }
 
-std::string Time(std::int64_t seconds)
-{
-    return std::string(HumanTime(seconds).utf8_str());
-}
-
 TEST(Report, HasALineForEachEntryInOrder)
 {
     Entry folder;
@@ -43,15 +37,12 @@ TEST(Report, HasALineForEachEntryInOrder)
     summed.name = "summed";
     summed.summed = true;
     summed.size = 123456789012;
-    EXPECT_EQ(ReportText("/data", {folder, summed, File("z", 3)}), "Name,Kind,Bytes,Modified,Path\r\n"
-                                                                   "sub,Folder,," +
-                                                                       Time(0) +
-                                                                       ",/data/sub\r\n"
-                                                                       "summed,Folder,123456789012," +
-                                                                       Time(0) +
-                                                                       ",/data/summed\r\n"
-                                                                       "z,File,3," +
-                                                                       Time(0) + ",/data/z\r\n");
+    const std::string time(HumanTime(0).utf8_str());
+    std::string expected = "Name,Kind,Bytes,Modified,Path\r\n";
+    expected += "sub,Folder,," + time + ",/data/sub\r\n";
+    expected += "summed,Folder,123456789012," + time + ",/data/summed\r\n";
+    expected += "z,File,3," + time + ",/data/z\r\n";
+    EXPECT_EQ(ReportText("/data", {folder, summed, File("z", 3)}), expected);
 }
 
 TEST(Report, OfAnEmptyFolderIsTheHeader)
@@ -90,9 +81,7 @@ TEST(SaveReport, WritesAFileOthersMayReadAsTheUserWants)
     EXPECT_EQ(SaveReport(folder / "report.csv", "text"), 0);
     umask(mask);
     EXPECT_EQ(ReadFile(folder / "report.csv"), "text");
-    struct stat status;
-    ASSERT_EQ(stat((folder / "report.csv").c_str(), &status), 0);
-    EXPECT_EQ(status.st_mode & 0777, 0640u);
+    EXPECT_EQ(fs::status(folder / "report.csv").permissions(), fs::perms{0640});
 }
 
 TEST(SaveReport, ReplacesAFileAndKeepsItsMode)
@@ -102,9 +91,7 @@ TEST(SaveReport, ReplacesAFileAndKeepsItsMode)
     chmod((folder / "report.csv").c_str(), 0600);
     EXPECT_EQ(SaveReport(folder / "report.csv", "new"), 0);
     EXPECT_EQ(ReadFile(folder / "report.csv"), "new");
-    struct stat status;
-    ASSERT_EQ(stat((folder / "report.csv").c_str(), &status), 0);
-    EXPECT_EQ(status.st_mode & 0777, 0600u);
+    EXPECT_EQ(fs::status(folder / "report.csv").permissions(), fs::perms{0600});
     EXPECT_EQ(NamesIn(folder.Path()), std::vector<std::string>{"report.csv"});
 }
 
