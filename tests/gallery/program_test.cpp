@@ -36,7 +36,12 @@ public:
     {
     }
 
-    void Send(int signal) { m_child.Send(signal); }
+    /// Sends a signal and waits for the end.
+    int EndBy(int signal)
+    {
+        m_child.Send(signal);
+        return Wait();
+    }
 
     /// Waits for the end and returns the exit code; negative when a signal ended the program or the deadline has
     /// passed.
@@ -103,16 +108,14 @@ TEST_F(TheProgram, SavesItsStateWhenItIsTerminated)
     const std::string root = fs::canonical(folder.Path()).native();
     Program program({folder.Path()});
     ASSERT_TRUE(ShowsWindow(root + ".*Fittings Gallery"));
-    program.Send(SIGTERM);
-    EXPECT_EQ(program.Wait(), 0);
+    EXPECT_EQ(program.EndBy(SIGTERM), 0);
     EXPECT_NE(ReadFile(data / "fittings-gallery/ui_config/browser.ini").find("Roots=" + root + "|\n"),
               std::string::npos);
     EXPECT_NE(ReadFile(data / "fittings-gallery/settings.ini").find("[wxWindowState]"), std::string::npos);
 
     Program next({});
     EXPECT_TRUE(ShowsWindow(root + ".*Fittings Gallery"));
-    next.Send(SIGINT);
-    EXPECT_EQ(next.Wait(), 0);
+    EXPECT_EQ(next.EndBy(SIGINT), 0);
 }
 
 TEST_F(TheProgram, SavesItsStateWhenItIsTerminatedInADialog)
@@ -127,8 +130,7 @@ TEST_F(TheProgram, SavesItsStateWhenItIsTerminatedInADialog)
         ASSERT_TRUE(WaitFor("xdotool search --onlyvisible --name 'Fittings Gallery' windowactivate --sync"));
         ASSERT_TRUE(WaitFor("xdotool key " + key));
         ASSERT_TRUE(ShowsWindow("^" + title + "$"));
-        program.Send(SIGTERM);
-        EXPECT_EQ(program.Wait(), 0);
+        EXPECT_EQ(program.EndBy(SIGTERM), 0);
         EXPECT_NE(ReadFile(data / "fittings-gallery/ui_config/browser.ini").find(root + "|"), std::string::npos);
     }
 }
@@ -141,8 +143,7 @@ TEST_F(TheProgram, FitsOnTheScreenAtFirst)
     Program program({"/"});
     unsetenv("GDK_SCALE");
     ASSERT_TRUE(ShowsWindow("Fittings Gallery"));
-    program.Send(SIGTERM);
-    EXPECT_EQ(program.Wait(), 0);
+    EXPECT_EQ(program.EndBy(SIGTERM), 0);
     const std::string settings = ReadFile(data / "fittings-gallery/settings.ini");
     int width = 0;
     int height = 0;
@@ -167,8 +168,7 @@ TEST_F(TheProgram, SaysInOneLineWhatIsNoFolderAndStarts)
 {
     Program program({"/no such folder"});
     ASSERT_TRUE(ShowsWindow("Fittings Gallery"));
-    program.Send(SIGTERM);
-    EXPECT_EQ(program.Wait(), 0);
+    EXPECT_EQ(program.EndBy(SIGTERM), 0);
     EXPECT_EQ(OwnLines(program.Errors()), "fittings-gallery: /no such folder: No such file or directory\n")
         << program.Errors();
 }
@@ -189,8 +189,12 @@ std::size_t CountColours(const std::string& path)
     return colours.size();
 }
 
-void TakesItsPictures(const std::vector<std::string>& arguments, const std::string& pictures)
+/// Takes the tour on a folder of its own, or on the given folder.
+void TakesItsPictures(const std::vector<std::string>& shown = {})
 {
+    TempFolder folder;
+    std::vector<std::string> arguments{"--tour", folder / "pictures"};
+    arguments.insert(arguments.end(), shown.begin(), shown.end());
     Program program(arguments);
     EXPECT_EQ(program.Wait(), 0) << program.Output() << program.Errors();
     EXPECT_EQ(program.Output().find("FAILED"), std::string::npos);
@@ -199,22 +203,20 @@ void TakesItsPictures(const std::vector<std::string>& arguments, const std::stri
     EXPECT_EQ(program.Errors().find("while allocating gadget"), std::string::npos) << program.Errors();
     for (const char* name : {"browser", "colour-popup", "colours", "filter", "folder-colours", "folder-dialog",
                              "numbers", "persistence", "save-dialog", "tree", "window-state"})
-        EXPECT_GT(CountColours(pictures + "/" + name + ".png"), 100u) << name;
+        EXPECT_GT(CountColours(folder / ("pictures/" + std::string(name) + ".png")), 100u) << name;
 }
 
 TEST_F(TheTour, ShowsEachComponentOnAFolderOfItsOwn)
 {
-    TempFolder folder;
-    TakesItsPictures({"--tour", folder / "pictures"}, folder / "pictures");
+    TakesItsPictures();
     EXPECT_FALSE(fs::exists(data / "fittings-gallery")) << "the tour touched the user's settings";
 }
 
 void TakesItsPicturesIn(const char* locale)
 {
-    TempFolder folder;
     const ScopedLocale scoped(locale);
     setenv("LC_ALL", locale, 1);
-    TakesItsPictures({"--tour", folder / "pictures"}, folder / "pictures");
+    TakesItsPictures();
     setenv("LC_ALL", "C.UTF-8", 1);
 }
 
@@ -230,25 +232,22 @@ TEST_F(TheTour, TypesTheDecimalPointOfTheLocale)
 
 TEST_F(TheTour, ShowsAFolderThatItIsGiven)
 {
-    TempFolder folder;
-    TakesItsPictures({"--tour", folder / "pictures", "/usr"}, folder / "pictures");
+    TakesItsPictures({"/usr"});
 }
 
 TEST_F(TheTour, ShowsAnEmptyFolderToo)
 {
-    TempFolder folder;
     TempFolder empty;
-    TakesItsPictures({"--tour", folder / "pictures", empty.Path()}, folder / "pictures");
+    TakesItsPictures({empty.Path()});
 }
 
 TEST_F(TheTour, ShowsAFolderWhoseFilesAreOutOfSight)
 {
-    TempFolder folder;
     TempFolder large;
     for (int i = 0; i < 50; ++i)
         fs::create_directories(large / ("a/folder " + std::to_string(i)));
     WriteFile(large / "a/file", "x");
-    TakesItsPictures({"--tour", folder / "pictures", large.Path()}, folder / "pictures");
+    TakesItsPictures({large.Path()});
 }
 
 TEST_F(TheTour, FailsWhereItCannotWrite)
