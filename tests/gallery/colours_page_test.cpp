@@ -1,11 +1,9 @@
 #include <chrono>
 #include <string>
-#include <vector>
 
 #include <gtk/gtk.h>
 #include <wx/checkbox.h>
 #include <wx/dataview.h>
-#include <wx/notebook.h>
 #include <wx/spinctrl.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
@@ -21,7 +19,6 @@ namespace {
 using namespace gallery;
 using namespace gallery::simulated_user;
 using Clock = std::chrono::steady_clock;
-using Strings = std::vector<std::string>;
 
 constexpr int kDarkRedCell = 8;
 constexpr int kIndigoCell = 6;
@@ -46,8 +43,7 @@ protected:
 
     void OpenNextSession()
     {
-        Close();
-        Open("");
+        BrowserTest::OpenNextSession();
         ASSERT_TRUE(PumpUntil([this] { return Combo().IsShownOnScreen(); }));
     }
 
@@ -83,10 +79,10 @@ protected:
         return {};
     }
 
-    /// Presses the mnemonic of an option, which moves the focus to the option's control.
-    void GoTo(char mnemonic, const wxString& name)
+    /// Presses a key, by default the mnemonic of an option, and waits until the option's control has the focus.
+    void GoTo(int key, const wxString& name, int modifiers = wxMOD_ALT)
     {
-        Press(mnemonic, wxMOD_ALT);
+        Press(key, modifiers);
         ASSERT_TRUE(PumpUntil([&] { return HasFocus(Get<wxWindow>(name)); })) << name;
     }
 
@@ -124,8 +120,9 @@ protected:
         PointAt(Popup().ClientToScreen(CentreOf(rect)));
     }
 
-    void ClickCell(int cell)
+    void ChooseColour(int cell)
     {
+        OpenColours();
         PointAtCell(cell);
         Click(wxGetMousePosition());
         ASSERT_TRUE(PumpUntil([this] { return !Combo().IsPopupShown(); }));
@@ -181,14 +178,12 @@ TEST_F(ColoursPageTest, ListsEachEventAsItComes)
 
 TEST_F(ColoursPageTest, AppliesWhatIsChosen)
 {
-    OpenColours();
-    ClickCell(kDarkRedCell);
+    ChooseColour(kDarkRedCell);
     EXPECT_EQ(Page().GetColour(), kDarkRed);
     EXPECT_EQ(Preview(), "Dark red\n#8B0000");
     EXPECT_EQ(Get<wxWindow>("Preview").GetBackgroundColour(), kDarkRed);
     EXPECT_EQ(Get<wxWindow>("PreviewText").GetForegroundColour(), wxColour(255, 255, 255));
-    OpenColours();
-    ClickCell(kYellowCell);
+    ChooseColour(kYellowCell);
     EXPECT_EQ(Get<wxWindow>("Preview").GetBackgroundColour(), wxColour(255, 255, 0));
     EXPECT_EQ(Get<wxWindow>("PreviewText").GetForegroundColour(), wxColour(0, 0, 0));
 }
@@ -218,8 +213,7 @@ TEST_F(ColoursPageTest, AClickBesideThePopupCancels)
 
 TEST_F(ColoursPageTest, ClearEmptiesTheList)
 {
-    OpenColours();
-    ClickCell(kDarkRedCell);
+    ChooseColour(kDarkRedCell);
     ASSERT_FALSE(Events().empty());
     Press('E', wxMOD_ALT);
     EXPECT_TRUE(PumpUntil([&] { return Events().empty(); }));
@@ -263,8 +257,7 @@ TEST_F(ColoursPageTest, TheBoxesAreLeftOutOrHaveOtherTexts)
 
     Press('M', wxMOD_ALT);
     ASSERT_TRUE(PumpUntil([&] { return IsSet("HasMoreColours"); }));
-    Press(WXK_TAB);
-    ASSERT_TRUE(PumpUntil([&] { return HasFocus(Get<wxTextCtrl>("MoreColours")); }));
+    GoTo(WXK_TAB, "MoreColours", wxMOD_NONE);
     Type("mix");
     ASSERT_TRUE(PumpUntil([&] { return Get<wxTextCtrl>("MoreColours").GetValue() == "mix"; }));
     OpenColours();
@@ -282,8 +275,7 @@ TEST_F(ColoursPageTest, TheDefaultColourIsWhatAutomaticGives)
         Press(key);
     EXPECT_TRUE(PumpUntil([&] { return field.GetColour() == kDarkRed; }));
     EXPECT_EQ(Popup().GetDefaultColour(), kDarkRed);
-    OpenColours();
-    ClickCell(CELL_AUTOMATIC);
+    ChooseColour(CELL_AUTOMATIC);
     EXPECT_EQ(Page().GetColour(), kDarkRed);
     EXPECT_EQ(Events().back(), "wxEVT_COLOURPICKER_CHANGED Dark red #8B0000");
 }
@@ -308,8 +300,7 @@ TEST_F(ColoursPageTest, ThereIsAFieldToTypeInUnlessItIsReadOnly)
     Press('Y', wxMOD_ALT);
     ASSERT_TRUE(PumpUntil([&] { return !Combo().HasFlag(wxCB_READONLY); }));
     EXPECT_TRUE(Combo().GetTextCtrl());
-    OpenColours();
-    ClickCell(kIndigoCell);
+    ChooseColour(kIndigoCell);
     EXPECT_EQ(Page().GetColour(), kIndigo);
 }
 
@@ -331,8 +322,7 @@ TEST_F(ColoursPageTest, TheAnimationTakesItsTimeOrIsOff)
     GoTo('N', "Animate");
     Press('N', wxMOD_ALT);
     ASSERT_TRUE(PumpUntil([&] { return IsSet("Animate"); }));
-    Press(WXK_TAB);
-    ASSERT_TRUE(PumpUntil([&] { return HasFocus(Get<wxWindow>("Duration")); }));
+    GoTo(WXK_TAB, "Duration", wxMOD_NONE);
     Type("1500");
     Press(WXK_TAB);
     ASSERT_TRUE(PumpUntil([&] { return Get<wxSpinCtrl>("Duration").GetValue() == 1500; }));
@@ -366,8 +356,7 @@ TEST_F(ColoursPageTest, TabGoesFromTheTopToTheBottom)
 
 TEST_F(ColoursPageTest, EverythingComesBack)
 {
-    OpenColours();
-    ClickCell(kDarkRedCell);
+    ChooseColour(kDarkRedCell);
     for (const char mnemonic : {'A', 'Y', 'R', 'N', 'W'})
         Press(mnemonic, wxMOD_ALT);
     SetNumber('U', "Columns", 5);
@@ -375,8 +364,7 @@ TEST_F(ColoursPageTest, EverythingComesBack)
     SetNumber('G', "Margin", 3);
     GoTo('M', "HasMoreColours");
     Press('M', wxMOD_ALT);
-    Press(WXK_TAB);
-    ASSERT_TRUE(PumpUntil([&] { return HasFocus(Get<wxTextCtrl>("MoreColours")); }));
+    GoTo(WXK_TAB, "MoreColours", wxMOD_NONE);
     Press('x');
     PumpPending();
     OpenNextSession();
@@ -415,8 +403,7 @@ TEST_F(ColoursPageTest, TheWindowClosesWithTheColoursOpen)
 {
     OpenColours();
     PointAtCell(kIndigoCell);
-    Close();
-    Open("");
+    OpenNextSession();
     EXPECT_EQ(Page().GetColour(), wxColour(0, 0, 255));
 }
 

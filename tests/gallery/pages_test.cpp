@@ -3,7 +3,6 @@
 #include <wx/menu.h>
 #include <wx/notebook.h>
 
-#include <gallery/numbers/numbers_page.h>
 #include <tests/gallery/browser/browser_fixture.h>
 
 namespace {
@@ -69,8 +68,7 @@ TEST_F(Pages, AClickOnATabShowsOne)
 TEST_F(Pages, TitleAndMenusFollowThePage)
 {
     Open(root);
-    Tree().SelectPath(root + "/a");
-    ASSERT_TRUE(SelectionComesTo("a"));
+    Select("a");
     EXPECT_TRUE(frame->GetTitle().EndsWith(L"/a \u2013 Fittings Gallery")) << frame->GetTitle();
     for (const int item : {wxID_UP, wxID_REFRESH, wxID_VIEW_LIST, wxID_RESET})
         EXPECT_TRUE(IsEnabled(item)) << item;
@@ -105,8 +103,7 @@ TEST_F(Pages, TheShownPageComesBack)
     Open(root);
     Press('2', wxMOD_ALT);
     ASSERT_TRUE(ShowsPage("Numbers"));
-    Close();
-    Open("");
+    OpenNextSession();
     EXPECT_TRUE(ShowsPage("Numbers"));
     EXPECT_EQ(frame->GetTitle(), L"Numbers \u2013 Fittings Gallery");
     EXPECT_EQ(Tree().GetRootFolder(), root);
@@ -134,9 +131,7 @@ TEST_F(Pages, NonsenseInTheSettingsShowsTheFirst)
 TEST_F(Pages, FloatingFoldersGoAndComeWithTheirPage)
 {
     LeaveFloatingFolders();
-    Close();
-
-    Open("");
+    OpenNextSession();
     ASSERT_TRUE(ShowsPage("Numbers"));
     PumpPending();
     EXPECT_FALSE(Tree().IsShownOnScreen());
@@ -151,9 +146,7 @@ TEST_F(Pages, FloatingFoldersComeBackWhereTheyWereSeen)
 {
     LeaveFloatingFolders();
     frame->GetBrowser()->GetLayout().GetPane(&Tree()).frame->Move(place + wxSize(60, 60));
-    Close();
-
-    Open("");
+    OpenNextSession();
     ASSERT_TRUE(ShowsPage("Numbers"));
     Press('1', wxMOD_ALT);
     EXPECT_TRUE(FoldersComeTo(place));
@@ -169,10 +162,8 @@ TEST_F(Pages, FoldersThatWereNotShownKeepTheirLayout)
     const int dragged = Tree().GetSize().x;
     Press('2', wxMOD_ALT);
     ASSERT_TRUE(ShowsPage("Numbers"));
-    Close();
-    Open("");
-    Close();
-    Open("");
+    OpenNextSession();
+    OpenNextSession();
     Press('1', wxMOD_ALT);
     ASSERT_TRUE(ShowsPage("Browser"));
     EXPECT_TRUE(PumpUntil([&] { return Tree().GetSize().x == dragged; }));

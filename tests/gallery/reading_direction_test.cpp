@@ -1,7 +1,6 @@
 // Texts begin at the left, or at the right for a language that is read from right to left.
 
 #include <gtk/gtk.h>
-#include <wx/stattext.h>
 
 #include <tests/gallery/browser/browser_fixture.h>
 

@@ -36,6 +36,12 @@ void BrowserTest::Close()
     ASSERT_TRUE(PumpUntil([] { return wxTopLevelWindows.empty(); }));
 }
 
+void BrowserTest::OpenNextSession()
+{
+    Close();
+    Open("");
+}
+
 void BrowserTest::Resize(const wxSize& size)
 {
     const auto sizeOnScreen = [this] {
@@ -49,9 +55,9 @@ void BrowserTest::Resize(const wxSize& size)
     PumpPending();
 }
 
-std::vector<std::string> BrowserTest::Rows()
+BrowserTest::Strings BrowserTest::Rows()
 {
-    std::vector<std::string> names;
+    Strings names;
     for (unsigned row = 0; row < List().CountRows(); ++row)
         names.push_back(List().GetEntry(row).name);
     return names;
@@ -59,7 +65,7 @@ std::vector<std::string> BrowserTest::Rows()
 
 unsigned BrowserTest::RowOf(const std::string& name)
 {
-    const std::vector<std::string> names = Rows();
+    const Strings names = Rows();
     const auto found = std::find(names.begin(), names.end(), name);
     EXPECT_NE(found, names.end()) << name;
     return static_cast<unsigned>(found - names.begin());
@@ -88,6 +94,13 @@ void BrowserTest::ClickFolder(const std::string& path)
     Tree().EnsureVisible(item);
     PumpPending();
     Click(CentreOf(LabelRect(Tree(), item)));
+    ASSERT_TRUE(SelectionComesTo(path));
+}
+
+void BrowserTest::Select(const std::string& path)
+{
+    Tree().SelectPath(JoinPath(root, path));
+    ASSERT_TRUE(SelectionComesTo(path));
 }
 
 bool BrowserTest::SelectionComesTo(const std::string& path)

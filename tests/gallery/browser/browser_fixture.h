@@ -18,6 +18,8 @@
 class BrowserTest : public testing::Test
 {
 protected:
+    using Strings = std::vector<std::string>;
+
     BrowserTest();
     ~BrowserTest() override;
 
@@ -28,6 +30,9 @@ protected:
     /// Closes the window as a user does, and waits until it is destroyed.
     void Close();
 
+    /// Closes the window, and opens a window of the next session.
+    void OpenNextSession();
+
     /// Resizes the window and waits until the screen shows all of it in the new size.
     void Resize(const wxSize& size);
 
@@ -35,14 +40,17 @@ protected:
     gallery::ContentsList& List() { return *frame->GetBrowser()->GetList(); }
 
     /// Returns the names in the list, from top to bottom.
-    std::vector<std::string> Rows();
+    Strings Rows();
     unsigned RowOf(const std::string& name);
 
     /// Returns the tree item of the folder at @a path, which is relative to the root. The result is invalid if the tree
     /// does not contain the item.
     wxTreeItemId Item(const std::string& path);
 
+    /// Both functions select a folder of the tree, and wait until the page shows it.
     void ClickFolder(const std::string& path);
+    void Select(const std::string& path);
+
     bool SelectionComesTo(const std::string& path);
 
     /// Makes the pane of the folders float at a place on the screen.

@@ -1,8 +1,6 @@
 #include <filesystem>
 
 #include <wx/menu.h>
-#include <wx/notebook.h>
-#include <wx/stattext.h>
 
 #include <gallery/browser/browser_settings.h>
 #include <gallery/browser/folder_colour_combo.h>
@@ -60,17 +58,17 @@ protected:
         ASSERT_TRUE(PumpUntil([this] { return !Combo().IsPopupShown(); }));
     }
 
+    void ChooseColour(int cell)
+    {
+        OpenColours();
+        ClickCell(cell);
+    }
+
     void PointAtCell(int cell)
     {
         wxRect rect;
         ASSERT_TRUE(Combo().GetPopup()->GetCellRect(cell, rect));
         PointAt(Combo().GetPopup()->ClientToScreen(CentreOf(rect)));
-    }
-
-    void Select(const std::string& path)
-    {
-        Tree().SelectPath(JoinPath(root, path));
-        ASSERT_TRUE(SelectionComesTo(path));
     }
 
     wxColour ColourOf(const std::string& path) { return Tree().GetItemTextColour(Item(path)); }
@@ -87,8 +85,7 @@ protected:
 TEST_F(FolderColours, AClickGivesAFolderOne)
 {
     Select("docs");
-    OpenColours();
-    ClickCell(darkRedCell);
+    ChooseColour(darkRedCell);
     EXPECT_TRUE(PumpUntil([&] { return ColourOf("docs") == shownRed.inTree; }));
     EXPECT_EQ(LocationColour(), shownRed.inLocation);
     EXPECT_EQ(Combo().GetPopup()->GetInitialColour(), darkRed);
@@ -128,8 +125,7 @@ TEST_F(FolderColours, TheComboIsReachedByTab)
 TEST_F(FolderColours, PointingShowsItAndEscapeTakesItBack)
 {
     Select("docs");
-    OpenColours();
-    ClickCell(darkRedCell);
+    ChooseColour(darkRedCell);
     ASSERT_TRUE(PumpUntil([&] { return LocationColour() == shownRed.inLocation; }));
     OpenColours();
     PointAtCell(indigoCell);
@@ -147,12 +143,10 @@ TEST_F(FolderColours, AutomaticTakesItAway)
 {
     Select("docs");
     const wxColour plain = LocationColour();
-    OpenColours();
-    ClickCell(indigoCell);
+    ChooseColour(indigoCell);
     ASSERT_TRUE(PumpUntil([&] { return ColourOf("docs") == shownIndigo.inTree; }));
     ASSERT_NE(ReadFile(settings / "settings.ini").find("#4B0082"), std::string::npos);
-    OpenColours();
-    ClickCell(CELL_AUTOMATIC);
+    ChooseColour(CELL_AUTOMATIC);
     EXPECT_TRUE(PumpUntil([&] { return !ColourOf("docs").IsOk(); }));
     EXPECT_EQ(LocationColour(), plain);
     EXPECT_EQ(ReadFile(settings / "settings.ini").find("docs="), std::string::npos);
@@ -166,8 +160,7 @@ TEST_F(FolderColours, AutomaticTakesItAway)
 TEST_F(FolderColours, BlackIsNotAutomatic)
 {
     Select("docs");
-    OpenColours();
-    ClickCell(0);
+    ChooseColour(0);
     EXPECT_TRUE(PumpUntil([&] { return ColourOf("docs") == shownBlack.inTree; }));
     EXPECT_EQ(browser_settings::LoadFolderColour(root + "/docs"), wxColour(0, 0, 0));
 }
@@ -176,8 +169,7 @@ TEST_F(FolderColours, CanBeReadOnADarkBackground)
 {
     Tree().SetBackgroundColour(wxColour(45, 45, 45));
     Select("docs");
-    OpenColours();
-    ClickCell(13);  // blue
+    ChooseColour(13);  // blue
     EXPECT_TRUE(PumpUntil([&] { return ColourOf("docs") == wxColour(135, 135, 255); }));
     EXPECT_EQ(browser_settings::LoadFolderColour(root + "/docs"), wxColour(0, 0, 255));
 }
@@ -205,11 +197,9 @@ TEST_F(FolderColours, TheFoldersOwnIsMarked)
 TEST_F(FolderColours, EachFolderStartsWithItsOwn)
 {
     Select("docs");
-    OpenColours();
-    ClickCell(CELL_AUTOMATIC);
+    ChooseColour(CELL_AUTOMATIC);
     Select("music");
-    OpenColours();
-    ClickCell(indigoCell);
+    ChooseColour(indigoCell);
     Select("docs");
     Select("music");
     OpenColours();
@@ -228,14 +218,11 @@ TEST_F(FolderColours, EachFolderStartsWithItsOwn)
 TEST_F(FolderColours, ComeBack)
 {
     Select("docs");
-    OpenColours();
-    ClickCell(darkRedCell);
+    ChooseColour(darkRedCell);
     Tree().Expand(Item("docs"));
     Select("docs/letters");
-    OpenColours();
-    ClickCell(indigoCell);
-    Close();
-    Open("");
+    ChooseColour(indigoCell);
+    OpenNextSession();
     EXPECT_EQ(ColourOf("docs"), shownRed.inTree);
     EXPECT_EQ(ColourOf("docs/letters"), shownIndigo.inTree);
     EXPECT_EQ(LocationColour(), shownIndigo.inLocation);

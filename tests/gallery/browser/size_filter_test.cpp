@@ -13,7 +13,6 @@ namespace {
 using namespace gallery;
 using namespace gallery::simulated_user;
 namespace fs = std::filesystem;
-using Strings = std::vector<std::string>;
 
 /// Counts the critical messages of GLib and GTK while the object exists.
 class CriticalMessages
@@ -164,8 +163,7 @@ TEST_F(SizeFilterTest, FoldersGoAsTheyProveTooSmall)
     Filter("4");
     Press(WXK_F5);
     EXPECT_TRUE(RowsBecome({"many"}));
-    Tree().SelectPath(root + "/many");
-    ASSERT_TRUE(SelectionComesTo("many"));
+    Select("many");
     EXPECT_TRUE(RowsBecome({"30"}));
     EXPECT_TRUE(Status(0).EndsWith("50 items; showing 1 of at least 4 MB")) << Status(0);
 }
@@ -228,8 +226,7 @@ TEST_F(SizeFilterTest, HoldsInEachFolderAndOnTheWayBack)
 {
     Filter("2");
     ASSERT_TRUE(RowsBecome({"3 MB"}));
-    Tree().SelectPath(root + "/large folder");
-    ASSERT_TRUE(SelectionComesTo("large folder"));
+    Select("large folder");
     EXPECT_TRUE(RowsBecome({}));
     Press(WXK_UP, wxMOD_ALT);
     ASSERT_TRUE(SelectionComesTo(""));
@@ -247,8 +244,7 @@ TEST_F(SizeFilterTest, ComesBack)
     EXPECT_TRUE(RowsBecome({"large folder", "1.5 MB", "3 MB"}));
     Filter("\x1B");
     EXPECT_TRUE(RowsBecome(all));
-    Close();
-    Open("");
+    OpenNextSession();
     EXPECT_EQ(Field().GetValue(), "");
     EXPECT_TRUE(RowsBecome(all));
 }

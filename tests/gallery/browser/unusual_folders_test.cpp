@@ -4,7 +4,6 @@
 #include <wx/infobar.h>
 
 #include <gallery/folders/folder_listing.h>
-#include <gallery/folders/native_text.h>
 #include <tests/gallery/browser/browser_fixture.h>
 #include <tests/support/process/as_nobody.h>
 #include <tests/support/process/processor_time.h>
@@ -14,7 +13,6 @@ namespace {
 using namespace gallery;
 using namespace gallery::simulated_user;
 namespace fs = std::filesystem;
-using Strings = std::vector<std::string>;
 
 class UnusualFolders : public BrowserTest
 {
@@ -39,8 +37,7 @@ TEST_F(UnusualFolders, ALinkToAFolderIsALeaf)
     fs::create_directory(temp / "folder");
     fs::create_symlink("..", temp / "folder/circle");
     Open(root);
-    Tree().SelectPath(root + "/folder");
-    ASSERT_TRUE(SelectionComesTo("folder"));
+    Select("folder");
     EXPECT_EQ(Tree().GetChildrenCount(Item("folder")), 0u);
     EXPECT_FALSE(Tree().ItemHasChildren(Item("folder")));
     ASSERT_EQ(Rows(), Strings{"circle"});
@@ -59,7 +56,6 @@ TEST_F(UnusualFolders, AnUndecodableNameIsShownAndOpened)
     ASSERT_TRUE(SelectionComesTo("caf\xE9"));
     Tree().Expand(Item("caf\xE9"));
     ClickFolder("caf\xE9/deep\xFF");
-    ASSERT_TRUE(SelectionComesTo("caf\xE9/deep\xFF"));
     EXPECT_EQ(Rows(), Strings{"file"});
 }
 
@@ -73,11 +69,9 @@ TEST_F(UnusualFolders, AnUnreadableOneIsSaidToBe)
     EXPECT_FALSE(HasNote());
     EXPECT_FALSE(Tree().ItemHasChildren(Item("private")));
     ClickFolder("private");
-    ASSERT_TRUE(SelectionComesTo("private"));
     EXPECT_EQ(List().CountRows(), 0u);
     EXPECT_TRUE(HasNote());
     ClickFolder("");
-    ASSERT_TRUE(SelectionComesTo(""));
     EXPECT_TRUE(PumpUntil([&] { return !HasNote(); }));
 }
 
@@ -123,7 +117,8 @@ TEST_F(UnusualFolders, AHundredThousandEntriesAreShownInAMoment)
         EXPECT_LT(seconds, 8) << what;
     };
     measure(
-        "seconds_to_show", [&] { ClickFolder("many"); }, [&] { return List().CountRows() == 100000; });
+        "seconds_to_show", [&] { Click(CentreOf(LabelRect(Tree(), Item("many")))); },
+        [&] { return List().CountRows() == 100000; });
     EXPECT_EQ(List().GetEntry(99999).name, "file99999");
     measure(
         "seconds_to_reverse", [&] { Click(CentreOf(HeaderRect(List(), SortColumn::Name))); },
@@ -140,8 +135,7 @@ TEST_F(UnusualFolders, ALongChainIsOpened)
     const std::string deepest = root + path.substr(temp.Path().size());
     Tree().SelectPath(deepest);
     ASSERT_TRUE(PumpUntil([&] { return Tree().GetSelectedPath() == deepest; }));
-    Close();
-    Open("");
+    OpenNextSession();
     EXPECT_EQ(Tree().GetSelectedPath(), deepest);
 }
 

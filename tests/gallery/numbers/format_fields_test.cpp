@@ -57,13 +57,11 @@ INSTANTIATE_TEST_SUITE_P(, NumbersPageFlag,
 
 TEST_F(NumbersPageTest, SeparatorsAreTyped)
 {
-    Press('P', wxMOD_ALT);
-    ASSERT_TRUE(FocusComesTo("DecimalPoint"));
+    GoTo("DecimalPoint", 'P');
     Type(",");
     EXPECT_TRUE(PumpUntil([&] { return Format().m_chDecimalPoint == L','; }));
     EXPECT_EQ(Label("DecimalPointCode"), "U+002C");
-    Press('T', wxMOD_ALT);
-    ASSERT_TRUE(FocusComesTo("ThousandsSep"));
+    GoTo("ThousandsSep", 'T');
     Type("'");
     EXPECT_TRUE(PumpUntil([&] { return Format().m_chThousandsSep == L'\''; }));
     EXPECT_EQ(Label("ThousandsSepCode"), "U+0027");
@@ -79,14 +77,12 @@ TEST_F(NumbersPageTest, LimitsAreTypedOnceTheyAreInForce)
     EXPECT_FALSE(Get<wxTextCtrl>("Max").IsEnabled());
     Press('M', wxMOD_ALT);
     ASSERT_TRUE(PumpUntil([&] { return Get<wxTextCtrl>("Min").IsEnabled(); }));
-    Press(WXK_TAB);
-    ASSERT_TRUE(FocusComesTo("Min"));
+    GoTo("Min", WXK_TAB, wxMOD_NONE);
     Type("-1x.5");
     EXPECT_EQ(Format().m_dMin, -1.5);
     Press('U', wxMOD_ALT);
     ASSERT_TRUE(PumpUntil([&] { return Get<wxTextCtrl>("Max").IsEnabled(); }));
-    Press(WXK_TAB);
-    ASSERT_TRUE(FocusComesTo("Max"));
+    GoTo("Max", WXK_TAB, wxMOD_NONE);
     Type("2e1");
     EXPECT_EQ(Format().m_dMax, 20);
     EXPECT_EQ(Result("ValidateString"), L"\u2717 refused") << "1234.5 is above 20";
@@ -95,21 +91,18 @@ TEST_F(NumbersPageTest, LimitsAreTypedOnceTheyAreInForce)
     ASSERT_TRUE(PumpUntil([&] { return !Get<wxSpinCtrl>("Decimals").IsEnabled(); }));
     Press('D', wxMOD_ALT);
     ASSERT_TRUE(PumpUntil([&] { return Get<wxSpinCtrl>("Decimals").IsEnabled(); }));
-    Press(WXK_TAB);
-    ASSERT_TRUE(FocusComesTo("Decimals"));
+    GoTo("Decimals", WXK_TAB, wxMOD_NONE);
     Press(WXK_UP);
     EXPECT_TRUE(PumpUntil([&] { return Format().m_nDecimals == 3; }));
     Press(WXK_TAB);
-    Press(WXK_TAB);
-    ASSERT_TRUE(FocusComesTo("MaxIntDigits"));
+    GoTo("MaxIntDigits", WXK_TAB, wxMOD_NONE);
     Press(WXK_DOWN);
     EXPECT_TRUE(PumpUntil([&] { return Format().m_nMaxIntDigits == 4; }));
 }
 
 TEST_F(NumbersPageTest, TemplatesAreChosenAndNeverTyped)
 {
-    Press('L', wxMOD_ALT);
-    ASSERT_TRUE(FocusComesTo("Template"));
+    GoTo("Template", 'L');
     Press(WXK_DOWN);
     EXPECT_TRUE(PumpUntil([&] { return Format().m_strTemplate == L"%s kg"; }));
     EXPECT_TRUE(PumpUntil([&] { return Result("FormatControlText") == "1,234.50 kg"; }));
@@ -128,8 +121,7 @@ TEST_F(NumbersPageTest, PresetsFillEveryField)
     Press('E', wxMOD_ALT);
     Press('M', wxMOD_ALT);
     Press('R', wxMOD_ALT);
-    Press('L', wxMOD_ALT);
-    ASSERT_TRUE(FocusComesTo("Template"));
+    GoTo("Template", 'L');
     Press(WXK_DOWN);
     Press('O', wxMOD_ALT);
     ASSERT_TRUE(PumpUntil([&] { return !Format().m_bGroupDigits; }));

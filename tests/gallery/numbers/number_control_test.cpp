@@ -11,14 +11,12 @@ TEST_F(NumbersPageTest, TheControlTellsItsNumberAtEachKey)
 {
     const wxNumberCtrl& control = Get<wxNumberCtrl>("NumberCtrl");
     EXPECT_EQ(Label("NumberCtrlNumber"), L"\u2713 1234.5");
-    Press('A', wxMOD_ALT);
-    ASSERT_TRUE(FocusComesTo("NumberCtrl"));
+    GoTo("NumberCtrl", 'A');
     Press('A', wxMOD_CONTROL);
     Type("-12x345.67");
     EXPECT_TRUE(PumpUntil([&] { return Label("NumberCtrlNumber") == L"\u2713 -12345.67"; }));
     // When the format changes, the control shows its number in the new format.
-    Press('P', wxMOD_ALT);
-    ASSERT_TRUE(FocusComesTo("DecimalPoint"));
+    GoTo("DecimalPoint", 'P');
     Type(",");
     EXPECT_TRUE(PumpUntil([&] { return control.GetValue() == "12,345,67-"; })) << control.GetValue();
     EXPECT_EQ(Label("NumberCtrlNumber"), L"\u2713 -12345.67");
@@ -30,14 +28,12 @@ TEST_F(NumbersPageTest, TheControlTellsWhyANumberIsBeyondTheBounds)
 {
     Press('U', wxMOD_ALT);
     ASSERT_TRUE(PumpUntil([&] { return Get<wxTextCtrl>("Max").IsEnabled(); }));
-    Press(WXK_TAB);
-    ASSERT_TRUE(FocusComesTo("Max"));
+    GoTo("Max", WXK_TAB, wxMOD_NONE);
     Type("20");
     EXPECT_TRUE(PumpUntil([&] {
         return Label("NumberCtrlNumber") == L"\u2717 The number is too high: the highest is 20.00.";
     })) << Label("NumberCtrlNumber");
-    Press('A', wxMOD_ALT);
-    ASSERT_TRUE(FocusComesTo("NumberCtrl"));
+    GoTo("NumberCtrl", 'A');
     Press('A', wxMOD_CONTROL);
     Press(WXK_BACK);
     EXPECT_TRUE(PumpUntil([&] { return Label("NumberCtrlNumber").empty(); })) << Label("NumberCtrlNumber");

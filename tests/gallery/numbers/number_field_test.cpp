@@ -45,8 +45,7 @@ TEST_F(NumbersPageTest, ResultsFollowEachKey)
 TEST_F(NumbersPageTest, VerdictsWhileTypingAndOnTheWholeDiffer)
 {
     Press('M', wxMOD_ALT);
-    Press(WXK_TAB);
-    ASSERT_TRUE(FocusComesTo("Min"));
+    GoTo("Min", WXK_TAB, wxMOD_NONE);
     Type("0.01");
     TypeNumber("0.0");
     EXPECT_EQ(Number().GetValue(), "0.0");

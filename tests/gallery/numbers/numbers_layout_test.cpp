@@ -42,10 +42,8 @@ TEST_F(NumbersPageTest, FitsIntoASmallWindow)
             EXPECT_LE(WindowRect(*part).GetRight(), WindowRect(page).GetRight()) << part->GetName();
         }
         // A control outside the visible part of the page is scrolled into view when it gets the focus.
-        Press('N', wxMOD_ALT);
-        ASSERT_TRUE(FocusComesTo("Number"));
-        Press('L', wxMOD_ALT);
-        ASSERT_TRUE(FocusComesTo("Template"));
+        GoTo("Number", 'N');
+        GoTo("Template", 'L');
         EXPECT_TRUE(PumpUntil([&] { return WindowRect(page).Contains(WindowRect(Get<wxChoice>("Template"))); }));
     }
 }

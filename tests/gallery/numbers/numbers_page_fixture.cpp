@@ -7,14 +7,12 @@ using namespace gallery::simulated_user;
 void NumbersPageTest::OpenPage()
 {
     Open(temp.Path());
-    Press('2', wxMOD_ALT);
-    ASSERT_TRUE(FocusComesTo("Number"));
+    GoTo("Number", '2');
 }
 
 void NumbersPageTest::OpenNextSession()
 {
-    Close();
-    Open("");
+    BrowserTest::OpenNextSession();
     ASSERT_TRUE(PumpUntil([this] { return Number().IsShownOnScreen(); }));
 }
 
@@ -36,6 +34,12 @@ bool NumbersPageTest::FocusComesTo(const wxString& name)
     return PumpUntil([&] { return FocusName() == name; });
 }
 
+void NumbersPageTest::GoTo(const wxString& name, int key, int modifiers)
+{
+    Press(key, modifiers);
+    ASSERT_TRUE(FocusComesTo(name)) << name;
+}
+
 void NumbersPageTest::Type(const std::string& text)
 {
     for (const char key : text) {
@@ -49,8 +53,7 @@ void NumbersPageTest::Type(const std::string& text)
 
 void NumbersPageTest::TypeNumber(const std::string& text)
 {
-    Press('N', wxMOD_ALT);
-    ASSERT_TRUE(FocusComesTo("Number"));
+    GoTo("Number", 'N');
     Number().SelectAll();
     Press(WXK_BACK);
     Type(text);

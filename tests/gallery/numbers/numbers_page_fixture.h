@@ -37,6 +37,9 @@ protected:
     wxString FocusName();
     bool FocusComesTo(const wxString& name);
 
+    /// Presses a key, by default the mnemonic of a control, and waits until the control has the focus.
+    void GoTo(const wxString& name, int key, int modifiers = wxMOD_ALT);
+
     void Type(const std::string& text);
 
     /// Types a text in place of the text of the number's field. The field may refuse some of the keys.
