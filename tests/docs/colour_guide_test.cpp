@@ -47,8 +47,7 @@ TEST(ColourGuide, GivesTheColourBeforeAndAfterTheMove)
         control->HandleWindowEvent(event);
         EXPECT_EQ(line, *wxRED);
     }
-    frame->Destroy();
-    PumpPending();
+    DestroyNow(frame);
 }
 
 TEST(ColourGuide, MovesTheColourOfADialog)

@@ -266,8 +266,7 @@ TEST_F(Guide, TakesOverTheGeometryOfTheToolkitsPersistence)
 {
     wxFrame* frame = NewFrame(m_somewhere);
     before::Remember(frame);
-    frame->Destroy();
-    PumpPending();
+    DestroyNow(frame);
 
     frame = NewFrame(m_elsewhere);
     TakeOver(frame);
@@ -290,8 +289,7 @@ TEST_F(Guide, TakesOverAMaximisedWindow)
     ASSERT_TRUE(ShowAndSettle(frame));
     frame->Maximize();
     ASSERT_TRUE(PumpUntil([&] { return frame->IsMaximized(); }));
-    frame->Destroy();
-    PumpPending();
+    DestroyNow(frame);
 
     frame = NewFrame(m_elsewhere);
     TakeOver(frame);

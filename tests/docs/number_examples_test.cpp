@@ -1,7 +1,5 @@
 // The examples of the number control in the public headers and in docs, word for word.
 
-#include <cstdint>
-
 #include <gtest/gtest.h>
 
 #include <wx/wx.h>
@@ -34,8 +32,7 @@ TEST(NumberExamples, ShowAWeight)
     auto* const frame = new WeightFrame;
     EXPECT_EQ(frame->field->GetValue(), "72.500");
     frame->field->SetValue("80");
-    frame->Destroy();
-    PumpPending();
+    DestroyNow(frame);
 }
 
 class PriceDialog : public wxDialog
