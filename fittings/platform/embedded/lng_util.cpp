@@ -3,6 +3,7 @@
 #include <dlfcn.h>
 
 #include <filesystem>
+#include <mutex>
 #include <system_error>
 #include <unordered_set>
 
@@ -39,13 +40,11 @@ void LoadOwnCatalogue(wxTranslations& translations)
 {
     if (translations.IsLoaded(kLibraryDomain))
         return;
-    static const bool searched = [] {
-        const wxString folder = CatalogueFolder();
-        if (!folder.empty())
+    static std::once_flag searched;
+    std::call_once(searched, [] {
+        if (const wxString folder = CatalogueFolder(); !folder.empty())
             wxFileTranslationsLoader::AddCatalogLookupPathPrefix(folder);
-        return true;
-    }();
-    static_cast<void>(searched);
+    });
     translations.AddCatalog(kLibraryDomain);
 }
 

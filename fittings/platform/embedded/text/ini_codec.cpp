@@ -23,13 +23,6 @@ bool IsByte(char32_t code)
     return code >= kByteBase + 0x80 && code <= kByteBase + 0xFF;
 }
 
-std::string_view WithoutBlanksAtEnd(std::string_view text)
-{
-    while (!text.empty() && g_ascii_isspace(text.back()))
-        text.remove_suffix(1);
-    return text;
-}
-
 struct Decoded
 {
     char32_t code;
@@ -132,11 +125,6 @@ std::optional<Decoded> ReadEscape(std::string_view text)
     return ReadNumber(text, "\\x", "\\u{");
 }
 
-bool IsQuoted(std::string_view value)
-{
-    return value.size() >= 2 && value.front() == '"' && value.back() == '"';
-}
-
 // Decodes the part of a value between the quotes. Returns nothing if this part is not well formed.
 std::optional<std::wstring> Unquoted(std::string_view inner)
 {
@@ -204,8 +192,9 @@ std::string EncodeValue(std::wstring_view text)
 
 std::wstring DecodeValue(std::string_view value)
 {
-    value = WithoutBlanksAtEnd(value);  // a value has no blanks at its beginning
-    if (IsQuoted(value)) {
+    while (!value.empty() && g_ascii_isspace(value.back()))
+        value.remove_suffix(1);
+    if (value.size() >= 2 && value.front() == '"' && value.back() == '"') {
         if (auto text = Unquoted(value.substr(1, value.size() - 2)))
             return *std::move(text);
     }

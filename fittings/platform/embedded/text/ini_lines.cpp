@@ -23,10 +23,8 @@ const std::array<bool, 256> kPlainCharacters = [] {
 
 std::size_t PlainLength(std::string_view text)
 {
-    std::size_t length = 0;
-    while (length < text.size() && kPlainCharacters[static_cast<unsigned char>(text[length])])
-        ++length;
-    return length;
+    const auto isPlain = [](char byte) { return kPlainCharacters[static_cast<unsigned char>(byte)]; };
+    return static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), isPlain) - text.begin());
 }
 
 // Returns whether @a suffix, which begins with '[', is like "[de]" in the key Name[de]: it may contain letters, digits
