@@ -279,12 +279,15 @@ TEST(ColourListenerInItsCalls, MayDestroyWhatIsBeingDestroyed)
             if (call == "cancel")
                 control.combo->Destroy();
         };
+        int closeups = 0;
+        control.combo->Bind(wxEVT_COMBOBOX_CLOSEUP, [&](wxCommandEvent&) { ++closeups; });
         control.Open();
         if (deleted)
             delete control.combo.get();
         else
             control.panel->Destroy();
         EXPECT_EQ(control.listener.Take(), (ColourCalls{"popup", "cancel #0000FF"}));
+        EXPECT_EQ(closeups, 1);
         EXPECT_FALSE(control.combo);
         PumpPending();
     }
