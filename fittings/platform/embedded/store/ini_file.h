@@ -21,7 +21,7 @@ class CIniFile
 {
 public:
     /// Replaces the content with that of the file. Returns false when the file could not be read, or when its bytes
-    /// contain no settings and are not readable text. Waits until an empty file is filled, as ReadFileBytes() does.
+    /// contain no settings and are not readable text. Waits for an empty file to be filled, at most until @a deadline.
     bool Load(const std::string& path, std::chrono::steady_clock::time_point deadline = {});
 
     /// Loads the file and applies the changes to the loaded content. Does nothing if the path and the revision of the

@@ -17,8 +17,8 @@ constexpr std::chrono::milliseconds kTimeToGetTheLock(1800);
 // How long a write waits for the lock while other processes get it, one after another.
 constexpr std::chrono::seconds kTimeInABusyQueue(10);
 
-// How much longer a write waits, in total, for a file that is being filled and for an exchange by another process. If a
-// process is stuck, all waits together stay below two seconds.
+// How much longer a write waits, in total, for an empty file to be filled and for another process to finish its
+// exchange of two files. If a process is stuck, all waits together stay below two seconds.
 constexpr std::chrono::milliseconds kTimeBeyondTheLock(100);
 
 // A save is attempted again each time that another process saves first. The save fails after this many attempts, but
@@ -29,7 +29,7 @@ constexpr int kMaxAttempts = 100;
 
 SharedFile& SharedFile::At(const std::string& path)
 {
-    // Never destroyed: an application's own objects may store settings while the process ends.
+    // Never destroyed: static objects of the application may store settings while the process ends.
     static auto& mutex = *new std::mutex;
     static auto& files = *new std::map<std::string, SharedFile>;
     const std::lock_guard<std::mutex> lock(mutex);
@@ -38,7 +38,7 @@ SharedFile& SharedFile::At(const std::string& path)
 
 bool SharedFile::Store(const std::vector<SettingsChange>& changes)
 {
-    // Read the clock before locking the mutex: the wait for another thread counts too.
+    // Read the clock before locking the mutex: the time limits include the wait for other threads of this process.
     const Clock::time_point start = Clock::now();
     if (!file_util_ex::Mkdir(file_util_ex::ConvertFromUTF8W(FolderOf(m_path))))
         return false;

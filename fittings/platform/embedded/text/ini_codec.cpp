@@ -15,7 +15,7 @@ namespace fittings {
 
 namespace {
 
-// The code of a byte that is not UTF-8 is this number plus the byte, which is from 0x80 to 0xFF.
+// In wide text, a byte that is not UTF-8 (0x80 to 0xFF) is represented by this number plus the byte.
 constexpr char32_t kByteBase = 0xDC00;
 
 bool IsByte(char32_t code)
@@ -36,8 +36,8 @@ Decoded DecodeNext(std::string_view text)
                      : Decoded{kByteBase + static_cast<unsigned char>(text.front()), 1};
 }
 
-// Appends an escaped character. For a byte or an ASCII character: @a byteMark and two hexadecimal digits. For any other
-// character: @a codeMark, a hexadecimal number and a closing brace.
+// Appends an escaped character. If @a code is ASCII or represents a byte: @a byteMark and two hexadecimal digits.
+// Otherwise: @a codeMark, a hexadecimal number and a closing brace.
 void AppendNumber(std::string& out, char32_t code, const char* byteMark, const char* codeMark)
 {
     const bool isByte = code < 0x80 || IsByte(code);

@@ -16,7 +16,7 @@ struct IniLine
     std::size_t end;   ///< Where the line end begins.
     std::size_t next;  ///< Where the next line begins.
     std::string_view name;
-    bool isPlainName;   ///< True if the name is certainly as EncodeName() writes it.
+    bool isPlainName;   ///< True if IsPlainInName() is true for every byte of the name.
     std::size_t value;  ///< Where the value of a key begins.
 };
 

@@ -87,7 +87,7 @@ private:
     struct Entry
     {
         std::string_view name;
-        std::size_t line = kNone;  ///< The line that counts. kNone: the key is new.
+        std::size_t line = kNone;  ///< Index of the line whose value counts. kNone: the key is new.
         bool hasOwnName = false;   ///< True if the section and the key of the line are as EncodeName() writes them.
         State state = State::AsRead;
         std::string value = {};  ///< The value that was set.
@@ -100,7 +100,7 @@ private:
         std::unordered_map<std::string_view, std::size_t> indices = {};  ///< Indices of the entries, by name.
         std::size_t lastLine = kNone;  ///< The line after which new keys are inserted. kNone: the section is new.
         bool hasOwnName = false;       ///< True if the section line of lastLine is as EncodeName() writes it.
-        bool isMade = false;           ///< True after AddSection().
+        bool isMade = false;           ///< True if AddSection() made the section.
         bool isRemoved = false;
     };
 
@@ -112,7 +112,7 @@ private:
         std::size_t end;   ///< Where the line end begins.
         std::size_t next;  ///< Where the next line begins.
         const Section* section;
-        std::size_t entry;  ///< kNone: the line of the section itself.
+        std::size_t entry;  ///< kNone for a section line.
     };
 
     std::string_view NameOf(const IniLine& line);
@@ -127,7 +127,7 @@ private:
     const char* LineEnd() const;
 
     const std::string m_text;
-    std::deque<std::string> m_names;                                  ///< Names that are not in the text.
+    std::deque<std::string> m_names;                                  ///< Owns the names that are not part of m_text.
     std::deque<Section> m_sections;                                   ///< Includes removed sections.
     std::unordered_map<std::string_view, Section*> m_sectionsByName;  ///< Without removed sections.
     std::vector<Line> m_lines;
