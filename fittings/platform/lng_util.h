@@ -29,7 +29,7 @@ class CLanguageDomain
 public:
     CLanguageDomain() = default;
 
-    /// Names the catalogue as gettext does: the file name is @a name followed by ".mo".
+    /// Names a catalogue by its gettext domain: the file name of the catalogue is @a name followed by ".mo".
     explicit CLanguageDomain(const CStdStr<wchar_t>& name) : m_name(name) {}
 
     /// Returns the name of the catalogue.

@@ -14,8 +14,8 @@ namespace fittings {
 /// A key and its value.
 struct SettingsEntry
 {
-    std::wstring key;    ///< Any text.
-    std::wstring value;  ///< Any text.
+    std::wstring key;    ///< The name of the key, which may be empty.
+    std::wstring value;  ///< The value, which may be empty.
 };
 
 /// A change of a key or of a section. CLocalRegStore::SaveChanges() saves several changes together.
@@ -23,10 +23,10 @@ struct SettingsChange
 {
     std::wstring section;               ///< The section. Section, key and value must not contain a null character.
     std::wstring key;                   ///< The key to set or to remove.
-    std::optional<std::wstring> value;  ///< The new value. Without a value, removes the key as DeleteKey() does.
+    std::optional<std::wstring> value;  ///< The new value, or none to remove the key as DeleteKey() does.
 
-    /// True for a change of the section itself; the key is then ignored. With any value, the change creates the
-    /// section, even if the section has no key. Without a value, the change removes the section if no key is left in it
+    /// True for a change of the section itself; the key is then ignored. With any value, the change creates an empty
+    /// section if there is none with that name. Without a value, the change removes the section if no key is left in it
     /// after all changes of keys.
     bool isOfSection = false;
 };
@@ -48,9 +48,10 @@ class CIniFile;
 /// The default store is the file settings.ini in std_file_paths::GetUserDataDir(). All processes of one application
 /// share it. Each write first reads the file again, and then changes only the given keys. When the write returns true,
 /// the file with the change is on the disk, except in a Batch. Changes that other processes write at the same time are
-/// kept. A write waits at most two seconds for another process that is stuck; a read never waits. Some file systems,
-/// such as NFS, cannot exchange two files atomically. There, one of two writes within the same few microseconds can be
-/// lost if the lock file settings.ini.lock cannot be used.
+/// kept. A write waits at most two seconds for another process that is stuck; a read never waits.
+///
+/// A write locks the file settings.ini.lock in the same folder. If it cannot get the lock, and the file system cannot
+/// exchange two files atomically (NFS, for example), one of two writes within the same few microseconds can be lost.
 ///
 /// A file of more than 64 MiB or of more than a million lines counts as a file that cannot be read. A write fails if
 /// the file would exceed one of these limits.
@@ -127,9 +128,10 @@ public:
     /// The first call with @a ini always replaces the content. So does a call whose path differs from that of the last
     /// call.
     ///
-    /// Returns false when @a ini was left as it was, with the changes that were made in it since the last call. A file
-    /// that cannot be read counts as empty. A file that another program has emptied less than half a second ago counts
-    /// as not changed. Do not pass @a ini to Save(): store changes with SaveChanges().
+    /// Returns true when the content was replaced: changes made in @a ini since the last call are then lost. Returns
+    /// false when @a ini was not touched: it keeps such changes. A file that cannot be read counts as empty. A file
+    /// that another program has emptied less than half a second ago counts as not changed. Do not pass @a ini to
+    /// Save(): store changes with SaveChanges().
     static bool Refresh(CIniFile& ini, const wchar_t* path);
 
     /// Returns whether the file is still as the last Refresh() of @a ini read it. Returns false after Refresh() has
@@ -156,7 +158,8 @@ public:
     /// Stores a value. Returns false when it could not be saved; the earlier value then remains.
     static bool WriteString(const wchar_t* section, const wchar_t* key, const wchar_t* value);
 
-    /// Returns a stored boolean, or @a defaultValue when there is none or the stored text is not a boolean.
+    /// Returns true for the stored text "true", "yes" or "1", and false for "false", "no" or "0"; upper and lower case
+    /// do not differ. Returns @a defaultValue for any other text, and when nothing is stored.
     static bool GetProfileBool(const wchar_t* section, const wchar_t* key, bool defaultValue);
 
     /// Stores a boolean. Returns the result of WriteString().
@@ -202,7 +205,7 @@ public:
     static bool WriteString(const char* section, const char* key, const char* value);
 
     /// @}
-    /// @name With texts of any kind
+    /// @name Overloads for texts of any kind
     /// @{
 
     /// Does the same as the overload for wide text.
@@ -362,9 +365,9 @@ public:
     Batch(const Batch&) = delete;
     Batch& operator=(const Batch&) = delete;
 
-    /// Saves all changes that this thread has collected so far, including those that the objects around this one have
-    /// collected: all of them or none. Returns false when the changes could not be saved. They then stay collected, and
-    /// the destructor of the outermost object tries again.
+    /// Saves all changes that this thread has collected so far, even those from before this object was made: all of
+    /// them or none. Returns false when the changes could not be saved. They then stay collected, and the destructor of
+    /// the outermost object tries again.
     bool Save();
 
 private:
