@@ -77,9 +77,8 @@ public:
     /// still arrive.
     void StartKill();
 
-    /// Makes the worker post one event of type @a eventType to the handler when Entry() has ended. This includes an end
-    /// after StartKill() or by an exception. Call SetEndEvent() before RunThread(). By default, no such event is
-    /// posted.
+    /// Makes the worker post one event of type @a eventType to the handler when Entry() has returned or thrown an
+    /// exception, even after StartKill(). Call SetEndEvent() before RunThread(). By default, no such event is posted.
     ///
     /// The event is a wxCommandEvent. Its int is GetRunNumber(), and its client data is the result of Entry(). When the
     /// event arrives, HasEnded() is true and Wait() returns at once.

@@ -35,15 +35,15 @@ class wxThreadExImpl;
 /// @endcode
 ///
 /// The owner's thread makes the object, calls Create(), Run() and Wait(), and destroys the object, in this order. The
-/// toolkit must be initialised before. An object runs only once. If Create() or Run() fails, the object cannot be used
-/// again: make another object.
+/// toolkit must be initialised before the object is made. An object runs only once. If Create() or Run() fails, the
+/// object cannot be used again: make another object.
 ///
 /// - The class does not pause the work or end it early. In Entry(), wxThread::This() is a detached thread of the
 ///   toolkit. Entry() may call GetId() and TestDestroy() of this thread. This class never calls Pause() or Delete() of
 ///   this thread, but the host may.
-/// - The destructor waits, but only after the members of the derived class are destroyed. If the thread begins to run
-///   only then, the Entry() of the derived class no longer exists, and the process aborts. So call Wait() before, in
-///   the owner or in the destructor of the most derived class.
+/// - The destructor waits, but only after the members of the derived class are destroyed. If the thread has not called
+///   Entry() by then, the Entry() of the derived class no longer exists, and the process aborts. So call Wait()
+///   earlier: in the owner, or in the destructor of the most derived class.
 /// - A detached object must outlive its thread: the thread writes into the object when Entry() has returned, and
 ///   neither Wait() nor the destructor waits for that. So destroy a detached object only when HasEnded() or WaitFor()
 ///   has returned true, or keep it until the process ends. Do not shut the toolkit down while the thread runs.
@@ -66,14 +66,14 @@ public:
     /// Makes the thread, which then waits for Run().
     ///
     /// @param stackSize is not used: every thread has the toolkit's default stack.
-    /// @return the result of the toolkit's Create(): wxTHREAD_NO_ERROR, or wxTHREAD_NO_RESOURCE when the system cannot
-    ///         make another thread. wxTHREAD_RUNNING when the thread already exists; nothing happens then.
+    /// @return wxTHREAD_RUNNING if the thread already exists. Otherwise the result of the toolkit's Create():
+    ///         wxTHREAD_NO_ERROR, or wxTHREAD_NO_RESOURCE if the system cannot make another thread.
     wxThreadError Create(unsigned int stackSize);
 
     /// Starts Entry() on the thread. Entry() may return before Run() does.
     ///
-    /// @return the result of the toolkit's Run(): wxTHREAD_NO_ERROR, or another value when nothing runs.
-    ///         wxTHREAD_RUNNING when the object has run before; nothing happens then.
+    /// @return wxTHREAD_RUNNING if the object has run before. Otherwise the result of the toolkit's Run():
+    ///         wxTHREAD_NO_ERROR, or another value if the thread could not be started.
     wxThreadError Run();
 
     /// Waits until Entry() has returned and the thread is over: its thread-local objects are destroyed, and the toolkit
@@ -83,14 +83,15 @@ public:
     /// No events are handled during the wait: if Entry() waits for the GUI thread or calls Wait() itself, this call
     /// never returns.
     ///
-    /// @return the result of Entry(). (wxThread::ExitCode)-1 at once when the object is detached or has not run.
+    /// @return the result of Entry(). If the object is detached or was not started, returns (wxThread::ExitCode)-1 at
+    ///         once.
     wxThread::ExitCode Wait();
 
     /// Waits until the thread is over, but at most @a milliseconds. Works for a detached object, too. On the GUI
     /// thread, windows are painted and timers run during the wait. The user's input and the events of workers are
     /// handled after the wait.
     ///
-    /// @return HasEnded(); false at once when the object has not run.
+    /// @return HasEnded(). If the object was not started, returns false at once.
     bool WaitFor(unsigned long milliseconds);
 
     /// Returns true when the thread is over, after Entry() has returned or thrown an exception. Wait() then returns at
