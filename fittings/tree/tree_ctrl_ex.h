@@ -8,8 +8,8 @@
 
 /// The toolkit's tree control, with a few functions that take or return cursors.
 ///
-/// The base class's functions of the same names remain available. Call wxTreeCtrl::GetSelection() by this full name, or
-/// call GetSelection() on a constant control. AddRoot() with an image returns what wxTreeCtrl::AddRoot() returns.
+/// The base class's functions of the same names remain available. To call wxTreeCtrl::GetSelection(), write this full
+/// name or use a constant control. AddRoot() with an image returns what wxTreeCtrl::AddRoot() returns.
 ///
 /// The toolkit's class information does not distinguish this class and wxHandyTreeCtrl from wxTreeCtrl: wxDynamicCast()
 /// to one of these two classes would succeed for every tree control. Use dynamic_cast instead. wxDynamicCast() works

@@ -43,7 +43,7 @@ public:
     wxTreeCursor(wxTreeCtrl* tree_, const wxTreeItemId& item_) : tree(tree_), item(item_) {}
 
     wxTreeCtrl* tree;   ///< The control that the item belongs to; not owned.
-    wxTreeItemId item;  ///< The item.
+    wxTreeItemId item;  ///< The item that the cursor is on; invalid when there is none.
 
     /// Returns true when there is an item.
     bool IsOk() const { return item.IsOk(); }
@@ -70,7 +70,7 @@ public:
     friend bool operator!=(const wxTreeItemId& left, const wxTreeCursor& right) { return !(left == right); }
     /// @endcond
 
-    /// Returns whether the two cursors have the same item, or have no item. One of them may be a wxTreeItemId.
+    /// Returns whether the two cursors have the same item, or both have none. One of them may be a wxTreeItemId.
     friend bool operator==(const wxTreeCursor& left, const wxTreeCursor& right) { return left.item == right.item; }
 
     /// Returns whether the two cursors are not equal. One of them may be a wxTreeItemId.

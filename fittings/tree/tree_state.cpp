@@ -95,8 +95,8 @@ private:
         return false;
     }
 
-    // If a visited item is no longer at its old place among its siblings, finds the place after the item again. If the
-    // item was deleted, uses its old place, where its next sibling is now.
+    // Corrects visited.next if an event handler has changed the siblings: searches for the visited item, and sets
+    // visited.next to the place after it. If the item was deleted, uses its old place, where its next sibling is now.
     void FindAgain(VisitedItem& visited, const wxTreeItemId& parent) const
     {
         TreeChildren same = visited.here;
@@ -156,8 +156,8 @@ struct Item
 std::wstring JoinExpanded(std::vector<Item> items)
 {
     const auto isBefore = [](const Item& a, const Item& b) { return a.label < b.label; };
-    // Siblings are usually in order, so sort only if needed. The first item is the start of the walk, above the others:
-    // do not sort it with them, but merge it afterwards.
+    // Siblings are usually in order already, so sort only if needed. Do not sort the first item with the others, but
+    // merge it afterwards: it is the root of the subtree, and its label would usually break the order.
     const auto second = items.begin() + (items.empty() ? 0 : 1);
     if (!std::is_sorted(second, items.end(), isBefore))
         std::stable_sort(second, items.end(), isBefore);
