@@ -28,9 +28,9 @@ class wxColourPopup;
 ///
 /// | Property | Type | Meaning; default |
 /// | --- | --- | --- |
-/// | `style` | style | styles of wxComboCtrl and of every window; none, which gives a text field |
+/// | `style` | style | styles of wxComboCtrl and of every window; none (the text can be edited) |
 /// | `colour` | colour | wxColourCombo::SetColour(); none |
-/// | `value` | text or colour | text of the field, or `colour` if it is like "#FF0000" or "rgb(255, 0, 0)"; empty |
+/// | `value` | text or colour | text of the field, or a colour like "#FF0000" or "rgb(255, 0, 0)"; empty |
 /// | `buttonsize` | size | of the drop-down button; the toolkit's default |
 /// | `initial-colour` | colour | wxColourPopup::SetInitialColour(), which does not change the text; black |
 /// | `default-colour` | colour | wxColourPopup::SetDefaultColour(); black |

@@ -29,11 +29,11 @@
 /// | Property | Type | Meaning; default |
 /// | --- | --- | --- |
 /// | `style` | style | styles of wxTreeCtrl and of every window; those of wxHandyTreeCtrl::Create() |
-/// | `imagelist` | image list | of the size of its bitmaps; the empty list of wxHandyTreeCtrl::CreateImageList() |
+/// | `imagelist` | image list | images of the items; the empty list of wxHandyTreeCtrl::CreateImageList() |
 /// | `profile` | text, never translated | wxHandyTreeCtrl::SetProfile(); empty |
 ///
 /// The properties of every window work too: `pos`, `size`, `tooltip`, `enabled`, `hidden`, `font` and the rest. The
-/// program adds the items.
+/// images are as large as the bitmaps of `imagelist`. The program adds the items.
 ///
 /// An invalid value is reported through wxXmlResource::ReportError() and ignored. The same holds for a `subclass` that
 /// is not a wxHandyTreeCtrl: the control is then a plain wxHandyTreeCtrl. The class in `subclass` must use
