@@ -24,22 +24,16 @@ namespace {
 using Thread = Working<wxThreadEx>;
 using Worker = Working<wxGUIThread>;
 
-/// Thread objects that are made, run and waited for together.
+/// Running thread objects that are waited for together.
 class Threads
 {
 public:
     template <typename Work>
-    void Add(Work work)
+    void Start(Work work)
     {
-        m_threads.push_back(std::make_unique<Thread>(std::move(work), wxTHREAD_JOINABLE));
-    }
-
-    void Run()
-    {
-        for (const auto& thread : m_threads) {
-            EXPECT_EQ(thread->Create(0), wxTHREAD_NO_ERROR);
-            EXPECT_EQ(thread->Run(), wxTHREAD_NO_ERROR);
-        }
+        const auto& thread = m_threads.emplace_back(std::make_unique<Thread>(std::move(work), wxTHREAD_JOINABLE));
+        EXPECT_EQ(thread->Create(0), wxTHREAD_NO_ERROR);
+        EXPECT_EQ(thread->Run(), wxTHREAD_NO_ERROR);
     }
 
     std::vector<wxThread::ExitCode> Wait()
@@ -60,14 +54,13 @@ TEST(SeveralThreads, GiveEachItsOwnExitCode)
 {
     Threads threads;
     for (const int last : {1, 10, 100, 1000}) {
-        threads.Add([last](Thread&) {
+        threads.Start([last](Thread&) {
             std::intptr_t sum = 0;
             for (int i = 1; i <= last; ++i)
                 sum += i;
             return Code(sum);
         });
     }
-    threads.Run();
     EXPECT_EQ(threads.Wait(), (std::vector<wxThread::ExitCode>{Code(1), Code(55), Code(5050), Code(500500)}));
 }
 
@@ -77,14 +70,13 @@ TEST(SeveralThreads, ShareACriticalSection)
     int count = 0;
     Threads threads;
     for (int i = 0; i < 4; ++i) {
-        threads.Add([&](Thread&) {
+        threads.Start([&](Thread&) {
             for (int n = 0; n < 1000; ++n) {
                 const wxCriticalSectionLocker lock(section);
                 ++count;
             }
         });
     }
-    threads.Run();
     threads.Wait();
     EXPECT_EQ(count, 4000);
 }
@@ -96,7 +88,7 @@ TEST(SeveralThreads, PassASemaphoreAsManyAtATimeAsItLets)
     std::atomic<int> most{0};
     Threads threads;
     for (int i = 0; i < 6; ++i) {
-        threads.Add([&](Thread&) {
+        threads.Start([&](Thread&) {
             EXPECT_EQ(semaphore.Wait(), wxSEMA_NO_ERROR);
             const int now = ++inside;
             int seen = most;
@@ -108,7 +100,6 @@ TEST(SeveralThreads, PassASemaphoreAsManyAtATimeAsItLets)
             return Code(1);
         });
     }
-    threads.Run();
     EXPECT_EQ(threads.Wait(), std::vector<wxThread::ExitCode>(6, Code(1)));
     EXPECT_LE(most, 2);
     EXPECT_GE(most, 1);
@@ -122,7 +113,7 @@ TEST(SeveralThreads, AreWokenByAConditionOfTheHosts)
     bool go = false;
     Threads threads;
     for (int i = 0; i < 5; ++i) {
-        threads.Add([&](Thread&) {
+        threads.Start([&](Thread&) {
             const wxMutexLocker lock(mutex);
             ++waiting;
             while (!go)
@@ -130,7 +121,6 @@ TEST(SeveralThreads, AreWokenByAConditionOfTheHosts)
             return Code(3);
         });
     }
-    threads.Run();
     EXPECT_TRUE(Becomes([&] {
         const wxMutexLocker lock(mutex);
         return waiting == 5;
@@ -149,14 +139,13 @@ TEST(SeveralThreads, HaveEachTheirOwnLocalValues)
     wxTLS_VALUE(value) = 99;
     Threads threads;
     for (int i = 1; i <= 3; ++i) {
-        threads.Add([i](Thread&) {
+        threads.Start([i](Thread&) {
             const int before = wxTLS_VALUE(value);
             wxTLS_VALUE(value) = i;
             wxThread::Yield();
             return Code(100 * before + wxTLS_VALUE(value));
         });
     }
-    threads.Run();
     EXPECT_EQ(threads.Wait(), (std::vector<wxThread::ExitCode>{Code(1), Code(2), Code(3)}));
     EXPECT_EQ(wxTLS_VALUE(value), 99);
 }
@@ -166,7 +155,7 @@ TEST(SeveralThreads, HaveEachTheirOwnLocalValues)
 TEST(EntryOfAThread, AsksTheToolkitsThreadAboutItself)
 {
     Threads threads;
-    threads.Add([](Thread&) {
+    threads.Start([](Thread&) {
         wxThread* const self = wxThread::This();
         EXPECT_NE(self, nullptr);
         EXPECT_TRUE(self->IsAlive());
@@ -179,7 +168,6 @@ TEST(EntryOfAThread, AsksTheToolkitsThreadAboutItself)
         wxThread::Sleep(1);
         return Code(1);
     });
-    threads.Run();
     EXPECT_EQ(threads.Wait(), std::vector<wxThread::ExitCode>{Code(1)});
     EXPECT_TRUE(wxThread::IsMain());
 }
@@ -216,13 +204,12 @@ TEST(EntryOfAThread, PausesAndEndsWhenItHeedsTheToolkitsRequests)
 TEST(EntryOfAThread, MayOwnAnotherThread)
 {
     Threads outer;
-    outer.Add([](Thread&) {
+    outer.Start([](Thread&) {
         Thread inner([](Thread&) { return Code(20); }, wxTHREAD_JOINABLE);
         EXPECT_EQ(inner.Create(0), wxTHREAD_NO_ERROR);
         EXPECT_EQ(inner.Run(), wxTHREAD_NO_ERROR);
         return Code(reinterpret_cast<std::intptr_t>(inner.Wait()) + 1);
     });
-    outer.Run();
     EXPECT_EQ(outer.Wait(), std::vector<wxThread::ExitCode>{Code(21)});
 }
 
@@ -235,8 +222,7 @@ TEST(SeveralOwners, EachRunTheirOwnThreadAtTheSameTime)
             owners.push_back(std::make_unique<Helper>([i, &sum] {
                 for (int round = 0; round < 5; ++round) {
                     Threads threads;
-                    threads.Add([i](Thread&) { return Code(i); });
-                    threads.Run();
+                    threads.Start([i](Thread&) { return Code(i); });
                     sum += static_cast<int>(reinterpret_cast<std::intptr_t>(threads.Wait().front()));
                 }
             }));
