@@ -12,7 +12,7 @@
 #include <fittings/colour/colour_popup.h>
 #include <gallery/colours/colour_option_fields.h>
 #include <gallery/colours/colours_page.h>
-#include <tests/gallery/browser/browser_fixture.h>
+#include <tests/gallery/page_fixture.h>
 
 namespace {
 
@@ -26,7 +26,7 @@ constexpr int kYellowCell = 26;
 const wxColour kDarkRed(139, 0, 0);
 const wxColour kIndigo(75, 0, 130);
 
-class ColoursPageTest : public BrowserTest
+class ColoursPageTest : public PageTest
 {
 protected:
     void SetUp() override
@@ -47,44 +47,12 @@ protected:
         ASSERT_TRUE(PumpUntil([this] { return Combo().IsShownOnScreen(); }));
     }
 
-    ColoursPage& Page() { return *frame->GetColours(); }
+    ColoursPage& Page() override { return *frame->GetColours(); }
+    wxWindow& Fields() override { return *Page().GetFields(); }
     wxColourCombo& Combo() { return *Page().GetCombo(); }
     wxColourPopup& Popup() { return *Page().GetCombo()->GetPopup(); }
 
-    template <typename Control>
-    Control& Get(const wxString& name)
-    {
-        auto* control = dynamic_cast<Control*>(wxWindow::FindWindowByName(name, frame->GetColours()));
-        EXPECT_TRUE(control) << name;
-        return *control;
-    }
-
     bool IsSet(const wxString& name) { return Get<wxCheckBox>(name).GetValue(); }
-
-    bool HasFocus(const wxWindow& window)
-    {
-        GtkWidget* focus = gtk_window_get_focus(GTK_WINDOW(frame->GetHandle()));
-        return focus && (focus == window.GetHandle() || gtk_widget_is_ancestor(focus, window.GetHandle()));
-    }
-
-    /// Returns the name of the page's control that has the focus, or an empty text.
-    std::string FocusName()
-    {
-        for (const wxWindow* parent : std::initializer_list<wxWindow*>{Page().GetFields(), &Page()}) {
-            for (const wxWindow* child : parent->GetChildren()) {
-                if (HasFocus(*child))
-                    return std::string(child->GetName());
-            }
-        }
-        return {};
-    }
-
-    /// Presses a key, by default the mnemonic of an option, and waits until the option's control has the focus.
-    void GoTo(int key, const wxString& name, int modifiers = wxMOD_ALT)
-    {
-        Press(key, modifiers);
-        ASSERT_TRUE(PumpUntil([&] { return HasFocus(Get<wxWindow>(name)); })) << name;
-    }
 
     /// Types a text in place of the text of the focused field.
     void Type(const std::string& text)
@@ -95,9 +63,9 @@ protected:
     }
 
     /// Moves the focus to a field by its mnemonic, and enters another number.
-    void SetNumber(char mnemonic, const wxString& name, int number)
+    void SetNumber(char mnemonic, const std::string& name, int number)
     {
-        GoTo(mnemonic, name);
+        GoTo(name, mnemonic);
         Type(std::to_string(number));
         Press(WXK_TAB);
         ASSERT_TRUE(
@@ -108,7 +76,7 @@ protected:
     {
         // Keep the pointer away from the popup: otherwise the cell below the pointer would become hot at once.
         PointAt(frame->GetScreenPosition());
-        GoTo('C', "Combo");
+        GoTo("Combo", 'C');
         Press(WXK_F4);
         ASSERT_TRUE(PumpUntil([this] { return Combo().IsPopupShown() && Popup().IsShownOnScreen(); }));
     }
@@ -257,7 +225,7 @@ TEST_F(ColoursPageTest, TheBoxesAreLeftOutOrHaveOtherTexts)
 
     Press('M', wxMOD_ALT);
     ASSERT_TRUE(PumpUntil([&] { return IsSet("HasMoreColours"); }));
-    GoTo(WXK_TAB, "MoreColours", wxMOD_NONE);
+    GoTo("MoreColours", WXK_TAB, wxMOD_NONE);
     Type("mix");
     ASSERT_TRUE(PumpUntil([&] { return Get<wxTextCtrl>("MoreColours").GetValue() == "mix"; }));
     OpenColours();
@@ -268,7 +236,7 @@ TEST_F(ColoursPageTest, TheBoxesAreLeftOutOrHaveOtherTexts)
 TEST_F(ColoursPageTest, TheDefaultColourIsWhatAutomaticGives)
 {
     auto& field = Get<wxColourCombo>("Default");
-    GoTo('D', "Default");
+    GoTo("Default", 'D');
     Press(WXK_F4);
     ASSERT_TRUE(PumpUntil([&] { return field.GetPopup()->IsShownOnScreen(); }));
     for (const int key : {WXK_DOWN, WXK_DOWN, WXK_DOWN, WXK_RETURN})  // "More Colours...", black, dark red
@@ -319,10 +287,10 @@ TEST_F(ColoursPageTest, TheOtherOptionsReachThePopup)
 
 TEST_F(ColoursPageTest, TheAnimationTakesItsTimeOrIsOff)
 {
-    GoTo('N', "Animate");
+    GoTo("Animate", 'N');
     Press('N', wxMOD_ALT);
     ASSERT_TRUE(PumpUntil([&] { return IsSet("Animate"); }));
-    GoTo(WXK_TAB, "Duration", wxMOD_NONE);
+    GoTo("Duration", WXK_TAB, wxMOD_NONE);
     Type("1500");
     Press(WXK_TAB);
     ASSERT_TRUE(PumpUntil([&] { return Get<wxSpinCtrl>("Duration").GetValue() == 1500; }));
@@ -333,7 +301,7 @@ TEST_F(ColoursPageTest, TheAnimationTakesItsTimeOrIsOff)
     Press('N', wxMOD_ALT);
     ASSERT_TRUE(PumpUntil([&] { return !IsSet("Animate"); }));
     EXPECT_FALSE(Get<wxSpinCtrl>("Duration").IsEnabled());
-    GoTo('C', "Combo");
+    GoTo("Combo", 'C');
     Press(WXK_F4);
     ASSERT_TRUE(PumpUntil([&] { return Combo().GetPopupWindowState() != wxComboCtrl::Hidden; }));
     EXPECT_EQ(Combo().GetPopupWindowState(), wxComboCtrl::Visible);
@@ -341,17 +309,9 @@ TEST_F(ColoursPageTest, TheAnimationTakesItsTimeOrIsOff)
 
 TEST_F(ColoursPageTest, TabGoesFromTheTopToTheBottom)
 {
-    Strings names;
-    for (int i = 0; i < 30 && (names.empty() || names.back() != "Combo"); ++i) {
-        const std::string before = FocusName();
-        Press(WXK_TAB);
-        ASSERT_TRUE(PumpUntil([&] { return FocusName() != before; })) << before;
-        if (!FocusName().empty())
-            names.push_back(FocusName());
-    }
-    EXPECT_EQ(names, (Strings{"Events", "Clear", "HasAutomatic", "Automatic", "HasMoreColours", "MoreColours",
-                              "Default", "Columns", "CellSize", "Margin", "ReadOnly", "RefreshCombo", "CenterOn",
-                              "Animate", "Duration", "Combo"}));
+    ExpectTabOrder({"Events", "Clear", "HasAutomatic", "Automatic", "HasMoreColours", "MoreColours", "Default",
+                    "Columns", "CellSize", "Margin", "ReadOnly", "RefreshCombo", "CenterOn", "Animate", "Duration",
+                    "Combo"});
 }
 
 TEST_F(ColoursPageTest, EverythingComesBack)
@@ -362,9 +322,9 @@ TEST_F(ColoursPageTest, EverythingComesBack)
     SetNumber('U', "Columns", 5);
     SetNumber('S', "CellSize", 30);
     SetNumber('G', "Margin", 3);
-    GoTo('M', "HasMoreColours");
+    GoTo("HasMoreColours", 'M');
     Press('M', wxMOD_ALT);
-    GoTo(WXK_TAB, "MoreColours", wxMOD_NONE);
+    GoTo("MoreColours", WXK_TAB, wxMOD_NONE);
     Press('x');
     PumpPending();
     OpenNextSession();
@@ -420,8 +380,8 @@ TEST_F(ColoursPageTest, FitsIntoASmallWindow)
         Resize(size);
         for (const wxWindow* part : Page().GetChildren())
             EXPECT_LE(part->GetRect().GetRight(), Page().GetClientSize().x) << part->GetName();
-        GoTo('C', "Combo");
-        GoTo('N', "Animate");
+        GoTo("Combo", 'C');
+        GoTo("Animate", 'N');
         const auto& last = Get<wxWindow>("Animate");
         EXPECT_TRUE(PumpUntil([&] { return WindowRect(Page()).Contains(WindowRect(last)); }));
     }

@@ -1,8 +1,5 @@
 // The tab order of the controls, and the page in a small window.
 
-#include <string>
-#include <vector>
-
 #include <wx/choice.h>
 
 #include <tests/gallery/numbers/numbers_page_fixture.h>
@@ -13,31 +10,21 @@ using namespace gallery::simulated_user;
 
 TEST_F(NumbersPageTest, TabGoesFromTheTopToTheBottom)
 {
-    std::vector<std::string> names;
-    for (int i = 0; i < 40 && (names.empty() || names.back() != "Number"); ++i) {
-        const wxString before = FocusName();
-        Press(WXK_TAB);
-        // Tab also stops at the notebook's tabs, where FocusName() is empty.
-        ASSERT_TRUE(PumpUntil([&] { return FocusName() != before; }));
-        if (!FocusName().empty())
-            names.emplace_back(FocusName());
-    }
-    EXPECT_EQ(names, (std::vector<std::string>{"Validates",       "Keep",          "BringBack",   "NumberCtrl",
-                                               "eLocaleFormat",   "eFixedFormat",  "AllowSign",   "AllowExponent",
-                                               "DecimalPoint",    "ThousandsSep",  "HasDecimals", "Decimals",
-                                               "HasMaxIntDigits", "MaxIntDigits",  "HasMin",      "HasMax",
-                                               "PadDecimals",     "RoundDecimals", "GroupDigits", "TrailingMinus",
-                                               "Template",        "Number"}));
+    ExpectTabOrder({"Validates",    "Keep",        "BringBack",       "NumberCtrl",   "eLocaleFormat",
+                    "eFixedFormat", "AllowSign",   "AllowExponent",   "DecimalPoint", "ThousandsSep",
+                    "HasDecimals",  "Decimals",    "HasMaxIntDigits", "MaxIntDigits", "HasMin",
+                    "HasMax",       "PadDecimals", "RoundDecimals",   "GroupDigits",  "TrailingMinus",
+                    "Template",     "Number"});
 }
 
 TEST_F(NumbersPageTest, FitsIntoASmallWindow)
 {
     for (const wxSize size : {wxSize(800, 600), wxSize(632, 480)}) {
         Resize(size);
-        const wxWindow& page = *frame->GetNumbers();
+        const wxWindow& page = Page();
         for (const wxWindow* part : page.GetChildren())
             EXPECT_LE(part->GetRect().GetRight(), page.GetClientSize().x) << part->GetName();
-        for (const wxWindow* part : frame->GetNumbers()->GetFields()->GetChildren()) {
+        for (const wxWindow* part : Fields().GetChildren()) {
             EXPECT_GE(WindowRect(*part).GetLeft(), WindowRect(page).GetLeft()) << part->GetName();
             EXPECT_LE(WindowRect(*part).GetRight(), WindowRect(page).GetRight()) << part->GetName();
         }

@@ -8,10 +8,10 @@
 
 #include <gallery/numbers/number_format_fields.h>
 #include <gallery/numbers/numbers_page.h>
-#include <tests/gallery/browser/browser_fixture.h>
+#include <tests/gallery/page_fixture.h>
 
 /// The gallery's page of numbers, with the focus in the number's field.
-class NumbersPageTest : public BrowserTest
+class NumbersPageTest : public PageTest
 {
 protected:
     void SetUp() override { OpenPage(); }
@@ -19,26 +19,12 @@ protected:
     void OpenPage();
     void OpenNextSession();
 
-    template <typename Control>
-    Control& Get(const wxString& name)
-    {
-        auto* control = dynamic_cast<Control*>(wxWindow::FindWindowByName(name, frame->GetNumbers()));
-        EXPECT_TRUE(control) << name;
-        return *control;
-    }
-
+    wxWindow& Page() override { return *frame->GetNumbers(); }
+    wxWindow& Fields() override { return *frame->GetNumbers()->GetFields(); }
     wxTextCtrl& Number() { return Get<wxTextCtrl>("Number"); }
     wxString Label(const wxString& name) { return Get<wxStaticText>(name).GetLabelText(); }
     wxString Result(const wxString& function) { return Label(function + "Result"); }
     CNumberFormat Format() { return frame->GetNumbers()->GetFields()->GetFormat(); }
-
-    /// Returns the name of the page's control that has the focus, or an empty text. In some controls, the focus is in a
-    /// GTK widget that is not a window of the toolkit.
-    wxString FocusName();
-    bool FocusComesTo(const wxString& name);
-
-    /// Presses a key, by default the mnemonic of a control, and waits until the control has the focus.
-    void GoTo(const wxString& name, int key, int modifiers = wxMOD_ALT);
 
     void Type(const std::string& text);
 
