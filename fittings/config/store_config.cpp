@@ -24,8 +24,8 @@ namespace {
 
 constexpr wchar_t kSeparator = wxCONFIG_PATH_SEPARATOR;
 
-// ImportFrom() records in this section that it has copied a configuration. The section's name is not a path of groups,
-// so that no enumeration finds the section.
+// ImportFrom() records in this section that it has copied a configuration. The name ends with a separator, so the
+// section is not a group, and no enumeration of groups finds it.
 constexpr const wchar_t* kImportSection = L"wxStoreConfig/";
 constexpr const wchar_t* kImportKey = L"Imported";
 
@@ -330,7 +330,7 @@ bool wxStoreConfig::DoWriteString(const wxString& path, const wxString& value)
         m_model->Set(*group, entry.name, text);
         return true;
     }
-    // Writing an empty text to a group makes the group, as in wxFileConfig.
+    // The path names a group and no entry. As in wxFileConfig, writing an empty text to such a path makes the group.
     wxCHECK_MSG(value.empty(), false, "a group has no value");
     if (group->parent)
         m_model->AddSection(*group);

@@ -15,9 +15,9 @@ class StoreModel;
 /// The settings store as a wxConfigBase, for wxFileHistory, wxPersistenceManager and all other code that uses a
 /// wxConfigBase.
 ///
-/// The group "A/B" is the section `A/B` of the store, and its entries are the keys of that section. So
-/// `/LastFiles/Report` is the file that CQVFileDialogI stores for the registry entry "Report". Entries of the
-/// root are in the section with the empty name, `[%]` in the file.
+/// The group "A/B" is the section `A/B` of the store, and its entries are the keys of that section. So the entry
+/// `/LastFiles/Report` has the path of the file that CQVFileDialogI stores for its registry entry "Report". Entries of
+/// the root are in the section with the empty name, `[%]` in the file.
 ///
 /// Each read returns the current value in the store, even if another object or process has stored it. If this object
 /// has changed the value and not saved the change yet, the read returns the changed value.

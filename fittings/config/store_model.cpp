@@ -117,8 +117,8 @@ void StoreModel::Set(StoreGroup& group, std::wstring_view name, std::wstring_vie
     }
     if (!group.isSection) {
         AddSection(group);
-        // As in wxFileConfig, a group still exists after its last entry is deleted. So the next save stores this
-        // section even without entries, except for the root.
+        // As in wxFileConfig, a group still exists after its last entry is deleted. So the next save stores the section
+        // of this group even if the group has no entries by then. The root always exists and needs no section.
         group.isMade = group.parent != nullptr;
     }
 }
@@ -287,8 +287,9 @@ bool StoreModel::Save()
         return false;
     if (!m_hasChanges)
         return true;
-    // Forget what was loaded, so that the next Refresh() rebuilds the groups even if another process has stored the
-    // earlier values again.
+    // Forget what was loaded: the next Refresh() then always rebuilds the groups. Otherwise, if another process changed
+    // the file back to what was loaded, Refresh() would find no difference, and the groups would keep the values of
+    // this save.
     m_ini.reset(CLocalRegStore::CreateInitFile(false));
     ForgetChanges(*m_root);
     m_removed.clear();

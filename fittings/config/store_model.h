@@ -88,7 +88,8 @@ private:
     static void ForgetChanges(StoreGroup& group);
 
     const std::optional<std::wstring> m_file;
-    /// The store as Refresh() loaded it, with the changes that were not saved then. Emptied when Save() saves changes.
+    /// The store as Refresh() loaded it last, with the changes that were not saved at that moment. Empty after Save()
+    /// has saved changes.
     OwnedIniFile m_ini;
     bool m_isLoaded = false;
     std::unique_ptr<StoreGroup> m_root;

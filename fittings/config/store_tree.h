@@ -14,8 +14,8 @@
 
 namespace fittings {
 
-/// Values by name, in the order in which they were added. The place of an item does not change when others are added or
-/// removed.
+/// Values by name, in the order in which they were added. Each item has a number, its place, that does not change when
+/// other items are added or removed.
 template <typename Value>
 class NamedList
 {
@@ -107,7 +107,7 @@ struct StoreGroup
 
     StoreGroup* const parent;  ///< Null for the root.
     const std::wstring name;
-    bool isSection = false;  ///< True if the store has the section or will have it.
+    bool isSection = false;  ///< True if the store has the section, or will have it after the next save.
     bool isMade = false;     ///< True if the next save stores the section even without entries.
     NamedList<StoreEntry> entries;
     NamedList<std::unique_ptr<StoreGroup>> groups;

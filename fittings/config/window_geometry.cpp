@@ -34,7 +34,7 @@ wxRect ScreenRect(wxWindow& window)
 ///
 /// Uses wxDisplay::GetFromWindow() only to recognise a window that is not created yet. The display that GetFromWindow()
 /// returns may be wrong. It returns a display even for a window that is far away from all displays. For a hidden window
-/// that was moved, it uses the earlier place.
+/// that was moved, it uses the place before the move.
 int DisplayOf(wxWindow& window)
 {
     if (wxDisplay::GetFromWindow(&window) == wxNOT_FOUND)
@@ -53,8 +53,8 @@ int DisplayOf(wxWindow& window)
     return best;
 }
 
-/// Returns the part of @a rect that lies in @a area. A rectangle wholly outside the area, for example under a panel, is
-/// moved into the area, and made smaller if it is larger than the area.
+/// Returns the part of @a rect that lies in @a area. A rectangle wholly outside the area, for example under a panel of
+/// the desktop, is moved into the area, and made smaller if it is larger than the area.
 wxRect FitInto(const wxRect& area, const wxRect& rect)
 {
     const wxRect common = area.Intersect(rect);

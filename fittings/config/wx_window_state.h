@@ -10,10 +10,11 @@ class wxWindow;
 
 /// Window geometry, a frame's maximised state and AUI layouts, each stored under a name that the caller chooses.
 ///
-/// Load the state of a window before the window is shown. Load a layout when all panes exist: before the window is
-/// shown or, if panes can float, when the window is shown. Call the save functions when the window closes. Geometry and
-/// the maximised state are in the default store, sections "wxWindowState" and "wxWindowMaximize"; layouts are in the
-/// file "wxAuiManagerState.ini" of ui_config_mgr. GUI thread only.
+/// Load the state of a window before the window is shown. Load a layout when all panes exist, and before the window is
+/// shown. If panes can float, load it later: when the window appears on the screen, see LoadAuiManagerState(). Call the
+/// save functions when the window closes. Geometry and the maximised state are in the default store, sections
+/// "wxWindowState" and "wxWindowMaximize"; layouts are in the file "wxAuiManagerState.ini" of ui_config_mgr. GUI thread
+/// only.
 ///
 /// Windows and managers must not be null. A null name counts as empty. A name may be a text of any kind: see
 /// fittings::TextArgument. A failure to save is not reported.
@@ -31,7 +32,8 @@ class wxWindow;
 namespace wx_window_state {
 
 /// Stores the position and the outer size in pixels. The position is relative to the parent for a child window, and on
-/// the screen for a top-level window. A hidden or iconised window is stored as the toolkit reports it.
+/// the screen for a top-level window. The values are those that the toolkit reports, even for a hidden or iconised
+/// window.
 FITTINGS_API void SaveState(wxWindow* window, const wchar_t* name);
 
 /// Stores the geometry as for any window, and whether the frame is maximised. If the frame is maximised, its maximised
@@ -42,8 +44,8 @@ FITTINGS_API void SaveState(wxFrame* frame, const wchar_t* name);
 ///
 /// If the stored width or height is 10 or less, the window keeps its own geometry. A window that is on no display moves
 /// to (0, 0). If only a part of the window lies in its display's work area, the window gets the place and size of that
-/// part. A window that is wholly outside the area, for example under a panel, moves into the area. Numbers beyond the
-/// 16 bits of an X coordinate are limited to that range.
+/// part. A window that is wholly outside the area, for example under a panel of the desktop, moves into the area.
+/// Numbers beyond the 16 bits of an X coordinate are limited to that range.
 ///
 /// A hidden window appears in its place when the host calls wxWindow::Show(); no other call is needed. This is also
 /// true for the first window of a process, under any window manager that lets programs place their windows.

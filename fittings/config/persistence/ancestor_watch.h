@@ -10,8 +10,9 @@ class wxWindow;
 
 namespace fittings {
 
-/// Reports when a window's ancestor is about to be destroyed, while the window itself is still whole. Some windows,
-/// such as books, notify their children of the destruction too late.
+/// Calls a function when an ancestor of a window is about to be destroyed. The window itself is still whole at that
+/// moment. Its own wxEVT_DESTROY may come too late: a book deletes its pages without Destroy(), and only the base class
+/// of a page is left when the page sends the event.
 class AncestorWatch
 {
 public:
@@ -22,7 +23,7 @@ public:
     AncestorWatch& operator=(const AncestorWatch&) = delete;
 
 private:
-    // Shared with the handlers of the ancestors; empty once this object is destroyed.
+    // Shared with the handlers of the ancestors. The destructor of this object makes the function empty.
     std::shared_ptr<std::function<void()>> m_onDestruction;
 };
 

@@ -4,9 +4,9 @@
 
 #include <fittings/config/aui_layout.h>
 
-// A manager is not a window, and no event reports a call of UnInit(). So the layout is recorded whenever it is drawn,
-// and when the window is about to close. The last recorded layout is stored when the manager or its window is
-// destroyed.
+// The layout is stored when the manager or its window is destroyed. By then, the program may have called UnInit(): the
+// manager has no window and no layout after this call, and no event reports the call. So the layout is recorded
+// earlier: whenever it is drawn, and when the window is about to close. The last recorded layout is stored.
 
 class wxPersistentAui::Watch
 {
@@ -23,8 +23,8 @@ public:
         manager->Bind(wxEVT_AUI_RENDER, note);
         manager->Bind(wxEVT_CLOSE_WINDOW, note);
 
-        // Bind to the manager and to its window: the window's events reach the manager until UnInit(), and afterwards
-        // only the window.
+        // Bind to the manager and to its window: until UnInit() is called, the manager receives the window's events
+        // first. After the call, only the window receives them.
         wxWindow* const window = manager->GetManagedWindow();
         const auto end = [watch, window](wxWindowDestroyEvent& event) {
             event.Skip();

@@ -17,8 +17,9 @@ namespace {
 
 constexpr char kData[] = "fittings-place-when-unmaximized";
 
-/// How long the place of an unmaximised window is corrected, in microseconds. The window manager may announce the
-/// decorations several times. When an announcement changes their size, the window's size must be set again.
+/// How long the place and size are corrected after the window is unmaximised, in microseconds. The window manager may
+/// announce the decorations several times. When an announcement changes their size, the window's size must be set
+/// again.
 constexpr gint64 kCorrected = 2 * G_TIME_SPAN_SECOND;
 
 /// How often to check whether the mouse button is released, in milliseconds.
@@ -82,8 +83,9 @@ bool ChangesMaximized(const GdkEvent& event)
     return event.type == GDK_WINDOW_STATE && (event.window_state.changed_mask & GDK_WINDOW_STATE_MAXIMIZED);
 }
 
-// Ignores changes until the window is on the screen: a window manager may unmaximise a window for a moment before it
-// shows the window maximised.
+// Places the window if the event requires it. Returns true when no more events need to be watched. Ignores all events
+// until the window is on the screen: a window manager may unmaximise a window for a moment before it shows the window
+// maximised.
 bool PlaceKeeper::IsDoneAfter(const GdkEvent& event)
 {
     if (event.type == GDK_MAP)
@@ -94,12 +96,12 @@ bool PlaceKeeper::IsDoneAfter(const GdkEvent& event)
         m_deadline = 0;
         m_requested = wxSize();
     } else if (ChangesMaximized(event) && m_window->IsShown()) {
-        // A window that is being hidden is unmaximised too, and is maximised again when it is shown. IsShown() is false
-        // for such a window.
+        // Hiding a window also ends its maximised state, until the window is shown again. IsShown() is false for a
+        // window that is being hidden.
         if (DrawsItsDecorations(m_window->GetHandle()))
             return true;
-        // The toolkit computes positions without the decorations that were announced for the maximised window. Let it
-        // use these decorations now.
+        // The toolkit computes positions with a copy of the decorations' size. It does not update the copy while the
+        // window is maximised. This call updates the copy.
         m_window->GTKUpdateDecorSize(m_window->m_decorSize);
         m_isDragged = wxGetMouseState().LeftIsDown();
         if (m_isDragged)
@@ -127,8 +129,8 @@ void PlaceKeeper::StartPlacing()
     Place();
 }
 
-// Sends the request directly to the window system. GTK would drop a request that is the same as its last one, even if
-// the window manager did not comply with the last one.
+// Asks the window manager for the place and the size. Calls GDK and not gtk_window_resize(): GTK does not send a
+// request that equals the last one that GTK sent, even if the window manager did not comply with that one.
 void PlaceKeeper::Place()
 {
     const wxSize decorations = m_window->GetSize() - fittings::SizeWithoutDecorations(*m_window);

@@ -12,8 +12,8 @@ namespace fittings {
 /// that will be shown maximised.
 ///
 /// A window manager remembers the rectangle of a window before it maximises the window. It cannot know the rectangle of
-/// a window that is maximised from the start. When such a window is unmaximised, the window manager adds the
-/// decorations to the size, or chooses a place itself.
+/// a window that is maximised from the start. When such a window is unmaximised without this call, it is too large
+/// by its decorations, or it is at a place that the window manager chooses.
 ///
 /// If the left mouse button is down when the window is unmaximised, the user may be dragging the window. The window
 /// then gets only the size of @a rect, as soon as the button is released. Does nothing if GTK draws the decorations, as

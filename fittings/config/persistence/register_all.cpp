@@ -24,7 +24,7 @@ private:
     const wxString m_name;
 };
 
-/// Makes a Persistent object if the window is a Window; otherwise returns null.
+/// Returns a new Named<Persistent> if the window's class is `Window` or derived from it; otherwise returns null.
 template <typename Persistent, typename Window>
 std::unique_ptr<wxPersistentObject> MakeFor(wxWindow& window, const wxString& name)
 {

@@ -12,7 +12,8 @@ using fittings::TreeChildren;
 
 namespace {
 
-/// The largest number of levels. With many times more expanded levels, the toolkit's recursion overflows the stack.
+/// The deepest level that is recorded or restored. The toolkit calls some functions recursively, once for each expanded
+/// level: with many times more levels, these calls would overflow the stack.
 constexpr std::size_t kDeepest = 10'000;
 
 /// Returns the first item whose top is in view. Restoring an item that is only partly in view would scroll the tree a
@@ -69,8 +70,8 @@ private:
         wxTreeItemId item;
         TreeChildren children;
         bool isNoted;
-        // NumberOf() uses these to number siblings with the same label: the place of the child that it numbered last,
-        // and how often each label occurs up to that child.
+        // NumberOf() uses these to number the item's children that have the same label. `counting` is at the child that
+        // was numbered last. `counts` has the number of children with each label, up to that child.
         TreeChildren counting;
         std::unordered_map<std::wstring, std::size_t> counts;
     };

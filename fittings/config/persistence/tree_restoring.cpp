@@ -54,7 +54,7 @@ private:
     struct Level
     {
         wxTreeItemId item;
-        bool isKnown;  // true if the map has the children
+        bool isKnown;  // true if the map below has the item's children
         std::unordered_map<std::wstring, std::vector<wxTreeItemId>> children;
     };
 

@@ -17,7 +17,8 @@ class wxWindow;
 
 namespace fittings {
 
-/// Data about a window, owned by the window.
+/// Calls a function at the end of a window's destruction. After Follow(), also records the window's place and size.
+/// Owned by the window.
 class WindowRecord
 {
 public:
