@@ -54,9 +54,9 @@ bool CanBeShown(const wxFileName& folder)
     return folder.DirExists() && folder.IsDirReadable();
 }
 
-// Starts the dialog in the nearest folder above @a start that can be shown, unless @a start can be shown or is missing.
-// From a missing folder, GTK's dialog goes up by itself. With a file, or with a folder that the user is not allowed to
-// read, GTK's dialog would show an error or stay empty, and the user could choose nothing.
+// If @a start is a file, or a folder that the user is not allowed to read, starts the dialog in the nearest folder
+// above it that can be shown. Otherwise GTK's dialog would show an error or stay empty, and the user could choose
+// nothing. If @a start is missing, GTK's dialog itself starts in a folder above it.
 void StartInReadableFolder(wxFileDialog& dialog, const wxString& start)
 {
     if (!CanBeShown(wxFileName::DirName(start)) && !IsGone(start))
@@ -174,8 +174,8 @@ void SaveLastPath(const wchar_t* path, const char* entry)
 {
     if (!*entry || !*path)
         return;
-    // Make this call, because a host's platform may rely on it. The result is not used: the path is stored as it was
-    // chosen.
+    // This call tells the platform which file was chosen: a host with its own platform may rely on it. The result is
+    // not used, because the path is stored as it was chosen.
     file_util_ex::RemoveBackSlash(path);
     CLocalRegStore::WriteString(kLastFilesSection, entry, file_util_ex::ConvertToUTF8(path).c_str());
 }

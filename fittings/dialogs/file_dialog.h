@@ -34,8 +34,8 @@ class FITTINGS_API CQVFileDialogI
 public:
     /// @name A file extension and a file filter
     ///
-    /// These two texts are stored for the host, once per process. They are empty at first. The dialog does not use
-    /// them.
+    /// These two texts are kept in memory for the host. A process has one of each, which is empty at first. The dialog
+    /// does not use them.
     /// @{
     static void SetFileExtension(const CStdStr<wchar_t>& ext);  ///< Keeps a copy.
     static void SetFileFilter(const CStdStr<wchar_t>& filter);  ///< Keeps a copy.
@@ -61,7 +61,7 @@ public:
     ///     of this path is taken for a file name. Empty: the folder of the remembered file, or the application's folder
     ///     "Samples" if the registry entry has no file yet. If the registry entry is empty too, the toolkit chooses the
     ///     folder. If the folder does not exist or cannot be read, the dialog starts in the nearest folder above it
-    ///     that can be read. Null asserts, and the result is empty.
+    ///     that can be read. Must not be null: the call would assert and return an empty text.
     /// @param initialFileName  the proposed name. Null or empty: the file name that was taken from @a initialFolder, or
     ///     the name of the remembered file if @a initialFolder is empty. In these two cases, the extension is dropped.
     ///     If the proposed name has no extension, the toolkit adds that of the first pattern.

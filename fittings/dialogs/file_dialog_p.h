@@ -19,7 +19,7 @@ inline constexpr char kLastFilesSection[] = "LastFiles";
 inline constexpr wchar_t kSamplesFolder[] = L"Samples";
 /// The text that is put before an extension to make a wildcard.
 inline constexpr wchar_t kWildcardPrefix[] = L"*.";
-/// The registry entry of an application's projects.
+/// The registry entry under which an application remembers the project that it saved last.
 inline constexpr char kLastProjectSave[] = "LastProjectSave";
 
 std::string GetRegEntry();

@@ -50,7 +50,7 @@ public:
     ///   proposed file only if it exists and the filter shows it.
     ///
     /// @param parent  may be null.
-    /// @param entry  any text.
+    /// @param entry  the name that the choice is remembered under: any text. Empty: nothing is remembered.
     /// @param message  the title.
     /// @param wildcard  as in wxFileDialog: "Tables (*.csv)|*.csv|All files|*".
     /// @param style  any style of wxFileDialog.
@@ -96,7 +96,7 @@ public:
     /// SetPath() between Create() and ShowModal() takes precedence.
     ///
     /// @param parent  may be null.
-    /// @param entry  any text.
+    /// @param entry  the name that the folder is remembered under: any text. Empty: nothing is remembered.
     /// @param message  the title.
     /// @param style  any style of wxDirDialog.
     bool Create(wxWindow* parent, const wxString& entry, const wxString& message = wxASCII_STR(wxDirSelectorPromptStr),
