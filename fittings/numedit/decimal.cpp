@@ -64,9 +64,9 @@ std::int64_t DigitsKept(const Decimal& number, std::int64_t decimals)
     return number.point + std::clamp(decimals, -kMostExponent, kMostExponent);
 }
 
-/// Returns the digits from the place @a top down to the place @a bottom, with zeros where the number has no digits. All
-/// digits of the number must be between these places. Place 0 is the decimal point. Places above 0 are to the left of
-/// the point, and places below 0 are to the right.
+/// Returns the digits between the places @a top and @a bottom, with zeros where the number has no digits. All digits of
+/// the number must be between these places. A place is a gap between two digits: place 0 is the decimal point, place 1
+/// is one digit to its left, and place -1 is one digit to its right.
 std::string DigitsBetween(const Decimal& number, std::int64_t top, std::int64_t bottom)
 {
     std::string result(static_cast<std::size_t>(top - bottom), '0');

@@ -48,8 +48,8 @@ Decimal Negated(Decimal number);
 /// Returns the number with at least @a decimals decimals and no exponent; nothing if the text has over 100,000 digits.
 std::optional<std::string> PlainText(const Decimal& number, std::int64_t decimals = 0);
 
-/// Returns the sum. If both numbers have digits, and all these digits together span more than 100,000 places, returns
-/// nothing.
+/// Returns the sum. Returns nothing if neither number is 0, and there are more than 100,000 digits from the highest to
+/// the lowest nonzero digit of the two numbers.
 std::optional<Decimal> Sum(const Decimal& left, const Decimal& right);
 
 /// Rounds a non-negative number up or down to @a decimals decimals. With -2 decimals, rounds the number to hundreds.

@@ -21,7 +21,8 @@ class wxTextEntry;
 /// @endcode
 ///
 /// On a wxNumberCtrl, the validator uses the control's format and bounds. On any other wxTextEntry, such as a
-/// wxComboBox, the validator uses its own format, accepts groups and the template too, and does not check typing.
+/// wxComboBox, the validator uses its own format, and does not check typing. It then accepts formatted text too, with
+/// thousands separators and the text of CNumberFormat::m_strTemplate.
 ///
 /// An empty field has no number. A validator for a wxString accepts an empty field and transfers it as the empty text.
 /// A validator without a variable accepts an empty field too. A validator for a `double` or an integer refuses an empty
@@ -86,7 +87,7 @@ public:
     /// - The window is not a wxTextEntry.
     /// - The variable's value is neither a number nor an empty wxString.
     /// - The field is a wxNumberCtrl, and wxNumberCtrl::SetDecimal() refuses the value.
-    /// - The field is not a wxNumberCtrl, and does not show the whole number.
+    /// - The field is not a wxNumberCtrl, and does not show all characters of the number.
     bool TransferToWindow() override;
 
     /// Stores the field's number in the variable. Checks the field as Validate() does, even if the field is disabled.
