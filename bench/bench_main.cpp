@@ -1,4 +1,5 @@
-// Runs the repetitions of the benchmarks and their peers in random order, and prints a table that compares the medians.
+// Compares the benchmarks of the library with their peers, which are benchmarks of comparable work without the library.
+// Runs the repetitions of all benchmarks in random order, and prints a table of the medians and their ratios.
 //
 //     fittings-bench [--json=FILE] [--benchmark_filter=REGEX] [other Google Benchmark flags]
 
@@ -153,8 +154,8 @@ public:
 
 int main(int argc, char** argv)
 {
-    // Keep freed memory. By default malloc sometimes returns it to the system after a round: one row then took 9 ms
-    // instead of 6 ms.
+    // Make malloc keep freed memory. By default it sometimes returns the memory to the system between two rounds, and
+    // the next round takes longer: one benchmark took 9 ms instead of 6 ms.
     mallopt(M_MMAP_THRESHOLD, 32 << 20);
     mallopt(M_TRIM_THRESHOLD, INT_MAX);
 

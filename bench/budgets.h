@@ -1,7 +1,7 @@
 #ifndef FITTINGS_BENCH_BUDGETS_H_
 #define FITTINGS_BENCH_BUDGETS_H_
 
-/// A row of the table. It compares the benchmark @a row with its peer, which @a peer describes.
+/// One row of the printed table. @a row is the name of the benchmark, and @a peer describes its peer.
 struct Budget
 {
     const char* row;

@@ -19,13 +19,14 @@
 
 namespace {
 
-// A popup with both boxes, and a picture of its size to paint on.
+// A popup with the boxes "Automatic" and "More Colours...", and a picture of its size to paint on.
 class Popup
 {
 public:
     Popup() : m_frame(new wxFrame(nullptr, wxID_ANY, "bench")), popup(*new wxColourPopup)
     {
-        // With these colours and without the lower box, Create() marks no cell as chosen.
+        // Primitives draws no chosen cell. No cell has this initial colour, so Create() would mark "More Colours..." as
+        // chosen: add that box after Create().
         popup.SetDefaultColour(wxColour(1, 2, 3));
         popup.SetInitialColour(wxColour(4, 5, 6));
         popup.SetMoreColoursText("");
@@ -71,7 +72,7 @@ public:
     }
 
 private:
-    // The popup's margin on the benchmarks' display, which does not report the width of an edge.
+    // The popup's margin. It is 2 because the benchmarks' display does not report the width of an edge.
     static constexpr int kMargin = 2;
 
     struct Cell

@@ -219,7 +219,8 @@ BENCHMARK(GetWarm)->Name("store/get-warm");
 BENCHMARK(GetWarmPeer)->Name("store/get-warm/peer");
 BENCHMARK(FileGet)->Name("store/file-get");
 BENCHMARK(FileGetPeer)->Name("store/file-get/peer");
-// Measure the elapsed time of the benchmarks that save a file, because saving can wait for the disk.
+// Measure the elapsed time of the benchmarks that save a file: the processor time does not include the wait for the
+// disk.
 BENCHMARK(FileSet)->Name("store/file-set")->UseRealTime();
 BENCHMARK(FileSetPeer)->Name("store/file-set/peer")->UseRealTime();
 BENCHMARK(CloseWindow)->Name("store/close-window")->UseRealTime();
