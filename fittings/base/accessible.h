@@ -16,9 +16,9 @@ enum class AccessibleRole { ComboBox, Grid, Text, Tree };
 /// not change.
 void Describe(wxWindow& window, AccessibleRole role, const wxString& label, const wxString& value);
 
-/// Connects the labels of @a window to @a part, the part of the window that takes the focus. The labels are static
-/// texts. Their mnemonics then move the focus to @a part. Call this function again after each change of the Tab order:
-/// the change makes the toolkit connect the labels to the window itself.
+/// Makes the mnemonics of the labels of @a window move the focus to @a part, the part of the window that takes the
+/// focus. The labels are the static texts that the toolkit has connected to the window. Call this function again after
+/// each change of the Tab order: the toolkit then connects the labels to the window again.
 void LabelPart(wxWindow& window, wxWindow& part);
 
 }  // namespace fittings
