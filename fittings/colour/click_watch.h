@@ -10,13 +10,14 @@ class wxWindow;
 
 namespace fittings {
 
-/// Grabs the pointer from Start() to Stop(). The toolkit itself grabs it only while a popup is open, not while the
-/// popup is opening. During the grab, a click outside the owner has no effect on other windows of this program, on
-/// title bars or on other programs.
+/// Grabs the pointer for a control, the owner, from Start() to Stop(). Use it while the popup of the owner is opening:
+/// the toolkit grabs the pointer only while the popup is open. During the grab, a click outside the owner has no effect
+/// on other windows of this program, on title bars or on other programs.
 class ClickWatch : public wxEventFilter
 {
 public:
-    /// During the grab, a click of any mouse button outside @a owner or on one of its children calls @a onClick.
+    /// During the grab, @a onClick is called for each click outside @a owner, whatever the mouse button is. A click on
+    /// a child of @a owner counts as a click outside.
     ClickWatch(wxWindow& owner, std::function<void()> onClick) : m_owner(owner), m_onClick(std::move(onClick)) {}
     ~ClickWatch() override { Stop(); }
 

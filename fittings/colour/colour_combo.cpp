@@ -79,8 +79,9 @@ wxColourCombo::~wxColourCombo()
         m_popupWinState = Animating;
     m_animTimer.Stop();
     m_clicks->Stop();
-    // Announce the destruction and close the popup here, not in the destructor of the base class. A listener may call
-    // Destroy() at this point, and Destroy() must find that the control is already being deleted.
+    // Closing the popup calls the listener, which may call Destroy(). Announce the destruction first: Destroy() then
+    // finds that the control is already being deleted, and does nothing. Do not leave this to the destructor of the
+    // base class, because the override of Destroy() no longer applies there.
     SendDestroyEvent();
     wxColourCombo::HidePopup(true);
 }
@@ -130,16 +131,17 @@ void wxColourCombo::ShowPopup()
 {
     if (!GetPopupControl() || m_animTimer.IsRunning())
         return;
-    // Store the typed text as the value. Otherwise, when the old value is set again, wxComboCtrl would find no
-    // difference and do nothing.
+    // Store the typed text in m_valueString. While the popup is open, SetValue() passes a value to the popup only if
+    // the value differs from m_valueString. Without this line, the popup would not receive the value from before the
+    // typing if the host sets it again.
     m_valueString = GetValue();
     wxComboCtrl::ShowPopup();
 }
 
 void wxColourCombo::HidePopup(bool generateEvent)
 {
-    // During the animation, only mark the popup as hidden. The next step of the animation then shows the popup. The
-    // popup reports the end of the selection when it is closed later.
+    // During the animation, end only the animation: the next step finds the state Hidden and shows the popup. The popup
+    // reports the end of the selection when it is closed later.
     if (m_animTimer.IsRunning() && !IsScheduledForDeletion(this))
         m_popupWinState = Hidden;
     else

@@ -66,9 +66,9 @@ class OutlineWindow;
 /// field, also ends the animation; the popup is then shown and dismissed at once. Keys have no effect during the
 /// animation. EnablePopupAnimation(false) turns the animation off.
 ///
-/// wxEVT_COMBOBOX_DROPDOWN is sent when the popup opens. wxEVT_COMBOBOX_CLOSEUP is sent when the popup is dismissed
-/// from outside, but not when the popup closes itself because a colour was chosen or the selection was cancelled. The
-/// popup's listener is called in all these cases.
+/// wxEVT_COMBOBOX_DROPDOWN is sent when the popup opens. wxEVT_COMBOBOX_CLOSEUP is sent when the popup is closed by
+/// Dismiss(), by the button or by a click outside the popup. It is not sent when the popup closes itself because a
+/// colour was chosen or the selection was cancelled. The popup's listener is called in all these cases.
 ///
 /// The value of the control is the text of a cell, such as the name of a colour. As in the toolkit, wxEVT_TEXT is sent
 /// only by a control with a text field. If the button or Dismiss() closes the popup while a cell is hot, the field
@@ -144,8 +144,8 @@ public:
     /// Closes the popup. During the animation, ends only the animation: the popup is then shown.
     void HidePopup(bool generateEvent = false) override;
 
-    /// Excludes the popup from the children that can take the focus in place of the control. Otherwise the control
-    /// itself would refuse the focus.
+    /// Returns false for the window of the popup. The toolkit then does not count this window among the children that
+    /// can take the focus in place of the control. If it counted the window, the control itself would refuse the focus.
     bool IsClientAreaChild(const wxWindow* child) const override;
 
     /// Describes the control to assistive technologies: its label, and the hot cell or the colour in effect.

@@ -14,7 +14,7 @@
 
 namespace {
 
-// Translators: chooses the colour that a document or program has by itself.
+// Translators: chooses the default colour of a document or program.
 constexpr const wchar_t* kAutomatic = wxTRANSLATE(L"Automatic");
 // Translators: opens the dialog in which any colour can be mixed.
 constexpr const wchar_t* kMoreColours = wxTRANSLATE(L"More Colours...");
@@ -129,8 +129,8 @@ bool wxColourPopup::SetColour(const wxColour& colour)
     if (!m_combo)
         return true;
     const wxString name = TextOf(m_nChosenColourSel);
-    // Remember the new name. Closing the popup makes the name of the hot cell the combo's value. RestoreValue() then
-    // makes the remembered name the value again.
+    // Remember the new name for RestoreValue(). When the popup closes, the combo's value changes to the name of the hot
+    // cell, and RestoreValue() changes it back.
     if (m_valueWhenShown || m_ending)
         m_valueWhenShown = name;
     if (m_combo->GetValue() != name)
@@ -225,8 +225,9 @@ void wxColourPopup::FindCellFromColour(const wxColour& colour)
 
 wxString wxColourPopup::GetStringValue() const
 {
-    // While DoEndSel() hides the popup, the combo calls this function. Return the value that DoEndSel() restores next.
-    // With the name of the hot cell, a text field would report a colour that was not chosen, and then the old text.
+    // While DoEndSel() hides the popup, the combo calls this function and takes the result as its value. Return the
+    // value that DoEndSel() restores next. If the name of the hot cell were returned, the combo's text field would send
+    // an event with a colour that was not chosen, and then another event with the old text.
     if (m_isClosingAfterCancel && m_valueWhenShown)
         return *m_valueWhenShown;
     return TextOf(m_nCurrentSel);
@@ -255,8 +256,8 @@ void wxColourPopup::SetStringValue(const wxString& value)
     for (int i = 0; i < fittings::kColourCount; ++i) {
         const wchar_t* const name = GetColourName(i);
         if (name && value == name) {
-            // Change nothing when a combo that dismisses its popup passes the name of the hot cell: that cell is hot
-            // already.
+            // While a combo dismisses its popup, it passes the name of the hot cell to this function. Change nothing
+            // then: that cell is hot already.
             if (i != m_nCurrentSel || !m_valueWhenShown || m_crColour != GetColour(i))
                 ChangeSelection(i);
             // While a combo opens its popup, it passes its text to this function. The pointer may be over another cell

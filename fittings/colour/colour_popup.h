@@ -15,12 +15,13 @@
 #include <fittings/base/export.h>
 #include <fittings/colour/colour_table.h>
 
-/// Receives notifications of what the user does in a wxColourPopup. A host overrides the functions that it needs.
+/// Receives notifications of what the user does in a wxColourPopup. The description of that class says what the hot
+/// cell is. A host overrides the functions that it needs.
 class FITTINGS_API wxColorPopupListener
 {
 public:
-    /// Called before the popup is shown. If the combo's value names a colour of the palette, that colour's cell becomes
-    /// hot next.
+    /// Called before the popup is shown, while no cell is hot. If the combo's value names a colour of the palette, the
+    /// cell of that colour becomes hot after this call.
     virtual void OnColourPopup();
 
     /// Called when another cell has become hot; @a colour is the colour of that cell.
@@ -148,8 +149,9 @@ public:
 
     /// Returns the text of the hot cell; empty when no cell is hot.
     ///
-    /// If the selection was cancelled, or if SetColour() has replaced the chosen colour, DoEndSel() restores the
-    /// combo's value. In these cases, the result is that value while DoEndSel() closes the popup.
+    /// While DoEndSel() closes the popup, the result is the combo's final value. If the selection was cancelled, this
+    /// is the value that the combo had when the popup opened, or that the host has set since. If SetColour() has
+    /// replaced the chosen colour, it is the text of the new colour.
     wxString GetStringValue() const override;
 
     /// Makes the cell with the name @a value hot. The language and the letter case must be those of the table. Any
@@ -253,8 +255,8 @@ public:
     /// belong to the cell below.
     void OnMouseMove(wxMouseEvent& event);
 
-    /// Ends the selection. Anywhere within the popup, even between the cells, the colour of the hot cell is chosen.
-    /// Outside the popup, the selection is cancelled.
+    /// Ends the selection. If the button is released within the popup, even between the cells, the colour of the hot
+    /// cell is chosen. If it is released outside the popup, the selection is cancelled.
     void OnLButtonUp(wxMouseEvent& event);
 
     /// The arrow keys make another cell hot, Enter and the space bar choose the hot cell, and Escape cancels. Other
@@ -276,7 +278,7 @@ public:
 protected:
     wxString m_strMoreColours;          ///< The text of the lower box.
     wxString m_strAutomatic;            ///< The text of the upper box.
-    wxPalette m_palette;                ///< The palette's colours, selected for drawing cells.
+    wxPalette m_palette;                ///< The palette's colours. Set in the DC before a cell is drawn.
     wxRect m_rectMoreColours;           ///< The lower box.
     wxRect m_rectAutomatic;             ///< The upper box.
     wxRect m_rectWindow;                ///< The place and size of the popup.
@@ -321,7 +323,7 @@ private:
     bool m_isClosingAfterCancel = false;
     bool m_dialogCancelled = false;            ///< True after the dialog was cancelled, until the selection ends.
     std::optional<wxString> m_valueWhenShown;  ///< The value to restore if nothing is chosen; none while closed.
-    /// Weak pointers to this object expire when the popup is destroyed.
+    /// A weak pointer to m_life expires when the popup is destroyed.
     const std::shared_ptr<const bool> m_life = std::make_shared<const bool>(true);
 
     wxDECLARE_EVENT_TABLE();

@@ -111,7 +111,8 @@ void wxColourPopup::OnPopup()
 {
     FindCellFromColour(m_crInitialColour);
     m_nCurrentSel = CELL_NONE;
-    // Remove the old name: the pointer may no longer be over the cell that was hot when the popup closed.
+    // Remove the tooltip: it may still show the name of the cell that was hot when the popup closed, and the pointer
+    // may no longer be over that cell.
     ShowNameAtPointer("");
     // While no cell is hot, Enter or a click chooses the colour in effect.
     m_crColour = m_crInitialColour;
@@ -124,8 +125,8 @@ void wxColourPopup::OnPopup()
 
 void wxColourPopup::OnDismiss()
 {
-    // Report no end when the popup hides itself. Report no second end when a listener closes the popup while the
-    // listener is notified of the end.
+    // When the popup hides itself, DoEndSel() reports the end of the selection. When a listener closes the popup while
+    // it is notified of the end, the end must not be reported twice.
     if (m_bInternalHide || m_ending)
         return;
     const Life life(m_life);
@@ -304,8 +305,9 @@ bool wxColourPopup::HideCombo()
     return !life.expired();
 }
 
-// Restores the combo's value, because closing the popup has made the name of the hot cell the value. The combo would
-// pass that name when the popup opens again, and Enter would then choose a colour that the user has not chosen.
+// Restores the combo's value: when the popup closed, the value changed to the name of the hot cell. Otherwise the combo
+// would pass that name to SetStringValue() when the popup opens again. The cell would be hot, and Enter would choose a
+// colour that the user does not want.
 void wxColourPopup::RestoreValue()
 {
     const std::optional<wxString> kept = std::exchange(m_valueWhenShown, std::nullopt);

@@ -70,7 +70,7 @@ constexpr KeyedColour kColours[] = {
     // Translators: a light brown (210, 180, 140).
     {wxTRANSLATE(L"Tan"), Rgb(210, 180, 140)},
     {wxTRANSLATE(L"Light yellow"), Rgb(255, 255, 224)},
-    // Translators: the blank at the end belongs to this key alone, leave it out.
+    // Translators: the English text ends with a blank. End the translation without a blank.
     {wxTRANSLATE(L"Pale green "), Rgb(152, 251, 152)},
     {wxTRANSLATE(L"Pale turquoise"), Rgb(175, 238, 238)},
     {wxTRANSLATE(L"Pale blue"), Rgb(104, 131, 139)},

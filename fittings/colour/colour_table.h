@@ -17,7 +17,7 @@ inline constexpr int CELL_MORE_COLOURS = -2;  ///< The box "More Colours..." bel
 inline constexpr int CELL_AUTOMATIC = -3;     ///< The box "Automatic" above the palette.
 /// @}
 
-/// The library's names that have no prefix of their own.
+/// Names of the library that are too general for the global namespace.
 namespace fittings {
 
 /// How many colours the palette has.
@@ -29,7 +29,7 @@ inline constexpr int kColourCount = 40;
 struct ColourTableEntry
 {
     std::uint32_t crColour;  ///< 0x00BBGGRR: red in the lowest byte.
-    const wchar_t* szName;   ///< In the user's language; null when the platform has none.
+    const wchar_t* szName;   ///< In the user's language; null if the platform library has no such text.
 };
 
 /// Returns a pointer to the first of the palette's 40 colours.
@@ -45,8 +45,8 @@ struct ColourTableEntry
 /// until the process ends.
 FITTINGS_API const ColourTableEntry* GetColourTable();
 
-/// Returns the name of the palette's colour @a index; null when the platform has none. @a index must be from 0 to 39;
-/// it is not checked.
+/// Returns the name of the palette's colour @a index; null if the platform library has no such text. @a index must be
+/// from 0 to 39; it is not checked.
 FITTINGS_API const wchar_t* GetColourName(int index);
 
 #endif

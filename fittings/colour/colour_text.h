@@ -6,7 +6,7 @@ class wxString;
 
 namespace fittings {
 
-/// Returns the text for @a key in the user's language; null when the platform has none.
+/// Returns the text for @a key in the user's language; null if the platform library has no such text.
 const wchar_t* ColourText(const wchar_t* key);
 
 /// Returns the text that a screen reader announces for a popup: the text of the hot cell, or the colour in effect if
