@@ -143,12 +143,12 @@ bool AreTexts(std::wstring_view texts)
            texts.substr(separator, kCaption.size()) == kCaption;
 }
 
-/// Returns false if the toolkit would read part of the texts as a field, and the field's value is below 0 or above
-/// kMostInText.
+/// Returns false if the toolkit would read part of the texts as a field with a value below 0 or above kMostInText.
 ///
 /// The toolkit ends a field even at an escaped ";", and reads the text after it as the next field. From the caption
-/// "a;row=99999999;", it reads a row of 99999999. The field after the row is empty, and the toolkit treats an empty
-/// field as the end of the pane. A "\b" is the toolkit's placeholder for an escaped ";".
+/// "a;row=99999999;", it reads a row of 99999999. The field after that row is empty. The toolkit treats an empty field
+/// as the end of the pane, so it does not read the pane's real row. A "\b" is the toolkit's placeholder for an escaped
+/// ";".
 bool AreReadAtOnce(std::wstring_view texts)
 {
     for (std::size_t at = texts.find_first_of(L";\b"); at != texts.npos; at = texts.find_first_of(L";\b", at + 1)) {

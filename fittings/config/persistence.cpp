@@ -93,12 +93,13 @@ public:
         return found == m_records.end() ? nullptr : found->second.lock().get();
     }
 
-    /// Saves the collected values on the next turn of the event loop. If the program ends before that turn, the
-    /// destruction of the window saves the values.
+    /// Saves the collected values on the next turn of the event loop. If the program ends before that turn, the values
+    /// are saved when the window of @a who or one of its parents is destroyed.
     void SaveSoon(const wxPersistentObject& who)
     {
-        // Use the nearest window that has a record already. If there is none, give a record to the outermost parent and
-        // not to the window itself, which may be partly destroyed by now.
+        // The values are saved when a window with a record is destroyed. Look for the nearest window that has one. If
+        // there is none, attach a record to the outermost parent and not to the window itself, which may be partly
+        // destroyed by now.
         wxWindow* outermost = WindowOf(who);
         for (wxWindow* window = outermost; window; window = window->GetParent()) {
             outermost = window;

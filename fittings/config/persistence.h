@@ -101,10 +101,12 @@ private:
 /// Remembers which items of a tree are expanded, which are selected, and which is the first in view.
 ///
 /// An item is identified by the labels on the path to it. A label may be any text. Siblings with the same label are
-/// told apart by their order. The label of the root does not matter. Restore() expands an item before it looks for the
-/// item's children, so a program may add the children when the item expands. Restore() collapses no item. If an item
-/// was collapsed, Restore() uses only the children that the item has already. Selecting sends the toolkit's events, as
-/// if the user had selected the item. Items that no longer exist are left out.
+/// told apart by their order. The label of the root does not matter. Items that no longer exist are left out.
+///
+/// If an item was expanded when the state was stored, Restore() expands it before it looks for its children. So a
+/// program may add the children when the item expands. If an item was collapsed, Restore() leaves it as it is, and
+/// finds only the children that it already has. Selecting sends the toolkit's events, as if the user had selected the
+/// item.
 ///
 /// Levels beyond 10,000 are not remembered: the toolkit cannot handle expanded trees that are much deeper.
 class FITTINGS_API wxPersistentTreeCtrl : public wxPersistentWindow<wxTreeCtrl>
@@ -214,7 +216,7 @@ inline bool wxPersistentRegisterAndRestore(wxAuiManager* manager, const wxString
 /// @}
 
 /// Registers and restores a window under @a name, and each window inside it that can remember something: splitters,
-/// books, data views, trees and reports. Returns true when something was restored.
+/// books, data views, trees, and lists in report view. Returns true when something was restored.
 ///
 /// An inner window is registered under @a name, "/" and the inner window's name. For example, a tree that was not given
 /// a name is registered under "Planets/treeCtrl". If several inner windows have the same name, " 2" is appended for the
