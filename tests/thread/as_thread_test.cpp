@@ -31,7 +31,7 @@ public:
     template <typename Work>
     void Start(Work work)
     {
-        const auto& thread = m_threads.emplace_back(std::make_unique<Thread>(std::move(work), wxTHREAD_JOINABLE));
+        const auto& thread = m_threads.emplace_back(std::make_unique<Thread>(wxTHREAD_JOINABLE, std::move(work)));
         EXPECT_EQ(thread->Create(0), wxTHREAD_NO_ERROR);
         EXPECT_EQ(thread->Run(), wxTHREAD_NO_ERROR);
     }
@@ -176,16 +176,14 @@ TEST(EntryOfAThread, PausesAndEndsWhenItHeedsTheToolkitsRequests)
 {
     std::atomic<wxThread*> self{nullptr};
     std::atomic<int> rounds{0};
-    Thread thread(
-        [&](Thread&) {
-            self = wxThread::This();
-            while (!wxThread::This()->TestDestroy()) {
-                ++rounds;
-                wxThread::Yield();
-            }
-            return Code(7);
-        },
-        wxTHREAD_JOINABLE);
+    Thread thread(wxTHREAD_JOINABLE, [&](Thread&) {
+        self = wxThread::This();
+        while (!wxThread::This()->TestDestroy()) {
+            ++rounds;
+            wxThread::Yield();
+        }
+        return Code(7);
+    });
     EXPECT_EQ(thread.Create(0), wxTHREAD_NO_ERROR);
     EXPECT_EQ(thread.Run(), wxTHREAD_NO_ERROR);
     ASSERT_TRUE(Becomes([&] { return self && rounds > 0; }));
@@ -205,7 +203,7 @@ TEST(EntryOfAThread, MayOwnAnotherThread)
 {
     Threads outer;
     outer.Start([](Thread&) {
-        Thread inner([](Thread&) { return Code(20); }, wxTHREAD_JOINABLE);
+        Thread inner(wxTHREAD_JOINABLE, [](Thread&) { return Code(20); });
         EXPECT_EQ(inner.Create(0), wxTHREAD_NO_ERROR);
         EXPECT_EQ(inner.Run(), wxTHREAD_NO_ERROR);
         return Code(reinterpret_cast<std::intptr_t>(inner.Wait()) + 1);
@@ -248,15 +246,13 @@ TEST(EntryOfAGuiThread, ReachesTheGuiByTheToolkitsOtherWaysToo)
 {
     Recorder handler;
     std::atomic<bool> wasMain{false};
-    Worker worker(
-        [&](Worker& self) {
-            wxTheApp->CallAfter([&] { wasMain = wxThread::IsMain(); });
-            auto* const event = new wxCommandEvent(7, 0);
-            event->SetInt(1);
-            wxQueueEvent(&handler, event);
-            self.PostEvent(7, 2);
-        },
-        &handler);
+    Worker worker(&handler, [&](Worker& self) {
+        wxTheApp->CallAfter([&] { wasMain = wxThread::IsMain(); });
+        auto* const event = new wxCommandEvent(7, 0);
+        event->SetInt(1);
+        wxQueueEvent(&handler, event);
+        self.PostEvent(7, 2);
+    });
     EXPECT_EQ(worker.RunThread(), wxTHREAD_NO_ERROR);
     worker.Wait();
     EXPECT_TRUE(PumpUntil([&] { return wasMain && handler.events.size() == 2; }));
@@ -267,14 +263,12 @@ TEST(EntryOfAGuiThread, MayEnterTheGuiWhileItsOwnerHandlesEvents)
 {
     int touched = 0;
     std::atomic<bool> done{false};
-    Worker worker(
-        [&](Worker&) {
-            wxMutexGuiEnter();
-            ++touched;
-            wxMutexGuiLeave();
-            done = true;
-        },
-        nullptr);
+    Worker worker(nullptr, [&](Worker&) {
+        wxMutexGuiEnter();
+        ++touched;
+        wxMutexGuiLeave();
+        done = true;
+    });
     EXPECT_EQ(worker.RunThread(), wxTHREAD_NO_ERROR);
     EXPECT_TRUE(PumpUntil([&] { return done.load(); }, 30000));
     worker.Wait();
@@ -285,13 +279,11 @@ TEST(EntryOfAGuiThread, AnswersWhatItGetsByAMessageQueue)
 {
     wxMessageQueue<int> questions;
     Recorder handler;
-    Worker worker(
-        [&](Worker& self) {
-            int question = 0;
-            while (questions.Receive(question) == wxMSGQUEUE_NO_ERROR && question != 0)
-                self.PostEvent(7, question * question);
-        },
-        &handler);
+    Worker worker(&handler, [&](Worker& self) {
+        int question = 0;
+        while (questions.Receive(question) == wxMSGQUEUE_NO_ERROR && question != 0)
+            self.PostEvent(7, question * question);
+    });
     EXPECT_EQ(worker.RunThread(), wxTHREAD_NO_ERROR);
     for (const int question : {1, 2, 3, 0})
         EXPECT_EQ(questions.Post(question), wxMSGQUEUE_NO_ERROR);
@@ -308,7 +300,7 @@ protected:
     // Posts an event to the panel from a worker thread, and waits until the event has been handled.
     void Post(int value)
     {
-        Worker worker([&](Worker& self) { self.PostEvent(type, value); }, panel);
+        Worker worker(panel, [&](Worker& self) { self.PostEvent(type, value); });
         worker.RunThread();
         worker.Wait();
         PumpPending();
@@ -379,13 +371,11 @@ TEST_F(PostedToAWindow, ArrivesInTheLoopOfAModalDialog)
             dialog.EndModal(wxID_OK);
     });
     Signal shown;
-    Worker worker(
-        [&](Worker& self) {
-            shown.Wait();
-            for (int i = 1; i <= 5; ++i)
-                self.PostEvent(type, i);
-        },
-        &dialog);
+    Worker worker(&dialog, [&](Worker& self) {
+        shown.Wait();
+        for (int i = 1; i <= 5; ++i)
+            self.PostEvent(type, i);
+    });
     const Stopped stopped{worker};
     EXPECT_EQ(worker.RunThread(), wxTHREAD_NO_ERROR);
     dialog.CallAfter([&] { shown.Set(); });
@@ -407,15 +397,13 @@ TEST_F(PostedToAWindow, MayEndAndDestroyItsWorker)
         }
     });
     std::atomic<int> posted{0};
-    worker = std::make_unique<Worker>(
-        [&](Worker& self) {
-            while (self.PostEvent(type, posted + 1)) {
-                ++posted;
-                wxThread::Sleep(1);
-            }
-            return Code(42);
-        },
-        panel);
+    worker = std::make_unique<Worker>(panel, [&](Worker& self) {
+        while (self.PostEvent(type, posted + 1)) {
+            ++posted;
+            wxThread::Sleep(1);
+        }
+        return Code(42);
+    });
     EXPECT_EQ(worker->RunThread(), wxTHREAD_NO_ERROR);
     EXPECT_TRUE(PumpUntil([&] { return !worker; }, 30000));
     // After the end of the worker, only the events that it had queued arrive.

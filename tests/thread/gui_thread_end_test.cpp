@@ -33,7 +33,7 @@ void ExpectEvents(const Recorder& recorder, const Events& events)
 TEST(EndEvent, ComesOnceWithTheRunNumberAndTheExitCode)
 {
     Recorder recorder;
-    Worker worker([](Worker&) { return Code(42); }, &recorder);
+    Worker worker(&recorder, [](Worker&) { return Code(42); });
     worker.SetEndEvent(kEnd);
     ASSERT_EQ(worker.RunThread(), wxTHREAD_NO_ERROR);
     ExpectEvents(recorder, {Plain(kEnd, worker.GetRunNumber(), 0, Code(42))});
@@ -43,7 +43,7 @@ TEST(EndEvent, ComesOnceWithTheRunNumberAndTheExitCode)
 TEST(EndEvent, ComesAfterAllOthersOfTheWorker)
 {
     Recorder recorder;
-    Worker worker([](Worker& self) { self.PostEvent(kOther, 1); }, &recorder);
+    Worker worker(&recorder, [](Worker& self) { self.PostEvent(kOther, 1); });
     worker.SetEndEvent(kEnd);
     worker.RunThread();
     ExpectEvents(recorder, {Plain(kOther, 1), Plain(kEnd, worker.GetRunNumber())});
@@ -52,13 +52,11 @@ TEST(EndEvent, ComesAfterAllOthersOfTheWorker)
 TEST(EndEvent, ComesAfterStartKill)
 {
     Recorder recorder;
-    Worker worker(
-        [](Worker& self) {
-            while (self.DoContinue())
-                wxThread::Yield();
-            return Code(7);
-        },
-        &recorder);
+    Worker worker(&recorder, [](Worker& self) {
+        while (self.DoContinue())
+            wxThread::Yield();
+        return Code(7);
+    });
     worker.SetEndEvent(kEnd);
     worker.RunThread();
     ASSERT_TRUE(worker.started.Wait());
@@ -84,7 +82,7 @@ TEST(EndEvent, ComesWhenTheWorkHasEnded)
         wxThread::ExitCode exitCode = nullptr;
     };
     Asking handler;
-    Worker worker([](Worker&) { return Code(42); }, &handler);
+    Worker worker(&handler, [](Worker&) { return Code(42); });
     handler.worker = &worker;
     worker.SetEndEvent(kEnd);
     worker.RunThread();
@@ -96,7 +94,7 @@ TEST(EndEvent, ComesWhenTheWorkHasEnded)
 TEST(EndEvent, DoesNotComeUnasked)
 {
     Recorder recorder;
-    Worker worker([](Worker&) { return Code(42); }, &recorder);
+    Worker worker(&recorder, [](Worker&) { return Code(42); });
     worker.RunThread();
     worker.Wait();
     ExpectEvents(recorder, {});
@@ -104,7 +102,7 @@ TEST(EndEvent, DoesNotComeUnasked)
 
 TEST(EndEvent, NeedsNoHandler)
 {
-    Worker worker([](Worker&) { return Code(42); }, nullptr);
+    Worker worker(nullptr, [](Worker&) { return Code(42); });
     worker.SetEndEvent(kEnd);
     worker.RunThread();
     EXPECT_EQ(worker.Wait(), Code(42));
@@ -113,7 +111,7 @@ TEST(EndEvent, NeedsNoHandler)
 TEST(EndEvent, IsDroppedWithTheHandler)
 {
     auto recorder = std::make_unique<Recorder>();
-    Worker worker([](Worker&) { return Code(42); }, recorder.get());
+    Worker worker(recorder.get(), [](Worker&) { return Code(42); });
     worker.SetEndEvent(kEnd);
     worker.RunThread();
     worker.Wait();
@@ -123,8 +121,8 @@ TEST(EndEvent, IsDroppedWithTheHandler)
 
 TEST(RunNumber, GrowsFromWorkerToWorker)
 {
-    const Worker first([](Worker&) {}, nullptr);
-    const Worker second([](Worker&) {}, nullptr);
+    const Worker first(nullptr, [](Worker&) {});
+    const Worker second(nullptr, [](Worker&) {});
     EXPECT_GT(first.GetRunNumber(), 0);
     EXPECT_GT(second.GetRunNumber(), first.GetRunNumber());
 }
@@ -132,12 +130,12 @@ TEST(RunNumber, GrowsFromWorkerToWorker)
 TEST(RunNumber, TellsALateEventOfAnEarlierWorker)
 {
     Recorder recorder;
-    auto worker = std::make_unique<Worker>([](Worker&) { return Code(1); }, &recorder);
+    auto worker = std::make_unique<Worker>(&recorder, [](Worker&) { return Code(1); });
     const int earlier = worker->GetRunNumber();
     worker->SetEndEvent(kEnd);
     worker->RunThread();
     worker->Wait();
-    worker = std::make_unique<Worker>([](Worker&) { return Code(2); }, &recorder);
+    worker = std::make_unique<Worker>(&recorder, [](Worker&) { return Code(2); });
     worker->SetEndEvent(kEnd);
     worker->RunThread();
     ExpectEvents(recorder, {Plain(kEnd, earlier, 0, Code(1)), Plain(kEnd, worker->GetRunNumber(), 0, Code(2))});
@@ -147,14 +145,12 @@ TEST(PostResult, IsDeliveredAfterStartKill)
 {
     Recorder recorder;
     bool isPosted = false;
-    Worker worker(
-        [&](Worker& self) {
-            wxCommandEvent event(kOther, 5);
-            event.SetInt(3);
-            event.SetString("half done");
-            isPosted = self.PostResult(event);
-        },
-        &recorder);
+    Worker worker(&recorder, [&](Worker& self) {
+        wxCommandEvent event(kOther, 5);
+        event.SetInt(3);
+        event.SetString("half done");
+        isPosted = self.PostResult(event);
+    });
     worker.StartKill();
     worker.RunThread();
     worker.Wait();
@@ -167,7 +163,7 @@ TEST(PostResult, IsDeliveredAfterStartKill)
 
 TEST(PostResult, TellsThatThereIsNoHandler)
 {
-    Worker worker([](Worker& self) { return Code(self.PostResult(wxCommandEvent(kOther)) ? 1 : 2); }, nullptr);
+    Worker worker(nullptr, [](Worker& self) { return Code(self.PostResult(wxCommandEvent(kOther)) ? 1 : 2); });
     worker.RunThread();
     EXPECT_EQ(worker.Wait(), Code(2));
 }
@@ -184,13 +180,13 @@ TEST(HasEnded, IsTrueOnceTheWorkIsDone)
 
 TEST(HasEnded, IsFalseOfAThreadThatHasNotRun)
 {
-    const Worker worker([](Worker&) {}, nullptr);
+    const Worker worker(nullptr, [](Worker&) {});
     EXPECT_FALSE(worker.HasEnded());
 }
 
 TEST(WaitFor, AnswersAtOnceForAThreadThatHasNotRun)
 {
-    Worker worker([](Worker&) {}, nullptr);
+    Worker worker(nullptr, [](Worker&) {});
     EXPECT_FALSE(worker.WaitFor(1'000'000));
 }
 
@@ -248,12 +244,10 @@ TEST(WaitFor, KeepsWindowsPaintedAndHandlesNothingElse)
         event.Skip();
     });
     Recorder recorder;
-    Worker worker(
-        [&](Worker& self) {
-            self.PostEvent(kOther, 1);
-            return Code(Becomes([&] { return painted > 0; }) ? 1 : 2);
-        },
-        &recorder);
+    Worker worker(&recorder, [&](Worker& self) {
+        self.PostEvent(kOther, 1);
+        return Code(Becomes([&] { return painted > 0; }) ? 1 : 2);
+    });
     panel->Refresh();
     worker.RunThread();
     EXPECT_TRUE(worker.WaitFor(1'000'000));

@@ -19,7 +19,7 @@ namespace {
 class Open : public Working<wxGUIThread>
 {
 public:
-    explicit Open(wxEvtHandler* handler) : Working([](Working&) {}, handler) {}
+    explicit Open(wxEvtHandler* handler) : Working(handler, [](Working&) {}) {}
 
     wxMutex& ContinueMutex() { return m_continueMutex; }
     wxMutex& PostMutex() { return m_postMutex; }
@@ -57,7 +57,7 @@ bool IsFree(wxMutex& mutex)
 class Laid : public Working<wxGUIThreadEx>
 {
 public:
-    Laid() : Working([](Working&) {}, nullptr, 1) {}
+    Laid() : Working(nullptr, 1, [](Working&) {}) {}
 
     std::vector<const void*> Members() const
     {

@@ -34,11 +34,11 @@ struct TakesZero<std::void_t<decltype(std::declval<Thread&>().PostEvent(std::dec
 static_assert(!TakesZero<void, wxGUIThread, int, int>::value);
 static_assert(!TakesZero<void, wxGUIThreadEx, int>::value);
 
-// Runs @a work on a worker that is constructed with @a arguments. Waits for the worker, and delivers the posted events.
-template <typename Thread, typename Work, typename... Arguments>
-void RunAndDeliver(Work work, Arguments... arguments)
+// Runs a worker that is constructed with @a arguments, waits for it, and delivers the posted events.
+template <typename Thread, typename... Arguments>
+void RunAndDeliver(Arguments... arguments)
 {
-    Thread thread(std::move(work), arguments...);
+    Thread thread(arguments...);
     ASSERT_EQ(thread.RunThread(), wxTHREAD_NO_ERROR);
     thread.Wait();
     PumpPending();
@@ -48,7 +48,7 @@ TEST(PostEvent, DeliversTypeAndInt)
 {
     Recorder handler;
     bool answer = false;
-    RunAndDeliver<Worker>([&](Worker& self) { answer = self.PostEvent(7, 3); }, &handler);
+    RunAndDeliver<Worker>(&handler, [&](Worker& self) { answer = self.PostEvent(7, 3); });
     EXPECT_TRUE(answer);
     EXPECT_EQ(handler.events, (Events{Plain(7, 3)}));
     EXPECT_TRUE(handler.allOnGuiThread);
@@ -58,12 +58,10 @@ TEST(PostEvent, DeliversTheExtraLong)
 {
     Recorder handler;
     bool answer = false;
-    RunAndDeliver<Worker>(
-        [&](Worker& self) {
-            answer = self.PostEvent(7, 3, 99L) && self.PostEvent(7, 3, 0L) && self.PostEvent(7, 3, -1L) &&
-                     self.PostEvent(7, 3, 0x123456789ABCDEF0L) && self.PostEvent(7, 3, 5);
-        },
-        &handler);
+    RunAndDeliver<Worker>(&handler, [&](Worker& self) {
+        answer = self.PostEvent(7, 3, 99L) && self.PostEvent(7, 3, 0L) && self.PostEvent(7, 3, -1L) &&
+                 self.PostEvent(7, 3, 0x123456789ABCDEF0L) && self.PostEvent(7, 3, 5);
+    });
     EXPECT_TRUE(answer);
     EXPECT_EQ(handler.events, (Events{Plain(7, 3, 99), Plain(7, 3, 0), Plain(7, 3, -1),
                                       Plain(7, 3, 0x123456789ABCDEF0L), Plain(7, 3, 5)}));
@@ -74,8 +72,8 @@ TEST(PostEvent, DeliversTheClientDataAsItIs)
     Recorder handler;
     int data = 17;
     bool answer = false;
-    RunAndDeliver<Worker>([&](Worker& self) { answer = self.PostEvent(7, 3, &data) && self.PostEvent(7, 4, nullptr); },
-                          &handler);
+    RunAndDeliver<Worker>(&handler,
+                          [&](Worker& self) { answer = self.PostEvent(7, 3, &data) && self.PostEvent(7, 4, nullptr); });
     EXPECT_TRUE(answer);
     EXPECT_EQ(handler.events, (Events{Plain(7, 3, 0, &data), Plain(7, 4, 0, nullptr)}));
     EXPECT_EQ(data, 17);
@@ -84,14 +82,12 @@ TEST(PostEvent, DeliversTheClientDataAsItIs)
 TEST(PostEvent, DeliversIntsOfAllSizesInOrder)
 {
     Recorder handler;
-    RunAndDeliver<Worker>(
-        [&](Worker& self) {
-            self.PostEvent(7, 0);
-            self.PostEvent(8, -1);
-            self.PostEvent(9, INT_MAX);
-            self.PostEvent(10, INT_MIN);
-        },
-        &handler);
+    RunAndDeliver<Worker>(&handler, [&](Worker& self) {
+        self.PostEvent(7, 0);
+        self.PostEvent(8, -1);
+        self.PostEvent(9, INT_MAX);
+        self.PostEvent(10, INT_MIN);
+    });
     EXPECT_EQ(handler.events, (Events{Plain(7, 0), Plain(8, -1), Plain(9, INT_MAX), Plain(10, INT_MIN)}));
 }
 
@@ -107,13 +103,11 @@ TEST(PostEvent, DeliversACopyOfTheCallersEvent)
     event.SetExtraLong(5);
     event.SetClientData(&data);
     bool answer = false;
-    RunAndDeliver<Worker>(
-        [&](Worker& self) {
-            answer = self.PostEvent(event, 3);
-            event.SetString("reused");
-            event.SetExtraLong(6);
-        },
-        &handler);
+    RunAndDeliver<Worker>(&handler, [&](Worker& self) {
+        answer = self.PostEvent(event, 3);
+        event.SetString("reused");
+        event.SetExtraLong(6);
+    });
     EXPECT_TRUE(answer);
     EXPECT_EQ(event.GetInt(), 3);
     EXPECT_EQ(event.GetString(), "reused");
@@ -137,14 +131,12 @@ TEST(PostEvent, GoesByTheHandlersPendingEvents)
     } handler;
     int data = 0;
     wxCommandEvent event(7);
-    RunAndDeliver<Worker>(
-        [&](Worker& self) {
-            self.PostEvent(event, 1);
-            self.PostEvent(7, 2);
-            self.PostEvent(7, 3, 99L);
-            self.PostEvent(7, 4, &data);
-        },
-        &handler);
+    RunAndDeliver<Worker>(&handler, [&](Worker& self) {
+        self.PostEvent(event, 1);
+        self.PostEvent(7, 2);
+        self.PostEvent(7, 3, 99L);
+        self.PostEvent(7, 4, &data);
+    });
     EXPECT_EQ(handler.values, (std::vector<int>{1, 2, 3, 4}));
     ASSERT_FALSE(handler.pending.empty());
     EXPECT_EQ(handler.pending[0], &event);
@@ -163,7 +155,7 @@ TEST(PostEvent, KeepsTheClassOfTheCallersEvent)
         bool isThreadEvent = false;
     } handler;
     wxNotifyEvent event(7);
-    RunAndDeliver<Worker>([&](Worker& self) { self.PostEvent(event, 3); }, &handler);
+    RunAndDeliver<Worker>(&handler, [&](Worker& self) { self.PostEvent(event, 3); });
     EXPECT_TRUE(handler.isThreadEvent);
 }
 
@@ -173,14 +165,14 @@ TEST(PostEvent, ReachesABoundHandler)
     wxEvtHandler handler;
     int value = 0;
     handler.Bind(type, [&](wxCommandEvent& event) { value = event.GetInt(); });
-    RunAndDeliver<Worker>([&](Worker& self) { self.PostEvent(type, 3); }, &handler);
+    RunAndDeliver<Worker>(&handler, [&](Worker& self) { self.PostEvent(type, 3); });
     EXPECT_EQ(value, 3);
 }
 
 TEST(PostEvent, DoesNotCallTheHandlerOnTheWorker)
 {
     Recorder handler;
-    Worker thread([&](Worker& self) { self.PostEvent(7, 3); }, &handler);
+    Worker thread(&handler, [&](Worker& self) { self.PostEvent(7, 3); });
     thread.RunThread();
     thread.Wait();
     EXPECT_TRUE(handler.events.empty());
@@ -203,19 +195,17 @@ TEST(PostEvent, WakesASleepingEventLoop)
     } handler;
     Signal go;
     const pid_t gui = gettid();
-    Worker thread(
-        [&](Worker& self) {
-            go.Wait();
-            // The GUI thread is asleep when its event loop waits in poll().
-            const bool asleep = Becomes([&] {
-                std::string call;
-                std::getline(std::ifstream(TaskFile(gui, "syscall")), call);
-                const long number = std::strtol(call.c_str(), nullptr, 10);
-                return call[0] != 'r' && (number == SYS_poll || number == SYS_ppoll);
-            });
-            self.PostEvent(7, asleep ? 3 : 4);
-        },
-        &handler);
+    Worker thread(&handler, [&](Worker& self) {
+        go.Wait();
+        // The GUI thread is asleep when its event loop waits in poll().
+        const bool asleep = Becomes([&] {
+            std::string call;
+            std::getline(std::ifstream(TaskFile(gui, "syscall")), call);
+            const long number = std::strtol(call.c_str(), nullptr, 10);
+            return call[0] != 'r' && (number == SYS_poll || number == SYS_ppoll);
+        });
+        self.PostEvent(7, asleep ? 3 : 4);
+    });
     thread.RunThread();
     wxTimer deadline;
     deadline.Bind(wxEVT_TIMER, [&](wxTimerEvent&) { handler.loop.Exit(); });
@@ -231,25 +221,23 @@ TEST(PostEventWithoutAHandler, DropsEventsAndGoesOn)
     wxCommandEvent event(7);
     int data = 0;
     int answers = 0;
-    RunAndDeliver<Worker>(
-        [&](Worker& self) {
-            answers = self.PostEvent(7, 3) + self.PostEvent(7, 3, 99L) + self.PostEvent(7, 3, &data) +
-                      self.PostEvent(event, 3);
-        },
-        nullptr);
+    RunAndDeliver<Worker>(nullptr, [&](Worker& self) {
+        answers =
+            self.PostEvent(7, 3) + self.PostEvent(7, 3, 99L) + self.PostEvent(7, 3, &data) + self.PostEvent(event, 3);
+    });
     EXPECT_EQ(answers, 4);
     EXPECT_EQ(event.GetInt(), 3);
 
     answers = 0;
-    RunAndDeliver<WorkerEx>(
-        [&](WorkerEx& self) { answers = self.PostEvent(3) + self.PostEvent(3, 99L) + self.PostEvent(3, &data); },
-        nullptr, 9);
+    RunAndDeliver<WorkerEx>(nullptr, 9, [&](WorkerEx& self) {
+        answers = self.PostEvent(3) + self.PostEvent(3, 99L) + self.PostEvent(3, &data);
+    });
     EXPECT_EQ(answers, 3);
 }
 
 TEST(PostEventWithoutAHandler, IsRefusedAfterStartKillToo)
 {
-    Worker thread([](Worker&) {}, nullptr);
+    Worker thread(nullptr, [](Worker&) {});
     EXPECT_TRUE(thread.PostEvent(7, 3));
     thread.StartKill();
     EXPECT_FALSE(thread.PostEvent(7, 3));
@@ -260,12 +248,10 @@ TEST(PostEventOfOneType, DeliversEachPayload)
     Recorder handler;
     int data = 0;
     int answers = 0;
-    RunAndDeliver<WorkerEx>(
-        [&](WorkerEx& self) {
-            answers = self.PostEvent(5) + self.PostEvent(6, 99L) + self.PostEvent(7, &data) +
-                      self.PostEvent(8, nullptr) + self.PostEvent(9, 3);
-        },
-        &handler, 9);
+    RunAndDeliver<WorkerEx>(&handler, 9, [&](WorkerEx& self) {
+        answers = self.PostEvent(5) + self.PostEvent(6, 99L) + self.PostEvent(7, &data) + self.PostEvent(8, nullptr) +
+                  self.PostEvent(9, 3);
+    });
     EXPECT_EQ(answers, 5);
     EXPECT_EQ(handler.events,
               (Events{Plain(9, 5), Plain(9, 6, 99), Plain(9, 7, 0, &data), Plain(9, 8), Plain(9, 9, 3)}));
@@ -276,12 +262,10 @@ TEST(PostEventOfOneType, LeavesTheOtherTypesReachable)
 {
     Recorder handler;
     wxCommandEvent event(11);
-    RunAndDeliver<WorkerEx>(
-        [&](WorkerEx& self) {
-            self.wxGUIThread::PostEvent(10, 1);
-            self.wxGUIThread::PostEvent(event, 2);
-        },
-        &handler, 9);
+    RunAndDeliver<WorkerEx>(&handler, 9, [&](WorkerEx& self) {
+        self.wxGUIThread::PostEvent(10, 1);
+        self.wxGUIThread::PostEvent(event, 2);
+    });
     EXPECT_EQ(handler.events, (Events{Plain(10, 1), Plain(11, 2)}));
 }
 
@@ -299,15 +283,13 @@ TEST_F(AfterStartKill, EveryOverloadIsRefused)
     event.SetInt(1);
     Signal posted;
     Signal go;
-    Worker thread(
-        [&](Worker& self) {
-            self.PostEvent(7, 1);
-            posted.Set();
-            go.Wait();
-            answers = self.PostEvent(7, 2) + self.PostEvent(7, 3, 99L) + self.PostEvent(7, 4, &data) +
-                      self.PostEvent(event, 5);
-        },
-        &handler);
+    Worker thread(&handler, [&](Worker& self) {
+        self.PostEvent(7, 1);
+        posted.Set();
+        go.Wait();
+        answers =
+            self.PostEvent(7, 2) + self.PostEvent(7, 3, 99L) + self.PostEvent(7, 4, &data) + self.PostEvent(event, 5);
+    });
     thread.RunThread();
     ASSERT_TRUE(posted.Wait());
     thread.StartKill();
@@ -322,9 +304,9 @@ TEST_F(AfterStartKill, EveryOverloadIsRefused)
 TEST_F(AfterStartKill, EveryOverloadOfOneTypeIsRefused)
 {
     int answers = 0;
-    WorkerEx thread(
-        [&](WorkerEx& self) { answers = self.PostEvent(2) + self.PostEvent(3, 99L) + self.PostEvent(4, &data); },
-        &handler, 9);
+    WorkerEx thread(&handler, 9, [&](WorkerEx& self) {
+        answers = self.PostEvent(2) + self.PostEvent(3, 99L) + self.PostEvent(4, &data);
+    });
     thread.StartKill();
     thread.RunThread();
     thread.Wait();
@@ -335,12 +317,10 @@ TEST_F(AfterStartKill, EveryOverloadOfOneTypeIsRefused)
 
 TEST_F(AfterStartKill, EventsQueuedBeforeStillArrive)
 {
-    Worker thread(
-        [&](Worker& self) {
-            self.PostEvent(7, 1);
-            self.PostEvent(7, 2);
-        },
-        &handler);
+    Worker thread(&handler, [&](Worker& self) {
+        self.PostEvent(7, 1);
+        self.PostEvent(7, 2);
+    });
     thread.RunThread();
     thread.Wait();
     thread.StartKill();

@@ -15,14 +15,14 @@ using Worker = Working<wxGUIThread>;
 
 TEST(RunThread, CreatesAndRuns)
 {
-    Worker worker([](Worker&) { return Code(42); }, nullptr);
+    Worker worker(nullptr, [](Worker&) { return Code(42); });
     EXPECT_EQ(worker.RunThread(), wxTHREAD_NO_ERROR);
     EXPECT_EQ(worker.Wait(), Code(42));
 }
 
 TEST(RunThread, RunsAThreadThatWasCreatedBefore)
 {
-    Worker worker([](Worker&) { return Code(42); }, nullptr);
+    Worker worker(nullptr, [](Worker&) { return Code(42); });
     EXPECT_EQ(worker.Create(0), wxTHREAD_NO_ERROR);
     EXPECT_EQ(worker.RunThread(), wxTHREAD_NO_ERROR);
     EXPECT_EQ(worker.Wait(), Code(42));
@@ -30,7 +30,7 @@ TEST(RunThread, RunsAThreadThatWasCreatedBefore)
 
 TEST(RunThread, IsRefusedASecondTime)
 {
-    Worker worker([](Worker&) { return Code(42); }, nullptr);
+    Worker worker(nullptr, [](Worker&) { return Code(42); });
     EXPECT_EQ(worker.RunThread(), wxTHREAD_NO_ERROR);
     EXPECT_EQ(worker.RunThread(), wxTHREAD_RUNNING);
     EXPECT_EQ(worker.Wait(), Code(42));
@@ -44,14 +44,12 @@ TEST(DoContinue, IsTrueUntilStartKillOnBothThreads)
     bool after = true;
     Signal asked;
     Signal go;
-    Worker worker(
-        [&](Worker& self) {
-            before = self.DoContinue();
-            asked.Set();
-            go.Wait();
-            after = self.DoContinue();
-        },
-        nullptr);
+    Worker worker(nullptr, [&](Worker& self) {
+        before = self.DoContinue();
+        asked.Set();
+        go.Wait();
+        after = self.DoContinue();
+    });
     EXPECT_TRUE(worker.DoContinue());
     worker.RunThread();
     ASSERT_TRUE(asked.Wait());
@@ -66,7 +64,7 @@ TEST(DoContinue, IsTrueUntilStartKillOnBothThreads)
 
 TEST(DoContinue, IsNeverTrueAgain)
 {
-    Worker worker([](Worker& self) { return Code(self.DoContinue() ? 1 : 2); }, nullptr);
+    Worker worker(nullptr, [](Worker& self) { return Code(self.DoContinue() ? 1 : 2); });
     worker.StartKill();
     worker.StartKill();
     EXPECT_FALSE(worker.DoContinue());
@@ -79,12 +77,10 @@ TEST(DoContinue, IsNeverTrueAgain)
 TEST(StartKill, DoesNotWait)
 {
     Signal go;
-    Worker worker(
-        [&](Worker&) {
-            go.Wait();
-            return Code(42);
-        },
-        nullptr);
+    Worker worker(nullptr, [&](Worker&) {
+        go.Wait();
+        return Code(42);
+    });
     worker.RunThread();
     ASSERT_TRUE(worker.started.Wait());
     worker.StartKill();
@@ -96,13 +92,11 @@ TEST(Shutdown, StopsAWorkerThatPostsUntilItIsTold)
 {
     Recorder handler;
     std::atomic<int> posted{0};
-    auto worker = std::make_unique<Worker>(
-        [&](Worker& self) {
-            while (self.PostEvent(7, posted))
-                ++posted;
-            return Code(posted);
-        },
-        &handler);
+    auto worker = std::make_unique<Worker>(&handler, [&](Worker& self) {
+        while (self.PostEvent(7, posted))
+            ++posted;
+        return Code(posted);
+    });
     ASSERT_EQ(worker->RunThread(), wxTHREAD_NO_ERROR);
     ASSERT_TRUE(Becomes([&] { return posted >= 100; }));
     worker->StartKill();
@@ -120,7 +114,7 @@ TEST(Shutdown, LetsAWorkerGoThatEndedByItself)
 {
     Recorder handler;
     {
-        Worker worker([](Worker& self) { self.PostEvent(7, 1); }, &handler);
+        Worker worker(&handler, [](Worker& self) { self.PostEvent(7, 1); });
         worker.RunThread();
         worker.StartKill();
         worker.Wait();
@@ -131,7 +125,7 @@ TEST(Shutdown, LetsAWorkerGoThatEndedByItself)
 
 TEST(Shutdown, OfAWorkerThatNeverRanDoesNotBlock)
 {
-    Worker worker([](Worker&) { return Code(42); }, nullptr);
+    Worker worker(nullptr, [](Worker&) { return Code(42); });
     worker.StartKill();
     EXPECT_EQ(worker.Wait(), Code(-1));
 }
@@ -150,12 +144,10 @@ TEST(Handler, MayBeDestroyedWithEventsQueued)
     };
     int received = 0;
     auto handler = std::make_unique<Counted>(received);
-    Worker worker(
-        [&](Worker& self) {
-            for (int i = 0; i < 100; ++i)
-                self.PostEvent(7, i);
-        },
-        handler.get());
+    Worker worker(handler.get(), [&](Worker& self) {
+        for (int i = 0; i < 100; ++i)
+            self.PostEvent(7, i);
+    });
     worker.RunThread();
     worker.Wait();
     handler.reset();
@@ -169,7 +161,7 @@ template <typename Thread, typename... Arguments>
 void ExpectEntryAfterTheDestructor(Arguments... arguments)
 {
     const auto thread =
-        std::make_unique<Working<Thread>>([](Working<Thread>&) { return Code(42); }, std::move(arguments)...);
+        std::make_unique<Working<Thread>>(std::move(arguments)..., [](Working<Thread>&) { return Code(42); });
     const auto* table = *reinterpret_cast<void* const* const*>(static_cast<Thread*>(thread.get()));
     EXPECT_EQ(reinterpret_cast<wxThread::ExitCode (*)(Thread*)>(table[2])(thread.get()), Code(42));
 }

@@ -29,7 +29,7 @@ class ExitCode : public testing::TestWithParam<std::intptr_t>
 
 TEST_P(ExitCode, IsWhatEntryReturned)
 {
-    Thread thread(Returning(GetParam()), wxTHREAD_JOINABLE);
+    Thread thread(wxTHREAD_JOINABLE, Returning(GetParam()));
     EXPECT_EQ(thread.Create(0), wxTHREAD_NO_ERROR);
     EXPECT_EQ(thread.Run(), wxTHREAD_NO_ERROR);
     EXPECT_EQ(thread.Wait(), Code(GetParam()));
@@ -68,7 +68,7 @@ TEST(Wait, EndsForLaterCallersToo)
 
 TEST(Wait, IsRefusedBeforeRun)
 {
-    Thread constructed(Returning(42), wxTHREAD_JOINABLE);
+    Thread constructed(wxTHREAD_JOINABLE, Returning(42));
     EXPECT_EQ(constructed.Wait(), Code(-1));
     EXPECT_EQ(constructed.Create(0), wxTHREAD_NO_ERROR);
     EXPECT_EQ(constructed.Wait(), Code(-1));
@@ -127,12 +127,10 @@ TEST(Wait, BlocksUntilTheValuesOfKeysAreDestroyed)
 TEST(Detached, IsNotWaitedFor)
 {
     Signal go;
-    Thread thread(
-        [&](Thread&) {
-            go.Wait();
-            return Code(42);
-        },
-        wxTHREAD_DETACHED);
+    Thread thread(wxTHREAD_DETACHED, [&](Thread&) {
+        go.Wait();
+        return Code(42);
+    });
     EXPECT_EQ(thread.Wait(), Code(-1));
     thread.Create(0);
     EXPECT_EQ(thread.Run(), wxTHREAD_NO_ERROR);
@@ -148,7 +146,7 @@ TEST(Detached, MayBeDestroyedOnceItHasEnded)
 {
     for (const bool waits : {true, false}) {
         Signal go;
-        auto thread = std::make_unique<Thread>([&](Thread&) { go.Wait(); }, wxTHREAD_DETACHED);
+        auto thread = std::make_unique<Thread>(wxTHREAD_DETACHED, [&](Thread&) { go.Wait(); });
         EXPECT_FALSE(thread->WaitFor(1'000'000)) << "it has not run";
         ASSERT_EQ(thread->Run(), wxTHREAD_NO_ERROR);
         ASSERT_TRUE(thread->started.Wait());
@@ -183,7 +181,7 @@ TEST(Destructor, WaitsUntilEntryHasReturned)
 
 TEST(Destructor, DoesNotWaitForWhatNeverRan)
 {
-    const Thread constructed(Returning(42), wxTHREAD_JOINABLE);
+    const Thread constructed(wxTHREAD_JOINABLE, Returning(42));
 }
 
 size_t StackSizeOfThisThread()
@@ -198,7 +196,7 @@ size_t StackSizeOfThisThread()
 
 size_t StackSizeOfThreadCreatedWith(unsigned int stackSize)
 {
-    Thread thread([](Thread&) { return Code(static_cast<std::intptr_t>(StackSizeOfThisThread())); }, wxTHREAD_JOINABLE);
+    Thread thread(wxTHREAD_JOINABLE, [](Thread&) { return Code(static_cast<std::intptr_t>(StackSizeOfThisThread())); });
     EXPECT_EQ(thread.Create(stackSize), wxTHREAD_NO_ERROR);
     EXPECT_EQ(thread.Run(), wxTHREAD_NO_ERROR);
     return reinterpret_cast<size_t>(thread.Wait());
@@ -220,7 +218,7 @@ TEST(Create, GivesTheDefaultStackWhateverIsAskedFor)
 
 TEST(Create, IsRefusedOnceTheThreadExists)
 {
-    Thread thread(Returning(42), wxTHREAD_JOINABLE);
+    Thread thread(wxTHREAD_JOINABLE, Returning(42));
     EXPECT_EQ(thread.Create(0), wxTHREAD_NO_ERROR);
     EXPECT_EQ(thread.Create(0), wxTHREAD_RUNNING);
     EXPECT_EQ(thread.Run(), wxTHREAD_NO_ERROR);
@@ -232,7 +230,7 @@ TEST(Create, IsRefusedOnceTheThreadExists)
 
 TEST(Run, CreatesTheThreadWhenNobodyDid)
 {
-    Thread thread(Returning(42), wxTHREAD_JOINABLE);
+    Thread thread(wxTHREAD_JOINABLE, Returning(42));
     EXPECT_EQ(thread.Run(), wxTHREAD_NO_ERROR);
     EXPECT_EQ(thread.Wait(), Code(42));
 }
@@ -241,13 +239,11 @@ TEST(Run, IsRefusedWhileTheThreadRunsAndAfter)
 {
     Signal go;
     std::atomic<int> calls{0};
-    Thread thread(
-        [&](Thread&) {
-            ++calls;
-            go.Wait();
-            return Code(42);
-        },
-        wxTHREAD_JOINABLE);
+    Thread thread(wxTHREAD_JOINABLE, [&](Thread&) {
+        ++calls;
+        go.Wait();
+        return Code(42);
+    });
     thread.Create(0);
     EXPECT_EQ(thread.Run(), wxTHREAD_NO_ERROR);
     EXPECT_EQ(thread.Run(), wxTHREAD_RUNNING);
@@ -279,7 +275,7 @@ TEST(VirtualTable, HoldsTheDestructorAndThenEntry)
     Signal destroyed;
     struct Watched : Thread
     {
-        Watched(Work work, Signal& end) : Thread(std::move(work), wxTHREAD_JOINABLE), m_end(end) {}
+        Watched(Work work, Signal& end) : Thread(wxTHREAD_JOINABLE, std::move(work)), m_end(end) {}
         ~Watched() override { m_end.Set(); }
         Signal& m_end;
     };

@@ -72,17 +72,17 @@ bool LeaveNoRoomForThreads()
 void NoRoom()
 {
     Say("limited", LeaveNoRoomForThreads());
-    Thread thread([](Thread&) { return Code(42); }, wxTHREAD_JOINABLE);
+    Thread thread(wxTHREAD_JOINABLE, [](Thread&) { return Code(42); });
     Say("create", thread.Create(0));
     Say("run", thread.Run());
     Say("wait", Number(thread.Wait()));
     Say("started", thread.started.IsSet());
 
-    Working<wxGUIThread> worker([](auto&) { return Code(42); }, nullptr);
+    Working<wxGUIThread> worker(nullptr, [](auto&) { return Code(42); });
     Say("run-thread", worker.RunThread());
     Say("wait", Number(worker.Wait()));
 
-    Thread uncreated([](Thread&) { return Code(42); }, wxTHREAD_JOINABLE);
+    Thread uncreated(wxTHREAD_JOINABLE, [](Thread&) { return Code(42); });
     Say("run", uncreated.Run());
     Say("wait", Number(uncreated.Wait()));
 }
@@ -91,7 +91,7 @@ void NoRoom()
 void Created()
 {
     {
-        Thread thread([](Thread&) { return Code(42); }, wxTHREAD_JOINABLE);
+        Thread thread(wxTHREAD_JOINABLE, [](Thread&) { return Code(42); });
         Say("create", thread.Create(0));
         Say("wait", Number(thread.Wait()));
         Say("started", thread.started.IsSet());
@@ -106,8 +106,8 @@ void NeverRun()
 {
     dup2(STDOUT_FILENO, STDERR_FILENO);
     for (int i = 0; i < 2; ++i)
-        const Thread constructed([](Thread&) { return Code(42); }, wxTHREAD_JOINABLE);
-    const Thread detached([](Thread&) { return Code(42); }, wxTHREAD_DETACHED);
+        const Thread constructed(wxTHREAD_JOINABLE, [](Thread&) { return Code(42); });
+    const Thread detached(wxTHREAD_DETACHED, [](Thread&) { return Code(42); });
     Running run([](auto&) { return Code(42); });
     run.Wait();
     Say("ended", HasEnded(run.thread));
@@ -116,12 +116,10 @@ void NeverRun()
 void DestroyDetached()
 {
     Signal never;
-    auto thread = std::make_unique<Thread>(
-        [&](Thread&) {
-            for (;;)
-                never.Wait();
-        },
-        wxTHREAD_DETACHED);
+    auto thread = std::make_unique<Thread>(wxTHREAD_DETACHED, [&](Thread&) {
+        for (;;)
+            never.Wait();
+    });
     thread->Create(0);
     thread->Run();
     Say("started", thread->started.Wait());
@@ -162,23 +160,21 @@ void Memory()
     Say("run", AllocationsLeftBy([] { Running([](auto&) { return Code(42); }).Wait(); }));
     Say("posted", AllocationsLeftBy([] {
             wxEvtHandler handler;
-            Working<wxGUIThreadEx> worker(
-                [](auto& self) {
-                    for (int i = 0; i < 100; ++i)
-                        self.PostEvent(i, 99L);
-                },
-                &handler, 9);
+            Working<wxGUIThreadEx> worker(&handler, 9, [](auto& self) {
+                for (int i = 0; i < 100; ++i)
+                    self.PostEvent(i, 99L);
+            });
             worker.RunThread();
             worker.Wait();
         }));
     Say("refused", AllocationsLeftBy([] {
-            Working<wxGUIThread> worker([](auto& self) { return Code(self.PostEvent(7, 3)); }, nullptr);
+            Working<wxGUIThread> worker(nullptr, [](auto& self) { return Code(self.PostEvent(7, 3)); });
             worker.StartKill();
             worker.RunThread();
             worker.Wait();
         }));
     Say("never run",
-        AllocationsLeftBy([] { const Thread thread([](Thread&) { return Code(42); }, wxTHREAD_JOINABLE); }) > 0);
+        AllocationsLeftBy([] { const Thread thread(wxTHREAD_JOINABLE, [](Thread&) { return Code(42); }); }) > 0);
 }
 
 class App : public wxAppConsole
@@ -207,8 +203,8 @@ void Throw()
     Say("ended", HasEnded(thread.thread));
 
     Recorder recorder;
-    Working<wxGUIThread> worker([](auto&) -> wxThread::ExitCode { throw std::runtime_error("of a worker"); },
-                                &recorder);
+    Working<wxGUIThread> worker(&recorder,
+                                [](auto&) -> wxThread::ExitCode { throw std::runtime_error("of a worker"); });
     worker.SetEndEvent(wxNewEventType());
     worker.RunThread();
     worker.Wait();

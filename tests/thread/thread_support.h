@@ -115,24 +115,22 @@ private:
     std::thread m_thread;
 };
 
-/// A thread object of class @a Base whose work is a function.
+/// A thread object of class @a Base, which gets all arguments but the last. The last argument is the work.
 template <typename Base>
 class Working : public Base
 {
 public:
     using Work = std::function<wxThread::ExitCode(Working& self)>;
 
-    /// Work that returns nothing ends with the code 0.
-    template <typename Function, typename... Arguments>
-    explicit Working(Function work, Arguments&&... arguments) : Base(std::forward<Arguments>(arguments)...)
+    template <typename Argument, typename Function>
+    Working(Argument argument, Function work) : Base(argument), m_work(ReturningACode(std::move(work)))
     {
-        if constexpr (std::is_void_v<std::invoke_result_t<Function&, Working&>>)
-            m_work = [work = std::move(work)](Working& self) mutable {
-                work(self);
-                return Code(0);
-            };
-        else
-            m_work = std::move(work);
+    }
+
+    template <typename Function>
+    Working(wxEvtHandler* handler, int eventType, Function work)
+        : Base(handler, eventType), m_work(ReturningACode(std::move(work)))
+    {
     }
 
     wxThread::ExitCode Entry() override
@@ -147,6 +145,19 @@ public:
     std::atomic<pid_t> thread{0};
 
 private:
+    /// Work that returns nothing ends with the code 0.
+    template <typename Function>
+    static Work ReturningACode(Function work)
+    {
+        if constexpr (std::is_void_v<std::invoke_result_t<Function&, Working&>>)
+            return [work = std::move(work)](Working& self) mutable {
+                work(self);
+                return Code(0);
+            };
+        else
+            return work;
+    }
+
     Work m_work;
 };
 
@@ -155,7 +166,7 @@ class Running : public Working<wxThreadEx>
 {
 public:
     template <typename Function>
-    explicit Running(Function work) : Working(std::move(work), wxTHREAD_JOINABLE)
+    explicit Running(Function work) : Working(wxTHREAD_JOINABLE, std::move(work))
     {
         Create(0);
         Run();
