@@ -90,8 +90,8 @@ public:
     /// character. Bound to wxEVT_CHAR.
     ///
     /// The function checks key codes 32 to 300 except WXK_DELETE, and characters that have only a Unicode value.
-    /// Modifiers do not matter: if no menu or label takes Alt with a letter, the letter is checked too. If text is
-    /// selected, the selection is assumed to begin at the insertion point.
+    /// Modifiers do not matter: a letter with Alt is checked too, unless a menu or a label uses this key combination.
+    /// If text is selected, the selection is assumed to begin at the insertion point.
     ///
     /// @throws std::out_of_range if the control, for example one of a derived class, returns an insertion point beyond
     ///     the text.

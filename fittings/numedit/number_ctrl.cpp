@@ -279,7 +279,8 @@ void wxNumberCtrl::OnPaste(wxClipboardTextEvent& event)
         m_field->entry->Take(pasted);
 }
 
-/// Shows the number plain or formatted after the current event.
+/// After the current event, shows the plain number if `awaitsPlain` is true. Otherwise formats the text, unless the
+/// field shows the plain number.
 void wxNumberCtrl::SettleSoon()
 {
     m_field->entry->Soon([this] {

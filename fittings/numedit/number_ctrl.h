@@ -94,7 +94,8 @@ public:
     /// Returns the control's own copy of the format.
     const CNumberFormat& GetFormat() const;
 
-    /// Sets another format and its bounds, and shows the number in this format. The number does not change.
+    /// Sets another format, and shows the number in this format. The number does not change. The bounds of the format
+    /// replace the bounds from SetRange().
     void SetFormat(const CNumberFormat& format);
 
     /// Shows the shortest decimal number that converts to @a value. Returns false and changes nothing if @a value is

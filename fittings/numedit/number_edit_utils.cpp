@@ -47,8 +47,8 @@ const wchar_t* AfterDigits(const wchar_t* text)
 /// Stores in @a result a copy of @a text in which @a to replaces each @a from. Returns false and stores nothing if
 /// there is nothing to replace.
 ///
-/// One of @a from and @a to is the locale's point, which is empty if it cannot be converted: then nothing is replaced.
-/// Usually @a from and @a to are the same character: then the function returns without a search.
+/// One of @a from and @a to is the locale's point. It is empty if it cannot be converted to wide text: nothing is
+/// replaced then. Usually @a from and @a to are the same character: then the function returns without a search.
 bool ReplacePoint(std::wstring& result, const wchar_t* text, std::wstring_view from, std::wstring_view to)
 {
     if (from.empty() || to.empty() || (from.size() == 1 && to.size() == 1 && from[0] == to[0]))
@@ -211,7 +211,7 @@ private:
 
     const CNumberFormat& m_format;
     std::wstring m_text;
-    std::size_t m_begin;     ///< the beginning of the mantissa, after its sign; PutMinus() may move it to the minus
+    std::size_t m_begin;     ///< the beginning of the mantissa, without a sign until PutMinus() adds a leading minus
     std::size_t m_end = 0;   ///< the end of the shown part of the mantissa
     std::size_t m_read = 0;  ///< the end of the mantissa
 };
@@ -219,7 +219,8 @@ private:
 ShownNumber::ShownNumber(std::wstring_view typed, const CNumberFormat& format) : m_format(format)
 {
     m_text.reserve(typed.size() + typed.size() / 3 + 10);
-    // Reserve one character for a carry, or for the minus sign if the carry takes the place of the sign.
+    // Keep one character free in front. If the number has no sign, Round() writes a carry there. If the number has a
+    // sign, Round() writes the carry over the sign, and PutMinus() writes a leading minus in the free character.
     m_text = L'0';
     AppendWithoutZeros(m_text, typed, format.m_chDecimalPoint);
     const wchar_t first = m_text[1];

@@ -34,8 +34,8 @@ public:
     /// the left: "1234567.891" becomes "1,234,567.891".
     ///
     /// Pass digits without a sign: every character before the point counts, so "-123" becomes "-,123". The result ends
-    /// at the first zero character. So with a separator of 0, only the first group remains: "1234" becomes "1". Of the
-    /// format, only the decimal point and the thousands separator are used.
+    /// before the first null character. So if m_chThousandsSep is 0, only the first group remains: "1234" becomes "1".
+    /// Of the format, only the decimal point and the thousands separator are used.
     static void GroupDigits(wxString& text, const CNumberFormat& format);
 
     /// Returns whether @a text is a number that the format accepts.
@@ -43,8 +43,8 @@ public:
     /// Accepts a sign, digits, a point, digits and an exponent, in this order. Accepts only the parts that the format
     /// allows. Accepts the beginning of such a number too: the empty text, a lone sign, a lone point, "1." and "1e-".
     /// The exponent's letter may be missing, as in "12-5". Refuses group separators and blanks. Refuses a trailing
-    /// minus if the format allows no exponent, so some results of FormatControlText() are refused. Otherwise "12-" is
-    /// the beginning of "12-5".
+    /// minus if the format allows no exponent, so some results of FormatControlText() are refused. If the format allows
+    /// an exponent, accepts "12-", because it is the beginning of "12-5".
     ///
     /// The point may be the format's or the locale's. If the toolkit's current conversion cannot convert the locale's
     /// point, no point is accepted. If the format's point is a digit, that digit always counts as the point.
@@ -73,8 +73,8 @@ public:
     /// "1,234" gives "1". A plus sign is dropped too. A number is not padded if an exponent or a dropped text follows
     /// it. A trailing minus comes before an exponent: "-1.5e3" gives "1.5-e3".
     ///
-    /// At most 1,000,000 zeros are appended, even if m_nDecimals is larger. If the format's decimal point is 0, the
-    /// shown number ends at the point.
+    /// At most 1,000,000 zeros are appended, even if m_nDecimals is larger. If m_chDecimalPoint is 0, the point and the
+    /// decimals are not shown.
     ///
     /// The template must have exactly one `%s`. Without a `%s`, the result is the template without the number, and with
     /// `%` for each `%%`. An empty template gives the empty text. With a second conversion, or a conversion of another

@@ -16,7 +16,7 @@
 
 namespace fittings {
 
-/// The state of a wxNumberCtrl's number, without the window.
+/// The data of a wxNumberCtrl, and functions that compute texts and numbers from it. No function changes the control.
 class NumberField
 {
 public:
@@ -43,7 +43,8 @@ public:
     /// Returns whether an insertion makes the plain text longer than `mostCharacters` allows.
     bool IsTooLong(const NumberEntry::Insertion& insertion) const;
 
-    /// Returns the insertion into the plain text; nothing if the insertion is refused.
+    /// Converts an insertion by the user to the insertion to make in the plain text. Returns nothing if the insertion
+    /// is refused.
     std::optional<NumberEntry::Insertion> Accepted(NumberEntry::Insertion insertion) const;
 
     /// Returns the plain text after a step up or down. If @a tenfold is true, the step is ten times as large. A step
@@ -64,7 +65,7 @@ public:
     bool awaitsPlain = false;         ///< True if ShowPlain() will be called after the current event.
     std::wstring plain;               ///< The plain text of `shown`.
     std::wstring shown;               ///< The last formatted text, which the field shows while it lacks the focus.
-    std::wstring exact;               ///< The plain text of SetDecimal(), which may have more decimals than the format.
+    std::wstring exact;               ///< The plain text from SetDecimal(), even with more decimals than allowed.
     std::optional<Decimal> told;      ///< The number that the program last set, or that the last event reported.
     std::pair<long, long> selection;  ///< The selection in the plain text at the time when the text was formatted.
     std::pair<long, long> mapped;     ///< The same selection in the formatted text.

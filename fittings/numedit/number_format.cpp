@@ -32,7 +32,7 @@ CNumberFormat::CNumberFormat(EGeneralFormat format)
     m_nMaxIntDigits = 5;
 }
 
-// Copies the template only up to its first zero character.
+// Copies the template only up to its first null character.
 CNumberFormat& CNumberFormat::operator=(const CNumberFormat& other)
 {
     m_bPadDecimals = other.m_bPadDecimals;

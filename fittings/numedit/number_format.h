@@ -49,7 +49,7 @@ public:
     /// Copies every field.
     CNumberFormat(const CNumberFormat& other) = default;
 
-    /// Copies every field, but the template only up to its first zero character. A format may be assigned to itself.
+    /// Copies every field, but the template only up to its first null character. A format may be assigned to itself.
     CNumberFormat& operator=(const CNumberFormat& other);
 
     bool m_bPadDecimals = false;      ///< Show at least m_nDecimals decimals: fill with zeros.
@@ -58,8 +58,8 @@ public:
     bool m_bGroupDigits = false;      ///< Show m_chThousandsSep between groups of three integer digits.
     bool m_bTrailingMinus = false;    ///< Show the minus sign after the number.
     bool m_bAllowExponent = false;    ///< Accept an exponent, such as the `e-3` of 1.5e-3.
-    wchar_t m_chDecimalPoint = L'.';  ///< 0 if the locale's point cannot be converted.
-    wchar_t m_chThousandsSep = L',';  ///< 0 if the locale has no separator: then leave m_bGroupDigits off.
+    wchar_t m_chDecimalPoint = L'.';  ///< With eLocaleFormat, 0 if the locale's point cannot be converted to wide text.
+    wchar_t m_chThousandsSep = L',';  ///< With eLocaleFormat, 0 if the locale has none: then leave m_bGroupDigits off.
 
     /// A printf format with exactly one `%s`, which the shown number replaces. Write a percent sign as `%%`.
     ///

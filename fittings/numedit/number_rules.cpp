@@ -139,7 +139,8 @@ bool GrowsInto(const Span& span, const Typed& typed, const NumberRules& rules)
     if (begin.IsZero())
         return Meets(begin, MakeDecimal("1", more + 1), span, rules.mostDecimals);
     // Try `least` to `least` + 3 additional digits. With fewer digits, the number is below the span. With `least` + 3
-    // digits, the number is above the lowest number of the span, so even more digits cannot help.
+    // digits, the number is above the lowest number of the span. If it is not in the span, it is above the whole span,
+    // and every number with more digits is even higher.
     const std::int64_t least = std::max<std::int64_t>(span.low.point - begin.point - 1, 0);
     for (std::int64_t digits = least; digits <= std::min(least + 3, more); ++digits) {
         if (Meets(MakeDecimal(typed.integers, typed.Integers() + digits),

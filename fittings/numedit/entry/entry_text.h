@@ -19,7 +19,7 @@ struct EntrySelection
 EntrySelection SelectionOf(GtkEntry* entry);
 void Select(GtkEntry* entry, const EntrySelection& selection);
 
-/// Returns the place in the text that is nearest to a horizontal position in the entry.
+/// Returns the offset in the text that is nearest to @a x, a horizontal position in the entry's widget, in pixels.
 int PlaceAt(GtkEntry* entry, int x);
 
 /// While the object exists, one signal of the entry does not reach the toolkit. GTK's own handlers, for example for
@@ -39,8 +39,8 @@ private:
     guint m_signal;
 };
 
-/// Inserts a text in UTF-8, and moves @a position to the end of the inserted text. The toolkit does not treat the text
-/// as typed.
+/// Inserts a text in UTF-8, and moves @a position to the end of the inserted text. Does not call the toolkit's own
+/// handler of "insert-text", which would report each character as typed while a key is handled.
 void InsertUntyped(GtkEntry* entry, void* toolkit, const std::string& text, int& position);
 
 }  // namespace fittings

@@ -213,7 +213,8 @@ void NumberEntry::PutBack()
     Wake();
 }
 
-/// Deletes a text. The toolkit is not notified of the deletion, only of the insertion that follows.
+/// Deletes the text that the next call of Insert() replaces. Keeps the "changed" signal of the deletion from the
+/// toolkit: the program then gets a single wxEVT_TEXT for the deletion and the insertion.
 void NumberEntry::Replace(int begin, int end)
 {
     if (begin == end)
@@ -226,7 +227,8 @@ void NumberEntry::Replace(int begin, int end)
 void NumberEntry::Insert(const std::wstring& text, int& position)
 {
     const Free free(this);
-    // The text must not count as typed: if the text comes from a key, the toolkit has already reported the character.
+    // Insert the text without the toolkit's handler: if the text comes from a key, the toolkit has already reported the
+    // character, and would report it again.
     InsertUntyped(m_entry, m_toolkit, wxString(text).utf8_string(), position);
 }
 

@@ -24,7 +24,7 @@ namespace fittings {
 /// key. If that text is refused, the deleted selection is restored. A text that is dropped on the selection replaces
 /// the selection only if the text is accepted.
 ///
-/// The program is notified of an insertion at once, and a handler of the program may destroy the object.
+/// The program's handlers for a change of the text are called during the insertion. They may destroy the object.
 class NumberEntry : public wxTrackable
 {
 public:
@@ -35,7 +35,9 @@ public:
         std::wstring text;
         std::wstring behind;
         std::wstring replaced;  ///< The text between `before` and `behind` that the insertion replaces.
-        bool typed;        ///< True while a key is handled. Otherwise true for a single character, except in Take().
+        /// True if the text counts as typed, and false if it counts as pasted. A text that is inserted while a key is
+        /// handled counts as typed. Any other single character does too, except in Take().
+        bool typed;
         bool keypadPoint;  ///< True for the keypad's decimal key.
     };
 

@@ -28,7 +28,7 @@ struct Key
 {
     wxTextCtrl& control;
     std::unique_ptr<Deletion> deletion;
-    std::unique_ptr<wxEventBlocker> quiet;  // blocks wxEVT_TEXT from the restoration to the end of the key event
+    std::unique_ptr<wxEventBlocker> quiet;  // blocks wxEVT_TEXT from UndoKey() to the end of the key event
     bool wasModified = false;
     gulong selecting = 0;
 };
