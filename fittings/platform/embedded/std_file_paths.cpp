@@ -39,7 +39,7 @@ DataDir& TheDataDir()
 
 std::wstring SafeFileName(const std::wstring& text)
 {
-    // Each code that is not a Unicode character becomes U+FFFD: the code could not be read back from the disk.
+    // Replace each code that is not a Unicode character by U+FFFD, because a file name cannot contain such a code.
     std::wstring name = file_util_ex::ConvertFromUTF8W(file_util_ex::ConvertToUTF8(text));
     for (wchar_t& character : name) {
         if (character == L'/' || fittings::IsControl(static_cast<char32_t>(character)))

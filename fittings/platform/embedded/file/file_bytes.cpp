@@ -27,8 +27,9 @@ namespace {
 constexpr std::chrono::milliseconds kTimeToFillAFile(500);
 constexpr std::chrono::milliseconds kTimeToExchange(500);
 
-// Each wait for an ExchangeLock may last this long, even past the deadline. Otherwise a process that was stopped until
-// after its deadline could exchange the file at the same time as another process. An exchange takes only microseconds.
+// A wait for an ExchangeLock may last this long even if its deadline is earlier. A process that was stopped may begin
+// the wait after the deadline. If it did not wait then, it could exchange the file at the same time as another process.
+// An exchange takes only microseconds.
 constexpr std::chrono::milliseconds kLeastTimeToExchange(30);
 
 constexpr std::chrono::milliseconds kPause(1);
@@ -138,9 +139,9 @@ FileContent ReadUntilFilled(const Read& read, std::string& bytes, std::chrono::s
     }
 }
 
-// Returns the content of the displaced file. If another process has removed the displaced file as a leftover, reads
-// @a before instead, the open file that was the target before the exchange: only that file can be old enough to be
-// removed. Waits for content until @a deadline, as ReadFileBytes() does.
+// Returns the content of the displaced file. If the name of that file is gone, another process has removed the file as
+// an old leftover. The file is then @a before, the open file that was the target before the exchange, because any other
+// file would be too new to be removed. Waits for content until @a deadline, as ReadFileBytes() does.
 std::optional<std::string> ReadDisplaced(const StagedFile& staged, int before,
                                          std::chrono::steady_clock::time_point deadline)
 {
@@ -191,7 +192,7 @@ struct Exchanged
 {
     StagedFile& staged;
     int before;                 ///< The open file that was the target before the exchange.
-    std::string_view expected;  ///< The content that the target should have had.
+    std::string_view expected;  ///< The content that the target should have had before the exchange.
     std::string_view put;
 };
 
@@ -199,7 +200,7 @@ struct Exchanged
 struct Outcome
 {
     UpdateResult result;
-    bool isUndone = false;  ///< True if the exchange was undone, and no other process had changed our file.
+    bool isUndone = false;  ///< True if the exchange was undone, and no other process had changed the new file.
 };
 
 Outcome Undo(StagedFile& staged)
@@ -207,7 +208,7 @@ Outcome Undo(StagedFile& staged)
     const PlaceResult undone = staged.PutBack();
     if (undone != PlaceResult::Done)
         staged.SetAside();
-    // If the exchange cannot be undone, our file stays at the target and counts as saved.
+    // If the exchange cannot be undone, the new file stays at the target and counts as saved.
     return {undone == PlaceResult::Failed ? UpdateResult::Saved : UpdateResult::Outdated, undone == PlaceResult::Done};
 }
 

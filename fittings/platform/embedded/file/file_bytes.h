@@ -93,8 +93,9 @@ struct FileUpdate
 ///   Outdated.
 /// - If the exchange cannot be undone, keeps the displaced file under a name from OtherName(). Returns Outdated if
 ///   another process has changed the file again. After an error, returns Saved: the new file then stays in place.
-/// - If the file has changed again after each of a hundred merges, undoes the last exchange and returns Failed. Keeps
-///   the file that the exchange before the last one displaced, under a name from OtherName().
+/// - If the file has changed again after each of a hundred merges, undoes the last exchange and returns Failed. The
+///   changes that the last merge added are then missing: keeps the displaced file that has them under a name from
+///   OtherName().
 ///
 /// On file systems that cannot exchange two files atomically, such as NFS, a change in the few microseconds after the
 /// check can be lost.

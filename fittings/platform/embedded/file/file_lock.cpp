@@ -16,14 +16,15 @@ using Clock = LockWait::Clock;
 
 constexpr std::chrono::milliseconds kPause(1);
 
-// How long a process waits for the turn while the lock is free and another process has the turn. Without this limit, a
-// process that was stopped while it had the turn would block all others.
-constexpr std::chrono::milliseconds kTimeToUseTheTurn(25);
-
-// Bytes of the lock file that are locked: one for the lock itself, and one for the turn to take it next. Without the
-// turn, a process that stores in a loop would take the lock again before the waiting processes try.
+// Bytes of the lock file that are locked: one for the lock itself, and one for the turn. The process that has the turn
+// takes the lock next. Without the turn, a process that stores in a loop would take the lock again before the waiting
+// processes try.
 constexpr off_t kLockByte = 0;
 constexpr off_t kTurnByte = 1;
+
+// How long a process waits for the turn while another process has the turn but does not take the free lock. Without
+// this limit, a process that was stopped while it had the turn would block all others.
+constexpr std::chrono::milliseconds kTimeToUseTheTurn(25);
 
 struct flock RequestFor(short type, off_t byte)
 {

@@ -19,9 +19,9 @@ struct LockWait
     /// state changes, the holder counts as stuck.
     using Stuck = std::optional<FileIdentity>;
 
-    std::chrono::milliseconds longest;  ///< The wait may go on this long after another process has taken the lock.
-    Clock::time_point deadline;         ///< Postponed when another process takes the lock, but not beyond @a end.
-    Clock::time_point end;
+    std::chrono::milliseconds longest;  ///< How long a wait may go on after another process has taken the lock.
+    Clock::time_point deadline;         ///< The end of the wait; postponed when another process takes the lock.
+    Clock::time_point end;              ///< The deadline is never postponed beyond this time.
     Stuck& stuck;
 };
 

@@ -15,7 +15,7 @@ DefaultStore& DefaultStore::Instance()
 
 std::wstring DefaultStore::Path()
 {
-    // Called at every access: MakePath() would take longer, because it copies the folder several times.
+    // Called at every access, so append the name directly: MakePath() would copy the folder's path several times.
     return std_file_paths::GetUserDataDir() + L"/settings.ini";
 }
 

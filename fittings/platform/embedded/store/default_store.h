@@ -16,7 +16,7 @@ class DefaultStore
 public:
     static DefaultStore& Instance();
 
-    /// Returns the path of the file in the current user data directory.
+    /// Returns the path of the settings file, which is in the current user data directory.
     static std::wstring Path();
 
     /// Calls @a read with the stored settings and returns the result of @a read.

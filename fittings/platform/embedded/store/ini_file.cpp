@@ -29,7 +29,7 @@ bool CIniFile::Refresh(std::wstring_view path, const std::vector<Change>& change
         return false;
     CIniFile now;
     now.Load(file_util_ex::ConvertToUTF8(std::wstring(path)));
-    // Keep the earlier content, because a read does not wait until another program has filled the file.
+    // Another program may be about to fill the empty file. Keep the earlier content, and do not wait for the new one.
     if (isSameStore && now.m_content.IsEmptyForNow() && m_content.result == fittings::ReadResult::Read)
         return false;
     if (isSameStore && now.HasFailed() && HasFailed())
@@ -209,9 +209,9 @@ std::vector<fittings::SettingsEntry> CIniFile::Entries(std::wstring_view section
     return entries;
 }
 
-// Merges three ways: starts with @a displaced, and makes the changes that lead from @a expected to @a put. A change of
-// this object always counts. Any other change in @a put counts only if the key has the same value in @a displaced as in
-// @a expected: otherwise the value in @a displaced is newer. Only a change of this object removes a key: a key that is
+// Merges three ways: starts with @a displaced, and makes the changes that lead from @a expected to @a put. Makes every
+// change of this object. Makes any other change only if the key has the same value in @a displaced as in @a expected:
+// otherwise the value in @a displaced is newer. Removes a key only if this object has removed it: any other key that is
 // missing in @a put may belong to a change that has not been merged into @a put yet.
 std::optional<std::string> CIniFile::Merged(std::string_view expected, std::string_view put,
                                             std::string_view displaced) const
