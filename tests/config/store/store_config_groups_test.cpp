@@ -337,6 +337,16 @@ TEST_F(StoreConfig, StoresAGroupWithoutEntries)
     EXPECT_EQ(Saved(), "");
 }
 
+TEST_F(StoreConfig, StoresAGroupWithoutEntriesAfterAnotherHasSaved)
+{
+    EXPECT_TRUE(m_config->Write("/empty/", ""));
+    wxStoreConfig other("test.ini");
+    EXPECT_TRUE(other.Write("/theirs/k", "1"));
+    EXPECT_TRUE(other.Flush());
+    EXPECT_TRUE(m_config->HasGroup("/theirs"));
+    EXPECT_EQ(Saved(), "[theirs]\nk=1\n[empty]\n");
+}
+
 TEST_F(StoreConfig, StoresAGroupThatHasLostItsEntries)
 {
     EXPECT_TRUE(m_config->Write("/a/k", "1"));
