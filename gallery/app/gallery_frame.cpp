@@ -214,7 +214,8 @@ void GalleryFrame::OnPageChanged(wxBookCtrlEvent& event)
     event.Skip();
 }
 
-/// Handles mnemonics and menu keys with Alt before the focused control gets the key: a number field would refuse it.
+/// Activates the menu or the mnemonic of a key with Alt before the focused control gets the key. Otherwise a focused
+/// number field would refuse the letter, and the key would have no effect.
 void GalleryFrame::OnCharHook(wxKeyEvent& event)
 {
     const std::unique_ptr<GdkEvent, void (*)(GdkEvent*)> key(gtk_get_current_event(), gdk_event_free);

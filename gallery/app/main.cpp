@@ -33,7 +33,7 @@ struct CommandLine
     bool good = true;
 };
 
-/// Keeps the bytes of the arguments, because a folder's name need not be valid text.
+/// Parses the program's arguments. The folder stays a string of bytes, because its name need not be valid text.
 CommandLine Parse(int count, char** arguments)
 {
     CommandLine line;
@@ -53,8 +53,9 @@ CommandLine Parse(int count, char** arguments)
 
 CommandLine g_line;
 
-/// Ends the program as a person does: cancels the open dialogs, then closes the window, which stores its state. The
-/// window is closed last, because the code that opened a dialog still uses the window.
+/// Ends the program when it receives a signal such as SIGTERM: cancels the open dialogs, the latest first, and then
+/// closes the window, which stores its state. The window is closed last, because the code that opened a dialog still
+/// uses the window.
 class Stop : public wxModalDialogHook
 {
 public:
@@ -66,8 +67,8 @@ public:
             if (window)
                 window->Close();
         } else if (m_dialogs.back()->IsModal()) {
-            // Cancel only a modal dialog. A dialog that is not modal is already cancelled, and closes when GTK's
-            // question whether to replace a file is answered.
+            // Do not cancel a dialog twice: after EndModal(), it is no longer modal, but it may still be open. If GTK
+            // asks whether to replace a file, a save dialog stays open until the user answers.
             m_dialogs.back()->EndModal(wxID_CANCEL);
         }
     }
@@ -93,8 +94,8 @@ private:
 
 gboolean OnStopSignal(gpointer stop)
 {
-    // Call Begin() in an event of the toolkit: a window that is closed in a callback of GLib is not destroyed until the
-    // toolkit's next event.
+    // Do not call Begin() here, in a callback of GLib: it would close the window, but the toolkit would not destroy the
+    // window before its next event, and the program would run until then.
     wxTheApp->CallAfter([stop] { static_cast<Stop*>(stop)->Begin(); });
     return G_SOURCE_CONTINUE;
 }

@@ -400,7 +400,8 @@ void BrowserPage::ShowFolder(const std::string& path)
     TellChange();
 }
 
-/// Shows the folder in a colour, or without a colour when @a colour is invalid.
+/// Shows the selected folder in a colour, in the tree and in the line with its path. If @a colour is invalid, shows it
+/// without a colour.
 void BrowserPage::ShowColour(const wxColour& colour)
 {
     m_tree->ShowColour(colour);

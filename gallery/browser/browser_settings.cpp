@@ -13,7 +13,8 @@ namespace gallery::browser_settings {
 namespace {
 
 constexpr PageSettings kFolderSettings(L"browser.ini", L"Folders");
-// These sections are in the default store, because ui_config_mgr cannot remove a key from its files.
+// These sections are in the store of CLocalRegStore and not in browser.ini, because ui_config_mgr, which writes
+// browser.ini, cannot remove a key.
 constexpr const wchar_t* kSelectedSection = L"SelectedFolder";
 constexpr const wchar_t* kColourSection = L"FolderColours";
 constexpr std::size_t kRememberedRoots = 50;

@@ -315,8 +315,8 @@ void ContentsList::SetColumnWidths(const std::vector<int>& widths)
 void ContentsList::RememberColumns()
 {
     wxPersistentRegisterAndRestore(this, GetName());
-    // Give the name column its initial width again: a width that was stored in a larger window would be the column's
-    // minimum.
+    // Give the name column its initial width again. GTK takes the set width as the column's minimum: with the width
+    // from a larger window, the columns may not fit into this one.
     GetColumn(IndexOf(SortColumn::Name))->SetWidth(kNameCharacters * GetCharWidth());
     SortByColumn(GetSortingColumn());
 }

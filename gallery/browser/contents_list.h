@@ -28,8 +28,8 @@ public:
     /// @{
     void SetEntries(std::vector<Entry> entries);
 
-    /// Hides entries smaller than @a bytes, and entries without a size; 0 hides nothing. A folder stays until its size
-    /// is known.
+    /// Hides entries smaller than @a bytes, and entries that have no size, such as links. A folder whose size is not
+    /// known yet stays. With 0, hides nothing.
     void SetMinimum(std::uint64_t bytes);
 
     /// Sets the sizes of listed folders, and hides the folders that are smaller than the minimum. The rows keep their
@@ -62,8 +62,8 @@ public:
     void SetColumnWidths(const std::vector<int>& widths);
     /// @}
 
-    /// Restores the column widths and the sort order that the last session stored, if any. This session will store its
-    /// own.
+    /// Restores the column widths and the sort order of the last session, if they are stored. When the list is
+    /// destroyed, it stores its widths and its order for the next session.
     void RememberColumns();
 
 private:

@@ -7,14 +7,15 @@ namespace gallery {
 class FolderColourCombo::ColourPopup : public wxColourPopup
 {
 public:
-    /// Returns the colour that the folder gets for the hot cell. @a colour is the colour that the popup reports. @a own
-    /// is the folder's current colour.
+    /// Returns the colour that the folder gets if the user chooses the hot cell; invalid for "Automatic". @a colour is
+    /// the colour that the popup reports. @a own is the folder's current colour.
     wxColour FolderColour(const wxColour& colour, const wxColour& own) const
     {
         if (m_nCurrentSel == CELL_AUTOMATIC)
             return {};
-        // Keep the folder's own colour if the user presses Enter without moving, or cancels the dialog. The popup then
-        // reports this colour, or the default colour if the folder has none.
+        // Keep the folder's own colour if the popup reports a colour that the user has not chosen. This is the case if
+        // no cell is hot, if "More Colours..." is hot, or after its dialog was cancelled. The reported colour is then
+        // the folder's own, or the default colour if the folder has none.
         const bool ofPalette = m_nCurrentSel >= 0;
         return !ofPalette && colour == (own.IsOk() ? own : GetDefaultColour()) ? own : colour;
     }
@@ -51,7 +52,8 @@ void FolderColourCombo::ShowColour(const wxColour& colour, const wxColour& autom
 {
     m_colour = colour;
     m_colours->StartWith(colour, automatic);
-    // Clear the text. Otherwise the keyboard would start at the colour of another folder.
+    // Clear the text. It may still be the name of the colour that was chosen for another folder: when the popup opens,
+    // it would make that colour's cell hot, and the arrow keys would start there.
     SetText("");
 }
 

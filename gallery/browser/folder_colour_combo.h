@@ -15,8 +15,9 @@ class FolderColourCombo : public wxColourCombo, private wxColorPopupListener
 public:
     using Handler = std::function<void(const wxColour&)>;
 
-    /// @a onLook is called with the colour of each cell that the user moves to, and at the end with the colour in
-    /// effect. If the user chooses a colour, @a onChoose is then called with this colour.
+    /// @a onLook is called with the colour of each cell that the user moves to. When the user has chosen a colour or
+    /// cancelled, @a onLook is called with the colour that the folder now has. After a choice, @a onChoose is then
+    /// called with the same colour.
     FolderColourCombo(wxWindow* parent, Handler onLook, Handler onChoose);
 
     ~FolderColourCombo() override;

@@ -112,7 +112,7 @@ bool FolderTree::SelectSubfolder(const std::string& name)
     const wxTreeItemId selected = GetSelection().item;
     wxTreeItemId subfolder = FindSubfolder(selected, name);
     if (!subfolder.IsOk()) {
-        Refill(selected);  // the subfolder may be newer than the tree's items
+        Refill(selected);  // the subfolder may have been made after the tree read the folder
         subfolder = FindSubfolder(selected, name);
     }
     if (!subfolder.IsOk())

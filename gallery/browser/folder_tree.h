@@ -12,8 +12,8 @@ struct Subfolder;
 
 /// The folders below a root folder, each in its colour. A folder is read when it is expanded.
 ///
-/// Each item stores an index into a table of names, because some file names cannot be labels. Links are left out:
-/// circular links would make the tree endless.
+/// Each item stores an index into a table of file names: a label is only for display, and some file names cannot be
+/// recovered from their label. Links are left out: circular links would make the tree endless.
 class FolderTree : public wxHandyTreeCtrl
 {
 public:

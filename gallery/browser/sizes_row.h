@@ -16,7 +16,8 @@ class wxStaticText;
 
 namespace gallery {
 
-/// Adds up a folder in the background. Shows a bar, numbers, and a button that stops the work or starts it again.
+/// Adds up the sizes of everything in a folder, in the background. Shows a bar, numbers, and a button that stops the
+/// work or starts it again.
 class SizesRow : public wxPanel
 {
 public:
@@ -27,7 +28,7 @@ public:
     void Start(const std::string& folder);
 
     /// Stops the worker and waits until its current call to the file system returns. Then calls the constructor's
-    /// onNews with the sums found since the previous call. No further sums follow.
+    /// onNews once more, with the results that onNews has not received yet. Does nothing if no worker runs.
     void Stop();
 
     bool IsRunning() const { return m_worker != nullptr; }
