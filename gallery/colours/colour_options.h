@@ -21,7 +21,7 @@ struct ColourOptions
     /// @name Options that only a class derived from wxColourPopup can set
     /// @{
     int columns = 8;
-    int cellSize = 18;  ///< In pixels; a large margin makes a cell larger.
+    int cellSize = 18;  ///< In pixels, margins included. The popup uses a larger size if the margins need it.
     int margin = 2;     ///< In pixels.
     /// @}
 

@@ -17,8 +17,8 @@ class ColourOptionFields;
 
 /// A page with a colour combo, controls for its options, a list of its events, and a preview of the colour.
 ///
-/// The constructor restores the options and the colour that SaveSettings() last saved. A change of the options makes a
-/// new combo, because the options must be set before the popup is shown.
+/// The constructor restores the options and the colour that SaveSettings() last saved. When the user changes an option,
+/// the page makes a new combo, because the options of a popup must be set before it is first shown.
 class ColoursPage : public wxScrolledWindow
 {
 public:

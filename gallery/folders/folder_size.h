@@ -28,7 +28,8 @@ public:
     virtual bool OnProgress(const FolderSum& soFar, double fraction) = 0;
 };
 
-/// Adds up the folder @a path and everything below it, to any depth and across mounts; links are not followed.
+/// Adds up the sizes of the folder @a path and of everything below it, to any depth and across mounts. Links are not
+/// followed.
 ///
 /// If @a observer ends the walk, returns the sum until then. Safe on any thread.
 FolderSum SumFolder(const std::string& path, SizeObserver& observer);

@@ -21,7 +21,7 @@ struct SizeNews
     bool done = false;
 };
 
-/// In the background, adds up a folder and everything below it.
+/// Adds up the sizes of a folder and of everything below it, in the background.
 ///
 /// The worker's events contain no results. An event only reports that TakeNews() has new results. No further event is
 /// sent until TakeNews() is called.

@@ -198,8 +198,8 @@ void NumberFormatFields::Arrange(int width)
     InvalidateBestSize();
 }
 
-/// Loads the format. If a stored value is missing or invalid, the control keeps its default. The control of a bound is
-/// then empty or shows "0", and both mean 0.
+/// Loads the format. A control whose stored value is missing or invalid shows its default. For a bound, the default is
+/// 0: the control is empty or shows "0".
 void NumberFormatFields::LoadSettings()
 {
     CNumberFormat format(eFixedFormat);

@@ -85,7 +85,8 @@ void NumbersPage::SaveSettings() const
 
 void NumbersPage::LoadSettings()
 {
-    // Test "Validates", which is never stored as an empty text. A stored number can be empty.
+    // In the first session, nothing is stored yet. Look for "Validates": SaveSettings() always stores it as "0" or "1",
+    // but a number can be stored as an empty text.
     const bool isFirstSession = kNumberSettings.Load("Validates").empty();
     m_number->ChangeValue(isFirstSession ? wxString(kFirstNumber) : kNumberSettings.Load("Typed"));
     m_control->SetDecimal(isFirstSession ? wxString(kFirstNumber) : kNumberSettings.Load("InControl"));
@@ -176,7 +177,9 @@ void NumbersPage::Arrange()
     ArrangeColumns(m_columns, width);
     ArrangeColumns(m_controlColumns, width);
     m_fields->Arrange(width);
-    FitInside();  // before the layout: otherwise the layout would squeeze the fields into a low window
+    // Set the virtual height of the page first: the layout that follows would otherwise make the fields lower, so that
+    // all fit into the window.
+    FitInside();
 }
 
 /// Sets or removes the validator of the number's field, sets the current format in the control, and shows the results.

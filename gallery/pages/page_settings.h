@@ -6,8 +6,8 @@
 
 namespace gallery {
 
-/// The settings of a page: values by name, in one section of a settings file. Each function reads or writes the file at
-/// once. If a value is missing or invalid, a function with the parameter @a otherwise returns this parameter.
+/// The settings of a page: values by name, in one section of a settings file. Each call reads or writes the file. If a
+/// value is missing or invalid, a function with the parameter @a otherwise returns this parameter.
 class PageSettings
 {
 public:
