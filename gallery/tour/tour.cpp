@@ -43,7 +43,8 @@ GtkWidget* FindFileDialog()
     return dialog;
 }
 
-/// Calls a function in the event loop of the next file or folder dialog. Then cancels the dialog if it is still open.
+/// Waits until a file or folder dialog opens, and calls a function in the event loop of this dialog. Then cancels the
+/// dialog if it is still open.
 class DialogVisitor : public wxTimer
 {
 public:
@@ -395,7 +396,8 @@ bool Tour::Waits(const std::function<bool()>& condition, const char* claim)
     return IsTrue(WaitUntil(condition), claim);
 }
 
-/// Presses Ctrl and @a key, and visits the dialog that this opens.
+/// Presses Ctrl and @a key, which opens a file or folder dialog, and calls @a visit with the dialog. Then waits until
+/// the program's window is active again.
 bool Tour::VisitDialog(char key, const char* claim, const std::function<bool(GtkWidget*)>& visit)
 {
     DialogVisitor visitor(visit);

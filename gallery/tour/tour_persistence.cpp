@@ -1,4 +1,5 @@
-// A step of the tour that opens another window. One call restores this window and everything in it.
+// A step of the tour that changes another window, closes it and opens it again. The window's constructor restores the
+// window and everything in it with one call.
 
 #include <utility>
 #include <vector>
