@@ -1,4 +1,4 @@
-// Shows texts. The menu lists the texts that were opened last. This list is kept in the program's settings.
+// Shows text files. The menu lists the files that were opened last. This list is kept in the program's settings.
 
 #include <wx/filehistory.h>
 #include <wx/wx.h>

@@ -1,4 +1,4 @@
-// Payments: the field accepts only amounts of money, and the window shows each payment with groups and two decimals.
+// Payments: the field accepts only amounts of money. The window shows each payment like 1,234.50 EUR.
 
 #include <wx/wx.h>
 

@@ -1,4 +1,4 @@
-// Shows texts and saves them. The open dialog and the save dialog each start at the file that was last chosen in that
+// Opens and saves text files. The open dialog and the save dialog each start at the file that was last chosen in that
 // dialog.
 
 #include <wx/wx.h>

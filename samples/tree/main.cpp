@@ -18,7 +18,7 @@ public:
     using wxHandyTreeCtrl::wxHandyTreeCtrl;
     void OnItemExpanding(const wxTreeCursor& item) override
     {
-        wxLogNull noMessages;  // for a folder that the user cannot read
+        wxLogNull noMessages;  // without this, wxDir shows a message for a folder that the user cannot read
         wxDir folder(PathOf(item));
         if (item.GetChild().IsOk() || !folder.IsOpened())
             return;  // already filled, or nothing to show

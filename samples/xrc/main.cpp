@@ -23,7 +23,7 @@ public:
         wxTreeCursor sun = m_tree->AddRoot("Sun");
         sun.AppendItem("Earth").AppendItem("Moon");
         sun.AppendItem("Mars");
-        m_tree->LoadState(sun);  // with the profile name from planets.xrc
+        m_tree->LoadState(sun);  // planets.xrc sets the profile under which the state is stored
         m_tree->SelectRootItem();
         Bind(wxEVT_CLOSE_WINDOW, [this, sun](wxCloseEvent& event) mutable {
             m_tree->SaveState(sun);
