@@ -11,6 +11,8 @@ namespace {
 
 using Text = CStdStr<wchar_t>;
 
+const wchar_t* const kNull = nullptr;
+
 Text PassThrough(const Text& text)
 {
     return text;
@@ -18,24 +20,21 @@ Text PassThrough(const Text& text)
 
 TEST(StdStr, FromANullPointerIsEmpty)
 {
-    const wchar_t* null = nullptr;
-    const Text text(null);
+    const Text text(kNull);
     EXPECT_TRUE(text.empty());
     EXPECT_EQ(std::wstring(text.c_str()), L"");
 }
 
 TEST(StdStr, BecomesEmptyWhenANullPointerIsAssigned)
 {
-    const wchar_t* null = nullptr;
     Text text(L"something");
-    text = null;
+    text = kNull;
     EXPECT_TRUE(text.empty());
 }
 
 TEST(StdStr, TakesAnArgumentThatIsANullPointer)
 {
-    const wchar_t* null = nullptr;
-    EXPECT_EQ(PassThrough(null), L"");
+    EXPECT_EQ(PassThrough(kNull), L"");
 }
 
 TEST(StdStr, HoldsWhatItIsMadeFrom)

@@ -21,7 +21,6 @@
 #include <tests/dialogs/driven_dialog.h>
 #include <tests/dialogs/file_answer.h>
 #include <tests/faults/own_home.h>
-#include <tests/platform/store/store_support.h>
 #include <tests/support/gui.h>
 #include <tests/support/temp_folder.h>
 #include <tests/tree/tree_on_screen.h>

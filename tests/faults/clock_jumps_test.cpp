@@ -15,7 +15,7 @@
 #include <tests/faults/jumping_clock.h>
 #include <tests/platform/processes/held_lock.h>
 #include <tests/platform/store/store_support.h>
-#include <tests/support/file_stamp.h>
+#include <tests/support/file_status.h>
 #include <tests/support/patience.h>
 #include <tests/support/process/forked_work.h>
 #include <tests/support/temp_folder.h>
@@ -168,13 +168,6 @@ void SetTime(const std::string& path, long seconds)
     EXPECT_EQ(utimensat(AT_FDCWD, path.c_str(), times, 0), 0);
 }
 
-timespec TimeOf(const std::string& path)
-{
-    struct stat info = {};
-    EXPECT_EQ(stat(path.c_str(), &info), 0);
-    return info.st_mtim;
-}
-
 TEST_P(ClockJumps, HideNoChangeByAnotherProcess)
 {
     TempUserData data;
@@ -204,7 +197,7 @@ TEST_P(ClockJumps, HideNoChangeInPlace)
     TempUserData data;
     const std::string path = data / "settings.ini";
     WriteFile(path, "[s]\nk=1\n");
-    const timespec first = TimeOf(path);
+    const timespec first = StatusOf(path).st_mtim;
     WaitPastStamp(path);  // so that the store keeps its copy of the file
     EXPECT_EQ(Stored(L"s", L"k"), L"1");
     clock.Jump(GetParam());

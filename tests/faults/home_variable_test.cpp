@@ -24,9 +24,7 @@ std::string Below(const std::string& home)
     return home + "/.local/share/Ledger\n" + home + "/Ledger/Samples\n";
 }
 
-class HomeThatIsNoFolder : public testing::TestWithParam<const char*>
-{
-};
+using HomeThatIsNoFolder = testing::TestWithParam<const char*>;
 
 TEST_P(HomeThatIsNoFolder, GivesWayToTheRegisteredOne)
 {

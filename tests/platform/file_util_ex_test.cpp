@@ -10,8 +10,8 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
+#include <tests/support/file_status.h>
 #include <tests/support/process/processor_time.h>
 #include <tests/support/temp_folder.h>
 
@@ -27,9 +27,7 @@ struct Join
     const wchar_t* expected;
 };
 
-class MakePath : public testing::TestWithParam<Join>
-{
-};
+using MakePath = testing::TestWithParam<Join>;
 
 TEST_P(MakePath, JoinsWithOneSeparator)
 {
@@ -53,9 +51,7 @@ struct Change
     const wchar_t* expected;
 };
 
-class GetPathWithSep : public testing::TestWithParam<Change>
-{
-};
+using GetPathWithSep = testing::TestWithParam<Change>;
 
 TEST_P(GetPathWithSep, EndsInOne)
 {
@@ -68,9 +64,7 @@ INSTANTIATE_TEST_SUITE_P(, GetPathWithSep,
                                          Change{L"//", L"/"}, Change{L"a\\", L"a\\/"}, Change{L"", L""},
                                          Change{nullptr, L""}));
 
-class RemoveBackSlash : public testing::TestWithParam<Change>
-{
-};
+using RemoveBackSlash = testing::TestWithParam<Change>;
 
 TEST_P(RemoveBackSlash, Gives)
 {
@@ -135,13 +129,6 @@ protected:
     Mkdir() : m_mask(umask(0)) {}
     ~Mkdir() override { umask(m_mask); }
 
-    static int ModeOf(const std::string& path)
-    {
-        struct stat status = {};
-        EXPECT_EQ(stat(path.c_str(), &status), 0) << path;
-        return status.st_mode & 07777;
-    }
-
     const TempFolder m_folder;
 
 private:
@@ -152,15 +139,15 @@ TEST_F(Mkdir, MakesTheFolderForTheUserAlone)
 {
     EXPECT_TRUE(file_util_ex::Mkdir(Wide(m_folder / "a")));
     EXPECT_TRUE(std::filesystem::is_directory(m_folder / "a"));
-    EXPECT_EQ(ModeOf(m_folder / "a"), 0700);
+    EXPECT_EQ(ModeOf(m_folder / "a"), 0700U);
 }
 
 TEST_F(Mkdir, MakesTheFoldersAbove)
 {
     EXPECT_TRUE(file_util_ex::Mkdir(Wide(m_folder / "a/b/c/")));
-    EXPECT_EQ(ModeOf(m_folder / "a"), 0700);
-    EXPECT_EQ(ModeOf(m_folder / "a/b"), 0700);
-    EXPECT_EQ(ModeOf(m_folder / "a/b/c"), 0700);
+    EXPECT_EQ(ModeOf(m_folder / "a"), 0700U);
+    EXPECT_EQ(ModeOf(m_folder / "a/b"), 0700U);
+    EXPECT_EQ(ModeOf(m_folder / "a/b/c"), 0700U);
 }
 
 TEST_F(Mkdir, LeavesAFolderThatExistsAsItIs)
@@ -168,7 +155,7 @@ TEST_F(Mkdir, LeavesAFolderThatExistsAsItIs)
     std::filesystem::create_directory(m_folder / "a");
     chmod((m_folder / "a").c_str(), 0755);
     EXPECT_TRUE(file_util_ex::Mkdir(Wide(m_folder / "a")));
-    EXPECT_EQ(ModeOf(m_folder / "a"), 0755);
+    EXPECT_EQ(ModeOf(m_folder / "a"), 0755U);
     EXPECT_TRUE(file_util_ex::Mkdir(L"/"));
 }
 
@@ -213,9 +200,7 @@ struct Encoding
     std::string utf8;
 };
 
-class Utf8 : public testing::TestWithParam<Encoding>
-{
-};
+using Utf8 = testing::TestWithParam<Encoding>;
 
 TEST_P(Utf8, EncodesAndDecodes)
 {
@@ -233,14 +218,11 @@ INSTANTIATE_TEST_SUITE_P(, Utf8,
                                          Encoding{L"\xFEFFx", "\xEF\xBB\xBFx"},
                                          Encoding{std::wstring(L"a\0\0b\0", 5), std::string("a\0\0b\0", 5)}));
 
-class NoCharacter : public testing::TestWithParam<long>
-{
-};
+using NoCharacter = testing::TestWithParam<long>;
 
 TEST_P(NoCharacter, BecomesTheReplacementCharacter)
 {
-    EXPECT_EQ(ConvertToUTF8(std::wstring{L'a', static_cast<wchar_t>(GetParam()), L'b'}), "a\xEF\xBF\xBD"
-                                                                                         "b");
+    EXPECT_EQ(ConvertToUTF8(std::wstring{L'a', static_cast<wchar_t>(GetParam()), L'z'}), "a\xEF\xBF\xBDz");
 }
 
 INSTANTIATE_TEST_SUITE_P(, NoCharacter,
@@ -260,9 +242,7 @@ struct Broken
     std::wstring expected;
 };
 
-class NotUtf8 : public testing::TestWithParam<Broken>
-{
-};
+using NotUtf8 = testing::TestWithParam<Broken>;
 
 TEST_P(NotUtf8, BecomesReplacementCharacters)
 {

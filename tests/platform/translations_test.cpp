@@ -6,8 +6,6 @@
 #include <wx/init.h>
 #include <wx/translation.h>
 
-#include <fittings/platform/file_util_ex.h>
-
 namespace {
 
 const wchar_t* const kFolderText = L"Current folder is:";
@@ -131,8 +129,7 @@ TEST_F(Translations, ComeFromTheHostsCataloguesToo)
 
 TEST_F(Translations, ComeFromTheNamedCatalogueAlone)
 {
-    wxTranslations* const translations = SetLanguage("de");
-    ASSERT_TRUE(translations->AddCatalog("ledger"));
+    ASSERT_TRUE(SetLanguage("de")->AddCatalog("ledger"));
     EXPECT_STREQ(Look(L"Balance", L"ledger"), L"Saldo");
     EXPECT_STREQ(Look(L"Balance", L"fittings"), L"Balance");
     EXPECT_STREQ(Look(kFolderText, L"fittings"), L"Aktueller Ordner:");
@@ -142,8 +139,7 @@ TEST_F(Translations, ComeFromTheNamedCatalogueAlone)
 
 TEST_F(Translations, ComeFromEveryCatalogueForANullDomain)
 {
-    wxTranslations* const translations = SetLanguage("de");
-    ASSERT_TRUE(translations->AddCatalog("ledger"));
+    ASSERT_TRUE(SetLanguage("de")->AddCatalog("ledger"));
     EXPECT_STREQ(lng_util_internal::DoGetResourceString(L"Balance", nullptr), L"Saldo");
     EXPECT_STREQ(lng_util_internal::DoGetResourceString(kFolderText, nullptr), L"Aktueller Ordner:");
 }

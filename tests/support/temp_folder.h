@@ -4,8 +4,23 @@
 #include <string>
 #include <vector>
 
+#include <gtest/gtest.h>
+
 #include <fittings/platform/local_reg_store.h>
 #include <tests/support/temp_user_data.h>
+
+/// A test with an empty user data directory of its own.
+class UserDataTest : public testing::Test
+{
+protected:
+    const TempUserData data;
+};
+
+/// A UserDataTest with a parameter.
+template <typename Param>
+class UserDataTestWithParam : public UserDataTest, public testing::WithParamInterface<Param>
+{
+};
 
 /// Returns the default store's value of a key, or "(none)".
 inline std::wstring Stored(const wchar_t* section, const wchar_t* key)

@@ -44,4 +44,9 @@ public:
     ~TempUserData();
 };
 
+/// A user data directory that is made in memory, if the system allows it.
+class UserDataInMemory : private InMemory, public TempUserData
+{
+};
+
 #endif

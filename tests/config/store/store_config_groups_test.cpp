@@ -48,8 +48,7 @@ protected:
 
 TEST_F(FileWithGroups, IsReadAsItStands)
 {
-    EXPECT_EQ(Dump(*m_config), kText);
-    EXPECT_EQ(Saved(), kText);
+    ExpectContents(kText);
     EXPECT_EQ(ReadFile(Path()), kText);
 }
 
@@ -94,15 +93,11 @@ TEST_F(FileWithGroups, CountsAllThatAGroupHolds)
 
 TEST_F(FileWithGroups, KnowsItsEntries)
 {
-    EXPECT_FALSE(m_config->HasEntry("root"));
-    EXPECT_TRUE(m_config->HasEntry("root/entry"));
-    EXPECT_TRUE(m_config->HasEntry("/root/entry"));
-    EXPECT_TRUE(m_config->HasEntry("root/group1/subgroup/subentry"));
-    EXPECT_TRUE(m_config->HasEntry("root/group2/../entry"));
-    EXPECT_FALSE(m_config->HasEntry(""));
-    EXPECT_FALSE(m_config->HasEntry("root/group1"));
-    EXPECT_FALSE(m_config->HasEntry("subgroup/subentry"));
-    EXPECT_FALSE(m_config->HasEntry("/root/no_such_group/entry"));
+    for (const char* const name :
+         {"root/entry", "/root/entry", "root/group1/subgroup/subentry", "root/group2/../entry"})
+        EXPECT_TRUE(m_config->HasEntry(name)) << name;
+    for (const char* const name : {"root", "", "root/group1", "subgroup/subentry", "/root/no_such_group/entry"})
+        EXPECT_FALSE(m_config->HasEntry(name)) << name;
     EXPECT_FALSE(m_config->HasGroup("/root/no_such_group"));
     EXPECT_TRUE(m_config->Exists("root/entry"));
     EXPECT_TRUE(m_config->Exists("root/group2"));
@@ -110,15 +105,10 @@ TEST_F(FileWithGroups, KnowsItsEntries)
 
 TEST_F(FileWithGroups, KnowsItsGroups)
 {
-    EXPECT_TRUE(m_config->HasGroup("root"));
-    EXPECT_TRUE(m_config->HasGroup("root/group1"));
-    EXPECT_TRUE(m_config->HasGroup("root/group1/subgroup"));
-    EXPECT_TRUE(m_config->HasGroup("root/group2"));
-    EXPECT_FALSE(m_config->HasGroup(""));
-    EXPECT_FALSE(m_config->HasGroup("root/group"));
-    EXPECT_FALSE(m_config->HasGroup("root//subgroup"));
-    EXPECT_FALSE(m_config->HasGroup("foot/subgroup"));
-    EXPECT_FALSE(m_config->HasGroup("foot"));
+    for (const char* const name : {"root", "root/group1", "root/group1/subgroup", "root/group2"})
+        EXPECT_TRUE(m_config->HasGroup(name)) << name;
+    for (const char* const name : {"", "root/group", "root//subgroup", "foot/subgroup", "foot"})
+        EXPECT_FALSE(m_config->HasGroup(name)) << name;
 }
 
 TEST_F(FileWithGroups, ToldApartByCase)
@@ -152,8 +142,7 @@ TEST_F(FileWithGroups, DeletesAnEntryAndThenItsGroup)
         EXPECT_TRUE(m_config->DeleteEntry("subentry2"));
         EXPECT_EQ(m_config->GetPath(), "/root/group1");
     }
-    EXPECT_EQ(Dump(*m_config), "[root]\nentry=value\n[root/group1]\n[root/group2]\n");
-    EXPECT_EQ(Saved(), "[root]\nentry=value\n[root/group1]\n[root/group2]\n");
+    ExpectContents("[root]\nentry=value\n[root/group1]\n[root/group2]\n");
 }
 
 TEST_F(FileWithGroups, KeepsAnEmptyGroupWhereThatIsAskedFor)
@@ -174,8 +163,7 @@ TEST_F(FileWithGroups, DeletesGroups)
     EXPECT_TRUE(m_config->DeleteGroup("root/group2/"));
     EXPECT_EQ(Saved(), "[root]\nentry=value\n");
     EXPECT_TRUE(m_config->DeleteGroup("root"));
-    EXPECT_EQ(Dump(*m_config), "");
-    EXPECT_EQ(Saved(), "");
+    ExpectContents("");
     EXPECT_EQ(ReadFile(Path()), "");
 }
 
@@ -192,8 +180,7 @@ TEST_F(FileWithGroups, DeletesAll)
     m_config->SetPath("root");
     EXPECT_TRUE(m_config->DeleteAll());
     EXPECT_EQ(m_config->GetPath(), "");
-    EXPECT_EQ(Dump(*m_config), "");
-    EXPECT_EQ(Saved(), "");
+    ExpectContents("");
 }
 
 TEST_F(FileWithGroups, RenamesEntries)
@@ -207,10 +194,8 @@ TEST_F(FileWithGroups, RenamesEntries)
     EXPECT_FALSE(m_config->RenameEntry("subentry", "a/b"));
     EXPECT_TRUE(m_config->RenameEntry("subentry", "subentry1"));
     m_config->SetPath("/");
-    const wxString expected = "[root]\nnewname=value\n[root/group1]\n[root/group1/subgroup]\nsubentry2=subvalue2\n"
-                              "subentry1=subvalue\n[root/group2]\n";
-    EXPECT_EQ(Dump(*m_config), expected);
-    EXPECT_EQ(Saved(), expected);
+    ExpectContents("[root]\nnewname=value\n[root/group1]\n[root/group1/subgroup]\nsubentry2=subvalue2\n"
+                   "subentry1=subvalue\n[root/group2]\n");
 }
 
 TEST_F(FileWithGroups, RenamesGroups)
@@ -245,8 +230,7 @@ TEST_F(StoreConfig, AddsEntries)
     EXPECT_TRUE(m_config->Write("/Foo", "foo"));
     EXPECT_EQ(Dump(*m_config), "Foo=foo\n");
     EXPECT_TRUE(m_config->Write("/Bar/Baz", "baz"));
-    EXPECT_EQ(Dump(*m_config), "Foo=foo\n[Bar]\nBaz=baz\n");
-    EXPECT_EQ(Saved(), "Foo=foo\n[Bar]\nBaz=baz\n");
+    ExpectContents("Foo=foo\n[Bar]\nBaz=baz\n");
     EXPECT_EQ(ReadFile(Path()), "[%]\nFoo=foo\n\n[Bar]\nBaz=baz\n");
 
     EXPECT_TRUE(m_config->DeleteAll());
@@ -254,8 +238,7 @@ TEST_F(StoreConfig, AddsEntries)
     EXPECT_TRUE(m_config->Write("/Bar/Baz", "baz"));
     EXPECT_EQ(Dump(*m_config), "[Bar]\nBaz=baz\n");
     EXPECT_TRUE(m_config->Write("/Foo", "foo"));
-    EXPECT_EQ(Dump(*m_config), "Foo=foo\n[Bar]\nBaz=baz\n");
-    EXPECT_EQ(Saved(), "Foo=foo\n[Bar]\nBaz=baz\n");
+    ExpectContents("Foo=foo\n[Bar]\nBaz=baz\n");
 }
 
 TEST_F(StoreConfig, WritesAnEntryAgainThatWasDeleted)
@@ -293,8 +276,7 @@ TEST_F(StoreConfig, AddsAGroupBeforeAndAfterEntries)
     EXPECT_TRUE(m_config->Write("first", "one"));
     EXPECT_TRUE(m_config->Write("second", "two"));
     EXPECT_TRUE(m_config->Write("other/first", "one"));
-    EXPECT_EQ(Dump(*m_config), "first=one\nsecond=two\n[sub]\nsub_first=sub_one\n[other]\nfirst=one\n");
-    EXPECT_EQ(Saved(), "first=one\nsecond=two\n[sub]\nsub_first=sub_one\n[other]\nfirst=one\n");
+    ExpectContents("first=one\nsecond=two\n[sub]\nsub_first=sub_one\n[other]\nfirst=one\n");
 }
 
 TEST_F(StoreConfig, DeletesTheLastGroupOfAFile)
@@ -316,16 +298,14 @@ TEST_F(StoreConfig, MakesAGroupAgainThatWasDeleted)
     EXPECT_TRUE(m_config->DeleteGroup("Second"));
     EXPECT_EQ(Dump(*m_config), "[First]\nValue1=Foo\n");
     EXPECT_TRUE(m_config->Write("Second/Value2", "New"));
-    EXPECT_EQ(Dump(*m_config), "[First]\nValue1=Foo\n[Second]\nValue2=New\n");
-    EXPECT_EQ(Saved(), "[First]\nValue1=Foo\n[Second]\nValue2=New\n");
+    ExpectContents("[First]\nValue1=Foo\n[Second]\nValue2=New\n");
 }
 
 TEST_F(StoreConfig, AddsToTheRootBesideGroups)
 {
     Open("[Group]\nvalue1=foo\n");
     EXPECT_TRUE(m_config->Write("/value1", "bar"));
-    EXPECT_EQ(Dump(*m_config), "value1=bar\n[Group]\nvalue1=foo\n");
-    EXPECT_EQ(Saved(), "value1=bar\n[Group]\nvalue1=foo\n");
+    ExpectContents("value1=bar\n[Group]\nvalue1=foo\n");
 }
 
 TEST_F(StoreConfig, StoresAGroupWithoutEntries)

@@ -16,8 +16,7 @@
 
 #include <fittings/platform/local_reg_store.h>
 #include <tests/config/store/store_config_support.h>
-#include <tests/platform/store/store_support.h>
-#include <tests/support/file_stamp.h>
+#include <tests/support/file_status.h>
 #include <tests/support/process/forked_work.h>
 
 namespace {
@@ -30,19 +29,14 @@ wxString Key(int process, int update)
 template <typename... File>
 void ExpectSixProcessesLoseNothing(const File&... file)
 {
-    std::vector<pid_t> children;
-    for (int process = 0; process < 6; ++process) {
-        children.push_back(StartChild([&, process] {
-            wxStoreConfig config(file...);
-            for (int update = 0; update < 40; ++update) {
-                EXPECT_TRUE(config.Write(Key(process, update), update));
-                EXPECT_TRUE(config.Write("/last", process));
-                EXPECT_TRUE(config.Flush());
-            }
-        }));
-    }
-    for (const pid_t child : children)
-        EXPECT_TRUE(WaitForSuccess(child));
+    InChildren(6, [&](int process) {
+        wxStoreConfig config(file...);
+        for (int update = 0; update < 40; ++update) {
+            EXPECT_TRUE(config.Write(Key(process, update), update));
+            EXPECT_TRUE(config.Write("/last", process));
+            EXPECT_TRUE(config.Flush());
+        }
+    });
     const wxStoreConfig config(file...);
     int kept = 0;
     for (int process = 0; process < 6; ++process)
@@ -53,16 +47,14 @@ void ExpectSixProcessesLoseNothing(const File&... file)
 
 TEST(SixProcesses, LoseNothingOfTheirTwoHundredAndFortyUpdatesOfTheDefaultStore)
 {
-    const InMemory inMemory;
-    const TempUserData data;
+    const UserDataInMemory data;
     ExpectSixProcessesLoseNothing();
     EXPECT_EQ(NamesIn(data.Path()), (std::vector<std::string>{"settings.ini", "settings.ini.lock"}));
 }
 
 TEST(SixProcesses, LoseNothingOfTheirTwoHundredAndFortyUpdatesOfANamedFile)
 {
-    const InMemory inMemory;
-    const TempUserData data;
+    const UserDataInMemory data;
     ExpectSixProcessesLoseNothing("shared.ini");
     EXPECT_EQ(NamesIn(data / "ui_config"), (std::vector<std::string>{"shared.ini", "shared.ini.lock"}));
 }
@@ -174,9 +166,10 @@ TEST_F(StoreConfig, KeepsWhatCouldNotBeSavedForTheNextTime)
     EXPECT_EQ(ReadFile(Path()), "[g]\na=1\nb=2\n");
 }
 
-TEST(TheDefaultStoreAsAConfig, HasWhatTheComponentsStore)
+using TheDefaultStoreAsAConfig = UserDataTest;
+
+TEST_F(TheDefaultStoreAsAConfig, HasWhatTheComponentsStore)
 {
-    const TempUserData data;
     EXPECT_TRUE(CLocalRegStore::WriteString(L"LastFiles", L"Report", L"/tmp/a.txt"));
     wxStoreConfig config;
     EXPECT_EQ(config.Read("/LastFiles/Report"), "/tmp/a.txt");
@@ -187,9 +180,8 @@ TEST(TheDefaultStoreAsAConfig, HasWhatTheComponentsStore)
     EXPECT_EQ(config.Read("/LastFiles/Report"), "b");
 }
 
-TEST(TheDefaultStoreAsAConfig, StoresAnEqualTextInAFileThatAnotherHasEmptied)
+TEST_F(TheDefaultStoreAsAConfig, StoresAnEqualTextInAFileThatAnotherHasEmptied)
 {
-    const TempUserData data;
     EXPECT_TRUE(CLocalRegStore::WriteString(L"g", L"a", L"1"));
     wxStoreConfig config;
     EXPECT_EQ(config.Read("g/a"), "1");
@@ -199,9 +191,8 @@ TEST(TheDefaultStoreAsAConfig, StoresAnEqualTextInAFileThatAnotherHasEmptied)
     EXPECT_EQ(ReadFile(data / "settings.ini"), "[g]\na=1\n");
 }
 
-TEST(TheDefaultStoreAsAConfig, IsPartOfTheThreadsBatch)
+TEST_F(TheDefaultStoreAsAConfig, IsPartOfTheThreadsBatch)
 {
-    const TempUserData data;
     wxStoreConfig config;
     EXPECT_TRUE(config.Write("g/before", "1"));
     {
@@ -228,9 +219,8 @@ TEST(TheDefaultStoreAsAConfig, IsPartOfTheThreadsBatch)
     EXPECT_EQ(Dump(config), "[h]\nk=4\n");
 }
 
-TEST(TheDefaultStoreAsAConfig, LeavesItsChangesToTheBatchThatSavesThemLater)
+TEST_F(TheDefaultStoreAsAConfig, LeavesItsChangesToTheBatchThatSavesThemLater)
 {
-    const TempUserData data;
     wxStoreConfig config;
     CLocalRegStore::Batch batch;
     EXPECT_TRUE(config.Write("g/k", "1"));
@@ -247,20 +237,19 @@ TEST(TheDefaultStoreAsAConfig, LeavesItsChangesToTheBatchThatSavesThemLater)
     EXPECT_EQ(ReadFile(data / "settings.ini"), "[g]\nk=2\n");
 }
 
-TEST(TheDefaultStoreAsAConfig, MovesWithTheUserDataDirectory)
+TEST_F(TheDefaultStoreAsAConfig, MovesWithTheUserDataDirectory)
 {
-    const TempUserData one;
     wxStoreConfig config;
     EXPECT_TRUE(config.Write("g/k", "1"));
     EXPECT_TRUE(config.Flush());
-    const TempUserData two;
+    const TempUserData other;
     EXPECT_FALSE(config.HasEntry("g/k"));
 }
 
 TEST(TheToolkitsConfig, IsSavedWhenTheToolkitEnds)
 {
     const TempUserData data;
-    const pid_t child = StartChild([] {
+    InChild([] {
         const wxInitializer toolkit;
         EXPECT_EQ(wxConfigBase::Set(new wxStoreConfig), nullptr);
         wxFileHistory history(3);
@@ -268,7 +257,6 @@ TEST(TheToolkitsConfig, IsSavedWhenTheToolkitEnds)
         history.AddFileToHistory("/tmp/b.txt");
         history.Save(*wxConfigBase::Get());
     });
-    EXPECT_TRUE(WaitForSuccess(child));
     wxStoreConfig config;
     wxFileHistory history(3);
     history.Load(config);

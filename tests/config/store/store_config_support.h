@@ -76,6 +76,12 @@ protected:
         return Dump(other);
     }
 
+    void ExpectContents(const wxString& text)
+    {
+        EXPECT_EQ(Dump(*m_config), text);
+        EXPECT_EQ(Saved(), text);
+    }
+
     const TempUserData m_data;
     std::unique_ptr<wxStoreConfig> m_config = std::make_unique<wxStoreConfig>("test.ini");
 };

@@ -25,8 +25,8 @@
 
 #include <tests/platform/processes/held_lock.h>
 #include <tests/platform/processes/watched_calls.h>
-#include <tests/platform/store/store_support.h>
 #include <tests/support/becomes.h>
+#include <tests/support/file_status.h>
 #include <tests/support/patience.h>
 #include <tests/support/process/as_nobody.h>
 #include <tests/support/process/forked_work.h>
@@ -78,43 +78,34 @@ void ExpectCounterAndKeys(int processes, int updates)
 void Contend(
     int processes, int updates, const std::function<void()>& prepare = [] {})
 {
-    std::vector<pid_t> children;
-    for (int process = 0; process < processes; ++process) {
-        children.push_back(StartChild([&] {
-            prepare();
-            StoreCounterAndKeys(process, updates);
-        }));
-    }
-    for (const pid_t child : children)
-        EXPECT_TRUE(WaitForSuccess(child));
+    InChildren(processes, [&](int process) {
+        prepare();
+        StoreCounterAndKeys(process, updates);
+    });
     ExpectCounterAndKeys(processes, updates);
 }
 
 TEST(SixProcesses, LoseNothingOnADiskThatTakes60MillisecondsASync)
 {
-    const InMemory inMemory;
-    const TempUserData data;
+    const UserDataInMemory data;
     Contend(6, 4 * Soak(), [] { SlowDisk(milliseconds(60)); });
 }
 
 TEST(ThreeProcesses, LoseNothingOnADiskThatTakes600MillisecondsASync)
 {
-    const InMemory inMemory;
-    const TempUserData data;
+    const UserDataInMemory data;
     Contend(3, Soak(), [] { SlowDisk(milliseconds(600)); });
 }
 
 TEST(ManyProcesses, LoseNothingOnAFastDisk)
 {
-    const InMemory inMemory;
-    const TempUserData data;
+    const UserDataInMemory data;
     Contend(128, 2 * Soak());
 }
 
 TEST(TwelveProcesses, LoseNothingInAStoreOfAHundredThousandKeys)
 {
-    const InMemory inMemory;
-    const TempUserData data;
+    const UserDataInMemory data;
     std::string text;
     for (int key = 0; key < 100'000; ++key) {
         if (key % 1000 == 0)
@@ -161,8 +152,7 @@ TEST(AStoppedHolderOfTheLock, UndoesNothingWhenItGoesOn)
 
 TEST(AStoppedHolderOfTheLock, DelaysAllWritesOfAProcessByTwoSecondsTogether)
 {
-    const InMemory inMemory;
-    const TempUserData data;
+    const UserDataInMemory data;
     const pid_t holder = StartHolderThatStops(L"holder");
     const auto start = Clock::now();
     for (int update = 0; update < 22; ++update)
@@ -174,8 +164,7 @@ TEST(AStoppedHolderOfTheLock, DelaysAllWritesOfAProcessByTwoSecondsTogether)
 
 TEST(AStoppedHolderOfTheLock, DelaysEightThreadsByTwoSecondsTogether)
 {
-    const InMemory inMemory;
-    const TempUserData data;
+    const UserDataInMemory data;
     const pid_t holder = StartHolderThatStops(L"holder");
     const auto start = Clock::now();
     std::vector<std::thread> threads;
@@ -196,8 +185,7 @@ TEST(AStoppedHolderOfTheLock, DelaysEightThreadsByTwoSecondsTogether)
 // for the lock only once.
 TEST(AStoppedHolderOfTheLock, DelaysAWriteOnceWhileTheFileIsEmptiedAllTheTime)
 {
-    const InMemory inMemory;
-    const TempUserData data;
+    const UserDataInMemory data;
     const std::string path = data / "settings.ini";
     WriteFile(path, "[s]\nk=0\n");
     const HeldLock lock(path + ".lock");
@@ -221,8 +209,7 @@ TEST(AStoppedHolderOfTheLock, DelaysAWriteOnceWhileTheFileIsEmptiedAllTheTime)
 // Therefore the later writes of the test's own process do not wait for the lock.
 TEST(AStoppedHolderOfTheLock, DelaysAProcessOnceWhileAnotherOneStoresTheSameWay)
 {
-    const InMemory inMemory;
-    const TempUserData data;
+    const UserDataInMemory data;
     const HeldLock lock(data / "settings.ini.lock");
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"0"));
     const auto start = Clock::now();
@@ -239,8 +226,7 @@ TEST(AStoppedHolderOfTheLock, DelaysAProcessOnceWhileAnotherOneStoresTheSameWay)
 // itself holds the lock.
 TEST(AStoppedHolderOfTheFoldersLock, DelaysAllWritesOfAProcessByHalfASecondTogether)
 {
-    const InMemory inMemory;
-    const TempUserData data;
+    const UserDataInMemory data;
     WriteFile(data / "settings.ini", "[s]\n");
     const int folder = open(data.Path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     ASSERT_EQ(flock(folder, LOCK_EX | LOCK_NB), 0);
@@ -328,14 +314,13 @@ private:
 
 TEST(ALockFileThatIsRemovedAllTheTime, LosesNothing)
 {
-    const InMemory inMemory;
     {
-        const TempUserData data;
+        const UserDataInMemory data;
         const LockRemover remover(data / "settings.ini.lock", milliseconds(2));
         Contend(6, 30 * Soak());
     }
     {
-        const TempUserData data;
+        const UserDataInMemory data;
         const LockRemover remover(data / "settings.ini.lock", milliseconds(1000));
         Contend(6, 10 * Soak(), [] { SlowDisk(milliseconds(10)); });
     }
@@ -343,16 +328,14 @@ TEST(ALockFileThatIsRemovedAllTheTime, LosesNothing)
 
 TEST(AFolderInPlaceOfTheLockFile, LosesNothing)
 {
-    const InMemory inMemory;
-    const TempUserData data;
+    const UserDataInMemory data;
     std::filesystem::create_directory(data / "settings.ini.lock");
     Contend(6, 10 * Soak());
 }
 
 TEST(ALinkInPlaceOfTheLockFile, IsNotFollowedAndLosesNothing)
 {
-    const InMemory inMemory;
-    const TempUserData data;
+    const UserDataInMemory data;
     const TempFolder elsewhere;
     std::filesystem::create_symlink(elsewhere / "made", data / "settings.ini.lock");
     Contend(6, 10 * Soak());
@@ -361,8 +344,7 @@ TEST(ALinkInPlaceOfTheLockFile, IsNotFollowedAndLosesNothing)
 
 TEST(ALockFileThatCannotBeOpened, LosesNothing)
 {
-    const InMemory inMemory;
-    const TempUserData data;
+    const UserDataInMemory data;
     WriteFile(data / "settings.ini.lock", "");
     ASSERT_EQ(chmod((data / "settings.ini.lock").c_str(), 0), 0);
     // The lock file belongs to root, and the folder to a user. This happens when the user has run a program with sudo.
@@ -386,10 +368,9 @@ void EditInPlace(const std::string& path, milliseconds pause)
 
 TEST(AnEditorThatEmptiesTheFileAndFillsItLater, LosesNoOtherSetting)
 {
-    const InMemory inMemory;
     for (const int pause : {2, 20}) {
         for (int trial = 0; trial < 30 * Soak(); ++trial) {
-            const TempUserData data;
+            const UserDataInMemory data;
             const std::string others = "# mine\n[other]\na=1\nb=2\n";
             WriteFile(data / "settings.ini", others);
             std::thread editor([&] { EditInPlace(data / "settings.ini", milliseconds(pause)); });
@@ -445,17 +426,14 @@ TEST(ALinkInPlaceOfTheNewFile, ChangesNoOtherFile)
     CLocalRegStore::WriteString(L"s", L"k", L"1");
     g_watchedCalls.beforeSync = nullptr;
     EXPECT_EQ(replaced, 1);
-    struct stat info;
-    ASSERT_EQ(stat((elsewhere / "secret").c_str(), &info), 0);
-    EXPECT_EQ(info.st_mode & 07777, 0600U);
-    EXPECT_EQ(info.st_uid, geteuid());
+    EXPECT_EQ(ModeOf(elsewhere / "secret"), 0600U);
+    EXPECT_EQ(StatusOf(elsewhere / "secret").st_uid, geteuid());
     EXPECT_EQ(ReadFile(elsewhere / "secret"), "s");
 }
 
 TEST(AFileThatIsEmptiedAllTheTime, DelaysAWriteByTwoSeconds)
 {
-    const InMemory inMemory;
-    const TempUserData data;
+    const UserDataInMemory data;
     WriteFile(data / "settings.ini", "");
     std::atomic<bool> isDone = false;
     std::thread other([&] {
@@ -481,10 +459,8 @@ TEST(RootInTheFolderOfAnotherUser, GivesTheFilesToThatUser)
     ASSERT_EQ(chown(data.Path().c_str(), 65534, 65534), 0);
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"1"));
     for (const char* const name : {"settings.ini", "settings.ini.lock"}) {
-        struct stat info;
-        ASSERT_EQ(stat((data / name).c_str(), &info), 0);
-        EXPECT_EQ(info.st_uid, 65534U) << name;
-        EXPECT_EQ(info.st_gid, 65534U) << name;
+        EXPECT_EQ(StatusOf(data / name).st_uid, 65534U) << name;
+        EXPECT_EQ(StatusOf(data / name).st_gid, 65534U) << name;
     }
 }
 

@@ -49,9 +49,11 @@ private:
     std::size_t m_done = 0;
 };
 
-class AnExchange : public testing::Test
+class SettingsFile : public testing::Test
 {
 protected:
+    ~SettingsFile() override { g_watchedCalls = {}; }
+
     std::string Now() const { return ReadFile(m_path); }
 
     // Saves as another process does: a new file takes the place of the old one.
@@ -63,6 +65,13 @@ protected:
 
     const TempUserData m_data;
     const std::string m_path = m_data / "settings.ini";
+    const std::string m_zeros = std::string(100, '\0');
+};
+
+class AnExchange : public SettingsFile
+{
+protected:
+    AnExchange() { WriteFile(m_path, "[s]\na=1\nk=old\n"); }
 };
 
 TEST_F(AnExchange, KeepsWhatAnotherProcessHasJustStored)
@@ -76,7 +85,6 @@ TEST_F(AnExchange, KeepsWhatAnotherProcessHasJustStored)
 
 TEST_F(AnExchange, KeepsWhatAnotherProcessHasJustRemoved)
 {
-    WriteFile(m_path, "[s]\na=1\nk=old\n");
     const Others others({[&] { Put("[s]\nk=old\n"); }});
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
     EXPECT_EQ(Now(), "[s]\nk=new\n");
@@ -84,7 +92,6 @@ TEST_F(AnExchange, KeepsWhatAnotherProcessHasJustRemoved)
 
 TEST_F(AnExchange, RemovesAKeyFromWhatAnotherProcessHasJustStored)
 {
-    WriteFile(m_path, "[s]\na=1\nk=old\n");
     const Others others({[&] { Put("[s]\na=2\nk=old\n"); }});
     EXPECT_TRUE(CLocalRegStore::DeleteProfile(L"s", L"k"));
     EXPECT_EQ(Now(), "[s]\na=2\n");
@@ -118,7 +125,6 @@ TEST_F(AnExchange, KeepsTheChangesOfSeveralProcesses)
 // The last value counts. The process that wrote it has seen the file that the first exchange put in place.
 TEST_F(AnExchange, KeepsTheNewerOfTwoValuesOfOthers)
 {
-    WriteFile(m_path, "[s]\na=1\nk=old\n");
     const Others others({[&] { Put("[s]\na=2\nk=old\n"); }, [&] { Put("[s]\na=3\nk=new\n"); }});
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
     EXPECT_EQ(Now(), "[s]\na=3\nk=new\n");
@@ -126,7 +132,6 @@ TEST_F(AnExchange, KeepsTheNewerOfTwoValuesOfOthers)
 
 TEST_F(AnExchange, WaitsForAnEditorThatHasJustEmptiedTheFile)
 {
-    WriteFile(m_path, "[s]\na=1\nk=old\n");
     std::thread editor;
     const Others others({[&] {
         const int file = open(m_path.c_str(), O_WRONLY | O_TRUNC | O_CLOEXEC);
@@ -146,25 +151,22 @@ TEST_F(AnExchange, WaitsForAnEditorThatHasJustEmptiedTheFile)
 // it does with every unreadable file.
 TEST_F(AnExchange, PutsBackWhatIsNoText)
 {
-    WriteFile(m_path, "[s]\na=1\nk=old\n");
-    const std::string zeros(100, '\0');
-    const Others others({[&] { Put(zeros); }, [&] { EXPECT_NE(Now(), zeros); }, [&] { EXPECT_EQ(Now(), zeros); }});
+    const Others others(
+        {[&] { Put(m_zeros); }, [&] { EXPECT_NE(Now(), m_zeros); }, [&] { EXPECT_EQ(Now(), m_zeros); }});
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
     EXPECT_EQ(others.Done(), 3U);
     EXPECT_EQ(Now(), "[s]\nk=new\n");
-    EXPECT_EQ(ReadFile(m_path + ".unreadable"), zeros);
+    EXPECT_EQ(ReadFile(m_path + ".unreadable"), m_zeros);
 }
 
 // The store has displaced the file of a second process and has to put it back. Before that, a third process replaces
 // the file that the store has put in place.
 TEST_F(AnExchange, KeepsWhatAThirdProcessStoresBeforeAFileIsPutBack)
 {
-    WriteFile(m_path, "[s]\na=1\nk=old\n");
-    const std::string zeros(100, '\0');
-    const Others others({[&] { Put(zeros); }, [&] { Put("[s]\na=1\nk=new\nb=3\n"); }});
+    const Others others({[&] { Put(m_zeros); }, [&] { Put("[s]\na=1\nk=new\nb=3\n"); }});
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
     EXPECT_EQ(Now(), "[s]\na=1\nk=new\nb=3\n");
-    EXPECT_EQ(ReadFile(m_path + ".unreadable"), zeros);
+    EXPECT_EQ(ReadFile(m_path + ".unreadable"), m_zeros);
     EXPECT_EQ(NamesIn(m_data.Path()),
               (std::vector<std::string>{"settings.ini", "settings.ini.lock", "settings.ini.unreadable"}));
 }
@@ -173,10 +175,8 @@ TEST_F(AnExchange, KeepsWhatAThirdProcessStoresBeforeAFileIsPutBack)
 // second process, and before it puts back the file of the third process.
 TEST_F(AnExchange, DestroysNothingThatThreeOtherProcessesStore)
 {
-    WriteFile(m_path, "[s]\na=1\nk=old\n");
-    const std::string zeros(100, '\0');
     const std::string third = "[s]\na=1\nk=new\nb=3\n";
-    const Others others({[&] { Put(zeros); }, [&] { Put(third); }, [&] { Put("[s]\nc=4\n"); }});
+    const Others others({[&] { Put(m_zeros); }, [&] { Put(third); }, [&] { Put("[s]\nc=4\n"); }});
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
     EXPECT_EQ(Now(), "[s]\nc=4\nk=new\n");
     EXPECT_EQ(ReadFile(m_path + ".unreadable"), third);
@@ -186,7 +186,6 @@ TEST_F(AnExchange, DestroysNothingThatThreeOtherProcessesStore)
 // that file, but does not keep this copy.
 TEST_F(AnExchange, DestroysNothingOfASecondProcessWhenAThirdPutsAPipeInPlaceOfTheFile)
 {
-    WriteFile(m_path, "[s]\na=1\nk=old\n");
     const std::string second = "[s]\na=2\nk=old\n";
     const Others others({[&] { Put(second); },
                          [&] {
@@ -201,7 +200,6 @@ TEST_F(AnExchange, DestroysNothingOfASecondProcessWhenAThirdPutsAPipeInPlaceOfTh
 // By default, opening a pipe waits until another program opens it for writing. The store must not wait.
 TEST_F(AnExchange, DoesNotWaitForAPipeThatTakesThePlaceOfTheFile)
 {
-    WriteFile(m_path, "[s]\na=1\nk=old\n");
     const Others others({[&] { Put("[s]\na=2\nk=old\n"); }});
     int syncs = 0;
     g_watchedCalls.beforeSync = [&] {
@@ -211,7 +209,6 @@ TEST_F(AnExchange, DoesNotWaitForAPipeThatTakesThePlaceOfTheFile)
         ASSERT_EQ(mkfifo(m_path.c_str(), 0600), 0);
     };
     EXPECT_FALSE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
-    g_watchedCalls.beforeSync = nullptr;
     EXPECT_TRUE(std::filesystem::is_fifo(m_path));
 }
 
@@ -219,7 +216,6 @@ TEST_F(AnExchange, KeepsALinkThatTakesThePlaceOfTheFile)
 {
     const TempFolder elsewhere;
     WriteFile(elsewhere / "settings.ini", "[s]\na=2\n");
-    WriteFile(m_path, "[s]\na=1\nk=old\n");
     const Others others({[&] {
         ASSERT_EQ(unlink(m_path.c_str()), 0);
         ASSERT_EQ(symlink((elsewhere / "settings.ini").c_str(), m_path.c_str()), 0);
@@ -231,22 +227,19 @@ TEST_F(AnExchange, KeepsALinkThatTakesThePlaceOfTheFile)
 
 TEST_F(AnExchange, KeepsTheFileThatTakesThePlaceOfAnUnreadableOne)
 {
-    const std::string zeros(100, '\0');
-    WriteFile(m_path, zeros);
+    WriteFile(m_path, m_zeros);
     bool isFirst = true;
     g_watchedCalls.beforeSync = [&] {
         if (std::exchange(isFirst, false))
             Put("[s]\na=1\n");
     };
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
-    g_watchedCalls.beforeSync = nullptr;
     EXPECT_EQ(Now(), "[s]\na=1\nk=new\n");
-    EXPECT_EQ(ReadFile(m_path + ".unreadable"), zeros);
+    EXPECT_EQ(ReadFile(m_path + ".unreadable"), m_zeros);
 }
 
 TEST_F(AnExchange, MakesTheFileAnewThatWasRemovedJustNow)
 {
-    WriteFile(m_path, "[s]\na=1\nk=old\n");
     const Others others({[&] { ASSERT_EQ(unlink(m_path.c_str()), 0); }});
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
     EXPECT_EQ(Now(), "[s]\nk=new\n");
@@ -254,6 +247,7 @@ TEST_F(AnExchange, MakesTheFileAnewThatWasRemovedJustNow)
 
 TEST_F(AnExchange, KeepsTheFileThatAnotherProcessHasJustMade)
 {
+    ASSERT_EQ(unlink(m_path.c_str()), 0);
     const Others others({[&] { Put("[s]\na=1\n"); }});
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
     EXPECT_EQ(Now(), "[s]\na=1\nk=new\n");
@@ -261,7 +255,6 @@ TEST_F(AnExchange, KeepsTheFileThatAnotherProcessHasJustMade)
 
 TEST_F(AnExchange, LeavesNothingBehind)
 {
-    WriteFile(m_path, "[s]\na=1\nk=old\n");
     const Others others({[&] { Put("[s]\na=2\nk=old\n"); }, [&] { Put("[s]\na=3\nk=new\n"); }});
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
     EXPECT_EQ(NamesIn(m_data.Path()), (std::vector<std::string>{"settings.ini", "settings.ini.lock"}));
@@ -281,19 +274,17 @@ TEST_F(AnExchange, WaitsForTheExchangeOfAnotherProcessEvenWhenNoTimeIsLeft)
         return 0;
     };
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
-    g_watchedCalls = {};
     EXPECT_EQ(attempts, 2);
     EXPECT_EQ(Now(), "[s]\nk=new\n");
 }
 
-class WithoutExchange : public AnExchange, public testing::WithParamInterface<int>
+class WithoutExchange : public SettingsFile, public testing::WithParamInterface<int>
 {
 protected:
     WithoutExchange()
     {
         g_watchedCalls.beforeExchange = [] { return GetParam(); };
     }
-    ~WithoutExchange() override { g_watchedCalls.beforeExchange = nullptr; }
 };
 
 TEST_P(WithoutExchange, AValueIsStoredAsAnywhere)
@@ -314,7 +305,6 @@ TEST_P(WithoutExchange, WhatAnotherProcessStoresWhileTheFileIsWrittenIsKept)
         isFirst = false;
     };
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"2"));
-    g_watchedCalls.beforeSync = nullptr;
     EXPECT_EQ(Now(), "[s]\nk=2\na=2\n");
 }
 

@@ -7,7 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <tests/platform/store/store_support.h>
 #include <tests/support/process/forked_work.h>
 #include <tests/support/temp_folder.h>
 

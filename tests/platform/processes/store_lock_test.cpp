@@ -15,7 +15,6 @@
 #include <gtest/gtest.h>
 
 #include <tests/platform/processes/held_lock.h>
-#include <tests/platform/store/store_support.h>
 #include <tests/support/becomes.h>
 #include <tests/support/process/forked_work.h>
 #include <tests/support/temp_folder.h>
@@ -39,8 +38,7 @@ TEST(AHeldLock, DelaysAWriteByTwoSeconds)
 
 TEST(AHeldLock, DelaysAWriteNoLongerThanItIsHeld)
 {
-    const InMemory inMemory;
-    TempUserData data;
+    const UserDataInMemory data;
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"1"));
     const std::string lockFile = data / "settings.ini.lock";
     HeldLock lock(lockFile, 0, 1);
@@ -58,8 +56,7 @@ TEST(AHeldLock, DelaysAWriteNoLongerThanItIsHeld)
 
 TEST(AHeldLock, DelaysNoReadAndNoWriteThatChangesNothing)
 {
-    const InMemory inMemory;
-    TempUserData data;
+    const UserDataInMemory data;
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"1"));
     const HeldLock lock(data / "settings.ini.lock");
     const auto start = Clock::now();
@@ -71,8 +68,7 @@ TEST(AHeldLock, DelaysNoReadAndNoWriteThatChangesNothing)
 
 TEST(AHeldLock, GoesToWhoHasWaitedLongest)
 {
-    const InMemory inMemory;
-    TempUserData data;
+    const UserDataInMemory data;
     const std::string lockFile = data / "settings.ini.lock";
     HeldLock lock(lockFile, 0, 1);
     const pid_t first = StartChild([] { EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"first", L"1")); });
@@ -89,8 +85,7 @@ TEST(AHeldLock, GoesToWhoHasWaitedLongest)
 // the lock.
 TEST(AChildForkedWhileTheLockIsHeld, DoesNotKeepIt)
 {
-    const InMemory inMemory;
-    TempUserData data;
+    const UserDataInMemory data;
     std::atomic<bool> isDone = false;
     std::atomic<int> writes = 0;
     Clock::duration longest{0};

@@ -7,7 +7,6 @@
 #include <chrono>
 #include <csignal>
 #include <cstddef>
-#include <cstdlib>
 #include <filesystem>
 #include <functional>
 #include <random>
@@ -26,7 +25,7 @@
 
 #include <fittings/platform/std_file_paths.h>
 #include <tests/platform/store/store_support.h>
-#include <tests/support/file_stamp.h>
+#include <tests/support/file_status.h>
 #include <tests/support/patience.h>
 #include <tests/support/process/forked_work.h>
 #include <tests/support/temp_folder.h>
@@ -42,26 +41,19 @@ std::wstring Name(const wchar_t* prefix, int number)
 
 TEST(SixProcesses, KeepAllOfTheirTwoHundredAndFortyUpdates)
 {
-    const InMemory inMemory;
-    TempUserData data;
-    std::vector<pid_t> children;
-    for (int process = 0; process < 6; ++process) {
-        children.push_back(StartChild([process] {
-            for (int update = 0; update < 40; ++update) {
-                EXPECT_TRUE(CLocalRegStore::WriteString(Name(L"Process", process % 3).c_str(),
-                                                        Name(L"k", process * 100 + update).c_str(),
-                                                        std::to_wstring(update).c_str()));
-            }
-        }));
-    }
-    for (const pid_t child : children)
-        EXPECT_TRUE(WaitForSuccess(child));
+    const UserDataInMemory data;
+    InChildren(6, [](int process) {
+        for (int update = 0; update < 40; ++update) {
+            EXPECT_TRUE(CLocalRegStore::WriteString(Name(L"Process", process % 3).c_str(),
+                                                    Name(L"k", process * 100 + update).c_str(),
+                                                    std::to_wstring(update).c_str()));
+        }
+    });
     int kept = 0;
     for (int process = 0; process < 6; ++process) {
         for (int update = 0; update < 40; ++update) {
-            if (Stored(Name(L"Process", process % 3).c_str(), Name(L"k", process * 100 + update).c_str()) ==
-                std::to_wstring(update))
-                ++kept;
+            kept += Stored(Name(L"Process", process % 3).c_str(), Name(L"k", process * 100 + update).c_str()) ==
+                    std::to_wstring(update);
         }
     }
     EXPECT_EQ(kept, 240);
@@ -86,22 +78,17 @@ TEST(TwoContainersThatSaveOneFile, LeaveOneOfTheTwoStatesEachTime)
     const TempFolder folder;
     const std::string path = folder / "a.ini";
     const std::wstring texts[] = {std::wstring(3000, L'x'), std::wstring(2000, L'y')};
-    std::vector<pid_t> writers;
-    for (const std::wstring& text : texts) {
-        writers.push_back(StartChild([&] {
-            InOwnContainer([&] {
-                for (int i = 0; i < 300; ++i) {
-                    Ini ini;
-                    ini.Set(L"s", L"k", (text + std::to_wstring(i)).c_str());
-                    EXPECT_TRUE(ini.Save(path));
-                    const std::wstring found = Ini(path).Get(L"s", L"k");
-                    EXPECT_TRUE(found.substr(0, 3000) == texts[0] || found.substr(0, 2000) == texts[1]);
-                }
-            });
-        }));
-    }
-    for (const pid_t writer : writers)
-        EXPECT_TRUE(WaitForSuccess(writer));
+    InChildren(2, [&](int writer) {
+        InOwnContainer([&] {
+            for (int i = 0; i < 300; ++i) {
+                Ini ini;
+                ini.Set(L"s", L"k", (texts[writer] + std::to_wstring(i)).c_str());
+                EXPECT_TRUE(ini.Save(path));
+                const std::wstring found = Ini(path).Get(L"s", L"k");
+                EXPECT_TRUE(found.substr(0, 3000) == texts[0] || found.substr(0, 2000) == texts[1]);
+            }
+        });
+    });
     EXPECT_EQ(NamesIn(folder.Path()), (std::vector<std::string>{"a.ini"}));
 }
 
@@ -228,8 +215,7 @@ protected:
         EXPECT_EQ(NamesIn(m_data.Path()), expected);
     }
 
-    const InMemory m_inMemory;
-    TempUserData m_data;
+    const UserDataInMemory m_data;
     SharedProgress m_progress;
     std::minstd_rand m_random{4711};
     std::chrono::microseconds m_saving{0};
@@ -316,12 +302,11 @@ TEST(AChangeInPlace, IsSeenWhenItsTimeIsPutBack)
     TempUserData data;
     const std::string path = data / "settings.ini";
     WriteFile(path, "[s]\nk=1\n");
-    struct stat info;
-    ASSERT_EQ(stat(path.c_str(), &info), 0);
+    const struct stat before = StatusOf(path);
     WaitPastStamp(path);
     EXPECT_EQ(Stored(L"s", L"k"), L"1");
     WriteFile(path, "[s]\nk=2\n");
-    const timespec times[] = {info.st_atim, info.st_mtim};
+    const timespec times[] = {before.st_atim, before.st_mtim};
     ASSERT_EQ(utimensat(AT_FDCWD, path.c_str(), times, 0), 0);
     EXPECT_EQ(Stored(L"s", L"k"), L"2");
 }

@@ -11,7 +11,6 @@
 
 #include <gtest/gtest.h>
 
-#include <tests/platform/store/store_support.h>
 #include <tests/support/temp_folder.h>
 
 namespace {

@@ -6,11 +6,10 @@
 #include <string>
 #include <vector>
 
-#include <sys/stat.h>
-
 #include <gtest/gtest.h>
 
 #include <tests/platform/store/store_support.h>
+#include <tests/support/file_status.h>
 #include <tests/support/process/processor_time.h>
 #include <tests/support/temp_folder.h>
 
@@ -269,9 +268,7 @@ const DirtyFile kFiles[] = {
     {"EmptyKeyAndSectionOnFile", "[%]\n%=v\n", {{L"", L"", L"v"}}, {L"", L"", L"w"}, "[%]\n%=w\n"},
 };
 
-class ADirtyFile : public testing::TestWithParam<DirtyFile>
-{
-};
+using ADirtyFile = testing::TestWithParam<DirtyFile>;
 
 TEST_P(ADirtyFile, IsReadAsFarAsItCanBe)
 {
@@ -287,11 +284,9 @@ TEST_P(ADirtyFile, StaysAsItIsWhenNothingChanges)
 {
     TempFolder folder;
     WriteFile(folder / "a.ini", GetParam().before);
-    struct stat before;
-    ASSERT_EQ(stat((folder / "a.ini").c_str(), &before), 0);
+    const struct stat before = StatusOf(folder / "a.ini");
     EXPECT_TRUE(Ini(folder / "a.ini").Save(folder / "a.ini"));
-    struct stat after;
-    ASSERT_EQ(stat((folder / "a.ini").c_str(), &after), 0);
+    const struct stat after = StatusOf(folder / "a.ini");
     EXPECT_EQ(after.st_ino, before.st_ino);
     EXPECT_EQ(after.st_ctim.tv_nsec, before.st_ctim.tv_nsec);
     EXPECT_TRUE(Ini(folder / "a.ini").Save(folder / "copy.ini"));
@@ -335,13 +330,10 @@ struct Deletion
     const char* after;
 };
 
-class DeletingAKey : public testing::TestWithParam<Deletion>
-{
-};
+using DeletingAKey = UserDataTestWithParam<Deletion>;
 
 TEST_P(DeletingAKey, RemovesAllItsLinesAndNothingElse)
 {
-    TempUserData data;
     WriteFile(data / "settings.ini", GetParam().before);
     EXPECT_TRUE(CLocalRegStore::DeleteProfile(L"s", L"k%"));
     EXPECT_EQ(ReadFile(data / "settings.ini"), GetParam().after);
@@ -430,8 +422,7 @@ TEST(AFileThatHoldsNoText, IsSetAsideWhenANewOneIsSaved)
 {
     TempFolder folder;
     const std::string files[] = {std::string(4096, '\0'), "\xFF\xFE[\0s\0]\0\n\0"s, "\xFE\xFF\x4E\x2D\x65\x87",
-                                 "\x7F"
-                                 "ELF\0\0[s"s};
+                                 "\177ELF\0\0[s"s};
     for (const std::string& bytes : files) {
         WriteFile(folder / "a.ini", bytes);
         Ini ini;

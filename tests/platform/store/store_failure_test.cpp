@@ -17,6 +17,7 @@
 
 #include <fittings/platform/std_file_paths.h>
 #include <tests/platform/store/store_support.h>
+#include <tests/support/file_status.h>
 #include <tests/support/process/as_nobody.h>
 #include <tests/support/process/forked_work.h>
 #include <tests/support/process/own_mounts.h>
@@ -25,18 +26,6 @@
 namespace {
 
 namespace fs = std::filesystem;
-
-struct stat Info(const std::string& path)
-{
-    struct stat info = {};
-    EXPECT_EQ(lstat(path.c_str(), &info), 0) << path;
-    return info;
-}
-
-unsigned Mode(const std::string& path)
-{
-    return Info(path).st_mode & 07777;
-}
 
 bool SaveKey(const std::string& path, const wchar_t* value)
 {
@@ -249,7 +238,7 @@ TEST(APipeInTheFilesPlace, IsNeitherWaitedForNorReplaced)
     EXPECT_EQ(Stored(L"s", L"k"), L"(none)");
     EXPECT_FALSE(CLocalRegStore::WriteString(L"s", L"k", L"v"));
     EXPECT_FALSE(Ini().Save(data / "settings.ini"));
-    EXPECT_TRUE(S_ISFIFO(Info(data / "settings.ini").st_mode));
+    EXPECT_TRUE(S_ISFIFO(StatusOf(data / "settings.ini").st_mode));
 }
 
 TEST(AFileThatIsFarTooBig, IsLeftAlone)
@@ -289,15 +278,15 @@ TEST(ANewFile, IsTheUsersAlone)
     TempFolder folder;
     const mode_t mask = umask(0);
     EXPECT_TRUE(SaveKey(folder / "one/two/a.ini", L"v"));
-    EXPECT_EQ(Mode(folder / "one/two/a.ini"), 0600U);
-    EXPECT_EQ(Mode(folder / "one/two"), 0700U);
-    EXPECT_EQ(Mode(folder / "one"), 0700U);
+    EXPECT_EQ(ModeOf(folder / "one/two/a.ini"), 0600U);
+    EXPECT_EQ(ModeOf(folder / "one/two"), 0700U);
+    EXPECT_EQ(ModeOf(folder / "one"), 0700U);
     TempUserData data;
     std_file_paths::SetUserDataDir(file_util_ex::ConvertFromUTF8W(data / "new"));
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"v"));
-    EXPECT_EQ(Mode(data / "new"), 0700U);
-    EXPECT_EQ(Mode(data / "new/settings.ini"), 0600U);
-    EXPECT_EQ(Mode(data / "new/settings.ini.lock"), 0600U);
+    EXPECT_EQ(ModeOf(data / "new"), 0700U);
+    EXPECT_EQ(ModeOf(data / "new/settings.ini"), 0600U);
+    EXPECT_EQ(ModeOf(data / "new/settings.ini.lock"), 0600U);
     umask(mask);
 }
 
@@ -309,9 +298,9 @@ TEST(AFilesMode, IsKept)
         WriteFile(data / "settings.ini", kOld);
         chmod((data / "settings.ini").c_str(), mode);
         EXPECT_TRUE(SaveKey(data / "settings.ini", L"newer"));
-        EXPECT_EQ(Mode(data / "settings.ini"), mode);
+        EXPECT_EQ(ModeOf(data / "settings.ini"), mode);
         EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
-        EXPECT_EQ(Mode(data / "settings.ini"), mode);
+        EXPECT_EQ(ModeOf(data / "settings.ini"), mode);
         EXPECT_EQ(ReadFile(data / "settings.ini"), kNew);
         fs::remove(data / "settings.ini");
     }
@@ -326,8 +315,8 @@ TEST(AFilesOwner, IsKeptWhereTheProcessMay)
     WriteFile(folder / "a.ini", kOld);
     ASSERT_EQ(chown((folder / "a.ini").c_str(), 65534, 65534), 0);
     EXPECT_TRUE(SaveKey(folder / "a.ini", L"new"));
-    EXPECT_EQ(Info(folder / "a.ini").st_uid, 65534U);
-    EXPECT_EQ(Info(folder / "a.ini").st_gid, 65534U);
+    EXPECT_EQ(StatusOf(folder / "a.ini").st_uid, 65534U);
+    EXPECT_EQ(StatusOf(folder / "a.ini").st_gid, 65534U);
 }
 
 TEST(ALinkedFile, KeepsItsLink)
@@ -343,7 +332,7 @@ TEST(ALinkedFile, KeepsItsLink)
     EXPECT_EQ(fs::read_symlink(data / "settings.ini"), "real/middle.ini");
     EXPECT_EQ(fs::read_symlink(data / "real/middle.ini"), "deep/file.ini");
     EXPECT_EQ(ReadFile(data / "real/deep/file.ini"), kNew);
-    EXPECT_EQ(Mode(data / "real/deep/file.ini"), 0640U);
+    EXPECT_EQ(ModeOf(data / "real/deep/file.ini"), 0640U);
     EXPECT_EQ(NamesIn(data / "real/deep"), (std::vector<std::string>{"file.ini"}));
     EXPECT_EQ(NamesIn(data / "real"), (std::vector<std::string>{"deep", "middle.ini"}));
 }
@@ -387,21 +376,22 @@ TEST(AWriteThatChangesNothing, LeavesTheFileUntouched)
 {
     TempUserData data;
     WriteFile(data / "settings.ini", kOld);
-    const struct stat before = Info(data / "settings.ini");
+    const struct stat before = StatusOf(data / "settings.ini");
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"old"));
     EXPECT_TRUE(CLocalRegStore::WriteString("s", "k", "old"));
     EXPECT_TRUE(CLocalRegStore::DeleteProfile(L"s", L"absent"));
     EXPECT_TRUE(CLocalRegStore::DeleteProfile(L"absent", L"k"));
     EXPECT_TRUE(SaveKey(data / "settings.ini", L"old"));
-    const struct stat after = Info(data / "settings.ini");
+    const struct stat after = StatusOf(data / "settings.ini");
     EXPECT_EQ(after.st_ino, before.st_ino);
     EXPECT_EQ(after.st_ctim.tv_sec, before.st_ctim.tv_sec);
     EXPECT_EQ(after.st_ctim.tv_nsec, before.st_ctim.tv_nsec);
 }
 
-TEST(TheDefaultStore, MakesNothingUntilSomethingIsStored)
+using TheDefaultStore = UserDataTest;
+
+TEST_F(TheDefaultStore, MakesNothingUntilSomethingIsStored)
 {
-    TempUserData data;
     std_file_paths::SetUserDataDir(file_util_ex::ConvertFromUTF8W(data / "new"));
     EXPECT_EQ(Stored(L"s", L"k"), L"(none)");
     EXPECT_EQ(CLocalRegStore::GetString("s", "k", "default"), "default");

@@ -25,6 +25,7 @@ constexpr int kErrors[] = {ENOSPC, EIO, EACCES, EROFS, ENOMEM, EMFILE, EINTR};
 /// the failed calls.
 void ForEveryFault(const std::function<void(const Fault&)>& attempt)
 {
+    const InMemory fast;
     int faults = 0;
     std::set<std::string> calls;
     for (const int error : kErrors)
@@ -73,7 +74,6 @@ void ExpectNoStrangers(const TempFolder& folder, const std::string& file)
 
 TEST(AnyFailingCall, LeavesTheOldOrTheNewValueInTheDefaultStore)
 {
-    const InMemory fast;
     ForEveryFault([](const Fault& fault) {
         const TempUserData data;
         WriteFile(data / "settings.ini", kOthers + "k=old\n");
@@ -88,7 +88,6 @@ TEST(AnyFailingCall, LeavesTheOldOrTheNewValueInTheDefaultStore)
 
 TEST(AnyFailingCall, LeavesTheDeletedKeyOrNot)
 {
-    const InMemory fast;
     ForEveryFault([](const Fault& fault) {
         const TempUserData data;
         WriteFile(data / "settings.ini", kOthers + "k=old\n");
@@ -101,7 +100,6 @@ TEST(AnyFailingCall, LeavesTheDeletedKeyOrNot)
 
 TEST(AnyFailingCall, LeavesTheFirstValueOrNone)
 {
-    const InMemory fast;
     ForEveryFault([](const Fault& fault) {
         const TempUserData data;
         const std::string file = data / "settings.ini";
@@ -116,7 +114,6 @@ TEST(AnyFailingCall, LeavesTheFirstValueOrNone)
 
 TEST(AnyFailingCall, LetsAReadGiveTheValueOrTheDefault)
 {
-    const InMemory fast;
     ForEveryFault([](const Fault& fault) {
         const TempUserData data;
         WriteFile(data / "settings.ini", kOthers + "k=old\n");
@@ -132,7 +129,6 @@ TEST(AnyFailingCall, LetsAReadGiveTheValueOrTheDefault)
 
 TEST(AnyFailingCall, LeavesTheOldOrTheNewValueInANamedFile)
 {
-    const InMemory fast;
     ForEveryFault([](const Fault& fault) {
         const TempUserData data;
         ui_config_mgr::WriteConfigString(L"a.ini", L"s", L"k", L"old");
@@ -151,7 +147,6 @@ TEST(AnyFailingCall, LeavesTheOldOrTheNewValueInANamedFile)
 
 TEST(AnyFailingCall, LetsAFileBeSavedOrSaysThatItWasNot)
 {
-    const InMemory fast;
     ForEveryFault([](const Fault& fault) {
         const TempFolder folder;
         const std::string file = folder / "a.ini";
@@ -169,7 +164,6 @@ TEST(AnyFailingCall, LetsAFileBeSavedOrSaysThatItWasNot)
 // If the write fails, the earlier bytes stay in the file. If it succeeds, they are in settings.ini.unreadable.
 TEST(AnyFailingCall, KeepsAFileThatHoldsNoText)
 {
-    const InMemory fast;
     const std::string garbage(100, '\0');
     ForEveryFault([&](const Fault& fault) {
         const TempUserData data;

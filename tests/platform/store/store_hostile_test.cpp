@@ -6,11 +6,10 @@
 #include <set>
 #include <string>
 
-#include <sys/stat.h>
-
 #include <gtest/gtest.h>
 
 #include <tests/platform/store/store_support.h>
+#include <tests/support/file_status.h>
 #include <tests/support/temp_folder.h>
 
 namespace {
@@ -106,22 +105,14 @@ const Triple kTriples[] = {
      "[s]\na key of some length that is longer than any short buffer would be, by far=v\n"},
 };
 
-// Returns the number of the file's inode. It changes with every save, because the new file is made while the old one
-// still exists.
-ino_t NodeOf(const std::string& path)
+class AHostileTriple : public UserDataTestWithParam<Triple>
 {
-    struct stat info = {};
-    EXPECT_EQ(stat(path.c_str(), &info), 0);
-    return info.st_ino;
-}
-
-class AHostileTriple : public testing::TestWithParam<Triple>
-{
+protected:
+    const Triple& triple = GetParam();
 };
 
 TEST_P(AHostileTriple, ComesBackFromAFile)
 {
-    const Triple& triple = GetParam();
     TempFolder folder;
     Ini ini;
     ini.Set(triple.section, triple.key, triple.value);
@@ -135,8 +126,6 @@ TEST_P(AHostileTriple, ComesBackFromAFile)
 
 TEST_P(AHostileTriple, ComesBackFromTheDefaultStore)
 {
-    const Triple& triple = GetParam();
-    TempUserData data;
     ASSERT_TRUE(CLocalRegStore::WriteString(triple.section, triple.key, triple.value));
     EXPECT_EQ(Stored(triple.section, triple.key), triple.value);
     EXPECT_EQ(ReadFile(data / "settings.ini"), triple.file);
@@ -144,21 +133,18 @@ TEST_P(AHostileTriple, ComesBackFromTheDefaultStore)
     EXPECT_EQ(Stored(triple.section, triple.key), L"(none)");
 }
 
+// The inode number of the file changes with every save, because the new file is made while the old one still exists.
 TEST_P(AHostileTriple, IsNotWrittenAgainUnchanged)
 {
-    const Triple& triple = GetParam();
-    TempUserData data;
     ASSERT_TRUE(CLocalRegStore::WriteString(triple.section, triple.key, triple.value));
-    const ino_t file = NodeOf(data / "settings.ini");
+    const ino_t file = StatusOf(data / "settings.ini").st_ino;
     ASSERT_TRUE(CLocalRegStore::WriteString(triple.section, triple.key, triple.value));
-    EXPECT_EQ(NodeOf(data / "settings.ini"), file);
+    EXPECT_EQ(StatusOf(data / "settings.ini").st_ino, file);
 }
 
 TEST_P(AHostileTriple, TakesThePlaceOfALongerAndAShorterOne)
 {
-    const Triple& triple = GetParam();
     const std::wstring value = triple.value;
-    TempUserData data;
     for (const std::wstring& other : {value + L"x", value.substr(0, value.size() - !value.empty())}) {
         ASSERT_TRUE(CLocalRegStore::WriteString(triple.section, triple.key, other.c_str()));
         EXPECT_EQ(Stored(triple.section, triple.key), other);
@@ -227,14 +213,11 @@ struct NarrowCase
     const wchar_t* wide;
 };
 
-class NarrowText : public testing::TestWithParam<NarrowCase>
-{
-};
+using NarrowText = UserDataTestWithParam<NarrowCase>;
 
 TEST_P(NarrowText, ComesBackByteForByteAsSectionKeyAndValue)
 {
     const char* const text = GetParam().text;
-    TempUserData data;
     ASSERT_TRUE(CLocalRegStore::WriteString(text, text, text));
     EXPECT_EQ(CLocalRegStore::GetString(text, text, "default"), text);
     EXPECT_EQ(Stored(GetParam().wide, GetParam().wide), GetParam().wide);

@@ -43,13 +43,12 @@ TEST(RefreshedIniFile, HoldsTheFileThatItWasRefreshedFromLast)
     const std::string two = folder / "two.ini";
     ASSERT_TRUE(CLocalRegStore::SaveChanges(one, {{L"s", L"number", L"1"}}));
     ASSERT_TRUE(CLocalRegStore::SaveChanges(two, {{L"s", L"number", L"2"}}));
-    CIniFile* const ini = CLocalRegStore::CreateInitFile(false);
+    const fittings::OwnedIniFile ini{CLocalRegStore::CreateInitFile(false)};
     for (const auto& [path, number] :
          {std::pair(one, L"1"), std::pair(two, L"2"), std::pair(two, L"2"), std::pair(one, L"1")}) {
         CLocalRegStore::Refresh(*ini, path);
         EXPECT_EQ(CLocalRegStore::GetString(*ini, L"s", L"number", L""), number);
     }
-    CLocalRegStore::DestroyIniFile(ini);
 }
 
 TEST(NewIniFile, IsAnotherOneEachTime)
@@ -65,20 +64,28 @@ TEST(DestroyingAnIniFile, TakesNull)
     CLocalRegStore::DestroyIniFile(nullptr);
 }
 
-TEST(LoadingAFile, ReadsItsValues)
+class AnIniFile : public testing::Test
 {
-    TempFolder folder;
-    WriteFile(folder / "a.ini", "[One]\nkey=first\n[Two]\nkey=second\n");
+protected:
+    const TempFolder folder;
     Ini ini;
+};
+
+using LoadingAFile = AnIniFile;
+using GettingAValue = AnIniFile;
+using SettingAValue = AnIniFile;
+using SavingAFile = AnIniFile;
+
+TEST_F(LoadingAFile, ReadsItsValues)
+{
+    WriteFile(folder / "a.ini", "[One]\nkey=first\n[Two]\nkey=second\n");
     EXPECT_TRUE(ini.Load(folder / "a.ini"));
     EXPECT_EQ(ini.Get(L"One", L"key"), L"first");
     EXPECT_EQ(ini.Get(L"Two", L"key"), L"second");
 }
 
-TEST(LoadingAFile, ThatIsMissingFailsAndLeavesTheObjectEmptyAndUsable)
+TEST_F(LoadingAFile, ThatIsMissingFailsAndLeavesTheObjectEmptyAndUsable)
 {
-    TempFolder folder;
-    Ini ini;
     ini.Set(L"s", L"old", L"1");
     EXPECT_FALSE(ini.Load(folder / "a.ini"));
     EXPECT_EQ(ini.Get(L"s", L"old"), L"(none)");
@@ -88,22 +95,19 @@ TEST(LoadingAFile, ThatIsMissingFailsAndLeavesTheObjectEmptyAndUsable)
     EXPECT_EQ(ReadFile(folder / "a.ini"), "[s]\nk=v\n");
 }
 
-TEST(LoadingAFile, InAMissingFolderIsAMissingFile)
+TEST_F(LoadingAFile, InAMissingFolderIsAMissingFile)
 {
-    TempFolder folder;
-    Ini ini;
     EXPECT_FALSE(ini.Load(folder / "no/such/a.ini"));
     ini.Set(L"s", L"k", L"v");
     EXPECT_TRUE(ini.Save(folder / "no/such/a.ini"));
     EXPECT_EQ(ReadFile(folder / "no/such/a.ini"), "[s]\nk=v\n");
 }
 
-TEST(LoadingAFile, TakesThePlaceOfWhatTheObjectHeld)
+TEST_F(LoadingAFile, TakesThePlaceOfWhatTheObjectHeld)
 {
-    TempFolder folder;
     WriteFile(folder / "a.ini", "[s]\na=1\n");
     WriteFile(folder / "b.ini", "[s]\nb=2\n");
-    Ini ini(folder / "a.ini");
+    EXPECT_TRUE(ini.Load(folder / "a.ini"));
     ini.Set(L"s", L"c", L"3");
     EXPECT_TRUE(ini.Load(folder / "b.ini"));
     EXPECT_EQ(ini.Get(L"s", L"a"), L"(none)");
@@ -113,33 +117,29 @@ TEST(LoadingAFile, TakesThePlaceOfWhatTheObjectHeld)
     EXPECT_EQ(ReadFile(folder / "a.ini"), "[s]\nb=2\n");
 }
 
-TEST(LoadingAFile, WithANullPathFails)
+TEST_F(LoadingAFile, WithANullPathFails)
 {
-    CIniFile* raw = CLocalRegStore::CreateInitFile(false);
-    EXPECT_FALSE(CLocalRegStore::Load(*raw, nullptr));
-    EXPECT_FALSE(CLocalRegStore::Save(*raw, nullptr));
-    CLocalRegStore::DestroyIniFile(raw);
+    const fittings::OwnedIniFile file{CLocalRegStore::CreateInitFile(false)};
+    EXPECT_FALSE(CLocalRegStore::Load(*file, nullptr));
+    EXPECT_FALSE(CLocalRegStore::Save(*file, nullptr));
 }
 
-TEST(GettingAValue, GivesTheDefaultWhenSectionOrKeyIsAbsent)
+TEST_F(GettingAValue, GivesTheDefaultWhenSectionOrKeyIsAbsent)
 {
-    Ini ini;
     ini.Set(L"s", L"k", L"v");
     EXPECT_EQ(ini.Get(L"s", L"k", L"default"), L"v");
     EXPECT_EQ(ini.Get(L"s", L"other", L"default"), L"default");
     EXPECT_EQ(ini.Get(L"other", L"k", L"default"), L"default");
 }
 
-TEST(GettingAValue, TellsAnEmptyValueFromAnAbsentOne)
+TEST_F(GettingAValue, TellsAnEmptyValueFromAnAbsentOne)
 {
-    Ini ini;
     ini.Set(L"s", L"k", L"");
     EXPECT_EQ(ini.Get(L"s", L"k", L"default"), L"");
 }
 
-TEST(GettingAValue, TellsUpperFromLowerCase)
+TEST_F(GettingAValue, TellsUpperFromLowerCase)
 {
-    Ini ini;
     ini.Set(L"s", L"k", L"small");
     ini.Set(L"S", L"k", L"section");
     ini.Set(L"s", L"K", L"key");
@@ -172,10 +172,8 @@ TEST(NullTexts, CountAsEmpty)
     EXPECT_TRUE(CLocalRegStore::GetProfileBool(nullptr, nullptr, false));
 }
 
-TEST(SettingAValue, CreatesSectionAndKeyAndReplacesTheEarlierValue)
+TEST_F(SettingAValue, CreatesSectionAndKeyAndReplacesTheEarlierValue)
 {
-    TempFolder folder;
-    Ini ini;
     ini.Set(L"One", L"a", L"1");
     ini.Set(L"One", L"b", L"2");
     ini.Set(L"Two", L"a", L"3");
@@ -185,37 +183,31 @@ TEST(SettingAValue, CreatesSectionAndKeyAndReplacesTheEarlierValue)
     EXPECT_EQ(ReadFile(folder / "a.ini"), "[One]\na=4\nb=2\n\n[Two]\na=3\n");
 }
 
-TEST(SettingAValue, LastsOnlyOnceSaved)
+TEST_F(SettingAValue, LastsOnlyOnceSaved)
 {
-    TempFolder folder;
     WriteFile(folder / "a.ini", "[s]\nk=old\n");
-    Ini ini(folder / "a.ini");
+    EXPECT_TRUE(ini.Load(folder / "a.ini"));
     ini.Set(L"s", L"k", L"new");
     EXPECT_EQ(ReadFile(folder / "a.ini"), "[s]\nk=old\n");
 }
 
-TEST(SavingAFile, WritesAnEmptyFileFromAnEmptyObject)
+TEST_F(SavingAFile, WritesAnEmptyFileFromAnEmptyObject)
 {
-    TempFolder folder;
-    EXPECT_TRUE(Ini().Save(folder / "a.ini"));
+    EXPECT_TRUE(ini.Save(folder / "a.ini"));
     EXPECT_TRUE(std::filesystem::is_regular_file(folder / "a.ini"));
     EXPECT_EQ(ReadFile(folder / "a.ini"), "");
 }
 
-TEST(SavingAFile, ReplacesTheWholeOfAnother)
+TEST_F(SavingAFile, ReplacesTheWholeOfAnother)
 {
-    TempFolder folder;
     WriteFile(folder / "b.ini", "[old]\nx=1\n");
-    Ini ini;
     ini.Set(L"s", L"k", L"v");
     EXPECT_TRUE(ini.Save(folder / "b.ini"));
     EXPECT_EQ(ReadFile(folder / "b.ini"), "[s]\nk=v\n");
 }
 
-TEST(SavingAFile, CanBeRepeatedAfterFurtherChanges)
+TEST_F(SavingAFile, CanBeRepeatedAfterFurtherChanges)
 {
-    TempFolder folder;
-    Ini ini;
     ini.Set(L"s", L"k", L"1");
     EXPECT_TRUE(ini.Save(folder / "a.ini"));
     ini.Set(L"s", L"k", L"2");
@@ -224,48 +216,40 @@ TEST(SavingAFile, CanBeRepeatedAfterFurtherChanges)
     EXPECT_EQ(ReadFile(folder / "a.ini"), "[s]\nk=2\nl=3\n");
 }
 
-TEST(TheDefaultStore, GivesTheDefaultUntilAValueIsStored)
+using TheDefaultStore = UserDataTest;
+
+TEST_F(TheDefaultStore, GivesTheDefaultUntilAValueIsStored)
 {
-    TempUserData data;
     EXPECT_EQ(CLocalRegStore::GetString(L"s", L"k", L"default"), L"default");
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"v"));
     EXPECT_EQ(CLocalRegStore::GetString(L"s", L"k", L"default"), L"v");
     EXPECT_EQ(CLocalRegStore::GetString(L"s", L"other", L"default"), L"default");
 }
 
-TEST(TheDefaultStore, PersistsAtOnceInOneFileOfTheUserDataDirectory)
+TEST_F(TheDefaultStore, PersistsAtOnceInOneFileOfTheUserDataDirectory)
 {
-    TempUserData data;
     EXPECT_TRUE(CLocalRegStore::WriteString(L"LastFiles", L"Report", L"/tmp/a b.txt"));
     EXPECT_EQ(ReadFile(data / "settings.ini"), "[LastFiles]\nReport=/tmp/a b.txt\n");
 }
 
-TEST(TheDefaultStore, StoresAnEmptyValue)
+TEST_F(TheDefaultStore, StoresAnEmptyValue)
 {
-    TempUserData data;
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L""));
     EXPECT_EQ(CLocalRegStore::GetString(L"s", L"k", L"default"), L"");
     EXPECT_EQ(ReadFile(data / "settings.ini"), "[s]\nk=\n");
 }
 
-TEST(TheDefaultStore, HasTheSameValuesForNarrowAndWideText)
+TEST_F(TheDefaultStore, HasTheSameValuesForNarrowAndWideText)
 {
-    TempUserData data;
     EXPECT_EQ(CLocalRegStore::GetString("s", "k", "default"), "default");
-    EXPECT_TRUE(CLocalRegStore::WriteString("Gr\xC3\xB6\xC3\x9F"
-                                            "e",
-                                            "\xE2\x82\xAC", "\xF0\x9F\x98\x80"));
+    EXPECT_TRUE(CLocalRegStore::WriteString("Gr\xC3\xB6\xC3\x9F\x65", "\xE2\x82\xAC", "\xF0\x9F\x98\x80"));
     EXPECT_EQ(Stored(L"Größe", L"€"), L"\U0001F600");
     EXPECT_TRUE(CLocalRegStore::WriteString(L"Größe", L"€", L"neu"));
-    EXPECT_EQ(CLocalRegStore::GetString("Gr\xC3\xB6\xC3\x9F"
-                                        "e",
-                                        "\xE2\x82\xAC", "default"),
-              "neu");
+    EXPECT_EQ(CLocalRegStore::GetString("Gr\xC3\xB6\xC3\x9F\x65", "\xE2\x82\xAC", "default"), "neu");
 }
 
-TEST(TheDefaultStore, DeletesOneKeyOnly)
+TEST_F(TheDefaultStore, DeletesOneKeyOnly)
 {
-    TempUserData data;
     WriteFile(data / "settings.ini", "[s]\na=1\nb=2\n[t]\na=3\n");
     EXPECT_TRUE(CLocalRegStore::DeleteProfile(L"s", L"a"));
     EXPECT_EQ(CLocalRegStore::GetString(L"s", L"a", L"default"), L"default");
@@ -274,9 +258,8 @@ TEST(TheDefaultStore, DeletesOneKeyOnly)
     EXPECT_EQ(ReadFile(data / "settings.ini"), "[s]\nb=2\na=again\n[t]\na=3\n");
 }
 
-TEST(TheDefaultStore, KeepsBooleans)
+TEST_F(TheDefaultStore, KeepsBooleans)
 {
-    TempUserData data;
     EXPECT_TRUE(CLocalRegStore::GetProfileBool(L"s", L"k", true));
     EXPECT_FALSE(CLocalRegStore::GetProfileBool(L"s", L"k", false));
     EXPECT_TRUE(CLocalRegStore::WriteProfileBool(L"s", L"k", true));
@@ -294,13 +277,10 @@ struct BoolCase
     int meaning;  // -1: not a boolean
 };
 
-class ABooleanTypedByHand : public testing::TestWithParam<BoolCase>
-{
-};
+using ABooleanTypedByHand = UserDataTestWithParam<BoolCase>;
 
 TEST_P(ABooleanTypedByHand, Means)
 {
-    TempUserData data;
     ASSERT_TRUE(CLocalRegStore::WriteString(L"s", L"k", GetParam().text));
     const int meaning = GetParam().meaning;
     EXPECT_EQ(CLocalRegStore::GetProfileBool(L"s", L"k", true), meaning != 0);

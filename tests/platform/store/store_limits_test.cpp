@@ -34,8 +34,7 @@ std::string ShortKeys(int count)
 
 TEST(AFileOfFiveMillionKeys, IsNotReadAndNotReplaced)
 {
-    const InMemory inMemory;
-    const TempUserData data;
+    const UserDataInMemory data;
     const std::string text = ShortKeys(5'000'000);
     ASSERT_GT(text.size(), 40 * kMiB);
     WriteFile(data / "settings.ini", text);
@@ -53,8 +52,7 @@ TEST(AFileOfFiveMillionKeys, IsNotReadAndNotReplaced)
 
 TEST(AFileOfMoreThan64MiB, IsNotReadAndNotReplaced)
 {
-    const InMemory inMemory;
-    const TempUserData data;
+    const UserDataInMemory data;
     const std::string text = "[s]\nk=" + std::string(64 * kMiB, 'x') + "\n";
     WriteFile(data / "settings.ini", text);
     EXPECT_EQ(Stored(L"s", L"k"), L"(none)");
@@ -65,8 +63,7 @@ TEST(AFileOfMoreThan64MiB, IsNotReadAndNotReplaced)
 // The store does not write a file that it could not read again.
 TEST(AValueOfMoreThan64MiB, IsNotStored)
 {
-    const InMemory inMemory;
-    const TempUserData data;
+    const UserDataInMemory data;
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"v"));
     const std::wstring value(64 * kMiB, L'x');
     EXPECT_FALSE(CLocalRegStore::WriteString(L"s", L"k", value.c_str()));
@@ -79,8 +76,7 @@ TEST(AValueOfMoreThan64MiB, IsNotStored)
 
 TEST(AMillionthLine, IsTheLast)
 {
-    const InMemory inMemory;
-    const TempUserData data;
+    const UserDataInMemory data;
     const std::string text = ShortKeys(999'999);
     WriteFile(data / "settings.ini", text);
     EXPECT_EQ(Stored(L"s", L"999998"), L"");

@@ -13,8 +13,7 @@
 
 #include <gtest/gtest.h>
 
-#include <tests/platform/store/store_support.h>
-#include <tests/support/file_stamp.h>
+#include <tests/support/file_status.h>
 #include <tests/support/temp_folder.h>
 
 namespace {

@@ -1,6 +1,7 @@
 #include <tests/support/process/forked_work.h>
 
 #include <cstdio>
+#include <vector>
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -29,4 +30,13 @@ bool WaitForSuccess(pid_t child)
 void InChild(const std::function<void()>& work)
 {
     EXPECT_TRUE(WaitForSuccess(StartChild(work))) << "in the child process";
+}
+
+void InChildren(int count, const std::function<void(int)>& work)
+{
+    std::vector<pid_t> children;
+    for (int number = 0; number < count; ++number)
+        children.push_back(StartChild([&] { work(number); }));
+    for (const pid_t child : children)
+        EXPECT_TRUE(WaitForSuccess(child)) << "in a child process";
 }

@@ -17,4 +17,8 @@ bool WaitForSuccess(pid_t child);
 /// @a work makes to the child process do not affect the calling process.
 void InChild(const std::function<void()>& work);
 
+/// Runs @a work in several child processes at the same time, with the number of the child process, from 0, as the
+/// argument. Waits for the end of them all, and fails the test if one of them fails.
+void InChildren(int count, const std::function<void(int)>& work);
+
 #endif

@@ -1,5 +1,5 @@
-#ifndef FITTINGS_TESTS_SUPPORT_FILE_STAMP_H_
-#define FITTINGS_TESTS_SUPPORT_FILE_STAMP_H_
+#ifndef FITTINGS_TESTS_SUPPORT_FILE_STATUS_H_
+#define FITTINGS_TESTS_SUPPORT_FILE_STATUS_H_
 
 #include <ctime>
 #include <string>
@@ -10,6 +10,19 @@
 #include <gtest/gtest.h>
 
 #include <tests/support/becomes.h>
+
+/// Returns what lstat() says of the file. Fails the test if there is no such file.
+inline struct stat StatusOf(const std::string& path)
+{
+    struct stat status = {};
+    EXPECT_EQ(lstat(path.c_str(), &status), 0) << path;
+    return status;
+}
+
+inline unsigned ModeOf(const std::string& path)
+{
+    return StatusOf(path).st_mode & 07777;
+}
 
 /// Waits until a change of the file would give the file a later change time (ctime).
 inline void WaitPastStamp(const std::string& path)
