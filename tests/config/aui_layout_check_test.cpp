@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 
 #include <gtest/gtest.h>
 #include <wx/aui/auibar.h>
@@ -63,15 +64,11 @@ TEST(AuiLayout, IsNotATextWithoutOneOfItsDelimiters)
 
 TEST(AuiLayout, IsNotATextWithMoreThanTheToolkitWrites)
 {
-    EXPECT_FALSE(IsLayout(kWhole + L" "));
-    EXPECT_FALSE(IsLayout(kWhole + L"|"));
-    EXPECT_FALSE(IsLayout(kWhole + kTree));
-    EXPECT_FALSE(IsLayout(L" " + kWhole));
-    EXPECT_FALSE(IsLayout(With(L"state=", L" state=")));
-    EXPECT_FALSE(IsLayout(With(L";floath=-1", L";floath=-1;")));
-    EXPECT_FALSE(IsLayout(With(L";floath=-1", L";floath=-1;floath=-1")));
-    EXPECT_FALSE(IsLayout(With(L"dir=4;layer=1", L"layer=1;dir=4")));
-    EXPECT_FALSE(IsLayout(With(L"caption=Folders", L"caption=Folders;caption=Folders")));
+    for (const std::wstring& layout :
+         {kWhole + L" ", kWhole + L"|", kWhole + kTree, L" " + kWhole, With(L"state=", L" state="),
+          With(L";floath=-1", L";floath=-1;"), With(L";floath=-1", L";floath=-1;floath=-1"),
+          With(L"dir=4;layer=1", L"layer=1;dir=4"), With(L"caption=Folders", L"caption=Folders;caption=Folders")})
+        EXPECT_FALSE(IsLayout(layout)) << wxString(layout);
 }
 
 TEST(AuiLayout, IsNotATextOfAnotherKind)
@@ -80,11 +77,7 @@ TEST(AuiLayout, IsNotATextOfAnotherKind)
         EXPECT_FALSE(IsLayout(text)) << wxString(text);
 }
 
-struct Replaced
-{
-    const wchar_t* part;
-    const wchar_t* replacement;
-};
+using Replaced = std::pair<const wchar_t*, const wchar_t*>;
 
 TEST(AuiLayout, IsNotATextWithADamagedName)
 {
@@ -218,33 +211,14 @@ TEST(AuiLayout, IsWhatAManagerWritesOfAnyArrangement)
 TEST(AuiLayout, IsWhatAManagerWritesOfAnyText)
 {
     PanesFrame frame;
-    for (const char* const text : {"",
-                                   " ",
-                                   "\\",
-                                   "\\\\",
-                                   "a\\",
-                                   ";",
-                                   "|",
-                                   "\\;",
-                                   "\\|",
-                                   ";;",
-                                   "||",
-                                   "a;b|c\\d",
-                                   ";caption=",
-                                   "x;caption=y",
-                                   "\\;caption=\\",
-                                   ";state=",
-                                   "a;state=1;dir=2",
-                                   "a\\;state=",
-                                   "|name=b;caption=c;state=",
-                                   "name=",
-                                   "dock_size(4,0,0)=1|",
-                                   "a\nb",
-                                   "\a\b",
-                                   "\"",
-                                   "=",
-                                   "\u3042\u3044",
-                                   "\U0001F600"}) {
+    for (const char* const text :
+         {// The characters that separate the parts of a layout, alone and escaped.
+          "", " ", "\\", "\\\\", "a\\", ";", "|", "\\;", "\\|", ";;", "||", "a;b|c\\d", "=", "\"", "a\nb", "\a\b",
+          // Parts of a layout.
+          ";caption=", "x;caption=y", "\\;caption=\\", ";state=", "a;state=1;dir=2",
+          "a\\;state=", "|name=b;caption=c;state=", "name=", "dock_size(4,0,0)=1|",
+          // Texts that are not ASCII.
+          "\u3042\u3044", "\U0001F600"}) {
         frame.Pane("tree").Caption(wxString::FromUTF8(text));
         ExpectAccepted(frame);
         const wxString name = frame.Pane("log").name;

@@ -23,9 +23,11 @@ void StoreLayout(const wxString& layout)
     ui_config_mgr::WriteConfigString(L"wxAuiManagerState.ini", L"wxAuiManagerState", L"Main", layout);
 }
 
-TEST(SaveAuiManagerState, StoresThePerspectiveInAFileOfItsOwn)
+using SaveAuiManagerState = UserDataTest;
+using LoadAuiManagerState = UserDataTest;
+
+TEST_F(SaveAuiManagerState, StoresThePerspectiveInAFileOfItsOwn)
 {
-    const TempUserData data;
     AuiFrame frame;
     wx_window_state::SaveAuiManagerState(&frame.manager, L"Main");
     EXPECT_EQ(wxString(StoredLayout(L"Main")), frame.manager.SavePerspective());
@@ -36,9 +38,8 @@ TEST(SaveAuiManagerState, StoresThePerspectiveInAFileOfItsOwn)
     EXPECT_EQ(CLocalRegStore::GetString(L"wxAuiManagerState", L"Main", L"none"), L"none");
 }
 
-TEST(SaveAuiManagerState, KeepsNamesApart)
+TEST_F(SaveAuiManagerState, KeepsNamesApart)
 {
-    const TempUserData data;
     AuiFrame frame;
     wx_window_state::SaveAuiManagerState(&frame.manager, L"one");
     frame.Pane("log").Hide();
@@ -53,9 +54,8 @@ TEST(SaveAuiManagerState, KeepsNamesApart)
     EXPECT_FALSE(frame.Pane("log").IsShown());
 }
 
-TEST(LoadAuiManagerState, LeavesAManagerAloneWhenNothingIsStored)
+TEST_F(LoadAuiManagerState, LeavesAManagerAloneWhenNothingIsStored)
 {
-    const TempUserData data;
     AuiFrame frame;
     // Until the manager is updated, the window of the log stays shown. A hidden window would mean that
     // LoadAuiManagerState() has updated the manager.
@@ -77,9 +77,8 @@ void Rearrange(AuiFrame& frame)
     frame.manager.Update();
 }
 
-TEST(LoadAuiManagerState, BringsALayoutBackIntoAnotherWindow)
+TEST_F(LoadAuiManagerState, BringsALayoutBackIntoAnotherWindow)
 {
-    const TempUserData data;
     wxString stored;
     {
         AuiFrame frame;
@@ -103,9 +102,8 @@ TEST(LoadAuiManagerState, BringsALayoutBackIntoAnotherWindow)
     EXPECT_EQ(frame.manager.SavePerspective().utf8_string(), stored.utf8_string());
 }
 
-TEST(LoadAuiManagerState, UpdatesTheWindowAtOnce)
+TEST_F(LoadAuiManagerState, UpdatesTheWindowAtOnce)
 {
-    const TempUserData data;
     {
         AuiFrame frame;
         Rearrange(frame);
@@ -122,9 +120,8 @@ TEST(LoadAuiManagerState, UpdatesTheWindowAtOnce)
     EXPECT_TRUE(PumpUntil([&] { return frame.Pane("props").window->IsShownOnScreen(); }));
 }
 
-TEST(LoadAuiManagerState, BringsTheWidthOfADraggedPaneBack)
+TEST_F(LoadAuiManagerState, BringsTheWidthOfADraggedPaneBack)
 {
-    const TempUserData data;
     {
         AuiFrame frame;
         ASSERT_TRUE(ShowAndSettle(&frame));
@@ -140,9 +137,8 @@ TEST(LoadAuiManagerState, BringsTheWidthOfADraggedPaneBack)
     EXPECT_EQ(frame.Pane("tree").rect.width, 275);
 }
 
-TEST(LoadAuiManagerState, HidesAPaneThatTheLayoutDoesNotName)
+TEST_F(LoadAuiManagerState, HidesAPaneThatTheLayoutDoesNotName)
 {
-    const TempUserData data;
     {
         AuiFrame frame;
         wx_window_state::SaveAuiManagerState(&frame.manager, L"Main");
@@ -154,9 +150,8 @@ TEST(LoadAuiManagerState, HidesAPaneThatTheLayoutDoesNotName)
     EXPECT_FALSE(frame.Pane("added").IsShown());
 }
 
-TEST(LoadAuiManagerState, TakesALayoutWithPanesThatAreGone)
+TEST_F(LoadAuiManagerState, TakesALayoutWithPanesThatAreGone)
 {
-    const TempUserData data;
     {
         AuiFrame frame;
         frame.manager.AddPane(new wxPanel(&frame), wxAuiPaneInfo().Name("gone").Top());
@@ -171,7 +166,7 @@ TEST(LoadAuiManagerState, TakesALayoutWithPanesThatAreGone)
 }
 
 /// LoadAuiManagerState() must refuse each text that the toolkit cannot have written.
-class DamagedLayout : public testing::Test
+class DamagedLayout : public UserDataTest
 {
 protected:
     void SetUp() override
@@ -200,7 +195,6 @@ protected:
         EXPECT_FALSE(frame.Pane("log").window->IsShown());
     }
 
-    const TempUserData data;
     AuiFrame frame;
     wxString whole;
     wxString before;

@@ -15,7 +15,7 @@ namespace {
 using Text = const wchar_t*;
 [[maybe_unused]] constexpr void (*kWriteText)(Text, Text, Text, Text) = ui_config_mgr::WriteConfigString;
 [[maybe_unused]] constexpr std::wstring (*kGetText)(Text, Text, Text) = ui_config_mgr::GetConfigString;
-[[maybe_unused]] constexpr void (*kDelete)(Text, Text, Text) = ui_config_mgr::DeleteConfig;
+[[maybe_unused]] constexpr void (*kDeleteKey)(Text, Text, Text) = ui_config_mgr::DeleteConfig;
 [[maybe_unused]] constexpr int (*kGetInteger)(Text, Text, Text) = ui_config_mgr::GetConfigInt;
 [[maybe_unused]] constexpr void (*kWriteInteger)(Text, Text, Text, int) = ui_config_mgr::WriteConfigInt;
 
@@ -140,27 +140,16 @@ TEST_P(ConfigCallThatThrows, DestroysTheFileObjectOnce)
     EXPECT_EQ(g_platform.calls.back(), L"destroy");
 }
 
-void Write()
-{
-    ui_config_mgr::WriteConfigString(L"f.ini", L"section", L"key", L"value");
-}
-
-void Get()
-{
-    ui_config_mgr::GetConfigString(L"f.ini", L"section", L"key");
-}
-
-void Delete()
-{
-    ui_config_mgr::DeleteConfig(L"f.ini", L"section", L"key");
-}
+const auto kWrite = [] { ui_config_mgr::WriteConfigString(L"f.ini", L"section", L"key", L"value"); };
+const auto kGet = [] { ui_config_mgr::GetConfigString(L"f.ini", L"section", L"key"); };
+const auto kDelete = [] { ui_config_mgr::DeleteConfig(L"f.ini", L"section", L"key"); };
 
 INSTANTIATE_TEST_SUITE_P(, ConfigCallThatThrows,
-                         testing::Values(Failure{L"load", Write, "LoadInWrite"}, Failure{L"write", Write, "Write"},
-                                         Failure{L"save", Write, "SaveInWrite"}, Failure{L"load", Get, "LoadInGet"},
-                                         Failure{L"get", Get, "Get"}, Failure{L"load", Delete, "LoadInDelete"},
-                                         Failure{L"delete from default store", Delete, "Delete"},
-                                         Failure{L"save", Delete, "SaveInDelete"}),
+                         testing::Values(Failure{L"load", kWrite, "LoadInWrite"}, Failure{L"write", kWrite, "Write"},
+                                         Failure{L"save", kWrite, "SaveInWrite"}, Failure{L"load", kGet, "LoadInGet"},
+                                         Failure{L"get", kGet, "Get"}, Failure{L"load", kDelete, "LoadInDelete"},
+                                         Failure{L"delete from default store", kDelete, "Delete"},
+                                         Failure{L"save", kDelete, "SaveInDelete"}),
                          [](const auto& info) { return info.param.name; });
 
 }  // namespace

@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <fittings/platform/local_reg_store.h>
 #include <fittings/platform/std_file_paths.h>
 #include <tests/support/process/as_nobody.h>
 #include <tests/support/temp_folder.h>
@@ -36,13 +35,10 @@ struct Name
     std::wstring file;
 };
 
-class ImpossibleFileName : public testing::TestWithParam<Name>
-{
-};
+using ImpossibleFileName = UserDataTestWithParam<Name>;
 
 TEST_P(ImpossibleFileName, FailsQuietly)
 {
-    const TempUserData data;
     UseAll(GetParam().file);
     EXPECT_EQ(ValueIn(GetParam().file), L"");
     EXPECT_EQ(ui_config_mgr::GetConfigInt(GetParam().file.c_str(), L"s", L"n"), 0);
@@ -64,13 +60,10 @@ struct Odd
     const char* path;
 };
 
-class OddFileName : public testing::TestWithParam<Odd>
-{
-};
+using OddFileName = UserDataTestWithParam<Odd>;
 
 TEST_P(OddFileName, NamesTheFileExactly)
 {
-    const TempUserData data;
     UseAll(GetParam().file);
     EXPECT_EQ(ValueIn(GetParam().file), L"v");
     EXPECT_TRUE(fs::is_regular_file(data / GetParam().path));
@@ -117,13 +110,10 @@ struct Triple
     std::wstring section, key, value;
 };
 
-class AnyText : public testing::TestWithParam<Triple>
-{
-};
+using AnyText = UserDataTestWithParam<Triple>;
 
 TEST_P(AnyText, ComesBackExactly)
 {
-    const TempUserData data;
     const Triple& triple = GetParam();
     ui_config_mgr::WriteConfigString(L"t.ini", L"first", L"k", L"before");
     ui_config_mgr::WriteConfigString(L"t.ini", triple.section.c_str(), triple.key.c_str(), triple.value.c_str());

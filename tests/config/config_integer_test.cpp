@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <tests/support/locale/scoped_locale.h>
@@ -29,13 +30,10 @@ struct Written
     const wchar_t* text;
 };
 
-class WriteConfigInt : public testing::TestWithParam<Written>
-{
-};
+using WriteConfigInt = UserDataTestWithParam<Written>;
 
 TEST_P(WriteConfigInt, StoresDecimalText)
 {
-    const TempUserData data;
     ui_config_mgr::WriteConfigInt(L"n.ini", L"Numbers", L"n", GetParam().value);
     EXPECT_EQ(ui_config_mgr::GetConfigString(L"n.ini", L"Numbers", L"n"), GetParam().text);
     EXPECT_EQ(Read(), GetParam().value);
@@ -55,13 +53,10 @@ struct Stored
     int value;
 };
 
-class GetConfigInt : public testing::TestWithParam<Stored>
-{
-};
+using GetConfigInt = UserDataTestWithParam<Stored>;
 
 TEST_P(GetConfigInt, Gives)
 {
-    const TempUserData data;
     StoreText(GetParam().text);
     EXPECT_EQ(Read(), GetParam().value);
 }
@@ -106,27 +101,12 @@ struct Bad
     std::wstring text;
 };
 
-/// Returns the message of the @a Exception that Read() throws; empty if Read() throws nothing.
-template <typename Exception>
-std::string Thrown()
-{
-    try {
-        Read();
-    } catch (const Exception& exception) {
-        return exception.what();
-    }
-    return {};
-}
-
-class NoInteger : public testing::TestWithParam<Bad>
-{
-};
+using NoInteger = UserDataTestWithParam<Bad>;
 
 TEST_P(NoInteger, ThrowsInvalidArgument)
 {
-    const TempUserData data;
     StoreText(GetParam().text);
-    EXPECT_EQ(Thrown<std::invalid_argument>(), "stoi");
+    EXPECT_THAT(&Read, testing::ThrowsMessage<std::invalid_argument>("stoi"));
 }
 
 INSTANTIATE_TEST_SUITE_P(, NoInteger,
@@ -135,15 +115,12 @@ INSTANTIATE_TEST_SUITE_P(, NoInteger,
                                          Bad{"PointFirst", L".5"}, Bad{"ArabicDigits", L"\u0661\u0662"}),
                          [](const auto& info) { return info.param.name; });
 
-class IntegerOutOfRange : public testing::TestWithParam<Bad>
-{
-};
+using IntegerOutOfRange = UserDataTestWithParam<Bad>;
 
 TEST_P(IntegerOutOfRange, ThrowsOutOfRange)
 {
-    const TempUserData data;
     StoreText(GetParam().text);
-    EXPECT_EQ(Thrown<std::out_of_range>(), "stoi");
+    EXPECT_THAT(&Read, testing::ThrowsMessage<std::out_of_range>("stoi"));
 }
 
 INSTANTIATE_TEST_SUITE_P(, IntegerOutOfRange,

@@ -5,27 +5,14 @@
 #include <vector>
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include <fittings/platform/local_reg_store.h>
+#include <tests/support/file_status.h>
 #include <tests/support/temp_folder.h>
 
 namespace {
 
 namespace fs = std::filesystem;
-
-/// Returns the path of a file or folder in the settings folder.
-std::string InConfig(const TempUserData& data, const std::string& name)
-{
-    return data / ("ui_config/" + name);
-}
-
-unsigned Mode(const std::string& path)
-{
-    struct stat info = {};
-    EXPECT_EQ(stat(path.c_str(), &info), 0) << path;
-    return info.st_mode & 07777;
-}
 
 struct Operation
 {
@@ -33,13 +20,10 @@ struct Operation
     void (*call)();
 };
 
-class EachOperation : public testing::TestWithParam<Operation>
-{
-};
+using EachOperation = UserDataTestWithParam<Operation>;
 
 TEST_P(EachOperation, MakesTheSettingsFolder)
 {
-    const TempUserData data;
     ASSERT_FALSE(fs::exists(data / "ui_config"));
     GetParam().call();
     EXPECT_TRUE(fs::is_directory(data / "ui_config"));
@@ -47,7 +31,6 @@ TEST_P(EachOperation, MakesTheSettingsFolder)
 
 TEST_P(EachOperation, MakesTheUserDataFolderToo)
 {
-    const TempUserData data;
     fs::remove(data.Path());
     GetParam().call();
     EXPECT_TRUE(fs::is_directory(data / "ui_config"));
@@ -63,34 +46,34 @@ INSTANTIATE_TEST_SUITE_P(
                     Operation{"WriteConfigInt", [] { ui_config_mgr::WriteConfigInt(L"a.ini", L"s", L"k", 1); }}),
     [](const auto& info) { return info.param.name; });
 
-TEST(WriteConfigString, MakesAFileForTheUserAlone)
+using WriteConfigString = UserDataTest;
+using GetConfigString = UserDataTest;
+using DeleteConfig = UserDataTest;
+
+TEST_F(WriteConfigString, MakesAFileForTheUserAlone)
 {
-    const TempUserData data;
     ui_config_mgr::WriteConfigString(L"search.ini", L"Results", L"Order", L"by name");
-    EXPECT_EQ(Mode(InConfig(data, "search.ini")), 0600u);
+    EXPECT_EQ(ModeOf(data / "ui_config/search.ini"), 0600u);
     EXPECT_EQ(ui_config_mgr::GetConfigString(L"search.ini", L"Results", L"Order"), L"by name");
 }
 
-TEST(WriteConfigString, KeepsTheModeOfAFileThatIsThere)
+TEST_F(WriteConfigString, KeepsTheModeOfAFileThatIsThere)
 {
-    const TempUserData data;
     fs::create_directory(data / "ui_config");
-    WriteFile(InConfig(data, "search.ini"), "[Results]\nOrder=by size\n");
-    fs::permissions(InConfig(data, "search.ini"), fs::perms(0644));
+    WriteFile(data / "ui_config/search.ini", "[Results]\nOrder=by size\n");
+    fs::permissions(data / "ui_config/search.ini", fs::perms(0644));
     ui_config_mgr::WriteConfigString(L"search.ini", L"Results", L"Order", L"by name");
-    EXPECT_EQ(Mode(InConfig(data, "search.ini")), 0644u);
+    EXPECT_EQ(ModeOf(data / "ui_config/search.ini"), 0644u);
 }
 
-TEST(WriteConfigString, WritesLinesThatAPersonCanRead)
+TEST_F(WriteConfigString, WritesLinesThatAPersonCanRead)
 {
-    const TempUserData data;
     ui_config_mgr::WriteConfigString(L"search.ini", L"Results", L"Order", L"by name");
-    EXPECT_EQ(ReadFile(InConfig(data, "search.ini")), "[Results]\nOrder=by name\n");
+    EXPECT_EQ(ReadFile(data / "ui_config/search.ini"), "[Results]\nOrder=by name\n");
 }
 
-TEST(WriteConfigString, ReplacesOneValueAndKeepsTheOthers)
+TEST_F(WriteConfigString, ReplacesOneValueAndKeepsTheOthers)
 {
-    const TempUserData data;
     ui_config_mgr::WriteConfigString(L"a.ini", L"one", L"k", L"1");
     ui_config_mgr::WriteConfigString(L"a.ini", L"one", L"other", L"2");
     ui_config_mgr::WriteConfigString(L"a.ini", L"two", L"k", L"3");
@@ -101,70 +84,62 @@ TEST(WriteConfigString, ReplacesOneValueAndKeepsTheOthers)
 }
 
 // The default store keeps a lock file beside its file. ui_config_mgr makes no lock file beside its files.
-TEST(WriteConfigString, TakesNoLock)
+TEST_F(WriteConfigString, TakesNoLock)
 {
-    const TempUserData data;
     ui_config_mgr::WriteConfigString(L"a.ini", L"s", L"k", L"v");
     ui_config_mgr::WriteConfigInt(L"a.ini", L"s", L"n", 1);
     EXPECT_EQ(NamesIn(data.Path()), std::vector<std::string>{"ui_config"});
     EXPECT_EQ(NamesIn(data / "ui_config"), std::vector<std::string>{"a.ini"});
 }
 
-TEST(WriteConfigString, LeavesTheDefaultStoreAlone)
+TEST_F(WriteConfigString, LeavesTheDefaultStoreAlone)
 {
-    const TempUserData data;
     ui_config_mgr::WriteConfigString(L"a.ini", L"s", L"k", L"v");
     EXPECT_EQ(CLocalRegStore::GetString(L"s", L"k", L"none"), L"none");
     EXPECT_FALSE(fs::exists(data / "settings.ini"));
 }
 
-TEST(GetConfigString, OfAMissingFileIsEmptyAndMakesNone)
+TEST_F(GetConfigString, OfAMissingFileIsEmptyAndMakesNone)
 {
-    const TempUserData data;
     EXPECT_EQ(ui_config_mgr::GetConfigString(L"absent.ini", L"s", L"k"), L"");
     EXPECT_TRUE(fs::is_empty(data / "ui_config"));
 }
 
-TEST(GetConfigString, OfAMissingSectionOrKeyIsEmpty)
+TEST_F(GetConfigString, OfAMissingSectionOrKeyIsEmpty)
 {
-    const TempUserData data;
     ui_config_mgr::WriteConfigString(L"a.ini", L"s", L"k", L"v");
     EXPECT_EQ(ui_config_mgr::GetConfigString(L"a.ini", L"s", L"absent"), L"");
     EXPECT_EQ(ui_config_mgr::GetConfigString(L"a.ini", L"absent", L"k"), L"");
     EXPECT_EQ(ui_config_mgr::GetConfigString(L"a.ini", L"S", L"k"), L"");
 }
 
-TEST(GetConfigString, OfAnEmptyValueIsEmpty)
+TEST_F(GetConfigString, OfAnEmptyValueIsEmpty)
 {
-    const TempUserData data;
     ui_config_mgr::WriteConfigString(L"a.ini", L"s", L"k", L"v");
     ui_config_mgr::WriteConfigString(L"a.ini", L"s", L"k", L"");
     EXPECT_EQ(ui_config_mgr::GetConfigString(L"a.ini", L"s", L"k"), L"");
 }
 
-TEST(GetConfigString, SeesWhatOthersWroteSinceTheLastCall)
+TEST_F(GetConfigString, SeesWhatOthersWroteSinceTheLastCall)
 {
-    const TempUserData data;
     ui_config_mgr::WriteConfigString(L"a.ini", L"s", L"k", L"ours");
     EXPECT_EQ(ui_config_mgr::GetConfigString(L"a.ini", L"s", L"k"), L"ours");
-    WriteFile(InConfig(data, "a.ini"), "[s]\nk=hers\n");
+    WriteFile(data / "ui_config/a.ini", "[s]\nk=hers\n");
     EXPECT_EQ(ui_config_mgr::GetConfigString(L"a.ini", L"s", L"k"), L"hers");
-    fs::remove(InConfig(data, "a.ini"));
+    fs::remove(data / "ui_config/a.ini");
     EXPECT_EQ(ui_config_mgr::GetConfigString(L"a.ini", L"s", L"k"), L"");
 }
 
-TEST(GetConfigString, DoesNotTouchTheFile)
+TEST_F(GetConfigString, DoesNotTouchTheFile)
 {
-    const TempUserData data;
     fs::create_directory(data / "ui_config");
-    WriteFile(InConfig(data, "a.ini"), "; by hand\n\n[s]\r\nk = v\nno equals sign");
+    WriteFile(data / "ui_config/a.ini", "; by hand\n\n[s]\r\nk = v\nno equals sign");
     EXPECT_EQ(ui_config_mgr::GetConfigString(L"a.ini", L"s", L"k"), L"v");
-    EXPECT_EQ(ReadFile(InConfig(data, "a.ini")), "; by hand\n\n[s]\r\nk = v\nno equals sign");
+    EXPECT_EQ(ReadFile(data / "ui_config/a.ini"), "; by hand\n\n[s]\r\nk = v\nno equals sign");
 }
 
-TEST(DeleteConfig, KeepsTheKeyInTheFileAndRemovesItFromTheDefaultStore)
+TEST_F(DeleteConfig, KeepsTheKeyInTheFileAndRemovesItFromTheDefaultStore)
 {
-    const TempUserData data;
     ui_config_mgr::WriteConfigString(L"a.ini", L"s", L"k", L"in the file");
     CLocalRegStore::WriteString(L"s", L"k", L"in the store");
     CLocalRegStore::WriteString(L"s", L"other", L"kept");
@@ -178,21 +153,19 @@ TEST(DeleteConfig, KeepsTheKeyInTheFileAndRemovesItFromTheDefaultStore)
     EXPECT_EQ(CLocalRegStore::GetString(L"t", L"k", L"none"), L"kept too");
 }
 
-TEST(DeleteConfig, SavesTheFileAsItWas)
+TEST_F(DeleteConfig, SavesTheFileAsItWas)
 {
-    const TempUserData data;
     fs::create_directory(data / "ui_config");
-    WriteFile(InConfig(data, "a.ini"), "; by hand\n\n[s]\nk=v\nlast=1");
+    WriteFile(data / "ui_config/a.ini", "; by hand\n\n[s]\nk=v\nlast=1");
     ui_config_mgr::DeleteConfig(L"a.ini", L"s", L"k");
-    EXPECT_EQ(ReadFile(InConfig(data, "a.ini")), "; by hand\n\n[s]\nk=v\nlast=1");
+    EXPECT_EQ(ReadFile(data / "ui_config/a.ini"), "; by hand\n\n[s]\nk=v\nlast=1");
 }
 
-TEST(DeleteConfig, MakesAnEmptyFileWhereThereIsNone)
+TEST_F(DeleteConfig, MakesAnEmptyFileWhereThereIsNone)
 {
-    const TempUserData data;
     ui_config_mgr::DeleteConfig(L"a.ini", L"s", L"k");
-    EXPECT_TRUE(fs::is_regular_file(InConfig(data, "a.ini")));
-    EXPECT_EQ(ReadFile(InConfig(data, "a.ini")), "");
+    EXPECT_TRUE(fs::is_regular_file(data / "ui_config/a.ini"));
+    EXPECT_EQ(ReadFile(data / "ui_config/a.ini"), "");
 }
 
 TEST(FileName, IsUsedExactlyAsGiven)
@@ -204,9 +177,9 @@ TEST(FileName, IsUsedExactlyAsGiven)
     EXPECT_EQ(ui_config_mgr::GetConfigString(L"a.ini", L"s", L"k"), L"with");
     EXPECT_EQ(ui_config_mgr::GetConfigString(L"a", L"s", L"k"), L"without");
     EXPECT_EQ(ui_config_mgr::GetConfigString(L"A.ini", L"s", L"k"), L"upper case");
-    EXPECT_TRUE(fs::is_regular_file(InConfig(data, "a.ini")));
-    EXPECT_TRUE(fs::is_regular_file(InConfig(data, "a")));
-    EXPECT_TRUE(fs::is_regular_file(InConfig(data, "A.ini")));
+    EXPECT_TRUE(fs::is_regular_file(data / "ui_config/a.ini"));
+    EXPECT_TRUE(fs::is_regular_file(data / "ui_config/a"));
+    EXPECT_TRUE(fs::is_regular_file(data / "ui_config/A.ini"));
 }
 
 TEST(NullTexts, CountAsEmpty)

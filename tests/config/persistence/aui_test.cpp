@@ -31,10 +31,11 @@ void ExpectLogAtTheTop()
     EXPECT_TRUE(IsLogAtTheTop(frame.manager));
 }
 
+using PersistentAui = PersistenceTest;
+
 // The destructor of AuiFrame calls UnInit() before the window is destroyed. The layout must still be stored.
-TEST(PersistentAui, OfAFrameThatEndsItsManagerIsRemembered)
+TEST_F(PersistentAui, OfAFrameThatEndsItsManagerIsRemembered)
 {
-    const TempPersistence data;
     {
         AuiFrame frame;
         EXPECT_FALSE(wxPersistentRegisterAndRestore(&frame.manager, "w"));
@@ -45,9 +46,8 @@ TEST(PersistentAui, OfAFrameThatEndsItsManagerIsRemembered)
     ExpectLogAtTheTop();
 }
 
-TEST(PersistentAui, OfAFrameThatIsClosedIsRememberedWithoutADrawing)
+TEST_F(PersistentAui, OfAFrameThatIsClosedIsRememberedWithoutADrawing)
 {
-    const TempPersistence data;
     auto* const frame = new AuiFrame;
     wxPersistentRegisterAndRestore(&frame->manager, "w");
     frame->Pane("log").Top();
@@ -56,9 +56,8 @@ TEST(PersistentAui, OfAFrameThatIsClosedIsRememberedWithoutADrawing)
     ExpectLogAtTheTop();
 }
 
-TEST(PersistentAui, OfAManagerThatNobodyEndsIsRemembered)
+TEST_F(PersistentAui, OfAManagerThatNobodyEndsIsRemembered)
 {
-    const TempPersistence data;
     for (const bool isManagerFirst : {false, true}) {
         auto* const frame = new wxFrame(nullptr, wxID_ANY, "aui");
         auto manager = std::make_unique<wxAuiManager>(frame);
@@ -74,9 +73,8 @@ TEST(PersistentAui, OfAManagerThatNobodyEndsIsRemembered)
     }
 }
 
-TEST(PersistentAui, OfAManagerThatIsEndedEarlyIsStoredWithItsWindow)
+TEST_F(PersistentAui, OfAManagerThatIsEndedEarlyIsStoredWithItsWindow)
 {
-    const TempPersistence data;
     wxAuiManager manager;
     auto* const frame = new wxFrame(nullptr, wxID_ANY, "aui");
     manager.SetManagedWindow(frame);
@@ -89,9 +87,8 @@ TEST(PersistentAui, OfAManagerThatIsEndedEarlyIsStoredWithItsWindow)
     EXPECT_NE(StoredValue(kKind, L"Layout").find(L"dir=1;"), std::wstring::npos);
 }
 
-TEST(PersistentAui, ThatIsNotRegisteredAnyMoreStoresNothing)
+TEST_F(PersistentAui, ThatIsNotRegisteredAnyMoreStoresNothing)
 {
-    const TempPersistence data;
     {
         AuiFrame frame;
         wxPersistentRegisterAndRestore(&frame.manager, "w");
@@ -103,9 +100,8 @@ TEST(PersistentAui, ThatIsNotRegisteredAnyMoreStoresNothing)
     EXPECT_EQ(StoredValue(kKind, L"Layout"), L"(none)");
 }
 
-TEST(PersistentAui, IsNamedAsItsWindowWhereItHasNoName)
+TEST_F(PersistentAui, IsNamedAsItsWindowWhereItHasNoName)
 {
-    const TempPersistence data;
     {
         AuiFrame frame;
         frame.SetName("w");

@@ -4,12 +4,10 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 #include <wx/frame.h>
-#include <wx/notebook.h>
-#include <wx/panel.h>
-#include <wx/splitter.h>
 #include <wx/treebook.h>
 
 #include <fittings/platform/std_file_paths.h>
+#include <tests/config/persistence/full_frame.h>
 #include <tests/config/persistence/stored.h>
 #include <tests/support/gui.h>
 
@@ -28,41 +26,11 @@ extern "C" int fsync(int fd)
 
 namespace {
 
-/// A frame that contains a splitter, a book of two pages, a list and a tree. RestoreAll() registers and restores the
-/// frame and these four controls.
-class FullFrame : public wxFrame
+using ClosedFrame = PersistenceTest;
+using Control = PersistenceTest;
+
+TEST_F(ClosedFrame, SavesAllThatIsInItByOneSave)
 {
-public:
-    FullFrame()
-        : wxFrame(nullptr, wxID_ANY, "full", wxPoint(100, 100), wxSize(600, 400)), splitter(new wxSplitterWindow(this)),
-          tree(new wxTreeCtrl(splitter)), book(new wxNotebook(splitter, wxID_ANY)), list(new wxListView(book))
-    {
-        splitter->SplitVertically(tree, book, 150);
-        tree->AppendItem(tree->AppendItem(tree->AddRoot("root"), "folder"), "file");
-        for (int column = 0; column < 3; ++column)
-            list->AppendColumn("column");
-        book->AddPage(new wxPanel(book), "first");
-        book->AddPage(list, "second");
-    }
-
-    bool RestoreAll()
-    {
-        bool all = wxPersistentRegisterAndRestore(splitter, "w");
-        all = wxPersistentRegisterAndRestore(tree, "w") && all;
-        all = wxPersistentRegisterAndRestore(book, "w") && all;
-        all = wxPersistentRegisterAndRestore(list, "w") && all;
-        return wxPersistentRegisterAndRestore(this, "w") && all;
-    }
-
-    wxSplitterWindow* splitter;
-    wxTreeCtrl* tree;
-    wxNotebook* book;
-    wxListView* list;
-};
-
-TEST(ClosedFrame, SavesAllThatIsInItByOneSave)
-{
-    const TempPersistence data;
     auto* frame = new FullFrame;
     EXPECT_FALSE(frame->RestoreAll());
     ASSERT_TRUE(ShowAndSettle(frame));
@@ -86,9 +54,8 @@ TEST(ClosedFrame, SavesAllThatIsInItByOneSave)
 
 // The values of a window are stored when the window is destroyed, even if other windows are still open. Therefore these
 // values are not lost if a signal ends the process later.
-TEST(ClosedFrame, IsSavedWhenItIsGone)
+TEST_F(ClosedFrame, IsSavedWhenItIsGone)
 {
-    const TempPersistence data;
     auto* const other = new wxFrame(nullptr, wxID_ANY, "other");
     wxPersistentRegisterAndRestore(other, "other");
     auto* const frame = new FullFrame;
@@ -102,9 +69,8 @@ TEST(ClosedFrame, IsSavedWhenItIsGone)
     delete other;
 }
 
-TEST(ClosedFrame, WithoutAnyChangeWritesNothing)
+TEST_F(ClosedFrame, WithoutAnyChangeWritesNothing)
 {
-    const TempPersistence data;
     for (int run = 0; run < 3; ++run) {
         auto* const frame = new FullFrame;
         frame->RestoreAll();
@@ -115,9 +81,8 @@ TEST(ClosedFrame, WithoutAnyChangeWritesNothing)
     EXPECT_EQ(g_syncs, 0);
 }
 
-TEST(Control, ThatGoesAloneIsSavedOnTheNextTurn)
+TEST_F(Control, ThatGoesAloneIsSavedOnTheNextTurn)
 {
-    const TempPersistence data;
     auto* const frame = new FullFrame;
     frame->RestoreAll();
     ASSERT_TRUE(ShowAndSettle(frame));
@@ -131,9 +96,8 @@ TEST(Control, ThatGoesAloneIsSavedOnTheNextTurn)
     DestroyNow(frame);
 }
 
-TEST(Control, ThatIsDeletedWithoutDestroyLeavesWhatWasStored)
+TEST_F(Control, ThatIsDeletedWithoutDestroyLeavesWhatWasStored)
 {
-    const TempPersistence data;
     auto* const frame = new FullFrame;
     frame->RestoreAll();
     frame->book->DeletePage(1);
@@ -141,9 +105,8 @@ TEST(Control, ThatIsDeletedWithoutDestroyLeavesWhatWasStored)
     EXPECT_EQ(StoredValue(L"List", L"Widths"), L"(none)");
 }
 
-TEST(Control, ThatWasNotRestoredIsSavedWithItsFrame)
+TEST_F(Control, ThatWasNotRestoredIsSavedWithItsFrame)
 {
-    const TempPersistence data;
     auto* const frame = new FullFrame;
     ASSERT_TRUE(ShowAndSettle(frame));
     frame->splitter->SetName("w");

@@ -4,42 +4,23 @@
 #include <wx/dialog.h>
 #include <wx/frame.h>
 #include <wx/listbook.h>
-#include <wx/notebook.h>
-#include <wx/panel.h>
-#include <wx/splitter.h>
 
+#include <tests/config/persistence/full_frame.h>
 #include <tests/config/persistence/stored.h>
 #include <tests/support/gui.h>
 
 namespace {
-
-class PlanetsFrame : public wxFrame
-{
-public:
-    PlanetsFrame() : wxFrame(nullptr, wxID_ANY, "planets", wxPoint(120, 90), wxSize(600, 400))
-    {
-        tree->AppendItem(tree->AppendItem(tree->AddRoot("Sun"), "Earth"), "Moon");
-        list->AppendColumn("Planet");
-        book->AddPage(list, "list");
-        book->AddPage(new wxPanel(book), "empty");
-        splitter->SplitVertically(tree, book, 150);
-    }
-
-    wxSplitterWindow* splitter = new wxSplitterWindow(this);
-    wxTreeCtrl* tree = new wxTreeCtrl(splitter);
-    wxNotebook* book = new wxNotebook(splitter, wxID_ANY);
-    wxListView* list = new wxListView(book);
-};
 
 std::wstring StoredOf(const std::wstring& section, const wchar_t* key)
 {
     return Stored((L"Persistent_Options/" + section).c_str(), key);
 }
 
-TEST(RegisteringAll, BringsBackAWindowWithAllThatIsInIt)
+using RegisteringAll = PersistenceTest;
+
+TEST_F(RegisteringAll, BringsBackAWindowWithAllThatIsInIt)
 {
-    const TempPersistence data;
-    auto* frame = new PlanetsFrame;
+    auto* frame = new FullFrame;
     EXPECT_FALSE(wxPersistentRegisterAndRestoreAll(frame, "Planets"));
     ASSERT_TRUE(ShowAndSettle(frame));
     frame->SetSize(620, 440);
@@ -50,7 +31,7 @@ TEST(RegisteringAll, BringsBackAWindowWithAllThatIsInIt)
     frame->tree->Expand(frame->tree->GetRootItem());
     DestroyNow(frame);
 
-    frame = new PlanetsFrame;
+    frame = new FullFrame;
     EXPECT_TRUE(wxPersistentRegisterAndRestoreAll(frame, "Planets"));
     ASSERT_TRUE(ShowAndSettle(frame));
     EXPECT_EQ(frame->GetSize(), wxSize(620, 440));
@@ -61,10 +42,9 @@ TEST(RegisteringAll, BringsBackAWindowWithAllThatIsInIt)
     DestroyNow(frame);
 }
 
-TEST(RegisteringAll, StoresEachUnderItsOwnNameAndLeavesThatAsItIs)
+TEST_F(RegisteringAll, StoresEachUnderItsOwnNameAndLeavesThatAsItIs)
 {
-    const TempPersistence data;
-    auto* frame = new PlanetsFrame;
+    auto* frame = new FullFrame;
     frame->list->SetName("Moons");
     wxPersistentRegisterAndRestoreAll(frame, "Planets");
     EXPECT_EQ(frame->GetName(), "frame");
@@ -78,9 +58,8 @@ TEST(RegisteringAll, StoresEachUnderItsOwnNameAndLeavesThatAsItIs)
     EXPECT_NE(StoredOf(L"Tree/Planets/treeCtrl", L"Items"), L"(none)");
 }
 
-TEST(RegisteringAll, TellsWindowsWithOneNameApart)
+TEST_F(RegisteringAll, TellsWindowsWithOneNameApart)
 {
-    const TempPersistence data;
     for (const bool isRestored : {false, true}) {
         auto* const frame = new wxFrame(nullptr, wxID_ANY, "two trees");
         wxTreeCtrl* trees[] = {new wxTreeCtrl(frame), new wxTreeCtrl(frame)};
@@ -94,10 +73,9 @@ TEST(RegisteringAll, TellsWindowsWithOneNameApart)
     }
 }
 
-TEST(RegisteringAll, LeavesOutWhatIsRegisteredAndOtherTopLevelWindows)
+TEST_F(RegisteringAll, LeavesOutWhatIsRegisteredAndOtherTopLevelWindows)
 {
-    const TempPersistence data;
-    auto* frame = new PlanetsFrame;
+    auto* frame = new FullFrame;
     auto* dialog = new wxDialog(frame, wxID_ANY, "dialog");
     new wxTreeCtrl(dialog);
     wxPersistentRegisterAndRestore(frame->tree, "own");
@@ -112,9 +90,8 @@ TEST(RegisteringAll, LeavesOutWhatIsRegisteredAndOtherTopLevelWindows)
 }
 
 // A wxListbook contains a list with which the user chooses a page. That list is not registered.
-TEST(RegisteringAll, LooksIntoThePagesOfABookAlone)
+TEST_F(RegisteringAll, LooksIntoThePagesOfABookAlone)
 {
-    const TempPersistence data;
     auto* const frame = new wxFrame(nullptr, wxID_ANY, "book");
     auto* const book = new wxListbook(frame, wxID_ANY);
     auto* const icons = new wxListCtrl(book, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxLC_ICON);

@@ -15,6 +15,19 @@ public:
     ~TempPersistence() { wxStorePersistenceManager::Install().Flush(); }
 };
 
+/// A test with an empty default store of its own.
+class PersistenceTest : public testing::Test
+{
+protected:
+    const TempPersistence data;
+};
+
+/// A PersistenceTest with a parameter.
+template <typename Param>
+class PersistenceTestWithParam : public PersistenceTest, public testing::WithParamInterface<Param>
+{
+};
+
 inline std::wstring StoredSection(const std::wstring& kind)
 {
     return L"Persistent_Options/" + kind + L"/w";
@@ -30,6 +43,16 @@ inline void StoreValue(const std::wstring& kind, const wchar_t* key, const std::
 inline std::wstring StoredValue(const std::wstring& kind, const wchar_t* key)
 {
     return Stored(StoredSection(kind).c_str(), key);
+}
+
+/// Stores the place of the window "w".
+inline void StorePlace(const std::wstring& x, const std::wstring& y, const std::wstring& width,
+                       const std::wstring& height)
+{
+    StoreValue(L"Window", L"x", x);
+    StoreValue(L"Window", L"y", y);
+    StoreValue(L"Window", L"w", width);
+    StoreValue(L"Window", L"h", height);
 }
 
 #endif

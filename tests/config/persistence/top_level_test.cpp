@@ -1,11 +1,8 @@
 // Frames and dialogs that the toolkit's own wxPersistentTLW saves and restores. The display of these tests has 1280 x
 // 1024 pixels. Its work area begins at (16, 24) and has 1264 x 960 pixels.
 
-#include <string>
-
 #include <gtest/gtest.h>
 #include <wx/dialog.h>
-#include <wx/display.h>
 #include <wx/frame.h>
 
 #include <tests/config/persistence/stored.h>
@@ -14,14 +11,6 @@
 namespace {
 
 constexpr wchar_t kKind[] = L"Window";
-
-void PlantPlace(const std::wstring& x, const std::wstring& y, const std::wstring& width, const std::wstring& height)
-{
-    StoreValue(kKind, L"x", x);
-    StoreValue(kKind, L"y", y);
-    StoreValue(kKind, L"w", width);
-    StoreValue(kKind, L"h", height);
-}
 
 wxFrame* NewFrame()
 {
@@ -53,9 +42,10 @@ void InOneRun(bool isRestored, Change change)
     DestroyNow(frame);
 }
 
-TEST(PersistentFrame, ComesBackWhereItWas)
+using PersistentFrame = PersistenceTest;
+
+TEST_F(PersistentFrame, ComesBackWhereItWas)
 {
-    const TempPersistence data;
     InOneRun(false, [](wxFrame& frame) {
         frame.SetSize(150, 120, 500, 340);
         ASSERT_TRUE(SettlesAt(frame, wxRect(150, 120, 500, 340)));
@@ -65,9 +55,8 @@ TEST(PersistentFrame, ComesBackWhereItWas)
     InOneRun(true, [](wxFrame& frame) { EXPECT_TRUE(SettlesAt(frame, wxRect(150, 120, 500, 340))); });
 }
 
-TEST(PersistentFrame, ThatWasMaximizedComesBackSoAndIsRestoredToItsEarlierSize)
+TEST_F(PersistentFrame, ThatWasMaximizedComesBackSoAndIsRestoredToItsEarlierSize)
 {
-    const TempPersistence data;
     InOneRun(false, [](wxFrame& frame) {
         frame.SetSize(150, 120, 500, 340);
         ASSERT_TRUE(SettlesAt(frame, wxRect(150, 120, 500, 340)));
@@ -87,10 +76,9 @@ TEST(PersistentFrame, ThatWasMaximizedComesBackSoAndIsRestoredToItsEarlierSize)
     InOneRun(true, [](wxFrame& frame) { EXPECT_TRUE(SettlesAt(frame, wxRect(150, 120, 500, 340))); });
 }
 
-TEST(PersistentFrame, ThatIsMovedAsSoonAsItIsUnmaximizedStaysThere)
+TEST_F(PersistentFrame, ThatIsMovedAsSoonAsItIsUnmaximizedStaysThere)
 {
-    const TempPersistence data;
-    PlantPlace(L"150", L"120", L"500", L"340");
+    StorePlace(L"150", L"120", L"500", L"340");
     StoreValue(kKind, L"Maximized", L"1");
     InOneRun(true, [](wxFrame& frame) {
         ASSERT_TRUE(SettlesMaximized(frame));
@@ -105,9 +93,8 @@ TEST(PersistentFrame, ThatIsMovedAsSoonAsItIsUnmaximizedStaysThere)
     });
 }
 
-TEST(PersistentFrame, ThatWasOnTheFullScreenComesBackAtItsEarlierSize)
+TEST_F(PersistentFrame, ThatWasOnTheFullScreenComesBackAtItsEarlierSize)
 {
-    const TempPersistence data;
     InOneRun(false, [](wxFrame& frame) {
         frame.ShowFullScreen(true);
         ASSERT_TRUE(PumpUntil([&] { return frame.GetSize() == wxSize(1280, 1024); }));
@@ -117,9 +104,8 @@ TEST(PersistentFrame, ThatWasOnTheFullScreenComesBackAtItsEarlierSize)
 
 // If another frame is open, the toolkit hides a closed frame before destroying it. This test does the same. The window
 // manager then forgets that the closed frame is maximised.
-TEST(PersistentFrame, ThatIsClosedMaximizedBeforeAnotherIsRemembered)
+TEST_F(PersistentFrame, ThatIsClosedMaximizedBeforeAnotherIsRemembered)
 {
-    const TempPersistence data;
     wxFrame* const other = new wxFrame(nullptr, wxID_ANY, "other");
     ASSERT_TRUE(ShowAndSettle(other));
     InOneRun(false, [](wxFrame& frame) {
@@ -134,10 +120,9 @@ TEST(PersistentFrame, ThatIsClosedMaximizedBeforeAnotherIsRemembered)
 }
 
 // The frame is registered but not restored. Its size before it was maximised is unknown, so the stored size must stay.
-TEST(PersistentFrame, ThatIsMaximizedAndWasNotRestoredLeavesTheStoredPlace)
+TEST_F(PersistentFrame, ThatIsMaximizedAndWasNotRestoredLeavesTheStoredPlace)
 {
-    const TempPersistence data;
-    PlantPlace(L"100", L"100", L"300", L"200");
+    StorePlace(L"100", L"100", L"300", L"200");
     wxFrame* const frame = NewFrame();
     frame->SetName("w");
     wxPersistenceManager::Get().Register(frame);
@@ -156,15 +141,12 @@ struct Restored
     wxRect rect;
 };
 
-class StoredPlace : public testing::TestWithParam<Restored>
-{
-};
+using StoredPlace = PersistenceTestWithParam<Restored>;
 
 TEST_P(StoredPlace, ComesOntoTheDisplay)
 {
-    const TempPersistence data;
     const Restored& stored = GetParam();
-    PlantPlace(stored.fields[0], stored.fields[1], stored.fields[2], stored.fields[3]);
+    StorePlace(stored.fields[0], stored.fields[1], stored.fields[2], stored.fields[3]);
     wxFrame* const frame = NewFrame();
     EXPECT_TRUE(wxPersistentRegisterAndRestore(frame, "w"));
     EXPECT_EQ(frame->GetRect(), stored.rect);
@@ -191,15 +173,12 @@ INSTANTIATE_TEST_SUITE_P(
 
 /// A stored geometry in which one field is no integer, or is too large for a long. The parameter is the key of this
 /// field.
-class DamagedPlace : public testing::TestWithParam<const wchar_t*>
-{
-};
+using DamagedPlace = PersistenceTestWithParam<const wchar_t*>;
 
 TEST_P(DamagedPlace, CountsAsNone)
 {
-    const TempPersistence data;
     for (const wchar_t* const text : {L"", L"12x", L"nan", L"99999999999999999999", L"1e3", L"\x1F600"}) {
-        PlantPlace(L"100", L"100", L"300", L"200");
+        StorePlace(L"100", L"100", L"300", L"200");
         StoreValue(kKind, GetParam(), text);
         wxFrame* const frame = NewFrame();
         EXPECT_FALSE(wxPersistentRegisterAndRestore(frame, "w")) << text;
@@ -215,22 +194,16 @@ TEST(DamagedFlagsAndDecorations, ChangeNothing)
     const TempPersistence data;
     for (const wchar_t* const key : {L"Maximized", L"Iconized", L"decor_l", L"decor_r", L"decor_t", L"decor_b"}) {
         for (const wchar_t* const text : {L"", L"x", L"-2147483649", L"9999999999"}) {
-            PlantPlace(L"100", L"100", L"300", L"200");
+            StorePlace(L"100", L"100", L"300", L"200");
             StoreValue(kKind, key, text);
-            wxFrame* const frame = NewFrame();
-            EXPECT_TRUE(wxPersistentRegisterAndRestore(frame, "w"));
-            ASSERT_TRUE(ShowAndSettle(frame));
-            EXPECT_TRUE(SettlesAt(*frame, wxRect(100, 100, 300, 200))) << key << "=" << text;
-            EXPECT_FALSE(frame->IsIconized());
-            DestroyNow(frame);
+            InOneRun(true, [&](wxFrame& frame) {
+                EXPECT_TRUE(SettlesAt(frame, wxRect(100, 100, 300, 200))) << key << "=" << text;
+                EXPECT_FALSE(frame.IsIconized());
+            });
         }
     }
     StoreValue(kKind, L"decor_t", L"30000");
-    wxFrame* const frame = NewFrame();
-    EXPECT_TRUE(wxPersistentRegisterAndRestore(frame, "w"));
-    ASSERT_TRUE(ShowAndSettle(frame));
-    EXPECT_TRUE(SettlesAt(*frame, wxRect(100, 100, 300, 200)));
-    DestroyNow(frame);
+    InOneRun(true, [](wxFrame& frame) { EXPECT_TRUE(SettlesAt(frame, wxRect(100, 100, 300, 200))); });
 }
 
 TEST(PersistentDialog, ComesBackWhereItWas)

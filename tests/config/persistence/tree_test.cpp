@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 #include <wx/frame.h>
-#include <wx/splitter.h>
 
 #include <fittings/tree/handy_tree_ctrl.h>
 #include <tests/config/persistence/stored.h>
@@ -33,11 +32,6 @@ public:
     wxTreeCtrl* tree;
 };
 
-wxTreeItemId Add(wxTreeCtrl& tree, const wxTreeItemId& parent, const wxString& label)
-{
-    return tree.AppendItem(parent, label);
-}
-
 /// Returns the child of @a parent at the index @a number, or an invalid item if there is no such child.
 wxTreeItemId Child(const wxTreeCtrl& tree, const wxTreeItemId& parent, int number)
 {
@@ -54,15 +48,16 @@ void Fill(wxTreeCtrl& tree)
 {
     const wxTreeItemId root = tree.AddRoot("root");
     for (const char* const label : {"a", "b|/\\", "a"}) {
-        const wxTreeItemId item = Add(tree, root, label);
+        const wxTreeItemId item = tree.AppendItem(root, label);
         for (int number = 0; number < 2; ++number)
-            Add(tree, Add(tree, item, "twin"), "leaf");
+            tree.AppendItem(tree.AppendItem(item, "twin"), "leaf");
     }
 }
 
-TEST(PersistentTree, ExpandsAndSelectsByPath)
+using PersistentTree = PersistenceTest;
+
+TEST_F(PersistentTree, ExpandsAndSelectsByPath)
 {
-    const TempPersistence data;
     {
         TreeFrame frame;
         Fill(*frame.tree);
@@ -89,9 +84,8 @@ TEST(PersistentTree, ExpandsAndSelectsByPath)
     EXPECT_EQ(frame.tree->GetSelection(), Child(*frame.tree, Child(*frame.tree, root, 2), 1));
 }
 
-TEST(PersistentTree, StoresReadableText)
+TEST_F(PersistentTree, StoresReadableText)
 {
-    const TempPersistence data;
     {
         TreeFrame frame;
         Fill(*frame.tree);
@@ -106,9 +100,8 @@ TEST(PersistentTree, StoresReadableText)
 }
 
 // A hidden root cannot be expanded, but the items below it are restored.
-TEST(PersistentTree, WithAHiddenRootIsRestored)
+TEST_F(PersistentTree, WithAHiddenRootIsRestored)
 {
-    const TempPersistence data;
     for (const bool isRestored : {false, true}) {
         TreeFrame frame(wxTR_HIDE_ROOT | wxTR_HAS_BUTTONS);
         Fill(*frame.tree);
@@ -120,9 +113,8 @@ TEST(PersistentTree, WithAHiddenRootIsRestored)
     }
 }
 
-TEST(PersistentTree, OfManySelectedRestoresAll)
+TEST_F(PersistentTree, OfManySelectedRestoresAll)
 {
-    const TempPersistence data;
     for (const bool isRestored : {false, true}) {
         TreeFrame frame(wxTR_MULTIPLE);
         Fill(*frame.tree);
@@ -141,15 +133,14 @@ TEST(PersistentTree, OfManySelectedRestoresAll)
     }
 }
 
-TEST(PersistentTree, ScrollsToTheItemThatWasFirstInView)
+TEST_F(PersistentTree, ScrollsToTheItemThatWasFirstInView)
 {
-    const TempPersistence data;
     int first = 0;
     for (const bool isRestored : {false, true, true}) {
         TreeFrame frame;
         const wxTreeItemId root = frame.tree->AddRoot("root");
         for (int number = 0; number < 500; ++number)
-            Add(*frame.tree, root, wxString::Format("item %d", number));
+            frame.tree->AppendItem(root, wxString::Format("item %d", number));
         frame.tree->Expand(root);
         EXPECT_EQ(wxPersistentRegisterAndRestore(frame.tree, "w"), isRestored);
         ASSERT_TRUE(frame.Show());
@@ -187,9 +178,8 @@ public:
     int filled = 0;
 };
 
-TEST(PersistentTree, FilledAsItIsExpandedOpensOnTheWay)
+TEST_F(PersistentTree, FilledAsItIsExpandedOpensOnTheWay)
 {
-    const TempPersistence data;
     for (const bool isRestored : {false, true}) {
         const OwnedWindow<wxFrame> frame(new wxFrame(nullptr, wxID_ANY, "tree"));
         auto* const tree = new LazyTree(frame);
@@ -206,9 +196,8 @@ TEST(PersistentTree, FilledAsItIsExpandedOpensOnTheWay)
     }
 }
 
-TEST(PersistentTree, IsFoundForTheLibrarysTrees)
+TEST_F(PersistentTree, IsFoundForTheLibrarysTrees)
 {
-    const TempPersistence data;
     auto* const frame = new wxFrame(nullptr, wxID_ANY, "tree");
     auto* const tree = new wxTreeCtrlEx;
     tree->Create(frame);
@@ -221,9 +210,8 @@ TEST(PersistentTree, IsFoundForTheLibrarysTrees)
     EXPECT_EQ(StoredValue(kKind, L"Items").substr(0, 1), L"0");
 }
 
-TEST(PersistentTree, LeavesOutWhatIsGoneAndDoesNotCollapse)
+TEST_F(PersistentTree, LeavesOutWhatIsGoneAndDoesNotCollapse)
 {
-    const TempPersistence data;
     StoreValue(kKind, L"Items", L"0+:|1+:gone|2+*:twin|1+#3:a|2+:twin|1+#2:a|2*#2:twin|");
     TreeFrame frame;
     Fill(*frame.tree);
@@ -237,9 +225,8 @@ TEST(PersistentTree, LeavesOutWhatIsGoneAndDoesNotCollapse)
 }
 
 /// Handlers may change the tree while it is being restored.
-TEST(PersistentTree, BearsHandlersThatDeleteItems)
+TEST_F(PersistentTree, BearsHandlersThatDeleteItems)
 {
-    const TempPersistence data;
     for (int deleted = 0; deleted < 4; ++deleted) {
         StoreValue(kKind, L"Items", L"0+:|1+*:a|2+*:twin|1+*:b\\|/\\\\|2+*:twin|2+*#2:twin|1+*#2:a|");
         TreeFrame frame(wxTR_MULTIPLE);
@@ -266,13 +253,10 @@ TEST(PersistentTree, BearsHandlersThatDeleteItems)
     }
 }
 
-class DamagedItems : public testing::TestWithParam<const wchar_t*>
-{
-};
+using DamagedItems = PersistenceTestWithParam<const wchar_t*>;
 
 TEST_P(DamagedItems, CountAsNone)
 {
-    const TempPersistence data;
     StoreValue(kKind, L"Items", GetParam());
     TreeFrame frame;
     Fill(*frame.tree);
@@ -291,7 +275,6 @@ INSTANTIATE_TEST_SUITE_P(, DamagedItems,
 TEST(StoredItems, OfMegabytesAndDeepAreRestoredAtOnce)
 {
     const TempPersistence data;
-    const InMemory memory;
     std::wstring wide = L"0+:|";
     for (int number = 0; number < 400'000; ++number)
         wide += L"1+:no such item|";
@@ -318,18 +301,16 @@ TEST(StoredItems, OfMegabytesAndDeepAreRestoredAtOnce)
     ASSERT_TRUE(ShowAndSettle(frame));
 }
 
-TEST(PersistentTree, OfManyItemsIsSavedAndRestoredInProportion)
+TEST_F(PersistentTree, OfManyItemsIsSavedAndRestoredInProportion)
 {
-    const TempPersistence data;
-    const InMemory memory;
     for (const bool isRestored : {false, true}) {
         auto* const frame = new wxFrame(nullptr, wxID_ANY, "tree");
         auto* const tree = new wxTreeCtrl(frame);
         const wxTreeItemId root = tree->AddRoot("root");
         wxTreeItemId last;
         for (int number = 0; number < 50'000; ++number) {
-            last = Add(*tree, root, wxString::Format("item %d", number / 2));
-            Add(*tree, last, "child");
+            last = tree->AppendItem(root, wxString::Format("item %d", number / 2));
+            tree->AppendItem(last, "child");
         }
         EXPECT_LT(ProcessorSeconds([&] { EXPECT_EQ(wxPersistentRegisterAndRestore(tree, "w"), isRestored); }), 30);
         EXPECT_EQ(tree->IsExpanded(last), isRestored);
@@ -343,9 +324,8 @@ TEST(PersistentTree, OfManyItemsIsSavedAndRestoredInProportion)
 
 // A tree that is deleted without Destroy() is no longer a wxTreeCtrl when its state should be stored, so the earlier
 // state stays.
-TEST(PersistentTree, ThatIsDeletedAtOnceLeavesTheStoredState)
+TEST_F(PersistentTree, ThatIsDeletedAtOnceLeavesTheStoredState)
 {
-    const TempPersistence data;
     StoreValue(kKind, L"Items", L"0+:|");
     auto* const frame = new wxFrame(nullptr, wxID_ANY, "tree");
     auto* const tree = new wxTreeCtrl(frame);
@@ -356,9 +336,8 @@ TEST(PersistentTree, ThatIsDeletedAtOnceLeavesTheStoredState)
     EXPECT_EQ(StoredValue(kKind, L"Items"), L"0+:|");
 }
 
-TEST(PersistentTree, WithoutItemsIsSavedAndRestored)
+TEST_F(PersistentTree, WithoutItemsIsSavedAndRestored)
 {
-    const TempPersistence data;
     for (const bool isRestored : {false, true}) {
         TreeFrame frame;
         EXPECT_EQ(wxPersistentRegisterAndRestore(frame.tree, "w"), isRestored);
@@ -366,14 +345,13 @@ TEST(PersistentTree, WithoutItemsIsSavedAndRestored)
     }
 }
 
-TEST(PersistentTree, KeepsLabelsWithVariablesAndNullCharacters)
+TEST_F(PersistentTree, KeepsLabelsWithVariablesAndNullCharacters)
 {
-    const TempPersistence data;
     const wxString label(L"$HOME ${HOME}\n\0 \xD83D", 17);
     for (const bool isRestored : {false, true}) {
         TreeFrame frame;
-        const wxTreeItemId item = Add(*frame.tree, frame.tree->AddRoot("root"), label);
-        Add(*frame.tree, item, "child");
+        const wxTreeItemId item = frame.tree->AppendItem(frame.tree->AddRoot("root"), label);
+        frame.tree->AppendItem(item, "child");
         EXPECT_EQ(wxPersistentRegisterAndRestore(frame.tree, "w"), isRestored);
         EXPECT_EQ(frame.tree->IsExpanded(item), isRestored);
         frame.tree->Expand(item);

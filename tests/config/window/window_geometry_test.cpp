@@ -25,26 +25,26 @@ constexpr bool kSavesNothingAndLoadsBool =
         std::is_same_v<decltype(wx_window_state::LoadState(static_cast<Window*>(nullptr), L"")), bool>;
 static_assert(kSavesNothingAndLoadsBool<wxWindow> && kSavesNothingAndLoadsBool<wxFrame>);
 
-TEST(SaveState, StoresPositionAndSizeOfAWindow)
+using SaveState = UserDataTest;
+using LoadState = UserDataTest;
+
+TEST_F(SaveState, StoresPositionAndSizeOfAWindow)
 {
-    const TempUserData data;
     SpyFrame frame(wxRect(100, 50, 800, 600));
     wx_window_state::SaveState(static_cast<wxWindow*>(&frame), L"Main");
     EXPECT_EQ(StoredGeometry(L"Main"), L"100;50;800;600");
 }
 
-TEST(SaveState, StoresNegativeCoordinates)
+TEST_F(SaveState, StoresNegativeCoordinates)
 {
-    const TempUserData data;
     SpyFrame frame;
     frame.SetSize(-1920, -7, 300, 200, wxSIZE_ALLOW_MINUS_ONE);
     wx_window_state::SaveState(&frame, L"Main");
     EXPECT_EQ(StoredGeometry(L"Main"), L"-1920;-7;300;200");
 }
 
-TEST(SaveState, StoresAChildRelativeToItsParent)
+TEST_F(SaveState, StoresAChildRelativeToItsParent)
 {
-    const TempUserData data;
     SpyFrame frame(wxRect(300, 200, 400, 300));
     wxPanel first(&frame, wxID_ANY);
     wxPanel panel(&frame, wxID_ANY, wxPoint(30, 40), wxSize(200, 100));
@@ -54,18 +54,16 @@ TEST(SaveState, StoresAChildRelativeToItsParent)
     EXPECT_EQ(StoredGeometry(L"Panel"), L"30;40;200;100");
 }
 
-TEST(SaveState, StoresTheGeometryOfAFrameAndThenItsFlag)
+TEST_F(SaveState, StoresTheGeometryOfAFrameAndThenItsFlag)
 {
-    const TempUserData data;
     SpyFrame frame(wxRect(100, 50, 800, 600));
     wx_window_state::SaveState(&frame, L"Main");
     EXPECT_EQ(ReadFile(data / "settings.ini"),
               "[wxWindowState]\nMain=100;50;800;600\n\n[wxWindowMaximize]\nMain=false\n");
 }
 
-TEST(SaveState, KeepsNamesApart)
+TEST_F(SaveState, KeepsNamesApart)
 {
-    const TempUserData data;
     SpyFrame one(wxRect(100, 50, 800, 600));
     SpyFrame two(wxRect(200, 80, 500, 400));
     wx_window_state::SaveState(&one, L"one");
@@ -76,9 +74,8 @@ TEST(SaveState, KeepsNamesApart)
     EXPECT_EQ(StoredGeometry(L""), L"200;80;500;400");
 }
 
-TEST(SaveState, TakesANullNameForTheEmptyOne)
+TEST_F(SaveState, TakesANullNameForTheEmptyOne)
 {
-    const TempUserData data;
     SpyFrame frame(wxRect(100, 50, 800, 600));
     wx_window_state::SaveState(&frame, nullptr);
     EXPECT_EQ(StoredGeometry(L""), L"100;50;800;600");
@@ -114,17 +111,15 @@ protected:
     }
 };
 
-TEST(SaveState, AsksAFrameWhetherItIsMaximizedFirst)
+TEST_F(SaveState, AsksAFrameWhetherItIsMaximizedFirst)
 {
-    const TempUserData data;
     AskedFrame frame;
     wx_window_state::SaveState(&frame, L"Main");
     EXPECT_EQ(frame.asked, "maximized size position ");
 }
 
-TEST(SaveState, AsksAnyWindowForItsGeometryAlone)
+TEST_F(SaveState, AsksAnyWindowForItsGeometryAlone)
 {
-    const TempUserData data;
     AskedFrame frame;
     wx_window_state::SaveState(static_cast<wxWindow*>(&frame), L"Main");
     EXPECT_EQ(frame.asked, "size position ");
@@ -132,9 +127,8 @@ TEST(SaveState, AsksAnyWindowForItsGeometryAlone)
     EXPECT_FALSE(CLocalRegStore::GetProfileBool(L"wxWindowMaximize", L"Main", false));
 }
 
-TEST(LoadState, BringsAShownFrameBack)
+TEST_F(LoadState, BringsAShownFrameBack)
 {
-    const TempUserData data;
     {
         SpyFrame frame;
         ASSERT_TRUE(ShowAndSettle(&frame));
@@ -149,9 +143,8 @@ TEST(LoadState, BringsAShownFrameBack)
     EXPECT_EQ(frame.GetScreenRect(), wxRect(420, 130, 510, 340));
 }
 
-TEST(LoadState, BringsADialogBack)
+TEST_F(LoadState, BringsADialogBack)
 {
-    const TempUserData data;
     const long style = wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER;
     {
         wxDialog dialog(nullptr, wxID_ANY, "one", wxPoint(250, 150), wxSize(320, 240), style);
@@ -167,9 +160,8 @@ TEST(LoadState, BringsADialogBack)
     EXPECT_EQ(dialog.GetScreenRect(), wxRect(250, 150, 320, 240));
 }
 
-TEST(LoadState, BringsAChildBackInsideItsParent)
+TEST_F(LoadState, BringsAChildBackInsideItsParent)
 {
-    const TempUserData data;
     StoreGeometry(L"30;40;200;100");
     SpyFrame frame(wxRect(300, 200, 400, 300));
     SpyWindow<wxPanel> first(&frame, wxID_ANY);
@@ -197,9 +189,8 @@ private:
     wxLog* m_old;
 };
 
-TEST(LoadState, LogsNothingAboutAChildOfAHiddenFrame)
+TEST_F(LoadState, LogsNothingAboutAChildOfAHiddenFrame)
 {
-    const TempUserData data;
     StoreGeometry(L"30;40;200;100");
     SpyFrame frame;
     wxPanel panel(&frame, wxID_ANY);
@@ -223,9 +214,8 @@ TEST(SettingsThatCannotBeStored, GoUnnoticed)
     EXPECT_EQ(log.count, 0);
 }
 
-TEST(LoadState, SetsTheSizeThenThePositionAgain)
+TEST_F(LoadState, SetsTheSizeThenThePositionAgain)
 {
-    const TempUserData data;
     StoreGeometry(L"100;50;800;600");
     SpyFrame frame;
     EXPECT_TRUE(wx_window_state::LoadState(static_cast<wxWindow*>(&frame), L"w"));
@@ -239,13 +229,10 @@ struct Text
     std::wstring text;
 };
 
-class TextThatIsNoGeometry : public testing::TestWithParam<Text>
-{
-};
+using TextThatIsNoGeometry = UserDataTestWithParam<Text>;
 
 TEST_P(TextThatIsNoGeometry, ChangesNothing)
 {
-    const TempUserData data;
     StoreGeometry(GetParam().text);
     CLocalRegStore::WriteProfileBool(L"wxWindowMaximize", L"w", true);
     SpyFrame frame(wxRect(5000, 5000, 300, 200));
@@ -270,24 +257,18 @@ INSTANTIATE_TEST_SUITE_P(, TextThatIsNoGeometry,
                                          Text{"OtherDigits", L"\u0661;\u0662;\u0663\u0663;\u0664\u0664"}),
                          [](const auto& info) { return info.param.name; });
 
-TEST(LoadState, OfANameThatWasNeverStoredChangesNothing)
+TEST_F(LoadState, OfANameThatWasNeverStoredChangesNothing)
 {
-    const TempUserData data;
     SpyFrame frame(wxRect(5000, 5000, 300, 200));
     EXPECT_FALSE(wx_window_state::LoadState(&frame, L"w"));
     EXPECT_EQ(frame.TakeCalls(), SizeCalls{});
 }
 
-class TextReadLeniently : public testing::TestWithParam<Text>
-{
-};
+using TextReadLeniently = UserDataTestWithParam<Text>;
 
 TEST_P(TextReadLeniently, GivesTheGeometry)
 {
-    const TempUserData data;
-    StoreGeometry(GetParam().text);
-    SpyFrame frame;
-    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    RestoredSpyFrame frame(GetParam().text);
     EXPECT_EQ(frame.GetRect(), wxRect(100, 200, 300, 400));
 }
 

@@ -72,43 +72,44 @@ void PostMaximizeEvent(wxFrame* frame, wxObject* object)
     wxPostEvent(frame, event);
 }
 
-TEST(SaveStateOfAFrame, StoresThatItIsNotMaximized)
+class StateOfAFrame : public UserDataTest
 {
-    const TempUserData data;
+protected:
     CountingFrame frame;
+};
+
+using SaveStateOfAFrame = StateOfAFrame;
+using LoadStateOfAFrame = StateOfAFrame;
+using LoadStateOfAWindow = StateOfAFrame;
+
+TEST_F(SaveStateOfAFrame, StoresThatItIsNotMaximized)
+{
     ASSERT_TRUE(ShowAndSettle(&frame));
     wx_window_state::SaveState(&frame, L"w");
     EXPECT_FALSE(StoredFlag(true));
-    EXPECT_EQ(CLocalRegStore::GetString(L"wxWindowState", L"w", L""), L"300;200;400;300");
+    EXPECT_EQ(StoredGeometry(), L"300;200;400;300");
 }
 
-TEST(SaveStateOfAFrame, StoresTheMaximizedGeometryAndTheFlag)
+TEST_F(SaveStateOfAFrame, StoresTheMaximizedGeometryAndTheFlag)
 {
-    const TempUserData data;
-    CountingFrame frame;
     ASSERT_TRUE(ShowAndSettle(&frame));
     ASSERT_TRUE(MaximizeAndSettle(&frame));
     wx_window_state::SaveState(&frame, L"w");
     EXPECT_TRUE(StoredFlag(false));
     const wxRect rect = frame.GetRect();
-    EXPECT_EQ(wxString(CLocalRegStore::GetString(L"wxWindowState", L"w", L"")),
-              wxString::Format("%d;%d;1264;960", rect.x, rect.y));
+    EXPECT_EQ(wxString(StoredGeometry()), wxString::Format("%d;%d;1264;960", rect.x, rect.y));
 }
 
-TEST(SaveStateOfAFrame, StoresAgainThatItIsNotMaximizedAnyMore)
+TEST_F(SaveStateOfAFrame, StoresAgainThatItIsNotMaximizedAnyMore)
 {
-    const TempUserData data;
     StoreState(L"100;100;300;200", true);
-    CountingFrame frame;
     wx_window_state::SaveState(&frame, L"w");
     EXPECT_FALSE(StoredFlag(true));
 }
 
-TEST(LoadStateOfAFrame, MaximizesOnALaterTurnOfTheEventLoop)
+TEST_F(LoadStateOfAFrame, MaximizesOnALaterTurnOfTheEventLoop)
 {
-    const TempUserData data;
     StoreState(L"100;100;300;200", true);
-    CountingFrame frame;
     EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
     EXPECT_EQ(frame.GetRect(), wxRect(100, 100, 300, 200));
     EXPECT_EQ(frame.maximized, 0);
@@ -124,11 +125,9 @@ TEST(LoadStateOfAFrame, MaximizesOnALaterTurnOfTheEventLoop)
     EXPECT_EQ(frame.restored, 0);
 }
 
-TEST(LoadStateOfAFrame, MaximizesAShownFrameLaterToo)
+TEST_F(LoadStateOfAFrame, MaximizesAShownFrameLaterToo)
 {
-    const TempUserData data;
     StoreState(L"100;100;300;200", true);
-    CountingFrame frame;
     ASSERT_TRUE(ShowAndSettle(&frame));
     EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
     EXPECT_EQ(frame.maximized, 0);
@@ -137,11 +136,9 @@ TEST(LoadStateOfAFrame, MaximizesAShownFrameLaterToo)
     EXPECT_EQ(frame.maximized, 1);
 }
 
-TEST(LoadStateOfAFrame, LeavesItAsItIsWhenTheFlagIsNotSet)
+TEST_F(LoadStateOfAFrame, LeavesItAsItIsWhenTheFlagIsNotSet)
 {
-    const TempUserData data;
     StoreState(L"100;100;300;200", false);
-    CountingFrame frame;
     EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
     ASSERT_TRUE(ShowAndSettle(&frame));
     EXPECT_EQ(frame.maximized, 0);
@@ -149,42 +146,34 @@ TEST(LoadStateOfAFrame, LeavesItAsItIsWhenTheFlagIsNotSet)
     EXPECT_FALSE(frame.IsMaximized());
 }
 
-TEST(LoadStateOfAFrame, LeavesItAsItIsWhenThereIsNoFlag)
+TEST_F(LoadStateOfAFrame, LeavesItAsItIsWhenThereIsNoFlag)
 {
-    const TempUserData data;
-    CLocalRegStore::WriteString(L"wxWindowState", L"w", L"100;100;300;200");
-    CountingFrame frame;
+    StoreGeometry(L"100;100;300;200");
     EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
     PumpPending();
     EXPECT_EQ(frame.maximized, 0);
 }
 
-TEST(LoadStateOfAFrame, DoesNotAskForTheFlagWithoutAGeometry)
+TEST_F(LoadStateOfAFrame, DoesNotAskForTheFlagWithoutAGeometry)
 {
-    const TempUserData data;
     StoreState(L"1;2;3", true);
-    CountingFrame frame;
     EXPECT_FALSE(wx_window_state::LoadState(&frame, L"w"));
     PumpPending();
     EXPECT_EQ(frame.maximized, 0);
 }
 
-TEST(LoadStateOfAFrame, MaximizesWhenTheStoredSizeIsTooSmallToBeApplied)
+TEST_F(LoadStateOfAFrame, MaximizesWhenTheStoredSizeIsTooSmallToBeApplied)
 {
-    const TempUserData data;
     StoreState(L"100;100;5;600", true);
-    CountingFrame frame;
     EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
     EXPECT_EQ(frame.GetRect(), wxRect(300, 200, 400, 300));
     PumpPending();
     EXPECT_EQ(frame.maximized, 1);
 }
 
-TEST(LoadStateOfAWindow, LeavesTheFlagAlone)
+TEST_F(LoadStateOfAWindow, LeavesTheFlagAlone)
 {
-    const TempUserData data;
     StoreState(L"100;100;300;200", true);
-    CountingFrame frame;
     EXPECT_TRUE(wx_window_state::LoadState(static_cast<wxWindow*>(&frame), L"w"));
     PumpPending();
     EXPECT_EQ(frame.maximized, 0);

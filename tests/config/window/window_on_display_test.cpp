@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 #include <wx/display.h>
 
-#include <fittings/platform/local_reg_store.h>
 #include <tests/config/window/spy_window.h>
 #include <tests/config/window/stored_geometry.h>
 #include <tests/support/gui.h>
@@ -37,16 +36,11 @@ void PrintTo(const Restored& restored, std::ostream* out)
     *out << restored.name;
 }
 
-class StoredGeometry : public testing::TestWithParam<Restored>
-{
-};
+using StoredGeometry = UserDataTestWithParam<Restored>;
 
 TEST_P(StoredGeometry, ComesOntoTheDisplay)
 {
-    const TempUserData data;
-    StoreGeometry(GetParam().stored);
-    SpyFrame frame;
-    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    RestoredSpyFrame frame(GetParam().stored);
     SizeCalls calls = frame.TakeCalls();
     ASSERT_GE(calls.size(), 2u);
     calls.erase(calls.begin(), calls.begin() + 2);
@@ -95,32 +89,22 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(StoredPositionMinusOne, IsApplied)
 {
     const TempUserData data;
-    StoreGeometry(L"-1;-1;300;200");
-    SpyFrame frame;
-    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    RestoredSpyFrame frame(L"-1;-1;300;200");
     EXPECT_EQ(frame.TakeCalls(), (SizeCalls{"-1;-1;300;200 4", "-1;-1;-1;-1 0"}));
 }
 
-class StoredSizeTooSmall : public testing::TestWithParam<const wchar_t*>
-{
-};
+using StoredSizeTooSmall = UserDataTestWithParam<const wchar_t*>;
 
 TEST_P(StoredSizeTooSmall, LeavesTheWindowWhereItIs)
 {
-    const TempUserData data;
-    StoreGeometry(GetParam());
-    SpyFrame frame(wxRect(300, 200, 400, 300));
-    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    RestoredSpyFrame frame(GetParam());
     EXPECT_EQ(frame.TakeCalls(), SizeCalls{});
     EXPECT_EQ(frame.GetRect(), wxRect(300, 200, 400, 300));
 }
 
 TEST_P(StoredSizeTooSmall, PullsAWindowOntoTheDisplayAllTheSame)
 {
-    const TempUserData data;
-    StoreGeometry(GetParam());
-    SpyFrame frame(wxRect(5000, 5000, 400, 300));
-    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    RestoredSpyFrame frame(GetParam(), wxRect(5000, 5000, 400, 300));
     EXPECT_EQ(frame.TakeCalls(), (SizeCalls{"0;0;-1;-1 0", "16;24;384;276 3"}));
     EXPECT_EQ(frame.GetRect(), wxRect(16, 24, 384, 276));
 }
@@ -131,16 +115,11 @@ INSTANTIATE_TEST_SUITE_P(, StoredSizeTooSmall,
                                          L"5000;5000;10;10", L"100;100;-2147483648;2147483647"));
 
 /// A stored geometry with numbers far beyond the size of a display.
-class HugeGeometry : public testing::TestWithParam<const wchar_t*>
-{
-};
+using HugeGeometry = UserDataTestWithParam<const wchar_t*>;
 
 TEST_P(HugeGeometry, EndsInsideTheWorkArea)
 {
-    const TempUserData data;
-    StoreGeometry(GetParam());
-    SpyFrame frame;
-    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    RestoredSpyFrame frame(GetParam());
     ASSERT_TRUE(ShowAndSettle(&frame));
     EXPECT_TRUE(wxRect(16, 24, 1264, 960).Contains(frame.GetScreenRect()));
     EXPECT_GT(frame.GetClientSize().x, 10);
@@ -149,7 +128,6 @@ TEST_P(HugeGeometry, EndsInsideTheWorkArea)
 
 TEST_P(HugeGeometry, EndsInsideTheWorkAreaOfAShownWindow)
 {
-    const TempUserData data;
     StoreGeometry(GetParam());
     SpyFrame frame;
     ASSERT_TRUE(ShowAndSettle(&frame));
@@ -174,18 +152,14 @@ TEST(NumberOfAMegabyte, IsTheLargest)
 {
     const TempUserData data;
     const std::wstring huge(1 << 20, L'7');
-    StoreGeometry(huge + L";-" + huge + L";" + huge + L";" + huge);
-    SpyFrame frame;
-    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    RestoredSpyFrame frame(huge + L";-" + huge + L";" + huge + L";" + huge);
     EXPECT_EQ(frame.GetRect(), wxRect(16, 24, 1264, 960));
 }
 
 TEST(FrameFromAMissingMonitor, IsShownClipped)
 {
     const TempUserData data;
-    StoreGeometry(L"5000;5000;300;200");
-    SpyFrame frame;
-    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    RestoredSpyFrame frame(L"5000;5000;300;200");
     ASSERT_TRUE(ShowAndSettle(&frame));
     EXPECT_EQ(frame.GetScreenRect(), wxRect(16, 24, 284, 176));
 }
@@ -193,9 +167,7 @@ TEST(FrameFromAMissingMonitor, IsShownClipped)
 TEST(FrameUnderAPanel, IsShownBesideIt)
 {
     const TempUserData data;
-    StoreGeometry(L"100;-180;300;200");
-    SpyFrame frame;
-    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    RestoredSpyFrame frame(L"100;-180;300;200");
     ASSERT_TRUE(ShowAndSettle(&frame));
     EXPECT_EQ(frame.GetScreenRect(), wxRect(100, 24, 300, 200));
 }
@@ -203,9 +175,7 @@ TEST(FrameUnderAPanel, IsShownBesideIt)
 TEST(FrameWithoutAPosition, IsPutIntoTheWorkAreaByTheWindowManager)
 {
     const TempUserData data;
-    StoreGeometry(L"-1;-1;300;200");
-    SpyFrame frame;
-    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    RestoredSpyFrame frame(L"-1;-1;300;200");
     ASSERT_TRUE(ShowAndSettle(&frame));
     EXPECT_EQ(frame.GetSize(), wxSize(300, 200));
     EXPECT_TRUE(wxRect(16, 24, 1264, 960).Contains(frame.GetScreenRect()));

@@ -6,7 +6,6 @@
 
 #include <gtest/gtest.h>
 #include <wx/dialog.h>
-#include <wx/frame.h>
 #include <wx/utils.h>
 
 #include <fittings/platform/local_reg_store.h>
@@ -32,10 +31,11 @@ TEST(DisplayOfTheseTests, IsWayland)
     EXPECT_EQ(wxGetDisplayInfo().type, wxDisplayWayland);
 }
 
+using FrameOnWayland = UserDataTest;
+
 // The compositor decides which position the frame reports, but this position must be the same after each run.
-TEST(FrameOnWayland, ComesBackInTheSameSizeEachTime)
+TEST_F(FrameOnWayland, ComesBackInTheSameSizeEachTime)
 {
-    const TempUserData data;
     StoreGeometry(L"300;200;510;340");
     std::wstring first;
     for (int run = 0; run < 4; ++run) {
@@ -50,9 +50,8 @@ TEST(FrameOnWayland, ComesBackInTheSameSizeEachTime)
     EXPECT_EQ(wxString(StoredGeometry()), wxString(first));
 }
 
-TEST(FrameOnWayland, KeepsTheSizeThatItsUserGaveIt)
+TEST_F(FrameOnWayland, KeepsTheSizeThatItsUserGaveIt)
 {
-    const TempUserData data;
     {
         SpyFrame frame;
         ASSERT_TRUE(ShowAndSettle(&frame));
@@ -65,40 +64,30 @@ TEST(FrameOnWayland, KeepsTheSizeThatItsUserGaveIt)
     EXPECT_TRUE(ShowsInSize(&frame, wxSize(620, 410)));
 }
 
-TEST(FrameOnWayland, KeepsItsStoredPlaceUntilItIsShown)
+TEST_F(FrameOnWayland, KeepsItsStoredPlaceUntilItIsShown)
 {
-    const TempUserData data;
-    StoreGeometry(L"300;200;510;340");
-    SpyFrame frame(wxRect(10, 20, 400, 300));
-    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    RestoredSpyFrame frame(L"300;200;510;340", wxRect(10, 20, 400, 300));
     wx_window_state::SaveState(&frame, L"w");
     EXPECT_EQ(wxString(StoredGeometry()), L"300;200;510;340");
 }
 
-TEST(FrameOnWayland, FromAMissingMonitorIsShown)
+TEST_F(FrameOnWayland, FromAMissingMonitorIsShown)
 {
-    const TempUserData data;
-    StoreGeometry(L"5000;5000;510;340");
-    SpyFrame frame;
-    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    RestoredSpyFrame frame(L"5000;5000;510;340");
     EXPECT_EQ(frame.GetRect(), wxRect(0, 0, 510, 340));
     EXPECT_TRUE(ShowsInSize(&frame, wxSize(510, 340)));
 }
 
-TEST(FrameOnWayland, LargerThanTheDisplayIsShownInIts)
+TEST_F(FrameOnWayland, LargerThanTheDisplayIsShownInIts)
 {
-    const TempUserData data;
-    StoreGeometry(L"100;100;9000;9000");
-    SpyFrame frame;
-    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    RestoredSpyFrame frame(L"100;100;9000;9000");
     ASSERT_TRUE(ShowAndSettle(&frame));
     EXPECT_LE(frame.GetSize().x, 1200);
     EXPECT_LE(frame.GetSize().y, 940);
 }
 
-TEST(FrameOnWayland, TakesItsSizeWhileItIsShown)
+TEST_F(FrameOnWayland, TakesItsSizeWhileItIsShown)
 {
-    const TempUserData data;
     StoreGeometry(L"300;200;510;340");
     SpyFrame frame;
     ASSERT_TRUE(ShowAndSettle(&frame));
@@ -106,9 +95,8 @@ TEST(FrameOnWayland, TakesItsSizeWhileItIsShown)
     EXPECT_TRUE(PumpUntil([&] { return frame.GetSize() == wxSize(510, 340); }));
 }
 
-TEST(FrameOnWayland, ComesBackMaximizedAndCanBeRestored)
+TEST_F(FrameOnWayland, ComesBackMaximizedAndCanBeRestored)
 {
-    const TempUserData data;
     wxSize maximized;
     {
         SpyFrame frame;

@@ -15,9 +15,7 @@ struct Corner
     const char* call;
 };
 
-class RightCorner : public testing::TestWithParam<Corner>
-{
-};
+using RightCorner = testing::TestWithParam<Corner>;
 
 TEST_P(RightCorner, IsWhereTheWindowMoves)
 {

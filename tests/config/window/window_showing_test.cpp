@@ -15,7 +15,7 @@
 
 namespace {
 
-class RestoredFrame : public testing::Test
+class RestoredFrame : public UserDataTest
 {
 protected:
     RestoredFrame()
@@ -24,7 +24,6 @@ protected:
         EXPECT_TRUE(wx_window_state::LoadState(frame, L"Main"));
     }
 
-    const TempUserData data;
     wxFrame* frame = new wxFrame(nullptr, wxID_ANY, "restored");
 };
 

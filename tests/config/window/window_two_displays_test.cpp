@@ -7,8 +7,7 @@
 #include <gtest/gtest.h>
 #include <wx/display.h>
 
-#include <fittings/config/persistence.h>
-#include <fittings/platform/local_reg_store.h>
+#include <tests/config/persistence/stored.h>
 #include <tests/config/window/spy_window.h>
 #include <tests/config/window/stored_geometry.h>
 #include <tests/support/gui.h>
@@ -50,16 +49,11 @@ struct Restored
     wxRect rect;
 };
 
-class StoredOnTwoDisplays : public testing::TestWithParam<Restored>
-{
-};
+using StoredOnTwoDisplays = UserDataTestWithParam<Restored>;
 
 TEST_P(StoredOnTwoDisplays, ComesOntoTheOneThatShowsMostOfIt)
 {
-    const TempUserData data;
-    StoreGeometry(GetParam().stored);
-    SpyFrame frame;
-    EXPECT_TRUE(wx_window_state::LoadState(&frame, L"w"));
+    RestoredSpyFrame frame(GetParam().stored);
     EXPECT_EQ(frame.GetRect(), GetParam().rect);
     ASSERT_TRUE(ShowAndSettle(&frame));
     EXPECT_EQ(frame.GetScreenRect(), GetParam().rect);
@@ -79,13 +73,8 @@ INSTANTIATE_TEST_SUITE_P(, StoredOnTwoDisplays,
 
 TEST(PersistentFrame, ComesOntoTheDisplayThatShowsMostOfIt)
 {
-    const TempUserData data;
-    wxStorePersistenceManager::Install();
-    const wchar_t* const section = L"Persistent_Options/Window/w";
-    CLocalRegStore::WriteString(section, L"x", L"1100");
-    CLocalRegStore::WriteString(section, L"y", L"900");
-    CLocalRegStore::WriteString(section, L"w", L"300");
-    CLocalRegStore::WriteString(section, L"h", L"200");
+    const TempPersistence data;
+    StorePlace(L"1100", L"900", L"300", L"200");
     SpyFrame frame;
     EXPECT_TRUE(wxPersistentRegisterAndRestore(static_cast<wxFrame*>(&frame), "w"));
     ASSERT_TRUE(ShowAndSettle(&frame));
