@@ -9,8 +9,6 @@
 #include <string>
 
 #include <gtest/gtest.h>
-#include <wx/aui/framemanager.h>
-#include <wx/panel.h>
 
 #include <fittings/config/ui_config_mgr.h>
 #include <fittings/config/wx_window_state.h>
@@ -18,6 +16,7 @@
 #include <fittings/platform/file_util_ex.h>
 #include <fittings/platform/local_reg_store.h>
 #include <fittings/platform/std_file_paths.h>
+#include <tests/config/aui_frame.h>
 #include <tests/dialogs/driven_dialog.h>
 #include <tests/dialogs/file_answer.h>
 #include <tests/faults/own_home.h>
@@ -159,28 +158,23 @@ TEST_P(BadHome, GivesAFrameItsPlace)
 
 TEST_P(BadHome, GivesPanesTheirLayout)
 {
-    wxFrame frame(nullptr, wxID_ANY, "panes", wxPoint(200, 100), wxSize(700, 500));
-    wxAuiManager manager(&frame);
-    manager.AddPane(new wxPanel(&frame), wxAuiPaneInfo().Name("log").Bottom().Caption("Log"));
-    manager.AddPane(new wxPanel(&frame), wxAuiPaneInfo().Name("list").CenterPane());
-    manager.Update();
-    wx_window_state::SaveAuiManagerState(&manager, L"Main");
+    AuiFrame frame;
+    wx_window_state::SaveAuiManagerState(&frame.manager, L"Main");
     Begin();
-    manager.GetPane("log").Hide();
-    manager.Update();
-    wx_window_state::SaveAuiManagerState(&manager, L"Main");
-    EXPECT_TRUE(wx_window_state::LoadAuiManagerState(&manager, L"Main"));
-    EXPECT_TRUE(manager.GetPane("log").IsShown());
+    frame.Pane("log").Hide();
+    frame.manager.Update();
+    wx_window_state::SaveAuiManagerState(&frame.manager, L"Main");
+    EXPECT_TRUE(wx_window_state::LoadAuiManagerState(&frame.manager, L"Main"));
+    EXPECT_TRUE(frame.Pane("log").IsShown());
     ExpectAllKept();
 
     End();
-    manager.GetPane("log").Hide();
-    manager.Update();
-    wx_window_state::SaveAuiManagerState(&manager, L"Main");
-    manager.GetPane("log").Show();
-    EXPECT_TRUE(wx_window_state::LoadAuiManagerState(&manager, L"Main"));
-    EXPECT_FALSE(manager.GetPane("log").IsShown());
-    manager.UnInit();
+    frame.Pane("log").Hide();
+    frame.manager.Update();
+    wx_window_state::SaveAuiManagerState(&frame.manager, L"Main");
+    frame.Pane("log").Show();
+    EXPECT_TRUE(wx_window_state::LoadAuiManagerState(&frame.manager, L"Main"));
+    EXPECT_FALSE(frame.Pane("log").IsShown());
 }
 
 TEST_P(BadHome, GivesATreeItsState)

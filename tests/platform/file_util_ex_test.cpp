@@ -45,37 +45,34 @@ INSTANTIATE_TEST_SUITE_P(
                     Join{nullptr, L"b", L"b"}, Join{L"/a", nullptr, L"/a"}, Join{nullptr, nullptr, L""},
                     Join{L"/\x5E33", L"\x1F4D2", L"/\x5E33/\x1F4D2"}));
 
-struct Change
+/// A path, and what becomes of it with exactly one separator at its end, and with none.
+struct PathEnd
 {
     const wchar_t* path;
-    const wchar_t* expected;
+    const wchar_t* with;
+    const wchar_t* without;
 };
 
-using GetPathWithSep = testing::TestWithParam<Change>;
+using SeparatorAtTheEnd = testing::TestWithParam<PathEnd>;
 
-TEST_P(GetPathWithSep, EndsInOne)
+TEST_P(SeparatorAtTheEnd, IsOneAfterGetPathWithSep)
 {
-    EXPECT_EQ(file_util_ex::GetPathWithSep(GetParam().path), GetParam().expected);
+    EXPECT_EQ(file_util_ex::GetPathWithSep(GetParam().path), GetParam().with);
 }
 
-INSTANTIATE_TEST_SUITE_P(, GetPathWithSep,
-                         testing::Values(Change{L"/a/b", L"/a/b/"}, Change{L"/a/b/", L"/a/b/"},
-                                         Change{L"/a/b//", L"/a/b/"}, Change{L"a", L"a/"}, Change{L"/", L"/"},
-                                         Change{L"//", L"/"}, Change{L"a\\", L"a\\/"}, Change{L"", L""},
-                                         Change{nullptr, L""}));
-
-using RemoveBackSlash = testing::TestWithParam<Change>;
-
-TEST_P(RemoveBackSlash, Gives)
+TEST_P(SeparatorAtTheEnd, IsGoneAfterRemoveBackSlash)
 {
-    EXPECT_EQ(file_util_ex::RemoveBackSlash(GetParam().path), GetParam().expected);
+    EXPECT_EQ(file_util_ex::RemoveBackSlash(GetParam().path), GetParam().without);
 }
 
-INSTANTIATE_TEST_SUITE_P(, RemoveBackSlash,
-                         testing::Values(Change{L"/a/b/", L"/a/b"}, Change{L"/a/b", L"/a/b"},
-                                         Change{L"/a/b//", L"/a/b"}, Change{L"a/", L"a"}, Change{L"/", L"/"},
-                                         Change{L"//", L"/"}, Change{L"/a/b\\", L"/a/b\\"}, Change{L"", L""},
-                                         Change{nullptr, L""}));
+// The root stays as it is.
+INSTANTIATE_TEST_SUITE_P(, SeparatorAtTheEnd,
+                         testing::Values(PathEnd{L"/a/b", L"/a/b/", L"/a/b"}, PathEnd{L"/a/b/", L"/a/b/", L"/a/b"},
+                                         PathEnd{L"/a/b//", L"/a/b/", L"/a/b"}, PathEnd{L"a", L"a/", L"a"},
+                                         PathEnd{L"a/", L"a/", L"a"}, PathEnd{L"/", L"/", L"/"},
+                                         PathEnd{L"//", L"/", L"/"}, PathEnd{L"a\\", L"a\\/", L"a\\"},
+                                         PathEnd{L"/a/b\\", L"/a/b\\/", L"/a/b\\"}, PathEnd{L"", L"", L""},
+                                         PathEnd{nullptr, L"", L""}));
 
 std::wstring Wide(const std::string& path)
 {

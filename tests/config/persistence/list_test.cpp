@@ -38,8 +38,8 @@ class ListFrame
 {
 public:
     explicit ListFrame(int columns = 3, long style = wxLC_REPORT)
-        : m_frame(new wxFrame(nullptr, wxID_ANY, "list")),
-          list(new List(m_frame, wxID_ANY, wxDefaultPosition, wxDefaultSize, style))
+        : frame(new wxFrame(nullptr, wxID_ANY, "list")),
+          list(new List(frame, wxID_ANY, wxDefaultPosition, wxDefaultSize, style))
     {
         for (int column = 0; column < columns; ++column)
             list->AppendColumn(wxString::Format("column %d", column), wxLIST_FORMAT_LEFT, 100);
@@ -53,10 +53,7 @@ public:
         return widths;
     }
 
-private:
-    OwnedWindow<wxFrame> m_frame;
-
-public:
+    OwnedWindow<wxFrame> frame;
     List* list;
 };
 

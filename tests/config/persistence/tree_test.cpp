@@ -18,17 +18,14 @@ class TreeFrame
 {
 public:
     explicit TreeFrame(long style = wxTR_HAS_BUTTONS)
-        : m_frame(new wxFrame(nullptr, wxID_ANY, "tree", wxPoint(100, 100), wxSize(300, 200))),
-          tree(new wxTreeCtrl(m_frame, wxID_ANY, wxDefaultPosition, wxDefaultSize, style))
+        : frame(new wxFrame(nullptr, wxID_ANY, "tree", wxPoint(100, 100), wxSize(300, 200))),
+          tree(new wxTreeCtrl(frame, wxID_ANY, wxDefaultPosition, wxDefaultSize, style))
     {
     }
 
-    bool Show() { return ShowAndSettle(m_frame); }
+    bool Show() { return ShowAndSettle(frame); }
 
-private:
-    OwnedWindow<wxFrame> m_frame;
-
-public:
+    OwnedWindow<wxFrame> frame;
     wxTreeCtrl* tree;
 };
 

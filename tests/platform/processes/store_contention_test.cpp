@@ -118,14 +118,14 @@ TEST(TwelveProcesses, LoseNothingInAStoreOfAHundredThousandKeys)
 }
 
 // Starts a process that stops itself while it holds the lock, as happens under a debugger or in a suspended container.
-pid_t StartHolderThatStops(const wchar_t* key)
+pid_t StartHolderThatStops()
 {
-    const pid_t child = StartChild([key] {
+    const pid_t child = StartChild([] {
         g_watchedCalls.beforeSync = [] {
             g_watchedCalls.beforeSync = nullptr;
             raise(SIGSTOP);
         };
-        EXPECT_TRUE(CLocalRegStore::WriteString(L"s", key, L"held"));
+        EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"holder", L"held"));
     });
     int status = 0;
     EXPECT_EQ(waitpid(child, &status, WUNTRACED), child);
@@ -138,7 +138,7 @@ TEST(AStoppedHolderOfTheLock, UndoesNothingWhenItGoesOn)
     for (int trial = 0; trial < 2 * Soak(); ++trial) {
         const TempUserData data;
         EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"first", L"1"));
-        const pid_t holder = StartHolderThatStops(L"holder");
+        const pid_t holder = StartHolderThatStops();
         for (int update = 0; update < 3; ++update)
             EXPECT_TRUE(CLocalRegStore::WriteString(L"s", Name(L"key", update).c_str(), L"1"));
         kill(holder, SIGCONT);
@@ -153,7 +153,7 @@ TEST(AStoppedHolderOfTheLock, UndoesNothingWhenItGoesOn)
 TEST(AStoppedHolderOfTheLock, DelaysAllWritesOfAProcessByTwoSecondsTogether)
 {
     const UserDataInMemory data;
-    const pid_t holder = StartHolderThatStops(L"holder");
+    const pid_t holder = StartHolderThatStops();
     const auto start = Clock::now();
     for (int update = 0; update < 22; ++update)
         EXPECT_TRUE(CLocalRegStore::WriteString(L"s", Name(L"key", update).c_str(), L"1"));
@@ -165,7 +165,7 @@ TEST(AStoppedHolderOfTheLock, DelaysAllWritesOfAProcessByTwoSecondsTogether)
 TEST(AStoppedHolderOfTheLock, DelaysEightThreadsByTwoSecondsTogether)
 {
     const UserDataInMemory data;
-    const pid_t holder = StartHolderThatStops(L"holder");
+    const pid_t holder = StartHolderThatStops();
     const auto start = Clock::now();
     std::vector<std::thread> threads;
     for (int thread = 0; thread < 8; ++thread) {
@@ -241,7 +241,7 @@ TEST(AStoppedHolderOfTheLock, DoesNotDelayAWriteThatChangesNothingWhileAnotherTh
 {
     const TempUserData data;
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"1"));
-    const pid_t holder = StartHolderThatStops(L"holder");
+    const pid_t holder = StartHolderThatStops();
     std::atomic<bool> isDone = false;
     std::thread writer([&] {
         EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"other", L"1"));
