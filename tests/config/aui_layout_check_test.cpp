@@ -148,6 +148,8 @@ TEST(AuiLayout, HasNoNumberInACaptionThatTheToolkitLaysOutForLong)
     EXPECT_TRUE(IsLayout(With(L"Folders", L"Folders\\; row=7\\;")));
     EXPECT_FALSE(IsLayout(With(L"Folders", L"a\\;row=2147483647\\;")));
     EXPECT_FALSE(IsLayout(With(L"Folders", L"a\\;prop=-100000\\;")));
+    EXPECT_TRUE(IsLayout(With(L"Folders", L"a\\;row=100\\;")));
+    EXPECT_FALSE(IsLayout(With(L"Folders", L"a\\;row=101\\;")));
     EXPECT_FALSE(IsLayout(With(L"Folders", L"a\brow=2147483647\b")));
 }
 
