@@ -112,9 +112,8 @@ TEST(PersistenceSample, ComesBackAsItWasLeft)
         numbers >> x >> y;
         SampleInUse::PointAt({x + 45, y + 13});
         SampleInUse::Click();
-        planets.Press("Right");
-        planets.Press("Down");
-        planets.Press("Right");
+        for (const char* const key : {"Right", "Down", "Right"})
+            planets.Press(key);
         SampleInUse::Drag({x + 202, y + 300}, {x + 262, y + 300});
         SampleInUse::PointAt({x + 355, y + 16});
         SampleInUse::Click();
@@ -356,9 +355,8 @@ TEST(PlatformSample, RemembersWhatWasSearchedFor)
     {
         SampleInUse search("platform", "Search", person);
         search.Type("a needle");
-        search.Press("alt+w");
-        search.Press("shift+Tab");
-        search.Press("Return");
+        for (const char* const key : {"alt+w", "shift+Tab", "Return"})
+            search.Press(key);
         search.WaitForTitle("Searching for a needle");
         search.Close();
     }
@@ -383,10 +381,8 @@ TEST(XrcSample, GivesAPlanetTheColourThatIsChosenAndOpensTheTreeAgain)
     const Person person;
     {
         SampleInUse planets("xrc", "Planets", person);
-        planets.Press("Right");
-        planets.Press("Down");
-        planets.Press("alt+c");
-        planets.Press(kF4);
+        for (const char* const key : {"Right", "Down", "alt+c", kF4})
+            planets.Press(key);
         EXPECT_TRUE(Becomes([] { return SampleInUse::Find(kOrange).has_value(); }));
         for (const char* const key : {"Up", "Down", "Right", "Return"})
             planets.Press(key);
