@@ -28,6 +28,12 @@ protected:
         });
     }
 
+    void ShowPage(char digit, const wxString& name)
+    {
+        Press(digit, wxMOD_ALT);
+        ASSERT_TRUE(ShowsPage(name));
+    }
+
     /// Opens the window with the pane of the folders floating, and selects another page, which hides the pane.
     void LeaveFloatingFolders()
     {
@@ -36,8 +42,7 @@ protected:
         FloatFolders(place);
         frame->Raise();
         List().SetFocus();
-        Press('2', wxMOD_ALT);
-        ASSERT_TRUE(ShowsPage("Numbers"));
+        ShowPage('2', "Numbers");
         EXPECT_TRUE(PumpUntil([&] { return !Tree().IsShownOnScreen(); }));
     }
 
@@ -49,10 +54,8 @@ protected:
 TEST_F(Pages, AltWithADigitShowsOne)
 {
     Open(root);
-    Press('2', wxMOD_ALT);
-    EXPECT_TRUE(ShowsPage("Numbers"));
-    Press('1', wxMOD_ALT);
-    EXPECT_TRUE(ShowsPage("Browser"));
+    ShowPage('2', "Numbers");
+    ShowPage('1', "Browser");
 }
 
 TEST_F(Pages, AClickOnATabShowsOne)
@@ -72,16 +75,14 @@ TEST_F(Pages, TitleAndMenusFollowThePage)
     EXPECT_TRUE(frame->GetTitle().EndsWith(L"/a \u2013 Fittings Gallery")) << frame->GetTitle();
     for (const int item : {wxID_UP, wxID_REFRESH, wxID_VIEW_LIST, wxID_RESET})
         EXPECT_TRUE(IsEnabled(item)) << item;
-    Press('2', wxMOD_ALT);
-    ASSERT_TRUE(ShowsPage("Numbers"));
+    ShowPage('2', "Numbers");
     EXPECT_EQ(frame->GetTitle(), L"Numbers \u2013 Fittings Gallery");
     EXPECT_EQ(frame->GetStatusBar()->GetStatusText(0), "");
     for (const int item : {wxID_UP, wxID_REFRESH, wxID_VIEW_LIST, wxID_RESET})
         EXPECT_FALSE(IsEnabled(item)) << item;
     EXPECT_TRUE(IsEnabled(wxID_OPEN));
     EXPECT_TRUE(frame->GetMenuBar()->IsChecked(frame->GetMenuBar()->FindMenuItem("View", "Numbers")));
-    Press('1', wxMOD_ALT);
-    ASSERT_TRUE(ShowsPage("Browser"));
+    ShowPage('1', "Browser");
     EXPECT_TRUE(frame->GetTitle().EndsWith(L"/a \u2013 Fittings Gallery")) << frame->GetTitle();
     EXPECT_EQ(frame->GetStatusBar()->GetStatusText(0), "1 item");
     EXPECT_TRUE(IsEnabled(wxID_UP));
@@ -101,8 +102,7 @@ TEST_F(Pages, TheFocusComesBackToWhereItWas)
 TEST_F(Pages, TheShownPageComesBack)
 {
     Open(root);
-    Press('2', wxMOD_ALT);
-    ASSERT_TRUE(ShowsPage("Numbers"));
+    ShowPage('2', "Numbers");
     OpenNextSession();
     EXPECT_TRUE(ShowsPage("Numbers"));
     EXPECT_EQ(frame->GetTitle(), L"Numbers \u2013 Fittings Gallery");
@@ -112,8 +112,7 @@ TEST_F(Pages, TheShownPageComesBack)
 TEST_F(Pages, AFolderThatIsAskedForIsShown)
 {
     Open(root);
-    Press('2', wxMOD_ALT);
-    ASSERT_TRUE(ShowsPage("Numbers"));
+    ShowPage('2', "Numbers");
     Close();
     Open(root + "/a");
     EXPECT_TRUE(ShowsPage("Browser"));
@@ -160,12 +159,10 @@ TEST_F(Pages, FoldersThatWereNotShownKeepTheirLayout)
     Widen(Tree(), WindowRect(Tree()), 75, 4);
     ASSERT_TRUE(PumpUntil([&] { return Tree().GetSize().x > width + 50; }));
     const int dragged = Tree().GetSize().x;
-    Press('2', wxMOD_ALT);
-    ASSERT_TRUE(ShowsPage("Numbers"));
+    ShowPage('2', "Numbers");
     OpenNextSession();
     OpenNextSession();
-    Press('1', wxMOD_ALT);
-    ASSERT_TRUE(ShowsPage("Browser"));
+    ShowPage('1', "Browser");
     EXPECT_TRUE(PumpUntil([&] { return Tree().GetSize().x == dragged; }));
 }
 

@@ -17,9 +17,8 @@ class Browsing : public BrowserTest
 protected:
     void SetUp() override
     {
-        fs::create_directories(temp / "docs/letters/old");
-        fs::create_directories(temp / "docs/taxes");
-        fs::create_directory(temp / "music");
+        for (const char* const path : {"docs/letters/old", "docs/taxes", "music"})
+            fs::create_directories(temp / path);
         WriteFile(temp / "big.bin", std::string(3000, 'x'));
         WriteFile(temp / "small.txt", "abc");
         WriteFile(temp / "docs/note.txt", "hello");
@@ -151,11 +150,9 @@ TEST_F(Browsing, RefreshFindsWhatIsNewAndForgetsWhatIsGone)
 {
     Select("docs/letters");
     Tree().Expand(Item("docs/letters"));
-    fs::create_directory(temp / "docs/letters/archive");
-    fs::create_directory(temp / "docs/photos");
-    fs::create_directory(temp / "a first one");
+    for (const char* const path : {"docs/letters/archive", "docs/photos", "a first one", "music/rock"})
+        fs::create_directories(temp / path);
     fs::remove_all(temp / "docs/taxes");
-    fs::create_directories(temp / "music/rock");
     WriteFile(temp / "docs/letters/new.txt", "");
     Press(WXK_F5);
     EXPECT_TRUE(PumpUntil([&] { return Rows() == Strings{"archive", "old", "new.txt"}; }));

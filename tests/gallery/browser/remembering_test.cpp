@@ -17,9 +17,8 @@ class Remembering : public BrowserTest
 protected:
     void SetUp() override
     {
-        fs::create_directories(temp / "a/share/inner");
-        fs::create_directories(temp / "b/share/inner");
-        fs::create_directories(temp / "c/d/e/f");
+        for (const char* const path : {"a/share/inner", "b/share/inner", "c/d/e/f"})
+            fs::create_directories(temp / path);
         WriteFile(temp / "a/file", "x");
     }
 };
@@ -98,17 +97,12 @@ TEST_F(Remembering, HiddenFoldersStayHidden)
 TEST_F(Remembering, ExpandedFoldersComeBackAndNoOthers)
 {
     Open(root);
-    Tree().Expand(Item("a"));
-    Tree().Expand(Item("a/share"));
-    Tree().Expand(Item("b"));
-    Tree().Expand(Item("c"));
-    Tree().Expand(Item("c/d"));
+    for (const char* const path : {"a", "a/share", "b", "c", "c/d"})
+        Tree().Expand(Item(path));
     Tree().Collapse(Item("c"));
     OpenNextSession();
-    EXPECT_TRUE(Tree().IsExpanded(Tree().GetRootItem()));
-    EXPECT_TRUE(Tree().IsExpanded(Item("a")));
-    EXPECT_TRUE(Tree().IsExpanded(Item("a/share")));
-    EXPECT_TRUE(Tree().IsExpanded(Item("b")));
+    for (const char* const path : {"", "a", "a/share", "b"})
+        EXPECT_TRUE(Tree().IsExpanded(Item(path))) << path;
     EXPECT_FALSE(Tree().IsExpanded(Item("b/share"))) << "another folder of the same name was expanded";
     EXPECT_FALSE(Tree().IsExpanded(Item("c")));
 }

@@ -29,9 +29,8 @@ class Sizes : public BrowserTest
 protected:
     void SetUp() override
     {
-        fs::create_directories(temp / "docs/letters/old");
-        fs::create_directories(temp / "docs/taxes");
-        fs::create_directory(temp / "music");
+        for (const char* const path : {"docs/letters/old", "docs/taxes", "music"})
+            fs::create_directories(temp / path);
         WriteFile(temp / "big.bin", std::string(30000, 'x'));
         WriteFile(temp / "docs/taxes/2025", std::string(20000, 'x'));
         WriteFile(temp / "docs/note.txt", "hello");

@@ -117,10 +117,8 @@ TEST_F(NumbersPageTest, TemplatesAreChosenAndNeverTyped)
 
 TEST_F(NumbersPageTest, PresetsFillEveryField)
 {
-    Press('S', wxMOD_ALT);
-    Press('E', wxMOD_ALT);
-    Press('M', wxMOD_ALT);
-    Press('R', wxMOD_ALT);
+    for (const char mnemonic : {'S', 'E', 'M', 'R'})
+        Press(mnemonic, wxMOD_ALT);
     GoTo("Template", 'L');
     Press(WXK_DOWN);
     Press('O', wxMOD_ALT);
