@@ -48,6 +48,7 @@ INSTANTIATE_TEST_SUITE_P(
 /// A path, and what becomes of it with exactly one separator at its end, and with none.
 struct PathEnd
 {
+    const char* name;
     const wchar_t* path;
     const wchar_t* with;
     const wchar_t* without;
@@ -67,12 +68,16 @@ TEST_P(SeparatorAtTheEnd, IsGoneAfterRemoveBackSlash)
 
 // The root stays as it is.
 INSTANTIATE_TEST_SUITE_P(, SeparatorAtTheEnd,
-                         testing::Values(PathEnd{L"/a/b", L"/a/b/", L"/a/b"}, PathEnd{L"/a/b/", L"/a/b/", L"/a/b"},
-                                         PathEnd{L"/a/b//", L"/a/b/", L"/a/b"}, PathEnd{L"a", L"a/", L"a"},
-                                         PathEnd{L"a/", L"a/", L"a"}, PathEnd{L"/", L"/", L"/"},
-                                         PathEnd{L"//", L"/", L"/"}, PathEnd{L"a\\", L"a\\/", L"a\\"},
-                                         PathEnd{L"/a/b\\", L"/a/b\\/", L"/a/b\\"}, PathEnd{L"", L"", L""},
-                                         PathEnd{nullptr, L"", L""}));
+                         testing::Values(PathEnd{"Folder", L"/a/b", L"/a/b/", L"/a/b"},
+                                         PathEnd{"FolderWithOne", L"/a/b/", L"/a/b/", L"/a/b"},
+                                         PathEnd{"FolderWithTwo", L"/a/b//", L"/a/b/", L"/a/b"},
+                                         PathEnd{"Relative", L"a", L"a/", L"a"},
+                                         PathEnd{"RelativeWithOne", L"a/", L"a/", L"a"},
+                                         PathEnd{"Root", L"/", L"/", L"/"}, PathEnd{"TwoSeparators", L"//", L"/", L"/"},
+                                         PathEnd{"RelativeWithBackslash", L"a\\", L"a\\/", L"a\\"},
+                                         PathEnd{"FolderWithBackslash", L"/a/b\\", L"/a/b\\/", L"/a/b\\"},
+                                         PathEnd{"Empty", L"", L"", L""}, PathEnd{"Null", nullptr, L"", L""}),
+                         [](const auto& info) { return info.param.name; });
 
 std::wstring Wide(const std::string& path)
 {
