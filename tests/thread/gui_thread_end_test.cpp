@@ -67,28 +67,21 @@ TEST(EndEvent, ComesAfterStartKill)
 
 TEST(EndEvent, ComesWhenTheWorkHasEnded)
 {
-    struct Asking : wxEvtHandler
-    {
-        bool ProcessEvent(wxEvent&) override
-        {
-            hadEnded = worker->HasEnded();
-            exitCode = worker->Wait();
-            hasCome = true;
-            return true;
-        }
-        Worker* worker = nullptr;
-        bool hasCome = false;
-        bool hadEnded = false;
-        wxThread::ExitCode exitCode = nullptr;
-    };
-    Asking handler;
+    wxEvtHandler handler;
     Worker worker(&handler, [](Worker&) { return Code(42); });
-    handler.worker = &worker;
+    bool hasCome = false;
+    bool hadEnded = false;
+    wxThread::ExitCode exitCode = nullptr;
+    handler.Bind(wxEventTypeTag<wxCommandEvent>(kEnd), [&](wxCommandEvent&) {
+        hadEnded = worker.HasEnded();
+        exitCode = worker.Wait();
+        hasCome = true;
+    });
     worker.SetEndEvent(kEnd);
     worker.RunThread();
-    EXPECT_TRUE(PumpUntil([&] { return handler.hasCome; }));
-    EXPECT_TRUE(handler.hadEnded);
-    EXPECT_EQ(handler.exitCode, Code(42));
+    EXPECT_TRUE(PumpUntil([&] { return hasCome; }));
+    EXPECT_TRUE(hadEnded);
+    EXPECT_EQ(exitCode, Code(42));
 }
 
 TEST(EndEvent, DoesNotComeUnasked)

@@ -145,18 +145,13 @@ TEST(PostEvent, GoesByTheHandlersPendingEvents)
 
 TEST(PostEvent, KeepsTheClassOfTheCallersEvent)
 {
-    struct Handler : wxEvtHandler
-    {
-        bool ProcessEvent(wxEvent& event) override
-        {
-            isThreadEvent = dynamic_cast<wxNotifyEvent*>(&event) != nullptr;
-            return true;
-        }
-        bool isThreadEvent = false;
-    } handler;
-    wxNotifyEvent event(7);
+    const wxEventTypeTag<wxCommandEvent> type(wxNewEventType());
+    wxEvtHandler handler;
+    bool isNotifyEvent = false;
+    handler.Bind(type, [&](wxCommandEvent& event) { isNotifyEvent = dynamic_cast<wxNotifyEvent*>(&event) != nullptr; });
+    wxNotifyEvent event(type);
     RunAndDeliver<Worker>(&handler, [&](Worker& self) { self.PostEvent(event, 3); });
-    EXPECT_TRUE(handler.isThreadEvent);
+    EXPECT_TRUE(isNotifyEvent);
 }
 
 TEST(PostEvent, ReachesABoundHandler)
@@ -182,17 +177,14 @@ TEST(PostEvent, DoesNotCallTheHandlerOnTheWorker)
 
 TEST(PostEvent, WakesASleepingEventLoop)
 {
-    struct Handler : wxEvtHandler
-    {
-        bool ProcessEvent(wxEvent& event) override
-        {
-            value = dynamic_cast<wxCommandEvent&>(event).GetInt();
-            loop.Exit();
-            return true;
-        }
-        wxGUIEventLoop loop;
-        int value = 0;
-    } handler;
+    const wxEventTypeTag<wxCommandEvent> type(wxNewEventType());
+    wxGUIEventLoop loop;
+    wxEvtHandler handler;
+    int value = 0;
+    handler.Bind(type, [&](wxCommandEvent& event) {
+        value = event.GetInt();
+        loop.Exit();
+    });
     Signal go;
     const pid_t gui = gettid();
     Worker thread(&handler, [&](Worker& self) {
@@ -204,16 +196,16 @@ TEST(PostEvent, WakesASleepingEventLoop)
             const long number = std::strtol(call.c_str(), nullptr, 10);
             return call[0] != 'r' && (number == SYS_poll || number == SYS_ppoll);
         });
-        self.PostEvent(7, asleep ? 3 : 4);
+        self.PostEvent(type, asleep ? 3 : 4);
     });
     thread.RunThread();
     wxTimer deadline;
-    deadline.Bind(wxEVT_TIMER, [&](wxTimerEvent&) { handler.loop.Exit(); });
+    deadline.Bind(wxEVT_TIMER, [&](wxTimerEvent&) { loop.Exit(); });
     deadline.StartOnce(30000);
     go.Set();
-    handler.loop.Run();
+    loop.Run();
     thread.Wait();
-    EXPECT_EQ(handler.value, 3);
+    EXPECT_EQ(value, 3);
 }
 
 TEST(PostEventWithoutAHandler, DropsEventsAndGoesOn)

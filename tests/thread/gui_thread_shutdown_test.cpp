@@ -132,21 +132,13 @@ TEST(Shutdown, OfAWorkerThatNeverRanDoesNotBlock)
 
 TEST(Handler, MayBeDestroyedWithEventsQueued)
 {
-    struct Counted : Recorder
-    {
-        explicit Counted(int& events) : m_events(events) {}
-        bool ProcessEvent(wxEvent&) override
-        {
-            ++m_events;
-            return true;
-        }
-        int& m_events;
-    };
+    const wxEventTypeTag<wxCommandEvent> type(wxNewEventType());
     int received = 0;
-    auto handler = std::make_unique<Counted>(received);
+    auto handler = std::make_unique<wxEvtHandler>();
+    handler->Bind(type, [&](wxCommandEvent&) { ++received; });
     Worker worker(handler.get(), [&](Worker& self) {
         for (int i = 0; i < 100; ++i)
-            self.PostEvent(7, i);
+            self.PostEvent(type, i);
     });
     worker.RunThread();
     worker.Wait();
