@@ -129,7 +129,7 @@ TEST_F(StoreConfig, StoresAnEqualTextInAFolderThatAnotherHasReplaced)
     WaitPastStamp(Path());
     EXPECT_EQ(m_config->Read("g/a"), "1");
     EXPECT_EQ(m_config->Read("g/a"), "1");
-    std::filesystem::rename(m_data / "ui_config", m_data / "earlier");
+    std::filesystem::rename(data / "ui_config", data / "earlier");
     EXPECT_TRUE(m_config->Write("g/a", "1"));
     EXPECT_TRUE(m_config->Flush());
     EXPECT_EQ(ReadFile(Path()), "[g]\na=1\n");
@@ -138,11 +138,11 @@ TEST_F(StoreConfig, StoresAnEqualTextInAFolderThatAnotherHasReplaced)
 TEST_F(StoreConfig, WritesNothingWhenNothingChanges)
 {
     EXPECT_TRUE(m_config->Flush());
-    EXPECT_TRUE(NamesIn(m_data.Path()).empty());
+    EXPECT_TRUE(NamesIn(data.Path()).empty());
     Open("[g]\na=1\n");
     EXPECT_TRUE(m_config->Write("g/a", "1"));
     EXPECT_TRUE(m_config->Flush());
-    EXPECT_EQ(NamesIn(m_data / "ui_config"), std::vector<std::string>{"test.ini"});
+    EXPECT_EQ(NamesIn(data / "ui_config"), std::vector<std::string>{"test.ini"});
 }
 
 TEST_F(StoreConfig, SavesWhenItEnds)

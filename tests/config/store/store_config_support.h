@@ -47,16 +47,16 @@ inline wxString Dump(wxConfigBase& config)
 }
 
 /// A named file and a wxStoreConfig that uses it.
-class StoreConfig : public testing::Test
+class StoreConfig : public UserDataTest
 {
 protected:
-    std::string Path() const { return m_data / "ui_config/test.ini"; }
+    std::string Path() const { return data / "ui_config/test.ini"; }
 
     /// Writes @a text to the file, and opens the file with a new object.
     void Open(const std::string& text)
     {
         m_config.reset();
-        std::filesystem::create_directories(m_data / "ui_config");
+        std::filesystem::create_directories(data / "ui_config");
         WriteFile(Path(), text);
         Reopen();
     }
@@ -82,7 +82,6 @@ protected:
         EXPECT_EQ(Saved(), text);
     }
 
-    const TempUserData m_data;
     std::unique_ptr<wxStoreConfig> m_config = std::make_unique<wxStoreConfig>("test.ini");
 };
 

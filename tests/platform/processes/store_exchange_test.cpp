@@ -49,7 +49,7 @@ private:
     std::size_t m_done = 0;
 };
 
-class SettingsFile : public testing::Test
+class SettingsFile : public UserDataTest
 {
 protected:
     ~SettingsFile() override { g_watchedCalls = {}; }
@@ -63,8 +63,7 @@ protected:
         ASSERT_EQ(rename((m_path + ".new").c_str(), m_path.c_str()), 0);
     }
 
-    const TempUserData m_data;
-    const std::string m_path = m_data / "settings.ini";
+    const std::string m_path = data / "settings.ini";
     const std::string m_zeros = std::string(100, '\0');
 };
 
@@ -167,7 +166,7 @@ TEST_F(AnExchange, KeepsWhatAThirdProcessStoresBeforeAFileIsPutBack)
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
     EXPECT_EQ(Now(), "[s]\na=1\nk=new\nb=3\n");
     EXPECT_EQ(ReadFile(m_path + ".unreadable"), m_zeros);
-    EXPECT_EQ(NamesIn(m_data.Path()),
+    EXPECT_EQ(NamesIn(data.Path()),
               (std::vector<std::string>{"settings.ini", "settings.ini.lock", "settings.ini.unreadable"}));
 }
 
@@ -257,7 +256,7 @@ TEST_F(AnExchange, LeavesNothingBehind)
 {
     const Others others({[&] { Put("[s]\na=2\nk=old\n"); }, [&] { Put("[s]\na=3\nk=new\n"); }});
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"new"));
-    EXPECT_EQ(NamesIn(m_data.Path()), (std::vector<std::string>{"settings.ini", "settings.ini.lock"}));
+    EXPECT_EQ(NamesIn(data.Path()), (std::vector<std::string>{"settings.ini", "settings.ini.lock"}));
 }
 
 // The time limit of the write is over, as if the process had been stopped for a while. Another process holds the
@@ -292,7 +291,7 @@ TEST_P(WithoutExchange, AValueIsStoredAsAnywhere)
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"1"));
     EXPECT_TRUE(CLocalRegStore::WriteString(L"s", L"k", L"2"));
     EXPECT_EQ(Now(), "[s]\nk=2\n");
-    EXPECT_EQ(NamesIn(m_data.Path()), (std::vector<std::string>{"settings.ini", "settings.ini.lock"}));
+    EXPECT_EQ(NamesIn(data.Path()), (std::vector<std::string>{"settings.ini", "settings.ini.lock"}));
 }
 
 TEST_P(WithoutExchange, WhatAnotherProcessStoresWhileTheFileIsWrittenIsKept)

@@ -20,15 +20,14 @@ using Names = std::vector<std::wstring>;
 static_assert(!std::is_copy_constructible_v<CLocalRegStore::Batch>);
 static_assert(!std::is_copy_assignable_v<CLocalRegStore::Batch>);
 
-class ABatch : public testing::Test
+class ABatch : public UserDataTest
 {
 protected:
     ABatch() { WriteFile(m_path, "[s]\na=1\nb=2\n"); }
 
     std::string Now() const { return ReadFile(m_path); }
 
-    const TempUserData m_data;
-    const std::string m_path = m_data / "settings.ini";
+    const std::string m_path = data / "settings.ini";
 };
 
 TEST_F(ABatch, SavesWhenItEnds)
@@ -167,7 +166,7 @@ TEST_F(ABatch, TouchesNothingWhenNothingChanges)
         CLocalRegStore::DeleteProfile(L"s", L"a");
         EXPECT_TRUE(batch.Save());
     }
-    EXPECT_TRUE(NamesIn(m_data.Path()).empty());
+    EXPECT_TRUE(NamesIn(data.Path()).empty());
 }
 
 }  // namespace

@@ -60,7 +60,7 @@ extern "C" int clock_gettime(clockid_t clock, timespec* now) noexcept
 namespace {
 
 // A file whose timestamps never change. The test sets the time at which the store reads the file.
-class AnUnchangedStamp : public testing::Test
+class AnUnchangedStamp : public UserDataTest
 {
 protected:
     ~AnUnchangedStamp() override
@@ -74,17 +74,15 @@ protected:
         g_stamp = stamp;
         g_now = now;
         EXPECT_EQ(Stored(L"s", L"k"), L"(none)");
-        WriteFile(m_data / "settings.ini", "[s]\nk=1\n");
+        WriteFile(data / "settings.ini", "[s]\nk=1\n");
         EXPECT_EQ(Stored(L"s", L"k"), L"1");
     }
 
     std::wstring ReadAfterChange()
     {
-        WriteFile(m_data / "settings.ini", "[s]\nk=2\n");
+        WriteFile(data / "settings.ini", "[s]\nk=2\n");
         return Stored(L"s", L"k");
     }
-
-    const TempUserData m_data;
 };
 
 TEST_F(AnUnchangedStamp, IsTrustedWhenTheFileWasReadInALaterTick)
@@ -122,20 +120,20 @@ TEST_F(AnUnchangedStamp, OfWholeSecondsIsTrustedAfterTwo)
 TEST_F(AnUnchangedStamp, IsNotTrustedInAnotherFile)
 {
     ReadOnce({1'700'000'000, 4'000'000}, {1'700'000'000, 8'000'000});
-    WriteFile(m_data / "other.ini", "[s]\nk=2\n");
-    std::filesystem::rename(m_data / "other.ini", m_data / "settings.ini");
+    WriteFile(data / "other.ini", "[s]\nk=2\n");
+    std::filesystem::rename(data / "other.ini", data / "settings.ini");
     EXPECT_EQ(Stored(L"s", L"k"), L"2");
 }
 
 TEST_F(AnUnchangedStamp, IsNotTrustedWithAnotherSize)
 {
     ReadOnce({1'700'000'000, 4'000'000}, {1'700'000'000, 8'000'000});
-    WriteFile(m_data / "settings.ini", "[s]\nk=22\n");
+    WriteFile(data / "settings.ini", "[s]\nk=22\n");
     EXPECT_EQ(Stored(L"s", L"k"), L"22");
 }
 
 // A file that is read several times within one tick. The later reads look at the open file and not at its path.
-class AReadInTheSameTick : public testing::Test
+class AReadInTheSameTick : public UserDataTest
 {
 protected:
     AReadInTheSameTick()
@@ -153,17 +151,16 @@ protected:
         g_tick.reset();
     }
 
-    std::string Path() const { return m_data / "settings.ini"; }
+    std::string Path() const { return data / "settings.ini"; }
 
     // Moves the file's folder away, and makes a new folder with a new file at the old path.
     void ReplaceFolder(const std::string& bytes)
     {
-        std::filesystem::rename(m_data.Path(), m_earlier / "moved");
-        std::filesystem::create_directory(m_data.Path());
+        std::filesystem::rename(data.Path(), m_earlier / "moved");
+        std::filesystem::create_directory(data.Path());
         WriteFile(Path(), bytes);
     }
 
-    const TempUserData m_data;
     const TempFolder m_earlier;
 };
 
@@ -175,8 +172,8 @@ TEST_F(AReadInTheSameTick, SeesWhatWasWrittenInPlace)
 
 TEST_F(AReadInTheSameTick, SeesAnotherFile)
 {
-    WriteFile(m_data / "other.ini", "[s]\nk=2\n");
-    std::filesystem::rename(m_data / "other.ini", Path());
+    WriteFile(data / "other.ini", "[s]\nk=2\n");
+    std::filesystem::rename(data / "other.ini", Path());
     EXPECT_EQ(Stored(L"s", L"k"), L"2");
 }
 
@@ -188,14 +185,14 @@ TEST_F(AReadInTheSameTick, SeesAnotherFileByTheNamesOfTheEarlierOne)
     WriteFile(Path(), "[s]\nk=12\n");
     for (int read = 0; read < 3; ++read)
         EXPECT_EQ(Stored(L"s", L"k"), L"12");
-    WriteFile(m_data / "other.ini", "[s]\nk=22\n");
-    std::filesystem::rename(m_data / "other.ini", Path());
+    WriteFile(data / "other.ini", "[s]\nk=22\n");
+    std::filesystem::rename(data / "other.ini", Path());
     EXPECT_EQ(Stored(L"s", L"k"), L"22");
 }
 
 TEST_F(AReadInTheSameTick, SeesTheFileRenamed)
 {
-    std::filesystem::rename(Path(), m_data / "other.ini");
+    std::filesystem::rename(Path(), data / "other.ini");
     EXPECT_EQ(Stored(L"s", L"k"), L"(none)");
 }
 
@@ -209,7 +206,7 @@ TEST_F(AReadInTheSameTick, SeesTheFileRemoved)
 
 TEST_F(AReadInTheSameTick, SeesALinkInPlaceOfTheFile)
 {
-    WriteFile(m_data / "other.ini", "[s]\nk=2\n");
+    WriteFile(data / "other.ini", "[s]\nk=2\n");
     std::filesystem::remove(Path());
     std::filesystem::create_symlink("other.ini", Path());
     EXPECT_EQ(Stored(L"s", L"k"), L"2");
