@@ -4,11 +4,11 @@
 #include <string>
 #include <utility>
 
-/// A standard string that is empty after it is made or assigned from a null pointer. It has all the constructors of a
-/// standard string.
+/// A std::basic_string that accepts null pointers: constructed or assigned from a null pointer, it is empty. It has all
+/// the constructors of std::basic_string.
 ///
-/// As with std::basic_string, the assigned pointer may point into the string's own buffer. The class has no virtual
-/// destructor, so use it by value.
+/// As with std::basic_string, the assigned pointer may point into the string's own buffer. The destructor is not
+/// virtual: do not delete an object through a pointer to its base class.
 template <typename CharT>
 class CStdStr : public std::basic_string<CharT>
 {

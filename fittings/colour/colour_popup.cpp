@@ -50,7 +50,7 @@ wxPoint FitToScreen(wxPoint at, const wxSize& size, const wxWindow& parent)
     int screenWidth = 0;
     int screenHeight = 0;
     wxDisplaySize(&screenWidth, &screenHeight);
-    // The first column and the first row beyond the screen count as parts of the screen.
+    // The popup may extend one pixel beyond the right side and beyond the bottom of the screen.
     if (at.x + size.x - 1 > screenWidth)
         at.x = screenWidth - size.x + 1;
     at.x = std::max(at.x, 0);

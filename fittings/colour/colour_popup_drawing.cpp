@@ -160,11 +160,10 @@ void wxColourPopup::DrawAutomatic(wxDC& dc)
     DrawEdge(dc, base, CELL_AUTOMATIC);
     DrawCentredText(dc, base, m_font, m_strAutomatic);
 
-    // Fill the whole swatch with the colour. In a cell of the palette, there is a margin around the colour.
     const int side = box.height / 3;
     const int inset = (box.height - side) / 2;
     wxRect swatch(box.x + inset, box.y + inset, side, side);
-    DrawCellRect(dc, swatch, CELL_AUTOMATIC, 0);
+    DrawCellRect(dc, swatch, CELL_AUTOMATIC, 0);  // without the margin of the cells in the palette
 }
 
 void wxColourPopup::DrawEdge(wxDC& dc, const wxRect& rect, int index)

@@ -57,8 +57,8 @@ bool Increment(std::string& digits)
     return true;
 }
 
-/// Returns how many leading digits of @a number remain when @a number is cut off after @a decimals decimals. The result
-/// may be negative, or larger than the count of the digits.
+/// Returns the index in number.digits at which the digits must be cut off to keep @a decimals digits after the point.
+/// The index may be negative or beyond the end.
 std::int64_t DigitsKept(const Decimal& number, std::int64_t decimals)
 {
     return number.point + std::clamp(decimals, -kMostExponent, kMostExponent);

@@ -46,8 +46,8 @@ public:
     /// minus if the format allows no exponent, so some results of FormatControlText() are refused. If the format allows
     /// an exponent, accepts "12-", because it is the beginning of "12-5".
     ///
-    /// The point may be the format's or the locale's. If the toolkit's current conversion cannot convert the locale's
-    /// point, no point is accepted. If the format's point is a digit, that digit always counts as the point.
+    /// The point may be the format's or the locale's. If wxConvCurrent cannot convert the locale's point, no point is
+    /// accepted, not even the format's. If the format's point is a digit, that digit always counts as the point.
     ///
     /// The bounds are compared with the value that wcstod() returns, which is 0 for a text without digits. So with a
     /// lowest value above 0 or a highest value below 0, the empty text and a lone sign are refused. If the lowest value

@@ -38,9 +38,9 @@ class wxThreadExImpl;
 /// toolkit must be initialised before the object is made. An object runs only once. If Create() or Run() fails, the
 /// object cannot be used again: make another object.
 ///
-/// - The class does not pause the work or end it early. In Entry(), wxThread::This() is a detached thread of the
-///   toolkit. Entry() may call GetId() and TestDestroy() of this thread. This class never calls Pause() or Delete() of
-///   this thread, but the host may.
+/// - The class does not pause the work or end it early: it never calls Pause() or Delete() of the toolkit's thread. The
+///   host may call them. In Entry(), wxThread::This() returns that thread, which is detached. Entry() may call its
+///   GetId() and TestDestroy().
 /// - The destructor waits, but only after the members of the derived class are destroyed. If the thread has not called
 ///   Entry() by then, the Entry() of the derived class no longer exists, and the process aborts. So call Wait()
 ///   earlier: in the owner, or in the destructor of the most derived class.
@@ -66,8 +66,9 @@ public:
     /// Makes the thread, which then waits for Run().
     ///
     /// @param stackSize is not used: every thread has the toolkit's default stack.
-    /// @return wxTHREAD_RUNNING if the thread already exists. Otherwise the result of the toolkit's Create():
-    ///         wxTHREAD_NO_ERROR, or wxTHREAD_NO_RESOURCE if the system cannot make another thread.
+    /// @return wxTHREAD_RUNNING if this object has made a thread before, even if the thread is over. Otherwise the
+    ///         result of the toolkit's Create(): wxTHREAD_NO_ERROR, or wxTHREAD_NO_RESOURCE if the system cannot make
+    ///         another thread.
     wxThreadError Create(unsigned int stackSize);
 
     /// Starts Entry() on the thread. Entry() may return before Run() does.

@@ -30,7 +30,7 @@ std::wstring WithoutBlanks(const std::wstring& text);
 /// Returns the value that wcstod() reads.
 double ValueOf(const std::wstring& text);
 
-/// Returns the text with every @a character removed.
+/// Returns @a text without the occurrences of @a character.
 std::wstring Without(std::wstring text, wchar_t character);
 
 #endif

@@ -91,11 +91,11 @@ struct FileUpdate
 /// - Otherwise exchanges the file and a new one, or makes the file if there was none. If the file changes between the
 ///   check and the exchange, merges that change. If the change cannot be merged, undoes the exchange and returns
 ///   Outdated.
-/// - If the exchange cannot be undone, keeps the displaced file under a name from OtherName(). Returns Outdated if
-///   another process has changed the file again. After an error, returns Saved: the new file then stays in place.
-/// - If the file has changed again after each of a hundred merges, undoes the last exchange and returns Failed. The
-///   changes that the last merge added are then missing: keeps the displaced file that has them under a name from
-///   OtherName().
+/// - If the exchange cannot be undone, renames the displaced file to a name from OtherName(). If another process is the
+///   reason, returns Outdated. If an error is the reason, the new file stays in place and the result is Saved.
+/// - If the file has changed again after each of a hundred merges, undoes the last exchange and returns Failed.
+/// - If an exchange after a merge is undone, the file lacks the changes that the merge added. The displaced file that
+///   has these changes is renamed to a name from OtherName().
 ///
 /// On file systems that cannot exchange two files atomically, such as NFS, a change in the few microseconds after the
 /// check can be lost.

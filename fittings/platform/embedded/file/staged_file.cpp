@@ -133,8 +133,8 @@ PlaceResult StagedFile::Exchange()
     return result;
 }
 
-// If an exchange displaces a file that this object did not put at the target, another process has stored that file. The
-// next exchange then puts that file back.
+// Each exchange should displace the file that this object last put at the target. If it displaces another file, that
+// file is newer and comes from another process: the next exchange returns the newer file to the target.
 PlaceResult StagedFile::PutBack()
 {
     const auto ours = m_placed;

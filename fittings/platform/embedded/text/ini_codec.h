@@ -22,8 +22,8 @@ std::wstring DecodeName(std::string_view name);
 /// they are, wherever they stand in a name.
 bool IsPlainInName(char byte);
 
-/// Returns the value from which DecodeValue() returns @a text. Puts quotes around a text that begins with a quote or a
-/// space, ends with a space, or contains characters that must be escaped.
+/// Encodes @a text as a value in the file. DecodeValue() reverses this. Puts quotes around a text that begins with a
+/// quote or a space, ends with a space, or contains characters that must be escaped.
 std::string EncodeValue(std::wstring_view text);
 
 /// Returns the text of @a value, which must not begin with a blank. A value in quotes that is not well formed is taken

@@ -99,7 +99,7 @@ private:
         std::vector<Entry> entries = {};
         std::unordered_map<std::string_view, std::size_t> indices = {};  ///< Indices of the entries, by name.
         std::size_t lastLine = kNone;  ///< The line after which new keys are inserted. kNone: the section is new.
-        bool hasOwnName = false;       ///< True if the section line of lastLine is as EncodeName() writes it.
+        bool hasOwnName = false;       ///< True if the section line at or above lastLine is spelled as by EncodeName().
         bool isMade = false;           ///< True if AddSection() made the section.
         bool isRemoved = false;
     };
