@@ -10,8 +10,8 @@
 namespace fittings {
 
 /// Returns the labels of those items that are expanded, among @a start and all items below it. The labels are sorted.
-/// Each label occurs once, and "|" follows it. If several items have the same label, the text contains the label only if
-/// the last of these items is expanded.
+/// Each label occurs once, and "|" follows it. If several items have the same label, the text contains the label only
+/// if the last of these items is expanded.
 std::wstring ExpandedLabels(const wxTreeCursor& start);
 
 /// Expands each item from @a start downwards if its label is in @a text, parents first. During an expansion, event
