@@ -181,6 +181,11 @@ TEST_F(FileWithGroups, DeletesAll)
     EXPECT_TRUE(m_config->DeleteAll());
     EXPECT_EQ(m_config->GetPath(), "");
     ExpectContents("");
+
+    wxStoreConfig other("test.ini");
+    EXPECT_TRUE(other.Write("/new", "1"));
+    EXPECT_TRUE(other.Flush());
+    EXPECT_EQ(m_config->Read("new"), "1");
 }
 
 TEST_F(FileWithGroups, RenamesEntries)
