@@ -52,27 +52,22 @@ protected:
 TEST_P(KeyboardLayouts, TypeANumberWithItsPoint)
 {
     for (const auto& [point, key] : {std::pair(L'.', GetParam().point), std::pair(L',', GetParam().comma)}) {
-        NumberDialog screen{FixedFormat(point)};
-        screen.Show("");
+        NumberOnScreen screen{FixedFormat(point)};
         screen.PressRaw(std::to_string(kKey1));
         screen.PressRaw(key);
         screen.PressRaw(std::to_string(kKey5));
-        EXPECT_EQ(screen.Text(), std::wstring(L"1") + point + L"5");
-        EXPECT_EQ(screen.BellsRung(), 0);
+        screen.ExpectTextWithoutBell(std::wstring(L"1") + point + L"5");
         screen.PressRaw(std::to_string(kKeyA));
-        EXPECT_EQ(screen.Text(), std::wstring(L"1") + point + L"5");
-        EXPECT_EQ(screen.BellsRung(), 1);
+        screen.ExpectTextAndBell(std::wstring(L"1") + point + L"5");
     }
 }
 
 TEST_P(KeyboardLayouts, TypeAMinus)
 {
-    NumberDialog screen{FixedFormat()};
-    screen.Show("");
+    NumberOnScreen screen{FixedFormat()};
     screen.PressRaw(GetParam().minus);
     screen.PressRaw(std::to_string(kKey1));
-    EXPECT_EQ(screen.Text(), L"-1");
-    EXPECT_EQ(screen.BellsRung(), 0);
+    screen.ExpectTextWithoutBell(L"-1");
 }
 
 // The keypad's decimal key types the format's point if the program receives the key code of the decimal point.
@@ -81,8 +76,7 @@ TEST_P(KeyboardLayouts, TypeThePointOfTheKeypad)
 {
     const NumLock numLock;
     for (const wchar_t point : {L'.', L','}) {
-        NumberDialog screen{FixedFormat(point)};
-        screen.Show("1");
+        NumberOnScreen screen{FixedFormat(point), "1"};
         screen.PressRaw(std::to_string(kKeypadDecimal));
         EXPECT_EQ(screen.keys.down, std::vector<int>{GetParam().keypadCode});
         const bool types = GetParam().keypadCode == 391 || GetParam().keypadCharacter == point;

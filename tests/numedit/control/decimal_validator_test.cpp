@@ -19,7 +19,6 @@ TEST(AValidatorOnANumberCtrl, MovesADouble)
 {
     double price = 9.95;
     NumberCtrlDialog screen(FixedFormat(), wxDecimalValidator(&price));
-    screen.Show();
     ASSERT_TRUE(screen.dialog->TransferDataToWindow());
     EXPECT_EQ(screen.Text(), L"9.95");
     screen.Restart("1234.5");
@@ -33,7 +32,6 @@ TEST(AValidatorOnANumberCtrl, RefusesAnEmptyFieldForAVariableThatCannotSayIt)
 {
     std::int64_t count = 7;
     NumberCtrlDialog screen(FixedFormat(), wxDecimalValidator(&count));
-    screen.Show();
     screen.Leave();
     EXPECT_FALSE(screen.dialog->Validate());
     EXPECT_TRUE(PumpUntil([&] { return screen.number->HasFocus(); }));
@@ -53,7 +51,6 @@ TEST(AValidatorOnANumberCtrl, MovesDecimalTextOfAnyLength)
     format.m_bHasMaxIntDigits = false;
     wxString digits = "12345678901234567890123.45";
     NumberCtrlDialog screen(format, wxDecimalValidator(&digits));
-    screen.Show();
     ASSERT_TRUE(screen.number->GetValidator()->TransferToWindow());
     EXPECT_EQ(screen.number->GetDecimal(), digits);
     screen.Restart("");
@@ -69,7 +66,6 @@ TEST(AValidatorOnANumberCtrl, RefusesWhatTheControlRefuses)
 {
     double price = 1;
     NumberCtrlDialog screen(Bounded(10, 20), wxDecimalValidator(&price));
-    screen.Show();
     screen.Restart("5");
     EXPECT_FALSE(screen.dialog->Validate());
     EXPECT_FALSE(screen.number->GetValidator()->TransferFromWindow());
@@ -103,7 +99,6 @@ TEST(AValidatorOnANumberCtrl, MovesAnInt)
 {
     int count = std::numeric_limits<int>::min();
     NumberCtrlDialog screen(WithoutLimits(), wxDecimalValidator(&count));
-    screen.Show();
     ASSERT_TRUE(screen.dialog->TransferDataToWindow());
     EXPECT_EQ(screen.Text(), L"-2147483648");
     ExpectRefused(screen, count, {"2147483648", "-2147483649", "2.5", "12345678901234567890", ""});
@@ -117,7 +112,6 @@ TEST(AValidatorOnANumberCtrl, MovesAnUnsigned)
 {
     unsigned count = std::numeric_limits<unsigned>::max();
     NumberCtrlDialog screen(WithoutLimits(), wxDecimalValidator(&count));
-    screen.Show();
     ASSERT_TRUE(screen.dialog->TransferDataToWindow());
     EXPECT_EQ(screen.Text(), L"4294967295");
     ExpectRefused(screen, count, {"4294967296", "-1", "2.5", ""});

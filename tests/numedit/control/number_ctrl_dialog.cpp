@@ -22,18 +22,14 @@ NumberCtrlDialog::NumberCtrlDialog(const CNumberFormat& format, const wxValidato
     all->Add(number, wxSizerFlags().Border());
     all->Add(dialog->CreateButtonSizer(wxOK | wxCANCEL), wxSizerFlags().Border());
     dialog->SetSizerAndFit(all);
+    EXPECT_TRUE(ShowAndSettle(dialog));
+    Enter();
+    Restart("");
 }
 
 NumberCtrlDialog::~NumberCtrlDialog()
 {
     DestroyNow(dialog);
-}
-
-void NumberCtrlDialog::Show()
-{
-    ASSERT_TRUE(ShowAndSettle(dialog));
-    Enter();
-    Restart("");
 }
 
 void NumberCtrlDialog::Leave()
@@ -67,6 +63,20 @@ void NumberCtrlDialog::Paste(const wxString& text)
         ASSERT_TRUE(wxTheClipboard->SetData(new wxTextDataObject(text)));
     }
     Press('V', wxMOD_CONTROL);
+}
+
+void NumberCtrlDialog::SelectInFirst(const wxString& text)
+{
+    first->SetValue(text);
+    first->SetFocus();
+    first->SelectAll();
+    ASSERT_TRUE(PumpUntil([&] { return first->HasFocus() && first->GetStringSelection() == text; }));
+    PumpPending();
+}
+
+wxPoint NumberCtrlDialog::Middle() const
+{
+    return number->ClientToScreen(wxPoint(number->GetSize().x / 2, number->GetSize().y / 2));
 }
 
 CNumberFormat Bounded(double min, double max)

@@ -11,7 +11,8 @@
 
 #include <tests/numedit/validator/number_dialog.h>
 
-/// A dialog with a plain text field, a wxNumberCtrl, OK and Cancel. Show() gives the focus to the number control.
+/// A dialog with a plain text field, a wxNumberCtrl, OK and Cancel. The constructor shows the dialog and gives
+/// the focus to the number control.
 class NumberCtrlDialog : public KeysAndBells
 {
 public:
@@ -20,8 +21,6 @@ public:
     ~NumberCtrlDialog();
     NumberCtrlDialog(const NumberCtrlDialog&) = delete;
     NumberCtrlDialog& operator=(const NumberCtrlDialog&) = delete;
-
-    void Show();
 
     /// Moves the focus away from the number control, or to it.
     /// @{
@@ -34,6 +33,12 @@ public:
 
     /// Puts a text on the clipboard and presses Ctrl+V.
     void Paste(const wxString& text);
+
+    /// Puts a text into the plain text field, gives it the focus, and selects the text.
+    void SelectInFirst(const wxString& text);
+
+    /// Returns the middle of the number control, in screen coordinates.
+    wxPoint Middle() const;
 
     std::wstring Text() const { return number->GetValue().ToStdWstring(); }
     std::string Selection() const { return number->GetStringSelection().utf8_string(); }

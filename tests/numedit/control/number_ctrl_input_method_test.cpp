@@ -16,7 +16,6 @@ class NumberFromAnInputMethod : public testing::Test
 protected:
     void SetUp() override
     {
-        screen.Show();
         screen.Restart("12345");
         screen.number->SetSelection(1, 4);
     }

@@ -56,8 +56,6 @@ TEST(NumberLifetime, BeginsWithCreate)
 class NumberEnd : public testing::Test
 {
 protected:
-    void SetUp() override { screen.Show(); }
-
     void Paste(const wxString& text)
     {
         {

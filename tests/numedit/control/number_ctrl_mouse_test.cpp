@@ -17,17 +17,11 @@
 
 namespace {
 
-wxPoint MiddleOf(const wxWindow& window)
-{
-    return window.ClientToScreen(wxPoint(window.GetSize().x / 2, window.GetSize().y / 2));
-}
-
 class NumberContextMenu : public testing::Test
 {
 protected:
     void SetUp() override
     {
-        screen.Show();
         g_signal_connect(screen.number->m_widget, "populate-popup", G_CALLBACK(OnPopup), this);
         screen.Restart("12345");
         screen.number->SetSelection(1, 4);
@@ -38,7 +32,7 @@ protected:
     {
         menu = nullptr;
         wxUIActionSimulator user;
-        user.MouseMove(MiddleOf(*screen.number));
+        user.MouseMove(screen.Middle());
         user.MouseClick(wxMOUSE_BTN_RIGHT);
         ASSERT_TRUE(PumpUntil([&] { return menu && gtk_widget_get_mapped(menu); }));
         EXPECT_EQ(screen.Text(), L"12345") << "the menu must not take the focus from the number";
@@ -127,8 +121,6 @@ TEST_F(NumberContextMenu, RefusesToPasteAnotherText)
 class NumberDrop : public testing::Test
 {
 protected:
-    void SetUp() override { screen.Show(); }
-
     /// Drags the selected text of a field from @a grip to @a to, in screen coordinates. If @a moves is true, holds
     /// Shift: GTK then moves the text to another field instead of copying it.
     void Drag(wxTextCtrl& from, const wxPoint& grip, const wxPoint& to, bool moves)
@@ -183,13 +175,17 @@ protected:
     /// Puts a text into the other field, and drags the text from there onto the number control.
     void Drop(const wxString& text, bool moves = false)
     {
-        screen.first->SetValue(text);
-        screen.first->SetFocus();
-        screen.first->SelectAll();
-        ASSERT_TRUE(PumpUntil([&] { return screen.first->HasFocus() && screen.first->GetStringSelection() == text; }));
-        PumpPending();
+        screen.SelectInFirst(text);
         const wxPoint grip = screen.first->ClientToScreen(wxPoint(14, screen.first->GetSize().y / 2));
-        Drag(*screen.first, grip, MiddleOf(*screen.number), moves);
+        Drag(*screen.first, grip, screen.Middle(), moves);
+    }
+
+    /// Drags the first digit of the number to the middle of the number control.
+    void DragFirstDigit()
+    {
+        screen.number->SetSelection(0, 1);
+        const wxPoint middle = screen.Middle();
+        Drag(*screen.number, wxPoint(screen.number->ClientToScreen(wxPoint(12, 0)).x, middle.y), middle, false);
     }
 
     static void Note(bool* flag) { *flag = true; }
@@ -217,19 +213,15 @@ TEST_F(NumberDrop, TakesADigitBetweenGroups)
     screen.Restart("1234");
     screen.Leave();
     ASSERT_EQ(screen.Text(), L"1,234.00");
-    screen.first->SetValue("7");
-    screen.first->SetFocus();
-    screen.first->SelectAll();
-    PumpPending();
-    const wxPoint middle = MiddleOf(*screen.number);
+    screen.SelectInFirst("7");
     PangoRectangle place;
     int left = 0;
     auto* const entry = GTK_ENTRY(screen.number->m_widget);
     pango_layout_get_cursor_pos(gtk_entry_get_layout(entry), 3, &place, nullptr);
     gtk_entry_get_layout_offsets(entry, &left, nullptr);
     const int x = screen.number->ClientToScreen(wxPoint(left + PANGO_PIXELS(place.x), 0)).x;
-    Drag(*screen.first, screen.first->ClientToScreen(wxPoint(12, screen.first->GetSize().y / 2)), wxPoint(x, middle.y),
-         false);
+    Drag(*screen.first, screen.first->ClientToScreen(wxPoint(12, screen.first->GetSize().y / 2)),
+         wxPoint(x, screen.Middle().y), false);
     EXPECT_TRUE(PumpUntil([&] { return screen.number->GetDecimal() == "12734"; })) << screen.number->GetDecimal();
     EXPECT_EQ(screen.Text(), L"12,734.00");
     EXPECT_EQ(screen.textEvents, 1);
@@ -259,9 +251,7 @@ TEST_F(NumberDrop, RefusesAnotherTextWhole)
 TEST_F(NumberDrop, MovesDigitsWithinTheNumber)
 {
     screen.Restart("123");
-    screen.number->SetSelection(0, 1);
-    const wxPoint middle = MiddleOf(*screen.number);
-    Drag(*screen.number, wxPoint(screen.number->ClientToScreen(wxPoint(12, 0)).x, middle.y), middle, false);
+    DragFirstDigit();
     EXPECT_TRUE(PumpUntil([&] { return screen.Text() == L"231"; })) << screen.Text();
     EXPECT_EQ(screen.BellsRung(), 0);
 }
@@ -300,9 +290,7 @@ TEST_F(NumberDrop, IsLeftToADropTargetOfTheProgram)
 TEST_F(NumberDrop, LosesNoDigitsThatItRefusesToMove)
 {
     screen.Restart("12345");
-    screen.number->SetSelection(0, 1);
-    const wxPoint middle = MiddleOf(*screen.number);
-    Drag(*screen.number, wxPoint(screen.number->ClientToScreen(wxPoint(12, 0)).x, middle.y), middle, false);
+    DragFirstDigit();
     EXPECT_TRUE(PumpUntil([&] { return screen.BellsRung() == 1; }));
     EXPECT_EQ(screen.Text(), L"12345");
 }
@@ -329,11 +317,9 @@ TEST_F(NumberDrop, MayDestroyTheControlByAHandlerOfTheValue)
 TEST_F(NumberDrop, MayDestroyTheControlWhoseDigitsAreMoved)
 {
     screen.Restart("123");
-    screen.number->SetSelection(0, 1);
     const wxWeakRef<wxNumberCtrl> number(screen.number);
     number->Bind(wxEVT_NUMBER_CHANGED, [&](wxCommandEvent&) { number->Destroy(); });
-    const wxPoint middle = MiddleOf(*screen.number);
-    Drag(*screen.number, wxPoint(screen.number->ClientToScreen(wxPoint(12, 0)).x, middle.y), middle, false);
+    DragFirstDigit();
     EXPECT_TRUE(PumpUntil([&] { return !number; }));
 }
 

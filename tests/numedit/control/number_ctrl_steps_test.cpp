@@ -17,8 +17,6 @@ namespace {
 class NumberSteps : public testing::Test
 {
 protected:
-    void SetUp() override { screen.Show(); }
-
     NumberCtrlDialog screen{Bounded(-20, 35)};
 };
 
@@ -95,8 +93,7 @@ TEST_F(NumberSteps, FollowTheWheel)
 {
     screen.Restart("5");
     screen.Leave();
-    const wxSize size = screen.number->GetSize();
-    wxUIActionSimulator().MouseMove(screen.number->ClientToScreen(wxPoint(size.x / 2, size.y / 2)));
+    wxUIActionSimulator().MouseMove(screen.Middle());
     RunChild({"xdotool", "click", "4"});
     EXPECT_TRUE(PumpUntil([&] { return screen.number->GetDecimal() == "6"; }));
     RunChild({"xdotool", "click", "5"});
@@ -112,8 +109,6 @@ TEST_F(NumberSteps, FollowTheWheel)
 class NumberProblem : public testing::Test
 {
 protected:
-    void SetUp() override { screen.Show(); }
-
     bool LooksWrong() const
     {
         return gtk_style_context_has_class(gtk_widget_get_style_context(screen.number->m_widget),

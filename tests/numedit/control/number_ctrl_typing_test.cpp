@@ -16,8 +16,6 @@ namespace {
 class NumberTyping : public testing::Test
 {
 protected:
-    void SetUp() override { screen.Show(); }
-
     NumberCtrlDialog screen{FixedFormat()};
 };
 
@@ -132,7 +130,6 @@ TEST_F(NumberTyping, IsRefusedInSilenceWhereValidatorsAreSilent)
 TEST(NumberTypingWithinBounds, TakesTheBeginningOfEachNumber)
 {
     NumberCtrlDialog screen(Bounded(10, 20));
-    screen.Show();
     screen.Type("32x1");
     EXPECT_EQ(screen.Text(), L"2") << "2 is the beginning of 20";
     screen.Restart("");
@@ -145,11 +142,9 @@ TEST(NumberTypingWithinBounds, TakesTheBeginningOfEachNumber)
 TEST(NumberTypingWithinBounds, TakesTheMinusOfNegativeNumbersAlone)
 {
     NumberCtrlDialog screen(Bounded(-50, -1));
-    screen.Show();
     screen.Type("5-551");
     EXPECT_EQ(screen.Text(), L"-5");
     NumberCtrlDialog positive(Bounded(0, 50));
-    positive.Show();
     positive.Type("-5");
     EXPECT_EQ(positive.Text(), L"5");
 }
@@ -158,7 +153,6 @@ TEST(NumberTypingOnTheKeypad, GivesTheFormatsPoint)
 {
     const NumLock on;
     NumberCtrlDialog screen(FixedFormat(L','));
-    screen.Show();
     screen.Type("1");
     screen.PressRaw("91");
     screen.Type("5");
@@ -170,7 +164,6 @@ TEST(NumberTypingOnTheKeypad, GivesTheFormatsPointUnderTheGermanLayout)
 {
     const NumLock on;
     NumberCtrlDialog screen(FixedFormat(L'.'));
-    screen.Show();
     const Layout german({"-layout", "de"}, kKeypadDecimal, 1, "KP_Separator");
     screen.Type("1");
     screen.PressRaw("91");
@@ -224,14 +217,9 @@ class PasteOfASelection : public NumberTyping
 protected:
     void Paste(const wxString& text)
     {
-        const wxSize size = screen.number->GetSize();
-        screen.first->SetValue(text);
-        screen.first->SetFocus();
-        screen.first->SelectAll();
-        ASSERT_TRUE(PumpUntil([&] { return screen.first->HasFocus() && screen.first->GetStringSelection() == text; }));
-        PumpPending();
+        screen.SelectInFirst(text);
         wxUIActionSimulator mouse;
-        mouse.MouseMove(screen.number->ClientToScreen(wxPoint(size.x / 2, size.y / 2)));
+        mouse.MouseMove(screen.Middle());
         mouse.MouseClick(wxMOUSE_BTN_MIDDLE);
     }
 };
@@ -314,7 +302,6 @@ TEST_F(NumberTyping, RefusesWhatAComposingLayoutMakes)
 TEST(NumberTypingIntoAReadOnlyControl, ChangesNothing)
 {
     NumberCtrlDialog screen(FixedFormat(), wxDefaultValidator, wxTE_READONLY);
-    screen.Show();
     screen.Restart("12");
     screen.Type("3");
     screen.Press(WXK_UP);

@@ -28,8 +28,6 @@ CNumberFormat Wide()
 class NumberValue : public testing::Test
 {
 protected:
-    void SetUp() override { screen.Show(); }
-
     NumberCtrlDialog screen{Wide()};
     double real = 77;
     std::int64_t whole = 77;
@@ -274,7 +272,6 @@ TEST(TheUsersFormat, IsThatOfTheEnvironment)
     EXPECT_EQ(format.m_nDecimals, 2u);
     EXPECT_EQ(wxNumberCtrl::FromLocale(5).m_nDecimals, 5u);
     NumberCtrlDialog screen(format);
-    screen.Show();
     screen.number->SetNumber(1234.5);
     EXPECT_EQ(screen.Text(), L"1234,5");
     screen.Leave();

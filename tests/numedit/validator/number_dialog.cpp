@@ -108,6 +108,18 @@ void NumberDialog::Restart(const wxString& text, long caret)
     keys.characters.clear();
 }
 
+void NumberDialog::ExpectTextWithoutBell(const std::wstring& text) const
+{
+    EXPECT_EQ(Text(), text);
+    EXPECT_EQ(BellsRung(), 0);
+}
+
+void NumberDialog::ExpectTextAndBell(const std::wstring& text) const
+{
+    EXPECT_EQ(Text(), text);
+    EXPECT_EQ(BellsRung(), 1);
+}
+
 void KeysAndBells::Type(const std::string& characters)
 {
     wxUIActionSimulator keyboard;

@@ -93,10 +93,27 @@ public:
 
     std::wstring Text() const { return number->GetValue().ToStdWstring(); }
 
+    /// Expects this text, and that no bell rang.
+    void ExpectTextWithoutBell(const std::wstring& text) const;
+
+    /// Expects this text, and that one bell rang.
+    void ExpectTextAndBell(const std::wstring& text) const;
+
     wxDialog* dialog;
     wxTextCtrl* first;
     wxTextCtrl* number;
     int textEvents = 0;  ///< The number of wxEVT_TEXT events of the number's control.
+};
+
+/// A NumberDialog that is shown.
+class NumberOnScreen : public NumberDialog
+{
+public:
+    explicit NumberOnScreen(const CNumberFormat& format, const wxString& text = wxString(), long style = 0)
+        : NumberDialog(format, nullptr, style)
+    {
+        Show(text);
+    }
 };
 
 /// Turns off the bells of all validators while the object exists.

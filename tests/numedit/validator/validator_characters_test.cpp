@@ -15,24 +15,20 @@ using Codes = std::vector<int>;
 TEST(LatinLetter, IsRefused)
 {
     const Layout french({"fr"}, kKey2, 0, "eacute");
-    NumberDialog screen{FixedFormat()};
-    screen.Show("1");
+    NumberOnScreen screen{FixedFormat(), "1"};
     screen.PressRaw(std::to_string(kKey2));
     EXPECT_EQ(screen.keys.characters, L"\u00E9");
-    EXPECT_EQ(screen.Text(), L"1");
+    screen.ExpectTextAndBell(L"1");
     EXPECT_EQ(screen.textEvents, 0);
-    EXPECT_EQ(screen.BellsRung(), 1);
 }
 
 TEST(LatinLetter, IsTakenAsTheFormatsPoint)
 {
     const Layout french({"fr"}, kKey2, 0, "eacute");
-    NumberDialog screen{FixedFormat(0xE9)};
-    screen.Show("1");
+    NumberOnScreen screen{FixedFormat(0xE9), "1"};
     screen.PressRaw(std::to_string(kKey2));
-    EXPECT_EQ(screen.Text(), L"1\u00E9");
+    screen.ExpectTextWithoutBell(L"1\u00E9");
     EXPECT_EQ(screen.textEvents, 1);
-    EXPECT_EQ(screen.BellsRung(), 0);
 }
 
 class CharacterWithoutKeyCode : public testing::Test
@@ -64,9 +60,8 @@ TEST_P(ForeignCharacter, IsRefused)
 {
     NumberDialog screen{FixedFormat()};
     TypeBehindOne(screen, GetParam().character);
-    EXPECT_EQ(screen.Text(), L"1");
+    screen.ExpectTextAndBell(L"1");
     EXPECT_EQ(screen.textEvents, 0);
-    EXPECT_EQ(screen.BellsRung(), 1);
 }
 
 INSTANTIATE_TEST_SUITE_P(, ForeignCharacter,
@@ -78,25 +73,21 @@ TEST_F(CharacterWithoutKeyCode, IsTakenAsTheFormatsPoint)
 {
     NumberDialog screen{FixedFormat(0x66B)};
     TypeBehindOne(screen, 0x66B);
-    EXPECT_EQ(screen.Text(), L"1\u066B");
+    screen.ExpectTextWithoutBell(L"1\u066B");
     EXPECT_EQ(screen.textEvents, 1);
-    EXPECT_EQ(screen.BellsRung(), 0);
     screen.PressRaw(std::to_string(kKeyA));
-    EXPECT_EQ(screen.Text(), L"1\u066B");
+    screen.ExpectTextAndBell(L"1\u066B");
     EXPECT_EQ(screen.textEvents, 1);
-    EXPECT_EQ(screen.BellsRung(), 1);
 }
 
 TEST(EuroSign, OfAGermanKeyboardIsRefused)
 {
     const Layout german({"de"}, kKeyE, 2, "EuroSign");
-    NumberDialog screen{FixedFormat()};
-    screen.Show("1");
+    NumberOnScreen screen{FixedFormat(), "1"};
     screen.PressRaw("ISO_Level3_Shift+" + std::to_string(kKeyE));
     EXPECT_EQ(screen.keys.chars.back(), 0);
-    EXPECT_EQ(screen.Text(), L"1");
+    screen.ExpectTextAndBell(L"1");
     EXPECT_EQ(screen.textEvents, 0);
-    EXPECT_EQ(screen.BellsRung(), 1);
 }
 
 class DeadAccent : public testing::Test
@@ -104,22 +95,20 @@ class DeadAccent : public testing::Test
 protected:
     void SetUp() override
     {
-        screen.Show("1");
         screen.PressRaw(std::to_string(kKeyApostrophe));
         EXPECT_EQ(screen.Text(), L"1");
         EXPECT_EQ(screen.BellsRung(), 0) << "a dead key alone types no character";
     }
 
     Layout international{{"-layout", "us", "-variant", "intl"}, kKeyApostrophe, 0, "dead_acute"};
-    NumberDialog screen{FixedFormat()};
+    NumberOnScreen screen{FixedFormat(), "1"};
 };
 
 TEST_F(DeadAccent, OnALetterIsRefusedOnce)
 {
     screen.PressRaw(std::to_string(kKeyE));
     EXPECT_EQ(screen.keys.characters, L"\u00E9");
-    EXPECT_EQ(screen.Text(), L"1");
-    EXPECT_EQ(screen.BellsRung(), 1);
+    screen.ExpectTextAndBell(L"1");
 }
 
 // The input method commits the accent and the digit together. If one of them is refused, neither is inserted.
@@ -127,12 +116,10 @@ TEST_F(DeadAccent, BeforeADigitIsRefusedWithTheDigit)
 {
     screen.PressRaw(std::to_string(kKey1));
     EXPECT_EQ(screen.keys.characters, L"\u00B4");
-    EXPECT_EQ(screen.Text(), L"1");
+    screen.ExpectTextAndBell(L"1");
     EXPECT_EQ(screen.textEvents, 0);
-    EXPECT_EQ(screen.BellsRung(), 1);
     screen.PressRaw(std::to_string(kKey1));
-    EXPECT_EQ(screen.Text(), L"11");
-    EXPECT_EQ(screen.BellsRung(), 1);
+    screen.ExpectTextAndBell(L"11");
 }
 
 }  // namespace

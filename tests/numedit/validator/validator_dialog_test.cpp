@@ -214,12 +214,11 @@ class Validation : public testing::Test
 protected:
     void SetUp() override
     {
-        screen.Show("12");
         screen.first->SetFocus();
         ASSERT_TRUE(PumpUntil([&] { return screen.first->HasFocus(); }));
     }
 
-    NumberDialog screen{FixedFormat()};
+    NumberOnScreen screen{FixedFormat(), "12"};
 };
 
 TEST_F(Validation, LeavesTheFocusWhenTheTextIsGood)

@@ -23,15 +23,13 @@ protected:
 
 TEST_F(Keypad, TypesTheFormatsPoint)
 {
-    NumberDialog screen{FixedFormat(L',')};
-    screen.Show("1");
+    NumberOnScreen screen{FixedFormat(L','), "1"};
     screen.PressRaw(kDecimalKey);
     EXPECT_EQ(screen.keys.down, Codes{391});
     EXPECT_EQ(screen.keys.chars, Codes{46});
-    EXPECT_EQ(screen.Text(), L"1,");
+    screen.ExpectTextWithoutBell(L"1,");
     EXPECT_EQ(screen.number->GetInsertionPoint(), 2);
     EXPECT_EQ(screen.textEvents, 1);
-    EXPECT_EQ(screen.BellsRung(), 0);
     screen.PressRaw(kOneKey);
     screen.Type("5");
     EXPECT_EQ(screen.Text(), L"1,15");
@@ -40,8 +38,7 @@ TEST_F(Keypad, TypesTheFormatsPoint)
 
 TEST_F(Keypad, TypesAPointOnce)
 {
-    NumberDialog screen{FixedFormat()};
-    screen.Show("1");
+    NumberOnScreen screen{FixedFormat(), "1"};
     screen.PressRaw(kDecimalKey);
     EXPECT_EQ(screen.Text(), L"1.");
     EXPECT_EQ(screen.textEvents, 1);
@@ -49,8 +46,7 @@ TEST_F(Keypad, TypesAPointOnce)
 
 TEST_F(Keypad, TypesInTheMiddle)
 {
-    NumberDialog screen{FixedFormat(L',')};
-    screen.Show("1234");
+    NumberOnScreen screen{FixedFormat(L','), "1234"};
     screen.number->SetInsertionPoint(2);
     screen.PressRaw(kDecimalKey);
     EXPECT_EQ(screen.Text(), L"12,34");
@@ -59,70 +55,57 @@ TEST_F(Keypad, TypesInTheMiddle)
 
 TEST_F(Keypad, TypesAPointThatNoKeyHas)
 {
-    NumberDialog screen{FixedFormat(0x66B)};
-    screen.Show("1");
+    NumberOnScreen screen{FixedFormat(0x66B), "1"};
     screen.PressRaw(kDecimalKey);
     screen.Type("5");
-    EXPECT_EQ(screen.Text(), L"1\u066B5");
-    EXPECT_EQ(screen.BellsRung(), 0);
+    screen.ExpectTextWithoutBell(L"1\u066B5");
 }
 
 TEST_F(Keypad, TypesItsOwnCharacterWhereTheFormatHasNoPoint)
 {
-    NumberDialog screen{FixedFormat(0)};
-    screen.Show("1");
+    NumberOnScreen screen{FixedFormat(0), "1"};
     screen.PressRaw(kDecimalKey);
-    EXPECT_EQ(screen.Text(), L"1.");
+    screen.ExpectTextWithoutBell(L"1.");
     EXPECT_EQ(screen.textEvents, 1);
-    EXPECT_EQ(screen.BellsRung(), 0);
 }
 
 TEST_F(Keypad, ReplacesASelection)
 {
-    NumberDialog screen{FixedFormat(L',')};
-    screen.Show("1234");
+    NumberOnScreen screen{FixedFormat(L','), "1234"};
     screen.number->SetSelection(1, 3);
     screen.PressRaw(kDecimalKey);
-    EXPECT_EQ(screen.Text(), L"1,4");
+    screen.ExpectTextWithoutBell(L"1,4");
     EXPECT_EQ(screen.number->GetInsertionPoint(), 2);
-    EXPECT_EQ(screen.BellsRung(), 0);
 }
 
 TEST_F(Keypad, IsRefusedAsASecondPoint)
 {
-    NumberDialog screen{FixedFormat(L',')};
-    screen.Show("1,2");
+    NumberOnScreen screen{FixedFormat(L','), "1,2"};
     screen.PressRaw(kDecimalKey);
-    EXPECT_EQ(screen.Text(), L"1,2");
+    screen.ExpectTextAndBell(L"1,2");
     EXPECT_EQ(screen.number->GetInsertionPoint(), 3);
     EXPECT_EQ(screen.textEvents, 0);
-    EXPECT_EQ(screen.BellsRung(), 1);
 }
 
 TEST_F(Keypad, IsRefusedWithoutDecimals)
 {
-    NumberDialog screen{CNumberFormat(eLocaleFormat)};
-    screen.Show("1");
+    NumberOnScreen screen{CNumberFormat(eLocaleFormat), "1"};
     screen.PressRaw(kDecimalKey);
-    EXPECT_EQ(screen.Text(), L"1");
+    screen.ExpectTextAndBell(L"1");
     EXPECT_EQ(screen.textEvents, 0);
-    EXPECT_EQ(screen.BellsRung(), 1);
 }
 
 TEST_F(Keypad, IsRefusedInSilenceWhenValidatorsAreSilent)
 {
     const SilentValidators silence;
-    NumberDialog screen{FixedFormat(L',')};
-    screen.Show("1,2");
+    NumberOnScreen screen{FixedFormat(L','), "1,2"};
     screen.PressRaw(kDecimalKey);
-    EXPECT_EQ(screen.Text(), L"1,2");
-    EXPECT_EQ(screen.BellsRung(), 0);
+    screen.ExpectTextWithoutBell(L"1,2");
 }
 
 TEST_F(Keypad, LeavesAReadOnlyControlAlone)
 {
-    NumberDialog screen(FixedFormat(L','), nullptr, wxTE_READONLY);
-    screen.Show("1");
+    NumberOnScreen screen(FixedFormat(L','), "1", wxTE_READONLY);
     screen.PressRaw(kDecimalKey);
     EXPECT_EQ(screen.keys.down, Codes{391});
     EXPECT_EQ(screen.keys.chars, Codes{});
@@ -132,46 +115,39 @@ TEST_F(Keypad, LeavesAReadOnlyControlAlone)
 
 TEST_F(Keypad, TypesDigits)
 {
-    NumberDialog screen{FixedFormat()};
-    screen.Show("1234");
+    NumberOnScreen screen{FixedFormat(), "1234"};
     screen.PressRaw(kOneKey);
     EXPECT_EQ(screen.keys.down, Codes{325});
     EXPECT_EQ(screen.Text(), L"12341");
     screen.PressRaw(kOneKey);
-    EXPECT_EQ(screen.Text(), L"12341");
-    EXPECT_EQ(screen.BellsRung(), 1);
+    screen.ExpectTextAndBell(L"12341");
 }
 
 // The main keyboard's key for the point is not a keypad key, even if it types the same character as the keypad's key.
 TEST_F(Keypad, IsNotTheMainKeyboardsPoint)
 {
-    NumberDialog screen{FixedFormat(L',')};
-    screen.Show("1");
+    NumberOnScreen screen{FixedFormat(L','), "1"};
     screen.Type(".");
     EXPECT_EQ(screen.Text(), L"1.");
 }
 
 TEST(KeypadWithoutNumLock, Deletes)
 {
-    NumberDialog screen{FixedFormat(L',')};
-    screen.Show("12");
+    NumberOnScreen screen{FixedFormat(L','), "12"};
     screen.number->SetInsertionPoint(0);
     screen.PressRaw(kDecimalKey);
     EXPECT_EQ(screen.keys.down, Codes{385});
-    EXPECT_EQ(screen.Text(), L"2");
-    EXPECT_EQ(screen.BellsRung(), 0);
+    screen.ExpectTextWithoutBell(L"2");
 }
 
 TEST(KeypadWithoutNumLock, MovesTheCaret)
 {
-    NumberDialog screen{FixedFormat(L',')};
-    screen.Show("12345");
+    NumberOnScreen screen{FixedFormat(L','), "12345"};
     screen.number->SetInsertionPoint(0);
     screen.PressRaw(kOneKey);
     EXPECT_EQ(screen.keys.down, Codes{382});
     EXPECT_EQ(screen.number->GetInsertionPoint(), 5);
-    EXPECT_EQ(screen.Text(), L"12345");
-    EXPECT_EQ(screen.BellsRung(), 0);
+    screen.ExpectTextWithoutBell(L"12345");
 }
 
 // In the German layout, the decimal key types a comma and has another key code. Therefore the validator treats the
@@ -185,23 +161,19 @@ protected:
 
 TEST_F(GermanKeypad, TypesTheLayoutsComma)
 {
-    NumberDialog screen{FixedFormat(L',')};
-    screen.Show("1");
+    NumberOnScreen screen{FixedFormat(L','), "1"};
     screen.PressRaw(kDecimalKey);
     EXPECT_EQ(screen.keys.down, Codes{389});
     EXPECT_EQ(screen.keys.chars, Codes{44});
-    EXPECT_EQ(screen.Text(), L"1,");
+    screen.ExpectTextWithoutBell(L"1,");
     EXPECT_EQ(screen.textEvents, 1);
-    EXPECT_EQ(screen.BellsRung(), 0);
 }
 
 TEST_F(GermanKeypad, IsRefusedWhereTheFormatHasAPoint)
 {
-    NumberDialog screen{FixedFormat()};
-    screen.Show("1");
+    NumberOnScreen screen{FixedFormat(), "1"};
     screen.PressRaw(kDecimalKey);
-    EXPECT_EQ(screen.Text(), L"1");
-    EXPECT_EQ(screen.BellsRung(), 1);
+    screen.ExpectTextAndBell(L"1");
 }
 
 TEST_F(Keypad, TypesTheLocalesPoint)
@@ -210,17 +182,14 @@ TEST_F(Keypad, TypesTheLocalesPoint)
     CNumberFormat format(eLocaleFormat);
     format.m_bHasDecimals = true;
     format.m_nDecimals = 2;
-    NumberDialog screen(format);
-    screen.Show("1");
+    NumberOnScreen screen(format, "1");
     screen.PressRaw(kDecimalKey);
     EXPECT_EQ(screen.keys.chars, Codes{46});
     EXPECT_EQ(screen.Text(), L"1,");
     screen.Type("5");
-    EXPECT_EQ(screen.Text(), L"1,5");
-    EXPECT_EQ(screen.BellsRung(), 0);
+    screen.ExpectTextWithoutBell(L"1,5");
     screen.Type(".");
-    EXPECT_EQ(screen.Text(), L"1,5");
-    EXPECT_EQ(screen.BellsRung(), 1);
+    screen.ExpectTextAndBell(L"1,5");
 }
 
 // The decimal key of the French keypad types a point. The validator inserts the format's comma instead.
@@ -228,13 +197,11 @@ TEST(FrenchKeypad, TypesTheFormatsComma)
 {
     const Layout french({"fr"}, kKey2, 0, "eacute");
     const NumLock numLock;
-    NumberDialog screen{FixedFormat(L',')};
-    screen.Show("1");
+    NumberOnScreen screen{FixedFormat(L','), "1"};
     screen.PressRaw(kDecimalKey);
     EXPECT_EQ(screen.keys.down, Codes{391});
-    EXPECT_EQ(screen.Text(), L"1,");
+    screen.ExpectTextWithoutBell(L"1,");
     EXPECT_EQ(screen.textEvents, 1);
-    EXPECT_EQ(screen.BellsRung(), 0);
 }
 
 }  // namespace

@@ -18,7 +18,6 @@ class RefusedKey : public testing::Test
 protected:
     void SetUp() override
     {
-        screen.Show();
         screen.Restart("12345", 0);
         screen.number->DiscardEdits();
     }
@@ -48,7 +47,7 @@ protected:
         EXPECT_EQ(screen.number->GetInsertionPoint(), caret);
     }
 
-    NumberDialog screen{FixedFormat()};
+    NumberOnScreen screen{FixedFormat()};
 };
 
 TEST_F(RefusedKey, LeavesTheSelection)
@@ -185,15 +184,13 @@ TEST_F(RefusedKey, OfAnInputMethodLeavesItToAKeyThatIsTaken)
 
 TEST(RefusedKeypadKey, LeavesTheSelection)
 {
-    NumberDialog screen{FixedFormat()};
-    screen.Show();
+    NumberOnScreen screen{FixedFormat()};
     screen.Restart("1.345", 0);
     screen.number->SetSelection(3, 4);
     const NumLock numLock;
     screen.PressRaw(std::to_string(kKeypadDecimal));
-    EXPECT_EQ(screen.Text(), L"1.345");
+    screen.ExpectTextAndBell(L"1.345");
     EXPECT_EQ(screen.number->GetStringSelection(), "4");
-    EXPECT_EQ(screen.BellsRung(), 1);
     EXPECT_EQ(screen.textEvents, 0);
 }
 
