@@ -131,14 +131,12 @@ TEST_P(ClockJumps, NeitherEndNorProlongAWaitOfLimitedTime)
 TEST_P(ClockJumps, DoNotKeepAThreadsEventsNorStopIt)
 {
     Recorder handler;
-    Working<wxGUIThread> thread(
-        [&](Working<wxGUIThread>& self) {
-            for (int i = 0; i < 3; ++i) {
-                self.PostEvent(7, i, 0L);
-                clock.Jump(i % 2 == 0 ? GetParam() : 0);
-            }
-        },
-        &handler);
+    Working<wxGUIThread> thread(&handler, [&](Working<wxGUIThread>& self) {
+        for (int i = 0; i < 3; ++i) {
+            self.PostEvent(7, i, 0L);
+            clock.Jump(i % 2 == 0 ? GetParam() : 0);
+        }
+    });
     thread.Create(0);
     thread.Run();
     EXPECT_EQ(thread.Wait(), Code(0));
