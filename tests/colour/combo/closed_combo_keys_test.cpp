@@ -36,13 +36,6 @@ protected:
         ASSERT_TRUE(PumpUntil([&] { return ContainsFocus(*on.combo); }));
     }
 
-    void TearDown() override
-    {
-        // Remove the listener, so that the destruction of the popup does not call it.
-        if (popup)
-            popup->SetColorListener(nullptr);
-    }
-
     // Presses a key, and waits until the key has been released or the focus has moved.
     void Press(int key)
     {

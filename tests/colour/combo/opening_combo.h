@@ -29,13 +29,6 @@ protected:
         combo.m_animDuration = 2000000;
     }
 
-    ~OpeningCombo()
-    {
-        // Remove the listener, so that the destruction of the popup does not call it.
-        if (popup)
-            popup->SetColorListener(nullptr);
-    }
-
     /// Opens the popup with F4. Waits until the animation runs or, if @a isAnimated is false, until the popup is shown.
     void Open(bool isAnimated = true)
     {
@@ -69,6 +62,7 @@ protected:
 
     Notes Take() { return std::exchange(notes, {}); }
 
+    // The destruction of the popup may call the listener, so the popup is destroyed first.
     Notes notes;
     ColourListener listener;
     ComboOnScreen<> on;
