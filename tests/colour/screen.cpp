@@ -22,3 +22,13 @@ wxImage GrabScreen(const wxRect& rect)
     XDestroyImage(seen);
     return grabbed;
 }
+
+int PixelOf(const wxImage& image, int x, int y)
+{
+    return image.GetRed(x, y) << 16 | image.GetGreen(x, y) << 8 | image.GetBlue(x, y);
+}
+
+int PixelOfScreen(const wxPoint& at)
+{
+    return PixelOf(GrabScreen(wxRect(at, wxSize(1, 1))), 0, 0);
+}

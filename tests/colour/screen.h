@@ -8,4 +8,10 @@
 /// connection, because wxScreenDC can return old pixels.
 wxImage GrabScreen(const wxRect& rect);
 
+/// Returns a pixel of an image as 0xRRGGBB.
+int PixelOf(const wxImage& image, int x, int y);
+
+/// Returns a pixel of the screen as 0xRRGGBB.
+int PixelOfScreen(const wxPoint& at);
+
 #endif

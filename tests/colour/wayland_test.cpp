@@ -77,12 +77,6 @@ protected:
                 {"DISPLAY", std::nullopt}};
     }
 
-    static int Pixel(const wxPoint& at)
-    {
-        const wxImage seen = GrabScreen(wxRect(at, wxSize(1, 1)));
-        return seen.GetRed(0, 0) << 16 | seen.GetGreen(0, 0) << 8 | seen.GetBlue(0, 0);
-    }
-
     // Returns the rectangle of the combo on the X screen.
     static wxRect Combo(const WatchedProbe& probe)
     {
@@ -102,7 +96,7 @@ protected:
     }
 
     // Returns whether the cell with this middle is hot. A hot cell has a black line one pixel inside its right edge.
-    static bool IsHot(const wxPoint& middle) { return Pixel(middle + wxPoint(7, 0)) == 0; }
+    static bool IsHot(const wxPoint& middle) { return PixelOfScreen(middle + wxPoint(7, 0)) == 0; }
 
     // Call this after the hot cell has moved from cell 0 to cell 1. Expects that this move repainted the two cells and
     // the four sides of the frame. Expects that the whole popup was repainted only once, when it opened.
@@ -169,7 +163,7 @@ TEST_F(ColourOnWayland, IsUsedByKeyboard)
     Xdotool({"key", "Return"});
     ASSERT_TRUE(probe.Waits("end #A52A00"));
     const wxPoint face = combo.GetPosition() + wxPoint(20, combo.height / 2);
-    EXPECT_TRUE(Becomes([&] { return Pixel(face) == 0xA52A00; }));
+    EXPECT_TRUE(Becomes([&] { return PixelOfScreen(face) == 0xA52A00; }));
 
     Xdotool({"key", "alt+Down"});
     ASSERT_TRUE(probe.Waits("popup ", 2));

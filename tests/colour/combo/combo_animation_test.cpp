@@ -134,12 +134,21 @@ protected:
         return shape;
     }
 
-    static int Pixel(int x, int y)
+    static int Pixel(int x, int y) { return PixelOfScreen(wxPoint(x, y)); }
+
+    // Starts another timer with the combo as its owner, and waits for three of its ticks.
+    void WaitForAnotherTimer()
     {
-        const wxImage seen = GrabScreen(wxRect(x, y, 1, 1));
-        return seen.GetRed(0, 0) << 16 | seen.GetGreen(0, 0) << 8 | seen.GetBlue(0, 0);
+        on.combo->Bind(wxEVT_TIMER, [this](wxTimerEvent& event) {
+            ++ticksOfAnotherTimer;
+            event.Skip();
+        });
+        wxTimer other(on.combo);
+        other.Start(5);
+        EXPECT_TRUE(PumpUntil([&] { return ticksOfAnotherTimer >= 3; }));
     }
 
+    int ticksOfAnotherTimer = 0;
     const ComboOnScreen<> on;
 };
 
@@ -449,14 +458,7 @@ TEST_F(ColourAnimation, WorksAtAndBeyondTheScreensEdge)
 // A host may start a timer of its own with the combo as the owner. The ticks of that timer do not open the popup.
 TEST_F(ColourAnimation, IsNotStartedByAnotherTimer)
 {
-    int ticks = 0;
-    on.combo->Bind(wxEVT_TIMER, [&](wxTimerEvent& event) {
-        ++ticks;
-        event.Skip();
-    });
-    wxTimer other(on.combo);
-    other.Start(5);
-    EXPECT_TRUE(PumpUntil([&] { return ticks >= 3; }));
+    WaitForAnotherTimer();
     EXPECT_FALSE(on.combo->IsPopupShown());
 }
 
@@ -465,14 +467,7 @@ TEST_F(ColourAnimation, IsNotGoneThroughAgainByAnotherTimer)
     on.combo->Popup();
     ExpectShown();
     const std::size_t shown = on.combo->shown.size();
-    int ticks = 0;
-    on.combo->Bind(wxEVT_TIMER, [&](wxTimerEvent& event) {
-        ++ticks;
-        event.Skip();
-    });
-    wxTimer other(on.combo);
-    other.Start(5);
-    EXPECT_TRUE(PumpUntil([&] { return ticks >= 3; }));
+    WaitForAnotherTimer();
     EXPECT_EQ(on.combo->shown.size(), shown);
 }
 

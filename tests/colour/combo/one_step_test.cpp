@@ -48,11 +48,7 @@ struct OneStep
         EXPECT_TRUE(ShowAndSettle(frame));
     }
 
-    int FaceOnScreen() const
-    {
-        const wxImage seen = GrabScreen(wxRect(combo->ClientToScreen(wxPoint(30, 12)), wxSize(1, 1)));
-        return seen.GetRed(0, 0) << 16 | seen.GetGreen(0, 0) << 8 | seen.GetBlue(0, 0);
-    }
+    int FaceOnScreen() const { return PixelOfScreen(combo->ClientToScreen(wxPoint(30, 12))); }
 
     // Returns the chosen cell of the popup. Only a class derived from wxColourPopup can read m_nChosenColourSel.
     int Chosen() const

@@ -224,12 +224,6 @@ namespace {
 
 constexpr int kUntouched = 0xFF00FF;
 
-// Returns the colour of a pixel as 0xRRGGBB.
-int PixelOf(const wxImage& image, int x, int y)
-{
-    return image.GetRed(x, y) << 16 | image.GetGreen(x, y) << 8 | image.GetBlue(x, y);
-}
-
 // A popup in a window on the screen. The tests paint over it, so that new drawing can be recognised.
 class HotCellOnScreen : public testing::Test
 {

@@ -66,6 +66,15 @@ protected:
         popup->DrawCellRect(&picture.dc, rect, 0);
     }
 
+    // Adds both boxes to the popup. The texts are blanks, so no letters are drawn in the boxes.
+    void AddBoxes()
+    {
+        popup->m_strAutomatic = " ";
+        popup->m_strMoreColours = " ";
+        popup->m_rectAutomatic = wxRect(2, 2, 145, 30);
+        popup->m_rectMoreColours = wxRect(2, 128, 145, 30);
+    }
+
     std::string BlackRow()
     {
         return Runs([&](int x) { return picture.At(x, 12); }, 24);
@@ -124,13 +133,9 @@ TEST_F(ColourPixels, OfTheGrid)
     EXPECT_EQ(picture.At(11, 29), wxColour(139, 0, 0));
 }
 
-// The texts are blanks, so no letters are drawn in the boxes.
 TEST_F(ColourPixels, OfTheBoxes)
 {
-    popup->m_strAutomatic = " ";
-    popup->m_strMoreColours = " ";
-    popup->m_rectAutomatic = wxRect(2, 2, 145, 30);
-    popup->m_rectMoreColours = wxRect(2, 128, 145, 30);
+    AddBoxes();
     popup->SetSize(148, 162);
     popup->DoDrawControl(&picture.dc);
     // This column lies between two columns of cells. It crosses the frame, the upper box with its outline, a gap, the
@@ -144,10 +149,7 @@ TEST_F(ColourPixels, OfTheBoxes)
 
 TEST_F(ColourPixels, OfTheHotAndTheChosenBox)
 {
-    popup->m_strAutomatic = " ";
-    popup->m_strMoreColours = " ";
-    popup->m_rectAutomatic = wxRect(2, 2, 145, 30);
-    popup->m_rectMoreColours = wxRect(2, 128, 145, 30);
+    AddBoxes();
     popup->m_nCurrentSel = CELL_AUTOMATIC;
     popup->m_nChosenColourSel = CELL_MORE_COLOURS;
     popup->DrawCell(&picture.dc, CELL_AUTOMATIC);
@@ -176,8 +178,7 @@ TEST(ColourWindow, ShowsItsCellsAndFrame)
     wxImage seen;
     EXPECT_TRUE(PumpUntil([&] {
         seen = GrabScreen(wxRect(popup->ClientToScreen(wxPoint(0, 0)), popup->GetSize()));
-        return seen.GetRed(orange.x, orange.y) == 255 && seen.GetGreen(orange.x, orange.y) == 104 &&
-               seen.GetBlue(orange.x, orange.y) == 32;
+        return PixelOf(seen, orange.x, orange.y) == 0xFF6820;
     }));
     const wxColour frame = wxSystemSettings::GetColour(wxSYS_COLOUR_BTNHIGHLIGHT);
     EXPECT_EQ(wxColour(seen.GetRed(1, 50), seen.GetGreen(1, 50), seen.GetBlue(1, 50)), frame);
