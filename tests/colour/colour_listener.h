@@ -23,6 +23,15 @@ public:
     /// Returns the calls since the last Take().
     ColourCalls Take() { return std::exchange(m_calls, {}); }
 
+    /// From now on, runs @a act within each call of this name.
+    void During(const std::string& name, const std::function<void()>& act)
+    {
+        during = [name, act](const std::string& call) {
+            if (call == name)
+                act();
+        };
+    }
+
     std::function<void(const std::string& call)> during;  ///< Runs within each call; receives the call's name.
 
 private:

@@ -65,6 +65,24 @@ protected:
         EXPECT_TRUE(PumpUntil([&] { return !combo->IsPopupShown(); })) << "the popup is shown";
     }
 
+    void Open()
+    {
+        Press(WXK_F4);
+        ExpectShown();
+    }
+
+    void OpenByMouse()
+    {
+        ClickButton();
+        ExpectShown();
+    }
+
+    void CloseBy(int key)
+    {
+        Press(key);
+        ExpectHidden();
+    }
+
     void ExpectCalls(const ColourCalls& calls)
     {
         ColourCalls seen;
@@ -92,8 +110,7 @@ private:
 
 TEST_F(ColourComboInUse, GivesTheColourThatIsClicked)
 {
-    ClickButton();
-    ExpectShown();
+    OpenByMouse();
     PointToCell(19);
     PointToCell(20);
     ExpectCalls({"popup", "change #3CB371", "change #7FFFD4"});
@@ -121,8 +138,7 @@ TEST_F(ColourComboInUse, OpensByAClickOnItsFace)
 TEST_F(ColourComboInUse, IsCancelledByAClickOutside)
 {
     combo->SetText("Blue");
-    ClickButton();
-    ExpectShown();
+    OpenByMouse();
     PointToCell(16);
     ExpectCalls({"popup", "change #FF0000"});
     PointTo(panel->ClientToScreen(wxPoint(400, 300)));
@@ -137,8 +153,7 @@ TEST_F(ColourComboInUse, IsClosedByAClickOnItsButton)
 {
     // Open the popup with a key, because a second click on the button could count as a double click.
     combo->SetFocus();
-    Press(WXK_F4);
-    ExpectShown();
+    Open();
     PointToCell(16);
     ExpectCalls({"popup", "change #FF0000"});
     ClickButton();
@@ -149,8 +164,7 @@ TEST_F(ColourComboInUse, IsClosedByAClickOnItsButton)
 
 TEST_F(ColourComboInUse, ChoosesTheHotCellByAClickBetweenTheCells)
 {
-    ClickButton();
-    ExpectShown();
+    OpenByMouse();
     PointToCell(16);
     ExpectCalls({"popup", "change #FF0000"});
     // Click at a point in the margin at the popup's left edge, below the grid.
@@ -186,19 +200,15 @@ TEST_P(ColourComboByKeys, IsReachedByTab)
 
 TEST_P(ColourComboByKeys, IsReachedByTabOnceThePopupHasBeenOpen)
 {
-    Press(WXK_F4);
-    ExpectShown();
-    Press(WXK_ESCAPE);
-    ExpectHidden();
+    Open();
+    CloseBy(WXK_ESCAPE);
     EXPECT_TRUE(PumpUntil([&] { return ContainsFocus(*combo); }));
     Press(WXK_TAB);
     EXPECT_TRUE(PumpUntil([&] { return after->HasFocus(); }));
     Press(WXK_TAB, wxMOD_SHIFT);
     EXPECT_TRUE(PumpUntil([&] { return ContainsFocus(*combo); }));
-    Press(WXK_F4);
-    ExpectShown();
-    Press(WXK_ESCAPE);
-    ExpectHidden();
+    Open();
+    CloseBy(WXK_ESCAPE);
 }
 
 TEST_P(ColourComboByKeys, IsReachedByTheMnemonicOfItsLabel)
@@ -219,16 +229,14 @@ TEST_P(ColourComboByKeys, IsReachedByTheMnemonicOfItsLabel)
 
 TEST_P(ColourComboByKeys, OpensByF4AndGivesTheColourOfReturn)
 {
-    Press(WXK_F4);
-    ExpectShown();
+    Open();
     Press(WXK_UP);
     Press(WXK_RIGHT);
     Press(WXK_DOWN);
     Press(WXK_DOWN);
     Press(WXK_LEFT);
     ExpectCalls({"popup", "change #000000", "change #000000", "change #8B0000", "change #FF0000", "change #666666"});
-    Press(WXK_RETURN);
-    ExpectHidden();
+    CloseBy(WXK_RETURN);
     ExpectCalls({"end #666666"});
     EXPECT_EQ(combo->GetValue(), "Grey - 40");
 }
@@ -237,23 +245,19 @@ TEST_P(ColourComboByKeys, OpensByF4AndGivesTheColourOfReturn)
 TEST_P(ColourComboByKeys, ForgetsTheNameAtThePointerWhenItOpensAgain)
 {
     PointTo(frame->GetScreenRect().GetTopRight() + wxPoint(50, 0));
-    Press(WXK_F4);
-    ExpectShown();
+    Open();
     Press(WXK_UP);
     Press(WXK_RIGHT);
     EXPECT_TRUE(PumpUntil([&] { return popup->GetToolTipText() == "Black"; }));
-    Press(WXK_RETURN);
-    ExpectHidden();
+    CloseBy(WXK_RETURN);
     EXPECT_EQ(combo->GetValue(), "Black");
 
-    Press(WXK_F4);
-    ExpectShown();
+    Open();
     EXPECT_EQ(popup->GetToolTipText(), "");
     EXPECT_EQ(popup->m_strToolTip, "");
     PointToCell(0);
     EXPECT_TRUE(PumpUntil([&] { return popup->GetToolTipText() == "Black"; })) << "a hovered cell shows its name";
-    Press(WXK_ESCAPE);
-    ExpectHidden();
+    CloseBy(WXK_ESCAPE);
 }
 
 TEST_P(ColourComboByKeys, OpensByAltDownAndClosesByEscape)
@@ -264,8 +268,7 @@ TEST_P(ColourComboByKeys, OpensByAltDownAndClosesByEscape)
     Press(WXK_DOWN);
     Press(WXK_RIGHT);
     ExpectCalls({"popup", "change #000000", "change #000000", "change #A52A00"});
-    Press(WXK_ESCAPE);
-    ExpectHidden();
+    CloseBy(WXK_ESCAPE);
     ExpectCalls({"cancel #0000FF"});
     EXPECT_EQ(combo->GetValue(), "");
     EXPECT_EQ(popup->m_crInitialColour, *wxBLUE);
@@ -273,29 +276,25 @@ TEST_P(ColourComboByKeys, OpensByAltDownAndClosesByEscape)
 
 TEST_P(ColourComboByKeys, ChoosesBySpace)
 {
-    Press(WXK_F4);
-    ExpectShown();
+    Open();
     Press(WXK_UP);
     Press(WXK_DOWN);
     ExpectCalls({"popup", "change #000000", "change #000000"});
-    Press(WXK_SPACE);
-    ExpectHidden();
+    CloseBy(WXK_SPACE);
     ExpectCalls({"end #000000"});
     EXPECT_EQ(combo->GetValue(), "Black");
 }
 
 TEST_P(ColourComboByKeys, IgnoresOtherKeysWhileItIsOpen)
 {
-    Press(WXK_F4);
-    ExpectShown();
+    Open();
     for (const int key : {int(WXK_TAB), int('a'), int(WXK_F4), int(WXK_HOME)})
         Press(key);
     Press(WXK_UP);
     ExpectCalls({"popup", "change #000000"});
     EXPECT_TRUE(combo->IsPopupShown());
     EXPECT_FALSE(after->HasFocus());
-    Press(WXK_ESCAPE);
-    ExpectHidden();
+    CloseBy(WXK_ESCAPE);
 }
 
 INSTANTIATE_TEST_SUITE_P(, ColourComboByKeys, testing::Values(wxCB_READONLY, 0), NameOfStyle);
@@ -340,8 +339,7 @@ class ColourComboRemoved : public ColourComboInUse, public testing::WithParamInt
 protected:
     void Use()
     {
-        ClickButton();
-        ExpectShown();
+        OpenByMouse();
         if (GetParam().byMouse)
             PointToCell(16);
         else
@@ -358,10 +356,7 @@ protected:
 
 TEST_P(ColourComboRemoved, LeavesNothingBehind)
 {
-    listener.during = [&](const std::string& call) {
-        if (call == GetParam().call)
-            delete combo.get();
-    };
+    listener.During(GetParam().call, [&] { delete combo.get(); });
     Use();
     EXPECT_TRUE(PumpUntil([&] { return !combo && !popup; }));
     before->SetFocus();
@@ -370,10 +365,7 @@ TEST_P(ColourComboRemoved, LeavesNothingBehind)
 
 TEST_P(ColourComboRemoved, LeavesNothingBehindWithItsPanel)
 {
-    listener.during = [&](const std::string& call) {
-        if (call == GetParam().call)
-            panel->Destroy();
-    };
+    listener.During(GetParam().call, [&] { panel->Destroy(); });
     Use();
     EXPECT_TRUE(PumpUntil([&] { return !combo && !popup; }));
 }
@@ -388,12 +380,8 @@ INSTANTIATE_TEST_SUITE_P(, ColourComboRemoved,
 
 TEST_F(ColourComboInUse, MayBeDestroyedWhenItIsDismissed)
 {
-    listener.during = [&](const std::string& call) {
-        if (call == "cancel")
-            combo->Destroy();
-    };
-    ClickButton();
-    ExpectShown();
+    listener.During("cancel", [&] { combo->Destroy(); });
+    OpenByMouse();
     PointTo(panel->ClientToScreen(wxPoint(400, 300)));
     Click();
     EXPECT_TRUE(PumpUntil([&] { return !combo && !popup; }));

@@ -39,6 +39,20 @@ struct Control
 
     void Open() { ASSERT_TRUE(Opens(*combo)); }
 
+    // Opens the popup, makes the cell hot, and ends the selection.
+    void Select(int index, bool ok)
+    {
+        Open();
+        popup->ChangeSelection(index);
+        popup->EndSelection(ok);
+    }
+
+    void OpenAndPress(int key)
+    {
+        Open();
+        Press(*popup, key);
+    }
+
     ColourListener listener;
     OwnedWindow<wxFrame> frame;
     wxWeakRef<wxPanel> panel;
@@ -83,25 +97,18 @@ const Moment kMoments[] = {
      "change",
      [](Control& control) {
          control.popup->SetRefreshCombo(true);
-         control.Open();
-         Press(*control.popup, WXK_UP);
+         control.OpenAndPress(WXK_UP);
      },
      {"popup", "change #000000", "cancel #0000FF"},
      false},
     {"WhenAColourIsChosen",
      "end",
-     [](Control& control) {
-         control.Open();
-         Press(*control.popup, WXK_RETURN);
-     },
+     [](Control& control) { control.OpenAndPress(WXK_RETURN); },
      {"popup", "end #0000FF"},
      false},
     {"WhenItIsCancelled",
      "cancel",
-     [](Control& control) {
-         control.Open();
-         Press(*control.popup, WXK_ESCAPE);
-     },
+     [](Control& control) { control.OpenAndPress(WXK_ESCAPE); },
      {"popup", "cancel #0000FF"},
      false},
     {"WhenItIsDismissed",
@@ -154,13 +161,8 @@ TEST(ColourListenerInItsCalls, MayTakeItselfOut)
 {
     for (const char* const moment : {"popup", "change", "end", "cancel"}) {
         Control control;
-        control.listener.during = [&](const std::string& call) {
-            if (call == moment)
-                control.popup->SetColorListener(nullptr);
-        };
-        control.Open();
-        control.popup->ChangeSelection(16);
-        control.popup->EndSelection(moment != std::string("cancel"));
+        control.listener.During(moment, [&] { control.popup->SetColorListener(nullptr); });
+        control.Select(16, moment != std::string("cancel"));
         EXPECT_EQ(control.listener.Take().back().substr(0, 3), std::string(moment).substr(0, 3));
         control.Open();
         control.popup->ChangeSelection(18);
@@ -173,13 +175,8 @@ TEST(ColourListenerInItsCalls, MayGiveItsPlaceToAnother)
 {
     Control control;
     ColourListener other;
-    control.listener.during = [&](const std::string& call) {
-        if (call == "change")
-            control.popup->SetColorListener(&other);
-    };
-    control.Open();
-    control.popup->ChangeSelection(16);
-    control.popup->EndSelection(true);
+    control.listener.During("change", [&] { control.popup->SetColorListener(&other); });
+    control.Select(16, true);
     EXPECT_EQ(control.listener.Take(), (ColourCalls{"popup", "change #FF0000"}));
     EXPECT_EQ(other.Take(), ColourCalls{"end #FF0000"});
 }
@@ -187,13 +184,8 @@ TEST(ColourListenerInItsCalls, MayGiveItsPlaceToAnother)
 TEST(ColourListenerInItsCalls, MayChooseAnotherColour)
 {
     Control control;
-    control.listener.during = [&](const std::string& call) {
-        if (call == "end")
-            control.popup->SetInitialColour(*wxGREEN);
-    };
-    control.Open();
-    control.popup->ChangeSelection(16);
-    control.popup->EndSelection(true);
+    control.listener.During("end", [&] { control.popup->SetInitialColour(*wxGREEN); });
+    control.Select(16, true);
     EXPECT_EQ(control.listener.Take().back(), "end #FF0000");
     EXPECT_EQ(control.popup->m_crInitialColour, *wxGREEN);
 }
@@ -202,13 +194,8 @@ TEST(ColourListenerInItsCalls, MayChooseAnotherColour)
 TEST(ColourListenerInItsCalls, MaySetTheValueOfTheCombo)
 {
     Control control;
-    control.listener.during = [&](const std::string& call) {
-        if (call == "end")
-            control.combo->SetValue("Teal");
-    };
-    control.Open();
-    control.popup->ChangeSelection(16);
-    control.popup->EndSelection(true);
+    control.listener.During("end", [&] { control.combo->SetValue("Teal"); });
+    control.Select(16, true);
     EXPECT_EQ(control.listener.Take(), (ColourCalls{"popup", "change #FF0000", "end #FF0000"}));
     EXPECT_EQ(control.popup->m_crColour, *wxRED);
     EXPECT_EQ(control.popup->m_nCurrentSel, 16);
@@ -239,13 +226,8 @@ TEST(ColourListenerInItsCalls, MayReplaceThePopup)
 TEST(ColourListenerInItsCalls, MayCloseThePopup)
 {
     Control control;
-    control.listener.during = [&](const std::string& call) {
-        if (call == "end")
-            control.combo->Dismiss();
-    };
-    control.Open();
-    control.popup->ChangeSelection(16);
-    control.popup->EndSelection(true);
+    control.listener.During("end", [&] { control.combo->Dismiss(); });
+    control.Select(16, true);
     EXPECT_EQ(control.listener.Take(), (ColourCalls{"popup", "change #FF0000", "end #FF0000"}));
     EXPECT_EQ(control.combo->GetValue(), "Red");
     control.Open();
@@ -258,13 +240,8 @@ TEST(ColourListenerInItsCalls, MayCloseThePopupOfACancelledSelection)
 {
     Control control;
     control.combo->SetText("Teal");
-    control.listener.during = [&](const std::string& call) {
-        if (call == "cancel")
-            control.combo->Dismiss();
-    };
-    control.Open();
-    control.popup->ChangeSelection(16);
-    control.popup->EndSelection(false);
+    control.listener.During("cancel", [&] { control.combo->Dismiss(); });
+    control.Select(16, false);
     EXPECT_FALSE(control.combo->IsPopupShown());
     EXPECT_EQ(control.listener.Take(), (ColourCalls{"popup", "change #FF0000", "cancel #0000FF"}));
     EXPECT_EQ(control.combo->GetValue(), "Teal");
@@ -275,10 +252,7 @@ TEST(ColourListenerInItsCalls, MayDestroyWhatIsBeingDestroyed)
 {
     for (const bool deleted : {true, false}) {
         Control control;
-        control.listener.during = [&](const std::string& call) {
-            if (call == "cancel")
-                control.combo->Destroy();
-        };
+        control.listener.During("cancel", [&] { control.combo->Destroy(); });
         int closeups = 0;
         control.combo->Bind(wxEVT_COMBOBOX_CLOSEUP, [&](wxCommandEvent&) { ++closeups; });
         control.Open();

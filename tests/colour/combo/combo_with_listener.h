@@ -19,6 +19,17 @@ protected:
         EXPECT_TRUE(ShowAndSettle(on.frame));
     }
 
+    void Open() const { ASSERT_TRUE(Opens(*on.combo)); }
+
+    /// Opens the popup, makes the cell @a index hot, and ends the selection: chooses the cell if @a ok is true, cancels
+    /// otherwise.
+    void Select(int index, bool ok) const
+    {
+        Open();
+        on.popup->ChangeSelection(index);
+        on.popup->EndSelection(ok);
+    }
+
     ColourListener listener;  // outlives the popup
     const ComboOnScreen<> on;
 };

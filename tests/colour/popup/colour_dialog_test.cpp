@@ -79,12 +79,6 @@ class MoreColours : public testing::Test, protected ComboWithListener
 {
 protected:
     MoreColours() : ComboWithListener(wxColour(1, 2, 3)) {}
-
-    void Open() const
-    {
-        ASSERT_TRUE(Opens(*on.combo));
-        on.popup->ChangeSelection(M);
-    }
 };
 
 TEST_F(MoreColours, GivesTheColourOfTheDialog)
@@ -98,8 +92,7 @@ TEST_F(MoreColours, GivesTheColourOfTheDialog)
         hidden = on.combo->hidden;
         calls = listener.Take();
     };
-    Open();
-    on.popup->EndSelection(true);
+    Select(M, true);
     EXPECT_EQ(answer.asked, 1);
     EXPECT_EQ(answer.proposed, wxColour(1, 2, 3));
     EXPECT_TRUE(answer.full);
@@ -127,14 +120,11 @@ TEST_F(MoreColours, SendsAnEventOfItsCancelAndNoneOfAChoice)
     };
     on.combo->Bind(wxEVT_COLOURPICKER_CHANGED, note("changed "));
     on.combo->Bind(wxEVT_COLOURPICKER_DIALOG_CANCELLED, note("cancelled "));
-    Open();
-    on.popup->EndSelection(true);
+    Select(M, true);
     EXPECT_EQ(std::exchange(events, {}), std::vector<std::string>{"cancelled #010203"});
     EXPECT_EQ(listener.Take().back(), "end #010203");
 
-    ASSERT_TRUE(Opens(*on.combo));
-    on.popup->ChangeSelection(16);
-    on.popup->EndSelection(true);
+    Select(16, true);
     EXPECT_EQ(events, std::vector<std::string>{"changed #FF0000"}) << "the earlier cancel has no effect";
 }
 
@@ -142,8 +132,7 @@ TEST_F(MoreColours, SendsAnEventOfItsCancelAndNoneOfAChoice)
 TEST_F(MoreColours, KeepsTheColourInEffectWhenTheDialogIsCancelled)
 {
     Answer answer(wxID_CANCEL, wxColour(10, 200, 30));
-    Open();
-    on.popup->EndSelection(true);
+    Select(M, true);
     EXPECT_EQ(answer.asked, 1);
     EXPECT_EQ(listener.Take(), (ColourCalls{"popup", "change #010203", "end #010203"}));
     EXPECT_EQ(on.popup->m_crColour, wxColour(1, 2, 3));
@@ -164,10 +153,10 @@ TEST_F(MoreColours, GoesBackToTheColourInEffectWhenTheDialogIsCancelled)
 TEST_F(MoreColours, AsksNothingWhenCancelledOrWhenAnotherCellIsHot)
 {
     Answer answer(wxID_OK, *wxRED);
-    Open();
-    on.popup->EndSelection(false);
+    Select(M, false);
     EXPECT_EQ(listener.Take(), (ColourCalls{"popup", "change #010203", "cancel #010203"}));
     Open();
+    on.popup->ChangeSelection(M);
     on.popup->ChangeSelection(CELL_AUTOMATIC);
     on.popup->EndSelection(true);
     EXPECT_EQ(answer.asked, 0);
@@ -179,15 +168,13 @@ TEST_F(MoreColours, GivesTheDialogTheWindowToCentreOnForItsParent)
     ASSERT_TRUE(ShowAndSettle(other));
     on.popup->SetCenterOn(other);
     Answer answer(wxID_OK, *wxRED);
-    Open();
-    on.popup->EndSelection(true);
+    Select(M, true);
     EXPECT_EQ(answer.parent, other);
     EXPECT_EQ(answer.centred, std::vector<int>{wxBOTH});
     EXPECT_EQ(on.popup->m_crInitialColour, *wxRED);
 
     on.popup->SetCenterOn(nullptr);
-    Open();
-    on.popup->EndSelection(true);
+    Select(M, true);
     EXPECT_EQ(answer.parent, on.frame);
     EXPECT_TRUE(answer.centred.empty());
     other->Destroy();
@@ -218,12 +205,10 @@ TEST_F(MoreColours, ProposesTheColourChosenLast)
 {
     {
         Answer answer(wxID_OK, wxColour(10, 200, 30));
-        Open();
-        on.popup->EndSelection(true);
+        Select(M, true);
     }
     Answer answer(wxID_CANCEL, *wxRED);
-    Open();
-    on.popup->EndSelection(true);
+    Select(M, true);
     EXPECT_EQ(answer.proposed, wxColour(10, 200, 30));
 }
 

@@ -21,8 +21,6 @@ class ColourEnding : public testing::Test, protected ComboWithListener
 {
 protected:
     explicit ColourEnding(long style = wxCB_READONLY) : ComboWithListener(*wxBLUE, style) {}
-
-    void Open() const { ASSERT_TRUE(Opens(*on.combo)); }
 };
 
 TEST_F(ColourEnding, StartsWithNoHotCellAndTheChosenOneMarked)
@@ -72,9 +70,7 @@ TEST(ColourStart, TellsTheListenerLast)
 
 TEST_F(ColourEnding, ChoosesTheHotCell)
 {
-    Open();
-    on.popup->ChangeSelection(16);
-    on.popup->EndSelection(true);
+    Select(16, true);
     EXPECT_EQ(listener.Take(), (ColourCalls{"popup", "change #FF0000", "end #FF0000"}));
     EXPECT_EQ(on.popup->m_crInitialColour, *wxRED);
     EXPECT_EQ(on.popup->m_crColour, *wxRED);
@@ -99,9 +95,7 @@ TEST_F(ColourEnding, ChoosesTheColourInEffectWhenNothingIsHot)
 TEST_F(ColourEnding, ChoosesAutomatic)
 {
     on.popup->SetDefaultColour(*wxCYAN);
-    Open();
-    on.popup->ChangeSelection(A);
-    on.popup->EndSelection(true);
+    Select(A, true);
     EXPECT_EQ(listener.Take(), (ColourCalls{"popup", "change #00FFFF", "end #00FFFF"}));
     EXPECT_EQ(on.popup->m_crInitialColour, *wxCYAN);
     EXPECT_EQ(on.popup->m_nChosenColourSel, A);
@@ -143,18 +137,14 @@ TEST_F(ColourEnding, TellsTheListenerBeforeThePopupCloses)
         initial = on.popup->m_crInitialColour;
         on.combo->refreshes = 0;
     };
-    Open();
-    on.popup->ChangeSelection(16);
-    on.popup->EndSelection(true);
+    Select(16, true);
     EXPECT_TRUE(shown);
     EXPECT_EQ(chosen, 16);
     EXPECT_EQ(initial, *wxRED);
     EXPECT_GT(on.combo->refreshes, 0);
 
     shown = false;
-    Open();
-    on.popup->ChangeSelection(18);
-    on.popup->EndSelection(false);
+    Select(18, false);
     EXPECT_TRUE(shown);
     EXPECT_EQ(chosen, -1);
     EXPECT_EQ(initial, *wxRED);
@@ -176,13 +166,9 @@ TEST_F(ColourEnding, RefreshesTheComboOfAHiddenPopup)
 TEST_F(ColourEnding, NeedsNoListener)
 {
     on.popup->SetColorListener(nullptr);
-    Open();
-    on.popup->ChangeSelection(16);
-    on.popup->EndSelection(true);
+    Select(16, true);
     EXPECT_EQ(on.popup->m_crInitialColour, *wxRED);
-    Open();
-    on.popup->ChangeSelection(18);
-    on.popup->EndSelection(false);
+    Select(18, false);
     EXPECT_EQ(on.popup->m_crInitialColour, *wxRED);
     Open();
     on.popup->ChangeSelection(18);
@@ -236,9 +222,7 @@ TEST_F(ColourEnding, LeavesTheColourOfTheHotCellToAPopupWithoutListener)
 // A late call of OnDismiss() does not change a value that the host has set after the popup closed.
 TEST_F(ColourEnding, LeavesAValueAloneThatWasSetAfterAChoice)
 {
-    Open();
-    on.popup->ChangeSelection(16);
-    on.popup->EndSelection(true);
+    Select(16, true);
     on.combo->SetText("the host's");
     on.popup->OnDismiss();
     EXPECT_EQ(on.combo->GetValue(), "the host's");
@@ -269,9 +253,7 @@ TEST_F(ColourEndingWithText, MakesTheColourOfTheTextHotWhenItOpens)
 
 TEST_F(ColourEndingWithText, HasTheNameAfterAChoice)
 {
-    Open();
-    on.popup->ChangeSelection(18);
-    on.popup->EndSelection(true);
+    Select(18, true);
     EXPECT_EQ(on.combo->GetTextCtrl()->GetValue(), "Lime");
     EXPECT_EQ(texts, std::vector<wxString>{"Lime"});
     EXPECT_EQ(listener.Take(), (ColourCalls{"popup", "change #32CD32", "end #32CD32"}));
@@ -280,9 +262,7 @@ TEST_F(ColourEndingWithText, HasTheNameAfterAChoice)
 TEST_F(ColourEndingWithText, HasTheEarlierTextAfterACancel)
 {
     on.combo->ChangeValue("my own");
-    Open();
-    on.popup->ChangeSelection(18);
-    on.popup->EndSelection(false);
+    Select(18, false);
     EXPECT_EQ(on.combo->GetTextCtrl()->GetValue(), "my own");
     EXPECT_EQ(texts.back(), "my own") << "the last text event has the right text";
     EXPECT_EQ(listener.Take(), (ColourCalls{"popup", "change #32CD32", "cancel #0000FF"}));
