@@ -60,6 +60,16 @@ void ExpectSizeOfTexts(const Lines& lines)
     EXPECT_EQ(SizeIn(lines, "window").height, 2 * std::max(automatic.height, more.height) + 128);
 }
 
+// Expects these texts of the two boxes and this name of colour 16, also in its tooltip, and the size for the texts.
+void ExpectTexts(const Lines& lines, const char* automatic, const char* more, const char* red)
+{
+    EXPECT_EQ(lines.at("automatic"), automatic);
+    EXPECT_EQ(lines.at("more"), more);
+    EXPECT_EQ(lines.at("hot 16"), red);
+    EXPECT_EQ(lines.at("hint"), red);
+    ExpectSizeOfTexts(lines);
+}
+
 TEST(ColourLanguage, German)
 {
     const Lines lines = PopupIn("de");
@@ -71,11 +81,7 @@ TEST(ColourLanguage, German)
                         "Gold",       "Gelb",        "Leuchtendes Grün", "Türkis",       "Himmelblau",
                         "Pflaume",    "Hellgrau",    "Zartrosa",         "Hellbraun",    "Hellgelb",
                         "Blassgrün",  "Blasstürkis", "Blassblau",        "Lavendel",     "Weiß"});
-    EXPECT_EQ(lines.at("automatic"), "Automatisch");
-    EXPECT_EQ(lines.at("more"), "Weitere Farben...");
-    EXPECT_EQ(lines.at("hot 16"), "Rot");
-    EXPECT_EQ(lines.at("hint"), "Rot");
-    ExpectSizeOfTexts(lines);
+    ExpectTexts(lines, "Automatisch", "Weitere Farben...", "Rot");
 }
 
 TEST(ColourLanguage, Japanese)
@@ -121,11 +127,7 @@ TEST(ColourLanguage, Japanese)
                         "淡い青",
                         "ラベンダー",
                         "白"});
-    EXPECT_EQ(lines.at("automatic"), "自動");
-    EXPECT_EQ(lines.at("more"), "その他の色...");
-    EXPECT_EQ(lines.at("hot 16"), "赤");
-    EXPECT_EQ(lines.at("hint"), "赤");
-    ExpectSizeOfTexts(lines);
+    ExpectTexts(lines, "自動", "その他の色...", "赤");
 }
 
 // Without a catalogue for the language, the names are English.
@@ -134,10 +136,7 @@ TEST(ColourLanguage, Finnish)
     const Lines lines = PopupIn("fi");
     EXPECT_EQ(lines.at("name 0"), "Black");
     EXPECT_EQ(lines.at("name 35"), "Pale green ");
-    EXPECT_EQ(lines.at("automatic"), "Automatic");
-    EXPECT_EQ(lines.at("more"), "More Colours...");
-    EXPECT_EQ(lines.at("hot 16"), "Red");
-    ExpectSizeOfTexts(lines);
+    ExpectTexts(lines, "Automatic", "More Colours...", "Red");
 }
 
 TEST(ColourLanguage, MakesTheWidth)

@@ -104,6 +104,13 @@ protected:
         s_threads.lookUps = std::exchange(g_lookUps, {});
     }
 
+    // Passes the popup a text, and returns its hot cell.
+    static int HotAfter(const PopupInFrame& popup, const wxString& text)
+    {
+        popup->SetStringValue(text);
+        return popup->m_nCurrentSel;
+    }
+
     static std::vector<std::vector<LookUp>> s_failed;
     static Threads s_threads;
 };
@@ -190,27 +197,22 @@ TEST_F(ColourNames, ThatAreMissingEqualNoText)
 {
     const PopupInFrame popup;
     popup->m_nCurrentSel = 1;
-    popup->SetStringValue("");
-    EXPECT_EQ(popup->m_nCurrentSel, 1);
-    popup->SetStringValue("Indigo");
-    EXPECT_EQ(popup->m_nCurrentSel, 6);
+    EXPECT_EQ(HotAfter(popup, ""), 1);
+    EXPECT_EQ(HotAfter(popup, "Indigo"), 6);
 }
 
 TEST_F(ColourNames, AreFoundByTheirTextAndNotByTheirKey)
 {
     const PopupInFrame popup;
     popup->m_nCurrentSel = 1;
-    popup->SetStringValue("Plum");
-    EXPECT_EQ(popup->m_nCurrentSel, 1);
-    popup->SetStringValue("Zwetschge");
-    EXPECT_EQ(popup->m_nCurrentSel, 30);
+    EXPECT_EQ(HotAfter(popup, "Plum"), 1);
+    EXPECT_EQ(HotAfter(popup, "Zwetschge"), 30);
 }
 
 TEST_F(ColourNames, ThatAreAlikeAreThatOfTheFirst)
 {
     const PopupInFrame popup;
-    popup->SetStringValue("Rosa");
-    EXPECT_EQ(popup->m_nCurrentSel, 24);
+    EXPECT_EQ(HotAfter(popup, "Rosa"), 24);
     popup->m_nCurrentSel = 32;
     EXPECT_EQ(popup->GetStringValue(), "Rosa");
 }

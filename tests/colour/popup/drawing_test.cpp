@@ -1,5 +1,6 @@
 // What the popup draws, call by call, with the colours of a test theme.
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -36,6 +37,13 @@ protected:
     {
         dc.Record().calls.clear();
         popup->DrawCell(&dc, index);
+        return dc.Record().calls;
+    }
+
+    Calls DrawnControl()
+    {
+        dc.Record().calls.clear();
+        popup->DoDrawControl(&dc);
         return dc.Record().calls;
     }
 
@@ -357,32 +365,25 @@ TEST_F(ColourDrawing, OfTheControlGoesFromTheTopToTheFrame)
         "line 2,2-2,91 FACE",      "line 3,2-145,2 FACE",      "line 145,1-145,91 SHADOW", "line 1,91-146,91 SHADOW",
     };
     expected.insert(expected.end(), frame.begin(), frame.end());
-
-    dc.Record().calls.clear();
-    popup->DoDrawControl(&dc);
-    EXPECT_EQ(dc.Record().calls, expected);
-    EXPECT_EQ(dc.Record().calls.size(), 7U + 40U * 3U + 5U + 8U);
+    EXPECT_EQ(DrawnControl(), expected);
+    EXPECT_EQ(expected.size(), 7U + 40U * 3U + 5U + 8U);
 }
 
 TEST_F(ColourDrawing, OfTheControlLeavesOutAbsentBoxes)
 {
-    popup->DoDrawControl(&dc);
-    EXPECT_EQ(dc.Record().calls.size(), 40U * 3U + 8U);
-    EXPECT_EQ(dc.Record().calls[1], "rect 2,2 18x18 FACE FACE");
-    EXPECT_EQ(dc.Record().calls[119], "rect 131,77 12x12 SHADOW #FFFFFF");
-    EXPECT_EQ(dc.Record().calls[120], "line 1,1-1,92 HIGHLIGHT");
+    const Calls calls = DrawnControl();
+    ASSERT_EQ(calls.size(), 40U * 3U + 8U);
+    EXPECT_EQ(calls[1], "rect 2,2 18x18 FACE FACE");
+    EXPECT_EQ(calls[119], "rect 131,77 12x12 SHADOW #FFFFFF");
+    EXPECT_EQ(calls[120], "line 1,1-1,92 HIGHLIGHT");
 
     AddBoxes();
     popup->m_strAutomatic.clear();
-    dc.Record().calls.clear();
-    popup->DoDrawControl(&dc);
-    EXPECT_EQ(dc.Record().calls.size(), 40U * 3U + 5U + 8U);
+    EXPECT_EQ(DrawnControl().size(), 40U * 3U + 5U + 8U);
 
     AddBoxes();
     popup->m_strMoreColours.clear();
-    dc.Record().calls.clear();
-    popup->DoDrawControl(&dc);
-    EXPECT_EQ(dc.Record().calls.size(), 7U + 40U * 3U + 8U);
+    EXPECT_EQ(DrawnControl().size(), 7U + 40U * 3U + 8U);
 }
 
 TEST_F(ColourDrawing, OfTheFrameIsRaised)
@@ -408,12 +409,9 @@ TEST_F(ColourDrawing, FollowsTheThemeAtOnce)
     popup->m_nCurrentSel = 0;
     popup->m_nChosenColourSel = 1;
     const auto uses = [&](const std::string& colour) {
-        dc.Record().calls.clear();
-        popup->DoDrawControl(&dc);
-        bool used = false;
-        for (const std::string& call : dc.Record().calls)
-            used = used || call.find(colour) != std::string::npos;
-        return used;
+        const Calls calls = DrawnControl();
+        return std::any_of(calls.begin(), calls.end(),
+                           [&](const std::string& call) { return call.find(colour) != std::string::npos; });
     };
     for (const char* const colour : {"FACE", "SHADOW", "HIGHLIGHT", "DARK"})
         EXPECT_TRUE(uses(colour)) << colour;

@@ -1,5 +1,7 @@
 // The index, row, column, colour and name of each cell.
 
+#include <utility>
+
 #include <gtest/gtest.h>
 
 #include <tests/colour/popup/open_popup.h>
@@ -35,22 +37,29 @@ TEST(ColourOfCell, IsTheDefaultOneOfAutomatic)
     EXPECT_EQ(popup->GetColour(kAutomatic), wxColour(5, 6, 7, 8));
 }
 
-struct Place
+// A row and a column.
+using Place = std::pair<int, int>;
+
+Place PlaceOf(const PopupInFrame& popup, int index)
+{
+    return {popup->GetRow(index), popup->GetColumn(index)};
+}
+
+struct PlacedCell
 {
     int index;
     int row;
     int column;
 };
 
-class ColourPlace : public testing::TestWithParam<Place>
+class ColourPlace : public testing::TestWithParam<PlacedCell>
 {
 };
 
 TEST_P(ColourPlace, IsItsRowAndColumn)
 {
     const PopupInFrame popup;
-    EXPECT_EQ(popup->GetRow(GetParam().index), GetParam().row);
-    EXPECT_EQ(popup->GetColumn(GetParam().index), GetParam().column);
+    EXPECT_EQ(PlaceOf(popup, GetParam().index), Place(GetParam().row, GetParam().column));
 }
 
 TEST_P(ColourPlace, LeadsBackToTheCell)
@@ -62,10 +71,11 @@ TEST_P(ColourPlace, LeadsBackToTheCell)
 }
 
 INSTANTIATE_TEST_SUITE_P(, ColourPlace,
-                         testing::Values(Place{0, 0, 0}, Place{1, 0, 1}, Place{7, 0, 7}, Place{8, 1, 0},
-                                         Place{15, 1, 7}, Place{16, 2, 0}, Place{37, 4, 5}, Place{39, 4, 7},
-                                         Place{40, -1, -1}, Place{1000, -1, -1}, Place{-1, -1, -1}, Place{-2, -2, -2},
-                                         Place{-3, -3, -3}, Place{-4, -1, -1}),
+                         testing::Values(PlacedCell{0, 0, 0}, PlacedCell{1, 0, 1}, PlacedCell{7, 0, 7},
+                                         PlacedCell{8, 1, 0}, PlacedCell{15, 1, 7}, PlacedCell{16, 2, 0},
+                                         PlacedCell{37, 4, 5}, PlacedCell{39, 4, 7}, PlacedCell{40, -1, -1},
+                                         PlacedCell{1000, -1, -1}, PlacedCell{-1, -1, -1}, PlacedCell{-2, -2, -2},
+                                         PlacedCell{-3, -3, -3}, PlacedCell{-4, -1, -1}),
                          [](const auto& info) {
                              const int index = info.param.index;
                              return index < 0 ? "minus" + std::to_string(-index) : std::to_string(index);
@@ -75,10 +85,8 @@ TEST(ColourPlaceOfFewerColours, IsNoneBehindTheLast)
 {
     const PopupInFrame popup;
     popup->m_nNumColours = 37;
-    EXPECT_EQ(popup->GetRow(36), 4);
-    EXPECT_EQ(popup->GetColumn(36), 4);
-    EXPECT_EQ(popup->GetRow(37), -1);
-    EXPECT_EQ(popup->GetColumn(37), -1);
+    EXPECT_EQ(PlaceOf(popup, 36), Place(4, 4));
+    EXPECT_EQ(PlaceOf(popup, 37), Place(-1, -1));
     EXPECT_EQ(popup->GetIndex(4, 4), 36);
     EXPECT_EQ(popup->GetIndex(4, 5), -1);
 }
@@ -86,29 +94,23 @@ TEST(ColourPlaceOfFewerColours, IsNoneBehindTheLast)
 TEST(ColourPlaceOfBox, IsNoneWhereTheBoxIsAbsent)
 {
     const PopupInFrame popup(WithoutBoxes);
-    EXPECT_EQ(popup->GetRow(kMore), -1);
-    EXPECT_EQ(popup->GetColumn(kMore), -1);
-    EXPECT_EQ(popup->GetRow(kAutomatic), -1);
-    EXPECT_EQ(popup->GetColumn(kAutomatic), -1);
+    EXPECT_EQ(PlaceOf(popup, kMore), Place(-1, -1));
+    EXPECT_EQ(PlaceOf(popup, kAutomatic), Place(-1, -1));
 }
 
 TEST(ColourPlaceOfBox, DependsOnItsOwnTextAlone)
 {
     const PopupInFrame popup(WithoutBoxes);
     popup->m_strAutomatic = "Auto";
-    EXPECT_EQ(popup->GetRow(kMore), -1);
-    EXPECT_EQ(popup->GetColumn(kMore), -1);
-    EXPECT_EQ(popup->GetRow(kAutomatic), -3);
-    EXPECT_EQ(popup->GetColumn(kAutomatic), -3);
+    EXPECT_EQ(PlaceOf(popup, kMore), Place(-1, -1));
+    EXPECT_EQ(PlaceOf(popup, kAutomatic), Place(-3, -3));
     EXPECT_EQ(popup->GetIndex(-2, -2), -1);
     EXPECT_EQ(popup->GetIndex(-3, 0), -3);
 
     WithoutBoxes(*popup.popup);
     popup->m_strMoreColours = "More";
-    EXPECT_EQ(popup->GetRow(kMore), -2);
-    EXPECT_EQ(popup->GetColumn(kMore), -2);
-    EXPECT_EQ(popup->GetRow(kAutomatic), -1);
-    EXPECT_EQ(popup->GetColumn(kAutomatic), -1);
+    EXPECT_EQ(PlaceOf(popup, kMore), Place(-2, -2));
+    EXPECT_EQ(PlaceOf(popup, kAutomatic), Place(-1, -1));
     EXPECT_EQ(popup->GetIndex(0, -2), -2);
     EXPECT_EQ(popup->GetIndex(-3, -3), -1);
 }
@@ -163,8 +165,7 @@ TEST(ColourIndex, IsNoneBesideAPartialLastRow)
     EXPECT_EQ(popup->GetIndex(5, 5), -1);
     EXPECT_EQ(popup->GetIndex(4, 6), 34);
     EXPECT_EQ(popup->GetIndex(6, 0), -1);
-    EXPECT_EQ(popup->GetRow(39), 5);
-    EXPECT_EQ(popup->GetColumn(39), 4);
+    EXPECT_EQ(PlaceOf(popup, 39), Place(5, 4));
 }
 
 class ChosenCell : public testing::Test
@@ -255,23 +256,19 @@ TEST(ColourText, IsThatOfTheHotCell)
 {
     const PopupInFrame popup;
     EXPECT_EQ(popup->GetStringValue(), "");
-    popup->m_nCurrentSel = 0;
-    EXPECT_EQ(popup->GetStringValue(), "Black");
-    popup->m_nCurrentSel = 35;
-    EXPECT_EQ(popup->GetStringValue(), "Pale green ");
-    popup->m_nCurrentSel = 39;
-    EXPECT_EQ(popup->GetStringValue(), "White");
-    popup->m_nCurrentSel = kMore;
-    EXPECT_EQ(popup->GetStringValue(), "More Colours...");
-    popup->m_nCurrentSel = kAutomatic;
-    EXPECT_EQ(popup->GetStringValue(), "Automatic");
+    const auto textOf = [&](int hot) {
+        popup->m_nCurrentSel = hot;
+        return popup->GetStringValue();
+    };
+    EXPECT_EQ(textOf(0), "Black");
+    EXPECT_EQ(textOf(35), "Pale green ");
+    EXPECT_EQ(textOf(39), "White");
+    EXPECT_EQ(textOf(kMore), "More Colours...");
+    EXPECT_EQ(textOf(kAutomatic), "Automatic");
     popup->m_nChosenColourSel = 5;
-    popup->m_nCurrentSel = -1;
-    EXPECT_EQ(popup->GetStringValue(), "");
-    popup->m_nCurrentSel = 40;
-    EXPECT_EQ(popup->GetStringValue(), "");
-    popup->m_nCurrentSel = -4;
-    EXPECT_EQ(popup->GetStringValue(), "");
+    EXPECT_EQ(textOf(-1), "");
+    EXPECT_EQ(textOf(40), "");
+    EXPECT_EQ(textOf(-4), "");
 }
 
 class ColourByName : public testing::Test
