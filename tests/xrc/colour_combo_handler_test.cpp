@@ -40,6 +40,7 @@ using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using ColourComboXmlHandler = LoadedResourceTest;
 
 wxColourPopup* PopupOf(wxColourCombo* combo)
 {
@@ -51,9 +52,8 @@ bool HasBox(wxColourPopup* popup, int cell)
     return popup->GetRow(cell) == cell;
 }
 
-TEST(ColourComboXmlHandler, GivesWhatTheResourceSays)
+TEST_F(ColourComboXmlHandler, GivesWhatTheResourceSays)
 {
-    LoadedResource resource;
     wxFrame* const frame = resource.MakeFrame("frame");
     ASSERT_NE(frame, nullptr);
     auto* const combo = XRCCTRL(*frame, "line", wxColourCombo);
@@ -78,9 +78,8 @@ TEST(ColourComboXmlHandler, GivesWhatTheResourceSays)
     EXPECT_TRUE(popup->GetRefreshCombo());
 }
 
-TEST(ColourComboXmlHandler, TakesWhatIsUsualForWhatTheResourceDoesNotSay)
+TEST_F(ColourComboXmlHandler, TakesWhatIsUsualForWhatTheResourceDoesNotSay)
 {
-    LoadedResource resource;
     wxFrame* const frame = resource.MakeFrame("frame");
     auto* const combo = XRCCTRL(*frame, "plain", wxColourCombo);
     EXPECT_FALSE(combo->HasFlag(wxCB_READONLY));
@@ -95,9 +94,8 @@ TEST(ColourComboXmlHandler, TakesWhatIsUsualForWhatTheResourceDoesNotSay)
     EXPECT_TRUE(HasBox(popup, CELL_MORE_COLOURS));
 }
 
-TEST(ColourComboXmlHandler, LeavesOutTheBoxesWhoseTextIsEmpty)
+TEST_F(ColourComboXmlHandler, LeavesOutTheBoxesWhoseTextIsEmpty)
 {
-    LoadedResource resource;
     wxFrame* const frame = resource.MakeFrame("frame");
     auto* const combo = XRCCTRL(*frame, "grid-only", wxColourCombo);
     EXPECT_FALSE(HasBox(PopupOf(combo), CELL_AUTOMATIC));
@@ -106,9 +104,8 @@ TEST(ColourComboXmlHandler, LeavesOutTheBoxesWhoseTextIsEmpty)
 }
 
 // Compares the texts of the cells that the keys reach.
-TEST(ColourComboXmlHandler, MakesAControlThatCanBeUsedByKeys)
+TEST_F(ColourComboXmlHandler, MakesAControlThatCanBeUsedByKeys)
 {
-    LoadedResource resource;
     wxFrame* const frame = resource.MakeFrame("frame");
     auto* const combo = XRCCTRL(*frame, "line", wxColourCombo);
     ASSERT_TRUE(ShowAndSettle(frame));
@@ -130,9 +127,8 @@ TEST(ColourComboXmlHandler, MakesAControlThatCanBeUsedByKeys)
     EXPECT_EQ(combo->GetValue(), "My_own & none");
 }
 
-TEST(ColourComboXmlHandler, MakesTheSubclassThatTheResourceNames)
+TEST_F(ColourComboXmlHandler, MakesTheSubclassThatTheResourceNames)
 {
-    LoadedResource resource;
     wxFrame* const frame = resource.MakeFrame("subclasses");
     auto* const combo = dynamic_cast<NotingCombo*>(frame->FindWindow("combo"));
     ASSERT_NE(combo, nullptr);
@@ -153,9 +149,8 @@ TEST(ColourComboXmlHandler, MakesTheSubclassThatTheResourceNames)
     EXPECT_THAT(combo->chosen, ElementsAre("#FF0000"));
 }
 
-TEST(ColourComboXmlHandler, ReportsWhatItCannotUnderstandAndTakesWhatIsUsual)
+TEST_F(ColourComboXmlHandler, ReportsWhatItCannotUnderstandAndTakesWhatIsUsual)
 {
-    LoadedResource resource;
     wxPanel* const panel = resource.MakePanel("bad-combo");
     ASSERT_NE(panel, nullptr);
     for (const char* value : {"wxCB_FANCY", "wide", "large", "bluish", "#12", "maybe"})
@@ -170,21 +165,16 @@ TEST(ColourComboXmlHandler, ReportsWhatItCannotUnderstandAndTakesWhatIsUsual)
     EXPECT_GT(combo->GetSize().x, 30);
 }
 
-TEST(ColourComboXmlHandler, MakesAPlainControlInsteadOfASubclassThatIsNone)
+TEST_F(ColourComboXmlHandler, MakesAPlainControlInsteadOfASubclassThatIsNone)
 {
-    LoadedResource resource;
-    StrayObject::made.clear();
     wxPanel* const panel = resource.MakePanel("wrong-subclasses");
     EXPECT_THAT(resource.errors, Contains("the object to load is no wxColourCombo").Times(1));
     EXPECT_NE(PopupOf(dynamic_cast<wxColourCombo*>(panel->FindWindow("combo"))), nullptr);
     ASSERT_EQ(StrayObject::made.size(), 2U);
-    for (wxObject* const stray : StrayObject::made)
-        delete stray;
 }
 
-TEST(ColourComboXmlHandler, GivesTheColourWithItsNameAndItsMark)
+TEST_F(ColourComboXmlHandler, GivesTheColourWithItsNameAndItsMark)
 {
-    LoadedResource resource;
     wxPanel* const panel = resource.MakePanel("colours");
     const auto get = [panel](const char* name) { return dynamic_cast<wxColourCombo*>(panel->FindWindow(name)); };
     EXPECT_EQ(get("by-name")->GetColour(), wxColour(50, 205, 50));
@@ -202,9 +192,8 @@ TEST(ColourComboXmlHandler, GivesTheColourWithItsNameAndItsMark)
     EXPECT_THAT(resource.errors.front(), HasSubstr("\"bluish\""));
 }
 
-TEST(ColourComboXmlHandler, LoadsIntoAnObjectOfTheHost)
+TEST_F(ColourComboXmlHandler, LoadsIntoAnObjectOfTheHost)
 {
-    LoadedResource resource;
     wxFrame* const frame = resource.MakeFrame("subclasses");
     auto* const combo = new wxColourCombo;
     EXPECT_TRUE(resource.LoadObjectRecursively(combo, frame, "line", "wxColourCombo"));

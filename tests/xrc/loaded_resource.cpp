@@ -24,6 +24,9 @@ LoadedResource::~LoadedResource()
 {
     if (m_frame)
         DestroyNow(m_frame);
+    for (wxObject* const stray : StrayObject::made)
+        delete stray;
+    StrayObject::made.clear();
 }
 
 wxFrame* LoadedResource::MakeFrame(const std::string& name)

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include <gtest/gtest.h>
+
 #include <wx/frame.h>
 #include <wx/panel.h>
 #include <wx/xrc/xmlres.h>
@@ -32,8 +34,15 @@ private:
     wxFrame* m_frame = nullptr;
 };
 
-/// This class is not a control, although the resource uses it as the subclass of a control. Nobody owns the objects in
-/// `made`.
+/// A test of what is loaded from the resource.
+class LoadedResourceTest : public testing::Test
+{
+protected:
+    LoadedResource resource;
+};
+
+/// This class is not a control, although the resource uses it as the subclass of a control. The destructor of
+/// LoadedResource deletes the objects in `made`.
 class StrayObject : public wxObject
 {
 public:

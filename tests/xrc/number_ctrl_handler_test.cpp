@@ -24,10 +24,10 @@ namespace {
 using testing::Contains;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using NumberCtrlXmlHandler = LoadedResourceTest;
 
-TEST(NumberCtrlXmlHandler, GivesWhatTheResourceSays)
+TEST_F(NumberCtrlXmlHandler, GivesWhatTheResourceSays)
 {
-    LoadedResource resource;
     wxFrame* const frame = resource.MakeFrame("numbers");
     ASSERT_NE(frame, nullptr);
     EXPECT_THAT(resource.errors, IsEmpty());
@@ -48,9 +48,8 @@ TEST(NumberCtrlXmlHandler, GivesWhatTheResourceSays)
     EXPECT_EQ(own->GetValue(), "5.00");
 }
 
-TEST(NumberCtrlXmlHandler, MakesAControlThatStepsAsTheResourceSays)
+TEST_F(NumberCtrlXmlHandler, MakesAControlThatStepsAsTheResourceSays)
 {
-    LoadedResource resource;
     wxFrame* const frame = resource.MakeFrame("numbers");
     auto* const weight = dynamic_cast<wxNumberCtrl*>(frame->FindWindow("weight"));
     ASSERT_NE(weight, nullptr);
@@ -61,9 +60,8 @@ TEST(NumberCtrlXmlHandler, MakesAControlThatStepsAsTheResourceSays)
     EXPECT_TRUE(PumpUntil([&] { return weight->GetDecimal() == "1072.75"; })) << weight->GetDecimal();
 }
 
-TEST(NumberCtrlXmlHandler, ReportsWhatItCannotUnderstandAndTakesWhatIsUsual)
+TEST_F(NumberCtrlXmlHandler, ReportsWhatItCannotUnderstandAndTakesWhatIsUsual)
 {
-    LoadedResource resource;
     wxPanel* const panel = resource.MakePanel("bad-number");
     ASSERT_NE(panel, nullptr);
     for (const char* const value : {"wxTE_FANCY", "1,5", "many", "-1", "-3", "%n"})
@@ -77,9 +75,8 @@ TEST(NumberCtrlXmlHandler, ReportsWhatItCannotUnderstandAndTakesWhatIsUsual)
     EXPECT_TRUE(number->IsAcceptable());
 }
 
-TEST(NumberCtrlXmlHandler, ReportsTheBoundThatIsInvalidAndTakesTheOther)
+TEST_F(NumberCtrlXmlHandler, ReportsTheBoundThatIsInvalidAndTakesTheOther)
 {
-    LoadedResource resource;
     wxPanel* const panel = resource.MakePanel("bad-bounds");
     ASSERT_NE(panel, nullptr);
     ASSERT_EQ(resource.errors.size(), 3U);
@@ -98,15 +95,12 @@ TEST(NumberCtrlXmlHandler, ReportsTheBoundThatIsInvalidAndTakesTheOther)
     EXPECT_FALSE(accepts("low-max", "9"));
 }
 
-TEST(NumberCtrlXmlHandler, MakesAPlainControlInsteadOfASubclassThatIsNone)
+TEST_F(NumberCtrlXmlHandler, MakesAPlainControlInsteadOfASubclassThatIsNone)
 {
-    LoadedResource resource;
-    StrayObject::made.clear();
     wxPanel* const panel = resource.MakePanel("wrong-number");
     EXPECT_THAT(resource.errors, Contains("the object to load is no wxNumberCtrl").Times(1));
     EXPECT_NE(dynamic_cast<wxNumberCtrl*>(panel->FindWindow("number")), nullptr);
     ASSERT_EQ(StrayObject::made.size(), 1U);
-    delete StrayObject::made.front();
 }
 
 }  // namespace

@@ -25,10 +25,10 @@ namespace {
 using testing::Contains;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using HandyTreeXmlHandler = LoadedResourceTest;
 
-TEST(HandyTreeXmlHandler, GivesWhatTheResourceSays)
+TEST_F(HandyTreeXmlHandler, GivesWhatTheResourceSays)
 {
-    LoadedResource resource;
     wxFrame* const frame = resource.MakeFrame("frame");
     auto* const tree = XRCCTRL(*frame, "folders", wxHandyTreeCtrl);
     ASSERT_NE(dynamic_cast<wxHandyTreeCtrl*>(tree), nullptr);
@@ -54,9 +54,8 @@ TEST(HandyTreeXmlHandler, GivesWhatTheResourceSays)
     EXPECT_EQ(CLocalRegStore::GetString(L"TreeControlState", L"My_folders", L""), L"Earth|Sun|");
 }
 
-TEST(HandyTreeXmlHandler, TakesWhatIsUsualForWhatTheResourceDoesNotSay)
+TEST_F(HandyTreeXmlHandler, TakesWhatIsUsualForWhatTheResourceDoesNotSay)
 {
-    LoadedResource resource;
     wxFrame* const frame = resource.MakeFrame("frame");
     auto* const tree = XRCCTRL(*frame, "tree", wxHandyTreeCtrl);
     EXPECT_EQ(tree->GetWindowStyleFlag() & 0xFFFF, wxTR_HAS_BUTTONS | wxTR_NO_LINES);
@@ -71,9 +70,8 @@ TEST(HandyTreeXmlHandler, TakesWhatIsUsualForWhatTheResourceDoesNotSay)
     EXPECT_EQ(CLocalRegStore::GetString(L"TreeControlState", L"", L""), L"Sun|");
 }
 
-TEST(HandyTreeXmlHandler, MakesTheSubclassThatTheResourceNames)
+TEST_F(HandyTreeXmlHandler, MakesTheSubclassThatTheResourceNames)
 {
-    LoadedResource resource;
     wxFrame* const frame = resource.MakeFrame("subclasses");
     auto* const tree = dynamic_cast<PlanetTree*>(frame->FindWindow("tree"));
     ASSERT_NE(tree, nullptr);
@@ -88,9 +86,8 @@ TEST(HandyTreeXmlHandler, MakesTheSubclassThatTheResourceNames)
     EXPECT_EQ(root.GetChild().GetText(), L"Earth");
 }
 
-TEST(HandyTreeXmlHandler, ReportsWhatItCannotUnderstandAndTakesWhatIsUsual)
+TEST_F(HandyTreeXmlHandler, ReportsWhatItCannotUnderstandAndTakesWhatIsUsual)
 {
-    LoadedResource resource;
     const ExpectAssertions ofTheToolkit;  // the toolkit asserts on the invalid bitmap and goes on
     wxPanel* const panel = resource.MakePanel("bad-tree");
     ASSERT_NE(panel, nullptr);
@@ -105,20 +102,15 @@ TEST(HandyTreeXmlHandler, ReportsWhatItCannotUnderstandAndTakesWhatIsUsual)
     EXPECT_EQ(root.GetText(), L"Sun");
 }
 
-TEST(HandyTreeXmlHandler, MakesAPlainControlInsteadOfASubclassThatIsNone)
+TEST_F(HandyTreeXmlHandler, MakesAPlainControlInsteadOfASubclassThatIsNone)
 {
-    LoadedResource resource;
-    StrayObject::made.clear();
     wxPanel* const panel = resource.MakePanel("wrong-subclasses");
     EXPECT_THAT(resource.errors, Contains("the object to load is no wxHandyTreeCtrl").Times(1));
     EXPECT_NE(dynamic_cast<wxHandyTreeCtrl*>(panel->FindWindow("tree")), nullptr);
-    for (wxObject* const stray : StrayObject::made)
-        delete stray;
 }
 
-TEST(HandyTreeXmlHandler, LoadsIntoAnObjectOfTheHost)
+TEST_F(HandyTreeXmlHandler, LoadsIntoAnObjectOfTheHost)
 {
-    LoadedResource resource;
     wxFrame* const frame = resource.MakeFrame("subclasses");
     auto* const tree = new wxHandyTreeCtrl;
     EXPECT_TRUE(resource.LoadObjectRecursively(tree, frame, "folders", "wxHandyTreeCtrl"));

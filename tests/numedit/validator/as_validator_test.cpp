@@ -10,7 +10,6 @@
 #include <wx/notebook.h>
 #include <wx/panel.h>
 #include <wx/sizer.h>
-#include <wx/uiaction.h>
 #include <wx/valgen.h>
 #include <wx/valtext.h>
 
@@ -20,7 +19,7 @@
 namespace {
 
 // Three number fields, one below the other, in a panel of a dialog.
-class Numbers : public testing::Test
+class Numbers : public testing::Test, protected KeysAndBells
 {
 protected:
     Numbers()
@@ -64,8 +63,6 @@ protected:
     wxPanel* panel = new wxPanel(dialog);
     wxString values[3] = {"1", "2", "3"};
     wxTextCtrl* fields[3];
-    KeyLog keys;
-    const int bellsBefore = Bells();
 };
 
 // --- In a dialog -----------------------------------------------------------------------------------------------------
@@ -181,25 +178,21 @@ TEST_F(Numbers, GiveTheHostTheKeysThatTheyTakeOnce)
         event.Skip();
     });
     fields[0]->Bind(wxEVT_TEXT, [&](wxCommandEvent&) { ++texts; });
-    wxUIActionSimulator user;
-    for (const char key : {'1', 'x', '2'})
-        keys.WaitForKeys([&] { user.Char(key); });
+    Type("1x2");
     EXPECT_EQ(fields[0]->GetValue(), "12");
     EXPECT_EQ(down, (std::vector<int>{'1', 'X', '2'}));
     EXPECT_EQ(chars, (std::vector<int>{'1', '2'}));
     EXPECT_EQ(texts, 2);
-    EXPECT_EQ(Bells(), bellsBefore + 1);
+    EXPECT_EQ(BellsRung(), 1);
 }
 
 TEST_F(Numbers, LeaveAKeyThatTheHostTakesToIt)
 {
     Show();
     fields[0]->Bind(wxEVT_CHAR, [&](wxKeyEvent& event) { event.Skip(event.GetKeyCode() != '1'); });
-    wxUIActionSimulator user;
-    for (const char key : {'1', '2'})
-        keys.WaitForKeys([&] { user.Char(key); });
+    Type("12");
     EXPECT_EQ(fields[0]->GetValue(), "2");
-    EXPECT_EQ(Bells(), bellsBefore);
+    EXPECT_EQ(BellsRung(), 0);
 }
 
 TEST_F(Numbers, LeaveTheLongestTextToTheControl)
@@ -208,12 +201,10 @@ TEST_F(Numbers, LeaveTheLongestTextToTheControl)
     fields[0]->SetMaxLength(2);
     int refused = 0;
     fields[0]->Bind(wxEVT_TEXT_MAXLEN, [&](wxCommandEvent&) { ++refused; });
-    wxUIActionSimulator user;
-    for (const char key : {'1', '2', '3'})
-        keys.WaitForKeys([&] { user.Char(key); });
+    Type("123");
     EXPECT_EQ(fields[0]->GetValue(), "12");
     EXPECT_EQ(refused, 1);
-    EXPECT_EQ(Bells(), bellsBefore);
+    EXPECT_EQ(BellsRung(), 0);
 }
 
 TEST_F(Numbers, DoNotCheckWhatTheProgramSets)
@@ -224,19 +215,17 @@ TEST_F(Numbers, DoNotCheckWhatTheProgramSets)
     EXPECT_EQ(fields[0]->GetValue().length(), 3u);
     fields[0]->Clear();
     EXPECT_EQ(fields[0]->GetValue(), "");
-    EXPECT_EQ(Bells(), bellsBefore);
+    EXPECT_EQ(BellsRung(), 0);
 }
 
 TEST_F(Numbers, GiveWayToAnotherValidator)
 {
     Show();
-    wxUIActionSimulator user;
     CNumberFormat whole(eFixedFormat);
     whole.m_bHasDecimals = false;
     wxString other = "7";
     fields[0]->SetValidator(wxNumValidator(whole, &other));
-    for (const char key : {'1', '.'})
-        keys.WaitForKeys([&] { user.Char(key); });
+    Type("1.");
     EXPECT_EQ(fields[0]->GetValue(), "1");
     EXPECT_TRUE(dialog->TransferDataToWindow());
     EXPECT_EQ(fields[0]->GetValue(), "7");
@@ -245,7 +234,7 @@ TEST_F(Numbers, GiveWayToAnotherValidator)
     EXPECT_EQ(fields[0]->GetValidator(), nullptr);
     Focus(0);
     fields[0]->ChangeValue("");
-    keys.WaitForKeys([&] { user.Char('x'); });
+    Type("x");
     EXPECT_EQ(fields[0]->GetValue(), "x");
     EXPECT_TRUE(dialog->Validate());
 }
@@ -260,9 +249,9 @@ TEST_F(Numbers, MayBeReplacedWhileTheyTakeAKey)
         ++replaced;
         fields[0]->SetValidator(wxNumValidator(FixedFormat(), &values[1]));
     });
-    wxUIActionSimulator user;
-    for (const int key : {int('1'), int(WXK_NUMPAD_DECIMAL), int('2')})
-        keys.WaitForKeys([&] { user.Char(key); });
+    Type("1");
+    Press(WXK_NUMPAD_DECIMAL);
+    Type("2");
     EXPECT_EQ(fields[0]->GetValue(), "1.2");
     EXPECT_EQ(replaced, 3);
     EXPECT_TRUE(fields[0]->GetValidator()->TransferFromWindow());
@@ -292,9 +281,7 @@ TEST_F(Numbers, GoWithTheirControlToAnotherWindow)
     EXPECT_TRUE(other.TransferDataToWindow());
     EXPECT_EQ(fields[0]->GetValue(), "1");
     fields[0]->ChangeValue("");
-    wxUIActionSimulator user;
-    for (const char key : {'4', 'x'})
-        keys.WaitForKeys([&] { user.Char(key); });
+    Type("4x");
     EXPECT_EQ(fields[0]->GetValue(), "4");
     EXPECT_TRUE(other.Validate());
     EXPECT_TRUE(other.TransferDataFromWindow());
