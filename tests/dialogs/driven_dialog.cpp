@@ -155,6 +155,12 @@ std::string DrivenDialog::Chosen()
     return chosen.empty() ? "(no answer)" : chosen.back();
 }
 
+std::string DrivenDialog::ChosenBy(const std::string& key)
+{
+    Press(key);
+    return Chosen();
+}
+
 void DrivenDialog::ExpectCentred() const
 {
     std::istringstream line(LastLine("frame "));

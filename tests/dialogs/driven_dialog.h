@@ -62,6 +62,9 @@ public:
     /// Waits until the dialog has closed, and returns the chosen path.
     std::string Chosen();
 
+    /// Presses a key that closes the dialog, and returns the chosen path.
+    std::string ChosenBy(const std::string& key);
+
     /// Fails the test unless the dialog is centred on its parent.
     void ExpectCentred() const;
 

@@ -2,6 +2,7 @@
 #define FITTINGS_TESTS_DIALOGS_FILE_ANSWER_H_
 
 #include <functional>
+#include <utility>
 #include <vector>
 
 #include <wx/gdicmn.h>
@@ -9,6 +10,9 @@
 #include <wx/string.h>
 
 class wxWindow;
+
+/// A folder, and the name of a file in that folder.
+using FilePlace = std::pair<wxString, wxString>;
 
 /// The arguments of a file dialog's constructor, and the dialog's state just before the dialog was answered.
 struct AskedFile
@@ -27,6 +31,8 @@ struct AskedFile
     std::vector<int> filtersSet;  // the arguments of SetFilterIndex() after the construction
     wxString shownFolder;
     std::vector<int> centred;
+
+    FilePlace Place() const { return {folder, file}; }
 };
 
 /// While the object exists, answers file dialogs in place of the user. Only one such object may exist at a time.

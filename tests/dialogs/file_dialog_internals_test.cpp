@@ -174,16 +174,14 @@ TEST_F(OpenDialog, IsMadeAsADialogForFilesThatExist)
 TEST_F(OpenDialog, HasNoFolderForAnEmptySwitch)
 {
     fittings::SaveLastPath(L"/home/u/a/report.prj", "Report");
-    EXPECT_EQ(Asked(L"").folder, "");
-    EXPECT_EQ(Asked(L"").file, "");
+    EXPECT_EQ(Asked(L"").Place(), FilePlace("", ""));
 }
 
 TEST_F(OpenDialog, HasTheRememberedPathWholeForAnyOtherSwitch)
 {
     fittings::SaveLastPath(L"/home/u/a/report.prj", "Report");
     for (const wchar_t* const text : {L"/data/out/", L"x", L" "}) {
-        EXPECT_EQ(Asked(text).folder, "/home/u/a/report.prj");
-        EXPECT_EQ(Asked(text).file, "");
+        EXPECT_EQ(Asked(text).Place(), FilePlace("/home/u/a/report.prj", ""));
     }
 }
 
@@ -230,8 +228,7 @@ TEST_F(OpenDialog, SharesWhatIsRememberedWithTheSaveDialog)
     }
     const FileAnswer cancel(wxID_CANCEL, "");
     CQVFileDialogI::LaunchSaveDialog(nullptr, L"", L"", L"", L"", L"");
-    EXPECT_EQ(cancel.Asked().folder, "/srv");
-    EXPECT_EQ(cancel.Asked().file, "two");
+    EXPECT_EQ(cancel.Asked().Place(), FilePlace("/srv", "two"));
 }
 
 TEST_F(OpenDialog, AssertsAndChoosesNothingWithoutASwitch)

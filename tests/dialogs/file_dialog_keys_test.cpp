@@ -41,6 +41,13 @@ public:
     {
     }
 
+    /// Waits until the dialog proposes @a name in @a folder.
+    Dialog(const std::string& settings, const Call& call, const std::string& folder, const std::string& name)
+        : Dialog(settings, call)
+    {
+        WaitForProposal(folder, name);
+    }
+
     /// Waits until the dialog has read the folder and proposes the name.
     void WaitForProposal(const std::string& folder, const std::string& name)
     {
@@ -107,11 +114,9 @@ protected:
 
 TEST_F(SaveDialogByKeys, GivesTheNameTyped)
 {
-    Dialog dialog(m_settings.Path(), CallIn(m_plain, ""));
-    dialog.WaitForProposal(m_plain, "");
+    Dialog dialog(m_settings.Path(), CallIn(m_plain, ""), m_plain, "");
     dialog.TypeName("fresh.csv");
-    dialog.Press("Return");
-    EXPECT_EQ(dialog.Chosen(), m_plain + "/fresh.csv");
+    EXPECT_EQ(dialog.ChosenBy("Return"), m_plain + "/fresh.csv");
     EXPECT_EQ(Stored("LastFiles", "Report"), m_plain + "/fresh.csv");
     EXPECT_FALSE(fs::exists(m_plain + "/fresh.csv"));
 }
@@ -121,43 +126,33 @@ TEST_F(SaveDialogByKeys, GivesTheNameTypedInPlaceOfTheOneProposed)
     Call call = CallIn(m_plain, "report");
     call.extension = "csv";
     call.wildcard = "All|*|Tables|*.csv";
-    Dialog dialog(m_settings.Path(), call);
-    dialog.WaitForProposal(m_plain, "report");
+    Dialog dialog(m_settings.Path(), call, m_plain, "report");
     dialog.TypeName("other");
-    dialog.Press("Return");
-    EXPECT_EQ(dialog.Chosen(), m_plain + "/other");
+    EXPECT_EQ(dialog.ChosenBy("Return"), m_plain + "/other");
 }
 
 TEST_F(SaveDialogByKeys, GivesTheNameProposed)
 {
-    Dialog dialog(m_settings.Path(), CallIn(m_plain, "report.csv"));
-    dialog.WaitForProposal(m_plain, "report.csv");
-    dialog.Press("alt+s");
-    EXPECT_EQ(dialog.Chosen(), m_plain + "/report.csv");
+    Dialog dialog(m_settings.Path(), CallIn(m_plain, "report.csv"), m_plain, "report.csv");
+    EXPECT_EQ(dialog.ChosenBy("alt+s"), m_plain + "/report.csv");
 }
 
 TEST_F(SaveDialogByKeys, GivesNothingAfterEscape)
 {
     Store("/usr/earlier");
-    Dialog dialog(m_settings.Path(), CallIn(m_plain, "report.csv"));
-    dialog.WaitForProposal(m_plain, "report.csv");
-    dialog.Press("Escape");
-    EXPECT_EQ(dialog.Chosen(), "");
+    Dialog dialog(m_settings.Path(), CallIn(m_plain, "report.csv"), m_plain, "report.csv");
+    EXPECT_EQ(dialog.ChosenBy("Escape"), "");
     EXPECT_EQ(Stored("LastFiles", "Report"), "/usr/earlier");
 }
 
 TEST_F(SaveDialogByKeys, ProposesTheFileChosenLast)
 {
     {
-        Dialog dialog(m_settings.Path(), CallIn(m_plain, "report.prj"));
-        dialog.WaitForProposal(m_plain, "report.prj");
-        dialog.Press("Return");
-        EXPECT_EQ(dialog.Chosen(), m_plain + "/report.prj");
+        Dialog dialog(m_settings.Path(), CallIn(m_plain, "report.prj"), m_plain, "report.prj");
+        EXPECT_EQ(dialog.ChosenBy("Return"), m_plain + "/report.prj");
     }
-    Dialog dialog(m_settings.Path(), CallAgain());
-    dialog.WaitForProposal(m_plain, "report");
-    dialog.Press("Escape");
-    EXPECT_EQ(dialog.Chosen(), "");
+    Dialog dialog(m_settings.Path(), CallAgain(), m_plain, "report");
+    EXPECT_EQ(dialog.ChosenBy("Escape"), "");
     EXPECT_EQ(Stored("LastFiles", "Report"), m_plain + "/report.prj");
 }
 
@@ -166,25 +161,21 @@ TEST_F(SaveDialogByKeys, ProposesTheExtensionOfThePatternAnew)
     Store(m_plain + "/report.prj");
     Call call = CallAgain();
     call.extension = "prj";
-    Dialog dialog(m_settings.Path(), call);
-    dialog.WaitForProposal(m_plain, "report.prj");
-    dialog.Press("Return");
-    EXPECT_EQ(dialog.Chosen(), m_plain + "/report.prj");
+    Dialog dialog(m_settings.Path(), call, m_plain, "report.prj");
+    EXPECT_EQ(dialog.ChosenBy("Return"), m_plain + "/report.prj");
 }
 
 TEST_F(SaveDialogByKeys, KeepsAFileThatIsNotToBeReplaced)
 {
     Store("/usr/earlier");
     WriteFile(m_plain + "/report.csv", "precious");
-    Dialog dialog(m_settings.Path(), CallIn(m_plain, "report.csv"));
-    dialog.WaitForProposal(m_plain, "report.csv");
+    Dialog dialog(m_settings.Path(), CallIn(m_plain, "report.csv"), m_plain, "report.csv");
     dialog.Press("Return");
     EXPECT_NE(dialog.Message().find("already exists"), std::string::npos) << dialog.Message();
     dialog.Press("Escape");
     dialog.WaitForNoMessage();
     dialog.WaitForProposal(m_plain, "report.csv");
-    dialog.Press("Escape");
-    EXPECT_EQ(dialog.Chosen(), "");
+    EXPECT_EQ(dialog.ChosenBy("Escape"), "");
     EXPECT_EQ(ReadFile(m_plain + "/report.csv"), "precious");
     EXPECT_EQ(Stored("LastFiles", "Report"), "/usr/earlier");
 }
@@ -192,27 +183,23 @@ TEST_F(SaveDialogByKeys, KeepsAFileThatIsNotToBeReplaced)
 TEST_F(SaveDialogByKeys, LetsAnotherNameBeTypedForAFileThatIsNotToBeReplaced)
 {
     WriteFile(m_plain + "/report.csv", "precious");
-    Dialog dialog(m_settings.Path(), CallIn(m_plain, "report.csv"));
-    dialog.WaitForProposal(m_plain, "report.csv");
+    Dialog dialog(m_settings.Path(), CallIn(m_plain, "report.csv"), m_plain, "report.csv");
     dialog.Press("Return");
     dialog.Message();
     dialog.Press("Escape");
     dialog.WaitForNoMessage();
     dialog.TypeName("report2.csv");
-    dialog.Press("Return");
-    EXPECT_EQ(dialog.Chosen(), m_plain + "/report2.csv");
+    EXPECT_EQ(dialog.ChosenBy("Return"), m_plain + "/report2.csv");
     EXPECT_EQ(Stored("LastFiles", "Report"), m_plain + "/report2.csv");
 }
 
 TEST_F(SaveDialogByKeys, GivesAFileThatIsToBeReplaced)
 {
     WriteFile(m_plain + "/report.csv", "precious");
-    Dialog dialog(m_settings.Path(), CallIn(m_plain, "report.csv"));
-    dialog.WaitForProposal(m_plain, "report.csv");
+    Dialog dialog(m_settings.Path(), CallIn(m_plain, "report.csv"), m_plain, "report.csv");
     dialog.Press("Return");
     dialog.Message();
-    dialog.Press("alt+r");
-    EXPECT_EQ(dialog.Chosen(), m_plain + "/report.csv");
+    EXPECT_EQ(dialog.ChosenBy("alt+r"), m_plain + "/report.csv");
     EXPECT_EQ(Stored("LastFiles", "Report"), m_plain + "/report.csv");
     EXPECT_EQ(ReadFile(m_plain + "/report.csv"), "precious");
 }
@@ -222,50 +209,40 @@ TEST_F(SaveDialogByKeys, GivesANameThatIsNotAscii)
     const std::string folder = m_folders / kNotAscii;
     const std::string name = std::string(kNotAscii) + ".csv";
     {
-        Dialog dialog(m_settings.Path(), CallIn(folder, name));
-        dialog.WaitForProposal(folder, name);
-        dialog.Press("Return");
-        EXPECT_EQ(dialog.Chosen(), folder + "/" + name);
+        Dialog dialog(m_settings.Path(), CallIn(folder, name), folder, name);
+        EXPECT_EQ(dialog.ChosenBy("Return"), folder + "/" + name);
         EXPECT_EQ(Stored("LastFiles", "Report"), folder + "/" + name);
     }
-    Dialog dialog(m_settings.Path(), CallAgain());
-    dialog.WaitForProposal(folder, kNotAscii);
-    dialog.Press("Escape");
-    EXPECT_EQ(dialog.Chosen(), "");
+    Dialog dialog(m_settings.Path(), CallAgain(), folder, kNotAscii);
+    EXPECT_EQ(dialog.ChosenBy("Escape"), "");
 }
 
 TEST_F(SaveDialogByKeys, GivesTheLongestName)
 {
     const std::string name(255, 'n');
-    Dialog dialog(m_settings.Path(), CallIn(m_plain, name));
-    dialog.WaitForProposal(m_plain, name);
-    dialog.Press("Return");
-    EXPECT_EQ(dialog.Chosen(), m_plain + "/" + name);
+    Dialog dialog(m_settings.Path(), CallIn(m_plain, name), m_plain, name);
+    EXPECT_EQ(dialog.ChosenBy("Return"), m_plain + "/" + name);
     EXPECT_EQ(Stored("LastFiles", "Report"), m_plain + "/" + name);
 }
 
 TEST_F(SaveDialogByKeys, RefusesANameThatIsTooLong)
 {
     const std::string name(256, 'n');
-    Dialog dialog(m_settings.Path(), CallIn(m_plain, name));
-    dialog.WaitForProposal(m_plain, name);
+    Dialog dialog(m_settings.Path(), CallIn(m_plain, name), m_plain, name);
     dialog.Press("Return");
     EXPECT_NE(dialog.Message().find("too long"), std::string::npos) << dialog.Message();
     dialog.Press("Return");
     dialog.WaitForNoMessage();
     dialog.TypeName("short");
-    dialog.Press("Return");
-    EXPECT_EQ(dialog.Chosen(), m_plain + "/short");
+    EXPECT_EQ(dialog.ChosenBy("Return"), m_plain + "/short");
 }
 
 TEST_F(SaveDialogByKeys, StartsInTheFolderOfSamples)
 {
     const fs::path home = HomeFolder();
     fs::create_directories(home / "fittings-test/Samples");
-    Dialog dialog(m_settings.Path(), CallAgain());
-    dialog.WaitForProposal(home / "fittings-test/Samples", "");
-    dialog.Press("Escape");
-    EXPECT_EQ(dialog.Chosen(), "");
+    Dialog dialog(m_settings.Path(), CallAgain(), home / "fittings-test/Samples", "");
+    EXPECT_EQ(dialog.ChosenBy("Escape"), "");
     fs::remove_all(home / "fittings-test");
 }
 
@@ -275,21 +252,17 @@ TEST_F(SaveDialogByKeys, StartsAboveSamplesThatAreNotThereWithoutAnError)
     // GTK completes an empty entry with the common beginning of all names in the folder. If all names belonged to
     // hidden files, this beginning would be a dot. Therefore add a visible file.
     WriteFile(home + "/visible", "");
-    Dialog dialog(m_settings.Path(), CallAgain());
-    dialog.WaitForProposal(home, "");
+    Dialog dialog(m_settings.Path(), CallAgain(), home, "");
     dialog.TypeName("first.csv");
-    dialog.Press("Return");
-    EXPECT_EQ(dialog.Chosen(), home + "/first.csv");
+    EXPECT_EQ(dialog.ChosenBy("Return"), home + "/first.csv");
     EXPECT_FALSE(dialog.HadMessage());
 }
 
 TEST_F(SaveDialogByKeys, StartsAboveAFolderThatIsGoneWithoutAnError)
 {
     Store(m_plain + "/gone/away/report.csv");
-    Dialog dialog(m_settings.Path(), CallAgain());
-    dialog.WaitForProposal(m_plain, "report");
-    dialog.Press("Return");
-    EXPECT_EQ(dialog.Chosen(), m_plain + "/report");
+    Dialog dialog(m_settings.Path(), CallAgain(), m_plain, "report");
+    EXPECT_EQ(dialog.ChosenBy("Return"), m_plain + "/report");
     EXPECT_FALSE(dialog.HadMessage());
 }
 
@@ -298,10 +271,8 @@ TEST_F(SaveDialogByKeys, StartsAboveAFileInPlaceOfAFolderWithoutAnError)
     WriteFile(m_plain + "/file", "");
     for (const std::string& gone : {m_plain + "/file/report.csv", m_plain + "/file/deeper/report.csv"}) {
         Store(gone);
-        Dialog dialog(m_settings.Path(), CallAgain());
-        dialog.WaitForProposal(m_plain, "report");
-        dialog.Press("Return");
-        EXPECT_EQ(dialog.Chosen(), m_plain + "/report");
+        Dialog dialog(m_settings.Path(), CallAgain(), m_plain, "report");
+        EXPECT_EQ(dialog.ChosenBy("Return"), m_plain + "/report");
         EXPECT_FALSE(dialog.HadMessage());
     }
 }
@@ -313,10 +284,8 @@ TEST_F(SaveDialogByKeys, StartsAboveAFolderThatCannotBeReadWithoutAnError)
     for (const std::string& closed : {m_plain + "/closed", m_plain + "/closed/deeper"}) {
         Call call = CallIn(closed, "report");
         call.asNobody = true;
-        Dialog dialog(m_settings.Path(), call);
-        dialog.WaitForProposal(m_plain, "report");
-        dialog.Press("Escape");
-        EXPECT_EQ(dialog.Chosen(), "");
+        Dialog dialog(m_settings.Path(), call, m_plain, "report");
+        EXPECT_EQ(dialog.ChosenBy("Escape"), "");
         EXPECT_FALSE(dialog.HadMessage());
     }
     fs::permissions(m_plain + "/closed", fs::perms::owner_all);
@@ -326,10 +295,8 @@ TEST_F(SaveDialogByKeys, StartsInTheRootFolderWhenNothingElseCanBeRead)
 {
     Call call = CallIn("/root", "report");
     call.asNobody = true;
-    Dialog dialog(m_settings.Path(), call);
-    dialog.WaitForProposal("/", "report");
-    dialog.Press("Escape");
-    EXPECT_EQ(dialog.Chosen(), "");
+    Dialog dialog(m_settings.Path(), call, "/", "report");
+    EXPECT_EQ(dialog.ChosenBy("Escape"), "");
     EXPECT_FALSE(dialog.HadMessage());
 }
 
@@ -339,10 +306,8 @@ TEST_F(SaveDialogByKeys, GivesAFileInAFolderThatCannotBeWritten)
                     fs::perm_options::remove);
     Call call = CallIn(m_plain, "report.csv");
     call.asNobody = true;
-    Dialog dialog(m_settings.Path(), call);
-    dialog.WaitForProposal(m_plain, "report.csv");
-    dialog.Press("Return");
-    EXPECT_EQ(dialog.Chosen(), m_plain + "/report.csv");
+    Dialog dialog(m_settings.Path(), call, m_plain, "report.csv");
+    EXPECT_EQ(dialog.ChosenBy("Return"), m_plain + "/report.csv");
     EXPECT_FALSE(dialog.HadMessage());
     fs::permissions(m_plain, fs::perms::owner_all);
 }
@@ -355,20 +320,16 @@ TEST_F(SaveDialogByKeys, GivesNothingInAFolderWhoseNameIsNotUtf8)
     fs::create_directories(folder);
     Store(m_plain + "/\xF4\x80\x83\xBF/report.csv");
     const std::string stored = Stored("LastFiles", "Report");
-    Dialog dialog(m_settings.Path(), CallAgain());
-    dialog.WaitForProposal(folder, "report");
-    dialog.Press("Return");
-    EXPECT_EQ(dialog.Chosen(), "");
+    Dialog dialog(m_settings.Path(), CallAgain(), folder, "report");
+    EXPECT_EQ(dialog.ChosenBy("Return"), "");
     EXPECT_EQ(Stored("LastFiles", "Report"), stored);
 }
 
 TEST_F(SaveDialogByKeys, StandsInTheMiddleOfItsParent)
 {
-    Dialog dialog(m_settings.Path(), CallIn(m_plain, "report.csv"));
-    dialog.WaitForProposal(m_plain, "report.csv");
+    Dialog dialog(m_settings.Path(), CallIn(m_plain, "report.csv"), m_plain, "report.csv");
     dialog.ExpectCentred();
-    dialog.Press("Escape");
-    EXPECT_EQ(dialog.Chosen(), "");
+    EXPECT_EQ(dialog.ChosenBy("Escape"), "");
 }
 
 class OpenDialogByKeys : public SaveDialogByKeys
@@ -395,8 +356,7 @@ TEST_F(OpenDialogByKeys, StartsInTheFolderOfTheRememberedFile)
     Dialog dialog(m_settings.Path(), OpenAgain());
     dialog.WaitFor(m_plain, [&](const DialogState& state) { return state.isActive && state.folder == m_plain; });
     dialog.TypePath(m_plain + "/two.csv");
-    dialog.Press("Return");
-    EXPECT_EQ(dialog.Chosen(), m_plain + "/two.csv");
+    EXPECT_EQ(dialog.ChosenBy("Return"), m_plain + "/two.csv");
     EXPECT_EQ(Stored("LastFiles", "Report"), m_plain + "/two.csv");
     EXPECT_FALSE(dialog.HadMessage());
 }
@@ -414,8 +374,7 @@ TEST_F(OpenDialogByKeys, GivesNoFileThatIsNotThere)
     // The first Escape closes only the entry.
     dialog.Press("Escape");
     dialog.WaitFor("the list", [](const DialogState& state) { return state.focus == "GtkTreeView"; });
-    dialog.Press("Escape");
-    EXPECT_EQ(dialog.Chosen(), "");
+    EXPECT_EQ(dialog.ChosenBy("Escape"), "");
     EXPECT_EQ(Stored("LastFiles", "Report"), m_plain + "/one.csv");
 }
 

@@ -50,9 +50,7 @@ protected:
 
 TEST_F(LastFile, IsInTheFolderOfSamplesAtFirst)
 {
-    const AskedFile asked = Proposed();
-    EXPECT_EQ(asked.folder, SamplesFolder());
-    EXPECT_EQ(asked.file, "");
+    EXPECT_EQ(Proposed().Place(), FilePlace(SamplesFolder(), ""));
     EXPECT_EQ(Proposed(L"", L"mine.prj").file, "mine.prj");
 }
 
@@ -72,9 +70,7 @@ TEST_F(LastFile, IsStoredWithItsFolder)
 TEST_F(LastFile, IsProposedWithoutItsExtension)
 {
     SaveAs("/home/u/a/report.prj");
-    const AskedFile asked = Proposed();
-    EXPECT_EQ(asked.folder, "/home/u/a");
-    EXPECT_EQ(asked.file, "report");
+    EXPECT_EQ(Proposed().Place(), FilePlace("/home/u/a", "report"));
 }
 
 TEST_F(LastFile, IsTheOneChosenLast)
@@ -82,8 +78,7 @@ TEST_F(LastFile, IsTheOneChosenLast)
     SaveAs("/usr/one");
     SaveAs("/srv/two");
     EXPECT_EQ(Stored(L"LastFiles", L"Report"), L"/srv/two");
-    EXPECT_EQ(Proposed().folder, "/srv");
-    EXPECT_EQ(Proposed().file, "two");
+    EXPECT_EQ(Proposed().Place(), FilePlace("/srv", "two"));
 }
 
 TEST_F(LastFile, IsKeptExactly)
@@ -99,34 +94,26 @@ TEST_F(LastFile, IsKeptInUtf8)
 {
     SaveAs(L"/\x5E33/\x1F4D2 \xE4");
     EXPECT_EQ(Stored("LastFiles", "Report"), "/\xE5\xB8\xB3/\xF0\x9F\x93\x92 \xC3\xA4");
-    const AskedFile asked = Proposed();
-    EXPECT_EQ(asked.folder, L"/\x5E33");
-    EXPECT_EQ(asked.file, L"\x1F4D2 \xE4");
+    EXPECT_EQ(Proposed().Place(), FilePlace(L"/\x5E33", L"\x1F4D2 \xE4"));
 }
 
 TEST_F(LastFile, IsKeptHoweverLong)
 {
     const wxString folder = "/" + wxString(5000, 'd');
     SaveAs(folder + "/" + wxString(5000, 'f') + ".prj");
-    const AskedFile asked = Proposed();
-    EXPECT_EQ(asked.folder, folder);
-    EXPECT_EQ(asked.file, wxString(5000, 'f'));
+    EXPECT_EQ(Proposed().Place(), FilePlace(folder, wxString(5000, 'f')));
 }
 
 TEST_F(LastFile, GivesWayToTheNameGiven)
 {
     SaveAs("/home/u/a/report.prj");
-    const AskedFile asked = Proposed(L"", L"mine.x");
-    EXPECT_EQ(asked.folder, "/home/u/a");
-    EXPECT_EQ(asked.file, "mine.x");
+    EXPECT_EQ(Proposed(L"", L"mine.x").Place(), FilePlace("/home/u/a", "mine.x"));
 }
 
 TEST_F(LastFile, GivesWayToTheFolderGiven)
 {
     SaveAs("/home/u/a/report.prj");
-    const AskedFile asked = Proposed(L"/data/");
-    EXPECT_EQ(asked.folder, "/data");
-    EXPECT_EQ(asked.file, "");
+    EXPECT_EQ(Proposed(L"/data/").Place(), FilePlace("/data", ""));
 }
 
 TEST_F(LastFile, IsRememberedFromAFolderGivenToo)
@@ -220,9 +207,7 @@ TEST_F(LastFile, IsNeitherReadNorKeptWithoutAnEntry)
     CLocalRegStore::WriteString(L"LastFiles", L"", L"/usr/one");
     for (const std::string& entry : {std::string(), std::string("\0Report", 7)}) {
         CQVFileDialogI::SetRegEntry(entry);
-        const AskedFile asked = Proposed();
-        EXPECT_EQ(asked.folder, "");
-        EXPECT_EQ(asked.file, "");
+        EXPECT_EQ(Proposed().Place(), FilePlace("", ""));
         EXPECT_EQ(Proposed(L"", L"mine").file, "mine");
         EXPECT_EQ(Proposed(L"/data/out").folder, "/data");
         EXPECT_EQ(SaveAs("/srv/two"), L"/srv/two");

@@ -137,17 +137,13 @@ class SaveDialogStart : public testing::TestWithParam<Start>
 TEST_P(SaveDialogStart, IsFolderAndNameOfTheFolderGiven)
 {
     for (const wchar_t* const noName : {L"", static_cast<const wchar_t*>(nullptr)}) {
-        const AskedFile asked = AskedAt(GetParam().given.c_str(), noName);
-        EXPECT_EQ(asked.folder, GetParam().folder);
-        EXPECT_EQ(asked.file, GetParam().file);
+        EXPECT_EQ(AskedAt(GetParam().given.c_str(), noName).Place(), FilePlace(GetParam().folder, GetParam().file));
     }
 }
 
 TEST_P(SaveDialogStart, HasTheNameGivenInAnyCase)
 {
-    const AskedFile asked = AskedAt(GetParam().given.c_str(), L"mine.a.b");
-    EXPECT_EQ(asked.folder, GetParam().folder);
-    EXPECT_EQ(asked.file, "mine.a.b");
+    EXPECT_EQ(AskedAt(GetParam().given.c_str(), L"mine.a.b").Place(), FilePlace(GetParam().folder, "mine.a.b"));
 }
 
 const std::wstring kLong(200, L'\x5E33');

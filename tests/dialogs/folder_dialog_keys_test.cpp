@@ -53,16 +53,14 @@ TEST_F(FolderDialogByKeys, GivesTheFolderTyped)
     Dialog dialog({m_settings.Path(), "modal", "Choose one"}, "Choose one");
     dialog.WaitForHome();
     dialog.TypePath(m_folders / "plain");
-    dialog.Press("Return");
-    EXPECT_EQ(dialog.Chosen(), m_folders / "plain");
+    EXPECT_EQ(dialog.ChosenBy("Return"), m_folders / "plain");
 }
 
 TEST_F(FolderDialogByKeys, GivesTheHomeFolderAtFirst)
 {
     Dialog dialog({m_settings.Path(), "reg", "Choose one", "Import"}, "Choose one");
     dialog.WaitForHome();
-    dialog.Press("alt+o");
-    EXPECT_EQ(dialog.Chosen(), HomeFolder());
+    EXPECT_EQ(dialog.ChosenBy("alt+o"), HomeFolder());
 }
 
 TEST_F(FolderDialogByKeys, GivesTheFolderTypedInPlaceOfTheStart)
@@ -70,24 +68,21 @@ TEST_F(FolderDialogByKeys, GivesTheFolderTypedInPlaceOfTheStart)
     Dialog dialog({m_settings.Path(), "modal", "Choose one", m_folders / kNotAscii}, "Choose one");
     dialog.WaitForFolder(m_folders / kNotAscii);
     dialog.TypePath(m_folders / "other");
-    dialog.Press("Return");
-    EXPECT_EQ(dialog.Chosen(), m_folders / "other");
+    EXPECT_EQ(dialog.ChosenBy("Return"), m_folders / "other");
 }
 
 TEST_F(FolderDialogByKeys, GivesTheFolderItStartsIn)
 {
     Dialog dialog({m_settings.Path(), "modal", "Choose one", m_folders / kNotAscii}, "Choose one");
     dialog.WaitForFolder(m_folders / kNotAscii);
-    dialog.Press("alt+o");
-    EXPECT_EQ(dialog.Chosen(), m_folders / kNotAscii);
+    EXPECT_EQ(dialog.ChosenBy("alt+o"), m_folders / kNotAscii);
 }
 
 TEST_F(FolderDialogByKeys, GivesNothingAfterEscape)
 {
     Dialog dialog({m_settings.Path(), "modal", "Choose one", m_folders / "plain"}, "Choose one");
     dialog.WaitForFolder(m_folders / "plain");
-    dialog.Press("Escape");
-    EXPECT_EQ(dialog.Chosen(), "");
+    EXPECT_EQ(dialog.ChosenBy("Escape"), "");
 }
 
 TEST_F(FolderDialogByKeys, RemembersTheFolderChosen)
@@ -97,19 +92,16 @@ TEST_F(FolderDialogByKeys, RemembersTheFolderChosen)
         Dialog dialog(command, "Choose one");
         dialog.WaitForHome();
         dialog.TypePath(m_folders / "other");
-        dialog.Press("Return");
-        EXPECT_EQ(dialog.Chosen(), m_folders / "other");
+        EXPECT_EQ(dialog.ChosenBy("Return"), m_folders / "other");
     }
     {
         Dialog dialog(command, "Choose one");
         dialog.WaitForFolder(m_folders / "other");
-        dialog.Press("Escape");
-        EXPECT_EQ(dialog.Chosen(), "");
+        EXPECT_EQ(dialog.ChosenBy("Escape"), "");
     }
     Dialog dialog(command, "Choose one");
     dialog.WaitForFolder(m_folders / "other");
-    dialog.Press("alt+o");
-    EXPECT_EQ(dialog.Chosen(), m_folders / "other");
+    EXPECT_EQ(dialog.ChosenBy("alt+o"), m_folders / "other");
 }
 
 TEST_F(FolderDialogByKeys, BearsARememberedFolderThatIsGone)
@@ -119,23 +111,20 @@ TEST_F(FolderDialogByKeys, BearsARememberedFolderThatIsGone)
         Dialog dialog(command, "Choose one");
         dialog.WaitForHome();
         dialog.TypePath(m_folders / "plain");
-        dialog.Press("Return");
-        EXPECT_EQ(dialog.Chosen(), m_folders / "plain");
+        EXPECT_EQ(dialog.ChosenBy("Return"), m_folders / "plain");
     }
     std::filesystem::remove(m_folders / "plain");
     Dialog dialog(command, "Choose one");
     dialog.WaitForHome();
     dialog.TypePath(m_folders / "other");
-    dialog.Press("Return");
-    EXPECT_EQ(dialog.Chosen(), m_folders / "other");
+    EXPECT_EQ(dialog.ChosenBy("Return"), m_folders / "other");
 }
 
 TEST_F(FolderDialogByKeys, StandsInTheMiddleOfItsParent)
 {
     Dialog dialog({m_settings.Path(), "modal", "Choose one", m_folders / "plain"}, "Choose one");
     dialog.ExpectCentred();
-    dialog.Press("Escape");
-    EXPECT_EQ(dialog.Chosen(), "");
+    EXPECT_EQ(dialog.ChosenBy("Escape"), "");
 }
 
 }  // namespace

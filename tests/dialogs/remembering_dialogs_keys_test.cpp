@@ -63,15 +63,13 @@ TEST_F(RememberingByKeys, ProposesTheFileChosenLastWithItsExtension)
         dialog.WaitForFile(m_plain + "/report.prj");
         dialog.Type("fresh.prj");
         dialog.WaitForFile(m_plain + "/fresh.prj");
-        dialog.Press("Return");
-        EXPECT_EQ(dialog.Chosen(), m_plain + "/fresh.prj");
+        EXPECT_EQ(dialog.ChosenBy("Return"), m_plain + "/fresh.prj");
     }
     EXPECT_EQ(ReadFile(m_settings / "settings.ini"),
               "[LastFiles]\nReport=" + m_plain + "/fresh.prj\n\n[LastFilters]\nReport=*\n");
     Dialog dialog(m_settings.Path(), "save");
     dialog.WaitForFile(m_plain + "/fresh.prj");
-    dialog.Press("Escape");
-    EXPECT_EQ(dialog.Chosen(), "");
+    EXPECT_EQ(dialog.ChosenBy("Escape"), "");
     EXPECT_EQ(Stored("LastFiles", "Report"), m_plain + "/fresh.prj");
 }
 
@@ -82,8 +80,7 @@ TEST_F(RememberingByKeys, AsksBeforeItReplacesAFile)
     dialog.WaitForFile(m_plain + "/one.csv");
     dialog.Press("Return");
     EXPECT_NE(dialog.Message().find("already exists"), std::string::npos) << dialog.Message();
-    dialog.Press("alt+r");
-    EXPECT_EQ(dialog.Chosen(), m_plain + "/one.csv");
+    EXPECT_EQ(dialog.ChosenBy("alt+r"), m_plain + "/one.csv");
 }
 
 TEST_F(RememberingByKeys, StartsInTheDocumentsAtFirst)
@@ -94,8 +91,7 @@ TEST_F(RememberingByKeys, StartsInTheDocumentsAtFirst)
     WriteFile(home + "/.config/user-dirs.dirs", "XDG_DOCUMENTS_DIR=\"$HOME/Papers\"\n");
     Dialog dialog(m_settings.Path(), "save", home);
     dialog.WaitForFolder(home + "/Papers");
-    dialog.Press("Escape");
-    EXPECT_EQ(dialog.Chosen(), "");
+    EXPECT_EQ(dialog.ChosenBy("Escape"), "");
     EXPECT_FALSE(dialog.HadMessage());
 }
 
@@ -104,8 +100,7 @@ TEST_F(RememberingByKeys, StartsAboveAFolderThatIsGoneWithoutAnError)
     Store(m_plain + "/gone/away/report.csv");
     Dialog dialog(m_settings.Path(), "save");
     dialog.WaitForFile(m_plain + "/report.csv");
-    dialog.Press("Return");
-    EXPECT_EQ(dialog.Chosen(), m_plain + "/report.csv");
+    EXPECT_EQ(dialog.ChosenBy("Return"), m_plain + "/report.csv");
     EXPECT_FALSE(dialog.HadMessage());
 }
 
@@ -116,13 +111,11 @@ TEST_F(RememberingByKeys, OpensTheFileChosenLastAgain)
         Dialog dialog(m_settings.Path(), "open");
         dialog.WaitForFolder(m_plain);
         dialog.TypePath(m_plain + "/two.csv");
-        dialog.Press("Return");
-        EXPECT_EQ(dialog.Chosen(), m_plain + "/two.csv");
+        EXPECT_EQ(dialog.ChosenBy("Return"), m_plain + "/two.csv");
     }
     Dialog dialog(m_settings.Path(), "open");
     dialog.WaitForFile(m_plain + "/two.csv");
-    dialog.Press("alt+o");
-    EXPECT_EQ(dialog.Chosen(), m_plain + "/two.csv");
+    EXPECT_EQ(dialog.ChosenBy("alt+o"), m_plain + "/two.csv");
     EXPECT_EQ(Stored("LastFiles", "Report"), m_plain + "/two.csv");
 }
 
@@ -146,15 +139,13 @@ TEST_F(RememberingByKeys, StartsInTheFolderChosenLast)
         Dialog dialog(m_settings.Path(), "folder");
         dialog.WaitForFile(HomeFolder());
         dialog.TypePath(m_plain);
-        dialog.Press("Return");
-        EXPECT_EQ(dialog.Chosen(), m_plain);
+        EXPECT_EQ(dialog.ChosenBy("Return"), m_plain);
     }
     EXPECT_EQ(ReadFile(m_settings / "settings.ini"), "[Report]\nPath=" + m_plain + "\n");
     fs::remove_all(m_plain);
     Dialog dialog(m_settings.Path(), "folder");
     dialog.WaitForFile(m_folders.Path());
-    dialog.Press("alt+o");
-    EXPECT_EQ(dialog.Chosen(), m_folders.Path());
+    EXPECT_EQ(dialog.ChosenBy("alt+o"), m_folders.Path());
 }
 
 }  // namespace
