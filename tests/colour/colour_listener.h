@@ -15,6 +15,9 @@ using ColourCalls = std::vector<std::string>;
 class ColourListener : public wxColorPopupListener
 {
 public:
+    ColourListener() = default;
+    explicit ColourListener(wxColourPopup& popup) { popup.SetColorListener(this); }
+
     void OnColourPopup() override { Note("popup"); }
     void OnColourSelChange(const wxColour& colour) override { Note("change", &colour); }
     void OnColourSelEnd(const wxColour& colour) override { Note("end", &colour); }

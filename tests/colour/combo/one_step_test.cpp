@@ -211,8 +211,7 @@ TEST(ColourOfTheCombo, IsShownAtOnceWithoutAnEvent)
 {
     for (const long style : {long(wxCB_READONLY), 0L}) {
         OneStep on(*wxBLUE, style);
-        ColourListener listener;
-        on.combo->GetPopup()->SetColorListener(&listener);
+        ColourListener listener(*on.combo->GetPopup());
         on.Watch();
         EXPECT_TRUE(on.combo->SetColour(*wxRED));
         EXPECT_EQ(on.combo->GetColour(), *wxRED);

@@ -224,8 +224,7 @@ TEST_F(MoreColours, CanBeAskedForAtAnyTime)
 TEST(MoreColoursAlone, AsksWithoutACombo)
 {
     const PopupInFrame popup;
-    ColourListener listener;
-    popup->SetColorListener(&listener);
+    ColourListener listener(*popup.popup);
     Answer answer(wxID_OK, *wxRED);
     popup->ChangeSelection(M);
     popup->EndSelection(true);

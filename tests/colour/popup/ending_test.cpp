@@ -49,8 +49,7 @@ TEST(ColourStart, TellsTheListenerLast)
     };
     const ComboOnScreen<OpenCombo, CountedPopup> on(wxCB_READONLY,
                                                     [](CountedPopup& popup) { popup.SetInitialColour(*wxBLUE); });
-    ColourListener listener;
-    on.popup->SetColorListener(&listener);
+    ColourListener listener(*on.popup);
     int hot = 0;
     int chosen = 0;
     int refreshes = 0;
@@ -378,8 +377,7 @@ TEST_F(ColourEnding, WorksOnAfterAnExceptionOfTheListeners)
 TEST(ColourPopupAlone, WorksInThePlainComboOfTheToolkit)
 {
     const ComboOnScreen<wxComboCtrl> on;
-    ColourListener listener;
-    on.popup->SetColorListener(&listener);
+    ColourListener listener(*on.popup);
     ASSERT_TRUE(ShowAndSettle(on.frame));
     ASSERT_TRUE(Opens(*on.combo));
     on.popup->ChangeSelection(16);
@@ -396,8 +394,7 @@ TEST(ColourPopupAlone, WorksInThePlainComboOfTheToolkit)
 TEST(ColourPopupAlone, WorksWithoutACombo)
 {
     const PopupInFrame popup;
-    ColourListener listener;
-    popup->SetColorListener(&listener);
+    ColourListener listener(*popup.popup);
     popup->SetRefreshCombo(true);
     popup->OnPopup();
     popup->ChangeSelection(16);
@@ -412,8 +409,7 @@ TEST(ColourPopupAlone, WorksWithoutACombo)
 TEST(ColourPopupAlone, WorksWithoutAWindow)
 {
     OpenPopup popup;
-    ColourListener listener;
-    popup.SetColorListener(&listener);
+    ColourListener listener(popup);
     popup.ChangeSelection(16);
     popup.DoEndSel(true);
     popup.ChangeSelection(18);

@@ -23,8 +23,7 @@ TEST(ColourHotCell, BringsItsColour)
     const PopupInFrame popup;
     popup->SetInitialColour(*wxBLUE);
     popup->SetDefaultColour(*wxGREEN);
-    ColourListener listener;
-    popup->SetColorListener(&listener);
+    ColourListener listener(*popup.popup);
     for (const int cell : {5, 39, M, A, 0}) {
         popup->ChangeSelection(cell);
         EXPECT_EQ(popup->m_nCurrentSel, cell);
@@ -49,8 +48,7 @@ TEST(ColourHotCell, IsNotTheChosenOneYet)
 TEST(ColourHotCell, IsHotInEveryRespectWhenTheListenerHearsOfIt)
 {
     const PopupInFrame popup;
-    ColourListener listener;
-    popup->SetColorListener(&listener);
+    ColourListener listener(*popup.popup);
     int hot = 0;
     wxColour colour;
     wxString tip;
@@ -81,8 +79,7 @@ TEST(ColourHotCell, KeepsAnIndexThatIsNoCell)
 {
     const PopupInFrame popup;
     popup->SetInitialColour(*wxBLUE);
-    ColourListener listener;
-    popup->SetColorListener(&listener);
+    ColourListener listener(*popup.popup);
     for (const int index : {40, -1, -4, -2147483647}) {
         popup->ChangeSelection(16);
         popup->ChangeSelection(index);
@@ -96,8 +93,7 @@ TEST(ColourHotCell, KeepsAnIndexThatIsNoCell)
 TEST(ColourHotCell, CanBeSetBeforeTheWindowIsCreated)
 {
     OpenPopup popup;
-    ColourListener listener;
-    popup.SetColorListener(&listener);
+    ColourListener listener(popup);
     popup.ChangeSelection(16);
     EXPECT_EQ(popup.m_nCurrentSel, 16);
     EXPECT_EQ(popup.m_strToolTip, "Red");
@@ -386,8 +382,7 @@ TEST_F(HotCellOnScreen, TakesTheHotLookFromTheOldCell)
 
 TEST_F(HotCellOnScreen, StaysAsItIsWhileThePointerMovesInIt)
 {
-    ColourListener listener;
-    popup->SetColorListener(&listener);
+    ColourListener listener(*popup.popup);
     const auto move = [&](int x, int y) {
         wxMouseEvent event(wxEVT_MOTION);
         event.SetX(x);

@@ -1,5 +1,6 @@
 // For each cell and key: which cell becomes hot, and whether the selection ends.
 
+#include <map>
 #include <ostream>
 #include <vector>
 
@@ -26,7 +27,6 @@ bool Press(wxWindow& window, int key)
 
 struct Step
 {
-    int key;
     int from;
     int to;
 };
@@ -36,7 +36,7 @@ struct Boxes
     const char* name;
     bool automatic;
     bool more;
-    std::vector<Step> steps;
+    std::map<int, std::vector<Step>> steps;  // for each key
 };
 
 void PrintTo(const Boxes& boxes, std::ostream* out)
@@ -56,79 +56,45 @@ TEST_P(ColourKeys, LeadFromCellToCell)
         if (!GetParam().more)
             made.m_strMoreColours.clear();
     });
-    for (const Step& step : GetParam().steps) {
-        popup->m_nCurrentSel = step.from;
-        EXPECT_TRUE(Press(*popup.popup, step.key));
-        EXPECT_EQ(popup->m_nCurrentSel, step.to) << "key " << step.key << " from " << step.from;
+    for (const auto& [key, steps] : GetParam().steps) {
+        for (const Step& step : steps) {
+            popup->m_nCurrentSel = step.from;
+            EXPECT_TRUE(Press(*popup.popup, key));
+            EXPECT_EQ(popup->m_nCurrentSel, step.to) << "key " << key << " from " << step.from;
+        }
     }
 }
 
 INSTANTIATE_TEST_SUITE_P(
     , ColourKeys,
-    testing::Values(
-        Boxes{"BothBoxes",
-              true,
-              true,
-              {
-                  {WXK_DOWN, A, 0},   {WXK_DOWN, M, A},  {WXK_DOWN, N, M},   {WXK_DOWN, 0, 8},    {WXK_DOWN, 7, 15},
-                  {WXK_DOWN, 31, 39}, {WXK_DOWN, 32, M}, {WXK_DOWN, 35, M},  {WXK_DOWN, 39, M},   {WXK_UP, A, M},
-                  {WXK_UP, M, 39},    {WXK_UP, N, A},    {WXK_UP, 0, A},     {WXK_UP, 7, A},      {WXK_UP, 8, 0},
-                  {WXK_UP, 15, 7},    {WXK_UP, 39, 31},  {WXK_RIGHT, A, 0},  {WXK_RIGHT, M, A},   {WXK_RIGHT, N, M},
-                  {WXK_RIGHT, 0, 1},  {WXK_RIGHT, 6, 7}, {WXK_RIGHT, 7, 8},  {WXK_RIGHT, 31, 32}, {WXK_RIGHT, 38, 39},
-                  {WXK_RIGHT, 39, M}, {WXK_LEFT, A, M},  {WXK_LEFT, M, 39},  {WXK_LEFT, N, A},    {WXK_LEFT, 0, A},
-                  {WXK_LEFT, 1, 0},   {WXK_LEFT, 8, 7},  {WXK_LEFT, 32, 31}, {WXK_LEFT, 39, 38},
-              }},
-        Boxes{"MoreColoursOnly",
-              false,
-              true,
-              {
-                  {WXK_DOWN, M, 0},  {WXK_DOWN, N, M},  {WXK_DOWN, 0, 8},  {WXK_DOWN, 32, M},  {WXK_DOWN, 39, M},
-                  {WXK_UP, M, 39},   {WXK_UP, N, M},    {WXK_UP, 0, M},    {WXK_UP, 7, M},     {WXK_UP, 8, 0},
-                  {WXK_RIGHT, M, 0}, {WXK_RIGHT, N, M}, {WXK_RIGHT, 7, 8}, {WXK_RIGHT, 39, M}, {WXK_LEFT, M, 39},
-                  {WXK_LEFT, N, M},  {WXK_LEFT, 0, M},  {WXK_LEFT, 8, 7},  {WXK_DOWN, A, M},   {WXK_UP, A, M},
-              }},
-        Boxes{"AutomaticOnly",
-              true,
-              false,
-              {
-                  {WXK_DOWN, A, 0},
-                  {WXK_DOWN, N, A},
-                  {WXK_DOWN, 0, 8},
-                  {WXK_DOWN, 32, A},
-                  {WXK_DOWN, 39, A},
-                  {WXK_UP, A, 39},
-                  {WXK_UP, N, A},
-                  {WXK_UP, 0, A},
-                  {WXK_UP, 3, A},
-                  {WXK_UP, 8, 0},
-                  {WXK_RIGHT, A, 0},
-                  {WXK_RIGHT, N, A},
-                  {WXK_RIGHT, 7, 8},
-                  {WXK_RIGHT, 39, A},
-                  {WXK_LEFT, A, 39},
-                  {WXK_LEFT, N, A},
-                  {WXK_LEFT, 0, A},
-                  {WXK_LEFT, 8, 7},
-              }},
-        Boxes{"NoBox",
-              false,
-              false,
-              {
-                  {WXK_DOWN, N, 0},
-                  {WXK_DOWN, 0, 8},
-                  {WXK_DOWN, 32, 0},
-                  {WXK_DOWN, 39, 0},
-                  {WXK_UP, N, 39},
-                  {WXK_UP, 0, 39},
-                  {WXK_UP, 5, 39},
-                  {WXK_UP, 8, 0},
-                  {WXK_RIGHT, N, 0},
-                  {WXK_RIGHT, 7, 8},
-                  {WXK_RIGHT, 39, 0},
-                  {WXK_LEFT, N, 39},
-                  {WXK_LEFT, 0, 39},
-                  {WXK_LEFT, 8, 7},
-              }}),
+    testing::Values(Boxes{"BothBoxes",
+                          true,
+                          true,
+                          {{WXK_DOWN, {{A, 0}, {M, A}, {N, M}, {0, 8}, {7, 15}, {31, 39}, {32, M}, {35, M}, {39, M}}},
+                           {WXK_UP, {{A, M}, {M, 39}, {N, A}, {0, A}, {7, A}, {8, 0}, {15, 7}, {39, 31}}},
+                           {WXK_RIGHT, {{A, 0}, {M, A}, {N, M}, {0, 1}, {6, 7}, {7, 8}, {31, 32}, {38, 39}, {39, M}}},
+                           {WXK_LEFT, {{A, M}, {M, 39}, {N, A}, {0, A}, {1, 0}, {8, 7}, {32, 31}, {39, 38}}}}},
+                    Boxes{"MoreColoursOnly",
+                          false,
+                          true,
+                          {{WXK_DOWN, {{M, 0}, {N, M}, {0, 8}, {32, M}, {39, M}, {A, M}}},
+                           {WXK_UP, {{M, 39}, {N, M}, {0, M}, {7, M}, {8, 0}, {A, M}}},
+                           {WXK_RIGHT, {{M, 0}, {N, M}, {7, 8}, {39, M}}},
+                           {WXK_LEFT, {{M, 39}, {N, M}, {0, M}, {8, 7}}}}},
+                    Boxes{"AutomaticOnly",
+                          true,
+                          false,
+                          {{WXK_DOWN, {{A, 0}, {N, A}, {0, 8}, {32, A}, {39, A}}},
+                           {WXK_UP, {{A, 39}, {N, A}, {0, A}, {3, A}, {8, 0}}},
+                           {WXK_RIGHT, {{A, 0}, {N, A}, {7, 8}, {39, A}}},
+                           {WXK_LEFT, {{A, 39}, {N, A}, {0, A}, {8, 7}}}}},
+                    Boxes{"NoBox",
+                          false,
+                          false,
+                          {{WXK_DOWN, {{N, 0}, {0, 8}, {32, 0}, {39, 0}}},
+                           {WXK_UP, {{N, 39}, {0, 39}, {5, 39}, {8, 0}}},
+                           {WXK_RIGHT, {{N, 0}, {7, 8}, {39, 0}}},
+                           {WXK_LEFT, {{N, 39}, {0, 39}, {8, 7}}}}}),
     [](const auto& info) { return info.param.name; });
 
 TEST(ColourKeysInTheGrid, MoveByOneCell)
@@ -168,8 +134,7 @@ TEST(ColourKeysInTheGrid, KnowAPartialLastRow)
 TEST(ColourKeysForward, GoRoundAllCells)
 {
     const PopupInFrame popup;
-    ColourListener listener;
-    popup->SetColorListener(&listener);
+    ColourListener listener(*popup.popup);
     popup->m_nCurrentSel = A;
     for (int i = 0; i < 40; ++i) {
         Press(*popup.popup, WXK_RIGHT);
@@ -193,8 +158,7 @@ class EndingKey : public testing::TestWithParam<int>
 TEST_P(EndingKey, ChoosesTheHotCell)
 {
     const ComboOnScreen<> on;
-    ColourListener listener;
-    on.popup->SetColorListener(&listener);
+    ColourListener listener(*on.popup);
     on.popup->ChangeSelection(16);
     EXPECT_TRUE(Press(*on.popup, GetParam()));
     EXPECT_EQ(listener.Take(), (ColourCalls{"change #FF0000", "end #FF0000"}));
@@ -206,8 +170,7 @@ INSTANTIATE_TEST_SUITE_P(, EndingKey, testing::Values(WXK_RETURN, WXK_NUMPAD_ENT
 TEST(ColourKeysEscape, Cancels)
 {
     const ComboOnScreen<> on;
-    ColourListener listener;
-    on.popup->SetColorListener(&listener);
+    ColourListener listener(*on.popup);
     on.popup->SetInitialColour(*wxBLUE);
     on.popup->ChangeSelection(16);
     EXPECT_TRUE(Press(*on.popup, WXK_ESCAPE));
@@ -218,8 +181,7 @@ TEST(ColourKeysEscape, Cancels)
 TEST(ColourKeysOther, AreIgnored)
 {
     const ComboOnScreen<> on;
-    ColourListener listener;
-    on.popup->SetColorListener(&listener);
+    ColourListener listener(*on.popup);
     on.popup->m_nCurrentSel = 16;
     for (const int key : {int('a'), int(WXK_TAB), int(WXK_HOME), int(WXK_END), int(WXK_PAGEDOWN), int(WXK_F4),
                           int(WXK_NUMPAD_DOWN), int(WXK_NUMPAD_SPACE), int(WXK_DELETE)})

@@ -139,8 +139,7 @@ TEST(ColourPointer, IsHeardOncePerCell)
 {
     const PopupInFrame popup;
     SetBoxes(popup);
-    ColourListener listener;
-    popup->SetColorListener(&listener);
+    ColourListener listener(*popup.popup);
     for (const Place& place :
          {Place{4, 34, 0}, Place{10, 40, 0}, Place{19, 49, 0}, Place{20, 40, 1}, Place{300, 40, 1}, Place{21, 41, 1},
           Place{10, 10, A}, Place{11, 10, A}, Place{10, 140, M}, Place{11, 140, M}}) {
@@ -165,8 +164,7 @@ class ColourRelease : public testing::TestWithParam<Release>
 TEST_P(ColourRelease, EndsTheSelection)
 {
     const PopupInFrame popup(WithoutBoxes);
-    ColourListener listener;
-    popup->SetColorListener(&listener);
+    ColourListener listener(*popup.popup);
     popup->SetInitialColour(*wxBLUE);
     popup->ChangeSelection(16);
     listener.Take();
