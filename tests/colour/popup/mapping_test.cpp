@@ -296,18 +296,10 @@ TEST_F(ColourByName, BecomesHot)
 
 TEST_F(ColourByName, StaysWhatItWasForAnyOtherText)
 {
-    EXPECT_EQ(HotAfter(""), 3);
-    EXPECT_EQ(HotAfter("Automatic"), 3);
-    EXPECT_EQ(HotAfter("More Colours..."), 3);
-    EXPECT_EQ(HotAfter("black"), 3);
-    EXPECT_EQ(HotAfter("BLACK"), 3);
-    EXPECT_EQ(HotAfter("Blac"), 3);
-    EXPECT_EQ(HotAfter("Black "), 3);
-    EXPECT_EQ(HotAfter(" Black"), 3);
-    EXPECT_EQ(HotAfter("Pale green"), 3);
-    EXPECT_EQ(HotAfter(wxString("Black\0", 6)), 3);
-    EXPECT_EQ(HotAfter("16"), 3);
-    EXPECT_EQ(HotAfter("#FF0000"), 3);
+    const wxString others[] = {"",       "Automatic",  "More Colours...",      "black", "BLACK",  "Blac", "Black ",
+                               " Black", "Pale green", wxString("Black\0", 6), "16",    "#FF0000"};
+    for (const wxString& other : others)
+        EXPECT_EQ(HotAfter(other), 3) << other;
 }
 
 // While the popup hides itself, the combo passes its text to SetStringValue(). This must not change the hot cell.
