@@ -15,6 +15,13 @@
 
 namespace {
 
+CNumberFormat WithoutLimits()
+{
+    CNumberFormat format(eFixedFormat);
+    format.m_bHasMaxIntDigits = false;
+    return format;
+}
+
 TEST(AValidatorOnANumberCtrl, MovesADouble)
 {
     double price = 9.95;
@@ -47,10 +54,8 @@ TEST(AValidatorOnANumberCtrl, RefusesAnEmptyFieldForAVariableThatCannotSayIt)
 
 TEST(AValidatorOnANumberCtrl, MovesDecimalTextOfAnyLength)
 {
-    CNumberFormat format(eFixedFormat);
-    format.m_bHasMaxIntDigits = false;
     wxString digits = "12345678901234567890123.45";
-    NumberCtrlDialog screen(format, wxDecimalValidator(&digits));
+    NumberCtrlDialog screen(WithoutLimits(), wxDecimalValidator(&digits));
     ASSERT_TRUE(screen.number->GetValidator()->TransferToWindow());
     EXPECT_EQ(screen.number->GetDecimal(), digits);
     screen.Restart("");
@@ -73,13 +78,6 @@ TEST(AValidatorOnANumberCtrl, RefusesWhatTheControlRefuses)
     price = std::numeric_limits<double>::quiet_NaN();
     EXPECT_FALSE(screen.number->GetValidator()->TransferToWindow());
     EXPECT_EQ(screen.Text(), L"5");
-}
-
-CNumberFormat WithoutLimits()
-{
-    CNumberFormat format(eFixedFormat);
-    format.m_bHasMaxIntDigits = false;
-    return format;
 }
 
 /// Expects that the validator refuses each text, and that the host's variable keeps its value.

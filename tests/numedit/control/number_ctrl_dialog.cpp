@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <wx/clipbrd.h>
-#include <wx/dataobj.h>
 #include <wx/sizer.h>
 
 #include <tests/support/gui.h>
@@ -58,10 +56,7 @@ void NumberCtrlDialog::Restart(const wxString& decimal)
 
 void NumberCtrlDialog::Paste(const wxString& text)
 {
-    {
-        wxClipboardLocker clipboard;
-        ASSERT_TRUE(wxTheClipboard->SetData(new wxTextDataObject(text)));
-    }
+    SetClipboard(text);
     Press('V', wxMOD_CONTROL);
 }
 

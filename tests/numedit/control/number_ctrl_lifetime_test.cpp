@@ -8,7 +8,6 @@
 #include <gtest/gtest.h>
 
 #include <wx/clipbrd.h>
-#include <wx/dataobj.h>
 #include <wx/uiaction.h>
 #include <wx/weakref.h>
 
@@ -58,10 +57,7 @@ class NumberEnd : public testing::Test
 protected:
     void Paste(const wxString& text)
     {
-        {
-            wxClipboardLocker clipboard;
-            ASSERT_TRUE(wxTheClipboard->SetData(new wxTextDataObject(text)));
-        }
+        SetClipboard(text);
         number->Paste();
         wxClipboardLocker clipboard;
         wxTheClipboard->Clear();

@@ -6,7 +6,6 @@
 
 #include <gtk/gtk.h>
 #include <wx/clipbrd.h>
-#include <wx/dataobj.h>
 #include <wx/dnd.h>
 #include <wx/uiaction.h>
 #include <wx/weakref.h>
@@ -57,19 +56,6 @@ protected:
         wxTheClipboard->Clear();
     }
 
-    static void Hold(const wxString& text)
-    {
-        wxClipboardLocker clipboard;
-        ASSERT_TRUE(wxTheClipboard->SetData(new wxTextDataObject(text)));
-    }
-
-    static std::string Held()
-    {
-        wxClipboardLocker clipboard;
-        wxTextDataObject text;
-        return wxTheClipboard->GetData(text) ? text.GetText().utf8_string() : std::string();
-    }
-
     NumberCtrlDialog screen{FixedFormat()};
     GtkWidget* menu = nullptr;
 };
@@ -78,15 +64,15 @@ TEST_F(NumberContextMenu, Cuts)
 {
     Choose('t');
     EXPECT_TRUE(PumpUntil([&] { return screen.Text() == L"15"; }));
-    EXPECT_EQ(Held(), "234");
+    EXPECT_EQ(Clipboard(), "234");
     EXPECT_EQ(screen.numbers, std::vector<std::string>{"15"});
 }
 
 TEST_F(NumberContextMenu, Copies)
 {
-    Hold("");
+    SetClipboard("");
     Choose('c');
-    EXPECT_TRUE(PumpUntil([&] { return Held() == "234"; }));
+    EXPECT_TRUE(PumpUntil([&] { return Clipboard() == "234"; }));
     EXPECT_EQ(screen.Text(), L"12345");
     EXPECT_EQ(screen.textEvents, 0);
 }
@@ -100,7 +86,7 @@ TEST_F(NumberContextMenu, Deletes)
 
 TEST_F(NumberContextMenu, PastesANumber)
 {
-    Hold(" 67\n");
+    SetClipboard(" 67\n");
     Choose('p');
     EXPECT_TRUE(PumpUntil([&] { return screen.Text() == L"1675"; })) << screen.Text();
     EXPECT_EQ(screen.textEvents, 1);
@@ -109,7 +95,7 @@ TEST_F(NumberContextMenu, PastesANumber)
 
 TEST_F(NumberContextMenu, RefusesToPasteAnotherText)
 {
-    Hold("6x7");
+    SetClipboard("6x7");
     Choose('p');
     EXPECT_TRUE(PumpUntil([&] { return screen.BellsRung() == 1; }));
     EXPECT_EQ(screen.Text(), L"12345");

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <wx/button.h>
+#include <wx/clipbrd.h>
+#include <wx/dataobj.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 #include <wx/uiaction.h>
@@ -26,6 +28,19 @@ void wxBell()
 int Bells()
 {
     return g_bells;
+}
+
+void SetClipboard(const wxString& text)
+{
+    const wxClipboardLocker clipboard;
+    ASSERT_TRUE(wxTheClipboard->SetData(new wxTextDataObject(text)));
+}
+
+wxString Clipboard()
+{
+    const wxClipboardLocker clipboard;
+    wxTextDataObject text;
+    return wxTheClipboard->GetData(text) ? text.GetText() : wxString();
 }
 
 CNumberFormat FixedFormat(wchar_t point)

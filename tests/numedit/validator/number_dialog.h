@@ -26,6 +26,12 @@ public:
     using wxNumValidator::wxNumValidator;
 };
 
+/// Put a text on the clipboard, and return the text that the clipboard contains.
+/// @{
+void SetClipboard(const wxString& text);
+wxString Clipboard();
+/// @}
+
 /// Returns the fixed preset with the given decimal point. It allows two decimals and five integer digits.
 CNumberFormat FixedFormat(wchar_t point = L'.');
 

@@ -135,11 +135,7 @@ TEST(KeysInAComboBox, TypeAnything)
 class ShortcutKeys : public testing::Test
 {
 protected:
-    void SetUp() override
-    {
-        const wxClipboardLocker clipboard;
-        ASSERT_TRUE(wxTheClipboard->SetData(new wxTextDataObject("pasted")));
-    }
+    void SetUp() override { SetClipboard("pasted"); }
 
     // Clears the clipboard, so that the program no longer owns the clipboard when the next test fills it. On Wayland,
     // GTK 3.24.52 would otherwise set the same data source again, and weston 16 would cancel this source. The clipboard
@@ -148,13 +144,6 @@ protected:
     {
         const wxClipboardLocker clipboard;
         wxTheClipboard->Clear();
-    }
-
-    static wxString Clipboard()
-    {
-        const wxClipboardLocker clipboard;
-        wxTextDataObject text;
-        return wxTheClipboard->GetData(text) ? text.GetText() : wxString();
     }
 
     NumberOnScreen screen{FixedFormat(), "x12y"};
