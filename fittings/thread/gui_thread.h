@@ -158,7 +158,7 @@ private:
 ///     }
 ///
 /// private:
-///     const std::vector<wxString>& m_lines;  // owned by the handler, unchanged until Wait() has returned
+///     const std::vector<wxString>& m_lines;  // owned by the handler, which must not change it before Wait() returns
 /// };
 /// @endcode
 ///

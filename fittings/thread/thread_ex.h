@@ -20,7 +20,7 @@ class wxThreadExImpl;
 /// {
 /// public:
 ///     explicit Checksum(const Bytes& bytes) : wxThreadEx(wxTHREAD_JOINABLE), m_bytes(bytes) {}
-///     ~Checksum() override { Wait(); }  // the base would wait after m_bytes is destroyed
+///     ~Checksum() override { Wait(); }  // wait here: the base class waits only after m_bytes is destroyed
 ///
 ///     wxThread::ExitCode Entry() override { return reinterpret_cast<wxThread::ExitCode>(Adler32(m_bytes)); }
 ///

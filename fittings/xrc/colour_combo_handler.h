@@ -20,7 +20,8 @@ class wxColourPopup;
 /// @endcode
 ///
 /// @code
-/// wxXmlResource::Get()->AddHandler(new wxColourComboXmlHandler);  // with InitAllHandlers(), before the first use
+/// // Add the handler where the program calls InitAllHandlers(), before it makes controls from a resource.
+/// wxXmlResource::Get()->AddHandler(new wxColourComboXmlHandler);
 /// ...
 /// auto* const line = XRCCTRL(*this, "line", wxColourCombo);
 /// line->Bind(wxEVT_COLOURPICKER_CHANGED, [this](wxColourPickerEvent& event) { Draw(event.GetColour()); });

@@ -19,7 +19,8 @@
 /// @endcode
 ///
 /// @code
-/// wxXmlResource::Get()->AddHandler(new wxHandyTreeCtrlXmlHandler);  // with InitAllHandlers(), before the first use
+/// // Add the handler where the program calls InitAllHandlers(), before it makes controls from a resource.
+/// wxXmlResource::Get()->AddHandler(new wxHandyTreeCtrlXmlHandler);
 /// ...
 /// auto* const folders = XRCCTRL(*this, "folders", wxHandyTreeCtrl);
 /// wxTreeCursor root = folders->AddRoot("/");

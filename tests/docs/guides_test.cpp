@@ -98,9 +98,9 @@ void TakeOver(wxFrame* frame)
 
 void SaveSearch(const wxString& text, int pageSize)
 {
-    // Shared by all windows and processes of the program, and saved when the call returns.
+    // All windows and processes of the program share this value. It is on the disk when the call returns true.
     CLocalRegStore::WriteString(L"Search", L"LastText", text);
-    // In a separate file, ui_config/search.ini.
+    // This value is in a separate file, ui_config/search.ini.
     ui_config_mgr::WriteConfigInt(L"search.ini", L"Search", L"PageSize", pageSize);
 }
 
@@ -134,7 +134,7 @@ double ValueOf(const wxString& price)
     wxString number = price;
     number.Replace(wxLocale::GetInfo(wxLOCALE_DECIMAL_POINT), ".");  // the validator also accepts the locale's point
     double value = 0;
-    return number.ToCDouble(&value) ? value : 0;  // "", "-" and "." are accepted, but are not numbers
+    return number.ToCDouble(&value) ? value : 0;  // 0 for "", "-" and ".", which the validator accepts too
 }
 
 wxString TextOf(double value, const CNumberFormat& format)
@@ -162,7 +162,7 @@ void EditPrice(wxDialog& dialog, wxTextCtrl* field, double& price)
     field->SetValidator(wxNumValidator(format, &text));
     if (dialog.ShowModal() == wxID_OK)
         price = NumberIn(text, format).value_or(price);
-    field->SetValidator(wxDefaultValidator);  // the old validator points to text
+    field->SetValidator(wxDefaultValidator);  // the removed validator has a pointer to the local variable "text"
 }
 
 wxString WithUnit(const wxString& number, wxString unit)

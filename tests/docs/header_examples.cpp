@@ -212,7 +212,7 @@ TEST(HeaderExamples, WorkOnAThread)
     {
     public:
         explicit Checksum(const Bytes& bytes) : wxThreadEx(wxTHREAD_JOINABLE), m_bytes(bytes) {}
-        ~Checksum() override { Wait(); }  // the base would wait after m_bytes is destroyed
+        ~Checksum() override { Wait(); }  // wait here: the base class waits only after m_bytes is destroyed
 
         wxThread::ExitCode Entry() override { return reinterpret_cast<wxThread::ExitCode>(Adler32(m_bytes)); }
 
@@ -288,7 +288,7 @@ public:
     }
 
 private:
-    const std::vector<wxString>& m_lines;  // owned by the handler, unchanged until Wait() has returned
+    const std::vector<wxString>& m_lines;  // owned by the handler, which must not change it before Wait() returns
 };
 
 TEST(HeaderExamples, ReportAfterTheWorkerIsGone)
@@ -426,9 +426,10 @@ public:
 
     static void AddHandlers()
     {
-        wxXmlResource::Get()->AddHandler(new wxColourComboXmlHandler);  // with InitAllHandlers(), before the first use
-        wxXmlResource::Get()->AddHandler(
-            new wxHandyTreeCtrlXmlHandler);  // with InitAllHandlers(), before the first use
+        // Add the handler where the program calls InitAllHandlers(), before it makes controls from a resource.
+        wxXmlResource::Get()->AddHandler(new wxColourComboXmlHandler);
+        // Add the handler where the program calls InitAllHandlers(), before it makes controls from a resource.
+        wxXmlResource::Get()->AddHandler(new wxHandyTreeCtrlXmlHandler);
     }
 
     void FindControls()
