@@ -192,7 +192,7 @@ TEST_F(ColoursPageTest, TheListForgetsWhatIsOld)
     OpenColours();
     PointAtCell(kDarkRedCell);
     ASSERT_TRUE(PumpUntil([&] { return Events().size() == 2; }));
-    // The list keeps 500 events: the two above and the 498 of this loop.
+    // The list keeps only the latest 500 events. It already has two, and this loop adds the other 498.
     for (int i = 0; i < 249; ++i) {
         Popup().ChangeSelection(0);
         Popup().ChangeSelection(kIndigoCell);
@@ -239,7 +239,8 @@ TEST_F(ColoursPageTest, TheDefaultColourIsWhatAutomaticGives)
     GoTo("Default", 'D');
     Press(WXK_F4);
     ASSERT_TRUE(PumpUntil([&] { return field.GetPopup()->IsShownOnScreen(); }));
-    for (const int key : {WXK_DOWN, WXK_DOWN, WXK_DOWN, WXK_RETURN})  // "More Colours...", black, dark red
+    // The keys go to "More Colours...", then to black, then to dark red.
+    for (const int key : {WXK_DOWN, WXK_DOWN, WXK_DOWN, WXK_RETURN})
         Press(key);
     EXPECT_TRUE(PumpUntil([&] { return field.GetColour() == kDarkRed; }));
     EXPECT_EQ(Popup().GetDefaultColour(), kDarkRed);

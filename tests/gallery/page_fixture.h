@@ -11,7 +11,7 @@ class PageTest : public BrowserTest
 protected:
     virtual wxWindow& Page() = 0;
 
-    /// Returns the window in the page that contains the fields of the options.
+    /// Returns the panel that contains the fields of the options. The panel is inside the page.
     virtual wxWindow& Fields() = 0;
 
     template <typename Control>

@@ -48,7 +48,7 @@ protected:
 
     bool IsEnabled(int item) { return frame->GetMenuBar()->IsEnabled(item); }
 
-    wxPoint place;  ///< The place of the floating pane.
+    wxPoint place;  ///< Where LeaveFloatingFolders() puts the floating pane on the screen.
 };
 
 TEST_F(Pages, AltWithADigitShowsOne)

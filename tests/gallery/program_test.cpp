@@ -36,7 +36,7 @@ public:
     {
     }
 
-    /// Sends a signal and waits for the end.
+    /// Sends a signal to the program, and returns the result of Wait().
     int EndBy(int signal)
     {
         m_child.Send(signal);
@@ -189,7 +189,8 @@ std::size_t CountColours(const std::string& path)
     return colours.size();
 }
 
-/// Takes the tour on a folder of its own, or on the given folder.
+/// Runs the gallery with --tour, and expects all pictures. The tour shows the folder in @a shown. If @a shown is empty,
+/// the tour makes a folder and shows that.
 void TakesItsPictures(const std::vector<std::string>& shown = {})
 {
     TempFolder folder;

@@ -47,8 +47,10 @@ protected:
     /// does not contain the item.
     wxTreeItemId Item(const std::string& path);
 
-    /// Both functions select a folder of the tree, and wait until the page shows it.
+    /// Clicks a folder in the tree, and waits until the folder is selected. @a path is relative to the root.
     void ClickFolder(const std::string& path);
+
+    /// Selects a folder without a click, and waits until the folder is selected. @a path is relative to the root.
     void Select(const std::string& path);
 
     bool SelectionComesTo(const std::string& path);

@@ -82,8 +82,8 @@ TEST_F(Browsing, AClickOnAHeaderSortsAndASecondReverses)
     EXPECT_TRUE(PumpUntil([&] { return List().GetColumn(0)->IsSortKey() && !List().GetColumn(1)->IsSortKey(); }));
 }
 
-// The toolkit's list keeps its own copy of the sort order. The rows of a new folder must not reset this copy: the next
-// click on the header must reverse the order again.
+// The toolkit's list keeps its own copy of the sort order. This copy must not be reset when the list shows another
+// folder: the next click on the header must reverse the order again.
 TEST_F(Browsing, TheOrderStaysInAnotherFolder)
 {
     Click(CentreOf(HeaderRect(List(), SortColumn::Name)));

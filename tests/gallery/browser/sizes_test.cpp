@@ -191,7 +191,7 @@ TEST_F(Sizes, AFolderThatIsGoneHasOneUnreadableItem)
     EXPECT_TRUE(Row().GetText().Contains(", 1 unreadable")) << Row().GetText();
 }
 
-/// Counts events, and expects the number 7 in each.
+/// Counts the events of a SizeWorker. Expects in each event the 7 that the test passes as the worker's number.
 class Counter : public wxEvtHandler
 {
 public:

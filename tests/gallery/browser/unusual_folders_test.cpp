@@ -94,7 +94,7 @@ TEST_F(UnusualFolders, SystemFoldersCanBeBrowsed)
     Open("/");
     for (const char* path : {"/proc", "/proc/1", "/dev", "/sys"}) {
         if (fs::is_empty(path))
-            continue;  // not mounted, for example in a container
+            continue;  // this file system is not mounted, for example in a container
         Tree().SelectPath(path);
         ASSERT_TRUE(PumpUntil([&] { return Tree().GetSelectedPath() == path; })) << path;
         EXPECT_GT(List().CountRows(), 3u) << path;

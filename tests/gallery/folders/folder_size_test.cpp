@@ -244,8 +244,9 @@ private:
     const TempFolder& m_folder;
 };
 
-// The folder "elsewhere" is as far above the moved part as "top" was, and it has subfolders with the same names. The
-// walk must not count "elsewhere" in place of "top". The walk closed "top" on the way down, and cannot reach it again.
+// The walk closes "top" on the way down to save descriptors, and looks for it on the way back, four levels above the
+// part that was moved. The folder there is now "elsewhere", whose subfolders have the same names. The walk must not go
+// on in "elsewhere". It cannot reach "top" again, so it counts the chain that it has not entered as unreadable.
 TEST(SumFolder, AFolderMovedAwayDuringTheWalkLeadsToNoOtherFolder)
 {
     TempFolder folder;
