@@ -23,8 +23,8 @@ std::string Shortened(const std::string& text)
     return text.size() <= kMost ? text : text.substr(0, kMost) + " [and more]";
 }
 
-// Runs a program and returns its output. A failure throws an exception, which ends the test: a caller may repeat the
-// call a thousand times, and each call would fail.
+// Runs a program and returns its output. If the program fails, throws an exception, which ends the test. Otherwise a
+// test that makes a thousand calls could report a thousand failures.
 std::string Run(const std::vector<std::string>& command)
 {
     const TempFolder folder;

@@ -19,7 +19,7 @@ void PumpPending();
 /// long.
 bool ShowAndSettle(wxTopLevelWindow* window);
 
-/// Destroys a window as a program does, and handles the events that follow.
+/// Calls Destroy() of a window, and handles the events that follow.
 void DestroyNow(wxWindow* window);
 
 /// Whether the window or one of its children has the focus.

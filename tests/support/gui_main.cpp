@@ -52,9 +52,9 @@ public:
         auto* frame = new wxFrame(nullptr, wxID_ANY, "warm-up");
         ShowAndSettle(frame);
         DestroyNow(frame);
-        // The first thread makes data that the toolkit keeps for all threads. Make the data before the tests, in which
-        // two threads may start at the same time. The thread sanitizer would then report a false race: the toolkit
-        // guards the data, but is built without the sanitizer.
+        // The first thread makes data that the toolkit keeps for all threads. Run a first thread before the tests. If
+        // two threads of a test made the data at the same time, the thread sanitizer would report a false race: the
+        // toolkit guards the data, but is built without the sanitizer.
         FirstThread thread;
         thread.Run();
         thread.Wait();

@@ -16,7 +16,6 @@ protected:
     const TempUserData data;
 };
 
-/// A UserDataTest with a parameter.
 template <typename Param>
 class UserDataTestWithParam : public UserDataTest, public testing::WithParamInterface<Param>
 {

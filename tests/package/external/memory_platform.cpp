@@ -27,7 +27,7 @@ std::wstring Text(const wchar_t* text)
     return text ? text : L"";
 }
 
-// This host's texts are ASCII.
+// Converts an ASCII text. This program uses no other characters.
 std::wstring Widened(const char* text)
 {
     return text ? std::wstring(text, text + std::char_traits<char>::length(text)) : std::wstring();
