@@ -231,7 +231,7 @@ TEST(SeveralOwners, EachRunTheirOwnThreadAtTheSameTime)
 
 // --- The GUI thread --------------------------------------------------------------------------------------------------
 
-/// Stops a worker and waits for it, however the test ends.
+/// The destructor stops a worker and waits for it, even if the test ends early.
 struct Stopped
 {
     ~Stopped()

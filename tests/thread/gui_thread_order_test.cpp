@@ -53,7 +53,7 @@ bool IsFree(wxMutex& mutex)
     return free;
 }
 
-// A worker that returns the addresses of the members that a derived class sees, in their required order.
+// A worker that returns the addresses of its protected members, in the order in which they must be declared.
 class Laid : public Working<wxGUIThreadEx>
 {
 public:
@@ -229,8 +229,8 @@ TEST(ContinueMutex, IsHeldToReadTheFlag)
     EXPECT_TRUE(asking.Ends());
 }
 
-// A handler posts again while an event is queued for it. The inner lock fails, the inner post continues, and the outer
-// lock stays.
+// While PostEvent() queues an event, the handler posts a second event in the same thread. The second PostEvent() cannot
+// lock the post mutex, which is already locked. Even so, it must post its event, and it must not unlock the mutex.
 TEST(PostMutexThatCannotBeHad, StopsNeitherThePostNorTheLockOutside)
 {
     Interrupted handler;

@@ -190,7 +190,7 @@ public:
     }
 };
 
-// The process ends right after Wait(). The thread must have left the toolkit before the toolkit is shut down.
+// Right after Wait(), the process shuts the toolkit down and ends. By then, the thread must no longer use it.
 void EndAtOnce()
 {
     Say("wait", Number(Running([](auto&) { return Code(42); }).Wait()));

@@ -135,7 +135,8 @@ public:
 
     wxThread::ExitCode Entry() override
     {
-        const Work work = m_work;  // a copy: the object's members are destroyed before the base's destructor waits
+        // Copy the work: if a test does not call Wait(), m_work is destroyed before the base's destructor waits.
+        const Work work = m_work;
         thread = gettid();
         started.Set();
         return work(*this);

@@ -119,7 +119,8 @@ TEST(TreeCtrlClass, MayHaveAnEventTableAndAnOrderOfItsOwn)
     Append(root, {L"a3", L"b1", L"c2"});
     root.Expand();
     EXPECT_EQ(screen.tree->expanded, 1);
-    // The control's own handler runs before the event table and does not skip the event.
+    // The event table of RecordedTree does not receive wxEVT_TREE_ITEM_EXPANDING: wxHandyTreeCtrl's own handler runs
+    // first, and does not skip the event.
     EXPECT_EQ(screen.tree->expanding, 0);
     screen.tree->SortChildren(root.item);
     EXPECT_EQ(ChildrenOf(root), (Labels{L"b1", L"c2", L"a3"}));

@@ -127,7 +127,7 @@ TEST_F(Cursor, AddsABitmapToTheImageListAndAnswersWhichKindItWas)
     EXPECT_FALSE(image.IsTransparent(8, 8));
 }
 
-// An item's data that counts its objects.
+// A class of item data that counts its existing objects.
 template <typename Data>
 struct Tracked : Data
 {

@@ -39,14 +39,14 @@ public:
     Tree* tree;
 };
 
-/// A tree that adds an item's children when the item is expanded. The map `folders` lists the children. Records the
-/// calls.
+/// A tree that adds an item's children when the item is expanded. Records the items that are passed to
+/// OnItemExpanding() and Expand().
 class LazyTree : public wxHandyTreeCtrl
 {
 public:
-    std::map<std::wstring, Labels> folders;
-    Labels hooked;    ///< The labels of the items passed to OnItemExpanding().
-    Labels expanded;  ///< The labels of the items passed to Expand().
+    std::map<std::wstring, Labels> folders;  ///< The labels of the children, by the label of their parent.
+    Labels hooked;                           ///< The labels of the items passed to OnItemExpanding().
+    Labels expanded;                         ///< The labels of the items passed to Expand().
     std::function<void(const wxTreeCursor&)> inHook;
 
     void OnItemExpanding(const wxTreeCursor& item) override
