@@ -57,8 +57,8 @@ TEST(StdStr, TakesTheTextOfAPointer)
     EXPECT_EQ(text, L"second");
 }
 
-// The text is too long to be stored inside the object. The assignments therefore read from the buffer that they change
-// or free.
+// The text is too long to be stored inside the object. An assignment that frees the old buffer too early would
+// therefore read freed memory.
 TEST(StdStr, SurvivesAssignmentFromItsOwnBuffer)
 {
     Text text(L"0123456789012345678901234567890123456789");

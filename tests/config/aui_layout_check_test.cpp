@@ -141,8 +141,9 @@ TEST(AuiLayout, HasNoMorePartsThanTheToolkitReadsAtOnce)
     EXPECT_FALSE(IsLayout(With(L"Folders", std::wstring(2000000, L'a'))));
 }
 
-// After a ";" in a caption, the toolkit reads a field of the pane. At an empty field, it stops reading the pane. A row
-// in a caption can therefore replace the row of the pane, so the check limits the numbers in captions, too.
+// The toolkit reads the text after a ";" in a caption as the next field of the pane. At an empty field, it ignores the
+// rest of the pane, and with it the pane's real row. A caption can therefore set the row, so the check limits the
+// numbers in captions, too.
 TEST(AuiLayout, HasNoNumberInACaptionThatTheToolkitLaysOutForLong)
 {
     EXPECT_TRUE(IsLayout(With(L"Folders", L"Folders\\; row=7\\;")));

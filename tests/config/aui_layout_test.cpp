@@ -57,8 +57,8 @@ TEST_F(SaveAuiManagerState, KeepsNamesApart)
 TEST_F(LoadAuiManagerState, LeavesAManagerAloneWhenNothingIsStored)
 {
     AuiFrame frame;
-    // Until the manager is updated, the window of the log stays shown. A hidden window would mean that
-    // LoadAuiManagerState() has updated the manager.
+    // Hide() marks the pane as hidden, but the pane's window stays shown until the manager is updated. If the window
+    // is hidden after the calls below, LoadAuiManagerState() has updated the manager.
     frame.Pane("log").Hide();
     const wxString before = frame.manager.SavePerspective();
     EXPECT_FALSE(wx_window_state::LoadAuiManagerState(&frame.manager, L"Main"));

@@ -22,7 +22,6 @@ protected:
     const TempPersistence data;
 };
 
-/// A PersistenceTest with a parameter.
 template <typename Param>
 class PersistenceTestWithParam : public PersistenceTest, public testing::WithParamInterface<Param>
 {

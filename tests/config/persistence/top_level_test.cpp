@@ -65,7 +65,7 @@ TEST_F(PersistentFrame, ThatWasMaximizedComesBackSoAndIsRestoredToItsEarlierSize
     });
     EXPECT_EQ(StoredValue(kKind, L"Maximized"), L"1");
     EXPECT_EQ(StoredValue(kKind, L"w"), L"500");
-    // A run that changes nothing keeps the earlier size.
+    // The frame stays maximised during this run. Its size before it was maximised must stay stored.
     InOneRun(true, [](wxFrame& frame) { ASSERT_TRUE(SettlesMaximized(frame)); });
     InOneRun(true, [](wxFrame& frame) {
         ASSERT_TRUE(SettlesMaximized(frame));

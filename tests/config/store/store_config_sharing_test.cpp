@@ -121,8 +121,8 @@ TEST_F(StoreConfig, StoresAnEqualTextInAFileThatAnotherHasEmptied)
     EXPECT_EQ(ReadFile(Path()), "[g]\na=1\n");
 }
 
-// The object has just read the file. Another read might not notice yet that the file is no longer at its path, but the
-// write must notice that.
+// The file's folder is renamed just after the object has read the file. If the object read again now, it might still
+// see the renamed file. The write must notice that there is no file at the path any more.
 TEST_F(StoreConfig, StoresAnEqualTextInAFolderThatAnotherHasReplaced)
 {
     Open("[g]\na=1\n");
@@ -230,8 +230,8 @@ TEST_F(TheDefaultStoreAsAConfig, LeavesItsChangesToTheBatchThatSavesThemLater)
     EXPECT_EQ(config.Read("g/k"), "1");
     std::filesystem::remove(data / "settings.ini");
     EXPECT_TRUE(CLocalRegStore::WriteString(L"g", L"k", L"2"));
-    // The batch still has two changes to save: first the value 1, then the value 2. Flush() must not add the value 1
-    // again.
+    // The batch now contains two changes of this key: first to 1, then to 2. The first one comes from Flush(). If
+    // Flush() added it once more, the batch would store 1.
     EXPECT_TRUE(config.Flush());
     EXPECT_TRUE(batch.Save());
     EXPECT_EQ(ReadFile(data / "settings.ini"), "[g]\nk=2\n");

@@ -4,9 +4,9 @@
 //
 // first_frame_probe KIND restore: restores a frame and shows it as the first window of the process.
 //
-// Both commands wait until the geometry on the screen is the expected one and no longer changes, and print this
-// geometry. If the wait takes too long, they print the last geometry. While the frame is maximised, "store" prints the
-// given geometry, because this is the geometry that is stored.
+// "store" waits until the geometry on the screen is the given one, and "restore" until it is the stored one. When the
+// geometry no longer changes, both print it. If the wait takes too long, they print the geometry at that time. If the
+// frame is maximised, "store" prints the given geometry, because this is the geometry that is stored.
 //
 // KIND is one of these words:
 //
@@ -15,8 +15,8 @@
 //   fixed       a frame that the user cannot resize
 //   persistent  a frame that the toolkit's persistence stores and restores
 //   maximized   like persistent, but the frame is maximised before it is stored, and unmaximised after it is restored
-//   dragged     like maximized, but the left mouse button is down while the restored frame is unmaximised, and only the
-//               size of the frame must then be the expected one
+//   dragged     like maximized, but the left mouse button is down while the restored frame is unmaximised, and
+//               "restore" then waits only for the stored size, at any position
 //   corrected   like plain, but decorations of a wrong size are announced for the restored frame
 
 #include <cstdio>

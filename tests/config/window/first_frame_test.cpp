@@ -29,8 +29,8 @@ TEST_P(FirstFrame, ComesBackInItsPlace)
     ExpectBack("420;130;510;340");
 }
 
-// A frame in the corner has the same position as a frame that was never moved. The toolkit lets the window manager
-// place a frame that was never moved. The restored frame must still come back to the corner.
+// The stored position is the one that the toolkit also assumes for a frame that was never moved. The toolkit leaves the
+// place of such a frame to the window manager. The restored frame must come back to the corner nevertheless.
 TEST_P(FirstFrame, ComesBackInTheCorner)
 {
     ExpectBack("corner");
@@ -48,7 +48,8 @@ INSTANTIATE_TEST_SUITE_P(, FirstFrame,
                          [](const auto& info) { return std::string(info.param); });
 
 // By dragging the title bar of a maximised frame, the user unmaximises the frame and chooses its place. Therefore only
-// the size is restored. A window manager that does not know the earlier place then leaves the frame elsewhere.
+// the stored size is restored, not the stored place. The window manager does not know the stored place either, so the
+// frame must not come back to it.
 TEST(DraggedFrame, GetsItsSizeAlone)
 {
     const std::string stored = RunChild({FIRST_FRAME_PROBE, "dragged", "store", "420;130;510;340"});

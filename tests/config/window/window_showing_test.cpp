@@ -1,4 +1,4 @@
-// A restored window that is not shown, or shown only briefly.
+// A restored window that the program shows, hides, moves or destroys.
 
 #include <fittings/config/wx_window_state.h>
 
@@ -68,7 +68,8 @@ TEST_F(RestoredFrame, GoesWhereItsProgramPutsIt)
     frame->Destroy();
 }
 
-// Without a stored geometry, the window manager chooses the place, and it does not choose the corner for a dialog.
+// Without a stored geometry, the window manager chooses the dialog's place. It never chooses the top left corner of the
+// work area: if the dialog is there, LoadState() has moved it.
 TEST(DialogWithoutAStoredGeometry, IsNotMovedToTheCorner)
 {
     const TempUserData data;
