@@ -31,7 +31,7 @@ struct Trouble
     const char* name;
     void (*begin)();
     void (*end)();
-    int error;  ///< The error of a write while the fault lasts.
+    int error;  ///< The errno that a write sets while the fault lasts.
 
     friend void PrintTo(const Trouble& trouble, std::ostream* stream) { *stream << trouble.name; }
 };

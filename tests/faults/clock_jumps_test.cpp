@@ -64,7 +64,7 @@ TEST_P(ClockJumps, DoNotKeepTheColourPopup)
     EXPECT_FALSE(screen.combo->m_animTimer.IsRunning());
     screen.combo->Dismiss();
     EXPECT_TRUE(PumpUntil([&] { return !screen.combo->IsPopupShown(); }));
-    // The next wait takes its usual time.
+    // The next time, the popup does not open earlier than usual.
     const auto again = Clock::now();
     EXPECT_TRUE(Opens(*screen.combo));
     EXPECT_GE(Clock::now() - again, std::chrono::milliseconds(390));
@@ -188,15 +188,15 @@ TEST_P(ClockJumps, HideNoChangeByAnotherProcess)
     EXPECT_EQ(NamesIn(data.Path()), (std::vector<std::string>{"settings.ini", "settings.ini.lock"}));
 }
 
-// Each change overwrites the file with the same number of bytes. Then the test sets the file's modification time: to
-// the time of the first contents, or to the time of a clock that has jumped.
+// Neither the size nor the modification time shows that the file has changed: each change writes the same number of
+// bytes, and the test then sets the time to that of the first contents, or to the time of a clock that has jumped.
 TEST_P(ClockJumps, HideNoChangeInPlace)
 {
     TempUserData data;
     const std::string path = data / "settings.ini";
     WriteFile(path, "[s]\nk=1\n");
     const timespec first = StatusOf(path).st_mtim;
-    WaitPastStamp(path);  // so that the store keeps its copy of the file
+    WaitPastStamp(path);  // otherwise the store would not trust the timestamp, and would read the file again each time
     EXPECT_EQ(Stored(L"s", L"k"), L"1");
     clock.Jump(GetParam());
     WriteFile(path, "[s]\nk=2\n");
