@@ -45,7 +45,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Join{nullptr, L"b", L"b"}, Join{L"/a", nullptr, L"/a"}, Join{nullptr, nullptr, L""},
                     Join{L"/\x5E33", L"\x1F4D2", L"/\x5E33/\x1F4D2"}));
 
-/// A path, and what becomes of it with exactly one separator at its end, and with none.
+/// A path, and the expected results of GetPathWithSep() and RemoveBackSlash() for this path.
 struct PathEnd
 {
     const char* name;
@@ -66,7 +66,6 @@ TEST_P(SeparatorAtTheEnd, IsGoneAfterRemoveBackSlash)
     EXPECT_EQ(file_util_ex::RemoveBackSlash(GetParam().path), GetParam().without);
 }
 
-// The root stays as it is.
 INSTANTIATE_TEST_SUITE_P(, SeparatorAtTheEnd,
                          testing::Values(PathEnd{"Folder", L"/a/b", L"/a/b/", L"/a/b"},
                                          PathEnd{"FolderWithOne", L"/a/b/", L"/a/b/", L"/a/b"},

@@ -205,8 +205,8 @@ TEST(AStoppedHolderOfTheLock, DelaysAWriteOnceWhileTheFileIsEmptiedAllTheTime)
     EXPECT_EQ(ReadFile(path), "[s]\na=1\nk=1\n");
 }
 
-// Another process saves without the lock. Its save does not mean that the holder of the lock is running again.
-// Therefore the later writes of the test's own process do not wait for the lock.
+// The first write waits for the lock in vain. The later writes must not wait, because the holder of the lock is still
+// stopped. When another process saves the file without the lock, this does not show that the holder is running again.
 TEST(AStoppedHolderOfTheLock, DelaysAProcessOnceWhileAnotherOneStoresTheSameWay)
 {
     const UserDataInMemory data;

@@ -121,7 +121,8 @@ TEST_F(AnExchange, KeepsTheChangesOfSeveralProcesses)
     EXPECT_EQ(now.Get(L"s", L"k"), L"new");
 }
 
-// The last value counts. The process that wrote it has seen the file that the first exchange put in place.
+// The second process has read the file that the first exchange put in place: its file contains the new value of k.
+// Therefore its value of a is newer than the one of the first process, and must be kept.
 TEST_F(AnExchange, KeepsTheNewerOfTwoValuesOfOthers)
 {
     const Others others({[&] { Put("[s]\na=2\nk=old\n"); }, [&] { Put("[s]\na=3\nk=new\n"); }});
@@ -181,8 +182,9 @@ TEST_F(AnExchange, DestroysNothingThatThreeOtherProcessesStore)
     EXPECT_EQ(ReadFile(m_path + ".unreadable"), third);
 }
 
-// The file of the second process is kept as settings.ini.unreadable. The store has merged its own change into a copy of
-// that file, but does not keep this copy.
+// The store merges its change into a copy of the second process's file. Then the pipe appears, and the store exchanges
+// it with this copy. The store puts the pipe back, and removes the copy. It keeps the second process's file as
+// settings.ini.unreadable.
 TEST_F(AnExchange, DestroysNothingOfASecondProcessWhenAThirdPutsAPipeInPlaceOfTheFile)
 {
     const std::string second = "[s]\na=2\nk=old\n";

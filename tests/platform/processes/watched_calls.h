@@ -18,7 +18,7 @@ struct WatchedCalls
     std::function<int()> beforeFolderLock;
 };
 
-/// The functions of this process. A forked process has a copy.
+/// The functions that run in this process. A child process that is forked starts with a copy of them.
 extern WatchedCalls g_watchedCalls;
 
 #endif

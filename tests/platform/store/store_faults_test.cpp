@@ -1,6 +1,6 @@
-// In each run, one call of the store on a file fails with one of several errors, alone or with all later calls.
-// Afterwards the file must contain the old or the new value, and all other values. If the function returns a result,
-// the result must say which value it is. When the calls succeed again, the store must save again.
+// In each run, one of the calls by which the store uses files fails with one of several errors. In some runs, all later
+// calls fail, too. Afterwards the file must contain the old or the new value, and all other values. If the function
+// returns a result, the result must say which value it is. When the calls succeed again, the store must save again.
 
 #include <cerrno>
 #include <functional>

@@ -20,7 +20,7 @@ struct Triple
     const wchar_t* section;
     const wchar_t* key;
     const wchar_t* value;
-    const char* file;  // the whole file
+    const char* file;  // the expected content of the whole file
 };
 
 const Triple kTriples[] = {
@@ -237,8 +237,8 @@ INSTANTIATE_TEST_SUITE_P(, NarrowText,
                                          NarrowCase{"AllOnes", "\xFE\xFF", L"\xDCFE\xDCFF"}),
                          [](const auto& info) { return info.param.name; });
 
-// UTF-8 must not contain these characters. Their narrow text consists of the bytes that an extension of UTF-8 would
-// use. The wide text stays the same.
+// Valid UTF-8 does not contain these characters. A narrow text contains them nevertheless: each is encoded by the rules
+// of UTF-8, in up to seven bytes. The wide text stays the same.
 TEST(WideText, ThatIsNoUnicodeIsReadableAsNarrowText)
 {
     TempUserData data;

@@ -274,7 +274,7 @@ struct BoolCase
 {
     const char* name;
     const wchar_t* text;
-    int meaning;  // -1: not a boolean
+    int meaning;  // 1: true; 0: false; -1: not a boolean, so the default is returned
 };
 
 using ABooleanTypedByHand = UserDataTestWithParam<BoolCase>;

@@ -42,7 +42,7 @@ TEST(AFileOfFiveMillionKeys, IsNotReadAndNotReplaced)
     Ini ini;
     EXPECT_FALSE(ini.Load(data / "settings.ini"));
     EXPECT_EQ(ini.Get(L"s", L"1"), L"(none)");
-    EXPECT_LT(ResidentBytes(), before + 600 * kMiB);  // a sanitizer uses some of this memory
+    EXPECT_LT(ResidentBytes(), before + 600 * kMiB);  // includes the memory that a sanitizer needs
     ini.Set(L"s", L"k", L"v");
     EXPECT_FALSE(ini.Save(data / "settings.ini"));
     EXPECT_EQ(Stored(L"s", L"1"), L"(none)");

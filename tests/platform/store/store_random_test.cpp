@@ -60,7 +60,7 @@ TEST(TenThousandTriples, ComeBack)
     const InMemory inMemory;
     TempFolder folder;
     int triples = 0;
-    // Short texts make equal sections and keys likely.
+    // The names of sections and keys are short, so that some names occur several times.
     for (int file = 0; triples < 10'000; ++file) {
         std::map<std::pair<std::wstring, std::wstring>, std::wstring> expected;
         const std::string path = folder / "a.ini";

@@ -177,8 +177,8 @@ TEST_F(AReadInTheSameTick, SeesAnotherFile)
     EXPECT_EQ(Stored(L"s", L"k"), L"2");
 }
 
-// Not every file system sets the change time of a file that is replaced. The store must notice that the earlier file
-// has lost its name.
+// Some file systems do not change the timestamps of a file when another file replaces it. The store must notice that
+// the earlier file no longer has a name.
 TEST_F(AReadInTheSameTick, SeesAnotherFileByTheNamesOfTheEarlierOne)
 {
     g_stamp = timespec{1'700'000'000, 4'000'000};
