@@ -30,6 +30,12 @@ std::string Narrowed(const std::wstring& ascii)
     return {ascii.begin(), ascii.end()};
 }
 
+bool SaveInDefaultStore()
+{
+    g_platform.savesWithoutBatch += g_platform.batches == 0;
+    return g_platform.saves;
+}
+
 }  // namespace
 
 class CIniFile
@@ -104,8 +110,7 @@ std::wstring CLocalRegStore::GetString(const wchar_t* section, const wchar_t* ke
 bool CLocalRegStore::WriteString(const wchar_t* section, const wchar_t* key, const wchar_t* value)
 {
     RecordCall(L"write to default store", {section, key, value});
-    g_platform.savesWithoutBatch += g_platform.batches == 0;
-    return g_platform.saves;
+    return SaveInDefaultStore();
 }
 
 bool CLocalRegStore::GetProfileBool(const wchar_t* section, const wchar_t* key, bool defaultValue)
@@ -117,8 +122,7 @@ bool CLocalRegStore::GetProfileBool(const wchar_t* section, const wchar_t* key, 
 bool CLocalRegStore::WriteProfileBool(const wchar_t* section, const wchar_t* key, bool value)
 {
     RecordCall(L"write flag", {section, key, value ? L"true" : L"false"});
-    g_platform.savesWithoutBatch += g_platform.batches == 0;
-    return g_platform.saves;
+    return SaveInDefaultStore();
 }
 
 int CLocalRegStore::GetProfileInt(const wchar_t* section, const wchar_t* key, int defaultValue)
@@ -130,7 +134,7 @@ int CLocalRegStore::GetProfileInt(const wchar_t* section, const wchar_t* key, in
 bool CLocalRegStore::WriteProfileInt(const wchar_t* section, const wchar_t* key, int value)
 {
     RecordCall(L"write integer", {section, key, std::to_wstring(value)});
-    return g_platform.saves;
+    return SaveInDefaultStore();
 }
 
 bool CLocalRegStore::DeleteKey(CIniFile&, const wchar_t* section, const wchar_t* key)
@@ -189,8 +193,7 @@ bool CLocalRegStore::SaveChanges(const wchar_t* path, const std::vector<Change>&
 bool CLocalRegStore::SaveChanges(const std::vector<Change>&)
 {
     RecordCall(L"save changes to default store");
-    g_platform.savesWithoutBatch += g_platform.batches == 0;
-    return g_platform.saves;
+    return SaveInDefaultStore();
 }
 
 std::vector<std::wstring> CLocalRegStore::GetSectionNames()
@@ -208,7 +211,7 @@ std::vector<std::wstring> CLocalRegStore::GetKeyNames(const wchar_t* section)
 bool CLocalRegStore::DeleteProfile(const wchar_t* section, const wchar_t* key)
 {
     RecordCall(L"delete from default store", {section, key});
-    return true;
+    return SaveInDefaultStore();
 }
 
 std::string CLocalRegStore::GetString(const char* section, const char* key, const char* defaultValue)
@@ -220,7 +223,7 @@ std::string CLocalRegStore::GetString(const char* section, const char* key, cons
 bool CLocalRegStore::WriteString(const char* section, const char* key, const char* value)
 {
     RecordCall(L"write narrow", {Widened(section), Widened(key), Widened(value)});
-    return g_platform.saves;
+    return SaveInDefaultStore();
 }
 
 // Joins the names with a separator that no other function uses.

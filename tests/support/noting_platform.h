@@ -20,9 +20,7 @@ struct NotingPlatform
     std::wstring stored = L"stored";  ///< The text that every GetString() returns; ASCII.
     int files = 0;                    ///< The number of existing file objects.
     int batches = 0;                  ///< The number of existing batches.
-    /// The number of calls that saved a wide text, a flag or a set of changes in the default store while no batch
-    /// existed.
-    int savesWithoutBatch = 0;
+    int savesWithoutBatch = 0;        ///< The number of saves in the default store while no batch existed.
 };
 
 extern NotingPlatform g_platform;

@@ -153,6 +153,7 @@ TEST_F(ColourEnding, TellsTheListenerBeforeThePopupCloses)
 // If a selection ends while the popup is not shown, the combo is redrawn and HidePopup() is not called.
 TEST_F(ColourEnding, RefreshesTheComboOfAHiddenPopup)
 {
+    EXPECT_FALSE(on.combo->IsPopupShown());
     for (const bool ok : {true, false}) {
         on.combo->refreshes = 0;
         on.popup->DoEndSel(ok);
