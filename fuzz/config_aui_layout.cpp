@@ -47,7 +47,7 @@ wxString ConsumeCaption(FuzzedDataProvider& bytes)
     return text;
 }
 
-/// Arranges the panes in a way that a program or its user could.
+/// Arranges the panes as the bytes choose. A program or its user could arrange them in the same way.
 void Arrange(wxAuiManager& manager, FuzzedDataProvider& bytes)
 {
     for (const char* const name : kNames) {
@@ -87,8 +87,9 @@ std::wstring Damage(std::wstring layout, FuzzedDataProvider& bytes)
     return layout;
 }
 
-/// Returns whether the layout contains "\;" or the control character "\b". The toolkit asserts when it loads such a
-/// layout: it writes the ";" of a caption as "\;", and replaces "\;" by "\b" during the loading.
+/// Returns whether the layout contains "\;" or the control character "\b". The toolkit writes the ";" of a caption as
+/// "\;". When it loads a layout, it replaces "\;" by "\b", and "\b" by ";". It then reads the text after this ";" as
+/// the next property of the pane, and asserts if it does not know this property.
 bool HasDelimiterInText(const std::wstring& layout)
 {
     return layout.find(L"\\;") != layout.npos || layout.find(L'\b') != layout.npos;

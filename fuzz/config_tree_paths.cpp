@@ -40,8 +40,8 @@ std::vector<Item> ConsumeItems(FuzzedDataProvider& bytes)
     return items;
 }
 
-/// Returns a text for each item that is expanded or selected: its marks, followed by its full path. Leaves out the mark
-/// for the first item in view: only a tree that is shown scrolls to that item.
+/// Returns a text for each item that is expanded or selected: "+" if it is expanded, "*" if it is selected, and then
+/// its full path. Ignores which item is the first in view, because only a tree that is shown scrolls to that item.
 std::vector<std::wstring> Marked(const std::wstring& text)
 {
     std::vector<std::wstring> marked;

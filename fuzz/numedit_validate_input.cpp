@@ -1,4 +1,5 @@
-// ValidateInput() accepts what ValidateString() accepts, and in addition only the beginnings of small fractions.
+// ValidateInput() accepts every text that ValidateString() accepts. It also accepts the texts with which a number such
+// as 0.05 begins, "0" and "0.0" for example, even if they are below the minimum. It accepts no other text.
 
 #include <algorithm>
 

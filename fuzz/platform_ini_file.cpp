@@ -100,7 +100,7 @@ Address ConsumeAddress(FuzzedDataProvider& bytes, const std::string& file)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    // The last ten bytes choose what to set and to read. The rest is the file.
+    // The last ten bytes choose what to set and to read. The rest is the content of the file.
     constexpr std::size_t kChoices = 10;
     if (size < kChoices)
         return 0;

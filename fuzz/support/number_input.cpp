@@ -104,7 +104,7 @@ std::wstring ConsumeText(FuzzedDataProvider& bytes)
     for (const char byte : bytes.ConsumeRemainingBytesAsString())
         text += CharacterOf(static_cast<unsigned char>(byte));
     if (isLarge && !text.empty()) {
-        // Keep the beginning and the end of the text.
+        // Insert in the middle, so that the text begins and ends as before.
         const std::size_t middle = text.size() / 2;
         text.insert(middle, kLargeText, text[middle]);
     }
