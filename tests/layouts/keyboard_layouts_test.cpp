@@ -24,7 +24,8 @@ using Key = std::string;
 struct Keyboard
 {
     const char* layout;
-    /// A key whose symbol differs between the layouts, one of the key's levels, and the key's symbol on that level.
+    /// A key, one of its shift levels, and the symbol that this layout has there. No other of the tested layouts has the
+    /// same symbol there.
     unsigned key;
     unsigned level;
     const char* symbol;
@@ -99,8 +100,8 @@ TEST_P(KeyboardLayouts, LeadThroughTheColourPopup)
         const char* key;
         int cell;
     };
-    // The keys move down through "More Colours...", "Automatic" and the first cell, then around a square of four cells
-    // and to the second cell.
+    // Go down to "More Colours...", "Automatic" and the first cell, then right, down, left and up, back to the first
+    // cell, and then right to the second cell.
     for (const Step& step : {Step{"116", -2}, Step{"116", -3}, Step{"116", 0}, Step{"114", 1}, Step{"116", 9},
                              Step{"113", 8}, Step{"111", 0}, Step{"114", 1}}) {
         Press(step.key);

@@ -132,7 +132,8 @@ TEST(FormatControlText, RoundsToAnInteger)
     ExpectShown(Rounding(0), {{L"-.5", L"-1"}, {L"-.4", L"-"}, {L"+.9", L"1"}, {L"+.4", L""}});
 }
 
-// A number that is rounded to an integer loses its point. If decimals are allowed, a point before other text stays.
+// The text after the number is removed. The point before this text is removed too if the number is rounded to an
+// integer. If decimals are allowed, the point stays although no decimal follows.
 TEST(FormatControlText, DropsThePointOfAnIntegerBeforeJunk)
 {
     ExpectShown(Rounding(0), {{L"5.x", L"5"}, {L"5.. ", L"5"}});

@@ -28,8 +28,9 @@ CNumberFormat Endless()
     return format;
 }
 
-// gtest prints both texts of a failed EXPECT_EQ in full, so these tests compare with EXPECT_TRUE. The tests would
-// exceed the time limit if the work grew with the square of the length.
+// The texts have about a million characters. The tests compare them with EXPECT_TRUE, because a failed EXPECT_EQ would
+// print both texts in full. If a function's time grew with the square of the length, its test would exceed the time
+// limit.
 
 TEST(LongTexts, AreTrimmed)
 {
@@ -149,7 +150,7 @@ TEST(UnusualCharacters, AreSeparators)
 {
     CNumberFormat format(eFixedFormat);
     for (const wchar_t c : {wchar_t{0xD800}, wchar_t{0x110000}, wchar_t{0x7FFFFFFF}, static_cast<wchar_t>(-1)}) {
-        // These are "1,234,50" and "1,50" with the character in place of each comma.
+        // "1,234,50" and "1,50", with c in place of each comma.
         const std::wstring grouped{L'1', c, L'2', L'3', L'4', c, L'5', L'0'};
         const std::wstring plain{L'1', c, L'5', L'0'};
         format.m_chThousandsSep = c;

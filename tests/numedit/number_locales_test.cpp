@@ -163,7 +163,6 @@ TEST(PashtoLocale, ChecksBoundsOfTheFraction)
     ExpectInvalid(format, {L"1.49", L"1.76"});
 }
 
-// The digits of the Pashto script are not ASCII, and are not accepted as digits.
 TEST(PashtoLocale, TakesAsciiDigitsAlone)
 {
     const ScopedLocale pashto("ps_AF.UTF-8");
@@ -202,9 +201,9 @@ TEST(CurrentConversion, ReadsSeparatorsBeyondAscii)
     EXPECT_EQ(Shown(L"1٫5", eFixedFormat), L"1.50");
 }
 
-// With this conversion, the locale's point has two characters. The grammar and the locale preset use only the first
-// character. ValidateString() replaces the format's point by both characters, and FormatControlText() replaces both
-// characters by the format's point.
+// With this conversion, the locale's point has two characters. In the locale preset, the point is the first of them.
+// ValidateString() replaces the format's point by both characters, and then refuses the second one, because only the
+// first one is accepted as a point. FormatControlText() replaces both characters by the format's point.
 TEST(CurrentConversion, MayMakeSeveralCharactersOfThePoint)
 {
     const ScopedLocale pashto("ps_AF.UTF-8");

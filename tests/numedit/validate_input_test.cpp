@@ -100,8 +100,8 @@ TEST(ValidateInput, KnowsTheFormatsPointInTheZeros)
     CNumberFormat format = FromOne();
     format.m_chDecimalPoint = L',';
     ExpectAccepted(format, {L",", L"0,", L"0,00"});
-    // A complete number may have the locale's point. Below the minimum, ValidateInput() accepts the beginning of a
-    // number only with the format's point.
+    // These texts are below the minimum, so they are accepted only with the format's point. A number within the bounds
+    // may also have the locale's point.
     ExpectRefused(format, {L".", L"0.", L"0.0"});
     EXPECT_TRUE(Accepted(L"1.5", format));
 }

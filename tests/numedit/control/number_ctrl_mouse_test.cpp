@@ -124,7 +124,8 @@ protected:
         long first = 0;
         long last = 0;
         from.GetSelection(&first, &last);
-        // Press until a drag begins: a press begins no drag while GTK still shows the end of a refused drag.
+        // Repeat the press until a drag begins: no drag begins while GTK still shows the animation at the end of an
+        // earlier drag that was refused.
         EXPECT_TRUE(PumpUntil([&] {
             from.SetSelection(first, last);
             mouse.MouseMove(grip);

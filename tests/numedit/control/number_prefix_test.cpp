@@ -107,15 +107,14 @@ private:
         }
     }
 
-    /// Returns whether @a value times 10 to the power @a power is less than @a bound. @a value and @a bound have few
-    /// digits.
+    /// Returns whether @a value times 10 to the power @a power is less than @a bound. Both numbers are small, so the
+    /// function stops multiplying when the multiplied number certainly has the larger absolute value.
     static bool IsLess(std::int64_t value, int power, std::int64_t bound)
     {
         for (; power > 0 && std::abs(value) < 1'000'000'000; --power)
             value *= 10;
         for (; power < 0 && std::abs(bound) < 1'000'000'000'000; ++power)
             bound *= 10;
-        // Multiplying does not change a bound of 0, so the sign of @a value decides.
         return value < bound;
     }
 

@@ -49,8 +49,8 @@ public:
     /// Calls @a input, and waits until a key was pressed and all keys are released.
     void WaitForKeys(const std::function<void()>& input);
 
-    std::vector<int> down;   ///< The codes of the keys that went down.
-    std::vector<int> chars;  ///< The codes of the characters; 0 if the toolkit has no code for one.
+    std::vector<int> down;   ///< The key codes of the wxEVT_KEY_DOWN events.
+    std::vector<int> chars;  ///< The key codes of the wxEVT_CHAR events; 0 for a character without a key code.
     std::wstring characters;
 
 private:

@@ -140,7 +140,8 @@ TEST_F(Handlers, JudgeTheUnicodeCharacterWhereThereIsNoCode)
     EXPECT_EQ(BellsRung(), 2);
 }
 
-// A zero character ends the new text at the caret, so the validator checks only the text before the caret.
+// The key inserts a null character at the caret. The new text ends there, so the validator checks only the text before
+// the caret.
 TEST_F(Handlers, JudgeWhatStandsBeforeAKeyWithoutAnyCharacter)
 {
     Start("1x", 1);

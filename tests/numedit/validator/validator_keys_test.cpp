@@ -137,9 +137,9 @@ class ShortcutKeys : public testing::Test
 protected:
     void SetUp() override { SetClipboard("pasted"); }
 
-    // Clears the clipboard, so that the program no longer owns the clipboard when the next test fills it. On Wayland,
-    // GTK 3.24.52 would otherwise set the same data source again, and weston 16 would cancel this source. The clipboard
-    // would then be empty. GTK 3.24.38 makes a new source.
+    // Clears the clipboard, so that the program no longer owns it when the next test fills it. On Wayland, if a program
+    // fills a clipboard that it owns, GTK 3.24.52 sets the same data source again. Weston 16 then cancels this source,
+    // and the clipboard is empty. GTK 3.24.38 makes a new source, which is not cancelled.
     void TearDown() override
     {
         const wxClipboardLocker clipboard;
