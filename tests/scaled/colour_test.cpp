@@ -54,8 +54,9 @@ TEST_F(ColoursOnAScaledScreen, AreBelowTheirControl)
     on.combo->Dismiss();
 }
 
-// The test looks along the middle of each cell, because the corners of a cell are rounded. Letters have details finer
-// than the toolkit's pixels. These details show that the popup is not an enlarged image.
+// The edges of the cells lie between the toolkit's pixels, and are not blurred. The test checks two strips through the
+// middle of each cell, because the corners of a cell are rounded. Letters have details finer than the toolkit's pixels.
+// These details show that the popup is not an enlarged image.
 TEST_F(ColoursOnAScaledScreen, AreSharp)
 {
     Open();

@@ -7,7 +7,8 @@
 /// Returns a part of the screen. Each of the toolkit's pixels is two screen pixels wide and two high.
 wxImage GrabScaled(const wxRect& rect);
 
-/// One pixel of the toolkit is four screen pixels. Returns the lower right screen pixel of these as 0xRRGGBB.
+/// Returns the colour of the toolkit's pixel at @a place, as 0xRRGGBB. This pixel covers four screen pixels: the colour
+/// is that of the lower right one.
 int PixelAt(const wxPoint& place);
 
 /// Returns whether each of the toolkit's pixels has one colour. The first of these pixels may be cut at the edge of the

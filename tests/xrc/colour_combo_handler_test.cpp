@@ -103,7 +103,7 @@ TEST_F(ColourComboXmlHandler, LeavesOutTheBoxesWhoseTextIsEmpty)
     EXPECT_FALSE(combo->IsEnabled());
 }
 
-// Compares the texts of the cells that the keys reach.
+// The popup's string value is the name of the cell that the keys have reached.
 TEST_F(ColourComboXmlHandler, MakesAControlThatCanBeUsedByKeys)
 {
     wxFrame* const frame = resource.MakeFrame("frame");

@@ -23,7 +23,7 @@ constexpr int kLine = 4321;
 
 const wxColour kTeal(0, 128, 128);
 
-// --- What differs: the user's part -----------------------------------------------------------------------------------
+// --- Different for each class: how a user chooses a colour -----------------------------------------------------------
 
 template <typename Control>
 struct User;
@@ -34,7 +34,7 @@ struct User<wxColourPickerCtrl>
     static constexpr const char* kName = "Picker";
     static constexpr const char* kResource = "picker";
 
-    // Chooses teal, with the effect of OK in GTK's dialog.
+    // Chooses teal without opening GTK's dialog: sets the button's colour, and emits the signal that OK would cause.
     static wxColour Choose(wxColourPickerCtrl& control)
     {
         GtkWidget* const button = control.GetPickerCtrl()->GetHandle();
@@ -67,7 +67,7 @@ struct User<wxColourCombo>
     }
 };
 
-// --- What is the same: the program -----------------------------------------------------------------------------------
+// --- The same for both classes: the program's code -------------------------------------------------------------------
 
 template <typename Control>
 class LinePage : public wxPanel

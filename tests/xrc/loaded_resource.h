@@ -24,7 +24,7 @@ public:
     /// Creates the panel with that name in a new frame.
     wxPanel* MakePanel(const std::string& name);
 
-    /// The reported errors, one message per element.
+    /// The messages of the errors that the loading has reported.
     std::vector<std::string> errors;
 
 protected:
@@ -34,7 +34,6 @@ private:
     wxFrame* m_frame = nullptr;
 };
 
-/// A test of what is loaded from the resource.
 class LoadedResourceTest : public testing::Test
 {
 protected:
