@@ -24,8 +24,8 @@ using Key = std::string;
 struct Keyboard
 {
     const char* layout;
-    /// A key, one of its shift levels, and the symbol that this layout has there. No other of the tested layouts has the
-    /// same symbol there.
+    /// A key, one of its shift levels, and the symbol that this layout has there. None of the other tested layouts has
+    /// the same symbol there.
     unsigned key;
     unsigned level;
     const char* symbol;
