@@ -8,10 +8,10 @@
 /// A part of a window as a screen reader sees it.
 struct Accessible
 {
-    std::string role;  ///< The name that RoleName() returns.
+    std::string role;  ///< Such as "push button". RoleName() makes it the same for all releases of AT-SPI.
     std::string name;
     std::string description;
-    std::string label;  ///< The text of the label for this part.
+    std::string label;  ///< The text of the label control that belongs to this part; empty if there is none.
     bool showing = false;
     bool focusable = false;  ///< Focusable and enabled.
     bool focused = false;
@@ -19,8 +19,8 @@ struct Accessible
 
 void PrintTo(const Accessible& accessible, std::ostream* out);
 
-/// Returns the name of a role in older releases of AT-SPI and ATK, which call a button a push button. @a told is the
-/// name in the installed release.
+/// Returns @a told, or "push button" if @a told is "button". Older releases of AT-SPI and ATK call this role "push
+/// button", newer ones "button".
 std::string RoleName(const std::string& told);
 
 /// Returns the visible accessible objects of this process's windows, parents before their children. Leaves out the

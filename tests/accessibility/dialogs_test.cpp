@@ -31,7 +31,7 @@ protected:
 
     void Notify() override
     {
-        // Wait until the dialog is modal: a file dialog handles timer events even before it is modal.
+        // EndModal() needs a modal dialog, but a file dialog handles timer events even before it is modal.
         if (!m_dialog->IsModal())
             return;
         Stop();

@@ -75,9 +75,9 @@ TEST_P(ScreenReaderInTheGallery, HasANameForAllThatTakesTheFocus)
     EXPECT_THAT(said, IsSupersetOf(names[GetParam()]));
 }
 
-// Tab must lead to exactly the focusable parts, with three exceptions. Tab skips the buttons of the tool bar, which
-// have a key in their description. In a scroll pane, the content takes the focus. In a wxChoice, the focused part is
-// not accessible, so the combo box is expected in its place.
+// Tab must lead to exactly the focusable parts, with three exceptions. Tab skips the buttons of the tool bar; the test
+// recognises these buttons by the key in their description, such as "(F5)". In a scroll pane, the content takes the
+// focus. In a wxChoice, the focused part is not accessible, so the combo box is expected in its place.
 TEST_P(ScreenReaderInTheGallery, IsLedByTabToAllThatTakesTheFocus)
 {
     std::set<std::string> expected;

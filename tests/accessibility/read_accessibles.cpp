@@ -2,8 +2,8 @@
 //
 //   <depth> <role>|<name>|<description>|<label>|<states>
 //
-// The label consists of the names of the objects that label the object. The possible states are "showing", "sensitive",
-// "focusable" and "focused". The contents of menu bars and tables are left out.
+// The label of an object consists of the names of the objects that label it. The possible states are "showing",
+// "sensitive", "focusable" and "focused". The contents of menu bars and tables are left out.
 
 #include <cstdio>
 #include <cstdlib>
