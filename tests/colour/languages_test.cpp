@@ -60,7 +60,8 @@ void ExpectSizeOfTexts(const Lines& lines)
     EXPECT_EQ(SizeIn(lines, "window").height, 2 * std::max(automatic.height, more.height) + 128);
 }
 
-// Expects these texts of the two boxes and this name of colour 16, also in its tooltip, and the size for the texts.
+// Expects that the boxes have the texts @a automatic and @a more, and that the popup has the size for these texts.
+// Expects that @a red is the name of colour 16 and the text of this colour's tooltip.
 void ExpectTexts(const Lines& lines, const char* automatic, const char* more, const char* red)
 {
     EXPECT_EQ(lines.at("automatic"), automatic);

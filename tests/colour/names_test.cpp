@@ -1,5 +1,5 @@
-// The look-up of names. This program replaces the function of the platform library. The replacement records each call,
-// and can throw or return null.
+// The look-up of the colours' names. This program replaces the function of the platform library that looks up a text.
+// The replacement records each call, and can throw or return null.
 
 #include <array>
 #include <atomic>
@@ -61,8 +61,8 @@ const wchar_t* lng_util_internal::DoGetResourceString(const wchar_t* key, CLangu
 
 namespace {
 
-// A process builds the table only once, so SetUpTestSuite() makes all calls that build it. The tests check what was
-// recorded.
+// A process builds the table of colours only once. Therefore SetUpTestSuite() makes the calls that fail to build it and
+// then the calls that build it. The tests check the look-ups that were recorded during these calls.
 class ColourNames : public testing::Test
 {
 protected:

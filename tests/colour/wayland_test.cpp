@@ -121,7 +121,8 @@ protected:
         EXPECT_EQ(part(last + 3), wxRect(0, height - 3, 148, 3));
         EXPECT_EQ(part(last + 4), wxRect(0, 0, 3, height));
         EXPECT_EQ(part(last + 5), wxRect(145, 0, 3, height));
-        // The first line is "all". The second line is the box "More Colours...", which reaches the bottom of the popup.
+        // The first line is "repaints all". The second line is the part that was repainted when "More Colours..."
+        // became the first hot cell. This part must reach the bottom of the popup.
         EXPECT_EQ(part(1).GetBottom(), height - 1);
     }
 

@@ -127,7 +127,8 @@ TEST_P(AsComboCtrl, TellsOnceThatItOpensAndThatItIsDismissed)
     EXPECT_EQ(log.Take().back(), "closeup");
 }
 
-// When the popup closes itself, the listener is called, but no closeup event is sent.
+// Enter, Space and Escape close the popup from inside: the listener is called, but the combo sends no closeup event. A
+// click outside the popup makes the combo send one.
 TEST_P(AsComboCtrl, TellsTheListenerAloneThatThePopupClosedItself)
 {
     for (const int key : {int(WXK_RETURN), int(WXK_SPACE), int(WXK_ESCAPE)}) {

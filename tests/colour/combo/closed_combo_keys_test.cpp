@@ -145,7 +145,7 @@ TEST_P(ClosedReadOnlyCombo, GoesOnFromTheColourInEffectAfterACancel)
     EXPECT_EQ(on.popup->m_nChosenColourSel, 19);
 }
 
-// A combo without the focus skips the wheel's event, so that the page scrolls.
+// A combo that does not have the focus skips the wheel event, so that the window that contains the combo can scroll.
 TEST_P(ClosedReadOnlyCombo, ChangesItsColourByTheWheelWithTheFocusAlone)
 {
     on.popup->SetColour(wxColour(0, 0, 0));

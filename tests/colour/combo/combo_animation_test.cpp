@@ -100,8 +100,8 @@ protected:
         EXPECT_TRUE(PumpUntil([&] { return on.combo->IsPopupShown(); }));
     }
 
-    // Sets the animation to just over half of its time. The outline then has 74 x 81 pixels at (37, 41) in the
-    // animation's rectangle, and does not change for several seconds.
+    // Sets the animation to just over half of its time. The outline then does not change for several seconds. If the
+    // animation's rectangle has 148 x 162 pixels, the outline has 74 x 81 pixels at (37, 41) in this rectangle.
     void StandStill() { on.combo->m_animStart = wxGetLocalTimeMillis() - 1000500; }
 
     void Step()
@@ -191,7 +191,8 @@ TEST_F(ColourAnimation, CopiesTheScreenWhereThePopupWillBe)
         EXPECT_EQ(std::memcmp(copy.GetData(), seen.GetData(), std::size_t(3) * rect.width * rect.height), 0);
         ExpectShown();
         on.combo->Dismiss();
-        // Move the combo: the next animation must copy an area where this one has not drawn.
+        // Move the combo away: if the next copy of the screen were old, only an area where this animation has
+        // not drawn would show it.
         on.combo->Move(wxPoint(250, 60));
     }
 }
@@ -289,8 +290,8 @@ TEST_F(ColourAnimation, LetsClicksThrough)
     on.combo->Dismiss();
 }
 
-// When the outline is drawn on the screen itself, the combo removes the old outline by drawing the copied background
-// again.
+// Each step draws the outline in the outline window and also directly on the screen. These tests check only the drawing
+// on the screen: the combo draws the copied background over the outline of the previous step.
 class ColourAnimationOnTheScreen : public ColourAnimation
 {
 protected:
@@ -302,8 +303,7 @@ protected:
 
     ColourAnimationOnTheScreen()
     {
-        // The test does not call AnimateShow(), which creates the outline window. So the outline is drawn only on the
-        // screen.
+        // AnimateShow() would create the outline window. The tests do not call it, so this combo has no such window.
         combo = new SteppedCombo;
         combo->Create(on.panel, wxID_ANY, "", wxPoint(20, 200), wxSize(150, -1), wxCB_READONLY);
         combo->SetPopupControl(new OpenPopup);

@@ -44,7 +44,7 @@ TEST(ColourComboClass, IsTheToolkits)
 
 }  // namespace
 
-// A host's class that is registered with the toolkit by name.
+// A class that a host derives from wxColourCombo and registers with the toolkit, which can then create it by its name.
 class RecordedCombo : public wxColourCombo
 {
     wxDECLARE_DYNAMIC_CLASS(RecordedCombo);

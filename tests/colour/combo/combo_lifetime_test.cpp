@@ -74,8 +74,8 @@ struct Moment
     const char* name;
     const char* call;
     std::function<void(Control&)> act;
-    ColourCalls calls;  // all expected calls; "cancel" also if the control is destroyed before the end
-    bool inTheToolkit;  // whether the toolkit still uses the control after the call
+    ColourCalls calls;  // the listener's calls; the last is "cancel" if the removal itself ends the selection
+    bool inTheToolkit;  // whether the toolkit still uses the control when the listener has returned
 };
 
 const Removal kRemovals[] = {
@@ -126,7 +126,7 @@ std::vector<std::pair<Removal, Moment>> RemovalsInCalls()
     std::vector<std::pair<Removal, Moment>> all;
     for (const Removal& removal : kRemovals) {
         for (const Moment& moment : kMoments) {
-            // Leave out the deletion of a control that the toolkit still uses after the call.
+            // Leave out the deletion of a control that the toolkit still uses when the listener has returned.
             if (!removal.atOnce || !moment.inTheToolkit)
                 all.emplace_back(removal, moment);
         }
@@ -190,7 +190,8 @@ TEST(ColourListenerInItsCalls, MayChooseAnotherColour)
     EXPECT_EQ(control.popup->m_crInitialColour, *wxGREEN);
 }
 
-// The new value makes no other cell hot. In the end, the combo shows the name of the chosen colour.
+// SetValue("Teal") in the listener does not make another cell hot. When the popup then closes, the combo's value becomes
+// "Red", the name of the chosen colour.
 TEST(ColourListenerInItsCalls, MaySetTheValueOfTheCombo)
 {
     Control control;

@@ -51,7 +51,7 @@ public:
     }
 
     std::vector<std::string> shown;
-    std::vector<bool> hidden;  ///< The argument of each call to hide the popup.
+    std::vector<bool> hidden;  ///< The argument generateEvent of each HidePopup() call.
     int refreshes = 0;
 };
 

@@ -30,7 +30,7 @@ protected:
         on.popup->EndSelection(ok);
     }
 
-    ColourListener listener;  // outlives the popup
+    ColourListener listener;  // must outlive the popup, whose destruction may call it
     const ComboOnScreen<> on;
 };
 

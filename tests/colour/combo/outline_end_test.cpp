@@ -18,7 +18,8 @@ constexpr int kLong = 2000000;
 
 const wxWindow* g_outline = nullptr;
 
-/// One element for each picture drawn on the screen itself: whether the outline window was shown at that moment.
+/// One element for each cairo_paint() that drew directly on the screen, not in a window: whether the outline window was
+/// shown at that moment.
 std::vector<bool> g_wasShown;
 
 bool DrawsOnTheScreen(cairo_t* context)
@@ -30,7 +31,8 @@ bool DrawsOnTheScreen(cairo_t* context)
 
 }  // namespace
 
-// Replaces cairo's function: records whether the outline window is shown, and calls the original.
+// Replaces cairo's function: adds an element to g_wasShown if the picture is drawn directly on the screen, and calls
+// the original.
 void cairo_paint(cairo_t* context)
 {
     static const auto original = ReplacedFunction<decltype(cairo_paint)>("cairo_paint");

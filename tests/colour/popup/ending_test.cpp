@@ -281,7 +281,8 @@ TEST_F(ColourEndingWithText, HasTheEarlierTextAfterADismissal)
     EXPECT_EQ(on.popup->m_crColour, *wxBLUE);
 }
 
-// When the popup opens again, the combo passes its text to the popup. Enter must not choose the cancelled colour.
+// When the selection is cancelled, the combo's text becomes the earlier text again. The combo passes this text to the
+// popup when the popup opens again. EndSelection(true) must then not choose the cancelled colour.
 TEST_F(ColourEndingWithText, DoesNotChooseACancelledColourTheNextTime)
 {
     for (const bool dismissed : {false, true}) {

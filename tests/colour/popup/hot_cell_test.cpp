@@ -251,7 +251,8 @@ protected:
     bool Untouched(int x, int y) const { return Pixel(x, y) == kUntouched; }
 
     // Expects that the rectangles @a cells and the frame were drawn, and nothing else. Does not check the pixels at the
-    // edges of the rectangles. Of the outer four pixels of the popup, checks only one pixel of the frame on each side.
+    // edges of the rectangles. In the band of four pixels along the popup's edges, where the frame is, checks only one
+    // pixel on each side.
     void ExpectDrawn(const std::vector<wxRect>& cells) const
     {
         const wxSize size = popup->GetClientSize();
@@ -316,7 +317,7 @@ TEST_F(HotCellOnScreen, DrawsNoMoreThanTwoCellsAndTheFrame)
     PumpPending();
     EXPECT_EQ(g_drawn.rectangles, 4);
     EXPECT_EQ(g_drawn.lines, 16);
-    // "More Colours..." has four rectangles.
+    // A cell is drawn with two rectangles, "More Colours..." with four.
     g_drawn = {};
     popup->ChangeSelection(M);
     PumpPending();

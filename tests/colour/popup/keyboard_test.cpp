@@ -36,7 +36,7 @@ struct Boxes
     const char* name;
     bool automatic;
     bool more;
-    std::map<int, std::vector<Step>> steps;  // for each key
+    std::map<int, std::vector<Step>> steps;  // by key code
 };
 
 void PrintTo(const Boxes& boxes, std::ostream* out)

@@ -220,7 +220,7 @@ TEST(ColourLayout, HasTheLowerBoxAlone)
     EXPECT_EQ(popup->GetSize(), wxSize(148, text + 111));
 }
 
-// A wide system edge makes the margin wider and the cells larger.
+// If wxSYS_EDGE_X is 6, the margin is 6 pixels wide, and the cells are larger than 18 pixels.
 TEST(ColourLayout, GrowsWithTheMargin)
 {
     const PinnedEdge edge(6);

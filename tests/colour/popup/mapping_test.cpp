@@ -146,7 +146,8 @@ TEST(ColourIndex, IsNoneBeforeThereAreRows)
     EXPECT_EQ(popup.GetIndex(0, 0), -1);
 }
 
-// One coordinate is enough to name a box. If the two coordinates name different boxes, the result is "More Colours...".
+// A box has its own index as its row and as its column. If the row or the column given to GetIndex() is that of a box,
+// the result is this box. If they are those of different boxes, the result is "More Colours...".
 TEST(ColourIndex, IsTheBoxThatEitherCoordinateNames)
 {
     const PopupInFrame popup;

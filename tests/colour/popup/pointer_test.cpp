@@ -64,7 +64,7 @@ TEST(ColourPointer, FindsTheCellsBetweenBothBoxes)
                            {3, 4, kBefore},
                            {4, 3, kBefore},
                            {149, 33, kBefore},
-                           // The grid begins below "Automatic". Its first row is drawn at 34 to 51.
+                           // The grid begins below "Automatic". Its first row is drawn at the y coordinates 34 to 51.
                            {4, 34, 0},
                            {19, 49, 0},
                            {20, 34, 1},

@@ -128,7 +128,8 @@ public:
     RecordingDCImpl& Record() { return *static_cast<RecordingDCImpl*>(m_pimpl); }
 };
 
-/// A picture of one colour to draw on. At() returns a pixel. After the first At(), nothing more can be drawn.
+/// A picture to draw on, filled with one colour at first. At() returns a pixel. After the first At(), nothing more can
+/// be drawn.
 class Picture
 {
 public:
