@@ -82,7 +82,7 @@ int AcceptWhen(wxFileDialog& dialog, const std::function<bool()>& isReady)
         if (watch.Time() > 60000)
             gtk_dialog_response(shown, GTK_RESPONSE_CANCEL);
         else if (gtk_widget_get_mapped(GTK_WIDGET(shown)) && isReady())
-            gtk_dialog_response(shown, GTK_RESPONSE_ACCEPT);  // GTK ignores this until the dialog is ready
+            gtk_dialog_response(shown, GTK_RESPONSE_ACCEPT);  // GTK can ignore it at first, so each tick sends it
     });
     timer.Start(10);
     return dialog.ShowModal();

@@ -28,7 +28,8 @@ private:
 
 GtkFileChooser* ChooserOf(const wxWindow& dialog);
 
-/// Returns the folder that the dialog shows. Waits for that folder, because the dialog loads it in the background.
+/// Returns the folder that the dialog shows. Waits until GTK reports one, because the dialog loads its folder in the
+/// background.
 std::string FolderOf(const wxWindow& dialog);
 
 std::string TitleOf(const wxWindow& dialog);
@@ -58,7 +59,7 @@ class RememberingDialog : public testing::Test
 protected:
     RememberingDialog();
 
-    /// Returns the user's documents folder, which contains the program's folder.
+    /// Returns the user's documents folder, where the dialogs start if nothing is stored.
     static std::string Documents();
     std::string Settings() const { return ReadFile(m_settings / "settings.ini"); }
 

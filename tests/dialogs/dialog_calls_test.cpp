@@ -92,8 +92,8 @@ TEST_F(SaveDialogCalls, OfADialogWithoutAnEntry)
     EXPECT_EQ(g_platform.calls, Calls{L"show"});
 }
 
-// file_answer.cpp does not replace the default constructor of wxFileDialog, so FileAnswer cannot answer a
-// wxRememberingFileDialog. Here Enter() answers the dialog, and Dialog::GetPath() returns the chosen path.
+// FileAnswer cannot answer a wxRememberingFileDialog, because that dialog calls the default constructor of wxFileDialog,
+// which file_answer.cpp does not replace. Here Enter() answers the dialog, and Dialog::GetPath() returns the chosen path.
 class RememberingDialogCalls : public testing::Test, private wxModalDialogHook
 {
 protected:

@@ -41,7 +41,7 @@ public:
     /// Replaces the text of the entry that has the focus.
     static void Type(const std::string& text);
 
-    /// Opens the location entry and types a path. Returns when the dialog would choose that path.
+    /// Opens the location entry and types a path. Waits until the dialog would choose that path if it were accepted.
     void TypePath(const std::string& path);
 
     /// Waits until @a isThere returns true for the state. Fails the test if this does not happen; the failure message

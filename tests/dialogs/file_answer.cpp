@@ -8,8 +8,8 @@
 
 namespace {
 
-// This file replaces functions of wxFileDialog. The toolkit has no getters for some of the constructor's arguments, and
-// GTK's dialog does not always return the path that was set.
+// This file replaces functions of wxFileDialog. The constructor is replaced because the toolkit has no getters for some
+// of its arguments. GetPath() is replaced because GTK's dialog does not always return the path that was set.
 std::vector<AskedFile> g_made;
 wxString g_path;
 

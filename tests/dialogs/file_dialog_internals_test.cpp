@@ -1,4 +1,4 @@
-// The internals of the save dialog, and the open dialog. The library exports neither, so this program compiles
+// The open dialog, and the internals of the save dialog. The library does not export them, so this program compiles
 // file_dialog.cpp again.
 
 #include <fittings/dialogs/file_dialog_p.h>

@@ -136,7 +136,7 @@ TEST_F(LastFile, IsNotMadeByCancelling)
     EXPECT_EQ(Stored(L"LastFiles", L"Report"), L"(none)");
 }
 
-// The toolkit returns an empty path for a file whose name is not UTF-8.
+// The dialog can be accepted with an empty path: the toolkit returns one for a file whose name is not UTF-8.
 TEST_F(LastFile, StaysWhenTheDialogGivesNoPath)
 {
     SaveAs("/usr/one");
