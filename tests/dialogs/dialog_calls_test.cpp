@@ -92,8 +92,9 @@ TEST_F(SaveDialogCalls, OfADialogWithoutAnEntry)
     EXPECT_EQ(g_platform.calls, Calls{L"show"});
 }
 
-// FileAnswer cannot answer a wxRememberingFileDialog, because that dialog calls the default constructor of wxFileDialog,
-// which file_answer.cpp does not replace. Here Enter() answers the dialog, and Dialog::GetPath() returns the chosen path.
+// FileAnswer cannot answer a wxRememberingFileDialog, because that dialog calls the default constructor of
+// wxFileDialog, which file_answer.cpp does not replace. Here Enter() answers the dialog, and Dialog::GetPath() returns
+// the chosen path.
 class RememberingDialogCalls : public testing::Test, private wxModalDialogHook
 {
 protected:

@@ -190,8 +190,8 @@ TEST(ColourListenerInItsCalls, MayChooseAnotherColour)
     EXPECT_EQ(control.popup->m_crInitialColour, *wxGREEN);
 }
 
-// SetValue("Teal") in the listener does not make another cell hot. When the popup then closes, the combo's value becomes
-// "Red", the name of the chosen colour.
+// SetValue("Teal") in the listener does not make another cell hot. When the popup then closes, the combo's value
+// becomes "Red", the name of the chosen colour.
 TEST(ColourListenerInItsCalls, MaySetTheValueOfTheCombo)
 {
     Control control;
