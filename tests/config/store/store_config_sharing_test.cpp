@@ -100,8 +100,7 @@ TEST_F(StoreConfig, StaysInAGroupThatAnotherDeletes)
 {
     Open("[a/b]\nk=1\n");
     m_config->SetPath("a/b");
-    // Do not make the file empty: for half a second, the store treats an empty file as one that another program is still
-    // writing.
+    // Do not make the file empty: for half a second, the store expects another program to fill an empty file.
     WriteFile(Path(), "[x]\n");
     EXPECT_FALSE(m_config->HasEntry("k"));
     EXPECT_EQ(m_config->GetPath(), "/a/b");

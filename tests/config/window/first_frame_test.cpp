@@ -30,7 +30,7 @@ TEST_P(FirstFrame, ComesBackInItsPlace)
 }
 
 // The stored position is the one that the toolkit also assumes for a frame that was never moved. The toolkit leaves the
-// place of such a frame to the window manager. The restored frame must come back to the corner nevertheless.
+// place of such a frame to the window manager. Even so, the restored frame must come back to the corner.
 TEST_P(FirstFrame, ComesBackInTheCorner)
 {
     ExpectBack("corner");

@@ -237,7 +237,7 @@ INSTANTIATE_TEST_SUITE_P(, NarrowText,
                                          NarrowCase{"AllOnes", "\xFE\xFF", L"\xDCFE\xDCFF"}),
                          [](const auto& info) { return info.param.name; });
 
-// Valid UTF-8 does not contain these characters. A narrow text contains them nevertheless: each is encoded by the rules
+// Valid UTF-8 does not contain these characters. A narrow text can contain them: each is encoded by the rules
 // of UTF-8, in up to seven bytes. The wide text stays the same.
 TEST(WideText, ThatIsNoUnicodeIsReadableAsNarrowText)
 {
