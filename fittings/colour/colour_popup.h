@@ -195,7 +195,7 @@ public:
     /// @name Drawing
     /// @{
 
-    /// Paints the window.
+    /// Handles wxEVT_PAINT: calls DoDrawControl().
     void OnPaint(wxPaintEvent& event);
 
     /// Draws the cells, the boxes and the frame, but not the background between them.

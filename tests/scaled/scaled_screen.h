@@ -4,7 +4,8 @@
 #include <wx/gdicmn.h>
 #include <wx/image.h>
 
-/// Returns a part of the screen. Each of the toolkit's pixels is two screen pixels wide and two high.
+/// Returns the part of the screen at @a rect, which is in the toolkit's pixels. The image is in screen pixels: each of
+/// the toolkit's pixels is two of them wide and two high.
 wxImage GrabScaled(const wxRect& rect);
 
 /// Returns the colour of the toolkit's pixel at @a place, as 0xRRGGBB. This pixel covers four screen pixels: the colour
