@@ -55,7 +55,7 @@ bool CanBeTyped(std::wstring_view text, const NumberRules& rules);
 std::optional<Decimal> NumberIn(std::wstring_view text, wchar_t point);
 
 /// Converts a formatted text, for example from CNumberEditUtils::FormatControlText(), to plain text. The formatted text
-/// may have blanks at its ends, the template, groups of three digits, and the minus in front or after the number.
+/// may have blanks at its ends, the template, groups of three digits, and the minus before or after the number.
 /// Returns nothing if the text is not a complete number or has more digits than are allowed.
 std::optional<std::wstring> PlainTextOf(std::wstring_view text, const CNumberFormat& format);
 

@@ -51,7 +51,7 @@ public:
 
     /// Puts the panes where they were in the last session. Only the first call has an effect. Make this call when the
     /// page is on the screen: window managers keep a floating pane above the main window only if the pane appears
-    /// later.
+    /// after that window.
     void LoadLayout();
 
     /// Shows or hides the floating panes. Call this function when the page is shown or hidden: the toolkit does not

@@ -54,9 +54,9 @@ TEST_F(ColoursOnAScaledScreen, AreBelowTheirControl)
     on.combo->Dismiss();
 }
 
-// The edges of the cells lie between the toolkit's pixels, and are not blurred. The test checks two strips through the
-// middle of each cell, because the corners of a cell are rounded. Letters have details finer than the toolkit's pixels.
-// These details show that the popup is not an enlarged image.
+// The edges of the cells lie on the borders of the toolkit's pixels, and are not blurred. The test checks two strips
+// through the middle of each cell, because the corners of a cell are rounded. Letters have details finer than the
+// toolkit's pixels. These details show that the popup is not an enlarged image.
 TEST_F(ColoursOnAScaledScreen, AreSharp)
 {
     Open();
@@ -82,7 +82,8 @@ TEST_F(ColoursOnAScaledScreen, AreChosenByAClickWhereTheyAreSeen)
     EXPECT_TRUE(PumpUntil([&] { return PixelAt(face.GetPosition() + wxPoint(20, face.height / 2)) == kRed; }));
 }
 
-// After half of the animation's time, the outline has 74 x 81 pixels at (37, 41) in the animation's rectangle.
+// After half of the animation's time, the outline is at (37, 41) in the animation's rectangle, and its size is 74 x 81.
+// All numbers are in the toolkit's pixels.
 TEST_F(ColoursOnAScaledScreen, OpenWithAnOutlineThatGrowsWhereTheyWillBe)
 {
     on.combo->m_animDuration = 2000000;

@@ -40,7 +40,7 @@ private:
 };
 
 /// Inserts a text in UTF-8, and moves @a position to the end of the inserted text. Does not call the toolkit's own
-/// handler of "insert-text", which would report each character as typed while a key is handled.
+/// handler of "insert-text". While a key is handled, that handler would report each inserted character as typed.
 void InsertUntyped(GtkEntry* entry, void* toolkit, const std::string& text, int& position);
 
 }  // namespace fittings

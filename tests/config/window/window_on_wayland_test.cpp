@@ -33,7 +33,8 @@ TEST(DisplayOfTheseTests, IsWayland)
 
 using FrameOnWayland = UserDataTest;
 
-// The compositor decides which position the frame reports, but this position must be the same after each run.
+// The position that a frame reports depends on the compositor, so the test only compares the positions that the first
+// and the last run store.
 TEST_F(FrameOnWayland, ComesBackInTheSameSizeEachTime)
 {
     StoreGeometry(L"300;200;510;340");
