@@ -211,7 +211,7 @@ private:
 
     const CNumberFormat& m_format;
     std::wstring m_text;
-    std::size_t m_begin;     ///< the beginning of the mantissa, without a sign until PutMinus() adds a leading minus
+    std::size_t m_begin;     ///< the beginning of the mantissa after its sign; PutMinus() moves it to a leading minus
     std::size_t m_end = 0;   ///< the end of the shown part of the mantissa
     std::size_t m_read = 0;  ///< the end of the mantissa
 };

@@ -322,7 +322,7 @@ TYPED_TEST(AsTreeCtrl, LetsTheHostFillItAnewWhenAnItemIsSelected)
     EXPECT_EQ(this->tree.GetCount(), 2u);
 }
 
-// --- What the toolkit's users write ----------------------------------------------------------------------------------
+// --- Code for the toolkit's tree control -----------------------------------------------------------------------------
 
 TEST(TreeCtrlCode, OfTheToolkitsUsersTakesCursorsForItems)
 {

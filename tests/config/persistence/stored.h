@@ -44,7 +44,7 @@ inline std::wstring StoredValue(const std::wstring& kind, const wchar_t* key)
     return Stored(StoredSection(kind).c_str(), key);
 }
 
-/// Stores the place of the window "w".
+/// Stores the position and the size of the window "w".
 inline void StorePlace(const std::wstring& x, const std::wstring& y, const std::wstring& width,
                        const std::wstring& height)
 {

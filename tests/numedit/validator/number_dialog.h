@@ -26,11 +26,8 @@ public:
     using wxNumValidator::wxNumValidator;
 };
 
-/// Put a text on the clipboard, and return the text that the clipboard contains.
-/// @{
 void SetClipboard(const wxString& text);
 wxString Clipboard();
-/// @}
 
 /// Returns the fixed preset with the given decimal point. It allows two decimals and five integer digits.
 CNumberFormat FixedFormat(wchar_t point = L'.');
@@ -99,7 +96,6 @@ public:
 
     std::wstring Text() const { return number->GetValue().ToStdWstring(); }
 
-    /// Expects this text, and that no bell rang.
     void ExpectTextWithoutBell(const std::wstring& text) const;
 
     /// Expects this text, and that one bell rang.
