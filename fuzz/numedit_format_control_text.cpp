@@ -72,8 +72,8 @@ std::size_t DecimalsOf(const std::wstring& number, wchar_t point)
     return end - at - 1;
 }
 
-// Checks that the shown number is rounded and padded as the format says, and that its value is otherwise unchanged. Call
-// this function only if IsPlainPoint() accepts the point of the format.
+// Checks that the shown number is rounded and padded as the format says, and that its value is otherwise unchanged.
+// Call this function only if IsPlainPoint() accepts the point of the format.
 void CheckNumber(const std::wstring& number, const NumberInput& input, const std::wstring& bare)
 {
     const CNumberFormat& format = input.format;

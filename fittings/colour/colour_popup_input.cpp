@@ -180,8 +180,8 @@ void wxColourPopup::ShowNameAtPointer(const wxString& name)
         SetToolTip(m_strToolTip);
 }
 
-// Redraws the old and the new hot cell, and then the frame of the popup on top. Redrawing the whole popup on each move of the pointer
-// would be slow.
+// Redraws the old and the new hot cell, and then the frame of the popup on top. Redrawing the whole popup on each move
+// of the pointer would be slow.
 void wxColourPopup::RedrawHotCells(int old)
 {
     wxClientDC dc(this);

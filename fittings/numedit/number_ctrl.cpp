@@ -82,8 +82,8 @@ bool wxNumberCtrl::Create(wxWindow* parent, wxWindowID id, const CNumberFormat& 
     if (!wxTextCtrl::Create(parent, id, wxString(), pos, size, style & ~wxTE_MULTILINE, validator, name))
         return false;
     m_field = std::make_unique<NumberField>(format);
-    // Convert to wxTextEntry*, which may be another address: the toolkit's signal handlers have a pointer of this type as
-    // their user data.
+    // Convert to wxTextEntry*, which may be another address: the toolkit's signal handlers have a pointer of this type
+    // as their user data.
     wxTextEntry* const toolkit = this;
     m_field->entry = std::make_unique<NumberEntry>(
         GTK_ENTRY(m_widget), toolkit,
