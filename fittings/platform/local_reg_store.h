@@ -76,7 +76,8 @@ public:
     /// Returns false in two cases, and @a ini is then empty and usable:
     /// - The file could not be read. If it exists, a later Save() to the same path fails, so that the file is not lost.
     /// - The file contains neither settings nor readable text, for example only null bytes or UTF-16. If a later Save()
-    ///   to the same path has changes to write, Save() first renames the file by appending ".unreadable" to its name.
+    ///   to the same path has changes to write, Save() first renames the file: it appends ".unreadable" to the name, or
+    ///   ".unreadable.2" and so on if that name is taken.
     static bool Load(CIniFile& ini, const wchar_t* path);
 
     /// Returns the value of @a key in @a section, or @a defaultValue when there is none.
