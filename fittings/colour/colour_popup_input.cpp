@@ -305,9 +305,9 @@ bool wxColourPopup::HideCombo()
     return !life.expired();
 }
 
-// Restores the combo's value: when the popup closed, the value changed to the name of the hot cell. Otherwise the combo
-// would pass that name to SetStringValue() when the popup opens again. The cell would be hot, and Enter would choose a
-// colour that the user does not want.
+// Restores the value that the combo had when the popup opened. When the popup closed, the value changed to the name of
+// the hot cell. If the name stayed, the combo would pass it to SetStringValue() when the popup opens again. That cell
+// would then be hot, and Enter would choose a colour that the user does not want.
 void wxColourPopup::RestoreValue()
 {
     const std::optional<wxString> kept = std::exchange(m_valueWhenShown, std::nullopt);

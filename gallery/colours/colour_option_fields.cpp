@@ -31,8 +31,8 @@ void AlignRows(std::initializer_list<wxSizer*> grids)
             height = std::max(height, item->CalcMin().y);
     }
     for (const wxSizer* grid : grids) {
-        // Do not make labels higher: a label draws its text at its top, so the text would be too high in the row. With
-        // its own height, the sizer centres the label in the row.
+        // Do not make labels higher: a label draws its text at its top, so the text would be too high in the row. The
+        // sizer centres a label that keeps its own height.
         for (wxSizerItem* item : grid->GetChildren()) {
             if (!dynamic_cast<wxStaticText*>(item->GetWindow()))
                 item->SetMinSize(item->GetMinSize().x, height);

@@ -54,7 +54,7 @@ public:
     // Returns how many dialogs have been answered.
     int Shown() const { return m_shown; }
 
-    // Returns how often dialogs had been centred just before the last answer.
+    // Returns the number of times that dialogs were centred before the last answer.
     std::size_t CentredBefore() const { return m_centredBefore; }
 
 protected:

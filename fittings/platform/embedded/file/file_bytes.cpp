@@ -208,7 +208,7 @@ Outcome Undo(StagedFile& staged)
     const PlaceResult undone = staged.PutBack();
     if (undone != PlaceResult::Done)
         staged.SetAside();
-    // If the exchange cannot be undone, the new file stays at the target and counts as saved.
+    // If an error prevents the undoing, the new file stays at the target and counts as saved.
     return {undone == PlaceResult::Failed ? UpdateResult::Saved : UpdateResult::Outdated, undone == PlaceResult::Done};
 }
 
