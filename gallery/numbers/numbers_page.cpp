@@ -177,8 +177,8 @@ void NumbersPage::Arrange()
     ArrangeColumns(m_columns, width);
     ArrangeColumns(m_controlColumns, width);
     m_fields->Arrange(width);
-    // Set the virtual height of the page first: the layout that follows would otherwise make the fields lower, so that
-    // all fit into the window.
+    // Set the virtual height of the page first: the layout that follows would otherwise reduce the height of the fields
+    // until all of them fit into the window.
     FitInside();
 }
 

@@ -99,7 +99,7 @@ protected:
     static bool IsHot(const wxPoint& middle) { return PixelOfScreen(middle + wxPoint(7, 0)) == 0; }
 
     // Call this after the hot cell has moved from cell 0 to cell 1. Expects that this move repainted the two cells and
-    // the four sides of the frame. Expects that the whole popup was repainted only once, when it opened.
+    // the four sides of the popup's frame. Expects that the whole popup was repainted only once, when it opened.
     static void ExpectLastRepaint(const WatchedProbe& probe)
     {
         const std::vector<std::string> parts = probe.Lines("repaints ");

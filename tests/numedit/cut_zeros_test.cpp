@@ -27,8 +27,7 @@ TEST_P(CutZeros, Gives)
     EXPECT_EQ(Cut(GetParam().text), GetParam().expected);
 }
 
-// The rows follow the order of the steps of CutZeros(): blanks, leading zeros, exponent, trailing zeros, point, zero in
-// front.
+// The rows follow the order of the steps of CutZeros(): blanks, leading zeros, trailing zeros, point, zero in front.
 INSTANTIATE_TEST_SUITE_P(
     , CutZeros,
     testing::Values(Case{"EverythingAtOnce", L"  000.500  ", L"0.5"}, Case{"BlanksInFront", L" \t\n5", L"5"},
@@ -107,7 +106,7 @@ TEST(CutZerosPoint, MayBeAnyCharacter)
     EXPECT_EQ(CutAt(L'\0', L"1.500"), L"1.500");
 }
 
-// A wxString can contain a zero character; a text control cannot.
+// A wxString can contain a null character; a text control cannot.
 TEST(CutZerosPoint, MayBeAZeroCharacter)
 {
     EXPECT_EQ(CutAt(L'\0', std::wstring(L"1\000500", 5)), std::wstring(L"1\0005", 3));

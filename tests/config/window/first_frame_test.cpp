@@ -48,8 +48,8 @@ INSTANTIATE_TEST_SUITE_P(, FirstFrame,
                          [](const auto& info) { return std::string(info.param); });
 
 // By dragging the title bar of a maximised frame, the user unmaximises the frame and chooses its place. Therefore only
-// the stored size is restored, not the stored place. The window manager does not know the stored place either, so the
-// frame must not come back to it.
+// the stored size is restored, not the stored place. The window manager does not know the stored place, so it cannot
+// move the frame there.
 TEST(DraggedFrame, GetsItsSizeAlone)
 {
     const std::string stored = RunChild({FIRST_FRAME_PROBE, "dragged", "store", "420;130;510;340"});
