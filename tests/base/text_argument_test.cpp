@@ -143,7 +143,7 @@ TEST(TextsOfAnyKind, KeepTheirOrder)
     EXPECT_EQ(Stored(L"section", L"number"), L"3");
 }
 
-// Other tests run these calls, with a platform or a display of their own. Here the calls only need to compile.
+// Here these calls only need to compile. Other tests run them, on a display or with replaced platform functions.
 [[maybe_unused]] void CompilesForDialogsAndWindows(wxFrame* frame, wxAuiManager* panes, wxHandyTreeCtrl& tree)
 {
     WithEachKind<5>([](const auto&... texts) { CQVFileDialogI::LaunchSaveDialog(nullptr, texts...); });

@@ -20,8 +20,8 @@ using WorkerEx = Working<wxGUIThreadEx>;
 static_assert(std::is_base_of_v<wxThreadEx, wxGUIThread> && std::is_base_of_v<wxGUIThread, wxGUIThreadEx>);
 static_assert(std::is_abstract_v<wxGUIThread> && std::is_abstract_v<wxGUIThreadEx>);
 
-// Whether PostEvent() accepts a literal 0 as its last argument. The call must be ambiguous, because 0 converts both to
-// a long and to a null pointer.
+// Whether a call of PostEvent() with a literal 0 as its last argument compiles. It does not compile: 0 converts both to
+// a long and to a null pointer, so the call is ambiguous.
 template <typename Void, typename Thread, typename... Arguments>
 struct TakesZero : std::false_type
 {

@@ -7,8 +7,8 @@
 
 namespace {
 
-/// A persistent object with a name of its own. The name of the window does not change, because the program may use that
-/// name to find the window.
+/// A persistent object whose name may differ from the name of its window. The toolkit's own
+/// wxPersistentRegisterAndRestore() would rename the window, but the program may use the name to find the window.
 template <typename Persistent>
 class Named : public Persistent
 {
@@ -37,7 +37,7 @@ bool CanRemember(wxWindow& window)
 {
     if (auto* const list = dynamic_cast<wxListCtrl*>(&window))
         return list->InReportView();
-    // The toolkit asserts when a data view that is a page of a book is destroyed.
+    // If a registered data view is a page of a book, the toolkit asserts when the data view is destroyed.
     if (dynamic_cast<wxDataViewCtrl*>(&window))
         return !dynamic_cast<wxBookCtrlBase*>(window.GetParent());
     return dynamic_cast<wxTopLevelWindow*>(&window) || dynamic_cast<wxSplitterWindow*>(&window) ||

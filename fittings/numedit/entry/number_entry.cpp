@@ -213,8 +213,8 @@ void NumberEntry::PutBack()
     Wake();
 }
 
-/// Deletes the text that the next call of Insert() replaces. Keeps the "changed" signal of the deletion from the
-/// toolkit: the program then gets a single wxEVT_TEXT for the deletion and the insertion.
+/// Deletes the text that the next call of Insert() replaces. The toolkit does not receive the "changed" signal of this
+/// deletion, so the program gets a single wxEVT_TEXT for the deletion and the insertion.
 void NumberEntry::Replace(int begin, int end)
 {
     if (begin == end)
