@@ -1,5 +1,5 @@
-// fittings-memory: measures the peak memory of the library while it works with a hundred thousand items. Compares this
-// peak with that of a peer.
+// fittings-memory: measures the peak memory of the library while it works with a hundred thousand items. Compares each
+// peak with that of a peer, which is comparable work without the library, or the data itself.
 
 #include <cstdio>
 #include <fstream>

@@ -136,7 +136,8 @@ bool AreTexts(std::wstring_view texts)
             return false;
         separator = at;
     }
-    // If the name ends with a "\", the separator looks escaped: find ";caption=", which begins with the separator.
+    // If the name ends with a "\", the loop takes the separator for an escaped ";" and skips it. The separator is then
+    // the ";" of the first ";caption=".
     if (separator == texts.npos)
         separator = texts.find(kCaption);
     return separator != texts.npos && texts.substr(0, 5) == L"name=" &&

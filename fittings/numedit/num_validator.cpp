@@ -19,8 +19,8 @@ bool IsCharacter(int keyCode)
     return keyCode <= WXK_START;
 }
 
-// Returns the text that the control would hold with the character. erase() throws if the insertion point is beyond the
-// text.
+// Returns the text that the control would hold with the character. Throws std::out_of_range if the insertion point is
+// beyond the text.
 std::wstring TextWith(wchar_t character, const wxTextCtrl& control)
 {
     std::wstring text = control.GetValue().ToStdWstring();

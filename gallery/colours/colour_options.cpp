@@ -46,7 +46,8 @@ wxColourCombo* MakeColourCombo(wxWindow* parent, const ColourOptions& options, c
     auto* popup = new Popup(options);
     if (options.centre)
         popup->SetCenterOn(wxGetTopLevelParent(parent));
-    // The constructor with a colour would make a popup of the library's class, whose cells cannot be set.
+    // Create the control with a text: with a colour, it would make a wxColourPopup. Only a class derived from
+    // wxColourPopup can set the number of columns and the size of the cells.
     auto* combo = new Combo(options);
     combo->Create(parent, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, options.readOnly ? wxCB_READONLY : 0);
     combo->SetPopupControl(popup);

@@ -12,8 +12,8 @@ wxImage GrabScaled(const wxRect& rect);
 /// is that of the lower right one.
 int PixelAt(const wxPoint& place);
 
-/// Returns whether each of the toolkit's pixels has one colour. The first of these pixels may be cut at the edge of the
-/// image. Returns false for a blurred or finer image.
+/// Returns whether each of the toolkit's pixels has one colour. The edges of the image may cut through such pixels.
+/// Returns false for a blurred or finer image.
 bool IsOfWholePixels(const wxImage& scaled);
 
 #endif

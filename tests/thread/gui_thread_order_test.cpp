@@ -65,8 +65,8 @@ public:
     }
 };
 
-// Members are destroyed in reverse order of declaration, so the post mutex, which is locked first, is destroyed before
-// the continue mutex.
+// The continue mutex is declared before the post mutex. Members are destroyed in reverse order of declaration, so the
+// post mutex, which PostEvent() locks first, is also destroyed first.
 TEST(WorkerClass, LaysItsMembersOutInOrder)
 {
     const Laid worker;

@@ -119,8 +119,8 @@ TEST_F(StoreConfig, StoresAnEqualTextInAFileThatAnotherHasEmptied)
     EXPECT_EQ(ReadFile(Path()), "[g]\na=1\n");
 }
 
-// The file's folder is renamed just after the object has read the file. If the object read again now, it might still
-// see the renamed file. The write must notice that there is no file at the path any more.
+// The file's folder is renamed just after a read. For a moment, another read may examine only the open file, and not
+// its path. The write must look up the path and notice that there is no file any more.
 TEST_F(StoreConfig, StoresAnEqualTextInAFolderThatAnotherHasReplaced)
 {
     Open("[g]\na=1\n");
@@ -228,8 +228,8 @@ TEST_F(TheDefaultStoreAsAConfig, LeavesItsChangesToTheBatchThatSavesThemLater)
     EXPECT_EQ(config.Read("g/k"), "1");
     std::filesystem::remove(data / "settings.ini");
     EXPECT_TRUE(CLocalRegStore::WriteString(L"g", L"k", L"2"));
-    // The batch now contains two changes of this key: first to 1, then to 2. The first one comes from Flush(). If
-    // Flush() added it once more, the batch would store 1.
+    // The batch now contains two changes of this key: first to 1, then to 2. The first one comes from the Flush()
+    // above. If the Flush() below added it once more, the batch would store 1.
     EXPECT_TRUE(config.Flush());
     EXPECT_TRUE(batch.Save());
     EXPECT_EQ(ReadFile(data / "settings.ini"), "[g]\nk=2\n");
