@@ -1,5 +1,5 @@
 // The expanded items of a tree: loading a text expands exactly the items that have children and whose label is in the
-// text. A saved text contains a label if the lowest item with this label in the tree is expanded.
+// text. A saved text contains a label if the last item with this label, in the order of ForEach(), is expanded.
 
 #include <cstdint>
 #include <functional>

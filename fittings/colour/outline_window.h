@@ -12,8 +12,8 @@ public:
     /// Makes a hidden window, which @a parent owns.
     explicit OutlineWindow(wxWindow* parent);
 
-    /// Shows @a outline, a rectangle inside @a area. Both are in screen coordinates. Hides the window if @a outline is
-    /// empty.
+    /// Gives the window the place and size of @a area, and shows @a outline, a rectangle inside the area. Both are in
+    /// screen coordinates. Hides the window if @a outline is empty.
     void ShowOutline(const wxRect& area, const wxRect& outline);
 };
 

@@ -11,7 +11,7 @@ struct FolderSum
 {
     std::uint64_t bytes = 0;       ///< The sizes of all files and folders; a file with several names counts once.
     std::uint64_t items = 0;       ///< The number of entries of all kinds; each name of a file counts.
-    std::uint64_t unreadable = 0;  ///< How many sizes and how many folders could not be read.
+    std::uint64_t unreadable = 0;  ///< The number of sizes and folders that could not be read.
 };
 
 /// Receives the progress of SumFolder(), on the thread that calls it.

@@ -22,7 +22,7 @@ protected:
         return *control;
     }
 
-    /// Whether the focus is in a control, or in a GTK widget of the control that is not a window of the toolkit.
+    /// Returns whether the GTK widget with the focus is the control or inside the control.
     bool HasFocus(const wxWindow& window)
     {
         GtkWidget* focus = gtk_window_get_focus(GTK_WINDOW(frame->GetHandle()));

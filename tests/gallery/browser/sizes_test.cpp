@@ -191,7 +191,7 @@ TEST_F(Sizes, AFolderThatIsGoneHasOneUnreadableItem)
     EXPECT_TRUE(Row().GetText().Contains(", 1 unreadable")) << Row().GetText();
 }
 
-/// Counts the events of a SizeWorker. Expects in each event the 7 that the test passes as the worker's number.
+/// Counts the events of a SizeWorker. Expects each event to contain 7, the number that the tests give to the worker.
 class Counter : public wxEvtHandler
 {
 public:
