@@ -1,8 +1,8 @@
 #ifndef FITTINGS_BENCH_BUDGETS_H_
 #define FITTINGS_BENCH_BUDGETS_H_
 
-/// One row of the printed table. @a row is the name of the benchmark. @a peer describes its peer: the code with which the
-/// benchmark is compared.
+/// One row of the printed table. @a row is the name of the benchmark. @a peer describes its peer: the code with which
+/// the benchmark is compared.
 struct Budget
 {
     const char* row;

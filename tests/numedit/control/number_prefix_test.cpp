@@ -179,8 +179,8 @@ std::size_t ExponentDigits(const std::string& text)
 int g_accepted = 0;
 int g_refused = 0;
 
-/// Types ten random keys, most of them at the end of the text. About one key in five goes to a random place and replaces
-/// up to two characters there. Expects a text to be accepted if and only if it is one of @a beginnings.
+/// Types ten random keys, most of them at the end of the text. About one key in five goes to a random place and
+/// replaces up to two characters there. Expects a text to be accepted if and only if it is one of @a beginnings.
 void TypeAndCompare(Keys& keys, const Field& field, const Beginnings& beginnings, const fittings::NumberRules& rules)
 {
     std::string text;
