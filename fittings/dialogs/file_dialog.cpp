@@ -174,8 +174,8 @@ void SaveLastPath(const wchar_t* path, const char* entry)
 {
     if (!*entry || !*path)
         return;
-    // This call tells the platform which file was chosen: a host with its own platform may rely on it. The result is
-    // not used, because the path is stored as it was chosen.
+    // RemoveBackSlash() is a function of the platform library, which a host can replace. A replacement may rely on this
+    // call to learn which file was chosen. The result is not used: the path is stored as it was chosen.
     file_util_ex::RemoveBackSlash(path);
     CLocalRegStore::WriteString(kLastFilesSection, entry, file_util_ex::ConvertToUTF8(path).c_str());
 }

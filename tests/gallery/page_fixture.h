@@ -1,9 +1,14 @@
 #ifndef FITTINGS_TESTS_GALLERY_PAGE_FIXTURE_H_
 #define FITTINGS_TESTS_GALLERY_PAGE_FIXTURE_H_
 
+#include <string>
+
+#include <gtest/gtest.h>
 #include <gtk/gtk.h>
 
+#include <gallery/tour/simulated_user.h>
 #include <tests/gallery/browser/browser_fixture.h>
+#include <tests/support/gui.h>
 
 /// A page of the gallery, whose controls are found by their names.
 class PageTest : public BrowserTest

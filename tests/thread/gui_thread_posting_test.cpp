@@ -33,6 +33,7 @@ struct TakesZero<std::void_t<decltype(std::declval<Thread&>().PostEvent(std::dec
 };
 static_assert(!TakesZero<void, wxGUIThread, int, int>::value);
 static_assert(!TakesZero<void, wxGUIThreadEx, int>::value);
+static_assert(TakesZero<void, wxGUIThread, int>::value && TakesZero<void, wxGUIThreadEx>::value);
 
 // Runs a worker that is constructed with @a arguments, waits for it, and delivers the posted events.
 template <typename Thread, typename... Arguments>

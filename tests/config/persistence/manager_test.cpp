@@ -4,6 +4,7 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 #include <wx/frame.h>
+#include <wx/panel.h>
 #include <wx/treebook.h>
 
 #include <fittings/platform/std_file_paths.h>

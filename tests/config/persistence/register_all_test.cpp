@@ -4,6 +4,7 @@
 #include <wx/dialog.h>
 #include <wx/frame.h>
 #include <wx/listbook.h>
+#include <wx/panel.h>
 
 #include <tests/config/persistence/full_frame.h>
 #include <tests/config/persistence/stored.h>

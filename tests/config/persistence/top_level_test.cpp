@@ -196,10 +196,11 @@ TEST(DamagedFlagsAndDecorations, ChangeNothing)
         for (const wchar_t* const text : {L"", L"x", L"-2147483649", L"9999999999"}) {
             StorePlace(L"100", L"100", L"300", L"200");
             StoreValue(kKind, key, text);
-            InOneRun(true, [&](wxFrame& frame) {
-                EXPECT_TRUE(SettlesAt(frame, wxRect(100, 100, 300, 200))) << key << "=" << text;
+            SCOPED_TRACE(wxString(key) + "=" + text);
+            ASSERT_NO_FATAL_FAILURE(InOneRun(true, [](wxFrame& frame) {
+                EXPECT_TRUE(SettlesAt(frame, wxRect(100, 100, 300, 200)));
                 EXPECT_FALSE(frame.IsIconized());
-            });
+            }));
         }
     }
     StoreValue(kKind, L"decor_t", L"30000");

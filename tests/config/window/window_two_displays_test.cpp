@@ -1,7 +1,7 @@
 // Two displays, side by side: 0;0;640;1024 and 640;0;640;1024. A virtual X server has only one display, so this
 // program replaces the GDK functions that describe the displays.
 
-#include <fittings/config/wx_window_state.h>
+#include <fittings/config/persistence.h>
 
 #include <gdk/gdk.h>
 #include <gtest/gtest.h>

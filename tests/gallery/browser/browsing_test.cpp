@@ -179,7 +179,7 @@ TEST_F(Browsing, AFolderThatIsNewIsEnteredWithoutRefresh)
 {
     Tree().Expand(Item("docs"));
     fs::create_directory(temp / "docs/brand new");
-    Select("docs");
+    ASSERT_NO_FATAL_FAILURE(Select("docs"));
     ASSERT_FALSE(Item("docs/brand new").IsOk());
     DoubleClick(CentreOf(NameRect(List(), RowOf("brand new"))));
     EXPECT_TRUE(SelectionComesTo("docs/brand new"));

@@ -82,7 +82,7 @@ TEST_F(Sizes, ASummedFolderSaysItsSizeWhenSelected)
 TEST_F(Sizes, AnotherFolderIsAddedUpInItsTurn)
 {
     Open(root);
-    ClickFolder("docs");
+    ASSERT_NO_FATAL_FAILURE(ClickFolder("docs"));
     ASSERT_TRUE(ComesToRest());
     EXPECT_EQ(EntryNamed("taxes").size, ListedSize(temp / "docs/taxes"));
     EXPECT_TRUE(Row().GetText().Contains(" in 6 items, ")) << Row().GetText();

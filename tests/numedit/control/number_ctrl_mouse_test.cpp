@@ -162,7 +162,7 @@ protected:
     /// Puts a text into the other field, and drags the text from there onto the number control.
     void Drop(const wxString& text, bool moves = false)
     {
-        screen.SelectInFirst(text);
+        ASSERT_NO_FATAL_FAILURE(screen.SelectInFirst(text));
         const wxPoint grip = screen.first->ClientToScreen(wxPoint(14, screen.first->GetSize().y / 2));
         Drag(*screen.first, grip, screen.Middle(), moves);
     }
@@ -200,7 +200,7 @@ TEST_F(NumberDrop, TakesADigitBetweenGroups)
     screen.Restart("1234");
     screen.Leave();
     ASSERT_EQ(screen.Text(), L"1,234.00");
-    screen.SelectInFirst("7");
+    ASSERT_NO_FATAL_FAILURE(screen.SelectInFirst("7"));
     PangoRectangle place;
     int left = 0;
     auto* const entry = GTK_ENTRY(screen.number->m_widget);

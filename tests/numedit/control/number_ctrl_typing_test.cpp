@@ -217,7 +217,7 @@ class PasteOfASelection : public NumberTyping
 protected:
     void Paste(const wxString& text)
     {
-        screen.SelectInFirst(text);
+        ASSERT_NO_FATAL_FAILURE(screen.SelectInFirst(text));
         wxUIActionSimulator mouse;
         mouse.MouseMove(screen.Middle());
         mouse.MouseClick(wxMOUSE_BTN_MIDDLE);

@@ -19,7 +19,7 @@ struct LockWait
     /// state changes, the holder counts as stuck.
     using Stuck = std::optional<FileIdentity>;
 
-    std::chrono::milliseconds longest;  ///< How long a wait may go on after another process has taken the lock.
+    std::chrono::milliseconds longest;  ///< How long to wait for one holder. Starts again with each new holder.
     Clock::time_point deadline;         ///< The end of the wait; postponed when another process takes the lock.
     Clock::time_point end;              ///< The deadline is never postponed beyond this time.
     Stuck& stuck;

@@ -209,10 +209,12 @@ std::vector<fittings::SettingsEntry> CIniFile::Entries(std::wstring_view section
     return entries;
 }
 
-// Merges three ways: starts with @a displaced, and makes the changes that lead from @a expected to @a put. Makes every
-// change of this object. Makes any other change only if the key has the same value in @a displaced as in @a expected:
-// otherwise the value in @a displaced is newer. Removes a key only if this object has removed it: any other key that is
-// missing in @a put may belong to a change that has not been merged into @a put yet.
+// Merges three ways. This object has put @a put in place of a file that contained @a displaced instead of @a expected.
+// After an earlier merge, @a put also contains changes of other processes.
+//
+// Starts with @a displaced, and makes every change of this object. Then makes the other changes from @a expected to
+// @a put, but only of keys whose value in @a displaced is still the expected one: any other value is newer. Removes a
+// key only if this object has removed it: another key that @a put lacks may be a change that is not merged into it yet.
 std::optional<std::string> CIniFile::Merged(std::string_view expected, std::string_view put,
                                             std::string_view displaced) const
 {
