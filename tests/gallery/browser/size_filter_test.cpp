@@ -128,7 +128,7 @@ TEST_F(SizeFilterTest, RefusesWhatIsNoSize)
     EXPECT_EQ(frame->GetBrowser()->GetFilter()->GetMinimum(), 123456789000000u);
 }
 
-// The field checks each key, but not text that is pasted.
+// SetValue() accepts any text. A text that is not an acceptable number does not filter the list.
 TEST_F(SizeFilterTest, TakesPastedNonsenseForNoNumber)
 {
     for (const char* pasted : {"abc", "1e3", "-5", ".", "12 34", "nan", "inf", "0x10"}) {

@@ -111,8 +111,8 @@ protected:
     /// Shift: GTK then moves the text to another field instead of copying it.
     void Drag(wxTextCtrl& from, const wxPoint& grip, const wxPoint& to, bool moves)
     {
-        // Keep the widgets alive, because the drop may destroy the controls.
         const wxWeakRef<wxTextCtrl> alive(&from);
+        // The drop may destroy the controls. Keep their GTK widgets until the drag has ended.
         GtkWidget* const source = GTK_WIDGET(g_object_ref(from.m_widget));
         GtkWidget* const target = GTK_WIDGET(g_object_ref(screen.number->m_widget));
         bool begun = false;

@@ -107,8 +107,9 @@ private:
         }
     }
 
-    /// Returns whether @a value times 10 to the power @a power is less than @a bound. Both numbers are small, so the
-    /// function stops multiplying when the multiplied number certainly has the larger absolute value.
+    /// Returns whether @a value times 10 to the power @a power is less than @a bound. If @a power is below 0,
+    /// multiplies @a bound instead. Stops multiplying when the absolute value of the product is larger than all values
+    /// and bounds of these tests: the result is then certain.
     static bool IsLess(std::int64_t value, int power, std::int64_t bound)
     {
         for (; power > 0 && std::abs(value) < 1'000'000'000; --power)

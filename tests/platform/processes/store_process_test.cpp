@@ -229,7 +229,8 @@ TEST_F(AKilledWriter, LeavesTheOldOrTheNewValueAndAllOthersInTheDefaultStore)
         KillOnce(
             round, [](const std::wstring& text) { CLocalRegStore::WriteString(L"Kill", L"update", text.c_str()); },
             m_data / "settings.ini");
-        // The next reader sees the value, too. No lock delays the reader, because a lock never outlives its holder.
+        // The default store returns the value that KillOnce() has found in the file. It does not wait for the lock of
+        // the killed writer, which the kernel has released.
         const auto start = Clock::now();
         ASSERT_EQ(Stored(L"Kill", L"update"), UpdateText(m_progress->done));
         ASSERT_LT(Clock::now() - start, std::chrono::milliseconds(1500));

@@ -94,8 +94,8 @@ struct FileUpdate
 /// - If the exchange cannot be undone, renames the displaced file to a name from OtherName(). If another process is the
 ///   reason, returns Outdated. If an error is the reason, the new file stays in place and the result is Saved.
 /// - If the file has changed again after each of a hundred merges, undoes the last exchange and returns Failed.
-/// - If an exchange after a merge is undone, the file lacks the changes that the merge added. The displaced file that
-///   has these changes is renamed to a name from OtherName().
+/// - Another exchange stores the result of a merge. If this exchange is undone, the file lacks the changes that were
+///   merged. The file with these changes, which the previous exchange displaced, is renamed to a name from OtherName().
 ///
 /// On file systems that cannot exchange two files atomically, such as NFS, a change in the few microseconds after the
 /// check can be lost.
