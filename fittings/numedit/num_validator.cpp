@@ -130,7 +130,7 @@ void wxNumValidator::OnChar(wxKeyEvent& event)
             wxBell();
         return;
     }
-    // Write the format's point in place of the character that the layout gives the keypad key.
+    // Write the format's point in place of the character that the keyboard layout gives the keypad key.
     if (m_bNumpadDecimal)
         control->WriteText(wxString(character));
     else

@@ -188,8 +188,8 @@ TEST_P(ClockJumps, HideNoChangeByAnotherProcess)
     EXPECT_EQ(NamesIn(data.Path()), (std::vector<std::string>{"settings.ini", "settings.ini.lock"}));
 }
 
-// Neither the size nor the modification time shows that the file has changed: each change writes the same number of
-// bytes, and the test then sets the time to that of the first contents, or to the time of a clock that has jumped.
+// Each change writes the same number of bytes. The test then sets the modification time to that of the first contents,
+// or to the time of a clock that has jumped. The store must still notice each change.
 TEST_P(ClockJumps, HideNoChangeInPlace)
 {
     TempUserData data;

@@ -96,7 +96,7 @@ TEST(FormatControlText, RoundsHalfUp)
                               {L"-1.234", L"-1.23"}});
     EXPECT_EQ(Shown(L"0.000000015", Rounding(8)), L"0.00000002");
     ExpectShown(Rounding(1), {{L"0.05", L"0.1"}, {L"0.04", L"0.0"}});
-    // Rounding to zero keeps the minus.
+    // A number that is rounded to zero keeps its minus.
     EXPECT_EQ(Shown(L"-0.001", Rounding(2)), L"-0.00");
     EXPECT_EQ(Shown(L"-0.4", Rounding(0)), L"-0");
     // The text has more digits than a double can hold, but is rounded exactly.

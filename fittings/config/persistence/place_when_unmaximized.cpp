@@ -96,8 +96,8 @@ bool PlaceKeeper::IsDoneAfter(const GdkEvent& event)
         m_deadline = 0;
         m_requested = wxSize();
     } else if (ChangesMaximized(event) && m_window->IsShown()) {
-        // IsShown() is false for a window that is being hidden. Hiding a window also ends its maximised state, but only
-        // until the window is shown again.
+        // The condition IsShown() excludes a window that is being hidden. Hiding a window ends its maximised state, but
+        // only until the window is shown again.
         if (DrawsItsDecorations(m_window->GetHandle()))
             return true;
         // The toolkit computes positions with a copy of the decorations' size. It does not update the copy while the
