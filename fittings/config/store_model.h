@@ -65,7 +65,7 @@ public:
     /// Moves the contents of the group into a new sibling group named @a newName.
     void RenameGroup(StoreGroup& group, const std::wstring& newName);
 
-    /// Removes everything from the store, including the sections that are not groups.
+    /// Removes everything from the store, including the sections that are not groups: see PathOfSection().
     void RemoveAll();
 
     /// Returns the value of a key in a section that is not a group, or an empty text when there is none.

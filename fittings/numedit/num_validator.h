@@ -97,8 +97,8 @@ public:
     ///     the text.
     void OnChar(wxKeyEvent& event);
 
-    /// Records for OnChar() whether the key is the keypad's decimal key. From then on, keeps the text that the control
-    /// deletes for a character, so that OnChar() can restore the text. Bound to wxEVT_KEY_DOWN.
+    /// Records for OnChar() whether the key is the keypad's decimal key. If the control then deletes text to
+    /// insert a character, the deleted text is kept, so that OnChar() can restore it. Bound to wxEVT_KEY_DOWN.
     void OnKeyDown(wxKeyEvent& event);
 
 protected:

@@ -51,7 +51,7 @@ protected:
         return PumpUntil([&] { return FocusName() == name; });
     }
 
-    /// Presses a key, by default the mnemonic of a control, and waits until the control has the focus.
+    /// Presses a key, and waits until the control @a name has the focus. With Alt, the key is a mnemonic.
     void GoTo(const std::string& name, int key, int modifiers = wxMOD_ALT)
     {
         gallery::simulated_user::Press(key, modifiers);

@@ -1,4 +1,4 @@
-// Stores values through the library and reads them back. Then prints what this program's platform has stored.
+// Stores values through the library and reads them back. Then prints the store that memory_platform.cpp implements.
 
 #include <cstdio>
 

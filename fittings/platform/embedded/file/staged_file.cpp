@@ -107,7 +107,8 @@ StagedFile::StagedFile(std::string target, std::string_view bytes, const std::op
 {
     const std::string folder = FolderOf(m_target);
     RemoveLeftovers(folder);
-    // Use the descriptor and not the path: the folder's owner could replace the new file by a link to a file of root.
+    // Use the descriptor and not the path: the folder's owner could replace the new file by a link, and a process of
+    // root would then change the file that the link leads to.
     const FileDescriptor file(MakeFile(folder, m_path));
     if (file.Get() < 0)
         return;

@@ -99,7 +99,7 @@ private:
         std::vector<Entry> entries = {};
         std::unordered_map<std::string_view, std::size_t> indices = {};  ///< Indices of the entries, by name.
         std::size_t lastLine = kNone;  ///< The line after which new keys are inserted. kNone: the section is new.
-        bool hasOwnName = false;       ///< True if the section line at or above lastLine is spelled as by EncodeName().
+        bool hasOwnName = false;       ///< True if the name of lastLine's section is spelled as EncodeName() writes it.
         bool isMade = false;           ///< True if AddSection() made the section.
         bool isRemoved = false;
     };
