@@ -25,8 +25,8 @@ class Popup
 public:
     Popup() : m_frame(new wxFrame(nullptr, wxID_ANY, "bench")), popup(*new wxColourPopup)
     {
-        // Primitives draws no chosen cell. No cell has this initial colour, so Create() would mark "More Colours..." as
-        // chosen: add that box after Create().
+        // The popup must have no chosen cell, because the class Primitives draws none. If no cell has the initial
+        // colour, Create() chooses "More Colours...", unless this box is absent. Therefore add the box after Create().
         popup.SetDefaultColour(wxColour(1, 2, 3));
         popup.SetInitialColour(wxColour(4, 5, 6));
         popup.SetMoreColoursText("");
@@ -72,7 +72,8 @@ public:
     }
 
 private:
-    // The popup's margin. It is 2 because the benchmarks' display does not report the width of an edge.
+    // The popup's margin. The popup takes it from the metric wxSYS_EDGE_X. The benchmarks' display does not have this
+    // metric, so the margin is 2.
     static constexpr int kMargin = 2;
 
     struct Cell

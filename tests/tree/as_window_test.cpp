@@ -360,7 +360,7 @@ TEST_F(HandyTreeInUse, ShowsBundlesOfTheHostsInPlaceOfItsOwn)
 }
 #endif
 
-// --- This library's own operations in the toolkit's other styles -----------------------------------------------------
+// --- This library's own operations: tree styles and events -----------------------------------------------------------
 
 TEST_F(HandyTreeInUse, GivesNoSingleSelectionWhereThereMayBeSeveral)
 {
