@@ -105,8 +105,8 @@ void Write(benchmark::State& state, Open open, int count)
     config->Flush();
 }
 
-// Measures saving after all entries have changed. kBudgets sets no limit for this, because wxFileConfig neither reads
-// the changes of other programs nor waits for the disk.
+// Measures saving after all entries have changed. budgets.h sets no limit for the ratio to wxFileConfig, because
+// wxFileConfig does less: it neither reads the changes of other programs nor waits for the disk.
 void Flush(benchmark::State& state, Open open, int count)
 {
     const Entries entries(count);

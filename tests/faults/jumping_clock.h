@@ -2,7 +2,8 @@
 #define FITTINGS_TESTS_FAULTS_JUMPING_CLOCK_H_
 
 /// While the object exists, this process's time of day is ahead of the true time by a number of seconds. A negative
-/// number sets it behind the true time. The monotonic clock does not change, as when the system clock is set.
+/// number sets it behind the true time. The monotonic clock does not change. Setting the system clock has the same
+/// effects.
 class JumpingClock
 {
 public:

@@ -24,7 +24,6 @@
 #include <tests/support/becomes.h>
 #include <tests/support/patience.h>
 
-/// Returns a number as an exit code.
 inline wxThread::ExitCode Code(std::intptr_t number)
 {
     return reinterpret_cast<wxThread::ExitCode>(number);  // NOLINT(performance-no-int-to-ptr)

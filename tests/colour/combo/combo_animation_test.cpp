@@ -191,8 +191,8 @@ TEST_F(ColourAnimation, CopiesTheScreenWhereThePopupWillBe)
         EXPECT_EQ(std::memcmp(copy.GetData(), seen.GetData(), std::size_t(3) * rect.width * rect.height), 0);
         ExpectShown();
         on.combo->Dismiss();
-        // Move the combo so that the next animation also covers an area where this one has not drawn. Only there
-        // could the next copy contain old pixels.
+        // Cairo may keep old pixels of the screen, but not where this animation has drawn. Move the combo, so that the
+        // next copy also covers another area.
         on.combo->Move(wxPoint(250, 60));
     }
 }

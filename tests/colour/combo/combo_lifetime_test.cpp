@@ -74,7 +74,7 @@ struct Moment
     const char* name;
     const char* call;
     std::function<void(Control&)> act;
-    ColourCalls calls;  // the listener's calls; the last is "cancel" if the removal itself ends the selection
+    ColourCalls calls;  // the expected calls to the listener, including the "cancel" that the removal may cause
     bool inTheToolkit;  // whether the toolkit still uses the control when the listener has returned
 };
 
