@@ -10,8 +10,8 @@ namespace gallery {
 
 /// Returns a table of comma-separated values in UTF-8, as RFC 4180 describes it: a header, and a line for each entry.
 ///
-/// The field for the size is empty for an entry without a size, such as a folder that was not added up. Names and paths
-/// are as DisplayText() returns them.
+/// The field for the size is empty for an entry without a size, such as a folder whose total size was not computed.
+/// Names and paths are as DisplayText() returns them.
 std::string ReportText(const std::string& folder, const std::vector<Entry>& entries);
 
 /// Replaces the file atomically, or leaves it unchanged. Returns 0, or the errno of the failure.

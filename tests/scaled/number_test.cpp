@@ -10,7 +10,7 @@
 
 namespace {
 
-// Letters have details finer than the toolkit's pixels. These details show that the field is not an enlarged image.
+// The digits have details that are finer than the toolkit's pixels. An enlarged image has no such details.
 TEST(ANumberOnAScaledScreen, IsSharpAndAsHighAsATextField)
 {
     const OwnedWindow<wxFrame> frame(new wxFrame(nullptr, wxID_ANY, "Number"));

@@ -6,8 +6,8 @@
 
 namespace {
 
-/// Returns whether each of the toolkit's pixels has one colour. The first complete pixel of the toolkit begins at (@a
-/// left, @a top).
+/// Divides the image, from (@a left, @a top) on, into squares of 2 x 2 pixels: one square for each of the toolkit's
+/// pixels. Returns whether every square has only one colour.
 bool IsOfWholePixels(const wxImage& scaled, int left, int top)
 {
     const unsigned char* const data = scaled.GetData();

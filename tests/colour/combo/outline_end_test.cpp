@@ -1,4 +1,4 @@
-// The end of the outline: its window is hidden before the background is restored.
+// The end of the animation that opens the popup: the outline window is hidden before the background is drawn.
 
 #include <vector>
 

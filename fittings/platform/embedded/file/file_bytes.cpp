@@ -139,9 +139,10 @@ FileContent ReadUntilFilled(const Read& read, std::string& bytes, std::chrono::s
     }
 }
 
-// Returns the content of the displaced file. If the name of that file is gone, another process has removed the file as
-// an old leftover. The file is then @a before, the open file that was the target before the exchange, because any other
-// file would be too new to be removed. Waits for content until @a deadline, as ReadFileBytes() does.
+// Returns the content of the displaced file. Waits for content until @a deadline, as ReadFileBytes() does.
+//
+// If the name of the displaced file is gone, another process has removed the file as an old leftover. Only the file
+// that was the target before the exchange can be old enough for that, so reads its open descriptor @a before instead.
 std::optional<std::string> ReadDisplaced(const StagedFile& staged, int before,
                                          std::chrono::steady_clock::time_point deadline)
 {

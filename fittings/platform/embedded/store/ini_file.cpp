@@ -214,7 +214,8 @@ std::vector<fittings::SettingsEntry> CIniFile::Entries(std::wstring_view section
 //
 // Starts with @a displaced, and makes every change of this object. Then makes the other changes from @a expected to
 // @a put, but only of keys whose value in @a displaced is still the expected one: any other value is newer. Removes a
-// key only if this object has removed it: another key that @a put lacks may be a change that is not merged into it yet.
+// key only if this object has removed it. Another key that is in @a expected but not in @a put may be a new key of
+// another process, which is not merged into @a put yet.
 std::optional<std::string> CIniFile::Merged(std::string_view expected, std::string_view put,
                                             std::string_view displaced) const
 {
