@@ -108,8 +108,8 @@ double ProcessorTime(Work work)
     return static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
 }
 
-// Each round measures the peer and then LoadState() on the same tree, so that the memory layout and other programs on
-// the machine affect both alike.
+// Measures LoadState(), and in the counter "peer" the toolkit's calls that expand the same items. Each round measures
+// both on the same tree, so that the memory layout and other programs on the machine affect both alike.
 void Load(benchmark::State& state, int count)
 {
     Siblings siblings(count, 10);

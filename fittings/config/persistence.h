@@ -74,8 +74,8 @@ public:
     /// Returns false if the stored value is missing or not an int. For a splitter or data view, also returns false if
     /// the value is not a place or size that a window can have.
     ///
-    /// For a frame or dialog, the call for "x" restores the whole place and size. The call for "y" only reads the
-    /// current y. The calls for "w", "h" and the decorations return false.
+    /// For a frame or dialog, the call for "x" restores the whole place and size. The call for "y" sets *value
+    /// to the window's current y and returns true. The calls for "w", "h" and the decorations return false.
     bool RestoreValue(const wxPersistentObject& who, const wxString& name, int* value) override;
     /// Returns false if the stored value is missing or not a number.
     bool RestoreValue(const wxPersistentObject& who, const wxString& name, long* value) override;

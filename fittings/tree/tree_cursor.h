@@ -48,7 +48,7 @@ public:
     /// Returns true when there is an item.
     bool IsOk() const { return item.IsOk(); }
 
-    /// @name Functions of the toolkit's wxTreeItemId
+    /// @name Use in place of the toolkit's wxTreeItemId
     /// @{
 
     /// Returns true when there is an item.

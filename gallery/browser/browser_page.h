@@ -22,7 +22,7 @@ class SizesRow;
 struct SizeNews;
 
 /// Sent by a BrowserPage when the folder, its sizes, the filter, the selected entry or the set of shown panes changes.
-/// The event propagates to the window, which shows the change.
+/// The event propagates to the gallery's window, which updates its title, menus and status bar.
 wxDECLARE_EVENT(EVT_BROWSER_CHANGED, wxCommandEvent);
 
 /// The disk-usage browser: folders to the left, the contents of the selected folder to the right.

@@ -121,8 +121,8 @@ TEST_F(AnExchange, KeepsTheChangesOfSeveralProcesses)
     EXPECT_EQ(now.Get(L"s", L"k"), L"new");
 }
 
-// The second process has read the file that the first exchange put in place: its file contains the new value of k.
-// Therefore its value of a is newer than the one of the first process, and must be kept.
+// Two other processes change the value of a. The file of the second one contains the new value of k, so this process
+// has read the file that the first exchange put in place. Therefore its value of a is the newer one and must be kept.
 TEST_F(AnExchange, KeepsTheNewerOfTwoValuesOfOthers)
 {
     const Others others({[&] { Put("[s]\na=2\nk=old\n"); }, [&] { Put("[s]\na=3\nk=new\n"); }});
