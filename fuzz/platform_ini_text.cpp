@@ -39,8 +39,8 @@ std::vector<std::string> Taken(gchar** names)
     return taken;
 }
 
-// Returns whether the name is spelled as the library writes it. Names with other spellings are not looked up: if a file
-// has two spellings of one name, the library finds only one of them.
+// Returns whether the name is spelled as the library writes it. The fuzzer does not compare names with other spellings:
+// two spellings of one name are the same name for the library, and two names for GKeyFile.
 bool IsOwnName(const std::string& name)
 {
     return fittings::EncodeName(fittings::DecodeName(name)) == name;

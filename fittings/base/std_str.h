@@ -13,7 +13,7 @@ template <typename CharT>
 class CStdStr : public std::basic_string<CharT>
 {
 public:
-    using Base = std::basic_string<CharT>;  ///< The standard string.
+    using Base = std::basic_string<CharT>;  ///< The base class, which copies and moves are made from.
 
     using Base::Base;  // the constructors below hide inherited ones with the same parameters
 

@@ -129,7 +129,7 @@ wxStorePersistenceManager::~wxStorePersistenceManager() = default;
 
 wxStorePersistenceManager& wxStorePersistenceManager::Install()
 {
-    // Never destroyed: windows and managers may live longer than the static objects of the program.
+    // Never destroyed: registered windows and AUI managers may live longer than the static objects of the program.
     static auto* const manager = new wxStorePersistenceManager;
     Set(*manager);
     return *manager;

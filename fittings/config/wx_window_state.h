@@ -10,11 +10,11 @@ class wxWindow;
 
 /// Window geometry, a frame's maximised state and AUI layouts, each stored under a name that the caller chooses.
 ///
-/// Load the state of a window before the window is shown. Load a layout when all panes exist, and before the window is
-/// shown. If panes can float, load it later: when the window appears on the screen, see LoadAuiManagerState(). Call the
-/// save functions when the window closes. Geometry and the maximised state are in the default store, sections
-/// "wxWindowState" and "wxWindowMaximize"; layouts are in the file "wxAuiManagerState.ini" of ui_config_mgr. GUI thread
-/// only.
+/// Load the state of a window before the window is shown. Load a layout when all panes exist. If no pane can float,
+/// load it before the window is shown. If panes can float, load it when the window appears on the screen (see
+/// LoadAuiManagerState()). Call the save functions when the window closes. Geometry and the maximised state are in the
+/// default store, sections "wxWindowState" and "wxWindowMaximize"; layouts are in the file "wxAuiManagerState.ini" of
+/// ui_config_mgr. GUI thread only.
 ///
 /// Windows and managers must not be null. A null name counts as empty. A name may be a text of any kind: see
 /// fittings::TextArgument. A failure to save is not reported.
