@@ -18,8 +18,8 @@ if(TARGET fittings-gallery)
 endif()
 
 if(FITTINGS_PLATFORM STREQUAL external)
-  # A library that is built on a host's own platform is a part of that host. Install only the library itself, where the
-  # host's programs find it. Leave out the files for linking, because only the host's build links to the library.
+  # A library that is built on a host's own platform is a part of that host. Install only the libraries, where the
+  # host's programs find them. Leave out the files for linking, because only the host's build links to the library.
   install(TARGETS fittings LIBRARY COMPONENT fittings_runtime NAMELINK_SKIP)
   if(TARGET fittings-xrc)
     install(TARGETS fittings-xrc LIBRARY COMPONENT fittings_runtime NAMELINK_SKIP)
