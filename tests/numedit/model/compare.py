@@ -56,7 +56,8 @@ def _smaller_cases(case):
     for field in dataclasses.fields(NumberFormat):
         plain = getattr(PLAIN_FORMAT, field.name)
         if getattr(case.number_format, field.name) != plain:
-            yield dataclasses.replace(case, number_format=dataclasses.replace(case.number_format, **{field.name: plain}))
+            number_format = dataclasses.replace(case.number_format, **{field.name: plain})
+            yield dataclasses.replace(case, number_format=number_format)
     for place, character in enumerate(text):
         if character not in "01":
             for plain in "01":

@@ -1,7 +1,8 @@
 """A second, independent implementation of CNumberEditUtils.
 
-Each operation of fittings/numedit/number_edit_utils.h is one function here. It was written from the documented behaviour
-and not from the C++ code, so that one mistake does not occur in both. The functions are meant to be simple, not fast.
+Each operation of fittings/numedit/number_edit_utils.h is one function here. It was written from the documented
+behaviour and not from the C++ code, so that one mistake does not occur in both. The functions are meant to be simple,
+not fast.
 Texts are Python strings. A text that the library takes as a pointer contains no U+0000.
 """
 
