@@ -23,8 +23,8 @@
 
 namespace {
 
-/// Collects the median of each benchmark in nanoseconds. A benchmark that measures its peer itself reports the peer's
-/// time in the counter "peer".
+// Collects the median of each benchmark in nanoseconds. A benchmark that measures its peer itself reports the peer's
+// time in the counter "peer".
 class Medians : public benchmark::BenchmarkReporter
 {
 public:
@@ -40,7 +40,7 @@ public:
         }
     }
 
-    /// Returns the median of the benchmark @a name; 0 if there is none.
+    // Returns the median of the benchmark @a name; 0 if there is none.
     double Of(const std::string& name) const
     {
         const auto found = m_ns.find(name);
@@ -60,7 +60,7 @@ private:
     std::map<std::string, double> m_ns;
 };
 
-/// Two medians to compare.
+// Two medians to compare.
 struct Pair
 {
     bool IsMeasured() const { return ours > 0 && peer > 0; }

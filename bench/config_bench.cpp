@@ -15,7 +15,7 @@ namespace {
 
 constexpr int kGroups = 20;
 
-/// A temporary folder with one file for wxStoreConfig and one for wxFileConfig, which contain the same entries.
+// A temporary folder with one file for wxStoreConfig and one for wxFileConfig, which contain the same entries.
 class Entries : public TempUserData
 {
 public:

@@ -24,7 +24,7 @@ namespace {
 
 constexpr int kItems = 100'000;
 
-/// Returns the amount of memory in the line @a name of /proc/self/status, in bytes.
+// Returns the amount of memory in the line @a name of /proc/self/status, in bytes.
 double Status(const std::string& name)
 {
     std::ifstream status("/proc/self/status");
@@ -36,7 +36,7 @@ double Status(const std::string& name)
     return kilobytes * 1024;
 }
 
-/// Returns the peak of the additional memory during @a work, divided by the number of items.
+// Returns the peak of the additional memory during @a work, divided by the number of items.
 double PeakOf(const std::function<void()>& work)
 {
     malloc_trim(0);

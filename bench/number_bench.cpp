@@ -16,7 +16,7 @@ namespace {
 constexpr wchar_t kTyped[] = L"123456.78901";
 constexpr char kShown[] = "1234567.891";
 
-/// Returns a text of @a length characters: digits, a point and two decimals.
+// Returns a text of @a length characters: digits, a point and two decimals.
 template <typename CharT>
 std::basic_string<CharT> Digits(std::int64_t length)
 {
@@ -63,7 +63,7 @@ void ValidateLong(benchmark::State& state)
     Validate(state, Digits<wchar_t>(state.range(0)), SixDecimals());
 }
 
-/// Validates with the grammar of SixDecimals() as a regular expression. The text is passed without a conversion.
+// Validates with the grammar of SixDecimals() as a regular expression. The text is passed without a conversion.
 void ValidateRegEx(benchmark::State& state, const std::wstring& text)
 {
     const wxRegEx grammar("^[+-]?[0-9]*(\\.[0-9]{0,6})?$", wxRE_EXTENDED | wxRE_NOSUB);
@@ -114,8 +114,8 @@ void FormatLong(benchmark::State& state)
     Format(state, Digits<wchar_t>(state.range(0)));
 }
 
-/// Measures ICU's formatter. Each round reuses the formatter and the memory of its result. The text and the result stay
-/// in ICU's types; a host would have to convert them.
+// Measures ICU's formatter. Each round reuses the formatter and the memory of its result. The text and the result stay
+// in ICU's types; a host would have to convert them.
 void FormatIcu(benchmark::State& state, const std::string& text)
 {
     UErrorCode status = U_ZERO_ERROR;
@@ -142,7 +142,7 @@ void FormatLongIcu(benchmark::State& state)
     FormatIcu(state, Digits<char>(state.range(0)));
 }
 
-/// Measures the toolkit's formatter. The C locale has no separator for groups, so the toolkit inserts none.
+// Measures the toolkit's formatter. The C locale has no separator for groups, so the toolkit inserts none.
 void FormatToolkit(benchmark::State& state)
 {
     for (auto _ : state)

@@ -19,8 +19,8 @@ namespace {
 
 constexpr int kSections = 20;
 
-/// A temporary user data directory with two files of settings, the default one and a named one. Each has the given
-/// number of keys.
+// A temporary user data directory with two files of settings, the default one and a named one. Each has the given
+// number of keys.
 class Settings : public TempUserData
 {
 public:

@@ -47,7 +47,7 @@ wxString ConsumeCaption(FuzzedDataProvider& bytes)
     return text;
 }
 
-/// Arranges the panes as the bytes choose. A program or its user could arrange them in the same way.
+// Arranges the panes as the bytes choose. A program or its user could arrange them in the same way.
 void Arrange(wxAuiManager& manager, FuzzedDataProvider& bytes)
 {
     for (const char* const name : kNames) {
@@ -68,7 +68,7 @@ void Arrange(wxAuiManager& manager, FuzzedDataProvider& bytes)
         manager.MaximizePane(manager.GetPane(bytes.PickValueInArray(kNames)));
 }
 
-/// Returns the layout with some of its numbers or characters replaced.
+// Returns the layout with some of its numbers or characters replaced.
 std::wstring Damage(std::wstring layout, FuzzedDataProvider& bytes)
 {
     constexpr const wchar_t* kNumbers[] = {L"-1",      L"0",          L"1",          L"9999",
@@ -87,9 +87,9 @@ std::wstring Damage(std::wstring layout, FuzzedDataProvider& bytes)
     return layout;
 }
 
-/// Returns whether the layout contains "\;" or the control character "\b". The toolkit writes the ";" of a caption as
-/// "\;". When it loads a layout, it replaces "\;" by "\b", and "\b" by ";". It then reads the text after this ";" as
-/// the next property of the pane, and asserts if it does not know this property.
+// Returns whether the layout contains "\;" or the control character "\b". The toolkit writes the ";" of a caption as
+// "\;". When it loads a layout, it replaces "\;" by "\b", and "\b" by ";". It then reads the text after this ";" as
+// the next property of the pane, and asserts if it does not know this property.
 bool HasDelimiterInText(const std::wstring& layout)
 {
     return layout.find(L"\\;") != layout.npos || layout.find(L'\b') != layout.npos;

@@ -23,8 +23,8 @@ constexpr long kStyles[] = {wxTR_DEFAULT_STYLE, wxTR_DEFAULT_STYLE | wxTR_MULTIP
                             wxTR_DEFAULT_STYLE | wxTR_HIDE_ROOT};
 constexpr std::size_t kMostItems = 40;
 
-/// An item below the root. A `parent` of 0 is the root; otherwise `parent` is the number of an earlier item, counted
-/// from 1 in the order of creation.
+// An item below the root. A `parent` of 0 is the root; otherwise `parent` is the number of an earlier item, counted
+// from 1 in the order of creation.
 struct Item
 {
     std::size_t parent;
@@ -40,8 +40,8 @@ std::vector<Item> ConsumeItems(FuzzedDataProvider& bytes)
     return items;
 }
 
-/// Returns a text for each item that is expanded or selected: "+" if it is expanded, "*" if it is selected, and then
-/// its full path. Ignores which item is the first in view, because only a tree that is shown scrolls to that item.
+// Returns a text for each item that is expanded or selected: "+" if it is expanded, "*" if it is selected, and then
+// its full path. Ignores which item is the first in view, because only a tree that is shown scrolls to that item.
 std::vector<std::wstring> Marked(const std::wstring& text)
 {
     std::vector<std::wstring> marked;
@@ -59,8 +59,8 @@ std::vector<std::wstring> Marked(const std::wstring& text)
     return marked;
 }
 
-/// Restores the text in a new tree, and returns what the tree saves when it is destroyed. @a isRestored is false if the
-/// text was rejected.
+// Restores the text in a new tree, and returns what the tree saves when it is destroyed. @a isRestored is false if the
+// text was rejected.
 std::wstring SavedAfterRestoring(const std::wstring& text, const std::vector<Item>& items, long style, bool& isRestored)
 {
     Check(CLocalRegStore::WriteString("Persistent_Options/Tree/tree", "Items", text), "the text can be stored");

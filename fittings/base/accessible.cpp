@@ -23,7 +23,7 @@ AtkRole RoleOf(AccessibleRole role)
     return ATK_ROLE_TEXT;
 }
 
-/// Returns the widget that takes the focus. In a scrolled window, this is an inner widget.
+// Returns the widget that takes the focus. In a scrolled window, this is an inner widget.
 GtkWidget* FocusedPart(const wxWindow& window)
 {
     return window.m_wxwindow ? window.m_wxwindow : window.m_widget;

@@ -32,7 +32,7 @@ constexpr std::int64_t kFarthest = 1'000'000;
 constexpr std::int64_t kLastDirection = 5;                   // wxAUI_DOCK_CENTER
 constexpr std::int64_t kActionPane = std::int64_t{1} << 31;  // wxAuiPaneInfo::actionPane: the pane being dragged
 
-/// Parses a text from its start. After the first error, every further step fails.
+// Parses a text from its start. After the first error, every further step fails.
 class Scanner
 {
 public:
@@ -49,7 +49,7 @@ public:
             m_rest.remove_prefix(expected.size());
     }
 
-    /// Takes and returns the text before the position @a end, and skips the character at @a end.
+    // Takes and returns the text before the position @a end, and skips the character at @a end.
     std::wstring_view TakeUpTo(std::size_t end)
     {
         m_isOk = m_isOk && end < m_rest.size();
@@ -60,7 +60,7 @@ public:
         return taken;
     }
 
-    /// Takes a number from @a least to @a most. The number must look as printf writes it: no "+", no needless zero.
+    // Takes a number from @a least to @a most. The number must look as printf writes it: no "+", no needless zero.
     std::int64_t TakeNumber(std::int64_t least, std::int64_t most)
     {
         const bool isNegative = IsBefore(L"-");
@@ -87,7 +87,7 @@ public:
         return TakeNumber(least, most);
     }
 
-    /// Returns the end of the next pane: the first "|" without a "\" before it.
+    // Returns the end of the next pane: the first "|" without a "\" before it.
     std::size_t EndOfPane() const
     {
         std::size_t end = m_rest.find(L'|');
@@ -101,7 +101,7 @@ private:
     bool m_isOk = true;
 };
 
-/// Sums and maxima over all panes and docks of a layout.
+// Sums and maxima over all panes and docks of a layout.
 struct Sums
 {
     int panes = 0;
@@ -124,7 +124,7 @@ struct Sums
     }
 };
 
-/// Returns whether the texts are "name=A;caption=B" with a "\" before each ";" in A or B.
+// Returns whether the texts are "name=A;caption=B" with a "\" before each ";" in A or B.
 bool AreTexts(std::wstring_view texts)
 {
     constexpr std::wstring_view kCaption = L";caption=";
@@ -144,12 +144,12 @@ bool AreTexts(std::wstring_view texts)
            texts.substr(separator, kCaption.size()) == kCaption;
 }
 
-/// Returns false if the toolkit would read part of the texts as a field with a value below 0 or above kMostInText.
-///
-/// The toolkit ends a field even at an escaped ";", and reads the text after it as the next field. From the caption
-/// "a;row=99999999;", it reads a row of 99999999. The field after that row is empty. The toolkit treats an empty field
-/// as the end of the pane, so it does not read the pane's real row. A "\b" is the toolkit's placeholder for an escaped
-/// ";".
+// Returns false if the toolkit would read part of the texts as a field with a value below 0 or above kMostInText.
+//
+// The toolkit ends a field even at an escaped ";", and reads the text after it as the next field. From the caption
+// "a;row=99999999;", it reads a row of 99999999. The field after that row is empty. The toolkit treats an empty field
+// as the end of the pane, so it does not read the pane's real row. A "\b" is the toolkit's placeholder for an escaped
+// ";".
 bool AreReadAtOnce(std::wstring_view texts)
 {
     for (std::size_t at = texts.find_first_of(L";\b"); at != texts.npos; at = texts.find_first_of(L";\b", at + 1)) {

@@ -17,7 +17,7 @@ using Window = wxWeakRef<wxTopLevelWindow>;
 
 constexpr char kData[] = "fittings-first-showing";
 
-/// Watches a window until it is on the screen for the first time. Owned by the window's widget.
+// Watches a window until it is on the screen for the first time. Owned by the window's widget.
 class FirstShowing
 {
 public:
@@ -25,7 +25,7 @@ public:
 
     void Watch(GtkWidget* widget);
 
-    /// Makes the window keep its place. Otherwise the window manager chooses the place.
+    // Makes the window keep its place. Otherwise the window manager chooses the place.
     void KeepPlace() { m_keepsPlace = true; }
 
 private:

@@ -35,7 +35,7 @@ wxTopLevelWindow* TopLevelOf(const wxPersistentObject& who)
     return topLevel ? topLevel->Get() : nullptr;
 }
 
-/// Returns one of a rectangle's four numbers by its name; null for any other name.
+// Returns one of a rectangle's four numbers by its name; null for any other name.
 const int* Field(const wxRect& rect, const wxString& name)
 {
     if (name == kX)
@@ -47,9 +47,9 @@ const int* Field(const wxRect& rect, const wxString& name)
     return name == kHeight ? &rect.height : nullptr;
 }
 
-/// Returns whether a stored number can be passed to the toolkit as a value of @a who. The toolkit would assert on a
-/// number that does not fit an int. For a splitter or data view, the number must also be a place or size that a window
-/// can have: the toolkit does not check this.
+// Returns whether a stored number can be passed to the toolkit as a value of @a who. The toolkit would assert on a
+// number that does not fit an int. For a splitter or data view, the number must also be a place or size that a window
+// can have: the toolkit does not check this.
 bool IsPossible(long number, const wxPersistentObject& who)
 {
     if (dynamic_cast<const wxPersistentSplitter*>(&who) || dynamic_cast<const wxPersistentDataViewCtrl*>(&who))
@@ -59,7 +59,7 @@ bool IsPossible(long number, const wxPersistentObject& who)
 
 }  // namespace
 
-/// The windows whose values are collected, and whether a save is due.
+// The windows whose values are collected, and whether a save is due.
 class wxStorePersistenceManager::Windows
 {
 public:
@@ -79,7 +79,7 @@ public:
         return *record;
     }
 
-    /// Makes sure that the values of the object are saved when its top-level window is destroyed.
+    // Makes sure that the values of the object are saved when its top-level window is destroyed.
     void Keep(const wxPersistentObject& who)
     {
         wxWindow* const window = WindowOf(who);
@@ -93,8 +93,8 @@ public:
         return found == m_records.end() ? nullptr : found->second.lock().get();
     }
 
-    /// Saves the collected values on the next turn of the event loop. If the program ends before that turn, the values
-    /// are saved when the window of @a who or one of its parents is destroyed.
+    // Saves the collected values on the next turn of the event loop. If the program ends before that turn, the values
+    // are saved when the window of @a who or one of its parents is destroyed.
     void SaveSoon(const wxPersistentObject& who)
     {
         // The values are saved when a window with a record is destroyed. Look for the nearest window that has one. If

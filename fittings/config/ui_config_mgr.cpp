@@ -19,7 +19,7 @@ OwnedIniFile NewIniFile()
     return OwnedIniFile(CLocalRegStore::CreateInitFile(false));
 }
 
-/// Returns the path of a settings file. Makes its folder if possible.
+// Returns the path of a settings file. Makes its folder if possible.
 std::wstring SettingsPath(const wchar_t* file)
 {
     const std::wstring folder = file_util_ex::MakePath(std_file_paths::GetUserDataDir(), L"ui_config");

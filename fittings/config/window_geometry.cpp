@@ -9,17 +9,17 @@
 
 namespace {
 
-/// A stored geometry is not applied if its width or height is this many pixels or less.
+// A stored geometry is not applied if its width or height is this many pixels or less.
 constexpr int kTooSmall = 10;
 
-/// The largest coordinate or size on an X display, where these numbers have 16 bits. Stored numbers are limited to
-/// this, so that sums of them do not overflow.
+// The largest coordinate or size on an X display, where these numbers have 16 bits. Stored numbers are limited to
+// this, so that sums of them do not overflow.
 constexpr long kFarthest = 32767;
 
-/// Returns the window's rectangle on the screen.
-///
-/// If the top-level window is not shown yet, the toolkit cannot find this rectangle, and logs an error. In that case,
-/// this function adds up the positions of the window and its ancestors. Only the decorations are missing in the sum.
+// Returns the window's rectangle on the screen.
+//
+// If the top-level window is not shown yet, the toolkit cannot find this rectangle, and logs an error. In that case,
+// this function adds up the positions of the window and its ancestors. Only the decorations are missing in the sum.
 wxRect ScreenRect(wxWindow& window)
 {
     if (wxGetTopLevelParent(&window)->IsShown())
@@ -30,11 +30,11 @@ wxRect ScreenRect(wxWindow& window)
     return rect;
 }
 
-/// Returns the number of the display that shows most of the window; wxNOT_FOUND when no display shows any part of it.
-///
-/// Uses wxDisplay::GetFromWindow() only to recognise a window that is not created yet. The display that GetFromWindow()
-/// returns may be wrong. It returns a display even for a window that is far away from all displays. For a hidden window
-/// that was moved, it uses the place before the move.
+// Returns the number of the display that shows most of the window; wxNOT_FOUND when no display shows any part of it.
+//
+// Uses wxDisplay::GetFromWindow() only to recognise a window that is not created yet. The display that GetFromWindow()
+// returns may be wrong. It returns a display even for a window that is far away from all displays. For a hidden window
+// that was moved, it uses the place before the move.
 int DisplayOf(wxWindow& window)
 {
     if (wxDisplay::GetFromWindow(&window) == wxNOT_FOUND)
@@ -53,8 +53,8 @@ int DisplayOf(wxWindow& window)
     return best;
 }
 
-/// Returns the part of @a rect that lies in @a area. A rectangle wholly outside the area, for example under a panel of
-/// the desktop, is moved into the area, and made smaller if it is larger than the area.
+// Returns the part of @a rect that lies in @a area. A rectangle wholly outside the area, for example under a panel of
+// the desktop, is moved into the area, and made smaller if it is larger than the area.
 wxRect FitInto(const wxRect& area, const wxRect& rect)
 {
     const wxRect common = area.Intersect(rect);
@@ -66,8 +66,8 @@ wxRect FitInto(const wxRect& area, const wxRect& rect)
                   size);
 }
 
-/// Brings a window into the work area of its display. A window that is on no display is first moved to (0, 0). Returns
-/// false if it is on no display even there.
+// Brings a window into the work area of its display. A window that is on no display is first moved to (0, 0). Returns
+// false if it is on no display even there.
 bool BringOntoDisplay(wxWindow& window)
 {
     if (DisplayOf(window) == wxNOT_FOUND)

@@ -23,12 +23,12 @@ constexpr wchar_t kMaximizedSection[] = L"wxWindowMaximize";
 constexpr wchar_t kLayoutFile[] = L"wxAuiManagerState.ini";
 constexpr wchar_t kLayoutSection[] = L"wxAuiManagerState";
 
-/// If the reference of MoveWindowToRightCorner() is narrower than this, in pixels, half of the window extends past the
-/// reference's right edge.
+// If the reference of MoveWindowToRightCorner() is narrower than this, in pixels, half of the window extends past the
+// reference's right edge.
 constexpr int kWideReference = 800;
 
-/// Reads "x;y;width;height" as scanf's "%d;%d;%d;%d" does: blanks before a number and any text after the last number
-/// are allowed. ToPixels() limits each number, even a number that is too large for scanf.
+// Reads "x;y;width;height" as scanf's "%d;%d;%d;%d" does: blanks before a number and any text after the last number
+// are allowed. ToPixels() limits each number, even a number that is too large for scanf.
 std::optional<wxRect> ParseGeometry(const std::wstring& text)
 {
     int fields[4];
@@ -45,8 +45,8 @@ std::optional<wxRect> ParseGeometry(const std::wstring& text)
     return wxRect(fields[0], fields[1], fields[2], fields[3]);
 }
 
-/// Post() makes a handler and posts an event to the frame. When the event arrives, the handler maximises the frame and
-/// deletes itself. If the frame is destroyed first, the handler leaks.
+// Post() makes a handler and posts an event to the frame. When the event arrives, the handler maximises the frame and
+// deletes itself. If the frame is destroyed first, the handler leaks.
 class wxMaximizeEvtHandler : public wxEvtHandler
 {
 public:

@@ -34,7 +34,7 @@ bool TakeSign(std::string_view& text)
     return negative;
 }
 
-/// Returns the value of an exponent's digits, at most kMostExponent.
+// Returns the value of an exponent's digits, at most kMostExponent.
 std::int64_t ExponentOf(std::string_view digits)
 {
     std::int64_t value = 0;
@@ -43,7 +43,7 @@ std::int64_t ExponentOf(std::string_view digits)
     return value;
 }
 
-/// Adds one to the last digit. If all digits are 9, also puts a 1 before the digits and returns true.
+// Adds one to the last digit. If all digits are 9, also puts a 1 before the digits and returns true.
 bool Increment(std::string& digits)
 {
     for (auto at = digits.rbegin(); at != digits.rend(); ++at) {
@@ -57,16 +57,16 @@ bool Increment(std::string& digits)
     return true;
 }
 
-/// Returns the index in number.digits at which the digits must be cut off to keep @a decimals digits after the point.
-/// The index may be negative or beyond the end.
+// Returns the index in number.digits at which the digits must be cut off to keep @a decimals digits after the point.
+// The index may be negative or beyond the end.
 std::int64_t DigitsKept(const Decimal& number, std::int64_t decimals)
 {
     return number.point + std::clamp(decimals, -kMostExponent, kMostExponent);
 }
 
-/// Returns the digits between the places @a top and @a bottom, with zeros where the number has no digits. All digits of
-/// the number must be between these places. A place is a gap between two digits: place 0 is the decimal point, place 1
-/// is one digit to its left, and place -1 is one digit to its right.
+// Returns the digits between the places @a top and @a bottom, with zeros where the number has no digits. All digits of
+// the number must be between these places. A place is a gap between two digits: place 0 is the decimal point, place 1
+// is one digit to its left, and place -1 is one digit to its right.
 std::string DigitsBetween(const Decimal& number, std::int64_t top, std::int64_t bottom)
 {
     std::string result(static_cast<std::size_t>(top - bottom), '0');
@@ -79,7 +79,7 @@ std::int64_t LowestPlace(const Decimal& number)
     return number.point - static_cast<std::int64_t>(number.digits.size());
 }
 
-/// Subtracts @a less from @a digits. The texts must have the same length, and @a less must not be the larger number.
+// Subtracts @a less from @a digits. The texts must have the same length, and @a less must not be the larger number.
 std::string Difference(std::string digits, const std::string& less)
 {
     int borrowed = 0;

@@ -14,8 +14,8 @@ namespace {
 
 using fittings::Decimal;
 
-/// Returns the decimal text of a field; empty for an empty field. Returns nothing if the field's text is not
-/// acceptable.
+// Returns the decimal text of a field; empty for an empty field. Returns nothing if the field's text is not
+// acceptable.
 std::optional<std::string> DecimalIn(wxWindow* window, const CNumberFormat& format)
 {
     if (const auto* const control = dynamic_cast<const wxNumberCtrl*>(window))
@@ -32,9 +32,9 @@ std::optional<std::string> DecimalIn(wxWindow* window, const CNumberFormat& form
     return fittings::DecimalTextOf(*plain, format.m_chDecimalPoint);
 }
 
-/// Returns the text to show for a variable; empty for an empty wxString. Returns nothing if there is no variable, or if
-/// the variable's value is not a number.
-/// @{
+// Returns the text to show for a variable; empty for an empty wxString. Returns nothing if there is no variable, or if
+// the variable's value is not a number.
+// @{
 std::optional<std::string> TextOf(const std::monostate&)
 {
     return std::nullopt;
@@ -57,10 +57,10 @@ std::optional<std::string> TextOf(const wxString* value)
     std::string text = value->utf8_string();
     return text.empty() || fittings::ParseDecimal(text) ? std::optional(text) : std::nullopt;
 }
-/// @}
+// @}
 
-/// Returns whether the number in @a text fits in a variable. If the number fits and @a store is true, stores it.
-/// @{
+// Returns whether the number in @a text fits in a variable. If the number fits and @a store is true, stores it.
+// @{
 bool Take(const std::string&, std::monostate, bool)
 {
     return true;
@@ -91,7 +91,7 @@ bool Take(const std::string& text, wxString* variable, bool store)
         *variable = text;
     return true;
 }
-/// @}
+// @}
 
 }  // namespace
 

@@ -30,7 +30,7 @@ wxEND_EVENT_TABLE()
 
 namespace {
 
-/// Returns the locale that the user has chosen for numbers.
+// Returns the locale that the user has chosen for numbers.
 wxUILocale NumbersLocale()
 {
     for (const char* const name : {"LC_ALL", "LC_NUMERIC"}) {
@@ -49,8 +49,8 @@ wchar_t FirstCharacter(const wxString& text)
     return text.empty() ? L'\0' : static_cast<wchar_t>(text[0].GetValue());
 }
 
-/// Returns the insertion to make; nothing if the insertion is refused. If wxNumberCtrl::SetMaxLength() is the reason,
-/// sends wxEVT_TEXT_MAXLEN.
+// Returns the insertion to make; nothing if the insertion is refused. If wxNumberCtrl::SetMaxLength() is the reason,
+// sends wxEVT_TEXT_MAXLEN.
 std::optional<NumberEntry::Insertion> Accepted(wxNumberCtrl& control, const NumberField& field,
                                                const NumberEntry::Insertion& insertion)
 {
@@ -280,8 +280,8 @@ void wxNumberCtrl::OnPaste(wxClipboardTextEvent& event)
         m_field->entry->Take(pasted);
 }
 
-/// After the current event, shows the plain number if `awaitsPlain` is true. Otherwise formats the text, unless the
-/// field shows the plain number.
+// After the current event, shows the plain number if `awaitsPlain` is true. Otherwise formats the text, unless the
+// field shows the plain number.
 void wxNumberCtrl::SettleSoon()
 {
     m_field->entry->Soon([this] {
@@ -318,7 +318,7 @@ void wxNumberCtrl::ShowFormatted()
     ShowText(m_field->shown, m_field->mapped);
 }
 
-/// Shows the number in another form. No event is sent, and the modified state does not change.
+// Shows the number in another form. No event is sent, and the modified state does not change.
 void wxNumberCtrl::ShowText(const std::wstring& text, const std::pair<long, long>& selection)
 {
     if (wxTextCtrl::DoGetValue() == text)
@@ -332,8 +332,8 @@ void wxNumberCtrl::ShowText(const std::wstring& text, const std::pair<long, long
     SetSelection(selection.first, selection.second);
 }
 
-/// Sets the plain text. If @a byUser is true, the user has made a step: then the function also sends events and marks
-/// the field as modified.
+// Sets the plain text. If @a byUser is true, the user has made a step: then the function also sends events and marks
+// the field as modified.
 void wxNumberCtrl::SetPlain(const std::wstring& plain, bool byUser)
 {
     const wxWeakRef<wxWindow> self(this);
@@ -380,7 +380,7 @@ void wxNumberCtrl::TellNumber()
     HandleWindowEvent(event);
 }
 
-/// Shows the problem of the text. If the text has no problem, stops showing an earlier problem.
+// Shows the problem of the text. If the text has no problem, stops showing an earlier problem.
 void wxNumberCtrl::TellProblem()
 {
     const wxString problem = GetProblem();

@@ -13,8 +13,8 @@ using fittings::NumberField;
 
 namespace {
 
-/// Stores the number of a plain text in a variable. Returns false and leaves the variable alone if there is no number
-/// or the number does not fit in the variable.
+// Stores the number of a plain text in a variable. Returns false and leaves the variable alone if there is no number
+// or the number does not fit in the variable.
 template <typename Number>
 bool StoreNumber(const std::wstring& plain, const NumberField& field, Number* variable)
 {
@@ -29,8 +29,8 @@ bool StoreNumber(const std::wstring& plain, const NumberField& field, Number* va
     return result.has_value();
 }
 
-/// Reads a bound. If the text is neither empty nor a number, the outer optional is empty. If the text is empty, there
-/// is no bound: only the inner optional is empty.
+// Reads a bound. If the text is neither empty nor a number, the outer optional is empty. If the text is empty, there
+// is no bound: only the inner optional is empty.
 std::optional<std::optional<Decimal>> ParsedBound(const wxString& text)
 {
     if (text.empty())

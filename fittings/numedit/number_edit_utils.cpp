@@ -36,7 +36,7 @@ bool IsExponentLetter(wchar_t c)
     return c == L'e' || c == L'E';
 }
 
-/// Returns the end of the digits that @a text begins with.
+// Returns the end of the digits that @a text begins with.
 const wchar_t* AfterDigits(const wchar_t* text)
 {
     while (IsDigit(*text))
@@ -44,11 +44,11 @@ const wchar_t* AfterDigits(const wchar_t* text)
     return text;
 }
 
-/// Stores in @a result a copy of @a text in which @a to replaces each @a from. Returns false and stores nothing if
-/// there is nothing to replace.
-///
-/// One of @a from and @a to is the locale's point. It is empty if it cannot be converted to wide text: nothing is
-/// replaced then. Usually @a from and @a to are the same character: then the function returns without a search.
+// Stores in @a result a copy of @a text in which @a to replaces each @a from. Returns false and stores nothing if
+// there is nothing to replace.
+//
+// One of @a from and @a to is the locale's point. It is empty if it cannot be converted to wide text: nothing is
+// replaced then. Usually @a from and @a to are the same character: then the function returns without a search.
 bool ReplacePoint(std::wstring& result, const wchar_t* text, std::wstring_view from, std::wstring_view to)
 {
     if (from.empty() || to.empty() || (from.size() == 1 && to.size() == 1 && from[0] == to[0]))
@@ -96,7 +96,7 @@ void AppendWithoutZeros(std::wstring& result, std::wstring_view text, wchar_t po
     result.append(mantissa).append(text, exponent, text.npos);
 }
 
-/// Groups the digits of the number between @a begin and @a end of @a text. Returns the new end of the number.
+// Groups the digits of the number between @a begin and @a end of @a text. Returns the new end of the number.
 std::size_t Group(std::wstring& text, std::size_t begin, std::size_t end, const CNumberFormat& format)
 {
     const std::wstring_view number = std::wstring_view(text).substr(begin, end - begin);
@@ -116,8 +116,8 @@ std::size_t Group(std::wstring& text, std::size_t begin, std::size_t end, const 
     return end;
 }
 
-/// If the number between @a begin and @a end of @a text contains L'\0', cuts off the number there. Returns the new end
-/// of the number.
+// If the number between @a begin and @a end of @a text contains L'\0', cuts off the number there. Returns the new end
+// of the number.
 std::size_t CutAtZeroCharacter(std::wstring& text, std::size_t begin, std::size_t end)
 {
     const std::size_t zero = text.find(L'\0', begin);
@@ -151,8 +151,8 @@ bool IsExponent(const wchar_t* text)
     return *AfterDigits(text) == L'\0';
 }
 
-/// Returns whether @a text, with @a point as its decimal point, is a number or the beginning of a number, whatever its
-/// value.
+// Returns whether @a text, with @a point as its decimal point, is a number or the beginning of a number, whatever its
+// value.
 bool IsNumber(const wchar_t* text, wchar_t point, const CNumberFormat& format)
 {
     const wchar_t* const begin = format.m_bAllowSign && IsSign(*text) ? text + 1 : text;
@@ -176,7 +176,7 @@ bool IsNumber(const wchar_t* text, wchar_t point, const CNumberFormat& format)
     return at != begin && format.m_bAllowExponent && IsExponent(at);
 }
 
-/// Adds one to the last digit of a number. Returns whether the carry needs another digit in front.
+// Adds one to the last digit of a number. Returns whether the carry needs another digit in front.
 bool CarriesOver(wchar_t* begin, wchar_t* end)
 {
     while (end != begin) {
@@ -192,7 +192,7 @@ bool CarriesOver(wchar_t* begin, wchar_t* end)
     return true;
 }
 
-/// Converts the typed text of a number to the shown text, in a single buffer.
+// Converts the typed text of a number to the shown text, in a single buffer.
 class ShownNumber
 {
 public:
@@ -206,14 +206,14 @@ private:
     void Pad(bool hasPoint, std::size_t decimals);
     void KeepExponentAlone();
     void PutMinus();
-    /// Returns the index after the digits that begin at @a at.
+    // Returns the index after the digits that begin at @a at.
     std::size_t DigitsEnd(std::size_t at) const { return AfterDigits(m_text.c_str() + at) - m_text.c_str(); }
 
     const CNumberFormat& m_format;
     std::wstring m_text;
-    std::size_t m_begin;     ///< the beginning of the mantissa after its sign; PutMinus() moves it to a leading minus
-    std::size_t m_end = 0;   ///< the end of the shown part of the mantissa
-    std::size_t m_read = 0;  ///< the end of the mantissa
+    std::size_t m_begin;     // the beginning of the mantissa after its sign; PutMinus() moves it to a leading minus
+    std::size_t m_end = 0;   // the end of the shown part of the mantissa
+    std::size_t m_read = 0;  // the end of the mantissa
 };
 
 ShownNumber::ShownNumber(std::wstring_view typed, const CNumberFormat& format) : m_format(format)
@@ -252,7 +252,7 @@ void ShownNumber::ReadMantissa()
         Pad(hasPoint, decimals);
 }
 
-/// Rounds the fraction, which begins at @a fraction, to the decimals of the format.
+// Rounds the fraction, which begins at @a fraction, to the decimals of the format.
 void ShownNumber::Round(std::size_t fraction)
 {
     m_end = fraction + std::min<std::uint64_t>(m_read - fraction, m_format.m_nDecimals);
@@ -262,8 +262,8 @@ void ShownNumber::Round(std::size_t fraction)
         --m_end;
 }
 
-/// Appends zeros until the number has as many decimals as the format, but at most kMostPadding zeros. If the number has
-/// no point, appends the point first. The text must end with the number.
+// Appends zeros until the number has as many decimals as the format, but at most kMostPadding zeros. If the number has
+// no point, appends the point first. The text must end with the number.
 void ShownNumber::Pad(bool hasPoint, std::size_t decimals)
 {
     if (!hasPoint)
@@ -272,7 +272,7 @@ void ShownNumber::Pad(bool hasPoint, std::size_t decimals)
     m_end = m_read = m_text.size();
 }
 
-/// Removes everything after the shown mantissa except an exponent.
+// Removes everything after the shown mantissa except an exponent.
 void ShownNumber::KeepExponentAlone()
 {
     std::size_t end = m_read;

@@ -33,7 +33,7 @@ bool IsDigit(wchar_t c)
     return c >= L'0' && c <= L'9';
 }
 
-/// Returns how many digits follow the point.
+// Returns how many digits follow the point.
 std::int64_t DecimalsIn(const std::wstring& text, wchar_t point)
 {
     const std::size_t found = text.find(point);
@@ -43,14 +43,14 @@ std::int64_t DecimalsIn(const std::wstring& text, wchar_t point)
     return std::find_if_not(begin, text.end(), IsDigit) - begin;
 }
 
-/// A place in a number: its side of the decimal point, and the number of digits between the place and the point.
+// A place in a number: its side of the decimal point, and the number of digits between the place and the point.
 struct Offset
 {
     bool inFraction;
     long digits;
 };
 
-/// Returns the place of the decimal point in a text. Without a point, returns the place where the point would be.
+// Returns the place of the decimal point in a text. Without a point, returns the place where the point would be.
 std::size_t PointIn(const std::wstring& text, wchar_t point)
 {
     const std::size_t found = text.find(point);

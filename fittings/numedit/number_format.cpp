@@ -6,7 +6,7 @@
 
 namespace {
 
-/// Returns the first character of a text of localeconv(). Returns 0 if the text is empty or cannot be converted.
+// Returns the first character of a text of localeconv(). Returns 0 if the text is empty or cannot be converted.
 wchar_t FirstCharacter(const char* text)
 {
     const std::wstring wide = fittings::FromLocale(text);

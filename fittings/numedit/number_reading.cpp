@@ -14,8 +14,8 @@ bool IsDigit(wchar_t c)
     return c >= L'0' && c <= L'9';
 }
 
-/// Returns whether a character is a blank. Accepts the no-break spaces too, which iswspace() does not accept: many
-/// languages put them between groups of digits.
+// Returns whether a character is a blank. Accepts the no-break spaces too, which iswspace() does not accept: many
+// languages put them between groups of digits.
 bool IsBlank(wchar_t c)
 {
     return std::iswspace(static_cast<std::wint_t>(c)) || c == L'\u00A0' || c == L'\u2007' || c == L'\u202F';
@@ -30,7 +30,7 @@ std::wstring_view Trimmed(std::wstring_view text)
     return text;
 }
 
-/// The parts of a template before and after its %s, each without blanks at its ends.
+// The parts of a template before and after its %s, each without blanks at its ends.
 struct Around
 {
     std::wstring before;
@@ -66,7 +66,7 @@ std::wstring_view WithoutTemplate(std::wstring_view text, const CNumberFormat& f
     return text;
 }
 
-/// Replaces each minus sign U+2212 by "-". If a minus follows the mantissa, moves that minus to the front.
+// Replaces each minus sign U+2212 by "-". If a minus follows the mantissa, moves that minus to the front.
 std::wstring WithMinusInFront(std::wstring_view text)
 {
     std::wstring result(text);
@@ -84,8 +84,8 @@ bool IsSeparator(wchar_t c, wchar_t separator)
     return separator != 0 && (c == separator || (IsBlank(c) && IsBlank(separator)));
 }
 
-/// Removes the separators. Returns false if they do not separate groups of three digits. The first group may have one,
-/// two or three digits.
+// Removes the separators. Returns false if they do not separate groups of three digits. The first group may have one,
+// two or three digits.
 bool Ungroup(std::wstring& text, const CNumberFormat& format)
 {
     const wchar_t separator = format.m_chThousandsSep;

@@ -17,7 +17,7 @@ bool IsSign(wchar_t c)
     return c == L'-' || c == L'+';
 }
 
-/// The parts of a number that have been typed so far.
+// The parts of a number that have been typed so far.
 struct Typed
 {
     wchar_t sign = 0;
@@ -86,7 +86,7 @@ std::optional<Decimal> ValueOf(const Typed& typed)
     return ParseDecimal(text);
 }
 
-/// The numbers of one sign within the bounds, as a range of absolute values.
+// The numbers of one sign within the bounds, as a range of absolute values.
 struct Span
 {
     Decimal low;
@@ -112,8 +112,8 @@ std::optional<Span> SpanOf(bool negative, const NumberRules& rules)
     return span;
 }
 
-/// Returns whether the span has a number that is at least @a begin, is less than @a end, and has at most @a decimals
-/// decimals.
+// Returns whether the span has a number that is at least @a begin, is less than @a end, and has at most @a decimals
+// decimals.
 bool Meets(const Decimal& begin, const std::optional<Decimal>& end, const Span& span, std::int64_t decimals)
 {
     Decimal low = RoundedUp(span.low, decimals);
@@ -127,7 +127,7 @@ bool Meets(const Decimal& begin, const std::optional<Decimal>& end, const Span& 
     return Compare(low, high) <= 0 && Compare(begin, high) <= 0;
 }
 
-/// Returns whether the typed number, which has no exponent, is in the span or can get there with more digits.
+// Returns whether the typed number, which has no exponent, is in the span or can get there with more digits.
 bool GrowsInto(const Span& span, const Typed& typed, const NumberRules& rules)
 {
     if (typed.hasPoint) {
@@ -150,8 +150,8 @@ bool GrowsInto(const Span& span, const Typed& typed, const NumberRules& rules)
     return false;
 }
 
-/// Returns whether the span has a number that begins with @a digits and has at most @a more digits after them. The
-/// point may be at any place. The first of @a digits must not be a zero.
+// Returns whether the span has a number that begins with @a digits and has at most @a more digits after them. The
+// point may be at any place. The first of @a digits must not be a zero.
 bool HasWithDigits(const Span& span, const std::string& digits, std::int64_t more)
 {
     if (span.high && span.high->IsZero())
@@ -166,7 +166,7 @@ bool HasWithDigits(const Span& span, const std::string& digits, std::int64_t mor
     return false;
 }
 
-/// Returns whether the typed number, which has no exponent yet, can get into the span with more digits and an exponent.
+// Returns whether the typed number, which has no exponent yet, can get into the span with more digits and an exponent.
 bool ScalesInto(const Span& span, const Typed& typed, const NumberRules& rules)
 {
     const std::int64_t more =
@@ -184,7 +184,7 @@ bool ScalesInto(const Span& span, const Typed& typed, const NumberRules& rules)
     return false;
 }
 
-/// Returns whether the typed number can get into the span with an exponent that begins with the typed exponent.
+// Returns whether the typed number can get into the span with an exponent that begins with the typed exponent.
 bool ExponentLeadsInto(const Span& span, const Typed& typed)
 {
     const Decimal number = MakeDecimal(typed.Digits(), typed.Integers());

@@ -13,7 +13,7 @@ namespace {
 
 constexpr wchar_t kStateSection[] = L"TreeControlState";
 
-/// Less than the height of any text. The toolkit raises the row height to fit the highest item.
+// Less than the height of any text. The toolkit raises the row height to fit the highest item.
 constexpr int kLeastRowHeight = 10;
 
 // Shows the busy cursor in the whole application, because no window responds while a tree is filled.

@@ -4,8 +4,8 @@
 
 namespace {
 
-/// Returns whether a printf format has one `%s` and no other conversion. A format with more conversions would read
-/// arguments that do not exist.
+// Returns whether a printf format has one `%s` and no other conversion. A format with more conversions would read
+// arguments that do not exist.
 bool TakesOneText(const wxString& format)
 {
     wxString rest = format;

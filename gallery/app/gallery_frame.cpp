@@ -108,7 +108,7 @@ wxMenu* GalleryFrame::MakeViewMenu() const
     return view;
 }
 
-/// Makes the menus' keys work in a floating pane, which is a window of its own.
+// Makes the menus' keys work in a floating pane, which is a window of its own.
 void GalleryFrame::ShareMenuKeys(wxWindow* pane)
 {
     std::vector<wxAcceleratorEntry> keys;
@@ -162,7 +162,7 @@ bool GalleryFrame::ShowsBrowser() const
     return m_pages->GetCurrentPage() == m_browser;
 }
 
-/// Selects a page and restores the focus in it. A negative index, or the index of the selected page, changes nothing.
+// Selects a page and restores the focus in it. A negative index, or the index of the selected page, changes nothing.
 void GalleryFrame::ShowPage(int index)
 {
     if (index < 0 || index == m_pages->GetSelection())
@@ -171,8 +171,8 @@ void GalleryFrame::ShowPage(int index)
     m_pages->GetCurrentPage()->SetFocus();
 }
 
-/// Adds the browser's root folder to the recent folders. Updates the title, the status texts and the menus for the
-/// selected page.
+// Adds the browser's root folder to the recent folders. Updates the title, the status texts and the menus for the
+// selected page.
 void GalleryFrame::ShowState()
 {
     if (!m_browser->GetTree()->GetRootFolder().empty())
@@ -214,8 +214,8 @@ void GalleryFrame::OnPageChanged(wxBookCtrlEvent& event)
     event.Skip();
 }
 
-/// Activates the menu or the mnemonic of a key with Alt before the focused control gets the key. Otherwise a focused
-/// number field would refuse the letter, and the key would have no effect.
+// Activates the menu or the mnemonic of a key with Alt before the focused control gets the key. Otherwise a focused
+// number field would refuse the letter, and the key would have no effect.
 void GalleryFrame::OnCharHook(wxKeyEvent& event)
 {
     const std::unique_ptr<GdkEvent, void (*)(GdkEvent*)> key(gtk_get_current_event(), gdk_event_free);

@@ -33,7 +33,7 @@ struct CommandLine
     bool good = true;
 };
 
-/// Parses the program's arguments. The folder stays a string of bytes, because its name need not be valid text.
+// Parses the program's arguments. The folder stays a string of bytes, because its name need not be valid text.
 CommandLine Parse(int count, char** arguments)
 {
     CommandLine line;
@@ -53,9 +53,9 @@ CommandLine Parse(int count, char** arguments)
 
 CommandLine g_line;
 
-/// Ends the program when it receives a signal such as SIGTERM: cancels the open dialogs, the latest first, and then
-/// closes the window, which stores its state. The window is closed last, because the code that opened a dialog still
-/// uses the window.
+// Ends the program when it receives a signal such as SIGTERM: cancels the open dialogs, the latest first, and then
+// closes the window, which stores its state. The window is closed last, because the code that opened a dialog still
+// uses the window.
 class Stop : public wxModalDialogHook
 {
 public:

@@ -47,7 +47,7 @@ wxString ReasonText(int error)
     return wxString::FromUTF8(g_strerror(error));
 }
 
-/// Returns a text such as "12 items, 1.2 MB (1,234,567 bytes) in 9 files".
+// Returns a text such as "12 items, 1.2 MB (1,234,567 bytes) in 9 files".
 wxString Summary(const std::vector<Entry>& entries)
 {
     std::size_t files = 0;
@@ -66,8 +66,8 @@ wxString Summary(const std::vector<Entry>& entries)
     return text;
 }
 
-/// Returns where a window is according to GDK. Until the window manager has put a frame around a new window, the
-/// toolkit may report the corner of the screen.
+// Returns where a window is according to GDK. Until the window manager has put a frame around a new window, the
+// toolkit may report the corner of the screen.
 wxPoint PlaceOf(const wxFrame& window)
 {
     return FrameRect(window.GetHandle()).GetPosition();
@@ -367,7 +367,7 @@ void BrowserPage::OpenRoot(const std::string& path)
     ShowFolder(m_tree->GetSelectedPath());
 }
 
-/// Stores the settings that belong to the current root.
+// Stores the settings that belong to the current root.
 void BrowserPage::RememberRoot()
 {
     const std::string& root = m_tree->GetRootFolder();
@@ -400,8 +400,8 @@ void BrowserPage::ShowFolder(const std::string& path)
     TellChange();
 }
 
-/// Shows the selected folder in a colour, in the tree and in the line with its path. If @a colour is invalid, shows it
-/// without a colour.
+// Shows the selected folder in a colour, in the tree and in the line with its path. If @a colour is invalid, shows it
+// without a colour.
 void BrowserPage::ShowColour(const wxColour& colour)
 {
     m_tree->ShowColour(colour);

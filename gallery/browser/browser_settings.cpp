@@ -19,7 +19,7 @@ constexpr const wchar_t* kSelectedSection = L"SelectedFolder";
 constexpr const wchar_t* kColourSection = L"FolderColours";
 constexpr std::size_t kRememberedRoots = 50;
 
-/// Returns the stored root folders as texts, the latest first.
+// Returns the stored root folders as texts, the latest first.
 std::vector<std::wstring> LoadRoots()
 {
     std::vector<std::wstring> roots;

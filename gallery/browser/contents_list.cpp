@@ -24,8 +24,8 @@ unsigned IndexOf(SortColumn column)
     return static_cast<unsigned>(column);
 }
 
-/// Puts @a pixels of space on both sides of each cell, so that the texts line up with their header. Shortens long texts
-/// in the middle.
+// Puts @a pixels of space on both sides of each cell, so that the texts line up with their header. Shortens long texts
+// in the middle.
 void Space(GtkTreeViewColumn* column, int pixels)
 {
     GList* cells = gtk_cell_layout_get_cells(GTK_CELL_LAYOUT(column));
@@ -68,8 +68,8 @@ public:
         Reset(static_cast<unsigned>(m_positions.size()));
     }
 
-    /// Removes the rows of the entries that are now known to be too small. Does not call Reset(): after a reset, GTK
-    /// redraws the list with a delay.
+    // Removes the rows of the entries that are now known to be too small. Does not call Reset(): after a reset, GTK
+    // redraws the list with a delay.
     void RemoveSmallOnes()
     {
         wxArrayInt rows;
@@ -82,7 +82,7 @@ public:
             RowsDeleted(rows);
     }
 
-    /// Sets the size of a folder. The list shows the size when it draws the folder's row again.
+    // Sets the size of a folder. The list shows the size when it draws the folder's row again.
     void SetFolderSize(const std::string& name, std::uint64_t size)
     {
         if (m_folders.empty()) {
@@ -98,7 +98,7 @@ public:
         }
     }
 
-    /// Changes only the order of the rows. The caller must redraw them.
+    // Changes only the order of the rows. The caller must redraw them.
     void Sort(SortOrder order)
     {
         m_sorted = SortedPositions(m_entries, order);
@@ -129,7 +129,7 @@ public:
     bool SetValueByRow(const wxVariant&, unsigned, unsigned) override { return false; }
 
 private:
-    /// Returns the positions of the entries that are large enough to be shown, in the current order.
+    // Returns the positions of the entries that are large enough to be shown, in the current order.
     std::vector<std::uint32_t> LargeOnes() const
     {
         std::vector<std::uint32_t> positions;
@@ -163,9 +163,9 @@ private:
 
     std::vector<Entry> m_entries;
     std::vector<std::uint32_t> m_sorted;
-    std::vector<std::uint32_t> m_positions;  ///< The elements of m_sorted that are shown.
+    std::vector<std::uint32_t> m_positions;  // The elements of m_sorted that are shown.
     std::uint64_t m_minimum = 0;
-    /// Maps the name of a folder to its index in m_entries. SetFolderSize() fills it.
+    // Maps the name of a folder to its index in m_entries. SetFolderSize() fills it.
     std::unordered_map<std::string_view, std::size_t> m_folders;
     wxBitmapBundle m_folder, m_file, m_program, m_link;
 };
@@ -285,14 +285,14 @@ void ContentsList::SortBy(SortOrder order)
     Refresh();
 }
 
-/// Sorts by @a column in the order that its header shows; null changes nothing.
+// Sorts by @a column in the order that its header shows; null changes nothing.
 void ContentsList::SortByColumn(const wxDataViewColumn* column)
 {
     if (column)
         SortBy({static_cast<SortColumn>(column->GetModelColumn()), column->IsSortOrderAscending()});
 }
 
-/// Puts the arrow into the header of the column that the rows are sorted by.
+// Puts the arrow into the header of the column that the rows are sorted by.
 void ContentsList::ShowOrder()
 {
     GetColumn(IndexOf(m_order.column))->SetSortOrder(m_order.ascending);

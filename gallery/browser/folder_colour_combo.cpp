@@ -7,8 +7,8 @@ namespace gallery {
 class FolderColourCombo::ColourPopup : public wxColourPopup
 {
 public:
-    /// Returns the colour that the folder gets if the user chooses the hot cell; invalid for "Automatic". @a colour is
-    /// the colour that the popup reports. @a own is the folder's current colour.
+    // Returns the colour that the folder gets if the user chooses the hot cell; invalid for "Automatic". @a colour is
+    // the colour that the popup reports. @a own is the folder's current colour.
     wxColour FolderColour(const wxColour& colour, const wxColour& own) const
     {
         if (m_nCurrentSel == CELL_AUTOMATIC)

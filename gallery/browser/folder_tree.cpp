@@ -18,13 +18,13 @@ namespace gallery {
 
 namespace {
 
-/// Returns an image in the resolution of the screen that shows @a window.
+// Returns an image in the resolution of the screen that shows @a window.
 wxBitmap Icon(const wxArtID& id, const wxWindow* window)
 {
     return wxArtProvider::GetBitmapBundle(id, wxART_OTHER, wxSize(16, 16)).GetBitmapFor(window);
 }
 
-/// Returns the parent folder. For "/", returns "/".
+// Returns the parent folder. For "/", returns "/".
 std::string ParentPath(const std::string& path)
 {
     const std::size_t slash = path.rfind('/');
@@ -196,7 +196,7 @@ void FolderTree::Fill(const wxTreeItemId& item)
         Refill(item);
 }
 
-/// Makes the children of an item match the file system, in sorted order.
+// Makes the children of an item match the file system, in sorted order.
 void FolderTree::Refill(const wxTreeItemId& item)
 {
     const wxWindowUpdateLocker frozen(this);
@@ -222,7 +222,7 @@ void FolderTree::Refill(const wxTreeItemId& item)
     SetItemHasChildren(item, !subfolders.empty());
 }
 
-/// Sets the data, the images, the colour and the button of a folder's item.
+// Sets the data, the images, the colour and the button of a folder's item.
 void FolderTree::Dress(const wxTreeItemId& item, const Subfolder& folder)
 {
     wxTreeCursor cursor(this, item);
@@ -272,7 +272,7 @@ const std::string& FolderTree::NameOf(const wxTreeItemId& item) const
     return m_names[static_cast<std::size_t>(data->GetValue())];
 }
 
-/// Returns a path such as "/Photos/2026 Lake"; empty for the root.
+// Returns a path such as "/Photos/2026 Lake"; empty for the root.
 std::string FolderTree::PathBelowRoot(const wxTreeItemId& item) const
 {
     std::string path;

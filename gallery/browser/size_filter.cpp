@@ -18,8 +18,8 @@ namespace {
 
 constexpr int kBytesInMegabyte = 1000000;
 
-/// Returns a format for a number of megabytes. Nine integer digits allow sizes below one petabyte. Six decimals allow
-/// single bytes.
+// Returns a format for a number of megabytes. Nine integer digits allow sizes below one petabyte. Six decimals allow
+// single bytes.
 CNumberFormat MegabytesFormat()
 {
     CNumberFormat format = GroupingFormat();

@@ -100,7 +100,7 @@ SizeNews SizesRow::PassOnNews()
     return news;
 }
 
-/// Shows a text such as "8.7 GB in 171,661 items, 540,000 a second", and the progress in the bar.
+// Shows a text such as "8.7 GB in 171,661 items, 540,000 a second", and the progress in the bar.
 void SizesRow::ShowNumbers(const SizeNews& news, const wxString& state)
 {
     const double seconds = std::max(std::chrono::duration<double>(Clock::now() - m_start).count(), 1e-3);

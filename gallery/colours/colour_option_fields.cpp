@@ -22,7 +22,7 @@ namespace {
 
 constexpr int kFieldCharacters = 16;
 
-/// Makes the rows of several columns equally high, so that they line up.
+// Makes the rows of several columns equally high, so that they line up.
 void AlignRows(std::initializer_list<wxSizer*> grids)
 {
     int height = 0;
@@ -103,7 +103,7 @@ void ColourOptionFields::Arrange(int width)
     InvalidateBestSize();
 }
 
-/// Loads the options. An option whose stored value is missing or wrong keeps its default.
+// Loads the options. An option whose stored value is missing or wrong keeps its default.
 void ColourOptionFields::LoadSettings()
 {
     for (wxCheckBox* box : {m_hasAutomatic, m_hasMore, m_readOnly, m_refresh, m_centre, m_animate})
@@ -117,7 +117,7 @@ void ColourOptionFields::LoadSettings()
     m_default->SetColour(kColourSettings.LoadColour(m_default->GetName(), m_default->GetColour()));
 }
 
-/// Makes the controls for the two boxes, their texts and the default colour.
+// Makes the controls for the two boxes, their texts and the default colour.
 wxSizer* ColourOptionFields::MakeBoxes()
 {
     const ColourOptions first;
@@ -201,7 +201,7 @@ wxSpinCtrl* ColourOptionFields::MakeCount(const char* name, int first, int least
     return field;
 }
 
-/// Enables or disables the three fields that depend on a check box. Then sends EVT_COLOUR_OPTIONS_CHANGED.
+// Enables or disables the three fields that depend on a check box. Then sends EVT_COLOUR_OPTIONS_CHANGED.
 void ColourOptionFields::OnChange()
 {
     m_automatic->Enable(m_hasAutomatic->GetValue());

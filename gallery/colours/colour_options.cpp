@@ -9,7 +9,7 @@ namespace gallery {
 
 namespace {
 
-/// The least width of a cell without its margins, in pixels.
+// The least width of a cell without its margins, in pixels.
 constexpr int kSmallestSwatch = 7;
 
 class Popup : public wxColourPopup

@@ -24,7 +24,7 @@ namespace gallery {
 namespace {
 
 constexpr const char* kColourKey = "Colour";
-constexpr int kBlockHeight = 176;  ///< The height of the preview, and the least height of the list of events.
+constexpr int kBlockHeight = 176;  // The height of the preview, and the least height of the list of events.
 constexpr int kChoiceWidth = 180;
 constexpr int kPreviewWidth = 160;
 constexpr int kEventCharacters = 42;
@@ -34,7 +34,7 @@ constexpr int kMostEvents = 500;
 
 const wxColour kFirstColour(0, 0, 255);
 
-/// Returns a text such as "Blue #0000FF"; only the number for a colour without a name.
+// Returns a text such as "Blue #0000FF"; only the number for a colour without a name.
 wxString NameOf(const wxColour& colour, const wxString& separator)
 {
     const wxString number = colour.GetAsString(wxC2S_HTML_SYNTAX);
@@ -45,8 +45,8 @@ wxString NameOf(const wxColour& colour, const wxString& separator)
     return number;
 }
 
-/// Returns a square of @a colour. For an invalid colour, the square is transparent: without a picture in the first row,
-/// GTK would leave no room for the pictures in the other rows.
+// Returns a square of @a colour. For an invalid colour, the square is transparent: without a picture in the first row,
+// GTK would leave no room for the pictures in the other rows.
 wxBitmap SwatchOf(const wxColour& colour, int size)
 {
     wxImage swatch(size, size);
@@ -65,7 +65,7 @@ int HeaderHeight(const wxWindow* window)
     return std::max(window->FromDIP(28), window->GetCharHeight() + window->FromDIP(8));
 }
 
-/// Makes a row for a heading, as high as the "Clear" button.
+// Makes a row for a heading, as high as the "Clear" button.
 wxSizer* MakeHeader(wxStaticText* heading)
 {
     auto* header = new wxBoxSizer(wxHORIZONTAL);
@@ -116,7 +116,7 @@ void ColoursPage::SaveSettings() const
     kColourSettings.SaveColour(kColourKey, m_colour);
 }
 
-/// Makes the label of the combo; MakeCombo() puts the combo below it.
+// Makes the label of the combo; MakeCombo() puts the combo below it.
 wxSizer* ColoursPage::MakeChoice()
 {
     m_label = MakeHeading(this, "&Colour");
@@ -170,7 +170,7 @@ wxSizer* ColoursPage::MakeEvents()
     return rows;
 }
 
-/// Arranges the page for its width. The page scrolls when its contents are higher than the window.
+// Arranges the page for its width. The page scrolls when its contents are higher than the window.
 void ColoursPage::Arrange()
 {
     const int width = GetClientSize().x - FromDIP(kMargin);
@@ -178,7 +178,7 @@ void ColoursPage::Arrange()
     m_options->Arrange(width);
 }
 
-/// Makes a combo with the current options. Destroys the previous combo, if any.
+// Makes a combo with the current options. Destroys the previous combo, if any.
 void ColoursPage::MakeCombo()
 {
     if (m_combo) {

@@ -20,7 +20,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-/// The shown types, in the order of EntryKind.
+// The shown types, in the order of EntryKind.
 constexpr const char* kTypes[] = {"Folder", "File", "Link", "Pipe", "Socket", "Device", "Unknown"};
 
 EntryKind KindOfMode(mode_t mode)
@@ -52,9 +52,9 @@ bool IsFolder(int folder, const dirent& entry)
     return fstatat(folder, entry.d_name, &status, kLookAtLinks) == 0 && S_ISDIR(status.st_mode);
 }
 
-/// Returns a text such as "PNG file" for picture.png. Returns "Program" or "File" for a file without an extension. An
-/// extension has one to five ASCII letters and digits, at least one of them a letter. Its dot is not the first
-/// character of the name.
+// Returns a text such as "PNG file" for picture.png. Returns "Program" or "File" for a file without an extension. An
+// extension has one to five ASCII letters and digits, at least one of them a letter. Its dot is not the first
+// character of the name.
 std::string TypeOfFile(const std::string& name, bool executable)
 {
     const std::size_t dot = name.rfind('.');
@@ -77,7 +77,7 @@ std::string TargetOf(int folder, const char* name)
     return length > 0 ? std::string(target, static_cast<std::size_t>(length)) : std::string();
 }
 
-/// Fills in the kind, the type, the target, the size and the time. Returns 0, or the errno if fstatat() fails.
+// Fills in the kind, the type, the target, the size and the time. Returns 0, or the errno if fstatat() fails.
 int Describe(Entry& entry, int folder, const dirent& found)
 {
     struct stat status;
@@ -100,7 +100,7 @@ int Describe(Entry& entry, int folder, const dirent& found)
     return error;
 }
 
-/// Finds out whether a folder in @a parent can be read and whether it has a subfolder.
+// Finds out whether a folder in @a parent can be read and whether it has a subfolder.
 void LookInto(Subfolder& subfolder, int parent)
 {
     const Folder folder = OpenFolder(parent, subfolder.name.c_str(), O_NOFOLLOW);
@@ -116,7 +116,7 @@ void LookInto(Subfolder& subfolder, int parent)
     }
 }
 
-/// Returns @a name without case and accents. If @a name is not UTF-8, changes only the case of its ASCII letters.
+// Returns @a name without case and accents. If @a name is not UTF-8, changes only the case of its ASCII letters.
 std::string Folded(const std::string& name)
 {
     const bool ascii = std::all_of(name.begin(), name.end(), [](char c) { return static_cast<signed char>(c) >= 0; });

@@ -14,8 +14,8 @@ namespace gallery {
 
 namespace {
 
-/// The number of folders that stay open, counted upwards from the current folder. The folders above these are closed,
-/// and later opened again through "..".
+// The number of folders that stay open, counted upwards from the current folder. The folders above these are closed,
+// and later opened again through "..".
 constexpr std::size_t kMostOpen = 64;
 
 struct FileId
@@ -37,17 +37,17 @@ struct HashFileId
 struct Pending
 {
     std::string name;
-    std::uint64_t bytes;  ///< The size of the folder itself, without its contents.
+    std::uint64_t bytes;  // The size of the folder itself, without its contents.
 };
 
-/// A folder on the path from the top folder to the current folder.
+// A folder on the path from the top folder to the current folder.
 struct Level
 {
-    Folder folder;  ///< Null while it is closed to save descriptors.
-    FileId id{};    ///< Identifies the folder while it is closed.
+    Folder folder;  // Null while it is closed to save descriptors.
+    FileId id{};    // Identifies the folder while it is closed.
     std::vector<Pending> subfolders;
     std::size_t next = 0;
-    double start = 0;  ///< Where the folder's share of the progress begins, from 0 to 1.
+    double start = 0;  // Where the folder's share of the progress begins, from 0 to 1.
     double span = 1;
 
     double Share() const { return span / static_cast<double>(subfolders.size()); }
@@ -91,7 +91,7 @@ private:
         Finish();
     }
 
-    /// Reads a folder and makes it the current one.
+    // Reads a folder and makes it the current one.
     bool Enter(int parent, const char* name, double start, double span)
     {
         Folder folder = OpenFolder(parent, name, O_NOFOLLOW);
@@ -135,7 +135,7 @@ private:
         Finish();
     }
 
-    /// Counts the current subfolder as finished, and reports it if its parent is the top folder.
+    // Counts the current subfolder as finished, and reports it if its parent is the top folder.
     void Finish()
     {
         Level& level = m_levels.back();
@@ -178,8 +178,8 @@ private:
         }
     }
 
-    /// Opens the parent of @a below. Returns null if this fails, or if the parent is not the folder @a id, as after a
-    /// move.
+    // Opens the parent of @a below. Returns null if this fails, or if the parent is not the folder @a id, as after a
+    // move.
     static Folder Reopen(DIR* below, const FileId& id)
     {
         Folder folder = below ? OpenFolder(dirfd(below), "..") : nullptr;
@@ -191,7 +191,7 @@ private:
 
     SizeObserver& m_observer;
     FolderSum m_sum;
-    FolderSum m_before;  ///< The sum before the walk entered the current subfolder of the top folder.
+    FolderSum m_before;  // The sum before the walk entered the current subfolder of the top folder.
     double m_fraction = 0;
     bool m_goesOn = true;
     std::vector<Level> m_levels;

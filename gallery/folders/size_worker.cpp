@@ -4,7 +4,7 @@ namespace gallery {
 
 namespace {
 
-/// The time between two reports of progress. A person would not see more frequent reports.
+// The time between two reports of progress. A person would not see more frequent reports.
 constexpr std::chrono::milliseconds kNewsInterval(40);
 
 }  // namespace

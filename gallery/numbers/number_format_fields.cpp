@@ -108,7 +108,7 @@ wxString CodeOf(wchar_t character)
     return character == 0 ? wxString("none") : wxString::Format("U+%04X", static_cast<unsigned>(character));
 }
 
-/// Returns a format for numbers of any size, for the fields that set the bounds.
+// Returns a format for numbers of any size, for the fields that set the bounds.
 CNumberFormat BoundFormat()
 {
     CNumberFormat format(eLocaleFormat);
@@ -198,8 +198,8 @@ void NumberFormatFields::Arrange(int width)
     InvalidateBestSize();
 }
 
-/// Loads the format. A control whose stored value is missing or invalid shows its default. For a bound, the default is
-/// 0: the control is empty or shows "0".
+// Loads the format. A control whose stored value is missing or invalid shows its default. For a bound, the default is
+// 0: the control is empty or shows "0".
 void NumberFormatFields::LoadSettings()
 {
     CNumberFormat format(eFixedFormat);
@@ -314,8 +314,8 @@ wxCheckBox* NumberFormatFields::MakeFlag(std::size_t index)
     return box;
 }
 
-/// Adds a label, a field for one character, and the code of this character. Users need the code because many separators
-/// are blanks that look alike.
+// Adds a label, a field for one character, and the code of this character. Users need the code because many separators
+// are blanks that look alike.
 void NumberFormatFields::AddCharacter(wxSizer* grid, std::size_t index)
 {
     auto* label = new wxStaticText(this, wxID_ANY, kCharacters[index].label);
@@ -333,7 +333,7 @@ void NumberFormatFields::AddCharacter(wxSizer* grid, std::size_t index)
     m_codes.push_back(code);
 }
 
-/// Enables or disables the control of each limit, shows the codes of the characters, and sends EVT_FORMAT_CHANGED.
+// Enables or disables the control of each limit, shows the codes of the characters, and sends EVT_FORMAT_CHANGED.
 void NumberFormatFields::OnChange()
 {
     if (m_settingFormat)

@@ -95,7 +95,7 @@ void NumbersPage::LoadSettings()
     m_validates->SetValue(kNumberSettings.LoadFlag("Validates", true));
 }
 
-/// Makes the first column: the field for the number, its check box and buttons, and the text with the kept number.
+// Makes the first column: the field for the number, its check box and buttons, and the text with the kept number.
 wxSizer* NumbersPage::MakeTrial()
 {
     wxStaticText* label = MakeHeading(this, "&Number");
@@ -127,7 +127,7 @@ wxSizer* NumbersPage::MakeTrial()
     return rows;
 }
 
-/// Makes a row for the result of each function in kResultNames.
+// Makes a row for the result of each function in kResultNames.
 wxSizer* NumbersPage::MakeResults()
 {
     auto* grid = new wxFlexGridSizer(2, FromDIP(wxSize(18, 8)));
@@ -148,7 +148,7 @@ wxSizer* NumbersPage::MakeResults()
     return rows;
 }
 
-/// Makes the wxNumberCtrl, and the line that shows its number.
+// Makes the wxNumberCtrl, and the line that shows its number.
 wxSizer* NumbersPage::MakeControl()
 {
     wxStaticText* label = MakeHeading(this, "In &a wxNumberCtrl");
@@ -170,7 +170,7 @@ wxSizer* NumbersPage::MakeControl()
     return rows;
 }
 
-/// Arranges the page for its width. The page scrolls when its contents are higher than the window.
+// Arranges the page for its width. The page scrolls when its contents are higher than the window.
 void NumbersPage::Arrange()
 {
     const int width = GetClientSize().x - FromDIP(kMargin);
@@ -182,7 +182,7 @@ void NumbersPage::Arrange()
     FitInside();
 }
 
-/// Sets or removes the validator of the number's field, sets the current format in the control, and shows the results.
+// Sets or removes the validator of the number's field, sets the current format in the control, and shows the results.
 void NumbersPage::UseFormat()
 {
     const CNumberFormat format = m_fields->GetFormat();
@@ -226,7 +226,7 @@ void NumbersPage::ShowControlNumber()
         ShowVerdict(m_controlNumber, problem.empty(), problem.empty() ? number : problem);
 }
 
-/// Validates and transfers the number, as a dialog does on OK.
+// Validates and transfers the number, as a dialog does on OK.
 void NumbersPage::OnKeep()
 {
     wxValidator* validator = m_number->GetValidator();

@@ -22,7 +22,7 @@ double Luminance(const wxColour& colour)
     return 0.2126 * Linear(colour.Red()) + 0.7152 * Linear(colour.Green()) + 0.0722 * Linear(colour.Blue());
 }
 
-/// Returns a mix of two colours: @a from at step 0, @a to at step kSteps.
+// Returns a mix of two colours: @a from at step 0, @a to at step kSteps.
 wxColour Between(const wxColour& from, const wxColour& to, int step)
 {
     const auto mix = [step](unsigned char a, unsigned char b) {

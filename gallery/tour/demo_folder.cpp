@@ -19,7 +19,7 @@ struct DemoFile
 {
     const char* path;
     std::int64_t size;
-    int day;  ///< Days after 1 March 2026.
+    int day;  // Days after 1 March 2026.
 };
 
 constexpr DemoFile kFiles[] = {

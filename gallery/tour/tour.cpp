@@ -30,7 +30,7 @@ namespace {
 
 using namespace simulated_user;
 
-/// Returns the open file or folder dialog, or null. Asks GTK, because wxTopLevelWindows does not contain these dialogs.
+// Returns the open file or folder dialog, or null. Asks GTK, because wxTopLevelWindows does not contain these dialogs.
 GtkWidget* FindFileDialog()
 {
     GList* windows = gtk_window_list_toplevels();
@@ -43,8 +43,8 @@ GtkWidget* FindFileDialog()
     return dialog;
 }
 
-/// Waits until a file or folder dialog opens, and calls a function in the event loop of this dialog. Then cancels the
-/// dialog if it is still open.
+// Waits until a file or folder dialog opens, and calls a function in the event loop of this dialog. Then cancels the
+// dialog if it is still open.
 class DialogVisitor : public wxTimer
 {
 public:
@@ -77,14 +77,14 @@ std::string FileIn(GtkWidget* dialog)
     return file ? file : "";
 }
 
-/// Returns the screen rectangle of the button that accepts the choice; empty while the button is disabled.
+// Returns the screen rectangle of the button that accepts the choice; empty while the button is disabled.
 wxRect AcceptButton(GtkWidget* dialog)
 {
     GtkWidget* button = gtk_dialog_get_widget_for_response(GTK_DIALOG(dialog), GTK_RESPONSE_ACCEPT);
     return button && gtk_widget_is_sensitive(button) ? WidgetRect(button) : wxRect();
 }
 
-/// The state that must be the same after a cancelled dialog, after a folder is opened again, and in the next session.
+// The state that must be the same after a cancelled dialog, after a folder is opened again, and in the next session.
 struct State
 {
     explicit State(GalleryFrame& frame) : window(frame.GetRect())
@@ -396,8 +396,8 @@ bool Tour::Waits(const std::function<bool()>& condition, const char* claim)
     return IsTrue(WaitUntil(condition), claim);
 }
 
-/// Presses Ctrl and @a key, which opens a file or folder dialog, and calls @a visit with the dialog. Then waits until
-/// the program's window is active again.
+// Presses Ctrl and @a key, which opens a file or folder dialog, and calls @a visit with the dialog. Then waits until
+// the program's window is active again.
 bool Tour::VisitDialog(char key, const char* claim, const std::function<bool(GtkWidget*)>& visit)
 {
     DialogVisitor visitor(visit);
@@ -406,8 +406,8 @@ bool Tour::VisitDialog(char key, const char* claim, const std::function<bool(Gtk
            Waits([&] { return m_frame->IsActive(); }, "the window is active again");
 }
 
-/// Waits until @a file, which may be a folder, is selected in the dialog. Then takes a picture, and clicks the button
-/// that accepts the choice.
+// Waits until @a file, which may be a folder, is selected in the dialog. Then takes a picture, and clicks the button
+// that accepts the choice.
 bool Tour::AcceptFile(GtkWidget* dialog, const std::string& file, const char* picture)
 {
     if (!Waits([&] { return FileIn(dialog) == file && !AcceptButton(dialog).IsEmpty(); }, "the name is taken") ||
@@ -430,7 +430,7 @@ bool Tour::SavePicture(const char* component, const wxPoint& pointer)
     return IsTrue(SaveScreenshot(m_frame->GetHandle(), m_pictures + "/" + component + ".png"), "the picture is taken");
 }
 
-/// Closes the window as a person does, and opens the window of the next session.
+// Closes the window as a person does, and opens the window of the next session.
 bool Tour::Reopen()
 {
     m_frame->Close();

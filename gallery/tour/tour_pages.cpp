@@ -45,8 +45,8 @@ bool Tour::OpenFolderColours()
     return Waits([&] { return combo.GetPopup()->IsShownOnScreen(); }, "Ctrl+T opens the colours");
 }
 
-/// Waits until the popup closes. Then checks that the colour of @a cell is stored for the selected folder, and that the
-/// tree shows the folder in the colour that ReadableOn() returns for this colour.
+// Waits until the popup closes. Then checks that the colour of @a cell is stored for the selected folder, and that the
+// tree shows the folder in the colour that ReadableOn() returns for this colour.
 bool Tour::FolderGets(int cell)
 {
     const FolderColourCombo& combo = *m_frame->GetBrowser()->GetColour();

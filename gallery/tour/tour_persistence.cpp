@@ -22,7 +22,7 @@ using namespace simulated_user;
 
 namespace {
 
-/// A window with a splitter, a tree, and a list with columns. The toolkit deletes it after it is closed.
+// A window with a splitter, a tree, and a list with columns. The toolkit deletes it after it is closed.
 class PlanetsFrame : public wxFrame
 {
 public:
@@ -40,7 +40,7 @@ public:
         Raise();
     }
 
-    /// Changes the splitter, the tree and the columns as a person may change them.
+    // Changes the splitter, the tree and the columns as a person may change them.
     void Arrange()
     {
         m_splitter->SetSashPosition(230);

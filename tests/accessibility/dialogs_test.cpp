@@ -13,7 +13,7 @@
 
 namespace {
 
-/// Waits for a file or folder dialog to open, reads its accessible object, and cancels the dialog.
+// Waits for a file or folder dialog to open, reads its accessible object, and cancels the dialog.
 class CancellingReader : public wxModalDialogHook, public wxTimer
 {
 public:

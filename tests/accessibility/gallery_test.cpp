@@ -36,7 +36,7 @@ protected:
         EXPECT_TRUE(PumpUntil([&] { return frame->GetPages()->GetSelection() == GetParam(); }));
     }
 
-    /// Returns the part that has the focus. If a combo box contains that part, returns the combo box instead.
+    // Returns the part that has the focus. If a combo box contains that part, returns the combo box instead.
     Accessible FocusedPart() const
     {
         GtkWidget* const widget = gtk_window_get_focus(GTK_WINDOW(frame->GetHandle()));
@@ -50,7 +50,7 @@ protected:
         return focused;
     }
 
-    /// Returns a text such as "check box Round".
+    // Returns a text such as "check box Round".
     static std::string Said(const Accessible& accessible)
     {
         return accessible.role + " " + (accessible.label.empty() ? accessible.name : accessible.label);

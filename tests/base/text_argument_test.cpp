@@ -50,8 +50,8 @@ void WithEachKindBeside(const Other& other, const Call& call, std::index_sequenc
     (CallWith<position>(call, wxString("a").wc_str(), other, positions), ...);
 }
 
-/// Calls @a call with @a count texts, all of them "a". In each call, one parameter gets one of seven kinds of text, and
-/// all other parameters get the same one of five kinds. There is a call for every combination.
+// Calls @a call with @a count texts, all of them "a". In each call, one parameter gets one of seven kinds of text, and
+// all other parameters get the same one of five kinds. There is a call for every combination.
 template <std::size_t count, typename Call>
 void WithEachKind(const Call& call)
 {

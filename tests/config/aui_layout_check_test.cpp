@@ -23,7 +23,7 @@ const std::wstring kList = L"name=list;caption=;state=768;dir=5;layer=0;row=0;po
 const std::wstring kDocks = L"dock_size(4,1,0)=152|dock_size(5,0,0)=22|";
 const std::wstring kWhole = L"layout2|" + kTree + kList + kDocks;
 
-/// Returns the complete layout with the first occurrence of @a part replaced.
+// Returns the complete layout with the first occurrence of @a part replaced.
 std::wstring With(const std::wstring& part, const std::wstring& replacement)
 {
     std::wstring layout = kWhole;
@@ -154,7 +154,7 @@ TEST(AuiLayout, HasNoNumberInACaptionThatTheToolkitLaysOutForLong)
     EXPECT_FALSE(IsLayout(With(L"Folders", L"a\brow=2147483647\b")));
 }
 
-/// A frame with panes of several kinds, laid out by an AUI manager.
+// A frame with panes of several kinds, laid out by an AUI manager.
 class PanesFrame : public wxFrame
 {
 public:

@@ -68,7 +68,7 @@ TEST_F(LoadAuiManagerState, LeavesAManagerAloneWhenNothingIsStored)
     EXPECT_TRUE(frame.Pane("log").window->IsShown());
 }
 
-/// Hides the log, floats the properties, and changes the side, caption and size of the tree's pane.
+// Hides the log, floats the properties, and changes the side, caption and size of the tree's pane.
 void Rearrange(AuiFrame& frame)
 {
     frame.Pane("log").Hide();
@@ -165,7 +165,7 @@ TEST_F(LoadAuiManagerState, TakesALayoutWithPanesThatAreGone)
     EXPECT_TRUE(frame.Pane("list").IsShown());
 }
 
-/// LoadAuiManagerState() must refuse each text that the toolkit cannot have written.
+// LoadAuiManagerState() must refuse each text that the toolkit cannot have written.
 class DamagedLayout : public UserDataTest
 {
 protected:
@@ -178,7 +178,7 @@ protected:
         before = frame.manager.SavePerspective();
     }
 
-    /// Returns the complete layout with the first occurrence of @a part replaced.
+    // Returns the complete layout with the first occurrence of @a part replaced.
     wxString With(const wxString& part, const wxString& replacement) const
     {
         wxString layout = whole;

@@ -119,7 +119,7 @@ TEST_F(ConfigCalls, LeaveNoFileObjectBehindABadNumber)
     EXPECT_EQ(g_platform.calls.back(), L"destroy");
 }
 
-/// The platform operation that throws, and a call that uses this operation.
+// The platform operation that throws, and a call that uses this operation.
 struct Failure
 {
     const wchar_t* operation;

@@ -13,7 +13,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Calls each function of ui_config_mgr once.
+// Calls each function of ui_config_mgr once.
 void UseAll(const std::wstring& file)
 {
     ui_config_mgr::WriteConfigString(file.c_str(), L"s", L"k", L"v");
@@ -28,7 +28,7 @@ std::wstring ValueIn(const std::wstring& file)
     return ui_config_mgr::GetConfigString(file.c_str(), L"s", L"k");
 }
 
-/// A file name that no file can have.
+// A file name that no file can have.
 struct Name
 {
     const char* name;
@@ -52,7 +52,7 @@ INSTANTIATE_TEST_SUITE_P(, ImpossibleFileName,
                                          Name{"Megabyte", std::wstring(1 << 20, L'\u20ac')}),
                          [](const auto& info) { return info.param.name; });
 
-/// An unusual file name, and the path of its file below the user data folder.
+// An unusual file name, and the path of its file below the user data folder.
 struct Odd
 {
     const char* name;

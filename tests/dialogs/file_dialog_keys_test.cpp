@@ -41,14 +41,14 @@ public:
     {
     }
 
-    /// Waits until the dialog proposes @a name in @a folder.
+    // Waits until the dialog proposes @a name in @a folder.
     Dialog(const std::string& settings, const Call& call, const std::string& folder, const std::string& name)
         : Dialog(settings, call)
     {
         WaitForProposal(folder, name);
     }
 
-    /// Waits until the dialog has read the folder and proposes the name.
+    // Waits until the dialog has read the folder and proposes the name.
     void WaitForProposal(const std::string& folder, const std::string& name)
     {
         const std::string file = name.empty() ? "" : fs::path(folder) / name;
@@ -58,7 +58,7 @@ public:
         });
     }
 
-    /// Types a name in place of the proposed one. Returns when the dialog shows that name.
+    // Types a name in place of the proposed one. Returns when the dialog shows that name.
     void TypeName(const std::string& name)
     {
         const std::string folder = State().folder;

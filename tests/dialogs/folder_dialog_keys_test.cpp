@@ -21,8 +21,8 @@ public:
     {
     }
 
-    /// Waits until the dialog shows the home folder. wxFolderDlg starts there if no folder is given. By default, GTK's
-    /// dialog would show the files used last, and its Open button would stay disabled whatever is typed.
+    // Waits until the dialog shows the home folder. wxFolderDlg starts there if no folder is given. By default, GTK's
+    // dialog would show the files used last, and its Open button would stay disabled whatever is typed.
     void WaitForHome() { WaitForFolder(HomeFolder()); }
 
     void WaitForFolder(const std::string& folder)

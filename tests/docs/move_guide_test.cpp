@@ -71,7 +71,7 @@ struct NotesFrame : wxFrame
     wxNotebook* book = new wxNotebook(splitter, wxID_ANY);
 };
 
-/// Replaces the toolkit's persistence by the persistence of the store while the object exists.
+// Replaces the toolkit's persistence by the persistence of the store while the object exists.
 class StorePersistence
 {
 public:
@@ -125,7 +125,7 @@ class NotesDialog : public RememberingDialog
 protected:
     using Ask = wxString (*)(wxWindow*, const wxString&);
 
-    /// Chooses @a note in the dialog, and returns the folder that the dialog showed at first.
+    // Chooses @a note in the dialog, and returns the folder that the dialog showed at first.
     std::string Accept(Ask ask, const std::string& notes, const std::string& note)
     {
         std::string shown;

@@ -31,7 +31,7 @@ struct Trouble
     const char* name;
     void (*begin)();
     void (*end)();
-    int error;  ///< The errno that a write sets while the fault lasts.
+    int error;  // The errno that a write sets while the fault lasts.
 
     friend void PrintTo(const Trouble& trouble, std::ostream* stream) { *stream << trouble.name; }
 };
@@ -41,7 +41,7 @@ std::string DataFolder()
     return HomeFolder() + "/.local/share/fittings-test";
 }
 
-/// Returns the contents of every file in the data folder. The keys are the relative paths of the files.
+// Returns the contents of every file in the data folder. The keys are the relative paths of the files.
 std::map<std::string, std::string> Files()
 {
     std::map<std::string, std::string> files;
@@ -88,7 +88,7 @@ protected:
         EXPECT_EQ(errno, GetParam().error);
     }
 
-    /// Expects all files to be as they were before the fault, and the earlier settings to be readable.
+    // Expects all files to be as they were before the fault, and the earlier settings to be readable.
     void ExpectAllKept() const
     {
         EXPECT_EQ(Files(), m_before);

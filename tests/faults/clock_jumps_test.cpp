@@ -29,7 +29,7 @@ using Clock = std::chrono::steady_clock;
 constexpr long kHour = 3600;
 constexpr long kYear = 365 * 24 * kHour;
 
-/// The parameter is the jump of the clock in seconds.
+// The parameter is the jump of the clock in seconds.
 class ClockJumps : public testing::TestWithParam<long>
 {
 protected:
@@ -157,7 +157,7 @@ TEST_P(ClockJumps, DoNotDisturbATreeThatIsFilledWhileItIsLoaded)
 
 // --- Files -----------------------------------------------------------------------------------------------------------
 
-/// Sets the modification time of a file to the time of the changed clock plus @a seconds.
+// Sets the modification time of a file to the time of the changed clock plus @a seconds.
 void SetTime(const std::string& path, long seconds)
 {
     timespec now = {};

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Runs the probe in @a folder with @a home as HOME, and returns its output.
+// Runs the probe in @a folder with @a home as HOME, and returns its output.
 std::string SeenIn(const std::string& folder, const std::optional<std::string>& home, const std::string& registered,
                    const std::string& more = "", const std::optional<std::string>& dataHome = {})
 {

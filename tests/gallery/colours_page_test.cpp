@@ -54,7 +54,7 @@ protected:
 
     bool IsSet(const wxString& name) { return Get<wxCheckBox>(name).GetValue(); }
 
-    /// Types a text in place of the text of the focused field.
+    // Types a text in place of the text of the focused field.
     void Type(const std::string& text)
     {
         Press('A', wxMOD_CONTROL);
@@ -62,7 +62,7 @@ protected:
             Press(key);
     }
 
-    /// Moves the focus to a field by its mnemonic, and enters another number.
+    // Moves the focus to a field by its mnemonic, and enters another number.
     void SetNumber(char mnemonic, const std::string& name, int number)
     {
         GoTo(name, mnemonic);
@@ -388,7 +388,7 @@ TEST_F(ColoursPageTest, FitsIntoASmallWindow)
     }
 }
 
-/// Makes the texts of all windows twice as large as usual while the object exists.
+// Makes the texts of all windows twice as large as usual while the object exists.
 class LargeTexts
 {
 public:

@@ -34,7 +34,7 @@ protected:
         ASSERT_TRUE(ShowsPage(name));
     }
 
-    /// Opens the window with the pane of the folders floating, and selects another page, which hides the pane.
+    // Opens the window with the pane of the folders floating, and selects another page, which hides the pane.
     void LeaveFloatingFolders()
     {
         Open(root);
@@ -48,7 +48,7 @@ protected:
 
     bool IsEnabled(int item) { return frame->GetMenuBar()->IsEnabled(item); }
 
-    wxPoint place;  ///< Where LeaveFloatingFolders() puts the floating pane on the screen.
+    wxPoint place;  // Where LeaveFloatingFolders() puts the floating pane on the screen.
 };
 
 TEST_F(Pages, AltWithADigitShowsOne)

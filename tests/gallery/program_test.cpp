@@ -27,7 +27,7 @@ std::vector<std::string> CommandOf(std::vector<std::string> arguments)
     return arguments;
 }
 
-/// One run of the gallery.
+// One run of the gallery.
 class Program
 {
 public:
@@ -36,15 +36,15 @@ public:
     {
     }
 
-    /// Sends a signal to the program, and returns the result of Wait().
+    // Sends a signal to the program, and returns the result of Wait().
     int EndBy(int signal)
     {
         m_child.Send(signal);
         return Wait();
     }
 
-    /// Waits for the end and returns the exit code; negative when a signal ended the program or the deadline has
-    /// passed.
+    // Waits for the end and returns the exit code; negative when a signal ended the program or the deadline has
+    // passed.
     int Wait()
     {
         if (m_child.WaitForEnd(1200'000))
@@ -73,7 +73,7 @@ bool ShowsWindow(const std::string& title)
     return WaitFor("xdotool search --onlyvisible --name '" + title + "'");
 }
 
-/// Gives each test a data folder of its own, without settings of an earlier test.
+// Gives each test a data folder of its own, without settings of an earlier test.
 class TheProgram : public testing::Test
 {
 protected:
@@ -189,8 +189,8 @@ std::size_t CountColours(const std::string& path)
     return colours.size();
 }
 
-/// Runs the gallery with --tour, and expects all pictures. The tour shows the folder in @a shown. If @a shown is empty,
-/// the tour makes a folder and shows that.
+// Runs the gallery with --tour, and expects all pictures. The tour shows the folder in @a shown. If @a shown is empty,
+// the tour makes a folder and shows that.
 void TakesItsPictures(const std::vector<std::string>& shown = {})
 {
     TempFolder folder;

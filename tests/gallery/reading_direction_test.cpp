@@ -15,7 +15,7 @@ struct Room
     int right;
 };
 
-/// Returns the free width on both sides of a label's text.
+// Returns the free width on both sides of a label's text.
 Room Around(const wxString& name, const wxWindow* parent)
 {
     auto* const label = GTK_LABEL(wxWindow::FindWindowByName(name, parent)->GetHandle());

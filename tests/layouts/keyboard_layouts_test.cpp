@@ -18,24 +18,24 @@
 
 namespace {
 
-/// A key for xdotool, by its number or name. A modifier may precede the key, as in "shift+61".
+// A key for xdotool, by its number or name. A modifier may precede the key, as in "shift+61".
 using Key = std::string;
 
 struct Keyboard
 {
     const char* layout;
-    /// A key, one of its shift levels, and the symbol that this layout has there. None of the other tested layouts has
-    /// the same symbol there.
+    // A key, one of its shift levels, and the symbol that this layout has there. None of the other tested layouts has
+    // the same symbol there.
     unsigned key;
     unsigned level;
     const char* symbol;
-    /// The keys that type these characters.
+    // The keys that type these characters.
     Key point;
     Key comma;
     Key plus;
     Key minus;
     Key asterisk;
-    /// The key code that a program receives for the keypad's decimal key, and the character that the key types.
+    // The key code that a program receives for the keypad's decimal key, and the character that the key types.
     int keypadCode;
     wchar_t keypadCharacter;
 

@@ -16,7 +16,7 @@ std::wstring Many(wchar_t c, std::size_t count = kLong)
     return std::wstring(count, c);
 }
 
-/// Returns a format that allows any number of digits, a fraction and an exponent.
+// Returns a format that allows any number of digits, a fraction and an exponent.
 CNumberFormat Endless()
 {
     CNumberFormat format(eLocaleFormat);
@@ -163,8 +163,8 @@ TEST(UnusualCharacters, AreSeparators)
     }
 }
 
-/// Makes a format. The four low bits of @a flags choose how numbers are shown. The other three bits choose what a
-/// number may contain.
+// Makes a format. The four low bits of @a flags choose how numbers are shown. The other three bits choose what a
+// number may contain.
 CNumberFormat FromBits(unsigned flags)
 {
     CNumberFormat format(eLocaleFormat);

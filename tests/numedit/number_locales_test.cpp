@@ -10,7 +10,7 @@
 
 namespace {
 
-/// Returns a format with the locale's separators, two decimals and groups.
+// Returns a format with the locale's separators, two decimals and groups.
 CNumberFormat Amount()
 {
     CNumberFormat format(eLocaleFormat);
@@ -38,7 +38,7 @@ void ExpectSeparators(const CNumberFormat& format, wchar_t decimalPoint, wchar_t
     EXPECT_EQ(format.m_chThousandsSep, thousandsSeparator);
 }
 
-/// Replaces the toolkit's current conversion while the object exists.
+// Replaces the toolkit's current conversion while the object exists.
 class ScopedConversion
 {
 public:

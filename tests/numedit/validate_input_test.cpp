@@ -27,7 +27,7 @@ void ExpectRefused(const CNumberFormat& format, std::initializer_list<const wcha
         EXPECT_FALSE(Accepted(text, format)) << text;
 }
 
-/// Returns a format for numbers of at least 1 with at most two decimals.
+// Returns a format for numbers of at least 1 with at most two decimals.
 CNumberFormat FromOne()
 {
     CNumberFormat format(eFixedFormat);

@@ -45,7 +45,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Join{nullptr, L"b", L"b"}, Join{L"/a", nullptr, L"/a"}, Join{nullptr, nullptr, L""},
                     Join{L"/\x5E33", L"\x1F4D2", L"/\x5E33/\x1F4D2"}));
 
-/// A path, and the expected results of GetPathWithSep() and RemoveBackSlash() for this path.
+// A path, and the expected results of GetPathWithSep() and RemoveBackSlash() for this path.
 struct PathEnd
 {
     const char* name;

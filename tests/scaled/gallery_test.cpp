@@ -10,7 +10,7 @@ namespace {
 namespace fs = std::filesystem;
 using namespace gallery::simulated_user;
 
-/// Returns whether each inner column of the image equals a column beside it, as in an enlarged image.
+// Returns whether each inner column of the image equals a column beside it, as in an enlarged image.
 bool WasMadeLarger(const wxImage& image)
 {
     const auto areAlike = [&](int x, int other) {
@@ -31,7 +31,7 @@ bool WasMadeLarger(const wxImage& image)
 class GalleryOnAScaledScreen : public BrowserTest
 {
 protected:
-    /// Returns the rectangle of the image to the left of an item's label.
+    // Returns the rectangle of the image to the left of an item's label.
     wxRect ImageOf(const std::string& path)
     {
         const wxRect label = LabelRect(Tree(), Item(path));

@@ -6,8 +6,8 @@
 
 namespace {
 
-/// Divides the image, from (@a left, @a top) on, into squares of 2 x 2 pixels: one square for each of the toolkit's
-/// pixels. Returns whether every square has only one colour.
+// Divides the image, from (@a left, @a top) on, into squares of 2 x 2 pixels: one square for each of the toolkit's
+// pixels. Returns whether every square has only one colour.
 bool IsOfWholePixels(const wxImage& scaled, int left, int top)
 {
     const unsigned char* const data = scaled.GetData();

@@ -16,7 +16,7 @@
 
 namespace {
 
-/// Returns whether windows are laid out from right to left.
+// Returns whether windows are laid out from right to left.
 bool IsRightToLeft()
 {
     const char* const direction = std::getenv("FITTINGS_TEST_DIRECTION");
@@ -61,7 +61,7 @@ public:
         return RUN_ALL_TESTS();
     }
 
-    /// Returns the layout direction of windows that set none.
+    // Returns the layout direction of windows that set none.
     wxLayoutDirection GetLayoutDirection() const override
     {
         return IsRightToLeft() ? wxLayout_RightToLeft : wxApp::GetLayoutDirection();

@@ -14,8 +14,8 @@ namespace {
 
 constexpr const char* kMemory = "/dev/shm";
 
-/// Gives the owner all rights on the folder and its subfolders. A test may have removed these rights, and without
-/// them only root can empty the folders.
+// Gives the owner all rights on the folder and its subfolders. A test may have removed these rights, and without
+// them only root can empty the folders.
 void OpenFolders(const std::filesystem::path& folder)
 {
     std::error_code ignored;

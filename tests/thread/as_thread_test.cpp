@@ -24,7 +24,7 @@ namespace {
 using Thread = Working<wxThreadEx>;
 using Worker = Working<wxGUIThread>;
 
-/// Running thread objects that are waited for together.
+// Running thread objects that are waited for together.
 class Threads
 {
 public:
@@ -231,7 +231,7 @@ TEST(SeveralOwners, EachRunTheirOwnThreadAtTheSameTime)
 
 // --- The GUI thread --------------------------------------------------------------------------------------------------
 
-/// The destructor stops a worker and waits for it, even if the test ends early.
+// The destructor stops a worker and waits for it, even if the test ends early.
 struct Stopped
 {
     ~Stopped()

@@ -21,8 +21,8 @@ using Worker = Working<wxGUIThread>;
 const int kEnd = wxNewEventType();
 const int kOther = wxNewEventType();
 
-/// Waits until as many events as in @a events have arrived, and a little longer in case more follow. Expects exactly
-/// these events.
+// Waits until as many events as in @a events have arrived, and a little longer in case more follow. Expects exactly
+// these events.
 void ExpectEvents(const Recorder& recorder, const Events& events)
 {
     EXPECT_TRUE(PumpUntil([&] { return recorder.events.size() >= events.size(); }));

@@ -35,7 +35,7 @@ public:
     std::vector<int> counts;
     int outOfOrder = 0;
     int total = 0;
-    std::atomic<int> handled{0};  ///< The same number as total, readable from other threads.
+    std::atomic<int> handled{0};  // The same number as total, readable from other threads.
 };
 
 class Poster : public wxGUIThreadEx
@@ -59,8 +59,8 @@ private:
     const int m_count;
 };
 
-/// Posts events until it is stopped, but pauses while more than 100 of them are not handled yet. Otherwise the events
-/// would keep a slow GUI thread busy and fill the memory.
+// Posts events until it is stopped, but pauses while more than 100 of them are not handled yet. Otherwise the events
+// would keep a slow GUI thread busy and fill the memory.
 class EndlessPoster : public wxGUIThreadEx
 {
 public:

@@ -19,7 +19,7 @@ namespace {
 
 constexpr int kId = 4711;
 
-/// A tree created by its constructor, with a root, a child and a grandchild.
+// A tree created by its constructor, with a root, a child and a grandchild.
 template <typename Tree>
 class TreeLines : public testing::Test
 {

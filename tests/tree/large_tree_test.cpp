@@ -16,7 +16,7 @@ namespace {
 
 constexpr int kWidth = 100'000;
 
-/// Counts calls by kind. A call for the next or previous sibling takes time in proportion to the number of siblings.
+// Counts calls by kind. A call for the next or previous sibling takes time in proportion to the number of siblings.
 class CountingTree : public wxHandyTreeCtrl
 {
 public:
@@ -67,8 +67,8 @@ protected:
     CountingTree& tree = *screen.tree;
     wxTreeCursor root = tree.AddRoot("root");
 
-    /// Appends @a count children to the root. If @a step is not 0, expands the first child and every @a step-th child
-    /// after it.
+    // Appends @a count children to the root. If @a step is not 0, expands the first child and every @a step-th child
+    // after it.
     void MakeWide(int step, int count = kWidth)
     {
         const wxWindowUpdateLocker frozen(&tree);
@@ -80,7 +80,7 @@ protected:
         }
     }
 
-    /// Appends a chain of @a depth items to the root, and returns the last item.
+    // Appends a chain of @a depth items to the root, and returns the last item.
     wxTreeCursor MakeDeep(int depth)
     {
         const wxWindowUpdateLocker frozen(&tree);

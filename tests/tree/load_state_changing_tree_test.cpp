@@ -14,8 +14,8 @@
 
 namespace {
 
-/// Counts the calls of ItemHasChildren() and GetNextChild() that pass a deleted item. In such a call, the toolkit would
-/// read freed memory.
+// Counts the calls of ItemHasChildren() and GetNextChild() that pass a deleted item. In such a call, the toolkit would
+// read freed memory.
 class MortalTree : public LazyTree
 {
 public:
@@ -57,7 +57,7 @@ protected:
         });
     }
 
-    /// Loads a state in which every item is expanded, and returns the labels of the items passed to Expand().
+    // Loads a state in which every item is expanded, and returns the labels of the items passed to Expand().
     Labels Load()
     {
         const auto note = [this](wxTreeEvent& event) {
@@ -78,7 +78,7 @@ protected:
     MortalTree& tree = *screen.tree;
     wxTreeCursor root;
     std::map<std::wstring, wxTreeCursor> items;
-    std::map<std::wstring, std::function<void()>> when;  ///< The actions at the first expansion of an item, by label.
+    std::map<std::wstring, std::function<void()>> when;  // The actions at the first expansion of an item, by label.
 };
 
 TEST_F(LoadStateMeanwhile, VisitsAnAppendedSibling)

@@ -15,7 +15,7 @@
 #include <tests/support/gui.h>
 #include <tests/xrc/loaded_resource.h>
 
-/// A host's class that controls.xrc names as the subclass of a control.
+// A host's class that controls.xrc names as the subclass of a control.
 class NotingCombo : public wxColourCombo, private wxColorPopupListener
 {
 public:

@@ -11,7 +11,7 @@
 #include <tests/support/gui.h>
 #include <tests/xrc/loaded_resource.h>
 
-/// A host's class that controls.xrc names as the subclass of a control.
+// A host's class that controls.xrc names as the subclass of a control.
 class OwnNumber : public wxNumberCtrl
 {
     wxDECLARE_DYNAMIC_CLASS(OwnNumber);

@@ -10,7 +10,7 @@
 #include <tests/support/gui.h>
 #include <tests/xrc/loaded_resource.h>
 
-/// A host's class that controls.xrc names as the subclass of a control.
+// A host's class that controls.xrc names as the subclass of a control.
 class PlanetTree : public wxHandyTreeCtrl
 {
     void OnItemExpanding(const wxTreeCursor& item) override { wxTreeCursor(item).AppendItem("Earth"); }

@@ -64,7 +64,7 @@ public:
 
     void ForgetOwner() { m_owner = nullptr; }
 
-    /// Stores the layout and removes the persistent object, if that object still exists.
+    // Stores the layout and removes the persistent object, if that object still exists.
     void End()
     {
         if (m_owner)

@@ -21,7 +21,7 @@ wxString ToText(const std::vector<int>& numbers)
     return text;
 }
 
-/// Returns the numbers in a text: one number for each column, each from 0 to @a most. Returns none for any other text.
+// Returns the numbers in a text: one number for each column, each from 0 to @a most. Returns none for any other text.
 std::optional<std::vector<int>> FromText(const wxString& text, std::size_t columns, long most)
 {
     std::vector<int> numbers;
@@ -44,7 +44,7 @@ bool HasEachOnce(std::vector<int> order)
     return order == all;
 }
 
-/// Returns the list. Returns null if the list was deleted without Destroy(): by then, only its base class is left.
+// Returns the list. Returns null if the list was deleted without Destroy(): by then, only its base class is left.
 wxListCtrl* ListOf(wxWindow* window)
 {
     return dynamic_cast<wxListCtrl*>(window);

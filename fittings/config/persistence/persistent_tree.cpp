@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Returns the tree. Returns null if the tree was deleted without Destroy(): by then, only its base class is left.
+// Returns the tree. Returns null if the tree was deleted without Destroy(): by then, only its base class is left.
 wxTreeCtrl* TreeOf(wxWindow* window)
 {
     return dynamic_cast<wxTreeCtrl*>(window);

@@ -17,15 +17,15 @@ namespace {
 
 constexpr char kData[] = "fittings-place-when-unmaximized";
 
-/// How long the place and size are corrected after the window is unmaximised, in microseconds. The window manager may
-/// announce the decorations several times. When an announcement changes their size, the window's size must be set
-/// again.
+// How long the place and size are corrected after the window is unmaximised, in microseconds. The window manager may
+// announce the decorations several times. When an announcement changes their size, the window's size must be set
+// again.
 constexpr gint64 kCorrected = 2 * G_TIME_SPAN_SECOND;
 
-/// How often to check whether the mouse button is released, in milliseconds.
+// How often to check whether the mouse button is released, in milliseconds.
 constexpr int kReleaseInterval = 50;
 
-/// Watches a window until the window is unmaximised, and then sets its place and size. Owned by the window's widget.
+// Watches a window until the window is unmaximised, and then sets its place and size. Owned by the window's widget.
 class PlaceKeeper
 {
 public:

@@ -7,8 +7,8 @@
 
 namespace {
 
-/// A persistent object whose name may differ from the name of its window. The toolkit's own
-/// wxPersistentRegisterAndRestore() would rename the window, but the program may use the name to find the window.
+// A persistent object whose name may differ from the name of its window. The toolkit's own
+// wxPersistentRegisterAndRestore() would rename the window, but the program may use the name to find the window.
 template <typename Persistent>
 class Named : public Persistent
 {
@@ -24,7 +24,7 @@ private:
     const wxString m_name;
 };
 
-/// Returns a new Named<Persistent> if the window's class is `Window` or derived from it; otherwise returns null.
+// Returns a new Named<Persistent> if the window's class is `Window` or derived from it; otherwise returns null.
 template <typename Persistent, typename Window>
 std::unique_ptr<wxPersistentObject> MakeFor(wxWindow& window, const wxString& name)
 {
@@ -32,7 +32,7 @@ std::unique_ptr<wxPersistentObject> MakeFor(wxWindow& window, const wxString& na
     return found ? std::make_unique<Named<Persistent>>(found, name) : nullptr;
 }
 
-/// Returns whether Make() can make an object that works for the window.
+// Returns whether Make() can make an object that works for the window.
 bool CanRemember(wxWindow& window)
 {
     if (auto* const list = dynamic_cast<wxListCtrl*>(&window))
@@ -59,13 +59,13 @@ std::unique_ptr<wxPersistentObject> Make(wxWindow& window, const wxString& name)
     return nullptr;
 }
 
-/// Registers a window first and then the windows in it.
+// Registers a window first and then the windows in it.
 class Registration
 {
 public:
     explicit Registration(const wxString& name) : m_name(name) {}
 
-    /// Returns true when something was restored.
+    // Returns true when something was restored.
     bool Register(wxWindow& window) { return Restore(window, m_name) | RegisterInside(window); }
 
 private:

@@ -12,12 +12,12 @@ using fittings::TreeChildren;
 
 namespace {
 
-/// The deepest level that is recorded or restored. The toolkit calls some functions recursively, once for each expanded
-/// level: with many times more levels, these calls would overflow the stack.
+// The deepest level that is recorded or restored. The toolkit calls some functions recursively, once for each expanded
+// level: with many times more levels, these calls would overflow the stack.
 constexpr std::size_t kDeepest = 10'000;
 
-/// Returns the first item whose top is in view. Restoring an item that is only partly in view would scroll the tree a
-/// little each time.
+// Returns the first item whose top is in view. Restoring an item that is only partly in view would scroll the tree a
+// little each time.
 wxTreeItemId FirstInView(const wxTreeCtrl& tree)
 {
     const int height = tree.GetClientSize().y;
@@ -36,7 +36,7 @@ wxTreeItemId FirstInView(const wxTreeCtrl& tree)
     return {};
 }
 
-/// Walks over a tree and records the steps to each expanded or selected item and to the first item in view.
+// Walks over a tree and records the steps to each expanded or selected item and to the first item in view.
 class Walk
 {
 public:
@@ -131,7 +131,7 @@ private:
     fittings::TreeSteps m_steps;
 };
 
-/// Reads a number of at most nine digits without leading zeros.
+// Reads a number of at most nine digits without leading zeros.
 std::optional<std::size_t> TakeNumber(std::wstring_view& text)
 {
     const std::size_t length = std::min(text.find_first_not_of(L"0123456789"), text.size());
@@ -152,7 +152,7 @@ bool TakeMark(std::wstring_view& text, wchar_t mark)
     return isThere;
 }
 
-/// Reads a label and the "|" after it.
+// Reads a label and the "|" after it.
 std::optional<std::wstring> TakeLabel(std::wstring_view& text)
 {
     std::wstring label;

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Follows paths down a tree. Event handlers may change the tree between the steps; deleted items are not used.
+// Follows paths down a tree. Event handlers may change the tree between the steps; deleted items are not used.
 class Descent
 {
 public:
@@ -23,7 +23,7 @@ public:
     Descent(const Descent&) = delete;
     Descent& operator=(const Descent&) = delete;
 
-    /// Follows the next step of the path. Returns the item of the step; null when there is none.
+    // Follows the next step of the path. Returns the item of the step; null when there is none.
     wxTreeItemId Go(const fittings::TreeStep& step)
     {
         // The step's parent was not found.
@@ -36,10 +36,10 @@ public:
         return item;
     }
 
-    /// Keeps an item until it is taken or deleted.
+    // Keeps an item until it is taken or deleted.
     void Keep(const wxTreeItemId& item) { m_kept.push_back(item); }
 
-    /// Takes the first kept item that still exists; returns null when there is none.
+    // Takes the first kept item that still exists; returns null when there is none.
     wxTreeItemId TakeKept()
     {
         while (m_taken < m_kept.size()) {

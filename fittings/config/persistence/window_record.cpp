@@ -9,11 +9,11 @@
 
 namespace {
 
-/// How long a place or size that the window manager has set must last before it is recorded, in milliseconds. A window
-/// manager that maximises a window moves and sizes the window before it reports the maximised state.
+// How long a place or size that the window manager has set must last before it is recorded, in milliseconds. A window
+// manager that maximises a window moves and sizes the window before it reports the maximised state.
 constexpr int kSettled = 500;
 
-/// Returns whether the program, and not the window manager, has moved or sized the window.
+// Returns whether the program, and not the window manager, has moved or sized the window.
 bool IsSetByProgram(const wxTopLevelWindow& window, const wxEvent& event)
 {
     if (event.GetEventType() == wxEVT_MOVE) {

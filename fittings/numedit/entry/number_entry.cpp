@@ -122,8 +122,8 @@ void NumberEntry::OnDelete(GtkEditable* entry, int begin, int end, NumberEntry* 
     self->Deleting(begin, end);
 }
 
-/// Inserts a dropped text as GTK does, but reports a refusal to the source of the drag. GTK would report every text as
-/// taken. When a text is moved, the source would then delete the text even after a refusal.
+// Inserts a dropped text as GTK does, but reports a refusal to the source of the drag. GTK would report every text as
+// taken. When a text is moved, the source would then delete the text even after a refusal.
 void NumberEntry::OnDropped(GtkWidget* entry, GdkDragContext* drag, int x, int, GtkSelectionData* data, unsigned,
                             unsigned time, NumberEntry* self)
 {
@@ -148,8 +148,8 @@ bool NumberEntry::Dropped(const char* text, int x)
     return isOnSelection ? Take(dropped) : Inserting(dropped, position);
 }
 
-/// Keeps a copy of the deleted text until the next input. If the insertion that replaces this text is refused, the text
-/// is restored.
+// Keeps a copy of the deleted text until the next input. If the insertion that replaces this text is refused, the text
+// is restored.
 void NumberEntry::Deleting(int begin, int end)
 {
     const std::wstring text = Text();
@@ -159,8 +159,8 @@ void NumberEntry::Deleting(int begin, int end)
     Wake();
 }
 
-/// Asks m_judge about a text. If m_judge accepts the text, makes the postponed deletion, and then the insertion that
-/// m_judge has returned. Returns whether the text was accepted.
+// Asks m_judge about a text. If m_judge accepts the text, makes the postponed deletion, and then the insertion that
+// m_judge has returned. Returns whether the text was accepted.
 bool NumberEntry::Inserting(const std::wstring& text, int& position)
 {
     const std::wstring all = Text();
@@ -197,7 +197,7 @@ bool NumberEntry::Inserting(const std::wstring& text, int& position)
     return true;
 }
 
-/// Restores the deleted text after the insertion that replaces it was refused.
+// Restores the deleted text after the insertion that replaces it was refused.
 void NumberEntry::PutBack()
 {
     if (m_filtering || !m_deleted)
@@ -213,8 +213,8 @@ void NumberEntry::PutBack()
     Wake();
 }
 
-/// Deletes the text that the next call of Insert() replaces. The toolkit does not receive the "changed" signal of this
-/// deletion, so the program gets a single wxEVT_TEXT for the deletion and the insertion.
+// Deletes the text that the next call of Insert() replaces. The toolkit does not receive the "changed" signal of this
+// deletion, so the program gets a single wxEVT_TEXT for the deletion and the insertion.
 void NumberEntry::Replace(int begin, int end)
 {
     if (begin == end)

@@ -23,7 +23,7 @@ struct Deletion
     EntrySelection selection;
 };
 
-/// What is needed to undo the current key in a control. The control's GtkEntry owns the object.
+// What is needed to undo the current key in a control. The control's GtkEntry owns the object.
 struct Key
 {
     wxTextCtrl& control;

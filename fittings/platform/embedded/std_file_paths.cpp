@@ -26,7 +26,7 @@ struct DataDir
 {
     std::mutex mutex;
     std::wstring chosen;
-    std::optional<wxString> applicationName;  ///< The name for which the path was computed.
+    std::optional<wxString> applicationName;  // The name for which the path was computed.
     std::wstring path;
 };
 

@@ -32,7 +32,7 @@ protected:
 
     ~ColourComboInADialog() override { DestroyNow(dialog); }
 
-    /// Opens the popup and presses a key that closes it. Expects that the key presses none of the dialog's buttons.
+    // Opens the popup and presses a key that closes it. Expects that the key presses none of the dialog's buttons.
     void UsePopup(int key)
     {
         user.Char(WXK_F4);

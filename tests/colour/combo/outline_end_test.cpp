@@ -18,8 +18,8 @@ constexpr int kLong = 2000000;
 
 const wxWindow* g_outline = nullptr;
 
-/// One element for each cairo_paint() that drew directly on the screen, not in a window: whether the outline window was
-/// shown at that moment.
+// One element for each cairo_paint() that drew directly on the screen, not in a window: whether the outline window was
+// shown at that moment.
 std::vector<bool> g_wasShown;
 
 bool DrawsOnTheScreen(cairo_t* context)

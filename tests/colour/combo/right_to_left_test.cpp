@@ -12,8 +12,8 @@
 
 namespace {
 
-/// Waits until the screen shows an area of @a colour. Returns a point in this area; wxDefaultPosition if it does not
-/// appear.
+// Waits until the screen shows an area of @a colour. Returns a point in this area; wxDefaultPosition if it does not
+// appear.
 wxPoint PlaceOf(const wxColour& colour)
 {
     const wxRect where(wxGetDisplaySize());

@@ -44,7 +44,7 @@ public:
     wxColour proposed;
     bool full = false;
     wxWindow* parent = nullptr;
-    std::vector<int> centred;  ///< The arguments of the DoCentre() calls before the dialog opens.
+    std::vector<int> centred;  // The arguments of the DoCentre() calls before the dialog opens.
 
 protected:
     int Enter(wxDialog* shown) override

@@ -23,7 +23,7 @@ bool IsLogAtTheTop(wxAuiManager& manager)
     return manager.GetPane("log").dock_direction == wxAUI_DOCK_TOP;
 }
 
-/// Restores the layout in a new frame, and expects the log at the top.
+// Restores the layout in a new frame, and expects the log at the top.
 void ExpectLogAtTheTop()
 {
     AuiFrame frame;

@@ -19,7 +19,7 @@ wxArrayInt Order(const std::vector<int>& columns)
     return wxArrayInt(columns.begin(), columns.end());
 }
 
-/// A list whose columns can be reordered, as in other ports of the toolkit.
+// A list whose columns can be reordered, as in other ports of the toolkit.
 class OrderedList : public wxListView
 {
 public:

@@ -30,8 +30,8 @@ bool SettlesMaximized(const wxTopLevelWindow& window)
     return PumpUntil([&] { return window.IsMaximized() && window.GetSize() == wxSize(1264, 960); });
 }
 
-/// Registers, shows, changes and destroys a frame, as one run of a program does. Expects the registration to return @a
-/// isRestored.
+// Registers, shows, changes and destroys a frame, as one run of a program does. Expects the registration to return @a
+// isRestored.
 template <typename Change>
 void InOneRun(bool isRestored, Change change)
 {
@@ -171,8 +171,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Restored{"HugeSize", {L"100", L"100", L"2147483647", L"2147483647"}, wxRect(100, 100, 1180, 884)}),
     [](const auto& info) { return info.param.name; });
 
-/// A stored geometry in which one field is no integer, or is too large for a long. The parameter is the key of this
-/// field.
+// A stored geometry in which one field is no integer, or is too large for a long. The parameter is the key of this
+// field.
 using DamagedPlace = PersistenceTestWithParam<const wchar_t*>;
 
 TEST_P(DamagedPlace, CountsAsNone)

@@ -13,7 +13,7 @@ namespace {
 
 constexpr wchar_t kKind[] = L"Tree";
 
-/// A frame that contains only a tree.
+// A frame that contains only a tree.
 class TreeFrame
 {
 public:
@@ -29,7 +29,7 @@ public:
     wxTreeCtrl* tree;
 };
 
-/// Returns the child of @a parent at the index @a number, or an invalid item if there is no such child.
+// Returns the child of @a parent at the index @a number, or an invalid item if there is no such child.
 wxTreeItemId Child(const wxTreeCtrl& tree, const wxTreeItemId& parent, int number)
 {
     wxTreeItemIdValue cookie = nullptr;
@@ -39,8 +39,8 @@ wxTreeItemId Child(const wxTreeCtrl& tree, const wxTreeItemId& parent, int numbe
     return child;
 }
 
-/// Adds a root with three children. Each of the three has two children with the same label, and each of those has one
-/// child.
+// Adds a root with three children. Each of the three has two children with the same label, and each of those has one
+// child.
 void Fill(wxTreeCtrl& tree)
 {
     const wxTreeItemId root = tree.AddRoot("root");
@@ -152,8 +152,8 @@ TEST_F(PersistentTree, ScrollsToTheItemThatWasFirstInView)
     }
 }
 
-/// A tree that fills an item when the item is expanded. It replaces the item's children with three new children, which
-/// have the same label. Each new child has one child of its own, as a placeholder until the new child is expanded.
+// A tree that fills an item when the item is expanded. It replaces the item's children with three new children, which
+// have the same label. Each new child has one child of its own, as a placeholder until the new child is expanded.
 class LazyTree : public wxHandyTreeCtrl
 {
 public:
@@ -221,7 +221,7 @@ TEST_F(PersistentTree, LeavesOutWhatIsGoneAndDoesNotCollapse)
     EXPECT_EQ(frame.tree->GetSelection(), Child(*frame.tree, Child(*frame.tree, root, 2), 1));
 }
 
-/// Handlers may change the tree while it is being restored.
+// Handlers may change the tree while it is being restored.
 TEST_F(PersistentTree, BearsHandlersThatDeleteItems)
 {
     for (int deleted = 0; deleted < 4; ++deleted) {

@@ -55,8 +55,8 @@ std::string SizeText(const wxRect& rect)
     return wxString::Format(";%d;%d", rect.width, rect.height).utf8_string();
 }
 
-/// Asks the X server for the frame's rectangle on the screen, with the decorations. Returns an empty rectangle until
-/// the frame is mapped and the window manager has announced the decorations.
+// Asks the X server for the frame's rectangle on the screen, with the decorations. Returns an empty rectangle until
+// the frame is mapped and the window manager has announced the decorations.
 wxRect OnScreen(const wxFrame& frame)
 {
     GdkWindow* const window = gtk_widget_get_window(frame.GetHandle());
@@ -88,8 +88,8 @@ wxRect OnScreen(const wxFrame& frame)
     return rect;
 }
 
-/// Announces decorations of a wrong size for the frame, as some window managers do. Waits until the toolkit knows this
-/// size.
+// Announces decorations of a wrong size for the frame, as some window managers do. Waits until the toolkit knows this
+// size.
 void TellOtherDecorations(wxFrame& frame)
 {
     GdkWindow* const window = gtk_widget_get_window(frame.GetHandle());

@@ -79,7 +79,7 @@ TEST_F(WindowCalls, OfLoadStateOfAFrameWithoutAGeometry)
     }
 }
 
-/// A frame that is off every display and ignores every change of its position and size.
+// A frame that is off every display and ignores every change of its position and size.
 class FrameOutOfSight : public wxFrame
 {
 public:

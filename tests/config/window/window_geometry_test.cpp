@@ -84,7 +84,7 @@ TEST_F(SaveState, TakesANullNameForTheEmptyOne)
     EXPECT_EQ(other.GetRect(), wxRect(100, 50, 800, 600));
 }
 
-/// A frame that records in which order its state is read.
+// A frame that records in which order its state is read.
 class AskedFrame : public wxFrame
 {
 public:
@@ -173,7 +173,7 @@ TEST_F(LoadState, BringsAChildBackInsideItsParent)
     EXPECT_EQ(panel.GetRect(), wxRect(30, 40, 200, 100));
 }
 
-/// Counts the messages that are logged while this object exists.
+// Counts the messages that are logged while this object exists.
 class CountingLog : public wxLog
 {
 public:

@@ -31,7 +31,7 @@ extern "C" void DestroyHandler(wxEvtHandler* handler)
 
 namespace {
 
-/// A frame that counts the calls of Maximize(true) and of Maximize(false).
+// A frame that counts the calls of Maximize(true) and of Maximize(false).
 class CountingFrame : public wxFrame
 {
 public:
@@ -64,7 +64,7 @@ bool MaximizeAndSettle(wxFrame* frame)
     return PumpUntil([&] { return frame->IsMaximized() && frame->GetSize() == wxSize(1264, 960); });
 }
 
-/// Posts an event like the one that the toolkit sends when a frame is maximised. @a object becomes the event's object.
+// Posts an event like the one that the toolkit sends when a frame is maximised. @a object becomes the event's object.
 void PostMaximizeEvent(wxFrame* frame, wxObject* object)
 {
     wxMaximizeEvent event(frame->GetId());

@@ -21,8 +21,8 @@ TEST(Display, HasTheWorkAreaThatTheseTestsExpect)
     EXPECT_EQ(wxDisplay(0u).GetClientArea(), wxRect(16, 24, 1264, 960));
 }
 
-/// A stored geometry, the calls by which LoadState() corrects it, and the resulting geometry of the window.
-/// LoadState() first applies the stored geometry with two calls, which are left out here.
+// A stored geometry, the calls by which LoadState() corrects it, and the resulting geometry of the window.
+// LoadState() first applies the stored geometry with two calls, which are left out here.
 struct Restored
 {
     const char* name;
@@ -85,7 +85,7 @@ INSTANTIATE_TEST_SUITE_P(
         Restored{"HalfAPosition", L"-1;100;300;200", {"16;100;283;200 3"}, wxRect(16, 100, 283, 200)}),
     [](const auto& info) { return info.param.name; });
 
-/// LoadState() applies the position -1;-1 like any other position, with two calls. The tests above ignore these calls.
+// LoadState() applies the position -1;-1 like any other position, with two calls. The tests above ignore these calls.
 TEST(StoredPositionMinusOne, IsApplied)
 {
     const TempUserData data;
@@ -114,7 +114,7 @@ INSTANTIATE_TEST_SUITE_P(, StoredSizeTooSmall,
                                          L"100;100;10;10", L"100;100;0;0", L"100;100;-300;200", L"100;100;300;-200",
                                          L"5000;5000;10;10", L"100;100;-2147483648;2147483647"));
 
-/// A stored geometry with numbers far beyond the size of a display.
+// A stored geometry with numbers far beyond the size of a display.
 using HugeGeometry = UserDataTestWithParam<const wchar_t*>;
 
 TEST_P(HugeGeometry, EndsInsideTheWorkArea)

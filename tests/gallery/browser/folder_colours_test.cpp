@@ -16,8 +16,8 @@ namespace fs = std::filesystem;
 const wxColour darkRed(139, 0, 0);
 const wxColour kIndigo(75, 0, 130);
 
-/// How a colour of the palette looks in the tree and in the label next to the combo. In the dark theme, the tree and
-/// the label make the colour light enough to be read.
+// How a colour of the palette looks in the tree and in the label next to the combo. In the dark theme, the tree and
+// the label make the colour light enough to be read.
 struct Look
 {
     wxColour inTree;
@@ -50,7 +50,7 @@ protected:
         ASSERT_TRUE(PumpUntil([this] { return Combo().IsPopupShown() && Combo().GetPopup()->IsShownOnScreen(); }));
     }
 
-    /// Clicks a cell of the open popup, and waits until the popup is closed.
+    // Clicks a cell of the open popup, and waits until the popup is closed.
     void ClickCell(int cell)
     {
         PointAtCell(cell);

@@ -14,7 +14,7 @@ using namespace gallery;
 using namespace gallery::simulated_user;
 namespace fs = std::filesystem;
 
-/// Counts the critical messages of GLib and GTK while the object exists.
+// Counts the critical messages of GLib and GTK while the object exists.
 class CriticalMessages
 {
 public:
@@ -52,7 +52,7 @@ protected:
         Open(root);
     }
 
-    /// Makes a sparse file, which takes no space on the disk.
+    // Makes a sparse file, which takes no space on the disk.
     void MakeFile(const std::string& name, std::uintmax_t size)
     {
         fs::create_directories(fs::path(temp / name).parent_path());

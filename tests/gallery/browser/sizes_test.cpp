@@ -43,7 +43,7 @@ protected:
     }
     const Entry& EntryNamed(const std::string& name) { return List().GetEntry(RowOf(name)); }
 
-    /// Makes a folder whose size takes a while to add up, and returns the path of the folder.
+    // Makes a folder whose size takes a while to add up, and returns the path of the folder.
     std::string MakeLargeFolder()
     {
         for (int i = 0; i < 40; ++i) {
@@ -191,7 +191,7 @@ TEST_F(Sizes, AFolderThatIsGoneHasOneUnreadableItem)
     EXPECT_TRUE(Row().GetText().Contains(", 1 unreadable")) << Row().GetText();
 }
 
-/// Counts the events of a SizeWorker. Expects each event to contain 7, the number that the tests give to the worker.
+// Counts the events of a SizeWorker. Expects each event to contain 7, the number that the tests give to the worker.
 class Counter : public wxEvtHandler
 {
 public:

@@ -18,7 +18,7 @@ namespace {
 using namespace gallery;
 namespace fs = std::filesystem;
 
-/// Returns the entry with this name; fails the test if there is no such entry.
+// Returns the entry with this name; fails the test if there is no such entry.
 Entry Find(const Listing& listing, const std::string& name)
 {
     for (const Entry& entry : listing.entries) {

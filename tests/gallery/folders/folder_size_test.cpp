@@ -18,7 +18,7 @@ namespace {
 using namespace gallery;
 namespace fs = std::filesystem;
 
-/// Records the reports of a walk, and ends the walk after a number of items.
+// Records the reports of a walk, and ends the walk after a number of items.
 class Notes : public SizeObserver
 {
 public:
@@ -36,7 +36,7 @@ public:
     std::map<std::string, FolderSum> subfolders;
     double last = 0;
     int calls = 0;
-    std::uint64_t most = UINT64_MAX;  ///< The number of items after which the walk ends.
+    std::uint64_t most = UINT64_MAX;  // The number of items after which the walk ends.
 };
 
 FolderSum Sum(const std::string& path)
@@ -52,8 +52,8 @@ std::uint64_t OwnSize(const std::string& path)
     return static_cast<std::uint64_t>(status.st_size);
 }
 
-/// Makes @a levels folders named "d" below @a path, each inside the previous one. Each folder contains a file of one
-/// byte. The path of the last folder may be too long for the system.
+// Makes @a levels folders named "d" below @a path, each inside the previous one. Each folder contains a file of one
+// byte. The path of the last folder may be too long for the system.
 void MakeChain(const std::string& path, int levels)
 {
     int folder = open(path.c_str(), O_RDONLY | O_DIRECTORY);
@@ -224,8 +224,8 @@ TEST(SumFolder, ComesBackToEveryFolderOnTheWayUp)
     EXPECT_EQ(sum.bytes, ListedSize(folder.Path()));
 }
 
-/// Moves a part of each of two chains after 200 items. The walk is then about 100 levels deep in one of the chains, and
-/// has not entered the other one.
+// Moves a part of each of two chains after 200 items. The walk is then about 100 levels deep in one of the chains, and
+// has not entered the other one.
 class Mover : public Notes
 {
 public:

@@ -80,7 +80,7 @@ TEST(AValidatorOnANumberCtrl, RefusesWhatTheControlRefuses)
     EXPECT_EQ(screen.Text(), L"5");
 }
 
-/// Expects that the validator refuses each text, and that the host's variable keeps its value.
+// Expects that the validator refuses each text, and that the host's variable keeps its value.
 template <typename Integer>
 void ExpectRefused(NumberCtrlDialog& screen, const Integer& variable, std::initializer_list<const char*> texts)
 {

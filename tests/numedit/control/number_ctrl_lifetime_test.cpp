@@ -63,7 +63,7 @@ protected:
         wxTheClipboard->Clear();
     }
 
-    /// Sends one mouse event that turns the wheel by three steps.
+    // Sends one mouse event that turns the wheel by three steps.
     void Turn()
     {
         wxMouseEvent wheel(wxEVT_MOUSEWHEEL);

@@ -26,7 +26,7 @@ protected:
         screen.number->SetSelection(1, 4);
     }
 
-    /// Opens the menu with the mouse, and chooses the command with this mnemonic.
+    // Opens the menu with the mouse, and chooses the command with this mnemonic.
     void Choose(char mnemonic)
     {
         menu = nullptr;
@@ -103,12 +103,12 @@ TEST_F(NumberContextMenu, RefusesToPasteAnotherText)
     EXPECT_EQ(screen.textEvents, 0);
 }
 
-/// Tests that drag a selected text with the mouse.
+// Tests that drag a selected text with the mouse.
 class NumberDrop : public testing::Test
 {
 protected:
-    /// Drags the selected text of a field from @a grip to @a to, in screen coordinates. If @a moves is true, holds
-    /// Shift: GTK then moves the text to another field instead of copying it.
+    // Drags the selected text of a field from @a grip to @a to, in screen coordinates. If @a moves is true, holds
+    // Shift: GTK then moves the text to another field instead of copying it.
     void Drag(wxTextCtrl& from, const wxPoint& grip, const wxPoint& to, bool moves)
     {
         const wxWeakRef<wxTextCtrl> alive(&from);
@@ -159,7 +159,7 @@ protected:
         PumpPending();
     }
 
-    /// Puts a text into the other field, and drags the text from there onto the number control.
+    // Puts a text into the other field, and drags the text from there onto the number control.
     void Drop(const wxString& text, bool moves = false)
     {
         ASSERT_NO_FATAL_FAILURE(screen.SelectInFirst(text));
@@ -167,7 +167,7 @@ protected:
         Drag(*screen.first, grip, screen.Middle(), moves);
     }
 
-    /// Drags the first digit of the number to the middle of the number control.
+    // Drags the first digit of the number to the middle of the number control.
     void DragFirstDigit()
     {
         screen.number->SetSelection(0, 1);
@@ -183,7 +183,7 @@ protected:
     }
 
     NumberCtrlDialog screen{FixedFormat()};
-    bool over = false;  ///< True when the mouse has dragged a text over the number.
+    bool over = false;  // True when the mouse has dragged a text over the number.
 };
 
 TEST_F(NumberDrop, TakesANumber)
@@ -243,7 +243,7 @@ TEST_F(NumberDrop, MovesDigitsWithinTheNumber)
     EXPECT_EQ(screen.BellsRung(), 0);
 }
 
-/// A program's own drop target, which records the text that is dropped.
+// A program's own drop target, which records the text that is dropped.
 class Target : public wxTextDropTarget
 {
 public:

@@ -211,7 +211,7 @@ TEST_F(NumberTyping, RefusesOtherPastedTextWhole)
     }
 }
 
-/// Text that the control receives without a key: the middle mouse button pastes the selected text of another field.
+// Text that the control receives without a key: the middle mouse button pastes the selected text of another field.
 class PasteOfASelection : public NumberTyping
 {
 protected:

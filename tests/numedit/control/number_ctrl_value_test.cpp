@@ -248,7 +248,7 @@ TEST_F(NumberValue, KeepsTheSelectionWhileAnotherWindowIsActive)
     EXPECT_EQ(screen.Selection(), "234");
 }
 
-/// While the object exists, LC_ALL names the user's locale, but the process itself uses the C locale.
+// While the object exists, LC_ALL names the user's locale, but the process itself uses the C locale.
 class UsersLocale
 {
 public:

@@ -14,8 +14,8 @@
 
 namespace {
 
-/// What a field accepts: at most `integers` digits before the point and `decimals` digits after it, and an exponent if
-/// `exponent` is true. The bounds are in hundredths.
+// What a field accepts: at most `integers` digits before the point and `decimals` digits after it, and an exponent if
+// `exponent` is true. The bounds are in hundredths.
 struct Field
 {
     int integers;
@@ -29,7 +29,7 @@ struct Field
 
 constexpr std::int64_t kPowers[] = {1, 10, 100, 1000, 10000};
 
-/// Returns every text of at most @a digits digits, including the empty text.
+// Returns every text of at most @a digits digits, including the empty text.
 std::vector<std::string> DigitTexts(int digits)
 {
     std::vector<std::string> texts = {""};
@@ -45,8 +45,8 @@ std::vector<std::string> DigitTexts(int digits)
     return texts;
 }
 
-/// The beginnings of all texts that are numbers within the bounds of a field. A text with a minus counts only if its
-/// number is below 0.
+// The beginnings of all texts that are numbers within the bounds of a field. A text with a minus counts only if its
+// number is below 0.
 class Beginnings
 {
 public:
@@ -107,9 +107,9 @@ private:
         }
     }
 
-    /// Returns whether @a value times 10 to the power @a power is less than @a bound. If @a power is below 0,
-    /// multiplies @a bound instead. Stops multiplying when the absolute value of the product is larger than all values
-    /// and bounds of these tests: the result is then certain.
+    // Returns whether @a value times 10 to the power @a power is less than @a bound. If @a power is below 0,
+    // multiplies @a bound instead. Stops multiplying when the absolute value of the product is larger than all values
+    // and bounds of these tests: the result is then certain.
     static bool IsLess(std::int64_t value, int power, std::int64_t bound)
     {
         for (; power > 0 && std::abs(value) < 1'000'000'000; --power)
@@ -167,7 +167,7 @@ private:
     std::mt19937 m_random{17};
 };
 
-/// Returns the number of digits in the exponent of a text.
+// Returns the number of digits in the exponent of a text.
 std::size_t ExponentDigits(const std::string& text)
 {
     const std::size_t letter = text.find('e');
@@ -180,8 +180,8 @@ std::size_t ExponentDigits(const std::string& text)
 int g_accepted = 0;
 int g_refused = 0;
 
-/// Types ten random keys, most of them at the end of the text. About one key in five goes to a random place and
-/// replaces up to two characters there. Expects a text to be accepted if and only if it is one of @a beginnings.
+// Types ten random keys, most of them at the end of the text. About one key in five goes to a random place and
+// replaces up to two characters there. Expects a text to be accepted if and only if it is one of @a beginnings.
 void TypeAndCompare(Keys& keys, const Field& field, const Beginnings& beginnings, const fittings::NumberRules& rules)
 {
     std::string text;

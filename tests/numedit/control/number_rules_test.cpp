@@ -131,7 +131,7 @@ TEST(ATextThatIsNoNumber, SaysWhy)
 struct Pasted
 {
     const wchar_t* text;
-    const wchar_t* plain;  ///< The expected plain text; null if the pasted text is refused.
+    const wchar_t* plain;  // The expected plain text; null if the pasted text is refused.
 };
 
 class PastedText : public testing::TestWithParam<Pasted>

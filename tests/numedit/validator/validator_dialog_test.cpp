@@ -259,8 +259,8 @@ TEST_F(Validation, OfATransferAloneLeavesTheFocus)
 class ModalDialog : public testing::Test
 {
 protected:
-    /// Shows the dialog, calls @a act, and returns the dialog's result. If @a act leaves the dialog open, the result is
-    /// wxID_ABORT.
+    // Shows the dialog, calls @a act, and returns the dialog's result. If @a act leaves the dialog open, the result is
+    // wxID_ABORT.
     int ShowModal(const std::function<void()>& act)
     {
         screen.dialog->CallAfter([this, act] {
@@ -274,7 +274,7 @@ protected:
 
     bool Closed() const { return !screen.dialog->IsShown(); }
 
-    /// Presses Enter without waiting for its release, because Enter may close the dialog first.
+    // Presses Enter without waiting for its release, because Enter may close the dialog first.
     void PressEnter()
     {
         wxUIActionSimulator keyboard;

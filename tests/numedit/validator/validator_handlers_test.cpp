@@ -58,7 +58,7 @@ protected:
         textEvents = 0;
     }
 
-    /// Returns whether the handler passes the character to the control.
+    // Returns whether the handler passes the character to the control.
     bool CharPasses(long code, wchar_t unicode = 0)
     {
         wxKeyEvent event = Key(wxEVT_CHAR, code, unicode);

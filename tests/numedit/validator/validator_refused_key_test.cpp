@@ -22,7 +22,7 @@ protected:
         screen.number->DiscardEdits();
     }
 
-    /// Selects part of "12345", with the caret at the beginning or the end of the selection.
+    // Selects part of "12345", with the caret at the beginning or the end of the selection.
     void Select(long from, long to, bool caretAtEnd = false)
     {
         if (caretAtEnd) {

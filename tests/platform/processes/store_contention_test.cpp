@@ -284,7 +284,7 @@ TEST(AStoppedWaiter, DelaysNobodyForLong)
         EXPECT_EQ(Stored(L"s", Name(L"key", update).c_str()), L"1");
 }
 
-/// Removes the lock file again and again.
+// Removes the lock file again and again.
 class LockRemover
 {
 public:

@@ -26,7 +26,7 @@
 
 namespace {
 
-/// Acts as other processes: runs the given actions in order, one before each exchange.
+// Acts as other processes: runs the given actions in order, one before each exchange.
 class Others
 {
 public:

@@ -20,9 +20,9 @@ namespace {
 
 constexpr int kErrors[] = {ENOSPC, EIO, EACCES, EROFS, ENOMEM, EMFILE, EINTR};
 
-/// For each error, runs @a attempt again and again. In the first run, the first call on a file fails. In the second
-/// run, the second call fails, and so on, until no call fails in a run. Records the number of faults and the names of
-/// the failed calls.
+// For each error, runs @a attempt again and again. In the first run, the first call on a file fails. In the second
+// run, the second call fails, and so on, until no call fails in a run. Records the number of faults and the names of
+// the failed calls.
 void ForEveryFault(const std::function<void(const Fault&)>& attempt)
 {
     const InMemory fast;

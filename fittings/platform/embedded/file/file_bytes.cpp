@@ -160,7 +160,7 @@ std::optional<std::string> ReadDisplaced(const StagedFile& staged, int before,
 struct Target
 {
     std::string path;
-    std::optional<struct stat> old;  ///< None when there is no file.
+    std::optional<struct stat> old;  // None when there is no file.
 };
 
 // Follows links, and creates the folder if there is no file. Returns nothing when the file cannot be replaced.
@@ -192,8 +192,8 @@ UpdateResult ResultOf(PlaceResult placed)
 struct Exchanged
 {
     StagedFile& staged;
-    int before;                 ///< The open file that was the target before the exchange.
-    std::string_view expected;  ///< The content that the target should have had before the exchange.
+    int before;                 // The open file that was the target before the exchange.
+    std::string_view expected;  // The content that the target should have had before the exchange.
     std::string_view put;
 };
 
@@ -201,7 +201,7 @@ struct Exchanged
 struct Outcome
 {
     UpdateResult result;
-    bool isUndone = false;  ///< True if the exchange was undone, and no other process had changed the new file.
+    bool isUndone = false;  // True if the exchange was undone, and no other process had changed the new file.
 };
 
 Outcome Undo(StagedFile& staged)

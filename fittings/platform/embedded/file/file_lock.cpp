@@ -64,7 +64,7 @@ std::optional<FileIdentity> StateOf(int fd)
     return fstat(fd, &info) == 0 ? std::optional(FileIdentity(info)) : std::nullopt;
 }
 
-/// One wait for the lock. Decides when the wait is over, and remembers in LockWait whether the holder is stuck.
+// One wait for the lock. Decides when the wait is over, and remembers in LockWait whether the holder is stuck.
 class Waiting
 {
 public:
